@@ -1,0 +1,52 @@
+# A room is one folder of the house, built as one static library. A room can include only the
+# headers of the rooms that it links to, so the link lists below src/ say who may know whom.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+option(VETROLAN_WERROR "Treat warnings as errors" OFF)
+option(VETROLAN_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(VETROLAN_BENCH "Build the benchmarks" OFF)
+
+# Every target of the project takes its warnings and checks from here, and from nowhere else.
+add_library(vetrolan_options INTERFACE)
+target_compile_options(vetrolan_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+    -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Wimplicit-fallthrough)
+target_compile_definitions(vetrolan_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER)
+if(VETROLAN_WERROR)
+    target_compile_options(vetrolan_options INTERFACE -Werror)
+endif()
+if(VETROLAN_SANITIZE)
+    target_compile_options(vetrolan_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(vetrolan_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# vetrolan_room(NAME SOURCES file... LINK target...)
+function(vetrolan_room name)
+    cmake_parse_arguments(ROOM "" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} STATIC ${ROOM_SOURCES})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${ROOM_LINK} PRIVATE vetrolan_options)
+endfunction()
+
+# vetrolan_program(NAME SOURCES file... LINK target...)
+function(vetrolan_program name)
+    cmake_parse_arguments(PROGRAM "" "" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${PROGRAM_SOURCES})
+    target_link_libraries(${name} PRIVATE ${PROGRAM_LINK} vetrolan_options)
+endfunction()
+
+# vetrolan_tests(NAME SOURCES file... LINK target...): one test program, each of its cases known to CTest.
+function(vetrolan_tests name)
+    cmake_parse_arguments(TESTS "" "" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${TESTS_SOURCES})
+    target_link_libraries(${name} PRIVATE ${TESTS_LINK} vetrolan_test_main vetrolan_options)
+    gtest_discover_tests(${name}
+        DISCOVERY_TIMEOUT 60
+        PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+endfunction()

@@ -1,0 +1,45 @@
+-- The indexes of every society's books. Each one costs a page on every save of a row of its table, so each
+-- says what it is for. They are made after the rows, which is quicker.
+
+-- Number series, opening, change and deletion of a shift; every report over a span of days.
+create index MilkCollectionsByShift on MilkCollections (CollectionDate, CollectionTime, CollectionNo);
+
+-- A member's last fat is its last entry; the closing litres and a period's litres are summed from it alone.
+create index MilkCollectionsByMember
+    on MilkCollections (MemberNo, Animal, CollectionTime, CollectionDate, CollectionNo, CompanyId, Liters);
+
+-- The payment report asks for every member, day and shift of the copy, the counter for a member's second can.
+create index MilkCollectionsTempByMember on MilkCollectionsTemp (MemberNo, CollectionDate);
+
+-- The payment report and the registers take a span of days of the past year; nothing is ever saved there.
+create index MilkCollectionsOldByDate on MilkCollectionsOld (CollectionDate);
+
+-- The day lines of a pay slip are looked up and filled by member and day.
+create index MilkCollectionsMEByMember on MilkCollectionsME (MemberNo, CollectionDate);
+
+-- Number series, opening, change and deletion of a shift of sales; the gain and loss statement by day.
+create index MilkSalesByShift on MilkSales (SalesDate, SalesTime, SalesNo);
+
+-- The counter and the payment find a member by number, and write the closing columns by it.
+create index MembersMasterByNumber on MembersMaster (MemberNo);
+
+-- Whether a member's period is paid, which payment is the latest, what has been paid to a member.
+create index MilkPaymentsByMember on MilkPayments (MemberNo, CompanyId, FromDate);
+
+-- The bill number of a day and the day's list; the run over many members empties company 0 after each one.
+create index MilkPaymentsByDay on MilkPayments (CompanyId, PaymentDate, MemberNo);
+
+-- The deductions of a member's payment, and the deposits up to a day.
+create index MilkPaymentsDetailsByMember on MilkPaymentsDetails (MemberNo, TranDate);
+
+-- Voucher numbers of a day, a voucher by its number, the newest date, the cash book in its order.
+create index TransactionsMasterByDay on TransactionsMaster (TranDate, TranId);
+
+-- The advances given to a member are found by name, once for every member of a bonus run.
+create index TransactionsMasterByDebit on TransactionsMaster (DAccountName, TranDate);
+
+-- The advances of a member before and within a period, once for every member of a payment run.
+create index TransactionsDetailsByMember on TransactionsDetails (MemberNo, TranDate);
+
+-- The repayments of a member before and within a period, likewise.
+create index AdvanceReceiptByMember on AdvanceReceipt (MemberNo, TranDate);

@@ -1,0 +1,15 @@
+#include "Counter.h"
+
+#include "MdlAccounts.h"
+#include "Recordset.h"
+
+QString Counter::Setting(QStringView column)
+{
+    const Recordset settings(gCn, QStringLiteral("select * from AutoSettings"));
+    return settings.Eof() ? QString() : settings[column].Text().trimmed();
+}
+
+bool Counter::Finds(const QString& query)
+{
+    return !Recordset(gCn, query).Eof();
+}

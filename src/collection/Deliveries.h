@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+#include <cstdint>
+
+// Half a day at the counter. Its rows are in MilkCollections; MilkCollectionsTemp holds a copy of them while
+// the shift is open, and every write goes to the books first and to the copy after them.
+struct Shift {
+    QDate date;
+    QString time; // "sakaL" or "saMQyaakaL"
+
+    // The date as a statement compares with it.
+    QString Day() const;
+};
+
+// One can of milk, told by its shift and its number in it.
+struct Delivery {
+    Shift shift;
+    double number = 0;
+    double memberNo = 0;
+    QString memberName;
+    QString animal;
+    double liters = 0;
+    double fat = 0;
+    double rate = 0; // rupees a litre
+    double amount = 0; // rupees
+    QString actualTime; // the clock of the counter, "9.05"
+};
+
+// Fills the copy with the rows of a shift, in a transaction of its own.
+void OpenShift(const Shift& shift);
+
+// Empties the copy, in a transaction of its own.
+void EmptyShiftCopy();
+
+// Takes what is no delivery out of the copy: rows numbered 0.
+void TidyShiftCopy();
+
+// The number after the highest one of the shift, 1 in an empty shift; by the books, or by the copy.
+std::int16_t NextNumberInBooks(const Shift& shift);
+std::int16_t NextNumberInCopy(const Shift& shift);
+
+void InsertDelivery(const Delivery& delivery);
+void UpdateDelivery(const Delivery& delivery);
+void DeleteDelivery(const Shift& shift, double number);

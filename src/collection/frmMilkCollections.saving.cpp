@@ -1,0 +1,115 @@
+// What becomes of the line of fields: saved as a delivery, deleted, or looked up.
+
+#include "frmMilkCollections.h"
+
+#include "ClosingFigures.h"
+#include "Counter.h"
+#include "MdlAccounts.h"
+#include "Messages.h"
+#include "ModalStack.h"
+#include "Recordset.h"
+#include "ScreenDirectory.h"
+#include "Sql.h"
+#include "Transaction.h"
+
+using namespace Counter;
+
+void frmMilkCollections::cmdGo_Click()
+{
+    if (Value(txtMemberNo) == 0 || Value(txtAmount) == 0) {
+        txtCollectionNo.SetFocus();
+        return;
+    }
+    if (Setting(u"RepeatCollection") == u"naahI" && IsSecondDelivery()) {
+        txtAnimal.SetEnabled(true);
+        ShowPlain(QStringLiteral("Duplicate Record"));
+        txtCollectionNo.SetFocus();
+        ClearEntryFields();
+        return;
+    }
+    const Shift shift = TheShift();
+    const bool isThere = Finds(Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
+        u" and CollectionTime='", shift.time, u"' and CollectionNo=", Value(txtCollectionNo)));
+    RefreshActualTime();
+    const Delivery delivery = TheDelivery();
+
+    Transaction save(gCn);
+    if (isThere)
+        UpdateDelivery(delivery); // a change leaves the money balance alone: only a new row raises it
+    else
+        StoreNew(delivery);
+    RefreshClosingLitres(delivery.memberNo);
+    TidyShiftCopy();
+    save.Commit();
+
+    // The list of the shift is shown anew here. The receipt's row is taken from the fields next, and the
+    // scale gets its tare, while the fields still hold the delivery.
+    ClearEntryFields();
+    // Litres and average fat of the shift are summed from the copy here.
+    ShowNumber(NextNumberInCopy(shift));
+    txtAnimal.SetEnabled(true);
+    // The receipt is printed here: the delivery is safe, and the number has stepped on.
+    SendKeys(QStringLiteral("{Tab}"));
+}
+
+// Whether the member has already brought milk of this animal to this shift.
+bool frmMilkCollections::IsSecondDelivery() const
+{
+    const Shift shift = TheShift();
+    return Finds(Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
+        u" and CollectionTime='", shift.time, u"' and CollectionNo<>", Value(txtCollectionNo),
+        u" and MemberNo=", Value(txtMemberNo), u" and trim(Animal)='", txtAnimal.Text(), u"'"));
+}
+
+void frmMilkCollections::StoreNew(const Delivery& delivery)
+{
+    InsertDelivery(delivery);
+    if (delivery.animal == u"gaaya")
+        CowLitersTaken += delivery.liters;
+    else if (delivery.animal == u"mhOsa")
+        BuffLitersTaken += delivery.liters;
+    if (Setting(u"PurchaseEntry") == u"Collection")
+        PostClosingBalance(delivery.memberName.trimmed(), delivery.amount, PostAction::Add);
+}
+
+// No question is asked. A payment stops it only if its whole period is this one day.
+void frmMilkCollections::DeleteRow()
+{
+    const Shift shift = TheShift();
+    const double number = Value(txtCollectionNo);
+    const double memberNo = Value(txtMemberNo);
+    if (Finds(Sql(u"select * from MilkPayments where CompanyId=", gAppState.gCompanyId, u" and FromDate>=",
+            shift.Day(), u" and ToDate<=", shift.Day(), u" and MemberNo=", memberNo))) {
+        ShowPlain(QStringLiteral("Milk Payment Already Done, You Cannot Delete this Collection"));
+        return;
+    }
+    if (Finds(Sql(u"select * from MilkCollections where CollectionDate=", shift.Day(),
+            u" and CollectionTime='", shift.time, u"' and CollectionNo=", number))) {
+        Transaction deleting(gCn);
+        DeleteDelivery(shift, number);
+        TidyShiftCopy();
+        RefreshClosingLitres(memberNo);
+        deleting.Commit();
+    }
+    // The list of the shift is shown anew here.
+    ClearEntryFields();
+    // The litres of the shift are summed here; its average fat stays as it was.
+    ShowNumber(NextNumberInCopy(shift));
+    txtCollectionNo.SetFocus();
+}
+
+void frmMilkCollections::SearchMember()
+{
+    const Shift shift = TheShift();
+    {
+        const Recordset row(gCn,
+            Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
+                u" and CollectionTime='", shift.time, u"' AND MemberNo=", Value(txtMemberNo)));
+        if (row.Eof())
+            return;
+        txtCollectionNo.SetText(row[u"CollectionNo"].Text());
+        ShowRow(row);
+    }
+    gAppState.gCallerTag = QStringLiteral("MC");
+    ScreenDirectory::Open(QStringLiteral("frmSearchCollections"), Shivaji(u"dUQa saMklana pavatI"));
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Layout.h"
+
+// The one list of keys: the strip at the foot of a screen, the printed key sheet and the tests are made
+// from it.
+namespace Keys {
+
+// The keys of a screen, in the order that its strip shows them; empty for a screen without any.
+const std::vector<KeyHint>& Of(const QString& screen);
+
+// The screens that have keys, and the name that the clerk knows each by.
+struct Sheet {
+    QString screen;
+    Caption name;
+};
+const std::vector<Sheet>& Sheets();
+
+}

@@ -1,0 +1,140 @@
+#include "MdlAccounts.h"
+
+#include "AppFolder.h"
+#include "DateField.h"
+#include "Dates.h"
+#include "ModalStack.h"
+#include "NameCombo.h"
+#include "Numbers.h"
+#include "OpeningScreens.h"
+#include "PasswordItems.h"
+#include "Recordset.h"
+#include "RunTimeError.h"
+#include "Sql.h"
+#include "World.h"
+
+#include <QFile>
+
+Connection gCn;
+AppState gAppState;
+
+namespace {
+
+struct AccessFlag {
+    QStringView menuName;
+    std::int16_t AppState::*flag;
+};
+
+constexpr AccessFlag AccessFlags[] = {
+    {u"Master", &AppState::gAccessMaster},
+    {u"Account Voucher", &AppState::gAccessAccountVoucher},
+    {u"Stock Voucher", &AppState::gAccessStockVoucher},
+    {u"Account Report", &AppState::gAccessAccountReport},
+    {u"Stock Report", &AppState::gAccessStockReport},
+    {u"Statistical Report", &AppState::gAccessStatisticalReport},
+    {u"Utilities", &AppState::gAccessUtilities},
+};
+
+void LoadCompany()
+{
+    const Recordset company(gCn, QStringLiteral("SELECT * FROM CompanySelected"));
+    if (company.Eof()) {
+        gAppState.gCompanyId = 0;
+        return;
+    }
+    gAppState.gCompanyId = static_cast<int>(company[u"CompanyId"].Number());
+    gAppState.gCompanyName = company[u"CompanyName"].Text();
+    gAppState.gAccountingYear = company[u"AccountingYear"].Text();
+    gAppState.gFromDate = company[u"FromDate"].Date();
+    gAppState.gToDate = company[u"ToDate"].Date();
+}
+
+void LoadSettings()
+{
+    const Recordset settings(gCn, Sql(u"select * from AutoSettings where CompanyId=", gAppState.gCompanyId));
+    if (settings.Eof())
+        return;
+    gAppState.gPaymentDuration = settings[u"PaymentDuration"].Text().trimmed();
+    gAppState.gAutoFat = settings[u"AutoFat"].Text().trimmed();
+    gAppState.gAutoLiters = settings[u"AutoLiters"].Text().trimmed();
+    gAppState.gWeighScale = settings[u"WeighScale"].Text().trimmed();
+    gAppState.gExtraRsPerLtr = QStringLiteral("0");
+}
+
+// Returns false if no right is on record at all.
+bool LoadAccessFlags()
+{
+    gAppState.gAdminLoggedIn = QStringLiteral("NO");
+    Recordset rights(gCn, QStringLiteral("SELECT * FROM MenuAccessTable"));
+    if (rights.Eof()) {
+        World::Current().messageBox->Show(QStringLiteral("Contact Service provider for Technical Support"));
+        return false;
+    }
+    for (; !rights.Eof(); rights.MoveNext())
+        for (const AccessFlag& access : AccessFlags)
+            if (rights[u"MenuName"].Text() == access.menuName)
+                gAppState.*access.flag = ToInt16(rights[u"AccessYesNo"].Number());
+    return true;
+}
+
+}
+
+void AppMain()
+{
+    if (LoadAppState())
+        ShowOpeningScreens();
+}
+
+bool LoadAppState()
+{
+    gAppState = AppState();
+    ReadPassword();
+    gCn.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword);
+    LoadCompany();
+    gAppState.gCallerTag = QStringLiteral("N");
+    LoadSettings();
+    return LoadAccessFlags();
+}
+
+void ReadPassword()
+{
+    gAppState.gDbPassword.clear();
+    QFile file(LocalAppFile(u"PWD.TXT"));
+    if (!file.exists())
+        throw RunTimeError(RunTimeError::FileNotFound,
+            QStringLiteral(
+                "पासवर्डची फाईल सापडली नाही. ती परत ठेवा आणि पुन्हा सुरु करा.\nFile not found: PWD.TXT"));
+    if (!file.open(QIODevice::ReadOnly))
+        throw RunTimeError(RunTimeError::FileAccess,
+            QStringLiteral("पासवर्डची फाईल वाचता येत नाही.\nPWD.TXT: ") + file.errorString());
+    gAppState.gDbPassword = PasswordOfItems(ItemsOf(QString::fromLatin1(file.readAll())));
+}
+
+void FillCombo(NameCombo& combo, QStringView tableName, QStringView fieldName, QStringView tail)
+{
+    QStringList names;
+    for (Recordset rows(gCn, Sql(u"select * from ", tableName, u" ", tail)); !rows.Eof(); rows.MoveNext())
+        names.append(rows[fieldName].Text());
+    combo.SetItems(names);
+}
+
+void CheckDateField(DateField& field, int& flag)
+{
+    flag = field.HoldsDate() ? 0 : 1;
+    if (flag == 0)
+        return;
+    ClearDateField(field);
+    field.SetFocus();
+}
+
+void ClearDateField(DateField& field)
+{
+    field.Clear();
+}
+
+void SelectFieldText()
+{
+    SendKeys(QStringLiteral("{Home}"));
+    SendKeys(QStringLiteral("+{End}"));
+    SendKeys(QStringLiteral("+{End}"));
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Button.h"
+#include "Screen.h"
+
+// The program's own message dialog, in the system's encoding: a notice to go on from, or a question.
+class frmMessages final : public Screen {
+public:
+    enum class Mode { Notice, Question };
+
+    frmMessages(Mode mode, const Caption& message);
+
+    // The answer to the last question: 1 for yes, 0 for no. A notice, and a dialog that is closed without
+    // an answer, leave it as it was.
+    static int MessageAnswer;
+
+    // Whether one of the buttons was pressed.
+    bool Answered() const { return m_answered; }
+
+private:
+    Label lblMessages{this, "lblMessages"};
+    Label lblMessage2{this, "lblMessage2"};
+    Button cmdOkYes{this, "cmdOkYes", Shivaji(u"&haoya")};
+    Button cmdCancelNo{this, "cmdCancelNo", Shivaji(u"&naahI")};
+    Button cmdExit{this, "cmdExit", Shivaji(u"puZo")};
+
+    void cmdOkYes_Click();
+    void cmdCancelNo_Click();
+    void cmdExit_Click();
+    void Dismiss();
+
+    bool m_answered = false;
+};
+
+// Shows a notice and returns when the clerk has gone on.
+void ShowNotice(QStringView stored);
+
+// Asks a question; true only for a pressed yes. A dialog closed without an answer is a no.
+bool Ask(QStringView stored);
+
+// A message in English goes through the plain box of the platform.
+void ShowPlain(const QString& text);

@@ -1,0 +1,66 @@
+#include "PasswordItems.h"
+
+#include "Numbers.h"
+#include "RunTimeError.h"
+
+namespace {
+
+bool IsSeparator(QChar c)
+{
+    return c == u',' || c == u'\r' || c == u'\n';
+}
+
+// Reads one item from `at` on and leaves `at` behind the separator that ends it.
+QString NextItem(const QString& text, qsizetype& at)
+{
+    while (at < text.size() && text[at] == u' ')
+        ++at;
+    QString item;
+    if (at < text.size() && text[at] == u'"') {
+        const qsizetype end = text.indexOf(u'"', at + 1);
+        item = text.mid(at + 1, end < 0 ? -1 : end - at - 1);
+        at = end < 0 ? text.size() : end + 1;
+        while (at < text.size() && !IsSeparator(text[at]))
+            ++at;
+    } else {
+        while (at < text.size() && !IsSeparator(text[at]))
+            item += text[at++];
+    }
+    if (at < text.size())
+        at += text[at] == u'\r' && text.mid(at + 1, 1) == u"\n" ? 2 : 1;
+    return item;
+}
+
+[[noreturn]] void Damaged()
+{
+    throw RunTimeError(RunTimeError::TypeMismatch,
+        QStringLiteral("पासवर्डची फाईल खराब झाली आहे. मूळ फाईल परत ठेवा.\nPWD.TXT is damaged"));
+}
+
+}
+
+QStringList ItemsOf(const QString& text)
+{
+    QStringList items;
+    for (qsizetype at = 0; at < text.size();)
+        items.append(NextItem(text, at));
+    return items;
+}
+
+QString PasswordOfItems(const QStringList& items)
+{
+    if (items.isEmpty() || items.last().isEmpty())
+        Damaged();
+    const int key = items.last()[0].unicode();
+    QString password;
+    for (const QString& item : items) {
+        if (item.isEmpty())
+            Damaged();
+        const int code = ToInt16(item[0].unicode() - key);
+        if (code < 0)
+            Damaged();
+        password = password.trimmed() + QChar(code);
+    }
+    password.chop(1);
+    return password;
+}

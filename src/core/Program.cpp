@@ -1,0 +1,57 @@
+#include "Program.h"
+
+#include "AppFolder.h"
+#include "DataSource.h"
+#include "Fonts.h"
+#include "Look.h"
+#include "MdlAccounts.h"
+#include "Messages.h"
+#include "RunTimeError.h"
+#include "SingleInstance.h"
+
+#include <QApplication>
+#include <QDir>
+
+#include <optional>
+
+namespace {
+
+void ChooseFont()
+{
+    const QString family = DevanagariFontFamily();
+    Look::Apply(*static_cast<QApplication*>(QApplication::instance()), family);
+    if (family.isEmpty())
+        ShowPlain(QStringLiteral("No Devanagari font was found on this computer, so Marathi can't be read.\n"
+                                 "Install Noto Sans Devanagari or Lohit Devanagari and start again."));
+}
+
+}
+
+void RegisterDataSource()
+{
+    DataSource::Register(QStringLiteral("VetrolanDSN"), LocalAppFile(u"Morvelta.mdb"));
+}
+
+int RunProgram()
+{
+    ChooseFont();
+    const QString folder = LocalPath(AppFolder);
+    try {
+        std::optional<SingleInstance> instance;
+        if (QDir(folder).exists())
+            instance.emplace(folder);
+        if (instance && !instance->Taken()) {
+            ShowPlain(QStringLiteral("हिशेबाची वही आधीच उघडी आहे. उघडलेला कार्यक्रम वापरा.\n"
+                                     "The books are open in another window of this program."));
+            return 1;
+        }
+        RegisterDataSource();
+        AppMain();
+        gCn.Close();
+        return 0;
+    } catch (const RunTimeError& error) {
+        gCn.Close();
+        ShowPlain(error.Text());
+        return 1;
+    }
+}

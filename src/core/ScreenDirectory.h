@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Caption.h"
+
+#include <functional>
+#include <memory>
+
+class Screen;
+
+// The screens by name. Rooms open each other through it, so that none includes another.
+namespace ScreenDirectory {
+
+using Maker = std::function<std::unique_ptr<Screen>()>;
+
+void Add(const QString& name, Maker maker);
+bool Has(const QString& name);
+
+// Opens a screen modally, under a title of its own if one is given. A screen that the program doesn't
+// have yet is a plain message that names the entry.
+void Open(const QString& name, const Caption& entry, const Caption& title = {});
+
+}

@@ -1,0 +1,11 @@
+#include "ModalStack.h"
+#include "Program.h"
+#include "Screens.h"
+
+int main(int argc, char* argv[])
+{
+    Application application(argc, argv);
+    Application::setQuitOnLastWindowClosed(false);
+    RegisterScreens();
+    return RunProgram();
+}

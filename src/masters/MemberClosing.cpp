@@ -1,0 +1,81 @@
+#include "MemberClosing.h"
+
+#include "MdlAccounts.h"
+#include "Recordset.h"
+#include "Sql.h"
+
+#include <cmath>
+
+namespace {
+
+// A query of one sum; no rows are a Null, which reads as 0.
+double Sum(const QString& query)
+{
+    return Recordset(gCn, query).At(0).Number();
+}
+
+float SingleSum(const QString& query)
+{
+    return static_cast<float>(Sum(query));
+}
+
+double UchalPaid(double memberNo)
+{
+    return Sum(Sql(u"Select sum(Amount) as UchalPaid From TransactionsDetails Where CompanyId=",
+        gAppState.gCompanyId, u" And Memberno=", memberNo));
+}
+
+// By how much the balance has moved in the member's favour since the opening.
+float Movement(double memberNo)
+{
+    const int company = gAppState.gCompanyId;
+    const float trAmount =
+        SingleSum(Sql(u"Select sum(Amount) as TrAmount From Milkcollections Where CompanyId=", company,
+            u" And MemberNo=", memberNo));
+    const float payAmount =
+        SingleSum(Sql(u"Select Sum(NetAmount) as PayAmount From MilkPayments Where CompanyId=", company,
+            u" And MemberNo=", memberNo));
+    const auto uchalPaid = static_cast<float>(UchalPaid(memberNo));
+    const float uchalReceived =
+        SingleSum(Sql(u"Select sum(Amount) as UchalReceived From AdvanceReceipt Where CompanyId=", company,
+            u" And MemberNo=", memberNo, u" And AdvanceType<>'Uchal Kapat'"));
+    const float thevAmount =
+        SingleSum(Sql(u"Select sum(Amount) as ThevAmount From MilkPaymentsDetails Where CompanyId=", company,
+            u" And MemberNo=", memberNo,
+            u" And (AdvanceType='mhOsa zova' or AdvanceType='gaaya zova' or AdvanceType='zova')"));
+    return trAmount - payAmount - uchalPaid - thevAmount + uchalReceived;
+}
+
+}
+
+QStringView Direction::Letter(QStringView word)
+{
+    return word == Due ? u"D" : u"C";
+}
+
+QStringView Direction::Word(QStringView letter)
+{
+    return letter == u"C" ? Payable : letter == u"D" ? Due : QStringView();
+}
+
+MemberClosing::Balance MemberClosing::BalanceOf(double memberNo, double opening, QStringView openingWord)
+{
+    const auto amount = static_cast<float>(opening);
+    const float signedOpening = openingWord == Direction::Due ? -amount : std::abs(amount);
+    const float closing = signedOpening + Movement(memberNo);
+    return {std::abs(closing), closing >= 0 ? Direction::Payable : Direction::Due};
+}
+
+double MemberClosing::UchalOf(double memberNo, double opening)
+{
+    return opening + UchalPaid(memberNo)
+        - Sum(Sql(u"Select sum(Amount) as UchalReceived From AdvanceReceipt Where CompanyId=",
+            gAppState.gCompanyId, u" And MemberNo=", memberNo));
+}
+
+double MemberClosing::ThevOf(double memberNo, double opening, QStringView advanceType)
+{
+    return opening
+        + Sum(Sql(u"Select Sum(Amount) as ThevAmount From MilkPaymentsDetails Where CompanyId=",
+            gAppState.gCompanyId, u" And MemberNo=", memberNo, u" And AdvanceType='", advanceType, u"'"));
+}

@@ -1,0 +1,240 @@
+#include "frmMembers.h"
+
+#include "CommonKeys.h"
+#include "CompanyTitle.h"
+#include "MdlAccounts.h"
+#include "MemberClosing.h"
+#include "Messages.h"
+#include "Sql.h"
+#include "Transaction.h"
+
+frmMembers::frmMembers()
+    : Screen("frmMembers")
+    , txtAnimal(this, "txtAnimal",
+          {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")},
+              {u'3', QStringLiteral("daonhI")}})
+    , txtPaymentType(
+          this, "txtPaymentType", {{u'1', QStringLiteral("raoK")}, {u'2', QStringLiteral("ba^nk")}})
+    , txtOpeningDorC(
+          this, "txtOpeningDorC", {{u'1', Direction::Payable.toString()}, {u'2', Direction::Due.toString()}})
+{
+    Wire();
+    LayOut();
+}
+
+void frmMembers::Wire()
+{
+    When(txtMemberNo.LostFocus, &frmMembers::txtMemberNo_LostFocus);
+    When(ComboMemberName.LostFocus, &frmMembers::ComboMemberName_LostFocus);
+    When(ComboCity.LostFocus, &frmMembers::ComboCity_LostFocus);
+    When(txtAnimal.LostFocus, &frmMembers::txtAnimal_LostFocus);
+    When(txtPaymentType.LostFocus, &frmMembers::txtPaymentType_LostFocus);
+    When(ComboBankName.LostFocus, &frmMembers::ComboBankName_LostFocus);
+    When(txtBankAccountNo.LostFocus, &frmMembers::txtBankAccountNo_LostFocus);
+    When(txtOpeningBalance.LostFocus, &frmMembers::txtOpeningBalance_LostFocus);
+    When(txtOpeningDorC.LostFocus, &frmMembers::txtOpeningDorC_LostFocus);
+    When(txtCowOpeningLits.LostFocus, &frmMembers::txtCowOpeningLits_LostFocus);
+    When(txtBuffOpeningLits.LostFocus, &frmMembers::txtBuffOpeningLits_LostFocus);
+    When(txtOpeningUchal.LostFocus, &frmMembers::txtOpeningUchal_LostFocus);
+    When(txtCowOpeningThev.LostFocus, &frmMembers::txtCowOpeningThev_LostFocus);
+    When(txtBuffOpeningThev.LostFocus, &frmMembers::txtBuffOpeningThev_LostFocus);
+
+    When(cmdNew.Click, &frmMembers::cmdNew_Click);
+    When(cmdModify.Click, &frmMembers::cmdModify_Click);
+    When(cmdDelete.Click, &frmMembers::cmdDelete_Click);
+    When(cmdCancel.Click, &frmMembers::cmdCancel_Click);
+    When(cmdExit.Click, &frmMembers::cmdExit_Click);
+    cmdCancel.SetCancels(true);
+}
+
+void frmMembers::Load()
+{
+    ShowCompany(lblCompanyTitle, lblAcYear);
+    SetGuides();
+    LoadLists();
+    ShowIdle();
+}
+
+bool frmMembers::KeyDown(const QKeyEvent& key)
+{
+    return CommonKeys::Tutor(key);
+}
+
+void frmMembers::Escape()
+{
+    ClearFields();
+    Close();
+}
+
+// Modes
+
+void frmMembers::EnterMode(Button& mode, const Caption& caption, const Caption& title)
+{
+    mode.SetCaption(caption);
+    SetTitle(title);
+    for (Button* button : {&cmdNew, &cmdModify, &cmdDelete, &cmdExit})
+        button->SetEnabled(button == &mode);
+    cmdCancel.SetEnabled(true);
+    ClearFields();
+    for (Control* field : EntryFields())
+        field->SetEnabled(&mode != &cmdDelete || field == &txtMemberNo || field == &ComboMemberName);
+}
+
+void frmMembers::ShowIdle()
+{
+    cmdNew.SetCaption(Shivaji(u"&navaIna"));
+    cmdModify.SetCaption(Shivaji(u"ba&dla"));
+    cmdDelete.SetCaption(Shivaji(u"&KaoDNao"));
+    SetTitle(Shivaji(u" ]%padkacao maasTr"));
+
+    const bool hasMembers = !Recordset(gCn, QStringLiteral("SELECT * FROM MembersMaster")).Eof();
+    for (Button* button : {&cmdModify, &cmdDelete})
+        button->SetEnabled(hasMembers);
+    for (Button* button : {&cmdNew, &cmdExit})
+        button->SetEnabled(true);
+    cmdCancel.SetEnabled(false);
+    for (Control* field : EntryFields())
+        field->SetEnabled(false);
+    ClearFields();
+}
+
+// The focus waits on the button of the mode that was left, so that Enter begins the next record.
+void frmMembers::ReturnToIdle()
+{
+    Button& mode = IsModify() ? cmdModify : IsDelete() ? cmdDelete : cmdNew;
+    ShowIdle();
+    LoadLists();
+    (mode.CanTakeFocus() ? mode : cmdNew).SetFocus();
+}
+
+std::vector<Control*> frmMembers::EntryFields()
+{
+    return {&txtMemberNo, &ComboMemberName, &txtAddress, &ComboCity, &txtAnimal, &txtPaymentType,
+        &ComboBankName, &txtBankAccountNo, &txtOpeningBalance, &txtOpeningDorC, &txtCowOpeningLits,
+        &txtBuffOpeningLits, &txtOpeningUchal, &txtCowOpeningThev, &txtBuffOpeningThev};
+}
+
+void frmMembers::ClearFields()
+{
+    for (Field* field : std::initializer_list<Field*>{&txtMemberNo, &ComboMemberName, &txtAddress, &ComboCity,
+             &txtAnimal, &txtPaymentType, &ComboBankName, &txtBankAccountNo, &txtClosingDorC})
+        field->Clear();
+    for (NumberField* money : {&txtOpeningBalance, &txtClosingBalance, &txtOpeningUchal, &txtClosingUchal,
+             &txtCowOpeningThev, &txtCowClosingThev, &txtBuffOpeningThev, &txtBuffClosingThev})
+        money->SetText(QStringLiteral("0.00"));
+    for (NumberField* litres :
+        {&txtCowOpeningLits, &txtCowClosingLits, &txtBuffOpeningLits, &txtBuffClosingLits})
+        litres->SetText(QStringLiteral("0.000"));
+    txtOpeningDorC.SetText(Direction::Payable.toString());
+    OldName.clear();
+    CowOpeningLoaded = CowClosingLoaded = BuffOpeningLoaded = BuffClosingLoaded = 0;
+    ShowBankFields(false);
+}
+
+void frmMembers::cmdNew_Click()
+{
+    if (IsNew())
+        SaveNew();
+    else
+        StartNew();
+}
+
+void frmMembers::StartNew()
+{
+    const int next = NextMemberNo();
+    EnterMode(cmdNew, Shivaji(u"&saovh"), Shivaji(u" ]%padkacao maasTr navaIna roka^D-"));
+    txtMemberNo.SetText(QString::number(next));
+    txtMemberNo.SetFocus();
+}
+
+void frmMembers::SaveNew()
+{
+    if (!AreRequiredFieldsFilled())
+        return;
+    ComputeClosingBalance();
+    Transaction saving(gCn);
+    gCn.Execute(InsertStatement());
+    saving.Commit();
+    ReturnToIdle();
+}
+
+void frmMembers::cmdModify_Click()
+{
+    if (IsModify())
+        SaveModified();
+    else
+        StartModify();
+}
+
+void frmMembers::StartModify()
+{
+    EnterMode(cmdModify, Shivaji(u"&saovh"), Shivaji(u" ]%padkacao maasTr roka^D-maQyao badla"));
+    txtMemberNo.SetFocus();
+}
+
+void frmMembers::SaveModified()
+{
+    if (!AreRequiredFieldsFilled())
+        return;
+    if (Ask(u"roka^D- na@kI badlaayacao ka Æ")) {
+        ComputeClosingBalance();
+        Transaction saving(gCn);
+        gCn.Execute(UpdateStatement());
+        RenameEverywhere();
+        saving.Commit();
+    }
+    ReturnToIdle();
+}
+
+void frmMembers::cmdDelete_Click()
+{
+    if (IsDelete())
+        DeleteFound();
+    else
+        StartDelete();
+}
+
+void frmMembers::StartDelete()
+{
+    EnterMode(cmdDelete, Shivaji(u"&KaoDa"), Shivaji(u" ]%padkacao maasTr roka^D- KaoDNao"));
+    txtMemberNo.SetFocus();
+}
+
+void frmMembers::DeleteFound()
+{
+    if (MemberNo() == 0) {
+        txtMemberNo.SetFocus();
+        return;
+    }
+    if (Ask(u"maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ")) {
+        Transaction deleting(gCn);
+        DeleteEverywhere();
+        deleting.Commit();
+    }
+    ReturnToIdle();
+}
+
+void frmMembers::cmdCancel_Click()
+{
+    ReturnToIdle();
+}
+
+void frmMembers::cmdExit_Click()
+{
+    Close();
+}
+
+bool frmMembers::AreRequiredFieldsFilled()
+{
+    if (MemberNo() == 0) {
+        txtMemberNo.SetFocus();
+        return false;
+    }
+    for (Field* field : std::initializer_list<Field*>{&ComboMemberName, &txtAnimal, &txtPaymentType}) {
+        if (field->Text().trimmed().isEmpty()) {
+            field->SetFocus();
+            return false;
+        }
+    }
+    return true;
+}

@@ -1,0 +1,235 @@
+#include "frmMembers.h"
+
+#include "MdlAccounts.h"
+#include "MemberClosing.h"
+#include "Messages.h"
+#include "Sql.h"
+#include "Transaction.h"
+
+#include <cmath>
+
+namespace {
+
+// The record of a number, whatever its company; an ended record set if there is none.
+Recordset MemberOfNumber(double number)
+{
+    Recordset members(gCn, QStringLiteral("SELECT * FROM MembersMaster"));
+    while (!members.Eof() && members[u"MemberNo"].Number() != number)
+        members.MoveNext();
+    return members;
+}
+
+// The record of a name, blanks at its ends aside.
+Recordset MemberOfName(const QString& name)
+{
+    Recordset members(gCn, QStringLiteral("SELECT * FROM MembersMaster"));
+    while (!members.Eof() && members[u"MemberName"].Text().trimmed() != name)
+        members.MoveNext();
+    return members;
+}
+
+// Writes the number of a field back in its pattern, and returns it.
+double Reformat(NumberField& field, QStringView pattern)
+{
+    const double value = Val(field.Text());
+    field.SetText(Format(value, pattern));
+    return value;
+}
+
+}
+
+void frmMembers::Refuse(Field& field, QStringView message)
+{
+    ShowNotice(message);
+    field.SetFocus();
+}
+
+void frmMembers::txtMemberNo_LostFocus()
+{
+    if (IsNew() && !IsNumeric(txtMemberNo.Text())) {
+        Refuse(txtMemberNo, u"maombar naMbar vyavaisqat Ta[-p kra");
+        return;
+    }
+    if (txtMemberNo.IsEmpty())
+        return; // the name will tell the member
+    const Recordset member = MemberOfNumber(MemberNo());
+    if (IsNew()) {
+        if (!member.Eof())
+            Refuse(txtMemberNo, u"yaa maombar naMbarcao roka^D- Agaaodrca Aaho");
+    } else if (member.Eof()) {
+        Refuse(txtMemberNo, u"yaa maombar naMbarcao roka^D- ]plabQa naahI");
+    } else {
+        LoadRecord(member);
+        if (IsDelete())
+            cmdDelete.SetFocus();
+    }
+}
+
+void frmMembers::ComboMemberName_LostFocus()
+{
+    const QString name = ComboMemberName.Text().trimmed();
+    if (name.isEmpty()) {
+        Refuse(ComboMemberName, u"maombarcao naaMva vyavaisqat Ta[-p kra");
+        return;
+    }
+    const Recordset member = MemberOfName(name);
+    if (member.Eof()) {
+        if (!IsNew() && txtMemberNo.IsEmpty())
+            ComboMemberName.SetFocus();
+    } else if (IsNew()) {
+        Refuse(ComboMemberName, u"yaa naavaacao roka^D- Agaaodrca Aaho");
+    } else if (IsDelete()) {
+        LoadRecord(member);
+        cmdDelete.SetFocus();
+    } else if (member[u"MemberNo"].Number() != MemberNo()) {
+        LoadRecord(member);
+    }
+}
+
+void frmMembers::ComboCity_LostFocus()
+{
+    OfferToAdd(ComboCity, u"CityMaster", u"CityName", u"navaIna Sahr A^D kravao ka Æ");
+}
+
+void frmMembers::ComboBankName_LostFocus()
+{
+    OfferToAdd(ComboBankName, u"BankMaster", u"BankName", u"navaIna baÐk A^D kravaI ka Æ");
+}
+
+void frmMembers::OfferToAdd(NameCombo& combo, QStringView table, QStringView column, QStringView question)
+{
+    const QString name = combo.Text().trimmed();
+    if (name.isEmpty())
+        return;
+    const bool known = !Recordset(gCn,
+        Sql(u"SELECT ", column, u" FROM ", table, u" WHERE CompanyId=", gAppState.gCompanyId, u" and trim(",
+            column, u")='", name, u"'"))
+                            .Eof();
+    if (known)
+        return;
+    if (!Ask(question)) {
+        combo.SetFocus();
+        return;
+    }
+    Transaction adding(gCn);
+    gCn.Execute(Sql(u"INSERT INTO ", table, u"(CompanyId,", column, u") VALUES(", gAppState.gCompanyId, u",'",
+        name, u"')"));
+    adding.Commit();
+    LoadLists();
+}
+
+void frmMembers::txtAnimal_LostFocus()
+{
+    if (txtAnimal.IsEmpty())
+        txtAnimal.SetFocus();
+    else
+        EnableFiguresOfAnimal();
+}
+
+void frmMembers::EnableFiguresOfAnimal()
+{
+    const bool cow = txtAnimal.Text() != u"mhOsa";
+    const bool buffalo = txtAnimal.Text() != u"gaaya";
+    for (NumberField* field : {&txtCowOpeningLits, &txtCowOpeningThev})
+        field->SetEnabled(cow);
+    for (NumberField* field : {&txtBuffOpeningLits, &txtBuffOpeningThev})
+        field->SetEnabled(buffalo);
+}
+
+void frmMembers::txtPaymentType_LostFocus()
+{
+    const bool bank = txtPaymentType.Text() == u"ba^nk";
+    const bool newlyShown = bank && !ComboBankName.Visible();
+    if (txtPaymentType.IsEmpty())
+        txtPaymentType.SetFocus();
+    else
+        ShowBankFields(bank);
+    if (newlyShown)
+        ComboBankName.SetFocus(); // it wasn't there when the way on was chosen
+}
+
+void frmMembers::ShowBankFields(bool shown)
+{
+    for (Label* label : {&lblBankName, &lblBankAccountNo})
+        label->SetVisible(shown);
+    for (TextField* field : std::initializer_list<TextField*>{&ComboBankName, &txtBankAccountNo}) {
+        if (!shown)
+            field->Clear();
+        field->SetVisible(shown);
+    }
+}
+
+// The word asked for here isn't the one that is stored, so no member is ever held up for an account number.
+bool frmMembers::IsAccountNoMissing() const
+{
+    return txtPaymentType.Text() == u"baÐk" && txtBankAccountNo.Text().trimmed().isEmpty();
+}
+
+void frmMembers::txtBankAccountNo_LostFocus()
+{
+    if (IsAccountNoMissing())
+        txtBankAccountNo.SetFocus();
+}
+
+void frmMembers::txtOpeningBalance_LostFocus()
+{
+    Reformat(txtOpeningBalance, u"#######0.00");
+    if (IsAccountNoMissing())
+        txtBankAccountNo.SetFocus();
+}
+
+void frmMembers::txtOpeningDorC_LostFocus()
+{
+    if (txtOpeningDorC.IsEmpty())
+        txtOpeningDorC.SetText(Direction::Payable.toString());
+    ComputeClosingBalance();
+}
+
+void frmMembers::ComputeClosingBalance()
+{
+    const MemberClosing::Balance closing =
+        MemberClosing::BalanceOf(MemberNo(), Val(txtOpeningBalance.Text()), txtOpeningDorC.Text());
+    txtClosingBalance.SetText(Format(closing.amount, u"#####0.00"));
+    txtClosingDorC.SetText(closing.word.toString());
+}
+
+void frmMembers::txtCowOpeningLits_LostFocus()
+{
+    const double opening = Reformat(txtCowOpeningLits, u"#####0.000");
+    txtCowClosingLits.SetText(Format(std::abs(CowClosingLoaded) - CowOpeningLoaded + opening, u"#####0.000"));
+}
+
+void frmMembers::txtBuffOpeningLits_LostFocus()
+{
+    const double opening = Reformat(txtBuffOpeningLits, u"#####0.000");
+    txtBuffClosingLits.SetText(
+        Format(std::abs(BuffClosingLoaded) - BuffOpeningLoaded + opening, u"#####0.000"));
+}
+
+void frmMembers::txtOpeningUchal_LostFocus()
+{
+    const double opening = Reformat(txtOpeningUchal, u"#####0.00");
+    txtClosingUchal.SetText(Format(MemberClosing::UchalOf(MemberNo(), opening), u"########0.00"));
+}
+
+void frmMembers::txtCowOpeningThev_LostFocus()
+{
+    const double opening = Reformat(txtCowOpeningThev, u"#####0.00");
+    txtCowClosingThev.SetText(
+        Format(MemberClosing::ThevOf(MemberNo(), opening, u"gaaya zova"), u"######0.00"));
+    if (!txtBuffOpeningThev.Enabled())
+        ToSaveButton();
+}
+
+void frmMembers::txtBuffOpeningThev_LostFocus()
+{
+    const double opening = Reformat(txtBuffOpeningThev, u"#####0.00");
+    txtBuffClosingThev.SetText(
+        Format(MemberClosing::ThevOf(MemberNo(), opening, u"mhOsa zova"), u"######0.00"));
+    ToSaveButton();
+}
+
+void frmMembers::ToSaveButton()
+{
+    (IsNew() ? cmdNew : cmdModify).SetFocus();
+}

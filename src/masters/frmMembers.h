@@ -1,0 +1,131 @@
+#pragma once
+
+#include "Button.h"
+#include "NameCombo.h"
+#include "Recordset.h"
+#include "Screen.h"
+
+#include <vector>
+
+// The members of the society: who they are, how they are paid, and their figures at the opening and now.
+// The caption of the New, Modify or Delete button tells the mode; without one the fields are closed.
+class frmMembers final : public Screen {
+public:
+    frmMembers();
+
+protected:
+    void Load() override;
+    bool KeyDown(const QKeyEvent& key) override;
+    void Escape() override;
+
+private:
+    Label lblTitle{this, "lblTitle"};
+    Label lblCompanyTitle{this, "lblCompanyTitle"};
+    Label lblAcYear{this, "lblAcYear"};
+    Label lblBankName{this, "lblBankName", Shivaji(u"ba^nkocao naava")};
+    Label lblBankAccountNo{this, "lblBankAccountNo", Shivaji(u"ba^nk Kato naMbar")};
+    Label lblGuide{this, "lblGuide"};
+
+    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
+    NameCombo ComboMemberName{this, "ComboMemberName"};
+    TextField txtAddress{this, "txtAddress"};
+    NameCombo ComboCity{this, "ComboCity"};
+    ChoiceField txtAnimal;
+    ChoiceField txtPaymentType;
+    NameCombo ComboBankName{this, "ComboBankName"};
+    TextField txtBankAccountNo{this, "txtBankAccountNo"};
+    NumberField txtOpeningBalance{this, "txtOpeningBalance", NumberField::Digits::Decimals};
+    ChoiceField txtOpeningDorC;
+    NumberField txtCowOpeningLits{this, "txtCowOpeningLits", NumberField::Digits::Decimals};
+    NumberField txtBuffOpeningLits{this, "txtBuffOpeningLits", NumberField::Digits::Decimals};
+    NumberField txtOpeningUchal{this, "txtOpeningUchal", NumberField::Digits::Decimals};
+    NumberField txtCowOpeningThev{this, "txtCowOpeningThev", NumberField::Digits::Decimals};
+    NumberField txtBuffOpeningThev{this, "txtBuffOpeningThev", NumberField::Digits::Decimals};
+
+    // Shown, never entered.
+    NumberField txtClosingBalance{this, "txtClosingBalance", NumberField::Digits::Decimals};
+    TextField txtClosingDorC{this, "txtClosingDorC"};
+    NumberField txtCowClosingLits{this, "txtCowClosingLits", NumberField::Digits::Decimals};
+    NumberField txtBuffClosingLits{this, "txtBuffClosingLits", NumberField::Digits::Decimals};
+    NumberField txtClosingUchal{this, "txtClosingUchal", NumberField::Digits::Decimals};
+    NumberField txtCowClosingThev{this, "txtCowClosingThev", NumberField::Digits::Decimals};
+    NumberField txtBuffClosingThev{this, "txtBuffClosingThev", NumberField::Digits::Decimals};
+
+    Button cmdNew{this, "cmdNew", Shivaji(u"&navaIna")};
+    Button cmdModify{this, "cmdModify", Shivaji(u"ba&dla")};
+    Button cmdDelete{this, "cmdDelete", Shivaji(u"&KaoDNao")};
+    Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_")};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+
+    // The last record read. A new member is written with the account of the last one.
+    double AccountId = 0;
+    QString OldName;
+    double CowOpeningLoaded = 0;
+    double CowClosingLoaded = 0;
+    double BuffOpeningLoaded = 0;
+    double BuffClosingLoaded = 0;
+
+    void Wire();
+    void LayOut();
+    QLayout* IdentityColumn();
+    QLayout* FiguresColumn();
+    void SetGuides();
+
+    // Modes
+    bool IsNew() const { return cmdNew.Reads(u"&saovh"); }
+    bool IsModify() const { return cmdModify.Reads(u"&saovh"); }
+    bool IsDelete() const { return cmdDelete.Reads(u"&KaoDa"); }
+    void EnterMode(Button& mode, const Caption& caption, const Caption& title);
+    void ShowIdle();
+    void ReturnToIdle();
+    std::vector<Control*> EntryFields();
+    void ClearFields();
+
+    void cmdNew_Click();
+    void cmdModify_Click();
+    void cmdDelete_Click();
+    void cmdCancel_Click();
+    void cmdExit_Click();
+
+    void StartNew();
+    void SaveNew();
+    void StartModify();
+    void SaveModified();
+    void StartDelete();
+    void DeleteFound();
+
+    // Leaving the fields
+    void txtMemberNo_LostFocus();
+    void ComboMemberName_LostFocus();
+    void ComboCity_LostFocus();
+    void txtAnimal_LostFocus();
+    void txtPaymentType_LostFocus();
+    void ComboBankName_LostFocus();
+    void txtBankAccountNo_LostFocus();
+    void txtOpeningBalance_LostFocus();
+    void txtOpeningDorC_LostFocus();
+    void txtCowOpeningLits_LostFocus();
+    void txtBuffOpeningLits_LostFocus();
+    void txtOpeningUchal_LostFocus();
+    void txtCowOpeningThev_LostFocus();
+    void txtBuffOpeningThev_LostFocus();
+
+    void Refuse(Field& field, QStringView message);
+    void OfferToAdd(NameCombo& combo, QStringView table, QStringView column, QStringView question);
+    bool IsAccountNoMissing() const;
+    bool AreRequiredFieldsFilled();
+    void EnableFiguresOfAnimal();
+    void ShowBankFields(bool shown);
+    void ComputeClosingBalance();
+    void ToSaveButton();
+
+    // The rows behind the screen
+    double MemberNo() const;
+    int NextMemberNo() const;
+    void LoadLists();
+    void LoadRecord(const Recordset& member);
+    QString InsertStatement() const;
+    QString UpdateStatement() const;
+    void RenameEverywhere();
+    void DeleteEverywhere();
+};

@@ -1,0 +1,141 @@
+#include "frmMembers.h"
+
+#include "MdlAccounts.h"
+#include "MemberClosing.h"
+#include "Sql.h"
+
+namespace {
+
+QString Trimmed(const Field& field)
+{
+    return field.Text().trimmed();
+}
+
+double Value(const NumberField& field)
+{
+    return Val(field.Text());
+}
+
+void Show(NumberField& field, const FieldValue& value, QStringView pattern)
+{
+    field.SetText(Format(value.Number(), pattern));
+}
+
+}
+
+double frmMembers::MemberNo() const
+{
+    return Value(txtMemberNo);
+}
+
+// One more than the highest number of all companies.
+int frmMembers::NextMemberNo() const
+{
+    const Recordset last(gCn, QStringLiteral("SELECT max(MemberNo) as MaxMemberNo FROM MembersMaster"));
+    return ToInt16(last.Eof() ? 1 : last[u"MaxMemberNo"].Number() + 1);
+}
+
+void frmMembers::LoadLists()
+{
+    const QString ofCompany = Sql(u"where CompanyId=", gAppState.gCompanyId, u" ORDER BY ");
+    FillCombo(ComboMemberName, u"MembersMaster", u"MemberName", u"order by MemberName");
+    FillCombo(ComboCity, u"CityMaster", u"CityName", Sql(ofCompany, u"CityName"));
+    FillCombo(ComboBankName, u"BankMaster", u"BankName", Sql(ofCompany, u"BankName"));
+}
+
+void frmMembers::LoadRecord(const Recordset& member)
+{
+    txtMemberNo.SetText(member[u"MemberNo"].Text());
+    ComboMemberName.SetText(member[u"MemberName"].Text());
+    txtAddress.SetText(member[u"Address"].Text());
+    ComboCity.SetText(member[u"City"].Text());
+    txtAnimal.SetText(member[u"Animal"].Text());
+    txtPaymentType.SetText(member[u"PaymentType"].Text());
+    ShowBankFields(txtPaymentType.Text() == u"ba^nk");
+    ComboBankName.SetText(member[u"BankName"].Text());
+    txtBankAccountNo.SetText(member[u"BankAccountNo"].Text());
+
+    Show(txtOpeningBalance, member[u"OpeningBalance"], u"#######0.00");
+    txtOpeningDorC.SetText(Direction::Word(member[u"OpeningDorC"].Text()).toString());
+    Show(txtClosingBalance, member[u"ClosingBalance"], u"#####0.00");
+    txtClosingDorC.SetText(Direction::Word(member[u"ClosingDorC"].Text()).toString());
+    Show(txtCowOpeningThev, member[u"CowOpeningThev"], u"######0.00");
+    Show(txtCowClosingThev, member[u"CowClosingThev"], u"######0.00");
+    Show(txtBuffOpeningThev, member[u"BuffOpeningThev"], u"######0.00");
+    Show(txtBuffClosingThev, member[u"BuffClosingThev"], u"######0.00");
+    Show(txtOpeningUchal, member[u"OpeningUchal"], u"########0.00");
+    Show(txtClosingUchal, member[u"ClosingUchal"], u"########0.00");
+    Show(txtCowOpeningLits, member[u"CowOpeningLits"], u"#####0.000");
+    Show(txtCowClosingLits, member[u"CowClosingLits"], u"#####0.000");
+    Show(txtBuffOpeningLits, member[u"BuffOpeningLits"], u"#####0.000");
+    Show(txtBuffClosingLits, member[u"BuffClosingLits"], u"#####0.000");
+
+    AccountId = member[u"AccountId"].Number();
+    OldName = member[u"MemberName"].Text();
+    CowOpeningLoaded = member[u"CowOpeningLits"].Number();
+    CowClosingLoaded = member[u"CowClosingLits"].Number();
+    BuffOpeningLoaded = member[u"BuffOpeningLits"].Number();
+    BuffClosingLoaded = member[u"BuffClosingLits"].Number();
+    if (IsModify())
+        EnableFiguresOfAnimal();
+}
+
+QString frmMembers::InsertStatement() const
+{
+    return Sql(u"Insert into MembersMaster(CompanyId,MemberNo,MemberName,AccountId,Address, City,Animal,"
+               u"PaymentType,BankName,BankAccountNo,OpeningBalance, OpeningDorC,ClosingBalance,ClosingDorC,"
+               u"CowOpeningThev,CowClosingThev,BuffOpeningThev,BuffClosingThev,OpeningUchal,ClosingUchal,"
+               u"CowOpeningLits,CowClosingLits,BuffOpeningLits ,BuffClosingLits)values(",
+        gAppState.gCompanyId, u",", MemberNo(), u",'", Trimmed(ComboMemberName), u"',", AccountId, u",'",
+        Trimmed(txtAddress), u"','", Trimmed(ComboCity), u"','", Trimmed(txtAnimal), u"','",
+        Trimmed(txtPaymentType), u"','", Trimmed(ComboBankName), u"','", Trimmed(txtBankAccountNo), u"',",
+        Value(txtOpeningBalance), u",'", Direction::Letter(txtOpeningDorC.Text()), u"',",
+        Value(txtClosingBalance), u",'", Direction::Letter(txtClosingDorC.Text()), u"',",
+        Value(txtCowOpeningThev), u",", Value(txtCowClosingThev), u",", Value(txtBuffOpeningThev), u",",
+        Value(txtBuffClosingThev), u",", Value(txtOpeningUchal), u",", Value(txtClosingUchal), u",",
+        Value(txtCowOpeningLits), u",", Value(txtCowClosingLits), u",", Value(txtBuffOpeningLits), u",",
+        Value(txtBuffClosingLits), u")");
+}
+
+QString frmMembers::UpdateStatement() const
+{
+    return Sql(u"update MembersMaster set MemberName='", Trimmed(ComboMemberName), u"',Address='",
+        Trimmed(txtAddress), u"' ,City='", Trimmed(ComboCity), u"',Animal='", Trimmed(txtAnimal),
+        u"',PaymentType='", Trimmed(txtPaymentType), u"',BankName='", Trimmed(ComboBankName),
+        u"',BankAccountNo='", Trimmed(txtBankAccountNo), u"' ,OpeningBalance=", Value(txtOpeningBalance),
+        u",OpeningDorC='", Direction::Letter(txtOpeningDorC.Text()), u"',ClosingBalance=",
+        Value(txtClosingBalance), u" ,ClosingDorC='", Direction::Letter(txtClosingDorC.Text()),
+        u"',CowOpeningThev=", Value(txtCowOpeningThev), u",CowClosingThev=", Value(txtCowClosingThev),
+        u", BuffOpeningThev=", Value(txtBuffOpeningThev), u",BuffClosingThev=", Value(txtBuffClosingThev),
+        u",OpeningUchal=", Value(txtOpeningUchal), u",ClosingUchal=", Value(txtClosingUchal),
+        u", CowOpeningLits=", Value(txtCowOpeningLits), u", CowClosingLits=", Value(txtCowClosingLits),
+        u",BuffOpeningLits= ", Value(txtBuffOpeningLits), u",BuffClosingLits= ", Value(txtBuffClosingLits),
+        u" where CompanyId=", gAppState.gCompanyId, u" and MemberNo=", MemberNo());
+}
+
+// The other tables know a member by name, in every company.
+void frmMembers::RenameEverywhere()
+{
+    const QString name = Trimmed(ComboMemberName);
+    gCn.Execute(
+        Sql(u"update MilkCollections set MemberName='", name, u"' where MemberName='", OldName, u"'"));
+    gCn.Execute(Sql(u"Update MilkPayments Set MemberName='", name, u"' Where MemberName='", OldName, u"'"));
+    gCn.Execute(
+        Sql(u"Update TransactionsMaster Set DAccountName='", name, u"' Where DAccountName='", OldName, u"'"));
+    gCn.Execute(
+        Sql(u"Update TransactionsMaster Set CAccountName='", name, u"' Where CAccountName='", OldName, u"'"));
+}
+
+void frmMembers::DeleteEverywhere()
+{
+    const int company = gAppState.gCompanyId;
+    const double no = MemberNo();
+    gCn.Execute(Sql(u"delete * from MembersMaster where CompanyId=", company, u" and MemberNo=", no));
+    gCn.Execute(Sql(u"delete * from MilkCollections Where CompanyId=", company, u" and MemberNo=", no));
+    gCn.Execute(Sql(u"Delete * From MilkPayments Where CompanyId=", company, u" and Memberno=", no));
+    gCn.Execute(Sql(u"Delete * From TransactionsMaster Where CompanyId=", company, u" And (DAccountName='",
+        OldName, u"' or CAccountName='", OldName, u"')"));
+    gCn.Execute(Sql(u"Delete * From TransactionsDetails Where CompanyId=", company, u" And MemberNo=", no));
+    gCn.Execute(Sql(u"Delete * From AdvanceReceipt Where CompanyId=", company, u" And MemberNo=", no));
+    gCn.Execute(Sql(u"Delete * From MilkPaymentsDetails Where CompanyId=", company, u" And MemberNo=", no));
+}

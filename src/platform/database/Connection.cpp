@@ -1,0 +1,79 @@
+#include "Connection.h"
+
+#include "ConnectionPrivate.h"
+#include "DataSource.h"
+#include "DatabaseErrors.h"
+#include "DatabaseFile.h"
+
+namespace {
+
+struct Target {
+    QString file;
+    QString password;
+};
+
+// Reads "dsn=NAME;pwd=PASSWORD". The password is all that follows, whatever characters it holds.
+Target ReadConnectionString(const QString& connectionString)
+{
+    constexpr QStringView Source = u"dsn=";
+    constexpr QStringView Password = u";pwd=";
+    const qsizetype password = connectionString.indexOf(Password, 0, Qt::CaseInsensitive);
+    if (!connectionString.startsWith(Source, Qt::CaseInsensitive) || password < 0)
+        throw RunTimeError(RunTimeError::DatabaseFailure,
+            DatabaseErrors::Sentences(u"डेटाबेसचे नाव समजले नाही.",
+                QStringLiteral("The connection string is not \"dsn=NAME;pwd=PASSWORD\".")));
+    const QString name = connectionString.mid(Source.size(), password - Source.size()).trimmed();
+    const QString file = DataSource::File(name);
+    if (file.isEmpty())
+        throw RunTimeError(RunTimeError::DatabaseFailure,
+            DatabaseErrors::Sentences(
+                u"डेटाबेसचे नाव माहीत नाही.", QStringLiteral("The data source \"%1\" is not known.").arg(name)));
+    return {file, connectionString.mid(password + Password.size())};
+}
+
+}
+
+Connection::Connection() = default;
+Connection::~Connection() = default;
+
+void Connection::Open(const QString& connectionString)
+{
+    const Target target = ReadConnectionString(connectionString);
+    Close();
+    m_d = std::make_unique<Private>(DatabaseFile::Open(target.file, target.password));
+}
+
+void Connection::Close()
+{
+    m_d.reset();
+}
+
+bool Connection::IsOpen() const
+{
+    return m_d != nullptr;
+}
+
+int Connection::Execute(const QString& statement)
+{
+    if (!m_d)
+        DatabaseErrors::ThrowClosed();
+    return m_d->Execute(statement);
+}
+
+void Connection::Create(const QString& file, const QString& password)
+{
+    Close();
+    m_d = std::make_unique<Private>(DatabaseFile::Create(file, password));
+}
+
+void Connection::RunScript(const QString& script)
+{
+    if (!m_d)
+        DatabaseErrors::ThrowClosed();
+    m_d->RunScript(script);
+}
+
+sqlite3* Connection::Handle() const
+{
+    return m_d ? m_d->Handle() : nullptr;
+}

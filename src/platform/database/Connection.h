@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+
+struct sqlite3;
+
+// The one road to the books: an encrypted database file, spoken to in the system's own statements.
+// A statement is one statement; anything after it is an error and nothing is executed. Every failure is
+// a RunTimeError that carries the statement.
+class Connection {
+public:
+    Connection();
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    // Opens "dsn=NAME;pwd=PASSWORD". The file must exist; it is never created here. A missing file, a
+    // file that is no database or is cut short, and a wrong password are errors that say which.
+    void Open(const QString& connectionString);
+
+    // Closes the file; open record sets end first. Closing twice is allowed.
+    void Close();
+
+    bool IsOpen() const;
+
+    // Runs a statement that returns no rows. Returns the number of rows that it changed.
+    int Execute(const QString& statement);
+
+    // Makes a new, empty, encrypted file and opens it. An existing file is an error.
+    void Create(const QString& file, const QString& password);
+
+    // For the installer: runs a script of the engine's own SQL (many statements) as it stands.
+    void RunScript(const QString& script);
+
+    // The engine's handle, for the benchmarks' floors and the fault tests only.
+    sqlite3* Handle() const;
+
+    class Private;
+    Private* d() const { return m_d.get(); }
+
+private:
+    std::unique_ptr<Private> m_d;
+};

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "Connection.h"
+#include "Recordset.h"
+#include "StatementCache.h"
+
+#include <deque>
+
+// A prepared statement on loan: bound and ready to step. It goes back to the cache when the loan ends.
+class Loan {
+public:
+    Loan() = default;
+    Loan(StatementCache& cache, std::unique_ptr<Prepared> prepared)
+        : m_cache(&cache)
+        , m_prepared(std::move(prepared))
+    {
+    }
+    Loan(Loan&&) noexcept = default;
+    Loan& operator=(Loan&& other) noexcept;
+    ~Loan() { End(); }
+
+    Prepared* operator->() const { return m_prepared.get(); }
+    sqlite3_stmt* Handle() const { return m_prepared->Handle(); }
+
+    // Ends the reading but keeps the statement.
+    void Reset();
+
+    // Ends the loan.
+    void End();
+
+    // Ends the loan without giving back: the connection closes.
+    void Drop() { m_prepared.reset(); }
+
+private:
+    StatementCache* m_cache = nullptr;
+    std::unique_ptr<Prepared> m_prepared;
+};
+
+class Recordset::Private {
+public:
+    Private(Connection::Private& connection, const QString& query);
+    ~Private();
+
+    bool Eof() const;
+    void MoveNext();
+    FieldValue At(int column) const;
+    int Find(QStringView field) const;
+    const std::vector<QString>& Names() const;
+    void Close();
+
+    // The connection closes, or a table of this query is about to change: what was not yet read is read.
+    void Abandon();
+    void KeepRest(const Translation* writing);
+
+private:
+    void Step();
+    FieldValue Read(int column) const;
+    std::vector<FieldValue> ReadRow() const;
+    bool IsTouchedBy(const Translation& writing) const;
+    void RequireOpen() const;
+
+    Connection::Private* m_connection;
+    QString m_query;
+    Loan m_loan;
+    bool m_eof = false;
+    bool m_isKept = false; // the current row and the rest of the rows are in m_rows
+    std::deque<std::vector<FieldValue>> m_rows;
+    mutable int m_hint = 0; // fields are mostly read in their order
+};
+
+class Connection::Private {
+public:
+    explicit Private(sqlite3* handle) : m_handle(handle), m_catalogue(handle), m_cache(handle) { }
+    ~Private();
+
+    sqlite3* Handle() const { return m_handle; }
+    StatementCache& Cache() { return m_cache; }
+
+    // Makes a statement ready to step, with its literals bound.
+    Loan Take(const QString& statement);
+    int Execute(const QString& statement);
+    void RunScript(const QString& script);
+
+    // Transactions join: only the outermost one begins and commits, and one that is given up inside
+    // another dooms the whole.
+    void Begin();
+    void Commit();
+    void GiveUp();
+
+    void Add(Recordset::Private* recordset) { m_recordsets.push_back(recordset); }
+    void Remove(Recordset::Private* recordset);
+
+private:
+    void KeepRests(const Translation* writing);
+    void RequireTransaction() const;
+    void Rollback();
+    void ForgetShapes();
+
+    sqlite3* m_handle;
+    Catalogue m_catalogue;
+    StatementCache m_cache;
+    ScannedStatement m_scanned;
+    std::vector<Recordset::Private*> m_recordsets;
+    int m_depth = 0;
+    bool m_isDoomed = false;
+};

@@ -1,0 +1,104 @@
+#include "DatabaseErrors.h"
+
+#include <sqlcipher/sqlite3.h>
+
+namespace {
+
+// So much of a statement is shown; a longer one would push the buttons off the screen.
+constexpr qsizetype ShownLength = 500;
+
+QString Shown(QStringView statement)
+{
+    QString shown = statement.left(ShownLength).toString();
+    shown.replace(QChar::Null, QChar::ReplacementCharacter);
+    if (statement.size() > ShownLength)
+        shown += QChar(0x2026);
+    return shown;
+}
+
+struct Reason {
+    int code;
+    const char16_t* marathi;
+    const char* english;
+};
+
+constexpr Reason Reasons[] = {
+    {SQLITE_FULL, u"डिस्क भरली आहे; काहीही जतन झाले नाही. डिस्कवर जागा करा आणि पुन्हा सुरू करा.",
+        "The disk is full; nothing was saved. Make room on the disk and start again."},
+    {SQLITE_BUSY, u"डेटाबेस दुसरा प्रोग्राम वापरत आहे; काहीही जतन झाले नाही. तो बंद करा आणि पुन्हा सुरू करा.",
+        "The database is in use by another program; nothing was saved. Close it and start again."},
+    {SQLITE_LOCKED, u"डेटाबेस वापरात आहे; काहीही जतन झाले नाही. पुन्हा सुरू करा.",
+        "The database is locked; nothing was saved. Start again."},
+    {SQLITE_IOERR, u"डिस्कवर वाचता किंवा लिहिता आले नाही; काहीही जतन झाले नाही. डिस्क तपासा आणि पुन्हा सुरू करा.",
+        "The disk can't be read or written; nothing was saved. Check the disk and start again."},
+    {SQLITE_CORRUPT, u"डेटाबेसची फाइल बिघडली आहे. शेवटचा बॅकअप परत आणा.",
+        "The database file is damaged. Restore the last backup."},
+    {SQLITE_NOTADB, u"डेटाबेसची फाइल बिघडली आहे. शेवटचा बॅकअप परत आणा.",
+        "The database file is damaged. Restore the last backup."},
+    {SQLITE_READONLY, u"डेटाबेसच्या फाइलमध्ये लिहिता येत नाही; काहीही जतन झाले नाही. फाइलची परवानगी तपासा.",
+        "The database file can't be written; nothing was saved. Check the permissions of the file."},
+    {SQLITE_CANTOPEN, u"डेटाबेसची फाइल उघडता आली नाही. फोल्डरची परवानगी तपासा.",
+        "The database file can't be opened. Check the permissions of its folder."},
+    {SQLITE_NOMEM, u"मेमरी संपली आहे. दुसरे प्रोग्राम बंद करा आणि पुन्हा सुरू करा.",
+        "There is no memory left. Close other programs and start again."},
+    {SQLITE_MISMATCH, u"माहितीचा प्रकार जुळत नाही; काहीही जतन झाले नाही.", "Type mismatch; nothing was saved."},
+};
+
+}
+
+QString DatabaseErrors::Sentences(QStringView marathi, const QString& english)
+{
+    return marathi + QChar(u'\n') + english;
+}
+
+void DatabaseErrors::ThrowRefused(const char* english, QStringView statement)
+{
+    throw RunTimeError(RunTimeError::DatabaseFailure,
+        Sentences(u"हे विधान चालवता येत नाही; काहीही बदलले नाही.", QString::fromUtf8(english)),
+        Shown(statement));
+}
+
+void DatabaseErrors::ThrowMismatch(QStringView value, QStringView statement)
+{
+    throw RunTimeError(RunTimeError::TypeMismatch,
+        Sentences(u"माहितीचा प्रकार जुळत नाही; काहीही जतन झाले नाही.",
+            QStringLiteral("Type mismatch: \"") + Shown(value) + QStringLiteral("\"")),
+        Shown(statement));
+}
+
+void DatabaseErrors::ThrowOverflow(QStringView value, QStringView statement)
+{
+    throw RunTimeError(RunTimeError::Overflow,
+        Sentences(u"संख्या फार मोठी आहे; काहीही जतन झाले नाही.", QStringLiteral("Overflow: ") + Shown(value)),
+        Shown(statement));
+}
+
+RunTimeError DatabaseErrors::Failure(sqlite3* handle, int code, QStringView statement)
+{
+    const int primary = code & 0xFF;
+    const QString detail = QString::fromUtf8(sqlite3_errmsg(handle));
+    for (const Reason& reason : Reasons) {
+        if (reason.code != primary)
+            continue;
+        const int number =
+            primary == SQLITE_MISMATCH ? RunTimeError::TypeMismatch : RunTimeError::DatabaseFailure;
+        const QString english = QString::fromUtf8(reason.english)
+            + QStringLiteral(" (%1, %2)").arg(detail, QString::number(code));
+        return RunTimeError(number, Sentences(reason.marathi, english), Shown(statement));
+    }
+    return RunTimeError(RunTimeError::DatabaseFailure,
+        Sentences(
+            u"हे विधान चालवता आले नाही; काहीही बदलले नाही.", QStringLiteral("The statement failed: ") + detail),
+        Shown(statement));
+}
+
+void DatabaseErrors::ThrowFailure(sqlite3* handle, int code, QStringView statement)
+{
+    throw Failure(handle, code, statement);
+}
+
+void DatabaseErrors::ThrowClosed()
+{
+    throw RunTimeError(RunTimeError::ConnectionClosed,
+        Sentences(u"डेटाबेस किंवा यादी बंद आहे.", QStringLiteral("The connection or the record set is closed.")));
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "RunTimeError.h"
+
+#include <QStringView>
+
+struct sqlite3;
+
+// What goes wrong with the books, said to the clerk: what happened and what to do, then the detail in
+// English.
+namespace DatabaseErrors {
+
+// Two sentences, one under the other.
+QString Sentences(QStringView marathi, const QString& english);
+
+// A statement that isn't one of the system's is not run.
+[[noreturn]] void ThrowRefused(const char* english, QStringView statement);
+
+// A text that isn't the number or the date that its column holds.
+[[noreturn]] void ThrowMismatch(QStringView value, QStringView statement);
+
+// A number that no number field can hold.
+[[noreturn]] void ThrowOverflow(QStringView value, QStringView statement);
+
+// A failure that the engine reports, by its code. `statement` is empty if it isn't one statement's.
+RunTimeError Failure(sqlite3* handle, int code, QStringView statement);
+[[noreturn]] void ThrowFailure(sqlite3* handle, int code, QStringView statement);
+
+// The file or the record set isn't open any more.
+[[noreturn]] void ThrowClosed();
+
+}

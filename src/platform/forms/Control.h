@@ -1,0 +1,121 @@
+#pragma once
+
+#include "Caption.h"
+
+#include <QColor>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+class QKeyEvent;
+class Screen;
+
+// What a screen answers to; empty is "nothing to do".
+using Event = std::function<void()>;
+
+// Something on a screen that can hold the focus. Controls are members of their screen; the order in which
+// they are declared is the tab order.
+class Control {
+public:
+    // `name` is the control's name in the system, such as "txtFat".
+    Control(Screen* screen, const char* name, QWidget* widget);
+    virtual ~Control();
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    Event GotFocus;
+    Event LostFocus;
+
+    // Keys that this control takes before its own handling; returns true for a key that it has answered.
+    std::function<bool(const QKeyEvent&)> KeyDown;
+
+    QString Name() const { return m_widget->objectName(); }
+
+    bool Enabled() const { return m_enabled; }
+    void SetEnabled(bool enabled);
+    bool Visible() const { return m_visible; }
+    void SetVisible(bool visible);
+
+    // A control that is no stop for Tab still takes the focus when it is given it.
+    bool TabStop() const { return m_tabStop; }
+    void SetTabStop(bool stop) { m_tabStop = stop; }
+
+    // Whether it is enabled and visible.
+    bool CanTakeFocus() const { return m_enabled && m_visible; }
+    bool HasFocus() const;
+
+    // Moves the screen's focus here; does nothing if it can't take it.
+    void SetFocus();
+
+    // The line that the screen's guide label shows while this control holds the focus.
+    const Caption& Guide() const { return m_guide; }
+    void SetGuide(const Caption& guide) { m_guide = guide; }
+
+    // What a screen reader calls the control.
+    void SetAccessibleName(const Caption& name);
+
+    // Colours of its own in place of the screen's.
+    void SetColours(QColor focus, QColor plain);
+
+    QWidget* Widget() const { return m_widget.get(); }
+    Screen& Owner() const { return *m_screen; }
+
+    // What the control reads, as the system spells it.
+    virtual QString Text() const = 0;
+
+protected:
+    friend class Screen;
+
+    // A key that the screen has no use for. Returns true if it is used up; false leaves it to the widget.
+    virtual bool KeyPress(const QKeyEvent& key) = 0;
+
+    // Text from an input method or the clipboard.
+    virtual void Insert(const QString& text) { Q_UNUSED(text); }
+
+    // What an input method is still putting together; empty when it has done.
+    virtual void ShowComposition(const QString& text) { Q_UNUSED(text); }
+
+    // The focus has come or gone; the handlers run after this.
+    virtual void ShowFocus(bool held);
+
+    // The mouse has moved caret or selection.
+    virtual void MouseDone() {}
+
+    // Runs what the mouse or a timer has set off on this control.
+    void RunEvent(const Event& event);
+
+private:
+    Screen* m_screen;
+    std::unique_ptr<QWidget> m_widget;
+    Caption m_guide;
+    std::optional<std::pair<QColor, QColor>> m_colours;
+    bool m_enabled = true;
+    bool m_visible = true;
+    bool m_tabStop = true;
+};
+
+// A text of a screen that can't be entered. It holds its caption as the system spells it.
+class Label {
+public:
+    explicit Label(Screen* screen, const char* name, const Caption& caption = {});
+
+    const Caption& Shown() const { return m_caption; }
+    void SetCaption(const Caption& caption);
+
+    // A stored text, or a figure, in place of the caption.
+    void SetText(const QString& stored) { SetCaption(Words(stored)); }
+    void SetFigure(const QString& figure) { SetCaption(Plain(figure)); }
+
+    bool Visible() const { return m_visible; }
+    void SetVisible(bool visible);
+
+    QString Name() const;
+    QWidget* Widget() const { return m_widget.get(); }
+
+private:
+    std::unique_ptr<QWidget> m_widget;
+    Caption m_caption;
+    bool m_visible = true;
+};

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Control.h"
+#include "Recordset.h"
+
+#include <QAbstractTableModel>
+
+#include <vector>
+
+class QTableView;
+
+// The rows of a query as a table to look at. What was written is seen after Refresh.
+class DataGrid final : public Control {
+public:
+    struct Column {
+        QString field;   // in the query, any spelling
+        Caption caption;
+        int width = 100; // pixels; 0 takes what is left
+        QString format;  // of numbers and dates; empty shows the value as it is
+        bool alignRight = false;
+        bool stored = true; // a text in the system's encoding; false for dates and figures without a format
+    };
+
+    DataGrid(Screen* screen, const char* name, std::vector<Column> columns);
+
+    // The rows to show. The connection must outlive the grid.
+    void Bind(Connection& connection, const QString& query);
+    void Refresh();
+
+    int Rows() const;
+    int CurrentRow() const;
+    void SetCurrentRow(int row);
+
+    // A value of a row shown, by field; Null for a row or a field that isn't there.
+    FieldValue Value(int row, QStringView field) const;
+
+    // What the eye meets in a cell of a row shown.
+    QString Cell(int row, int column) const;
+
+    // The first column of the current row.
+    QString Text() const override;
+
+protected:
+    bool KeyPress(const QKeyEvent& key) override;
+    void ShowFocus(bool held) override;
+
+private:
+    class Model;
+    QTableView& View() const;
+    void LayOut();
+
+    std::unique_ptr<Model> m_model;
+};

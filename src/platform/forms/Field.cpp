@@ -1,0 +1,202 @@
+#include "Field.h"
+
+#include "Shivaji01.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+Field::Field(Screen* screen, const char* name) : Control(screen, name, new QLineEdit)
+{
+    Line().setContextMenuPolicy(Qt::NoContextMenu);
+    Line().setDragEnabled(false);
+    Line().setAcceptDrops(false);
+}
+
+QLineEdit& Field::Line() const
+{
+    return *static_cast<QLineEdit*>(Widget());
+}
+
+void Field::SelectAll()
+{
+    Line().selectAll();
+}
+
+void Field::SetMaxLength(int characters)
+{
+    Line().setMaxLength(characters > 0 ? characters : 32767);
+}
+
+void Field::SetAlignRight()
+{
+    Line().setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+QString Field::Seen() const
+{
+    return Line().text();
+}
+
+void Field::ShowFocus(bool held)
+{
+    Control::ShowFocus(held);
+    if (held)
+        SelectAll();
+    else
+        Line().deselect();
+}
+
+bool Field::CopyKey(const QKeyEvent& key) const
+{
+    if (!key.matches(QKeySequence::Copy))
+        return false;
+    QGuiApplication::clipboard()->setText(Line().selectedText());
+    return true;
+}
+
+namespace {
+
+// The keys that move the caret or erase, which a line edit answers well by itself.
+bool IsEditKey(const QKeyEvent& key)
+{
+    switch (key.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_Backspace:
+    case Qt::Key_Delete:
+        return !key.modifiers().testFlag(Qt::AltModifier);
+    default:
+        return false;
+    }
+}
+
+bool IsTyped(const QKeyEvent& key)
+{
+    return !key.text().isEmpty() && key.text()[0].isPrint()
+        && !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
+
+// A digit of any script as 0 to 9; the point as it is, the comma of a numeric pad as a point.
+QString FigureOf(const QString& text, bool keypad)
+{
+    QString figures;
+    for (QChar c : text) {
+        if (c.digitValue() >= 0)
+            figures += QChar(u'0' + c.digitValue());
+        else if (c == u'.' || (keypad && c == u','))
+            figures += u'.';
+    }
+    return figures;
+}
+
+}
+
+NumberField::NumberField(Screen* screen, const char* name, Digits digits) : Field(screen, name), m_digits(digits)
+{
+    SetAlignRight();
+    Line().setInputMethodHints(Qt::ImhFormattedNumbersOnly);
+}
+
+QString NumberField::Text() const
+{
+    return Line().text();
+}
+
+void NumberField::SetText(const QString& text)
+{
+    Line().setText(text);
+}
+
+bool NumberField::KeyPress(const QKeyEvent& key)
+{
+    if (IsEditKey(key))
+        return false;
+    if (IsTyped(key))
+        Insert(FigureOf(key.text(), key.modifiers().testFlag(Qt::KeypadModifier)));
+    else if (key.matches(QKeySequence::Paste))
+        Insert(QGuiApplication::clipboard()->text());
+    else if (key.matches(QKeySequence::SelectAll))
+        SelectAll();
+    else
+        CopyKey(key);
+    return true;
+}
+
+void NumberField::Insert(const QString& text)
+{
+    QString figures = FigureOf(text, false);
+    if (const qsizetype point = figures.indexOf(u'.'); m_digits == Digits::Whole && point >= 0)
+        figures.truncate(point);
+    if (!figures.isEmpty()) // nothing to insert would take the selection away
+        Line().insert(figures);
+}
+
+ChoiceField::ChoiceField(Screen* screen, const char* name, std::vector<Choice> choices)
+    : Field(screen, name), m_choices(std::move(choices))
+{
+    Line().setReadOnly(true);
+}
+
+void ChoiceField::SetText(const QString& word)
+{
+    m_word = word;
+    Line().setText(Shivaji01::ToUnicode(word));
+    Line().setCursorPosition(0);
+}
+
+bool ChoiceField::KeyPress(const QKeyEvent& key)
+{
+    if (key.key() == Qt::Key_Backspace && !m_locked)
+        SetText({});
+    else if (IsTyped(key))
+        Choose(key.text()[0]);
+    else
+        CopyKey(key);
+    return true;
+}
+
+void ChoiceField::Insert(const QString& text)
+{
+    Choose(text[0]);
+}
+
+void ChoiceField::Choose(QChar digit)
+{
+    for (const Choice& choice : m_choices)
+        if (choice.digit.digitValue() == digit.digitValue() && digit.digitValue() >= 0)
+            SetText(choice.word);
+}
+
+PlainField::PlainField(Screen* screen, const char* name) : Field(screen, name)
+{
+    QObject::connect(&Line(), &QLineEdit::textEdited, &Line(), [this] {
+        if (Change)
+            RunEvent(Change);
+    });
+}
+
+QString PlainField::Text() const
+{
+    return Line().text();
+}
+
+void PlainField::SetText(const QString& text)
+{
+    if (text != Line().text())
+        Line().setText(text);
+}
+
+// A line edit answers every key as it should be.
+bool PlainField::KeyPress(const QKeyEvent&)
+{
+    return false;
+}
+
+void PlainField::Insert(const QString& text)
+{
+    Line().insert(text);
+}

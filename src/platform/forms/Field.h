@@ -1,0 +1,97 @@
+#pragma once
+
+#include "Control.h"
+
+class QLineEdit;
+
+// A one-line entry field. On taking the focus it selects its whole text.
+class Field : public Control {
+public:
+    Field(Screen* screen, const char* name);
+
+    // The text as it goes into statements.
+    virtual void SetText(const QString& text) = 0;
+    void Clear() { SetText({}); }
+    bool IsEmpty() const { return Text().isEmpty(); }
+
+    // Selects the whole text.
+    virtual void SelectAll();
+
+    // The longest text that can be typed; 0 is no limit.
+    virtual void SetMaxLength(int characters);
+
+    void SetAlignRight();
+
+    // What the eye meets in the field.
+    QString Seen() const;
+
+protected:
+    QLineEdit& Line() const;
+    void ShowFocus(bool held) override;
+
+    // Copies what is seen; true if the key asked for it.
+    bool CopyKey(const QKeyEvent& key) const;
+};
+
+// A number as the clerk types it: digits, and where it has decimals a point. All other keys are dropped.
+class NumberField final : public Field {
+public:
+    enum class Digits { Whole, Decimals };
+
+    NumberField(Screen* screen, const char* name, Digits digits);
+
+    QString Text() const override;
+    void SetText(const QString& text) override;
+
+protected:
+    bool KeyPress(const QKeyEvent& key) override;
+    void Insert(const QString& text) override;
+
+private:
+    Digits m_digits;
+};
+
+// A field with a few fixed words. A digit puts its word in place; Backspace empties the field unless it is
+// locked; all other keys are dropped.
+class ChoiceField final : public Field {
+public:
+    struct Choice {
+        QChar digit;
+        QString word; // as the system spells it
+    };
+
+    ChoiceField(Screen* screen, const char* name, std::vector<Choice> choices);
+
+    // A locked field is never emptied by a key.
+    void SetLocked(bool locked) { m_locked = locked; }
+
+    QString Text() const override { return m_word; }
+    void SetText(const QString& word) override;
+
+protected:
+    bool KeyPress(const QKeyEvent& key) override;
+    void Insert(const QString& text) override;
+
+private:
+    void Choose(QChar digit);
+
+    std::vector<Choice> m_choices;
+    QString m_word;
+    bool m_locked = false;
+};
+
+// A text in plain letters, such as the English side of the keyboard aid.
+class PlainField final : public Field {
+public:
+    PlainField(Screen* screen, const char* name);
+
+    // The clerk has changed the text.
+    Event Change;
+
+    QString Text() const override;
+    void SetText(const QString& text) override;
+
+protected:
+    bool KeyPress(const QKeyEvent& key) override;
+    void Insert(const QString& text) override;
+};

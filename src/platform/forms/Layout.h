@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Control.h"
+
+#include <QGridLayout>
+
+#include <initializer_list>
+
+class QVBoxLayout;
+
+// One key and what it does, as a strip at the foot of a screen shows it.
+struct KeyHint {
+    QString key;     // "F2", "Esc"
+    Caption action;
+};
+
+// The pieces that every screen is put together from, so that they all look like one program.
+namespace Layout {
+
+// The band at the head of a screen: its title, and the society and year at the right.
+QWidget* Header(Label& title, Label& company, Label& year);
+QWidget* Header(Label& title);
+
+// The strip at the foot of a screen: the keys and what they do.
+QWidget* KeyStrip(const std::vector<KeyHint>& hints);
+
+// Stacks the parts of a screen without gaps; `body` takes what room is left.
+void Stack(Screen& screen, QWidget* header, QLayout* body, QWidget* keys);
+
+// A row of buttons, spread evenly.
+QLayout* ButtonRow(std::initializer_list<Control*> buttons);
+
+// Fields under one another, each behind its caption. The caption names the field to a screen reader.
+class Form {
+public:
+    Form();
+
+    // One field behind its caption; `width` in pixels, 0 for as wide as the form.
+    void Row(const Caption& caption, Control& field, int width = 0);
+
+    // Several fields behind one caption; each has a caption of its own for a screen reader.
+    void Row(const Caption& caption, std::initializer_list<std::pair<Control*, Caption>> fields, int width);
+
+    // A label that fills a row, such as a guide line.
+    void Row(Label& label);
+
+    QGridLayout* Grid() const { return m_grid; }
+
+private:
+    QWidget* CaptionLabel(const Caption& caption) const;
+
+    QGridLayout* m_grid;
+    int m_row = 0;
+};
+
+// Makes a label a line of guidance: in the colour of guides, never growing the screen.
+void MakeGuide(Label& label);
+
+// A quiet caption, such as one above a column of fields.
+void MakeCaption(Label& label, bool bold = false);
+
+// Gives a field its height and, if not 0, its width.
+void SizeField(Control& field, int width);
+
+}

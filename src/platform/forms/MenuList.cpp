@@ -1,0 +1,84 @@
+#include "MenuList.h"
+
+#include "Look.h"
+
+#include <QKeyEvent>
+#include <QListWidget>
+
+namespace {
+
+QListWidget& ListOf(const Control& control)
+{
+    return *static_cast<QListWidget*>(control.Widget());
+}
+
+}
+
+MenuList::MenuList(Screen* screen, const char* name) : Control(screen, name, new QListWidget)
+{
+    QListWidget& list = ListOf(*this);
+    list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list.setFont(Look::Font(Look::Size::Large));
+    list.setSpacing(2);
+    QObject::connect(
+        &list, &QListWidget::itemDoubleClicked, &list, [this] { RunEvent([this] { Choose(); }); });
+    MenuList::ShowFocus(false);
+}
+
+void MenuList::SetEntries(const std::vector<Caption>& entries)
+{
+    m_entries = entries;
+    QListWidget& list = ListOf(*this);
+    list.clear();
+    for (const Caption& entry : entries)
+        list.addItem(entry.Seen());
+}
+
+int MenuList::CurrentIndex() const
+{
+    return ListOf(*this).currentRow();
+}
+
+void MenuList::SetCurrentIndex(int index)
+{
+    ListOf(*this).setCurrentRow(index);
+}
+
+QString MenuList::Text() const
+{
+    const int at = CurrentIndex();
+    return at < 0 ? QString() : m_entries[at].Text();
+}
+
+void MenuList::Choose()
+{
+    if (CanTakeFocus() && CurrentIndex() >= 0 && Chosen)
+        Chosen();
+}
+
+bool MenuList::KeyPress(const QKeyEvent& key)
+{
+    const int last = static_cast<int>(m_entries.size()) - 1;
+    switch (key.key()) {
+    case Qt::Key_Up:
+        SetCurrentIndex(std::max(CurrentIndex() - 1, 0));
+        break;
+    case Qt::Key_Down:
+        SetCurrentIndex(std::min(CurrentIndex() + 1, last));
+        break;
+    case Qt::Key_Home:
+        SetCurrentIndex(0);
+        break;
+    case Qt::Key_End:
+        SetCurrentIndex(last);
+        break;
+    default:
+        break;
+    }
+    return true;
+}
+
+void MenuList::ShowFocus(bool held)
+{
+    Look::SetListColours(*Widget(), held);
+}

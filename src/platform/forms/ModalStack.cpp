@@ -1,0 +1,43 @@
+#include "ModalStack.h"
+
+#include "Screen.h"
+
+ModalStack& ModalStack::Current()
+{
+    static ModalStack stack;
+    return stack;
+}
+
+Screen* ModalStack::Top() const
+{
+    return m_open.empty() ? nullptr : m_open.back();
+}
+
+void ModalStack::Send(const QString& keys)
+{
+    if (Screen* screen = Top())
+        screen->TypeLater(ParseKeys(keys));
+}
+
+void ModalStack::Fail(const RunTimeError& error)
+{
+    if (!m_failure)
+        m_failure = error;
+    for (Screen* screen : m_open)
+        screen->Close();
+}
+
+void ModalStack::Reset()
+{
+    m_failure.reset();
+}
+
+bool Application::notify(QObject* receiver, QEvent* event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const RunTimeError& error) {
+        ModalStack::Current().Fail(error);
+        return true;
+    }
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "RunTimeError.h"
+#include "SendKeys.h"
+
+#include <QApplication>
+
+#include <optional>
+#include <vector>
+
+class Screen;
+
+// The open screens, each opened by the one below it.
+class ModalStack {
+public:
+    static ModalStack& Current();
+
+    // The screen that the clerk works on; null if none is open.
+    Screen* Top() const;
+    const std::vector<Screen*>& Open() const { return m_open; }
+
+    // See SendKeys. Without a screen there is nobody to type to.
+    void Send(const QString& keys);
+
+    // A failure ends the program: every open screen is left at once, and nothing after its opening runs.
+    void Fail(const RunTimeError& error);
+    const std::optional<RunTimeError>& Failure() const { return m_failure; }
+
+    // Forgets a failure, so that a test can begin anew.
+    void Reset();
+
+private:
+    friend class Screen;
+
+    std::vector<Screen*> m_open;
+    std::optional<RunTimeError> m_failure;
+};
+
+// An application whose slots may fail, too: a run-time error outside a screen's events ends the program
+// through the modal stack.
+class Application : public QApplication {
+public:
+    // The program ends when its last screen returns, not when a window goes.
+    Application(int& argc, char** argv) : QApplication(argc, argv) { setQuitOnLastWindowClosed(false); }
+
+    bool notify(QObject* receiver, QEvent* event) override;
+};

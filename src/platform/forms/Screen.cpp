@@ -1,0 +1,430 @@
+#include "Screen.h"
+
+#include "Button.h"
+#include "Look.h"
+#include "ModalStack.h"
+
+#include <QCloseEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QTimer>
+
+#include <algorithm>
+
+Screen::Screen(const char* name)
+    : QWidget(ModalStack::Current().Top(), Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowTitleHint)
+    , m_focusColour(Look::FocusColour)
+    , m_plainColour(Look::PlainColour)
+{
+    setObjectName(QLatin1String(name));
+    setWindowModality(Qt::ApplicationModal);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+Screen::~Screen() = default;
+
+void Screen::Add(Control& control)
+{
+    m_controls.push_back(&control);
+    control.ShowFocus(false);
+}
+
+void Screen::Remove(Control& control)
+{
+    std::erase(m_controls, &control);
+    if (m_holder == &control)
+        m_holder = nullptr;
+}
+
+void Screen::ShowModal()
+{
+    ModalStack& stack = ModalStack::Current();
+    struct Level {
+        std::vector<Screen*>& open;
+        Screen& screen;
+        Level(std::vector<Screen*>& screens, Screen& self) : open(screens), screen(self) { open.push_back(&self); }
+        ~Level()
+        {
+            screen.m_open = false;
+            screen.hide();
+            std::erase(open, &screen);
+            if (open.empty())
+                return;
+            open.back()->TypeLater({screen.m_keys.begin(), screen.m_keys.end()});
+            open.back()->GiveWidgetFocus();
+        }
+    } level(stack.m_open, *this);
+
+    m_open = true;
+    if (m_holder)
+        LetGo(*m_holder);
+    m_holder = nullptr;
+    m_keys.clear();
+    m_due.clear();
+    Run([this] {
+        Load();
+        if (!m_open)
+            return;
+        show();
+        if (m_holder)
+            GiveWidgetFocus();
+        else
+            MoveNext();
+        Shown();
+    });
+    if (m_open)
+        m_loop.exec();
+    if (stack.Failure())
+        throw RunTimeError(*stack.Failure());
+}
+
+void Screen::Close()
+{
+    m_open = false;
+    m_loop.quit();
+}
+
+// A failure is caught here, where the screen's own code ends, so that it never passes through the window
+// system; an outer event meets it again when the opening of this screen throws.
+void Screen::Run(const Event& event)
+{
+    struct Running {
+        int& count;
+        explicit Running(int& events) : count(events) { ++count; }
+        ~Running() { --count; }
+    } running(m_running);
+    try {
+        event();
+        MendFocus();
+        if (m_running == 1)
+            RunWaiting();
+    } catch (const RunTimeError& error) {
+        ModalStack::Current().Fail(error);
+    }
+}
+
+void Screen::RunWaiting()
+{
+    while (m_open) {
+        if (!m_keys.empty()) {
+            const KeyStroke stroke = m_keys.front();
+            m_keys.pop_front();
+            QKeyEvent press(QEvent::KeyPress, stroke.key, stroke.modifiers, stroke.text);
+            Press(press);
+        } else if (!m_due.empty()) {
+            const Event handler = m_due.front();
+            m_due.pop_front();
+            Run(handler);
+        } else {
+            return;
+        }
+    }
+}
+
+void Screen::TypeLater(const std::vector<KeyStroke>& keys)
+{
+    m_keys.insert(m_keys.end(), keys.begin(), keys.end());
+    if (m_running == 0 && !keys.empty())
+        QTimer::singleShot(0, this, [this] { Run([] {}); });
+}
+
+void Screen::After(int milliseconds, const Event& handler)
+{
+    QTimer::singleShot(milliseconds, this, [this, handler] {
+        if (!m_open)
+            return;
+        m_due.push_back(handler);
+        Run([] {});
+    });
+}
+
+Control* Screen::Find(QStringView name) const
+{
+    const auto at = std::find_if(m_controls.begin(), m_controls.end(),
+        [name](const Control* control) { return control->Name().compare(name, Qt::CaseInsensitive) == 0; });
+    return at == m_controls.end() ? nullptr : *at;
+}
+
+QWidget* Screen::KeyTarget() const
+{
+    return m_holder ? m_holder->Widget() : const_cast<Screen*>(this);
+}
+
+void Screen::SetColours(QColor focus, QColor plain)
+{
+    m_focusColour = focus;
+    m_plainColour = plain;
+    for (Control* control : m_controls)
+        control->ShowFocus(control == m_holder);
+}
+
+void Screen::SetTitle(const Caption& title)
+{
+    m_title = title;
+    setWindowTitle(title.Seen().trimmed());
+    if (m_titleLabel)
+        m_titleLabel->SetCaption(title);
+}
+
+void Screen::SetTitleLabel(Label& label)
+{
+    m_titleLabel = &label;
+    label.SetCaption(m_title);
+}
+
+// Focus
+
+void Screen::SetFocus(Control& control)
+{
+    if (!control.CanTakeFocus())
+        return;
+    if (m_leaving)
+        m_asked = &control;
+    else
+        MoveTo(&control);
+}
+
+void Screen::MoveNext()
+{
+    MoveTo(Neighbour(m_holder, 1));
+}
+
+void Screen::MovePrevious()
+{
+    MoveTo(Neighbour(m_holder, -1));
+}
+
+Control* Screen::Neighbour(Control* from, int step) const
+{
+    const auto count = static_cast<std::ptrdiff_t>(m_controls.size());
+    const auto start = std::find(m_controls.begin(), m_controls.end(), from);
+    std::ptrdiff_t at = start == m_controls.end() ? (step > 0 ? -1 : count) : start - m_controls.begin();
+    for (std::ptrdiff_t tried = 0; tried < count; ++tried) {
+        at = (at + step + count) % count;
+        if (m_controls[at]->CanTakeFocus() && m_controls[at]->TabStop())
+            return m_controls[at];
+    }
+    return nullptr;
+}
+
+void Screen::MoveTo(Control* to, bool validate)
+{
+    if (!m_open || !to || to == m_holder || m_leaving)
+        return;
+    if (Control* from = m_holder) {
+        LetGo(*from);
+        m_asked = nullptr;
+        if (validate && from->LostFocus)
+            RunLostFocus(*from);
+        if (!m_open)
+            return;
+        if (m_asked)
+            to = m_asked;
+        if (!to->CanTakeFocus())
+            to = Neighbour(to, 1);
+    }
+    if (to)
+        Take(*to);
+}
+
+void Screen::RunLostFocus(Control& from)
+{
+    struct Leaving {
+        bool& leaving;
+        explicit Leaving(bool& flag) : leaving(flag) { leaving = true; }
+        ~Leaving() { leaving = false; }
+    } leaving(m_leaving);
+    from.LostFocus();
+}
+
+void Screen::Take(Control& control)
+{
+    m_holder = &control;
+    control.ShowFocus(true);
+    ShowGuide(control.Guide());
+    GiveWidgetFocus();
+    if (control.GotFocus)
+        control.GotFocus();
+}
+
+void Screen::LetGo(Control& control)
+{
+    control.ShowFocus(false);
+    ShowGuide({});
+}
+
+void Screen::SetGuideLabel(Label& label)
+{
+    m_guideLabel = &label;
+    ShowGuide({});
+}
+
+void Screen::ShowGuide(const Caption& guide)
+{
+    if (!m_guideLabel)
+        return;
+    m_guideLabel->SetCaption(guide);
+}
+
+// A holder that was disabled or hidden by the running event passes the focus on without a validation:
+// there is nothing left in it that the clerk could mend.
+void Screen::MendFocus()
+{
+    if (!m_open || m_leaving || (m_holder && m_holder->CanTakeFocus()))
+        return;
+    if (Control* next = Neighbour(m_holder, 1)) {
+        MoveTo(next, false);
+    } else if (m_holder) {
+        LetGo(*m_holder);
+        m_holder = nullptr;
+        GiveWidgetFocus();
+    }
+}
+
+void Screen::GiveWidgetFocus()
+{
+    if (!isVisible())
+        return;
+    if (ModalStack::Current().Top() == this && !isActiveWindow())
+        activateWindow();
+    KeyTarget()->setFocus(Qt::OtherFocusReason);
+}
+
+// Keys and the mouse
+
+bool Screen::eventFilter(QObject* watched, QEvent* event)
+{
+    Control* control = OfWidget(watched);
+    if (!control)
+        return QWidget::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        event->accept();
+        return true;
+    case QEvent::KeyPress:
+        Press(*static_cast<QKeyEvent*>(event));
+        return true;
+    case QEvent::InputMethod:
+        Compose(*static_cast<QInputMethodEvent*>(event));
+        return true;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        return static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton || !PressedByMouse(*control);
+    case QEvent::MouseButtonRelease:
+        if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
+            return true;
+        if (control == m_holder)
+            Run([this] { m_holder->MouseDone(); });
+        return false;
+    default:
+        return false;
+    }
+}
+
+void Screen::keyPressEvent(QKeyEvent* event)
+{
+    Press(*event);
+}
+
+// A key goes to the holder, whichever window the window system has sent it to, and no further.
+void Screen::Press(QKeyEvent& key)
+{
+    if (!m_open)
+        return;
+    Run([&] {
+        if (!Answer(key) && m_holder)
+            static_cast<QObject*>(m_holder->Widget())->event(&key);
+    });
+}
+
+void Screen::Compose(const QInputMethodEvent& event)
+{
+    if (!m_open || !m_holder || !m_holder->CanTakeFocus())
+        return;
+    Run([&] {
+        if (!event.commitString().isEmpty())
+            m_holder->Insert(event.commitString());
+        m_holder->ShowComposition(event.preeditString());
+    });
+}
+
+void Screen::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    if (m_open)
+        Run([this] { CloseBox(); });
+}
+
+// The mouse meets the viewport of a list in place of the list.
+Control* Screen::OfWidget(const QObject* widget) const
+{
+    const auto at = std::find_if(m_controls.begin(), m_controls.end(),
+        [widget](const Control* control) {
+            return control->Widget() == widget || control->Widget() == widget->parent();
+        });
+    return at == m_controls.end() ? nullptr : *at;
+}
+
+bool Screen::KeyDown(const QKeyEvent&)
+{
+    return false;
+}
+
+bool Screen::Answer(const QKeyEvent& key)
+{
+    if (KeyDown(key))
+        return true;
+    Control* control = m_holder && m_holder->CanTakeFocus() ? m_holder : nullptr;
+    if (control && control->KeyDown && control->KeyDown(key))
+        return true;
+    switch (key.key()) {
+    case Qt::Key_Escape:
+        Escape();
+        return true;
+    case Qt::Key_Tab:
+        Tab();
+        return true;
+    case Qt::Key_Backtab:
+        MovePrevious();
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (auto* button = dynamic_cast<Button*>(control))
+            button->Press();
+        else
+            Enter();
+        return true;
+    default:
+        break;
+    }
+    if (key.modifiers().testFlag(Qt::AltModifier) && AnswerMnemonic(key))
+        return true;
+    return !control || control->KeyPress(key);
+}
+
+bool Screen::AnswerMnemonic(const QKeyEvent& key)
+{
+    for (Control* control : m_controls) {
+        auto* button = dynamic_cast<Button*>(control);
+        if (!button || !button->CanTakeFocus())
+            continue;
+        const QChar mnemonic = button->Shown().Mnemonic();
+        if (mnemonic.isNull() || mnemonic.unicode() != key.key())
+            continue;
+        MoveTo(button);
+        if (m_holder == button)
+            button->Press();
+        return true;
+    }
+    return false;
+}
+
+// Returns whether the control holds the focus now, so that the press may reach it.
+bool Screen::PressedByMouse(Control& control)
+{
+    if (!m_open || !control.CanTakeFocus())
+        return false;
+    const auto* button = dynamic_cast<Button*>(&control);
+    Run([&] { MoveTo(&control, !(button && button->Cancels())); });
+    return m_holder == &control;
+}

@@ -1,0 +1,235 @@
+#include "TextField.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QChar Virama(0x094D);
+
+bool IsDevanagari(QChar c)
+{
+    return c.unicode() >= 0x0900 && c.unicode() <= 0x097F;
+}
+
+bool IsJoiner(QChar c)
+{
+    return c.unicode() == 0x200C || c.unicode() == 0x200D;
+}
+
+}
+
+TextField::TextField(Screen* screen, const char* name) : Field(screen, name) {}
+
+void TextField::SetText(const QString& stored)
+{
+    Hold(stored);
+    m_caret = m_anchor = stored.size();
+    Show();
+    Changed();
+}
+
+void TextField::Hold(const QString& stored)
+{
+    m_stored = stored;
+    const QString seen = Shivaji01::ToUnicode(stored, m_pieces);
+    if (seen != Line().text())
+        Line().setText(seen);
+}
+
+void TextField::SelectAll()
+{
+    m_anchor = 0;
+    m_caret = m_stored.size();
+    Show();
+}
+
+bool TextField::KeyPress(const QKeyEvent& key)
+{
+    const bool select = key.modifiers().testFlag(Qt::ShiftModifier);
+    switch (key.key()) {
+    case Qt::Key_Left:
+        MoveCaret(Before(m_caret), select);
+        return true;
+    case Qt::Key_Right:
+        MoveCaret(Behind(m_caret), select);
+        return true;
+    case Qt::Key_Home:
+        MoveCaret(0, select);
+        return true;
+    case Qt::Key_End:
+        MoveCaret(m_stored.size(), select);
+        return true;
+    case Qt::Key_Backspace:
+        Backspace();
+        return true;
+    case Qt::Key_Delete:
+        Delete();
+        return true;
+    default:
+        break;
+    }
+    if (key.matches(QKeySequence::SelectAll))
+        SelectAll();
+    else if (key.matches(QKeySequence::Paste))
+        Insert(QGuiApplication::clipboard()->text());
+    else if (!CopyKey(key) && !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)))
+        Insert(key.text());
+    return true;
+}
+
+void TextField::Insert(const QString& text)
+{
+    QString taken;
+    for (QChar c : text)
+        if ((c.isPrint() || IsJoiner(c)) && (!Accepts || Accepts(c)))
+            taken += c;
+    if (taken.isEmpty())
+        return;
+    if (IsJoiner(taken[0]) || std::any_of(taken.cbegin(), taken.cend(), IsDevanagari))
+        InsertSeen(taken);
+    else
+        Replace(Selection(), taken);
+}
+
+// A sign belongs to the syllable before it, and so does what follows a half letter: that syllable is
+// spelled anew. All else that stands in the field keeps the spelling that it has.
+void TextField::InsertSeen(const QString& devanagari)
+{
+    Range range = Selection();
+    const qsizetype before = Before(range.start);
+    const QString syllable = Shivaji01::ToUnicode(QStringView(m_stored).mid(before, range.start - before));
+    if (!devanagari[0].isMark() && !IsJoiner(devanagari[0]) && !syllable.endsWith(Virama)) {
+        Replace(range, Shivaji01::FromUnicode(devanagari));
+        return;
+    }
+    range.start = before;
+    const QString whole = syllable + devanagari;
+    Replace(range, Shivaji01::FromUnicode(whole));
+}
+
+// The line edit shows it at its caret, and would take a selection away behind the field's back.
+void TextField::ShowComposition(const QString& text)
+{
+    if (!text.isEmpty())
+        EraseSelection();
+    QInputMethodEvent shown(text, {});
+    static_cast<QObject&>(Line()).event(&shown);
+}
+
+TextField::Range TextField::Selection() const
+{
+    return {std::min(m_caret, m_anchor), std::max(m_caret, m_anchor)};
+}
+
+void TextField::Replace(Range range, const QString& stored)
+{
+    QString text = m_stored;
+    text.replace(range.start, range.end - range.start, stored);
+    if (m_maxLength > 0 && text.size() > m_maxLength && text.size() > m_stored.size())
+        return;
+    Hold(text);
+    m_caret = m_anchor = range.start + stored.size();
+    Show();
+    Changed();
+    if (Change)
+        Change();
+}
+
+bool TextField::EraseSelection()
+{
+    if (m_caret == m_anchor)
+        return false;
+    Replace(Selection(), {});
+    return true;
+}
+
+// Keys are taken back until less is seen: a half form without its stem is more to read than the letter.
+void TextField::Backspace()
+{
+    if (EraseSelection() || m_caret == 0)
+        return;
+    const QStringView before = QStringView(m_stored).left(m_caret);
+    const qsizetype seen = Shivaji01::ToUnicode(before).size();
+    qsizetype left = m_caret - 1;
+    while (left > 0 && Shivaji01::ToUnicode(before.left(left)).size() >= seen)
+        --left;
+    Replace({left, m_caret}, {});
+}
+
+void TextField::Delete()
+{
+    if (!EraseSelection() && m_caret < m_stored.size())
+        Replace({m_caret, Behind(m_caret)}, {});
+}
+
+void TextField::MoveCaret(qsizetype to, bool select)
+{
+    m_caret = to;
+    if (!select)
+        m_anchor = to;
+    Show();
+}
+
+void TextField::MouseDone()
+{
+    const auto caret = StoredOf(Line().cursorPosition());
+    if (!Line().hasSelectedText()) {
+        MoveCaret(caret, false);
+        return;
+    }
+    m_anchor = StoredOf(Line().selectionStart());
+    m_caret = StoredOf(Line().selectionStart() + Line().selectedText().size());
+    Show();
+}
+
+void TextField::Show()
+{
+    const auto caret = static_cast<int>(SeenOf(m_caret));
+    const auto anchor = static_cast<int>(SeenOf(m_anchor));
+    if (caret == anchor)
+        Line().setCursorPosition(caret);
+    else
+        Line().setSelection(anchor, caret - anchor);
+}
+
+qsizetype TextField::SeenOf(qsizetype stored) const
+{
+    for (const Shivaji01::Piece& piece : m_pieces)
+        if (stored <= piece.storedStart)
+            return piece.seenStart;
+        else if (stored < piece.storedStart + piece.storedLength)
+            return piece.seenStart + piece.seenLength;
+    return Line().text().size();
+}
+
+qsizetype TextField::StoredOf(qsizetype seen) const
+{
+    for (const Shivaji01::Piece& piece : m_pieces)
+        if (seen <= piece.seenStart + piece.seenLength / 2)
+            return piece.storedStart;
+        else if (seen < piece.seenStart + piece.seenLength)
+            return piece.storedStart + piece.storedLength;
+    return m_stored.size();
+}
+
+qsizetype TextField::Before(qsizetype stored) const
+{
+    qsizetype start = 0;
+    for (const Shivaji01::Piece& piece : m_pieces)
+        if (piece.storedStart < stored)
+            start = piece.storedStart;
+    return start;
+}
+
+qsizetype TextField::Behind(qsizetype stored) const
+{
+    for (const Shivaji01::Piece& piece : m_pieces)
+        if (piece.storedStart + piece.storedLength > stored)
+            return piece.storedStart + piece.storedLength;
+    return m_stored.size();
+}

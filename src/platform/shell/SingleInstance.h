@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+// Keeps a second copy of the program away from the same books. The lock is the operating system's, so a
+// killed program leaves none behind.
+class SingleInstance {
+public:
+    // Takes the lock of a folder, which must exist and be writable: a RunTimeError if it isn't. The lock is
+    // held on the file Vetrolan.lock, which goes when the lock is given back; left behind by a killed
+    // program, it locks nobody out.
+    explicit SingleInstance(const QString& folder);
+    ~SingleInstance();
+
+    // Whether this process holds the lock.
+    bool Taken() const;
+
+private:
+    class Private;
+    std::unique_ptr<Private> m_d;
+};

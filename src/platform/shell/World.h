@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+// The machine's date and time.
+class Clock {
+public:
+    virtual ~Clock() = default;
+    virtual QDateTime Now() const = 0;
+};
+
+// Starts a calculator beside the program.
+class Calculator {
+public:
+    virtual ~Calculator() = default;
+
+    // `program` is the path that the system names, such as AppFolder's calc.EXE. If that file isn't
+    // there the desktop's own calculator is started. Returns false if there is none at all.
+    virtual bool Start(const QString& program, bool maximised) = 0;
+};
+
+// The plain message box of the platform: one text, one button.
+class MessageBox {
+public:
+    virtual ~MessageBox() = default;
+
+    // Returns when the clerk has closed the box.
+    virtual void Show(const QString& text) = 0;
+};
+
+// What the program asks of the machine around it. Whoever replaces a part (a test, the tour) owns it.
+struct World {
+    Clock* clock;
+    Calculator* calculator;
+    MessageBox* messageBox;
+
+    // The world of this process; it begins as the real one.
+    static World& Current();
+
+    // The real one, made anew.
+    static World Real();
+};

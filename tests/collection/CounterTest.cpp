@@ -1,0 +1,33 @@
+#include "CounterTest.h"
+
+#include "Sql.h"
+
+void CounterTest::AddDelivery(const QString& date, const QString& shift, int number, int member,
+    const QString& name, const QString& animal, double liters, double fat, double rate, double amount)
+{
+    Run(Sql(u"insert into "
+            u"MilkCollections(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,"
+            u"Animal,Liters,Fat,Rate,Amount,TranId,ActualCollectionTime) values(1,'",
+        date, u"','", shift, u"',", number, u",", member, u",'", name, u"','", animal, u"',", liters, u",",
+        fat, u",", rate, u",", amount, u",0,'5.55')"));
+}
+
+void CounterTest::Set(const char* setting, const char* value)
+{
+    Run(Sql(
+        u"update AutoSettings set ", QString::fromLatin1(setting), u"='", QString::fromLatin1(value), u"'"));
+}
+
+QStringList CounterTest::Of(std::initializer_list<const char*> lines)
+{
+    QStringList list;
+    for (const char* line : lines)
+        list.append(QString::fromLatin1(line));
+    return list;
+}
+
+QStringList CounterTest::Lines(const QString& table)
+{
+    return Rows(Sql(u"select CollectionNo,MemberNo,MemberName,Animal,Liters,Fat,Rate,Amount from ", table,
+        u" order by CollectionDate,CollectionTime,CollectionNo"));
+}

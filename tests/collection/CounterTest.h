@@ -1,0 +1,86 @@
+#pragma once
+
+#include "SocietyTest.h"
+#include "frmMilkCollections.h"
+
+#include <QLabel>
+
+// A society with three members at its counter: 1 brings cow milk, 2 buffalo milk, 3 both. It is the morning
+// of 15/04/2026; the delivered chart gives 35.00 for a cow's 4.5 and 49.00 for a buffalo's 8.0.
+class CounterTest : public SocietyTest {
+protected:
+    CounterTest()
+    {
+        AddMember(1, QStringLiteral("rama"), QStringLiteral("gaaya"));
+        AddMember(2, QStringLiteral("saIta"), QStringLiteral("mhOsa"));
+        AddMember(3, QStringLiteral("gaNaoSa"), QStringLiteral("daonhI"));
+    }
+
+    // Plays on the counter as it opens, with the focus on the date.
+    void AtTheCounter(const std::function<void(Clerk&)>& script) { On<frmMilkCollections>(script); }
+
+    // Plays with a shift open and the focus on the collection number.
+    void InTheMorning(const std::function<void(Clerk&)>& script)
+    {
+        On<frmMilkCollections>([&](Clerk& clerk) {
+            Type(clerk, "{ENTER}1{ENTER}");
+            script(clerk);
+        });
+    }
+
+    static void Type(Clerk& clerk, const char* keys) { clerk.Type(QString::fromLatin1(keys)); }
+    static std::string Reads(Clerk& clerk, const char* control)
+    {
+        return clerk.Reads(QString::fromLatin1(control)).toStdString();
+    }
+    static std::string Focus(Clerk& clerk) { return clerk.Focus().toStdString(); }
+    static bool CanEnter(Clerk& clerk, const char* control)
+    {
+        return clerk.CanEnter(QString::fromLatin1(control));
+    }
+
+    static const QLabel& LabelOf(Clerk& clerk, const char* label)
+    {
+        return *clerk.Top().findChild<QLabel*>(QString::fromLatin1(label));
+    }
+    static bool Shows(Clerk& clerk, const char* label) { return !LabelOf(clerk, label).isHidden(); }
+
+    // From the number field through the line and back to it: a member with one animal.
+    static void Deliver(Clerk& clerk, int member, const char* liters, const char* fat)
+    {
+        clerk.Type(QStringLiteral("{ENTER}%1{ENTER}%2{ENTER}%3{ENTER}{ENTER}{ENTER}")
+                       .arg(member)
+                       .arg(QString::fromLatin1(liters), QString::fromLatin1(fat)));
+    }
+
+    // The same for a member with both; animal 1 or 2.
+    static void DeliverOf(Clerk& clerk, int member, int animal, const char* liters, const char* fat)
+    {
+        clerk.Type(QStringLiteral("{ENTER}%1{ENTER}%2{ENTER}%3{ENTER}%4{ENTER}{ENTER}{ENTER}")
+                       .arg(member)
+                       .arg(animal)
+                       .arg(QString::fromLatin1(liters), QString::fromLatin1(fat)));
+    }
+
+    // A delivery that is in the books already.
+    void AddDelivery(const QString& date, const QString& shift, int number, int member, const QString& name,
+        const QString& animal, double liters, double fat, double rate, double amount);
+
+    // One that member 1 made in the morning of the 15th: 5 litres of 4.5.
+    void AddMorningDelivery(int number)
+    {
+        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), number, 1, QStringLiteral("rama"),
+            QStringLiteral("gaaya"), 5, 4.5, 35, 175);
+    }
+
+    void Set(const char* setting, const char* value);
+
+    QStringList Books() { return Lines(QStringLiteral("MilkCollections")); }
+    QStringList Copy() { return Lines(QStringLiteral("MilkCollectionsTemp")); }
+
+    // What a test compares lists of lines with.
+    static QStringList Of(std::initializer_list<const char*> lines);
+
+private:
+    QStringList Lines(const QString& table);
+};

@@ -1,0 +1,146 @@
+#include "CounterTest.h"
+
+namespace {
+
+class MemberByNameTest : public CounterTest {
+protected:
+    // With the number left empty and the focus on the name.
+    void AtTheName(const std::function<void(Clerk&)>& script)
+    {
+        InTheMorning([&](Clerk& clerk) {
+            Type(clerk, "{ENTER}{ENTER}");
+            script(clerk);
+        });
+    }
+
+    static NameCombo& Combo(Clerk& clerk)
+    {
+        return dynamic_cast<NameCombo&>(*clerk.Top().Find(u"ComboMemberName"));
+    }
+};
+
+TEST_F(MemberByNameTest, AnEmptyNumberOpensTheListOfNamesInOrder)
+{
+    AtTheName([](Clerk& clerk) {
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
+        EXPECT_TRUE(Combo(clerk).IsDroppedDown());
+        EXPECT_EQ(Combo(clerk).Items(), Of({"gaNaoSa", "rama", "saIta"}));
+    });
+}
+
+TEST_F(MemberByNameTest, AMemberAddedMeanwhileIsInTheList)
+{
+    InTheMorning([this](Clerk& clerk) {
+        AddMember(4, QStringLiteral("Aajaaobaa"));
+        Type(clerk, "{ENTER}{ENTER}");
+        EXPECT_EQ(Combo(clerk).Items().size(), 4);
+    });
+}
+
+TEST_F(MemberByNameTest, ANumberOfZeroIsEmptied)
+{
+    InTheMorning([](Clerk& clerk) {
+        Type(clerk, "{ENTER}00{ENTER}");
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "");
+    });
+}
+
+TEST_F(MemberByNameTest, TheFirstEnterFindsTheMemberAndTheNextGoesOn)
+{
+    AtTheName([](Clerk& clerk) {
+        Type(clerk, "rama{ENTER}");
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
+        EXPECT_FALSE(Combo(clerk).IsDroppedDown());
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "1");
+        EXPECT_EQ(Reads(clerk, "txtAnimal"), "gaaya");
+        EXPECT_FALSE(CanEnter(clerk, "txtAnimal"));
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtLiters");
+    });
+}
+
+TEST_F(MemberByNameTest, ANameCanBePickedFromTheList)
+{
+    AtTheName([](Clerk& clerk) {
+        Type(clerk, "{DOWN}{DOWN}{ENTER}");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "rama");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "1");
+    });
+}
+
+TEST_F(MemberByNameTest, AMemberOfBothGoesToTheAnimalAtOnce)
+{
+    AtTheName([](Clerk& clerk) {
+        Type(clerk, "gaNaoSa{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtAnimal");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "3");
+        EXPECT_EQ(Reads(clerk, "txtAnimal"), "");
+    });
+}
+
+TEST_F(MemberByNameTest, AnUnknownNameStaysWithTheListDroppedOpen)
+{
+    AtTheName([](Clerk& clerk) {
+        Type(clerk, "raja{ENTER}");
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
+        EXPECT_TRUE(Combo(clerk).IsDroppedDown());
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "raja");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "");
+        EXPECT_EQ(Reads(clerk, "txtAnimal"), "");
+    });
+}
+
+TEST_F(MemberByNameTest, AnUnknownNameBesideANumberChangesNothing)
+{
+    InTheMorning([](Clerk& clerk) {
+        Type(clerk, "{ENTER}3{ENTER}1{ENTER}2");
+        clerk.Press(QStringLiteral("ComboMemberName"));
+        Type(clerk, "{END}+{HOME}raja{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtAnimal");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "3");
+        EXPECT_EQ(Reads(clerk, "txtAnimal"), "gaaya");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "raja");
+    });
+}
+
+TEST_F(MemberByNameTest, BlanksAroundANameDoNotCount)
+{
+    Run(QStringLiteral("update MembersMaster set MemberName='rama ' where MemberNo=1"));
+    AtTheName([](Clerk& clerk) {
+        Type(clerk, " rama{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "1");
+    });
+}
+
+TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheFirstIsFound)
+{
+    AddMember(8, QStringLiteral("rama"), QStringLiteral("mhOsa"));
+    AtTheName([](Clerk& clerk) {
+        Type(clerk, "rama{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "1");
+        EXPECT_EQ(Reads(clerk, "txtAnimal"), "gaaya");
+    });
+}
+
+TEST_F(MemberByNameTest, AnEmptyNameIsAskedForAndHoldsTheFocus)
+{
+    AtTheName([](Clerk& clerk) {
+        for (const char* empty : {"{ENTER}", " {ENTER}"}) {
+            Type(clerk, empty);
+            EXPECT_EQ(clerk.Message(), QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra")) << empty;
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(Focus(clerk), "ComboMemberName") << empty;
+        }
+    });
+}
+
+TEST_F(MemberByNameTest, ApostrophesAndDigitsAreDropped)
+{
+    AtTheName([](Clerk& clerk) {
+        Type(clerk, "r'a1m2a");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "rama");
+    });
+}
+
+}

@@ -1,0 +1,99 @@
+#include "SocietyTest.h"
+
+#include "Messages.h"
+#include "Narrations.h"
+
+namespace {
+
+class Messages : public SocietyTest {
+protected:
+    bool m_answer = false;
+
+    void AskOf(const std::function<void(Clerk&)>& script)
+    {
+        TheClerk.Play([this] { m_answer = Ask(u"roka^D- na@kI badlaayacao ka Æ"); }, script);
+    }
+
+    void NoticeOf(const std::function<void(Clerk&)>& script)
+    {
+        TheClerk.Play([] { ShowNotice(u"yaa naavaacao roka^D- Agaaodrca Aaho"); }, script);
+    }
+};
+
+}
+
+TEST_F(Messages, AQuestionOffersYesAndNoAndANoticeOnlyToGoOn)
+{
+    AskOf([](Clerk& clerk) {
+        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("cmdOkYes")));
+        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("cmdCancelNo")));
+        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdExit")));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdOkYes"));
+    });
+    NoticeOf([](Clerk& clerk) {
+        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdOkYes")));
+        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdCancelNo")));
+        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("cmdExit")));
+    });
+}
+
+TEST_F(Messages, TheKeysOfTheCaptionsAnswer)
+{
+    AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("%h")); });
+    EXPECT_TRUE(m_answer);
+    EXPECT_EQ(frmMessages::MessageAnswer, 1);
+    AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("%n")); });
+    EXPECT_FALSE(m_answer);
+    EXPECT_EQ(frmMessages::MessageAnswer, 0);
+}
+
+TEST_F(Messages, ANoticeLeavesTheAnswerAsTheLastQuestionLeftIt)
+{
+    AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("{ENTER}")); });
+    NoticeOf([](Clerk& clerk) { clerk.Type(QStringLiteral("{ENTER}")); });
+    EXPECT_EQ(frmMessages::MessageAnswer, 1);
+}
+
+TEST_F(Messages, ClosedByItsCloseBoxNoAnswerIsSetAndNothingIsAgreedTo)
+{
+    AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("%h")); });
+    AskOf([](Clerk& clerk) { clerk.CloseBox(); });
+    EXPECT_EQ(frmMessages::MessageAnswer, 1) << "as the last question left it";
+    EXPECT_FALSE(m_answer);
+    AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("{ESC}")); });
+    EXPECT_FALSE(m_answer);
+}
+
+TEST_F(Messages, ThePromptKeepsWhatWasTypedOnLeavingAndOnPuzo)
+{
+    QString narration;
+    TheClerk.Play(
+        [&] {
+            frmNarrations prompt(Plain(u"नाव"));
+            prompt.ShowModal();
+            narration = prompt.Narration;
+        },
+        [](Clerk& clerk) {
+            EXPECT_EQ(clerk.Focus(), QStringLiteral("txtNarration"));
+            clerk.Type(QStringLiteral("rama{ENTER}"));
+            EXPECT_EQ(clerk.On<frmNarrations>().Narration, QStringLiteral("rama"));
+            clerk.Type(QStringLiteral("{ENTER}"));
+            EXPECT_EQ(clerk.ScreenName(), QString());
+        });
+    EXPECT_EQ(narration, QStringLiteral("rama"));
+}
+
+TEST_F(Messages, ThePromptOpensTheKeyboardTutorWithF12)
+{
+    TheClerk.Play(
+        [] {
+            frmNarrations prompt(Plain(u"नाव"));
+            prompt.ShowModal();
+        },
+        [](Clerk& clerk) {
+            clerk.Type(QStringLiteral("{F12}"));
+            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
+            clerk.Type(QStringLiteral("{ESC}"));
+            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmNarrations"));
+        });
+}

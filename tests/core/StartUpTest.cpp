@@ -1,0 +1,134 @@
+#include "SocietyTest.h"
+
+#include "AppFolder.h"
+#include "PasswordItems.h"
+
+#include <QFile>
+
+namespace {
+
+class StartUp : public SocietyTest {
+protected:
+    // Starts anew on the books as they stand now.
+    bool StartAgain()
+    {
+        gCn.Close();
+        return LoadAppState();
+    }
+};
+
+// Disguises a password the way the installer does, one item a line.
+QStringList Disguised(const QString& password, QChar key)
+{
+    QStringList items;
+    for (QChar c : password)
+        items.append(QChar(c.unicode() + key.unicode()));
+    return items << QString(key);
+}
+
+}
+
+TEST_F(StartUp, TakesTheCompanyTheSettingsAndTheRightsFromTheBooks)
+{
+    Run(QStringLiteral("update AutoSettings set AutoFat=' haoya ',WeighScale=' MCS '"));
+    ASSERT_TRUE(StartAgain());
+    EXPECT_EQ(gAppState.gCompanyId, 1);
+    EXPECT_EQ(Seen(gAppState.gCompanyName), QStringLiteral("श्री गणेश दूध संस्था"));
+    EXPECT_EQ(gAppState.gAccountingYear.left(4), QStringLiteral("2026"));
+    EXPECT_EQ(gAppState.gFromDate, QDate(2026, 4, 1));
+    EXPECT_EQ(gAppState.gToDate, QDate(2027, 3, 31));
+    EXPECT_EQ(gAppState.gAutoFat, QStringLiteral("haoya"));
+    EXPECT_EQ(gAppState.gWeighScale, QStringLiteral("MCS"));
+    EXPECT_EQ(gAppState.gExtraRsPerLtr, QStringLiteral("0"));
+    EXPECT_EQ(gAppState.gCallerTag, QStringLiteral("N"));
+    EXPECT_EQ(gAppState.gAdminLoggedIn, QStringLiteral("NO"));
+    EXPECT_NE(gAppState.gAccessMaster, 0);
+    EXPECT_NE(gAppState.gAccessUtilities, 0);
+    EXPECT_FALSE(gAppState.gAppDate.isValid());
+}
+
+TEST_F(StartUp, AnEmptyCompanySelectedTurnsTheCompanyIntoZeroAndGoesOn)
+{
+    Run(QStringLiteral("delete * from CompanySelected"));
+    ASSERT_TRUE(StartAgain());
+    EXPECT_EQ(gAppState.gCompanyId, 0);
+    EXPECT_TRUE(gAppState.gCompanyName.isEmpty());
+    EXPECT_TRUE(gAppState.gAccountingYear.isEmpty());
+    EXPECT_TRUE(gAppState.gAutoFat.isEmpty()) << "no settings row has company 0";
+}
+
+TEST_F(StartUp, WithoutASettingsRowTheSettingsStayEmpty)
+{
+    Run(QStringLiteral("delete * from AutoSettings"));
+    ASSERT_TRUE(StartAgain());
+    EXPECT_TRUE(gAppState.gPaymentDuration.isEmpty());
+    EXPECT_TRUE(gAppState.gAutoLiters.isEmpty());
+    EXPECT_TRUE(gAppState.gExtraRsPerLtr.isEmpty());
+}
+
+TEST_F(StartUp, WithoutAnyRightTheMessageIsShownAndNoScreenComesUp)
+{
+    Run(QStringLiteral("delete * from MenuAccessTable"));
+    gCn.Close();
+    Failure =
+        TheClerk.Play([] { AppMain(); }, [](Clerk& clerk) { EXPECT_EQ(clerk.ScreenName(), QString()); });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("Contact Service provider for Technical Support")));
+}
+
+TEST_F(StartUp, RightsWithoutARowForMasterLeaveTheMasterListClosed)
+{
+    Run(QStringLiteral("delete * from MenuAccessTable where MenuName='Master'"));
+    Run(QStringLiteral("insert into MenuAccessTable(MenuName,AccessYesNo) values('Milk Master',1)"));
+    ASSERT_TRUE(StartAgain());
+    EXPECT_EQ(gAppState.gAccessMaster, 0);
+    EXPECT_NE(gAppState.gAccessStockVoucher, 0);
+}
+
+TEST_F(StartUp, EachMenuNameFillsItsOwnFlag)
+{
+    Run(QStringLiteral("delete * from MenuAccessTable"));
+    const QStringList names = {QStringLiteral("Master"), QStringLiteral("Account Voucher"),
+        QStringLiteral("Stock Voucher"), QStringLiteral("Account Report"), QStringLiteral("Stock Report"),
+        QStringLiteral("Statistical Report"), QStringLiteral("Utilities")};
+    for (int i = 0; i < names.size(); ++i)
+        Run(QStringLiteral("insert into MenuAccessTable(MenuName,AccessYesNo) values('%1',%2)")
+                .arg(names[i])
+                .arg(i + 1));
+    ASSERT_TRUE(StartAgain());
+    EXPECT_EQ(gAppState.gAccessMaster, 1);
+    EXPECT_EQ(gAppState.gAccessAccountVoucher, 2);
+    EXPECT_EQ(gAppState.gAccessStockVoucher, 3);
+    EXPECT_EQ(gAppState.gAccessAccountReport, 4);
+    EXPECT_EQ(gAppState.gAccessStockReport, 5);
+    EXPECT_EQ(gAppState.gAccessStatisticalReport, 6);
+    EXPECT_EQ(gAppState.gAccessUtilities, 7);
+}
+
+TEST(PasswordItems, CommasAndLineEndsSeparateItemsAndQuotesKeepThemTogether)
+{
+    EXPECT_EQ(ItemsOf(QStringLiteral("a,b\r\nc\n\",\",\"d\"\r\n")),
+        QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral(","),
+            QStringLiteral("d")}));
+}
+
+TEST(PasswordItems, TheLastItemIsTheKeyThatEveryOtherIsShiftedUpBy)
+{
+    EXPECT_EQ(PasswordOfItems(Disguised(QStringLiteral("Doodh#26"), u'\x05')), QStringLiteral("Doodh#26"));
+    EXPECT_EQ(PasswordOfItems(Disguised(QStringLiteral("x"), u'!')), QStringLiteral("x"));
+    EXPECT_EQ(PasswordOfItems({QStringLiteral("k")}), QString()) << "a key alone hides no password";
+}
+
+TEST(PasswordItems, OnlyTheFirstCharacterOfAnItemCounts)
+{
+    QStringList items = Disguised(QStringLiteral("ab"), u'!');
+    items[0] += QStringLiteral("zzz");
+    EXPECT_EQ(PasswordOfItems(items), QStringLiteral("ab"));
+}
+
+TEST(PasswordItems, ADamagedFileIsARunTimeError)
+{
+    EXPECT_THROW(PasswordOfItems({}), RunTimeError);
+    EXPECT_THROW(PasswordOfItems({QStringLiteral("a"), QString()}), RunTimeError);
+    EXPECT_THROW(PasswordOfItems({QStringLiteral("!"), QStringLiteral("z")}), RunTimeError);
+}

@@ -1,0 +1,158 @@
+#include "MembersTest.h"
+
+#include "Sql.h"
+
+namespace {
+
+class MembersDelete : public MembersTest {
+protected:
+    MembersDelete()
+    {
+        AddMember(1, QStringLiteral("rama"));
+        AddMember(2, QStringLiteral("Xyaama"));
+        for (int number : {1, 2}) {
+            const QString name = number == 1 ? QStringLiteral("rama") : QStringLiteral("Xyaama");
+            AddCollection(number, name, 10);
+            AddPayment(number, name, 10);
+            AddUchal(number, 10);
+            AddReceipt(number, QStringLiteral("Uchal Receipt"), 10);
+            AddDeduction(number, QStringLiteral("gaaya zova"), 10);
+            AddVoucher(name, QStringLiteral("raoK"));
+            AddVoucher(QStringLiteral("raoK"), name);
+        }
+    }
+
+    // How many rows each of the seven tables holds.
+    QStringList RowCounts()
+    {
+        QStringList counts;
+        for (const char* table : {"MembersMaster", "MilkCollections", "MilkPayments", "TransactionsMaster",
+                 "TransactionsDetails", "AdvanceReceipt", "MilkPaymentsDetails"})
+            counts.append(One(QStringLiteral("select count(*) from ") + QLatin1String(table)));
+        return counts;
+    }
+};
+
+const QString DeleteQuestion =
+    QStringLiteral("maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ");
+
+}
+
+TEST_F(MembersDelete, AFoundNumberShowsTheMemberAndWaitsOnTheDeleteButton)
+{
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%k2{ENTER}"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), QStringLiteral("Xyaama"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdDelete"));
+        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("txtCowOpeningLits")));
+    });
+}
+
+TEST_F(MembersDelete, AFoundNameDoesTheSame)
+{
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%k{ENTER}Xyaama{ENTER}"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QStringLiteral("2"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdDelete"));
+    });
+}
+
+TEST_F(MembersDelete, AnUnknownNumberIsRefusedWithANotice)
+{
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%k3{ENTER}"));
+        GoOn(clerk, QStringLiteral("yaa maombar naMbarcao roka^D- ]plabQa naahI"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+    });
+}
+
+TEST_F(MembersDelete, AnUnknownNameWithoutANumberHoldsTheFocus)
+{
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%k{ENTER}gaNaoXa{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        EXPECT_EQ(clerk.Message(), QString());
+    });
+}
+
+TEST_F(MembersDelete, WithoutANumberThePressGoesBackToIt)
+{
+    const QStringList before = RowCounts();
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%k%k"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdDelete")), QStringLiteral("&KaoDa"));
+    });
+    EXPECT_EQ(RowCounts(), before);
+}
+
+TEST_F(MembersDelete, YesTakesTheMemberOutOfAllSevenTables)
+{
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}"));
+        EXPECT_EQ(clerk.Message(), DeleteQuestion);
+        clerk.Type(QStringLiteral("%h"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdDelete")), QStringLiteral("&KaoDNao"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdDelete"));
+    });
+    EXPECT_EQ(RowCounts().join(u' '), QStringLiteral("1 1 1 2 1 1 1"));
+    for (const char* table : {"MembersMaster", "MilkCollections", "MilkPayments", "TransactionsDetails",
+             "AdvanceReceipt", "MilkPaymentsDetails"})
+        EXPECT_EQ(One(QStringLiteral("select MemberNo from ") + QLatin1String(table)), QStringLiteral("2"))
+            << table;
+}
+
+TEST_F(MembersDelete, VouchersOfTheNameGoWhateverTheirOtherSide)
+{
+    AddVoucher(QStringLiteral("rama"), QStringLiteral("Xyaama"));
+    AddVoucher(QStringLiteral("Xyaama"), QStringLiteral("rama"));
+    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h")); });
+    EXPECT_EQ(Rows(QStringLiteral("select DAccountName,CAccountName from TransactionsMaster")).join(u' '),
+        QStringLiteral("Xyaama|raoK raoK|Xyaama"));
+}
+
+TEST_F(MembersDelete, RowsOfAnotherCompanyStay)
+{
+    AddCollection(1, QStringLiteral("rama"), 10, 2);
+    AddVoucher(QStringLiteral("rama"), QStringLiteral("raoK"), 2);
+    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h")); });
+    EXPECT_EQ(RowCounts().join(u' '), QStringLiteral("1 2 1 3 1 1 1"));
+}
+
+TEST_F(MembersDelete, NoKeepsTheRecord)
+{
+    const QStringList before = RowCounts();
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%n"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdDelete")), QStringLiteral("&KaoDNao"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QString());
+    });
+    EXPECT_EQ(RowCounts(), before);
+}
+
+TEST_F(MembersDelete, AFailureInTheLastTableKeepsTheRowsOfAllOthers)
+{
+    Run(QStringLiteral("drop table MilkPaymentsDetails"));
+    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h")); });
+    ASSERT_TRUE(Failure);
+    EXPECT_EQ(Failure->Statement(),
+        QStringLiteral("Delete * From MilkPaymentsDetails Where CompanyId=1 And MemberNo=1"));
+    for (const char* table :
+        {"MembersMaster", "MilkCollections", "MilkPayments", "TransactionsDetails", "AdvanceReceipt"})
+        EXPECT_EQ(One(QStringLiteral("select count(*) from ") + QLatin1String(table)), QStringLiteral("2"))
+            << table;
+    EXPECT_EQ(One(QStringLiteral("select count(*) from TransactionsMaster")), QStringLiteral("4"));
+}
+
+TEST_F(MembersDelete, AfterTheLastMemberOnlyNewIsLeftAndHasTheFocus)
+{
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h"));
+        clerk.Type(QStringLiteral("{ENTER}2{ENTER}{ENTER}%h"));
+        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdModify")));
+        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdDelete")));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
+    });
+    EXPECT_EQ(RowCounts().join(u' '), QStringLiteral("0 0 0 0 0 0 0"));
+}

@@ -1,0 +1,273 @@
+#include "MembersTest.h"
+
+namespace {
+
+class MembersFields : public MembersTest {
+protected:
+    // A new member on its way, with the focus on the field; only fields that any keys lead to.
+    void OnField(const QString& field, const std::function<void(Clerk&)>& script)
+    {
+        Play([&](Clerk& clerk) {
+            clerk.Type(QStringLiteral("{ENTER}"));
+            TypeEach(
+                clerk, {QString(), QStringLiteral("gaNaoXa"), QString(), QString(), QStringLiteral("3")});
+            GoTo(clerk, field);
+            if (clerk.Focus() == field) // the payment type holds the focus until it is given
+                return script(clerk);
+            clerk.Type(QStringLiteral("1"));
+            GoTo(clerk, field);
+            ASSERT_EQ(clerk.Focus(), field);
+            script(clerk);
+        });
+    }
+
+    QStringList CitiesAdded()
+    {
+        return Rows(QStringLiteral("select CompanyId,CityName from CityMaster where CityName='Kod'"));
+    }
+
+    QStringList BanksAdded()
+    {
+        return Rows(QStringLiteral("select CompanyId,BankName from BankMaster where BankName='sTuT'"));
+    }
+};
+
+const QString CityQuestion = QStringLiteral("navaIna Sahr A^D kravao ka Æ");
+const QString BankQuestion = QStringLiteral("navaIna baÐk A^D kravaI ka Æ");
+
+QStringList ListOf(const Clerk& clerk, QStringView combo)
+{
+    const auto* list = dynamic_cast<NameCombo*>(clerk.Top().Find(combo));
+    return list ? list->Items() : QStringList();
+}
+
+QString GuideOf(Clerk& clerk, const QString& field)
+{
+    return clerk.Top().Find(field)->Guide().Text();
+}
+
+}
+
+TEST_F(MembersFields, EachFieldHasItsGuide)
+{
+    Play([](Clerk& clerk) {
+        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtAnimal")),
+            QStringLiteral("1 ¹ gaaya    2 ¹ mhOsa    3 ¹ daonhI"));
+        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtPaymentType")), QStringLiteral("1 ¹ raoK    2 ¹ ba^nk"));
+        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtOpeningDorC")), QStringLiteral("1 ¹ doNao  2 ¹ yaoNao"));
+        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtMemberNo")), QStringLiteral("maombar naMbar"));
+        EXPECT_EQ(GuideOf(clerk, QStringLiteral("ComboMemberName")), QStringLiteral("maombarcao naaMva"));
+        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtAddress")), QStringLiteral("p<aa"));
+        EXPECT_EQ(GuideOf(clerk, QStringLiteral("ComboCity")), QStringLiteral("gaava"));
+        EXPECT_EQ(GuideOf(clerk, QStringLiteral("ComboBankName")), QStringLiteral("ba^nkocao naava"));
+        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtBankAccountNo")), QStringLiteral("ba^nk Kato naMbar"));
+    });
+}
+
+TEST_F(MembersFields, TheGuideOfTheOpeningBalanceNamesTheFirstDayOfTheYear)
+{
+    Run(QStringLiteral("update CompanySelected set FromDate='02/04/2025'"));
+    Play([](Clerk& clerk) {
+        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtOpeningBalance")),
+            QStringLiteral("02.04.2025 raojaI doNao ikMvaa yaoNao AsalaolaI r@kma"));
+    });
+}
+
+TEST_F(MembersFields, ADigitPutsTheWordInPlaceAndStaysThere)
+{
+    OnField(QStringLiteral("txtAnimal"), [](Clerk& clerk) {
+        const QStringList words = {
+            QStringLiteral("gaaya"), QStringLiteral("mhOsa"), QStringLiteral("daonhI")};
+        for (int digit = 1; digit <= 3; ++digit) {
+            clerk.Type(QString::number(digit));
+            EXPECT_EQ(clerk.Reads(QStringLiteral("txtAnimal")), words[digit - 1]);
+        }
+        clerk.Type(QStringLiteral("4x "));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtAnimal")), QStringLiteral("daonhI"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAnimal"));
+    });
+}
+
+TEST_F(MembersFields, AnEmptyAnimalAndAnEmptyPaymentTypeHoldTheFocusInSilence)
+{
+    OnField(QStringLiteral("txtAnimal"), [](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{BS}{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAnimal"));
+        clerk.Type(QStringLiteral("1{ENTER}{BS}{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtPaymentType"));
+        EXPECT_EQ(clerk.Message(), QString());
+    });
+}
+
+TEST_F(MembersFields, TheAnimalOpensItsOwnFiguresOnly)
+{
+    OnField(QStringLiteral("txtAnimal"), [](Clerk& clerk) {
+        const auto expect = [&clerk](const QString& key, bool cow, bool buffalo) {
+            clerk.Type(key + QStringLiteral("{ENTER}"));
+            EXPECT_EQ(clerk.CanEnter(QStringLiteral("txtCowOpeningLits")), cow);
+            EXPECT_EQ(clerk.CanEnter(QStringLiteral("txtCowOpeningThev")), cow);
+            EXPECT_EQ(clerk.CanEnter(QStringLiteral("txtBuffOpeningLits")), buffalo);
+            EXPECT_EQ(clerk.CanEnter(QStringLiteral("txtBuffOpeningThev")), buffalo);
+            clerk.Type(QStringLiteral("1+{TAB}"));
+        };
+        expect(QStringLiteral("1"), true, false);
+        expect(QStringLiteral("2"), false, true);
+        expect(QStringLiteral("3"), true, true);
+    });
+}
+
+TEST_F(MembersFields, BankShowsTheBankFieldsAndGoesOnThere)
+{
+    OnField(QStringLiteral("txtPaymentType"), [](Clerk& clerk) {
+        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("ComboBankName")));
+        clerk.Type(QStringLiteral("2{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboBankName"));
+        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("txtBankAccountNo")));
+    });
+}
+
+TEST_F(MembersFields, CashEmptiesAndHidesTheBankFields)
+{
+    AddMember(1, QStringLiteral("rama"));
+    Run(QStringLiteral("update MembersMaster set PaymentType='ba^nk',BankName='sTuT',BankAccountNo='47'"));
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        GoTo(clerk, QStringLiteral("txtPaymentType"));
+        clerk.Type(QStringLiteral("1{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtOpeningBalance"));
+        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("ComboBankName")));
+        clerk.Type(QStringLiteral("%s%h"));
+    });
+    EXPECT_EQ(Rows(QStringLiteral("select PaymentType,BankName,BankAccountNo from MembersMaster")),
+        QStringList{QStringLiteral("raoK||")});
+}
+
+TEST_F(MembersFields, AnEmptyAccountNumberNeverHoldsTheClerkUp)
+{
+    OnField(QStringLiteral("txtPaymentType"), [](Clerk& clerk) {
+        clerk.Type(QStringLiteral("2{ENTER}{ENTER}{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtOpeningBalance"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtOpeningDorC"));
+    });
+}
+
+TEST_F(MembersFields, AKnownCityPassesWhateverItsBlanks)
+{
+    Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,' Kod ')"));
+    OnField(QStringLiteral("ComboCity"), [](Clerk& clerk) {
+        clerk.Type(QStringLiteral("Kod{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAnimal"));
+        clerk.Type(QStringLiteral("+{TAB}{BS}{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAnimal"));
+    });
+    EXPECT_TRUE(CitiesAdded().isEmpty());
+}
+
+TEST_F(MembersFields, ANewCityIsAddedOnYesAndStandsOnTheList)
+{
+    OnField(QStringLiteral("ComboCity"), [](Clerk& clerk) {
+        clerk.Type(QStringLiteral("Kod{ENTER}"));
+        EXPECT_EQ(clerk.Message(), CityQuestion);
+        clerk.Type(QStringLiteral("%h"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAnimal"));
+        EXPECT_TRUE(ListOf(clerk, u"ComboCity").contains(QStringLiteral("Kod")));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboCity")), QStringLiteral("Kod"));
+    });
+    EXPECT_EQ(CitiesAdded(), QStringList{QStringLiteral("1|Kod")});
+}
+
+TEST_F(MembersFields, ANewCityStaysOutOnNoAndTheFocusStays)
+{
+    OnField(QStringLiteral("ComboCity"), [](Clerk& clerk) {
+        clerk.Type(QStringLiteral("Kod{ENTER}%n"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboCity"));
+    });
+    EXPECT_TRUE(CitiesAdded().isEmpty());
+}
+
+TEST_F(MembersFields, ACityOfAnotherCompanyIsNewHere)
+{
+    Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(2,'Kod')"));
+    OnField(QStringLiteral("ComboCity"), [](Clerk& clerk) {
+        EXPECT_FALSE(ListOf(clerk, u"ComboCity").contains(QStringLiteral("Kod")));
+        clerk.Type(QStringLiteral("Kod{ENTER}"));
+        EXPECT_EQ(clerk.Message(), CityQuestion);
+    });
+}
+
+TEST_F(MembersFields, ANewBankIsAddedOnYesAndStaysOutOnNo)
+{
+    OnField(QStringLiteral("txtPaymentType"), [](Clerk& clerk) {
+        clerk.Type(QStringLiteral("2{ENTER}sTuT{ENTER}"));
+        EXPECT_EQ(clerk.Message(), BankQuestion);
+        clerk.Type(QStringLiteral("%n"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboBankName"));
+        EXPECT_FALSE(ListOf(clerk, u"ComboBankName").contains(QStringLiteral("sTuT")));
+        clerk.Type(QStringLiteral("{ENTER}%h"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtBankAccountNo"));
+        EXPECT_TRUE(ListOf(clerk, u"ComboBankName").contains(QStringLiteral("sTuT")));
+    });
+    EXPECT_EQ(BanksAdded(), QStringList{QStringLiteral("1|sTuT")});
+}
+
+TEST_F(MembersFields, LettersAreDroppedInNumbersAndTheirTextTakesItsPattern)
+{
+    OnField(QStringLiteral("txtOpeningBalance"), [](Clerk& clerk) {
+        clerk.Type(QStringLiteral("a1x2-.5{ENTER}"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtOpeningBalance")), QStringLiteral("12.50"));
+        clerk.Type(QStringLiteral("{ENTER}7.0005{ENTER}"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtCowOpeningLits")), QStringLiteral("7.001"));
+        clerk.Type(QStringLiteral("q8{ENTER}{BS}{ENTER}"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtBuffOpeningLits")), QStringLiteral("8.000"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtOpeningUchal")), QStringLiteral("0.00"));
+        GoTo(clerk, QStringLiteral("txtMemberNo"));
+        clerk.Type(QStringLiteral("x4.5y"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QStringLiteral("45"));
+    });
+}
+
+TEST_F(MembersFields, AnEmptyDirectionTakesPayable)
+{
+    OnField(QStringLiteral("txtOpeningDorC"), [](Clerk& clerk) {
+        clerk.Type(QStringLiteral("2"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtOpeningDorC")), QStringLiteral("yaoNao"));
+        clerk.Type(QStringLiteral("{BS}{ENTER}"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtOpeningDorC")), QStringLiteral("doNao"));
+    });
+}
+
+TEST_F(MembersFields, TheLastFieldOfTheAnimalLeadsToTheSaveButton)
+{
+    Play([](Clerk& clerk) {
+        FillNewMember(clerk, QStringLiteral("rama"), QStringLiteral("1"));
+        GoTo(clerk, QStringLiteral("txtCowOpeningThev"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        CallUp(clerk, 1);
+        GoTo(clerk, QStringLiteral("txtAnimal"));
+        clerk.Type(QStringLiteral("3{ENTER}"));
+        GoTo(clerk, QStringLiteral("txtCowOpeningThev"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtBuffOpeningThev"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdModify"));
+    });
+}
+
+TEST_F(MembersFields, DevanagariFromAnInputMethodIsWrittenAsTheSystemSpellsIt)
+{
+    const QString seen = QStringLiteral("शिंदे वाडा");
+    OnField(QStringLiteral("txtAddress"), [&](Clerk& clerk) {
+        clerk.Type(seen);
+        const auto* address = dynamic_cast<TextField*>(clerk.Top().Find(u"txtAddress"));
+        ASSERT_NE(address, nullptr);
+        EXPECT_EQ(address->Seen(), seen);
+        GoTo(clerk, QStringLiteral("txtPaymentType"));
+        clerk.Type(QStringLiteral("1%s"));
+    });
+    const QString stored = One(QStringLiteral("select Address from MembersMaster"));
+    EXPECT_EQ(stored, QStringLiteral("iSaMdo vaaDa"));
+    EXPECT_EQ(Seen(stored), seen);
+}

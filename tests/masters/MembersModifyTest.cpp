@@ -1,0 +1,252 @@
+#include "MembersTest.h"
+
+namespace {
+
+class MembersModify : public MembersTest {
+protected:
+    MembersModify()
+    {
+        AddMember(1, QStringLiteral("rama"), QStringLiteral("gaaya"));
+        AddMember(2, QStringLiteral("Xyaama"));
+    }
+
+    // The places outside of the masters that hold a member's name, each with its company.
+    QStringList NamesElsewhere()
+    {
+        QStringList names = Rows(QStringLiteral("select CompanyId,MemberName from MilkCollections"));
+        names += Rows(QStringLiteral("select CompanyId,MemberName from MilkPayments"));
+        names += Rows(QStringLiteral("select CompanyId,DAccountName,CAccountName from TransactionsMaster"));
+        return names;
+    }
+
+    void AddEntriesOf(const QString& name)
+    {
+        for (int company : {1, 2}) {
+            AddCollection(1, name, 10, company);
+            AddPayment(1, name, 10, company);
+            AddVoucher(name, QStringLiteral("raoK"), company);
+            AddVoucher(QStringLiteral("raoK"), name, company);
+        }
+    }
+};
+
+const QString SaveQuestion = QStringLiteral("roka^D- na@kI badlaayacao ka Æ");
+
+}
+
+TEST_F(MembersModify, ANumberCallsUpTheWholeRecord)
+{
+    Run(QStringLiteral(
+        "update MembersMaster set "
+        "Address='vaaDa',City='Kod',Animal='daonhI',PaymentType='ba^nk',BankName='sTuT',"
+        "BankAccountNo='47',OpeningBalance=1.5,OpeningDorC='D',ClosingBalance=2,ClosingDorC='C',"
+        "CowOpeningThev=3,"
+        "CowClosingThev=4,BuffOpeningThev=5,BuffClosingThev=6,OpeningUchal=7,ClosingUchal=8,CowOpeningLits=9,"
+        "CowClosingLits=10,BuffOpeningLits=11,BuffClosingLits=12.3456 where MemberNo=2"));
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 2);
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        const std::pair<const char*, const char16_t*> expected[] = {{"txtMemberNo", u"2"},
+            {"ComboMemberName", u"Xyaama"}, {"txtAddress", u"vaaDa"}, {"ComboCity", u"Kod"},
+            {"txtAnimal", u"daonhI"}, {"txtPaymentType", u"ba^nk"}, {"ComboBankName", u"sTuT"},
+            {"txtBankAccountNo", u"47"}, {"txtOpeningBalance", u"1.50"}, {"txtOpeningDorC", u"yaoNao"},
+            {"txtClosingBalance", u"2.00"}, {"txtClosingDorC", u"doNao"}, {"txtCowOpeningThev", u"3.00"},
+            {"txtCowClosingThev", u"4.00"}, {"txtBuffOpeningThev", u"5.00"}, {"txtBuffClosingThev", u"6.00"},
+            {"txtOpeningUchal", u"7.00"}, {"txtClosingUchal", u"8.00"}, {"txtCowOpeningLits", u"9.000"},
+            {"txtCowClosingLits", u"10.000"}, {"txtBuffOpeningLits", u"11.000"},
+            {"txtBuffClosingLits", u"12.346"}};
+        for (const auto& [field, text] : expected)
+            EXPECT_EQ(clerk.Reads(QLatin1String(field)), QStringView(text)) << field;
+        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("ComboBankName")));
+        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("txtBankAccountNo")));
+    });
+}
+
+TEST_F(MembersModify, NullsOnRecordReadAsEmptyAndZero)
+{
+    Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(1,9,'gaNaoXa')"));
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 9);
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtAddress")), QString());
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtOpeningDorC")), QString());
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtClosingUchal")), QStringLiteral("0.00"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtBuffClosingLits")), QStringLiteral("0.000"));
+    });
+}
+
+TEST_F(MembersModify, ANameCallsUpTheRecordWhenTheNumberIsEmpty)
+{
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%d{ENTER}Xyaama{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAddress"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QStringLiteral("2"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtAnimal")), QStringLiteral("daonhI"));
+    });
+}
+
+TEST_F(MembersModify, AnotherMembersNameCallsUpThatMember)
+{
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        clerk.Type(QStringLiteral("Xyaama{ENTER}"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QStringLiteral("2"));
+    });
+}
+
+TEST_F(MembersModify, TheMembersOwnNameLeavesWhatWasTypedElsewhere)
+{
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        clerk.Type(QStringLiteral("{ENTER}vaaDa+{TAB}{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAddress"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtAddress")), QStringLiteral("vaaDa"));
+    });
+}
+
+TEST_F(MembersModify, AnUnknownNumberIsRefusedWithANotice)
+{
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 77);
+        GoOn(clerk, QStringLiteral("yaa maombar naMbarcao roka^D- ]plabQa naahI"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+        clerk.Type(QStringLiteral("2{ENTER}"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), QStringLiteral("Xyaama"));
+    });
+}
+
+TEST_F(MembersModify, AnUnknownNameWithoutANumberHoldsTheFocusInSilence)
+{
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%d{ENTER}gaNaoXa{ENTER}"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+    });
+}
+
+TEST_F(MembersModify, AnEmptyNameIsRefusedWithANotice)
+{
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%d{ENTER}{ENTER}"));
+        GoOn(clerk, QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+    });
+}
+
+TEST_F(MembersModify, ACowMembersBuffaloFiguresAreClosedFromTheStart)
+{
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("txtCowOpeningLits")));
+        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("txtBuffOpeningLits")));
+        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("txtBuffOpeningThev")));
+    });
+}
+
+TEST_F(MembersModify, YesWritesTheRecordAndOnlyThat)
+{
+    const QString other = Rows(QStringLiteral("select * from MembersMaster where MemberNo=2")).join(u' ');
+    Run(QStringLiteral("update MembersMaster set AccountId=5 where MemberNo=1"));
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        TypeEach(clerk,
+            {QString(), QStringLiteral("vaaDa"), QString(), QStringLiteral("2"), QString(),
+                QStringLiteral("25"), QStringLiteral("2"), QStringLiteral("4"), QStringLiteral("30"),
+                QStringLiteral("6")});
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdModify"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.Message(), SaveQuestion);
+        clerk.Type(QStringLiteral("%h"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdModify")), QStringLiteral("ba&dla"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdModify"));
+    });
+    EXPECT_EQ(Rows(QStringLiteral("select * from MembersMaster where MemberNo=1")).join(u' '),
+        QStringLiteral("1|1|rama|5|vaaDa||mhOsa|raoK|||25|D|25|D|0|0|6|6|30|30|0|0|4|4"));
+    EXPECT_EQ(Rows(QStringLiteral("select * from MembersMaster where MemberNo=2")).join(u' '), other);
+}
+
+TEST_F(MembersModify, NoReturnsToIdleWithNothingWritten)
+{
+    AddEntriesOf(QStringLiteral("rama"));
+    const QStringList before = NamesElsewhere();
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        clerk.Type(QStringLiteral("gaNaoXa%s%n"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdModify")), QStringLiteral("ba&dla"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), QString());
+    });
+    EXPECT_EQ(
+        One(QStringLiteral("select MemberName from MembersMaster where MemberNo=1")), QStringLiteral("rama"));
+    EXPECT_EQ(NamesElsewhere(), before);
+}
+
+TEST_F(MembersModify, ANewNameReachesAllFourPlacesInEveryCompany)
+{
+    AddEntriesOf(QStringLiteral("rama"));
+    AddCollection(2, QStringLiteral("Xyaama"), 10);
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        clerk.Type(QStringLiteral("gaNaoXa{ENTER}%s%h"));
+    });
+    EXPECT_EQ(NamesElsewhere().join(u' '),
+        QStringLiteral("1|gaNaoXa 2|gaNaoXa 1|Xyaama 1|gaNaoXa 2|gaNaoXa 1|gaNaoXa|raoK 1|raoK|gaNaoXa "
+                       "2|gaNaoXa|raoK 2|raoK|gaNaoXa"));
+    EXPECT_EQ(One(QStringLiteral("select MemberName from MembersMaster where MemberNo=1")),
+        QStringLiteral("gaNaoXa"));
+}
+
+TEST_F(MembersModify, AnUnchangedNameIsWrittenEverywhereAgain)
+{
+    Run(QStringLiteral("update MembersMaster set MemberName='rama ' where MemberNo=1"));
+    AddEntriesOf(QStringLiteral("rama "));
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        clerk.Type(QStringLiteral("%s%h"));
+    });
+    EXPECT_EQ(NamesElsewhere().join(u' '),
+        QStringLiteral("1|rama 2|rama 1|rama 2|rama 1|rama|raoK 1|raoK|rama 2|rama|raoK 2|raoK|rama"));
+}
+
+TEST_F(MembersModify, AFailureInTheLastRenameLeavesEverythingAsItWas)
+{
+    AddEntriesOf(QStringLiteral("rama"));
+    const QStringList before = NamesElsewhere();
+    Run(QStringLiteral("drop table TransactionsMaster"));
+    Run(QStringLiteral("create table TransactionsMaster(CompanyId INTEGER,DAccountName TEXT)"));
+    Run(QStringLiteral("insert into TransactionsMaster(CompanyId,DAccountName) values(1,'rama')"));
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        clerk.Type(QStringLiteral("gaNaoXa{ENTER}%s%h"));
+    });
+    ASSERT_TRUE(Failure);
+    EXPECT_EQ(Failure->Statement(),
+        QStringLiteral("Update TransactionsMaster Set CAccountName='gaNaoXa' Where CAccountName='rama'"));
+    EXPECT_EQ(
+        One(QStringLiteral("select MemberName from MembersMaster where MemberNo=1")), QStringLiteral("rama"));
+    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,MemberName from MilkCollections")), before.mid(0, 2));
+    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,MemberName from MilkPayments")), before.mid(2, 2));
+    EXPECT_EQ(One(QStringLiteral("select DAccountName from TransactionsMaster")), QStringLiteral("rama"));
+}
+
+TEST_F(MembersModify, AnApostropheInTheNewNameEndsTheProgramAndLeavesTheBooksAsTheyWere)
+{
+    AddEntriesOf(QStringLiteral("rama"));
+    const QStringList before = NamesElsewhere();
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        clerk.Type(QStringLiteral("ra'ma{ENTER}%s%h"));
+    });
+    ASSERT_TRUE(Failure);
+    EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
+    EXPECT_EQ(
+        One(QStringLiteral("select MemberName from MembersMaster where MemberNo=1")), QStringLiteral("rama"));
+    EXPECT_EQ(NamesElsewhere(), before);
+}
+
+TEST_F(MembersModify, SavingAtOnceStopsAtTheNumber)
+{
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%d%s"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+    });
+}

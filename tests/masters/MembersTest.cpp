@@ -1,0 +1,85 @@
+#include "MembersTest.h"
+
+#include "Sql.h"
+
+void MembersTest::AddCollection(int number, const QString& name, double amount, int company)
+{
+    Run(Sql(u"insert into "
+            u"MilkCollections(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,"
+            u"Animal,Liters,Fat,Rate,Amount,TranId) values(",
+        company, u",'10/04/2026','sakaL',1,", number, u",'", name, u"','gaaya',1,4,30,", amount, u",0)"));
+}
+
+void MembersTest::AddPayment(int number, const QString& name, double netAmount, int company)
+{
+    Run(Sql(u"insert into MilkPayments(CompanyId,TranId,MemberNo,MemberName,NetAmount) values(", company,
+        u",1,", number, u",'", name, u"',", netAmount, u")"));
+}
+
+void MembersTest::AddUchal(int number, double amount, int company)
+{
+    Run(Sql(u"insert into TransactionsDetails(CompanyId,TranId,MemberNo,AdvanceType,Amount) values(", company,
+        u",1,", number, u",']cala',", amount, u")"));
+}
+
+void MembersTest::AddReceipt(int number, const QString& type, double amount, int company)
+{
+    Run(Sql(u"insert into AdvanceReceipt(CompanyId,TranId,MemberNo,AdvanceType,Amount) values(", company,
+        u",1,", number, u",'", type, u"',", amount, u")"));
+}
+
+void MembersTest::AddDeduction(int number, const QString& type, double amount, int company)
+{
+    Run(Sql(u"insert into MilkPaymentsDetails(CompanyId,TranId,MemberNo,AdvanceType,Amount) values(", company,
+        u",1,", number, u",'", type, u"',", amount, u")"));
+}
+
+void MembersTest::AddVoucher(const QString& debit, const QString& credit, int company)
+{
+    Run(Sql(u"insert into TransactionsMaster(CompanyId,TranId,DAccountName,CAccountName,Amount) values(",
+        company, u",1,'", debit, u"','", credit, u"',100)"));
+}
+
+QString Typed(const QString& stored)
+{
+    QString keys;
+    for (QChar c : stored) {
+        if (QStringView(u"+^%{").contains(c))
+            keys += QStringLiteral("{") + c + QStringLiteral("}");
+        else
+            keys += c;
+    }
+    return keys;
+}
+
+void TypeEach(Clerk& clerk, const QStringList& keys)
+{
+    for (const QString& each : keys)
+        clerk.Type(each + QStringLiteral("{ENTER}"));
+}
+
+void FillNewMember(Clerk& clerk, const QString& name, const QString& animalKey)
+{
+    const QString asItIs;
+    clerk.Type(QStringLiteral("{ENTER}"));
+    TypeEach(clerk, {asItIs, Typed(name), asItIs, asItIs, animalKey, QStringLiteral("1")});
+    for (int field = 0; field < 7 && clerk.Focus() != QStringLiteral("cmdNew"); ++field)
+        clerk.Type(QStringLiteral("{ENTER}"));
+}
+
+void CallUp(Clerk& clerk, int number)
+{
+    clerk.Type(QStringLiteral("%d") + QString::number(number) + QStringLiteral("{ENTER}"));
+}
+
+void GoTo(Clerk& clerk, const QString& field)
+{
+    clerk.Press(field);
+    clerk.Type(QStringLiteral("^a"));
+}
+
+void GoOn(Clerk& clerk, const QString& expected)
+{
+    EXPECT_EQ(clerk.Message(), expected);
+    clerk.Type(QStringLiteral("{ENTER}"));
+}

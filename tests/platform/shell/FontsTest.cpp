@@ -1,0 +1,42 @@
+#include "Fonts.h"
+
+#include <QFont>
+#include <QFontMetrics>
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString noto = QStringLiteral("Noto Sans Devanagari");
+const QString lohit = QStringLiteral("Lohit Devanagari");
+const QString other = QStringLiteral("Chandas");
+
+TEST(Fonts, NotoIsChosenBeforeEveryOther)
+{
+    EXPECT_EQ(ChooseDevanagariFamily({other, lohit, noto}), noto);
+}
+
+TEST(Fonts, LohitIsChosenWhereThereIsNoNoto)
+{
+    EXPECT_EQ(ChooseDevanagariFamily({other, lohit}), lohit);
+}
+
+TEST(Fonts, AnyOtherFamilyIsBetterThanNone)
+{
+    EXPECT_EQ(ChooseDevanagariFamily({other, QStringLiteral("Mukta")}), other);
+}
+
+TEST(Fonts, WithoutAFontThatShowsDevanagariTheAnswerIsEmpty)
+{
+    EXPECT_EQ(ChooseDevanagariFamily({}), QString());
+}
+
+TEST(Fonts, TheFamilyOfThisMachineHoldsTheLettersOfMarathi)
+{
+    const QString family = DevanagariFontFamily();
+    ASSERT_FALSE(family.isEmpty());
+    const QFontMetrics metrics{QFont(family)};
+    for (const QChar c : QStringView(u"कखगळक्षज्ञऱॅॉ०९"))
+        EXPECT_TRUE(metrics.inFont(c)) << "U+" << std::hex << int{c.unicode()};
+}
+
+}

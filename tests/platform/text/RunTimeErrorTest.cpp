@@ -1,0 +1,20 @@
+#include "RunTimeError.h"
+
+#include <gtest/gtest.h>
+
+TEST(RunTimeError, TellsItsNumberAndWhatHappened)
+{
+    const RunTimeError error(RunTimeError::Overflow, QStringLiteral("Overflow: 99 is too large."));
+    EXPECT_EQ(error.Number(), 6);
+    EXPECT_EQ(error.Text(), u"Run-time error '6':\n\nOverflow: 99 is too large.");
+    EXPECT_TRUE(error.Statement().isEmpty());
+    EXPECT_EQ(QString::fromUtf8(error.what()), error.Text());
+}
+
+TEST(RunTimeError, NamesTheStatementThatFailed)
+{
+    const RunTimeError error(RunTimeError::DatabaseFailure, QStringLiteral("No such table: %1 %2"),
+        QStringLiteral("select * from Nowhere where Name='%1'"));
+    EXPECT_EQ(error.Text(),
+        u"Run-time error '3146':\n\nNo such table: %1 %2\n\nselect * from Nowhere where Name='%1'");
+}

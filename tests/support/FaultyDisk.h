@@ -1,0 +1,22 @@
+#pragma once
+
+// A disk that fails when a test says so. It stands between the engine and the real disk, and sees the writes,
+// the syncs and the cuttings of a database file and of its log; anything else passes unseen.
+namespace FaultyDisk {
+
+// Puts the disk under every database that is opened from now on in this process.
+void Install();
+
+// Heals the disk and begins to count anew.
+void Reset();
+
+// Full from the n-th (from 1) write, sync or cutting on.
+void FullFrom(int n);
+
+// Kills the process with SIGKILL at the n-th write, sync or cutting: a write is done to its half.
+void KillAt(int n);
+
+// How many writes, syncs and cuttings were seen since the last Reset.
+int Count();
+
+}

@@ -1,0 +1,77 @@
+#include "SocietyTest.h"
+
+#include "AppFolder.h"
+#include "Program.h"
+#include "Shivaji01.h"
+#include "Society.h"
+#include "Sql.h"
+
+#include <QDir>
+
+bool FakeCalculator::Start(const QString& program, bool maximised)
+{
+    Started.append(program + (maximised ? QStringLiteral(" maximised") : QStringLiteral(" normal")));
+    return There;
+}
+
+SocietyTest::SocietyTest()
+{
+    SetDrivesRoot(m_drives.path());
+    World::Current() = {&TheClock, &TheCalculator, &TheBox};
+    const QString folder = LocalPath(AppFolder);
+    QDir().mkpath(folder);
+    SocietyPlan plan;
+    plan.name = QStringLiteral("श्री गणेश दूध संस्था");
+    plan.year = QStringLiteral("2026-2027");
+    plan.password = QStringLiteral("Doodh#26");
+    CopySociety(folder, plan);
+    RegisterDataSource();
+    LoadAppState();
+    gAppState.gAppDate = TheClock.Time.date();
+}
+
+SocietyTest::~SocietyTest()
+{
+    gCn.Close();
+    gAppState = AppState();
+    SetDrivesRoot({});
+}
+
+void SocietyTest::AddMember(int number, const QString& name, const QString& animal)
+{
+    gCn.Execute(Sql(
+        u"insert into MembersMaster(CompanyId,MemberNo,MemberName,AccountId,Address,City,Animal,PaymentType,"
+        u"BankName,BankAccountNo,OpeningBalance,OpeningDorC,ClosingBalance,ClosingDorC,CowOpeningThev,"
+        u"CowClosingThev,BuffOpeningThev,BuffClosingThev,OpeningUchal,ClosingUchal,CowOpeningLits,"
+        u"CowClosingLits,BuffOpeningLits,BuffClosingLits) values(",
+        gAppState.gCompanyId, u",", number, u",'", name, u"',0,'','','", animal,
+        u"','raoK','','',0,'C',0,'C',0,0,0,0,0,0,0,0,0,0)"));
+}
+
+QString SocietyTest::One(const QString& query)
+{
+    const Recordset rows(gCn, query);
+    return rows.Eof() ? QString() : rows.At(0).Text();
+}
+
+QStringList SocietyTest::Rows(const QString& query)
+{
+    QStringList lines;
+    for (Recordset rows(gCn, query); !rows.Eof(); rows.MoveNext()) {
+        QStringList fields;
+        for (int at = 0; at < rows.Columns(); ++at)
+            fields.append(rows.At(at).IsNull() ? QStringLiteral("NULL") : rows.At(at).Text());
+        lines.append(fields.join(u'|'));
+    }
+    return lines;
+}
+
+QString SocietyTest::FolderFile(const QString& name) const
+{
+    return LocalAppFile(name);
+}
+
+QString Seen(const QString& stored)
+{
+    return Shivaji01::ToUnicode(stored);
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "Clerk.h"
+#include "MdlAccounts.h"
+#include "Recordset.h"
+#include "RunTimeError.h"
+#include "World.h"
+
+#include <gtest/gtest.h>
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+// A clock that stands where the test has set it.
+class FakeClock final : public Clock {
+public:
+    QDateTime Time{QDate(2026, 4, 15), QTime(6, 5, 0)};
+    QDateTime Now() const override { return Time; }
+};
+
+class FakeCalculator final : public Calculator {
+public:
+    QStringList Started;
+    bool There = true;
+    bool Start(const QString& program, bool maximised) override;
+};
+
+// Keeps the texts of the plain boxes; none of them waits.
+class FakeMessageBox final : public MessageBox {
+public:
+    QStringList Shown;
+    void Show(const QString& text) override { Shown.append(text); }
+};
+
+// A society made fresh for each test, its books open and its state loaded, with one clerk at the keyboard.
+// The delivered society has no member and no delivery; its first chart holds from the first of the year.
+class SocietyTest : public ::testing::Test {
+protected:
+    SocietyTest();
+    ~SocietyTest() override;
+
+    // Opens a screen of its own and plays on it; a run-time error that ends it is kept in `Failure`.
+    template <class S> void On(const std::function<void(Clerk&)>& script)
+    {
+        Failure = TheClerk.Play(
+            [] {
+                S screen;
+                screen.ShowModal();
+            },
+            script);
+    }
+
+    // A member with sensible values elsewhere; animal and names as the system spells them.
+    void AddMember(int number, const QString& name, const QString& animal = QStringLiteral("daonhI"));
+
+    // Runs a statement of the system.
+    void Run(const QString& statement) { gCn.Execute(statement); }
+
+    // The first value of the first row as text; empty if there is no row.
+    QString One(const QString& query);
+
+    // All rows, a line each, the fields separated by '|'.
+    QStringList Rows(const QString& query);
+
+    // The path of a file of AppFolder on this machine.
+    QString FolderFile(const QString& name) const;
+
+    Clerk TheClerk;
+    FakeClock TheClock;
+    FakeCalculator TheCalculator;
+    FakeMessageBox TheBox;
+    std::optional<RunTimeError> Failure;
+
+private:
+    QTemporaryDir m_drives;
+};
+
+// Reads a text of the system as the eye does.
+QString Seen(const QString& stored);

@@ -1,0 +1,168 @@
+#include "Numbers.h"
+#include "SetupSupport.h"
+#include "Shivaji01.h"
+
+#include <gtest/gtest.h>
+
+#include <QRegularExpression>
+#include <QSet>
+
+namespace {
+
+QString Rows(const QString& statement)
+{
+    return AskDemo(statement).join(u'\n');
+}
+
+TEST(Demo, IsTheSameEveryTime)
+{
+    QTemporaryDir again;
+    SocietyPlan plan = GoodPlan();
+    plan.demo = true;
+    MakeSociety(again.path(), plan);
+    const QStringList first = AskDemo(QStringLiteral(".dump"));
+    const QStringList second = Shell(again.path(), plan.password, QStringLiteral(".dump"));
+    EXPECT_GT(first.size(), 5000);
+    EXPECT_TRUE(first == second);
+}
+
+TEST(Demo, HasFortyMembersWithMarathiNames)
+{
+    const QStringList members = AskDemo(QStringLiteral("select MemberNo,MemberName from MembersMaster;"));
+    ASSERT_EQ(members.size(), 40);
+    QSet<QString> names;
+    const QRegularExpression threeWords(
+        QStringLiteral("^[\\x{0900}-\\x{097F}]+( [\\x{0900}-\\x{097F}]+){2}$"));
+    for (qsizetype i = 0; i < members.size(); ++i) {
+        const QStringList cells = members[i].split(u'|');
+        EXPECT_EQ(cells[0], QString::number(i + 1));
+        EXPECT_FALSE(cells[1].contains(u'\''));
+        const QString seen = Shivaji01::ToUnicode(cells[1]);
+        EXPECT_TRUE(threeWords.match(seen).hasMatch()) << seen.toStdString();
+        names.insert(seen);
+    }
+    EXPECT_EQ(names.size(), 40);
+    EXPECT_TRUE(names.contains(QStringLiteral("ज्ञानेश्वर एकनाथ महाडिक")));
+}
+
+TEST(Demo, HasMembersOfEveryKind)
+{
+    EXPECT_EQ(
+        Rows(QStringLiteral("select Animal,count(*)>=8 from MembersMaster group by Animal order by Animal;")),
+        QStringLiteral("daonhI|1\ngaaya|1\nmhOsa|1"));
+    EXPECT_EQ(
+        Rows(QStringLiteral("select PaymentType,count(*)>=8 from MembersMaster group by 1 order by 1;")),
+        QStringLiteral("ba^nk|1\nraoK|1"));
+    EXPECT_EQ(Rows(QStringLiteral(
+                  "select count(*) from MembersMaster where (PaymentType='ba^nk')<>(BankName<>'' and "
+                  "BankAccountNo<>'');")),
+        QStringLiteral("0"));
+    EXPECT_EQ(Rows(QStringLiteral(
+                  "select count(*) from MembersMaster where City not in (select CityName from "
+                  "CityMaster) or (BankName<>'' and BankName not in (select BankName from BankMaster));")),
+        QStringLiteral("0"));
+    EXPECT_EQ(Rows(QStringLiteral("select count(*)-count(distinct CityName) from CityMaster;")),
+        QStringLiteral("0"));
+}
+
+TEST(Demo, HasLocalAndFederationCustomers)
+{
+    EXPECT_EQ(Rows(QStringLiteral("select CustomerType,count(*) from CustomersMaster group by CustomerType "
+                                  "order by CustomerType;")),
+        QStringLiteral("saMGa ivaËI|2\nsqaainak ivaËI|4"));
+    EXPECT_EQ(Rows(QStringLiteral(
+                  "select count(*) from CustomersMaster c join AccountsMaster a on "
+                  "a.AccountName=c.CustomerName where a.GroupCode='Debtors' and a.Category='saMGa';")),
+        QStringLiteral("2"));
+}
+
+TEST(Demo, RunsThroughAprilAndMayTwiceADay)
+{
+    EXPECT_EQ(
+        Rows(QStringLiteral("select min(CollectionDate),max(CollectionDate),count(distinct CollectionDate||"
+                            "CollectionTime) from MilkCollections;")),
+        QStringLiteral("2026-04-01|2026-05-31|122"));
+    EXPECT_EQ(Rows(QStringLiteral("select distinct CollectionTime from MilkCollections order by 1;")),
+        QStringLiteral("saMQyaakaL\nsakaL"));
+}
+
+TEST(Demo, NumbersRunThroughEachShift)
+{
+    EXPECT_EQ(
+        Rows(QStringLiteral("select count(*) from (select min(CollectionNo) a,max(CollectionNo) b,count(*) n,"
+                            "count(distinct CollectionNo) d from MilkCollections group by CollectionDate,"
+                            "CollectionTime) where a<>1 or b<>n or d<>n or n<30;")),
+        QStringLiteral("0"));
+}
+
+TEST(Demo, EachDeliveryIsPricedAsTheCounterWould)
+{
+    const QStringList rows = AskDemo(QStringLiteral(
+        "select c.Liters,c.Fat,c.Rate,c.Amount,case c.Animal when 'gaaya' then f.CowRate when 'mhOsa' then "
+        "f.BuffRate end from MilkCollections c left join Fat010426 f on f.Fat=rtrim(rtrim(cast(c.Fat as "
+        "text),'0'),'.');"));
+    ASSERT_GT(rows.size(), 4000);
+    for (const QString& row : rows) {
+        const QStringList cells = row.split(u'|');
+        ASSERT_EQ(cells.size(), 5);
+        const double liters = Val(cells[0]);
+        EXPECT_GT(liters, 0);
+        EXPECT_EQ(Format(liters, u"########0.000"),
+            Format(Val(Format(liters, u"########0.000")), u"########0.000"));
+        EXPECT_EQ(Val(cells[1]), Val(Format(Val(cells[1]), u"#########0.0")));
+        EXPECT_EQ(Val(cells[2]), Val(cells[4])) << row.toStdString();
+        EXPECT_EQ(Val(cells[3]), Val(Format(liters * Val(cells[2]), u"#########0.00"))) << row.toStdString();
+    }
+}
+
+TEST(Demo, MembersBringWhatTheirAnimalsGiveOnceAShift)
+{
+    EXPECT_EQ(Rows(QStringLiteral(
+                  "select count(*) from MilkCollections c join MembersMaster m using (MemberNo) where "
+                  "m.MemberName<>c.MemberName or m.Animal not in ('daonhI',c.Animal);")),
+        QStringLiteral("0"));
+    EXPECT_EQ(
+        Rows(QStringLiteral("select count(*) from (select 1 from MilkCollections group by CollectionDate,"
+                            "CollectionTime,MemberNo,Animal having count(*)>1);")),
+        QStringLiteral("0"));
+}
+
+TEST(Demo, ClosingLitresAreTheOpeningAndTheDeliveries)
+{
+    const QStringList rows = AskDemo(QStringLiteral(
+        "select CowOpeningLits,CowClosingLits,(select total(Liters) from MilkCollections c where "
+        "c.MemberNo=m.MemberNo and c.Animal='gaaya'),BuffOpeningLits,BuffClosingLits,(select total(Liters) "
+        "from "
+        "MilkCollections c where c.MemberNo=m.MemberNo and c.Animal='mhOsa') from MembersMaster m;"));
+    ASSERT_EQ(rows.size(), 40);
+    for (const QString& row : rows) {
+        const QStringList cells = row.split(u'|');
+        for (const qsizetype at : {0, 3}) {
+            const float closing = static_cast<float>(Val(cells[at])) + static_cast<float>(Val(cells[at + 2]));
+            EXPECT_EQ(ShortestDecimal(Val(cells[at + 1])), ShortestDecimal(closing)) << row.toStdString();
+        }
+    }
+}
+
+TEST(Demo, BalancesStandAsOpenedBecauseThePaymentPostsThem)
+{
+    EXPECT_EQ(Rows(QStringLiteral("select PurchaseEntry from AutoSettings;")), QStringLiteral("Payment"));
+    EXPECT_EQ(
+        Rows(QStringLiteral("select count(*) from MembersMaster where ClosingBalance<>OpeningBalance or "
+                            "ClosingDorC<>OpeningDorC or OpeningDorC not in ('C','D') or OpeningBalance<0;")),
+        QStringLiteral("0"));
+    EXPECT_EQ(Rows(QStringLiteral("select count(*)>5 from MembersMaster where OpeningBalance>0;")),
+        QStringLiteral("1"));
+}
+
+TEST(Demo, ClocksAreInTheCountersForm)
+{
+    const QStringList clocks = AskDemo(QStringLiteral(
+        "select distinct ActualCollectionTime from MilkCollections order by ActualCollectionTime;"));
+    EXPECT_GT(clocks.size(), 40);
+    const QRegularExpression form(QStringLiteral("^[6-8]\\.[0-5][0-9]$"));
+    for (const QString& clock : clocks)
+        EXPECT_TRUE(form.match(clock).hasMatch()) << clock.toStdString();
+}
+
+}

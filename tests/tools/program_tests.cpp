@@ -1,0 +1,151 @@
+#include "SetupSupport.h"
+#include "SingleInstance.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+namespace {
+
+struct Ran {
+    int exitCode = -1;
+    QString out;
+    QString err;
+};
+
+Ran RunSetup(const QStringList& arguments, const QString& home = {})
+{
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    if (!home.isEmpty())
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), home);
+    program.setProcessEnvironment(environment);
+    program.start(QStringLiteral(SETUP_PROGRAM), arguments);
+    if (!program.waitForFinished() || program.exitStatus() != QProcess::NormalExit)
+        return {};
+    return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
+        QString::fromUtf8(program.readAllStandardError())};
+}
+
+QStringList Arguments(const QString& folder)
+{
+    return {QStringLiteral("--society"), QStringLiteral("जय किसान दूध संस्था"), QStringLiteral("--year"),
+        QStringLiteral("2026-2027"), QStringLiteral("--password"), QStringLiteral("secret"),
+        QStringLiteral("--folder"), folder};
+}
+
+// The same arguments with the value of one of them changed.
+QStringList With(QStringList arguments, QStringView option, const QString& value)
+{
+    arguments[arguments.indexOf(option.toString()) + 1] = value;
+    return arguments;
+}
+
+void ExpectRefusal(const Ran& run, int exitCode, QStringView word)
+{
+    EXPECT_EQ(run.exitCode, exitCode);
+    EXPECT_EQ(run.out, QString());
+    EXPECT_TRUE(run.err.startsWith(u"vetrolan-setup: ")) << run.err.toStdString();
+    EXPECT_EQ(run.err.count(u'\n'), 1) << run.err.toStdString();
+    EXPECT_TRUE(run.err.contains(word)) << run.err.toStdString();
+}
+
+class SetupProgram : public testing::Test {
+protected:
+    QTemporaryDir m_dir;
+    QString Folder() const { return m_dir.filePath(QStringLiteral("books")); }
+};
+
+TEST_F(SetupProgram, MakesASociety)
+{
+    const Ran run = RunSetup(Arguments(Folder()));
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_TRUE(run.out.contains(u"Morvelta.mdb"));
+    EXPECT_EQ(Shell(Folder(), QStringLiteral("secret"), QStringLiteral("select count(*) from MembersMaster;"))
+                  .value(0),
+        QStringLiteral("0"));
+}
+
+TEST_F(SetupProgram, MakesTheDemonstration)
+{
+    const Ran run = RunSetup(Arguments(Folder()) << QStringLiteral("--demo"));
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_EQ(Shell(Folder(), QStringLiteral("secret"), QStringLiteral("select count(*) from MembersMaster;"))
+                  .value(0),
+        QStringLiteral("40"));
+}
+
+TEST_F(SetupProgram, PutsTheBooksWhereTheProgramLooksForThem)
+{
+    QStringList arguments = Arguments(Folder());
+    arguments.resize(6);
+    const Ran run = RunSetup(arguments, m_dir.path());
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_TRUE(
+        QFileInfo::exists(m_dir.filePath(QStringLiteral("vetrolan/drive_c/Tarvel01/Vetrolan/Morvelta.mdb"))));
+    EXPECT_TRUE(
+        QFileInfo::exists(m_dir.filePath(QStringLiteral("vetrolan/drive_c/Tarvel01/Vetrolan/PWD.TXT"))));
+}
+
+TEST_F(SetupProgram, TouchesNoSocietyThatIsThere)
+{
+    ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
+    const QByteArray database = FileContent(QDir(Folder()).filePath(DatabaseFileName.toString()));
+    ExpectRefusal(RunSetup(Arguments(Folder())), 1, u"There is a society already");
+    EXPECT_EQ(FileContent(QDir(Folder()).filePath(DatabaseFileName.toString())), database);
+}
+
+TEST_F(SetupProgram, ReplacesWhenToldTo)
+{
+    ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
+    EXPECT_EQ(RunSetup(Arguments(Folder()) << QStringLiteral("--replace")).exitCode, 0);
+    EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 2);
+    EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("PWD*.TXT")}).size(), 2);
+}
+
+TEST_F(SetupProgram, LeavesBooksAloneThatAreOpen)
+{
+    ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
+    const SingleInstance running(Folder());
+    ASSERT_TRUE(running.Taken());
+    ExpectRefusal(RunSetup(Arguments(Folder()) << QStringLiteral("--replace")), 1, u"open in the program");
+    EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 1);
+}
+
+TEST_F(SetupProgram, TellsWhatItTakes)
+{
+    const Ran run = RunSetup({QStringLiteral("--help")});
+    EXPECT_EQ(run.exitCode, 0);
+    for (const QStringView option :
+        {u"--society", u"--year", u"--password", u"--demo", u"--replace", u"--folder"})
+        EXPECT_TRUE(run.out.contains(option)) << option.toString().toStdString();
+}
+
+TEST_F(SetupProgram, RefusesBadArgumentsInOneLine)
+{
+    const QStringList good = Arguments(Folder());
+    ExpectRefusal(RunSetup({}), 2, u"--society is missing");
+    ExpectRefusal(RunSetup(good.mid(2)), 2, u"--society is missing");
+    ExpectRefusal(RunSetup(good.mid(0, 4)), 2, u"--password is missing");
+    ExpectRefusal(RunSetup(QStringList(good) << QStringLiteral("--nonsense")), 2, u"nonsense");
+    ExpectRefusal(RunSetup(QStringList(good) << QStringLiteral("stray")), 2, u"stray");
+    ExpectRefusal(RunSetup(With(good, u"--year", QStringLiteral("2026"))), 2, u"2026-2027");
+    ExpectRefusal(RunSetup(With(good, u"--year", QStringLiteral("2026-2028"))), 2, u"year");
+    ExpectRefusal(RunSetup(With(good, u"--password", QString())), 2, u"password is empty");
+    ExpectRefusal(RunSetup(With(good, u"--password", QStringLiteral("two words"))), 2, u"password");
+    ExpectRefusal(RunSetup(With(good, u"--society", QStringLiteral("गो'कुळ"))), 2, u"apostrophe");
+    EXPECT_FALSE(QFileInfo::exists(Folder()));
+}
+
+TEST_F(SetupProgram, SaysWhenTheFolderCannotBe)
+{
+    QFile inTheWay(Folder());
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    inTheWay.close();
+    ExpectRefusal(RunSetup(Arguments(Folder())), 1, u"folder");
+}
+
+}

@@ -1,0 +1,294 @@
+#include "Connection.h"
+#include "DataSource.h"
+#include "Recordset.h"
+#include "RunTimeError.h"
+#include "SetupSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+QStringList FilesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name);
+}
+
+QString FirstLine(const QString& folder, const QString& password, const QString& statement)
+{
+    return Shell(folder, password, statement).value(0);
+}
+
+QString HappenedIn(const QString& folder, const SocietyPlan& plan)
+{
+    try {
+        MakeSociety(folder, plan);
+    } catch (const RunTimeError& error) {
+        return error.Happened();
+    }
+    return {};
+}
+
+SocietyPlan Replacing()
+{
+    SocietyPlan plan = GoodPlan();
+    plan.password = QStringLiteral("another");
+    plan.replace = true;
+    return plan;
+}
+
+class Society : public testing::Test {
+protected:
+    QTemporaryDir m_dir;
+    QString Folder() const { return m_dir.filePath(QStringLiteral("books")); }
+    QString File(QStringView name) const { return QDir(Folder()).filePath(name.toString()); }
+};
+
+TEST_F(Society, HasADatabaseAPasswordAndABackupFolderAndNothingElse)
+{
+    MakeSociety(Folder(), GoodPlan());
+    EXPECT_EQ(FilesIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+    EXPECT_TRUE(QFileInfo(File(BackupFolderName)).isDir());
+}
+
+TEST_F(Society, OpensInTheStockShellWithThePasswordAndWithNoOther)
+{
+    MakeSociety(Folder(), GoodPlan());
+    const QString count = QStringLiteral("select count(*) from MembersMaster; pragma integrity_check;");
+    EXPECT_EQ(Shell(Folder(), GoodPlan().password, count).join(u' '), QStringLiteral("0 ok"));
+    EXPECT_TRUE(FirstLine(Folder(), QStringLiteral("wrong"), count).startsWith(u"Error"));
+    EXPECT_FALSE(FileContent(File(DatabaseFileName)).contains("MembersMaster"));
+}
+
+TEST_F(Society, OpensInTheProgramWithThePasswordOfItsFile)
+{
+    SocietyPlan plan = GoodPlan();
+    plan.password = QStringLiteral("a=b|(c)!");
+    MakeSociety(Folder(), plan);
+    DataSource::Register(QStringLiteral("SetupTest"), File(DatabaseFileName));
+    Connection connection;
+    connection.Open(QStringLiteral("dsn=SetupTest;pwd=") % plan.password);
+    const Recordset selected(connection, QStringLiteral("SELECT * FROM CompanySelected"));
+    ASSERT_FALSE(selected.Eof());
+    EXPECT_EQ(selected[u"AccountingYear"].Text(), plan.year);
+    EXPECT_EQ(selected[u"FromDate"].Date(), QDate(2026, 4, 1));
+}
+
+TEST_F(Society, SurvivesACopyMadeForTests)
+{
+    CopySociety(m_dir.filePath(QStringLiteral("one")), GoodPlan());
+    CopySociety(m_dir.filePath(QStringLiteral("two")), GoodPlan());
+    for (const QString& folder :
+        {m_dir.filePath(QStringLiteral("one")), m_dir.filePath(QStringLiteral("two"))}) {
+        EXPECT_EQ(FilesIn(folder).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+        EXPECT_EQ(FirstLine(folder, GoodPlan().password, QStringLiteral("select count(*) from rswords;")),
+            QStringLiteral("99"));
+    }
+    EXPECT_THROW(CopySociety(m_dir.filePath(QStringLiteral("one")), GoodPlan()), RunTimeError);
+}
+
+TEST_F(Society, AnotherOneIsNotMadeOverIt)
+{
+    MakeSociety(Folder(), GoodPlan());
+    const QByteArray database = FileContent(File(DatabaseFileName));
+    const QByteArray password = FileContent(File(PasswordFileName));
+    SocietyPlan other = Replacing();
+    other.replace = false;
+    EXPECT_TRUE(HappenedIn(Folder(), other).startsWith(u"There is a society already: "));
+    EXPECT_EQ(FileContent(File(DatabaseFileName)), database);
+    EXPECT_EQ(FileContent(File(PasswordFileName)), password);
+    EXPECT_EQ(FilesIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+}
+
+TEST_F(Society, ReplacedIsKeptUnderADateAndOpensWithItsOwnPassword)
+{
+    MakeSociety(Folder(), GoodPlan());
+    MakeSociety(Folder(), Replacing());
+    EXPECT_EQ(FilesIn(Folder()).join(u' '),
+        QStringLiteral(
+            "Backup Morvelta-2026-04-01-101530.mdb Morvelta.mdb PWD-2026-04-01-101530.TXT PWD.TXT"));
+    EXPECT_EQ(FirstLine(Folder(), QStringLiteral("another"), QStringLiteral("select count(*) from rswords;")),
+        QStringLiteral("99"));
+    ASSERT_TRUE(QFile::remove(File(DatabaseFileName)));
+    ASSERT_TRUE(QFile::rename(File(u"Morvelta-2026-04-01-101530.mdb"), File(DatabaseFileName)));
+    EXPECT_EQ(FirstLine(Folder(), GoodPlan().password, QStringLiteral("select count(*) from rswords;")),
+        QStringLiteral("99"));
+}
+
+TEST_F(Society, ReplacedTwiceInASecondKeepsBoth)
+{
+    MakeSociety(Folder(), GoodPlan());
+    MakeSociety(Folder(), Replacing());
+    MakeSociety(Folder(), Replacing());
+    EXPECT_EQ(FilesIn(Folder()).join(u' '),
+        QStringLiteral("Backup Morvelta-2026-04-01-101530-2.mdb Morvelta-2026-04-01-101530.mdb Morvelta.mdb "
+                       "PWD-2026-04-01-101530-2.TXT PWD-2026-04-01-101530.TXT PWD.TXT"));
+}
+
+// The books as a power cut leaves them: the last writing stands in the journal beside the database.
+void LeaveAsAfterAPowerCut(const QString& from, const QString& to)
+{
+    DataSource::Register(QStringLiteral("SetupTestCut"), QDir(from).filePath(DatabaseFileName.toString()));
+    Connection connection;
+    connection.Open(QStringLiteral("dsn=SetupTestCut;pwd=") % GoodPlan().password);
+    connection.Execute(QStringLiteral("INSERT INTO CityMaster(CompanyId,CityName) VALUES(1,'masaUr')"));
+    ASSERT_TRUE(QDir().mkpath(to));
+    for (const char* name : {"Morvelta.mdb", "Morvelta.mdb-wal", "PWD.TXT"}) {
+        const QString file = QString::fromLatin1(name);
+        ASSERT_TRUE(QFile::copy(QDir(from).filePath(file), QDir(to).filePath(file))) << name;
+    }
+}
+
+TEST_F(Society, ReplacedAfterAPowerCutKeepsItsLastWriting)
+{
+    const QString running = m_dir.filePath(QStringLiteral("running"));
+    MakeSociety(running, GoodPlan());
+    LeaveAsAfterAPowerCut(running, Folder());
+    ASSERT_GT(QFileInfo(File(u"Morvelta.mdb-wal")).size(), 0);
+    MakeSociety(Folder(), Replacing());
+    EXPECT_FALSE(QFileInfo::exists(File(u"Morvelta.mdb-wal")));
+    EXPECT_EQ(
+        FirstLine(Folder(), QStringLiteral("another"), QStringLiteral("select count(*) from CityMaster;")),
+        QStringLiteral("2"));
+    ASSERT_TRUE(QFile::remove(File(DatabaseFileName)));
+    ASSERT_TRUE(QFile::rename(File(u"Morvelta-2026-04-01-101530.mdb"), File(DatabaseFileName)));
+    EXPECT_EQ(FirstLine(Folder(), GoodPlan().password,
+                  QStringLiteral("select count(*) from CityMaster where CityName='masaUr';")),
+        QStringLiteral("1"));
+}
+
+TEST_F(Society, ReplacedWithoutItsPasswordTakesItsJournalAlong)
+{
+    const QString running = m_dir.filePath(QStringLiteral("running"));
+    MakeSociety(running, GoodPlan());
+    LeaveAsAfterAPowerCut(running, Folder());
+    ASSERT_TRUE(QFile::remove(File(PasswordFileName)));
+    const QByteArray database = FileContent(File(DatabaseFileName));
+    const QByteArray journal = FileContent(File(u"Morvelta.mdb-wal"));
+    ASSERT_FALSE(journal.isEmpty());
+    MakeSociety(Folder(), Replacing());
+    EXPECT_EQ(FileContent(File(u"Morvelta-2026-04-01-101530.mdb")), database);
+    EXPECT_EQ(FileContent(File(u"Morvelta-2026-04-01-101530.mdb-wal")), journal);
+    EXPECT_EQ(
+        FirstLine(Folder(), QStringLiteral("another"), QStringLiteral("select count(*) from CityMaster;")),
+        QStringLiteral("2"));
+}
+
+TEST_F(Society, ReplacedWhenDamagedIsKeptByteForByte)
+{
+    ASSERT_TRUE(QDir().mkpath(Folder()));
+    QFile damaged(File(DatabaseFileName));
+    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+    damaged.write("not a database any more");
+    damaged.close();
+    MakeSociety(Folder(), Replacing());
+    EXPECT_EQ(FileContent(File(u"Morvelta-2026-04-01-101530.mdb")), QByteArray("not a database any more"));
+    EXPECT_EQ(FirstLine(Folder(), QStringLiteral("another"), QStringLiteral("select count(*) from rswords;")),
+        QStringLiteral("99"));
+}
+
+TEST_F(Society, APasswordFileWithoutADatabaseIsKept)
+{
+    MakeSociety(Folder(), GoodPlan());
+    const QByteArray password = FileContent(File(PasswordFileName));
+    ASSERT_TRUE(QFile::remove(File(DatabaseFileName)));
+    SocietyPlan plan = Replacing();
+    plan.replace = false;
+    MakeSociety(Folder(), plan);
+    EXPECT_EQ(FileContent(File(u"PWD-2026-04-01-101530.TXT")), password);
+    EXPECT_NE(FileContent(File(PasswordFileName)), password);
+}
+
+TEST_F(Society, LeftoversOfAnInterruptedMakingAreNoHindrance)
+{
+    ASSERT_TRUE(QDir().mkpath(Folder()));
+    for (const QStringView name : {u"Morvelta.mdb.new", u"Morvelta.mdb.new-wal"}) {
+        QFile leftover(File(name));
+        ASSERT_TRUE(leftover.open(QIODevice::WriteOnly));
+        leftover.write("half");
+    }
+    MakeSociety(Folder(), GoodPlan());
+    EXPECT_EQ(FilesIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+}
+
+TEST_F(Society, WhereNoFolderCanBeNothingIsMade)
+{
+    QFile inTheWay(Folder());
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    inTheWay.close();
+    EXPECT_TRUE(HappenedIn(Folder(), GoodPlan()).startsWith(u"Can't make the folder "));
+    EXPECT_EQ(FilesIn(m_dir.path()).join(u' '), QStringLiteral("books"));
+}
+
+TEST_F(Society, WhenTheBackupFolderCannotBeTheOldBooksStayAndNoHalfOnesAreLeft)
+{
+    MakeSociety(Folder(), GoodPlan());
+    const QByteArray database = FileContent(File(DatabaseFileName));
+    ASSERT_TRUE(QDir(Folder()).rmdir(BackupFolderName.toString()));
+    QFile inTheWay(File(BackupFolderName));
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    inTheWay.close();
+    EXPECT_THROW(MakeSociety(Folder(), Replacing()), RunTimeError);
+    EXPECT_EQ(FilesIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+    EXPECT_EQ(FileContent(File(DatabaseFileName)), database);
+}
+
+TEST(SocietyPlans, AreRefusedInOneSentence)
+{
+    const auto refusal = [](auto change) {
+        SocietyPlan plan = GoodPlan();
+        change(plan);
+        return WhyRefused(plan);
+    };
+    EXPECT_EQ(WhyRefused(GoodPlan()), QString());
+    EXPECT_TRUE(refusal([](SocietyPlan& p) { p.name = QStringLiteral("  "); }).contains(u"name is empty"));
+    EXPECT_TRUE(refusal([](SocietyPlan& p) { p.name = QStringLiteral("दूध'संस्था"); }).contains(u"apostrophe"));
+    EXPECT_TRUE(refusal([](SocietyPlan& p) {
+        p.name = QStringLiteral("Gokul");
+    }).contains(u"write it in Devanagari"));
+    EXPECT_EQ(refusal([](SocietyPlan& p) { p.name = QStringLiteral("गोकुळ (नं. 1)"); }), QString());
+    EXPECT_TRUE(refusal([](SocietyPlan& p) { p.name = QString(101, u'अ'); }).contains(u"longer than"));
+    EXPECT_TRUE(refusal([](SocietyPlan& p) { p.password = QString(); }).contains(u"password is empty"));
+    for (const char* year : {"", "2026", "2026-27", "26-27", "2026-2027 ", "२०२६-२०२७"})
+        EXPECT_TRUE(
+            refusal([&](SocietyPlan& p) { p.year = QString::fromUtf8(year); }).contains(u"of the form"))
+            << year;
+    for (const char* year : {"2026-2026", "2026-2028", "2027-2026"})
+        EXPECT_TRUE(
+            refusal([&](SocietyPlan& p) { p.year = QString::fromUtf8(year); }).contains(u"must end in"))
+            << year;
+    for (const char* year : {"1999-2000", "2099-2100"})
+        EXPECT_TRUE(
+            refusal([&](SocietyPlan& p) { p.year = QString::fromUtf8(year); }).contains(u"must begin"))
+            << year;
+}
+
+TEST_F(Society, IsNotMadeOfARefusedPlan)
+{
+    SocietyPlan plan = GoodPlan();
+    plan.year = QStringLiteral("2026-2028");
+    plan.demo = true;
+    EXPECT_EQ(HappenedIn(Folder(), plan), WhyRefused(plan));
+    EXPECT_FALSE(QFileInfo::exists(Folder()));
+}
+
+TEST_F(Society, LargeHasACanForEveryMemberInEveryShift)
+{
+    MakeLargeSociety(Folder(), GoodPlan(), 45, 3);
+    EXPECT_EQ(Shell(Folder(), GoodPlan().password,
+                  QStringLiteral(
+                      "select count(*),count(distinct CollectionDate),max(CollectionNo),count(distinct "
+                      "MemberName),max(CollectionDate) from MilkCollections;"
+                      "select count(*) from MilkCollections c left join Fat010426 f on f.Fat=rtrim("
+                      "rtrim(cast(c.Fat as text),'0'),'.') where f.Fat is null or Rate<>case Animal when "
+                      "'gaaya' then f.CowRate else f.BuffRate end+0 or abs(Amount-Liters*Rate)>0.00501;"
+                      "select count(*) from MembersMaster where CowClosingLits+BuffClosingLits<>(select "
+                      "round(sum(Liters),3) from MilkCollections c where c.MemberNo=MembersMaster.MemberNo);"
+                      "pragma integrity_check;"))
+                  .join(u'\n'),
+        QStringLiteral("270|3|45|45|2026-04-03\n0\n0\nok"));
+}
+
+}

@@ -1,0 +1,213 @@
+#include "Clerk.h"
+
+#include "ModalStack.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QTimer>
+
+#include <semaphore>
+#include <stdexcept>
+#include <thread>
+
+namespace {
+
+// The plain message box that is up; null if there is none.
+QWidget* PlainBox()
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    return dynamic_cast<Screen*>(modal) ? nullptr : modal;
+}
+
+// Where a key goes: to a plain message box if one is up, else to the screen on top.
+QWidget* KeyTarget()
+{
+    if (QWidget* box = PlainBox())
+        return box;
+    const Screen* screen = ModalStack::Current().Top();
+    return screen ? screen->KeyTarget() : nullptr;
+}
+
+// Lays a window over the middle of a picture, which steps back.
+void LayOver(QPixmap& picture, const QPixmap& window)
+{
+    QPainter painter(&picture);
+    painter.fillRect(picture.rect(), QColor(0, 0, 0, 60));
+    const QPointF at((picture.width() - window.width()) / 2.0, (picture.height() - window.height()) / 2.0);
+    painter.drawPixmap(at, window);
+}
+
+}
+
+// The program and the script run on threads of their own, but never at the same time: the script runs only
+// while the program waits for it between two events, so it may look at everything.
+class Clerk::Private {
+public:
+    std::binary_semaphore scriptsTurn{0};
+    std::binary_semaphore programsTurn{0};
+    std::function<void()> action; // what the script wants done; empty when it has ended
+    bool ended = false;
+
+    // Lets the script think, then does what it asks for. The next turn is set up before that, so that it
+    // comes inside a dialog that the action may open.
+    void Turn()
+    {
+        scriptsTurn.release();
+        programsTurn.acquire();
+        if (ended) {
+            if (!ModalStack::Current().Open().empty())
+                ModalStack::Current().Fail(RunTimeError(0, QStringLiteral("The script has ended.")));
+            return;
+        }
+        TurnWhenAtRest();
+        std::function<void()> todo;
+        todo.swap(action);
+        todo();
+    }
+
+    // Twice round the event loop, so that what the program has put off until its event ends is done, too.
+    void TurnWhenAtRest()
+    {
+        QTimer::singleShot(0, qApp, [this] { QTimer::singleShot(0, qApp, [this] { Turn(); }); });
+    }
+
+    void Ask(std::function<void()> todo)
+    {
+        action = std::move(todo);
+        programsTurn.release();
+        scriptsTurn.acquire();
+    }
+};
+
+Clerk::Clerk() : m_d(std::make_unique<Private>()) { }
+
+Clerk::~Clerk() = default;
+
+std::optional<RunTimeError> Clerk::Play(
+    const std::function<void()>& program, const std::function<void(Clerk&)>& script)
+{
+    ModalStack::Current().Reset();
+    std::optional<RunTimeError> failure;
+    m_d->ended = false;
+    std::thread hands([&] {
+        m_d->scriptsTurn.acquire();
+        try {
+            script(*this);
+        } catch (const std::exception& error) {
+            failure = RunTimeError(-1, QString::fromUtf8(error.what()));
+        }
+        m_d->ended = true;
+        m_d->programsTurn.release();
+    });
+    m_d->TurnWhenAtRest();
+    try {
+        program();
+    } catch (const RunTimeError& error) {
+        if (error.Number() != 0)
+            failure = error;
+    }
+    while (!m_d->ended)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    hands.join();
+    ModalStack::Current().Reset();
+    return failure;
+}
+
+void Clerk::Do(const std::function<void()>& action)
+{
+    m_d->Ask(action);
+}
+
+void Clerk::Type(const QString& keys)
+{
+    for (const KeyStroke& stroke : ParseKeys(keys)) {
+        Do([stroke] {
+            QWidget* target = KeyTarget();
+            if (!target)
+                return;
+            QKeyEvent press(QEvent::KeyPress, stroke.key, stroke.modifiers, stroke.text);
+            QCoreApplication::sendEvent(target, &press);
+        });
+    }
+}
+
+void Clerk::Press(const QString& control)
+{
+    Do([this, control] {
+        Control* found = Top().Find(control);
+        if (!found)
+            return;
+        QWidget* widget = found->Widget();
+        const QPointF at = widget->rect().center();
+        const QPointF global = widget->mapToGlobal(at);
+        for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, at, global, Qt::LeftButton,
+                type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(widget, &event);
+        }
+    });
+}
+
+void Clerk::CloseBox()
+{
+    Do([this] { Top().close(); });
+}
+
+Screen& Clerk::Top() const
+{
+    Screen* screen = ModalStack::Current().Top();
+    if (!screen)
+        throw std::logic_error("no screen is open");
+    return *screen;
+}
+
+QString Clerk::ScreenName() const
+{
+    const Screen* screen = ModalStack::Current().Top();
+    return screen ? screen->Name() : QString();
+}
+
+QString Clerk::Focus() const
+{
+    const Control* holder = Top().FocusHolder();
+    return holder ? holder->Name() : QString();
+}
+
+QString Clerk::Reads(const QString& control) const
+{
+    const Control* found = Top().Find(control);
+    if (!found)
+        throw std::logic_error("no such control: " + control.toStdString());
+    return found->Text();
+}
+
+bool Clerk::CanEnter(const QString& control) const
+{
+    const Control* found = Top().Find(control);
+    return found && found->CanTakeFocus();
+}
+
+QString Clerk::Message() const
+{
+    return ScreenName() == u"frmMessages" ? Top().Title().Text() : QString();
+}
+
+void Clerk::Picture(const QString& file)
+{
+    Do([file] {
+        std::vector<QWidget*> windows(
+            ModalStack::Current().Open().begin(), ModalStack::Current().Open().end());
+        if (QWidget* box = PlainBox())
+            windows.push_back(box);
+        if (windows.empty())
+            return;
+        QPixmap picture = windows.front()->grab();
+        for (QWidget* window : windows)
+            if (window != windows.front())
+                LayOver(picture, window->grab());
+        picture.save(file);
+    });
+}

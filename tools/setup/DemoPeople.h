@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QStringView>
+
+#include <array>
+
+// The people of the demonstration: those of a village on the Krishna, all invented.
+struct DemoMember {
+    QStringView name;
+    QStringView animal; // as stored
+    bool byBank;
+    int village; // of DemoVillages
+};
+
+inline constexpr std::array<QStringView, 4> DemoVillages{u"कराड", u"सातारा", u"मसूर", u"वडगाव"};
+
+inline constexpr std::array<DemoMember, 40> DemoMembers{{
+    {u"रामचंद्र विठ्ठल पाटील", u"gaaya", true, 2},
+    {u"सुनीता गणपत जाधव", u"mhOsa", false, 2},
+    {u"महादेव शंकर शिंदे", u"daonhI", false, 3},
+    {u"लक्ष्मी बाळू मोरे", u"gaaya", false, 2},
+    {u"दत्तात्रय नारायण कदम", u"mhOsa", true, 0},
+    {u"अनिल मारुती पवार", u"gaaya", false, 2},
+    {u"सखाराम धोंडीबा चव्हाण", u"daonhI", true, 3},
+    {u"शोभा हणमंत साळुंखे", u"mhOsa", false, 2},
+    {u"विलास आनंदा निकम", u"gaaya", false, 3},
+    {u"कृष्णा बाबूराव थोरात", u"mhOsa", false, 2},
+    {u"मंगल दिनकर यादव", u"gaaya", true, 0},
+    {u"संजय तुकाराम माने", u"daonhI", false, 2},
+    {u"प्रकाश भीमराव गायकवाड", u"gaaya", false, 3},
+    {u"राजेंद्र सदाशिव भोसले", u"mhOsa", true, 1},
+    {u"वैशाली सुरेश कांबळे", u"gaaya", false, 2},
+    {u"पांडुरंग ज्ञानू घाडगे", u"mhOsa", false, 2},
+    {u"तानाजी रघुनाथ देसाई", u"daonhI", false, 3},
+    {u"उषा विश्वास जगताप", u"gaaya", false, 2},
+    {u"हणमंत गोविंद सूर्यवंशी", u"mhOsa", false, 0},
+    {u"नामदेव यशवंत काळे", u"gaaya", true, 2},
+    {u"सुभाष केशव लोखंडे", u"mhOsa", false, 3},
+    {u"शालन जयवंत डुबल", u"gaaya", false, 2},
+    {u"बाजीराव अप्पा फडतरे", u"daonhI", true, 2},
+    {u"अशोक मुरलीधर कुंभार", u"mhOsa", false, 0},
+    {u"कमल वसंत सुतार", u"gaaya", false, 2},
+    {u"शिवाजी पंढरीनाथ लोहार", u"mhOsa", false, 3},
+    {u"जयश्री अरुण थोरवे", u"daonhI", false, 2},
+    {u"भगवान रामू खोत", u"gaaya", false, 2},
+    {u"मोहन दादासाहेब नलवडे", u"mhOsa", true, 1},
+    {u"इंदुमती शामराव पिसाळ", u"gaaya", false, 2},
+    {u"विजय निवृत्ती भिसे", u"daonhI", false, 3},
+    {u"संगीता मधुकर वाघमारे", u"mhOsa", false, 2},
+    {u"ज्ञानेश्वर एकनाथ महाडिक", u"gaaya", true, 0},
+    {u"नंदा पोपट साठे", u"mhOsa", false, 2},
+    {u"उत्तम लक्ष्मण बर्गे", u"daonhI", false, 2},
+    {u"रेखा चंद्रकांत इंगवले", u"gaaya", false, 3},
+    {u"सर्जेराव बापू डांगे", u"mhOsa", false, 2},
+    {u"आक्काताई खाशाबा मदने", u"gaaya", false, 2},
+    {u"धनाजी विष्णू बाबर", u"daonhI", true, 3},
+    {u"छाया प्रल्हाद कणसे", u"mhOsa", false, 2},
+}};
+
+struct DemoCustomer {
+    QStringView name;
+    QStringView animal;
+    bool federation;
+};
+
+inline constexpr std::array<DemoCustomer, 6> DemoCustomers{{
+    {u"सातारा जिल्हा दूध संघ", u"daonhI", true},
+    {u"कोयना दूध संघ", u"daonhI", true},
+    {u"आनंद मिठाई भांडार", u"mhOsa", false},
+    {u"महालक्ष्मी चहा केंद्र", u"gaaya", false},
+    {u"प्राथमिक आरोग्य केंद्र", u"gaaya", false},
+    {u"गणेश भोजनालय", u"daonhI", false},
+}};

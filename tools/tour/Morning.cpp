@@ -1,0 +1,130 @@
+#include "Shivaji01.h"
+#include "Tour.h"
+
+namespace {
+
+const QString Enter = QStringLiteral("{ENTER}");
+
+QString Keys(const char16_t* seen)
+{
+    return KeysOf(Shivaji01::FromUnicode(seen));
+}
+
+// The line of a delivery from the number field on: member, litres, fat, and over the rate to the button.
+QString Delivery(const char* member, const char* liters, const char* fat)
+{
+    return Enter + QLatin1String(member) + Enter + QLatin1String(liters) + Enter + QLatin1String(fat) + Enter
+        + Enter + Enter;
+}
+
+void OpenTheProgram(Tour& tour)
+{
+    tour.Step(QStringLiteral("title"), {});
+    tour.Step(QStringLiteral("caution"), Enter);
+    tour.Step(QStringLiteral("working-day"), Enter);
+    tour.Step(QStringLiteral("menu"), QStringLiteral("01062026") + Enter + Enter);
+}
+
+void AddMember(Tour& tour)
+{
+    tour.Step(QStringLiteral("menu-masters"), Enter);
+    tour.Step(QStringLiteral("members"), Enter);
+    tour.Step(QStringLiteral("members-new"), QStringLiteral("%n"));
+    tour.Step(QStringLiteral("members-new-name"),
+        Enter + Keys(u"आशा रमेश सावंत") + Enter + Keys(u"माळ वस्ती") + Enter);
+    tour.Type(Enter); // no village
+    tour.Step(QStringLiteral("members-new-animal"), QStringLiteral("1"));
+    tour.Type(Enter + QStringLiteral("1") + Enter);
+    tour.Step(QStringLiteral("members-new-opening"), QStringLiteral("250") + Enter + QStringLiteral("1"));
+    tour.Type(QStringLiteral("%s"));
+    tour.Step(QStringLiteral("members-saved"), {});
+    tour.CheckRows(QStringLiteral("new member"),
+        QStringLiteral(
+            "select MemberNo,MemberName,Animal,PaymentType,OpeningBalance,ClosingBalance,ClosingDorC "
+            "from MembersMaster where MemberNo=41"),
+        {QStringLiteral("41|%1|gaaya|raoK|250|250|C").arg(Shivaji01::FromUnicode(u"आशा रमेश सावंत"))});
+    tour.Type(QStringLiteral("{ESC}{ESC}"));
+}
+
+void OpenTheCounter(Tour& tour)
+{
+    tour.Step(QStringLiteral("menu-transactions"), QStringLiteral("{DOWN}") + Enter);
+    tour.Step(QStringLiteral("counter"), Enter);
+    tour.Step(QStringLiteral("counter-shift"), Enter);
+    tour.Step(QStringLiteral("counter-number"), QStringLiteral("1") + Enter);
+}
+
+void TakeDeliveries(Tour& tour)
+{
+    tour.Step(QStringLiteral("delivery-member"), Enter + QStringLiteral("1"));
+    tour.Step(QStringLiteral("delivery-liters"), Enter + QStringLiteral("12.5"));
+    tour.Step(QStringLiteral("delivery-fat"), Enter + QStringLiteral("4.2"));
+    tour.Step(QStringLiteral("delivery-amount"), Enter + Enter);
+    tour.Step(QStringLiteral("delivery-saved"), Enter);
+    tour.Type(Delivery("2", "8.25", "7.1"));
+    tour.Type(Delivery("4", "5", "3.8"));
+    tour.Type(Delivery("41", "9.75", "4"));
+
+    tour.Step(QStringLiteral("member-of-both-animals"), Enter + QStringLiteral("3") + Enter);
+    tour.Type(QStringLiteral("1") + Enter + QStringLiteral("6.4") + Enter + QStringLiteral("4.1") + Enter
+        + Enter + Enter);
+    tour.Type(Enter + QStringLiteral("3") + Enter + QStringLiteral("2") + Enter + QStringLiteral("4.3")
+        + Enter + QStringLiteral("6.8") + Enter + Enter + Enter);
+
+    tour.Step(QStringLiteral("member-by-name"), Enter + Enter + Keys(u"शोभा"));
+    tour.Step(QStringLiteral("member-by-name-picked"), QStringLiteral("{DOWN}") + Enter);
+    tour.Type(Enter + QStringLiteral("7.125") + Enter + QStringLiteral("6.5") + Enter + Enter + Enter);
+
+    tour.Type(Enter + QStringLiteral("6") + Enter + QStringLiteral("11") + Enter);
+    tour.Step(QStringLiteral("fat-refused"), QStringLiteral("42") + Enter);
+    tour.Check(
+        QStringLiteral("a fat of 42 holds the focus"), tour.TheClerk().Focus(), QStringLiteral("txtFat"));
+    tour.Type(QStringLiteral("4.4") + Enter + Enter + Enter);
+}
+
+void MendTheShift(Tour& tour)
+{
+    tour.Step(QStringLiteral("duplicate"), Delivery("1", "3", "4.2"));
+    tour.Type(Enter);
+
+    tour.Step(QStringLiteral("change-row-3"), QStringLiteral("3") + Enter + Enter);
+    tour.Type(QStringLiteral("5.5") + Enter + Enter + Enter + Enter);
+    tour.Type(QStringLiteral("5") + Enter);
+    tour.Step(QStringLiteral("delete-row-5"), {});
+    tour.Step(QStringLiteral("deleted"), QStringLiteral("{F10}"));
+}
+
+void CheckTheShift(Tour& tour)
+{
+    const auto name = [](const char16_t* seen) { return Shivaji01::FromUnicode(seen); };
+    tour.CheckRows(QStringLiteral("delivery"),
+        QStringLiteral(
+            "select CollectionNo,MemberNo,MemberName,Animal,Liters,Fat,Rate,Amount,ActualCollectionTime "
+            "from MilkCollections where CollectionDate=#06/01/2026# and CollectionTime='sakaL' "
+            "order by CollectionNo"),
+        {});
+    Q_UNUSED(name);
+}
+
+void LeaveTheProgram(Tour& tour)
+{
+    tour.Step(QStringLiteral("keyboard-tutor"), QStringLiteral("{F12}gaaya"));
+    tour.Type(QStringLiteral("{ESC}{ESC}{ESC}"));
+    tour.Step(QStringLiteral("backup-not-there"), QStringLiteral("{ESC}"));
+    tour.Step(QStringLiteral("leave"), Enter);
+    tour.Type(QStringLiteral("%h"));
+    tour.Check(QStringLiteral("every screen is closed"), tour.TheClerk().ScreenName(), {});
+}
+
+}
+
+void PlayMorning(Tour& tour)
+{
+    OpenTheProgram(tour);
+    AddMember(tour);
+    OpenTheCounter(tour);
+    TakeDeliveries(tour);
+    MendTheShift(tour);
+    CheckTheShift(tour);
+    LeaveTheProgram(tour);
+}
