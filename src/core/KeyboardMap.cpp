@@ -33,22 +33,6 @@ QString ShapeOf(char16_t code)
     return {};
 }
 
-// The number that is typed with Alt for a code beyond the keys; 0 if there is none.
-int AltNumberOf(char16_t code)
-{
-    if (code < 0x80)
-        return 0;
-    if (code <= 0xFF)
-        return code;
-    static const std::pair<char16_t, int> others[] = {{0x0161, 154}, {0x0178, 159}, {0x02DC, 152},
-        {0x2013, 150}, {0x2018, 145}, {0x2019, 146}, {0x201C, 147}, {0x201D, 148}, {0x2030, 137},
-        {0x2039, 139}, {0x203A, 155}};
-    for (const auto& [other, number] : others)
-        if (other == code)
-            return number;
-    return 0;
-}
-
 void PaintKey(QPainter& painter, const QRectF& key, QChar plain, QChar shifted)
 {
     painter.setPen(QPen(QColor(Look::PlainColour).darker(120), 1));
@@ -73,14 +57,15 @@ void PaintAltNumbers(QPainter& painter, const QRectF& area)
     const double height = 27;
     int at = 0;
     for (const Shivaji01::Glyph& glyph : Shivaji01::Glyphs()) {
-        const int number = AltNumberOf(glyph.code);
+        const int number = Shivaji01::AltNumber(glyph.code);
         if (number == 0)
             continue;
         const QRectF cell(
             area.left() + at % columns * width, area.top() + at / columns * height, width, height);
         painter.setFont(Look::Font(Look::Size::Small));
         painter.setPen(QColor(Look::Ink).lighter(250));
-        painter.drawText(cell, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("0%1").arg(number));
+        painter.drawText(cell, Qt::AlignLeft | Qt::AlignVCenter,
+            QStringLiteral("%1").arg(number, 4, 10, QLatin1Char('0')));
         painter.setFont(Look::Font(Look::Size::Normal, true));
         painter.setPen(QColor(Look::Ink));
         painter.drawText(cell.adjusted(44, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, ShapeOf(glyph.code));

@@ -61,13 +61,13 @@ void frmMessages::Dismiss()
 
 void ShowNotice(QStringView stored)
 {
-    frmMessages notice(frmMessages::Mode::Notice, Shivaji(stored));
+    frmMessages notice(frmMessages::Mode::Notice, Words(stored));
     notice.ShowModal();
 }
 
 bool Ask(QStringView stored)
 {
-    frmMessages question(frmMessages::Mode::Question, Shivaji(stored));
+    frmMessages question(frmMessages::Mode::Question, Words(stored));
     question.ShowModal();
     return question.Answered() && frmMessages::MessageAnswer == 1;
 }

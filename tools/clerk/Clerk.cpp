@@ -63,9 +63,9 @@ public:
             return;
         }
         TurnWhenAtRest();
-        std::function<void()> todo;
-        todo.swap(action);
-        todo();
+        std::function<void()> wanted;
+        wanted.swap(action);
+        wanted();
     }
 
     // Twice round the event loop, so that what the program has put off until its event ends is done, too.
@@ -74,9 +74,9 @@ public:
         QTimer::singleShot(0, qApp, [this] { QTimer::singleShot(0, qApp, [this] { Turn(); }); });
     }
 
-    void Ask(std::function<void()> todo)
+    void Ask(std::function<void()> wanted)
     {
-        action = std::move(todo);
+        action = std::move(wanted);
         programsTurn.release();
         scriptsTurn.acquire();
     }

@@ -96,14 +96,25 @@ void MendTheShift(Tour& tour)
 
 void CheckTheShift(Tour& tour)
 {
-    const auto name = [](const char16_t* seen) { return Shivaji01::FromUnicode(seen); };
+    const auto row = [](const char* number, const char16_t* name, const char* rest) -> QString {
+        return QLatin1String(number) + Shivaji01::FromUnicode(name) + QLatin1String(rest);
+    };
     tour.CheckRows(QStringLiteral("delivery"),
         QStringLiteral(
             "select CollectionNo,MemberNo,MemberName,Animal,Liters,Fat,Rate,Amount,ActualCollectionTime "
             "from MilkCollections where CollectionDate=#06/01/2026# and CollectionTime='sakaL' "
             "order by CollectionNo"),
-        {});
-    Q_UNUSED(name);
+        {row("1|1|", u"रामचंद्र विठ्ठल पाटील", "|gaaya|12.5|4.2|34.64|433|6.05"),
+            row("2|2|", u"सुनीता गणपत जाधव", "|mhOsa|8.25|7.1|47.65|393.11|6.05"),
+            row("3|4|", u"लक्ष्मी बाळू मोरे", "|gaaya|5.5|3.8|34.16|187.88|6.05"),
+            row("4|41|", u"आशा रमेश सावंत", "|gaaya|9.75|4|34.4|335.4|6.05"),
+            row("6|3|", u"महादेव शंकर शिंदे", "|mhOsa|4.3|6.8|47.2|202.96|6.05"),
+            row("7|8|", u"शोभा हणमंत साळुंखे", "|mhOsa|7.125|6.5|46.75|333.09|6.05"),
+            row("8|6|", u"अनिल मारुती पवार", "|gaaya|11|4.4|34.88|383.68|6.05")});
+    tour.CheckRows(QStringLiteral("closing litres of the new member"),
+        QStringLiteral(
+            "select CowClosingLits,BuffClosingLits,ClosingBalance from MembersMaster where MemberNo=41"),
+        {QStringLiteral("9.75|0|250")});
 }
 
 void LeaveTheProgram(Tour& tour)

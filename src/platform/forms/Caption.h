@@ -10,7 +10,7 @@ public:
     enum class Kind { Shivaji, Words, Plain };
 
     Caption() = default;
-    Caption(QString text, Kind kind) : m_text(std::move(text)), m_kind(kind) {}
+    Caption(QString text, Kind kind) : m_text(std::move(text)), m_kind(kind) { }
 
     // As the system spells it, '&' included.
     const QString& Text() const { return m_text; }

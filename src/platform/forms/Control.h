@@ -81,7 +81,7 @@ protected:
     virtual void ShowFocus(bool held);
 
     // The mouse has moved caret or selection.
-    virtual void MouseDone() {}
+    virtual void MouseDone() { }
 
     // Runs what the mouse or a timer has set off on this control.
     void RunEvent(const Event& event);

@@ -14,7 +14,7 @@
 
 class DataGrid::Model final : public QAbstractTableModel {
 public:
-    explicit Model(std::vector<Column> columns) : m_columns(std::move(columns)) {}
+    explicit Model(std::vector<Column> columns) : m_columns(std::move(columns)) { }
 
     void Bind(Connection& connection, const QString& query)
     {
@@ -117,12 +117,15 @@ private:
 };
 
 DataGrid::DataGrid(Screen* screen, const char* name, std::vector<Column> columns)
-    : Control(screen, name, new QTableView), m_model(std::make_unique<Model>(std::move(columns)))
+    : Control(screen, name, new QTableView)
+    , m_model(std::make_unique<Model>(std::move(columns)))
 {
     View().setModel(m_model.get());
     LayOut();
     DataGrid::ShowFocus(false);
 }
+
+DataGrid::~DataGrid() = default;
 
 QTableView& DataGrid::View() const
 {
@@ -203,13 +206,26 @@ bool DataGrid::KeyPress(const QKeyEvent& key)
     const int page = std::max(1, View().viewport()->height() / View().verticalHeader()->defaultSectionSize());
     int row = CurrentRow();
     switch (key.key()) {
-    case Qt::Key_Up: row -= 1; break;
-    case Qt::Key_Down: row += 1; break;
-    case Qt::Key_PageUp: row -= page; break;
-    case Qt::Key_PageDown: row += page; break;
-    case Qt::Key_Home: row = 0; break;
-    case Qt::Key_End: row = Rows() - 1; break;
-    default: return true;
+    case Qt::Key_Up:
+        row -= 1;
+        break;
+    case Qt::Key_Down:
+        row += 1;
+        break;
+    case Qt::Key_PageUp:
+        row -= page;
+        break;
+    case Qt::Key_PageDown:
+        row += page;
+        break;
+    case Qt::Key_Home:
+        row = 0;
+        break;
+    case Qt::Key_End:
+        row = Rows() - 1;
+        break;
+    default:
+        return true;
     }
     if (Rows() > 0)
         SetCurrentRow(std::clamp(row, 0, Rows() - 1));

@@ -13,15 +13,16 @@ class QTableView;
 class DataGrid final : public Control {
 public:
     struct Column {
-        QString field;   // in the query, any spelling
+        QString field; // in the query, any spelling
         Caption caption;
         int width = 100; // pixels; 0 takes what is left
-        QString format;  // of numbers and dates; empty shows the value as it is
+        QString format = {}; // of numbers and dates; empty shows the value as it is
         bool alignRight = false;
         bool stored = true; // a text in the system's encoding; false for dates and figures without a format
     };
 
     DataGrid(Screen* screen, const char* name, std::vector<Column> columns);
+    ~DataGrid() override;
 
     // The rows to show. The connection must outlive the grid.
     void Bind(Connection& connection, const QString& query);

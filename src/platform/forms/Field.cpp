@@ -9,6 +9,7 @@
 
 Field::Field(Screen* screen, const char* name) : Control(screen, name, new QLineEdit)
 {
+    Line().setTextMargins(4, 0, 4, 0);
     Line().setContextMenuPolicy(Qt::NoContextMenu);
     Line().setDragEnabled(false);
     Line().setAcceptDrops(false);
@@ -95,7 +96,9 @@ QString FigureOf(const QString& text, bool keypad)
 
 }
 
-NumberField::NumberField(Screen* screen, const char* name, Digits digits) : Field(screen, name), m_digits(digits)
+NumberField::NumberField(Screen* screen, const char* name, Digits digits)
+    : Field(screen, name)
+    , m_digits(digits)
 {
     SetAlignRight();
     Line().setInputMethodHints(Qt::ImhFormattedNumbersOnly);
@@ -136,7 +139,8 @@ void NumberField::Insert(const QString& text)
 }
 
 ChoiceField::ChoiceField(Screen* screen, const char* name, std::vector<Choice> choices)
-    : Field(screen, name), m_choices(std::move(choices))
+    : Field(screen, name)
+    , m_choices(std::move(choices))
 {
     Line().setReadOnly(true);
 }

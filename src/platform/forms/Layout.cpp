@@ -20,6 +20,7 @@ QWidget* BandWidget(int height)
     band->setPalette(palette);
     band->setAutoFillBackground(true);
     band->setMinimumHeight(height);
+    band->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     return band;
 }
 

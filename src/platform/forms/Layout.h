@@ -10,7 +10,7 @@ class QVBoxLayout;
 
 // One key and what it does, as a strip at the foot of a screen shows it.
 struct KeyHint {
-    QString key;     // "F2", "Esc"
+    QString key; // "F2", "Esc"
     Caption action;
 };
 

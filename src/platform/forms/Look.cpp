@@ -18,7 +18,7 @@ QString& Family()
 // Buttons in one flat colour, so that the colour of the focus is seen as it is.
 class FlatStyle final : public QProxyStyle {
 public:
-    FlatStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+    FlatStyle() : QProxyStyle(QStringLiteral("Fusion")) { }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
         const QWidget* widget) const override
@@ -42,10 +42,14 @@ public:
 int PixelsOf(Look::Size size)
 {
     switch (size) {
-    case Look::Size::Small: return 15;
-    case Look::Size::Normal: return 19;
-    case Look::Size::Large: return 24;
-    case Look::Size::Title: return 30;
+    case Look::Size::Small:
+        return 15;
+    case Look::Size::Normal:
+        return 19;
+    case Look::Size::Large:
+        return 24;
+    case Look::Size::Title:
+        return 30;
     }
     Q_UNREACHABLE();
 }

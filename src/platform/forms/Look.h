@@ -11,14 +11,14 @@ namespace Look {
 
 inline constexpr QRgb FocusColour = qRgb(0xFF, 0xC0, 0xC0); // the field or button that holds the focus
 inline constexpr QRgb PlainColour = qRgb(0xB4, 0xC4, 0xCD); // a field or button without it
-inline constexpr QRgb DateColour = qRgb(0xAF, 0xBF, 0xC9);  // the same on the date screen and the counters
+inline constexpr QRgb DateColour = qRgb(0xAF, 0xBF, 0xC9); // the same on the date screen and the counters
 
-inline constexpr QRgb Paper = qRgb(0xEE, 0xF2, 0xF4);     // behind the fields
-inline constexpr QRgb Band = qRgb(0x24, 0x3B, 0x4A);      // the title band and the key strip
+inline constexpr QRgb Paper = qRgb(0xEE, 0xF2, 0xF4); // behind the fields
+inline constexpr QRgb Band = qRgb(0x24, 0x3B, 0x4A); // the title band and the key strip
 inline constexpr QRgb BandText = qRgb(0xFF, 0xFF, 0xFF);
-inline constexpr QRgb Ink = qRgb(0x12, 0x1C, 0x22);       // text
-inline constexpr QRgb Quiet = qRgb(0xDC, 0xE4, 0xE8);     // fields that can't be entered now
-inline constexpr QRgb GuideInk = qRgb(0x8A, 0x1C, 0x1C);  // the guide line
+inline constexpr QRgb Ink = qRgb(0x12, 0x1C, 0x22); // text
+inline constexpr QRgb Quiet = qRgb(0xDC, 0xE4, 0xE8); // fields that can't be entered now
+inline constexpr QRgb GuideInk = qRgb(0x8A, 0x1C, 0x1C); // the guide line
 
 // The width and height of an entry screen; it fits a screen of 1024 x 768 with a window frame around it.
 inline constexpr int ScreenWidth = 1000;
@@ -26,7 +26,8 @@ inline constexpr int ScreenHeight = 690;
 
 enum class Size { Small, Normal, Large, Title };
 
-// Gives the application its style, palette and font. `family` is a Devanagari font, or empty if there is none.
+// Gives the application its style, palette and font. `family` is a Devanagari font, or empty if there is
+// none.
 void Apply(QApplication& application, const QString& family);
 
 QFont Font(Size size, bool bold = false);

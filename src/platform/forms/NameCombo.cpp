@@ -10,7 +10,8 @@
 #include <algorithm>
 
 NameCombo::NameCombo(Screen* screen, const char* name)
-    : TextField(screen, name), m_list(std::make_unique<QListView>(screen))
+    : TextField(screen, name)
+    , m_list(std::make_unique<QListView>(screen))
 {
     m_list->setModel(&m_seen);
     m_list->setFocusPolicy(Qt::NoFocus);
@@ -20,13 +21,12 @@ NameCombo::NameCombo(Screen* screen, const char* name)
     QPalette palette = m_list->palette();
     palette.setColor(QPalette::Base, Qt::white);
     m_list->setPalette(palette);
-    QObject::connect(m_list.get(), &QListView::clicked, m_list.get(),
-        [this](const QModelIndex& index) {
-            RunEvent([this, index] {
-                Pick(index.row());
-                DropDown(false);
-            });
+    QObject::connect(m_list.get(), &QListView::clicked, m_list.get(), [this](const QModelIndex& index) {
+        RunEvent([this, index] {
+            Pick(index.row());
+            DropDown(false);
         });
+    });
 }
 
 void NameCombo::SetItems(const QStringList& names)
@@ -116,7 +116,8 @@ void NameCombo::PlaceList()
     const int wanted = m_list->sizeHintForRow(0) * shown + 2 * m_list->frameWidth();
     const bool above = below < wanted && below < field.y();
     const int height = std::min(wanted, above ? field.y() : below);
-    m_list->setGeometry(field.x(), above ? field.y() - height : field.y() + line.height(), line.width(), height);
+    m_list->setGeometry(
+        field.x(), above ? field.y() - height : field.y() + line.height(), line.width(), height);
 }
 
 // It stays at a name that is the one: two members may have the same.

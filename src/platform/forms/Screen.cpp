@@ -42,7 +42,10 @@ void Screen::ShowModal()
     struct Level {
         std::vector<Screen*>& open;
         Screen& screen;
-        Level(std::vector<Screen*>& screens, Screen& self) : open(screens), screen(self) { open.push_back(&self); }
+        Level(std::vector<Screen*>& screens, Screen& self) : open(screens), screen(self)
+        {
+            open.push_back(&self);
+        }
         ~Level()
         {
             screen.m_open = false;
@@ -358,10 +361,9 @@ void Screen::closeEvent(QCloseEvent* event)
 // The mouse meets the viewport of a list in place of the list.
 Control* Screen::OfWidget(const QObject* widget) const
 {
-    const auto at = std::find_if(m_controls.begin(), m_controls.end(),
-        [widget](const Control* control) {
-            return control->Widget() == widget || control->Widget() == widget->parent();
-        });
+    const auto at = std::find_if(m_controls.begin(), m_controls.end(), [widget](const Control* control) {
+        return control->Widget() == widget || control->Widget() == widget->parent();
+    });
     return at == m_controls.end() ? nullptr : *at;
 }
 

@@ -56,10 +56,10 @@ public:
 
 protected:
     // The screen is about to be shown: fill it.
-    virtual void Load() {}
+    virtual void Load() { }
 
     // The screen stands before the clerk, with the focus on its first control.
-    virtual void Shown() {}
+    virtual void Shown() { }
 
     // A key before any control sees it; true if it is answered.
     virtual bool KeyDown(const QKeyEvent& key);
@@ -88,8 +88,7 @@ protected:
     void SetGuideLabel(Label& label);
 
     // Puts a handler of this screen behind an event.
-    template <class S>
-    void When(Event& event, void (S::*handler)())
+    template <class S> void When(Event& event, void (S::*handler)())
     {
         event = [screen = static_cast<S*>(this), handler] { (screen->*handler)(); };
     }
@@ -135,15 +134,15 @@ private:
     std::vector<Control*> m_controls;
     Control* m_holder = nullptr;
     Control* m_asked = nullptr; // where LostFocus wants the focus instead
-    bool m_leaving = false;     // a LostFocus is running
+    bool m_leaving = false; // a LostFocus is running
     Label* m_guideLabel = nullptr;
     Label* m_titleLabel = nullptr;
     Caption m_title;
     QColor m_focusColour;
     QColor m_plainColour;
     std::deque<KeyStroke> m_keys; // sent, and not yet typed
-    std::deque<Event> m_due;      // timers that have waited for the running event
-    int m_running = 0;            // events that are running, one inside the other
+    std::deque<Event> m_due; // timers that have waited for the running event
+    int m_running = 0; // events that are running, one inside the other
     QEventLoop m_loop;
     bool m_open = false;
 };

@@ -13,14 +13,13 @@ namespace {
 
 int NamedKey(const QString& name)
 {
-    static const QHash<QString, int> keys = {
-        {QStringLiteral("TAB"), Qt::Key_Tab}, {QStringLiteral("ENTER"), Qt::Key_Return},
-        {QStringLiteral("ESC"), Qt::Key_Escape}, {QStringLiteral("HOME"), Qt::Key_Home},
-        {QStringLiteral("END"), Qt::Key_End}, {QStringLiteral("LEFT"), Qt::Key_Left},
-        {QStringLiteral("RIGHT"), Qt::Key_Right}, {QStringLiteral("UP"), Qt::Key_Up},
-        {QStringLiteral("DOWN"), Qt::Key_Down}, {QStringLiteral("BS"), Qt::Key_Backspace},
-        {QStringLiteral("DEL"), Qt::Key_Delete}, {QStringLiteral("PGUP"), Qt::Key_PageUp},
-        {QStringLiteral("PGDN"), Qt::Key_PageDown}};
+    static const QHash<QString, int> keys = {{QStringLiteral("TAB"), Qt::Key_Tab},
+        {QStringLiteral("ENTER"), Qt::Key_Return}, {QStringLiteral("ESC"), Qt::Key_Escape},
+        {QStringLiteral("HOME"), Qt::Key_Home}, {QStringLiteral("END"), Qt::Key_End},
+        {QStringLiteral("LEFT"), Qt::Key_Left}, {QStringLiteral("RIGHT"), Qt::Key_Right},
+        {QStringLiteral("UP"), Qt::Key_Up}, {QStringLiteral("DOWN"), Qt::Key_Down},
+        {QStringLiteral("BS"), Qt::Key_Backspace}, {QStringLiteral("DEL"), Qt::Key_Delete},
+        {QStringLiteral("PGUP"), Qt::Key_PageUp}, {QStringLiteral("PGDN"), Qt::Key_PageDown}};
     const QString upper = name.toUpper();
     if (upper.size() > 1 && upper[0] == u'F')
         if (const int number = upper.mid(1).toInt(); number >= 1 && number <= 12)

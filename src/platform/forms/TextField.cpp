@@ -23,7 +23,7 @@ bool IsJoiner(QChar c)
 
 }
 
-TextField::TextField(Screen* screen, const char* name) : Field(screen, name) {}
+TextField::TextField(Screen* screen, const char* name) : Field(screen, name) { }
 
 void TextField::SetText(const QString& stored)
 {
@@ -50,6 +50,8 @@ void TextField::SelectAll()
 
 bool TextField::KeyPress(const QKeyEvent& key)
 {
+    if (TypeAltNumber(key))
+        return true;
     const bool select = key.modifiers().testFlag(Qt::ShiftModifier);
     switch (key.key()) {
     case Qt::Key_Left:
@@ -82,6 +84,25 @@ bool TextField::KeyPress(const QKeyEvent& key)
     return true;
 }
 
+// A code without a key is typed as its four digits while Alt is held; the last of them puts it in.
+bool TextField::TypeAltNumber(const QKeyEvent& key)
+{
+    const bool isDigit = key.key() >= Qt::Key_0 && key.key() <= Qt::Key_9;
+    if (!isDigit || !key.modifiers().testFlag(Qt::AltModifier)) {
+        if (key.key() != Qt::Key_Alt)
+            m_altDigits.clear();
+        return false;
+    }
+    constexpr int digits = 4;
+    m_altDigits += QChar(key.key());
+    if (m_altDigits.size() < digits)
+        return true;
+    if (const char16_t code = Shivaji01::CodeOfAltNumber(m_altDigits.toInt()))
+        Insert(QString(QChar(code)));
+    m_altDigits.clear();
+    return true;
+}
+
 void TextField::Insert(const QString& text)
 {
     QString taken;
@@ -101,14 +122,17 @@ void TextField::Insert(const QString& text)
 void TextField::InsertSeen(const QString& devanagari)
 {
     Range range = Selection();
-    const qsizetype before = Before(range.start);
-    const QString syllable = Shivaji01::ToUnicode(QStringView(m_stored).mid(before, range.start - before));
-    if (!devanagari[0].isMark() && !IsJoiner(devanagari[0]) && !syllable.endsWith(Virama)) {
-        Replace(range, Shivaji01::FromUnicode(devanagari));
-        return;
+    qsizetype before = Before(range.start);
+    while (before > 0 && IsJoiner(m_stored[before]))
+        before = Before(before);
+    QString whole = Shivaji01::ToUnicode(QStringView(m_stored).mid(before, range.start - before));
+    const bool open = whole.endsWith(Virama) || (!whole.isEmpty() && IsJoiner(whole.back()));
+    if (open || devanagari[0].isMark() || IsJoiner(devanagari[0])) {
+        whole += devanagari;
+        range.start = before;
+    } else {
+        whole = devanagari;
     }
-    range.start = before;
-    const QString whole = syllable + devanagari;
     Replace(range, Shivaji01::FromUnicode(whole));
 }
 

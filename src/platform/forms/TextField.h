@@ -30,7 +30,7 @@ protected:
     void MouseDone() override;
 
     // The text has changed, by the clerk or by the screen.
-    virtual void Changed() {}
+    virtual void Changed() { }
 
 private:
     struct Range {
@@ -41,6 +41,7 @@ private:
     void Hold(const QString& stored);
     void Replace(Range range, const QString& stored);
     void InsertSeen(const QString& devanagari);
+    bool TypeAltNumber(const QKeyEvent& key);
     void Backspace();
     void Delete();
     bool EraseSelection();
@@ -53,7 +54,8 @@ private:
 
     QString m_stored;
     std::vector<Shivaji01::Piece> m_pieces; // of the stored text
-    qsizetype m_caret = 0;                  // in the stored text, at the edge of a piece
-    qsizetype m_anchor = 0;                 // the other end of the selection
+    qsizetype m_caret = 0; // in the stored text, at the edge of a piece
+    qsizetype m_anchor = 0; // the other end of the selection
     int m_maxLength = 0;
+    QString m_altDigits; // typed with Alt so far
 };

@@ -2,8 +2,19 @@
 #include "Shivaji01Table.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace Shivaji01 {
+
+namespace {
+
+// Where the numbers of the old code page aren't those of Unicode.
+constexpr std::array<std::pair<char16_t, int>, 11> OldNumbers{{{u'\u2030', 137}, {u'\u2039', 139},
+    {u'\u2018', 145}, {u'\u2019', 146}, {u'\u201C', 147}, {u'\u201D', 148}, {u'\u2013', 150},
+    {u'\u02DC', 152}, {u'\u0161', 154}, {u'\u203A', 155}, {u'\u0178', 159}}};
+
+}
 
 const std::vector<Glyph>& Glyphs()
 {
@@ -16,6 +27,22 @@ const std::vector<Glyph>& Glyphs()
         return all;
     }();
     return glyphs;
+}
+
+int AltNumber(char16_t code)
+{
+    for (const auto& [old, number] : OldNumbers)
+        if (old == code)
+            return number;
+    return code > 0x7F && code <= 0xFF ? code : 0;
+}
+
+char16_t CodeOfAltNumber(int number)
+{
+    for (const Glyph& glyph : Glyphs())
+        if (number != 0 && AltNumber(glyph.code) == number)
+            return glyph.code;
+    return 0;
 }
 
 }

@@ -41,4 +41,9 @@ struct Glyph {
 // All codes of the encoding, in the order of their codes.
 const std::vector<Glyph>& Glyphs();
 
+// The codes that no key gives are typed with Alt and the digits of a number, "0225" for 225. The number of
+// a code, 0 for one that has a key; and the code of a number, null for a number that stands for none.
+int AltNumber(char16_t code);
+char16_t CodeOfAltNumber(int number);
+
 }

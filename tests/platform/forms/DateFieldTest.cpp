@@ -5,7 +5,10 @@ namespace {
 
 class DateFieldTest : public FieldTest<DateField> {
 protected:
-    static std::unique_ptr<DateField> Make(Screen* screen) { return std::make_unique<DateField>(screen, "maskDate"); }
+    static std::unique_ptr<DateField> Make(Screen* screen)
+    {
+        return std::make_unique<DateField>(screen, "maskDate");
+    }
 
     // Types from where the clerk comes in: the whole mask is selected.
     std::string Entered(DateField& field, const char* keys, const char* before = "")
@@ -62,9 +65,8 @@ TEST_F(DateFieldTest, ASlashWithNothingBeforeItIsDropped)
 
 TEST_F(DateFieldTest, ASlashInsideAFullPartOnlyStepsOn)
 {
-    With(Make, [&](DateField& field) {
-        EXPECT_EQ(Entered(field, "{Home}{Right}/11", "15/04/2026"), "15/11/2026");
-    });
+    With(Make,
+        [&](DateField& field) { EXPECT_EQ(Entered(field, "{Home}{Right}/11", "15/04/2026"), "15/11/2026"); });
 }
 
 TEST_F(DateFieldTest, TypingPastTheEndIsDropped)
@@ -106,15 +108,16 @@ TEST_F(DateFieldTest, BackspaceStepsBackOverTheSlashes)
 
 TEST_F(DateFieldTest, BackspaceAndDeleteEmptyASelection)
 {
-    ExpectTyped({{"{BS}", "__/__/____"}, {"{DEL}", "__/__/____"}, {"{Home}+{Right}+{Right}{DEL}", "__/04/2026"},
-                    {"{Home}+{Right}+{Right}{BS}31", "31/04/2026"}},
+    ExpectTyped(
+        {{"{BS}", "__/__/____"}, {"{DEL}", "__/__/____"}, {"{Home}+{Right}+{Right}{DEL}", "__/04/2026"},
+            {"{Home}+{Right}+{Right}{BS}31", "31/04/2026"}},
         "15/04/2026");
 }
 
 TEST_F(DateFieldTest, DeleteErasesForwardsOverTheSlashes)
 {
-    ExpectTyped({{"{Home}{DEL}", "_5/04/2026"}, {"{Home}{DEL}{DEL}{DEL}", "__/_4/2026"}, {"{End}{DEL}", "15/04/2026"},
-                    {"{Home}{Right}{Right}{DEL}", "15/_4/2026"}},
+    ExpectTyped({{"{Home}{DEL}", "_5/04/2026"}, {"{Home}{DEL}{DEL}{DEL}", "__/_4/2026"},
+                    {"{End}{DEL}", "15/04/2026"}, {"{Home}{Right}{Right}{DEL}", "15/_4/2026"}},
         "15/04/2026");
 }
 
@@ -158,7 +161,8 @@ TEST_F(DateFieldTest, OnlyADateOfTheCalendarIsADate)
         };
         EXPECT_TRUE(holds("28022026"));
         EXPECT_TRUE(holds("29022028"));
-        for (const char* wrong : {"31022026", "29022026", "25132026", "13252026", "00042026", "15002026", "1504", "1504202"})
+        for (const char* wrong :
+            {"31022026", "29022026", "25132026", "13252026", "00042026", "15002026", "1504", "1504202"})
             EXPECT_FALSE(holds(wrong)) << wrong;
         Entered(field, "31022026");
         EXPECT_THROW(field.Date(), RunTimeError);

@@ -8,11 +8,12 @@
 #include <QVBoxLayout>
 
 // One field under test, and one to leave it for.
-template <class F>
-class FieldScreen : public Screen {
+template <class F> class FieldScreen : public Screen {
 public:
     explicit FieldScreen(const std::function<std::unique_ptr<F>(Screen*)>& make)
-        : Screen("FieldScreen"), field(make(this)), next(this, "next")
+        : Screen("FieldScreen")
+        , field(make(this))
+        , next(this, "next")
     {
         auto* column = new QVBoxLayout(this);
         column->addWidget(field->Widget());
@@ -26,8 +27,7 @@ public:
 };
 
 // Keystroke by keystroke: the field holds the focus from the start.
-template <class F>
-class FieldTest : public FormsTest {
+template <class F> class FieldTest : public FormsTest {
 protected:
     using Maker = std::function<std::unique_ptr<F>(Screen*)>;
 

@@ -16,7 +16,7 @@ protected:
         EXPECT_FALSE(Failure);
     }
 
-    static void Plain(Desk&) {}
+    static void Plain(Desk&) { }
 };
 
 TEST_F(FocusTest, OpeningPutsTheFocusOnTheFirstControlAndThenIsShown)

@@ -21,8 +21,7 @@ inline QString Q(const char* text)
 class FormsTest : public ::testing::Test {
 protected:
     // Opens the screen that `make` makes, and plays on it. The screen is gone when this returns.
-    template <class S>
-    void Open(const std::function<void(S&)>& setUp, const std::function<void(S&)>& script)
+    template <class S> void Open(const std::function<void(S&)>& setUp, const std::function<void(S&)>& script)
     {
         S* screen = nullptr;
         Failure = TheClerk.Play(
@@ -90,7 +89,7 @@ private:
 // A dialog with one button, as a message is.
 class Notice : public Screen {
 public:
-    Notice() : Screen("Notice") {}
+    Notice() : Screen("Notice") { }
     Button cmdExit{this, "cmdExit", Shivaji(u"puZo")};
     NumberField txtNote{this, "txtNote", NumberField::Digits::Whole};
 

@@ -224,7 +224,10 @@ TEST_F(ChoiceFieldTest, AWordThatIsNoChoiceCanBeSetByTheScreen)
 
 class PlainFieldTest : public FieldTest<PlainField> {
 protected:
-    static std::unique_ptr<PlainField> Make(Screen* screen) { return std::make_unique<PlainField>(screen, "txtEnglish"); }
+    static std::unique_ptr<PlainField> Make(Screen* screen)
+    {
+        return std::make_unique<PlainField>(screen, "txtEnglish");
+    }
 };
 
 TEST_F(PlainFieldTest, EveryChangeByTheClerkIsToldAndNoneByTheScreen)

@@ -39,7 +39,8 @@ TEST(ParseKeysTest, LettersAndFiguresAreThemselves)
 TEST(ParseKeysTest, NamesInAnySpelling)
 {
     EXPECT_EQ(Parsed("{TAB}{ENTER}{ESC}{HOME}{END}"), "Tab Return Esc Home End");
-    EXPECT_EQ(Parsed("{Left}{right}{UP}{Down}{BS}{Del}{PgUp}{PGDN}"), "Left Right Up Down Backspace Del PgUp PgDown");
+    EXPECT_EQ(Parsed("{Left}{right}{UP}{Down}{BS}{Del}{PgUp}{PGDN}"),
+        "Left Right Up Down Backspace Del PgUp PgDown");
     EXPECT_EQ(Parsed("{F1}{f2}{F12}"), "F1 F2 F12");
 }
 

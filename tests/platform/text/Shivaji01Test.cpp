@@ -412,3 +412,20 @@ TEST(Shivaji01Pieces, NothingTypedIsDroppedInSilence)
         }
     }
 }
+
+TEST(AltNumbers, EveryCodeWithoutAKeyHasOneAndOnlyThose)
+{
+    for (const Shivaji01::Glyph& glyph : Shivaji01::Glyphs()) {
+        const int number = Shivaji01::AltNumber(glyph.code);
+        EXPECT_EQ(number == 0, glyph.code < 0x7F);
+        EXPECT_EQ(Shivaji01::CodeOfAltNumber(number), number == 0 ? u'\0' : glyph.code);
+    }
+}
+
+TEST(AltNumbers, ANumberThatStandsForNothingHasNoCode)
+{
+    EXPECT_EQ(Shivaji01::AltNumber(u'a'), 0);
+    EXPECT_EQ(Shivaji01::CodeOfAltNumber(0), u'\0');
+    EXPECT_EQ(Shivaji01::CodeOfAltNumber(65), u'\0');
+    EXPECT_EQ(Shivaji01::CodeOfAltNumber(154), u'š');
+}

@@ -1,0 +1,271 @@
+#include "FormsTest.h"
+
+#include "Connection.h"
+#include "DataGrid.h"
+#include "MenuList.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QVBoxLayout>
+
+namespace {
+
+void ClickOn(QAbstractItemView& view, const QModelIndex& index, QEvent::Type press = QEvent::MouseButtonPress)
+{
+    const QPointF at = view.visualRect(index).center();
+    for (QEvent::Type type : {press, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, at, view.viewport()->mapToGlobal(at), Qt::LeftButton,
+            type == press ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(view.viewport(), &event);
+    }
+}
+
+class MenuScreen : public Screen {
+public:
+    MenuScreen() : Screen("Menu")
+    {
+        auto* column = new QVBoxLayout(this);
+        for (Control* control : Controls())
+            column->addWidget(control->Widget());
+        lstMenu.SetEntries({Shivaji(u"dUQa saMklana"), Shivaji(u"dUQa ivaËI"), Plain(u"Exit")});
+        lstMenu.SetCurrentIndex(0);
+        lstMenu.Chosen = [this] { chosen += lstMenu.Text().toStdString() + ";"; };
+        resize(400, 300);
+    }
+
+    PlainField txtBefore{this, "txtBefore"};
+    MenuList lstMenu{this, "lstMenu"};
+    std::string chosen;
+
+    QListWidget& View() const { return *static_cast<QListWidget*>(lstMenu.Widget()); }
+};
+
+class MenuListTest : public FormsTest {
+protected:
+    void AtMenu(const std::function<void(MenuScreen&)>& script)
+    {
+        Open<MenuScreen>([](MenuScreen&) {}, script);
+        EXPECT_FALSE(Failure);
+    }
+};
+
+TEST_F(MenuListTest, TheArrowsWalkTheEntriesAndStopAtTheEnds)
+{
+    AtMenu([&](MenuScreen& menu) {
+        Type("{TAB}");
+        std::string walked;
+        for (const char* key : {"{Up}", "{Down}", "{Down}", "{Down}", "{Home}", "{End}", "{Up}", "x"}) {
+            Type(key);
+            walked += std::to_string(menu.lstMenu.CurrentIndex());
+        }
+        EXPECT_EQ(walked, "01220211");
+        EXPECT_EQ(menu.lstMenu.Text().toStdString(), "dUQa ivaËI");
+        EXPECT_EQ(menu.View().currentItem()->text().toStdString(), "दूध विक्री");
+    });
+}
+
+TEST_F(MenuListTest, ADoubleClickChoosesAndAClickOnlyStandsThere)
+{
+    AtMenu([&](MenuScreen& menu) {
+        Do([&] { ClickOn(menu.View(), menu.View().model()->index(2, 0)); });
+        EXPECT_EQ(FocusName(), "lstMenu");
+        EXPECT_EQ(menu.lstMenu.Text().toStdString(), "Exit");
+        EXPECT_EQ(menu.chosen, "");
+        Do([&] { ClickOn(menu.View(), menu.View().model()->index(2, 0), QEvent::MouseButtonDblClick); });
+        EXPECT_EQ(menu.chosen, "Exit;");
+    });
+}
+
+TEST_F(MenuListTest, AClickThatTheFieldBeforeRefusesStandsNowhere)
+{
+    AtMenu([&](MenuScreen& menu) {
+        Do([&] {
+            menu.txtBefore.LostFocus = [&] { menu.txtBefore.SetFocus(); };
+            ClickOn(menu.View(), menu.View().model()->index(2, 0));
+        });
+        EXPECT_EQ(FocusName(), "txtBefore");
+        EXPECT_EQ(menu.lstMenu.CurrentIndex(), 0);
+    });
+}
+
+TEST_F(MenuListTest, AnEmptyListAndADisabledOneChooseNothing)
+{
+    AtMenu([&](MenuScreen& menu) {
+        Do([&] {
+            menu.lstMenu.SetEnabled(false);
+            menu.lstMenu.Choose();
+            menu.lstMenu.SetEnabled(true);
+            menu.lstMenu.SetEntries({});
+            menu.lstMenu.Choose();
+        });
+        EXPECT_EQ(menu.chosen, "");
+        EXPECT_EQ(menu.lstMenu.CurrentIndex(), -1);
+        EXPECT_EQ(menu.lstMenu.Text().toStdString(), "");
+        Type("{TAB}{Down}{Up}{End}");
+        EXPECT_EQ(menu.lstMenu.CurrentIndex(), -1);
+    });
+}
+
+class GridScreen : public Screen {
+public:
+    GridScreen() : Screen("Grid")
+    {
+        auto* column = new QVBoxLayout(this);
+        for (Control* control : Controls())
+            column->addWidget(control->Widget());
+        resize(800, 400);
+    }
+
+    PlainField txtBefore{this, "txtBefore"};
+    DataGrid DataGridInwards{this, "DataGridInwards",
+        {{QStringLiteral("COLLECTIONNO"), Shivaji(u"k``."), 60, {}, true, false},
+            {QStringLiteral("membername"), Shivaji(u"naava"), 0, {}, false, true},
+            {QStringLiteral("Liters"), Plain(u"Liters"), 100, QStringLiteral("#####0.000"), true},
+            {QStringLiteral("InwardDate"), Plain(u"Date"), 120, QStringLiteral("dd/MM/yyyy")},
+            {QStringLiteral("NoSuchColumn"), Plain(u"?"), 50}}};
+
+    QTableView& View() const { return *static_cast<QTableView*>(DataGridInwards.Widget()); }
+};
+
+class DataGridTest : public FormsTest {
+protected:
+    DataGridTest()
+    {
+        books.Create(folder.filePath(Q("books.mdb")), Q("word"));
+        books.RunScript(
+            Q("create table Inwards (CollectionNo INTEGER, MemberName TEXT, Liters REAL, InwardDate DATE)"));
+        Add("1,'rama',1.5,'15/04/2026'");
+        Add("2,'sakaLo',12.3456,'16/04/2026'");
+        Add("3,Null,Null,Null");
+    }
+
+    void Add(const char* values)
+    {
+        books.Execute(QStringLiteral("insert into Inwards values(%1)").arg(Q(values)));
+    }
+
+    void AtGrid(const std::function<void(DataGrid&, GridScreen&)>& script)
+    {
+        Open<GridScreen>(
+            [&](GridScreen& screen) {
+                screen.DataGridInwards.Bind(books, Q("select * from Inwards order by CollectionNo"));
+            },
+            [&](GridScreen& screen) { script(screen.DataGridInwards, screen); });
+        EXPECT_FALSE(Failure);
+    }
+
+    static std::string Row(const DataGrid& grid, int row)
+    {
+        QStringList cells;
+        for (int column = 0; column < 5; ++column)
+            cells.append(grid.Cell(row, column));
+        return cells.join(u'|').toStdString();
+    }
+
+    QTemporaryDir folder;
+    Connection books;
+};
+
+TEST_F(DataGridTest, ShowsTheRowsOfItsQueryAsTheEyeReadsThem)
+{
+    AtGrid([&](DataGrid& grid, GridScreen&) {
+        ASSERT_EQ(grid.Rows(), 3);
+        EXPECT_EQ(Row(grid, 0), "1|राम|1.500|15/04/2026|");
+        EXPECT_EQ(Row(grid, 1), "2|सकाळे|12.346|16/04/2026|");
+        EXPECT_EQ(Row(grid, 2), "3||||") << "Null and an unknown column show nothing";
+    });
+}
+
+TEST_F(DataGridTest, GivesTheValuesByFieldInAnySpelling)
+{
+    AtGrid([&](DataGrid& grid, GridScreen&) {
+        EXPECT_EQ(grid.Value(0, u"MEMBERNAME").Text().toStdString(), "rama");
+        EXPECT_EQ(grid.Value(1, u"liters").Number(), 12.3456);
+        EXPECT_TRUE(grid.Value(2, u"Liters").IsNull());
+        EXPECT_TRUE(grid.Value(0, u"NoSuchColumn").IsNull());
+        EXPECT_TRUE(grid.Value(-1, u"Liters").IsNull());
+        EXPECT_TRUE(grid.Value(3, u"Liters").IsNull());
+    });
+}
+
+TEST_F(DataGridTest, WhatWasWrittenIsSeenAfterARefresh)
+{
+    AtGrid([&](DataGrid& grid, GridScreen&) {
+        Do([&] { Add("4,'iksana',2,'17/04/2026'"); });
+        EXPECT_EQ(grid.Rows(), 3);
+        Do([&] { grid.Refresh(); });
+        ASSERT_EQ(grid.Rows(), 4);
+        EXPECT_EQ(Row(grid, 3), "4|किसन|2.000|17/04/2026|");
+        Do([&] {
+            books.Execute(Q("delete * from Inwards"));
+            grid.Refresh();
+        });
+        EXPECT_EQ(grid.Rows(), 0);
+        EXPECT_EQ(grid.CurrentRow(), -1);
+        EXPECT_EQ(grid.Text().toStdString(), "");
+    });
+}
+
+TEST_F(DataGridTest, ColumnsAreAlignedTitledAndWideAsAsked)
+{
+    AtGrid([&](DataGrid&, GridScreen& screen) {
+        const QAbstractItemModel& model = *screen.View().model();
+        const auto align = [&](int column) {
+            return Qt::Alignment(model.index(0, column).data(Qt::TextAlignmentRole).toInt());
+        };
+        EXPECT_TRUE(align(0).testFlag(Qt::AlignRight));
+        EXPECT_TRUE(align(1).testFlag(Qt::AlignLeft));
+        EXPECT_EQ(model.headerData(1, Qt::Horizontal).toString().toStdString(), "नाव");
+        EXPECT_EQ(screen.View().columnWidth(2), 100);
+        EXPECT_GT(screen.View().columnWidth(1), 300) << "takes what is left";
+    });
+}
+
+TEST_F(DataGridTest, TheArrowsWalkTheRows)
+{
+    AtGrid([&](DataGrid& grid, GridScreen&) {
+        Type("{TAB}");
+        EXPECT_EQ(FocusName(), "DataGridInwards");
+        std::string walked;
+        for (const char* key :
+            {"{Up}", "{Down}", "{Down}", "{Down}", "{Home}", "{End}", "{PGUP}", "{PGDN}", "x", "{Left}"}) {
+            Type(key);
+            walked += std::to_string(grid.CurrentRow());
+        }
+        EXPECT_EQ(walked, "0122020222");
+        EXPECT_EQ(grid.Text().toStdString(), "3");
+    });
+}
+
+TEST_F(DataGridTest, AClickTakesTheFocusAndTheRow)
+{
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        Do([&] { ClickOn(screen.View(), screen.View().model()->index(1, 0)); });
+        EXPECT_EQ(FocusName(), "DataGridInwards");
+        EXPECT_EQ(grid.CurrentRow(), 1);
+    });
+}
+
+TEST_F(DataGridTest, AQueryThatFailsIsARunTimeError)
+{
+    AtGrid([&](DataGrid& grid, GridScreen&) {
+        Do([&] { EXPECT_THROW(grid.Bind(books, Q("select * from Nowhere")), RunTimeError); });
+    });
+}
+
+TEST_F(DataGridTest, TwoThousandRows)
+{
+    books.RunScript(Q("with recursive n(i) as (select 4 union all select i+1 from n where i<2000) "
+                      "insert into Inwards select i,'rama',i/10.0,'2026-04-15' from n"));
+    AtGrid([&](DataGrid& grid, GridScreen&) {
+        EXPECT_EQ(grid.Rows(), 2000);
+        Type("{TAB}{End}");
+        EXPECT_EQ(Row(grid, grid.CurrentRow()), "2000|राम|200.000|15/04/2026|");
+    });
+}
+
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+struct sqlite3;
+
+// An open database file as its engine sees it, below the system's statements.
+namespace BooksFile {
+
+// "ok", or what the engine's own check of the whole file has found.
+std::string IntegrityOf(sqlite3* handle);
+
+// The names of all tables, in the order of the alphabet.
+std::vector<std::string> TablesOf(sqlite3* handle);
+
+}
