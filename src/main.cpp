@@ -5,7 +5,6 @@
 int main(int argc, char* argv[])
 {
     Application application(argc, argv);
-    Application::setQuitOnLastWindowClosed(false);
     RegisterScreens();
     return RunProgram();
 }

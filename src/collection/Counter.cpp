@@ -3,6 +3,15 @@
 #include "MdlAccounts.h"
 #include "Recordset.h"
 
+QStringList Counter::MemberNames()
+{
+    QStringList names;
+    for (Recordset member(gCn, QStringLiteral("SELECT MemberName FROM MembersMaster order by MemberName"));
+         !member.Eof(); member.MoveNext())
+        names.append(member[u"MemberName"].Text());
+    return names;
+}
+
 QString Counter::Setting(QStringView column)
 {
     const Recordset settings(gCn, QStringLiteral("select * from AutoSettings"));

@@ -3,19 +3,31 @@
 #include "Field.h"
 #include "Numbers.h"
 
+#include <QStringList>
+
 // What the counters of the society have in common.
 namespace Counter {
 
 inline constexpr QStringView FatFormat = u"#########0.0";
 inline constexpr QStringView MoneyFormat = u"#########0.00";
+inline constexpr QStringView AverageFatFormat = u"#######0.0";
 inline constexpr double HighestFat = 30.0;
 inline constexpr double HighestRate = 60.0;
+
+// Twips of the grids' columns as pixels.
+constexpr int Twips(int twips)
+{
+    return twips / 15;
+}
 
 // The number that a field reads.
 inline double Value(const Field& field)
 {
     return Val(field.Text());
 }
+
+// The names of all members, in order.
+QStringList MemberNames();
 
 // A setting of the society, without blanks at its ends; empty where there are no settings.
 QString Setting(QStringView column);

@@ -12,10 +12,11 @@ namespace {
 
 constexpr std::array<QStringView, 2> BooksThenCopy = {u"MilkCollections", u"MilkCollectionsTemp"};
 
-std::int16_t NextNumber(QStringView table, const Shift& shift)
+// `day` is the column of the date as a statement words it.
+std::int16_t NextNumber(QStringView table, QStringView day, const Shift& shift)
 {
     const Recordset highest(gCn,
-        Sql(u"SELECT max(CollectionNo) as MaxTrId FROM ", table, u" WHERE cstr(CollectionDate)=", shift.Day(),
+        Sql(u"SELECT max(CollectionNo) as MaxTrId FROM ", table, u" WHERE ", day, u"=", shift.Day(),
             u" and CollectionTime='", shift.time, u"'"));
     return highest.Eof() ? std::int16_t{1} : ToInt16(highest[u"MaxTrId"].Number() + 1);
 }
@@ -48,8 +49,8 @@ void OpenShift(const Shift& shift)
 void EmptyShiftCopy()
 {
     Transaction emptying(gCn);
-    gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
-    gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
+    for (int twice = 0; twice < 2; ++twice) // as the system has always done it; the second finds nothing
+        gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
     emptying.Commit();
 }
 
@@ -60,21 +61,25 @@ void TidyShiftCopy()
 
 std::int16_t NextNumberInBooks(const Shift& shift)
 {
-    return NextNumber(u"MilkCollections", shift);
+    return NextNumber(u"MilkCollections", u"cstr(CollectionDate)", shift);
 }
 
 std::int16_t NextNumberInCopy(const Shift& shift)
 {
-    return NextNumber(u"MilkCollectionsTemp", shift);
+    return NextNumber(u"MilkCollectionsTemp", u"cstr(CollectionDate)", shift);
+}
+
+std::int16_t NextNumberAfterDelete(const Shift& shift)
+{
+    return NextNumber(u"MilkCollectionsTemp", u"CollectionDate", shift);
 }
 
 void InsertDelivery(const Delivery& d)
 {
     for (QStringView table : BooksThenCopy)
         gCn.Execute(Sql(u"insert into ", table,
-            u"(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,Animal,Liters,Fat,"
-            u"Rate,"
-            u"Amount,TranId,ActualCollectionTime) values(",
+            u"(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,Animal,"
+            u"Liters,Fat,Rate,Amount,TranId,ActualCollectionTime) values(",
             gAppState.gCompanyId, u",'", DateText(d.shift.date), u"','", d.shift.time, u"',", d.number, u",",
             d.memberNo, u",'", d.memberName, u"','", d.animal, u"',", d.liters, u",", d.fat, u",", d.rate,
             u",", d.amount, u",0, '", d.actualTime, u"')"));

@@ -41,6 +41,7 @@ void TidyShiftCopy();
 // The number after the highest one of the shift, 1 in an empty shift; by the books, or by the copy.
 std::int16_t NextNumberInBooks(const Shift& shift);
 std::int16_t NextNumberInCopy(const Shift& shift);
+std::int16_t NextNumberAfterDelete(const Shift& shift); // by the copy, too
 
 void InsertDelivery(const Delivery& delivery);
 void UpdateDelivery(const Delivery& delivery);

@@ -1,102 +1,85 @@
 #pragma once
 
-#include "Button.h"
-#include "DateField.h"
-#include "Deliveries.h"
-#include "NameCombo.h"
-#include "Screen.h"
+#include "CounterReport.h"
+#include "CounterScreen.h"
 
-class QWidget;
-class Recordset;
+class QStackedLayout;
 
-// The counter: one line of fields for one can of milk, walked with Enter; the last of them saves it.
-class frmMilkCollections final : public Screen {
+// The counter of the society. F7 on a member's number lays a frame over the list of the shift, in which a
+// member's own collection over a period is shown with its sums.
+class frmMilkCollections final : public CounterScreen {
 public:
     frmMilkCollections();
 
-    // Litres of the new rows saved since the screen was opened. They are only added to.
-    double CowLitersTaken = 0;
-    double BuffLitersTaken = 0;
-
 private:
-    Label lblTitle{this, "lblTitle"};
     Label lblCompanyTitle{this, "lblCompanyTitle"};
     Label lblAcYear{this, "lblAcYear"};
-    Label lblActualCollectionTime{this, "lblActualCollectionTime"};
-    Label lblFooter{this, "lblFooter"};
-    Label lblF9{this, "lblF9", Plain(u"F9")};
-    Label lblSearch{this, "lblSearch", Shivaji(u"dUQa saMklana pavatI")};
-    Label lblF7{this, "lblF7", Plain(u"F7")};
-    Label lblMilk{this, "lblMilk", Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana")};
-    Label lblF10{this, "lblF10", Plain(u"F10")};
-    Label lblDelete{this, "lblDelete", Shivaji(u"KaoDNao")};
+    Label Label28{this, "Label28", Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana")};
 
-    DateField maskDate{this, "maskDate"};
-    ChoiceField txtTime{
-        this, "txtTime", {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}}};
-    NumberField txtCollectionNo{this, "txtCollectionNo", NumberField::Digits::Whole};
-    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
-    NameCombo ComboMemberName{this, "ComboMemberName"};
-    ChoiceField txtAnimal{
-        this, "txtAnimal", {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}}};
-    NumberField txtLiters{this, "txtLiters", NumberField::Digits::Decimals};
-    NumberField txtFat{this, "txtFat", NumberField::Digits::Decimals};
-    NumberField txtRate{this, "txtRate", NumberField::Digits::Decimals};
-    NumberField txtAmount{this, "txtAmount", NumberField::Digits::Decimals};
-    Button cmdGo{this, "cmdGo", Plain(u" >")};
+    Label lblCowLitM{this, "lblCowLitM"};
+    Label lblCowLitE{this, "lblCowLitE"};
+    Label lblCowTotalLiters{this, "lblCowTotalLiters"};
+    Label lblCowTotalM{this, "lblCowTotalM"};
+    Label lblCowTotalE{this, "lblCowTotalE"};
+    Label lblCowTotal{this, "lblCowTotal"};
+    Label lblCowAvgFatM{this, "lblCowAvgFatM"};
+    Label lblCowAvgFatE{this, "lblCowAvgFatE"};
+    Label lblCowTotalAvgFat{this, "lblCowTotalAvgFat"};
+    Label lblBuffLitM{this, "lblBuffLitM"};
+    Label lblBuffLitE{this, "lblBuffLitE"};
+    Label lblBuffTotalLiters{this, "lblBuffTotalLiters"};
+    Label lblBuffTotalM{this, "lblBuffTotalM"};
+    Label lblBuffTotalE{this, "lblBuffTotalE"};
+    Label lblBuffTotal{this, "lblBuffTotal"};
+    Label lblBuffAvgFatM{this, "lblBuffAvgFatM"};
+    Label lblBuffAvgFatE{this, "lblBuffAvgFatE"};
+    Label lblBuffTotalAvgFat{this, "lblBuffTotalAvgFat"};
 
-    std::int16_t NextCollectionNo = 1; // the number of the next new row
-    bool IsExistingRow = false; // the fields show a row that the shift already has
-    bool FocusBounce = false; // a field that was just entered is sending the focus back
+    DateField maskFromDate{this, "maskFromDate"};
+    DateField maskToDate{this, "maskToDate"};
+    NumberField txtAccountId{this, "txtAccountId", NumberField::Digits::Whole};
+    NameCombo cmbAccountName{this, "cmbAccountName"};
+    Button cmdGoOn{this, "cmdGoOn", Plain(u">>")};
+    Button Command1{this, "Command1", Shivaji(u"&irpaoT-")};
+    Button Command2{this, "Command2", Shivaji(u"&baahor")};
+    Button Command3{this, "Command3", Shivaji(u"dUQa saMklana nasaNaaro saBaasad")};
+    DataGrid DataGridMilk;
+
+    CounterReport CRMilkPayments;
+    QStackedLayout* m_views; // the list of the shift, and FrameMilkCollection over it
+    std::vector<Control*> m_heldBack; // what could be entered before the frame was opened
 
     void Load() override;
-    bool KeyDown(const QKeyEvent& key) override;
     void Escape() override;
+    void LoadMemberNames() override;
+    void MembersShown() override;
+    void ShowMemberFrame() override;
 
-    void maskDate_GotFocus();
-    void maskDate_LostFocus();
-    void txtTime_GotFocus();
-    void txtTime_LostFocus();
-    void txtCollectionNo_GotFocus();
-    bool txtCollectionNo_KeyDown(const QKeyEvent& key);
-    void txtCollectionNo_LostFocus();
-    void txtMemberNo_GotFocus();
-    bool txtMemberNo_KeyDown(const QKeyEvent& key);
-    void txtMemberNo_LostFocus();
-    void ComboMemberName_GotFocus();
-    void ComboMemberName_LostFocus();
-    void txtAnimal_GotFocus();
-    void txtAnimal_LostFocus();
-    void txtLiters_LostFocus();
-    void txtFat_GotFocus();
-    void txtFat_LostFocus();
-    void txtRate_LostFocus();
-    void cmdGo_Click();
-    void cmdGo_LostFocus();
+    void maskFromDate_LostFocus();
+    void maskToDate_LostFocus();
+    void txtAccountId_LostFocus();
+    void cmbAccountName_GotFocus();
+    void cmbAccountName_LostFocus();
+    void cmdGoOn_Click();
+    void Command1_Click();
+    void Command2_Click();
+    void Command3_Click();
 
-    void ClearEntryFields();
-    void RefreshActualTime();
-    void LoadMemberNames();
+    void ShowMemberGrid();
+    void MemberLitersAndAmounts();
+    void MemberAverageFat();
+    void RenumberTemp();
+    void ResetMemberFrame();
 
-    void EnableEntry(bool enabled);
-    void SendBack(Control& to);
-    bool IsSentBack();
-    bool HoldDate();
-    Shift TheShift() const;
-    Delivery TheDelivery() const;
-    void ShowNumber(std::int16_t number);
-    void ShowRow(const Recordset& row);
-    void ShowAmount();
-    void ShowMemberKeys(bool shown);
-    void TakeAnimalOf(const Recordset& member);
-    void OfferLastFat();
-    bool IsSecondDelivery() const;
-    void StoreNew(const Delivery& delivery);
-    void DeleteRow();
-    void SearchMember();
+    std::vector<Control*> FrameControls();
+    void ShowFrame(bool shown);
+    bool HoldPeriod();
+    void ShowAccount(const Recordset& member);
+    QString InPeriod() const;
 
-    void LayOut();
-    QWidget* ShiftLine();
-    QWidget* EntryPanel();
-    QWidget* MemberKeys();
+    QLayout* Views();
+    QWidget* ShiftView();
+    QWidget* FrameMilkCollection();
+    QLayout* FrameHead();
+    QWidget* MemberSums();
 };

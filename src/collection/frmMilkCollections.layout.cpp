@@ -1,184 +1,153 @@
 #include "frmMilkCollections.h"
 
-#include "Keys.h"
-#include "Look.h"
+#include "CounterPieces.h"
+#include "Layout.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
+#include <QStackedLayout>
 #include <QVBoxLayout>
+
+using namespace CounterPieces;
 
 namespace {
 
-constexpr int TallField = 64;
+constexpr int FieldHeight = 34;
 
-QLabel* Text(const Label& label)
+QLabel* Mark(QStringView text)
 {
-    return static_cast<QLabel*>(label.Widget());
-}
-
-void SetInk(QWidget& widget)
-{
-    QPalette palette = widget.palette();
-    palette.setColor(QPalette::WindowText, QColor(Look::Ink));
-    widget.setPalette(palette);
-}
-
-QLabel* Sign(QStringView sign)
-{
-    auto* label = new QLabel(sign.toString());
-    SetInk(*label);
-    label->setFont(Look::Font(Look::Size::Title));
-    label->setAlignment(Qt::AlignCenter);
-    label->setFixedHeight(TallField);
-    return label;
-}
-
-QFrame* Panel()
-{
-    auto* panel = new QFrame;
-    panel->setFrameShape(QFrame::Box);
-    panel->setAutoFillBackground(true);
-    QPalette palette = panel->palette();
-    palette.setColor(QPalette::Window, QColor(Look::BandText));
-    palette.setColor(QPalette::WindowText, QColor(Look::PlainColour));
-    panel->setPalette(palette);
-    return panel;
-}
-
-QLabel* Heading(const Caption& caption)
-{
-    auto* heading = new QLabel(caption.Seen().trimmed());
-    SetInk(*heading);
-    return heading;
-}
-
-// A field under its caption.
-QLayout* Column(const Caption& caption, Field& field, int width, Look::Size size)
-{
-    field.SetAccessibleName(caption);
-    static_cast<QLineEdit*>(field.Widget())->setTextMargins(6, 0, 6, 0);
-    field.Widget()->setFont(Look::Font(size, size == Look::Size::Title));
-    field.Widget()->setFixedHeight(size == Look::Size::Title ? TallField : 44);
-    if (width > 0)
-        field.Widget()->setFixedWidth(width);
-    auto* column = new QVBoxLayout;
-    column->setSpacing(2);
-    column->addWidget(Heading(caption));
-    column->addWidget(field.Widget());
-    return column;
-}
-
-// The amount can't be entered, but it is what the clerk calls out: it stands in full ink.
-void MakeResult(const Field& field)
-{
-    QPalette palette = field.Widget()->palette();
-    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(Look::Ink));
-    field.Widget()->setPalette(palette);
+    QLabel* mark = Heading(Plain(text), Look::Size::Small);
+    mark->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return mark;
 }
 
 }
 
-void frmMilkCollections::LayOut()
+std::vector<Control*> frmMilkCollections::FrameControls()
 {
-    SetColours(QColor(Look::FocusColour), QColor(Look::DateColour));
-    SetTitleLabel(lblTitle);
-    SetTitle(Shivaji(u"dUQa saMklana 1"));
-    SetGuideLabel(lblFooter);
-    Layout::MakeGuide(lblFooter);
-    Text(lblFooter)->setFont(Look::Font(Look::Size::Title, true));
-
-    auto* body = new QVBoxLayout;
-    body->setSpacing(16);
-    body->addWidget(ShiftLine());
-    body->addWidget(EntryPanel());
-    body->addWidget(lblFooter.Widget());
-    body->addStretch(1);
-    Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
-        Layout::KeyStrip(Keys::Of(Name())));
-    setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
+    return {&maskFromDate, &maskToDate, &txtAccountId, &cmbAccountName, &cmdGoOn, &Command1, &Command2,
+        &Command3, &DataGridMilk};
 }
 
-QWidget* frmMilkCollections::ShiftLine()
+void frmMilkCollections::ShowFrame(bool shown)
 {
-    Text(lblActualCollectionTime)->setFont(Look::Font(Look::Size::Title, true));
-    Text(lblActualCollectionTime)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    Text(lblActualCollectionTime)->setFixedHeight(44);
-    auto* clock = new QVBoxLayout;
-    clock->setSpacing(2);
-    clock->addWidget(Heading(Plain(u"घड्याळ")), 0, Qt::AlignRight);
-    clock->addWidget(lblActualCollectionTime.Widget());
-
-    auto* line = new QWidget;
-    auto* row = new QHBoxLayout(line);
-    row->setContentsMargins(20, 0, 20, 0);
-    row->setSpacing(20);
-    row->addLayout(Column(Shivaji(u"idnaaMk"), maskDate, 170, Look::Size::Large));
-    row->addLayout(Column(Shivaji(u"vaoL"), txtTime, 190, Look::Size::Large));
-    row->addLayout(Column(Shivaji(u"saMklana Ë."), txtCollectionNo, 150, Look::Size::Large));
-    row->addStretch(1);
-    row->addLayout(clock);
-    return line;
+    for (Control* control : FrameControls())
+        control->SetVisible(shown);
+    Label28.SetVisible(shown);
+    m_views->setCurrentIndex(shown ? 1 : 0);
+    for (Control* control : m_heldBack)
+        control->SetEnabled(true);
+    m_heldBack.clear();
 }
 
-QWidget* frmMilkCollections::EntryPanel()
+QLayout* frmMilkCollections::Views()
 {
-    auto* member = new QHBoxLayout;
-    member->setSpacing(20);
-    member->addLayout(Column(Shivaji(u"maombar naMbar"), txtMemberNo, 150, Look::Size::Large));
-    member->addLayout(Column(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0, Look::Size::Large), 1);
-    member->addLayout(Column(Shivaji(u"dUQa"), txtAnimal, 150, Look::Size::Large));
-
-    auto* money = new QHBoxLayout;
-    money->setSpacing(10);
-    money->addLayout(Column(Shivaji(u"ilaTsa-"), txtLiters, 190, Look::Size::Title));
-    money->addWidget(Sign(u"×"), 0, Qt::AlignBottom);
-    money->addLayout(Column(Shivaji(u"f^T"), txtFat, 120, Look::Size::Title));
-    money->addWidget(Sign(u"→"), 0, Qt::AlignBottom);
-    money->addLayout(Column(Shivaji(u"dr"), txtRate, 150, Look::Size::Title));
-    money->addWidget(Sign(u"="), 0, Qt::AlignBottom);
-    money->addLayout(Column(Shivaji(u"r@kma"), txtAmount, 0, Look::Size::Title), 1);
-    cmdGo.Widget()->setFont(Look::Font(Look::Size::Title, true));
-    cmdGo.Widget()->setFixedSize(80, TallField);
-    cmdGo.SetAccessibleName(Shivaji(u"saovh"));
-    money->addWidget(cmdGo.Widget(), 0, Qt::AlignBottom);
-    MakeResult(txtAmount);
-
-    auto* panel = Panel();
-    auto* stack = new QVBoxLayout(panel);
-    stack->setContentsMargins(20, 18, 20, 24);
-    stack->setSpacing(12);
-    stack->addLayout(member);
-    stack->addWidget(MemberKeys());
-    stack->addLayout(money);
-    return panel;
+    m_views = new QStackedLayout;
+    m_views->addWidget(ShiftView());
+    m_views->addWidget(FrameMilkCollection());
+    return m_views;
 }
 
-// The keys of the member's number, on a line that keeps its height while they are hidden.
-QWidget* frmMilkCollections::MemberKeys()
+QWidget* frmMilkCollections::ShiftView()
 {
-    auto* line = new QWidget;
-    line->setFixedHeight(34);
-    auto* row = new QHBoxLayout(line);
+    auto* view = new QWidget;
+    auto* row = new QHBoxLayout(view);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
-    for (const auto& [key, action] :
-        {std::pair(&lblF9, &lblSearch), std::pair(&lblF7, &lblMilk), std::pair(&lblF10, &lblDelete)}) {
-        Text(*key)->setFont(Look::Font(Look::Size::Small, true));
-        Text(*key)->setMargin(4);
-        Text(*key)->setAutoFillBackground(true);
-        QPalette cap = Text(*key)->palette();
-        cap.setColor(QPalette::Window, QColor(Look::PlainColour));
-        cap.setColor(QPalette::WindowText, QColor(Look::Ink));
-        Text(*key)->setPalette(cap);
-        Text(*action)->setFont(Look::Font(Look::Size::Small));
-        Text(*action)->setPalette(cap);
-        row->addWidget(Text(*key));
-        row->addWidget(Text(*action));
-        row->addSpacing(16);
+    row->setSpacing(10);
+    row->addWidget(List(DataGridInwards), 1);
+    DataGridInwards.SetAccessibleName(Shivaji(u"dUQa saMklana"));
+    QWidget* totals = Totals();
+    totals->setFixedWidth(215);
+    row->addWidget(totals);
+    return view;
+}
+
+QWidget* frmMilkCollections::FrameMilkCollection()
+{
+    auto* frame = Panel();
+    frame->setObjectName(QStringLiteral("FrameMilkCollection"));
+    auto* below = new QHBoxLayout;
+    below->setSpacing(8);
+    below->addWidget(List(DataGridMilk, 26, Look::Size::Small), 1);
+    DataGridMilk.SetAccessibleName(Label28.Shown());
+    below->addWidget(MemberSums());
+
+    auto* stack = new QVBoxLayout(frame);
+    stack->setContentsMargins(10, 6, 10, 8);
+    stack->setSpacing(6);
+    stack->addLayout(FrameHead());
+    stack->addLayout(below, 1);
+    return frame;
+}
+
+QLayout* frmMilkCollections::FrameHead()
+{
+    auto* title = new QHBoxLayout;
+    Label28.Widget()->setFont(Look::Font(Look::Size::Normal, true));
+    SetInk(*Label28.Widget());
+    title->addWidget(Label28.Widget(), 1);
+    title->addWidget(Sized(Command1, 120, FieldHeight, Look::Size::Normal));
+    title->addWidget(Sized(Command2, 120, FieldHeight, Look::Size::Normal));
+    title->addWidget(Sized(Command3, 320, FieldHeight, Look::Size::Normal));
+
+    maskFromDate.SetAccessibleName(Plain(u"दिनांक पासून"));
+    maskToDate.SetAccessibleName(Plain(u"दिनांक पर्यंत"));
+    txtAccountId.SetAccessibleName(Shivaji(u"maombar naMbar"));
+    cmbAccountName.SetAccessibleName(Shivaji(u"maombarcao naaMva"));
+    auto* fields = new QHBoxLayout;
+    fields->addWidget(Heading(Shivaji(u"idnaaMk")));
+    fields->addWidget(Sized(maskFromDate, 130, FieldHeight, Look::Size::Normal));
+    fields->addWidget(Heading(Plain(u"ते")));
+    fields->addWidget(Sized(maskToDate, 130, FieldHeight, Look::Size::Normal));
+    fields->addSpacing(10);
+    fields->addWidget(Heading(Shivaji(u"maombar naMbar")));
+    fields->addWidget(Sized(txtAccountId, 90, FieldHeight, Look::Size::Normal));
+    fields->addWidget(Sized(cmbAccountName, 0, FieldHeight, Look::Size::Normal), 1);
+    fields->addWidget(Sized(cmdGoOn, 60, FieldHeight, Look::Size::Normal, true));
+
+    auto* head = new QVBoxLayout;
+    head->setSpacing(6);
+    head->addLayout(title);
+    head->addLayout(fields);
+    return head;
+}
+
+// Litres, amount and fat, each with a row for an animal and a column for each half of the day and for both.
+QWidget* frmMilkCollections::MemberSums()
+{
+    struct Sum {
+        Caption name;
+        std::initializer_list<const Label*> cow;
+        std::initializer_list<const Label*> buff;
+    };
+    auto* sums = new QWidget;
+    auto* grid = new QGridLayout(sums);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(0);
+    grid->setHorizontalSpacing(6);
+    for (int column = 1; column <= 3; ++column)
+        grid->setColumnMinimumWidth(column, 90);
+    grid->addWidget(Mark(Shivaji(u"sakaL").Seen()), 0, 1);
+    grid->addWidget(Mark(Shivaji(u"saMQyaakaL").Seen()), 0, 2);
+    grid->addWidget(Mark(Shivaji(u"ekUNa").Seen()), 0, 3);
+    int row = 1;
+    for (const auto& [name, cow, buff] :
+        std::initializer_list<Sum>{{Shivaji(u"ilaTsa-"), {&lblCowLitM, &lblCowLitE, &lblCowTotalLiters},
+                                       {&lblBuffLitM, &lblBuffLitE, &lblBuffTotalLiters}},
+            {Shivaji(u"r@kma"), {&lblCowTotalM, &lblCowTotalE, &lblCowTotal},
+                {&lblBuffTotalM, &lblBuffTotalE, &lblBuffTotal}},
+            {Shivaji(u"f^T"), {&lblCowAvgFatM, &lblCowAvgFatE, &lblCowTotalAvgFat},
+                {&lblBuffAvgFatM, &lblBuffAvgFatE, &lblBuffTotalAvgFat}}}) {
+        grid->addWidget(Heading(name, Look::Size::Small, true), row++, 0);
+        for (const auto& [animal, figures] :
+            {std::pair(Shivaji(u"gaaya"), cow), std::pair(Shivaji(u"mhOsa"), buff)}) {
+            grid->addWidget(Heading(animal, Look::Size::Small), row, 0);
+            int column = 1;
+            for (const Label* figure : figures)
+                grid->addWidget(Figure(*figure, Look::Size::Small), row, column++);
+            ++row;
+        }
     }
-    row->addStretch(1);
-    ShowMemberKeys(false);
-    return line;
+    grid->setRowStretch(row, 1);
+    return sums;
 }

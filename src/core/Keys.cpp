@@ -1,13 +1,14 @@
 #include "Keys.h"
 
-#include <QHash>
-
 namespace {
 
 const KeyHint Next{QStringLiteral("Enter"), Plain(u"पुढे")};
 const KeyHint Back{QStringLiteral("Shift+Tab"), Plain(u"मागे")};
 const KeyHint Leave{QStringLiteral("Esc"), Plain(u"बाहेर")};
 const KeyHint Calculator{QStringLiteral("F2"), Shivaji(u"k^la@yaulaoTr")};
+const KeyHint ChooseOption{QStringLiteral("↑ ↓"), Plain(u"निवडा")};
+const KeyHint PrintReport{QStringLiteral("Alt+I"), Shivaji(u"irpaoT-")};
+const KeyHint ExitButton{QStringLiteral("Alt+B"), Shivaji(u"baahor")};
 const KeyHint Tutor{QStringLiteral("F12"), Shivaji(u"kIbaaoD- TyaUTr")};
 
 struct Screen {
@@ -43,6 +44,74 @@ const Table& TheTable()
                 {{QStringLiteral("F7"), Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana")},
                     {QStringLiteral("F9"), Shivaji(u"dUQa saMklana pavatI")},
                     {QStringLiteral("F10"), Shivaji(u"KaoDNao")}}}},
+        {QStringLiteral("FrameMilkCollection"),
+            {Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana"),
+                {Next, Back, Leave, {QStringLiteral("Alt+I"), Shivaji(u"irpaoT-")},
+                    {QStringLiteral("Alt+B"), Shivaji(u"baahor")}}}},
+        {QStringLiteral("frmCollectionGate"),
+            {Shivaji(u"dUQa saMklana 2"),
+                {Next, Back, Leave, Calculator, {QStringLiteral("F3"), Shivaji(u"]%padkacao rijasTr")},
+                    {QStringLiteral("F6"), Shivaji(u"]cala naaoMd")}, Tutor,
+                    {QStringLiteral("Alt+B"), Shivaji(u"baahor")}}}},
+        {QStringLiteral("frmCollectionGate.txtCollectionNo"),
+            {Plain(u"दूध संकलन २, संकलन क्रमांकात"),
+                {{QStringLiteral("↑"), Plain(u"आधीची नोंद")}, {QStringLiteral("↓"), Plain(u"पुढची नोंद")}}}},
+        {QStringLiteral("frmCollectionGate.txtMemberNo"),
+            {Plain(u"दूध संकलन २, मेम्बर नंबरात"),
+                {{QStringLiteral("F9"), Shivaji(u"dUQa saMklana pavatI")},
+                    {QStringLiteral("F10"), Shivaji(u"KaoDNao")}}}},
+        {QStringLiteral("frmDailyCollection"),
+            {Shivaji(u"dUQa saMklana 3"), {Next, Back, Leave, Calculator, Tutor}}},
+        {QStringLiteral("frmDailyCollection.txtMemberNo"),
+            {Plain(u"दूध संकलन ३, नवीन नोंदीच्या मेम्बर नंबरात"),
+                {{QStringLiteral("F5"), Plain(u"मेम्बरचे आतापर्यंतचे संकलन")}}}},
+        {QStringLiteral("frmDailyCollection.DataGrid1"),
+            {Plain(u"दूध संकलन ३, मेम्बरच्या यादीत"),
+                {{QStringLiteral("Enter"), Plain(u"ही नोंद")}, {QStringLiteral("F5"), Plain(u"यादी बंद")}}}},
+        {QStringLiteral("frmSearchCollections"),
+            {Shivaji(u"dUQa saMklana pavatI"), {Next, Back, Leave, Calculator, Tutor}}},
+        {QStringLiteral("frmAbsenseMemberCollection"),
+            {Shivaji(u"dUQa saMklana nasaNaaro saBaasad"), {Next, Back, Leave, Calculator, Tutor}}},
+        {QStringLiteral("frmReportPreview.page"),
+            {Plain(u"रिपोर्ट, पाने पाहताना"),
+                {{QStringLiteral("PgDn"), Plain(u"पुढचे पान")}, {QStringLiteral("PgUp"), Plain(u"मागचे पान")},
+                    {QStringLiteral("Home"), Plain(u"पहिले")}, {QStringLiteral("End"), Plain(u"शेवटचे")},
+                    {QStringLiteral("↑ ↓ ← →"), Plain(u"सरकवा")}, {QStringLiteral("+"), Plain(u"मोठे")},
+                    {QStringLiteral("−"), Plain(u"लहान")}, {QStringLiteral("F5"), Plain(u"रुंदीभर")},
+                    {QStringLiteral("F6"), Plain(u"पूर्ण पान")}, {QStringLiteral("F7"), Plain(u"100 %")}}}},
+        {QStringLiteral("frmReportPreview"),
+            {Plain(u"रिपोर्ट पाहणे"),
+                {{QStringLiteral("Ctrl+P"), Plain(u"छापा")}, {QStringLiteral("Ctrl+F"), Plain(u"शोधा")},
+                    {QStringLiteral("F3"), Plain(u"पुढे शोधा")},
+                    {QStringLiteral("Shift+F3"), Plain(u"मागे शोधा")},
+                    {QStringLiteral("Ctrl+S"), Plain(u"PDF जतन")},
+                    {QStringLiteral("Ctrl+E"), Plain(u"CSV जतन")}, Tutor, Leave}}},
+        {QStringLiteral("frmReportFile"), {Plain(u"रिपोर्टची फाइल जतन करणे"), {Next, Back, Leave}}},
+        {QStringLiteral("frmReportPrinter"),
+            {Plain(u"प्रिंटर निवडणे"),
+                {{QStringLiteral("Enter"), Plain(u"निवडा")}, {QStringLiteral("↑ ↓"), Plain(u"वर-खाली")},
+                    Leave}}},
+        {QStringLiteral("frmReportMilkPS"),
+            {Shivaji(u"dUQa saMklana À ivaËI irpaoT-"),
+                {Next, Back, Leave, ChooseOption, PrintReport, ExitButton}}},
+        {QStringLiteral("frmReportMilkCollections"),
+            {Shivaji(u"dUQa saMklana irpaoT-"),
+                {Next, Back, Leave, {QStringLiteral("Alt+S"), Shivaji(u"sakaL")},
+                    {QStringLiteral("Alt+K"), Shivaji(u"saMQyaakaL")},
+                    {QStringLiteral("Alt+D"), Shivaji(u"daonhI")}, PrintReport, ExitButton}}},
+        {QStringLiteral("frmReportMembersList"),
+            {Shivaji(u"saBaasadaMcaI yaadI"),
+                {Next, Back, Leave, {QStringLiteral("Alt+1"), Shivaji(u"pUNa- yaadI")},
+                    {QStringLiteral("Alt+2"), Shivaji(u"ivaBaaga")},
+                    {QStringLiteral("Alt+3"), Shivaji(u"dUQa")}, PrintReport, ExitButton}}},
+        {QStringLiteral("frmReportPaymentList"),
+            {Shivaji(u"dUQa pomaonT ilasT"), {Next, Back, Leave, ChooseOption, PrintReport, ExitButton}}},
+        {QStringLiteral("frmAutoSettings"),
+            {Shivaji(u"Aa^Tao saoTIMgja"),
+                {Next, Back, {QStringLiteral("Ctrl+PgDn"), Plain(u"पुढचे पान")},
+                    {QStringLiteral("Ctrl+PgUp"), Plain(u"मागचे पान")},
+                    {QStringLiteral("Alt+↓"), Plain(u"यादी")}, {QStringLiteral("Space"), Plain(u"खूण")},
+                    Leave}}},
     };
     return table;
 }
@@ -56,6 +125,14 @@ const std::vector<KeyHint>& Keys::Of(const QString& screen)
         if (name == screen)
             return entry.keys;
     return none;
+}
+
+Caption Keys::Action(const QString& screen, QStringView key)
+{
+    for (const KeyHint& hint : Of(screen))
+        if (hint.key == key)
+            return hint.action;
+    return {};
 }
 
 const std::vector<Keys::Sheet>& Keys::Sheets()

@@ -9,6 +9,9 @@ namespace Keys {
 // The keys of a screen, in the order that its strip shows them; empty for a screen without any.
 const std::vector<KeyHint>& Of(const QString& screen);
 
+// What a key of a screen does, as its hint says; an empty caption for a key that it doesn't have.
+Caption Action(const QString& screen, QStringView key);
+
 // The screens that have keys, and the name that the clerk knows each by.
 struct Sheet {
     QString screen;

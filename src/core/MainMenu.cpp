@@ -3,6 +3,7 @@
 #include "AppDate.h"
 #include "CommonKeys.h"
 #include "Dates.h"
+#include "Keys.h"
 #include "MdlAccounts.h"
 #include "MenuEntries.h"
 #include "Messages.h"
@@ -14,30 +15,20 @@
 
 namespace {
 
-// A main entry, its list by position in m_subLists, and the right that it needs.
+// An entry of the main list. Its list stands at the same place in m_subLists.
 struct MainEntry {
     QStringView text;
-    int subList;
-    const std::int16_t AppState::*accessFlag;
+    const std::int16_t AppState::*accessFlag; // the right that its list needs; null for none
+    int indexAfter; // where Esc and Left leave the main list; -1 leaves it where it is
 };
-
-constexpr int Master = 0;
-constexpr int SVouchers = 1;
-constexpr int MReports = 2;
-constexpr int YearlyReport = 3;
-constexpr int Utilities = 4;
 
 constexpr MainEntry MainEntries[] = {
-    {u"maasTr", Master, &AppState::gAccessMaster},
-    {u"dUQa vyavahar", SVouchers, &AppState::gAccessStockVoucher},
-    {u"dUQa irpaoT-", MReports, &AppState::gAccessStockReport},
-    {u"vaaiYa-k irpaoT-", YearlyReport, nullptr},
-    {u"[tr sauivaQaa À TUlsa", Utilities, &AppState::gAccessUtilities},
+    {u"maasTr", &AppState::gAccessMaster, 0},
+    {u"dUQa vyavahar", &AppState::gAccessStockVoucher, 2},
+    {u"dUQa irpaoT-", &AppState::gAccessStockReport, 4},
+    {u"vaaiYa-k irpaoT-", nullptr, 4},
+    {u"[tr sauivaQaa À TUlsa", &AppState::gAccessUtilities, -1},
 };
-
-// Where the main list stands after Esc or Left in a sub-list, by position in m_subLists; the tools leave
-// it where it is.
-constexpr int MainIndexAfter[] = {0, 2, 4, 4, -1};
 
 bool ShowsTransport()
 {
@@ -80,8 +71,10 @@ void MainMenuFrm::Load()
 void MainMenuFrm::FillLists()
 {
     std::vector<Caption> mainCaptions;
-    for (const MainEntry& entry : MainEntries)
-        mainCaptions.push_back(Shivaji(entry.text));
+    for (std::size_t at = 0; at < m_subLists.size(); ++at) {
+        mainCaptions.push_back(Shivaji(MainEntries[at].text));
+        m_subLists[at]->SetAccessibleName(mainCaptions.back());
+    }
     mainCaptions.push_back(Shivaji(MenuBack));
     ListMain.SetEntries(mainCaptions);
     ListMaster.SetEntries(MenuEntries::Captions(MenuEntries::Master()));
@@ -102,13 +95,13 @@ bool MainMenuFrm::KeyDown(const QKeyEvent& key)
 {
     switch (key.key()) {
     case Qt::Key_F4:
-        ScreenDirectory::Open(QStringLiteral("frmUchalVouchers"), Shivaji(u"]cala naaoMd"));
+        ScreenDirectory::Open(QStringLiteral("frmUchalVouchers"), Keys::Action(Name(), u"F4"));
         return true;
     case Qt::Key_F7:
-        ScreenDirectory::Open(QStringLiteral("frmAutoSettings"), Shivaji(u"Aa^Tao saoTIMgja"));
+        ScreenDirectory::Open(QStringLiteral("frmAutoSettings"), Keys::Action(Name(), u"F7"));
         return true;
     case Qt::Key_F8:
-        ScreenDirectory::Open(QStringLiteral("frmCollectionGate"), Shivaji(u"dUQa saMklana"));
+        ScreenDirectory::Open(QStringLiteral("frmCollectionGate"), Keys::Action(Name(), u"F8"));
         return true;
     default:
         return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
@@ -150,10 +143,11 @@ void MainMenuFrm::ListMain_Chosen()
         LeaveSystem();
         return;
     }
-    for (const MainEntry& entry : MainEntries)
-        if (entry.text == text)
-            OpenSubList(
-                *m_subLists[entry.subList], entry.accessFlag ? &(gAppState.*entry.accessFlag) : nullptr);
+    for (std::size_t at = 0; at < m_subLists.size(); ++at) {
+        const auto flag = MainEntries[at].accessFlag;
+        if (MainEntries[at].text == text)
+            OpenSubList(*m_subLists[at], flag ? &(gAppState.*flag) : nullptr);
+    }
 }
 
 void MainMenuFrm::OpenSubList(MenuList& list, const std::int16_t* accessFlag)
@@ -195,8 +189,8 @@ void MainMenuFrm::LeaveSubList(MenuList& list)
     list.SetVisible(false);
     ListMain.SetFocus();
     for (std::size_t at = 0; at < m_subLists.size(); ++at)
-        if (m_subLists[at] == &list && MainIndexAfter[at] >= 0)
-            ListMain.SetCurrentIndex(MainIndexAfter[at]);
+        if (m_subLists[at] == &list && MainEntries[at].indexAfter >= 0)
+            ListMain.SetCurrentIndex(MainEntries[at].indexAfter);
 }
 
 void MainMenuFrm::LeaveSystem()

@@ -11,13 +11,6 @@ void MainMenuFrm::LayOut()
     SetTitleLabel(lblTitle);
     SetTitle(Shivaji(u" dUQa saMklana saa^FTvaoAr"));
     ListMain.SetAccessibleName(lblMenu.Shown());
-    const Caption names[] = {Shivaji(u"maasTr"), Shivaji(u"dUQa vyavahar"), Shivaji(u"dUQa irpaoT-"),
-        Shivaji(u"vaaiYa-k irpaoT-"), Shivaji(u"[tr sauivaQaa À TUlsa")};
-    for (std::size_t at = 0; at < m_subLists.size(); ++at) {
-        m_subLists[at]->SetAccessibleName(names[at]);
-        m_subLists[at]->Widget()->setMinimumWidth(430);
-    }
-
     auto* head = new QHBoxLayout;
     for (Label* label : {&lblSystem, &lblVersion})
         head->addWidget(label->Widget());
@@ -34,7 +27,7 @@ void MainMenuFrm::LayOut()
     lists->setSpacing(20);
     lists->addLayout(main);
     for (MenuList* list : m_subLists)
-        lists->addWidget(list->Widget(), 1);
+        lists->addWidget(list->Widget(), 4);
     lists->addStretch(1);
 
     auto* foot = new QHBoxLayout;

@@ -6,7 +6,6 @@
 #include <QString>
 
 #include <cstdint>
-#include <optional>
 
 class DateField;
 class NameCombo;

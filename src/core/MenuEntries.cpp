@@ -1,7 +1,5 @@
 #include "MenuEntries.h"
 
-#include <array>
-
 const std::vector<MenuEntry>& MenuEntries::Master()
 {
     static const std::vector<MenuEntry> entries = {

@@ -18,6 +18,7 @@ inline constexpr QStringView MenuBack = u"baahor";
 
 namespace MenuEntries {
 
+// The lists in the order that the menu shows them; the transactions with or without the charges of transport.
 const std::vector<MenuEntry>& Master();
 std::vector<MenuEntry> SVouchers(bool withTransport);
 const std::vector<MenuEntry>& MReports();
@@ -27,6 +28,7 @@ const std::vector<MenuEntry>& Utilities();
 // The entry of a text in any of the sub-lists; null for a text that is none.
 const MenuEntry* Find(const QString& text);
 
+// The texts of a list, as captions.
 std::vector<Caption> Captions(const std::vector<MenuEntry>& entries);
 
 }

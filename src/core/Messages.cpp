@@ -22,7 +22,7 @@ frmMessages::frmMessages(Mode mode, const Caption& message) : Screen("frmMessage
     lblMessages.SetCaption(message);
     SetTitle(message);
 
-    auto* text = static_cast<QLabel*>(lblMessages.Widget());
+    auto* text = lblMessages.Widget();
     text->setFont(Look::Font(Look::Size::Large, true));
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignCenter);

@@ -38,5 +38,5 @@ void ShowNotice(QStringView stored);
 // Asks a question; true only for a pressed yes. A dialog closed without an answer is a no.
 bool Ask(QStringView stored);
 
-// A message in English goes through the plain box of the platform.
+// The plain box of the platform: for the few messages in English, and for what the program itself has to say.
 void ShowPlain(const QString& text);

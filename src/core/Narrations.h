@@ -9,6 +9,7 @@ class frmNarrations final : public Screen {
 public:
     explicit frmNarrations(const Caption& prompt);
 
+    // What was typed, once the field was left or the button pressed.
     QString Narration;
 
 private:

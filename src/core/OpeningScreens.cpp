@@ -13,11 +13,6 @@ namespace {
 constexpr QRgb AcceptColour = qRgb(0x00, 0xFF, 0x00);
 constexpr QRgb RejectColour = qRgb(0xFF, 0x00, 0x00);
 
-QLabel& Text(Label& label)
-{
-    return *static_cast<QLabel*>(label.Widget());
-}
-
 // The sign beside the caution.
 QPixmap CautionSign()
 {
@@ -46,8 +41,8 @@ frmAbout::frmAbout() : Screen("frmAbout")
     SetTitleLabel(lblTitle);
     SetTitle(Shivaji(u" dUQa saMklana saa^FTvaoAr"));
     for (Label* label : {&lblSystem, &lblVersion})
-        Text(*label).setAlignment(Qt::AlignCenter);
-    Text(lblSystem).setFont(Look::Font(Look::Size::Large));
+        label->Widget()->setAlignment(Qt::AlignCenter);
+    lblSystem.Widget()->setFont(Look::Font(Look::Size::Large));
 
     auto* name = new QLabel(QStringLiteral("Vetrolan"));
     QFont font = Look::Font(Look::Size::Title, true);
@@ -93,7 +88,7 @@ frmTip::frmTip() : Screen("frmTip")
               u"We have given the facility to take the backup on Hard Disk / Floppy and CD also ( "
               u"with the help of CD Writer)\n\n"
               u"We (Developer) will not take any responsibility for the loss of data."));
-    Text(lblTip).setWordWrap(true);
+    lblTip.Widget()->setWordWrap(true);
 
     auto* sign = new QLabel;
     sign->setPixmap(CautionSign());

@@ -6,6 +6,8 @@
 #include "Look.h"
 #include "MdlAccounts.h"
 #include "Messages.h"
+#include "PortDevice.h"
+#include "ReportHandover.h"
 #include "RunTimeError.h"
 #include "SingleInstance.h"
 
@@ -27,26 +29,30 @@ void ChooseFont()
 
 }
 
-void RegisterDataSource()
+void RegisterPlaces()
 {
     DataSource::Register(QStringLiteral("VetrolanDSN"), LocalAppFile(u"Morvelta.mdb"));
+    SetPortLinksFolder(LocalPath(AppFolder));
 }
 
 int RunProgram()
 {
     ChooseFont();
     const QString folder = LocalPath(AppFolder);
+    std::optional<SingleInstance> instance; // held until the books are closed
     try {
-        std::optional<SingleInstance> instance;
         if (QDir(folder).exists())
             instance.emplace(folder);
         if (instance && !instance->Taken()) {
-            ShowPlain(QStringLiteral("हिशेबाची वही आधीच उघडी आहे. उघडलेला कार्यक्रम वापरा.\n"
-                                     "The books are open in another window of this program."));
+            ShowPlain(Sentences(u"हिशेबाची वही आधीच उघडी आहे. उघडलेला कार्यक्रम वापरा.",
+                QStringLiteral("The books are open in another window of this program.")));
             return 1;
         }
-        RegisterDataSource();
-        AppMain();
+        RegisterPlaces();
+        {
+            const ReportHandover reports;
+            AppMain();
+        }
         gCn.Close();
         return 0;
     } catch (const RunTimeError& error) {

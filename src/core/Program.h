@@ -5,5 +5,6 @@
 // Returns the exit code of the process: 0, or 1 after a failure.
 int RunProgram();
 
-// Tells the connection where the books lie: the data source VetrolanDSN is Morvelta.mdb of AppFolder.
-void RegisterDataSource();
+// Tells the platform what lies in AppFolder: the data source VetrolanDSN is its Morvelta.mdb, and an
+// administrator links the numbers of serial ports to devices there.
+void RegisterPlaces();

@@ -20,11 +20,6 @@ void ScreenDirectory::Add(const QString& name, Maker maker)
     Makers().insert(name, std::move(maker));
 }
 
-bool ScreenDirectory::Has(const QString& name)
-{
-    return Makers().contains(name);
-}
-
 void ScreenDirectory::Open(const QString& name, const Caption& entry, const Caption& title)
 {
     const Maker maker = Makers().value(name);

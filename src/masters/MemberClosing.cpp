@@ -60,9 +60,8 @@ QStringView Direction::Word(QStringView letter)
 
 MemberClosing::Balance MemberClosing::BalanceOf(double memberNo, double opening, QStringView openingWord)
 {
-    const auto amount = static_cast<float>(opening);
-    const float signedOpening = openingWord == Direction::Due ? -amount : std::abs(amount);
-    const float closing = signedOpening + Movement(memberNo);
+    const double signedOpening = openingWord == Direction::Due ? -opening : std::abs(opening);
+    const double closing = signedOpening + static_cast<double>(Movement(memberNo));
     return {std::abs(closing), closing >= 0 ? Direction::Payable : Direction::Due};
 }
 

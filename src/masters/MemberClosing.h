@@ -21,11 +21,12 @@ namespace MemberClosing {
 
 // A balance without its sign, and the word that gives its direction.
 struct Balance {
-    float amount = 0;
+    double amount = 0;
     QStringView word;
 };
 
-// The opening balance moved on by milk, payments, advances and deposits. The sums are single precision.
+// The opening balance moved on by milk, payments, advances and deposits. The sums and
+// what they come to are single precision, so a large opening balance alone stays right to the paisa.
 Balance BalanceOf(double memberNo, double opening, QStringView openingWord);
 
 // The advance still with the member, in rupees; every kind of repayment counts.

@@ -139,13 +139,10 @@ void frmMembers::EnableFiguresOfAnimal()
 void frmMembers::txtPaymentType_LostFocus()
 {
     const bool bank = txtPaymentType.Text() == u"ba^nk";
-    const bool newlyShown = bank && !ComboBankName.Visible();
     if (txtPaymentType.IsEmpty())
         txtPaymentType.SetFocus();
     else
         ShowBankFields(bank);
-    if (newlyShown)
-        ComboBankName.SetFocus(); // it wasn't there when the way on was chosen
 }
 
 void frmMembers::ShowBankFields(bool shown)

@@ -81,7 +81,7 @@ QLayout* frmMembers::IdentityColumn()
     const std::pair<Label*, TextField*> bank[] = {
         {&lblBankName, &ComboBankName}, {&lblBankAccountNo, &txtBankAccountNo}};
     for (const auto& [caption, field] : bank) {
-        static_cast<QLabel*>(caption->Widget())->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        caption->Widget()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         field->SetAccessibleName(caption->Shown());
         Layout::SizeField(*field, 0);
         grid.addWidget(caption->Widget(), row, 0);

@@ -2,6 +2,8 @@
 
 #include "Sql.h"
 
+#include <QTableView>
+
 void CounterTest::AddDelivery(const QString& date, const QString& shift, int number, int member,
     const QString& name, const QString& animal, double liters, double fat, double rate, double amount)
 {
@@ -16,6 +18,15 @@ void CounterTest::Set(const char* setting, const char* value)
 {
     Run(Sql(
         u"update AutoSettings set ", QString::fromLatin1(setting), u"='", QString::fromLatin1(value), u"'"));
+}
+
+std::string CounterTest::Line(const DataGrid& grid, int row)
+{
+    const int columns = static_cast<QTableView*>(grid.Widget())->model()->columnCount();
+    QStringList cells;
+    for (int column = 0; column < columns; ++column)
+        cells.append(grid.Cell(row, column));
+    return cells.join(u'|').toStdString();
 }
 
 QStringList CounterTest::Of(std::initializer_list<const char*> lines)

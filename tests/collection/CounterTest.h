@@ -1,6 +1,8 @@
 #pragma once
 
+#include "CounterReport.h"
 #include "SocietyTest.h"
+#include "frmCollectionGate.h"
 #include "frmMilkCollections.h"
 
 #include <QLabel>
@@ -14,7 +16,12 @@ protected:
         AddMember(1, QStringLiteral("rama"), QStringLiteral("gaaya"));
         AddMember(2, QStringLiteral("saIta"), QStringLiteral("mhOsa"));
         AddMember(3, QStringLiteral("gaNaoSa"), QStringLiteral("daonhI"));
+        CounterReport::Engine() = [this](const CounterReport::Run& run) { Printed.push_back(run); };
     }
+    ~CounterTest() override { CounterReport::Engine() = m_engine; }
+
+    // What the counters have sent to the printer or to the screen.
+    std::vector<CounterReport::Run> Printed;
 
     // Plays on the counter as it opens, with the focus on the date.
     void AtTheCounter(const std::function<void(Clerk&)>& script) { On<frmMilkCollections>(script); }
@@ -23,6 +30,15 @@ protected:
     void InTheMorning(const std::function<void(Clerk&)>& script)
     {
         On<frmMilkCollections>([&](Clerk& clerk) {
+            Type(clerk, "{ENTER}1{ENTER}");
+            script(clerk);
+        });
+    }
+
+    // The same at the gate.
+    void AtTheGate(const std::function<void(Clerk&)>& script)
+    {
+        On<frmCollectionGate>([&](Clerk& clerk) {
             Type(clerk, "{ENTER}1{ENTER}");
             script(clerk);
         });
@@ -43,6 +59,18 @@ protected:
     {
         return *clerk.Top().findChild<QLabel*>(QString::fromLatin1(label));
     }
+    static std::string Label(Clerk& clerk, const char* label)
+    {
+        return LabelOf(clerk, label).text().toStdString();
+    }
+    static const DataGrid& Grid(Clerk& clerk, const char* grid)
+    {
+        return dynamic_cast<const DataGrid&>(*clerk.Top().Find(QString::fromLatin1(grid)));
+    }
+
+    // The cells of a row of a grid as they are seen, separated by '|'.
+    static std::string Line(const DataGrid& grid, int row);
+
     static bool Shows(Clerk& clerk, const char* label) { return !LabelOf(clerk, label).isHidden(); }
 
     // From the number field through the line and back to it: a member with one animal.
@@ -82,5 +110,7 @@ protected:
     static QStringList Of(std::initializer_list<const char*> lines);
 
 private:
+    const std::function<void(const CounterReport::Run&)> m_engine = CounterReport::Engine();
+
     QStringList Lines(const QString& table);
 };

@@ -1,6 +1,7 @@
 #include "SocietyTest.h"
 
 #include "AppDate.h"
+#include "ScreenFace.h"
 
 namespace {
 
@@ -95,5 +96,28 @@ TEST_F(AppDate, TheButtonDoesNotCloseOverAnEmptyMask)
         EXPECT_EQ(clerk.Message(), QStringLiteral(" idnaaMk vyavaisqat Ta[-p kra."));
         clerk.Type(QStringLiteral("{ENTER}"));
         EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmAppDate"));
+    });
+}
+
+TEST_F(AppDate, FieldAndButtonWearTheDateColourWithoutTheFocus)
+{
+    const QColor plain(0xAF, 0xBF, 0xC9);
+    const QColor focus(0xFF, 0xC0, 0xC0);
+    On<frmAppDate>([&](Clerk& clerk) {
+        EXPECT_EQ(BackgroundOf(clerk, "MaskAppDate"), focus);
+        EXPECT_EQ(BackgroundOf(clerk, "cmdExit"), plain);
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(BackgroundOf(clerk, "MaskAppDate"), plain);
+        EXPECT_EQ(BackgroundOf(clerk, "cmdExit"), focus);
+    });
+}
+
+TEST_F(AppDate, ItsFaceNamesTheDateTwiceAndTheButtonPuzo)
+{
+    On<frmAppDate>([](Clerk& clerk) {
+        EXPECT_EQ(clerk.Top().Title().Text(), QStringLiteral(" idnaaMk "));
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(QStringLiteral(" idnaaMk ")));
+        EXPECT_EQ(LabelOf(clerk, "lblDate"), Seen(QStringLiteral("idnaaMk")));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("puZo"));
     });
 }

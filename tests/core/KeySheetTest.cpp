@@ -1,8 +1,13 @@
-#include "Keys.h"
+#include "SocietyTest.h"
 
-#include <gtest/gtest.h>
+#include "AppDate.h"
+#include "KeyboardTutor.h"
+#include "Keys.h"
+#include "MainMenu.h"
+#include "Narrations.h"
 
 #include <QFile>
+#include <QRegularExpression>
 
 namespace {
 
@@ -20,9 +25,57 @@ QString TheSheet()
     return sheet;
 }
 
+bool IsFunctionKey(const QString& key)
+{
+    static const QRegularExpression functionKey(QStringLiteral("^F\\d+$"));
+    return functionKey.match(key).hasMatch();
 }
 
-TEST(KeySheet, ThePrintedSheetIsWhatTheProgramAnswers)
+// The function keys that a screen's list names.
+QStringList Listed(const QString& screen)
+{
+    QStringList keys;
+    for (const KeyHint& hint : Keys::Of(screen))
+        if (IsFunctionKey(hint.key))
+            keys.append(hint.key);
+    return keys;
+}
+
+class KeySheet : public SocietyTest {
+protected:
+    // The function keys of F1 to F12 that a screen answers: another screen opens, a box is shown, or the
+    // calculator starts. `open` shows the screen; `arrive` are the keys that lead to it.
+    QStringList Answered(const QString& screen, const std::function<void()>& open, const QString& arrive = {})
+    {
+        QStringList answered;
+        for (int number = 1; number <= 12; ++number) {
+            const QString key = QStringLiteral("F%1").arg(number);
+            TheBox.Shown.clear();
+            TheCalculator.Started.clear();
+            TheClerk.Play(open, [&](Clerk& clerk) {
+                clerk.Type(arrive);
+                ASSERT_EQ(clerk.ScreenName(), screen);
+                clerk.Type(QStringLiteral("{%1}").arg(key));
+                if (clerk.ScreenName() != screen || !TheBox.Shown.isEmpty()
+                    || !TheCalculator.Started.isEmpty())
+                    answered.append(key);
+            });
+        }
+        return answered;
+    }
+
+    template <class S, class... Arguments> QStringList Answered(const QString& screen, Arguments... arguments)
+    {
+        return Answered(screen, [&] {
+            S shown(arguments...);
+            shown.ShowModal();
+        });
+    }
+};
+
+}
+
+TEST_F(KeySheet, ThePrintedSheetHoldsTheProgramsOwnListOfKeys)
 {
     QFile file(QStringLiteral(KEY_SHEET));
     if (qEnvironmentVariableIsSet("VETROLAN_RENEW")) {
@@ -31,6 +84,43 @@ TEST(KeySheet, ThePrintedSheetIsWhatTheProgramAnswers)
         file.close();
     }
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(QString::fromUtf8(file.readAll()), TheSheet())
+    EXPECT_EQ(file.readAll().toStdString(), TheSheet().toStdString())
         << "VETROLAN_RENEW=1 ctest --preset check -R KeySheet writes docs/keys.md anew";
+}
+
+TEST_F(KeySheet, TheMenusStripNamesItsSixFunctionKeys)
+{
+    QStringList strip;
+    for (const KeyHint& hint : Keys::Of(QStringLiteral("MainMenuFrm")))
+        if (IsFunctionKey(hint.key))
+            strip.append(hint.key + u' ' + hint.action.Text());
+    EXPECT_EQ(strip,
+        QStringList({QStringLiteral("F2 k^la@yaulaoTr"), QStringLiteral("F4 ]cala naaoMd"),
+            QStringLiteral("F7 Aa^Tao saoTIMgja"), QStringLiteral("F8 dUQa saMklana"),
+            QStringLiteral("F9 dUQa ivaËI"), QStringLiteral("F12 kIbaaoD- TyaUTr")}));
+}
+
+TEST_F(KeySheet, TheMenuAnswersTheFunctionKeysOfItsStripAndNoOthersAndF9DoesNothing)
+{
+    const QString menu = QStringLiteral("MainMenuFrm");
+    QStringList expected = Listed(menu);
+    ASSERT_EQ(expected.removeAll(QStringLiteral("F9")), 1);
+    EXPECT_EQ(Answered(
+                  menu,
+                  [] {
+                      MainMenuFrm shown;
+                      shown.ShowModal();
+                  },
+                  QStringLiteral("{ENTER}{ENTER}")),
+        expected);
+}
+
+TEST_F(KeySheet, TheSmallScreensAnswerTheFunctionKeysOfTheirStripsAndNoOthers)
+{
+    EXPECT_EQ(Listed(QStringLiteral("frmNarrations")), QStringList(QStringLiteral("F12")));
+    EXPECT_EQ(Answered<frmNarrations>(QStringLiteral("frmNarrations"), Plain(u"नाव")),
+        Listed(QStringLiteral("frmNarrations")));
+    EXPECT_EQ(Answered<frmAppDate>(QStringLiteral("frmAppDate")), Listed(QStringLiteral("frmAppDate")));
+    EXPECT_EQ(Answered<frmKeyboardTutor>(QStringLiteral("frmKeyboardTutor")),
+        Listed(QStringLiteral("frmKeyboardTutor")));
 }

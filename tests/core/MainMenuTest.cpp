@@ -1,97 +1,43 @@
-#include "SocietyTest.h"
+#include "MenuTest.h"
 
-#include "MainMenu.h"
-#include "ScreenDirectory.h"
+#include "ScreenFace.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <QMouseEvent>
 
 namespace {
 
-// A screen that stands in for one of the rooms above the menu.
-class frmStandIn final : public Screen {
-public:
-    frmStandIn() : Screen("frmStandIn") { }
-};
+using MainMenu = MenuTest;
 
-class MainMenu : public SocietyTest {
-protected:
-    // Opens the menu and passes the date, so that the script begins on the main list.
-    void Menu(const std::function<void(Clerk&)>& script)
-    {
-        On<MainMenuFrm>([&](Clerk& clerk) {
-            ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmAppDate"));
-            clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
-            ASSERT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
-            script(clerk);
-        });
-        EXPECT_FALSE(Failure);
-    }
-
-    static bool Shows(Clerk& clerk, const char* list) { return clerk.CanEnter(QLatin1String(list)); }
-
-    static QStringList Entries(Clerk& clerk, const char* list)
-    {
-        QStringList entries;
-        for (const Caption& entry :
-            dynamic_cast<MenuList*>(clerk.Top().Find(QString::fromLatin1(list)))->Entries())
-            entries.append(entry.Text());
-        return entries;
-    }
-
-    static int IndexOfMain(Clerk& clerk)
-    {
-        return dynamic_cast<MenuList*>(clerk.Top().Find(u"ListMain"))->CurrentIndex();
-    }
-
-    // Moves to an entry of the main list, counted from 0, and chooses it.
-    static void ChooseMain(Clerk& clerk, int index)
-    {
-        clerk.Type(
-            QStringLiteral("{HOME}") + QStringLiteral("{DOWN}").repeated(index) + QStringLiteral("{ENTER}"));
-    }
-};
-
-}
-
-TEST_F(MainMenu, TheListsHoldTheirEntriesInOrder)
+// Double-clicks the current entry of a list.
+void DoubleClick(Clerk& clerk, MenuList& list)
 {
-    Menu([](Clerk& clerk) {
-        EXPECT_EQ(Entries(clerk, "ListMain"),
-            QStringList({QStringLiteral("maasTr"), QStringLiteral("dUQa vyavahar"),
-                QStringLiteral("dUQa irpaoT-"), QStringLiteral("vaaiYa-k irpaoT-"),
-                QStringLiteral("[tr sauivaQaa À TUlsa"), QStringLiteral("baahor")}));
-        EXPECT_EQ(Entries(clerk, "ListMaster").size(), 4);
-        EXPECT_EQ(Entries(clerk, "ListSVouchers").size(), 8);
-        EXPECT_EQ(Entries(clerk, "ListMReports").size(), 15);
-        EXPECT_EQ(Entries(clerk, "listYearlyReport").size(), 3);
-        EXPECT_EQ(Entries(clerk, "ListUtilities").size(), 5);
-        EXPECT_EQ(IndexOfMain(clerk), 0);
+    clerk.Do([&list] {
+        auto& widget = *static_cast<QListWidget*>(list.Widget());
+        const QPointF at = widget.visualItemRect(widget.currentItem()).center();
+        const QPointF global = widget.viewport()->mapToGlobal(at);
+        for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                 QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, at, global, Qt::LeftButton,
+                type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(widget.viewport(), &event);
+        }
     });
 }
 
-TEST_F(MainMenu, TransportIsOfferedOnlyWhenTheSettingReadsTrueAndThenDoesNothing)
-{
-    Run(QStringLiteral("update AutoSettings set ShowTransportCharges='True'"));
-    Menu([&](Clerk& clerk) {
-        ASSERT_EQ(Entries(clerk, "ListSVouchers").size(), 9);
-        EXPECT_EQ(Entries(clerk, "ListSVouchers")[7], QStringLiteral("dUQa vaahtUk Kca-"));
-        ChooseMain(clerk, 1);
-        clerk.Type(QStringLiteral("{END}{UP}{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
-        EXPECT_TRUE(TheBox.Shown.isEmpty());
-    });
 }
 
 TEST_F(MainMenu, EachMainEntryOpensItsListOnItsFirstEntryAndTheToolsOnTheSecond)
 {
-    const char* lists[] = {
-        "ListMaster", "ListSVouchers", "ListMReports", "listYearlyReport", "ListUtilities"};
     Menu([&](Clerk& clerk) {
         for (int at = 0; at < 5; ++at) {
             ChooseMain(clerk, at);
-            EXPECT_TRUE(Shows(clerk, lists[at]));
-            EXPECT_EQ(clerk.Focus(), QLatin1String(lists[at]));
-            EXPECT_EQ(dynamic_cast<MenuList*>(clerk.Top().FocusHolder())->CurrentIndex(), at == 4 ? 1 : 0);
+            EXPECT_TRUE(Shows(clerk, SubLists[at]));
+            EXPECT_EQ(clerk.Focus(), QLatin1String(SubLists[at]));
+            EXPECT_EQ(List(clerk, SubLists[at]).CurrentIndex(), at == 4 ? 1 : 0);
             clerk.Type(QStringLiteral("{ESC}"));
-            EXPECT_FALSE(Shows(clerk, lists[at]));
+            EXPECT_FALSE(Shows(clerk, SubLists[at]));
         }
     });
 }
@@ -116,6 +62,7 @@ TEST_F(MainMenu, BaahorOfASubListHidesItAndLeavesTheMainListWhereItWas)
         for (int at = 0; at < 5; ++at) {
             ChooseMain(clerk, at);
             clerk.Type(QStringLiteral("{END}{ENTER}"));
+            EXPECT_FALSE(Shows(clerk, SubLists[at])) << SubLists[at];
             EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
             EXPECT_EQ(IndexOfMain(clerk), at);
         }
@@ -138,8 +85,7 @@ TEST_F(MainMenu, AClosedMasterSaysThatALoginIsRequiredWhileTheFunctionKeysStillW
 
 TEST_F(MainMenu, WithEverythingClosedOnlyTheYearlyListOpens)
 {
-    gAppState.gAccessMaster = gAppState.gAccessStockVoucher = gAppState.gAccessStockReport =
-        gAppState.gAccessUtilities = 0;
+    CloseEverything();
     Menu([&](Clerk& clerk) {
         for (int at : {0, 1, 2, 4})
             ChooseMain(clerk, at);
@@ -176,32 +122,6 @@ TEST_F(MainMenu, AnEntryWhoseScreenIsNotThereNamesItInAPlainMessageAndNothingEls
         ASSERT_EQ(TheBox.Shown.size(), 1);
         EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("ग्राहकाचे रजिस्टर")));
         EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMaster")) << "the list stays as it was";
-    });
-}
-
-TEST_F(MainMenu, AReportEntrySetsModeAndTitleBeforeItsScreenOpens)
-{
-    ScreenDirectory::Add(
-        QStringLiteral("frmReportMilkPaymentsRegister"), [] { return std::make_unique<frmStandIn>(); });
-    Menu([](Clerk& clerk) {
-        ChooseMain(clerk, 2);
-        clerk.Type(QStringLiteral("{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmStandIn"));
-        EXPECT_EQ(gAppState.gReportMode, QStringLiteral("TR"));
-        EXPECT_EQ(clerk.Top().Title().Text(), QStringLiteral(" zova rijasTr irpaoT-"));
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMReports"));
-    });
-    ScreenDirectory::Add(QStringLiteral("frmReportMilkPaymentsRegister"), {});
-}
-
-TEST_F(MainMenu, TheCollectionReceiptIsOpenedInTheNameOfTheMenu)
-{
-    gAppState.gCallerTag = QStringLiteral("MC");
-    Menu([](Clerk& clerk) {
-        ChooseMain(clerk, 2);
-        clerk.Type(QStringLiteral("{DOWN}{ENTER}"));
-        EXPECT_EQ(gAppState.gCallerTag, QStringLiteral("N"));
     });
 }
 
@@ -250,11 +170,82 @@ TEST_F(MainMenu, TheCloseBoxClosesAtOnceWithoutBackupOrQuestion)
     });
 }
 
-TEST_F(MainMenu, ComesUpWithoutACompany)
+TEST_F(MainMenu, TheMainListGainingTheFocusByMouseHidesEveryListButTheYearlyOne)
+{
+    Menu([](Clerk& clerk) {
+        for (int at = 0; at < 5; ++at) {
+            ChooseMain(clerk, at);
+            clerk.Press(QStringLiteral("ListMain"));
+            EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
+            EXPECT_EQ(Shows(clerk, SubLists[at]), at == 3) << SubLists[at];
+            if (at == 3)
+                clerk.Type(QStringLiteral("{HOME}{DOWN}{DOWN}{DOWN}{ENTER}{ESC}"));
+        }
+    });
+}
+
+TEST_F(MainMenu, ADoubleClickChoosesAsEnterDoes)
+{
+    Menu([&](Clerk& clerk) {
+        DoubleClick(clerk, List(clerk, "ListMain"));
+        ASSERT_TRUE(Shows(clerk, "ListMaster"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMaster"));
+        DoubleClick(clerk, List(clerk, "ListMaster"));
+        ASSERT_EQ(TheBox.Shown.size(), 1) << "the first entry has no screen in this program";
+        EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("उत्पादकाचे रजिस्टर")));
+    });
+}
+
+TEST_F(MainMenu, F2StartsTheCalculatorMaximised)
+{
+    Menu([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
+    EXPECT_EQ(
+        TheCalculator.Started, QStringList(QStringLiteral("C:\\Tarvel01\\Vetrolan\\calc.EXE maximised")));
+}
+
+TEST_F(MainMenu, ItsFaceShowsTitlesHeadingVersionTwiceAndTheSocietyButNoYear)
+{
+    Menu([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(QStringLiteral(" dUQa saMklana saa^FTvaoAr")));
+        EXPECT_EQ(
+            LabelOf(clerk, "lblSystem"), Seen(QStringLiteral(" dUQa saMklana va vyavasqaapna p`NaalaI")));
+        EXPECT_EQ(LabelOf(clerk, "lblMenu"), Seen(QStringLiteral("maona maonaU")));
+        EXPECT_EQ(LabelOf(clerk, "lblVersion"), QStringLiteral("Ver 2.0"));
+        EXPECT_EQ(LabelOf(clerk, "lblVersionFoot"), QStringLiteral("Ver 2.0"));
+        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), QStringLiteral("श्री गणेश दूध संस्था"));
+        EXPECT_EQ(LabelOf(clerk, "lblAcYear"), QString());
+    });
+}
+
+TEST_F(MainMenu, TodaysDateIsTheMachinesAtLoadAndIsNotUpdated)
+{
+    Menu([&](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblTodayDate"), QStringLiteral("15/04/2026"));
+        TheClock.Time = TheClock.Time.addDays(1);
+        clerk.Type(QStringLiteral("{ENTER}{ESC}{F12}{ESC}"));
+        EXPECT_EQ(LabelOf(clerk, "lblTodayDate"), QStringLiteral("15/04/2026"));
+    });
+}
+
+TEST_F(MainMenu, WithoutACompanyTheDateAskedForIsEmptyThenTodayAndTheMenuNamesNoSociety)
 {
     Run(QStringLiteral("delete * from CompanySelected"));
     gCn.Close();
-    LoadAppState();
-    gAppState.gAccountingYear = QStringLiteral("2026-2027");
-    Menu([](Clerk& clerk) { EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain")); });
+    ASSERT_TRUE(LoadAppState());
+    On<MainMenuFrm>([](Clerk& clerk) {
+        ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmAppDate"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("MaskAppDate")), QStringLiteral("__/__/____"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.Message(), QStringLiteral(" idnaaMk vyavaisqat Ta[-p kra."));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("MaskAppDate")), QStringLiteral("15/04/2026"));
+        clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
+        ASSERT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
+        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), QString());
+        EXPECT_EQ(LabelOf(clerk, "lblAcYear"), QString());
+    });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(gAppState.gCompanyId, 0);
+    EXPECT_EQ(gAppState.gAppDate, QDate(2026, 4, 15));
 }

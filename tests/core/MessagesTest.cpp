@@ -2,12 +2,15 @@
 
 #include "Messages.h"
 #include "Narrations.h"
+#include "ScreenFace.h"
 
 namespace {
 
 class Messages : public SocietyTest {
 protected:
     bool m_answer = false;
+    QString m_narration; // what the last prompt has kept for its caller
+    QString m_field; // what its field held when it closed
 
     void AskOf(const std::function<void(Clerk&)>& script)
     {
@@ -17,6 +20,18 @@ protected:
     void NoticeOf(const std::function<void(Clerk&)>& script)
     {
         TheClerk.Play([] { ShowNotice(u"yaa naavaacao roka^D- Agaaodrca Aaho"); }, script);
+    }
+
+    void PromptOf(const std::function<void(Clerk&)>& script)
+    {
+        TheClerk.Play(
+            [this] {
+                frmNarrations prompt(Plain(u"नाव"));
+                prompt.ShowModal();
+                m_narration = prompt.Narration;
+                m_field = prompt.Find(u"txtNarration")->Text();
+            },
+            script);
     }
 };
 
@@ -34,6 +49,16 @@ TEST_F(Messages, AQuestionOffersYesAndNoAndANoticeOnlyToGoOn)
         EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdOkYes")));
         EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdCancelNo")));
         EXPECT_TRUE(clerk.CanEnter(QStringLiteral("cmdExit")));
+    });
+}
+
+TEST_F(Messages, TheButtonsReadHaoyaNaahiAndPuzo)
+{
+    AskOf([](Clerk& clerk) {
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdOkYes")), QStringLiteral("&haoya"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdCancelNo")), QStringLiteral("&naahI"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("puZo"));
+        EXPECT_EQ(LabelOf(clerk, "lblMessages"), Seen(QStringLiteral("roka^D- na@kI badlaayacao ka Æ")));
     });
 }
 
@@ -66,34 +91,42 @@ TEST_F(Messages, ClosedByItsCloseBoxNoAnswerIsSetAndNothingIsAgreedTo)
 
 TEST_F(Messages, ThePromptKeepsWhatWasTypedOnLeavingAndOnPuzo)
 {
-    QString narration;
-    TheClerk.Play(
-        [&] {
-            frmNarrations prompt(Plain(u"नाव"));
-            prompt.ShowModal();
-            narration = prompt.Narration;
-        },
-        [](Clerk& clerk) {
-            EXPECT_EQ(clerk.Focus(), QStringLiteral("txtNarration"));
-            clerk.Type(QStringLiteral("rama{ENTER}"));
-            EXPECT_EQ(clerk.On<frmNarrations>().Narration, QStringLiteral("rama"));
-            clerk.Type(QStringLiteral("{ENTER}"));
-            EXPECT_EQ(clerk.ScreenName(), QString());
-        });
-    EXPECT_EQ(narration, QStringLiteral("rama"));
+    PromptOf([](Clerk& clerk) {
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtNarration"));
+        EXPECT_EQ(LabelOf(clerk, "lblMessage"), QStringLiteral("नाव"));
+        clerk.Type(QStringLiteral("rama{ENTER}"));
+        EXPECT_EQ(clerk.On<frmNarrations>().Narration, QStringLiteral("rama"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("puZo"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+    EXPECT_EQ(m_narration, QStringLiteral("rama"));
+    EXPECT_EQ(m_field, QStringLiteral("rama"));
+}
+
+TEST_F(Messages, EscClearsThePromptAndClosesItAndTheCloseBoxClosesWithoutClearing)
+{
+    PromptOf([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("rama{ESC}"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+    EXPECT_EQ(m_field, QString());
+    EXPECT_EQ(m_narration, QString());
+    PromptOf([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("rama"));
+        clerk.CloseBox();
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+    EXPECT_EQ(m_field, QStringLiteral("rama"));
+    EXPECT_EQ(m_narration, QString()) << "the field was never left";
 }
 
 TEST_F(Messages, ThePromptOpensTheKeyboardTutorWithF12)
 {
-    TheClerk.Play(
-        [] {
-            frmNarrations prompt(Plain(u"नाव"));
-            prompt.ShowModal();
-        },
-        [](Clerk& clerk) {
-            clerk.Type(QStringLiteral("{F12}"));
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
-            clerk.Type(QStringLiteral("{ESC}"));
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmNarrations"));
-        });
+    PromptOf([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{F12}"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
+        clerk.Type(QStringLiteral("{ESC}"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmNarrations"));
+    });
 }

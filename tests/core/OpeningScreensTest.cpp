@@ -1,8 +1,8 @@
 #include "SocietyTest.h"
 
 #include "AppDate.h"
-#include "Look.h"
 #include "OpeningScreens.h"
+#include "ScreenFace.h"
 
 #include <QPixmap>
 
@@ -13,11 +13,6 @@ protected:
     void Start(const std::function<void(Clerk&)>& script)
     {
         Failure = TheClerk.Play([] { ShowOpeningScreens(); }, script);
-    }
-
-    static QColor Background(Clerk& clerk, const QString& control)
-    {
-        return clerk.Top().Find(control)->Widget()->palette().color(QPalette::Active, QPalette::Button);
     }
 };
 
@@ -66,10 +61,39 @@ TEST_F(OpeningScreens, TheCautionColoursAcceptGreenAndRejectRedOnFocus)
     Start([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ENTER}"));
         EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdOk"));
-        EXPECT_EQ(Background(clerk, QStringLiteral("cmdOk")), QColor(0x00, 0xFF, 0x00));
+        EXPECT_EQ(BackgroundOf(clerk, "cmdOk"), QColor(0x00, 0xFF, 0x00));
         clerk.Type(QStringLiteral("{TAB}"));
         EXPECT_EQ(clerk.Focus(), QStringLiteral("Command1"));
-        EXPECT_EQ(Background(clerk, QStringLiteral("Command1")), QColor(0xFF, 0x00, 0x00));
-        EXPECT_EQ(Background(clerk, QStringLiteral("cmdOk")), QColor(0xB4, 0xC4, 0xCD));
+        EXPECT_EQ(BackgroundOf(clerk, "Command1"), QColor(0xFF, 0x00, 0x00));
+        EXPECT_EQ(BackgroundOf(clerk, "cmdOk"), QColor(0xB4, 0xC4, 0xCD));
+    });
+}
+
+TEST_F(OpeningScreens, TheTitleScreenNamesTheSystemAndVersion1WithOkAndExit)
+{
+    Start([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(QStringLiteral(" dUQa saMklana saa^FTvaoAr")));
+        EXPECT_EQ(LabelOf(clerk, "lblVersion"), QStringLiteral("Version 1.0"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdOK")), QStringLiteral("OK"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("E&xit"));
+    });
+}
+
+TEST_F(OpeningScreens, TheCautionReadsAsItIsWordedBesideAPicture)
+{
+    Start([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), QStringLiteral(" Caution !"));
+        EXPECT_EQ(LabelOf(clerk, "lblTip").split(QStringLiteral("\n\n")),
+            QStringList({QStringLiteral(" It is necessary that You should take BACKUP of Company Data "
+                                        "frequently on ReWritable CD (Recommended)"),
+                QStringLiteral("We have given the facility to take the backup on Hard Disk / Floppy and CD "
+                               "also ( with the help of CD Writer)"),
+                QStringLiteral("We (Developer) will not take any responsibility for the loss of data.")}));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("Command1")), QStringLiteral("&Reject"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdOk")), QStringLiteral("&Accept"));
+        const QList<QLabel*> labels = clerk.Top().findChildren<QLabel*>();
+        EXPECT_TRUE(std::any_of(labels.begin(), labels.end(),
+            [](const QLabel* label) { return !label->pixmap(Qt::ReturnByValue).isNull(); }));
     });
 }

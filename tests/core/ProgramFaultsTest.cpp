@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 
 namespace {
 
@@ -29,6 +30,7 @@ protected:
     QString FailingStart()
     {
         const QMap<QString, QByteArray> before = Contents(LocalPath(AppFolder));
+        TheBox.Shown.clear();
         int exitCode = -1;
         TheClerk.Play([&] { exitCode = RunProgram(); }, [](Clerk&) {});
         EXPECT_EQ(exitCode, 1);
@@ -53,6 +55,8 @@ protected:
 
     const QString Database = QStringLiteral("Morvelta.mdb");
     const QString Password = QStringLiteral("PWD.TXT");
+    const QByteArray OtherPassword = "b\r\nc\r\n!\r\n";
+    static constexpr int PageSize = 1024; // of the books
 };
 
 }
@@ -84,33 +88,59 @@ TEST_F(ProgramFaults, AFolderThatIsMissingIsNotMade)
 
 TEST_F(ProgramFaults, AFileThatIsNoDatabaseIsToldFromABookCutShort)
 {
-    Overwrite(Database, QByteArray(8192, 'x'));
-    const QString noDatabase = FailingStart();
-    EXPECT_TRUE(noDatabase.contains(Database)) << qPrintable(noDatabase);
+    for (const int size : {5000, 8 * PageSize}) {
+        Overwrite(Database, QByteArray(size, 'x'));
+        const QString box = FailingStart();
+        EXPECT_TRUE(box.contains(Database)) << qPrintable(box);
+        EXPECT_TRUE(box.contains(QStringLiteral("is not a database"))) << qPrintable(box);
+        EXPECT_FALSE(box.contains(QStringLiteral("a part of it is missing"))) << qPrintable(box);
+    }
 }
 
-TEST_F(ProgramFaults, ABookCutShortIsToldSo)
+TEST_F(ProgramFaults, ABookCutShortIsToldSoWhetherTheCutFallsOnAPageOrWithinOne)
 {
     const QByteArray whole = Read(Database);
-    Overwrite(Database, whole.left(whole.size() / 2 + 100));
-    const QString cutShort = FailingStart();
-    EXPECT_TRUE(cutShort.contains(Database)) << qPrintable(cutShort);
+    const qsizetype half = whole.size() / 2 / PageSize * PageSize;
+    for (const qsizetype left : {half, half + 100, whole.size() - PageSize, whole.size() - 1}) {
+        Overwrite(Database, whole.left(left));
+        const QString box = FailingStart();
+        EXPECT_TRUE(box.contains(Database)) << qPrintable(box);
+        EXPECT_TRUE(box.contains(QStringLiteral("is cut short"))) << left << qPrintable(box);
+        EXPECT_FALSE(box.contains(QStringLiteral("password"))) << qPrintable(box);
+    }
 }
 
 TEST_F(ProgramFaults, AWrongPasswordCantOpenTheBooks)
 {
-    Overwrite(Password, "b\r\nc\r\n!\r\n");
+    Overwrite(Password, OtherPassword);
     const QString wrong = FailingStart();
-    EXPECT_TRUE(wrong.contains(QStringLiteral("password"), Qt::CaseInsensitive)) << qPrintable(wrong);
+    EXPECT_TRUE(wrong.contains(QStringLiteral("The password is wrong"))) << qPrintable(wrong);
 }
 
-TEST_F(ProgramFaults, TheFaultsAreToldApart)
+TEST_F(ProgramFaults, TheFaultsAreToldApartAndEachInMarathi)
 {
-    Overwrite(Password, "b\r\nc\r\n!\r\n");
-    const QString wrongPassword = FailingStart();
-    TheBox.Shown.clear();
-    ASSERT_TRUE(QFile::remove(FolderFile(Database)));
-    EXPECT_NE(FailingStart(), wrongPassword);
+    const QByteArray books = Read(Database);
+    const QByteArray password = Read(Password);
+    const std::pair<const char*, std::function<void()>> faults[] = {
+        {"missing password file", [&] { QFile::remove(FolderFile(Password)); }},
+        {"empty password file", [&] { Overwrite(Password, {}); }},
+        {"missing database", [&] { QFile::remove(FolderFile(Database)); }},
+        {"empty database", [&] { Overwrite(Database, {}); }},
+        {"no database", [&] { Overwrite(Database, QByteArray(5000, 'x')); }},
+        {"cut short", [&] { Overwrite(Database, books.left(4 * PageSize)); }},
+        {"wrong password", [&] { Overwrite(Password, OtherPassword); }},
+    };
+    QStringList boxes;
+    for (const auto& [name, fault] : faults) {
+        Overwrite(Database, books);
+        Overwrite(Password, password);
+        fault();
+        const QString box = FailingStart();
+        EXPECT_TRUE(box.contains(QRegularExpression(QStringLiteral("[\\x{0900}-\\x{097F}]{3}"))))
+            << name << ": " << qPrintable(box);
+        EXPECT_FALSE(boxes.contains(box)) << name << ": " << qPrintable(box);
+        boxes.append(box);
+    }
 }
 
 TEST_F(ProgramFaults, ASecondCopySaysThatTheBooksAreOpenAndEnds)

@@ -84,7 +84,7 @@ TEST_F(SharedRoutines, WithoutAnyCalculatorAPlainMessageSaysSo)
 {
     TheCalculator.There = false;
     On<frmProbe>([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
-    EXPECT_EQ(TheBox.Shown.size(), 1);
+    EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("या संगणकावर कॅलक्युलेटर सापडला नाही.")));
 }
 
 TEST_F(SharedRoutines, EveryScreenOfTheKeySheetHasKeysAndEveryKeyAnAction)

@@ -15,6 +15,17 @@ protected:
         gCn.Close();
         return LoadAppState();
     }
+
+    // The number of the run-time error that starting anew stops with; 0 if it gets through.
+    int ErrorOfStart()
+    {
+        try {
+            StartAgain();
+        } catch (const RunTimeError& error) {
+            return error.Number();
+        }
+        return 0;
+    }
 };
 
 // Disguises a password the way the installer does, one item a line.
@@ -55,6 +66,16 @@ TEST_F(StartUp, AnEmptyCompanySelectedTurnsTheCompanyIntoZeroAndGoesOn)
     EXPECT_TRUE(gAppState.gCompanyName.isEmpty());
     EXPECT_TRUE(gAppState.gAccountingYear.isEmpty());
     EXPECT_TRUE(gAppState.gAutoFat.isEmpty()) << "no settings row has company 0";
+}
+
+TEST_F(StartUp, TheCompanyIs1BeforeItIsReadAndStays1WhenTheReadingStopsWithAnError)
+{
+    Run(QStringLiteral("drop table CompanySelected"));
+    gAppState.gCompanyId = 7;
+    EXPECT_EQ(ErrorOfStart(), RunTimeError::DatabaseFailure);
+    EXPECT_EQ(gAppState.gCompanyId, 1);
+    EXPECT_EQ(gAppState.gDbPassword, QStringLiteral("Doodh#26")) << "the steps before it are done";
+    EXPECT_TRUE(gAppState.gCompanyName.isEmpty());
 }
 
 TEST_F(StartUp, WithoutASettingsRowTheSettingsStayEmpty)
@@ -103,6 +124,23 @@ TEST_F(StartUp, EachMenuNameFillsItsOwnFlag)
     EXPECT_EQ(gAppState.gAccessStockReport, 5);
     EXPECT_EQ(gAppState.gAccessStatisticalReport, 6);
     EXPECT_EQ(gAppState.gAccessUtilities, 7);
+}
+
+TEST_F(StartUp, ARightBeyond16BitsOverflowsAndOneOfAnUnknownNameIsIgnored)
+{
+    const QString set =
+        QStringLiteral("update MenuAccessTable set AccessYesNo=%1 where MenuName='Utilities'");
+    for (const char* beyond : {"32768", "-32769", "3000000000"}) {
+        Run(set.arg(QLatin1String(beyond)));
+        EXPECT_EQ(ErrorOfStart(), RunTimeError::Overflow) << beyond;
+    }
+    for (const int within : {32767, -32768}) {
+        Run(set.arg(within));
+        EXPECT_EQ(ErrorOfStart(), 0);
+        EXPECT_EQ(gAppState.gAccessUtilities, within);
+    }
+    Run(QStringLiteral("insert into MenuAccessTable(MenuName,AccessYesNo) values('Milk Master',99999)"));
+    EXPECT_EQ(ErrorOfStart(), 0);
 }
 
 TEST(PasswordItems, CommasAndLineEndsSeparateItemsAndQuotesKeepThemTogether)

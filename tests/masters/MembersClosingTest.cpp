@@ -87,9 +87,15 @@ TEST_F(MembersClosing, TheSumsAreSinglePrecision)
 {
     AddCollection(1, QStringLiteral("rama"), 16777217);
     const MemberClosing::Balance balance = MemberClosing::BalanceOf(1, 0, Direction::Payable);
-    EXPECT_EQ(balance.amount, 16777216.0F);
+    EXPECT_EQ(balance.amount, 16777216.0);
     AddCollection(1, QStringLiteral("rama"), 0.34);
-    EXPECT_EQ(BalanceAfter(QString(), QStringLiteral("1")), QStringLiteral("16777220.00 doNao"));
+    EXPECT_EQ(BalanceAfter(QString(), QStringLiteral("1")), QStringLiteral("16777218.00 doNao"));
+}
+
+TEST_F(MembersClosing, ALargeOpeningBalanceIsRightToThePaisa)
+{
+    EXPECT_EQ(
+        BalanceAfter(QStringLiteral("123456.78"), QStringLiteral("1")), QStringLiteral("123456.78 doNao"));
 }
 
 TEST_F(MembersClosing, SavingRecomputesTheBalanceFromTheEntries)

@@ -30,6 +30,6 @@ std::string BooksFile::IntegrityOf(sqlite3* handle)
 
 std::vector<std::string> BooksFile::TablesOf(sqlite3* handle)
 {
-    return FirstColumn(
-        handle, "select name from sqlite_master where type='table' and name not like 'sqlite%' order by name");
+    return FirstColumn(handle,
+        "select name from sqlite_master where type='table' and name not like 'sqlite%' order by name");
 }

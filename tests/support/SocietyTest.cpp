@@ -25,7 +25,7 @@ SocietyTest::SocietyTest()
     plan.year = QStringLiteral("2026-2027");
     plan.password = QStringLiteral("Doodh#26");
     CopySociety(folder, plan);
-    RegisterDataSource();
+    RegisterPlaces();
     LoadAppState();
     gAppState.gAppDate = TheClock.Time.date();
 }

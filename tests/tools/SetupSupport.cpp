@@ -1,5 +1,10 @@
 #include "SetupSupport.h"
 
+#include "Connection.h"
+#include "DataSource.h"
+
+#include <gtest/gtest.h>
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -78,6 +83,32 @@ QByteArray FileContent(const QString& file)
 {
     QFile in(file);
     return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+}
+
+QStringList FilesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name);
+}
+
+QStringList BooksIn(const QString& folder)
+{
+    QStringList names = FilesIn(folder);
+    names.removeIf([](const QString& name) { return name.endsWith(QStringLiteral(".rpt")); });
+    return names;
+}
+
+void LeaveAsAfterAPowerCut(const QString& from, const QString& to)
+{
+    DataSource::Register(QStringLiteral("SetupTestCut"), QDir(from).filePath(DatabaseFileName.toString()));
+    Connection connection;
+    connection.Open(QStringLiteral("dsn=SetupTestCut;pwd=") % GoodPlan().password);
+    connection.Execute(QStringLiteral("INSERT INTO CityMaster(CompanyId,CityName) VALUES(1,'masaUr')"));
+    ASSERT_TRUE(QDir().mkpath(to));
+    for (const char* name : {"Morvelta.mdb", "Morvelta.mdb-wal", "PWD.TXT"}) {
+        const QString file = QString::fromLatin1(name);
+        ASSERT_TRUE(QFile::copy(QDir(from).filePath(file), QDir(to).filePath(file))) << name;
+    }
+    WriteTemplates(to);
 }
 
 void PrintTo(const QString& text, std::ostream* out)

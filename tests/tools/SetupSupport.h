@@ -22,5 +22,15 @@ QStringList AskDemo(const QString& statements);
 
 QByteArray FileContent(const QString& file);
 
+// The names of everything in a folder, in the order of the alphabet.
+QStringList FilesIn(const QString& folder);
+
+// The same without the report templates.
+QStringList BooksIn(const QString& folder);
+
+// Copies the society of GoodPlan from one folder to another as a power cut leaves it: the last writing, a
+// town named "masaUr", stands in the log beside the database.
+void LeaveAsAfterAPowerCut(const QString& from, const QString& to);
+
 // Makes the test framework print texts that differ.
 void PrintTo(const QString& text, std::ostream* out);

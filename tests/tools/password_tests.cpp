@@ -1,26 +1,16 @@
 #include "PasswordFile.h"
+#include "PasswordItems.h"
 #include "SetupSupport.h"
 
 #include <gtest/gtest.h>
 
+#include <QStringList>
+
 namespace {
 
-// The reading as the system does it: the last item is the key, each item's first character less the key's is
-// a character of the password; the key's own turn yields a zero, which is cut off.
-QString ReadAsTheSystemDoes(const QByteArray& file)
+QString Read(const QByteArray& file)
 {
-    QStringList items;
-    for (QString line : QString::fromLatin1(file).split(u'\n', Qt::SkipEmptyParts)) {
-        EXPECT_TRUE(line.size() == 3 && line.startsWith(u'"') && line.endsWith(u'"')) << line.toStdString();
-        items.append(line.mid(1, 1));
-    }
-    EXPECT_FALSE(items.isEmpty());
-    const int key = items.isEmpty() ? 0 : items.last()[0].unicode();
-    QString password;
-    for (const QString& item : items)
-        password = password.trimmed() + QChar(static_cast<char16_t>(item[0].unicode() - key));
-    password.chop(1);
-    return password;
+    return PasswordOfItems(ItemsOf(QString::fromLatin1(file)));
 }
 
 TEST(PasswordFile, ReadsBackAsThePassword)
@@ -30,8 +20,7 @@ TEST(PasswordFile, ReadsBackAsThePassword)
         const QString password = QString::fromLatin1(word);
         ASSERT_EQ(PasswordFile::WhyRefused(password), QString()) << word;
         const QByteArray file = PasswordFile::Written(password);
-        EXPECT_EQ(ReadAsTheSystemDoes(file), password);
-        EXPECT_EQ(PasswordFile::Read(file), password);
+        EXPECT_EQ(Read(file), password);
     }
 }
 
@@ -43,7 +32,7 @@ TEST(PasswordFile, EveryAllowedCharacterSurvives)
         if (!PasswordFile::WhyRefused(password).isEmpty())
             continue;
         ++allowed;
-        EXPECT_EQ(ReadAsTheSystemDoes(PasswordFile::Written(password)), password);
+        EXPECT_EQ(Read(PasswordFile::Written(password)), password);
     }
     EXPECT_EQ(allowed, 26 + 26 + 10 + 24);
 }
@@ -67,11 +56,33 @@ TEST(PasswordFile, RefusesWhatTheReadingWouldLose)
         EXPECT_NE(PasswordFile::WhyRefused(password), QString()) << password.toStdString();
 }
 
-TEST(PasswordFile, AnythingElseReadsAsNoPassword)
+TEST(PasswordFile, HasOneCharacterToALineAndTheKeyLast)
 {
-    EXPECT_EQ(PasswordFile::Read(QByteArray()), QString());
-    EXPECT_EQ(PasswordFile::Read("\"x\"\n"), QString());
-    EXPECT_EQ(PasswordFile::Read("no items here"), QString());
+    EXPECT_EQ(PasswordFile::Written(QStringLiteral("ab1")), QByteArray("\"f\"\n\"g\"\n\"6\"\n\"\x05\"\n"));
+}
+
+// Every character of a password behind the key '!'.
+QStringList Disguised(const QString& password)
+{
+    QStringList items;
+    for (const QChar c : password)
+        items.append(QChar(static_cast<char16_t>(c.unicode() + u'!')));
+    return items << QStringLiteral("!");
+}
+
+TEST(PasswordReading, DropsBlanksAtTheEnds)
+{
+    EXPECT_EQ(PasswordOfItems(Disguised(QStringLiteral("  ab  "))), QStringLiteral("ab"));
+    EXPECT_EQ(PasswordOfItems(Disguised(QStringLiteral("a b"))), QStringLiteral("ab"))
+        << "each character is put to the trimmed ones before it";
+}
+
+TEST(PasswordReading, KeepsTabsAndHardBlanks)
+{
+    for (const QChar kept : {QChar(u'\t'), QChar(u'\u00a0'), QChar(u'\n')}) {
+        const QString password = kept % QStringLiteral("a") % kept % QStringLiteral("b") % kept;
+        EXPECT_EQ(PasswordOfItems(Disguised(password)), password) << int{kept.unicode()};
+    }
 }
 
 }

@@ -148,4 +148,35 @@ TEST_F(SetupProgram, SaysWhenTheFolderCannotBe)
     ExpectRefusal(RunSetup(Arguments(Folder())), 1, u"folder");
 }
 
+TEST_F(SetupProgram, WritesOnlyTheTemplatesBesideTheBooks)
+{
+    const QStringList renew{QStringLiteral("--templates"), QStringLiteral("--folder"), Folder()};
+    ExpectRefusal(RunSetup(renew), 1, u"no society");
+    ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
+    const QString slip = QDir(Folder()).filePath(QStringLiteral("MilkReceipt1.rpt"));
+    const QByteArray delivered = FileContent(slip);
+    const QByteArray books = FileContent(QDir(Folder()).filePath(QStringLiteral("Morvelta.mdb")));
+    ASSERT_TRUE(QFile::remove(slip));
+    const Ran run = RunSetup(renew);
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_EQ(FileContent(slip), delivered);
+    EXPECT_EQ(FileContent(QDir(Folder()).filePath(QStringLiteral("Morvelta.mdb"))), books);
+    ExpectRefusal(RunSetup(Arguments(Folder()) << QStringLiteral("--templates")), 2, u"--templates");
+}
+
+TEST_F(SetupProgram, WritesTheSlipOfTheSearchIntoTheOlderFolderOnlyWhereTheProgramLooks)
+{
+    QStringList arguments = Arguments(Folder());
+    ASSERT_EQ(RunSetup(arguments, m_dir.path()).exitCode, 0);
+    EXPECT_EQ(FilesIn(m_dir.path()).join(u' '), QStringLiteral("books"));
+    arguments.remove(arguments.size() - 2, 2);
+    const Ran run = RunSetup(arguments, m_dir.path());
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    const QDir tarvel(m_dir.filePath(QStringLiteral("vetrolan/drive_c/Tarvel01")));
+    EXPECT_EQ(FilesIn(tarvel.filePath(QStringLiteral("Sorvelan"))).join(u' '),
+        QStringLiteral("MilkReceiptAtk.rpt"));
+    EXPECT_EQ(FileContent(tarvel.filePath(QStringLiteral("Sorvelan/MilkReceiptAtk.rpt"))),
+        FileContent(tarvel.filePath(QStringLiteral("Vetrolan/MilkReceiptAtk.rpt"))));
+}
+
 }

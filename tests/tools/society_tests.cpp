@@ -1,5 +1,6 @@
 #include "Connection.h"
 #include "DataSource.h"
+#include "Delivered.h"
 #include "Recordset.h"
 #include "RunTimeError.h"
 #include "SetupSupport.h"
@@ -10,11 +11,6 @@
 #include <QFile>
 
 namespace {
-
-QStringList FilesIn(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name);
-}
 
 QString FirstLine(const QString& folder, const QString& password, const QString& statement)
 {
@@ -46,10 +42,12 @@ protected:
     QString File(QStringView name) const { return QDir(Folder()).filePath(name.toString()); }
 };
 
-TEST_F(Society, HasADatabaseAPasswordAndABackupFolderAndNothingElse)
+TEST_F(Society, HasADatabaseAPasswordABackupFolderAndTheTemplatesAndNothingElse)
 {
     MakeSociety(Folder(), GoodPlan());
-    EXPECT_EQ(FilesIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+    EXPECT_EQ(BooksIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+    EXPECT_EQ(
+        FilesIn(Folder()).size() - BooksIn(Folder()).size(), static_cast<int>(Delivered::Templates().size()));
     EXPECT_TRUE(QFileInfo(File(BackupFolderName)).isDir());
 }
 
@@ -82,7 +80,7 @@ TEST_F(Society, SurvivesACopyMadeForTests)
     CopySociety(m_dir.filePath(QStringLiteral("two")), GoodPlan());
     for (const QString& folder :
         {m_dir.filePath(QStringLiteral("one")), m_dir.filePath(QStringLiteral("two"))}) {
-        EXPECT_EQ(FilesIn(folder).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+        EXPECT_EQ(BooksIn(folder).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
         EXPECT_EQ(FirstLine(folder, GoodPlan().password, QStringLiteral("select count(*) from rswords;")),
             QStringLiteral("99"));
     }
@@ -99,14 +97,14 @@ TEST_F(Society, AnotherOneIsNotMadeOverIt)
     EXPECT_TRUE(HappenedIn(Folder(), other).startsWith(u"There is a society already: "));
     EXPECT_EQ(FileContent(File(DatabaseFileName)), database);
     EXPECT_EQ(FileContent(File(PasswordFileName)), password);
-    EXPECT_EQ(FilesIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+    EXPECT_EQ(BooksIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
 }
 
 TEST_F(Society, ReplacedIsKeptUnderADateAndOpensWithItsOwnPassword)
 {
     MakeSociety(Folder(), GoodPlan());
     MakeSociety(Folder(), Replacing());
-    EXPECT_EQ(FilesIn(Folder()).join(u' '),
+    EXPECT_EQ(BooksIn(Folder()).join(u' '),
         QStringLiteral(
             "Backup Morvelta-2026-04-01-101530.mdb Morvelta.mdb PWD-2026-04-01-101530.TXT PWD.TXT"));
     EXPECT_EQ(FirstLine(Folder(), QStringLiteral("another"), QStringLiteral("select count(*) from rswords;")),
@@ -122,23 +120,9 @@ TEST_F(Society, ReplacedTwiceInASecondKeepsBoth)
     MakeSociety(Folder(), GoodPlan());
     MakeSociety(Folder(), Replacing());
     MakeSociety(Folder(), Replacing());
-    EXPECT_EQ(FilesIn(Folder()).join(u' '),
+    EXPECT_EQ(BooksIn(Folder()).join(u' '),
         QStringLiteral("Backup Morvelta-2026-04-01-101530-2.mdb Morvelta-2026-04-01-101530.mdb Morvelta.mdb "
                        "PWD-2026-04-01-101530-2.TXT PWD-2026-04-01-101530.TXT PWD.TXT"));
-}
-
-// The books as a power cut leaves them: the last writing stands in the journal beside the database.
-void LeaveAsAfterAPowerCut(const QString& from, const QString& to)
-{
-    DataSource::Register(QStringLiteral("SetupTestCut"), QDir(from).filePath(DatabaseFileName.toString()));
-    Connection connection;
-    connection.Open(QStringLiteral("dsn=SetupTestCut;pwd=") % GoodPlan().password);
-    connection.Execute(QStringLiteral("INSERT INTO CityMaster(CompanyId,CityName) VALUES(1,'masaUr')"));
-    ASSERT_TRUE(QDir().mkpath(to));
-    for (const char* name : {"Morvelta.mdb", "Morvelta.mdb-wal", "PWD.TXT"}) {
-        const QString file = QString::fromLatin1(name);
-        ASSERT_TRUE(QFile::copy(QDir(from).filePath(file), QDir(to).filePath(file))) << name;
-    }
 }
 
 TEST_F(Society, ReplacedAfterAPowerCutKeepsItsLastWriting)
@@ -210,7 +194,7 @@ TEST_F(Society, LeftoversOfAnInterruptedMakingAreNoHindrance)
         leftover.write("half");
     }
     MakeSociety(Folder(), GoodPlan());
-    EXPECT_EQ(FilesIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+    EXPECT_EQ(BooksIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
 }
 
 TEST_F(Society, WhereNoFolderCanBeNothingIsMade)
@@ -231,7 +215,7 @@ TEST_F(Society, WhenTheBackupFolderCannotBeTheOldBooksStayAndNoHalfOnesAreLeft)
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     inTheWay.close();
     EXPECT_THROW(MakeSociety(Folder(), Replacing()), RunTimeError);
-    EXPECT_EQ(FilesIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+    EXPECT_EQ(BooksIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
     EXPECT_EQ(FileContent(File(DatabaseFileName)), database);
 }
 

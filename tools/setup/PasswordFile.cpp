@@ -1,7 +1,5 @@
 #include "PasswordFile.h"
 
-#include <QList>
-
 #include <algorithm>
 
 namespace {
@@ -62,20 +60,4 @@ QByteArray PasswordFile::Written(const QString& password)
         addItem(static_cast<char>(c + key));
     addItem(key);
     return file;
-}
-
-QString PasswordFile::Read(const QByteArray& file)
-{
-    QList<char> items;
-    for (const QByteArray& line : file.split('\n')) {
-        if (line.size() >= 3 && line.front() == '"')
-            items.append(line[1]);
-    }
-    if (items.size() < 2)
-        return {};
-    const char key = items.takeLast();
-    QString password;
-    for (const char item : items)
-        password += QLatin1Char(static_cast<char>(item - key));
-    return password;
 }

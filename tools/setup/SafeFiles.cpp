@@ -1,39 +1,14 @@
 #include "SafeFiles.h"
 
+#include "Disk.h"
 #include "RunTimeError.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
-
-#include <filesystem>
-
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
-#include <unistd.h>
-#endif
+#include <QStringList>
 
 namespace {
-
-std::filesystem::path PathOf(const QString& file)
-{
-    return std::filesystem::path(file.toStdU16String());
-}
-
-// A file or a folder; what can't be opened can't be hurried either.
-void SyncToDisk(const QString& path)
-{
-#ifdef Q_OS_UNIX
-    const int handle = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    if (handle >= 0) {
-        ::fsync(handle);
-        ::close(handle);
-    }
-#else
-    Q_UNUSED(path)
-#endif
-}
 
 [[noreturn]] void Fail(const QString& what, const QString& file, const QString& why)
 {
@@ -41,42 +16,76 @@ void SyncToDisk(const QString& path)
         RunTimeError::FileAccess, what % u' ' % QDir::toNativeSeparators(file) % QStringLiteral(": ") % why);
 }
 
+void Require(const std::error_code& failed, const QString& what, const QString& file)
+{
+    if (failed)
+        Fail(what, file, QString::fromStdString(failed.message()) % u'.');
+}
+
+QString FolderOf(const QString& path)
+{
+    return QFileInfo(QDir::cleanPath(QFileInfo(path).absoluteFilePath())).path();
+}
+
+// The folder and those above it that aren't there yet, the lowest first.
+QStringList MissingFolders(const QString& folder)
+{
+    QStringList missing;
+    QString path = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
+    while (!QFileInfo::exists(path) && !QDir(path).isRoot()) {
+        missing.append(path);
+        path = FolderOf(path);
+    }
+    return missing;
+}
+
 }
 
 void SafeFiles::MakeFolder(const QString& folder)
 {
+    const QStringList missing = MissingFolders(folder);
     if (!QDir().mkpath(folder))
         Fail(QStringLiteral("Can't make the folder"), folder, QStringLiteral("it isn't allowed here."));
+    for (const QString& made : missing)
+        SyncFolder(FolderOf(made));
 }
 
 void SafeFiles::Write(const QString& file, const QByteArray& content)
 {
-    QSaveFile out(file);
-    if (!out.open(QIODevice::WriteOnly) || out.write(content) != content.size() || !out.commit())
+    QFile out(file);
+    if (!out.open(QIODevice::WriteOnly) || out.write(content) != content.size() || !out.flush())
         Fail(QStringLiteral("Can't write"), file, out.errorString());
-    SyncFolder(QFileInfo(file).path());
+    out.close();
+    Sync(file);
+    SyncFolder(FolderOf(file));
+}
+
+void SafeFiles::Sync(const QString& file)
+{
+    Require(Disk::Current().Sync(file), QStringLiteral("Can't bring to the disk"), file);
 }
 
 void SafeFiles::MoveInto(const QString& from, const QString& to)
 {
-    SyncToDisk(from);
-    std::error_code failed;
-    std::filesystem::rename(PathOf(from), PathOf(to), failed);
-    if (failed)
-        Fail(QStringLiteral("Can't write"), to, QString::fromStdString(failed.message()));
-    SyncFolder(QFileInfo(to).path());
+    Require(Disk::Current().Move(from, to), QStringLiteral("Can't write"), to);
+    SyncFolder(FolderOf(to));
 }
 
 void SafeFiles::Keep(const QString& file, const QString& name)
 {
-    std::error_code failed;
-    std::filesystem::create_hard_link(PathOf(file), PathOf(name), failed);
-    if (failed && !QFile::rename(file, name))
-        Fail(QStringLiteral("Can't keep"), file, QString::fromStdString(failed.message()));
-    SyncFolder(QFileInfo(file).path());
+    if (Disk::Current().Link(file, name)) { // there are disks that know no second names
+        Require(Disk::Current().Copy(file, name), QStringLiteral("Can't keep"), file);
+        Sync(name);
+    }
+    SyncFolder(FolderOf(name));
+}
+
+void SafeFiles::Remove(const QString& file)
+{
+    Require(Disk::Current().Remove(file), QStringLiteral("Can't remove"), file);
 }
 
 void SafeFiles::SyncFolder(const QString& folder)
 {
-    SyncToDisk(folder);
+    Require(Disk::Current().Sync(folder), QStringLiteral("Can't bring to the disk"), folder);
 }

@@ -5,6 +5,7 @@
 #include "Delivered.h"
 #include "Filling.h"
 #include "PasswordFile.h"
+#include "PasswordItems.h"
 #include "RunTimeError.h"
 #include "SafeFiles.h"
 #include "Shivaji01.h"
@@ -15,9 +16,12 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QRegularExpression>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <functional>
+#include <optional>
 
 namespace {
 
@@ -25,6 +29,11 @@ constexpr int InvalidCall = 5;
 constexpr int FirstYear = 2000;
 constexpr int LastYear = 2098; // a chart's name holds two digits of the year
 constexpr qsizetype LongestName = 100;
+
+// What the engine keeps beside a database. The index of the log holds nothing of its own.
+constexpr QStringView Log = u"-wal";
+constexpr QStringView LogIndex = u"-shm";
+constexpr QStringView RollbackJournal = u"-journal";
 
 QString WhyNameRefused(const QString& name)
 {
@@ -60,7 +69,7 @@ QString FileIn(const QString& folder, QStringView name)
 
 void RemoveDatabase(const QString& file)
 {
-    for (const QStringView ending : {u"", u"-wal", u"-shm", u"-journal"})
+    for (const QStringView ending : {QStringView(u""), Log, LogIndex, RollbackJournal})
         QFile::remove(file % ending);
 }
 
@@ -77,57 +86,186 @@ void Build(const QString& file, const SocietyPlan& plan, const Filling& filling)
     connection.Close();
 }
 
-bool HasJournal(const QString& database)
+bool IsFilled(const QString& file)
 {
-    return QFileInfo(database % QStringLiteral("-wal")).size() > 0;
+    return QFileInfo(file).size() > 0;
 }
 
-// After a power cut the last writing may stand in the journal beside the database; opening and closing the
-// database brings it in.
-void FoldJournal(const QString& folder)
+// The password that the society in a folder is to be opened with; nothing if its file hides none.
+std::optional<QString> OldPassword(const QString& folder)
 {
-    const QString database = FileIn(folder, DatabaseFileName);
-    if (!HasJournal(database))
-        return;
-    QFile passwordFile(FileIn(folder, PasswordFileName));
-    if (!passwordFile.open(QIODevice::ReadOnly))
-        return;
+    QFile file(FileIn(folder, PasswordFileName));
+    if (!file.exists())
+        return {};
+    if (!file.open(QIODevice::ReadOnly))
+        throw RunTimeError(RunTimeError::FileAccess,
+            QStringLiteral("Can't read ") % QDir::toNativeSeparators(file.fileName()) % QStringLiteral(": ")
+                % file.errorString() % u'.');
+    try {
+        return PasswordOfItems(ItemsOf(QString::fromLatin1(file.readAll())));
+    } catch (const RunTimeError&) {
+        return {};
+    }
+}
+
+// Whether the old database opens. One that doesn't any more, or has lost its password, is kept as it is.
+bool Opens(Connection& old, const QString& database, const QString& password)
+{
     const QString source = QStringLiteral("VetrolanSetupOld");
     DataSource::Register(source, database);
     try {
-        Connection old;
-        old.Open(QStringLiteral("dsn=") % source % QStringLiteral(";pwd=")
-            % PasswordFile::Read(passwordFile.readAll()));
-        old.RunScript(QStringLiteral("select count(*) from sqlite_master;"));
-        old.Close();
-    } catch (const RunTimeError&) {
-        // A database that can't be opened any more is kept as it is, journal and all.
+        old.Open(QStringLiteral("dsn=") % source % QStringLiteral(";pwd=") % password);
+    } catch (const RunTimeError& error) {
+        if (error.Number() != RunTimeError::DatabaseFailure)
+            throw;
+        return false;
     }
+    return true;
 }
 
-// Name and ending of a file with the date between them; a number more where that is taken.
-QString DatedName(const QString& folder, QStringView name, const QDateTime& now)
-{
-    const QFileInfo file(name.toString());
-    const QString dated = file.completeBaseName() % u'-' % now.toString(QStringLiteral("yyyy-MM-dd-HHmmss"));
-    QString free = FileIn(folder, QString(dated % u'.' % file.suffix()));
-    for (int n = 2; QFileInfo::exists(free); ++n)
-        free = FileIn(folder, QString(dated % u'-' % QString::number(n) % u'.' % file.suffix()));
-    return free;
-}
-
-void KeepOldDatabase(const QString& folder, const QDateTime& now)
+// After a power cut the last writing may stand in the log beside the database; it is brought in, so that the
+// kept database is one file.
+void FoldLog(const QString& folder)
 {
     const QString database = FileIn(folder, DatabaseFileName);
-    FoldJournal(folder);
-    const QString kept = DatedName(folder, DatabaseFileName, now);
-    if (!HasJournal(database)) {
-        SafeFiles::Keep(database, kept);
+    if (!QFileInfo::exists(database) || !IsFilled(database % Log))
         return;
+    const std::optional<QString> password = OldPassword(folder);
+    Connection old;
+    if (!password || !Opens(old, database, *password))
+        return;
+    old.RunScript(QStringLiteral("pragma wal_checkpoint(truncate);"));
+    old.Close();
+}
+
+// A name with a date between it and its ending: Morvelta-2026-04-01-101530.mdb.
+QString Dated(QStringView name, const QString& date)
+{
+    const QFileInfo file(name.toString());
+    return file.completeBaseName() % u'-' % date % u'.' % file.suffix();
+}
+
+// A date to keep older files under; a number more where one of their names is taken. `namesUnder` gives the
+// names that a date makes.
+QString FreeDate(const QDateTime& now, const std::function<QStringList(const QString&)>& namesUnder)
+{
+    const auto isFree = [&](const QString& date) {
+        const QStringList names = namesUnder(date);
+        return std::none_of(
+            names.begin(), names.end(), [](const QString& name) { return QFileInfo::exists(name); });
+    };
+    const QString second = now.toString(QStringLiteral("yyyy-MM-dd-HHmmss"));
+    QString date = second;
+    for (int n = 2; !isFree(date); ++n)
+        date = second % u'-' % QString::number(n);
+    return date;
+}
+
+// The date under which everything of the old society is kept.
+QString FreeDateOfSociety(const QString& folder, const QDateTime& now)
+{
+    return FreeDate(now, [&](const QString& date) {
+        const QString database = FileIn(folder, Dated(DatabaseFileName, date));
+        return QStringList{database, database % Log, database % RollbackJournal,
+            FileIn(folder, Dated(PasswordFileName, date))};
+    });
+}
+
+// Moves what is left of an older society to dated names: its database last, with one change of a name, after
+// copies of its log and its password. So a power cut finds either the old society as it was, or none, and
+// all of the old one under one date. A log without its database is kept in the same way: left where it is, it
+// would be read into the new database.
+void KeepOld(const QString& folder, const QDateTime& now)
+{
+    const QString database = FileIn(folder, DatabaseFileName);
+    const QString password = FileIn(folder, PasswordFileName);
+    const QString date = FreeDateOfSociety(folder, now);
+    const QString kept = FileIn(folder, Dated(DatabaseFileName, date));
+    for (const QStringView ending : {Log, RollbackJournal}) {
+        if (IsFilled(database % ending))
+            SafeFiles::Keep(database % ending, kept % ending);
     }
-    SafeFiles::MoveInto(database, kept);
-    SafeFiles::MoveInto(database % QStringLiteral("-wal"), kept % QStringLiteral("-wal"));
-    QFile::remove(database % QStringLiteral("-shm"));
+    if (QFileInfo::exists(password))
+        SafeFiles::Keep(password, FileIn(folder, Dated(PasswordFileName, date)));
+    if (QFileInfo::exists(database))
+        SafeFiles::MoveInto(database, kept);
+    for (const QStringView ending : {Log, RollbackJournal, LogIndex})
+        SafeFiles::Remove(database % ending);
+    SafeFiles::SyncFolder(folder);
+}
+
+// The files of a society in the making, under names that nothing reads. What is left of them goes with it.
+class Unfinished {
+public:
+    explicit Unfinished(const QString& folder)
+        : m_database(FileIn(folder, DatabaseFileName) % QStringLiteral(".new"))
+        , m_password(FileIn(folder, PasswordFileName) % QStringLiteral(".new"))
+    {
+    }
+    ~Unfinished()
+    {
+        RemoveDatabase(m_database);
+        QFile::remove(m_password);
+    }
+    Unfinished(const Unfinished&) = delete;
+    Unfinished& operator=(const Unfinished&) = delete;
+
+    const QString& Database() const { return m_database; }
+    const QString& Password() const { return m_password; }
+
+private:
+    QString m_database;
+    QString m_password;
+};
+
+// Puts a finished society in the place of what is there. The database comes last: without it nothing opens,
+// so no power cut leaves a database beside another one's password or log, and making the society once more
+// is all that is to be done after one.
+void PutInPlace(const Unfinished& made, const QString& folder, const QDateTime& now)
+{
+    const QString database = FileIn(folder, DatabaseFileName);
+    FoldLog(folder);
+    const bool replaces = QFileInfo::exists(database);
+    try {
+        KeepOld(folder, now);
+        SafeFiles::MoveInto(made.Password(), FileIn(folder, PasswordFileName));
+        SafeFiles::MoveInto(made.Database(), database);
+    } catch (const RunTimeError& error) {
+        if (!replaces || QFileInfo::exists(database))
+            throw;
+        throw RunTimeError(error.Number(),
+            error.Happened()
+                % QStringLiteral(" The old society is kept under a dated name; make the new one again."));
+    }
+}
+
+bool Holds(const QString& file, const QByteArray& content)
+{
+    QFile existing(file);
+    return existing.open(QIODevice::ReadOnly) && existing.readAll() == content;
+}
+
+// A file in the making. What is left of it goes with it.
+struct UnfinishedFile {
+    QString name;
+    ~UnfinishedFile() { QFile::remove(name); }
+};
+
+// What a society has changed in a template is its own work: it isn't lost.
+void PutTemplate(const QString& folder, const Delivered::File& delivered, const QDateTime& now)
+{
+    const QString file = FileIn(folder, delivered.name);
+    if (Holds(file, delivered.content))
+        return;
+    const QString made = file % QStringLiteral(".new");
+    const UnfinishedFile leftover{made};
+    SafeFiles::Write(made, delivered.content);
+    if (QFileInfo::exists(file)) {
+        const auto kept = [&](const QString& date) { return FileIn(folder, Dated(delivered.name, date)); };
+        const QString date = FreeDate(now, [&](const QString& day) { return QStringList{kept(day)}; });
+        SafeFiles::Keep(file, kept(date));
+    }
+    SafeFiles::MoveInto(made, file);
 }
 
 void Make(const QString& folder, const SocietyPlan& plan, const Filling& filling)
@@ -136,27 +274,17 @@ void Make(const QString& folder, const SocietyPlan& plan, const Filling& filling
     if (!refused.isEmpty())
         throw RunTimeError(InvalidCall, refused);
     const QString database = FileIn(folder, DatabaseFileName);
-    const bool replaces = QFileInfo::exists(database);
-    if (replaces && !plan.replace)
+    if (QFileInfo::exists(database) && !plan.replace)
         throw RunTimeError(RunTimeError::FileAccess,
             QStringLiteral("There is a society already: ") % QDir::toNativeSeparators(database) % u'.');
 
-    SafeFiles::MakeFolder(folder);
-    const QString unfinished = database % QStringLiteral(".new");
-    try {
-        Build(unfinished, plan, filling);
-        SafeFiles::MakeFolder(FileIn(folder, BackupFolderName));
-        if (replaces)
-            KeepOldDatabase(folder, plan.now);
-        const QString passwordFile = FileIn(folder, PasswordFileName);
-        if (QFileInfo::exists(passwordFile))
-            SafeFiles::Keep(passwordFile, DatedName(folder, PasswordFileName, plan.now));
-        SafeFiles::Write(passwordFile, PasswordFile::Written(plan.password));
-        SafeFiles::MoveInto(unfinished, database);
-    } catch (...) {
-        RemoveDatabase(unfinished);
-        throw;
-    }
+    WriteTemplates(folder, plan.now);
+    const Unfinished made(folder);
+    Build(made.Database(), plan, filling);
+    SafeFiles::Sync(made.Database());
+    SafeFiles::Write(made.Password(), PasswordFile::Written(plan.password));
+    SafeFiles::MakeFolder(FileIn(folder, BackupFolderName));
+    PutInPlace(made, folder, plan.now);
 }
 
 void CopyFile(const QString& from, const QString& to, QStringView name)
@@ -175,6 +303,24 @@ QString WhyRefused(const SocietyPlan& plan)
         return name;
     const QString year = WhyYearRefused(plan.year);
     return year.isEmpty() ? PasswordFile::WhyRefused(plan.password) : year;
+}
+
+void WriteTemplates(const QString& folder, const QDateTime& now)
+{
+    SafeFiles::MakeFolder(folder);
+    for (const Delivered::File& file : Delivered::Templates())
+        PutTemplate(folder, file, now);
+}
+
+void WriteTemplate(const QString& folder, const QString& name, const QDateTime& now)
+{
+    const std::vector<Delivered::File>& all = Delivered::Templates();
+    const auto file =
+        std::find_if(all.begin(), all.end(), [&](const Delivered::File& each) { return each.name == name; });
+    if (file == all.end())
+        throw RunTimeError(InvalidCall, QStringLiteral("There is no template ") % name % u'.');
+    SafeFiles::MakeFolder(folder);
+    PutTemplate(folder, *file, now);
 }
 
 void MakeSociety(const QString& folder, const SocietyPlan& plan)
@@ -200,4 +346,6 @@ void CopySociety(const QString& folder, const SocietyPlan& plan)
     SafeFiles::MakeFolder(FileIn(folder, BackupFolderName));
     CopyFile(made.value(key), folder, DatabaseFileName);
     CopyFile(made.value(key), folder, PasswordFileName);
+    for (const Delivered::File& file : Delivered::Templates())
+        CopyFile(made.value(key), folder, file.name);
 }

@@ -1,5 +1,6 @@
 #include "AppFolder.h"
 #include "RunTimeError.h"
+#include "SafeFiles.h"
 #include "SingleInstance.h"
 #include "Society.h"
 
@@ -27,6 +28,9 @@ struct Options {
         QStringLiteral("Keep an older database under a dated name, and make a new one in its place.")};
     QCommandLineOption folder{QStringLiteral("folder"),
         QStringLiteral("Where to put it, if not where the program looks for it."), QStringLiteral("DIR")};
+    QCommandLineOption templates{QStringLiteral("templates"),
+        QStringLiteral("Only write the report templates anew, beside the books that are there. One that the "
+                       "society has changed is kept under a dated name.")};
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this.")};
 };
 
@@ -43,22 +47,57 @@ QString WhyUnusable(const QCommandLineParser& parser, const Options& options)
     if (!parser.positionalArguments().isEmpty())
         return QStringLiteral("\"%1\" isn't an option; see --help.")
             .arg(parser.positionalArguments().first());
+    const bool makes = !parser.isSet(options.templates);
     for (const QCommandLineOption& needed : {options.society, options.year, options.password}) {
-        if (!parser.isSet(needed))
+        if (!makes && parser.isSet(needed))
+            return QStringLiteral("--%1 doesn't go with --templates.").arg(needed.names().first());
+        if (makes && !parser.isSet(needed))
             return QStringLiteral("--%1 is missing; see --help.").arg(needed.names().first());
     }
     return {};
 }
 
-int Make(const QString& folder, const SocietyPlan& plan)
+// The search screen looks for its slip in the folder of an older program.
+constexpr QStringView OlderFolder = u"C:\\Tarvel01\\Sorvelan\\";
+constexpr QStringView OlderTemplate = u"MilkReceiptAtk.rpt";
+
+// Where the society lies: in a folder that was named, or where the program looks for it.
+class Place {
+public:
+    explicit Place(const QString& named) : m_named(named) { }
+
+    QString Folder() const { return m_named.isEmpty() ? LocalPath(AppFolder) : m_named; }
+
+    void WriteOlderTemplate() const
+    {
+        if (m_named.isEmpty())
+            WriteTemplate(LocalPath(OlderFolder), OlderTemplate.toString());
+    }
+
+private:
+    QString m_named;
+};
+
+int RenewTemplates(const Place& place)
 {
-    if (!QDir().mkpath(folder))
-        return Complain(
-            Failed, QStringLiteral("The folder %1 can't be made.").arg(QDir::toNativeSeparators(folder)));
+    if (!QDir(place.Folder()).exists())
+        return Complain(Failed,
+            QStringLiteral("There is no society in %1.").arg(QDir::toNativeSeparators(place.Folder())));
+    WriteTemplates(place.Folder());
+    place.WriteOlderTemplate();
+    QTextStream(stdout) << QDir::toNativeSeparators(place.Folder()) << '\n';
+    return Done;
+}
+
+int Make(const Place& place, const SocietyPlan& plan)
+{
+    const QString folder = place.Folder();
+    SafeFiles::MakeFolder(folder);
     const SingleInstance lock(folder);
     if (!lock.Taken())
         return Complain(Failed, QStringLiteral("The books are open in the program; close it first."));
     MakeSociety(folder, plan);
+    place.WriteOlderTemplate();
     QTextStream(stdout) << plan.name << ' ' << plan.year << ": "
                         << QDir::toNativeSeparators(QDir(folder).filePath(DatabaseFileName.toString()))
                         << '\n';
@@ -74,10 +113,12 @@ int main(int argc, char* argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Makes the books of a new society: the database, its password's "
-                       "file and the folder of the backups."));
+                       "file, the folder of the backups and the report templates. If the power fails "
+                       "meanwhile, run it again: the "
+                       "older books are still there, in their place or under a dated name."));
     const Options options;
     parser.addOptions({options.society, options.year, options.password, options.demo, options.replace,
-        options.folder, options.help});
+        options.folder, options.templates, options.help});
     if (!parser.parse(QCoreApplication::arguments()))
         return Complain(BadArguments, parser.errorText());
     if (parser.isSet(options.help)) {
@@ -88,17 +129,18 @@ int main(int argc, char* argv[])
     if (!unusable.isEmpty())
         return Complain(BadArguments, unusable);
 
-    SocietyPlan plan;
-    plan.name = parser.value(options.society);
-    plan.year = parser.value(options.year);
-    plan.password = parser.value(options.password);
-    plan.demo = parser.isSet(options.demo);
-    plan.replace = parser.isSet(options.replace);
-    const QString refused = WhyRefused(plan);
-    if (!refused.isEmpty())
-        return Complain(BadArguments, refused);
+    const Place place(parser.value(options.folder));
     try {
-        return Make(parser.isSet(options.folder) ? parser.value(options.folder) : LocalPath(AppFolder), plan);
+        if (parser.isSet(options.templates))
+            return RenewTemplates(place);
+        SocietyPlan plan;
+        plan.name = parser.value(options.society);
+        plan.year = parser.value(options.year);
+        plan.password = parser.value(options.password);
+        plan.demo = parser.isSet(options.demo);
+        plan.replace = parser.isSet(options.replace);
+        const QString refused = WhyRefused(plan);
+        return refused.isEmpty() ? Make(place, plan) : Complain(BadArguments, refused);
     } catch (const RunTimeError& error) {
         return Complain(Failed, error.Happened());
     }

@@ -3,26 +3,15 @@
 
 namespace {
 
-const QString Enter = QStringLiteral("{ENTER}");
-
-QString Keys(const char16_t* seen)
-{
-    return KeysOf(Shivaji01::FromUnicode(seen));
-}
-
-// The line of a delivery from the number field on: member, litres, fat, and over the rate to the button.
-QString Delivery(const char* member, const char* liters, const char* fat)
-{
-    return Enter + QLatin1String(member) + Enter + QLatin1String(liters) + Enter + QLatin1String(fat) + Enter
-        + Enter + Enter;
-}
-
 void OpenTheProgram(Tour& tour)
 {
     tour.Step(QStringLiteral("title"), {});
     tour.Step(QStringLiteral("caution"), Enter);
     tour.Step(QStringLiteral("working-day"), Enter);
     tour.Step(QStringLiteral("menu"), QStringLiteral("01062026") + Enter + Enter);
+    tour.Step(QStringLiteral("menu-reports"), QStringLiteral("{DOWN}{DOWN}") + Enter);
+    tour.Step(QStringLiteral("menu-tools"), QStringLiteral("{ESC}") + Enter);
+    tour.Type(QStringLiteral("{ESC}{HOME}"));
 }
 
 void AddMember(Tour& tour)
@@ -31,7 +20,7 @@ void AddMember(Tour& tour)
     tour.Step(QStringLiteral("members"), Enter);
     tour.Step(QStringLiteral("members-new"), QStringLiteral("%n"));
     tour.Step(QStringLiteral("members-new-name"),
-        Enter + Keys(u"आशा रमेश सावंत") + Enter + Keys(u"माळ वस्ती") + Enter);
+        Enter + KeysOf(u"आशा रमेश सावंत") + Enter + KeysOf(u"माळ वस्ती") + Enter);
     tour.Type(Enter); // no village
     tour.Step(QStringLiteral("members-new-animal"), QStringLiteral("1"));
     tour.Type(Enter + QStringLiteral("1") + Enter);
@@ -61,9 +50,9 @@ void TakeDeliveries(Tour& tour)
     tour.Step(QStringLiteral("delivery-fat"), Enter + QStringLiteral("4.2"));
     tour.Step(QStringLiteral("delivery-amount"), Enter + Enter);
     tour.Step(QStringLiteral("delivery-saved"), Enter);
-    tour.Type(Delivery("2", "8.25", "7.1"));
-    tour.Type(Delivery("4", "5", "3.8"));
-    tour.Type(Delivery("41", "9.75", "4"));
+    tour.Type(DeliveryKeys("2", "8.25", "7.1"));
+    tour.Type(DeliveryKeys("4", "5", "3.8"));
+    tour.Type(DeliveryKeys("41", "9.75", "4"));
 
     tour.Step(QStringLiteral("member-of-both-animals"), Enter + QStringLiteral("3") + Enter);
     tour.Type(QStringLiteral("1") + Enter + QStringLiteral("6.4") + Enter + QStringLiteral("4.1") + Enter
@@ -71,7 +60,7 @@ void TakeDeliveries(Tour& tour)
     tour.Type(Enter + QStringLiteral("3") + Enter + QStringLiteral("2") + Enter + QStringLiteral("4.3")
         + Enter + QStringLiteral("6.8") + Enter + Enter + Enter);
 
-    tour.Step(QStringLiteral("member-by-name"), Enter + Enter + Keys(u"शोभा"));
+    tour.Step(QStringLiteral("member-by-name"), Enter + Enter + KeysOf(u"शोभा"));
     tour.Step(QStringLiteral("member-by-name-picked"), QStringLiteral("{DOWN}") + Enter);
     tour.Type(Enter + QStringLiteral("7.125") + Enter + QStringLiteral("6.5") + Enter + Enter + Enter);
 
@@ -79,12 +68,14 @@ void TakeDeliveries(Tour& tour)
     tour.Step(QStringLiteral("fat-refused"), QStringLiteral("42") + Enter);
     tour.Check(
         QStringLiteral("a fat of 42 holds the focus"), tour.TheClerk().Focus(), QStringLiteral("txtFat"));
+    tour.Check(QStringLiteral("a fat of 42 is there to be mended"),
+        tour.TheClerk().Reads(QStringLiteral("txtFat")), QStringLiteral("42.0"));
     tour.Type(QStringLiteral("4.4") + Enter + Enter + Enter);
 }
 
 void MendTheShift(Tour& tour)
 {
-    tour.Step(QStringLiteral("duplicate"), Delivery("1", "3", "4.2"));
+    tour.Step(QStringLiteral("duplicate"), DeliveryKeys("1", "3", "4.2"));
     tour.Type(Enter);
 
     tour.Step(QStringLiteral("change-row-3"), QStringLiteral("3") + Enter + Enter);
@@ -117,16 +108,6 @@ void CheckTheShift(Tour& tour)
         {QStringLiteral("9.75|0|250")});
 }
 
-void LeaveTheProgram(Tour& tour)
-{
-    tour.Step(QStringLiteral("keyboard-tutor"), QStringLiteral("{F12}gaaya"));
-    tour.Type(QStringLiteral("{ESC}{ESC}{ESC}"));
-    tour.Step(QStringLiteral("backup-not-there"), QStringLiteral("{ESC}"));
-    tour.Step(QStringLiteral("leave"), Enter);
-    tour.Type(QStringLiteral("%h"));
-    tour.Check(QStringLiteral("every screen is closed"), tour.TheClerk().ScreenName(), {});
-}
-
 }
 
 void PlayMorning(Tour& tour)
@@ -137,5 +118,14 @@ void PlayMorning(Tour& tour)
     TakeDeliveries(tour);
     MendTheShift(tour);
     CheckTheShift(tour);
-    LeaveTheProgram(tour);
+}
+
+void PlayLeaving(Tour& tour)
+{
+    tour.Step(QStringLiteral("keyboard-tutor"), QStringLiteral("{F12}gaaya"));
+    tour.Type(QStringLiteral("{ESC}{ESC}{ESC}"));
+    tour.Step(QStringLiteral("backup-not-there"), QStringLiteral("{ESC}"));
+    tour.Step(QStringLiteral("leave"), Enter);
+    tour.Type(QStringLiteral("%h"));
+    tour.Check(QStringLiteral("every screen is closed"), tour.TheClerk().ScreenName(), {});
 }

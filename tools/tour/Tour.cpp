@@ -1,12 +1,16 @@
 #include "Tour.h"
 
+#include "DataGrid.h"
 #include "MdlAccounts.h"
 #include "Recordset.h"
+#include "Shivaji01.h"
 
 #include <QDir>
 #include <QFile>
+#include <QLabel>
+#include <QPixmap>
 
-Tour::Tour(Clerk& clerk, const QString& folder) : m_clerk(clerk), m_folder(folder)
+Tour::Tour(Clerk& clerk, const QString& folder) : m_clerk(clerk), m_folder(QDir(folder).absolutePath())
 {
     QDir().mkpath(folder);
 }
@@ -14,8 +18,18 @@ Tour::Tour(Clerk& clerk, const QString& folder) : m_clerk(clerk), m_folder(folde
 void Tour::Step(const QString& name, const QString& keys)
 {
     m_clerk.Type(keys);
-    const QString file = QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name);
+    const QString file = NextPicture(name);
     m_clerk.Picture(QDir(m_folder).filePath(file));
+    NotePicture(file);
+}
+
+QString Tour::NextPicture(const QString& name)
+{
+    return QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name);
+}
+
+void Tour::NotePicture(const QString& file)
+{
     if (!QFile::exists(QDir(m_folder).filePath(file)))
         Check(file, QStringLiteral("missing"), QStringLiteral("saved"));
     m_summary.append(QStringLiteral("picture  ") + file);
@@ -46,6 +60,52 @@ void Tour::CheckRows(const QString& what, const QString& query, const QStringLis
         Check(what, found.value(at), expected.value(at));
 }
 
+void Tour::CheckReads(const QString& control, const QString& expected)
+{
+    const auto* label = m_clerk.Top().findChild<QLabel*>(control);
+    Check(m_clerk.ScreenName() + u' ' + control, label ? label->text() : m_clerk.Reads(control), expected);
+}
+
+void Tour::CheckColumn(const QString& list, QStringView field, const QString& expected)
+{
+    QStringList found;
+    if (const auto* grid = dynamic_cast<const DataGrid*>(m_clerk.Top().Find(list)))
+        for (int row = 0; row < grid->Rows(); ++row)
+            found.append(grid->Value(row, field).Text());
+    Check(m_clerk.ScreenName() + u' ' + field, found.join(u' '), expected);
+}
+
+void Tour::KeepReport(const QString& name, const QString& text, int times)
+{
+    Check(name + QStringLiteral(", shown on"), m_clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+    const QString picture = NextPicture(name);
+    m_clerk.Do(
+        [&] { m_clerk.Top().grab().save(QDir(m_folder).filePath(picture)); }); // larger than the others
+    NotePicture(picture);
+    Type(QStringLiteral("^f") + KeysOf(text) + Enter);
+    CheckReads(QStringLiteral("lblState"), QStringLiteral("सापडले: 1 / %1").arg(times));
+
+    const QString path = QDir(m_folder).filePath(name + QStringLiteral(".pdf"));
+    QFile::remove(path); // that of a tour before
+    Type(QStringLiteral("^s") + KeysOf(name) + Enter + KeysOf(m_folder));
+    Type(Enter + Enter);
+    CheckReads(QStringLiteral("lblState"), QStringLiteral("जतन केले: ") + path);
+    CheckFile(name, path);
+    Type(Escape);
+    Check(name + QStringLiteral(", left"), QString::number(m_clerk.ScreenName() != u"frmReportPreview"),
+        QStringLiteral("1"));
+}
+
+// A PDF that was written to its end.
+void Tour::CheckFile(const QString& what, const QString& path)
+{
+    QFile file(path);
+    const QByteArray pdf = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const bool whole = pdf.startsWith("%PDF-") && pdf.trimmed().endsWith("%%EOF");
+    Check(what + QStringLiteral(", file"), whole ? QStringLiteral("a whole PDF") : QStringLiteral("none"),
+        QStringLiteral("a whole PDF"));
+}
+
 bool Tour::Finish()
 {
     m_summary.append(m_wrong == 0 ? QStringLiteral("everything is right")
@@ -63,4 +123,15 @@ QString KeysOf(const QString& stored)
         keys += special ? QString(u'{' + QString(c) + u'}') : QString(c);
     }
     return keys;
+}
+
+QString KeysOf(const char16_t* seen)
+{
+    return KeysOf(Shivaji01::FromUnicode(seen));
+}
+
+QString DeliveryKeys(const char* member, const char* liters, const char* fat)
+{
+    return Enter + QLatin1String(member) + Enter + QLatin1String(liters) + Enter + QLatin1String(fat) + Enter
+        + Enter + Enter;
 }

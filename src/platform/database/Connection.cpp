@@ -20,13 +20,13 @@ Target ReadConnectionString(const QString& connectionString)
     const qsizetype password = connectionString.indexOf(Password, 0, Qt::CaseInsensitive);
     if (!connectionString.startsWith(Source, Qt::CaseInsensitive) || password < 0)
         throw RunTimeError(RunTimeError::DatabaseFailure,
-            DatabaseErrors::Sentences(u"डेटाबेसचे नाव समजले नाही.",
+            Sentences(u"डेटाबेसचे नाव समजले नाही.",
                 QStringLiteral("The connection string is not \"dsn=NAME;pwd=PASSWORD\".")));
     const QString name = connectionString.mid(Source.size(), password - Source.size()).trimmed();
     const QString file = DataSource::File(name);
     if (file.isEmpty())
         throw RunTimeError(RunTimeError::DatabaseFailure,
-            DatabaseErrors::Sentences(
+            Sentences(
                 u"डेटाबेसचे नाव माहीत नाही.", QStringLiteral("The data source \"%1\" is not known.").arg(name)));
     return {file, connectionString.mid(password + Password.size())};
 }

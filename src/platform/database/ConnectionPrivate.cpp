@@ -101,7 +101,7 @@ void Connection::Private::RequireTransaction() const
 {
     if (m_depth > 0 && sqlite3_get_autocommit(m_handle) != 0)
         throw RunTimeError(RunTimeError::DatabaseFailure,
-            DatabaseErrors::Sentences(u"काम अर्धवट राहिले; काहीही जतन झाले नाही. पुन्हा सुरू करा.",
+            Sentences(u"काम अर्धवट राहिले; काहीही जतन झाले नाही. पुन्हा सुरू करा.",
                 QStringLiteral(
                     "The transaction was rolled back after a failure; nothing was saved. Start again.")));
 }
@@ -138,7 +138,7 @@ void Connection::Private::Commit()
     if (m_isDoomed) {
         Rollback();
         throw RunTimeError(RunTimeError::DatabaseFailure,
-            DatabaseErrors::Sentences(u"कामाचा एक भाग पूर्ण झाला नाही; काहीही जतन झाले नाही.",
+            Sentences(u"कामाचा एक भाग पूर्ण झाला नाही; काहीही जतन झाले नाही.",
                 QStringLiteral("A part of the transaction was given up; nothing was saved.")));
     }
     const int code = sqlite3_exec(m_handle, "commit", nullptr, nullptr, nullptr);

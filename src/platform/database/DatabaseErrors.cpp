@@ -46,11 +46,6 @@ constexpr Reason Reasons[] = {
 
 }
 
-QString DatabaseErrors::Sentences(QStringView marathi, const QString& english)
-{
-    return marathi + QChar(u'\n') + english;
-}
-
 void DatabaseErrors::ThrowRefused(const char* english, QStringView statement)
 {
     throw RunTimeError(RunTimeError::DatabaseFailure,

@@ -10,9 +10,6 @@ struct sqlite3;
 // English.
 namespace DatabaseErrors {
 
-// Two sentences, one under the other.
-QString Sentences(QStringView marathi, const QString& english);
-
 // A statement that isn't one of the system's is not run.
 [[noreturn]] void ThrowRefused(const char* english, QStringView statement);
 

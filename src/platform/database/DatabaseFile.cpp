@@ -17,8 +17,6 @@ namespace {
 constexpr int PageSize = 1024;
 constexpr int BusyMilliseconds = 5000;
 
-using DatabaseErrors::Sentences;
-
 // A handle that is closed unless it is let go.
 class Opened {
 public:

@@ -90,8 +90,7 @@ void Recordset::Private::MoveNext()
     RequireOpen();
     if (m_eof)
         throw RunTimeError(RunTimeError::NoCurrentRecord,
-            DatabaseErrors::Sentences(u"यादी संपली आहे.", QStringLiteral("There is no current record.")),
-            m_query);
+            Sentences(u"यादी संपली आहे.", QStringLiteral("There is no current record.")), m_query);
     if (!m_isKept)
         return Step();
     m_rows.pop_front();
@@ -156,11 +155,10 @@ FieldValue Recordset::Private::At(int column) const
     RequireOpen();
     if (m_eof)
         throw RunTimeError(RunTimeError::NoCurrentRecord,
-            DatabaseErrors::Sentences(u"यादीत नोंद नाही.", QStringLiteral("There is no current record.")),
-            m_query);
+            Sentences(u"यादीत नोंद नाही.", QStringLiteral("There is no current record.")), m_query);
     if (column < 0 || static_cast<std::size_t>(column) >= m_loan->Names().size())
         throw RunTimeError(RunTimeError::ItemNotFound,
-            DatabaseErrors::Sentences(
+            Sentences(
                 u"यादीत हा रकाना नाही.", QStringLiteral("The record set has no column %1.").arg(column)),
             m_query);
     return m_isKept ? m_rows.front()[static_cast<std::size_t>(column)] : Read(column);
@@ -179,7 +177,7 @@ int Recordset::Private::Find(QStringView field) const
         }
     }
     throw RunTimeError(RunTimeError::ItemNotFound,
-        DatabaseErrors::Sentences(u"यादीत हा रकाना नाही.",
+        Sentences(u"यादीत हा रकाना नाही.",
             QStringLiteral("The record set has no column \"") + field + QStringLiteral("\".")),
         m_query);
 }

@@ -24,6 +24,8 @@ public:
 
 protected:
     bool KeyPress(const QKeyEvent& key) override;
+    QChar Mnemonic() const override { return m_caption.Mnemonic(); }
+    void AnswerMnemonic() override { Press(); }
 
 private:
     Caption m_caption;

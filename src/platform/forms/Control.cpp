@@ -69,14 +69,14 @@ void Control::ShowFocus(bool held)
 Label::Label(Screen* screen, const char* name, const Caption& caption) : m_widget(new QLabel(screen))
 {
     m_widget->setObjectName(QLatin1String(name));
-    static_cast<QLabel*>(m_widget.get())->setTextFormat(Qt::PlainText);
+    m_widget->setTextFormat(Qt::PlainText);
     SetCaption(caption);
 }
 
 void Label::SetCaption(const Caption& caption)
 {
     m_caption = caption;
-    static_cast<QLabel*>(m_widget.get())->setText(caption.Seen());
+    m_widget->setText(caption.Seen());
 }
 
 void Label::SetVisible(bool visible)

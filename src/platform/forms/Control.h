@@ -3,6 +3,7 @@
 #include "Caption.h"
 
 #include <QColor>
+#include <QLabel>
 #include <QWidget>
 
 #include <functional>
@@ -83,6 +84,11 @@ protected:
     // The mouse has moved caret or selection.
     virtual void MouseDone() { }
 
+    // The letter or figure that reaches the control with Alt; a null character if there is none. The control
+    // holds the focus when AnswerMnemonic is called.
+    virtual QChar Mnemonic() const { return {}; }
+    virtual void AnswerMnemonic() { }
+
     // Runs what the mouse or a timer has set off on this control.
     void RunEvent(const Event& event);
 
@@ -112,10 +118,10 @@ public:
     void SetVisible(bool visible);
 
     QString Name() const;
-    QWidget* Widget() const { return m_widget.get(); }
+    QLabel* Widget() const { return m_widget.get(); }
 
 private:
-    std::unique_ptr<QWidget> m_widget;
+    std::unique_ptr<QLabel> m_widget;
     Caption m_caption;
     bool m_visible = true;
 };

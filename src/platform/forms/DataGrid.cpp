@@ -11,6 +11,9 @@
 #include <QTableView>
 
 #include <algorithm>
+#include <iterator>
+#include <limits>
+#include <utility>
 
 class DataGrid::Model final : public QAbstractTableModel {
 public:
@@ -27,22 +30,41 @@ public:
         beginResetModel();
         m_rows.clear();
         m_names.clear();
+        m_hasMore = false;
         if (m_connection) {
             Recordset rows(*m_connection, m_query);
             for (int i = 0; i < rows.Columns(); ++i)
                 m_names.push_back(rows.Name(i).toLower());
-            for (; !rows.Eof(); rows.MoveNext()) {
-                std::vector<FieldValue>& row = m_rows.emplace_back();
-                row.reserve(m_names.size());
-                for (int i = 0; i < rows.Columns(); ++i)
-                    row.push_back(rows.At(i));
-            }
+            m_rows = Take(rows, FirstRows);
+            m_hasMore = !rows.Eof();
         }
         m_places.clear();
         for (const Column& column : m_columns)
             m_places.push_back(PlaceOf(column.field));
         endResetModel();
     }
+
+    // The rows behind those that were read with the query.
+    void ReadRest()
+    {
+        if (!std::exchange(m_hasMore, false))
+            return;
+        Recordset rows(*m_connection, m_query);
+        for (std::size_t read = 0; read < m_rows.size() && !rows.Eof(); ++read)
+            rows.MoveNext();
+        std::vector<Row> rest = Take(rows, std::numeric_limits<std::size_t>::max());
+        if (rest.empty())
+            return;
+        const int first = static_cast<int>(m_rows.size());
+        beginInsertRows({}, first, first + static_cast<int>(rest.size()) - 1);
+        std::move(rest.begin(), rest.end(), std::back_inserter(m_rows));
+        endInsertRows();
+    }
+
+    bool HasRead(int row) const { return row < rowCount() || !m_hasMore; }
+
+    bool canFetchMore(const QModelIndex& parent) const override { return !parent.isValid() && m_hasMore; }
+    void fetchMore(const QModelIndex&) override { ReadRest(); }
 
     int rowCount(const QModelIndex& parent = {}) const override
     {
@@ -70,7 +92,7 @@ public:
         if (role == Qt::DisplayRole)
             return m_columns[section].caption.Seen().trimmed();
         if (role == Qt::TextAlignmentRole)
-            return QVariant::fromValue(Alignment(section));
+            return QVariant::fromValue(Alignment(section) | Qt::TextWordWrap);
         return {};
     }
 
@@ -97,6 +119,22 @@ public:
     const std::vector<Column>& Columns() const { return m_columns; }
 
 private:
+    using Row = std::vector<FieldValue>;
+    static constexpr std::size_t FirstRows = 100;
+
+    // The next rows, at most so many.
+    static std::vector<Row> Take(Recordset& rows, std::size_t atMost)
+    {
+        std::vector<Row> taken;
+        for (; !rows.Eof() && taken.size() < atMost; rows.MoveNext()) {
+            Row& row = taken.emplace_back();
+            row.reserve(static_cast<std::size_t>(rows.Columns()));
+            for (int i = 0; i < rows.Columns(); ++i)
+                row.push_back(rows.At(i));
+        }
+        return taken;
+    }
+
     int PlaceOf(const QString& field) const
     {
         const auto at = std::find(m_names.begin(), m_names.end(), field.toLower());
@@ -113,7 +151,8 @@ private:
     QString m_query;
     std::vector<QString> m_names;
     std::vector<int> m_places;
-    std::vector<std::vector<FieldValue>> m_rows;
+    std::vector<Row> m_rows;
+    bool m_hasMore = false; // the query has rows that haven't been read
 };
 
 DataGrid::DataGrid(Screen* screen, const char* name, std::vector<Column> columns)
@@ -162,12 +201,13 @@ void DataGrid::Bind(Connection& connection, const QString& query)
 void DataGrid::Refresh()
 {
     m_model->Read();
-    if (Rows() > 0)
+    if (m_model->rowCount() > 0)
         SetCurrentRow(0);
 }
 
 int DataGrid::Rows() const
 {
+    m_model->ReadRest();
     return m_model->rowCount();
 }
 
@@ -178,17 +218,26 @@ int DataGrid::CurrentRow() const
 
 void DataGrid::SetCurrentRow(int row)
 {
+    Reach(row);
     View().selectRow(row);
 }
 
 FieldValue DataGrid::Value(int row, QStringView field) const
 {
+    Reach(row);
     return m_model->Value(row, field);
 }
 
 QString DataGrid::Cell(int row, int column) const
 {
+    Reach(row);
     return m_model->Shown(row, column);
+}
+
+void DataGrid::Reach(int row) const
+{
+    if (!m_model->HasRead(row))
+        m_model->ReadRest();
 }
 
 QString DataGrid::Text() const
@@ -199,6 +248,12 @@ QString DataGrid::Text() const
 void DataGrid::ShowFocus(bool held)
 {
     Look::SetListColours(*Widget(), held);
+}
+
+void DataGrid::MouseDone()
+{
+    if (Click && CurrentRow() >= 0)
+        Click();
 }
 
 bool DataGrid::KeyPress(const QKeyEvent& key)
@@ -222,12 +277,13 @@ bool DataGrid::KeyPress(const QKeyEvent& key)
         row = 0;
         break;
     case Qt::Key_End:
-        row = Rows() - 1;
+        row = Rows() - 1; // reads them all
         break;
     default:
         return true;
     }
-    if (Rows() > 0)
-        SetCurrentRow(std::clamp(row, 0, Rows() - 1));
+    Reach(row);
+    if (const int rows = m_model->rowCount(); rows > 0)
+        SetCurrentRow(std::clamp(row, 0, rows - 1));
     return true;
 }

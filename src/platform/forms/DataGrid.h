@@ -9,7 +9,8 @@
 
 class QTableView;
 
-// The rows of a query as a table to look at. What was written is seen after Refresh.
+// The rows of a query as a table to look at. What was written is seen after Refresh. The rows far below the
+// first are read when they are first asked for, so that a long list is shown as quickly as a short one.
 class DataGrid final : public Control {
 public:
     struct Column {
@@ -23,6 +24,9 @@ public:
 
     DataGrid(Screen* screen, const char* name, std::vector<Column> columns);
     ~DataGrid() override;
+
+    // The mouse has pressed a row, which is the current one now.
+    Event Click;
 
     // The rows to show. The connection must outlive the grid.
     void Bind(Connection& connection, const QString& query);
@@ -44,11 +48,13 @@ public:
 protected:
     bool KeyPress(const QKeyEvent& key) override;
     void ShowFocus(bool held) override;
+    void MouseDone() override;
 
 private:
     class Model;
     QTableView& View() const;
     void LayOut();
+    void Reach(int row) const;
 
     std::unique_ptr<Model> m_model;
 };

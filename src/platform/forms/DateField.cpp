@@ -31,8 +31,10 @@ QString DateField::Text() const
 
 void DateField::SetText(const QString& text)
 {
+    const QString before = Text();
     Line().setText(text.size() == Length ? text : EmptyDateMask.toString());
     Line().setCursorPosition(0);
+    TellChange(before);
 }
 
 void DateField::SetDate(const QDate& date)
@@ -57,6 +59,7 @@ QDate DateField::Date() const
 
 bool DateField::KeyPress(const QKeyEvent& key)
 {
+    const QString before = Text();
     switch (key.key()) {
     case Qt::Key_Left:
     case Qt::Key_Right:
@@ -66,6 +69,7 @@ bool DateField::KeyPress(const QKeyEvent& key)
     case Qt::Key_Backspace:
     case Qt::Key_Delete:
         Erase(key.key() == Qt::Key_Backspace);
+        TellChange(before);
         return true;
     default:
         break;
@@ -79,12 +83,14 @@ bool DateField::KeyPress(const QKeyEvent& key)
 
 void DateField::Insert(const QString& text)
 {
+    const QString before = Text();
     for (QChar c : text) {
         if (c.digitValue() >= 0)
             TypeDigit(QChar(u'0' + c.digitValue()));
         else if (c == u'/' || c == u'.' || c == u'-')
             EndPart();
     }
+    TellChange(before);
 }
 
 void DateField::TypeDigit(QChar digit)

@@ -7,6 +7,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <utility>
+
 Field::Field(Screen* screen, const char* name) : Control(screen, name, new QLineEdit)
 {
     Line().setTextMargins(4, 0, 4, 0);
@@ -47,6 +49,12 @@ void Field::ShowFocus(bool held)
         SelectAll();
     else
         Line().deselect();
+}
+
+void Field::TellChange(const QString& before) const
+{
+    if (TextChanged && Text() != before)
+        TextChanged();
 }
 
 bool Field::CopyKey(const QKeyEvent& key) const
@@ -102,6 +110,10 @@ NumberField::NumberField(Screen* screen, const char* name, Digits digits)
 {
     SetAlignRight();
     Line().setInputMethodHints(Qt::ImhFormattedNumbersOnly);
+    QObject::connect(&Line(), &QLineEdit::textEdited, &Line(), [this] {
+        if (TextChanged)
+            RunEvent(TextChanged);
+    });
 }
 
 QString NumberField::Text() const
@@ -111,7 +123,9 @@ QString NumberField::Text() const
 
 void NumberField::SetText(const QString& text)
 {
+    const QString before = Text();
     Line().setText(text);
+    TellChange(before);
 }
 
 bool NumberField::KeyPress(const QKeyEvent& key)
@@ -147,15 +161,16 @@ ChoiceField::ChoiceField(Screen* screen, const char* name, std::vector<Choice> c
 
 void ChoiceField::SetText(const QString& word)
 {
-    m_word = word;
+    const QString before = std::exchange(m_word, word);
     Line().setText(Shivaji01::ToUnicode(word));
     Line().setCursorPosition(0);
+    TellChange(before);
 }
 
 bool ChoiceField::KeyPress(const QKeyEvent& key)
 {
     if (key.key() == Qt::Key_Backspace && !m_locked)
-        SetText({});
+        SetText({}); // a word less a letter is none of the choices
     else if (IsTyped(key))
         Choose(key.text()[0]);
     else
@@ -180,6 +195,8 @@ PlainField::PlainField(Screen* screen, const char* name) : Field(screen, name)
     QObject::connect(&Line(), &QLineEdit::textEdited, &Line(), [this] {
         if (Change)
             RunEvent(Change);
+        if (TextChanged)
+            RunEvent(TextChanged);
     });
 }
 
@@ -190,8 +207,10 @@ QString PlainField::Text() const
 
 void PlainField::SetText(const QString& text)
 {
-    if (text != Line().text())
+    const QString before = Text();
+    if (text != before)
         Line().setText(text);
+    TellChange(before);
 }
 
 // A line edit answers every key as it should be.

@@ -9,6 +9,9 @@ class Field : public Control {
 public:
     Field(Screen* screen, const char* name);
 
+    // The text has changed, by a key of the clerk or by the screen.
+    Event TextChanged;
+
     // The text as it goes into statements.
     virtual void SetText(const QString& text) = 0;
     void Clear() { SetText({}); }
@@ -28,6 +31,9 @@ public:
 protected:
     QLineEdit& Line() const;
     void ShowFocus(bool held) override;
+
+    // Runs TextChanged if the text isn't what it was before.
+    void TellChange(const QString& before) const;
 
     // Copies what is seen; true if the key asked for it.
     bool CopyKey(const QKeyEvent& key) const;

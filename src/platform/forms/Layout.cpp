@@ -10,6 +10,8 @@
 namespace {
 
 constexpr int FieldHeight = 38;
+constexpr int StripMargin = 14;
+constexpr int StripSpacing = 14;
 
 QWidget* BandWidget(int height)
 {
@@ -31,11 +33,6 @@ QLabel* PlainLabel(const QString& text)
     return label;
 }
 
-QLabel& Text(Label& label)
-{
-    return *static_cast<QLabel*>(label.Widget());
-}
-
 void SetInk(QWidget& widget, QRgb colour)
 {
     QPalette palette = widget.palette();
@@ -45,28 +42,35 @@ void SetInk(QWidget& widget, QRgb colour)
 
 void PutOnBand(Label& label, QFont font)
 {
-    Text(label).setFont(font);
-    SetInk(Text(label), Look::BandText);
+    label.Widget()->setFont(font);
+    SetInk(*label.Widget(), Look::BandText);
 }
 
-}
-
-QWidget* Layout::Header(Label& title, Label& company, Label& year)
+// A key as a cap, and what it does.
+QWidget* HintWidget(const KeyHint& hint)
 {
-    QWidget* band = Header(title);
-    auto* row = static_cast<QHBoxLayout*>(band->layout());
-    auto* society = new QVBoxLayout;
-    society->setSpacing(0);
-    for (Label* label : {&company, &year}) {
-        PutOnBand(*label, Look::Font(Look::Size::Small));
-        Text(*label).setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        society->addWidget(label->Widget());
-    }
-    row->addLayout(society);
-    return band;
+    auto* piece = new QWidget;
+    auto* row = new QHBoxLayout(piece);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(6);
+    auto* key = PlainLabel(hint.key);
+    key->setFont(Look::Font(Look::Size::Small, true));
+    key->setAlignment(Qt::AlignCenter);
+    key->setMargin(4);
+    QPalette cap = key->palette();
+    cap.setColor(QPalette::Window, QColor(Look::PlainColour));
+    cap.setColor(QPalette::WindowText, QColor(Look::Ink));
+    key->setPalette(cap);
+    key->setAutoFillBackground(true);
+    row->addWidget(key);
+    auto* action = PlainLabel(hint.action.Seen().trimmed());
+    action->setFont(Look::Font(Look::Size::Small));
+    SetInk(*action, Look::BandText);
+    row->addWidget(action);
+    return piece;
 }
 
-QWidget* Layout::Header(Label& title)
+QWidget* HeaderBand(Label& title, std::initializer_list<Label*> society)
 {
     QWidget* band = BandWidget(64);
     auto* row = new QHBoxLayout(band);
@@ -74,33 +78,55 @@ QWidget* Layout::Header(Label& title)
     PutOnBand(title, Look::Font(Look::Size::Title, true));
     row->addWidget(title.Widget());
     row->addStretch(1);
+    auto* lines = new QVBoxLayout;
+    lines->setSpacing(0);
+    for (Label* label : society) {
+        PutOnBand(*label, Look::Font(Look::Size::Small));
+        label->Widget()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        lines->addWidget(label->Widget());
+    }
+    row->addLayout(lines);
     return band;
+}
+
+}
+
+QWidget* Layout::Header(Label& title, Label& company, Label& year)
+{
+    return HeaderBand(title, {&company, &year});
+}
+
+QWidget* Layout::Header(Label& title, Label& company)
+{
+    return HeaderBand(title, {&company});
+}
+
+QWidget* Layout::Header(Label& title)
+{
+    return HeaderBand(title, {});
 }
 
 QWidget* Layout::KeyStrip(const std::vector<KeyHint>& hints)
 {
     QWidget* band = BandWidget(40);
-    auto* row = new QHBoxLayout(band);
-    row->setContentsMargins(14, 4, 14, 4);
-    row->setSpacing(6);
+    auto* rows = new QVBoxLayout(band);
+    rows->setContentsMargins(StripMargin, 4, StripMargin, 4);
+    rows->setSpacing(4);
+    QHBoxLayout* row = nullptr;
+    int left = 0;
     for (const KeyHint& hint : hints) {
-        auto* key = PlainLabel(hint.key);
-        key->setFont(Look::Font(Look::Size::Small, true));
-        key->setAlignment(Qt::AlignCenter);
-        key->setMargin(4);
-        QPalette cap = key->palette();
-        cap.setColor(QPalette::Window, QColor(Look::PlainColour));
-        cap.setColor(QPalette::WindowText, QColor(Look::Ink));
-        key->setPalette(cap);
-        key->setAutoFillBackground(true);
-        row->addWidget(key);
-        auto* action = PlainLabel(hint.action.Seen().trimmed());
-        action->setFont(Look::Font(Look::Size::Small));
-        SetInk(*action, Look::BandText);
-        row->addWidget(action);
-        row->addSpacing(8);
+        QWidget* piece = HintWidget(hint);
+        const int needed = piece->sizeHint().width() + StripSpacing;
+        if (!row || needed > left) {
+            row = new QHBoxLayout;
+            row->setSpacing(StripSpacing);
+            row->addStretch(1);
+            rows->addLayout(row);
+            left = Look::ScreenWidth - 2 * StripMargin;
+        }
+        row->insertWidget(row->count() - 1, piece);
+        left -= needed;
     }
-    row->addStretch(1);
     return band;
 }
 
@@ -177,17 +203,13 @@ void Layout::Form::Row(Label& label)
 
 void Layout::MakeGuide(Label& label)
 {
-    Text(label).setFont(Look::Font(Look::Size::Large, true));
-    Text(label).setAlignment(Qt::AlignCenter);
-    Text(label).setMinimumHeight(44);
-    Text(label).setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    SetInk(Text(label), Look::GuideInk);
-}
-
-void Layout::MakeCaption(Label& label, bool bold)
-{
-    Text(label).setFont(Look::Font(Look::Size::Normal, bold));
-    Text(label).setAlignment(Qt::AlignCenter);
+    label.Widget()->setFont(Look::Font(Look::Size::Large, true));
+    label.Widget()->setAlignment(Qt::AlignCenter);
+    label.Widget()->setMinimumHeight(44);
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    policy.setRetainSizeWhenHidden(true); // the screen must not move when a guide comes and goes
+    label.Widget()->setSizePolicy(policy);
+    SetInk(*label.Widget(), Look::GuideInk);
 }
 
 void Layout::SizeField(Control& field, int width)

@@ -6,8 +6,6 @@
 
 #include <initializer_list>
 
-class QVBoxLayout;
-
 // One key and what it does, as a strip at the foot of a screen shows it.
 struct KeyHint {
     QString key; // "F2", "Esc"
@@ -19,9 +17,10 @@ namespace Layout {
 
 // The band at the head of a screen: its title, and the society and year at the right.
 QWidget* Header(Label& title, Label& company, Label& year);
+QWidget* Header(Label& title, Label& company);
 QWidget* Header(Label& title);
 
-// The strip at the foot of a screen: the keys and what they do.
+// The strip at the foot of a screen: the keys and what they do, in as many rows as they need there.
 QWidget* KeyStrip(const std::vector<KeyHint>& hints);
 
 // Stacks the parts of a screen without gaps; `body` takes what room is left.
@@ -55,9 +54,6 @@ private:
 
 // Makes a label a line of guidance: in the colour of guides, never growing the screen.
 void MakeGuide(Label& label);
-
-// A quiet caption, such as one above a column of fields.
-void MakeCaption(Label& label, bool bold = false);
 
 // Gives a field its height and, if not 0, its width.
 void SizeField(Control& field, int width);

@@ -15,10 +15,25 @@ QString& Family()
     return family;
 }
 
-// Buttons in one flat colour, so that the colour of the focus is seen as it is.
+// Buttons in one flat colour, so that the colour of the focus is seen as it is; boxes and rings that are
+// seen from a chair's distance.
 class FlatStyle final : public QProxyStyle {
 public:
     FlatStyle() : QProxyStyle(QStringLiteral("Fusion")) { }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
+    {
+        constexpr int mark = 22;
+        switch (metric) {
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight:
+            return mark;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
         const QWidget* widget) const override
@@ -46,6 +61,8 @@ int PixelsOf(Look::Size size)
         return 15;
     case Look::Size::Normal:
         return 19;
+    case Look::Size::Menu:
+        return 21;
     case Look::Size::Large:
         return 24;
     case Look::Size::Title:

@@ -24,12 +24,13 @@ inline constexpr QRgb GuideInk = qRgb(0x8A, 0x1C, 0x1C); // the guide line
 inline constexpr int ScreenWidth = 1000;
 inline constexpr int ScreenHeight = 690;
 
-enum class Size { Small, Normal, Large, Title };
+enum class Size { Small, Normal, Menu, Large, Title };
 
 // Gives the application its style, palette and font. `family` is a Devanagari font, or empty if there is
 // none.
 void Apply(QApplication& application, const QString& family);
 
+// The font of the screens in one of their sizes.
 QFont Font(Size size, bool bold = false);
 
 // The background of a field or button.

@@ -18,8 +18,8 @@ MenuList::MenuList(Screen* screen, const char* name) : Control(screen, name, new
 {
     QListWidget& list = ListOf(*this);
     list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list.setFont(Look::Font(Look::Size::Large));
-    list.setSpacing(2);
+    list.setFont(Look::Font(Look::Size::Menu));
+    list.setSpacing(1);
     QObject::connect(
         &list, &QListWidget::itemDoubleClicked, &list, [this] { RunEvent([this] { Choose(); }); });
     MenuList::ShowFocus(false);

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "DropList.h"
 #include "TextField.h"
 
-#include <QListView>
 #include <QStringList>
-#include <QStringListModel>
 
 // A name, typed freely or picked from a list that drops below the field. The list never takes the focus:
 // Down and Up walk it from the field, and it stands at the first name that begins with what was typed.
@@ -15,10 +14,11 @@ public:
     // The names as they are stored, in the order of the list.
     void SetItems(const QStringList& names);
     void AddItem(const QString& name);
+    void AddItems(const QStringList& names);
     void ClearItems() { SetItems({}); }
     const QStringList& Items() const { return m_names; }
 
-    bool IsDroppedDown() const { return m_dropped; }
+    bool IsDroppedDown() const { return m_list.IsOpen(); }
     void DropDown(bool open);
 
 protected:
@@ -27,13 +27,9 @@ protected:
     void Changed() override;
 
 private:
-    int CurrentRow() const;
     void Pick(int row);
-    void PlaceList();
     void ShowMatch();
 
     QStringList m_names;
-    QStringListModel m_seen;
-    std::unique_ptr<QListView> m_list;
-    bool m_dropped = false;
+    DropList m_list;
 };

@@ -189,12 +189,21 @@ void Screen::SetFocus(Control& control)
 
 void Screen::MoveNext()
 {
-    MoveTo(Neighbour(m_holder, 1));
+    MoveBy(1);
 }
 
 void Screen::MovePrevious()
 {
-    MoveTo(Neighbour(m_holder, -1));
+    MoveBy(-1);
+}
+
+// Where a step leads is found after LostFocus has run: it may have opened or closed the very next field.
+void Screen::MoveBy(int step)
+{
+    if (Neighbour(m_holder, step) == m_holder)
+        return;
+    m_step = step;
+    Move([this, step] { return Neighbour(m_holder, step); }, true);
 }
 
 Control* Screen::Neighbour(Control* from, int step) const
@@ -212,21 +221,27 @@ Control* Screen::Neighbour(Control* from, int step) const
 
 void Screen::MoveTo(Control* to, bool validate)
 {
-    if (!m_open || !to || to == m_holder || m_leaving)
+    if (!to || to == m_holder)
         return;
-    if (Control* from = m_holder) {
-        LetGo(*from);
-        m_asked = nullptr;
-        if (validate && from->LostFocus)
-            RunLostFocus(*from);
+    m_step = 0;
+    Move([this, to] { return to->CanTakeFocus() ? to : Neighbour(to, 1); }, validate);
+}
+
+void Screen::Move(const std::function<Control*()>& destination, bool validate)
+{
+    if (!m_open || m_leaving)
+        return;
+    m_asked = nullptr;
+    if (m_holder) {
+        LetGo(*m_holder);
+        if (validate && m_holder->LostFocus)
+            RunLostFocus(*m_holder);
         if (!m_open)
             return;
-        if (m_asked)
-            to = m_asked;
-        if (!to->CanTakeFocus())
-            to = Neighbour(to, 1);
     }
-    if (to)
+    if (m_asked && !m_asked->CanTakeFocus())
+        m_asked = Neighbour(m_asked, 1);
+    if (Control* to = m_asked ? m_asked : destination())
         Take(*to);
 }
 
@@ -267,6 +282,7 @@ void Screen::ShowGuide(const Caption& guide)
     if (!m_guideLabel)
         return;
     m_guideLabel->SetCaption(guide);
+    m_guideLabel->SetVisible(!guide.IsEmpty());
 }
 
 // A holder that was disabled or hidden by the running event passes the focus on without a validation:
@@ -407,15 +423,12 @@ bool Screen::Answer(const QKeyEvent& key)
 bool Screen::AnswerMnemonic(const QKeyEvent& key)
 {
     for (Control* control : m_controls) {
-        auto* button = dynamic_cast<Button*>(control);
-        if (!button || !button->CanTakeFocus())
+        const QChar mnemonic = control->Mnemonic();
+        if (!control->CanTakeFocus() || mnemonic.isNull() || mnemonic.unicode() != key.key())
             continue;
-        const QChar mnemonic = button->Shown().Mnemonic();
-        if (mnemonic.isNull() || mnemonic.unicode() != key.key())
-            continue;
-        MoveTo(button);
-        if (m_holder == button)
-            button->Press();
+        MoveTo(control);
+        if (m_holder == control)
+            control->AnswerMnemonic();
         return true;
     }
     return false;

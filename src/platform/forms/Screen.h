@@ -79,6 +79,9 @@ protected:
     void MoveNext();
     void MovePrevious();
 
+    // For a LostFocus that sends the clerk on: whether he is stepping back with Shift+Tab instead.
+    bool IsSteppingBack() const { return m_leaving && m_step < 0; }
+
     void SetColours(QColor focus, QColor plain);
 
     // The label that shows the title.
@@ -124,6 +127,8 @@ private:
 
     Control* Neighbour(Control* from, int step) const;
     void MoveTo(Control* to, bool validate = true);
+    void MoveBy(int step);
+    void Move(const std::function<Control*()>& destination, bool validate);
     void RunLostFocus(Control& from);
     void Take(Control& control);
     void LetGo(Control& control);
@@ -134,6 +139,7 @@ private:
     std::vector<Control*> m_controls;
     Control* m_holder = nullptr;
     Control* m_asked = nullptr; // where LostFocus wants the focus instead
+    int m_step = 0; // of the move that is running: 1 on, -1 back, 0 straight to a control
     bool m_leaving = false; // a LostFocus is running
     Label* m_guideLabel = nullptr;
     Label* m_titleLabel = nullptr;

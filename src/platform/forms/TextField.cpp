@@ -27,10 +27,12 @@ TextField::TextField(Screen* screen, const char* name) : Field(screen, name) { }
 
 void TextField::SetText(const QString& stored)
 {
+    const QString before = m_stored;
     Hold(stored);
     m_caret = m_anchor = stored.size();
     Show();
     Changed();
+    TellChange(before);
 }
 
 void TextField::Hold(const QString& stored)
@@ -156,10 +158,12 @@ void TextField::Replace(Range range, const QString& stored)
     text.replace(range.start, range.end - range.start, stored);
     if (m_maxLength > 0 && text.size() > m_maxLength && text.size() > m_stored.size())
         return;
+    const QString before = m_stored;
     Hold(text);
     m_caret = m_anchor = range.start + stored.size();
     Show();
     Changed();
+    TellChange(before);
     if (Change)
         Change();
 }

@@ -20,7 +20,9 @@ namespace {
 
 [[noreturn]] void Refuse(const QString& path, const QString& why)
 {
-    throw RunTimeError(RunTimeError::FileAccess, QStringLiteral("%1 cannot be locked: %2").arg(path, why));
+    throw RunTimeError(RunTimeError::FileAccess,
+        Sentences(
+            u"हिशेबाच्या फोल्डरमध्ये लिहिता येत नाही.", QStringLiteral("%1 cannot be locked: %2").arg(path, why)));
 }
 
 }

@@ -83,7 +83,8 @@ QDate ToDate(QStringView text)
     if (const std::optional<QDate> date = ParseDate(text))
         return *date;
     throw RunTimeError(RunTimeError::TypeMismatch,
-        QStringLiteral("Type mismatch: '%1' is no date.").arg(text.left(LongestNamed)));
+        Sentences(u"ही तारीख चुकीची आहे.",
+            QStringLiteral("Type mismatch: '%1' is no date.").arg(text.left(LongestNamed))));
 }
 
 QString DateText(const QDate& date)

@@ -16,7 +16,8 @@ constexpr qsizetype LongestNamed = 60;
 [[noreturn]] void ThrowOverflow(QStringView value)
 {
     throw RunTimeError(RunTimeError::Overflow,
-        QStringLiteral("Overflow: %1 is too large a number.").arg(value.left(LongestNamed)));
+        Sentences(u"हा आकडा फार मोठा आहे.",
+            QStringLiteral("Overflow: %1 is too large a number.").arg(value.left(LongestNamed))));
 }
 
 // ---- Reading ----

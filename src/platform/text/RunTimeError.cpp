@@ -15,3 +15,8 @@ QString RunTimeError::Text() const
         text += QStringLiteral("\n\n") + m_statement;
     return text;
 }
+
+QString Sentences(QStringView marathi, const QString& english)
+{
+    return marathi.toString() + u'\n' + english;
+}

@@ -37,3 +37,6 @@ private:
     QString m_statement;
     QByteArray m_what;
 };
+
+// What a box says in both tongues: a sentence for the clerk, and under it one for the helper.
+QString Sentences(QStringView marathi, const QString& english);

@@ -59,7 +59,20 @@ TEST_F(RecordsetTest, TellsNullFromEmpty)
     EXPECT_EQ(rows.At(0).Text(), QString());
     EXPECT_EQ(rows.At(0).Number(), 0);
     EXPECT_FALSE(rows.At(0).Date().isValid());
-    EXPECT_TRUE(Rows("select sum(Amount) as s from MilkPayments").At(0).IsNull());
+}
+
+TEST_F(RecordsetTest, ASumOverNoRowsIsNullAndReadAsNought)
+{
+    for (const char* query : {"select sum(Amount) as Total from MilkPayments",
+             "select sum(Liters) as Total from MilkCollections where CompanyId=0",
+             "select max(CollectionNo) as Total from MilkCollections where CollectionTime='sakaL'"}) {
+        const Recordset sum = Rows(query);
+        ASSERT_FALSE(sum.Eof()) << query;
+        EXPECT_TRUE(sum[u"Total"].IsNull()) << query;
+        EXPECT_EQ(sum[u"Total"].Number(), 0) << query;
+        EXPECT_EQ(sum[u"Total"].Text(), QString()) << query;
+    }
+    EXPECT_EQ(One("select count(*) from MilkPayments"), QStringLiteral("0"));
 }
 
 TEST_F(RecordsetTest, ReadsTheRowsOfBeforeAWrite)

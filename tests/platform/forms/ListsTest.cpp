@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
@@ -257,14 +258,68 @@ TEST_F(DataGridTest, AQueryThatFailsIsARunTimeError)
     });
 }
 
-TEST_F(DataGridTest, TwoThousandRows)
+class LongGridTest : public DataGridTest {
+protected:
+    LongGridTest()
+    {
+        books.RunScript(Q("with recursive n(i) as (select 4 union all select i+1 from n where i<2000) "
+                          "insert into Inwards select i,'rama',i/10.0,'2026-04-15' from n"));
+    }
+
+    static int Read(const GridScreen& screen) { return screen.View().model()->rowCount(); }
+};
+
+TEST_F(LongGridTest, ReadsAFewRowsAtFirstAndAllWhenAskedForThem)
 {
-    books.RunScript(Q("with recursive n(i) as (select 4 union all select i+1 from n where i<2000) "
-                      "insert into Inwards select i,'rama',i/10.0,'2026-04-15' from n"));
-    AtGrid([&](DataGrid& grid, GridScreen&) {
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        EXPECT_LT(Read(screen), 200);
         EXPECT_EQ(grid.Rows(), 2000);
+        EXPECT_EQ(Read(screen), 2000);
+        Do([&] { grid.Refresh(); });
+        EXPECT_LT(Read(screen), 200);
+        EXPECT_EQ(grid.Cell(1999, 0), Q("2000"));
+    });
+}
+
+TEST_F(LongGridTest, TheLastRowIsAKeyAway)
+{
+    AtGrid([&](DataGrid& grid, GridScreen&) {
         Type("{TAB}{End}");
         EXPECT_EQ(Row(grid, grid.CurrentRow()), "2000|राम|200.000|15/04/2026|");
+    });
+}
+
+TEST_F(LongGridTest, PagingDownGoesOnPastTheRowsReadAtFirst)
+{
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        const int first = Read(screen);
+        Type("{TAB}");
+        for (int page = 0; page < first && grid.CurrentRow() < first; ++page)
+            Type("{PGDN}");
+        EXPECT_GE(grid.CurrentRow(), first);
+        EXPECT_EQ(grid.Text(), QString::number(grid.CurrentRow() + 1));
+    });
+}
+
+TEST_F(LongGridTest, ScrollingToTheEndReadsTheRest)
+{
+    AtGrid([&](DataGrid&, GridScreen& screen) {
+        Do([&] {
+            screen.View().verticalScrollBar()->setValue(screen.View().verticalScrollBar()->maximum());
+        });
+        EXPECT_EQ(Read(screen), 2000);
+    });
+}
+
+TEST_F(LongGridTest, WhenTheRowsHaveGoneMeanwhileTheListEndsWhereItWasRead)
+{
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        const int first = Read(screen);
+        Do([&] { books.Execute(Q("delete * from Inwards where CollectionNo>5")); });
+        Type("{TAB}{End}");
+        EXPECT_EQ(grid.CurrentRow(), first - 1);
+        Do([&] { grid.Refresh(); });
+        EXPECT_EQ(grid.Rows(), 5);
     });
 }
 

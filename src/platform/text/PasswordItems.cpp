@@ -31,10 +31,20 @@ QString NextItem(const QString& text, qsizetype& at)
     return item;
 }
 
+// Less the blanks at its ends. A tab or a hard blank there is a character of the password.
+QString Trimmed(QString text)
+{
+    while (text.startsWith(u' '))
+        text.remove(0, 1);
+    while (text.endsWith(u' '))
+        text.chop(1);
+    return text;
+}
+
 [[noreturn]] void Damaged()
 {
     throw RunTimeError(RunTimeError::TypeMismatch,
-        QStringLiteral("पासवर्डची फाईल खराब झाली आहे. मूळ फाईल परत ठेवा.\nPWD.TXT is damaged"));
+        Sentences(u"पासवर्डची फाईल खराब झाली आहे. मूळ फाईल परत ठेवा.", QStringLiteral("PWD.TXT is damaged")));
 }
 
 }
@@ -59,7 +69,7 @@ QString PasswordOfItems(const QStringList& items)
         const int code = ToInt16(item[0].unicode() - key);
         if (code < 0)
             Damaged();
-        password = password.trimmed() + QChar(code);
+        password = Trimmed(password) + QChar(code);
     }
     password.chop(1);
     return password;

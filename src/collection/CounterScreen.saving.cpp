@@ -1,7 +1,6 @@
 // What becomes of the line of fields: saved as a delivery, deleted, or looked up.
 
-#include "frmMilkCollections.h"
-
+#include "CounterScreen.h"
 #include "ClosingFigures.h"
 #include "Counter.h"
 #include "MdlAccounts.h"
@@ -14,7 +13,7 @@
 
 using namespace Counter;
 
-void frmMilkCollections::cmdGo_Click()
+void CounterScreen::cmdGo_Click()
 {
     if (Value(txtMemberNo) == 0 || Value(txtAmount) == 0) {
         txtCollectionNo.SetFocus();
@@ -40,20 +39,29 @@ void frmMilkCollections::cmdGo_Click()
         StoreNew(delivery);
     RefreshClosingLitres(delivery.memberNo);
     TidyShiftCopy();
+    MilkReceipt::StageReceipt(delivery);
     save.Commit();
 
-    // The list of the shift is shown anew here. The receipt's row is taken from the fields next, and the
-    // scale gets its tare, while the fields still hold the delivery.
+    ShowInwardsGrid();
+    if (DeviceSwitch::IsOn(gAppState.gAutoLiters))
+        SendTareToScale();
     ClearEntryFields();
-    // Litres and average fat of the shift are summed from the copy here.
+    ShiftLitersTotal();
+    ShiftAverageFat();
     ShowNumber(NextNumberInCopy(shift));
     txtAnimal.SetEnabled(true);
-    // The receipt is printed here: the delivery is safe, and the number has stepped on.
+    m_receipt.PrintReceipt(cmdPrinterOnOff.Text()); // the delivery is safe, whatever the printer does
     SendKeys(QStringLiteral("{Tab}"));
 }
 
+void CounterScreen::SendTareToScale()
+{
+    m_devices.SendTareToScale();
+    txtLiters.SetText(QStringLiteral("0"));
+}
+
 // Whether the member has already brought milk of this animal to this shift.
-bool frmMilkCollections::IsSecondDelivery() const
+bool CounterScreen::IsSecondDelivery() const
 {
     const Shift shift = TheShift();
     return Finds(Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
@@ -61,7 +69,7 @@ bool frmMilkCollections::IsSecondDelivery() const
         u" and MemberNo=", Value(txtMemberNo), u" and trim(Animal)='", txtAnimal.Text(), u"'"));
 }
 
-void frmMilkCollections::StoreNew(const Delivery& delivery)
+void CounterScreen::StoreNew(const Delivery& delivery)
 {
     InsertDelivery(delivery);
     if (delivery.animal == u"gaaya")
@@ -69,11 +77,11 @@ void frmMilkCollections::StoreNew(const Delivery& delivery)
     else if (delivery.animal == u"mhOsa")
         BuffLitersTaken += delivery.liters;
     if (Setting(u"PurchaseEntry") == u"Collection")
-        PostClosingBalance(delivery.memberName.trimmed(), delivery.amount, PostAction::Add);
+        PostClosingBalance(delivery.memberName, delivery.amount, PostAction::Add);
 }
 
 // No question is asked. A payment stops it only if its whole period is this one day.
-void frmMilkCollections::DeleteRow()
+void CounterScreen::DeleteRow()
 {
     const Shift shift = TheShift();
     const double number = Value(txtCollectionNo);
@@ -91,14 +99,14 @@ void frmMilkCollections::DeleteRow()
         RefreshClosingLitres(memberNo);
         deleting.Commit();
     }
-    // The list of the shift is shown anew here.
+    ShowInwardsGrid();
     ClearEntryFields();
-    // The litres of the shift are summed here; its average fat stays as it was.
-    ShowNumber(NextNumberInCopy(shift));
+    ShiftLitersTotal(); // the average fat stays as it was
+    ShowNumber(NextNumberAfterDelete(shift));
     txtCollectionNo.SetFocus();
 }
 
-void frmMilkCollections::SearchMember()
+void CounterScreen::SearchMember()
 {
     const Shift shift = TheShift();
     {

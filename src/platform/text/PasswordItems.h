@@ -8,5 +8,6 @@
 QStringList ItemsOf(const QString& text);
 
 // The password that the items disguise: the last one is a key character, every other one the password's
-// character shifted up by it. Items that hide no character are a run-time error.
+// character shifted up by it. Blanks at the ends of the password are dropped. Items that hide no character
+// are a run-time error.
 QString PasswordOfItems(const QStringList& items);

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+// The cases, by what they are about. `drives` is where the drives of the society lie.
+
+void RegisterCounterCases(const QString& drives); // leaving the fat, opening a shift
+void RegisterSaveCases(const QString& drives);
+void RegisterStatementCases(const QString& drives);
+void RegisterReportCases(const QString& drives);
+void RegisterProgramCases(const QString& drives); // start to menu, memory, a shift with slips

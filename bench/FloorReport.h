@@ -1,0 +1,39 @@
+#pragma once
+
+#include "FloorStatement.h"
+#include "LayoutPool.h"
+#include "Report.h"
+
+#include <string>
+
+// The texts of a finished report once more, by the engines themselves: the rows by a prepared statement, each
+// text set by Pango and drawn by Cairo once. The texts and their places are taken over ready made.
+class FloorReport {
+public:
+    explicit FloorReport(const Report& report);
+
+    // Reads the rows of the list and lays out each of its texts once. Returns the number of rows.
+    int ReadAndLayOut();
+
+    // Writes the same pages as a PDF, as durably as the report does it.
+    void SavePdf(const QString& file);
+
+private:
+    struct Text {
+        std::string utf8;
+        PangoLayout* layout = nullptr;
+        Align align = Align::Left;
+        double x = 0, y = 0, width = 0; // points
+    };
+    struct Sheet {
+        double width = 0, height = 0;
+        std::vector<Text> texts;
+        std::vector<PlacedItem> lines;
+    };
+
+    LayoutPool m_layouts;
+    std::vector<Sheet> m_sheets;
+    FloorStatement m_rows{
+        "select CollectionNo,CollectionDate,MemberName,Animal,Liters,Fat,Rate,Amount from MilkCollections "
+        "where CollectionDate>=? and CollectionDate<=? order by CollectionDate,CollectionTime,CollectionNo"};
+};

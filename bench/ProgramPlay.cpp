@@ -1,0 +1,239 @@
+#include "ProgramPlay.h"
+
+#include "AppFolder.h"
+#include "BenchSociety.h"
+#include "Clerk.h"
+#include "CounterPlay.h"
+#include "MdlAccounts.h"
+#include "ModalStack.h"
+#include "Program.h"
+#include "Recordset.h"
+#include "ReportPlay.h"
+#include "ScreenDirectory.h"
+#include "Sql.h"
+#include "Timing.h"
+
+#include <QFile>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int SlipsShift = 200;
+
+// Notes that a screen has been painted.
+class PaintWatch final : public QObject {
+public:
+    explicit PaintWatch(QStringView screen) : m_screen(screen) { qApp->installEventFilter(this); }
+    bool IsPainted() const { return m_isPainted; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && watched->objectName() == m_screen)
+            m_isPainted = true;
+        return false;
+    }
+
+private:
+    QStringView m_screen;
+    bool m_isPainted = false;
+};
+
+// The memory of this process: "VmHWM" is the most that it ever held, "VmRSS" what it holds now.
+void PrintMemory()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return;
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:") || line.startsWith("VmRSS:"))
+            std::printf("%s\n", line.constData());
+    }
+    std::fflush(stdout);
+}
+
+// Through the opening screens to the menu.
+void GoToMenu(Clerk& clerk)
+{
+    std::optional<PaintWatch> menu; // lives on the program's thread
+    clerk.Do([&] { menu.emplace(u"MainMenuFrm"); });
+    clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
+    for (int turns = 0; turns < 1000 && !menu->IsPainted(); ++turns)
+        clerk.Do([] {});
+    Require(menu->IsPainted(), "The menu is painted.");
+    clerk.Do([&] { menu.reset(); });
+}
+
+void OpenCounter(Clerk& clerk, const QDate& day)
+{
+    clerk.Type(QStringLiteral("{ESC}")); // the question for the working day
+    clerk.Do([day] {
+        gAppState.gAppDate = day;
+        ScreenDirectory::Open(QStringLiteral("frmMilkCollections"), {});
+    });
+}
+
+void RequireRows(const QDate& day, int rows)
+{
+    const Recordset found(gCn,
+        Sql(u"select count(*) from MilkCollections where CollectionDate=#",
+            day.toString(QStringLiteral("MM/dd/yyyy")), u"#"));
+    Require(found.At(0).Number() == rows, "All deliveries of the day are in the books.");
+}
+
+void PlayShift(Clerk& clerk, const QString& opening)
+{
+    clerk.Type(opening);
+    for (int member = 1; member <= SocietyMembers; ++member)
+        clerk.Type(DeliveryKeys(member) + QStringLiteral("{ENTER}"));
+}
+
+// How long the keys of a clerk take, each from its press until the program is at rest and, if it has opened a
+// screen, that screen has been painted.
+class KeyTimes {
+public:
+    explicit KeyTimes(Clerk& clerk) : m_clerk(clerk) { }
+
+    // Returns the seconds of the key.
+    double Press(const QString& key)
+    {
+        const QString before = m_clerk.ScreenName();
+        std::optional<PaintWatch> slip; // lives on the program's thread
+        m_clerk.Do([&] { slip.emplace(SlipScreen); });
+        const double seconds = SecondsOf([&] {
+            m_clerk.Type(key);
+            RestRounds();
+            const bool isOpened = before != SlipScreen && m_clerk.ScreenName() == SlipScreen;
+            for (int turns = 0; isOpened && turns < 1000 && !slip->IsPainted(); ++turns)
+                m_clerk.Do([] {});
+        });
+        Require(m_clerk.ScreenName() != SlipScreen || slip->IsPainted(), "The slip is painted.");
+        m_clerk.Do([&] { slip.reset(); });
+        if (seconds > m_longest) {
+            m_longest = seconds;
+            m_longestKey = key;
+            m_longestNumber = m_pressed;
+        }
+        m_pressed += 1;
+        return seconds;
+    }
+
+    void PressEach(const QString& keys)
+    {
+        for (const QString& key : SingleKeys(keys))
+            Press(key);
+    }
+
+    void PrintLongest() const
+    {
+        std::printf("longest: %.6f s (%s, key %d)\n", m_longest, m_longestKey.toUtf8().constData(),
+            m_longestNumber + 1);
+    }
+
+    static constexpr QStringView SlipScreen = u"frmReportPreview";
+
+private:
+    // What a key leaves to be done later is done in these: the keys that it sends, layouts, paintings.
+    void RestRounds()
+    {
+        for (int round = 0; round < 3; ++round)
+            m_clerk.Do([] {});
+    }
+
+    // "a{ENTER}b" as "a", "{ENTER}", "b".
+    static QStringList SingleKeys(const QString& keys)
+    {
+        QStringList single;
+        for (qsizetype at = 0; at < keys.size(); at += single.back().size()) {
+            const qsizetype length = keys[at] == u'{' ? keys.indexOf(u'}', at) - at + 1 : 1;
+            single.append(keys.mid(at, length));
+        }
+        return single;
+    }
+
+    Clerk& m_clerk;
+    double m_longest = 0;
+    QString m_longestKey;
+    int m_longestNumber = 0;
+    int m_pressed = 0;
+};
+
+// The script ends with the screens open, which the program meets as a failure: only the script's own result
+// counts.
+int Play(const QString& drives, const std::function<void(Clerk&)>& script)
+{
+    SetDrivesRoot(drives);
+    SilentBox box;
+    World::Current().messageBox = &box;
+    bool isDone = false;
+    Clerk clerk;
+    const auto failure = clerk.Play([] { RunProgram(); },
+        [&](Clerk& self) {
+            script(self);
+            isDone = true;
+        });
+    if (isDone)
+        return 0;
+    for (const QString& text : box.Shown + QStringList(failure ? failure->Text() : QString()))
+        std::fprintf(stderr, "%s\n", text.toUtf8().constData());
+    return 1;
+}
+
+}
+
+int PlayStart(const QString& drives)
+{
+    return Play(drives, [](Clerk& clerk) {
+        GoToMenu(clerk);
+        std::printf("menu\n");
+        PrintMemory();
+    });
+}
+
+int PlayDay(const QString& drives)
+{
+    return Play(drives, [](Clerk& clerk) {
+        GoToMenu(clerk);
+        OpenCounter(clerk, PlayedDay);
+        PlayShift(clerk, QStringLiteral("{ENTER}1{ENTER}"));
+        PlayShift(clerk, QStringLiteral("+{TAB}2{ENTER}"));
+        RequireRows(PlayedDay, 2 * SocietyMembers);
+        PrintMemory();
+    });
+}
+
+int PlaySlips(const QString& drives)
+{
+    return Play(drives, [](Clerk& clerk) {
+        GoToMenu(clerk);
+        clerk.Do([] { gCn.Execute(QStringLiteral("update AutoSettings set PrintStatus='f@t sËIna'")); });
+        OpenCounter(clerk, SlipsDay);
+        clerk.Type(QStringLiteral("{ENTER}1{ENTER}"));
+        KeyTimes times(clerk);
+        Samples saves;
+        for (int member = 1; member <= SlipsShift; ++member) {
+            times.PressEach(DeliveryKeys(member));
+            saves.Add(times.Press(QStringLiteral("{ENTER}")));
+            Require(clerk.ScreenName() == KeyTimes::SlipScreen, "The slip is on the screen.");
+            times.Press(QStringLiteral("{ESC}"));
+            Require(clerk.ScreenName() == u"frmMilkCollections", "Esc closes the slip.");
+        }
+        clerk.Do([] { gCn.Execute(QStringLiteral("update AutoSettings set PrintStatus='naahI'")); });
+        RequireRows(SlipsDay, SlipsShift);
+        times.PrintLongest();
+        std::printf("usual: %.6f s\n95 of 100: %.6f s\n", saves.Quantile(0.5), saves.Quantile(0.95));
+        std::fflush(stdout);
+    });
+}
+
+int PlayReport(const QString& drives)
+{
+    return Play(drives, [&drives](Clerk& clerk) {
+        GoToMenu(clerk);
+        clerk.Do([&drives] {
+            const std::unique_ptr<Report> report = BeginList(OpenForReports());
+            Require(report->SavePdf(drives + QStringLiteral("/memory.pdf")).Done(), "The PDF is saved.");
+        });
+        PrintMemory();
+    });
+}

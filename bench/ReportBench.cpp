@@ -1,0 +1,140 @@
+// A report of 20,000 rows: laid out in memory, its first page, and the whole as a PDF.
+
+#include "BenchSociety.h"
+#include "Cases.h"
+#include "CounterPlay.h"
+#include "FloorReport.h"
+#include "MdlAccounts.h"
+#include "Outcomes.h"
+#include "ReportPlay.h"
+#include "RunTimeError.h"
+
+#include <QFileInfo>
+
+namespace {
+
+constexpr double LookedAt = 1.5; // dots a point
+
+// The books and a finished list, with the floor made from it.
+struct List {
+    std::shared_ptr<Connection> books = OpenForReports();
+    std::unique_ptr<Report> report = Finished(books);
+    FloorReport floor{*report};
+
+    static std::unique_ptr<Report> Finished(const std::shared_ptr<Connection>& books)
+    {
+        std::unique_ptr<Report> report = BeginList(books);
+        report->Complete();
+        std::size_t figures = 0;
+        for (std::size_t page = 0; page < report->PageCount(); ++page)
+            for (const PlacedItem& item : report->PageAt(page).items)
+                figures += item.kind == PlacedItem::Kind::Text && item.fit == Fit::Shrink;
+        // Four figures a row, and the totals of three of them.
+        Require(figures == 4 * ListedRows + 3, "All rows of the list are on its pages.");
+        return report;
+    }
+};
+
+double SecondsToFill(const List& list)
+{
+    std::unique_ptr<Report> report;
+    const double seconds = SecondsOf([&] {
+        report = BeginList(list.books);
+        report->Complete();
+    });
+    Require(report->PageCount() == list.report->PageCount(), "Every list has the same pages.");
+    return seconds;
+}
+
+void MeasureFill(benchmark::State& state, const QString&, Pair& pair)
+{
+    List list;
+    for ([[maybe_unused]] auto _ : state) {
+        pair.Turn([&] { return SecondsToFill(list); },
+            [&] {
+                int rows = 0;
+                const double seconds = SecondsOf([&] { rows = list.floor.ReadAndLayOut(); });
+                Require(rows == ListedRows, "The floor reads all rows.");
+                return seconds;
+            });
+        state.SetIterationTime(pair.Measured.Last());
+    }
+}
+
+// The floor of the first page is the whole report.
+void MeasureFirstPage(benchmark::State& state, const QString&, Pair& pair)
+{
+    const List list;
+    for ([[maybe_unused]] auto _ : state) {
+        pair.Turn(
+            [&] {
+                std::unique_ptr<Report> report;
+                QImage picture;
+                const double seconds = SecondsOf([&] {
+                    report = BeginList(list.books);
+                    report->LayOutNext();
+                    picture = report->Image(0, LookedAt);
+                });
+                Require(report->PageCount() == 1 && !picture.isNull(), "The first page stands alone.");
+                return seconds;
+            },
+            [&] { return SecondsToFill(list); });
+        state.SetIterationTime(pair.Measured.Last());
+    }
+}
+
+void MeasurePdf(benchmark::State& state, const QString& drives, Pair& pair)
+{
+    List list;
+    const QString file = drives + QStringLiteral("/list.pdf");
+    const QString floors = drives + QStringLiteral("/floor.pdf");
+    for ([[maybe_unused]] auto _ : state) {
+        pair.Turn(
+            [&] {
+                bool isDone = false;
+                const double seconds = SecondsOf([&] { isDone = list.report->SavePdf(file).Done(); });
+                Require(isDone, "The PDF is saved.");
+                return seconds;
+            },
+            [&] { return SecondsOf([&] { list.floor.SavePdf(floors); }); });
+        state.SetIterationTime(pair.Measured.Last());
+    }
+    const auto size = static_cast<double>(QFileInfo(file).size());
+    const auto floorsSize = static_cast<double>(QFileInfo(floors).size());
+    Require(size > 0.9 * floorsSize && size < 1.1 * floorsSize, "Both ways write as much.");
+}
+
+struct ReportCase {
+    const char* what;
+    void (*measure)(benchmark::State&, const QString&, Pair&);
+    Target target;
+};
+
+void Run(benchmark::State& state, const QString& drives, const ReportCase& which)
+{
+    Pair pair;
+    try {
+        const OpenBooks books(drives);
+        which.measure(state, drives, pair);
+        Outcomes::Add(state, which.what, pair, Milliseconds, which.target);
+    } catch (const RunTimeError& error) {
+        Outcomes::Fail(state, which.what, error.Text().toStdString());
+    }
+}
+
+void Register(const char* name, const QString& drives, const ReportCase& which)
+{
+    benchmark::RegisterBenchmark(name, Run, drives, which)
+        ->UseManualTime()
+        ->Iterations(7)
+        ->Unit(benchmark::kMillisecond);
+}
+
+}
+
+void RegisterReportCases(const QString& drives)
+{
+    Register("report/fill", drives, {"a report of 20,000 rows: laid out", MeasureFill, {.ratio = 1.2}});
+    Register("report/first", drives, {"its first page, beside the whole", MeasureFirstPage, {.ratio = 0.1}});
+    Register("report/pdf", drives, {"its PDF", MeasurePdf, {.ratio = 1.2}});
+}

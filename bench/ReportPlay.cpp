@@ -1,0 +1,56 @@
+#include "ReportPlay.h"
+
+#include "CounterPlay.h"
+#include "MdlAccounts.h"
+#include "RunTimeError.h"
+
+namespace {
+
+constexpr const char* ListTemplate =
+    R"xml(<report name="List" paper="A4" margin="10" font="Noto Sans Devanagari 10">
+  <source name="c" table="MilkCollections" order="CollectionDate,CollectionTime,CollectionNo"/>
+  <pageheader><text bold="1" align="center">{$society}</text></pageheader>
+  <table source="c">
+    <col w="14" head="क्र." align="right">{CollectionNo}</col>
+    <col w="22" head="दिनांक">{CollectionDate}</col>
+    <col w="*" head="सभासदाचे नाव">{MemberName}</col>
+    <col w="16" head="दूध">{Animal}</col>
+    <col w="22" head="लिटर" align="right" total="sum">{Liters|#####0.000}</col>
+    <col w="14" head="फॅट" align="right" total="average(Fat by Liters)">{Fat|###0.0}</col>
+    <col w="18" head="दर" align="right">{Rate|######0.00}</col>
+    <col w="28" head="रक्कम" align="right" total="sum">{Amount|######0.00}</col>
+    <total label="एकूण"/>
+  </table>
+  <pagefooter><text size="8" align="center">पान {#page} / {#pages}</text></pagefooter>
+</report>)xml";
+
+// A day as a selection formula words it.
+QString FormulaDay(const char* iso)
+{
+    return QDate::fromString(QString::fromLatin1(iso), Qt::ISODate)
+        .toString(QStringLiteral("'DateTime ('yyyy,M,d',00, 00, 00)'"));
+}
+
+}
+
+std::shared_ptr<Connection> OpenForReports()
+{
+    auto books = std::make_shared<Connection>();
+    books->Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword);
+    return books;
+}
+
+std::unique_ptr<Report> BeginList(const std::shared_ptr<Connection>& books)
+{
+    TemplateFaults faults;
+    ReportTemplate list =
+        ReportTemplate::ReadText(QString::fromUtf8(ListTemplate), QStringLiteral("List.rpt"), faults);
+    for (const TemplateFault& fault : Check(list, *books))
+        faults.push_back(fault);
+    if (!faults.empty())
+        throw RunTimeError(-1, faults.front().Line());
+    const QString formula = QStringLiteral("{MilkCollections.CollectionDate} >= %1 and "
+                                           "{MilkCollections.CollectionDate} <= %2")
+                                .arg(FormulaDay(FirstListedDay), FormulaDay(LastListedDay));
+    return std::make_unique<Report>(std::move(list), books, ReadSelectionFormula(formula, *books));
+}

@@ -1,0 +1,75 @@
+#include "CounterPieces.h"
+
+#include "DataGrid.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTableView>
+#include <QVBoxLayout>
+
+void CounterPieces::SetInk(QWidget& widget)
+{
+    QPalette palette = widget.palette();
+    palette.setColor(QPalette::WindowText, QColor(Look::Ink));
+    widget.setPalette(palette);
+}
+
+QLabel* CounterPieces::Heading(const Caption& caption, Look::Size size, bool bold)
+{
+    auto* heading = new QLabel(caption.Seen().trimmed());
+    heading->setFont(Look::Font(size, bold));
+    SetInk(*heading);
+    return heading;
+}
+
+QFrame* CounterPieces::Panel()
+{
+    auto* panel = new QFrame;
+    panel->setFrameShape(QFrame::Box);
+    panel->setAutoFillBackground(true);
+    QPalette palette = panel->palette();
+    palette.setColor(QPalette::Window, QColor(Look::BandText));
+    palette.setColor(QPalette::WindowText, QColor(Look::PlainColour));
+    panel->setPalette(palette);
+    return panel;
+}
+
+QLayout* CounterPieces::Under(const Caption& caption, Field& field, int width, Look::Size size, int height)
+{
+    field.SetAccessibleName(caption);
+    static_cast<QLineEdit*>(field.Widget())->setTextMargins(6, 0, 6, 0);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(0);
+    column->addWidget(Heading(caption));
+    column->addWidget(Sized(field, width, height, size, size == Look::Size::Title));
+    return column;
+}
+
+QWidget* CounterPieces::Sized(Control& control, int width, int height, Look::Size size, bool bold)
+{
+    control.Widget()->setFont(Look::Font(size, bold));
+    control.Widget()->setFixedHeight(height);
+    if (width > 0)
+        control.Widget()->setFixedWidth(width);
+    return control.Widget();
+}
+
+QLabel* CounterPieces::Figure(const Label& label, Look::Size size, bool bold)
+{
+    QLabel* figure = label.Widget();
+    figure->setFont(Look::Font(size, bold));
+    figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    SetInk(*figure);
+    return figure;
+}
+
+QWidget* CounterPieces::List(const DataGrid& grid, int rowHeight, Look::Size size)
+{
+    auto* view = static_cast<QTableView*>(grid.Widget());
+    view->setFont(Look::Font(size));
+    view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    view->horizontalHeader()->setFont(Look::Font(Look::Size::Small));
+    view->horizontalHeader()->setFixedHeight(44);
+    view->verticalHeader()->setDefaultSectionSize(rowHeight);
+    return view;
+}

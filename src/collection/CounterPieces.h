@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Field.h"
+#include "Look.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+#include <initializer_list>
+
+class DataGrid;
+
+// What the windows of the counters are put together from.
+namespace CounterPieces {
+
+// A caption that stands for itself, in ink.
+QLabel* Heading(const Caption& caption, Look::Size size = Look::Size::Normal, bool bold = false);
+
+// Gives a text on a panel the colour of texts.
+void SetInk(QWidget& widget);
+
+// A sheet with a thin edge, on white.
+QFrame* Panel();
+
+// A field under its caption; `width` in pixels, 0 for what is left.
+QLayout* Under(const Caption& caption, Field& field, int width, Look::Size size, int height);
+
+// A field, a button: its height, its width (0 for what is left) and the size of its letters.
+QWidget* Sized(Control& control, int width, int height, Look::Size size, bool bold = false);
+
+// A figure that is worked out: right-aligned.
+QLabel* Figure(const Label& label, Look::Size size, bool bold = true);
+
+// Fits a list of deliveries to the room below the entry line: the height of a row, and the size of its
+// letters.
+QWidget* List(const DataGrid& grid, int rowHeight = 28, Look::Size size = Look::Size::Normal);
+
+}

@@ -1,0 +1,41 @@
+#include "CounterReport.h"
+
+#include "AppFolder.h"
+#include "MdlAccounts.h"
+#include "Messages.h"
+#include "ReportControl.h"
+
+namespace {
+
+void RunReport(const CounterReport::Run& run)
+{
+    ReportControl report;
+    report.SetReportFileName(run.fileName);
+    report.SetLogon(run.logon);
+    report.SetDestination(run.destination == CounterReport::Destination::Printer ? ReportDestination::Printer
+                                                                                 : ReportDestination::Window);
+    report.Print();
+}
+
+}
+
+std::function<void(const CounterReport::Run&)>& CounterReport::Engine()
+{
+    static std::function<void(const Run&)> engine = RunReport;
+    return engine;
+}
+
+void CounterReport::SetReportFileName(QStringView name)
+{
+    m_run.fileName = AppFolder.toString() + name;
+}
+
+void CounterReport::Print()
+{
+    if (m_run.fileName.isEmpty()) {
+        ShowPlain(QStringLiteral("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही."));
+        return;
+    }
+    m_run.logon = QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword;
+    Engine()(m_run);
+}

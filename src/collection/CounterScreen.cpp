@@ -1,0 +1,241 @@
+#include "CounterScreen.h"
+
+#include "CommonKeys.h"
+#include "Counter.h"
+#include "MdlAccounts.h"
+#include "Messages.h"
+#include "ModalStack.h"
+#include "Recordset.h"
+#include "ScreenDirectory.h"
+#include "Sql.h"
+
+#include <QKeyEvent>
+
+#include <utility>
+
+using namespace Counter;
+
+void CounterScreen::Load()
+{
+    DataGridInwards.Bind(gCn, ShiftQuery.toString());
+    if (!m_devices.ReadPortTable())
+        ShowPlain(QStringLiteral("Check port setting"));
+    EmptyShiftCopy();
+    ShowInwardsGrid();
+    maskDate.SetDate(gAppState.gAppDate);
+    LoadMemberNames();
+    ShowDeviceSwitches();
+    RefreshActualTime();
+    ShiftLitersTotal();
+    ShiftAverageFat();
+}
+
+bool CounterScreen::KeyDown(const QKeyEvent& key)
+{
+    if (CommonKeys::Calculator(key, false) || CommonKeys::Tutor(key))
+        return true;
+    switch (key.key()) {
+    case Qt::Key_F3:
+        ScreenDirectory::Open(QStringLiteral("frmMembers"), Shivaji(u"]%padkacao rijasTr"));
+        MembersShown();
+        return true;
+    case Qt::Key_F6:
+        ScreenDirectory::Open(QStringLiteral("frmUchalVouchers"), Shivaji(u"]cala naaoMd"));
+        return true;
+    default:
+        return false;
+    }
+}
+
+void CounterScreen::Escape()
+{
+    ClearEntryFields();
+    Close();
+}
+
+// Date and shift
+
+void CounterScreen::maskDate_GotFocus()
+{
+    EnableEntry(false);
+    // A date that has to be mended is not selected: one key would wipe it out.
+    if (!maskDate.HoldsDate())
+        SendKeys(QStringLiteral("{Home}"));
+}
+
+void CounterScreen::maskDate_LostFocus()
+{
+    HoldDate();
+}
+
+// Keeps the focus in a date that is none; true if the date is good.
+bool CounterScreen::HoldDate()
+{
+    if (!maskDate.HoldsDate())
+        maskDate.SetFocus();
+    return maskDate.HoldsDate();
+}
+
+void CounterScreen::txtTime_GotFocus()
+{
+    txtCollectionNo.SetEnabled(true);
+}
+
+void CounterScreen::txtTime_LostFocus()
+{
+    if (!HoldDate())
+        return;
+    if (txtTime.Text() != u"sakaL" && txtTime.Text() != u"saMQyaakaL") {
+        txtTime.SetFocus();
+        return;
+    }
+    const Shift shift = TheShift();
+    ShowNumber(NextNumberInBooks(shift));
+    OpenShift(shift);
+    ShowInwardsGrid();
+    ShiftLitersTotal();
+    ShiftAverageFat();
+    if (!IsSteppingBack()) // the way to another day
+        txtCollectionNo.SetFocus();
+}
+
+// Collection number
+
+void CounterScreen::txtCollectionNo_GotFocus()
+{
+    EnableEntry(true);
+    if (txtTime.IsEmpty())
+        SendBack(txtTime);
+}
+
+bool CounterScreen::txtCollectionNo_KeyDown(const QKeyEvent& key)
+{
+    const double number = Value(txtCollectionNo);
+    if (key.key() == Qt::Key_Up && number > 1)
+        txtCollectionNo.SetText(ShortestDecimal(number - 1));
+    else if (key.key() == Qt::Key_Down)
+        txtCollectionNo.SetText(ShortestDecimal(number + 1));
+    else
+        return false;
+    txtCollectionNo.SelectAll();
+    return true;
+}
+
+void CounterScreen::txtCollectionNo_LostFocus()
+{
+    if (IsSentBack())
+        return;
+    RefreshActualTime();
+    const double number = Value(txtCollectionNo);
+    if (number == 0) {
+        ClearEntryFields();
+        ShowNumber(NextCollectionNo);
+        txtCollectionNo.SetFocus();
+        return;
+    }
+    const Shift shift = TheShift();
+    const Recordset row(gCn,
+        Sql(u"SELECT * FROM MilkCollectionsTemp where cstr(CollectionDate)=", shift.Day(),
+            u" and CollectionTime='", shift.time, u"' AND CollectionNo=", number));
+    IsExistingRow = !row.Eof();
+    if (IsExistingRow) {
+        txtMemberNo.SetText(row[u"MemberNo"].Text());
+        ShowRow(row);
+    } else {
+        ShowNumber(NextCollectionNo);
+    }
+}
+
+// Member
+
+void CounterScreen::txtMemberNo_GotFocus()
+{
+    ShowMemberKeys(true);
+}
+
+bool CounterScreen::txtMemberNo_KeyDown(const QKeyEvent& key)
+{
+    switch (key.key()) {
+    case Qt::Key_F7:
+        ShowMemberFrame();
+        return true;
+    case Qt::Key_F9:
+        SearchMember();
+        return true;
+    case Qt::Key_F10:
+        DeleteRow();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void CounterScreen::txtMemberNo_LostFocus()
+{
+    if (std::exchange(SkipMemberChecks, false))
+        return;
+    ShowMemberKeys(false);
+    const double number = Value(txtMemberNo);
+    if (number == 0) {
+        txtMemberNo.Clear();
+        return;
+    }
+    const Recordset member(gCn, Sql(u"SELECT * FROM MembersMaster where MemberNo=", number));
+    if (member.Eof()) {
+        txtMemberNo.Clear();
+    } else {
+        ComboMemberName.SetText(member[u"MemberName"].Text());
+        TakeAnimalOf(member);
+    }
+    if (txtAnimal.Enabled())
+        txtAnimal.SetFocus();
+    else
+        txtLiters.SetFocus();
+}
+
+// A member of both kinds leaves the choice to the clerk; any other settles it.
+void CounterScreen::TakeAnimalOf(const Recordset& member)
+{
+    const QString animal = member[u"Animal"].Text();
+    const bool both = animal == u"daonhI";
+    if (!both)
+        txtAnimal.SetText(animal);
+    txtAnimal.SetEnabled(both);
+}
+
+void CounterScreen::ComboMemberName_GotFocus()
+{
+    if (!txtMemberNo.IsEmpty())
+        return;
+    LoadMemberNames();
+    SendKeys(QStringLiteral("%{Down}"));
+}
+
+// Without a number the focus is asked for here, so that the clerk sees which member the name has found; the
+// next Enter goes on. Coming back with no number also reloads the list and drops it open.
+void CounterScreen::ComboMemberName_LostFocus()
+{
+    const QString name = ComboMemberName.Text().trimmed();
+    if (name.isEmpty()) {
+        ShowNotice(u"maombarcao naaMva vyavaisqat Ta[-p kra");
+        ComboMemberName.SetFocus();
+        return;
+    }
+    if (txtMemberNo.IsEmpty())
+        ComboMemberName.SetFocus();
+    for (Recordset member(gCn, QStringLiteral("SELECT * FROM MembersMaster")); !member.Eof();
+         member.MoveNext()) {
+        if (member[u"MemberName"].Text().trimmed() != name)
+            continue;
+        txtMemberNo.SetText(member[u"MemberNo"].Text());
+        TakeAnimalOf(member);
+        txtAnimal.SetFocus(); // only if it is the clerk's choice: it is disabled otherwise
+        return;
+    }
+    LoadMemberNames();
+}
+
+void CounterScreen::LoadMemberNames()
+{
+    ComboMemberName.SetItems(MemberNames());
+}

@@ -1,0 +1,144 @@
+// The milk of the line: animal, litres, fat, rate and amount.
+
+#include "CounterScreen.h"
+#include "Counter.h"
+#include "LookupFatRate.h"
+#include "MdlAccounts.h"
+#include "ModalStack.h"
+#include "Recordset.h"
+#include "Sql.h"
+
+#include <utility>
+
+using namespace Counter;
+
+void CounterScreen::txtAnimal_GotFocus()
+{
+    if (ComboMemberName.IsEmpty())
+        ComboMemberName.SetEnabled(true);
+    if (Value(txtMemberNo) == 0)
+        SendBack(txtMemberNo);
+}
+
+void CounterScreen::txtAnimal_LostFocus()
+{
+    if (IsSentBack())
+        return;
+    if (txtAnimal.IsEmpty())
+        txtAnimal.SetFocus();
+}
+
+// Litres, fat, rate
+
+// With a scale the can's weight is the litres, and the clerk goes on without a key.
+void CounterScreen::txtLiters_GotFocus()
+{
+    if (ComboMemberName.IsEmpty() || !DeviceSwitch::IsOn(gAppState.gAutoLiters))
+        return;
+    if (const std::optional<QString> liters = m_devices.ReadLiters(m_kind.mcsLitersFormat))
+        txtLiters.SetText(*liters);
+    if (txtLiters.IsEmpty())
+        txtLiters.SetText(QStringLiteral("0"));
+    txtLiters.SelectAll();
+    if (Value(txtLiters) > 0)
+        SendKeys(QStringLiteral("{TAB}"));
+}
+
+void CounterScreen::txtLiters_LostFocus()
+{
+    if (ComboMemberName.IsEmpty()) {
+        ComboMemberName.SetFocus();
+        return;
+    }
+    if (txtAnimal.Text() != u"gaaya" && txtAnimal.Text() != u"mhOsa")
+        return;
+    const double liters = Value(txtLiters);
+    txtLiters.SetText(Format(liters, m_kind.litersFormat));
+    if (liters == 0)
+        txtLiters.SetFocus();
+}
+
+void CounterScreen::txtFat_GotFocus()
+{
+    const bool refused = std::exchange(FatRefused, false);
+    if (Setting(u"AutoFat") == u"naahI" && !IsExistingRow && !refused)
+        OfferLastFat();
+    if (DeviceSwitch::IsOn(gAppState.gAutoFat) && !refused)
+        ReadFat();
+    if (txtFat.IsEmpty())
+        txtFat.SetText(QStringLiteral("0"));
+    txtFat.SelectAll();
+}
+
+// Without a fat tester the member's last fat of the same animal and half of the day is the likely one.
+void CounterScreen::OfferLastFat()
+{
+    const Recordset last(gCn,
+        Sql(u"select * from MilkCollections where CollectionDate<=", TheShift().Day(),
+            u" and CollectionTime='", txtTime.Text(), u"' and Animal='", txtAnimal.Text(), u"' and MemberNo=",
+            Value(txtMemberNo), u" and MemberName='", ComboMemberName.Text(),
+            u"' order by CollectionDate desc,CollectionNo desc"));
+    if (!last.Eof())
+        txtFat.SetText(Format(last[u"Fat"].Number(), u"#####0.0"));
+}
+
+// Some testers give the litres a second time, and one gives nothing else.
+void CounterScreen::ReadFat()
+{
+    const MilkDevices::Fields read = m_devices.ReadFat();
+    if (read.liters)
+        txtLiters.SetText(*read.liters);
+    if (read.fat)
+        txtFat.SetText(*read.fat);
+}
+
+// With a fat tester the field isn't left until there is a fat, or the tester is switched off.
+void CounterScreen::txtFat_LostFocus()
+{
+    if (DeviceSwitch::IsOn(gAppState.gAutoFat) && Value(txtFat) <= 0) {
+        if (const std::optional<QString> read = m_devices.RepeatFat())
+            txtFat.SetText(*read);
+        FatRefused = true; // it was just read: once is enough for one key
+        txtFat.SetFocus();
+        return;
+    }
+    const double fat = Value(txtFat);
+    txtFat.SetText(Format(fat, FatFormat));
+    if (fat == 0 || fat > HighestFat) {
+        FatRefused = true; // the clerk is to see what was refused, not another offer
+        txtFat.SetFocus();
+        return;
+    }
+    const FatRate found = LookupFatRate(maskDate.Date(), Value(txtFat), txtAnimal.Text());
+    if (found.outcome == FatRate::Outcome::NoChart) {
+        ClearEntryFields();
+        maskDate.SetFocus();
+        SendKeys(QStringLiteral("{TAB}{TAB}")); // over date and shift to the number again
+        return;
+    }
+    if (found.outcome == FatRate::Outcome::Priced)
+        txtRate.SetText(Format(found.rate, MoneyFormat));
+    ShowAmount();
+}
+
+void CounterScreen::txtRate_LostFocus()
+{
+    if (Value(txtFat) != 0) {
+        const double rate = Value(txtRate);
+        txtRate.SetText(Format(rate, MoneyFormat));
+        if (rate == 0 || rate > HighestRate)
+            txtRate.SetFocus();
+    }
+    ShowAmount();
+}
+
+// The amount goes by what the fields show, so that the slip can be checked by hand.
+void CounterScreen::ShowAmount()
+{
+    txtAmount.SetText(Format(Value(txtLiters) * Value(txtRate), MoneyFormat));
+}
+
+void CounterScreen::cmdGo_LostFocus()
+{
+    txtCollectionNo.SetFocus();
+}

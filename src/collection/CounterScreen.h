@@ -1,0 +1,150 @@
+#pragma once
+
+#include "Button.h"
+#include "CounterKind.h"
+#include "DataGrid.h"
+#include "DateField.h"
+#include "Deliveries.h"
+#include "MilkDevices.h"
+#include "MilkReceipt.h"
+#include "NameCombo.h"
+#include "Screen.h"
+
+class QVBoxLayout;
+class Recordset;
+
+// A counter: one line of fields for one can of milk, walked with Enter; the last of them saves it. Below it
+// stand the deliveries of the shift and their totals, as the copy of the shift has them.
+class CounterScreen : public Screen {
+public:
+    // Litres of the new rows saved since the screen was opened. They are only added to.
+    double CowLitersTaken = 0;
+    double BuffLitersTaken = 0;
+
+    // What a screen opened from here goes on from.
+    Shift TheShift() const;
+    QString MemberNo() const { return txtMemberNo.Text(); }
+    QString MemberName() const { return ComboMemberName.Text(); }
+
+protected:
+    // The query that the list of the shift is bound to.
+    static constexpr QStringView ShiftQuery = u"select * from MilkCollectionsTemp order by CollectionNo desc";
+
+    explicit CounterScreen(const CounterKind& kind);
+
+    Label lblTitle{this, "lblTitle"};
+    Label lblActualCollectionTime{this, "lblActualCollectionTime"};
+    Label lblFooter{this, "lblFooter"};
+    Label lblF9{this, "lblF9", Plain(u"F9")};
+    Label lblSearch{this, "lblSearch", Shivaji(u"dUQa saMklana pavatI")};
+    Label lblF7{this, "lblF7", Plain(u"F7")};
+    Label lblMilk{this, "lblMilk", Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana")};
+    Label lblF10{this, "lblF10", Plain(u"F10")};
+    Label lblDelete{this, "lblDelete", Shivaji(u"KaoDNao")};
+    Label lblTotalLitersTitle{this, "lblTotalLitersTitle", Shivaji(u"¹ ekUNa ilaTsa- ¹")};
+    Label lblTotalLitersC{this, "lblTotalLitersC", Shivaji(u"gaaya")};
+    Label lblTotalCowLiters{this, "lblTotalCowLiters"};
+    Label lblTotalLitersB{this, "lblTotalLitersB", Shivaji(u"mhOsa")};
+    Label lblTotalBuffLiters{this, "lblTotalBuffLiters"};
+    Label Label4{this, "Label4", Shivaji(u"¹ sarasarI f^T ¹")};
+    Label lblAvgCowFat{this, "lblAvgCowFat"};
+    Label lblAvgBuffFat{this, "lblAvgBuffFat"};
+
+    DateField maskDate{this, "maskDate"};
+    ChoiceField txtTime{
+        this, "txtTime", {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}}};
+    NumberField txtCollectionNo{this, "txtCollectionNo", NumberField::Digits::Whole};
+    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
+    NameCombo ComboMemberName{this, "ComboMemberName"};
+    ChoiceField txtAnimal{
+        this, "txtAnimal", {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}}};
+    NumberField txtLiters{this, "txtLiters", NumberField::Digits::Decimals};
+    NumberField txtFat{this, "txtFat", NumberField::Digits::Decimals};
+    NumberField txtRate{this, "txtRate", NumberField::Digits::Decimals};
+    NumberField txtAmount{this, "txtAmount", NumberField::Digits::Decimals};
+    Button cmdGo{this, "cmdGo", Plain(u" >")};
+    DataGrid DataGridInwards;
+    Button cmdAutoLiter{this, "cmdAutoLiter", {}};
+    Button cmdAutoFat{this, "cmdAutoFat", {}};
+    Button cmdPrinterOnOff{this, "cmdPrinterOnOff", Shivaji(MilkReceipt::PrinterOn)};
+
+    bool SkipMemberChecks = false; // the member's number is left for the frame, and isn't to be checked
+
+    void Load() override;
+    bool KeyDown(const QKeyEvent& key) override;
+    void Escape() override;
+
+    virtual void LoadMemberNames();
+    virtual void ShowMemberFrame() { } // F7
+    virtual void MembersShown() { } // frmMembers has closed
+
+    void ClearEntryFields();
+    void ShowInwardsGrid();
+    void ShowMemberKeys(bool shown);
+
+    // Puts the window together: what stands under the band and the entry line is the counter's own.
+    void LayOut(QWidget* header, QLayout* below);
+    QWidget* Totals();
+
+private:
+    const CounterKind& m_kind;
+    MilkDevices m_devices;
+    MilkReceipt m_receipt;
+
+    std::int16_t NextCollectionNo = 1; // the number of the next new row
+    bool IsExistingRow = false; // the fields show a row that the shift already has
+    bool FatRefused = false; // the fat was just sent back to be mended
+    bool FocusBounce = false; // a field that was just entered is sending the focus back
+
+    void maskDate_GotFocus();
+    void maskDate_LostFocus();
+    void txtTime_GotFocus();
+    void txtTime_LostFocus();
+    void txtCollectionNo_GotFocus();
+    bool txtCollectionNo_KeyDown(const QKeyEvent& key);
+    void txtCollectionNo_LostFocus();
+    void txtMemberNo_GotFocus();
+    bool txtMemberNo_KeyDown(const QKeyEvent& key);
+    void txtMemberNo_LostFocus();
+    void ComboMemberName_GotFocus();
+    void ComboMemberName_LostFocus();
+    void txtAnimal_GotFocus();
+    void txtAnimal_LostFocus();
+    void txtLiters_GotFocus();
+    void txtLiters_LostFocus();
+    void txtFat_GotFocus();
+    void txtFat_LostFocus();
+    void txtRate_LostFocus();
+    void cmdGo_Click();
+    void cmdGo_LostFocus();
+    void cmdAutoLiter_Click();
+    void cmdAutoFat_Click();
+    void cmdPrinterOnOff_Click();
+
+    void RefreshActualTime();
+    void ShiftLitersTotal();
+    void ShiftAverageFat();
+
+    void WireHandlers();
+    void EnableEntry(bool enabled);
+    void SendBack(Control& to);
+    bool IsSentBack();
+    bool HoldDate();
+    Delivery TheDelivery() const;
+    void ShowNumber(std::int16_t number);
+    void ShowRow(const Recordset& row);
+    void ShowAmount();
+    void TakeAnimalOf(const Recordset& member);
+    void OfferLastFat();
+    void ReadFat();
+    bool IsSecondDelivery() const;
+    void StoreNew(const Delivery& delivery);
+    void DeleteRow();
+    void SearchMember();
+    void SendTareToScale();
+    void ShowDeviceSwitches();
+
+    QWidget* ShiftLine();
+    QWidget* EntryPanel();
+    QWidget* MemberKeys();
+};

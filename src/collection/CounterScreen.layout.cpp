@@ -1,0 +1,173 @@
+#include "CounterScreen.h"
+
+#include "CounterPieces.h"
+#include "Keys.h"
+#include "Layout.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+using namespace CounterPieces;
+
+namespace {
+
+constexpr int FieldHeight = 38;
+constexpr int TallField = 50;
+
+QLabel* Sign(QStringView sign)
+{
+    QLabel* label = Heading(Plain(sign), Look::Size::Title);
+    label->setAlignment(Qt::AlignCenter);
+    label->setFixedHeight(TallField);
+    return label;
+}
+
+// The amount can't be entered, but it is what the clerk calls out: it stands in full ink.
+void MakeResult(const Field& field)
+{
+    QPalette palette = field.Widget()->palette();
+    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(Look::Ink));
+    field.Widget()->setPalette(palette);
+}
+
+QLayout* Switch(QStringView device, Button& button)
+{
+    auto* row = new QHBoxLayout;
+    row->addWidget(Heading(Plain(device)), 1);
+    row->addWidget(Sized(button, 90, 32, Look::Size::Normal));
+    return row;
+}
+
+}
+
+void CounterScreen::LayOut(QWidget* header, QLayout* below)
+{
+    SetColours(QColor(Look::FocusColour), QColor(m_kind.fieldColour));
+    SetTitleLabel(lblTitle);
+    SetTitle(Shivaji(m_kind.title));
+    SetGuideLabel(lblFooter);
+
+    auto* body = new QVBoxLayout;
+    body->setSpacing(8);
+    body->addWidget(ShiftLine());
+    body->addWidget(EntryPanel());
+    body->addLayout(below, 1);
+    Layout::Stack(*this, header, body, Layout::KeyStrip(Keys::Of(Name())));
+    body->setContentsMargins(20, 6, 20, 8);
+    setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
+}
+
+QWidget* CounterScreen::ShiftLine()
+{
+    Figure(lblActualCollectionTime, Look::Size::Title)->setFixedHeight(FieldHeight);
+    auto* clock = new QVBoxLayout;
+    clock->setSpacing(0);
+    clock->addWidget(Heading(Plain(u"घड्याळ")), 0, Qt::AlignRight);
+    clock->addWidget(lblActualCollectionTime.Widget());
+
+    auto* line = new QWidget;
+    auto* row = new QHBoxLayout(line);
+    row->setContentsMargins(16, 0, 16, 0);
+    row->setSpacing(16);
+    row->addLayout(Under(Shivaji(u"idnaaMk"), maskDate, 160, Look::Size::Large, FieldHeight));
+    row->addLayout(Under(Shivaji(u"vaoL"), txtTime, 180, Look::Size::Large, FieldHeight));
+    row->addLayout(Under(Shivaji(u"saMklana Ë."), txtCollectionNo, 140, Look::Size::Large, FieldHeight));
+    row->addStretch(1);
+    row->addLayout(clock);
+    return line;
+}
+
+QWidget* CounterScreen::EntryPanel()
+{
+    auto* member = new QHBoxLayout;
+    member->setSpacing(16);
+    member->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 140, Look::Size::Large, FieldHeight));
+    member->addLayout(
+        Under(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0, Look::Size::Large, FieldHeight), 1);
+    member->addLayout(Under(Shivaji(u"dUQa"), txtAnimal, 140, Look::Size::Large, FieldHeight));
+
+    auto* money = new QHBoxLayout;
+    money->setSpacing(10);
+    money->addLayout(Under(Shivaji(u"ilaTsa-"), txtLiters, 190, Look::Size::Title, TallField));
+    money->addWidget(Sign(u"×"), 0, Qt::AlignBottom);
+    money->addLayout(Under(Shivaji(u"f^T"), txtFat, 120, Look::Size::Title, TallField));
+    money->addWidget(Sign(u"→"), 0, Qt::AlignBottom);
+    money->addLayout(Under(Shivaji(u"dr"), txtRate, 150, Look::Size::Title, TallField));
+    money->addWidget(Sign(u"="), 0, Qt::AlignBottom);
+    money->addLayout(Under(Shivaji(u"r@kma"), txtAmount, 0, Look::Size::Title, TallField), 1);
+    cmdGo.SetAccessibleName(Shivaji(u"saovh"));
+    money->addWidget(Sized(cmdGo, 80, TallField, Look::Size::Title, true), 0, Qt::AlignBottom);
+    MakeResult(txtAmount);
+
+    auto* panel = Panel();
+    auto* stack = new QVBoxLayout(panel);
+    stack->setContentsMargins(16, 6, 16, 8);
+    stack->setSpacing(2);
+    stack->addLayout(member);
+    stack->addWidget(MemberKeys());
+    stack->addLayout(money);
+    return panel;
+}
+
+// The keys of the member's number, or the guide of the field in focus, on a line that keeps its height.
+QWidget* CounterScreen::MemberKeys()
+{
+    auto* line = new QWidget;
+    line->setFixedHeight(34);
+    auto* row = new QHBoxLayout(line);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    for (const auto& [key, action] :
+        {std::pair(&lblF9, &lblSearch), std::pair(&lblF7, &lblMilk), std::pair(&lblF10, &lblDelete)}) {
+        key->Widget()->setFont(Look::Font(Look::Size::Small, true));
+        key->Widget()->setMargin(4);
+        key->Widget()->setAutoFillBackground(true);
+        QPalette cap = key->Widget()->palette();
+        cap.setColor(QPalette::Window, QColor(Look::PlainColour));
+        cap.setColor(QPalette::WindowText, QColor(Look::Ink));
+        key->Widget()->setPalette(cap);
+        action->Widget()->setFont(Look::Font(Look::Size::Small));
+        action->Widget()->setPalette(cap);
+        row->addWidget(key->Widget());
+        row->addWidget(action->Widget());
+        row->addSpacing(12);
+    }
+    Layout::MakeGuide(lblFooter);
+    lblFooter.Widget()->setMinimumHeight(0);
+    row->addWidget(lblFooter.Widget(), 1);
+    ShowMemberKeys(false);
+    return line;
+}
+
+QWidget* CounterScreen::Totals()
+{
+    auto* sums = new QGridLayout;
+    sums->setVerticalSpacing(0);
+    sums->setColumnStretch(1, 1);
+    for (Label* title : {&lblTotalLitersTitle, &Label4})
+        title->Widget()->setAlignment(Qt::AlignCenter);
+    sums->addWidget(lblTotalLitersTitle.Widget(), 0, 0, 1, 2);
+    sums->addWidget(lblTotalLitersC.Widget(), 1, 0);
+    sums->addWidget(Figure(lblTotalCowLiters, Look::Size::Large), 1, 1);
+    sums->addWidget(lblTotalLitersB.Widget(), 2, 0);
+    sums->addWidget(Figure(lblTotalBuffLiters, Look::Size::Large), 2, 1);
+    sums->addWidget(Label4.Widget(), 3, 0, 1, 2);
+    sums->addWidget(Heading(lblTotalLitersC.Shown()), 4, 0);
+    sums->addWidget(Figure(lblAvgCowFat, Look::Size::Large), 4, 1);
+    sums->addWidget(Heading(lblTotalLitersB.Shown()), 5, 0);
+    sums->addWidget(Figure(lblAvgBuffFat, Look::Size::Large), 5, 1);
+
+    auto* panel = Panel();
+    auto* stack = new QVBoxLayout(panel);
+    stack->setContentsMargins(12, 4, 12, 8);
+    stack->setSpacing(4);
+    stack->addLayout(sums);
+    stack->addStretch(1);
+    stack->addLayout(Switch(ScaleName, cmdAutoLiter));
+    stack->addLayout(Switch(TesterName, cmdAutoFat));
+    stack->addWidget(Sized(cmdPrinterOnOff, 0, 32, Look::Size::Normal));
+    for (const Label* label : {&lblTotalLitersTitle, &lblTotalLitersC, &lblTotalLitersB, &Label4})
+        SetInk(*label->Widget());
+    return panel;
+}

@@ -1,0 +1,179 @@
+// The line of fields as a whole.
+
+#include "CounterScreen.h"
+#include "ActualTime.h"
+#include "Counter.h"
+#include "MdlAccounts.h"
+#include "Recordset.h"
+
+#include <utility>
+
+using namespace Counter;
+
+namespace {
+
+std::vector<DataGrid::Column> InwardsColumns(const CounterKind& kind)
+{
+    return {
+        {QStringLiteral("CollectionNo"), Shivaji(u"saMklana Ë."), Twips(900), {}, false, false},
+        {QStringLiteral("MemberNo"), Shivaji(u"maombar naMbar"), Twips(1000), {}, false, false},
+        {QStringLiteral("MemberName"), Shivaji(u"maombarcao naaMva"), Twips(3100)},
+        {QStringLiteral("Animal"), Shivaji(u"dUQa"), Twips(700)},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), kind.gridLitersFormat.toString(), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), kind.gridFatFormat.toString(), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), Twips(1300), QStringLiteral("#####0.00"), true},
+    };
+}
+
+// A device's name stands beside its switch; to a screen reader both are one.
+void ShowSwitch(Button& button, QStringView device, const QString& setting)
+{
+    button.SetCaption(Shivaji(DeviceSwitch::Caption(setting)));
+    const QString name = device + u' ' + button.Shown().Seen();
+    button.SetAccessibleName(Plain(name));
+}
+
+}
+
+CounterScreen::CounterScreen(const CounterKind& kind)
+    : Screen(kind.screen)
+    , DataGridInwards(this, "DataGridInwards", InwardsColumns(kind))
+    , m_kind(kind)
+{
+    WireHandlers();
+    txtTime.SetLocked(true);
+    txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
+    txtAnimal.SetLocked(true);
+    txtAnimal.SetGuide(Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
+    ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
+    txtLiters.SetMaxLength(9);
+    txtAmount.SetEnabled(false);
+    EnableEntry(false);
+}
+
+void CounterScreen::WireHandlers()
+{
+    When(maskDate.GotFocus, &CounterScreen::maskDate_GotFocus);
+    When(maskDate.LostFocus, &CounterScreen::maskDate_LostFocus);
+    When(txtTime.GotFocus, &CounterScreen::txtTime_GotFocus);
+    When(txtTime.LostFocus, &CounterScreen::txtTime_LostFocus);
+    When(txtCollectionNo.GotFocus, &CounterScreen::txtCollectionNo_GotFocus);
+    When(txtCollectionNo.LostFocus, &CounterScreen::txtCollectionNo_LostFocus);
+    When(txtMemberNo.GotFocus, &CounterScreen::txtMemberNo_GotFocus);
+    When(txtMemberNo.LostFocus, &CounterScreen::txtMemberNo_LostFocus);
+    When(ComboMemberName.GotFocus, &CounterScreen::ComboMemberName_GotFocus);
+    When(ComboMemberName.LostFocus, &CounterScreen::ComboMemberName_LostFocus);
+    When(txtAnimal.GotFocus, &CounterScreen::txtAnimal_GotFocus);
+    When(txtAnimal.LostFocus, &CounterScreen::txtAnimal_LostFocus);
+    When(txtLiters.GotFocus, &CounterScreen::txtLiters_GotFocus);
+    When(txtLiters.LostFocus, &CounterScreen::txtLiters_LostFocus);
+    When(txtFat.GotFocus, &CounterScreen::txtFat_GotFocus);
+    When(txtFat.LostFocus, &CounterScreen::txtFat_LostFocus);
+    When(txtRate.LostFocus, &CounterScreen::txtRate_LostFocus);
+    When(cmdGo.Click, &CounterScreen::cmdGo_Click);
+    When(cmdGo.LostFocus, &CounterScreen::cmdGo_LostFocus);
+    When(cmdAutoLiter.Click, &CounterScreen::cmdAutoLiter_Click);
+    When(cmdAutoFat.Click, &CounterScreen::cmdAutoFat_Click);
+    When(cmdPrinterOnOff.Click, &CounterScreen::cmdPrinterOnOff_Click);
+    txtCollectionNo.KeyDown = [this](const QKeyEvent& key) { return txtCollectionNo_KeyDown(key); };
+    txtMemberNo.KeyDown = [this](const QKeyEvent& key) { return txtMemberNo_KeyDown(key); };
+}
+
+void CounterScreen::ShowMemberKeys(bool shown)
+{
+    for (Label* label : {&lblF9, &lblSearch})
+        label->SetVisible(shown);
+    for (Label* label : {&lblF7, &lblMilk})
+        label->SetVisible(shown && m_kind.hasMemberFrame);
+    for (Label* label : {&lblF10, &lblDelete})
+        label->SetVisible(shown && !ComboMemberName.IsEmpty());
+}
+
+void CounterScreen::ClearEntryFields()
+{
+    for (Field* field : std::initializer_list<Field*>{
+             &txtMemberNo, &ComboMemberName, &txtAnimal, &txtLiters, &txtFat, &txtRate, &txtAmount})
+        field->Clear();
+    IsExistingRow = false;
+}
+
+void CounterScreen::RefreshActualTime()
+{
+    lblActualCollectionTime.SetFigure(ActualTimeNow());
+}
+
+void CounterScreen::EnableEntry(bool enabled)
+{
+    for (Control* control : std::initializer_list<Control*>{&txtCollectionNo, &txtMemberNo, &ComboMemberName,
+             &txtAnimal, &txtLiters, &txtFat, &txtRate, &cmdGo, &DataGridInwards})
+        control->SetEnabled(enabled);
+}
+
+// A field that must not be entered yet sends the focus back; that isn't a leaving to be validated.
+void CounterScreen::SendBack(Control& to)
+{
+    FocusBounce = true;
+    to.SetFocus();
+}
+
+bool CounterScreen::IsSentBack()
+{
+    return std::exchange(FocusBounce, false);
+}
+
+Shift CounterScreen::TheShift() const
+{
+    return {maskDate.Date(), txtTime.Text()};
+}
+
+Delivery CounterScreen::TheDelivery() const
+{
+    return {TheShift(), Value(txtCollectionNo), Value(txtMemberNo), ComboMemberName.Text(), txtAnimal.Text(),
+        Value(txtLiters), Value(txtFat), Value(txtRate), Value(txtAmount),
+        lblActualCollectionTime.Shown().Text()};
+}
+
+// Shows the number that the next new row takes.
+void CounterScreen::ShowNumber(std::int16_t number)
+{
+    NextCollectionNo = number;
+    txtCollectionNo.SetText(QString::number(number));
+}
+
+// A stored row's member by name, its animal and its figures.
+void CounterScreen::ShowRow(const Recordset& row)
+{
+    ComboMemberName.SetText(row[u"MemberName"].Text());
+    txtAnimal.SetText(row[u"Animal"].Text());
+    txtLiters.SetText(Format(row[u"Liters"].Number(), m_kind.litersFormat));
+    txtFat.SetText(Format(row[u"Fat"].Number(), FatFormat));
+    txtRate.SetText(Format(row[u"Rate"].Number(), MoneyFormat));
+    txtAmount.SetText(Format(row[u"Amount"].Number(), MoneyFormat));
+}
+
+// The buttons at its side
+
+void CounterScreen::ShowDeviceSwitches()
+{
+    ShowSwitch(cmdAutoLiter, ScaleName, gAppState.gAutoLiters);
+    ShowSwitch(cmdAutoFat, TesterName, gAppState.gAutoFat);
+}
+
+void CounterScreen::cmdAutoLiter_Click()
+{
+    gAppState.gAutoLiters = DeviceSwitch::SettingAfterClick(cmdAutoLiter.Text());
+    ShowDeviceSwitches();
+}
+
+void CounterScreen::cmdAutoFat_Click()
+{
+    gAppState.gAutoFat = DeviceSwitch::SettingAfterClick(cmdAutoFat.Text());
+    ShowDeviceSwitches();
+}
+
+void CounterScreen::cmdPrinterOnOff_Click()
+{
+    const bool isOn = cmdPrinterOnOff.Reads(MilkReceipt::PrinterOn);
+    cmdPrinterOnOff.SetCaption(Shivaji(isOn ? MilkReceipt::PrinterOff : MilkReceipt::PrinterOn));
+}

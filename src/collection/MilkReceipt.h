@@ -1,0 +1,25 @@
+#pragma once
+
+#include "CounterReport.h"
+#include "Deliveries.h"
+
+// The slip that a member takes home: one delivery, staged in MilkReceipt and printed from there.
+class MilkReceipt {
+public:
+    // What cmdPrinterOnOff reads.
+    static constexpr QStringView PrinterOn = u"ip`MTr sau$";
+    static constexpr QStringView PrinterOff = u"ip`MTr baMd";
+
+    // Puts the delivery in place of the one before it.
+    static void StageReceipt(const Delivery& delivery);
+
+    // Prints what is staged, as the settings want it. Nothing is printed with "naahI" in PrintStatus, nor
+    // unless the button reads PrinterOn.
+    void PrintReceipt(QStringView printerButton);
+
+    // The template's name of a ReceiptType at the counters; empty for none of the eight.
+    static QStringView TemplateOf(QStringView receiptType);
+
+private:
+    CounterReport CRMilkReceipt;
+};

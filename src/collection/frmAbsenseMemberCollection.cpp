@@ -1,0 +1,166 @@
+#include "frmAbsenseMemberCollection.h"
+
+#include "CommonKeys.h"
+#include "CompanyTitle.h"
+#include "Counter.h"
+#include "CounterPieces.h"
+#include "Keys.h"
+#include "Layout.h"
+#include "MdlAccounts.h"
+#include "ModalStack.h"
+#include "Recordset.h"
+#include "Sql.h"
+#include "Transaction.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+using namespace Counter;
+using namespace CounterPieces;
+
+namespace {
+
+constexpr int FieldHeight = 38;
+constexpr int WindowWidth = 860;
+constexpr int WindowHeight = 640;
+
+constexpr QStringView MembersQuery = u"SELECT MemberNo,MemberName FROM ShortMemberList";
+
+std::vector<DataGrid::Column> MemberColumns()
+{
+    return {
+        {QStringLiteral("MemberNo"), Shivaji(u"maombar naM."), 150, {}, false, false},
+        {QStringLiteral("MemberName"), Shivaji(u"maombarcao naava"), 0},
+    };
+}
+
+// The deliveries of a shift.
+QString Deliverers(const Shift& shift)
+{
+    return Sql(u"SELECT MemberNo,MemberName FROM MilkCollections WHERE CollectionDate=", shift.Day(),
+        u" AND CollectionTime='", shift.time, u"'");
+}
+
+}
+
+frmAbsenseMemberCollection::frmAbsenseMemberCollection()
+    : Screen("frmAbsenseMemberCollection")
+    , DataGridMembers(this, "DataGridMembers", MemberColumns())
+{
+    When(MaskDate.GotFocus, &frmAbsenseMemberCollection::MaskDate_GotFocus);
+    When(MaskDate.LostFocus, &frmAbsenseMemberCollection::MaskDate_LostFocus);
+    When(txtTime.LostFocus, &frmAbsenseMemberCollection::txtTime_LostFocus);
+    When(Command1.Click, &frmAbsenseMemberCollection::Command1_Click);
+    txtTime.SetLocked(true);
+    txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
+    LayOut();
+}
+
+void frmAbsenseMemberCollection::Load()
+{
+    DataGridMembers.Bind(gCn, MembersQuery.toString());
+    Transaction emptying(gCn);
+    gCn.Execute(QStringLiteral("Delete * From ShortMemberList"));
+    gCn.Execute(QStringLiteral("Delete * From ShortMemberList"));
+    emptying.Commit();
+    DataGridMembers.Refresh();
+    ShowCompany(lblCompanyTitle, lblAcYear);
+}
+
+bool frmAbsenseMemberCollection::KeyDown(const QKeyEvent& key)
+{
+    return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
+}
+
+void frmAbsenseMemberCollection::MaskDate_GotFocus()
+{
+    // A date that has to be mended is not selected: one key would wipe it out.
+    if (!MaskDate.HoldsDate())
+        SendKeys(QStringLiteral("{Home}"));
+}
+
+void frmAbsenseMemberCollection::MaskDate_LostFocus()
+{
+    HoldDate();
+}
+
+// Keeps the focus in a date that is none; true if the date is good.
+bool frmAbsenseMemberCollection::HoldDate()
+{
+    if (!MaskDate.HoldsDate())
+        MaskDate.SetFocus();
+    return MaskDate.HoldsDate();
+}
+
+void frmAbsenseMemberCollection::txtTime_LostFocus()
+{
+    HoldShift();
+}
+
+// The same for date and shift.
+bool frmAbsenseMemberCollection::HoldShift()
+{
+    if (!HoldDate())
+        return false;
+    const bool isShift = txtTime.Text() == u"sakaL" || txtTime.Text() == u"saMQyaakaL";
+    if (!isShift)
+        txtTime.SetFocus();
+    return isShift;
+}
+
+void frmAbsenseMemberCollection::Command1_Click()
+{
+    if (!HoldShift())
+        return;
+    ListAbsent({MaskDate.Date(), txtTime.Text()});
+    DataGridMembers.Bind(gCn, MembersQuery.toString());
+}
+
+// One line for each delivery of the day before: who brought two kinds of milk is listed twice.
+void frmAbsenseMemberCollection::ListAbsent(const Shift& today)
+{
+    Transaction listing(gCn);
+    gCn.Execute(QStringLiteral("Delete * From ShortMemberList"));
+    const Shift yesterday{today.date.addDays(-1), today.time};
+    for (Recordset row(gCn, Deliverers(yesterday)); !row.Eof(); row.MoveNext()) {
+        const double memberNo = row[u"MemberNo"].Number();
+        if (Finds(Sql(Deliverers(today), u" AND MemberNo=", memberNo)))
+            continue;
+        gCn.Execute(Sql(u"INSERT INTO ShortMemberList(CompanyId,MemberNo,MemberName) VALUES(",
+            gAppState.gCompanyId, u", ", memberNo, u", '", row[u"MemberName"].Text(), u"')"));
+    }
+    gCn.Execute(QStringLiteral("Delete * From ShortMemberList Where CompanyId=0"));
+    listing.Commit();
+}
+
+void frmAbsenseMemberCollection::LayOut()
+{
+    SetTitleLabel(lblTitle);
+    SetTitle(Shivaji(u"dUQa saMklana nasaNaaro saBaasad"));
+    SetGuideLabel(lblFooter);
+    Layout::MakeGuide(lblFooter);
+
+    QWidget* question = Panel();
+    auto* row = new QHBoxLayout(question);
+    row->setContentsMargins(16, 6, 16, 10);
+    row->setSpacing(16);
+    row->addLayout(Under(Shivaji(u"idnaaMk"), MaskDate, 160, Look::Size::Large, FieldHeight));
+    row->addLayout(Under(Shivaji(u"vaoL"), txtTime, 200, Look::Size::Large, FieldHeight));
+    Command1.SetAccessibleName(Label28.Shown());
+    row->addWidget(Sized(Command1, 90, FieldHeight, Look::Size::Large, true), 0, Qt::AlignBottom);
+    row->addStretch(1);
+
+    Label28.Widget()->setFont(Look::Font(Look::Size::Large, true));
+    DataGridMembers.SetAccessibleName(Label28.Shown());
+    auto* body = new QVBoxLayout;
+    body->setSpacing(6);
+    body->addWidget(question);
+    body->addWidget(lblFooter.Widget());
+    body->addWidget(Label28.Widget());
+    body->addWidget(List(DataGridMembers), 1);
+    Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
+        Layout::KeyStrip(Keys::Of(Name())));
+    body->setContentsMargins(20, 10, 20, 12);
+    setFixedSize(WindowWidth, WindowHeight);
+}

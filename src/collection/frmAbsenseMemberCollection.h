@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Button.h"
+#include "DataGrid.h"
+#include "DateField.h"
+#include "Deliveries.h"
+#include "Screen.h"
+
+// The members who brought milk to a shift the day before and none to it today.
+class frmAbsenseMemberCollection final : public Screen {
+public:
+    frmAbsenseMemberCollection();
+
+private:
+    Label lblTitle{this, "lblTitle"};
+    Label lblCompanyTitle{this, "lblCompanyTitle"};
+    Label lblAcYear{this, "lblAcYear"};
+    Label lblFooter{this, "lblFooter"};
+    Label Label28{this, "Label28", Shivaji(u"Aaja dUQa saMklana nasaNaaáyaaMcaI naavao")};
+
+    DateField MaskDate{this, "MaskDate"};
+    ChoiceField txtTime{
+        this, "txtTime", {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}}};
+    Button Command1{this, "Command1", Plain(u">>")};
+    DataGrid DataGridMembers;
+
+    void Load() override;
+    bool KeyDown(const QKeyEvent& key) override;
+
+    void MaskDate_GotFocus();
+    void MaskDate_LostFocus();
+    void txtTime_LostFocus();
+    void Command1_Click();
+
+    void LayOut();
+    bool HoldDate();
+    bool HoldShift();
+    void ListAbsent(const Shift& today);
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "CheckBox.h"
+#include "CounterScreen.h"
+
+// The counter at the gate: the same deliveries, with a list that can be sorted, and searched by what is typed
+// into the line.
+class frmCollectionGate final : public CounterScreen {
+public:
+    frmCollectionGate();
+
+private:
+    Label lblCompanyName{this, "lblCompanyName"};
+
+    Button cmdLtrOrder{this, "cmdLtrOrder", Ascending()};
+    Button cmdFatOrder{this, "cmdFatOrder", Ascending()};
+    Button cmdRateOrder{this, "cmdRateOrder", Ascending()};
+    Button cmdAmtOrder{this, "cmdAmtOrder", Ascending()};
+    Button Command3{this, "Command3", Shivaji(u" dUQa saMklana nasaNaaro saBaasad")};
+    Button Command1{this, "Command1", Shivaji(u"&baahor")};
+    CheckBox chkSerachMode{this, "chkSerachMode", Shivaji(u"A^DvhansD saca-")};
+
+    void Load() override;
+    void cmdGo_GotFocus();
+    void cmdLtrOrder_Click();
+    void cmdFatOrder_Click();
+    void cmdRateOrder_Click();
+    void cmdAmtOrder_Click();
+    void Command1_Click();
+    void Command3_Click();
+    void txtMemberNo_Change();
+    void txtLiters_Change();
+    void txtFat_Change();
+    void txtRate_Change();
+    void txtAnimal_Change();
+    void ComboMemberName_Change();
+
+    static Caption Ascending() { return Plain(u"↑"); }
+    static Caption Descending() { return Plain(u"↓"); }
+    void ToggleOrder(Button& button, QStringView column);
+    void SearchNumber(const Field& field, QStringView column);
+    void Search(const QString& condition);
+
+    QLayout* ListAndTotals();
+    QLayout* OrderLine();
+};

@@ -1,0 +1,242 @@
+#include "frmDailyCollection.h"
+
+#include "CommonKeys.h"
+#include "CompanyTitle.h"
+#include "Counter.h"
+#include "MdlAccounts.h"
+#include "Messages.h"
+#include "Sql.h"
+#include "Transaction.h"
+
+#include <QKeyEvent>
+
+using namespace Counter;
+
+namespace {
+
+// One action is one statement here.
+void Write(const QString& statement)
+{
+    Transaction writing(gCn);
+    gCn.Execute(statement);
+    writing.Commit();
+}
+
+}
+
+void frmDailyCollection::Load()
+{
+    DataGrid1.Bind(gCn, QStringLiteral("SELECT * FROM MilkCollections WHERE CompanyId=0"));
+    ShowCompany(lblCompanyTitle, lblAcYear);
+    FillCombo(cmbMemberName, u"MembersMaster", u"MemberName", u"ORDER BY MemberName");
+    cmbCollectionTime.SetItems({QStringLiteral("sakaL"), QStringLiteral("saMQyaakaL")});
+    ShowIdle();
+}
+
+bool frmDailyCollection::KeyDown(const QKeyEvent& key)
+{
+    return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
+}
+
+void frmDailyCollection::Escape()
+{
+    ClearFields();
+    Close();
+}
+
+// States
+
+void frmDailyCollection::EnterState(Button& button, QStringView caption)
+{
+    button.SetCaption(Shivaji(caption));
+    for (Button* other : {&cmdAdd, &cmdModify, &cmdDelete})
+        other->SetEnabled(other == &button);
+    cmdExit.SetEnabled(false);
+    for (Field* field : Fields())
+        field->SetEnabled(true);
+    if (IsDeleting())
+        for (Field* field :
+            std::initializer_list<Field*>{&txtAnimal, &txtLiters, &txtFat, &txtRate, &txtAmount})
+            field->SetEnabled(false);
+    cmdDelete.SetGuide(IsDeleting() ? Plain(u"हा क्रमांक या वेळेच्या सर्व दिवसांतून खोडला जाईल") : Caption());
+    txtMemberNo.SetGuide(IsAdding() ? Plain(u"F5 : मेम्बरचे आतापर्यंतचे संकलन") : Caption());
+    txtMemberNo.SetFocus();
+}
+
+void frmDailyCollection::ShowIdle()
+{
+    cmdAdd.SetCaption(Shivaji(u"&navaIna"));
+    cmdModify.SetCaption(Shivaji(u"ba&dla"));
+    cmdDelete.SetCaption(Shivaji(u"&KaoDNao..."));
+    for (Button* button : {&cmdAdd, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit})
+        button->SetEnabled(true);
+    for (Field* field : Fields())
+        field->SetEnabled(false);
+    cmdDelete.SetGuide({});
+    lblGuide.SetCaption({}); // the button may hold the focus on
+    ShowList(false);
+    ClearFields();
+}
+
+void frmDailyCollection::ClearFields()
+{
+    for (Field* field : Fields())
+        field->Clear();
+    for (Field* figure : {&txtLiters, &txtFat, &txtRate, &txtAmount})
+        figure->SetText(QStringLiteral("0"));
+    IsPicked = false;
+}
+
+void frmDailyCollection::cmdCancel_Click()
+{
+    ShowIdle();
+    cmdAdd.SetFocus();
+}
+
+void frmDailyCollection::cmdExit_Click()
+{
+    Close();
+}
+
+// Adding
+
+void frmDailyCollection::cmdAdd_Click()
+{
+    if (!IsAdding()) {
+        EnterState(cmdAdd, u"&saovh");
+        return;
+    }
+    if (Field* field = Unfinished()) {
+        field->SetFocus();
+        return;
+    }
+    if (Finds(Sql(u"SELECT * FROM MilkCollections WHERE CompanyId=", gAppState.gCompanyId, u" AND MemberNo=",
+            txtMemberNo.Text(), u" AND CollectionDate=", Day(), u" AND CollectionTime='",
+            cmbCollectionTime.Text(), u"' AND Animal='", txtAnimal.Text(), u"'"))) {
+        ShowPlain(QStringLiteral("Duplicate record not allowed"));
+        return;
+    }
+    Write(InsertStatement());
+    if (IsListShown())
+        DataGrid1.Refresh();
+    for (Field* field : {&txtCollectionNo, &txtLiters, &txtFat, &txtRate, &txtAmount})
+        field->Clear();
+    MasKCollectionDate.SetDate(MasKCollectionDate.Date().addDays(1));
+    ShowNextNumber();
+    txtLiters.SetFocus(); // the same member, shift and animal, a day later
+}
+
+QString frmDailyCollection::InsertStatement() const
+{
+    return Sql(
+        u"INSERT INTO MilkCollections (CompanyId,MemberNo,MemberName,Animal,CollectionDate,CollectionTime,"
+        u"CollectionNo,Liters,Fat,Rate,Amount) VALUES (",
+        gAppState.gCompanyId, u",", txtMemberNo.Text(), u",'", cmbMemberName.Text(), u"','", txtAnimal.Text(),
+        u"','", MasKCollectionDate.Text(), u"','", cmbCollectionTime.Text(), u"',", txtCollectionNo.Text(),
+        u",", txtLiters.Text(), u",", txtFat.Text(), u",", txtRate.Text(), u",", txtAmount.Text(), u")");
+}
+
+// The series of a day runs over both its shifts here.
+void frmDailyCollection::ShowNextNumber()
+{
+    const Recordset highest(gCn,
+        Sql(u"SELECT MAX(CollectionNo) as mMaxNo FROM MilkCollections WHERE CompanyId=", gAppState.gCompanyId,
+            u" AND CollectionDate=", Day()));
+    txtCollectionNo.SetText(ShortestDecimal(highest.Eof() ? 1.0 : highest[u"mMaxNo"].Number() + 1));
+}
+
+// Modifying
+
+void frmDailyCollection::cmdModify_Click()
+{
+    if (!IsModifying()) {
+        EnterState(cmdModify, u"&saovh");
+        return;
+    }
+    if (Field* field = Unfinished()) {
+        field->SetFocus();
+        return;
+    }
+    Write(UpdateStatement());
+    ShowIdle();
+    cmdModify.SetFocus();
+}
+
+QString frmDailyCollection::UpdateStatement() const
+{
+    return Sql(u"UPDATE MilkCollections SET Liters=", Value(txtLiters), u",Fat=", Value(txtFat), u",Rate=",
+        Value(txtRate), u",Amount=", Value(txtAmount), u" WHERE CollectionNo=", Value(txtCollectionNo),
+        u" AND CollectionDate=", Day(), u" AND MemberNo=", Value(txtMemberNo), u" AND CollectionTime ='",
+        cmbCollectionTime.Text(), u"'AND Animal='", txtAnimal.Text(), u"'");
+}
+
+// Deleting
+
+void frmDailyCollection::cmdDelete_Click()
+{
+    if (!IsDeleting()) {
+        EnterState(cmdDelete, u"&KaoDa");
+        return;
+    }
+    if (Field* field = Unfinished()) {
+        field->SetFocus();
+        return;
+    }
+    Write(DeleteStatement());
+    ShowIdle();
+    cmdDelete.SetFocus();
+}
+
+// It takes the number of this member and shift on every day, not only on the one shown.
+QString frmDailyCollection::DeleteStatement() const
+{
+    return Sql(u" DELETE * FROM MilkCollections WHERE CompanyId= ", gAppState.gCompanyId,
+        u" AND CollectionNo= ", Value(txtCollectionNo), u" AND MemberNo=", Value(txtMemberNo),
+        u" AND CollectionTime='", cmbCollectionTime.Text(), u"'");
+}
+
+// The member's list
+
+void frmDailyCollection::OpenList()
+{
+    Write(QStringLiteral("DELETE * FROM MilkCollections WHERE CompanyId=999"));
+    DataGrid1.Bind(gCn, Sql(u"SELECT * FROM MilkCollections WHERE MemberNo=", Value(txtMemberNo)));
+    ShowList(true);
+    if (DataGrid1.Rows() > 0)
+        DataGrid1.SetFocus();
+}
+
+void frmDailyCollection::ShowList(bool shown)
+{
+    DataGrid1.SetVisible(shown);
+    Frame1->setVisible(shown);
+}
+
+bool frmDailyCollection::DataGrid1_KeyDown(const QKeyEvent& key)
+{
+    switch (key.key()) {
+    case Qt::Key_F5:
+        txtMemberNo.SetFocus();
+        ShowList(false);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        DataGrid1_Click();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void frmDailyCollection::DataGrid1_Click()
+{
+    const int row = DataGrid1.CurrentRow();
+    if (row < 0)
+        return;
+    MasKCollectionDate.SetDate(DataGrid1.Value(row, u"CollectionDate").Date());
+    cmbCollectionTime.SetText(DataGrid1.Value(row, u"CollectionTime").Text());
+    txtCollectionNo.SetText(DataGrid1.Value(row, u"CollectionNo").Text());
+    IsPicked = true;
+    txtCollectionNo.SetFocus();
+    ShowList(false);
+}

@@ -1,0 +1,321 @@
+// Leaving the fields of the daily collection.
+
+#include "frmDailyCollection.h"
+#include "Counter.h"
+#include "Dates.h"
+#include "LookupFatRate.h"
+#include "MdlAccounts.h"
+#include "Messages.h"
+#include "Sql.h"
+
+#include <QKeyEvent>
+
+#include <utility>
+
+using namespace Counter;
+
+namespace {
+
+std::vector<DataGrid::Column> ListColumns()
+{
+    return {
+        {QStringLiteral("CollectionDate"), Shivaji(u"idnaaMk"), 130, {}, false, false},
+        {QStringLiteral("CollectionTime"), Shivaji(u"vaoL"), 0},
+        {QStringLiteral("CollectionNo"), Shivaji(u"saMklana k`M"), 120, {}, false, false},
+        {QStringLiteral("Animal"), Shivaji(u"dUQa p`kar"), 110},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 110, {}, true, false},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), 80, {}, true, false},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), 100, {}, true, false},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 130, {}, true, false},
+    };
+}
+
+// A field that must hold a number, whatever was typed.
+void MendNumber(Field& field)
+{
+    if (!IsNumeric(field.Text()))
+        field.SetText(QStringLiteral("0"));
+}
+
+}
+
+frmDailyCollection::frmDailyCollection()
+    : Screen("frmDailyCollection")
+    , DataGrid1(this, "DataGrid1", ListColumns())
+{
+    WireHandlers();
+    txtAnimal.SetLocked(true);
+    txtAnimal.SetGuide(Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
+    cmbCollectionTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
+    DataGrid1.SetGuide(Plain(u"Enter : ही नोंद    F5 : यादी बंद"));
+    cmbMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
+    cmdCancel.SetCancels(true);
+    LayOut();
+}
+
+void frmDailyCollection::WireHandlers()
+{
+    When(txtMemberNo.TextChanged, &frmDailyCollection::txtMemberNo_Change);
+    When(MasKCollectionDate.TextChanged, &frmDailyCollection::ForgetRow);
+    When(txtCollectionNo.TextChanged, &frmDailyCollection::ForgetRow);
+    When(txtMemberNo.LostFocus, &frmDailyCollection::txtMemberNo_LostFocus);
+    When(cmbMemberName.LostFocus, &frmDailyCollection::cmbMemberName_LostFocus);
+    When(MasKCollectionDate.LostFocus, &frmDailyCollection::MasKCollectionDate_LostFocus);
+    When(cmbCollectionTime.LostFocus, &frmDailyCollection::cmbCollectionTime_LostFocus);
+    When(txtCollectionNo.LostFocus, &frmDailyCollection::txtCollectionNo_LostFocus);
+    When(txtAnimal.LostFocus, &frmDailyCollection::txtAnimal_LostFocus);
+    When(txtLiters.LostFocus, &frmDailyCollection::txtLiters_LostFocus);
+    When(txtFat.LostFocus, &frmDailyCollection::txtFat_LostFocus);
+    When(txtRate.LostFocus, &frmDailyCollection::txtRate_LostFocus);
+    When(txtAmount.LostFocus, &frmDailyCollection::txtAmount_LostFocus);
+    When(cmdAdd.Click, &frmDailyCollection::cmdAdd_Click);
+    When(cmdModify.Click, &frmDailyCollection::cmdModify_Click);
+    When(cmdDelete.Click, &frmDailyCollection::cmdDelete_Click);
+    When(cmdCancel.Click, &frmDailyCollection::cmdCancel_Click);
+    When(cmdExit.Click, &frmDailyCollection::cmdExit_Click);
+    When(DataGrid1.Click, &frmDailyCollection::DataGrid1_Click);
+    txtMemberNo.KeyDown = [this](const QKeyEvent& key) { return txtMemberNo_KeyDown(key); };
+    cmbCollectionTime.KeyDown = [this](const QKeyEvent& key) { return cmbCollectionTime_KeyDown(key); };
+    DataGrid1.KeyDown = [this](const QKeyEvent& key) { return DataGrid1_KeyDown(key); };
+}
+
+std::vector<Field*> frmDailyCollection::Fields()
+{
+    return {&txtMemberNo, &cmbMemberName, &MasKCollectionDate, &cmbCollectionTime, &txtCollectionNo,
+        &txtAnimal, &txtLiters, &txtFat, &txtRate, &txtAmount};
+}
+
+// What still has to be entered before the books can be written; null if nothing has. A button can be pressed
+// from any field, before the rules of the others were asked.
+Field* frmDailyCollection::Unfinished()
+{
+    if (!IsNumeric(txtMemberNo.Text()))
+        return &txtMemberNo;
+    if (IsAdding() && cmbMemberName.IsEmpty())
+        return &cmbMemberName;
+    if (!MasKCollectionDate.HoldsDate())
+        return &MasKCollectionDate;
+    if (!IsShift())
+        return &cmbCollectionTime;
+    if (!IsNumeric(txtCollectionNo.Text()))
+        return &txtCollectionNo;
+    if (!IsAdding() && !IsRowShown)
+        return &txtCollectionNo;
+    if (txtAnimal.IsEmpty() && !IsDeleting())
+        return &txtAnimal;
+    if (!IsAdding())
+        return nullptr;
+    for (Field* figure : {&txtLiters, &txtFat, &txtRate, &txtAmount})
+        if (!IsNumeric(figure->Text()))
+            return figure;
+    if (Value(txtLiters) <= 0)
+        return &txtLiters;
+    return Value(txtFat) <= 0 || Value(txtFat) > HighestFat ? &txtFat : nullptr;
+}
+
+// Member
+
+bool frmDailyCollection::txtMemberNo_KeyDown(const QKeyEvent& key)
+{
+    if (key.key() != Qt::Key_F5 || !IsAdding())
+        return false;
+    if (IsListShown())
+        ShowList(false);
+    else
+        OpenList();
+    return true;
+}
+
+void frmDailyCollection::txtMemberNo_Change()
+{
+    ForgetRow();
+    ShowList(false); // it is another member's now
+}
+
+// What is written is the row that was shown: with another member, day or number it has to be shown first.
+void frmDailyCollection::ForgetRow()
+{
+    IsRowShown = false;
+}
+
+void frmDailyCollection::txtMemberNo_LostFocus()
+{
+    if (!IsNumeric(txtMemberNo.Text())) {
+        txtMemberNo.Clear();
+        return;
+    }
+    const Recordset member(
+        gCn, Sql(u"SELECT MemberName,Animal FROM MembersMaster WHERE  MemberNo=", Value(txtMemberNo)));
+    if (member.Eof())
+        cmbMemberName.Clear(); // a name stands there only beside its own number
+    else
+        TakeMember(member);
+}
+
+// A member of both kinds leaves the animal to the clerk.
+void frmDailyCollection::TakeMember(const Recordset& member)
+{
+    cmbMemberName.SetText(member[u"MemberName"].Text());
+    if (const QString animal = member[u"Animal"].Text(); animal != u"daonhI")
+        txtAnimal.SetText(animal);
+}
+
+// A member can be told by name as well; a name that is nobody's gives way to that of the number.
+void frmDailyCollection::cmbMemberName_LostFocus()
+{
+    const QString name = cmbMemberName.Text().trimmed();
+    const Recordset numbered(gCn, Sql(u"SELECT * FROM MembersMaster WHERE MemberNo=", Value(txtMemberNo)));
+    if (!numbered.Eof() && numbered[u"MemberName"].Text().trimmed() == name)
+        return;
+    for (Recordset member(gCn, QStringLiteral("SELECT * FROM MembersMaster")); !member.Eof();
+         member.MoveNext()) {
+        if (member[u"MemberName"].Text().trimmed() != name)
+            continue;
+        txtMemberNo.SetText(member[u"MemberNo"].Text());
+        TakeMember(member);
+        return;
+    }
+    cmbMemberName.Clear();
+    txtMemberNo_LostFocus();
+}
+
+// Day
+
+void frmDailyCollection::MasKCollectionDate_LostFocus()
+{
+    HoldDate();
+}
+
+// Sends the focus to a date that is none; true if the date is good.
+bool frmDailyCollection::HoldDate()
+{
+    if (!MasKCollectionDate.HoldsDate())
+        MasKCollectionDate.SetFocus();
+    return MasKCollectionDate.HoldsDate();
+}
+
+QString frmDailyCollection::Day() const
+{
+    return u'#' + Format(MasKCollectionDate.Date(), u"MM/dd/yyyy") + u'#';
+}
+
+// The figures that stand for the shifts at the counters do so here, too.
+bool frmDailyCollection::cmbCollectionTime_KeyDown(const QKeyEvent& key)
+{
+    if (key.modifiers().testFlag(Qt::AltModifier) || (key.key() != Qt::Key_1 && key.key() != Qt::Key_2))
+        return false;
+    cmbCollectionTime.SetText(
+        key.key() == Qt::Key_1 ? QStringLiteral("sakaL") : QStringLiteral("saMQyaakaL"));
+    cmbCollectionTime.SelectAll();
+    return true;
+}
+
+bool frmDailyCollection::IsShift() const
+{
+    return cmbCollectionTime.Text() == u"saMQyaakaL" || cmbCollectionTime.Text() == u"sakaL";
+}
+
+void frmDailyCollection::cmbCollectionTime_LostFocus()
+{
+    if (!IsShift())
+        cmbCollectionTime.SetFocus();
+    else if (IsAdding() && HoldDate())
+        ShowNextNumber();
+}
+
+void frmDailyCollection::txtCollectionNo_LostFocus()
+{
+    const bool isPicked = std::exchange(IsPicked, false);
+    if ((IsAdding() && !isPicked) || !HoldDate())
+        return;
+    const Recordset row(gCn,
+        Sql(u"SELECT * FROM MilkCollections WHERE CollectionNo=", Value(txtCollectionNo), u" AND MemberNo=",
+            Value(txtMemberNo), u" AND CollectionDate=", Day()));
+    if (!row.Eof()) {
+        ShowRow(row);
+        if (IsDeleting())
+            cmdDelete.SetFocus();
+    } else if (!IsAdding()) {
+        ShowNotice(u"saMklana naM tpasaa.");
+        cmdCancel_Click();
+    }
+}
+
+void frmDailyCollection::ShowRow(const Recordset& row)
+{
+    txtMemberNo.SetText(row[u"MemberNo"].Text());
+    cmbMemberName.SetText(row[u"MemberName"].Text());
+    MasKCollectionDate.SetDate(row[u"CollectionDate"].Date());
+    cmbCollectionTime.SetText(row[u"CollectionTime"].Text());
+    txtCollectionNo.SetText(row[u"CollectionNo"].Text());
+    txtAnimal.SetText(row[u"Animal"].Text());
+    for (const auto& [field, column] : {std::pair(&txtLiters, u"Liters"), std::pair(&txtFat, u"Fat"),
+             std::pair(&txtRate, u"Rate"), std::pair(&txtAmount, u"Amount")}) {
+        field->SetText(row[column].Text());
+        MendNumber(*field);
+    }
+    IsRowShown = true;
+}
+
+// Milk
+
+void frmDailyCollection::txtAnimal_LostFocus()
+{
+    if (txtAnimal.IsEmpty())
+        txtAnimal.SetFocus();
+}
+
+void frmDailyCollection::txtLiters_LostFocus()
+{
+    if (txtAnimal.IsEmpty())
+        txtAnimal.SetFocus();
+    else if (Value(txtLiters) <= 0)
+        txtLiters.SetFocus();
+}
+
+void frmDailyCollection::txtFat_LostFocus()
+{
+    for (Field* field : {&txtLiters, &txtFat}) {
+        if (IsNumeric(field->Text()) && Value(*field) > 0)
+            continue;
+        field->SetText(QStringLiteral("0"));
+        field->SetFocus();
+        return;
+    }
+    const double fat = Value(txtFat);
+    txtFat.SetText(Format(fat, FatFormat));
+    if (fat > HighestFat) {
+        txtFat.SetFocus();
+        return;
+    }
+    if (!HoldDate())
+        return;
+    const FatRate found = LookupFatRate(MasKCollectionDate.Date(), Value(txtFat), txtAnimal.Text());
+    if (found.outcome == FatRate::Outcome::NoChart) {
+        gAppState.gCallerTag = QStringLiteral("1");
+        txtFat.SetFocus();
+        return;
+    }
+    if (found.outcome == FatRate::Outcome::Priced)
+        txtRate.SetText(Format(found.rate, MoneyFormat));
+    ShowAmount();
+    cmdAdd.SetFocus(); // a new row is done; a change goes on to the rate
+}
+
+void frmDailyCollection::ShowAmount()
+{
+    txtAmount.SetText(Format(Value(txtLiters) * Value(txtRate), MoneyFormat));
+}
+
+void frmDailyCollection::txtRate_LostFocus()
+{
+    MendNumber(txtRate);
+    ShowAmount();
+    for (Button* button : {&cmdAdd, &cmdModify, &cmdDelete})
+        button->SetFocus(); // the one that is open
+}
+
+void frmDailyCollection::txtAmount_LostFocus()
+{
+    MendNumber(txtAmount);
+}

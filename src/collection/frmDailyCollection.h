@@ -1,0 +1,106 @@
+#pragma once
+
+#include "Button.h"
+#include "DataGrid.h"
+#include "DateField.h"
+#include "NameCombo.h"
+#include "Recordset.h"
+#include "Screen.h"
+
+// The deliveries of one member, day after day: for keying a paper register, and for mending a row. It writes
+// the books and nothing beside them: no slip, no balance and no copy of the shift. The captions of the
+// buttons tell what it is doing.
+class frmDailyCollection final : public Screen {
+public:
+    frmDailyCollection();
+
+private:
+    Label lblTitle{this, "lblTitle"};
+    Label lblCompanyTitle{this, "lblCompanyTitle"};
+    Label lblAcYear{this, "lblAcYear"};
+    Label lblGuide{this, "lblGuide"};
+
+    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
+    NameCombo cmbMemberName{this, "cmbMemberName"};
+    DateField MasKCollectionDate{this, "MasKCollectionDate"};
+    NameCombo cmbCollectionTime{this, "cmbCollectionTime"};
+    NumberField txtCollectionNo{this, "txtCollectionNo", NumberField::Digits::Whole};
+    ChoiceField txtAnimal{
+        this, "txtAnimal", {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}}};
+    NumberField txtLiters{this, "txtLiters", NumberField::Digits::Decimals};
+    NumberField txtFat{this, "txtFat", NumberField::Digits::Decimals};
+    NumberField txtRate{this, "txtRate", NumberField::Digits::Decimals};
+    NumberField txtAmount{this, "txtAmount", NumberField::Digits::Decimals};
+    Button cmdAdd{this, "cmdAdd", Shivaji(u"&navaIna")};
+    Button cmdModify{this, "cmdModify", Shivaji(u"ba&dla")};
+    Button cmdDelete{this, "cmdDelete", Shivaji(u"&KaoDNao...")};
+    Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_")};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+    DataGrid DataGrid1;
+
+    QWidget* Frame1 = nullptr; // holds DataGrid1
+    bool IsRowShown = false; // the fields show a row of the books
+    bool IsPicked = false; // the number comes from the member's list, and its row is to be shown
+
+    void Load() override;
+    bool KeyDown(const QKeyEvent& key) override;
+    void Escape() override;
+
+    bool txtMemberNo_KeyDown(const QKeyEvent& key);
+    void txtMemberNo_Change();
+    void txtMemberNo_LostFocus();
+    void cmbMemberName_LostFocus();
+    void MasKCollectionDate_LostFocus();
+    bool cmbCollectionTime_KeyDown(const QKeyEvent& key);
+    void cmbCollectionTime_LostFocus();
+    void txtCollectionNo_LostFocus();
+    void txtAnimal_LostFocus();
+    void txtLiters_LostFocus();
+    void txtFat_LostFocus();
+    void txtRate_LostFocus();
+    void txtAmount_LostFocus();
+    void cmdAdd_Click();
+    void cmdModify_Click();
+    void cmdDelete_Click();
+    void cmdCancel_Click();
+    void cmdExit_Click();
+    bool DataGrid1_KeyDown(const QKeyEvent& key);
+    void DataGrid1_Click();
+
+    // States
+    bool IsAdding() const { return cmdAdd.Reads(u"&saovh"); }
+    bool IsModifying() const { return cmdModify.Reads(u"&saovh"); }
+    bool IsDeleting() const { return cmdDelete.Reads(u"&KaoDa"); }
+    void EnterState(Button& button, QStringView caption);
+    void ShowIdle();
+    void ClearFields();
+    std::vector<Field*> Fields();
+
+    // Rules of the fields
+    bool IsShift() const;
+    bool HoldDate();
+    Field* Unfinished();
+    void TakeMember(const Recordset& member);
+    void ShowAmount();
+    void ShowNextNumber();
+    void ShowRow(const Recordset& row);
+    void ForgetRow();
+
+    // The rows behind the screen
+    QString Day() const;
+    QString InsertStatement() const;
+    QString UpdateStatement() const;
+    QString DeleteStatement() const;
+
+    // The member's list
+    bool IsListShown() const { return DataGrid1.Visible(); }
+    void OpenList();
+    void ShowList(bool shown);
+
+    void WireHandlers();
+    void LayOut();
+    QLayout* MemberLine();
+    QLayout* DayLine();
+    QWidget* MilkPanel();
+    QWidget* ListFrame();
+};

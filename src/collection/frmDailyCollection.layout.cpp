@@ -1,0 +1,102 @@
+#include "frmDailyCollection.h"
+
+#include "CounterPieces.h"
+#include "Keys.h"
+#include "Layout.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+using namespace CounterPieces;
+
+namespace {
+
+constexpr int FieldHeight = 38;
+constexpr int TallField = 50;
+
+QLabel* Sign(QStringView sign)
+{
+    QLabel* label = Heading(Plain(sign), Look::Size::Title);
+    label->setAlignment(Qt::AlignCenter);
+    label->setFixedHeight(TallField);
+    return label;
+}
+
+}
+
+void frmDailyCollection::LayOut()
+{
+    SetTitleLabel(lblTitle);
+    SetTitle(Shivaji(u"  raojacao saBaasadanausaar duQa saMklana"));
+    SetGuideLabel(lblGuide);
+    Layout::MakeGuide(lblGuide);
+
+    auto* body = new QVBoxLayout;
+    body->setSpacing(14);
+    body->addLayout(MemberLine());
+    body->addLayout(DayLine());
+    body->addWidget(MilkPanel());
+    body->addWidget(lblGuide.Widget());
+    body->addWidget(ListFrame(), 1);
+    body->addLayout(Layout::ButtonRow({&cmdAdd, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit}));
+    Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
+        Layout::KeyStrip(Keys::Of(Name())));
+    body->setContentsMargins(20, 14, 20, 14);
+    setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
+}
+
+QLayout* frmDailyCollection::MemberLine()
+{
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(16, 0, 16, 0);
+    line->setSpacing(16);
+    line->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 160, Look::Size::Large, FieldHeight));
+    line->addLayout(
+        Under(Shivaji(u"maombarcao naaMva"), cmbMemberName, 0, Look::Size::Large, FieldHeight), 1);
+    return line;
+}
+
+QLayout* frmDailyCollection::DayLine()
+{
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(16, 0, 16, 0);
+    line->setSpacing(16);
+    line->addLayout(Under(Shivaji(u"idnaaMk"), MasKCollectionDate, 160, Look::Size::Large, FieldHeight));
+    line->addLayout(Under(Shivaji(u"vaoL"), cmbCollectionTime, 200, Look::Size::Large, FieldHeight));
+    line->addLayout(Under(Shivaji(u"saMklana k`M"), txtCollectionNo, 160, Look::Size::Large, FieldHeight));
+    line->addLayout(Under(Shivaji(u"dUQa p`kar"), txtAnimal, 160, Look::Size::Large, FieldHeight));
+    line->addStretch(1);
+    return line;
+}
+
+QWidget* frmDailyCollection::MilkPanel()
+{
+    auto* panel = Panel();
+    auto* milk = new QHBoxLayout(panel);
+    milk->setContentsMargins(16, 6, 16, 10);
+    milk->setSpacing(10);
+    milk->addLayout(Under(Shivaji(u"ilaTsa-"), txtLiters, 200, Look::Size::Title, TallField));
+    milk->addWidget(Sign(u"×"), 0, Qt::AlignBottom);
+    milk->addLayout(Under(Shivaji(u"f^T"), txtFat, 130, Look::Size::Title, TallField));
+    milk->addWidget(Sign(u"→"), 0, Qt::AlignBottom);
+    milk->addLayout(Under(Shivaji(u"dr"), txtRate, 170, Look::Size::Title, TallField));
+    milk->addWidget(Sign(u"="), 0, Qt::AlignBottom);
+    milk->addLayout(Under(Shivaji(u"r@kma"), txtAmount, 0, Look::Size::Title, TallField), 1);
+    return panel;
+}
+
+// The frame keeps its place while it is hidden, so that nothing moves when it comes.
+QWidget* frmDailyCollection::ListFrame()
+{
+    Frame1 = Panel();
+    Frame1->setObjectName(QStringLiteral("Frame1"));
+    auto* inside = new QVBoxLayout(Frame1);
+    inside->setContentsMargins(1, 1, 1, 1);
+    inside->addWidget(List(DataGrid1));
+    DataGrid1.SetAccessibleName(Plain(u"मेम्बरचे आतापर्यंतचे संकलन"));
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    policy.setRetainSizeWhenHidden(true);
+    Frame1->setSizePolicy(policy);
+    return Frame1;
+}

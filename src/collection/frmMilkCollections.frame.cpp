@@ -1,0 +1,272 @@
+// FrameMilkCollection: one member's collection over a period. While it is open the copy holds that period.
+
+#include "frmMilkCollections.h"
+#include "Counter.h"
+#include "Dates.h"
+#include "MdlAccounts.h"
+#include "Messages.h"
+#include "ModalStack.h"
+#include "Recordset.h"
+#include "ScreenDirectory.h"
+#include "Sql.h"
+#include "Transaction.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Counter;
+
+namespace {
+
+constexpr QStringView SumFormat = u"#######0.000";
+constexpr QStringView BuffAverageFormat = u"########0.0";
+
+// The sums of one animal in one half of the day, or in both.
+struct Milk {
+    double liters = 0;
+    double amount = 0;
+    double litersByFat = 0;
+
+    double AverageFat() const { return liters == 0 && litersByFat == 0 ? 0 : litersByFat / liters; }
+};
+
+struct MemberMilk {
+    Milk morning;
+    Milk evening;
+
+    Milk Whole() const
+    {
+        return {morning.liters + evening.liters, morning.amount + evening.amount,
+            morning.litersByFat + evening.litersByFat};
+    }
+};
+
+struct MilkOfBoth {
+    MemberMilk cow;
+    MemberMilk buff;
+};
+
+MilkOfBoth WalkCopy()
+{
+    MilkOfBoth milk;
+    for (Recordset row(gCn, Sql(u"select * from MilkCollectionsTemp where CompanyId=", gAppState.gCompanyId));
+         !row.Eof(); row.MoveNext()) {
+        const QString animal = row[u"Animal"].Text();
+        const QString time = row[u"CollectionTime"].Text();
+        if ((animal != u"gaaya" && animal != u"mhOsa") || (time != u"sakaL" && time != u"saMQyaakaL"))
+            continue;
+        MemberMilk& member = animal == u"gaaya" ? milk.cow : milk.buff;
+        Milk& sum = time == u"sakaL" ? member.morning : member.evening;
+        const double liters = row[u"Liters"].Number();
+        sum.liters += liters;
+        sum.amount += row[u"Amount"].Number();
+        sum.litersByFat += liters * row[u"Fat"].Number();
+    }
+    return milk;
+}
+
+QString SqlDay(const QDate& date)
+{
+    return u'#' + Format(date, u"MM/dd/yyyy") + u'#';
+}
+
+}
+
+// A delivery saved now would look for its row in the copy, so the rest of the counter waits for the frame.
+void frmMilkCollections::ShowMemberFrame()
+{
+    SkipMemberChecks = true;
+    ShowFrame(true);
+    maskFromDate.SetFocus();
+    const std::vector<Control*> frame = FrameControls();
+    for (Control* control : Controls()) {
+        if (!control->Enabled() || std::find(frame.begin(), frame.end(), control) != frame.end())
+            continue;
+        control->SetEnabled(false);
+        m_heldBack.push_back(control);
+    }
+}
+
+void frmMilkCollections::maskFromDate_LostFocus()
+{
+    if (!maskFromDate.HoldsDate())
+        maskFromDate.SetFocus();
+}
+
+void frmMilkCollections::maskToDate_LostFocus()
+{
+    HoldPeriod();
+}
+
+// Sends the focus back to a date that is none; true if both are good.
+bool frmMilkCollections::HoldPeriod()
+{
+    for (DateField* date : {&maskFromDate, &maskToDate}) {
+        if (!date->HoldsDate()) {
+            date->SetFocus();
+            return false;
+        }
+    }
+    return true;
+}
+
+void frmMilkCollections::txtAccountId_LostFocus()
+{
+    const Recordset member(gCn, Sql(u"Select * from MembersMaster Where MemberNo=", Value(txtAccountId)));
+    if (!member.Eof())
+        ShowAccount(member);
+}
+
+// The names are added to those that are there already.
+void frmMilkCollections::cmbAccountName_GotFocus()
+{
+    cmbAccountName.AddItems(MemberNames());
+    SendKeys(QStringLiteral("%{Down}"));
+}
+
+void frmMilkCollections::cmbAccountName_LostFocus()
+{
+    const Recordset member(
+        gCn, Sql(u"Select * from MembersMaster Where MemberName='", cmbAccountName.Text(), u"'"));
+    if (!member.Eof())
+        ShowAccount(member);
+}
+
+void frmMilkCollections::ShowAccount(const Recordset& member)
+{
+    txtAccountId.SetText(member[u"MemberNo"].Text());
+    cmbAccountName.SetText(member[u"MemberName"].Text());
+}
+
+// The rows of the member in the period.
+QString frmMilkCollections::InPeriod() const
+{
+    return Sql(u" from MilkCollections where CollectionDate>=", SqlDay(maskFromDate.Date()),
+        u" and CollectionDate<=", SqlDay(maskToDate.Date()), u" And MemberNo = ", Value(txtAccountId),
+        u" and companyid=", gAppState.gCompanyId);
+}
+
+void frmMilkCollections::cmdGoOn_Click()
+{
+    if (!HoldPeriod())
+        return;
+    if (!Finds(u"Select *" + InPeriod())) {
+        ShowPlain(QStringLiteral("No Records"));
+        txtAccountId.SetFocus();
+        return;
+    }
+    Transaction fill(gCn);
+    gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
+    gCn.Execute(u"insert into MilkCollectionsTemp select *" + InPeriod());
+    RenumberTemp();
+    TidyShiftCopy();
+    fill.Commit();
+
+    MemberLitersAndAmounts();
+    MemberAverageFat();
+    ShowMemberGrid();
+}
+
+// The copy then reads as one running list of the period. The numbers are for display.
+void frmMilkCollections::RenumberTemp()
+{
+    std::int16_t k = 1;
+    for (Recordset row(gCn,
+             QStringLiteral(
+                 "Select * From MilkCollectionsTemp Order By CollectionDate,CollectionTime,CollectionNo"));
+         !row.Eof(); row.MoveNext()) {
+        gCn.Execute(Sql(u"Update MilkCollectionsTemp Set CollectionNo=", k, u" Where CollectionDate=",
+            SqlDay(row[u"CollectionDate"].Date()), u" And CollectionTime='", row[u"CollectionTime"].Text(),
+            u"' And CollectionNo=", row[u"CollectionNo"].Number()));
+        k = ToInt16(k + 1);
+    }
+}
+
+void frmMilkCollections::ShowMemberGrid()
+{
+    DataGridMilk.Refresh();
+}
+
+void frmMilkCollections::MemberLitersAndAmounts()
+{
+    const auto [cow, buff] = WalkCopy();
+    const Milk cowTotal = cow.Whole();
+    const Milk buffTotal = buff.Whole();
+    for (const auto& [label, sum] : std::initializer_list<std::pair<Label*, double>>{
+             {&lblCowLitM, cow.morning.liters}, {&lblCowLitE, cow.evening.liters},
+             {&lblCowTotalLiters, cowTotal.liters}, {&lblCowTotalM, cow.morning.amount},
+             {&lblCowTotalE, cow.evening.amount}, {&lblCowTotal, cowTotal.amount},
+             {&lblBuffLitM, buff.morning.liters}, {&lblBuffLitE, buff.evening.liters},
+             {&lblBuffTotalLiters, buffTotal.liters}, {&lblBuffTotalM, buff.morning.amount},
+             {&lblBuffTotalE, buff.evening.amount}, {&lblBuffTotal, buffTotal.amount}})
+        label->SetFigure(Format(sum, SumFormat));
+}
+
+void frmMilkCollections::MemberAverageFat()
+{
+    const auto [cow, buff] = WalkCopy();
+    lblCowAvgFatM.SetFigure(Format(cow.morning.AverageFat(), AverageFatFormat));
+    lblCowAvgFatE.SetFigure(Format(cow.evening.AverageFat(), AverageFatFormat));
+    lblCowTotalAvgFat.SetFigure(Format(cow.Whole().AverageFat(), AverageFatFormat));
+    lblBuffAvgFatM.SetFigure(Format(buff.morning.AverageFat(), BuffAverageFormat));
+    lblBuffAvgFatE.SetFigure(Format(buff.evening.AverageFat(), BuffAverageFormat));
+    lblBuffTotalAvgFat.SetFigure(Format(buff.Whole().AverageFat(), AverageFatFormat));
+}
+
+// The statement of what lies in the copy.
+void frmMilkCollections::Command1_Click()
+{
+    if (Value(txtAccountId) == 0) {
+        txtAccountId.SetFocus();
+        return;
+    }
+    if (!HoldPeriod())
+        return;
+    // The report's own screen makes the day lines of what lies in the copy, and leaves at once.
+    gAppState.gReportMode = QStringLiteral("ShowMilkCollection");
+    ScreenDirectory::Open(QStringLiteral("frmReportMilkPS"), Shivaji(u"dUQa saMklana À ivaËI irpaoT-"));
+    Transaction staging(gCn);
+    gCn.Execute(QStringLiteral("Delete * From ReportDates"));
+    gCn.Execute(Sql(u"Insert Into ReportDates(CompanyId,FromDate,Todate) Values(", gAppState.gCompanyId,
+        u",'", maskFromDate.Text(), u"','", maskToDate.Text(), u"')"));
+    gCn.Execute(QStringLiteral("Delete * From MilkCollectionsTemp where companyId=0"));
+    gCn.Execute(QStringLiteral("Delete * From ReportDates Where CompanyId=0"));
+    staging.Commit();
+    CRMilkPayments.SetReportFileName(u"MilkPSReport.rpt");
+    CRMilkPayments.Print();
+}
+
+void frmMilkCollections::Command2_Click()
+{
+    ShowFrame(false);
+    ResetMemberFrame();
+    SendKeys(QStringLiteral("{TAB}{TAB}{TAB}")); // over date and shift to the entry line
+}
+
+void frmMilkCollections::Command3_Click()
+{
+    ScreenDirectory::Open(
+        QStringLiteral("frmAbsenseMemberCollection"), Shivaji(u"dUQa saMklana nasaNaaro saBaasad"));
+}
+
+// Empties the frame and gives the copy back to the shift, this time by its company.
+void frmMilkCollections::ResetMemberFrame()
+{
+    const Shift shift = TheShift();
+    Transaction reload(gCn);
+    gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
+    gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
+    ShowMemberGrid();
+    for (Field* field :
+        std::initializer_list<Field*>{&maskFromDate, &maskToDate, &txtAccountId, &cmbAccountName})
+        field->Clear();
+    MemberLitersAndAmounts();
+    MemberAverageFat();
+    gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
+    gCn.Execute(Sql(u"Insert Into MilkCollectionsTemp Select * From MilkCollections Where CompanyId=",
+        gAppState.gCompanyId, u" And CollectionDate=", shift.Day(), u" And CollectionTime='", shift.time,
+        u"'"));
+    gCn.Execute(QStringLiteral("Delete * from MilkCollectionsTemp Where CompanyId=0"));
+    reload.Commit();
+    ShowInwardsGrid();
+}

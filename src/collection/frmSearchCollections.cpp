@@ -1,0 +1,280 @@
+#include "frmSearchCollections.h"
+
+#include "AppFolder.h"
+#include "CommonKeys.h"
+#include "CompanyTitle.h"
+#include "Counter.h"
+#include "CounterScreen.h"
+#include "MdlAccounts.h"
+#include "Messages.h"
+#include "ModalStack.h"
+#include "Recordset.h"
+#include "Sql.h"
+#include "Transaction.h"
+
+using namespace Counter;
+
+namespace {
+
+// Where an earlier program of the society left its templates; one slip is still printed from there.
+constexpr QStringView SiblingFolder = u"C:\\Tarvel01\\Sorvelan\\";
+
+std::vector<DataGrid::Column> FoundColumns()
+{
+    return {
+        {QStringLiteral("CollectionNo"), Shivaji(u"saMklana Ë."), 140, {}, false, false},
+        {QStringLiteral("Animal"), Shivaji(u"dUQa"), 0},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 170, QStringLiteral("####0.000"), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), 140, QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), 150, QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 180, QStringLiteral("#####0.00"), true},
+    };
+}
+
+// The counter that has opened the screen on top; null if it was opened from elsewhere.
+const CounterScreen* OpeningCounter()
+{
+    const std::vector<Screen*>& open = ModalStack::Current().Open();
+    return open.size() < 2 ? nullptr : dynamic_cast<const CounterScreen*>(open[open.size() - 2]);
+}
+
+// The template of a slip that is printed again. Two layouts have one of their own here, and the last two
+// none.
+QString ReprintTemplate(QStringView receiptType)
+{
+    if (receiptType == u"Tašp 7" || receiptType == u"Tašp 8")
+        return {};
+    const bool isSixth = receiptType == u"Tašp 6";
+    const QStringView name = isSixth ? u"MilkReceiptShenoli.rpt" : MilkReceipt::TemplateOf(receiptType);
+    const QStringView folder = receiptType == u"Tašp 5" ? SiblingFolder : AppFolder;
+    return name.isEmpty() ? QString() : folder.toString() + name;
+}
+
+}
+
+frmSearchCollections::frmSearchCollections()
+    : Screen("frmSearchCollections")
+    , DataGridInwards(this, "DataGridInwards", FoundColumns())
+{
+    WireHandlers();
+    txtTime.SetLocked(true);
+    txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
+    DataGridInwards.SetGuide(Plain(u"↑ ↓ : पावतीची नोंद निवडा"));
+    ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
+    EnableFound(false);
+    LayOut();
+}
+
+void frmSearchCollections::WireHandlers()
+{
+    When(maskDate.GotFocus, &frmSearchCollections::maskDate_GotFocus);
+    When(maskDate.LostFocus, &frmSearchCollections::maskDate_LostFocus);
+    When(txtTime.GotFocus, &frmSearchCollections::txtTime_GotFocus);
+    When(txtTime.LostFocus, &frmSearchCollections::txtTime_LostFocus);
+    When(txtMemberNo.LostFocus, &frmSearchCollections::txtMemberNo_LostFocus);
+    When(ComboMemberName.GotFocus, &frmSearchCollections::ComboMemberName_GotFocus);
+    When(ComboMemberName.LostFocus, &frmSearchCollections::ComboMemberName_LostFocus);
+    When(cmdGo.Click, &frmSearchCollections::cmdGo_Click);
+    for (Field* field : std::initializer_list<Field*>{&maskDate, &txtTime, &txtMemberNo, &ComboMemberName})
+        When(field->TextChanged, &frmSearchCollections::ForgetFound);
+}
+
+void frmSearchCollections::Load()
+{
+    DataGridInwards.Bind(gCn, QStringLiteral("select * from MilkCollectionsTemp order by CollectionNo desc"));
+    EmptyShiftCopy();
+    DataGridInwards.Refresh();
+    ShowCompany(lblCompanyTitle, lblAcYear);
+    maskDate.SetDate(gAppState.gAppDate);
+    LoadMemberNames();
+    TimerStart = true;
+    After(50, [this] { TimerStart_Timer(); });
+}
+
+bool frmSearchCollections::KeyDown(const QKeyEvent& key)
+{
+    return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
+}
+
+// From a counter it goes on with the member in the line there.
+void frmSearchCollections::TimerStart_Timer()
+{
+    TimerStart = false;
+    const CounterScreen* counter = gAppState.gCallerTag == u"MC" ? OpeningCounter() : nullptr;
+    if (!counter) {
+        maskDate.SetFocus();
+        return;
+    }
+    const Shift shift = counter->TheShift();
+    maskDate.SetDate(shift.date);
+    txtTime.SetText(shift.time);
+    txtMemberNo.SetText(counter->MemberNo());
+    ComboMemberName.SetText(counter->MemberName());
+    EnableMember(true);
+    ComboMemberName.SetFocus();
+}
+
+// Date and shift
+
+void frmSearchCollections::maskDate_GotFocus()
+{
+    EnableMember(false);
+    EnableFound(false);
+    // A date that has to be mended is not selected: one key would wipe it out.
+    if (!maskDate.HoldsDate())
+        SendKeys(QStringLiteral("{Home}"));
+}
+
+void frmSearchCollections::maskDate_LostFocus()
+{
+    HoldDate();
+}
+
+// Keeps the focus in a date that is none; true if the date is good.
+bool frmSearchCollections::HoldDate()
+{
+    if (!maskDate.HoldsDate())
+        maskDate.SetFocus();
+    return maskDate.HoldsDate();
+}
+
+void frmSearchCollections::txtTime_GotFocus()
+{
+    EnableMember(true);
+}
+
+void frmSearchCollections::txtTime_LostFocus()
+{
+    if (HoldDate() && txtTime.Text() != u"sakaL" && txtTime.Text() != u"saMQyaakaL")
+        txtTime.SetFocus();
+}
+
+Shift frmSearchCollections::TheShift() const
+{
+    return {maskDate.Date(), txtTime.Text()};
+}
+
+// Member
+
+void frmSearchCollections::txtMemberNo_LostFocus()
+{
+    const double number = Value(txtMemberNo);
+    const Recordset member(gCn, Sql(u"SELECT * FROM MembersMaster where MemberNo=", number));
+    if (number == 0 || member.Eof())
+        txtMemberNo.Clear();
+    else
+        ComboMemberName.SetText(member[u"MemberName"].Text());
+}
+
+void frmSearchCollections::ComboMemberName_GotFocus()
+{
+    if (!txtMemberNo.IsEmpty())
+        return;
+    LoadMemberNames();
+    SendKeys(QStringLiteral("%{Down}"));
+}
+
+void frmSearchCollections::ComboMemberName_LostFocus()
+{
+    const QString name = ComboMemberName.Text().trimmed();
+    if (name.isEmpty()) {
+        ShowNotice(u"maombarcao naaMva vyavaisqat Ta[-p kra");
+        ComboMemberName.SetFocus();
+        return;
+    }
+    for (Recordset member(gCn, QStringLiteral("SELECT * FROM MembersMaster")); !member.Eof();
+         member.MoveNext()) {
+        if (member[u"MemberName"].Text().trimmed() != name)
+            continue;
+        txtMemberNo.SetText(member[u"MemberNo"].Text());
+        Search();
+        return;
+    }
+    LoadMemberNames();
+    ComboMemberName.SetFocus();
+}
+
+void frmSearchCollections::LoadMemberNames()
+{
+    ComboMemberName.SetItems(MemberNames());
+}
+
+void frmSearchCollections::EnableMember(bool enabled)
+{
+    txtMemberNo.SetEnabled(enabled);
+    ComboMemberName.SetEnabled(enabled);
+}
+
+// The rows found
+
+void frmSearchCollections::Search()
+{
+    const Shift shift = TheShift();
+    Transaction finding(gCn);
+    gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
+    gCn.Execute(
+        Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where cstr(CollectionDate)=",
+            shift.Day(), u" and CollectionTime='", shift.time, u"' and MemberNo=", Value(txtMemberNo)));
+    TidyShiftCopy();
+    finding.Commit();
+    DataGridInwards.Refresh();
+    const bool isFound = Finds(QStringLiteral("select * from MilkCollectionsTemp"));
+    EnableFound(isFound);
+    if (isFound)
+        DataGridInwards.SetFocus();
+    else
+        ShowPlain(QStringLiteral("No Records"));
+}
+
+void frmSearchCollections::EnableFound(bool enabled)
+{
+    DataGridInwards.SetEnabled(enabled);
+    cmdGo.SetEnabled(enabled);
+}
+
+// A slip names the shift and the member of the fields, so rows of others must not be printed under them.
+void frmSearchCollections::ForgetFound()
+{
+    EnableFound(false);
+}
+
+void frmSearchCollections::cmdGo_Click()
+{
+    const double number = DataGridInwards.Value(DataGridInwards.CurrentRow(), u"CollectionNo").Number();
+    Transaction staging(gCn);
+    if (!StageReprint(number))
+        return;
+    ChooseTemplate();
+    CRMilkReceipt.SetDestination(CounterReport::Destination::Window);
+    gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
+    staging.Commit();
+    CRMilkReceipt.Print();
+}
+
+// Puts the row of a number in place of the slip before it; false if there is none. The clock of the counter
+// isn't told a second time.
+bool frmSearchCollections::StageReprint(double number)
+{
+    gCn.Execute(QStringLiteral("delete * from MilkReceipt"));
+    gCn.Execute(QStringLiteral("delete * from MilkReceipt"));
+    gCn.Execute(Sql(u"update MilkCollectionsTemp set CompanyId=", gAppState.gCompanyId));
+    const Recordset row(gCn,
+        Sql(u"select * from MilkCollectionsTemp where CompanyId=", gAppState.gCompanyId,
+            u" and CollectionNo=", number));
+    if (row.Eof())
+        return false;
+    gCn.Execute(Sql(u"insert into MilkReceipt(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
+                    u"MemberName,Animal,Liters,Fat,Rate,Amount) values(",
+        gAppState.gCompanyId, u",'", maskDate.Text(), u"','", txtTime.Text(), u"',", number, u",",
+        Value(txtMemberNo), u",'", ComboMemberName.Text(), u"','", row[u"Animal"].Text(), u"',",
+        row[u"Liters"].Number(), u",", row[u"Fat"].Number(), u",", row[u"Rate"].Number(), u",",
+        row[u"Amount"].Number(), u")"));
+    return true;
+}
+
+// A layout without a template here leaves the one of the slip before.
+void frmSearchCollections::ChooseTemplate()
+{
+    if (const QString path = ReprintTemplate(Setting(u"ReceiptType")); !path.isEmpty())
+        CRMilkReceipt.SetReportPath(path);
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "Button.h"
+#include "CounterReport.h"
+#include "DataGrid.h"
+#include "DateField.h"
+#include "Deliveries.h"
+#include "NameCombo.h"
+#include "Screen.h"
+
+// Finds a member's deliveries in a shift and prints the slip of one of them again. A search puts the copy of
+// the shift aside: what was found lies there instead, and stays for the counter that has opened this screen.
+class frmSearchCollections final : public Screen {
+public:
+    frmSearchCollections();
+
+    bool TimerStart = false; // the timer of the opening has yet to tick
+
+private:
+    Label lblTitle{this, "lblTitle"};
+    Label lblCompanyTitle{this, "lblCompanyTitle"};
+    Label lblAcYear{this, "lblAcYear"};
+    Label lblFooter{this, "lblFooter"};
+
+    DateField maskDate{this, "maskDate"};
+    ChoiceField txtTime{
+        this, "txtTime", {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}}};
+    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
+    NameCombo ComboMemberName{this, "ComboMemberName"};
+    DataGrid DataGridInwards;
+    Button cmdGo{this, "cmdGo", Plain(u"&Print")};
+
+    CounterReport CRMilkReceipt;
+
+    void Load() override;
+    bool KeyDown(const QKeyEvent& key) override;
+
+    void TimerStart_Timer();
+    void maskDate_GotFocus();
+    void maskDate_LostFocus();
+    void txtTime_GotFocus();
+    void txtTime_LostFocus();
+    void txtMemberNo_LostFocus();
+    void ComboMemberName_GotFocus();
+    void ComboMemberName_LostFocus();
+    void cmdGo_Click();
+
+    void WireHandlers();
+    void LayOut();
+    QWidget* Question();
+
+    bool HoldDate();
+    Shift TheShift() const;
+    void LoadMemberNames();
+    void EnableMember(bool enabled);
+    void EnableFound(bool enabled);
+    void ForgetFound();
+    void Search();
+    bool StageReprint(double number);
+    void ChooseTemplate();
+};

@@ -1,0 +1,53 @@
+#include "frmSearchCollections.h"
+
+#include "CounterPieces.h"
+#include "Keys.h"
+#include "Layout.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+using namespace CounterPieces;
+
+namespace {
+
+constexpr int FieldHeight = 38;
+constexpr int WindowHeight = 560;
+
+}
+
+void frmSearchCollections::LayOut()
+{
+    SetTitleLabel(lblTitle);
+    SetTitle(Shivaji(u"dUQa saMklana pavatI"));
+    SetGuideLabel(lblFooter);
+    Layout::MakeGuide(lblFooter);
+
+    auto* body = new QVBoxLayout;
+    body->setSpacing(8);
+    body->addWidget(Question());
+    body->addWidget(lblFooter.Widget());
+    body->addWidget(List(DataGridInwards), 1);
+    DataGridInwards.SetAccessibleName(Shivaji(u"dUQa saMklana"));
+    body->addLayout(Layout::ButtonRow({&cmdGo}));
+    Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
+        Layout::KeyStrip(Keys::Of(Name())));
+    body->setContentsMargins(20, 10, 20, 12);
+    setFixedSize(Look::ScreenWidth, WindowHeight);
+}
+
+// Whose slip, and of which shift.
+QWidget* frmSearchCollections::Question()
+{
+    auto* panel = Panel();
+    auto* row = new QHBoxLayout(panel);
+    row->setContentsMargins(16, 6, 16, 10);
+    row->setSpacing(16);
+    row->addLayout(Under(Shivaji(u"idnaaMk"), maskDate, 160, Look::Size::Large, FieldHeight));
+    row->addLayout(Under(Shivaji(u"vaoL"), txtTime, 180, Look::Size::Large, FieldHeight));
+    row->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 140, Look::Size::Large, FieldHeight));
+    row->addLayout(
+        Under(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0, Look::Size::Large, FieldHeight), 1);
+    return panel;
+}

@@ -1,0 +1,28 @@
+#include "ReportHandover.h"
+
+#include "AppFolder.h"
+#include "Messages.h"
+#include "ReportPreview.h"
+
+ReportHandover::ReportHandover(std::unique_ptr<Printer> printer) : m_printer(std::move(printer))
+{
+    ReportSurroundings::Current() = {
+        &m_window, m_printer.get(), [](const QString& path) { return LocalPath(path); }};
+}
+
+ReportHandover::~ReportHandover()
+{
+    ReportControl::CloseConnections();
+    ReportSurroundings::Current() = {};
+}
+
+void ReportHandover::Window::Show(std::shared_ptr<Report> report)
+{
+    frmReportPreview preview(std::move(report));
+    preview.ShowModal();
+}
+
+void ReportHandover::Window::Tell(const QString& sentence)
+{
+    ShowPlain(sentence);
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Button.h"
+#include "Field.h"
+#include "MenuList.h"
+#include "Screen.h"
+
+// Asks where a report is to be saved.
+class frmReportFile final : public Screen {
+public:
+    // `report` is the report's name, `ending` that of the file, such as "pdf". A name with the day's date
+    // in the clerk's documents is proposed.
+    frmReportFile(const QString& report, const QString& ending);
+
+    // The whole path, in a folder that is there; empty if the clerk has thought better of it.
+    QString FileName;
+
+private:
+    Label lblTitle{this, "lblTitle"};
+    PlainField txtFile{this, "txtFile"};
+    PlainField txtFolder{this, "txtFolder"};
+    Button cmdSave{this, "cmdSave", Plain(u"जतन करा")};
+    Button cmdExit{this, "cmdExit", Shivaji(u"baahor")};
+
+    void BuildWindow();
+    void cmdSave_Click();
+    void cmdExit_Click();
+    QString WantedFile() const;
+
+    QString m_ending;
+};
+
+// Asks which of several printers is to print.
+class frmReportPrinter final : public Screen {
+public:
+    explicit frmReportPrinter(const QStringList& printers);
+
+    // The name of the printer; empty if the clerk has thought better of it.
+    QString Chosen;
+
+private:
+    Label lblTitle{this, "lblTitle"};
+    MenuList lstPrinters{this, "lstPrinters"};
+
+    void Enter() override { lstPrinters.Choose(); }
+    void lstPrinters_Chosen();
+};

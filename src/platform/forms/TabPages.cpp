@@ -1,0 +1,139 @@
+#include "TabPages.h"
+
+#include "Look.h"
+#include "Screen.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStackedWidget>
+#include <QTabBar>
+
+namespace {
+
+constexpr int TabHeight = 46;
+constexpr int TabWidth = 190;
+constexpr int LineHeight = 3;
+
+// Flat tabs; the one that is seen stands out in bold upon the line that the page hangs from.
+class TabStrip final : public QTabBar {
+public:
+    TabStrip()
+    {
+        setDrawBase(false);
+        setExpanding(false);
+        setUsesScrollButtons(false);
+    }
+
+protected:
+    QSize tabSizeHint(int) const override { return {TabWidth, TabHeight}; }
+    QSize minimumTabSizeHint(int) const override { return {TabWidth, TabHeight}; }
+
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        const QColor line(Look::Band);
+        painter.fillRect(0, height() - LineHeight, width(), LineHeight, line);
+        for (int tab = 0; tab < count(); ++tab) {
+            const bool seen = tab == currentIndex();
+            const QRect face = tabRect(tab).adjusted(0, 4, -6, -LineHeight);
+            painter.fillRect(face, seen ? line : QColor(Look::Quiet));
+            if (seen) {
+                const QColor inside = palette().color(QPalette::Active, QPalette::Button);
+                painter.fillRect(face.adjusted(LineHeight, LineHeight, -LineHeight, LineHeight), inside);
+            }
+            painter.setFont(Look::Font(Look::Size::Normal, seen));
+            painter.setPen(QColor(Look::Ink));
+            painter.drawText(face, Qt::AlignCenter, tabText(tab));
+        }
+    }
+};
+
+}
+
+TabPages::TabPages(Screen* screen, const char* name, const std::vector<Caption>& captions)
+    : Control(screen, name, new TabStrip)
+    , m_pages(new QStackedWidget(screen))
+    , m_controls(captions.size())
+{
+    for (const Caption& caption : captions) {
+        Strip().addTab(caption.Seen().trimmed());
+        m_pages->addWidget(new QWidget);
+    }
+    SetTabStop(false);
+    TabPages::ShowFocus(false);
+    QObject::connect(&Strip(), &QTabBar::currentChanged, &Strip(), [this](int tab) {
+        if (tab != m_tab)
+            RunEvent([this, tab] { SetTab(tab); });
+    });
+}
+
+QTabBar& TabPages::Strip() const
+{
+    return *static_cast<QTabBar*>(Widget());
+}
+
+QWidget* TabPages::Pages() const
+{
+    return m_pages;
+}
+
+void TabPages::SetTab(int tab)
+{
+    Q_ASSERT(tab >= 0 && tab < Strip().count());
+    if (tab == m_tab)
+        return;
+    m_tab = tab;
+    Strip().setCurrentIndex(tab);
+    ShowPage();
+    if (Click)
+        Click();
+}
+
+void TabPages::SetPage(int tab, QLayout* contents, const std::vector<Control*>& controls)
+{
+    m_pages->widget(tab)->setLayout(contents);
+    m_controls[tab] = controls;
+    ShowPage();
+}
+
+void TabPages::ShowPage()
+{
+    m_pages->setCurrentIndex(m_tab);
+    for (std::size_t page = 0; page < m_controls.size(); ++page)
+        for (Control* control : m_controls[page])
+            control->SetVisible(static_cast<int>(page) == m_tab);
+}
+
+bool TabPages::TurnPage(const QKeyEvent& key)
+{
+    const bool next = key.key() == Qt::Key_PageDown;
+    if (!key.modifiers().testFlag(Qt::ControlModifier) || (!next && key.key() != Qt::Key_PageUp))
+        return false;
+    SetFocus();
+    if (HasFocus())
+        SetTab((m_tab + (next ? 1 : Strip().count() - 1)) % Strip().count());
+    return true;
+}
+
+QString TabPages::Text() const
+{
+    return QString::number(m_tab + 1);
+}
+
+// Left and Right turn the pages where the strip itself holds the focus.
+bool TabPages::KeyPress(const QKeyEvent& key)
+{
+    if (key.key() == Qt::Key_Right && m_tab + 1 < Strip().count())
+        SetTab(m_tab + 1);
+    else if (key.key() == Qt::Key_Left && m_tab > 0)
+        SetTab(m_tab - 1);
+    return true;
+}
+
+// Without the focus the tab that is seen has the colour of its page.
+void TabPages::ShowFocus(bool held)
+{
+    Control::ShowFocus(held);
+    if (!held)
+        Look::SetBackground(*Widget(), QColor(Look::Paper));
+}

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "ReportData.h"
+#include "ReportPages.h"
+#include "TextMeasure.h"
+
+#include <deque>
+#include <memory>
+#include <vector>
+
+// A strip across the page, placed as one piece where there is room for it. Its items lie at their places from
+// the left edge of the paper and from the strip's own upper edge.
+struct Band {
+    std::vector<PlacedItem> items;
+    float height = 0;
+    bool keepWithNext = false; // not to be the last on its page
+    bool newPage = false; // begins a page
+    std::shared_ptr<const Band> repeated; // stands above it when it begins a page: the heads of its table
+    std::vector<std::vector<Band>> lanes; // instead of items: strips side by side
+    QStringList record; // of a row: the texts of its cells, for the table of a spreadsheet
+};
+
+// Where an element stands on the paper, in points.
+struct Stretch {
+    float x = 0;
+    float width = 0;
+};
+
+// Makes the strips of single elements.
+class BandMaker {
+public:
+    BandMaker(ReportData& rows, TextMeasure& texts, FontTable& fontTable);
+
+    bool Holds(const std::optional<Expression>& condition);
+
+    // The font of a look; what isn't said comes from the template.
+    FontSpec Font(const TextLook& look) const;
+
+    // A text that breaks into lines, at a height of the strip; the strip grows with it.
+    void AddWrapped(Band& band, const QString& text, const TextLook& look, Stretch stretch);
+
+    // The strips of a text, a rule, a space or pairs.
+    void MakeSimple(const TemplateElement& element, Stretch stretch, std::deque<Band>& bands);
+
+    ReportData& Data;
+    TextMeasure& Measure;
+    FontTable& Fonts;
+    const TemplateTable* Recorded = nullptr; // whose rows are kept for the table of a spreadsheet
+
+private:
+    void MakePairs(const TemplateElement& element, Stretch stretch, std::deque<Band>& bands);
+};
+
+// The strips of a chart: one.
+Band MakeChart(const TemplateElement& element, BandMaker& maker, Stretch stretch);
+
+// A part of a template that gives its strips one after the other, reading rows as it goes.
+class BandStream {
+public:
+    virtual ~BandStream() = default;
+
+    // Puts the next strip into `band`, which is empty; false at the end.
+    virtual bool Next(Band& band) = 0;
+};
+
+// The elements of a template one under the other.
+std::unique_ptr<BandStream> MakeFlow(
+    const std::vector<TemplateElement>& elements, BandMaker& maker, Stretch stretch);
+
+// The rows of a table with their heads, groups and totals.
+std::unique_ptr<BandStream> MakeTable(const TemplateElement& element, BandMaker& maker, Stretch stretch);
+
+// What is taken over from `inner`, and from `outer` where that says nothing.
+TextLook Merge(const TextLook& outer, const TextLook& inner);

@@ -1,0 +1,155 @@
+#include "Evaluation.h"
+
+#include "Dates.h"
+#include "Numbers.h"
+#include "ReportData.h"
+
+#include <cmath>
+
+namespace {
+
+Value EvaluateField(const Expression& field, ReportData& data)
+{
+    const Row* const row = data.CurrentRow(field.source);
+    if (!row)
+        return {};
+    const Value& value = (*row)[static_cast<std::size_t>(field.column)];
+    return value.kind == Value::Kind::Text && !field.isPlain ? Value::OfText(data.Seen(value.text)) : value;
+}
+
+Value EvaluateArithmetic(const Expression& expression, ReportData& data)
+{
+    const double first = Evaluate(expression.arguments[0], data).Number();
+    if (expression.operation == Operation::Negate)
+        return Value::OfNumber(-first);
+    if (expression.operation == Operation::Absolute)
+        return Value::OfNumber(std::abs(first));
+    const double second = Evaluate(expression.arguments[1], data).Number();
+    switch (expression.operation) {
+    case Operation::Add:
+        return Value::OfNumber(first + second);
+    case Operation::Subtract:
+        return Value::OfNumber(first - second);
+    case Operation::Multiply:
+        return Value::OfNumber(first * second);
+    default:
+        // An average of nothing is nothing.
+        return Value::OfNumber(second == 0 ? 0 : first / second);
+    }
+}
+
+bool EvaluateComparison(const Expression& expression, ReportData& data)
+{
+    const int order =
+        Compare(Evaluate(expression.arguments[0], data), Evaluate(expression.arguments[1], data));
+    switch (expression.operation) {
+    case Operation::Equal:
+        return order == 0;
+    case Operation::NotEqual:
+        return order != 0;
+    case Operation::Less:
+        return order < 0;
+    case Operation::LessOrEqual:
+        return order <= 0;
+    case Operation::Greater:
+        return order > 0;
+    default:
+        return order >= 0;
+    }
+}
+
+bool EvaluateLogic(const Expression& expression, ReportData& data)
+{
+    const bool first = Evaluate(expression.arguments[0], data).Truth();
+    if (expression.operation == Operation::Not)
+        return !first;
+    if (first == (expression.operation == Operation::Or))
+        return first;
+    return Evaluate(expression.arguments[1], data).Truth();
+}
+
+// A total outside of a table: the source is walked through for it.
+Value EvaluateOverSource(const Expression& aggregate, ReportData& data)
+{
+    Accumulator total;
+    RowWalk walk(data, aggregate.source);
+    const Row* const before = data.Walked(aggregate.source);
+    Row row;
+    while (walk.Next(row)) {
+        data.SetCurrent(aggregate.source, &row);
+        total.Add(aggregate, data);
+    }
+    data.SetCurrent(aggregate.source, before);
+    return total.Result(aggregate);
+}
+
+Value EvaluateAggregate(const Expression& aggregate, ReportData& data)
+{
+    if (aggregate.slot < 0)
+        return EvaluateOverSource(aggregate, data);
+    const int level = aggregate.aggregate == AggregateKind::Running ? aggregate.group + 1 : data.TotalsLevel;
+    return data.Totals ? data.Totals->Result(aggregate.slot, level) : Value();
+}
+
+}
+
+Value Evaluate(const Expression& expression, ReportData& data)
+{
+    switch (expression.operation) {
+    case Operation::Number:
+        return Value::OfNumber(expression.number);
+    case Operation::Text:
+        return Value::OfText(expression.text);
+    case Operation::Field:
+        return EvaluateField(expression, data);
+    case Operation::Page:
+        return Value::OfNumber(data.Page);
+    case Operation::PageCount:
+        return Value::OfText(QString(PageCountMark));
+    case Operation::Variable:
+        return data.Variable(expression.text);
+    case Operation::Negate:
+    case Operation::Add:
+    case Operation::Subtract:
+    case Operation::Multiply:
+    case Operation::Divide:
+    case Operation::Absolute:
+        return EvaluateArithmetic(expression, data);
+    case Operation::Equal:
+    case Operation::NotEqual:
+    case Operation::Less:
+    case Operation::LessOrEqual:
+    case Operation::Greater:
+    case Operation::GreaterOrEqual:
+        return Value::OfTruth(EvaluateComparison(expression, data));
+    case Operation::And:
+    case Operation::Or:
+    case Operation::Not:
+        return Value::OfTruth(EvaluateLogic(expression, data));
+    case Operation::If:
+        return Evaluate(expression.arguments[Evaluate(expression.arguments[0], data).Truth() ? 1 : 2], data);
+    case Operation::Aggregate:
+        return EvaluateAggregate(expression, data);
+    }
+    return {};
+}
+
+QString Printed(const Value& value, const TextPiece& piece)
+{
+    if (piece.formatKind == FormatKind::Number
+        && (value.kind == Value::Kind::Number || (value.kind == Value::Kind::Text && IsNumeric(value.text))))
+        return Format(value.Number(), piece.format);
+    if (piece.formatKind == FormatKind::Date && value.kind == Value::Kind::Date)
+        return Format(value.date, piece.format);
+    return value.Text();
+}
+
+QString Fill(const TemplateText& text, ReportData& data)
+{
+    if (text.IsOneExpression())
+        return Printed(Evaluate(*text.pieces.front().expression, data), text.pieces.front());
+    QString filled;
+    for (const TextPiece& piece : text.pieces)
+        filled += piece.expression ? Printed(Evaluate(*piece.expression, data), piece) : piece.characters;
+    return filled;
+}

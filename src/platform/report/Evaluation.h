@@ -1,0 +1,52 @@
+#pragma once
+
+#include "ExactSum.h"
+#include "TemplateText.h"
+
+#include <vector>
+
+class ReportData;
+
+// Stands in a text for the number of pages until that is known.
+inline constexpr QChar PageCountMark = QChar(0xFDD0);
+
+// The value of a checked expression for the rows that are current.
+Value Evaluate(const Expression& expression, ReportData& data);
+
+// A value as it is printed: by the format, or else as it is. Null and a text have no format.
+QString Printed(const Value& value, const TextPiece& piece);
+
+// A text of a template with its expressions worked out.
+QString Fill(const TemplateText& text, ReportData& data);
+
+// One total in the making.
+class Accumulator {
+public:
+    // Takes the current rows in.
+    void Add(const Expression& aggregate, ReportData& data);
+    Value Result(const Expression& aggregate) const;
+
+private:
+    ExactSum m_sum;
+    ExactSum m_weight;
+    double m_count = 0;
+    Value m_extreme;
+};
+
+// The totals of a table: one line of them for the whole table, and one for each of its groups.
+class Accumulators {
+public:
+    Accumulators(const std::vector<Expression>& aggregates, std::size_t groups);
+
+    // Takes the current row of the table in.
+    void Add(ReportData& data);
+
+    // A group begins, and with it all groups inside it.
+    void Begin(std::size_t group);
+
+    Value Result(int slot, int level) const;
+
+private:
+    const std::vector<Expression>& m_aggregates;
+    std::vector<std::vector<Accumulator>> m_levels;
+};

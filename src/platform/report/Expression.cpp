@@ -1,0 +1,148 @@
+#include "Expression.h"
+
+#include "Dates.h"
+#include "ExactSum.h"
+#include "Numbers.h"
+#include "RunTimeError.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+Value Value::OfNumber(double number)
+{
+    Value value;
+    value.kind = Kind::Number;
+    value.number = number;
+    return value;
+}
+
+Value Value::OfText(QString text)
+{
+    Value value;
+    value.kind = Kind::Text;
+    value.text = std::move(text);
+    return value;
+}
+
+Value Value::OfDate(QDate date)
+{
+    Value value;
+    value.kind = date.isValid() ? Kind::Date : Kind::Null;
+    value.date = date;
+    return value;
+}
+
+Value Value::OfTruth(bool truth)
+{
+    Value value;
+    value.kind = Kind::Truth;
+    value.number = truth ? 1 : 0;
+    return value;
+}
+
+double Value::Number() const
+{
+    if (kind == Kind::Number || kind == Kind::Truth)
+        return number;
+    return kind == Kind::Text ? Val(text) : 0;
+}
+
+QString Value::Text() const
+{
+    switch (kind) {
+    case Kind::Number:
+        return ShortestDecimal(number);
+    case Kind::Text:
+        return text;
+    case Kind::Date:
+        return DateText(date);
+    case Kind::Null:
+    case Kind::Truth:
+        break;
+    }
+    return {};
+}
+
+int Compare(const Value& first, const Value& second)
+{
+    using Kind = Value::Kind;
+    const auto sign = [](const auto& a, const auto& b) { return a < b ? -1 : b < a ? 1 : 0; };
+    if (first.kind == Kind::Text || second.kind == Kind::Text) {
+        const QString a = first.Text();
+        const QString b = second.Text();
+        return std::clamp(QStringView(a).trimmed().compare(QStringView(b).trimmed()), -1, 1);
+    }
+    if (first.kind == Kind::Date || second.kind == Kind::Date) {
+        if (first.kind != second.kind)
+            return first.kind == Kind::Date ? 1 : -1;
+        return sign(first.date, second.date);
+    }
+    return sign(first.Number(), second.Number());
+}
+
+bool Expression::Uses(Operation wanted) const
+{
+    return operation == wanted
+        || std::any_of(arguments.begin(), arguments.end(),
+            [wanted](const Expression& argument) { return argument.Uses(wanted); });
+}
+
+std::optional<ValueType> VariableType(QStringView name)
+{
+    if (name == u"society" || name == u"year")
+        return ValueType::Text;
+    if (name == u"from" || name == u"to")
+        return ValueType::Date;
+    return std::nullopt;
+}
+
+namespace {
+
+constexpr std::array<std::int64_t, ExactSum::Places + 1> Powers = {1, 10, 100, 1000, 10000, 100000, 1000000};
+
+[[noreturn]] void ThrowTooLarge()
+{
+    throw RunTimeError(
+        RunTimeError::Overflow, QStringLiteral("Overflow: a total of the report is too large."));
+}
+
+// In units of the last place. The product is nearest to the decimal that the number was made from.
+std::int64_t ToUnits(long double number)
+{
+    constexpr long double Limit = 9.2e18L;
+    const long double units = std::round(number * Powers[ExactSum::Places]);
+    if (!(std::abs(units) < Limit))
+        ThrowTooLarge();
+    return static_cast<std::int64_t>(units);
+}
+
+std::int64_t RoundUnits(std::int64_t units, std::int64_t step)
+{
+    const std::int64_t half = units < 0 ? -(step / 2) : step / 2;
+    return (units + half) / step * step;
+}
+
+}
+
+void ExactSum::AddUnits(std::int64_t units)
+{
+    if (__builtin_add_overflow(m_units, units, &m_units))
+        ThrowTooLarge();
+}
+
+void ExactSum::Add(double number, int decimals)
+{
+    const std::size_t dropped = static_cast<std::size_t>(Places - std::clamp(decimals, 0, Places));
+    AddUnits(RoundUnits(ToUnits(number), Powers[dropped]));
+}
+
+void ExactSum::AddProduct(double first, double second)
+{
+    AddUnits(ToUnits(static_cast<long double>(first) * second));
+}
+
+double ExactSum::Number() const
+{
+    return static_cast<double>(m_units) / static_cast<double>(Powers[Places]);
+}

@@ -1,0 +1,55 @@
+#include "OutputFile.h"
+
+#include <QDir>
+#include <QSaveFile>
+
+namespace {
+
+Outcome Failed(const QString& file, const QString& why)
+{
+    return {QStringLiteral("फाइल लिहिता आली नाही. डिस्कवर जागा आहे का ते पाहा.\n%1: %2")
+                .arg(QDir::toNativeSeparators(file), why)};
+}
+
+QString Quoted(const QString& cell)
+{
+    const bool needsQuotes =
+        cell.contains(u',') || cell.contains(u'"') || cell.contains(u'\n') || cell.contains(u'\r');
+    if (!needsQuotes)
+        return cell;
+    QString inside = cell;
+    inside.replace(QStringLiteral("\""), QStringLiteral("\"\""));
+    return QStringLiteral("\"") + inside + QStringLiteral("\"");
+}
+
+}
+
+Outcome WriteWhole(const QString& file, const std::function<bool(QIODevice&)>& write)
+{
+    QSaveFile target(file);
+    if (!target.open(QIODevice::WriteOnly))
+        return Failed(file, target.errorString());
+    // What is still in the buffer has to meet the disk here: the commit doesn't notice its loss.
+    if (!write(target) || !target.flush()) {
+        const QString why = target.errorString();
+        target.cancelWriting();
+        return Failed(file, why);
+    }
+    return target.commit() ? Outcome() : Failed(file, target.errorString());
+}
+
+bool WriteCsv(QIODevice& device, const std::vector<QStringList>& rows)
+{
+    if (device.write("\xEF\xBB\xBF") < 0)
+        return false;
+    for (const QStringList& row : rows) {
+        QStringList cells;
+        cells.reserve(row.size());
+        for (const QString& cell : row)
+            cells.append(Quoted(cell));
+        const QByteArray line = cells.join(u',').toUtf8() + QByteArrayLiteral("\r\n");
+        if (device.write(line) != line.size())
+            return false;
+    }
+    return true;
+}

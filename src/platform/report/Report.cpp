@@ -1,0 +1,96 @@
+#include "Report.h"
+
+#include "Drawing.h"
+#include "Evaluation.h"
+#include "OutputFile.h"
+#include "ReportFiller.h"
+
+#include <QTemporaryFile>
+
+Report::Report(ReportTemplate report, std::shared_ptr<Connection> connection, Selection selection)
+    : m_template(std::move(report))
+    , m_connection(std::move(connection))
+    , m_filler(std::make_unique<ReportFiller>(m_template, *m_connection, std::move(selection), m_fonts))
+    , m_painter(std::make_unique<PagePainter>(m_fonts))
+{
+}
+
+Report::~Report() = default;
+
+bool Report::LayOutNext()
+{
+    if (!m_filler)
+        return false;
+    Page page;
+    if (m_filler->NextPage(page)) {
+        m_pages.push_back(std::move(page));
+        return true;
+    }
+    m_records = m_filler->Records();
+    m_filler.reset();
+    FillInPageCount();
+    return false;
+}
+
+void Report::FillInPageCount()
+{
+    const QString count = QString::number(m_pages.size());
+    for (Page& page : m_pages) {
+        for (const quint32 item : page.waiting)
+            page.items[item].text.replace(PageCountMark, count);
+        page.waiting.clear();
+    }
+}
+
+void Report::Complete()
+{
+    while (LayOutNext()) { }
+}
+
+QImage Report::Image(std::size_t page, double scale)
+{
+    return m_painter->Image(m_pages.at(page), scale);
+}
+
+std::vector<Report::Found> Report::Search(const QString& text) const
+{
+    std::vector<Found> all;
+    if (text.isEmpty())
+        return all;
+    for (std::size_t page = 0; page < m_pages.size(); ++page) {
+        for (const PlacedItem& item : m_pages[page].items) {
+            if (item.text.contains(text, Qt::CaseInsensitive))
+                all.push_back({page, item.Rect()});
+        }
+    }
+    return all;
+}
+
+bool Report::WritePdf(QIODevice& device)
+{
+    return m_painter->WritePdf(
+        device, m_template.name, m_pages.size(), [this](std::size_t i) -> const Page& { return m_pages[i]; });
+}
+
+Outcome Report::SavePdf(const QString& file)
+{
+    Complete();
+    return WriteWhole(file, [this](QIODevice& device) { return WritePdf(device); });
+}
+
+Outcome Report::SaveCsv(const QString& file)
+{
+    Complete();
+    return WriteWhole(file, [this](QIODevice& device) { return WriteCsv(device, m_records); });
+}
+
+Outcome Report::Print(Printer& printer, const QString& printerName)
+{
+    Complete();
+    QTemporaryFile pdf;
+    if (!pdf.open() || !WritePdf(pdf) || !pdf.flush())
+        return {QStringLiteral("छपाईसाठी तात्पुरती फाइल लिहिता आली नाही. डिस्कवर जागा आहे का ते पाहा.\n%1")
+                    .arg(pdf.errorString())};
+    const Page& first = m_pages.front();
+    return printer.Print({pdf.fileName(), m_template.name, printerName, QSizeF(first.width, first.height)});
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Report.h"
+
+#include <functional>
+
+// Where a report is shown, and where the machine's refusals are told. Whoever installs one owns it.
+class ReportWindow {
+public:
+    virtual ~ReportWindow() = default;
+
+    // Shows a report whose first page has been laid out; the window lays out the rest when it has time, and
+    // keeps the report as long as it is looked at.
+    virtual void Show(std::shared_ptr<Report> report) = 0;
+
+    // Tells the clerk one sentence, such as why nothing was printed.
+    virtual void Tell(const QString& sentence) = 0;
+};
+
+// What the report controls of the screens work with.
+struct ReportSurroundings {
+    ReportWindow* window = nullptr;
+    Printer* printer = nullptr;
+    std::function<QString(const QString&)> localPath; // where a path of AppFolder lies on this machine
+
+    static ReportSurroundings& Current();
+};
+
+enum class ReportDestination { Window = 0, Printer = 1 };
+
+// The report control of a screen: it is told the template, the logon, the selection and the destination, and
+// reads the staging tables itself.
+class ReportControl {
+public:
+    // The template's full path under AppFolder.
+    void SetReportFileName(const QString& path) { m_file = path; }
+    const QString& ReportFileName() const { return m_file; }
+
+    // "dsn=VetrolanDSN;pwd=" and the password. The books are opened once for a logon and stay open for
+    // reading.
+    void SetLogon(const QString& logon) { m_logon = logon; }
+
+    // Narrows the first source of its table, as "{MilkPayments.PaymentDate} = DateTime (2026,4,1,00, 00,
+    // 00)".
+    void SetSelectionFormula(const QString& formula) { m_formula = formula; }
+
+    void SetDestination(ReportDestination destination) { m_destination = destination; }
+
+    // Runs the report and hands it over. A template that is missing or has faults, and a formula that can't
+    // be read, are run-time errors that show them all. A printer that refuses is told in the window, and
+    // false is returned.
+    bool Print();
+
+    // Ends the reading of all reports and closes the books that were opened for them; they are opened again
+    // when needed. To be called before the database file is copied or replaced.
+    static void CloseConnections();
+
+private:
+    std::shared_ptr<Report> Run() const;
+
+    QString m_file;
+    QString m_logon;
+    QString m_formula;
+    ReportDestination m_destination = ReportDestination::Window;
+};

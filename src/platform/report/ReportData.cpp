@@ -1,0 +1,216 @@
+#include "ReportData.h"
+
+#include "Evaluation.h"
+#include "RunTimeError.h"
+#include "Shivaji01.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr qsizetype MostSeenTexts = 20000;
+
+// What two linked rows share, as one text.
+QString KeyOf(const Row& row, const std::vector<int>& columns)
+{
+    QString key;
+    for (const int column : columns)
+        key += row[static_cast<std::size_t>(column)].Text().trimmed() + QChar(u'\x1f');
+    return key;
+}
+
+int FindSelected(const ReportTemplate& report, const Selection& selection)
+{
+    if (selection.table.isEmpty())
+        return -1;
+    const auto found =
+        std::find_if(report.sources.begin(), report.sources.end(), [&](const TemplateSource& source) {
+            return source.table.compare(selection.table, Qt::CaseInsensitive) == 0;
+        });
+    if (found == report.sources.end())
+        throw RunTimeError(RunTimeError::ItemNotFound,
+            QStringLiteral("The selection formula narrows the table %1, which the report %2 doesn't read.")
+                .arg(selection.table, report.file));
+    return static_cast<int>(found - report.sources.begin());
+}
+
+Value ToValue(const FieldValue& field, ValueType type)
+{
+    if (field.IsNull())
+        return {};
+    switch (type) {
+    case ValueType::Number:
+        return Value::OfNumber(field.Number());
+    case ValueType::Date:
+        return Value::OfDate(field.Date());
+    default:
+        return Value::OfText(field.Text());
+    }
+}
+
+}
+
+ReportData::ReportData(const ReportTemplate& report, Connection& connection, Selection selection)
+    : m_report(report)
+    , m_connection(connection)
+    , m_selection(std::move(selection))
+    , m_selected(FindSelected(report, m_selection))
+    , m_current(report.sources.size(), nullptr)
+    , m_linked(report.sources.size())
+    , m_first(report.sources.size())
+{
+}
+
+ReportData::~ReportData() = default;
+
+QString ReportData::Query(const TemplateSource& source) const
+{
+    QStringList columns;
+    for (const SourceColumn& column : source.columns)
+        columns.append(column.name);
+    QString query = QStringLiteral("select ")
+        + (columns.isEmpty() ? QStringLiteral("*") : columns.join(QStringLiteral(",")))
+        + QStringLiteral(" from ") + source.table;
+    if (m_selected >= 0 && &source == &m_report.sources[static_cast<std::size_t>(m_selected)])
+        query += QStringLiteral(" where ") + m_selection.condition;
+    if (!source.order.isEmpty())
+        query += QStringLiteral(" order by ") + source.order;
+    return query;
+}
+
+Recordset ReportData::Open(int source)
+{
+    return Recordset(m_connection, Query(m_report.sources[static_cast<std::size_t>(source)]));
+}
+
+void ReportData::ReadRow(int source, const Recordset& rows, Row& row) const
+{
+    const std::vector<SourceColumn>& columns = m_report.sources[static_cast<std::size_t>(source)].columns;
+    row.resize(columns.size());
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        row[i] = ToValue(rows.At(static_cast<int>(i)), columns[i].type);
+}
+
+bool ReportData::Passes(int source, const Row& row)
+{
+    const std::optional<Expression>& only = m_report.sources[static_cast<std::size_t>(source)].only;
+    if (!only)
+        return true;
+    const Row* const before = Walked(source);
+    SetCurrent(source, &row);
+    const bool passes = Evaluate(*only, *this).Truth();
+    SetCurrent(source, before);
+    return passes;
+}
+
+const ReportData::RowsByKey& ReportData::Linked(int source)
+{
+    std::unique_ptr<RowsByKey>& linked = m_linked[static_cast<std::size_t>(source)];
+    if (linked)
+        return *linked;
+    linked = std::make_unique<RowsByKey>();
+    const TemplateSource& from = m_report.sources[static_cast<std::size_t>(source)];
+    Row row;
+    for (Recordset rows = Open(source); !rows.Eof(); rows.MoveNext()) {
+        ReadRow(source, rows, row);
+        if (Passes(source, row))
+            (*linked)[KeyOf(row, from.linkColumns)].push_back(row);
+    }
+    return *linked;
+}
+
+const std::vector<Row>& ReportData::LinkedRows(int source)
+{
+    static const std::vector<Row> none;
+    const TemplateSource& from = m_report.sources[static_cast<std::size_t>(source)];
+    const Row* const parent = CurrentRow(from.parent);
+    if (!parent)
+        return none;
+    const RowsByKey& linked = Linked(source);
+    const auto found = linked.constFind(KeyOf(*parent, from.parentColumns));
+    return found == linked.constEnd() ? none : found.value();
+}
+
+const Row* ReportData::FirstRow(int source)
+{
+    std::unique_ptr<std::vector<Row>>& first = m_first[static_cast<std::size_t>(source)];
+    if (!first) {
+        first = std::make_unique<std::vector<Row>>(1);
+        if (!RowWalk(*this, source).Next(first->front()))
+            first->clear();
+    }
+    return first->empty() ? nullptr : first->data();
+}
+
+const Row* ReportData::CurrentRow(int source)
+{
+    if (const Row* const walked = Walked(source))
+        return walked;
+    if (m_report.sources[static_cast<std::size_t>(source)].parent < 0)
+        return FirstRow(source);
+    const std::vector<Row>& linked = LinkedRows(source);
+    return linked.empty() ? nullptr : linked.data();
+}
+
+Value ReportData::Variable(const QString& name)
+{
+    if (m_variables.isEmpty()) {
+        const Recordset company(m_connection, QStringLiteral("select * from CompanySelected"));
+        if (!company.Eof()) {
+            m_variables[QStringLiteral("society")] =
+                Value::OfText(Shivaji01::ToUnicode(company[u"CompanyName"].Text()));
+            m_variables[QStringLiteral("year")] = Value::OfText(company[u"AccountingYear"].Text());
+        }
+        const Recordset dates(m_connection, QStringLiteral("select * from ReportDates"));
+        if (!dates.Eof()) {
+            m_variables[QStringLiteral("from")] = Value::OfDate(dates[u"FromDate"].Date());
+            m_variables[QStringLiteral("to")] = Value::OfDate(dates[u"ToDate"].Date());
+        }
+        m_variables[QString()] = {};
+    }
+    return m_variables.value(name);
+}
+
+QString ReportData::Seen(const QString& stored)
+{
+    const auto known = m_seen.constFind(stored);
+    if (known != m_seen.constEnd())
+        return known.value();
+    if (m_seen.size() >= MostSeenTexts)
+        m_seen.clear();
+    const QString seen = Shivaji01::ToUnicode(stored);
+    m_seen.insert(stored, seen);
+    return seen;
+}
+
+RowWalk::RowWalk(ReportData& data, int source) : m_data(data), m_source(source)
+{
+    if (data.Template().sources[static_cast<std::size_t>(source)].parent >= 0)
+        m_linked = &data.LinkedRows(source);
+    else
+        m_rows = std::make_unique<Recordset>(data.Open(source));
+}
+
+bool RowWalk::Next(Row& row)
+{
+    return m_linked ? NextLinked(row) : NextOwn(row);
+}
+
+bool RowWalk::NextLinked(Row& row)
+{
+    if (m_at == m_linked->size())
+        return false;
+    row = (*m_linked)[m_at++];
+    return true;
+}
+
+bool RowWalk::NextOwn(Row& row)
+{
+    while (!m_rows->Eof()) {
+        m_data.ReadRow(m_source, *m_rows, row);
+        m_rows->MoveNext();
+        if (m_data.Passes(m_source, row))
+            return true;
+    }
+    return false;
+}

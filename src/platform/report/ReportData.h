@@ -1,0 +1,91 @@
+#pragma once
+
+#include "Recordset.h"
+#include "ReportTemplate.h"
+#include "SelectionFormula.h"
+
+#include <QHash>
+
+#include <memory>
+#include <vector>
+
+// One row of a source: the columns that the template uses, texts as they are stored.
+using Row = std::vector<Value>;
+
+class Accumulators;
+
+// What the expressions of a template look at while it is filled: the rows that are being walked through, the
+// rows linked to them, the totals so far, and the number of the page.
+class ReportData {
+public:
+    // Reads the tables of a checked template through an open connection, each when it is first needed.
+    ReportData(const ReportTemplate& report, Connection& connection, Selection selection);
+    ~ReportData();
+
+    const ReportTemplate& Template() const { return m_report; }
+
+    // The row that a field of a source stands for now: the one being walked through; else the first of those
+    // linked to the parent's row; else the source's first. nullptr if there is none.
+    const Row* CurrentRow(int source);
+
+    // Walking sets the row that is being walked through, and nullptr when it has ended.
+    void SetCurrent(int source, const Row* row) { m_current[static_cast<std::size_t>(source)] = row; }
+    const Row* Walked(int source) const { return m_current[static_cast<std::size_t>(source)]; }
+
+    // $society and its like.
+    Value Variable(const QString& name);
+
+    // A stored text as the eye sees it.
+    QString Seen(const QString& stored);
+
+    // The rows that hang on the parent's current row; the walk through a source without a parent reads its
+    // own.
+    const std::vector<Row>& LinkedRows(int source);
+
+    // Opens a source's rows, in its order.
+    Recordset Open(int source);
+    void ReadRow(int source, const Recordset& rows, Row& row) const;
+
+    // Whether the source's own condition lets a row pass.
+    bool Passes(int source, const Row& row);
+
+    int Page = 0;
+    const Accumulators* Totals = nullptr; // of the table being filled
+    int TotalsLevel = 0; // 0: the whole table; n: its n-th group
+
+private:
+    using RowsByKey = QHash<QString, std::vector<Row>>;
+
+    QString Query(const TemplateSource& source) const;
+    const RowsByKey& Linked(int source);
+    const Row* FirstRow(int source);
+
+    const ReportTemplate& m_report;
+    Connection& m_connection;
+    Selection m_selection;
+    int m_selected = -1; // the source that the selection narrows
+    std::vector<const Row*> m_current;
+    std::vector<std::unique_ptr<RowsByKey>> m_linked;
+    std::vector<std::unique_ptr<std::vector<Row>>> m_first; // one row, or none
+    QHash<QString, Value> m_variables;
+    QHash<QString, QString> m_seen;
+};
+
+// A walk through the rows of a source: all of it, or those that hang on the parent's current row.
+class RowWalk {
+public:
+    RowWalk(ReportData& data, int source);
+
+    // Puts the next row into `row`; false at the end.
+    bool Next(Row& row);
+
+private:
+    bool NextOwn(Row& row);
+    bool NextLinked(Row& row);
+
+    ReportData& m_data;
+    int m_source;
+    std::unique_ptr<Recordset> m_rows;
+    const std::vector<Row>* m_linked = nullptr;
+    std::size_t m_at = 0;
+};

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Bands.h"
+
+#include <optional>
+
+// Fills a checked template: reads rows as it goes and gives one page after the other.
+class ReportFiller {
+public:
+    ReportFiller(const ReportTemplate& report, Connection& connection, Selection selection, FontTable& fonts);
+    ~ReportFiller();
+
+    // Lays out the next page; false when there is none any more. A report without a row has one page.
+    bool NextPage(Page& page);
+
+    // The rows of the template's first table that stand on the pages so far, for a spreadsheet; without a
+    // table the row of its first source. The heads come first.
+    const std::vector<QStringList>& Records() const { return m_records; }
+
+private:
+    // A page in the making.
+    struct Sheet {
+        Page page;
+        float y = 0; // where the next strip goes
+        float end = 0; // where the foot of the page begins
+        bool isEmpty = true; // nothing but its head stands on it
+        std::vector<Band> footer;
+    };
+    using Lanes = std::vector<std::deque<Band>>;
+
+    Sheet BeginSheet();
+    void EndSheet(Sheet& sheet);
+    std::vector<Band> MakeEdge(const std::vector<TemplateElement>& elements);
+    bool Fetch();
+    std::size_t ChainLength();
+    bool PlaceChain(Sheet& sheet);
+    bool PlaceNext(Sheet& sheet);
+    void Place(Sheet& sheet, Band& band);
+    void Put(Sheet& sheet, Band& band, float y, float& height);
+    bool ContinueLanes(Sheet& sheet);
+    bool FillLane(Sheet& sheet, std::deque<Band>& lane, float top, float& bottom);
+    void SplitFront(std::deque<Band>& bands, float room);
+    float HeightAtTop(const Band& band) const;
+    void AddRepeated(Sheet& sheet, const Band& band);
+    void MakeRecordHeads();
+    void Record(const QStringList& record);
+
+    const ReportTemplate& m_report;
+    ReportData m_data;
+    TextMeasure m_measure;
+    BandMaker m_maker;
+    std::unique_ptr<BandStream> m_flow;
+    std::deque<Band> m_waiting; // strips that are made and not yet placed
+    Lanes m_lanes; // what is left of strips side by side
+    bool m_hasEnded = false; // the flow gives no more strips
+    bool m_isDone = false;
+    std::vector<QStringList> m_records;
+};

@@ -1,0 +1,56 @@
+#include "ReportPages.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+QString Whole(float number)
+{
+    return QString::number(std::lround(number));
+}
+
+QString Place(const PlacedItem& item)
+{
+    return Whole(item.x) + QStringLiteral(",") + Whole(item.y) + QStringLiteral(" ") + Whole(item.width)
+        + QStringLiteral("x") + Whole(item.height);
+}
+
+QString DescribeText(const PlacedItem& item, const FontSpec& font)
+{
+    constexpr QStringView Aligns[] = {u"left", u"center", u"right"};
+    return QStringLiteral("text ") + Place(item) + QStringLiteral(" ")
+        + Aligns[static_cast<std::size_t>(item.align)]
+        + (font.isBold ? QStringLiteral(" bold ") : QStringLiteral(" ")) + QString::number(font.size)
+        + QStringLiteral(": ") + item.text;
+}
+
+}
+
+QRectF PlacedItem::Rect() const
+{
+    return QRectF(x, y, width, height).normalized();
+}
+
+quint16 FontTable::Add(const FontSpec& font)
+{
+    const auto known = std::find(m_fonts.begin(), m_fonts.end(), font);
+    const std::ptrdiff_t index = known - m_fonts.begin();
+    if (known == m_fonts.end())
+        m_fonts.push_back(font);
+    return static_cast<quint16>(index);
+}
+
+QStringList Describe(const Page& page, const FontTable& fonts)
+{
+    QStringList lines{QStringLiteral("page ") + Whole(page.width) + QStringLiteral("x") + Whole(page.height)};
+    for (const PlacedItem& item : page.items) {
+        if (item.kind == PlacedItem::Kind::Text)
+            lines.append(DescribeText(item, fonts.At(item.font)));
+        else
+            lines.append(
+                (item.kind == PlacedItem::Kind::Line ? QStringLiteral("line ") : QStringLiteral("box "))
+                + Place(item) + QStringLiteral(" gray ") + QString::number(item.gray));
+    }
+    return lines;
+}

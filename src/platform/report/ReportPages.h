@@ -1,0 +1,54 @@
+#pragma once
+
+#include "ReportTemplate.h"
+
+#include <QRectF>
+#include <QString>
+
+#include <vector>
+
+// A font of a report's pages.
+struct FontSpec {
+    QString family;
+    float size = 10; // points
+    bool isBold = false;
+    bool operator==(const FontSpec&) const = default;
+};
+
+// What a text does that is wider than its place: figures are never cut.
+enum class Fit : quint8 { Wrap, Cut, Shrink };
+
+// One thing on a page, in points from the page's upper left corner.
+struct PlacedItem {
+    enum class Kind : quint8 { Text, Line, Box };
+    Kind kind = Kind::Text;
+    Align align = Align::Left;
+    Fit fit = Fit::Wrap;
+    quint8 gray = 0; // of a line or a box: 0 is black, 255 is white
+    quint16 font = 0; // among the fonts of the report
+    float x = 0, y = 0, width = 0, height = 0; // a line goes from (x, y) to (x + width, y + height)
+    float weight = 0; // of a line
+    QString text;
+
+    QRectF Rect() const;
+};
+
+struct Page {
+    float width = 0, height = 0;
+    std::vector<PlacedItem> items;
+    std::vector<quint32> waiting; // the items whose text waits for the number of pages
+};
+
+// The fonts of a report's pages, each once.
+class FontTable {
+public:
+    quint16 Add(const FontSpec& font);
+    const FontSpec& At(quint16 index) const { return m_fonts[index]; }
+
+private:
+    std::vector<FontSpec> m_fonts;
+};
+
+// All items of a page as lines of text, for looking at by eye and in tests:
+// "text 34,20 538x14 right bold 10: संकलन"
+QStringList Describe(const Page& page, const FontTable& fonts);

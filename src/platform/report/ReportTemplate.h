@@ -1,0 +1,181 @@
+#pragma once
+
+#include "Paper.h"
+#include "TemplateText.h"
+
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class Connection;
+
+// What is wrong with a template, and where.
+struct TemplateFault {
+    QString file;
+    int line = 0;
+    QString text;
+
+    // "file:line: text"
+    QString Line() const;
+};
+using TemplateFaults = std::vector<TemplateFault>;
+
+enum class Align : quint8 { Left, Center, Right };
+
+// How a text of a template looks; what isn't said is taken from what stands around it.
+struct TextLook {
+    std::optional<Align> align;
+    std::optional<bool> isBold;
+    double size = 0; // points; 0: as around it
+};
+
+// A width of a template: millimetres, or a share of what is left.
+struct WidthRule {
+    double millimetres = 0;
+    bool isShare = true;
+};
+
+// A column that a source reads of its table.
+struct SourceColumn {
+    QString name;
+    ValueType type = ValueType::Unknown;
+};
+
+// A table or view that a report reads.
+struct TemplateSource {
+    int line = 0;
+    QString name;
+    QString table;
+    QString order;
+    QStringList link; // the columns that it shares with the source that it hangs on
+    QString parentName;
+    std::optional<Expression> only; // rows for which this doesn't hold are passed over
+
+    // Found by the check.
+    int parent = -1;
+    std::vector<SourceColumn> columns; // those that the template uses
+    std::vector<int> linkColumns, parentColumns;
+};
+
+struct TemplateElement;
+
+struct TemplatePair {
+    int line = 0;
+    TemplateText label, value;
+    std::optional<Expression> condition;
+    TextLook look;
+};
+
+struct TemplateLane {
+    int line = 0;
+    WidthRule width;
+    std::vector<TemplateElement> elements;
+};
+
+struct TemplateColumn {
+    int line = 0;
+    WidthRule width;
+    TemplateText head, cell;
+    TextLook look;
+    bool wraps = false;
+    std::optional<Expression> total; // what stands in the foot of a group and at the end
+    bool totalIsOwnSum = false; // total="sum": the sum of the figures as printed
+};
+
+// A cell above the column heads that stretches over several of them.
+struct TemplateSpan {
+    int columns = 1;
+    TemplateText text;
+    TextLook look;
+};
+
+struct TemplateGroup {
+    int line = 0;
+    Expression by;
+    QString name; // the text of `by`, as running(x by name) names it
+    TemplateText head, foot;
+    int keep = 1; // rows that stay with the head
+    bool newPage = false;
+};
+
+struct TemplateTable {
+    int source = -1;
+    QString sourceName;
+    std::optional<Expression> only;
+    std::vector<TemplateSpan> spans;
+    std::vector<TemplateColumn> columns;
+    std::vector<TemplateGroup> groups;
+    std::optional<TemplateText> totalLabel;
+    int totalLine = 0;
+    bool hasHeads = false;
+    bool hasLines = false; // a thin rule under each row
+
+    // Found by the check.
+    std::vector<Expression> aggregates; // those of the totals, each once
+};
+
+struct TemplateSeries {
+    int line = 0;
+    TemplateText label;
+    Expression value;
+};
+
+struct TemplateChart {
+    int source = -1;
+    QString sourceName;
+    bool isLine = false; // else bars
+    double height = 60; // millimetres
+    TemplateText title, x;
+    std::optional<Expression> only;
+    std::vector<TemplateSeries> series;
+};
+
+enum class ElementKind : quint8 { Text, Rule, Space, PageBreak, Pairs, Columns, Each, Table, Chart };
+
+// One element of a template's flow; which members count goes by its kind.
+struct TemplateElement {
+    ElementKind kind = ElementKind::Text;
+    int line = 0;
+    std::optional<Expression> condition;
+    TextLook look;
+    TemplateText text; // Text
+    double size = 0; // Rule: points of its weight; Space: millimetres; Pairs: of the labels; Columns: the gap
+    bool keep = false; // Text, Rule: stays with what follows; Each: stays on one page
+    bool newPage = false; // Each: every row begins a page
+    std::vector<TemplatePair> pairs;
+    std::vector<TemplateLane> lanes;
+    int source = -1; // Each
+    QString sourceName;
+    std::vector<TemplateElement> children; // Each
+    std::unique_ptr<TemplateTable> table;
+    std::unique_ptr<TemplateChart> chart;
+};
+
+// A whole template: the sheet, what it reads, and what it prints from top to bottom.
+struct ReportTemplate {
+    QString file;
+    QString name;
+    QString title; // what the clerk knows the report by; empty: the name
+    Paper paper;
+    QString fontFamily;
+    double fontSize = 10;
+    std::vector<TemplateSource> sources;
+    std::vector<TemplateElement> header, footer, body;
+    int headerLine = 0;
+
+    // Reads a template file. Everything that is wrong with it is added to the faults; a template with faults
+    // is for nothing but finding more of them.
+    static ReportTemplate Read(const QString& file, TemplateFaults& faults);
+
+    // The same for the text of a template; `file` names it in the faults.
+    static ReportTemplate ReadText(const QString& text, const QString& file, TemplateFaults& faults);
+};
+
+// Compares a template with the tables of an open connection and with its paper, and binds its names to them:
+// only a template that was checked without faults can be filled. No row is read.
+TemplateFaults Check(ReportTemplate& report, Connection& connection);
+
+// Widths in points for rules of widths: the shares divide what is left.
+std::vector<double> DivideWidth(const std::vector<WidthRule>& rules, double width, double gap);

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+class Connection;
+
+// Which rows of a table a report is to show.
+struct Selection {
+    QString table; // empty: nothing is narrowed
+    QString condition; // in the words of a statement
+};
+
+// Reads a selection formula such as
+//   {MilkPayments.PaymentDate} = DateTime (2026,4,1,00, 00, 00) and {MilkPayments.Liters} > 0
+// with = <> < > <= >=, numbers, texts in quotes, Date(y,m,d), DateTime(y,m,d,h,m,s), and, or, not and
+// brackets. All its fields are of one table. An empty formula selects everything. A formula that can't be
+// read, or that names a column which isn't there, is a run-time error that shows it.
+Selection ReadSelectionFormula(const QString& formula, Connection& connection);

@@ -1,0 +1,290 @@
+#include "TemplateReader.h"
+
+#include <utility>
+
+namespace {
+
+constexpr double LargestLength = 1000;
+constexpr double HeaviestRule = 10;
+constexpr double MostRows = 100;
+
+}
+
+std::vector<TemplateElement> TemplateReader::ReadElements(Place place)
+{
+    std::vector<TemplateElement> elements;
+    while (m_xml.readNextStartElement()) {
+        if (std::optional<TemplateElement> element = ReadElement(place))
+            elements.push_back(std::move(*element));
+    }
+    return elements;
+}
+
+std::optional<TemplateElement> TemplateReader::ReadElement(Place place)
+{
+    constexpr std::pair<QStringView, ElementKind> Simple[] = {
+        {u"text", ElementKind::Text}, {u"rule", ElementKind::Rule}, {u"space", ElementKind::Space}};
+    const QStringView name = m_xml.name();
+    for (const auto& [word, kind] : Simple) {
+        if (name == word)
+            return ReadSimple(kind);
+    }
+    if (name == u"pairs")
+        return ReadPairs();
+    if (name == u"columns")
+        return ReadLanes(place);
+    if (place == Place::Flow) {
+        if (name == u"pagebreak")
+            return ReadSimple(ElementKind::PageBreak);
+        if (name == u"each")
+            return ReadEach();
+        if (name == u"table")
+            return ReadTable();
+        if (name == u"chart")
+            return ReadChart();
+    }
+    RefuseElement();
+    return std::nullopt;
+}
+
+TemplateElement TemplateReader::ReadSimple(ElementKind kind)
+{
+    ElementAttributes attributes(m_xml, *this);
+    TemplateElement element;
+    element.kind = kind;
+    element.line = attributes.Line();
+    element.condition = attributes.Condition(u"if");
+    if (kind == ElementKind::Text) {
+        element.look = attributes.Look();
+        element.keep = attributes.Flag(u"keep");
+    } else if (kind == ElementKind::Rule) {
+        element.size = attributes.Number(u"weight", 0.1, HeaviestRule, 0.5);
+        element.keep = attributes.Flag(u"keep");
+    } else if (kind == ElementKind::Space) {
+        element.size = attributes.Number(u"h", 0, LargestLength, 4);
+    }
+    attributes.Finish();
+    if (kind == ElementKind::Text)
+        element.text = ReadContent(element.line);
+    else
+        EndEmpty();
+    return element;
+}
+
+TemplateElement TemplateReader::ReadPairs()
+{
+    ElementAttributes attributes(m_xml, *this);
+    TemplateElement element;
+    element.kind = ElementKind::Pairs;
+    element.line = attributes.Line();
+    element.condition = attributes.Condition(u"if");
+    element.size = attributes.Number(u"labelw", 1, LargestLength, 0);
+    element.look = attributes.Look();
+    attributes.Finish();
+    while (m_xml.readNextStartElement()) {
+        if (m_xml.name() != u"pair") {
+            RefuseElement();
+            continue;
+        }
+        ElementAttributes own(m_xml, *this);
+        TemplatePair pair;
+        pair.line = own.Line();
+        pair.label = own.Template(u"label");
+        pair.condition = own.Condition(u"if");
+        pair.look = own.Look();
+        own.Finish();
+        pair.value = ReadContent(pair.line);
+        element.pairs.push_back(std::move(pair));
+    }
+    return element;
+}
+
+TemplateElement TemplateReader::ReadLanes(Place place)
+{
+    ElementAttributes attributes(m_xml, *this);
+    TemplateElement element;
+    element.kind = ElementKind::Columns;
+    element.line = attributes.Line();
+    element.condition = attributes.Condition(u"if");
+    element.size = attributes.Number(u"gap", 0, LargestLength, 3);
+    attributes.Finish();
+    while (m_xml.readNextStartElement()) {
+        if (m_xml.name() != u"column") {
+            RefuseElement();
+            continue;
+        }
+        ElementAttributes own(m_xml, *this);
+        TemplateLane lane;
+        lane.line = own.Line();
+        lane.width = own.Width();
+        own.Finish();
+        lane.elements = ReadElements(place);
+        element.lanes.push_back(std::move(lane));
+    }
+    if (element.lanes.empty())
+        Fault(element.line, QStringLiteral("<columns> has no <column>"));
+    return element;
+}
+
+TemplateElement TemplateReader::ReadEach()
+{
+    ElementAttributes attributes(m_xml, *this);
+    TemplateElement element;
+    element.kind = ElementKind::Each;
+    element.line = attributes.Line();
+    element.sourceName = attributes.Required(u"source");
+    element.condition = attributes.Condition(u"only");
+    element.keep = attributes.Flag(u"keep");
+    element.newPage = attributes.Flag(u"newpage");
+    attributes.Finish();
+    element.children = ReadElements(Place::Flow);
+    return element;
+}
+
+TemplateElement TemplateReader::ReadTable()
+{
+    ElementAttributes attributes(m_xml, *this);
+    TemplateElement element;
+    element.kind = ElementKind::Table;
+    element.line = attributes.Line();
+    element.condition = attributes.Condition(u"if");
+    element.look = attributes.Look();
+    element.table = std::make_unique<TemplateTable>();
+    TemplateTable& table = *element.table;
+    table.sourceName = attributes.Required(u"source");
+    table.only = attributes.Condition(u"only");
+    table.hasLines = attributes.Flag(u"lines");
+    attributes.Finish();
+    while (m_xml.readNextStartElement()) {
+        if (m_xml.name() == u"col")
+            ReadColumn(table);
+        else if (m_xml.name() == u"heads")
+            ReadSpans(table);
+        else if (m_xml.name() == u"group")
+            ReadGroup(table);
+        else if (m_xml.name() == u"total")
+            ReadTotal(table);
+        else
+            RefuseElement();
+    }
+    if (table.columns.empty())
+        Fault(element.line, QStringLiteral("<table> has no <col>"));
+    return element;
+}
+
+void TemplateReader::ReadSpans(TemplateTable& table)
+{
+    ElementAttributes attributes(m_xml, *this);
+    attributes.Finish();
+    while (m_xml.readNextStartElement()) {
+        if (m_xml.name() != u"head") {
+            RefuseElement();
+            continue;
+        }
+        ElementAttributes own(m_xml, *this);
+        TemplateSpan span;
+        span.columns = static_cast<int>(own.Number(u"span", 1, MostRows, 1));
+        span.look = own.Look();
+        own.Finish();
+        span.text = ReadContent(own.Line());
+        table.spans.push_back(std::move(span));
+    }
+}
+
+void TemplateReader::ReadColumn(TemplateTable& table)
+{
+    ElementAttributes attributes(m_xml, *this);
+    TemplateColumn column;
+    column.line = attributes.Line();
+    column.width = attributes.Width();
+    column.head = attributes.Template(u"head");
+    column.look = attributes.Look();
+    column.wraps = attributes.Flag(u"wrap");
+    const QString total = attributes.Text(u"total");
+    column.totalIsOwnSum = total == u"sum";
+    if (total == u"count") {
+        column.total.emplace();
+        column.total->operation = Operation::Aggregate;
+        column.total->aggregate = AggregateKind::Count;
+    } else if (!total.isEmpty() && !column.totalIsOwnSum) {
+        column.total = attributes.Condition(u"total");
+    }
+    attributes.Finish();
+    column.cell = ReadContent(column.line);
+    table.hasHeads = table.hasHeads || !column.head.IsEmpty();
+    table.columns.push_back(std::move(column));
+}
+
+void TemplateReader::ReadGroup(TemplateTable& table)
+{
+    ElementAttributes attributes(m_xml, *this);
+    TemplateGroup group;
+    group.line = attributes.Line();
+    group.name = attributes.Required(u"by");
+    const std::optional<Expression> by = group.name.isEmpty() ? std::nullopt : attributes.Condition(u"by");
+    group.head = attributes.Template(u"head");
+    group.foot = attributes.Template(u"foot");
+    group.keep = static_cast<int>(attributes.Number(u"keep", 1, MostRows, 1));
+    group.newPage = attributes.Flag(u"newpage");
+    attributes.Finish();
+    EndEmpty();
+    if (!by)
+        return;
+    group.by = *by;
+    table.groups.push_back(std::move(group));
+}
+
+void TemplateReader::ReadTotal(TemplateTable& table)
+{
+    ElementAttributes attributes(m_xml, *this);
+    if (table.totalLabel)
+        attributes.Fault(QStringLiteral("there is a second <total>"));
+    table.totalLine = attributes.Line();
+    table.totalLabel = attributes.Template(u"label");
+    attributes.Finish();
+    EndEmpty();
+}
+
+TemplateElement TemplateReader::ReadChart()
+{
+    ElementAttributes attributes(m_xml, *this);
+    TemplateElement element;
+    element.kind = ElementKind::Chart;
+    element.line = attributes.Line();
+    element.condition = attributes.Condition(u"if");
+    element.look = attributes.Look();
+    element.chart = std::make_unique<TemplateChart>();
+    TemplateChart& chart = *element.chart;
+    chart.sourceName = attributes.Required(u"source");
+    const QString kind = attributes.Required(u"kind");
+    chart.isLine = kind == u"line";
+    if (!kind.isEmpty() && !chart.isLine && kind != u"bar")
+        attributes.Fault(QStringLiteral("kind=\"%1\" is neither bar nor line").arg(kind));
+    chart.height = attributes.Number(u"h", 20, LargestLength, 60);
+    chart.title = attributes.Template(u"title");
+    attributes.Required(u"x");
+    chart.x = attributes.Template(u"x");
+    chart.only = attributes.Condition(u"only");
+    attributes.Finish();
+    while (m_xml.readNextStartElement()) {
+        if (m_xml.name() != u"series") {
+            RefuseElement();
+            continue;
+        }
+        ElementAttributes own(m_xml, *this);
+        TemplateSeries series;
+        series.line = own.Line();
+        series.label = own.Template(u"label");
+        const std::optional<Expression> value = own.Condition(u"value");
+        if (value)
+            series.value = *value;
+        else
+            own.Fault(QStringLiteral("<series> needs a \"value\" that can be read"));
+        own.Finish();
+        EndEmpty();
+        chart.series.push_back(std::move(series));
+    }
+    if (chart.series.empty())
+        Fault(element.line, QStringLiteral("<chart> has no <series>"));
+    return element;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Expression.h"
+
+#include <QStringList>
+
+enum class FormatKind : quint8 { None, Number, Date };
+
+// A stretch of a text of a template: plain characters, or one {expression|format}.
+struct TextPiece {
+    QString characters;
+    std::optional<Expression> expression;
+    QString format;
+    FormatKind formatKind = FormatKind::None;
+    int decimals = 6; // of a number format: its places
+};
+
+// A text with its {expressions}: "एकूण {sum(Liters)|0.000} लिटर".
+struct TemplateText {
+    std::vector<TextPiece> pieces;
+
+    bool IsEmpty() const { return pieces.empty(); }
+    bool Uses(Operation wanted) const;
+
+    // The text is one expression and nothing around it.
+    bool IsOneExpression() const { return pieces.size() == 1 && pieces.front().expression.has_value(); }
+};
+
+// Reads such a text. What can't be read is added to the faults and left out. A format is a pattern of '#',
+// '0' and one '.', or one of dd, MM, yy, yyyy, MMMM and signs, or the word "plain" behind a field.
+TemplateText ReadTemplateText(QStringView text, QStringList& faults);

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "ReportTemplate.h"
+
+#include <functional>
+
+// Tells of everything that is wider, or taller, than the paper of a template.
+void CheckWidths(const ReportTemplate& report, const std::function<void(int, const QString&)>& fault);

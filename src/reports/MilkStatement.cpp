@@ -1,0 +1,203 @@
+#include "MilkStatement.h"
+
+#include "Dates.h"
+#include "MdlAccounts.h"
+#include "Recordset.h"
+#include "ReportRun.h"
+#include "Sql.h"
+#include "Transaction.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace {
+
+constexpr QStringView Animals[] = {u"gaaya", u"mhOsa"};
+constexpr QStringView Morning = u"sakaL";
+constexpr QStringView Evening = u"saMQyaakaL";
+
+// What tells the two kinds of milk apart: where it is kept and how its columns are called.
+struct Books {
+    QStringView table, copy, date, time, number, name;
+    bool holdsSnf;
+};
+
+constexpr Books Collections{u"MilkCollections", u"MilkCollectionsTemp", u"CollectionDate", u"CollectionTime",
+    u"CollectionNo", u"MemberName", false};
+constexpr Books Sales{
+    u"MilkSales", u"MilkSalesTemp", u"SalesDate", u"SalesTime", u"SalesNo", u"CustomerName", true};
+
+struct Person {
+    int memberNo = 0;
+    QString name;
+};
+
+// One half of a line: a delivery or a sale; nothing of it when there was none.
+struct Entry {
+    bool isThere = false;
+    int number = 0;
+    double snf = 0;
+    double liters = 0;
+    double fat = 0;
+    double rate = 0;
+    double amount = 0;
+};
+
+Entry ReadEntry(const Recordset& row, const Books& books)
+{
+    Entry entry;
+    entry.isThere = true;
+    entry.number = static_cast<int>(row[books.number].Number());
+    if (books.holdsSnf)
+        entry.snf = row[u"SNF"].Number();
+    entry.liters = row[u"Liters"].Number();
+    entry.fat = row[u"Fat"].Number();
+    entry.rate = row[u"Rate"].Number();
+    entry.amount = row[u"Amount"].Number();
+    return entry;
+}
+
+// The lines of one animal on one day.
+class DayLines {
+public:
+    DayLines(const Books& books, const Person& person, const QDate& day, QStringView animal)
+        : m_books(books)
+        , m_person(person)
+        , m_day(day)
+        , m_animal(animal)
+    {
+    }
+
+    void Write(bool repeats)
+    {
+        Entry morning = Find(Morning, {});
+        Entry evening = Find(Evening, {});
+        if (!morning.isThere && !evening.isThere)
+            return;
+        WriteLine(morning, evening, true);
+        int lastMorning = morning.number;
+        int lastEvening = evening.number;
+        while (repeats) {
+            morning = Find(Morning, lastMorning);
+            evening = Find(Evening, lastEvening);
+            if (!morning.isThere && !evening.isThere)
+                return;
+            WriteLine(morning, evening, false);
+            lastMorning = std::max(lastMorning, morning.number);
+            lastEvening = std::max(lastEvening, evening.number);
+        }
+    }
+
+private:
+    // The first row of a shift, or the first one after a number.
+    Entry Find(QStringView shift, std::optional<int> after) const
+    {
+        const Recordset row(gCn,
+            Sql(u"select * from ", m_books.copy, u" where CompanyId=", gAppState.gCompanyId, u" and ",
+                m_books.date, u"=", ReportRun::SqlDay(m_day), u" and Animal='", m_animal, u"' and ",
+                m_books.time, u"='", shift, u"'",
+                after ? Sql(u" and ", m_books.number, u">", *after) : QString(), u" order by ",
+                m_books.number));
+        return row.Eof() ? Entry() : ReadEntry(row, m_books);
+    }
+
+    void WriteLine(const Entry& morning, const Entry& evening, bool withSnf) const
+    {
+        gCn.Execute(Sql(u"insert into MilkCollectionsME(CompanyId,CollectionDate,MemberNo,MemberName,Animal,"
+                        u"LitersM,FatM,RateM,AmountM,LitersE,FatE,RateE,AmountE",
+            withSnf ? u",SNFM,SNFE" : u"", u") values(", gAppState.gCompanyId, u",'", DateText(m_day), u"',",
+            m_person.memberNo, u",'", m_person.name, u"','", m_animal, u"',", morning.liters, u",",
+            morning.fat, u",", morning.rate, u",", morning.amount, u",", evening.liters, u",", evening.fat,
+            u",", evening.rate, u",", evening.amount,
+            withSnf ? Sql(u",", morning.snf, u",", evening.snf) : QString(), u")"));
+    }
+
+    const Books& m_books;
+    const Person& m_person;
+    QDate m_day;
+    QStringView m_animal;
+};
+
+bool Repeats()
+{
+    const Recordset settings(gCn, QStringLiteral("select * from AutoSettings"));
+    return !settings.Eof() && settings[u"RepeatCollection"].Text().trimmed() == u"haoya";
+}
+
+// A day without a row in the copy has no line, so it isn't asked for.
+QSet<QDate> DaysOf(const Books& books)
+{
+    QSet<QDate> days;
+    for (Recordset row(gCn, Sql(u"select * from ", books.copy)); !row.Eof(); row.MoveNext())
+        days.insert(row[books.date].Date());
+    return days;
+}
+
+void WriteLines(const Books& books, const Person& person, const QDate& from, const QDate& to)
+{
+    const bool repeats = Repeats();
+    const QSet<QDate> days = DaysOf(books);
+    for (QDate day = from; day <= to; day = day.addDays(1)) {
+        if (!days.contains(day))
+            continue;
+        for (const QStringView animal : Animals)
+            DayLines(books, person, day, animal).Write(repeats);
+    }
+}
+
+int NumberOfMember(const QString& name)
+{
+    const Recordset member(gCn,
+        Sql(u"select * from MembersMaster where CompanyId=", gAppState.gCompanyId, u" and trim(MemberName)='",
+            name, u"'"));
+    return member.Eof() ? 0 : static_cast<int>(member[u"MemberNo"].Number());
+}
+
+void FillCopy(const Books& books, const MilkStatement::Wanted& wanted)
+{
+    gCn.Execute(Sql(u"insert into ", books.copy, u" select * from ", books.table, u" where CompanyId=",
+        gAppState.gCompanyId, u" and ", books.date, u">=", ReportRun::SqlDay(wanted.from), u" and ",
+        books.date, u"<=", ReportRun::SqlDay(wanted.to), u" and trim(", books.name, u")='", wanted.name,
+        u"'"));
+}
+
+}
+
+void MilkStatement::Stage(const Wanted& wanted)
+{
+    const bool isSales = wanted.kind == Kind::Sales;
+    const Books& books = isSales ? Sales : Collections;
+    const Person person{isSales ? 0 : NumberOfMember(wanted.name), wanted.name};
+
+    Transaction staging(gCn);
+    for (const QStringView table : {u"MilkCollectionsTemp", u"MilkSalesTemp", u"MilkCollectionsME"})
+        gCn.Execute(Sql(u"delete * from ", table));
+    FillCopy(books, wanted);
+    WriteLines(books, person, wanted.from, wanted.to);
+    ReportRun::StageDates(DateText(wanted.from), DateText(wanted.to));
+    ReportRun::Tidy(u"MilkCollectionsME");
+    staging.Commit();
+}
+
+void MilkStatement::StageCopy()
+{
+    Person person;
+    {
+        const Recordset row(gCn, QStringLiteral("select * from MilkCollectionsTemp"));
+        if (!row.Eof())
+            person = {static_cast<int>(row[u"MemberNo"].Number()), row[u"MemberName"].Text()};
+    }
+    const QSet<QDate> days = DaysOf(Collections);
+
+    Transaction staging(gCn);
+    gCn.Execute(QStringLiteral("delete * from MilkCollectionsME"));
+    if (!days.isEmpty()) {
+        const auto [first, last] = std::minmax_element(days.begin(), days.end());
+        WriteLines(Collections, person, *first, *last);
+    }
+    ReportRun::Tidy(u"MilkCollectionsME");
+    staging.Commit();
+}

@@ -1,0 +1,115 @@
+#include "frmReportMembersList.h"
+
+#include "CompanyTitle.h"
+#include "MdlAccounts.h"
+#include "Recordset.h"
+#include "ReportRun.h"
+#include "Sql.h"
+#include "Transaction.h"
+
+namespace {
+
+const QString AllMembers = QStringLiteral("select * from MembersMaster");
+
+void StageMember(const Recordset& member, QStringView crieteria, const QString& crieteriaValue)
+{
+    gCn.Execute(
+        Sql(u"insert into MembersListReport(CompanyId,Crieteria,CrieteriaValue,MemberNo,MemberName,City,"
+            u"Animal) values(",
+            gAppState.gCompanyId, u",'", crieteria, u"','", crieteriaValue, u"',",
+            member[u"MemberNo"].Number(), u",'", member[u"MemberName"].Text(), u"','", member[u"City"].Text(),
+            u"','", member[u"Animal"].Text(), u"')"));
+}
+
+}
+
+frmReportMembersList::frmReportMembersList() : Screen("frmReportMembersList")
+{
+    for (OptionButton* option : {&OptionList, &OptionArea, &OptionMilk})
+        When(option->Click, &frmReportMembersList::Option_Click);
+    When(ComboArea.GotFocus, &frmReportMembersList::ComboArea_GotFocus);
+    When(cmdReport.Click, &frmReportMembersList::cmdReport_Click);
+    When(cmdExit.Click, &frmReportMembersList::cmdExit_Click);
+    SetTitle(Shivaji(u" maombar yaadI"));
+    LayOut();
+}
+
+void frmReportMembersList::Load()
+{
+    ShowCompany(lblCompanyTitle, lblAcYear);
+    OptionList.Choose();
+    OptionCow.Choose();
+    FillCombo(ComboArea, u"CityMaster", u"CityName",
+        Sql(u"where CompanyId=", gAppState.gCompanyId, u" ORDER BY CityName"));
+    Option_Click();
+}
+
+void frmReportMembersList::Escape()
+{
+    ComboArea.Clear();
+    Close();
+}
+
+// Only what belongs to the chosen list can be entered.
+void frmReportMembersList::Option_Click()
+{
+    ComboArea.SetEnabled(OptionArea.Chosen());
+    for (OptionButton* option : {&OptionCow, &OptionBuff, &OptionBoth})
+        option->SetEnabled(OptionMilk.Chosen());
+}
+
+void frmReportMembersList::ComboArea_GotFocus()
+{
+    SendKeys(QStringLiteral("%{Down}"));
+}
+
+void frmReportMembersList::StageAll()
+{
+    for (Recordset member(gCn, AllMembers); !member.Eof(); member.MoveNext())
+        StageMember(member, u"Complete", {});
+}
+
+// Without an area it is the list of all of them, each member under its own.
+void frmReportMembersList::StageArea()
+{
+    const QString area = ComboArea.Text();
+    const QString query = area.isEmpty() ? AllMembers : Sql(AllMembers, u" where City='", area, u"'");
+    for (Recordset member(gCn, query); !member.Eof(); member.MoveNext())
+        StageMember(member, u"Area", area.isEmpty() ? member[u"City"].Text() : area);
+}
+
+void frmReportMembersList::StageMilk()
+{
+    const QString animal = ChosenAnimal();
+    for (Recordset member(gCn, AllMembers); !member.Eof(); member.MoveNext()) {
+        if (member[u"Animal"].Text() == animal)
+            StageMember(member, u"Milk", animal);
+    }
+}
+
+QString frmReportMembersList::ChosenAnimal() const
+{
+    if (OptionCow.Chosen())
+        return QStringLiteral("gaaya");
+    return OptionBuff.Chosen() ? QStringLiteral("mhOsa") : QStringLiteral("daonhI");
+}
+
+void frmReportMembersList::cmdReport_Click()
+{
+    Transaction staging(gCn);
+    gCn.Execute(QStringLiteral("delete * from MembersListReport"));
+    if (OptionList.Chosen())
+        StageAll();
+    else if (OptionArea.Chosen())
+        StageArea();
+    else
+        StageMilk();
+    ReportRun::Tidy(u"MembersListReport");
+    staging.Commit();
+    ReportRun::Show(u"ReportListMembers.rpt");
+}
+
+void frmReportMembersList::cmdExit_Click()
+{
+    Close();
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Button.h"
+#include "NameCombo.h"
+#include "OptionButton.h"
+#include "Screen.h"
+
+class FieldValue;
+
+// The list of the members: all of them, those of an area, or those of an animal.
+class frmReportMembersList final : public Screen {
+public:
+    frmReportMembersList();
+
+private:
+    Label lblTitle{this, "lblTitle"};
+    Label lblCompanyTitle{this, "lblCompanyTitle"};
+    Label lblAcYear{this, "lblAcYear"};
+    OptionButton OptionList{this, "OptionList", Shivaji(u"  &1 pUNa- yaadI")};
+    OptionButton OptionArea{this, "OptionArea", Shivaji(u"  &2 ivaBaaga")};
+    OptionButton OptionMilk{this, "OptionMilk", Shivaji(u"  &3 dUQa")};
+    OptionGroup list{&OptionList, &OptionArea, &OptionMilk};
+    NameCombo ComboArea{this, "ComboArea"};
+    OptionButton OptionCow{this, "OptionCow", Shivaji(u"gaaya")};
+    OptionButton OptionBuff{this, "OptionBuff", Shivaji(u"mhOsa")};
+    OptionButton OptionBoth{this, "OptionBoth", Shivaji(u"daonhI")};
+    OptionGroup milk{&OptionCow, &OptionBuff, &OptionBoth};
+    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-")};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+
+    void Load() override;
+    void Escape() override;
+
+    void Option_Click();
+    void ComboArea_GotFocus();
+    void cmdReport_Click();
+    void cmdExit_Click();
+
+    void StageAll();
+    void StageArea();
+    void StageMilk();
+    QString ChosenAnimal() const;
+    void LayOut();
+};

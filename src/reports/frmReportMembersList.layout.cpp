@@ -1,0 +1,40 @@
+#include "frmReportMembersList.h"
+#include "ReportLayout.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+namespace {
+
+// An option that begins a row; what belongs to it stands behind it.
+void AddOption(QGridLayout& grid, int row, OptionButton& option)
+{
+    Layout::SizeField(option, 0);
+    grid.addWidget(option.Widget(), row, 0);
+}
+
+}
+
+void frmReportMembersList::LayOut()
+{
+    SetTitleLabel(lblTitle);
+    Layout::SizeField(ComboArea, ReportLayout::NameWidth);
+    ComboArea.SetAccessibleName(OptionArea.Shown());
+    auto* animals = new QHBoxLayout;
+    for (OptionButton* option : {&OptionCow, &OptionBuff, &OptionBoth}) {
+        Layout::SizeField(*option, 0);
+        animals->addWidget(option->Widget());
+    }
+    animals->addStretch(1);
+
+    Layout::Form form;
+    QGridLayout& grid = *form.Grid();
+    grid.setHorizontalSpacing(24);
+    AddOption(grid, 0, OptionList);
+    AddOption(grid, 1, OptionArea);
+    grid.addWidget(ComboArea.Widget(), 1, 1);
+    AddOption(grid, 2, OptionMilk);
+    grid.addLayout(animals, 2, 1);
+    ReportLayout::Finish(
+        *this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), form, cmdReport, cmdExit);
+}

@@ -1,0 +1,96 @@
+#include "frmReportMilkCollections.h"
+
+#include "CompanyTitle.h"
+#include "MdlAccounts.h"
+#include "Messages.h"
+#include "ReportRun.h"
+#include "Sql.h"
+#include "Transaction.h"
+
+namespace {
+
+constexpr QStringView BothAnimals = u"daonhI";
+
+}
+
+frmReportMilkCollections::frmReportMilkCollections() : Screen("frmReportMilkCollections")
+{
+    When(MaskUserDate.LostFocus, &frmReportMilkCollections::MaskUserDate_LostFocus);
+    When(ComboAnimal.GotFocus, &frmReportMilkCollections::ComboAnimal_GotFocus);
+    When(ComboAnimal.LostFocus, &frmReportMilkCollections::ComboAnimal_LostFocus);
+    When(cmdReport.Click, &frmReportMilkCollections::cmdReport_Click);
+    When(cmdExit.Click, &frmReportMilkCollections::cmdExit_Click);
+    SetTitle(Shivaji(u" dUQa saMklana irpaoT-"));
+    ComboAnimal.SetItems({QStringLiteral("gaaya"), QStringLiteral("mhOsa"), BothAnimals.toString()});
+    LayOut();
+}
+
+void frmReportMilkCollections::Load()
+{
+    ShowCompany(lblCompanyTitle, lblAcYear);
+    OptionBoth.Choose();
+}
+
+void frmReportMilkCollections::Escape()
+{
+    MaskUserDate.Clear();
+    ComboAnimal.Clear();
+    Close();
+}
+
+void frmReportMilkCollections::MaskUserDate_LostFocus()
+{
+    HoldDate();
+}
+
+bool frmReportMilkCollections::HoldDate()
+{
+    if (MaskUserDate.HoldsDate())
+        return true;
+    ShowNotice(u"idnaaMk vyavaisqat Ta[-p kra");
+    MaskUserDate.SetFocus();
+    return false;
+}
+
+void frmReportMilkCollections::ComboAnimal_GotFocus()
+{
+    SendKeys(QStringLiteral("%{Down}"));
+}
+
+void frmReportMilkCollections::ComboAnimal_LostFocus()
+{
+    if (ComboAnimal.IsEmpty())
+        ComboAnimal.SetText(BothAnimals.toString());
+}
+
+// The rows of the choices. The day is compared as text.
+QString frmReportMilkCollections::Selection() const
+{
+    QString statement =
+        Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where CStr(CollectionDate)='",
+            MaskUserDate.Text());
+    const bool oneShift = !OptionBoth.Chosen();
+    if (oneShift)
+        statement += Sql(u"' and CollectionTime='", OptionMorning.Chosen() ? u"sakaL" : u"saMQyaakaL");
+    if (ComboAnimal.Text() != BothAnimals)
+        statement += Sql(oneShift ? u"' and  Animal='" : u"' and Animal='", ComboAnimal.Text());
+    return statement + u'\'';
+}
+
+void frmReportMilkCollections::cmdReport_Click()
+{
+    if (!HoldDate())
+        return;
+    ComboAnimal_LostFocus();
+    Transaction staging(gCn);
+    gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
+    gCn.Execute(Selection());
+    ReportRun::Tidy(u"MilkCollectionsTemp");
+    staging.Commit();
+    ReportRun::Show(u"MilkCollectionsReport.rpt");
+}
+
+void frmReportMilkCollections::cmdExit_Click()
+{
+    Close();
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Button.h"
+#include "DateField.h"
+#include "NameCombo.h"
+#include "OptionButton.h"
+#include "Screen.h"
+
+// The list of a day's deliveries, of one shift or both, of one animal or both.
+class frmReportMilkCollections final : public Screen {
+public:
+    frmReportMilkCollections();
+
+private:
+    Label lblTitle{this, "lblTitle"};
+    Label lblCompanyTitle{this, "lblCompanyTitle"};
+    Label lblAcYear{this, "lblAcYear"};
+    DateField MaskUserDate{this, "MaskUserDate"};
+    NameCombo ComboAnimal{this, "ComboAnimal"};
+    OptionButton OptionMorning{this, "OptionMorning", Shivaji(u"&sakaL")};
+    OptionButton OptionEvening{this, "OptionEvening", Shivaji(u"saMQyaa&kaL")};
+    OptionButton OptionBoth{this, "OptionBoth", Shivaji(u"&daonhI")};
+    OptionGroup shift{&OptionMorning, &OptionEvening, &OptionBoth};
+    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-")};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+
+    void Load() override;
+    void Escape() override;
+
+    void MaskUserDate_LostFocus();
+    void ComboAnimal_GotFocus();
+    void ComboAnimal_LostFocus();
+    void cmdReport_Click();
+    void cmdExit_Click();
+
+    bool HoldDate();
+    QString Selection() const;
+    void LayOut();
+};

@@ -1,0 +1,16 @@
+#include "frmReportMilkCollections.h"
+#include "ReportLayout.h"
+
+void frmReportMilkCollections::LayOut()
+{
+    SetTitleLabel(lblTitle);
+    Layout::Form form;
+    form.Row(Shivaji(u"idnaaMk"), MaskUserDate, ReportLayout::DateWidth);
+    form.Row(Plain(u"जनावर"), ComboAnimal, ReportLayout::DateWidth);
+    form.Row(Plain(u"वेळ"),
+        {{&OptionMorning, OptionMorning.Shown()}, {&OptionEvening, OptionEvening.Shown()},
+            {&OptionBoth, OptionBoth.Shown()}},
+        0);
+    ReportLayout::Finish(
+        *this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), form, cmdReport, cmdExit);
+}

@@ -1,0 +1,86 @@
+#include "frmReportMilkPS.h"
+
+#include "CompanyTitle.h"
+#include "MdlAccounts.h"
+#include "MilkStatement.h"
+#include "ReportRun.h"
+#include "Sql.h"
+
+frmReportMilkPS::frmReportMilkPS() : Screen("frmReportMilkPS")
+{
+    When(maskFromDate.LostFocus, &frmReportMilkPS::maskFromDate_LostFocus);
+    When(maskToDate.LostFocus, &frmReportMilkPS::maskToDate_LostFocus);
+    When(OptionCollections.Click, &frmReportMilkPS::Option_Click);
+    When(OptionSales.Click, &frmReportMilkPS::Option_Click);
+    When(ComboAccountName.GotFocus, &frmReportMilkPS::ComboAccountName_GotFocus);
+    When(cmdReport.Click, &frmReportMilkPS::cmdReport_Click);
+    When(cmdExit.Click, &frmReportMilkPS::cmdExit_Click);
+    SetTitle(Shivaji(u" dUQa saMklana À ivaËI irpaoT-"));
+    LayOut();
+}
+
+void frmReportMilkPS::Load()
+{
+    // The mode is for this opening only: the next one is the clerk's own.
+    if (gAppState.gReportMode == u"ShowMilkCollection") {
+        gAppState.gReportMode.clear();
+        MilkStatement::StageCopy();
+        SendKeys(QStringLiteral("{ESC}"));
+    }
+    ShowCompany(lblCompanyTitle, lblAcYear);
+    OptionCollections.Choose();
+    ListAccounts();
+}
+
+void frmReportMilkPS::Escape()
+{
+    for (Field* field : std::initializer_list<Field*>{&maskFromDate, &maskToDate, &ComboAccountName})
+        field->Clear();
+    Close();
+}
+
+void frmReportMilkPS::maskFromDate_LostFocus()
+{
+    ReportRun::HoldDates({&maskFromDate});
+}
+
+void frmReportMilkPS::maskToDate_LostFocus()
+{
+    ReportRun::HoldDates({&maskToDate});
+}
+
+void frmReportMilkPS::Option_Click()
+{
+    ComboAccountName.Clear();
+    ListAccounts();
+}
+
+void frmReportMilkPS::ListAccounts()
+{
+    if (OptionSales.Chosen())
+        FillCombo(ComboAccountName, u"CustomersMaster", u"CustomerName",
+            Sql(u"where CompanyId=", gAppState.gCompanyId, u" ORDER BY CustomerName"));
+    else
+        FillCombo(ComboAccountName, u"MembersMaster", u"MemberName",
+            Sql(u"where CompanyId=", gAppState.gCompanyId, u" ORDER BY MemberName"));
+}
+
+void frmReportMilkPS::ComboAccountName_GotFocus()
+{
+    SendKeys(QStringLiteral("%{Down}"));
+}
+
+void frmReportMilkPS::cmdReport_Click()
+{
+    if (!ReportRun::HoldDates({&maskFromDate, &maskToDate}))
+        return;
+    MilkStatement::Stage(
+        {OptionSales.Chosen() ? MilkStatement::Kind::Sales : MilkStatement::Kind::Collections,
+            ComboAccountName.Text().trimmed(), maskFromDate.Date(), maskToDate.Date()});
+    ReportRun::Show(u"MilkPSReport.rpt");
+}
+
+void frmReportMilkPS::cmdExit_Click()
+{
+    Close();
+}

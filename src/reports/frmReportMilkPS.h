@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Button.h"
+#include "DateField.h"
+#include "NameCombo.h"
+#include "OptionButton.h"
+#include "Screen.h"
+
+class QLayout;
+
+// The statement of one member's deliveries or of one customer's purchases over a range of days. A counter
+// opens it with gReportMode "ShowMilkCollection": it then stages what lies in MilkCollectionsTemp and leaves
+// the printing to the counter.
+class frmReportMilkPS final : public Screen {
+public:
+    frmReportMilkPS();
+
+private:
+    Label lblTitle{this, "lblTitle"};
+    Label lblCompanyTitle{this, "lblCompanyTitle"};
+    Label lblAcYear{this, "lblAcYear"};
+    DateField maskFromDate{this, "maskFromDate"};
+    DateField maskToDate{this, "maskToDate"};
+    OptionButton OptionCollections{this, "OptionCollections", Shivaji(u" saMklana")};
+    OptionButton OptionSales{this, "OptionSales", Shivaji(u" ivaËI")};
+    OptionGroup kind{&OptionCollections, &OptionSales};
+    NameCombo ComboAccountName{this, "ComboAccountName"};
+    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-")};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+
+    void Load() override;
+    void Escape() override;
+
+    void maskFromDate_LostFocus();
+    void maskToDate_LostFocus();
+    void Option_Click();
+    void ComboAccountName_GotFocus();
+    void cmdReport_Click();
+    void cmdExit_Click();
+
+    void ListAccounts();
+    void LayOut();
+};

@@ -1,0 +1,15 @@
+#include "frmReportMilkPS.h"
+#include "ReportLayout.h"
+
+void frmReportMilkPS::LayOut()
+{
+    SetTitleLabel(lblTitle);
+    Layout::Form form;
+    form.Row(Shivaji(u"pasaUna"), maskFromDate, ReportLayout::DateWidth);
+    form.Row(Shivaji(u"pya-nt"), maskToDate, ReportLayout::DateWidth);
+    form.Row(Plain(u"प्रकार"),
+        {{&OptionCollections, OptionCollections.Shown()}, {&OptionSales, OptionSales.Shown()}}, 0);
+    form.Row(Plain(u"नाव"), ComboAccountName, ReportLayout::NameWidth);
+    ReportLayout::Finish(
+        *this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), form, cmdReport, cmdExit);
+}

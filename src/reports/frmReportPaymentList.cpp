@@ -1,0 +1,62 @@
+#include "frmReportPaymentList.h"
+
+#include "CompanyTitle.h"
+#include "ReportRun.h"
+#include "Sql.h"
+
+namespace {
+
+// A day or a month of the mask, without the nought before it.
+QString Part(QString text)
+{
+    if (text.startsWith(u'0'))
+        text.remove(0, 1);
+    return text;
+}
+
+}
+
+frmReportPaymentList::frmReportPaymentList() : Screen("frmReportPaymentList")
+{
+    When(MaskFromDate.LostFocus, &frmReportPaymentList::MaskFromDate_LostFocus);
+    When(cmdReport.Click, &frmReportPaymentList::cmdReport_Click);
+    When(cmdExit.Click, &frmReportPaymentList::cmdExit_Click);
+    SetTitle(Shivaji(u" dUQa pomaoMT ilasT"));
+    LayOut();
+}
+
+void frmReportPaymentList::Load()
+{
+    ShowCompany(lblCompanyTitle, lblAcYear);
+    Option1.Choose();
+}
+
+void frmReportPaymentList::Escape()
+{
+    MaskFromDate.Clear();
+    Close();
+}
+
+void frmReportPaymentList::MaskFromDate_LostFocus()
+{
+    ReportRun::HoldDates({&MaskFromDate});
+}
+
+QString frmReportPaymentList::SelectionFormula() const
+{
+    const QString date = MaskFromDate.Text();
+    return Sql(u"{MilkPayments.PaymentDate} = DateTime (", date.mid(6, 4), u",", Part(date.mid(3, 2)), u",",
+        Part(date.left(2)), u",00, 00, 00)");
+}
+
+void frmReportPaymentList::cmdReport_Click()
+{
+    if (ReportRun::HoldDates({&MaskFromDate}))
+        ReportRun::Show(
+            Option1.Chosen() ? u"CashMilkPayment.rpt" : u"BankMilkPayment.rpt", SelectionFormula());
+}
+
+void frmReportPaymentList::cmdExit_Click()
+{
+    Close();
+}

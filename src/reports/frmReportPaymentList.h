@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Button.h"
+#include "DateField.h"
+#include "OptionButton.h"
+#include "Screen.h"
+
+// The list of the payments of a date: to be paid out in cash, or through the bank.
+class frmReportPaymentList final : public Screen {
+public:
+    frmReportPaymentList();
+
+private:
+    Label lblTitle{this, "lblTitle"};
+    Label lblCompanyTitle{this, "lblCompanyTitle"};
+    Label lblAcYear{this, "lblAcYear"};
+    DateField MaskFromDate{this, "MaskFromDate"};
+    OptionButton Option1{this, "Option1", Shivaji(u"raoK")};
+    OptionButton Option2{this, "Option2", Shivaji(u"baÐMk")};
+    OptionGroup way{&Option1, &Option2};
+    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-")};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+
+    void Load() override;
+    void Escape() override;
+
+    void MaskFromDate_LostFocus();
+    void cmdReport_Click();
+    void cmdExit_Click();
+
+    QString SelectionFormula() const;
+    void LayOut();
+};

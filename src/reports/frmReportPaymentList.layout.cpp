@@ -1,0 +1,12 @@
+#include "frmReportPaymentList.h"
+#include "ReportLayout.h"
+
+void frmReportPaymentList::LayOut()
+{
+    SetTitleLabel(lblTitle);
+    Layout::Form form;
+    form.Row(Shivaji(u"pomaonT idnaaMk"), MaskFromDate, ReportLayout::DateWidth);
+    form.Row(Plain(u"पेमेंट प्रकार"), {{&Option1, Option1.Shown()}, {&Option2, Option2.Shown()}}, 0);
+    ReportLayout::Finish(
+        *this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), form, cmdReport, cmdExit);
+}

@@ -1,0 +1,236 @@
+#include "frmAutoSettings.h"
+
+#include "CompanyTitle.h"
+#include "Messages.h"
+#include "Numbers.h"
+
+namespace {
+
+QStringList YesNo()
+{
+    return {QStringLiteral("haoya"), QStringLiteral("naahI")};
+}
+
+QStringList ReceiptTypes()
+{
+    QStringList types;
+    for (int number = 1; number <= 8; ++number)
+        types.append(QStringLiteral("Tašp %1").arg(number));
+    return types;
+}
+
+}
+
+frmAutoSettings::frmAutoSettings()
+    : Screen("frmAutoSettings")
+    , SSTab(this, "SSTab", {Plain(u"संकलन"), Plain(u"पेमेंट"), Shivaji(u"dUQa ivaËI")})
+    , ComboAutoLiters(this, "ComboAutoLiters", YesNo())
+    , ComboAutoFat(this, "ComboAutoFat", YesNo())
+    , ComboPrintStatus(this, "ComboPrintStatus",
+          {QStringLiteral("naahI"), QStringLiteral("f@t sËIna"), QStringLiteral("haoya")})
+    , ComboReceipt(this, "ComboReceipt", ReceiptTypes())
+    , ComboPaymentDuration(this, "ComboPaymentDuration",
+          {QStringLiteral("1 idvasa"), QStringLiteral("7 idvasa"), QStringLiteral("10 idvasa"),
+              QStringLiteral("15 idvasa"), QStringLiteral("1 maihnaa")})
+    , ComboMSRPrintStatus(this, "ComboMSRPrintStatus",
+          {QStringLiteral("saovh"), QStringLiteral("saovh va sËIna"), QStringLiteral("saovh va ip`MT")})
+{
+    // These two offer more than their digits reach; the rest is picked from the list.
+    ComboReceipt.SetDigits(6);
+    ComboPaymentDuration.SetDigits(4);
+    cmbFatRateType.SetMouseOnly(true);
+    ComboPrintStatus.SetText(QStringLiteral("haoya"));
+    CmdCancel.SetCancels(true);
+    SetTitle(Shivaji(u"Aa^Tao saoTIMgja"));
+    Wire();
+    SetGuides();
+    LayOut();
+}
+
+void frmAutoSettings::Wire()
+{
+    When(SSTab.Click, &frmAutoSettings::SSTab_Click);
+    When(CheckCNP.Click, &frmAutoSettings::CheckCNP_Click);
+    When(CmdSave.Click, &frmAutoSettings::CmdSave_Click);
+    When(CmdCancel.Click, &frmAutoSettings::CmdCancel_Click);
+    When(cmdReceipt.Click, &frmAutoSettings::cmdReceipt_Click);
+    When(CmdExit.Click, &frmAutoSettings::CmdExit_Click);
+
+    When(ComboAutoLiters.LostFocus, &frmAutoSettings::ComboAutoLiters_LostFocus);
+    When(ComboAutoFat.LostFocus, &frmAutoSettings::ComboAutoFat_LostFocus);
+    When(ComboPrintStatus.LostFocus, &frmAutoSettings::ComboPrintStatus_LostFocus);
+    When(txtCowLimit.LostFocus, &frmAutoSettings::txtCowLimit_LostFocus);
+    When(txtBuffLimit.LostFocus, &frmAutoSettings::txtBuffLimit_LostFocus);
+    When(ComboReceipt.LostFocus, &frmAutoSettings::ComboReceipt_LostFocus);
+    When(CheckRepeatCol.LostFocus, &frmAutoSettings::CheckRepeatCol_LostFocus);
+    When(ComboPaymentDuration.LostFocus, &frmAutoSettings::ComboPaymentDuration_LostFocus);
+    When(txtCow.LostFocus, &frmAutoSettings::txtCow_LostFocus);
+    When(txtBuff.LostFocus, &frmAutoSettings::txtBuff_LostFocus);
+    When(cmbFatRateType.LostFocus, &frmAutoSettings::cmbFatRateType_LostFocus);
+    When(txtCowSaleRate.LostFocus, &frmAutoSettings::txtCowSaleRate_LostFocus);
+    When(txtBuffSaleRate.LostFocus, &frmAutoSettings::txtBuffSaleRate_LostFocus);
+    When(txtMixSaleRate.LostFocus, &frmAutoSettings::txtMixSaleRate_LostFocus);
+    When(ComboMSRPrintStatus.LostFocus, &frmAutoSettings::ComboMSRPrintStatus_LostFocus);
+}
+
+void frmAutoSettings::Load()
+{
+    ShowCompany(lblCompanyTitle, lblAcYear);
+    LoadSettings();
+}
+
+bool frmAutoSettings::KeyDown(const QKeyEvent& key)
+{
+    return SSTab.TurnPage(key);
+}
+
+void frmAutoSettings::SSTab_Click()
+{
+    if (SSTab.Tab() == Collection)
+        ComboAutoLiters.SetFocus();
+    else if (SSTab.Tab() == Payment)
+        ComboPaymentDuration.SetFocus();
+}
+
+void frmAutoSettings::CheckCNP_Click()
+{
+    lblMessage.SetCaption(CheckCNP.Checked()
+            ? Shivaji(u"dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kolaI jaa[-la")
+            : Shivaji(u"dUQa KrodIcaI enT/I dUQa pomaonT krtovaoLIca kolaI jaa[-la"));
+    lblMessage.SetVisible(true);
+}
+
+void frmAutoSettings::CmdCancel_Click()
+{
+    LoadSettings();
+}
+
+void frmAutoSettings::CmdExit_Click()
+{
+    Close();
+}
+
+// Leaving the fields. Each is checked only where the one before it isn't empty, so that a step back to an
+// empty field isn't caught in the next one. Boxes and options always hold something.
+
+bool frmAutoSettings::CheckChoice(ChoiceCombo& combo)
+{
+    if (combo.HoldsAWord())
+        return true;
+    combo.Clear();
+    combo.SetFocus();
+    return false;
+}
+
+bool frmAutoSettings::CheckAboveZero(NumberField& field, QStringView pattern)
+{
+    const double value = Val(field.Text());
+    field.SetText(Format(value, pattern));
+    if (value != 0)
+        return true;
+    field.SetFocus();
+    return false;
+}
+
+bool frmAutoSettings::CheckKapat(NumberField& field)
+{
+    const double value = Val(field.Text());
+    field.SetText(Format(value, u"######0.00"));
+    if (value > 0 || (value == 0 && ComboPaymentDuration.IsEmpty()))
+        return true;
+    field.SetFocus();
+    return false;
+}
+
+void frmAutoSettings::ComboAutoLiters_LostFocus()
+{
+    CheckChoice(ComboAutoLiters);
+}
+
+void frmAutoSettings::ComboAutoFat_LostFocus()
+{
+    if (!ComboAutoLiters.IsEmpty())
+        CheckChoice(ComboAutoFat);
+}
+
+void frmAutoSettings::ComboPrintStatus_LostFocus()
+{
+    if (!ComboAutoFat.IsEmpty())
+        CheckChoice(ComboPrintStatus);
+}
+
+void frmAutoSettings::txtCowLimit_LostFocus()
+{
+    if (!ComboPrintStatus.IsEmpty())
+        CheckAboveZero(txtCowLimit, u"######0.000");
+}
+
+void frmAutoSettings::txtBuffLimit_LostFocus()
+{
+    if (!txtCowLimit.IsEmpty())
+        CheckAboveZero(txtBuffLimit, u"######0.000");
+}
+
+void frmAutoSettings::ComboReceipt_LostFocus()
+{
+    if (!txtBuffLimit.IsEmpty())
+        CheckChoice(ComboReceipt);
+}
+
+void frmAutoSettings::CheckRepeatCol_LostFocus()
+{
+    SSTab.SetTab(Payment);
+    ComboPaymentDuration.SetFocus();
+}
+
+void frmAutoSettings::ComboPaymentDuration_LostFocus()
+{
+    CheckChoice(ComboPaymentDuration);
+}
+
+void frmAutoSettings::txtCow_LostFocus()
+{
+    CheckKapat(txtCow);
+}
+
+void frmAutoSettings::txtBuff_LostFocus()
+{
+    if (txtCow.IsEmpty() || !CheckKapat(txtBuff))
+        return;
+    SSTab.SetTab(Sale);
+    txtCowSaleRate.SetFocus();
+}
+
+void frmAutoSettings::cmbFatRateType_LostFocus()
+{
+    if (cmbFatRateType.Text() == ByFatAndSnf)
+        ShowPlain(QStringLiteral("This Facility is available in the next version."));
+    else if (!cmbFatRateType.IsEmpty())
+        return;
+    cmbFatRateType.SetText(ByFat.toString());
+}
+
+void frmAutoSettings::txtCowSaleRate_LostFocus()
+{
+    CheckAboveZero(txtCowSaleRate, u"#####0.00");
+}
+
+void frmAutoSettings::txtBuffSaleRate_LostFocus()
+{
+    if (!txtCowSaleRate.IsEmpty())
+        CheckAboveZero(txtBuffSaleRate, u"######0.00");
+}
+
+void frmAutoSettings::txtMixSaleRate_LostFocus()
+{
+    if (txtBuffSaleRate.IsEmpty() || !CheckAboveZero(txtMixSaleRate, u"#####0.00"))
+        return;
+    SSTab.SetTab(Collection);
+    CmdSave.SetFocus();
+}
+
+void frmAutoSettings::ComboMSRPrintStatus_LostFocus()
+{
+    if (!txtMixSaleRate.IsEmpty())
+        CheckChoice(ComboMSRPrintStatus);
+}

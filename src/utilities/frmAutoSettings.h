@@ -1,0 +1,121 @@
+#pragma once
+
+#include "Button.h"
+#include "CheckBox.h"
+#include "ChoiceCombo.h"
+#include "OptionButton.h"
+#include "Recordset.h"
+#include "ReportControl.h"
+#include "Screen.h"
+#include "TabPages.h"
+
+#include <array>
+#include <utility>
+
+// How the society wants the system to behave: the one row of AutoSettings of its company, on three tabs.
+// A save replaces the row. The columns that no tab has are lost with it, and if a required field is empty
+// the row is not written again.
+class frmAutoSettings final : public Screen {
+public:
+    frmAutoSettings();
+
+protected:
+    void Load() override;
+    bool KeyDown(const QKeyEvent& key) override;
+
+private:
+    Label lblTitle{this, "lblTitle"};
+    Label lblCompanyTitle{this, "lblCompanyTitle"};
+    Label lblAcYear{this, "lblAcYear"};
+    Label lblMessage{this, "lblMessage"};
+
+    enum Pages { Collection, Payment, Sale };
+    TabPages SSTab;
+
+    // Collection
+    ChoiceCombo ComboAutoLiters;
+    ChoiceCombo ComboAutoFat;
+    ChoiceCombo ComboPrintStatus;
+    NumberField txtCowLimit{this, "txtCowLimit", NumberField::Digits::Decimals};
+    NumberField txtBuffLimit{this, "txtBuffLimit", NumberField::Digits::Decimals};
+    ChoiceCombo ComboReceipt;
+    CheckBox CheckRepeatCol{this, "CheckRepeatCol",
+        Shivaji(u"eka maombarcaI eka vaoLI ekapoxaa jaast vaoLa dUQa saMklana naaoMd kÉ VayacaI ka Æ")};
+
+    // Payment
+    ChoiceCombo ComboPaymentDuration;
+    NumberField txtCow{this, "txtCow", NumberField::Digits::Decimals};
+    NumberField txtBuff{this, "txtBuff", NumberField::Digits::Decimals};
+    ChoiceCombo cmbFatRateType{this, "cmbFatRateType"};
+    CheckBox CheckCNP{
+        this, "CheckCNP", Shivaji(u"dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kravaI ka Æ")};
+    CheckBox CheckSNU{this, "CheckSNU",
+        Shivaji(
+            u"maombarlaa kolaolaI ]Qaar ivaËI dUQa pomaonT krtovaoLI ]cala mhNaUna ivacaarat GyaavaI ka Æ")};
+    OptionButton OptionAddThev{this, "OptionAddThev", Shivaji(u"zovaImaQyao Gyaa")};
+    OptionButton OptionPayable{this, "OptionPayable", Shivaji(u"doNao daKvaa")};
+    OptionButton OptionPayIt{this, "OptionPayIt", Shivaji(u"pUNa- pomaonT kra")};
+    OptionButton OptionDiscount{this, "OptionDiscount", Shivaji(u"saUT daKvaa")};
+    OptionGroup DecimalPayment{{&OptionAddThev, &OptionPayable, &OptionPayIt, &OptionDiscount}};
+
+    // Milk sale
+    NumberField txtCowSaleRate{this, "txtCowSaleRate", NumberField::Digits::Decimals};
+    NumberField txtBuffSaleRate{this, "txtBuffSaleRate", NumberField::Digits::Decimals};
+    NumberField txtMixSaleRate{this, "txtMixSaleRate", NumberField::Digits::Decimals};
+    ChoiceCombo ComboMSRPrintStatus;
+
+    Button CmdSave{this, "CmdSave", Shivaji(u"&saovh")};
+    Button CmdCancel{this, "CmdCancel", Shivaji(u"&r_")};
+    Button CmdExit{this, "CmdExit", Shivaji(u"&baahor")};
+
+    // It stands beside ComboReceipt, and last in the tab order: Enter behind the choice of a layout goes on.
+    Button cmdReceipt{this, "cmdReceipt", Shivaji(u"pavatI p`kar")};
+
+    ReportControl CRMilkReceipt;
+
+    void Wire();
+    void LayOut();
+    QLayout* CollectionPage();
+    QLayout* PaymentPage();
+    QLayout* SalePage();
+    void SetGuides();
+
+    void SSTab_Click();
+    void CheckCNP_Click();
+    void CmdSave_Click();
+    void CmdCancel_Click();
+    void cmdReceipt_Click();
+    void CmdExit_Click();
+
+    // Leaving the fields
+    void ComboAutoLiters_LostFocus();
+    void ComboAutoFat_LostFocus();
+    void ComboPrintStatus_LostFocus();
+    void txtCowLimit_LostFocus();
+    void txtBuffLimit_LostFocus();
+    void ComboReceipt_LostFocus();
+    void CheckRepeatCol_LostFocus();
+    void ComboPaymentDuration_LostFocus();
+    void txtCow_LostFocus();
+    void txtBuff_LostFocus();
+    void cmbFatRateType_LostFocus();
+    void txtCowSaleRate_LostFocus();
+    void txtBuffSaleRate_LostFocus();
+    void txtMixSaleRate_LostFocus();
+    void ComboMSRPrintStatus_LostFocus();
+
+    // These return whether the field may be left.
+    bool CheckChoice(ChoiceCombo& combo);
+    bool CheckAboveZero(NumberField& field, QStringView pattern);
+    bool CheckKapat(NumberField& field);
+
+    // The row behind the screen
+    static constexpr QStringView ByFat = u"f^T nausaar";
+    static constexpr QStringView ByFatAndSnf = u"f^T va esa ena ef nausaar"; // offered, never kept
+    void LoadSettings();
+    void ShowSettings(const Recordset& settings);
+    bool AreRequiredFieldsFilled() const;
+    std::array<std::pair<OptionButton*, QStringView>, 4> DecimalPayments();
+    QStringView DecimalPaymentWord();
+    QString InsertStatement();
+};

@@ -1,0 +1,157 @@
+#include "frmAutoSettings.h"
+#include "AppFolder.h"
+#include "MdlAccounts.h"
+#include "Numbers.h"
+#include "Sql.h"
+#include "Transaction.h"
+
+#include <array>
+#include <utility>
+
+namespace {
+
+// The template of the sample of each layout. The samples of layouts 6 and 8 are files of their own, not
+// those that the counters print with.
+constexpr std::array<std::pair<QStringView, QStringView>, 8> SampleTemplates = {{
+    {u"Tašp 1", u"MilkReceipt1.rpt"},
+    {u"Tašp 2", u"MilkReceipt2.rpt"},
+    {u"Tašp 3", u"MilkReceiptBhl.rpt"},
+    {u"Tašp 4", u"MilkReceiptGhlp.rpt"},
+    {u"Tašp 5", u"MilkReceiptAtk.rpt"},
+    {u"Tašp 6", u"MilkReceiptShenoli.rpt"},
+    {u"Tašp 7", u"MilkReceiptNerli With Time.rpt"},
+    {u"Tašp 8", u"MilkReceiptNerli Minimised With Time.rpt"},
+}};
+
+QString SettingsQuery()
+{
+    return Sql(u"select * from AutoSettings where CompanyId=", gAppState.gCompanyId);
+}
+
+// A column that holds nothing leaves its field empty.
+QString Figure(const FieldValue& value, QStringView pattern)
+{
+    return value.Text().isEmpty() ? QString() : Format(value.Number(), pattern);
+}
+
+QStringView WordOf(const CheckBox& box, QStringView unchecked, QStringView checked)
+{
+    return box.Checked() ? checked : unchecked;
+}
+
+}
+
+void frmAutoSettings::LoadSettings()
+{
+    SSTab.SetTab(Collection);
+    cmbFatRateType.SetWords({ByFat.toString(), ByFatAndSnf.toString()});
+    const Recordset settings(gCn, SettingsQuery());
+    if (!settings.Eof())
+        ShowSettings(settings);
+    ComboAutoLiters.SetFocus();
+}
+
+void frmAutoSettings::ShowSettings(const Recordset& settings)
+{
+    ComboAutoLiters.SetText(settings[u"AutoLiters"].Text());
+    ComboAutoFat.SetText(settings[u"AutoFat"].Text());
+    ComboPrintStatus.SetText(settings[u"PrintStatus"].Text());
+    txtCowLimit.SetText(Figure(settings[u"CanLimitCow"], u"######0.000"));
+    txtBuffLimit.SetText(Figure(settings[u"CanLimitBuff"], u"#####0.000"));
+    ComboReceipt.SetText(settings[u"ReceiptType"].Text());
+    CheckRepeatCol.SetChecked(settings[u"RepeatCollection"].Text() == u"haoya");
+
+    ComboPaymentDuration.SetText(settings[u"PaymentDuration"].Text());
+    txtCow.SetText(Figure(settings[u"ThevKapatCow"], u"#######0.00"));
+    txtBuff.SetText(Figure(settings[u"ThevKapatBuff"], u"#######0.00"));
+    const FieldValue fatRateType = settings[u"FatRatetype"];
+    cmbFatRateType.SetText(fatRateType.IsNull() ? ByFat.toString() : fatRateType.Text());
+    CheckCNP.SetChecked(settings[u"PurchaseEntry"].Text() == u"Collection");
+    CheckSNU.SetChecked(settings[u"UchalEntry"].Text() == u"Sales");
+    DecimalPayment.Clear();
+    for (const auto& [option, word] : DecimalPayments())
+        if (settings[u"DecimalPayment"].Text() == word)
+            option->Choose();
+
+    txtCowSaleRate.SetText(Figure(settings[u"SalesRateCow"], u"#####0.00"));
+    txtBuffSaleRate.SetText(Figure(settings[u"SalesRateBuff"], u"#####0.00"));
+    txtMixSaleRate.SetText(Figure(settings[u"SalesRateMix"], u"#######0.00"));
+    ComboMSRPrintStatus.SetText(settings[u"MSRPrintStatus"].Text());
+}
+
+// The row goes before anything is checked, and stays away if a required field is empty: the screens read
+// the lack of settings as they do a new society's.
+void frmAutoSettings::CmdSave_Click()
+{
+    Transaction save(gCn);
+    Recordset present(gCn, SettingsQuery());
+    gCn.Execute(Sql(u"delete * from AutoSettings where CompanyId=", gAppState.gCompanyId));
+    if (!AreRequiredFieldsFilled()) {
+        save.Commit();
+        return;
+    }
+    gCn.Execute(InsertStatement());
+    gCn.Execute(Sql(u"Update Autosettings Set FatRateType='", cmbFatRateType.Text(), u"'"));
+    present.Close();
+    save.Commit();
+    gAppState.gAutoLiters = ComboAutoLiters.Text();
+    gAppState.gAutoFat = ComboAutoFat.Text();
+    gAppState.gPaymentDuration = ComboPaymentDuration.Text();
+}
+
+bool frmAutoSettings::AreRequiredFieldsFilled() const
+{
+    return !ComboAutoFat.IsEmpty() && !ComboAutoLiters.IsEmpty() && !ComboPrintStatus.IsEmpty()
+        && !ComboReceipt.IsEmpty() && !ComboPaymentDuration.IsEmpty() && !txtCow.IsEmpty()
+        && !txtBuff.IsEmpty();
+}
+
+std::array<std::pair<OptionButton*, QStringView>, 4> frmAutoSettings::DecimalPayments()
+{
+    return {{{&OptionAddThev, u"AddThev"}, {&OptionPayable, u"Payable"}, {&OptionPayIt, u"PayIt"},
+        {&OptionDiscount, u"Discount"}}};
+}
+
+QStringView frmAutoSettings::DecimalPaymentWord()
+{
+    for (const auto& [option, word] : DecimalPayments())
+        if (option->Chosen())
+            return word;
+    return {};
+}
+
+QString frmAutoSettings::InsertStatement()
+{
+    constexpr QStringView next = u"','";
+    return Sql(u"insert into AutoSettings(CompanyId,AutoLiters,AutoFat,PrintStatus,MSRPrintStatus,"
+               u"CanLimitBuff,CanLimitCow,ReceiptType,RepeatCollection,PaymentDuration,PurchaseEntry,"
+               u"UchalEntry,DecimalPayment,ThevKapatCow,ThevKapatBuff,SalesRateCow,SalesRateBuff,"
+               u"SalesRateMix,WeighScale) Values(",
+        gAppState.gCompanyId, u",'", ComboAutoLiters.Text(), next, ComboAutoFat.Text(), next,
+        ComboPrintStatus.Text(), next, ComboMSRPrintStatus.Text(), next, txtBuffLimit.Text(), next,
+        txtCowLimit.Text(), next, ComboReceipt.Text(), next, WordOf(CheckRepeatCol, u"naahI", u"haoya"), next,
+        ComboPaymentDuration.Text(), next, WordOf(CheckCNP, u"Payment", u"Collection"), next,
+        WordOf(CheckSNU, u"Uchal", u"Sales"), next, DecimalPaymentWord(), u"',", txtCow.Text(), u",",
+        txtBuff.Text(), u",'", txtCowSaleRate.Text(), next, txtBuffSaleRate.Text(), next,
+        txtMixSaleRate.Text(), next, gAppState.gWeighScale, u"')");
+}
+
+// Stages the sample bill and shows it in the chosen layout. Before a layout was ever chosen there is no
+// template to print it with.
+void frmAutoSettings::cmdReceipt_Click()
+{
+    Transaction staging(gCn);
+    gCn.Execute(QStringLiteral("delete * from MilkReceipt"));
+    gCn.Execute(QStringLiteral("delete * from MilkReceipt"));
+    gCn.Execute(QStringLiteral("insert into MilkReceipt select * from MRView"));
+    gCn.Execute(Sql(u"update MilkReceipt set CompanyId=", gAppState.gCompanyId));
+    for (const auto& [type, name] : SampleTemplates)
+        if (ComboReceipt.Text() == type)
+            CRMilkReceipt.SetReportFileName(AppFolder.toString() + name);
+    gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
+    staging.Commit();
+    if (CRMilkReceipt.ReportFileName().isEmpty())
+        return;
+    CRMilkReceipt.SetLogon(QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword);
+    CRMilkReceipt.Print();
+}

@@ -1,0 +1,136 @@
+#include "CounterTest.h"
+
+#include <QTableView>
+
+namespace {
+
+class ShiftViewTest : public CounterTest {
+protected:
+    void AddMilk(int number, const char* animal, double liters, double fat, int company = 1)
+    {
+        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), number, 3,
+            QStringLiteral("gaNaoSa"), QString::fromLatin1(animal), liters, fat, 35, liters * 35);
+        Run(QStringLiteral("update MilkCollections set CompanyId=%1 where CollectionNo=%2")
+                .arg(company)
+                .arg(number));
+    }
+
+    static std::string Totals(Clerk& clerk)
+    {
+        return Label(clerk, "lblTotalCowLiters") + '|' + Label(clerk, "lblTotalBuffLiters") + '|'
+            + Label(clerk, "lblAvgCowFat") + '|' + Label(clerk, "lblAvgBuffFat");
+    }
+
+    static const DataGrid& Inwards(Clerk& clerk) { return Grid(clerk, "DataGridInwards"); }
+};
+
+TEST_F(ShiftViewTest, AnEmptyShiftShowsZeroesWithoutADivision)
+{
+    AtTheCounter([](Clerk& clerk) {
+        EXPECT_EQ(Totals(clerk), "0.000|0.000|0.0|0.0");
+        EXPECT_EQ(Inwards(clerk).Rows(), 0);
+        Type(clerk, "{ENTER}1{ENTER}");
+        EXPECT_EQ(Totals(clerk), "0.000|0.000|0.0|0.0");
+        EXPECT_EQ(Inwards(clerk).Rows(), 0);
+    });
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(ShiftViewTest, OpeningAShiftShowsItsRowsWithTheNewestOnTop)
+{
+    AddMorningDelivery(1);
+    AddMorningDelivery(2);
+    AddMilk(3, "mhOsa", 2.5, 7.25);
+    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("saMQyaakaL"), 9, 2, QStringLiteral("saIta"),
+        QStringLiteral("mhOsa"), 2, 8, 49, 98);
+    InTheMorning([](Clerk& clerk) {
+        ASSERT_EQ(Inwards(clerk).Rows(), 3);
+        EXPECT_EQ(Line(Inwards(clerk), 0), "3|3|गणेश|म्हैस|2.500|7.25|35.00|87.50");
+        EXPECT_EQ(Line(Inwards(clerk), 2), "1|1|राम|गाय|5.000|4.50|35.00|175.00");
+    });
+}
+
+TEST_F(ShiftViewTest, TheListHasItsCaptionsAndWidths)
+{
+    InTheMorning([](Clerk& clerk) {
+        const auto* view = static_cast<QTableView*>(Inwards(clerk).Widget());
+        std::string captions;
+        std::string widths;
+        for (int column = 0; column < view->model()->columnCount(); ++column) {
+            captions += view->model()->headerData(column, Qt::Horizontal).toString().toStdString() + '|';
+            widths += std::to_string(view->columnWidth(column)) + '|';
+        }
+        EXPECT_EQ(captions, "संकलन क्र.|मेम्बर नंबर|मेम्बरचे नांव|दूध|लिटर्स|फॅट|दर|रक्कम|");
+        EXPECT_EQ(widths, "60|66|206|46|93|80|80|86|");
+        for (int column = 4; column < 8; ++column)
+            EXPECT_TRUE(Qt::Alignment(
+                view->model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt())
+                            .testFlag(Qt::AlignRight));
+    });
+}
+
+TEST_F(ShiftViewTest, ASaveAndADeletionShowAtOnce)
+{
+    InTheMorning([](Clerk& clerk) {
+        Deliver(clerk, 1, "5.25", "4.5");
+        ASSERT_EQ(Inwards(clerk).Rows(), 1);
+        EXPECT_EQ(Line(Inwards(clerk), 0), "1|1|राम|गाय|5.250|4.50|35.00|183.75");
+        EXPECT_EQ(Totals(clerk), "5.250|0.000|4.5|0.0");
+        Deliver(clerk, 2, "2", "8");
+        EXPECT_EQ(Inwards(clerk).Cell(0, 0), QStringLiteral("2"));
+        EXPECT_EQ(Totals(clerk), "5.250|2.000|4.5|8.0");
+        Type(clerk, "1{ENTER}{ENTER}4{ENTER}{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(Totals(clerk), "4.000|2.000|4.5|8.0");
+        Type(clerk, "2{ENTER}{F10}");
+        EXPECT_EQ(Inwards(clerk).Rows(), 1);
+    });
+}
+
+TEST_F(ShiftViewTest, ADeletionTakesItsLitresAndLeavesTheAverageFat)
+{
+    AddMilk(1, "gaaya", 5, 4);
+    AddMilk(2, "mhOsa", 2, 8);
+    InTheMorning([](Clerk& clerk) {
+        Type(clerk, "2{ENTER}{F10}");
+        EXPECT_EQ(Totals(clerk), "5.000|0.000|4.0|8.0");
+    });
+}
+
+TEST_F(ShiftViewTest, TheAverageFatIsWeightedByLitres)
+{
+    AddMilk(1, "gaaya", 9, 4);
+    AddMilk(2, "gaaya", 1, 6);
+    AddMilk(3, "mhOsa", 1, 7);
+    AddMilk(4, "mhOsa", 3, 8);
+    InTheMorning([](Clerk& clerk) { EXPECT_EQ(Totals(clerk), "10.000|4.000|4.2|7.8"); });
+}
+
+TEST_F(ShiftViewTest, LitresWithoutFatHaveAnAverageOfZero)
+{
+    AddMilk(1, "gaaya", 9, 0);
+    AddMilk(2, "mhOsa", 3, 0);
+    InTheMorning([](Clerk& clerk) { EXPECT_EQ(Totals(clerk), "9.000|3.000|0.0|0.0"); });
+}
+
+TEST_F(ShiftViewTest, TheListHasAllCompaniesAndTheTotalsTheSelectedOne)
+{
+    AddMilk(1, "gaaya", 9, 4);
+    AddMilk(2, "gaaya", 5, 5, 2);
+    InTheMorning([](Clerk& clerk) {
+        EXPECT_EQ(Inwards(clerk).Rows(), 2);
+        EXPECT_EQ(Totals(clerk), "9.000|0.000|4.0|0.0");
+    });
+}
+
+TEST_F(ShiftViewTest, TheListCannotBeEnteredWhileTheShiftIsChosen)
+{
+    AtTheCounter([](Clerk& clerk) {
+        EXPECT_FALSE(CanEnter(clerk, "DataGridInwards"));
+        Type(clerk, "{ENTER}1{ENTER}");
+        EXPECT_TRUE(CanEnter(clerk, "DataGridInwards"));
+        clerk.Press(QStringLiteral("maskDate"));
+        EXPECT_FALSE(CanEnter(clerk, "DataGridInwards"));
+    });
+}
+
+}

@@ -1,0 +1,80 @@
+// A program beside the tests: the whole of Vetrolan on the books of a folder, with a clerk of its own.
+//
+//   other_process DRIVES            starts, says which screen it has come to, and leaves
+//   other_process DRIVES ACTION N   plays an action and dies at its N-th write
+//
+// What the plain boxes say goes to the standard output; none of them waits.
+
+#include "Actions.h"
+#include "AppFolder.h"
+#include "Clerk.h"
+#include "FaultyDisk.h"
+#include "ModalStack.h"
+#include "Program.h"
+#include "Screens.h"
+#include "World.h"
+
+#include <QTextStream>
+
+namespace {
+
+void Say(const char* what, const QString& text)
+{
+    QTextStream(stdout) << what << ' ' << text << Qt::endl;
+}
+
+class SpokenBox final : public MessageBox {
+public:
+    void Show(const QString& text) override { Say("box", text); }
+};
+
+// The same morning as in the tests, so that the same rows are written.
+class MorningClock final : public Clock {
+public:
+    QDateTime Now() const override { return {QDate(2026, 4, 15), QTime(6, 5)}; }
+};
+
+int StartAndLeave()
+{
+    int exitCode = -1;
+    Clerk clerk;
+    clerk.Play([&] { exitCode = RunProgram(); },
+        [](Clerk& hands) {
+            Say("screen", hands.ScreenName());
+            hands.Type(QStringLiteral("%x"));
+        });
+    return exitCode;
+}
+
+int DieAtWrite(const Action& action, int n)
+{
+    FaultyDisk::Install();
+    Clerk clerk;
+    clerk.Play([] { RunProgram(); },
+        [&](Clerk& hands) {
+            hands.Type(OpeningKeys() + action.way);
+            FaultyDisk::Reset();
+            FaultyDisk::KillAt(n);
+            hands.Type(action.keys);
+            FaultyDisk::Reset();
+            Say("survived", hands.ScreenName());
+        });
+    return 0;
+}
+
+}
+
+int main(int argc, char* argv[])
+{
+    Application application(argc, argv);
+    const QStringList arguments = Application::arguments();
+    if (arguments.size() != 2 && arguments.size() != 4)
+        return 2;
+    SpokenBox box;
+    MorningClock clock;
+    World::Current().messageBox = &box;
+    World::Current().clock = &clock;
+    SetDrivesRoot(arguments[1]);
+    RegisterScreens();
+    return arguments.size() == 2 ? StartAndLeave() : DieAtWrite(ActionOf(arguments[2]), arguments[3].toInt());
+}

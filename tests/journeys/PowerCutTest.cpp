@@ -1,0 +1,134 @@
+#include "Actions.h"
+#include "AppFolder.h"
+#include "FaultyDisk.h"
+#include "Processes.h"
+#include "ProgramTest.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <csignal>
+
+namespace {
+
+// For each action: the books before it, the books after it, and how many writes it takes; then the same
+// action again and again, with the disk failing at its first write, at its second, and so on.
+class PowerCutTest : public ProgramTest, public ::testing::WithParamInterface<Action> {
+protected:
+    void SetUp() override
+    {
+        FaultyDisk::Reset();
+        FaultyDisk::Install();
+        Reopen();
+        FillBooks();
+        gCn.Close();
+        ASSERT_TRUE(QFile::copy(FolderFile(Database), m_kept.filePath(Database)));
+        PlayWithoutFault();
+        ASSERT_NE(Difference(m_before, m_after), "") << "the action writes something";
+        ASSERT_GT(m_writes, 1);
+    }
+
+    void TearDown() override { FaultyDisk::Reset(); }
+
+    // The books of FillBooks, closed, without a trace of what was played on them.
+    void Renew()
+    {
+        gCn.Close();
+        for (const QString& name : QDir(LocalPath(AppFolder)).entryList({Database + u'*'}, QDir::Files))
+            ASSERT_TRUE(QFile::remove(FolderFile(name)));
+        ASSERT_TRUE(QFile::copy(m_kept.filePath(Database), FolderFile(Database)));
+    }
+
+    void PlayWithoutFault()
+    {
+        Start([this](Clerk& clerk) {
+            clerk.Type(OpeningKeys() + GetParam().way);
+            m_before = AllRows();
+            FaultyDisk::Reset();
+            clerk.Type(GetParam().keys);
+            m_writes = FaultyDisk::Count();
+            m_after = AllRows();
+        });
+        TheBox.Shown.clear();
+    }
+
+    // Plays the action on a disk that is full from the n-th write on.
+    void PlayOnFullDisk(int n)
+    {
+        bool ended = false;
+        const int exitCode = Start([&](Clerk& clerk) {
+            clerk.Type(OpeningKeys() + GetParam().way);
+            FaultyDisk::Reset();
+            FaultyDisk::FullFrom(n);
+            clerk.Type(GetParam().keys);
+            ended = clerk.ScreenName().isEmpty();
+        });
+        FaultyDisk::Reset();
+        EXPECT_TRUE(ended) << "no screen is left";
+        EXPECT_EQ(exitCode, 1);
+        EXPECT_EQ(TheBox.Shown.size(), 1);
+        EXPECT_EQ(Boxes("Run-time error"), 1);
+        TheBox.Shown.clear();
+    }
+
+    // The open books are what they were, or what the whole action makes of them; true if it is whole.
+    bool IsWhole()
+    {
+        const QStringList rows = AllRows();
+        const bool whole = rows == m_after;
+        EXPECT_EQ(Difference(whole ? m_after : m_before, rows), "");
+        EXPECT_EQ(Integrity(), "ok");
+        return whole;
+    }
+
+    // Lets another process play the action and die at its n-th write.
+    void PlayAndDie(int n)
+    {
+        const auto other = Processes::Start(
+            QStringLiteral("other_process"), {Drives(), GetParam().name, QString::number(n)});
+        ASSERT_TRUE(Processes::WaitForEnd(*other));
+        EXPECT_EQ(other->exitStatus(), QProcess::CrashExit)
+            << other->readAllStandardOutput().toStdString() << other->readAllStandardError().toStdString();
+        EXPECT_EQ(other->exitCode(), SIGKILL);
+    }
+
+    const QString Database = QStringLiteral("Morvelta.mdb");
+    QStringList m_before;
+    QStringList m_after;
+    int m_writes = 0;
+
+private:
+    QTemporaryDir m_kept;
+};
+
+// What is full at the last of them, the sync of the finished log, can be whole: all of it was written.
+TEST_P(PowerCutTest, OnAFullDiskTheProgramEndsAndTheBooksAreAsBefore)
+{
+    for (int n = 1; n <= m_writes && !HasFailure(); ++n) {
+        SCOPED_TRACE("full from write " + std::to_string(n));
+        Renew();
+        PlayOnFullDisk(n);
+        Reopen();
+        const bool whole = IsWhole();
+        EXPECT_TRUE(!whole || n == m_writes) << "the program has said that it failed";
+    }
+}
+
+TEST_P(PowerCutTest, KilledAtAnyWriteItIsDoneWholeOrNotAtAll)
+{
+    int whole = 0;
+    for (int n = 1; n <= m_writes && !HasFailure(); ++n) {
+        SCOPED_TRACE("killed at write " + std::to_string(n));
+        Renew();
+        PlayAndDie(n);
+        Reopen();
+        whole += IsWhole() ? 1 : 0;
+    }
+    EXPECT_GT(whole, 0) << "killed behind the last byte it is whole";
+    EXPECT_LT(whole, m_writes);
+}
+
+INSTANTIATE_TEST_SUITE_P(Actions, PowerCutTest, testing::ValuesIn(Actions()),
+    [](const testing::TestParamInfo<Action>& played) { return played.param.name.toStdString(); });
+
+}

@@ -1,0 +1,22 @@
+#include "Processes.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+std::unique_ptr<QProcess> Processes::Start(
+    const QString& program, const QStringList& arguments, const QStringList& environment)
+{
+    auto process = std::make_unique<QProcess>();
+    QStringList all = QProcess::systemEnvironment();
+    all.append(QStringLiteral("QT_QPA_PLATFORM=offscreen"));
+    process->setEnvironment(all + environment);
+    process->start(QDir(QCoreApplication::applicationDirPath()).filePath(program), arguments);
+    process->waitForStarted();
+    return process;
+}
+
+bool Processes::WaitForEnd(QProcess& process)
+{
+    constexpr int halfMinute = 30000;
+    return process.state() == QProcess::NotRunning || process.waitForFinished(halfMinute);
+}

@@ -1,0 +1,130 @@
+#include "MembersTest.h"
+
+namespace {
+
+// The member rama has something in every table; whatever is written is noted down in turn.
+class MembersOrder : public MembersTest {
+protected:
+    MembersOrder()
+    {
+        const QString rama = QStringLiteral("rama");
+        AddMember(1, rama);
+        AddCollection(1, rama, 10);
+        AddPayment(1, rama, 10);
+        AddUchal(1, 10);
+        AddReceipt(1, QStringLiteral("Uchal Receipt"), 10);
+        AddDeduction(1, QStringLiteral("gaaya zova"), 10);
+        AddVoucher(rama, rama);
+        gCn.RunScript(QStringLiteral("create table Written(Turn integer primary key,What text)"));
+    }
+
+    // Notes each of these events ("delete on T") down from now on.
+    void Note(const QStringList& events)
+    {
+        for (qsizetype at = 0; at < events.size(); ++at)
+            gCn.RunScript(QStringLiteral("create trigger Note%1 after %2 "
+                                         "begin insert into Written(What) values('%2'); end")
+                              .arg(at)
+                              .arg(events[at]));
+    }
+
+    QStringList Written() { return Rows(QStringLiteral("select What from Written order by Turn")); }
+};
+
+const QStringList Renames = {
+    QStringLiteral("update of MemberName on MembersMaster"),
+    QStringLiteral("update of MemberName on MilkCollections"),
+    QStringLiteral("update of MemberName on MilkPayments"),
+    QStringLiteral("update of DAccountName on TransactionsMaster"),
+    QStringLiteral("update of CAccountName on TransactionsMaster"),
+};
+
+const QStringList Deletes = {
+    QStringLiteral("delete on MembersMaster"),
+    QStringLiteral("delete on MilkCollections"),
+    QStringLiteral("delete on MilkPayments"),
+    QStringLiteral("delete on TransactionsMaster"),
+    QStringLiteral("delete on TransactionsDetails"),
+    QStringLiteral("delete on AdvanceReceipt"),
+    QStringLiteral("delete on MilkPaymentsDetails"),
+};
+
+// At the last opening field of a new or a called-up member.
+void ExpectSaveAfter(Clerk& clerk, const QString& lastField, const QString& saveButton)
+{
+    for (const char* keys : {"5{ENTER}", "5+{TAB}", "5%r"}) {
+        GoTo(clerk, lastField);
+        ASSERT_EQ(clerk.Focus(), lastField);
+        clerk.Type(QString::fromLatin1(keys));
+        EXPECT_EQ(clerk.Focus(), saveButton) << keys;
+        EXPECT_EQ(clerk.Reads(lastField), QStringLiteral("5.00")) << keys;
+        EXPECT_EQ(clerk.Reads(saveButton), QStringLiteral("&saovh")) << keys << ": the mode goes on";
+        EXPECT_EQ(clerk.Message(), QString()) << keys << ": nothing is saved yet";
+    }
+}
+
+}
+
+TEST_F(MembersOrder, TheMasterAndThenTheFourPlacesOfTheNameAreWritten)
+{
+    Play([this](Clerk& clerk) {
+        CallUp(clerk, 1);
+        Note(Renames);
+        clerk.Type(QStringLiteral("gaNaoXa{ENTER}%s%h"));
+    });
+    EXPECT_EQ(Written(), Renames);
+}
+
+TEST_F(MembersOrder, AnUnchangedNameIsWrittenInTheSameOrder)
+{
+    Play([this](Clerk& clerk) {
+        CallUp(clerk, 1);
+        Note(Renames);
+        clerk.Type(QStringLiteral("%s%h"));
+    });
+    EXPECT_EQ(Written(), Renames);
+}
+
+TEST_F(MembersOrder, AMemberLeavesTheMasterFirstAndTheDeductionsLast)
+{
+    Play([this](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%k1{ENTER}"));
+        Note(Deletes);
+        clerk.Type(QStringLiteral("{ENTER}%h"));
+    });
+    EXPECT_EQ(Written(), Deletes);
+}
+
+TEST_F(MembersOrder, ANoWritesNothingAtAll)
+{
+    Note(Renames + Deletes);
+    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%n")); });
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        clerk.Type(QStringLiteral("gaNaoXa{ENTER}%s%n"));
+    });
+    EXPECT_EQ(Written(), QStringList());
+}
+
+// The last opening field
+
+TEST_F(MembersOrder, LeavingTheLastOpeningFieldInAnyWayGivesTheFocusToSave)
+{
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        ExpectSaveAfter(clerk, QStringLiteral("txtBuffOpeningThev"), QStringLiteral("cmdModify"));
+    });
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{ENTER}"));
+        ExpectSaveAfter(clerk, QStringLiteral("txtBuffOpeningThev"), QStringLiteral("cmdNew"));
+    });
+}
+
+TEST_F(MembersOrder, ACowMembersLastOpeningFieldIsTheCowsDeposit)
+{
+    Run(QStringLiteral("update MembersMaster set Animal='gaaya'"));
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        ExpectSaveAfter(clerk, QStringLiteral("txtCowOpeningThev"), QStringLiteral("cmdModify"));
+    });
+}

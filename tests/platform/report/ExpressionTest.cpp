@@ -1,0 +1,156 @@
+#include "ReportTest.h"
+
+#include "ExactSum.h"
+#include "Expression.h"
+
+namespace {
+
+class ExpressionTest : public ReportTest {
+protected:
+    // What a text of a template prints over one delivery.
+    QString Printed(const QString& text)
+    {
+        return AllTexts(Template(QStringLiteral("<text>") + text + QStringLiteral("</text>"))).value(0);
+    }
+
+    void AddOne() { AddDelivery(7, QStringLiteral("सकाळ"), QStringLiteral("विठ्ठल शिंदे"), 12.5, 4.2, 437.5); }
+};
+
+}
+
+TEST_F(ExpressionTest, ArithmeticKeepsThePrecedenceOfItsSigns)
+{
+    AddOne();
+    EXPECT_EQ(Printed(QStringLiteral("{1 + 2 * 3 - 8 / 4}")), QStringLiteral("5"));
+    EXPECT_EQ(Printed(QStringLiteral("{(1 + 2) * 3}")), QStringLiteral("9"));
+    EXPECT_EQ(Printed(QStringLiteral("{-2 - -3}")), QStringLiteral("1"));
+    EXPECT_EQ(Printed(QStringLiteral("{10 - 3 - 2}")), QStringLiteral("5"));
+    EXPECT_EQ(Printed(QStringLiteral("{Amount / Liters|0.00}")), QStringLiteral("35.00"));
+    EXPECT_EQ(Printed(QStringLiteral("{abs(Liters - 20)|0.0}")), QStringLiteral("7.5"));
+}
+
+TEST_F(ExpressionTest, DividingByNothingGivesNothing)
+{
+    AddOne();
+    EXPECT_EQ(Printed(QStringLiteral("{Amount / (Liters - Liters)|0.00}")), QStringLiteral("0.00"));
+}
+
+TEST_F(ExpressionTest, AConditionChoosesBetweenTwoValues)
+{
+    AddOne();
+    EXPECT_EQ(Printed(QStringLiteral("{if(Liters &gt; 12, 'जास्त', 'कमी')}")), QStringLiteral("जास्त"));
+    EXPECT_EQ(
+        Printed(QStringLiteral("{if(Liters &gt; 12 and Fat &lt; 4, 'हो', 'नाही')}")), QStringLiteral("नाही"));
+    EXPECT_EQ(
+        Printed(QStringLiteral("{if(not (Fat = 4.2) or Liters &lt;&gt; 12.5, 1, 2)}")), QStringLiteral("2"));
+    EXPECT_EQ(Printed(QStringLiteral("{if(Liters &gt;= 12.5 and Liters &lt;= 12.5, Liters, '')|0.000}")),
+        QStringLiteral("12.500"));
+    EXPECT_EQ(Printed(QStringLiteral("[{if(Liters = 0, Liters, '')|0.000}]")), QStringLiteral("[]"));
+}
+
+TEST_F(ExpressionTest, AStoredTextIsSeenAndComparedInDevanagari)
+{
+    AddOne();
+    EXPECT_EQ(Printed(QStringLiteral("{MemberName}")), QStringLiteral("विठ्ठल शिंदे"));
+    EXPECT_EQ(Printed(QStringLiteral("{if(CollectionTime = 'सकाळ', 'होय', 'नाही')}")), QStringLiteral("होय"));
+}
+
+TEST_F(ExpressionTest, APlainFieldIsShownAsItIsStored)
+{
+    Run(QStringLiteral("insert into MembersListReport(CompanyId,Crieteria,MemberNo) values(1,'Area',1)"));
+    const QString text =
+        QStringLiteral("<report name=\"T\" paper=\"A4\"><source name=\"m\" table=\"MembersListReport\"/>"
+                       "<text>{Crieteria|plain}</text>"
+                       "<text if=\"plain(Crieteria) = 'Area'\">विभागवार</text>"
+                       "<text if=\"plain(Crieteria) = 'Milk'\">दुधानुसार</text></report>");
+    EXPECT_EQ(AllTexts(text), QStringList({QStringLiteral("Area"), QStringLiteral("विभागवार")}));
+}
+
+TEST_F(ExpressionTest, NumbersAndDatesTakeTheirFormats)
+{
+    AddOne();
+    EXPECT_EQ(Printed(QStringLiteral("{Amount|######0.00}")), QStringLiteral("437.50"));
+    EXPECT_EQ(Printed(QStringLiteral("{1.005|0.00}")), QStringLiteral("1.01"));
+    EXPECT_EQ(Printed(QStringLiteral("{CollectionDate}")), QStringLiteral("05/04/2026"));
+    EXPECT_EQ(Printed(QStringLiteral("{CollectionDate|dd-MM-yy}")), QStringLiteral("05-04-26"));
+    EXPECT_EQ(Printed(QStringLiteral("{Liters} ली.")), QStringLiteral("12.5 ली."));
+}
+
+TEST_F(ExpressionTest, AnEmptyColumnIsNothingAndCountsAsZero)
+{
+    AddOne();
+    EXPECT_EQ(Printed(QStringLiteral("[{SNF|0.0}]")), QStringLiteral("[]"));
+    EXPECT_EQ(Printed(QStringLiteral("{SNF + 2}")), QStringLiteral("2"));
+    EXPECT_EQ(Printed(QStringLiteral("{if(SNF = 0, 'रिकामे', 'भरले')}")), QStringLiteral("रिकामे"));
+}
+
+TEST_F(ExpressionTest, TheVariablesTellSocietyYearAndDates)
+{
+    EXPECT_EQ(
+        Printed(QStringLiteral("{$society} {$year}")), QStringLiteral("श्री महालक्ष्मी दूध संस्था 2026-2027"));
+    EXPECT_EQ(Printed(QStringLiteral("{$from} ते {$to|dd/MM}")), QStringLiteral("01/04/2026 ते 10/04"));
+}
+
+TEST_F(ExpressionTest, ATotalOutsideOfATableWalksThroughItsSource)
+{
+    AddOne();
+    AddDelivery(8, QStringLiteral("सकाळ"), QStringLiteral("कमल"), 2.5, 3.5, 80.05);
+    EXPECT_EQ(Printed(QStringLiteral("{sum(c.Amount)|0.00}")), QStringLiteral("517.55"));
+    EXPECT_EQ(Printed(QStringLiteral("{count()} {min(Liters)} {max(Liters)}")), QStringLiteral("2 2.5 12.5"));
+    EXPECT_EQ(Printed(QStringLiteral("{average(Fat)|0.00}")), QStringLiteral("3.85"));
+}
+
+TEST(ExpressionReading, WhatCantBeReadIsToldAndNotGuessed)
+{
+    const std::pair<const char16_t*, const char16_t*> faults[] = {{u"", u"the expression is empty"},
+        {u"1 +", u"the expression breaks off"}, {u"(1", u"\")\" is missing"},
+        {u"1 2", u"\"2\" isn't expected here"}, {u"'open", u"a text in quotes isn't closed"},
+        {u"hello(1)", u"there is no function \"hello\""}, {u"#paper", u"there is no #paper"},
+        {u"$town", u"there is no $town"}, {u"1 & 2", u"\"&\" has no meaning in an expression"},
+        {u"if(1=1, 2)", u"\",\" is missing"},
+        {u"sum(x by y)", u"\"by\" stands in average(x by weight) and in running(x by field)"},
+        {u"plain(1)", u"plain() takes a field"}, {u"c.", u"a column's name is missing behind \"c.\""}};
+    for (const auto& [text, expected] : faults) {
+        ExpressionFault fault;
+        EXPECT_FALSE(ReadExpression(QStringView(text), fault).has_value());
+        EXPECT_EQ(fault.text, QString::fromUtf16(expected));
+    }
+}
+
+TEST(ExpressionReading, BracketsWithoutEndAreRefusedAndDontOverflow)
+{
+    ExpressionFault fault;
+    EXPECT_FALSE(ReadExpression(QString(100000, u'('), fault).has_value());
+    EXPECT_EQ(fault.text, QStringLiteral("the brackets are nested too deeply"));
+    EXPECT_FALSE(ReadExpression(QString(100000, u'-'), fault).has_value());
+    EXPECT_EQ(fault.text, QStringLiteral("the brackets are nested too deeply"));
+}
+
+TEST(ExactSums, StayExactWhereBinaryNumbersDrift)
+{
+    ExactSum sum;
+    for (int i = 0; i < 100000; ++i)
+        sum.Add(0.1);
+    EXPECT_EQ(sum.Number(), 10000.0);
+}
+
+TEST(ExactSums, AddWhatIsPrintedAndRoundHalvesAwayFromZero)
+{
+    ExactSum sum;
+    sum.Add(1.005, 2);
+    sum.Add(2.675, 2);
+    EXPECT_EQ(sum.Number(), 3.69);
+    ExactSum negative;
+    negative.Add(-1.005, 2);
+    negative.Add(-0.004, 2);
+    EXPECT_EQ(negative.Number(), -1.01);
+}
+
+TEST(ExactSums, ATotalBeyondAllRangeIsAnErrorAndNotAWrongNumber)
+{
+    ExactSum sum;
+    sum.Add(9e12);
+    EXPECT_THROW(sum.Add(9e12), RunTimeError);
+    ExactSum other;
+    EXPECT_THROW(other.Add(1e13), RunTimeError);
+}

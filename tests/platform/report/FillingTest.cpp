@@ -1,0 +1,225 @@
+#include "ReportTest.h"
+
+#include <QFile>
+
+namespace {
+
+const QString Morning = QStringLiteral("सकाळ");
+
+class FillingTest : public ReportTest {
+protected:
+    QString Joined(const QString& text) { return AllTexts(text).join(QStringLiteral(" | ")); }
+};
+
+}
+
+TEST_F(FillingTest, PairsStandBesideEachOtherAndVanishWhenTheirConditionFails)
+{
+    AddDelivery(7, Morning, QStringLiteral("विठ्ठल"), 12.5, 4.2, 437.5);
+    const std::unique_ptr<Report> report = Make(
+        Template(QStringLiteral("<pairs labelw=\"30\"><pair label=\"सभासद\">{MemberNo} {MemberName}</pair>"
+                                "<pair label=\"एसएनएफ\" if=\"SNF &gt; 0\">{SNF}</pair><pair label=\"लिटर\" "
+                                "align=\"right\">{Liters|0.000}</pair></pairs>")));
+    report->Complete();
+    const Page& page = report->PageAt(0);
+    EXPECT_EQ(Texts(page).size(), 4);
+    const PlacedItem label = Item(page, QStringLiteral("सभासद"));
+    const PlacedItem value = Item(page, QStringLiteral("7 विठ्ठल"));
+    EXPECT_FLOAT_EQ(value.y, label.y);
+    EXPECT_NEAR(value.x - label.x, 30 * PointsPerMillimetre, 0.01);
+    EXPECT_EQ(Item(page, QStringLiteral("12.500")).align, Align::Right);
+    EXPECT_GT(Item(page, QStringLiteral("12.500")).y, value.y);
+}
+
+TEST_F(FillingTest, BlocksStandSideBySideAndTheNextElementBelowTheTaller)
+{
+    const std::unique_ptr<Report> report = Make(
+        Template(QStringLiteral("<columns gap=\"10\"><column w=\"50\"><text>अ</text><text>आ</text></column>"
+                                "<column><text>इ</text></column></columns><text>ई</text>")));
+    report->Complete();
+    const Page& page = report->PageAt(0);
+    EXPECT_FLOAT_EQ(Item(page, QStringLiteral("अ")).y, Item(page, QStringLiteral("इ")).y);
+    EXPECT_NEAR(Item(page, QStringLiteral("इ")).x - Item(page, QStringLiteral("अ")).x,
+        60 * PointsPerMillimetre, 0.01);
+    EXPECT_GT(Item(page, QStringLiteral("ई")).y, Item(page, QStringLiteral("आ")).y);
+}
+
+TEST_F(FillingTest, EachRunsItsPartForEveryRowWithTheRowsThatHangOnIt)
+{
+    AddDelivery(1, Morning, QStringLiteral("अशोक"), 1, 4, 30);
+    AddDelivery(2, Morning, QStringLiteral("बाबू"), 2, 4, 60);
+    for (const char* pair : {"1,'A',5", "1,'B',6", "2,'C',7"})
+        Run(QStringLiteral("insert into KapatDetails(MemberNo,Label1,Value1) values(%1)")
+                .arg(QString::fromLatin1(pair)));
+    const QString text = Template(QStringLiteral(
+        "<source name=\"k\" table=\"KapatDetails\" link=\"MemberNo\" to=\"c\" order=\"Label1\"/>"
+        "<each source=\"c\"><text>{MemberName}: {sum(k.Value1)}</text>"
+        "<table source=\"k\"><col>{Label1|plain}</col><col>{Value1} {c.MemberNo}</col></table></each>"));
+    EXPECT_EQ(Joined(text), QStringLiteral("अशोक: 11 | A | 5 1 | B | 6 1 | बाबू: 7 | C | 7 2"));
+}
+
+TEST_F(FillingTest, AFieldOfALinkedSourceIsThatOfItsFirstRow)
+{
+    AddDelivery(1, Morning, QStringLiteral("अशोक"), 1, 4, 30);
+    AddDelivery(2, Morning, QStringLiteral("बाबू"), 2, 4, 60);
+    AddDelivery(3, Morning, QStringLiteral("कमल"), 3, 4, 90);
+    RunSeen(
+        QStringLiteral("insert into MembersMaster(MemberNo,City,PaymentType) values(1,'[कोल्हापूर]','[रोख]')"));
+    RunSeen(
+        QStringLiteral("insert into MembersMaster(MemberNo,City,PaymentType) values(2,'[सांगली]','[बँक]')"));
+    const QString source =
+        QStringLiteral("<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\"/>");
+    EXPECT_EQ(Joined(Template(
+                  source + QStringLiteral("<table source=\"c\"><col>{MemberNo} {m.City}</col></table>"))),
+        QStringLiteral("1 कोल्हापूर | 2 सांगली | 3 "));
+    EXPECT_EQ(Joined(Template(source
+                  + QStringLiteral(
+                      "<table source=\"c\" only=\"m.PaymentType = 'रोख'\"><col>{MemberNo}</col></table>"))),
+        QStringLiteral("1"));
+}
+
+TEST_F(FillingTest, TheSelectionNarrowsTheFirstSourceOfItsTable)
+{
+    AddDelivery(1, Morning, QStringLiteral("अशोक"), 1, 4, 30);
+    AddDelivery(2, Morning, QStringLiteral("बाबू"), 2, 4, 60);
+    const QString text = Template(QStringLiteral("<table source=\"c\"><col>{MemberNo}</col></table>"));
+    const std::unique_ptr<Report> report =
+        Make(text, {QStringLiteral("MilkCollectionsTemp"), QStringLiteral("MemberNo=2")});
+    report->Complete();
+    EXPECT_EQ(Texts(report->PageAt(0)), QStringList({QStringLiteral("2")}));
+    EXPECT_THROW(Make(text, {QStringLiteral("MilkPayments"), QStringLiteral("MemberNo=2")}), RunTimeError);
+}
+
+TEST_F(FillingTest, RepeatedSourcesOfOneTableCanBeFilteredApart)
+{
+    AddDelivery(1, Morning, QStringLiteral("अशोक"), 1, 4, 30);
+    AddDelivery(2, QStringLiteral("संध्याकाळ"), QStringLiteral("बाबू"), 2, 4, 60);
+    const QString text = QStringLiteral(
+        "<report name=\"T\" paper=\"A4\">"
+        "<source name=\"m\" table=\"MilkCollectionsTemp\" only=\"CollectionTime = 'सकाळ'\"/>"
+        "<source name=\"e\" table=\"MilkCollectionsTemp\" only=\"CollectionTime &lt;&gt; 'सकाळ'\"/>"
+        "<columns><column><table source=\"m\"><col>{MemberName}</col></table></column>"
+        "<column><table source=\"e\"><col>{MemberName}</col></table></column></columns>"
+        "<text>{sum(m.Liters)} {sum(e.Liters)}</text></report>");
+    EXPECT_EQ(Joined(text), QStringLiteral("अशोक | बाबू | 1 2"));
+}
+
+TEST_F(FillingTest, HeadsSpanTheirColumns)
+{
+    AddDelivery(1, Morning, QStringLiteral("अशोक"), 1, 4, 30);
+    const std::unique_ptr<Report> report = Make(Template(QStringLiteral(
+        "<table source=\"c\"><heads><head/><head span=\"2\">सकाळ</head></heads>"
+        "<col w=\"50\" head=\"नाव\">{MemberName}</col><col w=\"20\" head=\"ली.\">{Liters}</col>"
+        "<col w=\"20\" head=\"फॅट\">{Fat}</col></table>")));
+    report->Complete();
+    const Page& page = report->PageAt(0);
+    const PlacedItem span = Item(page, Morning);
+    EXPECT_FLOAT_EQ(span.x, Item(page, QStringLiteral("ली.")).x);
+    EXPECT_NEAR(span.x + span.width,
+        Item(page, QStringLiteral("फॅट")).x + Item(page, QStringLiteral("फॅट")).width, 0.01);
+    EXPECT_LT(span.y, Item(page, QStringLiteral("ली.")).y);
+}
+
+TEST_F(FillingTest, FiguresAreShrunkWhereNamesAreCut)
+{
+    AddDelivery(1, Morning, QStringLiteral("अशोक"), 1, 4, 123456789.25);
+    const std::unique_ptr<Report> report =
+        Make(Template(QStringLiteral("<table source=\"c\"><col w=\"10\">{MemberName}</col><col w=\"10\" "
+                                     "align=\"right\">{Amount|0.00}</col>"
+                                     "<col w=\"10\" wrap=\"1\">{CollectionTime}</col></table>")));
+    report->Complete();
+    EXPECT_EQ(Item(report->PageAt(0), QStringLiteral("अशोक")).fit, Fit::Cut);
+    EXPECT_EQ(Item(report->PageAt(0), QStringLiteral("123456789.25")).fit, Fit::Shrink);
+    EXPECT_EQ(Item(report->PageAt(0), Morning).fit, Fit::Wrap);
+}
+
+TEST_F(FillingTest, AChartAddsTheRowsOfALabelAndScalesItsBars)
+{
+    AddDelivery(1, Morning, QStringLiteral("अ"), 10, 4, 30);
+    AddDelivery(2, Morning, QStringLiteral("ब"), 30, 4, 60);
+    AddDelivery(3, QStringLiteral("संध्याकाळ"), QStringLiteral("क"), 20, 4, 60);
+    const std::unique_ptr<Report> report = Make(Template(
+        QStringLiteral("<chart source=\"c\" kind=\"bar\" x=\"{CollectionTime}\" h=\"80\" title=\"दूध\">"
+                       "<series label=\"लिटर\" value=\"Liters\"/></chart>")));
+    report->Complete();
+    const Page& page = report->PageAt(0);
+    std::vector<float> bars;
+    for (const PlacedItem& item : page.items) {
+        if (item.kind == PlacedItem::Kind::Box)
+            bars.push_back(item.height);
+    }
+    ASSERT_EQ(bars.size(), 3U) << "the legend's mark and two bars";
+    EXPECT_NEAR(bars[1], 2 * bars[2], 0.01) << "40 litres against 20";
+    EXPECT_EQ(Item(page, QStringLiteral("दूध")).align, Align::Center);
+    EXPECT_LT(Item(page, Morning).x, Item(page, QStringLiteral("संध्याकाळ")).x);
+    EXPECT_LT(Item(page, QStringLiteral("40")).y, Item(page, QStringLiteral("0")).y);
+}
+
+TEST_F(FillingTest, ALineChartJoinsItsPointsBelowZeroToo)
+{
+    AddDelivery(1, Morning, QStringLiteral("अ"), 10, 4, 30);
+    AddDelivery(2, Morning, QStringLiteral("ब"), -10, 4, 60);
+    AddDelivery(3, Morning, QStringLiteral("क"), 10, 4, 60);
+    const std::unique_ptr<Report> report =
+        Make(Template(QStringLiteral("<chart source=\"c\" kind=\"line\" x=\"{MemberNo}\"><series "
+                                     "label=\"लिटर\" value=\"Liters\"/></chart>")));
+    report->Complete();
+    int falling = 0;
+    int rising = 0;
+    for (const PlacedItem& item : report->PageAt(0).items) {
+        const bool isSlanted = item.kind == PlacedItem::Kind::Line && item.width > 1 && item.height != 0;
+        falling += isSlanted && item.height > 0;
+        rising += isSlanted && item.height < 0;
+    }
+    EXPECT_EQ(falling, 1);
+    EXPECT_EQ(rising, 1);
+}
+
+TEST_F(FillingTest, AChartWithoutRowsHasItsAxesAndNoBars)
+{
+    const std::unique_ptr<Report> report =
+        Make(Template(QStringLiteral("<chart source=\"c\" kind=\"bar\" x=\"{MemberNo}\"><series "
+                                     "label=\"लिटर\" value=\"Liters\"/></chart>")));
+    report->Complete();
+    EXPECT_EQ(std::count_if(report->PageAt(0).items.begin(), report->PageAt(0).items.end(),
+                  [](const PlacedItem& item) { return item.kind == PlacedItem::Kind::Box; }),
+        1);
+    EXPECT_TRUE(Texts(report->PageAt(0)).contains(QStringLiteral("0")));
+}
+
+// Every placed item of one page. VETROLAN_RENEW_GOLDEN=1 writes the file anew.
+TEST_F(FillingTest, TheItemsOfAPageAreThoseOfTheGoldenFile)
+{
+    AddDelivery(1, Morning, QStringLiteral("अशोक पाटील"), 10.125, 4.0, 350.55);
+    AddDelivery(2, Morning, QStringLiteral("बाबू शिंदे"), 5.5, 3.5, 180.1);
+    AddDelivery(3, QStringLiteral("संध्याकाळ"), QStringLiteral("कमल जाधव"), 20, 5.0, 800.01);
+    const std::unique_ptr<Report> report = Make(QStringLiteral(R"xml(
+<report name="Golden" paper="A5" margin="10" font="Noto Sans Devanagari 9">
+  <source name="c" table="MilkCollectionsTemp" order="CollectionNo"/>
+  <pageheader>
+    <text align="center" bold="1" size="12">{$society}</text>
+    <columns><column><text>{$from} ते {$to}</text></column><column><text align="right">पान {#page}/{#pages}</text></column></columns>
+    <rule/>
+  </pageheader>
+  <table source="c" lines="1">
+    <col w="12" head="क्र." align="right">{CollectionNo}</col>
+    <col head="नाव">{MemberName}</col>
+    <col w="22" head="लिटर" align="right" total="sum">{Liters|0.000}</col>
+    <col w="26" head="रक्कम" align="right" total="sum">{Amount|0.00}</col>
+    <group by="CollectionTime" head="{CollectionTime}" foot="एकूण {CollectionTime}"/>
+    <total label="एकूण"/>
+  </table>
+  <pagefooter><rule/><text size="7">सही</text></pagefooter>
+</report>)xml"));
+    report->Complete();
+    const QString seen = Describe(report->PageAt(0), report->Fonts()).join(u'\n') + QStringLiteral("\n");
+    QFile golden(QStringLiteral(GOLDEN_FOLDER "/page.txt"));
+    if (qEnvironmentVariableIsSet("VETROLAN_RENEW_GOLDEN")) {
+        ASSERT_TRUE(golden.open(QIODevice::WriteOnly));
+        golden.write(seen.toUtf8());
+    } else {
+        ASSERT_TRUE(golden.open(QIODevice::ReadOnly));
+        EXPECT_EQ(seen, QString::fromUtf8(golden.readAll()))
+            << "if the change is wanted: VETROLAN_RENEW_GOLDEN=1 report_tests";
+    }
+}

@@ -1,0 +1,98 @@
+#include "ReportTest.h"
+
+#include "Recordset.h"
+#include "SelectionFormula.h"
+
+namespace {
+
+class FormulaTest : public ReportTest {
+protected:
+    FormulaTest()
+    {
+        for (const int day : {1, 2, 3})
+            RunSeen(QStringLiteral("insert into MilkPayments(PaymentDate,MemberNo,MemberName,NetAmount) "
+                                   "values('0%1/04/2026',%1,'[राम]',%2)")
+                        .arg(day)
+                        .arg(day * 100));
+    }
+
+    // The members that a formula selects.
+    QString Selected(const QString& formula)
+    {
+        const Selection selection = ReadSelectionFormula(formula, *connection);
+        QStringList members;
+        Recordset rows(*connection,
+            QStringLiteral("select MemberNo from ") + selection.table + QStringLiteral(" where ")
+                + selection.condition);
+        for (; !rows.Eof(); rows.MoveNext())
+            members.append(rows.At(0).Text());
+        return members.join(u',');
+    }
+
+    QString Refused(const QString& formula)
+    {
+        try {
+            ReadSelectionFormula(formula, *connection);
+        } catch (const RunTimeError& error) {
+            EXPECT_TRUE(error.Happened().contains(formula));
+            return error.Happened().section(QStringLiteral("be read: "), 1).section(u'\n', 0, 0);
+        }
+        return QStringLiteral("it was taken");
+    }
+};
+
+}
+
+TEST_F(FormulaTest, TheDateOfThePaymentListSelectsItsRows)
+{
+    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.PaymentDate} = DateTime (2026,4,2,00, 00, 00)")),
+        QStringLiteral("2"));
+    EXPECT_EQ(
+        Selected(QStringLiteral("{milkpayments.paymentdate}>=Date(2026,04,02)")), QStringLiteral("2,3"));
+}
+
+TEST_F(FormulaTest, ComparisonsJoinWithAndOrNotAndBrackets)
+{
+    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberNo} = 1 or {MilkPayments.MemberNo} > 1 and "
+                                      "{MilkPayments.NetAmount} < 250.5")),
+        QStringLiteral("1,2"));
+    EXPECT_EQ(Selected(QStringLiteral("({MilkPayments.MemberNo} = 1 or {MilkPayments.MemberNo} > 1) and "
+                                      "not ({MilkPayments.NetAmount} < 250.5)")),
+        QStringLiteral("3"));
+    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberNo} <> 2")), QStringLiteral("1,3"));
+}
+
+TEST_F(FormulaTest, ATextIsComparedAsItIsStoredWhateverQuotesItHolds)
+{
+    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberName} = 'rama'")), QStringLiteral("1,2,3"));
+    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberName} = 'राम'")), QString());
+    connection->RunScript(QStringLiteral("update MilkPayments set MemberName='O''Neil' where MemberNo=2"));
+    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberName} = \"O'Neil\"")), QStringLiteral("2"));
+}
+
+TEST_F(FormulaTest, AnEmptyFormulaSelectsEverything)
+{
+    EXPECT_TRUE(ReadSelectionFormula(QStringLiteral("  "), *connection).table.isEmpty());
+}
+
+TEST_F(FormulaTest, AFormulaThatCantBeReadIsAnErrorThatShowsIt)
+{
+    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.PaymentDate} =")),
+        QStringLiteral("a number, a text or a date is missing."));
+    EXPECT_EQ(Refused(QStringLiteral("PaymentDate = 1")),
+        QStringLiteral("a field such as {Table.Column} is missing."));
+    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.Surname} = 1")),
+        QStringLiteral("there is no field {MilkPayments.Surname}."));
+    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.PaymentDate} = DateTime (2026,2,30,00,00,00)")),
+        QStringLiteral("\"DateTime (2026,2,30,00,00,00)\" is no date."));
+    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.PaymentDate} = DateTime (2026,2,3,10,00,00)")),
+        QStringLiteral("the books hold dates without a time of day."));
+    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.PaymentDate} = 5")),
+        QStringLiteral("PaymentDate is compared with a value of another kind."));
+    EXPECT_EQ(Refused(QStringLiteral("({MilkPayments.MemberNo} = 5")), QStringLiteral("a \")\" is missing."));
+    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.MemberNo} = 5; delete * from MilkPayments")),
+        QStringLiteral("\"; delete * from MilkPayments\" isn't expected."));
+    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.MemberNo} = 5 and {MembersMaster.MemberNo} = 5")),
+        QStringLiteral("its fields are of more than one table."));
+    EXPECT_EQ(Refused(QString(1000, u'(')), QStringLiteral("its brackets are nested too deeply."));
+}

@@ -1,0 +1,227 @@
+#include "ReportTest.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace {
+
+const QString Conjuncts = QStringLiteral("श्री ज्ञानेश्वर क्षीरसागर, राष्ट्रीय विद्यार्थी, कऱ्हाड, पुण्यस्मृती, द्ध्य");
+
+// A disk on which no file can grow beyond a size, as long as it stands.
+class NarrowDisk {
+public:
+    explicit NarrowDisk(rlim_t bytes)
+    {
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit narrow = m_before;
+        narrow.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &narrow);
+    }
+    ~NarrowDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    NarrowDisk(const NarrowDisk&) = delete;
+    NarrowDisk& operator=(const NarrowDisk&) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int) = nullptr;
+};
+
+class KeepingPrinter final : public Printer {
+public:
+    QStringList Names() override { return {QStringLiteral("one")}; }
+    Outcome Print(const PrintJob& job) override
+    {
+        QFile file(job.file);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        Content = file.readAll();
+        Job = job;
+        return Answer;
+    }
+
+    QByteArray Content;
+    PrintJob Job;
+    Outcome Answer;
+};
+
+class OutputTest : public ReportTest {
+protected:
+    std::unique_ptr<Report> MakeText(const QString& text)
+    {
+        return Make(Template(QStringLiteral("<text>") + text + QStringLiteral("</text>")));
+    }
+
+    // What lies in a folder of its own for the outputs.
+    QStringList Outputs() const
+    {
+        return QDir(File(QStringLiteral("out"))).entryList(QDir::Files | QDir::Hidden);
+    }
+    QString Output(const QString& name) const
+    {
+        QDir(folder.path()).mkpath(QStringLiteral("out"));
+        return File(QStringLiteral("out/") + name);
+    }
+    static QByteArray Content(const QString& file)
+    {
+        QFile source(file);
+        EXPECT_TRUE(source.open(QIODevice::ReadOnly));
+        return source.readAll();
+    }
+};
+
+}
+
+TEST_F(OutputTest, ThePdfReadsAsThePageIsSeenConjunctsIncluded)
+{
+    AddDelivery(1, QStringLiteral("सकाळ"), QStringLiteral("ज्ञानेश्वर क्षीरसागर"), 12.5, 4, 350.5);
+    const std::unique_ptr<Report> report = Make(Template(QStringLiteral("<text>") + Conjuncts
+        + QStringLiteral("</text><table source=\"c\"><col w=\"60\">{MemberName}</col>"
+                         "<col align=\"right\">{Amount|0.00}</col></table>")));
+    const QString file = Output(QStringLiteral("a.pdf"));
+    EXPECT_TRUE(report->SavePdf(file).Done());
+    const QStringList lines = PdfText(file, {QStringLiteral("-layout")}).simplified().split(u' ');
+    QString seen = Conjuncts + QStringLiteral(" ज्ञानेश्वर क्षीरसागर 350.50");
+    EXPECT_EQ(lines.join(u' '), seen);
+}
+
+TEST_F(OutputTest, ThePdfHasOnePageASheetAndItsFontsInIt)
+{
+    const std::unique_ptr<Report> report = Make(
+        Template(QStringLiteral("<text>अ</text><pagebreak/><text>ब</text>"), QStringLiteral("paper=\"A5\"")));
+    const QString file = Output(QStringLiteral("a.pdf"));
+    EXPECT_TRUE(report->SavePdf(file).Done());
+    EXPECT_EQ(PdfText(file, {QStringLiteral("-f"), QStringLiteral("2")}).simplified(), QStringLiteral("ब"));
+    QProcess fonts;
+    fonts.start(QStringLiteral("pdffonts"), {file});
+    ASSERT_TRUE(fonts.waitForFinished());
+    const QStringList lines = QString::fromUtf8(fonts.readAllStandardOutput()).trimmed().split(u'\n');
+    ASSERT_EQ(lines.size(), 3) << "two lines of heads and one font";
+    EXPECT_TRUE(lines[2].contains(QStringLiteral("NotoSansDevanagari")));
+    EXPECT_TRUE(lines[2].contains(QStringLiteral(" yes yes yes "))) << "embedded, a subset, with its Unicode";
+}
+
+TEST_F(OutputTest, ScreenAndPaperShowTheSameLines)
+{
+    const std::unique_ptr<Report> report =
+        MakeText(QStringLiteral("शेतकरी बांधवांनी दूध स्वच्छ भांड्यात आणावे. ").repeated(12));
+    report->Complete();
+    const QImage small = report->Image(0, 1);
+    const QImage large = report->Image(0, 2);
+    EXPECT_EQ(small.width(), 596);
+    EXPECT_EQ(large.height(), 1684);
+    // The last line with ink, in points.
+    const auto lastInk = [](const QImage& image) {
+        for (int y = image.height() - 1; y >= 0; --y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (qGray(image.pixel(x, y)) < 160)
+                    return y;
+            }
+        }
+        return -1;
+    };
+    ASSERT_GT(lastInk(small), 0);
+    EXPECT_NEAR(lastInk(small), lastInk(large) / 2.0, 1.5);
+    const PlacedItem item = report->PageAt(0).items.front();
+    EXPECT_LT(lastInk(small), item.y + item.height);
+    EXPECT_GT(lastInk(small), item.y + item.height - 16);
+}
+
+TEST_F(OutputTest, ATableForASpreadsheetHasItsMarkItsHeadsAndItsQuotes)
+{
+    connection->RunScript(QStringLiteral("insert into MembersListReport(Crieteria,MemberNo,MemberName,City) "
+                                         "values('He said \"no\"',1,'A,B','C')"));
+    const std::unique_ptr<Report> report = Make(QStringLiteral(
+        "<report name=\"T\" paper=\"A4\"><source name=\"m\" table=\"MembersListReport\"/>"
+        "<table source=\"m\"><col head=\"क्र.\">{MemberNo|000}</col><col head=\"नाव\">{MemberName|plain}</col>"
+        "<col head=\"टीप\">{Crieteria|plain}</col><group by=\"plain(City)\"/></table></report>"));
+    const QString file = Output(QStringLiteral("a.csv"));
+    EXPECT_TRUE(report->SaveCsv(file).Done());
+    const QByteArray content = Content(file);
+    EXPECT_TRUE(content.startsWith("\xEF\xBB\xBF"));
+    EXPECT_EQ(QString::fromUtf8(content.mid(3)),
+        QStringLiteral("plain(City),क्र.,नाव,टीप\r\nC,001,\"A,B\",\"He said \"\"no\"\"\"\r\n"));
+}
+
+TEST_F(OutputTest, AReportWithoutATableGivesTheRowOfItsSource)
+{
+    AddDelivery(7, QStringLiteral("सकाळ"), QStringLiteral("विठ्ठल"), 12.5, 4.2, 437.5);
+    const std::unique_ptr<Report> report = MakeText(QStringLiteral("{MemberName} {Liters|0.000}"));
+    const QString file = Output(QStringLiteral("a.csv"));
+    EXPECT_TRUE(report->SaveCsv(file).Done());
+    EXPECT_EQ(QString::fromUtf8(Content(file).mid(3)), QStringLiteral("MemberName,Liters\r\nविठ्ठल,12.5\r\n"));
+}
+
+TEST_F(OutputTest, AFullDiskLeavesWhatWasThereBeforeAndNothingElse)
+{
+    connection->RunScript(
+        QStringLiteral("with recursive n(i) as (select 1 union all select i+1 from n where i<2000) "
+                       "insert into MilkCollectionsTemp(CollectionNo,MemberName) select i,'A' from n"));
+    const std::unique_ptr<Report> report = Make(Template(
+        QStringLiteral("<table source=\"c\"><col>{CollectionNo}</col><col>{MemberName}</col></table>")));
+    report->Complete();
+    const QString old = Output(QStringLiteral("old.pdf"));
+    QFile before(old);
+    ASSERT_TRUE(before.open(QIODevice::WriteOnly));
+    before.write("before");
+    before.close();
+    {
+        const NarrowDisk disk(4096);
+        const Outcome pdf = report->SavePdf(old);
+        EXPECT_FALSE(pdf.Done());
+        EXPECT_TRUE(pdf.fault.contains(QStringLiteral("old.pdf")));
+        EXPECT_FALSE(report->SavePdf(Output(QStringLiteral("new.pdf"))).Done());
+        EXPECT_FALSE(report->SaveCsv(Output(QStringLiteral("new.csv"))).Done());
+        KeepingPrinter printer;
+        EXPECT_FALSE(report->Print(printer).Done());
+        EXPECT_TRUE(printer.Content.isEmpty()) << "half a file never goes to the paper";
+    }
+    EXPECT_EQ(Outputs(), QStringList({QStringLiteral("old.pdf")}));
+    EXPECT_EQ(Content(old), QByteArray("before"));
+    EXPECT_TRUE(report->SavePdf(old).Done()) << "with room on the disk it works";
+    EXPECT_TRUE(Content(old).startsWith("%PDF"));
+}
+
+TEST_F(OutputTest, AFolderThatIsntThereIsTold)
+{
+    const Outcome outcome = MakeText(QStringLiteral("अ"))->SavePdf(File(QStringLiteral("missing/a.pdf")));
+    EXPECT_FALSE(outcome.Done());
+    EXPECT_TRUE(outcome.fault.contains(QStringLiteral("a.pdf")));
+}
+
+TEST_F(OutputTest, ThePrinterGetsThePdfAndItsAnswerIsPassedOn)
+{
+    KeepingPrinter printer;
+    const std::unique_ptr<Report> report = MakeText(QStringLiteral("अ"));
+    EXPECT_TRUE(report->Print(printer, QStringLiteral("one")).Done());
+    EXPECT_TRUE(printer.Content.startsWith("%PDF"));
+    EXPECT_EQ(printer.Job.title, QStringLiteral("Test"));
+    EXPECT_EQ(printer.Job.printer, QStringLiteral("one"));
+    EXPECT_NEAR(printer.Job.paper.width(), 595.3, 0.1);
+    EXPECT_FALSE(QFileInfo::exists(printer.Job.file)) << "nothing is left behind";
+    printer.Answer = {QStringLiteral("no paper")};
+    EXPECT_EQ(report->Print(printer).fault, QStringLiteral("no paper"));
+}
+
+TEST_F(OutputTest, SearchingFindsPageAndPlace)
+{
+    AddDelivery(7, QStringLiteral("सकाळ"), QStringLiteral("विठ्ठल शिंदे"), 12.5, 4.2, 437.5);
+    const std::unique_ptr<Report> report =
+        Make(Template(QStringLiteral("<text>Abc</text><pagebreak/><text>abc {MemberName}</text>")));
+    report->Complete();
+    EXPECT_EQ(report->Search(QStringLiteral("ABC")).size(), 2U);
+    const std::vector<Report::Found> found = report->Search(QStringLiteral("शिंदे"));
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].page, 1U);
+    EXPECT_EQ(found[0].rect, report->PageAt(1).items.front().Rect());
+    EXPECT_TRUE(report->Search(QStringLiteral("गोविंद")).empty());
+    EXPECT_TRUE(report->Search(QString()).empty());
+}

@@ -1,0 +1,129 @@
+#include "ReportTest.h"
+
+#include "Delivered.h"
+#include "Shivaji01.h"
+#include "Sql.h"
+
+#include <QFile>
+#include <QProcess>
+
+#include <algorithm>
+
+void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+void PrintTo(const QStringList& texts, std::ostream* out)
+{
+    *out << texts.join(u'\n').toStdString();
+}
+
+ReportTest::ReportTest()
+{
+    connection->Create(File(QStringLiteral("books.mdb")), QStringLiteral("secret"));
+    connection->RunScript(Delivered::Schema());
+    DataSource::Register(QStringLiteral("VetrolanDSN"), File(QStringLiteral("books.mdb")));
+    RunSeen(
+        QStringLiteral("insert into CompanySelected(CompanyId,CompanyName,AccountingYear,FromDate,ToDate) "
+                       "values(1,'[श्री महालक्ष्मी दूध संस्था]','2026-2027','01/04/2026','31/03/2027')"));
+    Run(QStringLiteral(
+        "insert into ReportDates(CompanyId,FromDate,ToDate) values(1,'01/04/2026','10/04/2026')"));
+}
+
+int ReportTest::RunSeen(QString statement)
+{
+    for (qsizetype open = statement.indexOf(u'['); open >= 0; open = statement.indexOf(u'[', open)) {
+        const qsizetype close = statement.indexOf(u']', open);
+        const QString stored = Shivaji01::FromUnicode(QStringView(statement).mid(open + 1, close - open - 1));
+        statement.replace(open, close - open + 1, stored);
+        open += stored.size();
+    }
+    return Run(statement);
+}
+
+void ReportTest::AddDelivery(
+    int number, const QString& shift, const QString& name, double liters, double fat, double amount)
+{
+    RunSeen(Sql(
+        u"insert into MilkCollectionsTemp(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
+        u"MemberName,Liters,Fat,Amount) values(1,'05/04/2026','[",
+        shift, u"]',", number, u",", number, u",'[", name, u"]',", liters, u",", fat, u",", amount, u")"));
+}
+
+QStringList ReportTest::Faults(const QString& text)
+{
+    TemplateFaults faults;
+    ReportTemplate report = ReportTemplate::ReadText(text, QStringLiteral("test.rpt"), faults);
+    const TemplateFaults more = Check(report, *connection);
+    faults.insert(faults.end(), more.begin(), more.end());
+    QStringList lines;
+    for (const TemplateFault& fault : faults)
+        lines.append(QString::number(fault.line) + QStringLiteral(": ") + fault.text);
+    return lines;
+}
+
+std::unique_ptr<Report> ReportTest::Make(const QString& text, const Selection& selection)
+{
+    TemplateFaults faults;
+    ReportTemplate report = ReportTemplate::ReadText(text, QStringLiteral("test.rpt"), faults);
+    const TemplateFaults more = Check(report, *connection);
+    faults.insert(faults.end(), more.begin(), more.end());
+    for (const TemplateFault& fault : faults)
+        ADD_FAILURE() << fault.Line().toStdString();
+    return std::make_unique<Report>(std::move(report), connection, selection);
+}
+
+QStringList ReportTest::Texts(const Page& page)
+{
+    QStringList texts;
+    for (const PlacedItem& item : page.items) {
+        if (item.kind == PlacedItem::Kind::Text)
+            texts.append(item.text);
+    }
+    return texts;
+}
+
+QStringList ReportTest::AllTexts(const QString& text)
+{
+    const std::unique_ptr<Report> report = Make(text);
+    report->Complete();
+    QStringList texts;
+    for (std::size_t i = 0; i < report->PageCount(); ++i)
+        texts += Texts(report->PageAt(i));
+    return texts;
+}
+
+PlacedItem ReportTest::Item(const Page& page, const QString& text)
+{
+    const auto found = std::find_if(
+        page.items.begin(), page.items.end(), [&](const PlacedItem& item) { return item.text == text; });
+    if (found != page.items.end())
+        return *found;
+    ADD_FAILURE() << "no such text on the page: " << text.toStdString();
+    return {};
+}
+
+QString ReportTest::PdfText(const QString& file, const QStringList& options)
+{
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), options + QStringList{file, QStringLiteral("-")});
+    EXPECT_TRUE(reader.waitForFinished());
+    EXPECT_EQ(reader.exitCode(), 0);
+    return QString::fromUtf8(reader.readAllStandardOutput()).remove(u'\f');
+}
+
+QString ReportTest::Write(const QString& name, const QString& text) const
+{
+    QFile target(File(name));
+    EXPECT_TRUE(target.open(QIODevice::WriteOnly));
+    target.write(text.toUtf8());
+    return target.fileName();
+}
+
+QString Template(const QString& elements, const QString& attributes)
+{
+    return QStringLiteral("<report name=\"Test\" ") + attributes
+        + QStringLiteral(">\n<source name=\"c\" table=\"MilkCollectionsTemp\" order=\"CollectionNo\"/>\n")
+        + elements + QStringLiteral("\n</report>");
+}

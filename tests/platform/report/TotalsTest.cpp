@@ -1,0 +1,122 @@
+#include "ReportTest.h"
+
+namespace {
+
+const QString Morning = QStringLiteral("सकाळ");
+const QString Evening = QStringLiteral("संध्याकाळ");
+
+class TotalsTest : public ReportTest {
+protected:
+    void AddShifts()
+    {
+        AddDelivery(1, Morning, QStringLiteral("अशोक"), 10.125, 4.0, 350.55);
+        AddDelivery(2, Morning, QStringLiteral("बाबू"), 5.5, 3.5, 180.1);
+        AddDelivery(3, Evening, QStringLiteral("कमल"), 20, 5.0, 800.01);
+    }
+};
+
+}
+
+TEST_F(TotalsTest, GroupsAndTheWholeTableHaveTheirSums)
+{
+    AddShifts();
+    const QStringList texts = AllTexts(Template(QStringLiteral(
+        "<table source=\"c\"><col>{MemberName}</col>"
+        "<col total=\"sum\">{Liters|0.000}</col><col total=\"sum\">{Amount|0.00}</col>"
+        "<group by=\"CollectionTime\" head=\"{CollectionTime}\" foot=\"एकूण {CollectionTime}\"/>"
+        "<total label=\"एकंदर\"/></table>")));
+    const QStringList expected{Morning, QStringLiteral("अशोक"), QStringLiteral("10.125"),
+        QStringLiteral("350.55"), QStringLiteral("बाबू"), QStringLiteral("5.500"), QStringLiteral("180.10"),
+        QStringLiteral("एकूण सकाळ"), QStringLiteral("15.625"), QStringLiteral("530.65"), Evening,
+        QStringLiteral("कमल"), QStringLiteral("20.000"), QStringLiteral("800.01"),
+        QStringLiteral("एकूण संध्याकाळ"), QStringLiteral("20.000"), QStringLiteral("800.01"),
+        QStringLiteral("एकंदर"), QStringLiteral("35.625"), QStringLiteral("1330.66")};
+    EXPECT_EQ(texts, expected);
+}
+
+TEST_F(TotalsTest, AWeightedAverageWeighsAndOneOfNothingIsZero)
+{
+    AddShifts();
+    const QString table = QStringLiteral("<table source=\"c\"><col>{MemberName}</col>"
+                                         "<col total=\"average(Fat by Liters)\">{Fat|0.00}</col>"
+                                         "<col total=\"average(Fat by SNF)\">{Fat|0.0}</col>"
+                                         "<col total=\"average(Fat)\">{Fat|0.000}</col>"
+                                         "<total label=\"सरासरी\"/></table>");
+    const QStringList texts = AllTexts(Template(table));
+    // (10.125 x 4 + 5.5 x 3.5 + 20 x 5) / 35.625
+    EXPECT_EQ(texts.mid(texts.indexOf(QStringLiteral("सरासरी"))),
+        QStringList({QStringLiteral("सरासरी"), QStringLiteral("4.48"), QStringLiteral("0.0"),
+            QStringLiteral("4.167")}));
+}
+
+TEST_F(TotalsTest, ARunningSumGoesOnOrBeginsAnewWithItsGroup)
+{
+    AddShifts();
+    AddDelivery(4, Evening, QStringLiteral("दत्ता"), 1, 4, 40);
+    const QStringList texts = AllTexts(Template(QStringLiteral(
+        "<table source=\"c\"><col>{running(Amount)|0.00}</col>"
+        "<col>{running(Amount by CollectionTime)|0.00}</col><group by=\"CollectionTime\"/></table>")));
+    EXPECT_EQ(texts,
+        QStringList({QStringLiteral("350.55"), QStringLiteral("350.55"), QStringLiteral("530.65"),
+            QStringLiteral("530.65"), QStringLiteral("1330.66"), QStringLiteral("800.01"),
+            QStringLiteral("1370.66"), QStringLiteral("840.01")}));
+}
+
+TEST_F(TotalsTest, NestedGroupsEndFromTheInnermost)
+{
+    AddShifts();
+    AddDelivery(4, Evening, QStringLiteral("दत्ता"), 1, 5, 40);
+    const QStringList texts = AllTexts(Template(QStringLiteral(
+        "<table source=\"c\"><col>{MemberNo}</col><col total=\"count\">{Fat|0.0}</col>"
+        "<group by=\"CollectionTime\" foot=\"पाळी\"/><group by=\"Fat\" foot=\"फॅट\"/></table>")));
+    EXPECT_EQ(texts.join(u' '), QStringLiteral("1 4.0 फॅट 1 2 3.5 फॅट 1 पाळी 2 3 5.0 4 5.0 फॅट 2 पाळी 2"));
+}
+
+TEST_F(TotalsTest, ATotalIsTheSumOfTheFiguresAsTheyArePrinted)
+{
+    for (int i = 1; i <= 3; ++i)
+        AddDelivery(i, Morning, QStringLiteral("अ"), 1, 4, 0.125);
+    const QStringList texts =
+        AllTexts(Template(QStringLiteral("<table source=\"c\"><col>{MemberNo}</col><col "
+                                         "total=\"sum\">{Amount|0.00}</col><total label=\"=\"/></table>")));
+    EXPECT_EQ(texts.last(), QStringLiteral("0.39")); // 3 x 0.13
+}
+
+TEST_F(TotalsTest, ThousandsOfPaiseAddUpExactly)
+{
+    connection->RunScript(QStringLiteral(
+        "with recursive n(i) as (select 1 union all select i+1 from n where i<10000) "
+        "insert into MilkCollectionsTemp(CollectionNo,MemberName,Amount) select i,'A',0.1 from n"));
+    const QStringList texts =
+        AllTexts(Template(QStringLiteral("<table source=\"c\"><col>{CollectionNo}</col><col "
+                                         "total=\"sum\">{Amount}</col><total label=\"=\"/></table>")));
+    EXPECT_EQ(texts.last(), QStringLiteral("1000"));
+}
+
+TEST_F(TotalsTest, ATotalCanBeReckonedFromOthers)
+{
+    AddShifts();
+    const QStringList texts = AllTexts(Template(QStringLiteral(
+        "<table source=\"c\"><col>{MemberNo}</col><col total=\"sum(Amount) / sum(Liters)\">{Rate|0.00}</col>"
+        "<total label=\"{count()} नोंदी, कमाल {max(Liters)|0.0}\"/></table>")));
+    EXPECT_EQ(texts.mid(texts.size() - 2),
+        QStringList({QStringLiteral("3 नोंदी, कमाल 20.0"), QStringLiteral("37.35")}));
+}
+
+TEST_F(TotalsTest, AnEmptyTableHasItsHeadsAndNoTotal)
+{
+    const QStringList texts =
+        AllTexts(Template(QStringLiteral("<table source=\"c\"><col head=\"नाव\">{MemberName}</col><col "
+                                         "head=\"रक्कम\" total=\"sum\">{Amount|0.00}</col>"
+                                         "<total label=\"एकूण\"/></table>")));
+    EXPECT_EQ(texts, QStringList({QStringLiteral("नाव"), QStringLiteral("रक्कम")}));
+}
+
+TEST_F(TotalsTest, RowsThatAreLeftOutAreNotAdded)
+{
+    AddShifts();
+    const QStringList texts = AllTexts(
+        Template(QStringLiteral("<table source=\"c\" only=\"CollectionTime = 'सकाळ'\"><col>{MemberNo}</col>"
+                                "<col total=\"sum\">{Amount|0.00}</col><total label=\"=\"/></table>")));
+    EXPECT_EQ(texts.join(u' '), QStringLiteral("1 350.55 2 180.10 = 530.65"));
+}

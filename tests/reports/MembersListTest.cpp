@@ -1,0 +1,121 @@
+// The list of the members.
+
+#include "ReportsTest.h"
+
+#include "NameCombo.h"
+#include "frmReportMembersList.h"
+
+namespace {
+
+class MembersListTest : public ReportsTest {
+protected:
+    MembersListTest()
+    {
+        AddMember(1, QStringLiteral("Anata"), QStringLiteral("gaaya"));
+        AddMember(2, QStringLiteral("gaNaoSa"), QStringLiteral("mhOsa"));
+        AddMember(3, QStringLiteral("maaQava"), QStringLiteral("daonhI"));
+        for (const char* town : {"kraD", "masaUr"})
+            Run(QStringLiteral("update MembersMaster set City='%1' where MemberNo=%2")
+                    .arg(QString::fromLatin1(town))
+                    .arg(town[0] == 'k' ? 1 : 2));
+        Run(QStringLiteral("delete * from CityMaster"));
+        for (const char* town : {"masaUr", "kraD"})
+            Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'%1')")
+                    .arg(QString::fromLatin1(town)));
+        Run(QStringLiteral("insert into MembersListReport(CompanyId,MemberNo) values(1,9)"));
+    }
+
+    std::string Staged(const char* keys)
+    {
+        Type<frmReportMembersList>(keys);
+        EXPECT_FALSE(Failure);
+        return Rows(QStringLiteral("select Crieteria,CrieteriaValue,MemberNo,MemberName,City,Animal from "
+                                   "MembersListReport where CompanyId=1"))
+            .join(u' ')
+            .toStdString();
+    }
+};
+
+TEST_F(MembersListTest, TheFullListHoldsAllOfThemUnderNoValue)
+{
+    EXPECT_EQ(Staged("%i"),
+        "Complete||1|Anata|kraD|gaaya Complete||2|gaNaoSa|masaUr|mhOsa "
+        "Complete||3|maaQava||daonhI");
+    EXPECT_TRUE(ReportTexts().contains(QStringLiteral("एकूण सभासद : 3")));
+}
+
+TEST_F(MembersListTest, OneAreaHoldsItsOwn)
+{
+    EXPECT_EQ(Staged("%2{ENTER}kraD%i"), "Area|kraD|1|Anata|kraD|gaaya");
+}
+
+TEST_F(MembersListTest, AllAreasHoldEachMemberUnderItsOwn)
+{
+    EXPECT_EQ(Staged("%2%i"),
+        "Area|kraD|1|Anata|kraD|gaaya Area|masaUr|2|gaNaoSa|masaUr|mhOsa "
+        "Area||3|maaQava||daonhI");
+}
+
+TEST_F(MembersListTest, AnAnimalHoldsOnlyThoseOfExactlyThatWord)
+{
+    EXPECT_EQ(Staged("%3%i"), "Milk|gaaya|1|Anata|kraD|gaaya");
+    EXPECT_EQ(Staged("%3{ENTER}{DOWN}%i"), "Milk|mhOsa|2|gaNaoSa|masaUr|mhOsa");
+    EXPECT_EQ(Staged("%3{ENTER}{UP}%i"), "Milk|daonhI|3|maaQava||daonhI");
+}
+
+TEST_F(MembersListTest, TheReportGroupsByArea)
+{
+    Staged("%2%i");
+    const QStringList texts = ReportTexts();
+    EXPECT_TRUE(texts.contains(QStringLiteral("विभाग : ") + Seen(QStringLiteral("kraD"))));
+    EXPECT_EQ(texts.count(QStringLiteral("सभासद : 1")), 3);
+}
+
+TEST_F(MembersListTest, OnlyWhatBelongsToTheChosenListCanBeEntered)
+{
+    On<frmReportMembersList>([](Clerk& clerk) {
+        const auto open = [&] {
+            std::string names;
+            for (const char* name : {"ComboArea", "OptionCow", "OptionBuff", "OptionBoth"})
+                names += clerk.CanEnter(QString::fromLatin1(name)) ? '1' : '0';
+            return names;
+        };
+        EXPECT_EQ(open(), "0000");
+        clerk.Type(QStringLiteral("%2"));
+        EXPECT_EQ(open(), "1000");
+        EXPECT_EQ(dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboArea"))->Items().join(u' '),
+            QStringLiteral("kraD masaUr"));
+        clerk.Type(QStringLiteral("%3"));
+        EXPECT_EQ(open(), "0111");
+        clerk.Type(QStringLiteral("%1{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdReport"));
+        clerk.Type(QStringLiteral("{ESC}"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+}
+
+TEST_F(MembersListTest, TwoRunsGiveTheSame)
+{
+    const std::string staged = Staged("%i");
+    const QStringList texts = ReportTexts();
+    EXPECT_EQ(Staged("%i"), staged);
+    EXPECT_EQ(ReportTexts(), texts);
+}
+
+TEST_F(MembersListTest, NoMemberAtAllIsAReportThatSaysSo)
+{
+    Run(QStringLiteral("delete * from MembersMaster"));
+    EXPECT_EQ(Staged("%i"), "");
+    EXPECT_TRUE(ReportTexts().contains(QStringLiteral("सभासद नाहीत.")));
+}
+
+TEST_F(MembersListTest, AMissingTemplateEndsTheProgramWithTheStagingDone)
+{
+    RemoveTemplate(QStringLiteral("ReportListMembers.rpt"));
+    Type<frmReportMembersList>("%i");
+    ASSERT_TRUE(Failure);
+    EXPECT_EQ(Failure->Number(), RunTimeError::FileNotFound);
+    EXPECT_EQ(Rows(QStringLiteral("select * from MembersListReport")).size(), 3);
+}
+
+}

@@ -1,0 +1,113 @@
+// The list of a day's deliveries.
+
+#include "ReportsTest.h"
+
+#include "NameCombo.h"
+#include "frmReportMilkCollections.h"
+
+namespace {
+
+// One delivery of each shift and animal on the 15th, and one on another day. Each has litres of its own.
+class MilkCollectionsListTest : public ReportsTest {
+protected:
+    MilkCollectionsListTest()
+    {
+        AddDelivery("15/04/2026", "sakaL", 1, 3, "gaNaoSa", "gaaya", 1, 4, 30);
+        AddDelivery("15/04/2026", "sakaL", 2, 3, "gaNaoSa", "mhOsa", 2, 7, 40);
+        AddDelivery("15/04/2026", "saMQyaakaL", 1, 3, "gaNaoSa", "gaaya", 3, 5, 30);
+        AddDelivery("15/04/2026", "saMQyaakaL", 2, 3, "gaNaoSa", "mhOsa", 4, 8, 40);
+        AddDelivery("05/01/2026", "sakaL", 1, 3, "gaNaoSa", "gaaya", 5, 4, 30);
+        Run(QStringLiteral("insert into MilkCollectionsTemp(CompanyId,Liters) values(1,9)"));
+    }
+
+    // The litres that a run has staged.
+    std::string Staged(const char* keys)
+    {
+        Type<frmReportMilkCollections>(keys);
+        EXPECT_FALSE(Failure);
+        return Rows(QStringLiteral("select Liters from MilkCollectionsTemp order by Liters"))
+            .join(u' ')
+            .toStdString();
+    }
+};
+
+TEST_F(MilkCollectionsListTest, EachChoiceOfShiftAndAnimalTakesItsRowsOfTheDay)
+{
+    EXPECT_EQ(Staged("15042026{ENTER}{ENTER}%i"), "1 2 3 4");
+    EXPECT_EQ(Staged("15042026{ENTER}gaaya{ENTER}%i"), "1 3");
+    EXPECT_EQ(Staged("15042026{ENTER}mhOsa{ENTER}%d%i"), "2 4");
+    EXPECT_EQ(Staged("15042026{ENTER}daonhI{ENTER}%s%i"), "1 2");
+    EXPECT_EQ(Staged("15042026{ENTER}{ENTER}%k%i"), "3 4");
+    EXPECT_EQ(Staged("15042026{ENTER}mhOsa{ENTER}%s%i"), "2");
+    EXPECT_EQ(Staged("15042026{ENTER}gaaya{ENTER}%k%i"), "3");
+    EXPECT_EQ(TheWindow.Shown.size(), 7U);
+}
+
+TEST_F(MilkCollectionsListTest, TheDayIsComparedAsText)
+{
+    EXPECT_EQ(Staged("05012026{ENTER}{ENTER}%i"), "5");
+    EXPECT_EQ(Staged("01052026{ENTER}{ENTER}%i"), "");
+}
+
+TEST_F(MilkCollectionsListTest, TheOtherCompanysRowsOfTheDayAreListedAndThoseOfNoneAreNot)
+{
+    Run(QStringLiteral("update MilkCollections set CompanyId=2 where Liters=1"));
+    Run(QStringLiteral("update MilkCollections set CompanyId=0 where Liters=2"));
+    EXPECT_EQ(Staged("15042026{ENTER}{ENTER}%i"), "1 3 4");
+}
+
+TEST_F(MilkCollectionsListTest, AnEmptyAnimalBecomesBoth)
+{
+    On<frmReportMilkCollections>([](Clerk& clerk) {
+        EXPECT_EQ(dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboAnimal"))->Items().join(u' '),
+            QStringLiteral("gaaya mhOsa daonhI"));
+        clerk.Type(QStringLiteral("15042026{ENTER}{ENTER}"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAnimal")), QStringLiteral("daonhI"));
+    });
+}
+
+TEST_F(MilkCollectionsListTest, ABadDateIsToldAndTakesTheFocusBack)
+{
+    On<frmReportMilkCollections>([this](Clerk& clerk) {
+        clerk.Type(QStringLiteral("3113{ENTER}"));
+        EXPECT_EQ(clerk.Message(), QStringLiteral("idnaaMk vyavaisqat Ta[-p kra"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("MaskUserDate"));
+        EXPECT_TRUE(TheWindow.Shown.empty());
+        clerk.Type(QStringLiteral("{ESC}"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+}
+
+TEST_F(MilkCollectionsListTest, TheReportGroupsByShiftMorningFirstAndWeighsTheFatByLitres)
+{
+    Type<frmReportMilkCollections>("15042026{ENTER}{ENTER}%i");
+    const QStringList texts = ReportTexts();
+    const auto morning = texts.indexOf(QStringLiteral("एकूण सकाळ (2)"));
+    const auto evening = texts.indexOf(QStringLiteral("एकूण संध्याकाळ (2)"));
+    ASSERT_GE(morning, 0);
+    EXPECT_LT(morning, evening);
+    EXPECT_EQ(texts.mid(morning + 1, 3).join(u' '), QStringLiteral("3.000 6.0 110.00"));
+    EXPECT_EQ(texts.mid(evening + 1, 3).join(u' '), QStringLiteral("7.000 6.7 250.00"));
+    const auto day = texts.indexOf(QStringLiteral("एकूण दिवस (4)"));
+    EXPECT_EQ(texts.mid(day + 1, 3).join(u' '), QStringLiteral("10.000 6.5 360.00"));
+}
+
+TEST_F(MilkCollectionsListTest, TwoRunsGiveTheSame)
+{
+    const std::string staged = Staged("15042026{ENTER}{ENTER}%i");
+    const QStringList texts = ReportTexts();
+    EXPECT_EQ(Staged("15042026{ENTER}{ENTER}%i"), staged);
+    EXPECT_EQ(ReportTexts(), texts);
+}
+
+TEST_F(MilkCollectionsListTest, AMissingTemplateEndsTheProgramWithTheStagingDone)
+{
+    RemoveTemplate(QStringLiteral("MilkCollectionsReport.rpt"));
+    Type<frmReportMilkCollections>("15042026{ENTER}{ENTER}%i");
+    ASSERT_TRUE(Failure);
+    EXPECT_EQ(Failure->Number(), RunTimeError::FileNotFound);
+    EXPECT_EQ(Rows(QStringLiteral("select Liters from MilkCollectionsTemp")).size(), 4);
+}
+
+}

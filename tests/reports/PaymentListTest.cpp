@@ -1,0 +1,99 @@
+// The list of the payments of a date.
+
+#include "ReportsTest.h"
+
+#include "Sql.h"
+#include "frmReportPaymentList.h"
+
+namespace {
+
+// Members 1 and 2 are paid in cash, 3 and 4 through banks, and member 5 is gone from the register.
+class PaymentListTest : public ReportsTest {
+protected:
+    PaymentListTest()
+    {
+        for (int number : {1, 2, 3, 4})
+            AddMember(number, QStringLiteral("k%1").arg(number));
+        Run(QStringLiteral(
+            "update MembersMaster set PaymentType='ba^nk',BankAccountNo='77' where MemberNo>=3"));
+        Run(QStringLiteral("update MembersMaster set BankName=(select max(BankName) from BankMaster) where "
+                           "MemberNo=4"));
+        for (int number : {1, 2, 3, 4, 5})
+            Pay("05/04/2026", number, 100 * number);
+        Pay("04/05/2026", 1, 999);
+    }
+
+    void Pay(const char* date, int number, double amount)
+    {
+        Run(Sql(u"insert into "
+                u"MilkPayments(CompanyId,FromDate,ToDate,PaymentDate,TranId,MemberNo,MemberName,Liters,"
+                u"Amount,Kapat,NetAmount) values(1,'01/04/2026','10/04/2026','",
+            QString::fromLatin1(date), u"',1,", number, u",'k", number, u"',10,", amount, u",0,", amount,
+            u")"));
+    }
+
+    QStringList Listed(const char* keys)
+    {
+        Type<frmReportPaymentList>(keys);
+        EXPECT_FALSE(Failure);
+        return ReportTexts();
+    }
+};
+
+TEST_F(PaymentListTest, CashHoldsTheDaysPaymentsOfThoseWhoAreNotPaidThroughABank)
+{
+    const QStringList texts = Listed("05042026{ENTER}%i");
+    for (const char* amount : {"100.00", "200.00", "500.00"})
+        EXPECT_TRUE(texts.contains(QString::fromLatin1(amount))) << amount;
+    for (const char* amount : {"300.00", "400.00", "999.00"})
+        EXPECT_FALSE(texts.contains(QString::fromLatin1(amount))) << amount;
+    EXPECT_TRUE(texts.contains(QStringLiteral("एकूण (3)")));
+    EXPECT_TRUE(texts.contains(QStringLiteral("800.00")));
+}
+
+TEST_F(PaymentListTest, BankHoldsTheAccountsAndWhatEachBankGets)
+{
+    const QStringList texts = Listed("05042026{ENTER}{DOWN}%i");
+    EXPECT_TRUE(texts.contains(QStringLiteral("एकूण (2)")));
+    EXPECT_TRUE(texts.contains(QStringLiteral("700.00")));
+    EXPECT_EQ(texts.count(QStringLiteral("400.00")), 2);
+    EXPECT_EQ(texts.count(QStringLiteral("300.00")), 1);
+    EXPECT_FALSE(texts.contains(QStringLiteral("100.00")));
+}
+
+TEST_F(PaymentListTest, DayAndMonthGoIntoTheFormulaWithoutTheirNoughts)
+{
+    EXPECT_TRUE(Listed("04052026{ENTER}%i").contains(QStringLiteral("999.00")));
+    EXPECT_TRUE(Listed("10102026{ENTER}%i").contains(QStringLiteral("या दिवशी रोख पेमेंट नाही.")));
+}
+
+TEST_F(PaymentListTest, CashIsChosenAtFirstAndADateThatIsNoneTakesTheFocusBack)
+{
+    On<frmReportPaymentList>([this](Clerk& clerk) {
+        EXPECT_EQ(clerk.Reads(QStringLiteral("Option1")), QStringLiteral("1"));
+        clerk.Type(QStringLiteral("3104{ENTER}%i"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("MaskFromDate"));
+        EXPECT_TRUE(TheWindow.Shown.empty());
+        clerk.Type(QStringLiteral("{ESC}"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+}
+
+TEST_F(PaymentListTest, TwoRunsGiveTheSameAndNothingIsStaged)
+{
+    const QStringList payments = Rows(QStringLiteral("select * from MilkPayments"));
+    const QStringList texts = Listed("05042026{ENTER}%i");
+    EXPECT_EQ(Listed("05042026{ENTER}%i"), texts);
+    EXPECT_EQ(Rows(QStringLiteral("select * from MilkPayments")), payments);
+    EXPECT_EQ(Rows(QStringLiteral("select * from ReportDates")), QStringList());
+}
+
+TEST_F(PaymentListTest, AMissingTemplateEndsTheProgram)
+{
+    RemoveTemplate(QStringLiteral("BankMilkPayment.rpt"));
+    Type<frmReportPaymentList>("05042026{ENTER}{DOWN}%i");
+    ASSERT_TRUE(Failure);
+    EXPECT_EQ(Failure->Number(), RunTimeError::FileNotFound);
+}
+
+}

@@ -1,0 +1,233 @@
+// Every template that is shipped: sound against the tables, and laid out with the demonstration's figures as
+// the golden file of its placed items says.
+
+#include "ReportsTest.h"
+
+#include "AppFolder.h"
+#include "Delivered.h"
+#include "Program.h"
+#include "Society.h"
+#include "Sql.h"
+#include "frmReportMembersList.h"
+#include "frmReportMilkCollections.h"
+#include "frmReportMilkPS.h"
+#include "frmReportPaymentList.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+
+namespace {
+
+constexpr const char* Renewal = "VETROLAN_RENEW=1 ctest --preset check -R ShippedTemplates";
+
+// The lines of both texts that the other one lacks, the first few of them.
+std::string Difference(const QStringList& golden, const QStringList& now)
+{
+    constexpr int Most = 12;
+    std::string lines;
+    int told = 0;
+    for (qsizetype i = 0; i < std::max(golden.size(), now.size()) && told < Most; ++i) {
+        if (golden.value(i) == now.value(i))
+            continue;
+        ++told;
+        lines += std::to_string(i + 1) + "\n- " + golden.value(i).toStdString() + "\n+ "
+            + now.value(i).toStdString() + "\n";
+    }
+    return lines;
+}
+
+// The demonstration, with payments and sales besides.
+class ShippedTemplates : public ReportsTest {
+protected:
+    ShippedTemplates()
+    {
+        gCn.Close();
+        const QString folder = LocalPath(AppFolder);
+        QDir(folder).removeRecursively();
+        SocietyPlan plan;
+        plan.name = QStringLiteral("श्री महालक्ष्मी सहकारी दूध उत्पादक संस्था");
+        plan.year = QStringLiteral("2026-2027");
+        plan.password = QStringLiteral("Doodh#26");
+        plan.demo = true;
+        CopySociety(folder, plan);
+        LoadAppState();
+    }
+
+    static QString FileOfGolden(const QString& name)
+    {
+        return QDir(QStringLiteral(GOLDEN_FOLDER)).filePath(name + QStringLiteral(".txt"));
+    }
+
+    static QStringList Lines(Report& report)
+    {
+        report.Complete();
+        QStringList lines;
+        for (std::size_t at = 0; at < report.PageCount(); ++at) {
+            const Page& page = report.PageAt(at);
+            lines.append(QStringLiteral("page %1 %2x%3")
+                             .arg(at + 1)
+                             .arg(static_cast<double>(page.width), 0, 'f', 0)
+                             .arg(static_cast<double>(page.height), 0, 'f', 0));
+            lines += Describe(page, report.Fonts());
+        }
+        return lines;
+    }
+
+    // Compares the last report with its golden file, or writes the file anew. VETROLAN_PDFS names a folder
+    // that gets the report as a PDF, to be looked at.
+    void CompareWithGolden(const QString& name) const
+    {
+        ASSERT_FALSE(Failure) << Failure->Text().toStdString();
+        ASSERT_EQ(TheWindow.Shown.size(), 1U);
+        Report& report = *TheWindow.Shown.back();
+        const QStringList now = Lines(report);
+        if (qEnvironmentVariableIsSet("VETROLAN_PDFS")) {
+            const QString pdf = QDir(qEnvironmentVariable("VETROLAN_PDFS")).filePath(name + u".pdf");
+            EXPECT_EQ(report.SavePdf(pdf).fault, QString());
+        }
+        QFile file(FileOfGolden(name));
+        if (qEnvironmentVariableIsSet("VETROLAN_RENEW")) {
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(now.join(u'\n').toUtf8() + '\n');
+            return;
+        }
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << "no golden file; made by: " << Renewal;
+        const QStringList golden = QString::fromUtf8(file.readAll()).chopped(1).split(u'\n');
+        EXPECT_TRUE(golden == now) << Difference(golden, now) << "renewed by: " << Renewal;
+    }
+
+    // Prints a slip for a delivery of the demonstration, with a long name on it.
+    void PrintReceipt(const QString& templateName)
+    {
+        const Recordset row(gCn,
+            QStringLiteral("select * from MilkCollections where CollectionDate=#04/15/2026# and "
+                           "CollectionTime='sakaL' and Animal='mhOsa' order by CollectionNo"));
+        ASSERT_FALSE(row.Eof());
+        Run(Sql(u"insert into "
+                u"MilkReceipt(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,"
+                u"Animal,Liters,Fat,Rate,Amount,ActualCollectionTime) values(1,'15/04/2026','sakaL',",
+            row[u"CollectionNo"].Number(), u",", row[u"MemberNo"].Number(), u",'", row[u"MemberName"].Text(),
+            u"','mhOsa',", row[u"Liters"].Number(), u",", row[u"Fat"].Number(), u",", row[u"Rate"].Number(),
+            u",", row[u"Amount"].Number(), u",'", row[u"ActualCollectionTime"].Text(), u"')"));
+        ReportControl report;
+        report.SetReportFileName(AppFolder.toString() + templateName);
+        report.SetLogon(QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword);
+        report.Print();
+    }
+
+    // The payments of the first ten days, made on the 11th.
+    void PayTheFirstTenDays()
+    {
+        for (Recordset member(gCn,
+                 QStringLiteral(
+                     "select MemberNo,MemberName,sum(Liters) as Litres,sum(Amount) as Rupees from "
+                     "MilkCollections where CollectionDate<=#04/10/2026# group by MemberNo,MemberName"));
+             !member.Eof(); member.MoveNext()) {
+            const double amount = member[u"Rupees"].Number();
+            const double kapat = 50 * member[u"MemberNo"].Number();
+            Run(Sql(
+                u"insert into MilkPayments(CompanyId,FromDate,ToDate,PaymentDate,TranId,MemberNo,MemberName,"
+                u"Liters,Amount,Kapat,NetAmount) values(1,'01/04/2026','10/04/2026','11/04/2026',1,",
+                member[u"MemberNo"].Number(), u",'", member[u"MemberName"].Text(), u"',",
+                member[u"Litres"].Number(), u",", amount, u",", kapat, u",", amount - kapat, u")"));
+        }
+    }
+
+    QString NameOfMember(const char* animal)
+    {
+        return One(Sql(u"select MemberName from MembersMaster where Animal='", QString::fromLatin1(animal),
+            u"' order by MemberNo"));
+    }
+};
+
+TEST_F(ShippedTemplates, HaveNoFaultAgainstTheDeliveredTables)
+{
+    for (const Delivered::File& file : Delivered::Templates()) {
+        TemplateFaults faults;
+        ReportTemplate report = ReportTemplate::ReadText(QString::fromUtf8(file.content), file.name, faults);
+        const TemplateFaults more = Check(report, gCn);
+        faults.insert(faults.end(), more.begin(), more.end());
+        for (const TemplateFault& fault : faults)
+            ADD_FAILURE() << fault.Line().toStdString();
+        EXPECT_EQ(report.name + QStringLiteral(".rpt"), file.name);
+    }
+}
+
+TEST_F(ShippedTemplates, EachHasAGoldenFile)
+{
+    for (const Delivered::File& file : Delivered::Templates())
+        EXPECT_TRUE(QFile::exists(FileOfGolden(file.name.chopped(4)))) << file.name.toStdString();
+}
+
+class ReceiptTemplates : public ShippedTemplates, public testing::WithParamInterface<const char*> { };
+
+TEST_P(ReceiptTemplates, ShippedTemplatesReadAsTheyDidBefore)
+{
+    const QString name = QString::fromLatin1(GetParam());
+    PrintReceipt(name + QStringLiteral(".rpt"));
+    CompareWithGolden(name);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ReceiptTemplates,
+    testing::Values("MilkReceipt1", "MilkReceipt2", "MilkReceiptBhl", "MilkReceiptGhlp", "MilkReceiptAtk",
+        "MilkReceiptShenoli Epson LX 300", "MilkReceiptShenoli", "MilkReceiptNerli With Time",
+        "MilkReceiptNerli Minimised With Time XP", "MilkReceiptNerli Minimised With Time"));
+
+TEST_F(ShippedTemplates, MilkPSReportShowsAMembersTenDays)
+{
+    const QString name = NameOfMember("daonhI");
+    On<frmReportMilkPS>([&](Clerk& clerk) {
+        clerk.Type(QStringLiteral("01042026{ENTER}10042026{ENTER}{ENTER}"));
+        clerk.Do([&] { dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboAccountName"))->SetText(name); });
+        clerk.Type(QStringLiteral("%i"));
+    });
+    CompareWithGolden(QStringLiteral("MilkPSReport"));
+}
+
+TEST_F(ShippedTemplates, MilkPSReportShowsACustomersPurchasesInTheSameShape)
+{
+    for (const char* day : {"01/04/2026", "02/04/2026", "04/04/2026"}) {
+        AddSale(day, "sakaL", 1, "dUQa saMGa", "gaaya", 120.5, 4.1, 8.5);
+        AddSale(day, "saMQyaakaL", 1, "dUQa saMGa", "mhOsa", 80.25, 6.8, 9.1);
+    }
+    On<frmReportMilkPS>([&](Clerk& clerk) {
+        clerk.Type(QStringLiteral("01042026{ENTER}10042026{ENTER}{DOWN}{ENTER}dUQa saMGa%i"));
+    });
+    CompareWithGolden(QStringLiteral("MilkPSReport of a customer"));
+}
+
+TEST_F(ShippedTemplates, MilkCollectionsReportShowsADay)
+{
+    Type<frmReportMilkCollections>("15042026{ENTER}{ENTER}%i");
+    CompareWithGolden(QStringLiteral("MilkCollectionsReport"));
+}
+
+TEST_F(ShippedTemplates, ReportListMembersShowsTheAreas)
+{
+    Type<frmReportMembersList>("%2%i");
+    CompareWithGolden(QStringLiteral("ReportListMembers"));
+}
+
+TEST_F(ShippedTemplates, ReportListMembersShowsAllOfThem)
+{
+    Type<frmReportMembersList>("%i");
+    CompareWithGolden(QStringLiteral("ReportListMembers complete"));
+}
+
+TEST_F(ShippedTemplates, CashMilkPaymentShowsThoseWhoArePaidInCash)
+{
+    PayTheFirstTenDays();
+    Type<frmReportPaymentList>("11042026{ENTER}%i");
+    CompareWithGolden(QStringLiteral("CashMilkPayment"));
+}
+
+TEST_F(ShippedTemplates, BankMilkPaymentShowsTheAccounts)
+{
+    PayTheFirstTenDays();
+    Type<frmReportPaymentList>("11042026{ENTER}{DOWN}%i");
+    CompareWithGolden(QStringLiteral("BankMilkPayment"));
+}
+
+}

@@ -1,0 +1,312 @@
+#include "AutoSettingsTest.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+
+namespace {
+
+class AutoSettingsChain : public AutoSettingsTest {
+protected:
+    // Enters a control, gives it a text, and leaves it with Enter. Returns where the focus is then.
+    static QString Leave(Clerk& clerk, const char* control, const char* text)
+    {
+        GoTo(clerk, control);
+        Put(clerk, control, text);
+        clerk.Type(Q("{ENTER}"));
+        return Focus(clerk);
+    }
+};
+
+// A choice, the field before it, and where Enter leads.
+struct Choice {
+    const char* combo;
+    const char* before;
+    const char* next;
+    const char* word;
+};
+constexpr Choice Choices[] = {{"ComboAutoFat", "ComboAutoLiters", "ComboPrintStatus", "haoya"},
+    {"ComboPrintStatus", "ComboAutoFat", "txtCowLimit", "haoya"},
+    {"ComboReceipt", "txtBuffLimit", "CheckRepeatCol", "Tašp 8"},
+    {"ComboMSRPrintStatus", "txtMixSaleRate", "CmdSave", "saovh"}};
+
+// A figure that must not be 0, the field before it, and where Enter leads.
+struct Figure {
+    const char* field;
+    const char* before;
+    const char* next;
+    const char* zero;
+    const char* shown; // what "12.3456" becomes
+};
+constexpr Figure Figures[] = {{"txtCowLimit", "ComboPrintStatus", "txtBuffLimit", "0.000", "12.346"},
+    {"txtBuffLimit", "txtCowLimit", "ComboReceipt", "0.000", "12.346"},
+    {"txtBuffSaleRate", "txtCowSaleRate", "txtMixSaleRate", "0.00", "12.35"},
+    {"txtMixSaleRate", "txtBuffSaleRate", "CmdSave", "0.00", "12.35"}};
+
+}
+
+TEST_F(AutoSettingsChain, EnterLeadsFromTheFirstFieldToTheSaveButton)
+{
+    Settings([&](Clerk& clerk) {
+        const char* way[] = {"ComboAutoLiters", "ComboAutoFat", "ComboPrintStatus", "txtCowLimit",
+            "txtBuffLimit", "ComboReceipt", "CheckRepeatCol", "ComboPaymentDuration", "txtCow", "txtBuff",
+            "txtCowSaleRate", "txtBuffSaleRate", "txtMixSaleRate", "CmdSave"};
+        for (const char* control : way) {
+            EXPECT_EQ(Focus(clerk), Q(control));
+            clerk.Type(Q(Focus(clerk) == u"CmdSave" ? "" : "{ENTER}"));
+        }
+        EXPECT_EQ(Page(clerk), Q("1"));
+        clerk.Type(Q("{TAB}{TAB}{TAB}"));
+        EXPECT_EQ(Focus(clerk), Q("cmdReceipt"));
+        clerk.Type(Q("{TAB}"));
+        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+    });
+}
+
+TEST_F(AutoSettingsChain, TheRestOfThePaymentPageIsWalkedInItsOrder)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "cmbFatRateType");
+        for (const char* control : {"CheckCNP", "CheckSNU", "OptionPayIt", "CmdSave"}) {
+            clerk.Type(Q("{ENTER}"));
+            EXPECT_EQ(Focus(clerk), Q(control));
+        }
+    });
+}
+
+TEST_F(AutoSettingsChain, TheFirstChoiceIsNeverLeftEmpty)
+{
+    Settings([&](Clerk& clerk) {
+        EXPECT_EQ(Leave(clerk, "ComboAutoLiters", ""), Q("ComboAutoLiters"));
+        EXPECT_EQ(Leave(clerk, "ComboAutoLiters", "saovh"), Q("ComboAutoLiters"));
+        EXPECT_EQ(Reads(clerk, "ComboAutoLiters"), QString());
+        EXPECT_EQ(Leave(clerk, "ComboAutoLiters", "haoya"), Q("ComboAutoFat"));
+    });
+}
+
+TEST_F(AutoSettingsChain, AnEmptyChoiceTakesTheFocusAgain)
+{
+    for (const Choice& choice : Choices) {
+        Settings([&](Clerk& clerk) {
+            EXPECT_EQ(Leave(clerk, choice.combo, ""), Q(choice.combo));
+            clerk.Type(Q("+{TAB}"));
+            EXPECT_EQ(Focus(clerk), Q(choice.combo)) << "nor is it left backwards";
+            Put(clerk, choice.combo, choice.word);
+            clerk.Type(Q("{ENTER}"));
+            EXPECT_EQ(Focus(clerk), Q(choice.next));
+        });
+    }
+}
+
+TEST_F(AutoSettingsChain, AChoiceThatHoldsNoneOfItsWordsIsEmptied)
+{
+    for (const Choice& choice : Choices) {
+        Settings([&](Clerk& clerk) {
+            EXPECT_EQ(Leave(clerk, choice.combo, "1"), Q(choice.combo));
+            EXPECT_EQ(Reads(clerk, choice.combo), QString());
+        });
+    }
+}
+
+TEST_F(AutoSettingsChain, AChoiceBehindAnEmptyFieldIsNotChecked)
+{
+    for (const Choice& choice : Choices) {
+        for (const char* text : {"", "1"}) {
+            Settings([&](Clerk& clerk) {
+                GoTo(clerk, choice.combo);
+                Put(clerk, choice.before, "");
+                EXPECT_EQ(Leave(clerk, choice.combo, text), Q(choice.next));
+                EXPECT_EQ(Reads(clerk, choice.combo), Q(text));
+            });
+        }
+    }
+}
+
+TEST_F(AutoSettingsChain, AZeroStaysInItsFieldInItsFormat)
+{
+    for (const Figure& figure : Figures) {
+        Settings([&](Clerk& clerk) {
+            EXPECT_EQ(Leave(clerk, figure.field, "0"), Q(figure.field));
+            EXPECT_EQ(Reads(clerk, figure.field), Q(figure.zero));
+            EXPECT_EQ(Leave(clerk, figure.field, ""), Q(figure.field)) << "nothing is a zero";
+            EXPECT_EQ(Reads(clerk, figure.field), Q(figure.zero));
+        });
+    }
+}
+
+TEST_F(AutoSettingsChain, OtherFiguresAreFormattedAndPassed)
+{
+    for (const Figure& figure : Figures) {
+        Settings([&](Clerk& clerk) {
+            EXPECT_EQ(Leave(clerk, figure.field, "12.3456"), Q(figure.next));
+            EXPECT_EQ(Reads(clerk, figure.field), Q(figure.shown));
+        });
+    }
+}
+
+TEST_F(AutoSettingsChain, AFigureBehindAnEmptyFieldIsNotChecked)
+{
+    for (const Figure& figure : Figures) {
+        Settings([&](Clerk& clerk) {
+            GoTo(clerk, figure.field);
+            Put(clerk, figure.before, "");
+            Put(clerk, figure.field, "0");
+            clerk.Type(Q("+{TAB}"));
+            EXPECT_EQ(Focus(clerk), Q(figure.before)) << "a step back isn't caught";
+            EXPECT_EQ(Reads(clerk, figure.field), Q("0"));
+        });
+    }
+}
+
+TEST_F(AutoSettingsChain, TheSaleRateOfCowMilkIsNeverZero)
+{
+    Settings([&](Clerk& clerk) {
+        EXPECT_EQ(Leave(clerk, "txtCowSaleRate", "0"), Q("txtCowSaleRate"));
+        EXPECT_EQ(Reads(clerk, "txtCowSaleRate"), Q("0.00"));
+        EXPECT_EQ(Leave(clerk, "txtCowSaleRate", "12.345"), Q("txtBuffSaleRate"));
+        EXPECT_EQ(Reads(clerk, "txtCowSaleRate"), Q("12.35"));
+    });
+}
+
+TEST_F(AutoSettingsChain, ThePeriodMustBeChosen)
+{
+    Settings([&](Clerk& clerk) {
+        EXPECT_EQ(Leave(clerk, "ComboPaymentDuration", ""), Q("ComboPaymentDuration"));
+        EXPECT_EQ(Leave(clerk, "ComboPaymentDuration", "2 idvasa"), Q("ComboPaymentDuration"));
+        EXPECT_EQ(Reads(clerk, "ComboPaymentDuration"), QString());
+        EXPECT_EQ(Leave(clerk, "ComboPaymentDuration", "7 idvasa"), Q("txtCow"));
+    });
+}
+
+TEST_F(AutoSettingsChain, ADepositOfZeroStaysWhereThePeriodIsChosen)
+{
+    Settings([&](Clerk& clerk) {
+        for (const char* field : {"txtCow", "txtBuff"}) {
+            EXPECT_EQ(Leave(clerk, field, "0"), Q(field));
+            EXPECT_EQ(Reads(clerk, field), Q("0.00"));
+            clerk.Type(Q("1"));
+        }
+    });
+}
+
+TEST_F(AutoSettingsChain, ADepositOfZeroPassesWithoutAPeriod)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "txtCow");
+        Put(clerk, "ComboPaymentDuration", "");
+        clerk.Type(Q("0{ENTER}"));
+        EXPECT_EQ(Focus(clerk), Q("txtBuff"));
+        clerk.Type(Q("0{ENTER}"));
+        EXPECT_EQ(Focus(clerk), Q("txtCowSaleRate"));
+        EXPECT_EQ(Reads(clerk, "txtCow"), Q("0.00"));
+        EXPECT_EQ(Reads(clerk, "txtBuff"), Q("0.00"));
+    });
+}
+
+TEST_F(AutoSettingsChain, ANegativeDepositStaysEvenWithoutAPeriod)
+{
+    Settings([&](Clerk& clerk) {
+        for (const char* field : {"txtCow", "txtBuff"}) {
+            for (const char* period : {"7 idvasa", ""}) {
+                GoTo(clerk, field);
+                Put(clerk, "ComboPaymentDuration", period);
+                EXPECT_EQ(Leave(clerk, field, "-1"), Q(field));
+                EXPECT_EQ(Reads(clerk, field), Q("-1.00"));
+            }
+            Put(clerk, "ComboPaymentDuration", "7 idvasa");
+            clerk.Type(Q("1"));
+        }
+    });
+}
+
+TEST_F(AutoSettingsChain, TheBuffaloDepositLeadsToTheThirdPage)
+{
+    Settings([&](Clerk& clerk) {
+        EXPECT_EQ(Leave(clerk, "txtBuff", "0.755"), Q("txtCowSaleRate"));
+        EXPECT_EQ(Page(clerk), Q("3"));
+        EXPECT_EQ(Reads(clerk, "txtBuff"), Q("0.76"));
+    });
+}
+
+TEST_F(AutoSettingsChain, TheBuffaloDepositBehindAnEmptyOneIsNotChecked)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "txtBuff");
+        Put(clerk, "txtCow", "");
+        Put(clerk, "txtBuff", "0");
+        clerk.Type(Q("+{TAB}"));
+        EXPECT_EQ(Focus(clerk), Q("txtCow"));
+        EXPECT_EQ(Page(clerk), Q("2"));
+    });
+}
+
+TEST_F(AutoSettingsChain, TheBoxOfRepeatedDeliveriesLeadsToTheSecondPageWhicheverWayItIsLeft)
+{
+    for (const char* key : {"{ENTER}", "{TAB}", "+{TAB}"}) {
+        Settings([&](Clerk& clerk) {
+            GoTo(clerk, "CheckRepeatCol");
+            clerk.Type(Q(key));
+            EXPECT_EQ(Focus(clerk), Q("ComboPaymentDuration")) << key;
+            EXPECT_EQ(Page(clerk), Q("2"));
+        });
+    }
+}
+
+TEST_F(AutoSettingsChain, TheMixedRateLeadsBackToTheFirstPageAndToSave)
+{
+    Settings([&](Clerk& clerk) {
+        EXPECT_EQ(Leave(clerk, "txtMixSaleRate", "50"), Q("CmdSave"));
+        EXPECT_EQ(Page(clerk), Q("1"));
+    });
+}
+
+TEST_F(AutoSettingsChain, TurningThePageEntersItsFirstFieldOnTheFirstTwo)
+{
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("^{PGDN}"));
+        EXPECT_EQ(Focus(clerk), Q("ComboPaymentDuration"));
+        clerk.Type(Q("^{PGDN}"));
+        EXPECT_EQ(Page(clerk), Q("3"));
+        EXPECT_EQ(Focus(clerk), Q("SSTab"));
+        clerk.Type(Q("^{PGDN}"));
+        EXPECT_EQ(Page(clerk), Q("1"));
+        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+        clerk.Type(Q("^{PGUP}{ENTER}"));
+        EXPECT_EQ(Focus(clerk), Q("txtCowSaleRate"));
+    });
+}
+
+TEST_F(AutoSettingsChain, PressingTheTabOfThePaymentsEntersThePeriod)
+{
+    Settings([&](Clerk& clerk) {
+        clerk.Do([&] {
+            auto* strip = clerk.Top().Find(u"SSTab")->Widget();
+            const QPointF at(250, 20);
+            QMouseEvent press(QEvent::MouseButtonPress, at, strip->mapToGlobal(at), Qt::LeftButton,
+                Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(strip, &press);
+        });
+        EXPECT_EQ(Page(clerk), Q("2"));
+        EXPECT_EQ(Focus(clerk), Q("ComboPaymentDuration"));
+    });
+}
+
+TEST_F(AutoSettingsChain, AnEmptyChoiceKeepsItsPage)
+{
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("{BS}^{PGDN}"));
+        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+        EXPECT_EQ(Page(clerk), Q("1"));
+    });
+}
+
+TEST_F(AutoSettingsChain, NothingThatIsRefusedIsToldInAMessage)
+{
+    Settings([&](Clerk& clerk) {
+        for (const char* control : {"ComboAutoLiters", "txtCowLimit", "txtCow", "txtCowSaleRate"}) {
+            EXPECT_EQ(Leave(clerk, control, ""), Q(control));
+            EXPECT_EQ(clerk.Message(), QString());
+            Put(clerk, control, control[0] == 'C' ? "haoya" : "1");
+        }
+        EXPECT_EQ(TheBox.Shown, QStringList());
+    });
+}

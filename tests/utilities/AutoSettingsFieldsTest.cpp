@@ -1,0 +1,314 @@
+#include "AutoSettingsTest.h"
+
+namespace {
+
+class AutoSettingsFields : public AutoSettingsTest {
+protected:
+    // What a combo reads after each of the digits 0 to 9, beginning empty each time.
+    static QStringList ByDigit(Clerk& clerk, const char* combo)
+    {
+        QStringList words;
+        for (int digit = 0; digit <= 9; ++digit) {
+            Put(clerk, combo, "");
+            clerk.Type(QString::number(digit));
+            words.append(Reads(clerk, combo));
+        }
+        while (!words.isEmpty() && words.back().isEmpty())
+            words.removeLast();
+        return words;
+    }
+
+    // A picked word of a combo's list.
+    static QString Picked(Clerk& clerk, const char* combo, int row)
+    {
+        clerk.Press(Q(combo));
+        PickFromList(clerk, row);
+        return Reads(clerk, combo);
+    }
+};
+
+}
+
+TEST_F(AutoSettingsFields, OpenOnTheFirstPageWithEachColumnInItsField)
+{
+    Given("AutoLiters='haoya',AutoFat='naahI',PrintStatus='f@t sËIna',CanLimitCow='41.5',CanLimitBuff='42',"
+          "ReceiptType='Tašp 7',RepeatCollection='haoya',PaymentDuration='1 maihnaa',ThevKapatCow=1.5,"
+          "ThevKapatBuff=2,FatRateType='f^T nausaar',PurchaseEntry='Collection',UchalEntry='Sales',"
+          "DecimalPayment='Payable',SalesRateCow='47',SalesRateBuff='57.5',SalesRateMix='51.255',"
+          "MSRPrintStatus='saovh va sËIna'");
+    Settings([&](Clerk& clerk) {
+        EXPECT_EQ(Page(clerk), Q("1"));
+        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+        const std::pair<const char*, const char*> expected[] = {{"ComboAutoLiters", "haoya"},
+            {"ComboAutoFat", "naahI"}, {"ComboPrintStatus", "f@t sËIna"}, {"txtCowLimit", "41.500"},
+            {"txtBuffLimit", "42.000"}, {"ComboReceipt", "Tašp 7"}, {"CheckRepeatCol", "1"},
+            {"ComboPaymentDuration", "1 maihnaa"}, {"txtCow", "1.50"}, {"txtBuff", "2.00"},
+            {"cmbFatRateType", "f^T nausaar"}, {"CheckCNP", "1"}, {"CheckSNU", "1"}, {"OptionAddThev", "0"},
+            {"OptionPayable", "1"}, {"OptionPayIt", "0"}, {"OptionDiscount", "0"},
+            {"txtCowSaleRate", "47.00"}, {"txtBuffSaleRate", "57.50"}, {"txtMixSaleRate", "51.26"},
+            {"ComboMSRPrintStatus", "saovh va sËIna"}};
+        for (const auto& [control, text] : expected)
+            EXPECT_EQ(Reads(clerk, control), Q(text)) << control;
+    });
+}
+
+TEST_F(AutoSettingsFields, TheOtherWordsLeaveTheBoxesWithoutATick)
+{
+    Given("RepeatCollection='naahI',PurchaseEntry='Payment',UchalEntry='Uchal'");
+    Settings([&](Clerk& clerk) {
+        for (const char* box : {"CheckRepeatCol", "CheckCNP", "CheckSNU"})
+            EXPECT_EQ(Reads(clerk, box), Q("0")) << box;
+    });
+}
+
+TEST_F(AutoSettingsFields, EachWordForPaiseChoosesItsOption)
+{
+    const std::pair<const char*, const char*> options[] = {{"AddThev", "OptionAddThev"},
+        {"Payable", "OptionPayable"}, {"PayIt", "OptionPayIt"}, {"Discount", "OptionDiscount"}};
+    for (const auto& [word, chosen] : options) {
+        Given(qPrintable(QStringLiteral("DecimalPayment='%1'").arg(Q(word))));
+        Settings([&](Clerk& clerk) {
+            for (const auto& [other, option] : options)
+                EXPECT_EQ(Reads(clerk, option), Q(option == chosen ? "1" : "0")) << word << ' ' << option;
+        });
+    }
+}
+
+TEST_F(AutoSettingsFields, WithoutARowTheyAreEmptyAndTheReceiptIsToBePrinted)
+{
+    WithoutARow();
+    Settings([&](Clerk& clerk) {
+        EXPECT_EQ(Reads(clerk, "ComboPrintStatus"), Q("haoya"));
+        for (const char* field : {"ComboAutoLiters", "ComboAutoFat", "txtCowLimit", "txtBuffLimit",
+                 "ComboReceipt", "ComboPaymentDuration", "txtCow", "txtBuff", "cmbFatRateType",
+                 "txtCowSaleRate", "txtBuffSaleRate", "txtMixSaleRate", "ComboMSRPrintStatus"})
+            EXPECT_EQ(Reads(clerk, field), QString()) << field;
+    });
+}
+
+TEST_F(AutoSettingsFields, TheRowOfAnotherCompanyIsNotRead)
+{
+    Given("CompanyId=2");
+    Settings([&](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "ComboReceipt"), QString()); });
+}
+
+TEST_F(AutoSettingsFields, NoTypeOfRateIsRateByFat)
+{
+    Given("FatRateType=Null");
+    Settings([&](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "cmbFatRateType"), Q("f^T nausaar")); });
+}
+
+TEST_F(AutoSettingsFields, AColumnWithoutAFigureLeavesItsFieldEmpty)
+{
+    Given("ThevKapatCow=Null,CanLimitCow=''");
+    Settings([&](Clerk& clerk) {
+        EXPECT_EQ(Reads(clerk, "txtCow"), QString());
+        EXPECT_EQ(Reads(clerk, "txtCowLimit"), QString());
+    });
+}
+
+TEST_F(AutoSettingsFields, EachChoiceShowsItsGuide)
+{
+    const char* yesNo = "  1– haoya  2– naahI ";
+    const std::pair<const char*, const char*> guides[] = {{"ComboAutoLiters", yesNo},
+        {"ComboAutoFat", "  1–haoya   2–naahI"},
+        {"ComboPrintStatus", "  1–saovh  2–saovh va sËIna  3–saovh va ip`MT"},
+        {"ComboReceipt",
+            "  1–Tašp 1   2–Tašp 2   3–Tašp 3   4–Tašp 4   5–Tašp 5   6–Tašp 6   7–Tašp 7   8–Tašp 8"},
+        {"ComboPaymentDuration",
+            "  1Á– 1 idvasa    2Á– 7 idvasa    3Á– 10 idvasa    4Á– 15 idvasa    5Á– 1 maihnaa"},
+        {"ComboMSRPrintStatus", "  1–saovh  2–saovh va sËIna  3–saovh va ip`MT"}, {"txtCowLimit", ""}};
+    Settings([&](Clerk& clerk) {
+        for (const auto& [control, guide] : guides) {
+            GoTo(clerk, control);
+            EXPECT_EQ(clerk.Top().Find(Q(control))->Guide().Text(), Q(guide));
+            EXPECT_EQ(Guide(clerk), Seen(Q(guide))) << control;
+        }
+    });
+}
+
+TEST_F(AutoSettingsFields, TheFieldInFocusHasTheColourOfTheFocus)
+{
+    Settings([&](Clerk& clerk) {
+        const auto colour = [&](const char* control) {
+            const QPalette& palette = clerk.Top().Find(Q(control))->Widget()->palette();
+            return palette.color(QPalette::Active, QPalette::Base).name();
+        };
+        EXPECT_EQ(colour("ComboAutoLiters"), Q("#ffc0c0"));
+        clerk.Type(Q("{ENTER}"));
+        EXPECT_EQ(colour("ComboAutoLiters"), Q("#b4c4cd"));
+        EXPECT_EQ(colour("ComboAutoFat"), Q("#ffc0c0"));
+    });
+}
+
+TEST_F(AutoSettingsFields, DigitsChooseYesOrNo)
+{
+    Settings([&](Clerk& clerk) {
+        for (const char* combo : {"ComboAutoLiters", "ComboAutoFat"}) {
+            GoTo(clerk, combo);
+            EXPECT_EQ(ByDigit(clerk, combo), QStringList({Q(""), Q("haoya"), Q("naahI")}));
+            clerk.Type(Q("1"));
+        }
+    });
+}
+
+TEST_F(AutoSettingsFields, DigitsChooseWhatBecomesOfTheReceipts)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "ComboPrintStatus");
+        EXPECT_EQ(
+            ByDigit(clerk, "ComboPrintStatus"), QStringList({Q(""), Q("naahI"), Q("f@t sËIna"), Q("haoya")}));
+        clerk.Type(Q("1"));
+        GoTo(clerk, "ComboMSRPrintStatus");
+        EXPECT_EQ(ByDigit(clerk, "ComboMSRPrintStatus"),
+            QStringList({Q(""), Q("saovh"), Q("saovh va sËIna"), Q("saovh va ip`MT")}));
+    });
+}
+
+TEST_F(AutoSettingsFields, TheLayoutTakesTheDigits1To6AndTheMousePicksTheOthers)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "ComboReceipt");
+        EXPECT_EQ(ByDigit(clerk, "ComboReceipt"),
+            QStringList(
+                {Q(""), Q("Tašp 1"), Q("Tašp 2"), Q("Tašp 3"), Q("Tašp 4"), Q("Tašp 5"), Q("Tašp 6")}));
+        EXPECT_EQ(Picked(clerk, "ComboReceipt", 6), Q("Tašp 7"));
+        EXPECT_EQ(Picked(clerk, "ComboReceipt", 7), Q("Tašp 8"));
+        clerk.Type(Q("{ENTER}"));
+        EXPECT_EQ(Focus(clerk), Q("CheckRepeatCol"));
+    });
+}
+
+TEST_F(AutoSettingsFields, ThePeriodTakesTheDigits1To4AndTheMousePicksTheMonth)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "ComboPaymentDuration");
+        EXPECT_EQ(ByDigit(clerk, "ComboPaymentDuration"),
+            QStringList({Q(""), Q("1 idvasa"), Q("7 idvasa"), Q("10 idvasa"), Q("15 idvasa")}));
+        clerk.Type(Q("15"));
+        EXPECT_EQ(Reads(clerk, "ComboPaymentDuration"), Q("1 idvasa")) << "5 is dropped";
+        EXPECT_EQ(Picked(clerk, "ComboPaymentDuration", 4), Q("1 maihnaa"));
+        clerk.Type(Q("{ENTER}"));
+        EXPECT_EQ(Focus(clerk), Q("txtCow"));
+    });
+}
+
+TEST_F(AutoSettingsFields, LettersAreDroppedInAChoice)
+{
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("1haoya.x"));
+        EXPECT_EQ(Reads(clerk, "ComboAutoLiters"), Q("haoya"));
+    });
+}
+
+TEST_F(AutoSettingsFields, TheTypeOfRateTakesNoKeyButEnter)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "cmbFatRateType");
+        clerk.Type(Q("2{BS}{DEL}x%{DOWN}{DOWN}"));
+        EXPECT_EQ(Reads(clerk, "cmbFatRateType"), Q("f^T nausaar"));
+        clerk.Type(Q("{ENTER}"));
+        EXPECT_EQ(Focus(clerk), Q("CheckCNP"));
+        EXPECT_EQ(TheBox.Shown, QStringList());
+    });
+}
+
+TEST_F(AutoSettingsFields, RateByFatAndSnfIsNotYetToBeHad)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "cmbFatRateType");
+        EXPECT_EQ(Picked(clerk, "cmbFatRateType", 1), Q("f^T va esa ena ef nausaar"));
+        clerk.Type(Q("{ENTER}"));
+        EXPECT_EQ(TheBox.Shown, QStringList(Q("This Facility is available in the next version.")));
+        EXPECT_EQ(Reads(clerk, "cmbFatRateType"), Q("f^T nausaar"));
+        EXPECT_EQ(Focus(clerk), Q("CheckCNP"));
+    });
+}
+
+TEST_F(AutoSettingsFields, AnEmptyTypeOfRateBecomesRateByFatOnLeaving)
+{
+    Given("FatRateType=''");
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "cmbFatRateType");
+        EXPECT_EQ(Reads(clerk, "cmbFatRateType"), QString());
+        clerk.Type(Q("{ENTER}"));
+        EXPECT_EQ(Reads(clerk, "cmbFatRateType"), Q("f^T nausaar"));
+        EXPECT_EQ(TheBox.Shown, QStringList());
+    });
+}
+
+TEST_F(AutoSettingsFields, TheBoxOfThePurchaseEntryTellsWhatItMeans)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "CheckCNP");
+        EXPECT_EQ(Guide(clerk), QString());
+        clerk.Type(Q(" "));
+        EXPECT_EQ(Guide(clerk), Seen(Q("dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kolaI jaa[-la")));
+        clerk.Press(Q("CheckCNP"));
+        EXPECT_EQ(Guide(clerk), Seen(Q("dUQa KrodIcaI enT/I dUQa pomaonT krtovaoLIca kolaI jaa[-la")));
+        clerk.Type(Q("{ENTER}"));
+        EXPECT_EQ(Guide(clerk), QString());
+    });
+}
+
+TEST_F(AutoSettingsFields, CancelReadsTheRowAgainAndSavesNothing)
+{
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("1{ENTER}1{ENTER}"));
+        GoTo(clerk, "txtCow");
+        clerk.Type(Q("9{ENTER}"));
+        clerk.Press(Q("CmdCancel"));
+        EXPECT_EQ(Reads(clerk, "ComboAutoLiters"), Q("naahI"));
+        EXPECT_EQ(Reads(clerk, "ComboAutoFat"), Q("naahI"));
+        EXPECT_EQ(Reads(clerk, "txtCow"), Q("0.50"));
+        EXPECT_EQ(Page(clerk), Q("1"));
+        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+    });
+    EXPECT_EQ(One(Q("select AutoLiters from AutoSettings")), Q("naahI"));
+}
+
+TEST_F(AutoSettingsFields, CancelTakesTheChoiceForPaiseBackToo)
+{
+    Given("DecimalPayment=''");
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("^{PGDN}"));
+        clerk.Press(Q("OptionDiscount"));
+        EXPECT_EQ(Reads(clerk, "OptionDiscount"), Q("1"));
+        clerk.Press(Q("CmdCancel"));
+        EXPECT_EQ(Reads(clerk, "OptionDiscount"), Q("0"));
+    });
+}
+
+TEST_F(AutoSettingsFields, PressingCancelWithTheMouseLetsAnEmptyFieldGo)
+{
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("{ENTER}{BS}"));
+        clerk.Press(Q("CmdCancel"));
+        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+        EXPECT_EQ(Reads(clerk, "ComboAutoFat"), Q("naahI"));
+    });
+}
+
+TEST_F(AutoSettingsFields, EscAndTheExitButtonCloseWithoutASave)
+{
+    const QStringList before = Rows(Q("select * from AutoSettings"));
+    for (const char* way : {"{ESC}", "%b"}) {
+        Settings([&](Clerk& clerk) {
+            clerk.Type(Q("1"));
+            clerk.Type(Q(way));
+            EXPECT_EQ(clerk.ScreenName(), QString()) << way;
+        });
+        EXPECT_EQ(Rows(Q("select * from AutoSettings")), before) << way;
+    }
+    EXPECT_EQ(gAppState.gAutoLiters, Q("naahI"));
+}
+
+TEST_F(AutoSettingsFields, EscLeavesEvenAFieldThatRefuses)
+{
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("{BS}{ENTER}"));
+        ASSERT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+        clerk.Type(Q("{ESC}"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+}

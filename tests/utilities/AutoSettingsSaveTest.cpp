@@ -1,0 +1,200 @@
+#include "AutoSettingsTest.h"
+
+#include "MainMenu.h"
+#include "MenuList.h"
+
+namespace {
+
+class AutoSettingsSave : public AutoSettingsTest {
+protected:
+    // Presses Save from wherever the clerk is.
+    static void Save(Clerk& clerk)
+    {
+        clerk.Type(Q("%s"));
+        ASSERT_EQ(clerk.Focus(), Q("CmdSave"));
+    }
+
+    static const char* All() { return "select * from AutoSettings"; }
+};
+
+}
+
+TEST_F(AutoSettingsSave, WritesEachColumnAsTheFieldsShowItAndLosesTheOthers)
+{
+    Given("BasicCowRate=30,BasicBuffRate=40,CowBonusRate=1,BuffBonusRate=2,FixedKapat=5,"
+          "ShowTransportCharges='True'");
+    gAppState.gWeighScale = Q("DILIGENT");
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("1{ENTER}1{ENTER}2{ENTER}45{ENTER}46.5{ENTER}3{ENTER} {ENTER}"));
+        clerk.Type(Q("4{ENTER}0.75{ENTER}.8{ENTER}49{ENTER}59.5{ENTER}53{ENTER}"));
+        GoTo(clerk, "CheckCNP");
+        clerk.Type(Q(" {ENTER} {ENTER}"));
+        clerk.Press(Q("OptionDiscount"));
+        GoTo(clerk, "ComboMSRPrintStatus");
+        clerk.Type(Q("3"));
+        Save(clerk);
+    });
+    EXPECT_EQ(Rows(Q(All())),
+        QStringList(Q("1|haoya|haoya|f@t sËIna|saovh va ip`MT|46.500|45.000|Tašp 3|haoya|15 idvasa|"
+                      "Collection|Sales|Discount|0.75|0.8|49.00|59.50|53.00|DILIGENT|f^T nausaar|"
+                      "NULL|NULL|NULL|NULL|NULL|NULL")));
+}
+
+TEST_F(AutoSettingsSave, BoxesWithoutATickAndEachOptionHaveTheirWords)
+{
+    const std::pair<const char*, const char*> options[] = {{"OptionAddThev", "AddThev"},
+        {"OptionPayable", "Payable"}, {"OptionPayIt", "PayIt"}, {"OptionDiscount", "Discount"}};
+    for (const auto& [option, word] : options) {
+        Settings([&](Clerk& clerk) {
+            clerk.Type(Q("^{PGDN}"));
+            clerk.Press(Q(option));
+            Save(clerk);
+        });
+        EXPECT_EQ(
+            Rows(Q("select RepeatCollection,PurchaseEntry,UchalEntry,DecimalPayment from AutoSettings")),
+            QStringList(Q("naahI|Payment|Uchal|") + Q(word)));
+    }
+}
+
+TEST_F(AutoSettingsSave, ASavedRowIsReadBackAsItWas)
+{
+    Settings([&](Clerk& clerk) { Save(clerk); });
+    const QStringList first = Rows(Q(All()));
+    Settings([&](Clerk& clerk) { Save(clerk); });
+    EXPECT_EQ(Rows(Q(All())), first);
+    EXPECT_EQ(first.size(), 1);
+}
+
+TEST_F(AutoSettingsSave, TheStateTakesThreeOfTheFields)
+{
+    gAppState.gWeighScale = Q("ELECTRO");
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("1{ENTER}1{ENTER}"));
+        GoTo(clerk, "ComboPaymentDuration");
+        clerk.Type(Q("2"));
+        EXPECT_EQ(gAppState.gAutoLiters, Q("naahI"));
+        Save(clerk);
+    });
+    EXPECT_EQ(gAppState.gAutoLiters, Q("haoya"));
+    EXPECT_EQ(gAppState.gAutoFat, Q("haoya"));
+    EXPECT_EQ(gAppState.gPaymentDuration, Q("7 idvasa"));
+    EXPECT_EQ(gAppState.gWeighScale, Q("ELECTRO"));
+}
+
+TEST_F(AutoSettingsSave, TheScaleIsWrittenBackFromTheStateAndNotFromTheRow)
+{
+    gAppState.gWeighScale = Q("MCS");
+    Given("WeighScale='ACE CORP'");
+    Settings([&](Clerk& clerk) { Save(clerk); });
+    EXPECT_EQ(One(Q("select WeighScale from AutoSettings")), Q("MCS"));
+}
+
+TEST_F(AutoSettingsSave, WithAnEmptyRequiredFieldTheRowGoesUntilALaterSave)
+{
+    const QStringList required = {Q("ComboAutoFat"), Q("ComboAutoLiters"), Q("ComboPrintStatus"),
+        Q("ComboReceipt"), Q("ComboPaymentDuration"), Q("txtCow"), Q("txtBuff")};
+    for (const QString& field : required) {
+        Settings([&](Clerk& clerk) {
+            const QByteArray name = field.toLatin1();
+            const QByteArray text = clerk.Reads(field).toUtf8();
+            GoTo(clerk, "CmdSave");
+            Put(clerk, name, "");
+            clerk.Type(Q("{ENTER}"));
+            EXPECT_FALSE(HasRow()) << name.data();
+            EXPECT_EQ(clerk.ScreenName(), Q("frmAutoSettings")) << "there is no message";
+            EXPECT_EQ(TheBox.Shown, QStringList());
+            Put(clerk, name, text);
+            clerk.Type(Q("{ENTER}"));
+            EXPECT_TRUE(HasRow()) << name.data();
+        });
+    }
+}
+
+TEST_F(AutoSettingsSave, TheOtherFieldsMayBeEmpty)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "CmdSave");
+        for (const char* field : {"txtCowLimit", "txtBuffLimit", "cmbFatRateType", "txtCowSaleRate",
+                 "txtBuffSaleRate", "txtMixSaleRate", "ComboMSRPrintStatus"})
+            Put(clerk, field, "");
+        clerk.Type(Q("{ENTER}"));
+    });
+    EXPECT_EQ(Rows(Q("select CanLimitCow,CanLimitBuff,FatRateType,SalesRateCow,SalesRateBuff,SalesRateMix,"
+                     "MSRPrintStatus from AutoSettings")),
+        QStringList(Q("||||||")));
+}
+
+TEST_F(AutoSettingsSave, ARowWithoutALayoutIsGoneAfterASaveAndTheNextStartFindsNone)
+{
+    Given("ReceiptType=''");
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("1"));
+        Save(clerk);
+    });
+    EXPECT_FALSE(HasRow());
+    EXPECT_EQ(gAppState.gAutoLiters, Q("naahI")) << "a refused save changes nothing else";
+    gCn.Close();
+    ASSERT_TRUE(LoadAppState());
+    EXPECT_EQ(gAppState.gPaymentDuration, QString());
+    EXPECT_EQ(gAppState.gAutoLiters, QString());
+}
+
+TEST_F(AutoSettingsSave, FilledAnewTheScreenWritesTheRowOfASocietyThatHasNone)
+{
+    WithoutARow();
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("2{ENTER}2{ENTER}{ENTER}40{ENTER}40{ENTER}1{ENTER}{ENTER}"));
+        clerk.Type(Q("3{ENTER}.5{ENTER}.5{ENTER}48{ENTER}58{ENTER}52{ENTER}{ENTER}"));
+    });
+    EXPECT_EQ(Rows(Q("select PrintStatus,ReceiptType,PaymentDuration,ThevKapatCow,SalesRateMix,FatRateType "
+                     "from AutoSettings")),
+        QStringList(Q("haoya|Tašp 1|10 idvasa|0.5|52.00|")));
+}
+
+TEST_F(AutoSettingsSave, TheTypeOfRateIsWrittenForEveryCompany)
+{
+    Run(Q("insert into AutoSettings(CompanyId,AutoFat,FatRateType,FixedKapat) values(2,'haoya','',7)"));
+    Settings([&](Clerk& clerk) { Save(clerk); });
+    EXPECT_EQ(Rows(Q("select CompanyId,AutoFat,FatRateType,FixedKapat from AutoSettings order by CompanyId")),
+        QStringList({Q("1|naahI|f^T nausaar|NULL"), Q("2|haoya|f^T nausaar|7")}));
+}
+
+TEST_F(AutoSettingsSave, RateByFatAndSnfCannotBeSaved)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "cmbFatRateType");
+        clerk.Press(Q("cmbFatRateType"));
+        PickFromList(clerk, 1);
+        Save(clerk);
+    });
+    EXPECT_EQ(TheBox.Shown, QStringList(Q("This Facility is available in the next version.")));
+    EXPECT_EQ(One(Q("select FatRateType from AutoSettings")), Q("f^T nausaar"));
+}
+
+TEST_F(AutoSettingsSave, ASaveThatBreaksOffLeavesTheRowAsItWas)
+{
+    const QStringList before = Rows(Q(All()));
+    gAppState.gWeighScale = Q("ACE'CORP");
+    On<frmAutoSettings>([&](Clerk& clerk) { clerk.Type(Q("1%s")); });
+    ASSERT_TRUE(Failure);
+    EXPECT_TRUE(Failure->Statement().startsWith(u"insert into AutoSettings("))
+        << Failure->Statement().toStdString();
+    EXPECT_EQ(Rows(Q(All())), before);
+    EXPECT_EQ(gAppState.gAutoLiters, Q("naahI"));
+}
+
+TEST_F(AutoSettingsSave, TheTransportEntryOfTheMenuDisappears)
+{
+    const auto entries = [this] {
+        qsizetype count = 0;
+        On<MainMenuFrm>([&](Clerk& clerk) {
+            clerk.Type(Q("{ENTER}{ENTER}"));
+            count = qsizetype(dynamic_cast<MenuList&>(*clerk.Top().Find(u"ListSVouchers")).Entries().size());
+        });
+        return count;
+    };
+    Given("ShowTransportCharges='True'");
+    const qsizetype before = entries();
+    Settings([&](Clerk& clerk) { Save(clerk); });
+    EXPECT_EQ(entries(), before - 1);
+}

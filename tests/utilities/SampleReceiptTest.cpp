@@ -1,0 +1,150 @@
+#include "AutoSettingsTest.h"
+
+#include "AppFolder.h"
+#include "Sql.h"
+
+#include <QFile>
+
+namespace {
+
+// The folder holds a plain template under each name, which a report carries as its own name.
+class SampleReceipt : public AutoSettingsTest {
+protected:
+    SampleReceipt()
+    {
+        ReportSurroundings::Current() = {
+            &Window, nullptr, [](const QString& path) { return LocalPath(path); }};
+    }
+    ~SampleReceipt() override
+    {
+        Window.Reports.clear();
+        ReportControl::CloseConnections();
+        ReportSurroundings::Current() = {};
+    }
+
+    void AddTemplate(const QString& name)
+    {
+        QFile file(FolderFile(name + QStringLiteral(".rpt")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(Sql(u"<report name=\"", name,
+            u"\" paper=\"A4\">\n<source name=\"r\" table=\"MilkReceipt\"/>\n"
+            u"<table source=\"r\"><col w=\"*\" head=\"No\">{MemberNo}</col></table>\n</report>\n")
+                       .toUtf8());
+    }
+
+    // Presses the button of the sample.
+    static void PrintSample(Clerk& clerk)
+    {
+        GoTo(clerk, "cmdReceipt");
+        clerk.Type(Q("{ENTER}"));
+    }
+
+    FakeReportWindow Window;
+};
+
+// The names that differ from those of the counters are those of 6 and 8.
+const char* const Samples[] = {"MilkReceipt1", "MilkReceipt2", "MilkReceiptBhl", "MilkReceiptGhlp",
+    "MilkReceiptAtk", "MilkReceiptShenoli", "MilkReceiptNerli With Time",
+    "MilkReceiptNerli Minimised With Time"};
+
+}
+
+TEST_F(SampleReceipt, EachLayoutHasItsTemplate)
+{
+    for (const char* name : Samples)
+        AddTemplate(Q(name));
+    Settings([&](Clerk& clerk) {
+        for (int layout = 0; layout < 8; ++layout) {
+            GoTo(clerk, "ComboReceipt");
+            clerk.Press(Q("ComboReceipt"));
+            PickFromList(clerk, layout);
+            clerk.Press(Q("cmdReceipt"));
+            EXPECT_EQ(Window.Shown, QStringList(Q(Samples[layout]))) << "layout " << layout + 1;
+            Window.Shown.clear();
+        }
+    });
+}
+
+TEST_F(SampleReceipt, StagesTheRowOfTheSampleBillInPlaceOfTheLastSlip)
+{
+    AddTemplate(Q("MilkReceipt1"));
+    Run(Q("insert into MilkReceipt(CompanyId,MemberNo,MemberName) values(1,77,'rama')"));
+    const QString columns = Q("CollectionTime,CollectionNo,MemberNo,MemberName,Animal,Liters,Fat,Rate,Amount,"
+                              "ActualCollectionTime");
+    Settings([&](Clerk& clerk) {
+        PrintSample(clerk);
+        EXPECT_EQ(Rows(Sql(u"select ", columns, u" from MilkReceipt")),
+            Rows(Sql(u"select ", columns, u" from MRView")));
+        EXPECT_EQ(Rows(Q("select count(*),min(CompanyId) from MilkReceipt")), QStringList(Q("1|1")));
+        PrintSample(clerk);
+        EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("1")) << "a second sample takes its place";
+    });
+    EXPECT_EQ(Window.Shown.size(), 2);
+}
+
+TEST_F(SampleReceipt, TheRowsTakeTheCompanyOfTheScreen)
+{
+    AddTemplate(Q("MilkReceipt1"));
+    gAppState.gCompanyId = 4;
+    Given("CompanyId=4");
+    Settings([&](Clerk& clerk) { PrintSample(clerk); });
+    EXPECT_EQ(Rows(Q("select CompanyId from MilkReceipt")), QStringList(Q("4")));
+}
+
+TEST_F(SampleReceipt, TheReportReadsWhatIsStaged)
+{
+    AddTemplate(Q("MilkReceipt1"));
+    Settings([&](Clerk& clerk) { PrintSample(clerk); });
+    ASSERT_EQ(Window.Reports.size(), 1U);
+    Report& report = *Window.Reports.front();
+    report.Complete();
+    QStringList texts;
+    for (const PlacedItem& item : report.PageAt(0).items)
+        texts.append(item.text);
+    EXPECT_TRUE(texts.contains(One(Q("select MemberNo from MRView")))) << texts.join(u'|').toStdString();
+}
+
+TEST_F(SampleReceipt, IsMadeFromTheFieldAndSavesNothing)
+{
+    AddTemplate(Q("MilkReceiptBhl"));
+    const QStringList before = Rows(Q("select * from AutoSettings"));
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "ComboReceipt");
+        clerk.Type(Q("3"));
+        clerk.Press(Q("cmdReceipt"));
+    });
+    EXPECT_EQ(Window.Shown, QStringList(Q("MilkReceiptBhl")));
+    EXPECT_EQ(Rows(Q("select * from AutoSettings")), before);
+}
+
+TEST_F(SampleReceipt, WithoutALayoutTheTemplateBeforeIsTakenAgain)
+{
+    AddTemplate(Q("MilkReceipt1"));
+    Settings([&](Clerk& clerk) {
+        PrintSample(clerk);
+        Put(clerk, "ComboReceipt", "");
+        clerk.Type(Q("{ENTER}"));
+    });
+    EXPECT_EQ(Window.Shown, QStringList({Q("MilkReceipt1"), Q("MilkReceipt1")}));
+}
+
+TEST_F(SampleReceipt, BeforeALayoutWasEverChosenNothingIsShown)
+{
+    Given("ReceiptType=''");
+    Settings([&](Clerk& clerk) {
+        PrintSample(clerk);
+        EXPECT_EQ(clerk.ScreenName(), Q("frmAutoSettings"));
+    });
+    EXPECT_EQ(Window.Shown, QStringList());
+    EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("1"));
+}
+
+TEST_F(SampleReceipt, AMissingTemplateEndsTheProgramWithTheRowStaged)
+{
+    QFile::remove(FolderFile(Q("MilkReceipt1.rpt")));
+    On<frmAutoSettings>([&](Clerk& clerk) { PrintSample(clerk); });
+    ASSERT_TRUE(Failure);
+    EXPECT_EQ(Failure->Number(), int(RunTimeError::FileNotFound));
+    EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("1"));
+    EXPECT_EQ(Window.Shown, QStringList());
+}

@@ -1,0 +1,70 @@
+#include "Connection.h"
+#include "Delivered.h"
+#include "ReportTemplate.h"
+#include "RunTimeError.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+namespace {
+
+enum ExitCode { Sound = 0, Faulty = 1, BadArguments = 2 };
+
+// The tables of a society that has just been made, without its rows.
+void MakeTables(Connection& connection, const QTemporaryDir& folder)
+{
+    connection.Create(folder.filePath(QStringLiteral("tables.mdb")), QStringLiteral("tables"));
+    connection.RunScript(Delivered::Schema());
+}
+
+TemplateFaults CheckFile(const QString& file, Connection& connection)
+{
+    TemplateFaults faults;
+    ReportTemplate report = ReportTemplate::Read(file, faults);
+    const TemplateFaults more = Check(report, connection);
+    faults.insert(faults.end(), more.begin(), more.end());
+    return faults;
+}
+
+int CheckFiles(const QStringList& files)
+{
+    const QTemporaryDir folder;
+    Connection connection;
+    MakeTables(connection, folder);
+    QTextStream out(stdout);
+    bool isSound = true;
+    for (const QString& file : files) {
+        const TemplateFaults faults = CheckFile(file, connection);
+        isSound = isSound && faults.empty();
+        for (const TemplateFault& fault : faults)
+            out << fault.Line() << '\n';
+    }
+    return isSound ? Sound : Faulty;
+}
+
+}
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("vetrolan-template"));
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Checks report templates: one line for each fault, as file:line: text."));
+    parser.addPositionalArgument(
+        QStringLiteral("file"), QStringLiteral("A template."), QStringLiteral("FILE..."));
+    parser.addHelpOption();
+    parser.process(application);
+    if (parser.positionalArguments().isEmpty()) {
+        QTextStream(stderr) << "vetrolan-template: no file is named; see --help.\n";
+        return BadArguments;
+    }
+    try {
+        return CheckFiles(parser.positionalArguments());
+    } catch (const RunTimeError& error) {
+        QTextStream(stderr) << "vetrolan-template: " << error.Text().simplified() << '\n';
+        return BadArguments;
+    }
+}
