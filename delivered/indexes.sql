@@ -11,9 +11,6 @@ create index MilkCollectionsByMember
 -- The payment report asks for every member, day and shift of the copy, the counter for a member's second can.
 create index MilkCollectionsTempByMember on MilkCollectionsTemp (MemberNo, CollectionDate);
 
--- Whether a number of the shift is there, and the highest of them, on every save; the list of the shift.
-create index MilkCollectionsTempByShift on MilkCollectionsTemp (CollectionDate, CollectionTime, CollectionNo);
-
 -- The payment report and the registers take a span of days of the past year; nothing is ever saved there.
 create index MilkCollectionsOldByDate on MilkCollectionsOld (CollectionDate);
 

@@ -157,11 +157,17 @@ std::optional<QString> MilkDevices::ReadScaleCommand(
     const QString& command, int start, int length, int waitCount)
 {
     SerialLine line(MSComm1.number, MSComm1.settings);
+    const std::chrono::microseconds whole = WaitOf(waitCount);
+    const Wait wait(whole);
+    if (SerialPorts::Current().Now() < m_restUntil) // the rest is no answer to the next question
+        line.Drain(Wait(whole / 2), std::min<std::chrono::microseconds>(RestSilence, whole / 4));
     line.Write(command.toLatin1());
     const auto holdsPiece = [=](const QByteArray& reply) { return reply.size() >= start - 1 + length; };
-    const std::optional<QByteArray> reply = line.Collect(Wait(WaitOf(waitCount)), holdsPiece);
+    const std::optional<QByteArray> reply = line.Collect(wait, holdsPiece);
     if (!reply)
         return {};
+    if (holdsPiece(*reply))
+        m_restUntil = SerialPorts::Current().Now() + WaitOf(UsualWaitCount);
     return ScaleValue(*reply, start, length);
 }
 

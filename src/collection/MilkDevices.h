@@ -3,6 +3,7 @@
 #include "MilkDevicesCombined.h"
 
 #include <QString>
+#include <chrono>
 
 #include <memory>
 #include <optional>
@@ -62,6 +63,7 @@ private:
 
     std::unique_ptr<CombinedReading> m_combined;
     PortRow m_row;
+    std::chrono::microseconds m_restUntil{0}; // so long the rest of a reply that was taken early may come
     Port MSComm1;
     Port MSComm2;
 };

@@ -41,4 +41,7 @@ constexpr std::chrono::microseconds WaitOf(int count)
 // an adapter holds bytes back for up to 16 ms.
 inline constexpr std::chrono::milliseconds FrameSilence{250};
 
+// So long the line is quiet when the rest of a reply that was taken early has come.
+inline constexpr std::chrono::milliseconds RestSilence{100};
+
 }

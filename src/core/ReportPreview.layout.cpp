@@ -58,5 +58,6 @@ void frmReportPreview::BuildWindow()
     body->addWidget(picPage.Widget(), 1);
     Layout::Stack(*this, header, body, KeyRows(Name()));
     body->setContentsMargins(6, 6, 6, 6);
-    setFixedSize(WindowSize());
+    setMinimumSize(Look::ScreenWidth, Look::ScreenHeight);
+    resize(WindowSize());
 }

@@ -105,6 +105,7 @@ void frmAutoSettings::LayOut()
     SetGuideLabel(lblMessage);
     Layout::MakeGuide(lblMessage);
 
+    SSTab.SetAccessibleName(Title());
     SSTab.SetPage(Collection, CollectionPage(),
         {&ComboAutoLiters, &ComboAutoFat, &ComboPrintStatus, &txtCowLimit, &txtBuffLimit, &ComboReceipt,
             &CheckRepeatCol, &cmdReceipt});

@@ -188,6 +188,38 @@ TEST_F(DateAndShiftTest, ChangingTheDateOpensAnEarlierDay)
         QStringLiteral("14/04/2026"));
 }
 
+TEST_F(DateAndShiftTest, ShiftTabFromTheShiftLeadsBackToTheDate)
+{
+    AddEveningDelivery();
+    InTheMorning([](Clerk& clerk) {
+        Type(clerk, "+{TAB}");
+        EXPECT_EQ(Focus(clerk), "txtTime");
+        Type(clerk, "+{TAB}");
+        EXPECT_EQ(Focus(clerk), "maskDate");
+        Type(clerk, "14042026{ENTER}2{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtCollectionNo");
+        EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "1");
+    });
+}
+
+TEST_F(DateAndShiftTest, FromTheDateShiftTabReachesTheButtonsAtTheSide)
+{
+    InTheMorning([](Clerk& clerk) {
+        Type(clerk, "+{TAB}+{TAB}+{TAB}");
+        EXPECT_EQ(Focus(clerk), "cmdPrinterOnOff");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Reads(clerk, "cmdPrinterOnOff"), "ip`MTr baMd");
+    });
+}
+
+TEST_F(DateAndShiftTest, AShiftThatIsNoneHoldsTheFocusAgainstAStepBack)
+{
+    AtTheCounter([](Clerk& clerk) {
+        Type(clerk, "{ENTER}+{TAB}");
+        EXPECT_EQ(Focus(clerk), "txtTime");
+    });
+}
+
 TEST_F(DateAndShiftTest, EscapeLeavesBooksAndCopyAsTheyAre)
 {
     AddMorningDelivery(1);

@@ -115,3 +115,11 @@ TEST_F(MilkDevicesLine, TheTareReachesTheScale)
     Devices.SendTareToScale();
     EXPECT_TRUE(device->WaitUntilReceived("tzTZTR", 5s));
 }
+
+TEST_F(MilkDevicesLine, TheRestOfALitresReplyIsNoFat)
+{
+    Use("ELECTRO", 1);
+    const auto device = Play("ELECTRO", 1, Manner::Pieces);
+    EXPECT_EQ(Liters(), "12.5");
+    EXPECT_EQ(Fat(), "4.2");
+}

@@ -58,7 +58,6 @@ protected:
         ASSERT_EQ(OnTop(clerk), "frmAutoSettings");
         Type(clerk, "{ENTER}{ENTER}2{ENTER}45{ENTER}46{ENTER}2{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboPaymentDuration");
-        Type(clerk, "{ENTER}{ENTER}+{TAB}+{TAB}");
         clerk.Press(QStringLiteral("CheckCNP"));
         Type(clerk, "%s");
         EXPECT_EQ(
@@ -84,7 +83,7 @@ protected:
         ReadPaper(clerk, "393.11", 1, "frmCollectionGate");
 
         Type(clerk, "{ENTER}3{ENTER}1{ENTER}4{ENTER}4.3{ENTER}{ENTER}{ENTER}");
-        ReadPaper(clerk, "gaNaoSa", 1, "frmCollectionGate");
+        ReadPaper(clerk, "139.04", 1, "frmCollectionGate");
         Type(clerk, "{ESC}");
         EXPECT_EQ(OnTop(clerk), "MainMenuFrm");
     }
@@ -172,15 +171,15 @@ protected:
     // After the next start the delivery is in the books, at the counter and in the member's figures, once.
     void ExpectTheDeliveryIsThere()
     {
-        const int exitCode = Start([](Clerk& clerk) {
+        const int exitCode = Start([this](Clerk& clerk) {
             clerk.Type(OpeningKeys() + QStringLiteral("{F8}{ENTER}1{ENTER}"));
             EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "2");
             EXPECT_EQ(dynamic_cast<const DataGrid&>(*clerk.Top().Find(u"DataGridInwards")).Rows(), 1);
             Type(clerk, "{ESC}");
+            EXPECT_TRUE(TheBox.Shown.isEmpty());
             Leave(clerk);
         });
         EXPECT_EQ(exitCode, 0);
-        EXPECT_TRUE(TheBox.Shown.isEmpty());
         Reopen();
         const QStringList one = Lines({"15/04/2026|sakaL|1|1|rama|gaaya|12.5|4.2|34.64|433|6.05"});
         EXPECT_EQ(Deliveries(), one);
@@ -208,10 +207,10 @@ TEST_F(DayWithPaperTest, ADayWithSlipsAReprintAStatementAndAListIsInTheBooks)
         LookAtMember(clerk);
         PrintAgain(clerk);
         ListTheDay(clerk);
+        EXPECT_TRUE(TheBox.Shown.isEmpty()) << TheBox.Shown.join(u'\n').toStdString();
         Leave(clerk);
     });
     EXPECT_EQ(exitCode, 0);
-    EXPECT_TRUE(TheBox.Shown.isEmpty()) << TheBox.Shown.join(u'\n').toStdString();
     Reopen();
     const QStringList day = Lines({"15/04/2026|sakaL|1|1|rama|gaaya|12.5|4.2|34.64|433|6.05",
         "15/04/2026|sakaL|2|2|saIta|mhOsa|8.25|7.1|47.65|393.11|6.05",

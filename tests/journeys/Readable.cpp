@@ -122,7 +122,7 @@ void LookForCutCells(const QTableView& table, Faults& faults)
             const QModelIndex cell = model.index(row, column);
             const QString text = cell.data().toString();
             const int needed = table.fontMetrics().horizontalAdvance(text);
-            if (needed > width && text.front().isDigit())
+            if (needed > width && !text.isEmpty() && text.front().isDigit())
                 faults.Add(
                     table, QStringLiteral("\"%1\" needs %2 and has %3").arg(text).arg(needed).arg(width));
         }
@@ -180,8 +180,10 @@ void LookBelow(const QWidget& parent, Faults& faults)
 std::string UnreadableOn(const Screen& screen)
 {
     Faults faults;
-    if (screen.width() > MostWidth || screen.height() > MostHeight)
-        faults.Add(screen, QStringLiteral("is %1 x %2").arg(screen.width()).arg(screen.height()));
+    // One that grows with the machine's screen counts as small as it can be made.
+    const QSize least = screen.minimumSize().expandedTo(screen.minimumSizeHint());
+    if (least.width() > MostWidth || least.height() > MostHeight)
+        faults.Add(screen, QStringLiteral("is %1 x %2").arg(least.width()).arg(least.height()));
     if (!screen.isVisible())
         faults.Add(screen, QStringLiteral("can't be seen"));
     if (screen.Title().Seen().trimmed().isEmpty() || screen.windowTitle().isEmpty())

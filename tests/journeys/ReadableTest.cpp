@@ -96,10 +96,14 @@ private:
     NumberField txtBeyond{this, "txtBeyond", NumberField::Digits::Whole};
     CheckBox chkCut{this, "chkCut", Plain(u"far too long for so little room")};
     DataGrid grdCut{this, "grdCut",
-        {{QStringLiteral("MemberName"), Plain(u"unbrokenhead"), 30},
-            {QStringLiteral("City"), Plain(u"b"), 0}}};
+        {{QStringLiteral("Amount"), Plain(u"unbrokenhead"), 30, QStringLiteral("#######0.00"), true},
+            {QStringLiteral("AdvanceType"), Plain(u"b"), 0}}};
 
-    void Load() override { grdCut.Bind(gCn, QStringLiteral("select * from MembersMaster where MemberNo=3")); }
+    void Load() override
+    {
+        gCn.Execute(QStringLiteral("insert into AdvanceTemp(AdvanceType,Amount) values('a',1234567.89)"));
+        grdCut.Bind(gCn, QStringLiteral("select * from AdvanceTemp"));
+    }
 };
 
 }

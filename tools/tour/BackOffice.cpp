@@ -63,7 +63,8 @@ void KeyTheRegister(Tour& tour)
         {u"02/06/2026|sakaL|1|" + name + u"|mhOsa|4.5|6.9|47.35|213.08",
             u"03/06/2026|sakaL|1|" + name + u"|mhOsa|4.75|7|47.5|225.63",
             u"04/06/2026|sakaL|1|" + name + u"|mhOsa|5|6.8|47.2|236"});
-    tour.Step(QStringLiteral("register-list"), QStringLiteral("%r%n10{F5}"));
+    tour.Step(QStringLiteral("register-list"), Escape + Enter + QStringLiteral("%n10{F5}"));
+    tour.Check(QStringLiteral("the list is open"), tour.TheClerk().Focus(), QStringLiteral("DataGrid1"));
     tour.Type(Escape);
 }
 

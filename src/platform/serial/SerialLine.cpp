@@ -57,3 +57,12 @@ std::optional<QByteArray> SerialLine::Collect(
     } while (!isWhole(reply) && !wait.IsOver());
     return reply;
 }
+
+void SerialLine::Drain(const Wait& wait, microseconds quiet)
+{
+    while (!wait.IsOver()) {
+        const std::optional<QByteArray> next = Next(std::min(quiet, wait.Left()));
+        if (!next || next->isEmpty())
+            return;
+    }
+}

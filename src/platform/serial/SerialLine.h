@@ -36,6 +36,9 @@ public:
     std::optional<QByteArray> Collect(
         const Wait& wait, const std::function<bool(const QByteArray&)>& isWhole);
 
+    // Throws away what is still coming, until the line has been quiet for so long or the wait is over.
+    void Drain(const Wait& wait, std::chrono::microseconds quiet);
+
 private:
     std::unique_ptr<SerialPort> m_port;
     bool m_isOpen;
