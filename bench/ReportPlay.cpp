@@ -36,7 +36,7 @@ QString FormulaDay(const char* iso)
 std::shared_ptr<Connection> OpenForReports()
 {
     auto books = std::make_shared<Connection>();
-    books->Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword);
+    books->Open(Logon());
     return books;
 }
 

@@ -11,14 +11,3 @@ QStringList Counter::MemberNames()
         names.append(member[u"MemberName"].Text());
     return names;
 }
-
-QString Counter::Setting(QStringView column)
-{
-    const Recordset settings(gCn, QStringLiteral("select * from AutoSettings"));
-    return settings.Eof() ? QString() : settings[column].Text().trimmed();
-}
-
-bool Counter::Finds(const QString& query)
-{
-    return !Recordset(gCn, query).Eof();
-}

@@ -29,10 +29,4 @@ inline double Value(const Field& field)
 // The names of all members, in order.
 QStringList MemberNames();
 
-// A setting of the society, without blanks at its ends; empty where there are no settings.
-QString Setting(QStringView column);
-
-// Whether a query gives a row.
-bool Finds(const QString& query);
-
 }

@@ -36,6 +36,6 @@ void CounterReport::Print()
         ShowPlain(QStringLiteral("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही."));
         return;
     }
-    m_run.logon = QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword;
+    m_run.logon = Logon();
     Engine()(m_run);
 }

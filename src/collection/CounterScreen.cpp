@@ -65,15 +65,7 @@ void CounterScreen::maskDate_GotFocus()
 
 void CounterScreen::maskDate_LostFocus()
 {
-    HoldDate();
-}
-
-// Keeps the focus in a date that is none; true if the date is good.
-bool CounterScreen::HoldDate()
-{
-    if (!maskDate.HoldsDate())
-        maskDate.SetFocus();
-    return maskDate.HoldsDate();
+    maskDate.InsistOnDate();
 }
 
 void CounterScreen::txtTime_GotFocus()
@@ -83,7 +75,7 @@ void CounterScreen::txtTime_GotFocus()
 
 void CounterScreen::txtTime_LostFocus()
 {
-    if (!HoldDate())
+    if (!maskDate.InsistOnDate())
         return;
     if (txtTime.Text() != u"sakaL" && txtTime.Text() != u"saMQyaakaL") {
         txtTime.SetFocus();

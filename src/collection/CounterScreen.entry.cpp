@@ -5,6 +5,7 @@
 #include "LookupFatRate.h"
 #include "MdlAccounts.h"
 #include "ModalStack.h"
+#include "Queries.h"
 #include "Recordset.h"
 #include "Sql.h"
 

@@ -129,7 +129,6 @@ private:
     void EnableEntry(bool enabled);
     void SendBack(Control& to);
     bool IsSentBack();
-    bool HoldDate();
     Delivery TheDelivery() const;
     void ShowNumber(std::int16_t number);
     void ShowRow(const Recordset& row);

@@ -6,6 +6,7 @@
 #include "MdlAccounts.h"
 #include "Messages.h"
 #include "ModalStack.h"
+#include "Queries.h"
 #include "Recordset.h"
 #include "ScreenDirectory.h"
 #include "Sql.h"

@@ -32,7 +32,7 @@ QString TheRow(const Shift& shift, double number)
 
 QString Shift::Day() const
 {
-    return u'#' + Format(date, u"MM/dd/yyyy") + u'#';
+    return SqlDay(date);
 }
 
 void OpenShift(const Shift& shift)

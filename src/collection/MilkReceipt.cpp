@@ -2,26 +2,9 @@
 
 #include "Dates.h"
 #include "MdlAccounts.h"
+#include "ReceiptLayouts.h"
 #include "Recordset.h"
 #include "Sql.h"
-
-#include <array>
-#include <utility>
-
-namespace {
-
-constexpr std::array<std::pair<QStringView, QStringView>, 8> Templates = {{
-    {u"Tašp 1", u"MilkReceipt1.rpt"},
-    {u"Tašp 2", u"MilkReceipt2.rpt"},
-    {u"Tašp 3", u"MilkReceiptBhl.rpt"},
-    {u"Tašp 4", u"MilkReceiptGhlp.rpt"},
-    {u"Tašp 5", u"MilkReceiptAtk.rpt"},
-    {u"Tašp 6", u"MilkReceiptShenoli Epson LX 300.rpt"},
-    {u"Tašp 7", u"MilkReceiptNerli With Time.rpt"},
-    {u"Tašp 8", u"MilkReceiptNerli Minimised With Time XP.rpt"},
-}};
-
-}
 
 void MilkReceipt::StageReceipt(const Delivery& d)
 {
@@ -44,8 +27,9 @@ void MilkReceipt::PrintReceipt(QStringView printerButton)
         if (printStatus == u"naahI" || printerButton != PrinterOn)
             return;
         // An unknown type leaves the template of the slip before.
-        if (const QStringView name = TemplateOf(settings[u"ReceiptType"].Text().trimmed()); !name.isEmpty())
-            CRMilkReceipt.SetReportFileName(name);
+        const ReceiptLayout layout = ReceiptLayoutOf(settings[u"ReceiptType"].Text().trimmed());
+        if (!layout.counterTemplate.isEmpty())
+            CRMilkReceipt.SetReportFileName(layout.counterTemplate);
         if (printStatus == u"f@t sËIna")
             CRMilkReceipt.SetDestination(CounterReport::Destination::Window);
         else if (printStatus == u"haoya")
@@ -53,12 +37,4 @@ void MilkReceipt::PrintReceipt(QStringView printerButton)
     }
     gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
     CRMilkReceipt.Print();
-}
-
-QStringView MilkReceipt::TemplateOf(QStringView receiptType)
-{
-    for (const auto& [type, name] : Templates)
-        if (type == receiptType)
-            return name;
-    return {};
 }

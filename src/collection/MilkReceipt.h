@@ -17,9 +17,6 @@ public:
     // unless the button reads PrinterOn.
     void PrintReceipt(QStringView printerButton);
 
-    // The template's name of a ReceiptType at the counters; empty for none of the eight.
-    static QStringView TemplateOf(QStringView receiptType);
-
 private:
     CounterReport CRMilkReceipt;
 };

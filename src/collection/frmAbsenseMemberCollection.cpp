@@ -8,6 +8,7 @@
 #include "Layout.h"
 #include "MdlAccounts.h"
 #include "ModalStack.h"
+#include "Queries.h"
 #include "Recordset.h"
 #include "Sql.h"
 #include "Transaction.h"
@@ -82,15 +83,7 @@ void frmAbsenseMemberCollection::MaskDate_GotFocus()
 
 void frmAbsenseMemberCollection::MaskDate_LostFocus()
 {
-    HoldDate();
-}
-
-// Keeps the focus in a date that is none; true if the date is good.
-bool frmAbsenseMemberCollection::HoldDate()
-{
-    if (!MaskDate.HoldsDate())
-        MaskDate.SetFocus();
-    return MaskDate.HoldsDate();
+    MaskDate.InsistOnDate();
 }
 
 void frmAbsenseMemberCollection::txtTime_LostFocus()
@@ -101,7 +94,7 @@ void frmAbsenseMemberCollection::txtTime_LostFocus()
 // The same for date and shift.
 bool frmAbsenseMemberCollection::HoldShift()
 {
-    if (!HoldDate())
+    if (!MaskDate.InsistOnDate())
         return false;
     const bool isShift = txtTime.Text() == u"sakaL" || txtTime.Text() == u"saMQyaakaL";
     if (!isShift)

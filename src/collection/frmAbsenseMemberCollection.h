@@ -33,7 +33,6 @@ private:
     void Command1_Click();
 
     void LayOut();
-    bool HoldDate();
     bool HoldShift();
     void ListAbsent(const Shift& today);
 };

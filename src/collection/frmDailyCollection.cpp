@@ -5,6 +5,7 @@
 #include "Counter.h"
 #include "MdlAccounts.h"
 #include "Messages.h"
+#include "Queries.h"
 #include "Sql.h"
 #include "Transaction.h"
 

@@ -183,20 +183,12 @@ void frmDailyCollection::cmbMemberName_LostFocus()
 
 void frmDailyCollection::MasKCollectionDate_LostFocus()
 {
-    HoldDate();
-}
-
-// Sends the focus to a date that is none; true if the date is good.
-bool frmDailyCollection::HoldDate()
-{
-    if (!MasKCollectionDate.HoldsDate())
-        MasKCollectionDate.SetFocus();
-    return MasKCollectionDate.HoldsDate();
+    MasKCollectionDate.InsistOnDate();
 }
 
 QString frmDailyCollection::Day() const
 {
-    return u'#' + Format(MasKCollectionDate.Date(), u"MM/dd/yyyy") + u'#';
+    return SqlDay(MasKCollectionDate.Date());
 }
 
 // The figures that stand for the shifts at the counters do so here, too.
@@ -219,14 +211,14 @@ void frmDailyCollection::cmbCollectionTime_LostFocus()
 {
     if (!IsShift())
         cmbCollectionTime.SetFocus();
-    else if (IsAdding() && HoldDate())
+    else if (IsAdding() && MasKCollectionDate.InsistOnDate())
         ShowNextNumber();
 }
 
 void frmDailyCollection::txtCollectionNo_LostFocus()
 {
     const bool isPicked = std::exchange(IsPicked, false);
-    if ((IsAdding() && !isPicked) || !HoldDate())
+    if ((IsAdding() && !isPicked) || !MasKCollectionDate.InsistOnDate())
         return;
     const Recordset row(gCn,
         Sql(u"SELECT * FROM MilkCollections WHERE CollectionNo=", Value(txtCollectionNo), u" AND MemberNo=",
@@ -288,7 +280,7 @@ void frmDailyCollection::txtFat_LostFocus()
         txtFat.SetFocus();
         return;
     }
-    if (!HoldDate())
+    if (!MasKCollectionDate.InsistOnDate())
         return;
     const FatRate found = LookupFatRate(MasKCollectionDate.Date(), Value(txtFat), txtAnimal.Text());
     if (found.outcome == FatRate::Outcome::NoChart) {

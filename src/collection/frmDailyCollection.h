@@ -78,7 +78,6 @@ private:
 
     // Rules of the fields
     bool IsShift() const;
-    bool HoldDate();
     Field* Unfinished();
     void TakeMember(const Recordset& member);
     void ShowAmount();

@@ -6,6 +6,7 @@
 #include "MdlAccounts.h"
 #include "Messages.h"
 #include "ModalStack.h"
+#include "Queries.h"
 #include "Recordset.h"
 #include "ScreenDirectory.h"
 #include "Sql.h"
@@ -63,11 +64,6 @@ MilkOfBoth WalkCopy()
         sum.litersByFat += liters * row[u"Fat"].Number();
     }
     return milk;
-}
-
-QString SqlDay(const QDate& date)
-{
-    return u'#' + Format(date, u"MM/dd/yyyy") + u'#';
 }
 
 }

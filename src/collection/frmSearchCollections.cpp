@@ -8,6 +8,8 @@
 #include "MdlAccounts.h"
 #include "Messages.h"
 #include "ModalStack.h"
+#include "Queries.h"
+#include "ReceiptLayouts.h"
 #include "Recordset.h"
 #include "Sql.h"
 #include "Transaction.h"
@@ -44,8 +46,7 @@ QString ReprintTemplate(QStringView receiptType)
 {
     if (receiptType == u"Tašp 7" || receiptType == u"Tašp 8")
         return {};
-    const bool isSixth = receiptType == u"Tašp 6";
-    const QStringView name = isSixth ? u"MilkReceiptShenoli.rpt" : MilkReceipt::TemplateOf(receiptType);
+    const QStringView name = ReceiptLayoutOf(receiptType).sampleTemplate;
     const QStringView folder = receiptType == u"Tašp 5" ? SiblingFolder : AppFolder;
     return name.isEmpty() ? QString() : folder.toString() + name;
 }
@@ -127,15 +128,7 @@ void frmSearchCollections::maskDate_GotFocus()
 
 void frmSearchCollections::maskDate_LostFocus()
 {
-    HoldDate();
-}
-
-// Keeps the focus in a date that is none; true if the date is good.
-bool frmSearchCollections::HoldDate()
-{
-    if (!maskDate.HoldsDate())
-        maskDate.SetFocus();
-    return maskDate.HoldsDate();
+    maskDate.InsistOnDate();
 }
 
 void frmSearchCollections::txtTime_GotFocus()
@@ -145,7 +138,7 @@ void frmSearchCollections::txtTime_GotFocus()
 
 void frmSearchCollections::txtTime_LostFocus()
 {
-    if (HoldDate() && txtTime.Text() != u"sakaL" && txtTime.Text() != u"saMQyaakaL")
+    if (maskDate.InsistOnDate() && txtTime.Text() != u"sakaL" && txtTime.Text() != u"saMQyaakaL")
         txtTime.SetFocus();
 }
 

@@ -49,7 +49,6 @@ private:
     void LayOut();
     QWidget* Question();
 
-    bool HoldDate();
     Shift TheShift() const;
     void LoadMemberNames();
     void EnableMember(bool enabled);

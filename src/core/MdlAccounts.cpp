@@ -18,6 +18,11 @@
 Connection gCn;
 AppState gAppState;
 
+QString Logon()
+{
+    return QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword;
+}
+
 namespace {
 
 struct AccessFlag {
@@ -89,7 +94,7 @@ bool LoadAppState()
 {
     gAppState = AppState();
     ReadPassword();
-    gCn.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword);
+    gCn.Open(Logon());
     LoadCompany();
     gAppState.gCallerTag = QStringLiteral("N");
     LoadSettings();

@@ -44,6 +44,9 @@ struct AppState {
 
 extern AppState gAppState;
 
+// What a connection to the books is opened with: the data source and the password of the state.
+QString Logon();
+
 // Brings the system up: password, connection, state, and the opening screens. Returns when the last of
 // them has closed. A failure on the way is a run-time error.
 void AppMain();

@@ -97,9 +97,8 @@ private:
     {
         const Recordset row(gCn,
             Sql(u"select * from ", m_books.copy, u" where CompanyId=", gAppState.gCompanyId, u" and ",
-                m_books.date, u"=", ReportRun::SqlDay(m_day), u" and Animal='", m_animal, u"' and ",
-                m_books.time, u"='", shift, u"'",
-                after ? Sql(u" and ", m_books.number, u">", *after) : QString(), u" order by ",
+                m_books.date, u"=", SqlDay(m_day), u" and Animal='", m_animal, u"' and ", m_books.time, u"='",
+                shift, u"'", after ? Sql(u" and ", m_books.number, u">", *after) : QString(), u" order by ",
                 m_books.number));
         return row.Eof() ? Entry() : ReadEntry(row, m_books);
     }
@@ -159,9 +158,8 @@ int NumberOfMember(const QString& name)
 void FillCopy(const Books& books, const MilkStatement::Wanted& wanted)
 {
     gCn.Execute(Sql(u"insert into ", books.copy, u" select * from ", books.table, u" where CompanyId=",
-        gAppState.gCompanyId, u" and ", books.date, u">=", ReportRun::SqlDay(wanted.from), u" and ",
-        books.date, u"<=", ReportRun::SqlDay(wanted.to), u" and trim(", books.name, u")='", wanted.name,
-        u"'"));
+        gAppState.gCompanyId, u" and ", books.date, u">=", SqlDay(wanted.from), u" and ", books.date, u"<=",
+        SqlDay(wanted.to), u" and trim(", books.name, u")='", wanted.name, u"'"));
 }
 
 }

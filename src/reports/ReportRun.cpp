@@ -1,27 +1,9 @@
 #include "ReportRun.h"
 
 #include "AppFolder.h"
-#include "DateField.h"
-#include "Dates.h"
 #include "MdlAccounts.h"
 #include "ReportControl.h"
 #include "Sql.h"
-
-bool ReportRun::HoldDates(std::initializer_list<DateField*> fields)
-{
-    for (DateField* field : fields) {
-        if (!field->HoldsDate()) {
-            field->SetFocus();
-            return false;
-        }
-    }
-    return true;
-}
-
-QString ReportRun::SqlDay(const QDate& day)
-{
-    return u'#' + Format(day, u"MM/dd/yyyy") + u'#';
-}
 
 void ReportRun::StageDates(const QString& from, const QString& to)
 {
@@ -39,7 +21,7 @@ void ReportRun::Show(QStringView templateName, const QString& selectionFormula)
 {
     ReportControl report;
     report.SetReportFileName(AppFolder.toString() + templateName);
-    report.SetLogon(QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword);
+    report.SetLogon(Logon());
     report.SetSelectionFormula(selectionFormula);
     report.SetDestination(ReportDestination::Window);
     report.Print();

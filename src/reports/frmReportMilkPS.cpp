@@ -41,12 +41,12 @@ void frmReportMilkPS::Escape()
 
 void frmReportMilkPS::maskFromDate_LostFocus()
 {
-    ReportRun::HoldDates({&maskFromDate});
+    maskFromDate.InsistOnDate();
 }
 
 void frmReportMilkPS::maskToDate_LostFocus()
 {
-    ReportRun::HoldDates({&maskToDate});
+    maskToDate.InsistOnDate();
 }
 
 void frmReportMilkPS::Option_Click()
@@ -72,7 +72,7 @@ void frmReportMilkPS::ComboAccountName_GotFocus()
 
 void frmReportMilkPS::cmdReport_Click()
 {
-    if (!ReportRun::HoldDates({&maskFromDate, &maskToDate}))
+    if (!maskFromDate.InsistOnDate() || !maskToDate.InsistOnDate())
         return;
     MilkStatement::Stage(
         {OptionSales.Chosen() ? MilkStatement::Kind::Sales : MilkStatement::Kind::Collections,

@@ -39,7 +39,7 @@ void frmReportPaymentList::Escape()
 
 void frmReportPaymentList::MaskFromDate_LostFocus()
 {
-    ReportRun::HoldDates({&MaskFromDate});
+    MaskFromDate.InsistOnDate();
 }
 
 QString frmReportPaymentList::SelectionFormula() const
@@ -51,7 +51,7 @@ QString frmReportPaymentList::SelectionFormula() const
 
 void frmReportPaymentList::cmdReport_Click()
 {
-    if (ReportRun::HoldDates({&MaskFromDate}))
+    if (MaskFromDate.InsistOnDate())
         ReportRun::Show(
             Option1.Chosen() ? u"CashMilkPayment.rpt" : u"BankMilkPayment.rpt", SelectionFormula());
 }

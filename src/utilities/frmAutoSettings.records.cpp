@@ -2,26 +2,11 @@
 #include "AppFolder.h"
 #include "MdlAccounts.h"
 #include "Numbers.h"
+#include "ReceiptLayouts.h"
 #include "Sql.h"
 #include "Transaction.h"
 
-#include <array>
-#include <utility>
-
 namespace {
-
-// The template of the sample of each layout. The samples of layouts 6 and 8 are files of their own, not
-// those that the counters print with.
-constexpr std::array<std::pair<QStringView, QStringView>, 8> SampleTemplates = {{
-    {u"Tašp 1", u"MilkReceipt1.rpt"},
-    {u"Tašp 2", u"MilkReceipt2.rpt"},
-    {u"Tašp 3", u"MilkReceiptBhl.rpt"},
-    {u"Tašp 4", u"MilkReceiptGhlp.rpt"},
-    {u"Tašp 5", u"MilkReceiptAtk.rpt"},
-    {u"Tašp 6", u"MilkReceiptShenoli.rpt"},
-    {u"Tašp 7", u"MilkReceiptNerli With Time.rpt"},
-    {u"Tašp 8", u"MilkReceiptNerli Minimised With Time.rpt"},
-}};
 
 QString SettingsQuery()
 {
@@ -145,13 +130,12 @@ void frmAutoSettings::cmdReceipt_Click()
     gCn.Execute(QStringLiteral("delete * from MilkReceipt"));
     gCn.Execute(QStringLiteral("insert into MilkReceipt select * from MRView"));
     gCn.Execute(Sql(u"update MilkReceipt set CompanyId=", gAppState.gCompanyId));
-    for (const auto& [type, name] : SampleTemplates)
-        if (ComboReceipt.Text() == type)
-            CRMilkReceipt.SetReportFileName(AppFolder.toString() + name);
+    if (const ReceiptLayout layout = ReceiptLayoutOf(ComboReceipt.Text()); !layout.type.isEmpty())
+        CRMilkReceipt.SetReportFileName(AppFolder.toString() + layout.sampleTemplate);
     gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
     staging.Commit();
     if (CRMilkReceipt.ReportFileName().isEmpty())
         return;
-    CRMilkReceipt.SetLogon(QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword);
+    CRMilkReceipt.SetLogon(Logon());
     CRMilkReceipt.Print();
 }

@@ -116,19 +116,6 @@ TEST_F(ReceiptTest, ARefusedSaveStagesAndPrintsNothing)
     });
 }
 
-TEST_F(ReceiptTest, EachTypeHasItsTemplate)
-{
-    const std::pair<const char*, const char*> types[] = {{"Tašp 1", "MilkReceipt1.rpt"},
-        {"Tašp 2", "MilkReceipt2.rpt"}, {"Tašp 3", "MilkReceiptBhl.rpt"}, {"Tašp 4", "MilkReceiptGhlp.rpt"},
-        {"Tašp 5", "MilkReceiptAtk.rpt"}, {"Tašp 6", "MilkReceiptShenoli Epson LX 300.rpt"},
-        {"Tašp 7", "MilkReceiptNerli With Time.rpt"},
-        {"Tašp 8", "MilkReceiptNerli Minimised With Time XP.rpt"}};
-    for (const auto& [type, name] : types)
-        EXPECT_EQ(MilkReceipt::TemplateOf(QString::fromUtf8(type)), QString::fromLatin1(name));
-    EXPECT_TRUE(MilkReceipt::TemplateOf(u"Tašp 9").isEmpty());
-    EXPECT_TRUE(MilkReceipt::TemplateOf(u"").isEmpty());
-}
-
 TEST_F(ReceiptTest, AnUnknownTypeKeepsTheTemplateOfTheSlipBefore)
 {
     PrintTo("haoya");

@@ -78,7 +78,7 @@ ReportControl ReportPreviewTest::Control() const
 {
     ReportControl control;
     control.SetReportFileName(QStringLiteral("C:\\Tarvel01\\Vetrolan\\Deliveries.rpt"));
-    control.SetLogon(QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword);
+    control.SetLogon(Logon());
     return control;
 }
 

@@ -113,7 +113,7 @@ protected:
             u",", row[u"Amount"].Number(), u",'", row[u"ActualCollectionTime"].Text(), u"')"));
         ReportControl report;
         report.SetReportFileName(AppFolder.toString() + templateName);
-        report.SetLogon(QStringLiteral("dsn=VetrolanDSN;pwd=") + gAppState.gDbPassword);
+        report.SetLogon(Logon());
         report.Print();
     }
 

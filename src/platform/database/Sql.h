@@ -1,7 +1,9 @@
 #pragma once
 
+#include "Dates.h"
 #include "Numbers.h"
 
+#include <QDate>
 #include <QString>
 
 #include <concepts>
@@ -39,4 +41,10 @@ template <class... Pieces> QString Sql(const Pieces&... pieces)
     sql.reserve(256);
     (SqlPieces::Append(sql, pieces), ...);
     return sql;
+}
+
+// A day as the conditions of statements write it: #MM/dd/yyyy#.
+inline QString SqlDay(const QDate& day)
+{
+    return Format(day, u"#MM/dd/yyyy#");
 }

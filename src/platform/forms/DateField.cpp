@@ -47,6 +47,14 @@ bool DateField::HoldsDate() const
     return IsDate(Text());
 }
 
+bool DateField::InsistOnDate()
+{
+    const bool holds = HoldsDate();
+    if (!holds)
+        SetFocus();
+    return holds;
+}
+
 bool DateField::IsEmptyMask() const
 {
     return Text() == EmptyDateMask;

@@ -22,6 +22,9 @@ public:
     bool HoldsDate() const;
     bool IsEmptyMask() const;
 
+    // Whether the mask holds a date; unless it does, the focus goes back to it.
+    bool InsistOnDate();
+
     // The date in the mask; a mask that holds none is a type mismatch error.
     QDate Date() const;
 

@@ -5,6 +5,7 @@
 #include "Dates.h"
 #include "Numbers.h"
 #include "RunTimeError.h"
+#include "Sql.h"
 
 #include <QRegularExpression>
 
@@ -172,7 +173,7 @@ Operand Reader::ReadDate()
         if (match.captured(part).toInt() != 0)
             Fail(QStringLiteral("the books hold dates without a time of day"));
     }
-    return {Kind::Date, QStringLiteral("#") + Format(date, u"MM/dd/yyyy") + QStringLiteral("#")};
+    return {Kind::Date, SqlDay(date)};
 }
 
 }

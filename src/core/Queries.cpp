@@ -1,0 +1,15 @@
+#include "Queries.h"
+
+#include "MdlAccounts.h"
+#include "Recordset.h"
+
+QString Setting(QStringView column)
+{
+    const Recordset settings(gCn, QStringLiteral("select * from AutoSettings"));
+    return settings.Eof() ? QString() : settings[column].Text().trimmed();
+}
+
+bool Finds(const QString& query)
+{
+    return !Recordset(gCn, query).Eof();
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QStringView>
+
+// A layout of the slip that the settings offer (ReceiptType), and the templates it is printed with: at the
+// counters, and for the sample that the settings show and the reprint. Two samples are files of their own.
+struct ReceiptLayout {
+    QStringView type;
+    QStringView counterTemplate;
+    QStringView sampleTemplate;
+};
+
+// The layout of a ReceiptType; all of its texts are empty for none of the eight.
+ReceiptLayout ReceiptLayoutOf(QStringView type);
