@@ -20,6 +20,7 @@ int Measure(int argc, char* argv[])
     RegisterStatementCases(society.Drives());
     RegisterCounterCases(society.Drives());
     RegisterSaveCases(society.Drives());
+    RegisterListCases(society.Drives());
     RegisterReportCases(society.Drives());
     RegisterProgramCases(society.Drives());
     benchmark::RunSpecifiedBenchmarks();

@@ -8,6 +8,9 @@ create index MilkCollectionsByShift on MilkCollections (CollectionDate, Collecti
 create index MilkCollectionsByMember
     on MilkCollections (MemberNo, Animal, CollectionTime, CollectionDate, CollectionNo, CompanyId, Liters);
 
+-- The counter's list shows the newest rows of the copy after every save, and reads no others.
+create index MilkCollectionsTempByNumber on MilkCollectionsTemp (CollectionNo);
+
 -- The payment report asks for every member, day and shift of the copy, the counter for a member's second can.
 create index MilkCollectionsTempByMember on MilkCollectionsTemp (MemberNo, CollectionDate);
 

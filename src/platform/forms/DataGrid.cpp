@@ -120,7 +120,7 @@ public:
 
 private:
     using Row = std::vector<FieldValue>;
-    static constexpr std::size_t FirstRows = 100;
+    static constexpr std::size_t FirstRows = 40; // a screenful and some
 
     // The next rows, at most so many.
     static std::vector<Row> Take(Recordset& rows, std::size_t atMost)

@@ -1,0 +1,104 @@
+// A list after a write: read anew and painted, however many rows it has.
+
+#include "BenchSociety.h"
+#include "Cases.h"
+#include "CounterPlay.h"
+#include "DataGrid.h"
+#include "Layout.h"
+#include "MdlAccounts.h"
+#include "Outcomes.h"
+#include "RunTimeError.h"
+#include "Screen.h"
+#include "Sql.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+
+namespace {
+
+constexpr const char* What = "a list of 2,000 rows, beside 20";
+constexpr int LongRows = 2000;
+constexpr int ShortRows = 20;
+
+std::vector<DataGrid::Column> ShownColumns()
+{
+    return {{.field = QStringLiteral("CollectionNo"), .caption = Plain(u"No"), .alignRight = true},
+        {.field = QStringLiteral("MemberName"), .caption = Plain(u"Name"), .width = 300},
+        {.field = QStringLiteral("Animal"), .caption = Plain(u"Animal")},
+        {.field = QStringLiteral("Liters"), .caption = Plain(u"Liters"), .format = QStringLiteral("0.000")},
+        {.field = QStringLiteral("Fat"), .caption = Plain(u"Fat"), .format = QStringLiteral("0.0")},
+        {.field = QStringLiteral("Amount"), .caption = Plain(u"Amount"), .format = QStringLiteral("0.00")}};
+}
+
+// A list of the deliveries in a table, in the order of the counter's list.
+class ListScreen final : public Screen {
+public:
+    explicit ListScreen(QStringView table) : Screen("ListScreen"), List(this, "List", ShownColumns())
+    {
+        setFixedSize(1000, 600);
+        (new QHBoxLayout(this))->addWidget(List.Widget());
+        List.Bind(gCn, Sql(u"select * from ", table, u" order by CollectionNo desc"));
+    }
+
+    DataGrid List;
+};
+
+void FillTable(QStringView table, int rows)
+{
+    gCn.Execute(Sql(u"delete * from ", table));
+    for (int number = 1; number <= rows; ++number)
+        gCn.Execute(Sql(u"insert into ", table,
+            u"(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,Animal,Liters,Fat,"
+            u"Rate,Amount) values(1,'01/04/2027','sakaL',",
+            number, u",", number, u",'rama paaTIla','gaaya',", LitersOf(number), u",4,30,",
+            LitersOf(number) * 30, u")"));
+}
+
+void Refresh(DataGrid& list)
+{
+    list.Refresh();
+    Paint();
+}
+
+void MeasureLists(benchmark::State& state, Pair& pair)
+{
+    FillTable(u"MilkCollectionsTemp", LongRows);
+    FillTable(u"MilkCollectionsOld", ShortRows);
+    ListScreen longList(u"MilkCollectionsTemp");
+    ListScreen shortList(u"MilkCollectionsOld");
+    longList.show();
+    shortList.show();
+    QCoreApplication::processEvents(); // so that both are on the screen, and paint
+    Refresh(longList.List);
+    Refresh(shortList.List);
+    for ([[maybe_unused]] auto _ : state) {
+        pair.Turn([&] { return SecondsOf([&] { Refresh(longList.List); }); },
+            [&] { return SecondsOf([&] { Refresh(shortList.List); }); });
+        state.SetIterationTime(pair.Measured.Last());
+    }
+    Require(longList.List.Rows() == LongRows && shortList.List.Rows() == ShortRows, "The lists are whole.");
+    FillTable(u"MilkCollectionsTemp", 0);
+    FillTable(u"MilkCollectionsOld", 0);
+}
+
+void Run(benchmark::State& state, const QString& drives)
+{
+    Pair pair;
+    try {
+        const OpenBooks books(drives);
+        MeasureLists(state, pair);
+        Outcomes::Add(state, What, pair, Milliseconds, {.ratio = 1.2});
+    } catch (const RunTimeError& error) {
+        Outcomes::Fail(state, What, error.Text().toStdString());
+    }
+}
+
+}
+
+void RegisterListCases(const QString& drives)
+{
+    benchmark::RegisterBenchmark("counter/list", Run, drives)
+        ->UseManualTime()
+        ->Iterations(500)
+        ->Unit(benchmark::kMillisecond);
+}
