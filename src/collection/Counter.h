@@ -20,6 +20,12 @@ constexpr int Twips(int twips)
     return twips / 15;
 }
 
+// Whether a text is one of the two shifts of a day.
+inline bool IsShift(QStringView time)
+{
+    return time == u"sakaL" || time == u"saMQyaakaL";
+}
+
 // The number that a field reads.
 inline double Value(const Field& field)
 {

@@ -4,44 +4,36 @@
 
 #include <QStringView>
 
+// How a counter writes litres, as Format patterns.
+struct LitersFormats {
+    QStringView field; // txtLiters
+    QStringView grid;
+    QStringView total; // the labels of the shift
+    QStringView combinedDevice; // what "MCS" has weighed
+};
+
+inline constexpr LitersFormats ThreeDecimals{u"########0.000", u"####0.000", u"#######0.000", u"#00.000"};
+inline constexpr LitersFormats TwoDecimals{u"########0.00", u"####0.00", u"#######0.00", u"#00.00"};
+
 // All that one counter of the society has otherwise than another; what only one of them has is in its own
 // class.
 struct CounterKind {
-    const char* screen;
-    QStringView title;
-    QStringView litersFormat; // of txtLiters
-    QStringView gridLitersFormat;
+    const char* screen; // its name in the system
+    QStringView title; // as the system spells it
+    const LitersFormats& liters;
     QStringView gridFatFormat;
-    QStringView totalLitersFormat;
-    QStringView mcsLitersFormat; // litres of a combined device
     QRgb fieldColour; // of a field without the focus
     bool hasMemberFrame; // F7 shows a member's own collection
 };
 
+// The first counter, with the member's frame.
+inline constexpr CounterKind MainCounter{
+    "frmMilkCollections", u"dUQa saMklana 1", ThreeDecimals, u"#####0.00", Look::DateColour, true};
+
+// The counter at the gate, with sorting and search.
+inline constexpr CounterKind GateCounter{
+    "frmCollectionGate", u"dUQa saMklana 2", TwoDecimals, u"#####0.0", Look::BandText, false};
+
 // The devices of a counter, as their switches are marked.
 inline constexpr QStringView ScaleName = u"वजन काटा";
 inline constexpr QStringView TesterName = u"फॅट मशीन";
-
-inline constexpr CounterKind MainCounter{
-    .screen = "frmMilkCollections",
-    .title = u"dUQa saMklana 1",
-    .litersFormat = u"########0.000",
-    .gridLitersFormat = u"####0.000",
-    .gridFatFormat = u"#####0.00",
-    .totalLitersFormat = u"#######0.000",
-    .mcsLitersFormat = u"#00.000",
-    .fieldColour = Look::DateColour,
-    .hasMemberFrame = true,
-};
-
-inline constexpr CounterKind GateCounter{
-    .screen = "frmCollectionGate",
-    .title = u"dUQa saMklana 2",
-    .litersFormat = u"########0.00",
-    .gridLitersFormat = u"####0.00",
-    .gridFatFormat = u"#####0.0",
-    .totalLitersFormat = u"#######0.00",
-    .mcsLitersFormat = u"#00.00",
-    .fieldColour = Look::BandText,
-    .hasMemberFrame = false,
-};

@@ -22,6 +22,14 @@ QLabel* CounterPieces::Heading(const Caption& caption, Look::Size size, bool bol
     return heading;
 }
 
+QLabel* CounterPieces::Sign(QStringView sign)
+{
+    QLabel* label = Heading(Plain(sign), Look::Size::Title);
+    label->setAlignment(Qt::AlignCenter);
+    label->setFixedHeight(TallField);
+    return label;
+}
+
 QFrame* CounterPieces::Panel()
 {
     auto* panel = new QFrame;
@@ -63,13 +71,13 @@ QLabel* CounterPieces::Figure(const Label& label, Look::Size size, bool bold)
     return figure;
 }
 
-QWidget* CounterPieces::List(const DataGrid& grid, int rowHeight, Look::Size size)
+QWidget* CounterPieces::List(const DataGrid& grid, int rowHeight, Look::Size size, int headHeight)
 {
     auto* view = static_cast<QTableView*>(grid.Widget());
     view->setFont(Look::Font(size));
     view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     view->horizontalHeader()->setFont(Look::Font(Look::Size::Small));
-    view->horizontalHeader()->setFixedHeight(44);
+    view->horizontalHeader()->setFixedHeight(headHeight);
     view->verticalHeader()->setDefaultSectionSize(rowHeight);
     return view;
 }

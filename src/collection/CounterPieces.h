@@ -13,11 +13,18 @@ class DataGrid;
 // What the windows of the counters are put together from.
 namespace CounterPieces {
 
+// The heights of the fields: of those in a line, and of the figures of the milk.
+inline constexpr int LineField = 38;
+inline constexpr int TallField = 50;
+
 // A caption that stands for itself, in ink.
 QLabel* Heading(const Caption& caption, Look::Size size = Look::Size::Normal, bool bold = false);
 
 // Gives a text on a panel the colour of texts.
 void SetInk(QWidget& widget);
+
+// A sign of the reckoning, such as "×", between two tall fields.
+QLabel* Sign(QStringView sign);
 
 // A sheet with a thin edge, on white.
 QFrame* Panel();
@@ -31,8 +38,9 @@ QWidget* Sized(Control& control, int width, int height, Look::Size size, bool bo
 // A figure that is worked out: right-aligned.
 QLabel* Figure(const Label& label, Look::Size size, bool bold = true);
 
-// Fits a list of deliveries to the room below the entry line: the height of a row, and the size of its
-// letters.
-QWidget* List(const DataGrid& grid, int rowHeight = 28, Look::Size size = Look::Size::Normal);
+// Fits a list of deliveries to the room below the entry line: the height of a row, the size of its letters,
+// and the height of its head, which has room for captions of two lines.
+QWidget* List(
+    const DataGrid& grid, int rowHeight = 28, Look::Size size = Look::Size::Normal, int headHeight = 44);
 
 }

@@ -2,7 +2,7 @@
 
 #include "AppFolder.h"
 #include "MdlAccounts.h"
-#include "Messages.h"
+#include "ReceiptLayouts.h"
 #include "ReportControl.h"
 
 namespace {
@@ -33,7 +33,7 @@ void CounterReport::SetReportFileName(QStringView name)
 void CounterReport::Print()
 {
     if (m_run.fileName.isEmpty()) {
-        ShowPlain(QStringLiteral("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही."));
+        TellNoTemplate();
         return;
     }
     m_run.logon = Logon();

@@ -7,6 +7,7 @@
 // A report object of a counter. What is set on it stays until it is set anew.
 class CounterReport {
 public:
+    // On the screen, or on paper.
     enum class Destination { Window, Printer };
 
     // What one printing is told.
@@ -22,6 +23,7 @@ public:
     // The whole path of a template that lies elsewhere.
     void SetReportPath(const QString& path) { m_run.fileName = path; }
 
+    // Where the next printings go; on the screen until it is set.
     void SetDestination(Destination destination) { m_run.destination = destination; }
 
     // Logs on to the books and prints; without a template yet the clerk is told and nothing is printed. A

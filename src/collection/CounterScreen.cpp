@@ -2,6 +2,7 @@
 
 #include "CommonKeys.h"
 #include "Counter.h"
+#include "Keys.h"
 #include "MdlAccounts.h"
 #include "Messages.h"
 #include "ModalStack.h"
@@ -28,6 +29,7 @@ void CounterScreen::Load()
     RefreshActualTime();
     ShiftLitersTotal();
     ShiftAverageFat();
+    MilkReceipt::Prepare();
 }
 
 bool CounterScreen::KeyDown(const QKeyEvent& key)
@@ -36,11 +38,11 @@ bool CounterScreen::KeyDown(const QKeyEvent& key)
         return true;
     switch (key.key()) {
     case Qt::Key_F3:
-        ScreenDirectory::Open(QStringLiteral("frmMembers"), Shivaji(u"]%padkacao rijasTr"));
+        ScreenDirectory::Open(QStringLiteral("frmMembers"), Keys::Action(Name(), u"F3"));
         MembersShown();
         return true;
     case Qt::Key_F6:
-        ScreenDirectory::Open(QStringLiteral("frmUchalVouchers"), Shivaji(u"]cala naaoMd"));
+        ScreenDirectory::Open(QStringLiteral("frmUchalVouchers"), Keys::Action(Name(), u"F6"));
         return true;
     default:
         return false;
@@ -77,7 +79,7 @@ void CounterScreen::txtTime_LostFocus()
 {
     if (!maskDate.InsistOnDate())
         return;
-    if (txtTime.Text() != u"sakaL" && txtTime.Text() != u"saMQyaakaL") {
+    if (!IsShift(txtTime.Text())) {
         txtTime.SetFocus();
         return;
     }

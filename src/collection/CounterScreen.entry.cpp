@@ -36,7 +36,7 @@ void CounterScreen::txtLiters_GotFocus()
 {
     if (ComboMemberName.IsEmpty() || !DeviceSwitch::IsOn(gAppState.gAutoLiters))
         return;
-    if (const std::optional<QString> liters = m_devices.ReadLiters(m_kind.mcsLitersFormat))
+    if (const std::optional<QString> liters = m_devices.ReadLiters(m_kind.liters.combinedDevice))
         txtLiters.SetText(*liters);
     if (txtLiters.IsEmpty())
         txtLiters.SetText(QStringLiteral("0"));
@@ -54,7 +54,7 @@ void CounterScreen::txtLiters_LostFocus()
     if (txtAnimal.Text() != u"gaaya" && txtAnimal.Text() != u"mhOsa")
         return;
     const double liters = Value(txtLiters);
-    txtLiters.SetText(Format(liters, m_kind.litersFormat));
+    txtLiters.SetText(Format(liters, m_kind.liters.field));
     if (liters == 0)
         txtLiters.SetFocus();
 }

@@ -10,7 +10,9 @@
 #include "NameCombo.h"
 #include "Screen.h"
 
-class QVBoxLayout;
+#include <array>
+#include <utility>
+
 class Recordset;
 
 // A counter: one line of fields for one can of milk, walked with Enter; the last of them saves it. Below it
@@ -32,15 +34,18 @@ protected:
 
     explicit CounterScreen(const CounterKind& kind);
 
+    // The columns of the list of the shift.
+    static std::vector<DataGrid::Column> InwardsColumns(const CounterKind& kind);
+
     Label lblTitle{this, "lblTitle"};
     Label lblActualCollectionTime{this, "lblActualCollectionTime"};
     Label lblFooter{this, "lblFooter"};
     Label lblF9{this, "lblF9", Plain(u"F9")};
-    Label lblSearch{this, "lblSearch", Shivaji(u"dUQa saMklana pavatI")};
+    Label lblSearch{this, "lblSearch"};
     Label lblF7{this, "lblF7", Plain(u"F7")};
-    Label lblMilk{this, "lblMilk", Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana")};
+    Label lblMilk{this, "lblMilk"};
     Label lblF10{this, "lblF10", Plain(u"F10")};
-    Label lblDelete{this, "lblDelete", Shivaji(u"KaoDNao")};
+    Label lblDelete{this, "lblDelete"};
     Label lblTotalLitersTitle{this, "lblTotalLitersTitle", Shivaji(u"¹ ekUNa ilaTsa- ¹")};
     Label lblTotalLitersC{this, "lblTotalLitersC", Shivaji(u"gaaya")};
     Label lblTotalCowLiters{this, "lblTotalCowLiters"};
@@ -82,8 +87,9 @@ protected:
     void ShowInwardsGrid();
     void ShowMemberKeys(bool shown);
 
-    // Puts the window together: what stands under the band and the entry line is the counter's own.
-    void LayOut(QWidget* header, QLayout* below);
+    // Puts the window together: the band, what stands under the entry line, and the strip of keys are the
+    // counter's own.
+    void LayOut(QWidget* header, QLayout* below, QWidget* keys);
     QWidget* Totals();
 
 private:
@@ -126,6 +132,8 @@ private:
     void ShiftAverageFat();
 
     void WireHandlers();
+    void NameMemberKeys();
+    std::array<std::pair<Label*, Label*>, 3> MemberKeyLabels(); // each key and what it does
     void EnableEntry(bool enabled);
     void SendBack(Control& to);
     bool IsSentBack();

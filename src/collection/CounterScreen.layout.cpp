@@ -1,7 +1,6 @@
 #include "CounterScreen.h"
 
 #include "CounterPieces.h"
-#include "Keys.h"
 #include "Layout.h"
 
 #include <QFrame>
@@ -11,17 +10,6 @@
 using namespace CounterPieces;
 
 namespace {
-
-constexpr int FieldHeight = 38;
-constexpr int TallField = 50;
-
-QLabel* Sign(QStringView sign)
-{
-    QLabel* label = Heading(Plain(sign), Look::Size::Title);
-    label->setAlignment(Qt::AlignCenter);
-    label->setFixedHeight(TallField);
-    return label;
-}
 
 // The amount can't be entered, but it is what the clerk calls out: it stands in full ink.
 void MakeResult(const Field& field)
@@ -41,7 +29,7 @@ QLayout* Switch(QStringView device, Button& button)
 
 }
 
-void CounterScreen::LayOut(QWidget* header, QLayout* below)
+void CounterScreen::LayOut(QWidget* header, QLayout* below, QWidget* keys)
 {
     SetColours(QColor(Look::FocusColour), QColor(m_kind.fieldColour));
     SetTitleLabel(lblTitle);
@@ -53,14 +41,14 @@ void CounterScreen::LayOut(QWidget* header, QLayout* below)
     body->addWidget(ShiftLine());
     body->addWidget(EntryPanel());
     body->addLayout(below, 1);
-    Layout::Stack(*this, header, body, Layout::KeyStrip(Keys::Of(Name())));
+    Layout::Stack(*this, header, body, keys);
     body->setContentsMargins(20, 6, 20, 8);
     setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
 }
 
 QWidget* CounterScreen::ShiftLine()
 {
-    Figure(lblActualCollectionTime, Look::Size::Title)->setFixedHeight(FieldHeight);
+    Figure(lblActualCollectionTime, Look::Size::Title)->setFixedHeight(LineField);
     auto* clock = new QVBoxLayout;
     clock->setSpacing(0);
     clock->addWidget(Heading(Plain(u"घड्याळ")), 0, Qt::AlignRight);
@@ -70,9 +58,9 @@ QWidget* CounterScreen::ShiftLine()
     auto* row = new QHBoxLayout(line);
     row->setContentsMargins(16, 0, 16, 0);
     row->setSpacing(16);
-    row->addLayout(Under(Shivaji(u"idnaaMk"), maskDate, 160, Look::Size::Large, FieldHeight));
-    row->addLayout(Under(Shivaji(u"vaoL"), txtTime, 180, Look::Size::Large, FieldHeight));
-    row->addLayout(Under(Shivaji(u"saMklana Ë."), txtCollectionNo, 140, Look::Size::Large, FieldHeight));
+    row->addLayout(Under(Shivaji(u"idnaaMk"), maskDate, 160, Look::Size::Large, LineField));
+    row->addLayout(Under(Shivaji(u"vaoL"), txtTime, 180, Look::Size::Large, LineField));
+    row->addLayout(Under(Shivaji(u"saMklana Ë."), txtCollectionNo, 140, Look::Size::Large, LineField));
     row->addStretch(1);
     row->addLayout(clock);
     return line;
@@ -82,10 +70,10 @@ QWidget* CounterScreen::EntryPanel()
 {
     auto* member = new QHBoxLayout;
     member->setSpacing(16);
-    member->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 140, Look::Size::Large, FieldHeight));
+    member->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 140, Look::Size::Large, LineField));
     member->addLayout(
-        Under(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0, Look::Size::Large, FieldHeight), 1);
-    member->addLayout(Under(Shivaji(u"dUQa"), txtAnimal, 140, Look::Size::Large, FieldHeight));
+        Under(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0, Look::Size::Large, LineField), 1);
+    member->addLayout(Under(Shivaji(u"dUQa"), txtAnimal, 140, Look::Size::Large, LineField));
 
     auto* money = new QHBoxLayout;
     money->setSpacing(10);
@@ -118,8 +106,7 @@ QWidget* CounterScreen::MemberKeys()
     auto* row = new QHBoxLayout(line);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
-    for (const auto& [key, action] :
-        {std::pair(&lblF9, &lblSearch), std::pair(&lblF7, &lblMilk), std::pair(&lblF10, &lblDelete)}) {
+    for (const auto& [key, action] : MemberKeyLabels()) {
         key->Widget()->setFont(Look::Font(Look::Size::Small, true));
         key->Widget()->setMargin(4);
         key->Widget()->setAutoFillBackground(true);
@@ -142,6 +129,7 @@ QWidget* CounterScreen::MemberKeys()
 
 QWidget* CounterScreen::Totals()
 {
+    constexpr int width = 197;
     auto* sums = new QGridLayout;
     sums->setVerticalSpacing(0);
     sums->setColumnStretch(1, 1);
@@ -159,8 +147,9 @@ QWidget* CounterScreen::Totals()
     sums->addWidget(Figure(lblAvgBuffFat, Look::Size::Large), 5, 1);
 
     auto* panel = Panel();
+    panel->setFixedWidth(width);
     auto* stack = new QVBoxLayout(panel);
-    stack->setContentsMargins(12, 4, 12, 8);
+    stack->setContentsMargins(10, 4, 10, 8);
     stack->setSpacing(4);
     stack->addLayout(sums);
     stack->addStretch(1);

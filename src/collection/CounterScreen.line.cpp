@@ -3,6 +3,7 @@
 #include "CounterScreen.h"
 #include "ActualTime.h"
 #include "Counter.h"
+#include "Keys.h"
 #include "MdlAccounts.h"
 #include "Recordset.h"
 
@@ -11,20 +12,6 @@
 using namespace Counter;
 
 namespace {
-
-std::vector<DataGrid::Column> InwardsColumns(const CounterKind& kind)
-{
-    return {
-        {QStringLiteral("CollectionNo"), Shivaji(u"saMklana Ë."), Twips(900), {}, false, false},
-        {QStringLiteral("MemberNo"), Shivaji(u"maombar naMbar"), Twips(1000), {}, false, false},
-        {QStringLiteral("MemberName"), Shivaji(u"maombarcao naaMva"), Twips(3100)},
-        {QStringLiteral("Animal"), Shivaji(u"dUQa"), Twips(700)},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), kind.gridLitersFormat.toString(), true},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), kind.gridFatFormat.toString(), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), Twips(1300), QStringLiteral("#####0.00"), true},
-    };
-}
 
 // A device's name stands beside its switch; to a screen reader both are one.
 void ShowSwitch(Button& button, QStringView device, const QString& setting)
@@ -36,12 +23,28 @@ void ShowSwitch(Button& button, QStringView device, const QString& setting)
 
 }
 
+// The amount takes what is left, which is more than its 1300 twips: a can paid by the lakh is not cut off.
+std::vector<DataGrid::Column> CounterScreen::InwardsColumns(const CounterKind& kind)
+{
+    return {
+        {QStringLiteral("CollectionNo"), Shivaji(u"saMklana Ë."), Twips(900), {}, false, false},
+        {QStringLiteral("MemberNo"), Shivaji(u"maombar naMbar"), Twips(1000), {}, false, false},
+        {QStringLiteral("MemberName"), Shivaji(u"maombarcao naaMva"), Twips(3100)},
+        {QStringLiteral("Animal"), Shivaji(u"dUQa"), Twips(700)},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), kind.liters.grid.toString(), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), kind.gridFatFormat.toString(), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 0, QStringLiteral("#####0.00"), true},
+    };
+}
+
 CounterScreen::CounterScreen(const CounterKind& kind)
     : Screen(kind.screen)
     , DataGridInwards(this, "DataGridInwards", InwardsColumns(kind))
     , m_kind(kind)
 {
     WireHandlers();
+    NameMemberKeys();
     txtTime.SetLocked(true);
     txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     txtAnimal.SetLocked(true);
@@ -78,6 +81,19 @@ void CounterScreen::WireHandlers()
     When(cmdPrinterOnOff.Click, &CounterScreen::cmdPrinterOnOff_Click);
     txtCollectionNo.KeyDown = [this](const QKeyEvent& key) { return txtCollectionNo_KeyDown(key); };
     txtMemberNo.KeyDown = [this](const QKeyEvent& key) { return txtMemberNo_KeyDown(key); };
+}
+
+// The keys of the member's number, as the list of keys says what each does.
+void CounterScreen::NameMemberKeys()
+{
+    const QString field = Name() + QStringLiteral(".txtMemberNo");
+    for (const auto& [key, action] : MemberKeyLabels())
+        action->SetCaption(Keys::Action(field, key->Shown().Text()));
+}
+
+std::array<std::pair<Label*, Label*>, 3> CounterScreen::MemberKeyLabels()
+{
+    return {{{&lblF9, &lblSearch}, {&lblF7, &lblMilk}, {&lblF10, &lblDelete}}};
 }
 
 void CounterScreen::ShowMemberKeys(bool shown)
@@ -146,7 +162,7 @@ void CounterScreen::ShowRow(const Recordset& row)
 {
     ComboMemberName.SetText(row[u"MemberName"].Text());
     txtAnimal.SetText(row[u"Animal"].Text());
-    txtLiters.SetText(Format(row[u"Liters"].Number(), m_kind.litersFormat));
+    txtLiters.SetText(Format(row[u"Liters"].Number(), m_kind.liters.field));
     txtFat.SetText(Format(row[u"Fat"].Number(), FatFormat));
     txtRate.SetText(Format(row[u"Rate"].Number(), MoneyFormat));
     txtAmount.SetText(Format(row[u"Amount"].Number(), MoneyFormat));

@@ -120,5 +120,5 @@ void CounterScreen::SearchMember()
         ShowRow(row);
     }
     gAppState.gCallerTag = QStringLiteral("MC");
-    ScreenDirectory::Open(QStringLiteral("frmSearchCollections"), Shivaji(u"dUQa saMklana pavatI"));
+    ScreenDirectory::Open(QStringLiteral("frmSearchCollections"), lblSearch.Shown());
 }

@@ -42,7 +42,7 @@ void OpenShift(const Shift& shift)
     gCn.Execute(
         Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where cstr(CollectionDate)=",
             shift.Day(), u" and CollectionTime='", shift.time, u"'"));
-    TidyShiftCopy();
+    TidyFilledCopy();
     opening.Commit();
 }
 
@@ -57,6 +57,12 @@ void EmptyShiftCopy()
 void TidyShiftCopy()
 {
     gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp where CollectionNo=0"));
+}
+
+void TidyFilledCopy()
+{
+    TidyShiftCopy();
+    gCn.Execute(QStringLiteral("Delete * from MilkCollectionsTemp Where CompanyId=0"));
 }
 
 std::int16_t NextNumberInBooks(const Shift& shift)

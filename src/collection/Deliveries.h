@@ -38,11 +38,24 @@ void EmptyShiftCopy();
 // Takes what is no delivery out of the copy: rows numbered 0.
 void TidyShiftCopy();
 
-// The number after the highest one of the shift, 1 in an empty shift; by the books, or by the copy.
+// The same for a copy that was just filled, and rows of no company with them.
+void TidyFilledCopy();
+
+// The number after the highest one of the shift, 1 in an empty shift; by the books, or by the copy. A shift
+// that has come to 32767 is an overflow.
 std::int16_t NextNumberInBooks(const Shift& shift);
 std::int16_t NextNumberInCopy(const Shift& shift);
-std::int16_t NextNumberAfterDelete(const Shift& shift); // by the copy, too
 
+// The number in the copy as a deletion asks for it: by the date itself, not by its text.
+std::int16_t NextNumberAfterDelete(const Shift& shift);
+
+// Adds a delivery to the books and to the copy, under the selected company. The caller's transaction makes it
+// one change; an apostrophe in a text breaks the statement, and then nothing is written.
 void InsertDelivery(const Delivery& delivery);
+
+// Gives the row of this shift and number the delivery's other values, in the books and in the copy. Without
+// such a row nothing is changed.
 void UpdateDelivery(const Delivery& delivery);
+
+// Takes the row of this shift and number out of the books and out of the copy; there may be none.
 void DeleteDelivery(const Shift& shift, double number);

@@ -2,8 +2,10 @@
 
 #include "Dates.h"
 #include "MdlAccounts.h"
+#include "Queries.h"
 #include "ReceiptLayouts.h"
 #include "Recordset.h"
+#include "ReportControl.h"
 #include "Sql.h"
 
 void MilkReceipt::StageReceipt(const Delivery& d)
@@ -15,6 +17,13 @@ void MilkReceipt::StageReceipt(const Delivery& d)
         gAppState.gCompanyId, u",'", DateText(d.shift.date), u"','", d.shift.time, u"',", d.number, u",",
         d.memberNo, u",'", d.memberName, u"','", d.animal, u"',", d.liters, u",", d.fat, u",", d.rate, u",",
         d.amount, u",'", d.actualTime, u"')"));
+}
+
+void MilkReceipt::Prepare()
+{
+    const QString printStatus = Setting(u"PrintStatus");
+    if (!printStatus.isEmpty() && printStatus != u"naahI")
+        ReportControl::Prepare(Logon());
 }
 
 void MilkReceipt::PrintReceipt(QStringView printerButton)

@@ -13,6 +13,9 @@ public:
     // Puts the delivery in place of the one before it.
     static void StageReceipt(const Delivery& delivery);
 
+    // Gets ready what the first slip would make the member wait for, unless the settings want no slips.
+    static void Prepare();
+
     // Prints what is staged, as the settings want it. Nothing is printed with "naahI" in PrintStatus, nor
     // unless the button reads PrinterOn.
     void PrintReceipt(QStringView printerButton);

@@ -22,7 +22,6 @@ using namespace CounterPieces;
 
 namespace {
 
-constexpr int FieldHeight = 38;
 constexpr int WindowWidth = 860;
 constexpr int WindowHeight = 640;
 
@@ -96,7 +95,7 @@ bool frmAbsenseMemberCollection::HoldShift()
 {
     if (!MaskDate.InsistOnDate())
         return false;
-    const bool isShift = txtTime.Text() == u"sakaL" || txtTime.Text() == u"saMQyaakaL";
+    const bool isShift = IsShift(txtTime.Text());
     if (!isShift)
         txtTime.SetFocus();
     return isShift;
@@ -108,6 +107,9 @@ void frmAbsenseMemberCollection::Command1_Click()
         return;
     ListAbsent({MaskDate.Date(), txtTime.Text()});
     DataGridMembers.Bind(gCn, MembersQuery.toString());
+    const bool isEmpty = DataGridMembers.Rows() == 0;
+    lblFooter.SetCaption(isEmpty ? Plain(u"कालच्या या वेळेतील कोणीही गैरहजर नाही") : Caption());
+    lblFooter.SetVisible(isEmpty);
 }
 
 // One line for each delivery of the day before: who brought two kinds of milk is listed twice.
@@ -138,10 +140,10 @@ void frmAbsenseMemberCollection::LayOut()
     auto* row = new QHBoxLayout(question);
     row->setContentsMargins(16, 6, 16, 10);
     row->setSpacing(16);
-    row->addLayout(Under(Shivaji(u"idnaaMk"), MaskDate, 160, Look::Size::Large, FieldHeight));
-    row->addLayout(Under(Shivaji(u"vaoL"), txtTime, 200, Look::Size::Large, FieldHeight));
+    row->addLayout(Under(Shivaji(u"idnaaMk"), MaskDate, 160, Look::Size::Large, LineField));
+    row->addLayout(Under(Shivaji(u"vaoL"), txtTime, 200, Look::Size::Large, LineField));
     Command1.SetAccessibleName(Label28.Shown());
-    row->addWidget(Sized(Command1, 90, FieldHeight, Look::Size::Large, true), 0, Qt::AlignBottom);
+    row->addWidget(Sized(Command1, 90, LineField, Look::Size::Large, true), 0, Qt::AlignBottom);
     row->addStretch(1);
 
     Label28.Widget()->setFont(Look::Font(Look::Size::Large, true));

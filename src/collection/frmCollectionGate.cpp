@@ -1,6 +1,7 @@
 #include "frmCollectionGate.h"
 
 #include "Counter.h"
+#include "Keys.h"
 #include "Layout.h"
 #include "MdlAccounts.h"
 #include "ScreenDirectory.h"
@@ -11,20 +12,19 @@ using namespace Counter;
 frmCollectionGate::frmCollectionGate() : CounterScreen(GateCounter)
 {
     When(cmdGo.GotFocus, &frmCollectionGate::cmdGo_GotFocus);
-    When(cmdLtrOrder.Click, &frmCollectionGate::cmdLtrOrder_Click);
-    When(cmdFatOrder.Click, &frmCollectionGate::cmdFatOrder_Click);
-    When(cmdRateOrder.Click, &frmCollectionGate::cmdRateOrder_Click);
-    When(cmdAmtOrder.Click, &frmCollectionGate::cmdAmtOrder_Click);
+    for (const auto& [button, column] : OrderButtons())
+        button->Click = [this, button = button, column = column] { ToggleOrder(*button, column); };
     When(Command1.Click, &frmCollectionGate::Command1_Click);
     When(Command3.Click, &frmCollectionGate::Command3_Click);
-    When(txtMemberNo.TextChanged, &frmCollectionGate::txtMemberNo_Change);
-    When(txtLiters.TextChanged, &frmCollectionGate::txtLiters_Change);
-    When(txtFat.TextChanged, &frmCollectionGate::txtFat_Change);
-    When(txtRate.TextChanged, &frmCollectionGate::txtRate_Change);
+    for (const auto& [field, column] : std::initializer_list<std::pair<Field*, QStringView>>{
+             {&txtMemberNo, u"MemberNo"}, {&txtLiters, u"Liters"}, {&txtFat, u"Fat"}, {&txtRate, u"Rate"}})
+        field->TextChanged = [this, field = field, column = column] { SearchNumber(*field, column); };
     When(txtAnimal.TextChanged, &frmCollectionGate::txtAnimal_Change);
     When(ComboMemberName.TextChanged, &frmCollectionGate::ComboMemberName_Change);
 
-    LayOut(Layout::Header(lblTitle, lblCompanyName), ListAndTotals());
+    Command1.SetCancels(true); // the gate is left whatever stands in its fields
+
+    LayOut(Layout::Header(lblTitle, lblCompanyName), ListAndTotals(), Layout::KeyStrip(Keys::Of(Name())));
 }
 
 void frmCollectionGate::Load()
@@ -41,24 +41,10 @@ void frmCollectionGate::cmdGo_GotFocus()
 
 // The order of the list
 
-void frmCollectionGate::cmdLtrOrder_Click()
+std::array<std::pair<Button*, QStringView>, 4> frmCollectionGate::OrderButtons()
 {
-    ToggleOrder(cmdLtrOrder, u"Liters");
-}
-
-void frmCollectionGate::cmdFatOrder_Click()
-{
-    ToggleOrder(cmdFatOrder, u"Fat");
-}
-
-void frmCollectionGate::cmdRateOrder_Click()
-{
-    ToggleOrder(cmdRateOrder, u"Rate");
-}
-
-void frmCollectionGate::cmdAmtOrder_Click()
-{
-    ToggleOrder(cmdAmtOrder, u"Amount");
+    return {{{&cmdLtrOrder, u"Liters"}, {&cmdFatOrder, u"Fat"}, {&cmdRateOrder, u"Rate"},
+        {&cmdAmtOrder, u"Amount"}}};
 }
 
 void frmCollectionGate::ToggleOrder(Button& button, QStringView column)
@@ -72,26 +58,6 @@ void frmCollectionGate::ToggleOrder(Button& button, QStringView column)
 }
 
 // The search: the field changed last decides what the list shows.
-
-void frmCollectionGate::txtMemberNo_Change()
-{
-    SearchNumber(txtMemberNo, u"MemberNo");
-}
-
-void frmCollectionGate::txtLiters_Change()
-{
-    SearchNumber(txtLiters, u"Liters");
-}
-
-void frmCollectionGate::txtFat_Change()
-{
-    SearchNumber(txtFat, u"Fat");
-}
-
-void frmCollectionGate::txtRate_Change()
-{
-    SearchNumber(txtRate, u"Rate");
-}
 
 void frmCollectionGate::txtAnimal_Change()
 {

@@ -22,25 +22,19 @@ private:
 
     void Load() override;
     void cmdGo_GotFocus();
-    void cmdLtrOrder_Click();
-    void cmdFatOrder_Click();
-    void cmdRateOrder_Click();
-    void cmdAmtOrder_Click();
     void Command1_Click();
     void Command3_Click();
-    void txtMemberNo_Change();
-    void txtLiters_Change();
-    void txtFat_Change();
-    void txtRate_Change();
     void txtAnimal_Change();
     void ComboMemberName_Change();
 
     static Caption Ascending() { return Plain(u"↑"); }
     static Caption Descending() { return Plain(u"↓"); }
+    std::array<std::pair<Button*, QStringView>, 4> OrderButtons(); // each button and its column
     void ToggleOrder(Button& button, QStringView column);
     void SearchNumber(const Field& field, QStringView column);
     void Search(const QString& condition);
 
     QLayout* ListAndTotals();
     QLayout* OrderLine();
+    QWidget* SearchBox(int width, int height);
 };

@@ -59,9 +59,19 @@ void frmDailyCollection::EnterState(Button& button, QStringView caption)
         for (Field* field :
             std::initializer_list<Field*>{&txtAnimal, &txtLiters, &txtFat, &txtRate, &txtAmount})
             field->SetEnabled(false);
-    cmdDelete.SetGuide(IsDeleting() ? Plain(u"हा क्रमांक या वेळेच्या सर्व दिवसांतून खोडला जाईल") : Caption());
-    txtMemberNo.SetGuide(IsAdding() ? Plain(u"F5 : मेम्बरचे आतापर्यंतचे संकलन") : Caption());
+    SetGuides();
     txtMemberNo.SetFocus();
+}
+
+// A row that is to be changed is looked up first, and saved under its own animal only.
+void frmDailyCollection::SetGuides()
+{
+    txtMemberNo.SetGuide(
+        IsAdding() ? Plain(u"F5 : मेम्बरचे आतापर्यंतचे संकलन") : Plain(u"नोंद शोधा : मेम्बर, दिनांक, वेळ, संकलन क्रमांक"));
+    txtCollectionNo.SetGuide(IsAdding() ? Caption() : Plain(u"Enter : ही नोंद"));
+    txtAnimal.SetGuide(IsModifying() ? Plain(u"दूध प्रकार नोंदीचाच ठेवा : दुसरा सेव्ह होत नाही")
+                                     : Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
+    cmdDelete.SetGuide(IsDeleting() ? Plain(u"हा क्रमांक या वेळेच्या सर्व दिवसांतून खोडला जाईल") : Caption());
 }
 
 void frmDailyCollection::ShowIdle()

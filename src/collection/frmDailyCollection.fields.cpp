@@ -23,10 +23,10 @@ std::vector<DataGrid::Column> ListColumns()
         {QStringLiteral("CollectionTime"), Shivaji(u"vaoL"), 0},
         {QStringLiteral("CollectionNo"), Shivaji(u"saMklana k`M"), 120, {}, false, false},
         {QStringLiteral("Animal"), Shivaji(u"dUQa p`kar"), 110},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 110, {}, true, false},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), 80, {}, true, false},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), 100, {}, true, false},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 130, {}, true, false},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 110, QStringLiteral("####0.000"), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), 80, QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), 100, QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 130, QStringLiteral("#####0.00"), true},
     };
 }
 
@@ -45,7 +45,6 @@ frmDailyCollection::frmDailyCollection()
 {
     WireHandlers();
     txtAnimal.SetLocked(true);
-    txtAnimal.SetGuide(Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
     cmbCollectionTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     DataGrid1.SetGuide(Plain(u"Enter : ही नोंद    F5 : यादी बंद"));
     cmbMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
@@ -95,7 +94,7 @@ Field* frmDailyCollection::Unfinished()
         return &cmbMemberName;
     if (!MasKCollectionDate.HoldsDate())
         return &MasKCollectionDate;
-    if (!IsShift())
+    if (!IsShift(cmbCollectionTime.Text()))
         return &cmbCollectionTime;
     if (!IsNumeric(txtCollectionNo.Text()))
         return &txtCollectionNo;
@@ -202,14 +201,9 @@ bool frmDailyCollection::cmbCollectionTime_KeyDown(const QKeyEvent& key)
     return true;
 }
 
-bool frmDailyCollection::IsShift() const
-{
-    return cmbCollectionTime.Text() == u"saMQyaakaL" || cmbCollectionTime.Text() == u"sakaL";
-}
-
 void frmDailyCollection::cmbCollectionTime_LostFocus()
 {
-    if (!IsShift())
+    if (!IsShift(cmbCollectionTime.Text()))
         cmbCollectionTime.SetFocus();
     else if (IsAdding() && MasKCollectionDate.InsistOnDate())
         ShowNextNumber();
@@ -225,7 +219,7 @@ void frmDailyCollection::txtCollectionNo_LostFocus()
             Value(txtMemberNo), u" AND CollectionDate=", Day()));
     if (!row.Eof()) {
         ShowRow(row);
-        if (IsDeleting())
+        if (IsDeleting() && !IsSteppingBack())
             cmdDelete.SetFocus();
     } else if (!IsAdding()) {
         ShowNotice(u"saMklana naM tpasaa.");
@@ -291,7 +285,8 @@ void frmDailyCollection::txtFat_LostFocus()
     if (found.outcome == FatRate::Outcome::Priced)
         txtRate.SetText(Format(found.rate, MoneyFormat));
     ShowAmount();
-    cmdAdd.SetFocus(); // a new row is done; a change goes on to the rate
+    if (!IsSteppingBack())
+        cmdAdd.SetFocus(); // a new row is done; a change goes on to the rate
 }
 
 void frmDailyCollection::ShowAmount()
@@ -303,6 +298,8 @@ void frmDailyCollection::txtRate_LostFocus()
 {
     MendNumber(txtRate);
     ShowAmount();
+    if (IsSteppingBack())
+        return;
     for (Button* button : {&cmdAdd, &cmdModify, &cmdDelete})
         button->SetFocus(); // the one that is open
 }

@@ -72,12 +72,12 @@ private:
     bool IsModifying() const { return cmdModify.Reads(u"&saovh"); }
     bool IsDeleting() const { return cmdDelete.Reads(u"&KaoDa"); }
     void EnterState(Button& button, QStringView caption);
+    void SetGuides();
     void ShowIdle();
     void ClearFields();
     std::vector<Field*> Fields();
 
     // Rules of the fields
-    bool IsShift() const;
     Field* Unfinished();
     void TakeMember(const Recordset& member);
     void ShowAmount();

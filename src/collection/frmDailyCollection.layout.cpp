@@ -10,21 +10,6 @@
 
 using namespace CounterPieces;
 
-namespace {
-
-constexpr int FieldHeight = 38;
-constexpr int TallField = 50;
-
-QLabel* Sign(QStringView sign)
-{
-    QLabel* label = Heading(Plain(sign), Look::Size::Title);
-    label->setAlignment(Qt::AlignCenter);
-    label->setFixedHeight(TallField);
-    return label;
-}
-
-}
-
 void frmDailyCollection::LayOut()
 {
     SetTitleLabel(lblTitle);
@@ -33,7 +18,7 @@ void frmDailyCollection::LayOut()
     Layout::MakeGuide(lblGuide);
 
     auto* body = new QVBoxLayout;
-    body->setSpacing(14);
+    body->setSpacing(12);
     body->addLayout(MemberLine());
     body->addLayout(DayLine());
     body->addWidget(MilkPanel());
@@ -51,9 +36,8 @@ QLayout* frmDailyCollection::MemberLine()
     auto* line = new QHBoxLayout;
     line->setContentsMargins(16, 0, 16, 0);
     line->setSpacing(16);
-    line->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 160, Look::Size::Large, FieldHeight));
-    line->addLayout(
-        Under(Shivaji(u"maombarcao naaMva"), cmbMemberName, 0, Look::Size::Large, FieldHeight), 1);
+    line->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 160, Look::Size::Large, LineField));
+    line->addLayout(Under(Shivaji(u"maombarcao naaMva"), cmbMemberName, 0, Look::Size::Large, LineField), 1);
     return line;
 }
 
@@ -62,10 +46,10 @@ QLayout* frmDailyCollection::DayLine()
     auto* line = new QHBoxLayout;
     line->setContentsMargins(16, 0, 16, 0);
     line->setSpacing(16);
-    line->addLayout(Under(Shivaji(u"idnaaMk"), MasKCollectionDate, 160, Look::Size::Large, FieldHeight));
-    line->addLayout(Under(Shivaji(u"vaoL"), cmbCollectionTime, 200, Look::Size::Large, FieldHeight));
-    line->addLayout(Under(Shivaji(u"saMklana k`M"), txtCollectionNo, 160, Look::Size::Large, FieldHeight));
-    line->addLayout(Under(Shivaji(u"dUQa p`kar"), txtAnimal, 160, Look::Size::Large, FieldHeight));
+    line->addLayout(Under(Shivaji(u"idnaaMk"), MasKCollectionDate, 160, Look::Size::Large, LineField));
+    line->addLayout(Under(Shivaji(u"vaoL"), cmbCollectionTime, 200, Look::Size::Large, LineField));
+    line->addLayout(Under(Shivaji(u"saMklana k`M"), txtCollectionNo, 160, Look::Size::Large, LineField));
+    line->addLayout(Under(Shivaji(u"dUQa p`kar"), txtAnimal, 160, Look::Size::Large, LineField));
     line->addStretch(1);
     return line;
 }

@@ -40,8 +40,9 @@ frmMilkCollections::frmMilkCollections()
     When(Command2.Click, &frmMilkCollections::Command2_Click);
     When(Command3.Click, &frmMilkCollections::Command3_Click);
     cmbAccountName.Accepts = ComboMemberName.Accepts;
+    Command2.SetCancels(true); // the frame is left whatever stands in its dates
 
-    LayOut(Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), Views());
+    LayOut(Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), Views(), KeyStrips());
     ShowFrame(false);
 }
 
@@ -66,7 +67,6 @@ void frmMilkCollections::Escape()
         return;
     }
     ShowFrame(false);
-    ShowMemberKeys(false);
     ResetMemberFrame();
     txtCollectionNo.SetFocus();
 }

@@ -1,6 +1,7 @@
 // FrameMilkCollection: one member's collection over a period. While it is open the copy holds that period.
 
 #include "frmMilkCollections.h"
+#include "CopySums.h"
 #include "Counter.h"
 #include "Dates.h"
 #include "MdlAccounts.h"
@@ -22,56 +23,13 @@ namespace {
 constexpr QStringView SumFormat = u"#######0.000";
 constexpr QStringView BuffAverageFormat = u"########0.0";
 
-// The sums of one animal in one half of the day, or in both.
-struct Milk {
-    double liters = 0;
-    double amount = 0;
-    double litersByFat = 0;
-
-    double AverageFat() const { return liters == 0 && litersByFat == 0 ? 0 : litersByFat / liters; }
-};
-
-struct MemberMilk {
-    Milk morning;
-    Milk evening;
-
-    Milk Whole() const
-    {
-        return {morning.liters + evening.liters, morning.amount + evening.amount,
-            morning.litersByFat + evening.litersByFat};
-    }
-};
-
-struct MilkOfBoth {
-    MemberMilk cow;
-    MemberMilk buff;
-};
-
-MilkOfBoth WalkCopy()
-{
-    MilkOfBoth milk;
-    for (Recordset row(gCn, Sql(u"select * from MilkCollectionsTemp where CompanyId=", gAppState.gCompanyId));
-         !row.Eof(); row.MoveNext()) {
-        const QString animal = row[u"Animal"].Text();
-        const QString time = row[u"CollectionTime"].Text();
-        if ((animal != u"gaaya" && animal != u"mhOsa") || (time != u"sakaL" && time != u"saMQyaakaL"))
-            continue;
-        MemberMilk& member = animal == u"gaaya" ? milk.cow : milk.buff;
-        Milk& sum = time == u"sakaL" ? member.morning : member.evening;
-        const double liters = row[u"Liters"].Number();
-        sum.liters += liters;
-        sum.amount += row[u"Amount"].Number();
-        sum.litersByFat += liters * row[u"Fat"].Number();
-    }
-    return milk;
-}
-
 }
 
 // A delivery saved now would look for its row in the copy, so the rest of the counter waits for the frame.
 void frmMilkCollections::ShowMemberFrame()
 {
     SkipMemberChecks = true;
+    ShowMemberKeys(false);
     ShowFrame(true);
     maskFromDate.SetFocus();
     const std::vector<Control*> frame = FrameControls();
@@ -155,7 +113,7 @@ void frmMilkCollections::cmdGoOn_Click()
     gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
     gCn.Execute(u"insert into MilkCollectionsTemp select *" + InPeriod());
     RenumberTemp();
-    TidyShiftCopy();
+    TidyFilledCopy();
     fill.Commit();
 
     MemberLitersAndAmounts();
@@ -186,8 +144,8 @@ void frmMilkCollections::ShowMemberGrid()
 void frmMilkCollections::MemberLitersAndAmounts()
 {
     const auto [cow, buff] = WalkCopy();
-    const Milk cowTotal = cow.Whole();
-    const Milk buffTotal = buff.Whole();
+    const MilkSums cowTotal = cow.Both();
+    const MilkSums buffTotal = buff.Both();
     for (const auto& [label, sum] : std::initializer_list<std::pair<Label*, double>>{
              {&lblCowLitM, cow.morning.liters}, {&lblCowLitE, cow.evening.liters},
              {&lblCowTotalLiters, cowTotal.liters}, {&lblCowTotalM, cow.morning.amount},
@@ -203,10 +161,10 @@ void frmMilkCollections::MemberAverageFat()
     const auto [cow, buff] = WalkCopy();
     lblCowAvgFatM.SetFigure(Format(cow.morning.AverageFat(), AverageFatFormat));
     lblCowAvgFatE.SetFigure(Format(cow.evening.AverageFat(), AverageFatFormat));
-    lblCowTotalAvgFat.SetFigure(Format(cow.Whole().AverageFat(), AverageFatFormat));
+    lblCowTotalAvgFat.SetFigure(Format(cow.Both().AverageFat(), AverageFatFormat));
     lblBuffAvgFatM.SetFigure(Format(buff.morning.AverageFat(), BuffAverageFormat));
     lblBuffAvgFatE.SetFigure(Format(buff.evening.AverageFat(), BuffAverageFormat));
-    lblBuffTotalAvgFat.SetFigure(Format(buff.Whole().AverageFat(), AverageFatFormat));
+    lblBuffTotalAvgFat.SetFigure(Format(buff.Both().AverageFat(), AverageFatFormat));
 }
 
 // The statement of what lies in the copy.
@@ -262,7 +220,7 @@ void frmMilkCollections::ResetMemberFrame()
     gCn.Execute(Sql(u"Insert Into MilkCollectionsTemp Select * From MilkCollections Where CompanyId=",
         gAppState.gCompanyId, u" And CollectionDate=", shift.Day(), u" And CollectionTime='", shift.time,
         u"'"));
-    gCn.Execute(QStringLiteral("Delete * from MilkCollectionsTemp Where CompanyId=0"));
+    TidyFilledCopy();
     reload.Commit();
     ShowInwardsGrid();
 }

@@ -47,6 +47,7 @@ private:
 
     CounterReport CRMilkPayments;
     QStackedLayout* m_views; // the list of the shift, and FrameMilkCollection over it
+    QStackedLayout* m_keys; // the strips of keys of both
     std::vector<Control*> m_heldBack; // what could be entered before the frame was opened
 
     void Load() override;
@@ -78,6 +79,7 @@ private:
     QString InPeriod() const;
 
     QLayout* Views();
+    QWidget* KeyStrips();
     QWidget* ShiftView();
     QWidget* FrameMilkCollection();
     QLayout* FrameHead();

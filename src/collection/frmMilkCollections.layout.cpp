@@ -1,6 +1,7 @@
 #include "frmMilkCollections.h"
 
 #include "CounterPieces.h"
+#include "Keys.h"
 #include "Layout.h"
 
 #include <QFrame>
@@ -34,7 +35,8 @@ void frmMilkCollections::ShowFrame(bool shown)
     for (Control* control : FrameControls())
         control->SetVisible(shown);
     Label28.SetVisible(shown);
-    m_views->setCurrentIndex(shown ? 1 : 0);
+    for (QStackedLayout* stack : {m_views, m_keys})
+        stack->setCurrentIndex(shown ? 1 : 0);
     for (Control* control : m_heldBack)
         control->SetEnabled(true);
     m_heldBack.clear();
@@ -48,6 +50,15 @@ QLayout* frmMilkCollections::Views()
     return m_views;
 }
 
+QWidget* frmMilkCollections::KeyStrips()
+{
+    auto* strips = new QWidget;
+    m_keys = new QStackedLayout(strips);
+    for (const QString& keys : {Name(), QStringLiteral("FrameMilkCollection")})
+        m_keys->addWidget(Layout::KeyStrip(Keys::Of(keys)));
+    return strips;
+}
+
 QWidget* frmMilkCollections::ShiftView()
 {
     auto* view = new QWidget;
@@ -56,9 +67,7 @@ QWidget* frmMilkCollections::ShiftView()
     row->setSpacing(10);
     row->addWidget(List(DataGridInwards), 1);
     DataGridInwards.SetAccessibleName(Shivaji(u"dUQa saMklana"));
-    QWidget* totals = Totals();
-    totals->setFixedWidth(215);
-    row->addWidget(totals);
+    row->addWidget(Totals());
     return view;
 }
 
@@ -68,7 +77,7 @@ QWidget* frmMilkCollections::FrameMilkCollection()
     frame->setObjectName(QStringLiteral("FrameMilkCollection"));
     auto* below = new QHBoxLayout;
     below->setSpacing(8);
-    below->addWidget(List(DataGridMilk, 26, Look::Size::Small), 1);
+    below->addWidget(List(DataGridMilk, 25, Look::Size::Small, 30), 1);
     DataGridMilk.SetAccessibleName(Label28.Shown());
     below->addWidget(MemberSums());
 
@@ -126,7 +135,7 @@ QWidget* frmMilkCollections::MemberSums()
     grid->setVerticalSpacing(0);
     grid->setHorizontalSpacing(6);
     for (int column = 1; column <= 3; ++column)
-        grid->setColumnMinimumWidth(column, 90);
+        grid->setColumnMinimumWidth(column, 84);
     grid->addWidget(Mark(Shivaji(u"sakaL").Seen()), 0, 1);
     grid->addWidget(Mark(Shivaji(u"saMQyaakaL").Seen()), 0, 2);
     grid->addWidget(Mark(Shivaji(u"ekUNa").Seen()), 0, 3);

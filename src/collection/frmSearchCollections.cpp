@@ -97,6 +97,12 @@ bool frmSearchCollections::KeyDown(const QKeyEvent& key)
     return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
 }
 
+void frmSearchCollections::Escape()
+{
+    EmptyFields();
+    Close();
+}
+
 // From a counter it goes on with the member in the line there.
 void frmSearchCollections::TimerStart_Timer()
 {
@@ -138,7 +144,7 @@ void frmSearchCollections::txtTime_GotFocus()
 
 void frmSearchCollections::txtTime_LostFocus()
 {
-    if (maskDate.InsistOnDate() && txtTime.Text() != u"sakaL" && txtTime.Text() != u"saMQyaakaL")
+    if (maskDate.InsistOnDate() && !IsShift(txtTime.Text()))
         txtTime.SetFocus();
 }
 
@@ -184,7 +190,8 @@ void frmSearchCollections::ComboMemberName_LostFocus()
         return;
     }
     LoadMemberNames();
-    ComboMemberName.SetFocus();
+    if (txtMemberNo.IsEmpty())
+        ComboMemberName.SetFocus();
 }
 
 void frmSearchCollections::LoadMemberNames()
@@ -213,10 +220,10 @@ void frmSearchCollections::Search()
     DataGridInwards.Refresh();
     const bool isFound = Finds(QStringLiteral("select * from MilkCollectionsTemp"));
     EnableFound(isFound);
-    if (isFound)
-        DataGridInwards.SetFocus();
-    else
+    if (!isFound)
         ShowPlain(QStringLiteral("No Records"));
+    else if (!IsSteppingBack()) // to look for another member
+        DataGridInwards.SetFocus();
 }
 
 void frmSearchCollections::EnableFound(bool enabled)

@@ -34,6 +34,7 @@ private:
 
     void Load() override;
     bool KeyDown(const QKeyEvent& key) override;
+    void Escape() override;
 
     void TimerStart_Timer();
     void maskDate_GotFocus();

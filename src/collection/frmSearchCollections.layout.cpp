@@ -12,7 +12,6 @@ using namespace CounterPieces;
 
 namespace {
 
-constexpr int FieldHeight = 38;
 constexpr int WindowHeight = 560;
 
 }
@@ -30,6 +29,7 @@ void frmSearchCollections::LayOut()
     body->addWidget(lblFooter.Widget());
     body->addWidget(List(DataGridInwards), 1);
     DataGridInwards.SetAccessibleName(Shivaji(u"dUQa saMklana"));
+    cmdGo.SetAccessibleName(Keys::Action(Name(), u"Alt+P"));
     body->addLayout(Layout::ButtonRow({&cmdGo}));
     Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
         Layout::KeyStrip(Keys::Of(Name())));
@@ -44,10 +44,9 @@ QWidget* frmSearchCollections::Question()
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins(16, 6, 16, 10);
     row->setSpacing(16);
-    row->addLayout(Under(Shivaji(u"idnaaMk"), maskDate, 160, Look::Size::Large, FieldHeight));
-    row->addLayout(Under(Shivaji(u"vaoL"), txtTime, 180, Look::Size::Large, FieldHeight));
-    row->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 140, Look::Size::Large, FieldHeight));
-    row->addLayout(
-        Under(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0, Look::Size::Large, FieldHeight), 1);
+    row->addLayout(Under(Shivaji(u"idnaaMk"), maskDate, 160, Look::Size::Large, LineField));
+    row->addLayout(Under(Shivaji(u"vaoL"), txtTime, 180, Look::Size::Large, LineField));
+    row->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 140, Look::Size::Large, LineField));
+    row->addLayout(Under(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0, Look::Size::Large, LineField), 1);
     return panel;
 }

@@ -69,12 +69,14 @@ const Table& TheTable()
             {Plain(u"दूध संकलन ३, मेम्बरच्या यादीत"),
                 {{QStringLiteral("Enter"), Plain(u"ही नोंद")}, {QStringLiteral("F5"), Plain(u"यादी बंद")}}}},
         {QStringLiteral("frmSearchCollections"),
-            {Shivaji(u"dUQa saMklana pavatI"), {Next, Back, Leave, Calculator, Tutor}}},
+            {Shivaji(u"dUQa saMklana pavatI"),
+                {Next, Back, {QStringLiteral("Alt+P"), Plain(u"पावती पुन्हा दाखवा")}, Leave, Calculator,
+                    Tutor}}},
         {QStringLiteral("frmAbsenseMemberCollection"),
             {Shivaji(u"dUQa saMklana nasaNaaro saBaasad"), {Next, Back, Leave, Calculator, Tutor}}},
         {QStringLiteral("frmReportPreview.page"),
             {Plain(u"रिपोर्ट, पाने पाहताना"),
-                {{QStringLiteral("PgDn"), Plain(u"पुढचे पान")}, {QStringLiteral("PgUp"), Plain(u"मागचे पान")},
+                {{QStringLiteral("PgDn"), Plain(u"पुढे")}, {QStringLiteral("PgUp"), Plain(u"मागे")},
                     {QStringLiteral("Home"), Plain(u"पहिले")}, {QStringLiteral("End"), Plain(u"शेवटचे")},
                     {QStringLiteral("↑ ↓ ← →"), Plain(u"सरकवा")}, {QStringLiteral("+"), Plain(u"मोठे")},
                     {QStringLiteral("−"), Plain(u"लहान")}, {QStringLiteral("F5"), Plain(u"रुंदीभर")},
@@ -112,6 +114,9 @@ const Table& TheTable()
                     {QStringLiteral("Ctrl+PgUp"), Plain(u"मागचे पान")},
                     {QStringLiteral("Alt+↓"), Plain(u"यादी")}, {QStringLiteral("Space"), Plain(u"खूण")},
                     Leave}}},
+        {QStringLiteral("frmAutoSettings.Sale"),
+            {Plain(u"ऑटो सेटींग्ज, दूध विक्रीच्या पानावर"),
+                {{QStringLiteral("↓"), Shivaji(u"ivaËI pavatIÀip`MT")}}}},
     };
     return table;
 }

@@ -1,5 +1,7 @@
 #include "ReceiptLayouts.h"
 
+#include "Messages.h"
+
 #include <array>
 
 namespace {
@@ -23,4 +25,9 @@ ReceiptLayout ReceiptLayoutOf(QStringView type)
         if (layout.type == type)
             return layout;
     return {};
+}
+
+void TellNoTemplate()
+{
+    ShowPlain(QStringLiteral("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही."));
 }

@@ -136,17 +136,17 @@ bool frmReportPreview::SizeKey(const QKeyEvent& key)
         picPage.SetPercent(100);
         return true;
     case Qt::Key_PageDown:
-        NextPage();
+        Down(ReportPageView::StepsOfWindow);
         return true;
     case Qt::Key_PageUp:
-        PreviousPage();
+        Up(ReportPageView::StepsOfWindow);
         return true;
     default:
         return false;
     }
 }
 
-// The keys that an entry field needs for itself. An arrow at the edge of a page turns it.
+// The keys that an entry field needs for itself.
 bool frmReportPreview::PageKey(const QKeyEvent& key)
 {
     switch (key.key()) {
@@ -157,12 +157,10 @@ bool frmReportPreview::PageKey(const QKeyEvent& key)
         LastPage();
         break;
     case Qt::Key_Down:
-        if (!picPage.Scroll(0, 1))
-            NextPage();
+        Down(1);
         break;
     case Qt::Key_Up:
-        if (!picPage.Scroll(0, -1))
-            PreviousPage(ReportPageView::Edge::Bottom);
+        Up(1);
         break;
     case Qt::Key_Right:
         picPage.Scroll(1, 0);
@@ -220,10 +218,22 @@ void frmReportPreview::NextPage()
         TellComplete();
 }
 
-void frmReportPreview::PreviousPage(ReportPageView::Edge edge)
+void frmReportPreview::PreviousPage()
 {
     if (picPage.Page() > 0)
-        GoTo(picPage.Page() - 1, edge);
+        GoTo(picPage.Page() - 1, ReportPageView::Edge::Bottom);
+}
+
+void frmReportPreview::Down(int steps)
+{
+    if (!picPage.Scroll(0, steps))
+        NextPage();
+}
+
+void frmReportPreview::Up(int steps)
+{
+    if (!picPage.Scroll(0, -steps))
+        PreviousPage();
 }
 
 void frmReportPreview::LastPage()
@@ -336,7 +346,7 @@ void frmReportPreview::Print()
 
 void frmReportPreview::Save(const QString& ending, Outcome (Report::*save)(const QString&))
 {
-    frmReportFile dialog(m_report->Name(), ending);
+    frmReportFile dialog(m_report->Title(), ending);
     dialog.ShowModal();
     if (dialog.FileName.isEmpty())
         return;

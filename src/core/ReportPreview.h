@@ -46,7 +46,12 @@ private:
 
     void GoTo(std::size_t number, ReportPageView::Edge edge = ReportPageView::Edge::Top);
     void NextPage();
-    void PreviousPage(ReportPageView::Edge edge = ReportPageView::Edge::Top);
+    void PreviousPage();
+
+    // Scrolls the page; at its edge it is turned.
+    void Down(int steps);
+    void Up(int steps);
+
     void LastPage();
 
     void Search();

@@ -8,7 +8,7 @@
 // Asks where a report is to be saved.
 class frmReportFile final : public Screen {
 public:
-    // `report` is the report's name, `ending` that of the file, such as "pdf". A name with the day's date
+    // `report` is the report's title, `ending` that of the file, such as "pdf". A name with the day's date
     // in the clerk's documents is proposed.
     frmReportFile(const QString& report, const QString& ending);
 

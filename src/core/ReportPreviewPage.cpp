@@ -15,7 +15,7 @@ namespace {
 
 constexpr int Margin = 14; // pixels around the page
 constexpr int FrameWidth = 2;
-constexpr int StepsOfView = 8; // a step of an arrow key is this part of the window
+constexpr int StepsOfView = ReportPageView::StepsOfWindow + 1; // a step is this part of the window
 constexpr double LargestFitted = 2; // a small slip isn't blown up to the width of the window
 constexpr double LongestSide = 16000; // dots of a picture; a roll can be metres long
 constexpr std::size_t KeptPictures = 3;
@@ -146,6 +146,8 @@ private:
         const double high = (viewport()->height() - 2 * Margin) / paper.height();
         const double most = LargestFitted * PaperScale();
         switch (m_fit) {
+        case Fit::Best:
+            return std::min(high >= PaperScale() ? std::min(wide, high) : wide, most);
         case Fit::Width:
             return std::min(wide, most);
         case Fit::WholePage:
@@ -218,7 +220,7 @@ private:
 
     Report& m_report;
     std::size_t m_page = 0;
-    Fit m_fit = Fit::Width;
+    Fit m_fit = Fit::Best;
     double m_wanted = 1; // of the paper's size, when it isn't fitted
     double m_scale = 1; // pixels a point
     QRectF m_mark;

@@ -7,7 +7,8 @@
 // place of a found text marked.
 class ReportPageView final : public Control {
 public:
-    enum class Fit { Width, WholePage, None };
+    // Best shows the whole page where it can be read so, as that of a slip, and else its width.
+    enum class Fit { Best, Width, WholePage, None };
     enum class Edge { Top, Bottom };
 
     // The report must outlive the view.
@@ -28,6 +29,9 @@ public:
 
     // Moves the page under the window by so many steps; false if it is at its edge already.
     bool Scroll(int right, int down);
+
+    // The steps that show what stood outside of the window, and one line or two of what stood in it.
+    static constexpr int StepsOfWindow = 7;
 
     // Marks a place of the page, in points, and brings it into view; an empty place takes the mark away.
     void Mark(const QRectF& place);

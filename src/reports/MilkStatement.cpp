@@ -135,9 +135,8 @@ QSet<QDate> DaysOf(const Books& books)
     return days;
 }
 
-void WriteLines(const Books& books, const Person& person, const QDate& from, const QDate& to)
+void WriteLines(const Books& books, const Person& person, const QDate& from, const QDate& to, bool repeats)
 {
-    const bool repeats = Repeats();
     const QSet<QDate> days = DaysOf(books);
     for (QDate day = from; day <= to; day = day.addDays(1)) {
         if (!days.contains(day))
@@ -145,6 +144,12 @@ void WriteLines(const Books& books, const Person& person, const QDate& from, con
         for (const QStringView animal : Animals)
             DayLines(books, person, day, animal).Write(repeats);
     }
+}
+
+// The company is looked up first; what is printed of it, the template reads for itself.
+void LookUpCompany()
+{
+    const Recordset company(gCn, Sql(u"SELECT * FROM CompanyMaster where CompanyId=", gAppState.gCompanyId));
 }
 
 int NumberOfMember(const QString& name)
@@ -168,15 +173,18 @@ void MilkStatement::Stage(const Wanted& wanted)
 {
     const bool isSales = wanted.kind == Kind::Sales;
     const Books& books = isSales ? Sales : Collections;
+    LookUpCompany();
     const Person person{isSales ? 0 : NumberOfMember(wanted.name), wanted.name};
+    const bool repeats = Repeats();
 
     Transaction staging(gCn);
-    for (const QStringView table : {u"MilkCollectionsTemp", u"MilkSalesTemp", u"MilkCollectionsME"})
-        gCn.Execute(Sql(u"delete * from ", table));
+    for (const QStringView statement : {u"delete * from MilkCollectionsTemp", u"delete * from MilkSalesTemp",
+             u"delete * from MilkCollectionsME", u"Delete * From ReportDates"})
+        gCn.Execute(statement.toString());
     FillCopy(books, wanted);
-    WriteLines(books, person, wanted.from, wanted.to);
+    WriteLines(books, person, wanted.from, wanted.to, repeats);
     ReportRun::StageDates(DateText(wanted.from), DateText(wanted.to));
-    ReportRun::Tidy(u"MilkCollectionsME");
+    gCn.Execute(QStringLiteral("DELETE * FROM MilkCollectionsME WHERE CompanyId=0"));
     staging.Commit();
 }
 
@@ -189,13 +197,14 @@ void MilkStatement::StageCopy()
             person = {static_cast<int>(row[u"MemberNo"].Number()), row[u"MemberName"].Text()};
     }
     const QSet<QDate> days = DaysOf(Collections);
+    const bool repeats = Repeats();
 
     Transaction staging(gCn);
     gCn.Execute(QStringLiteral("delete * from MilkCollectionsME"));
     if (!days.isEmpty()) {
         const auto [first, last] = std::minmax_element(days.begin(), days.end());
-        WriteLines(Collections, person, *first, *last);
+        WriteLines(Collections, person, *first, *last, repeats);
     }
-    ReportRun::Tidy(u"MilkCollectionsME");
+    gCn.Execute(QStringLiteral("DELETE * FROM MilkCollectionsME WHERE CompanyId=0"));
     staging.Commit();
 }

@@ -7,7 +7,6 @@
 
 void ReportRun::StageDates(const QString& from, const QString& to)
 {
-    gCn.Execute(QStringLiteral("Delete * From ReportDates"));
     gCn.Execute(Sql(u"insert into ReportDates(CompanyId,FromDate,ToDate) values(", gAppState.gCompanyId,
         u",'", from, u"','", to, u"')"));
 }

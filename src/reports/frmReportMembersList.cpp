@@ -31,6 +31,7 @@ frmReportMembersList::frmReportMembersList() : Screen("frmReportMembersList")
     When(cmdReport.Click, &frmReportMembersList::cmdReport_Click);
     When(cmdExit.Click, &frmReportMembersList::cmdExit_Click);
     SetTitle(Shivaji(u" maombar yaadI"));
+    ComboArea.SetGuide(Plain(u"रिकामे ठेवल्यास सर्व विभाग"));
     LayOut();
 }
 
@@ -46,7 +47,7 @@ void frmReportMembersList::Load()
 
 void frmReportMembersList::Escape()
 {
-    ComboArea.Clear();
+    EmptyFields();
     Close();
 }
 

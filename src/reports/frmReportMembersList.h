@@ -5,8 +5,6 @@
 #include "OptionButton.h"
 #include "Screen.h"
 
-class FieldValue;
-
 // The list of the members: all of them, those of an area, or those of an animal.
 class frmReportMembersList final : public Screen {
 public:
@@ -25,6 +23,7 @@ private:
     OptionButton OptionBuff{this, "OptionBuff", Shivaji(u"mhOsa")};
     OptionButton OptionBoth{this, "OptionBoth", Shivaji(u"daonhI")};
     OptionGroup milk{&OptionCow, &OptionBuff, &OptionBoth};
+    Label lblGuide{this, "lblGuide"};
     Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-")};
     Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
 

@@ -30,11 +30,14 @@ void frmReportMembersList::LayOut()
     Layout::Form form;
     QGridLayout& grid = *form.Grid();
     grid.setHorizontalSpacing(24);
-    AddOption(grid, 0, OptionList);
-    AddOption(grid, 1, OptionArea);
-    grid.addWidget(ComboArea.Widget(), 1, 1);
-    AddOption(grid, 2, OptionMilk);
-    grid.addLayout(animals, 2, 1);
+    SetGuideLabel(lblGuide);
+    Layout::MakeGuide(lblGuide);
+    grid.addWidget(lblGuide.Widget(), 0, 1); // above the list of areas, which drops down
+    AddOption(grid, 1, OptionList);
+    AddOption(grid, 2, OptionArea);
+    grid.addWidget(ComboArea.Widget(), 2, 1);
+    AddOption(grid, 3, OptionMilk);
+    grid.addLayout(animals, 3, 1);
     ReportLayout::Finish(
         *this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), form, cmdReport, cmdExit);
 }

@@ -33,8 +33,7 @@ void frmReportMilkCollections::Load()
 
 void frmReportMilkCollections::Escape()
 {
-    MaskUserDate.Clear();
-    ComboAnimal.Clear();
+    EmptyFields();
     Close();
 }
 

@@ -26,6 +26,7 @@ void frmReportMilkPS::Load()
         gAppState.gReportMode.clear();
         MilkStatement::StageCopy();
         SendKeys(QStringLiteral("{ESC}"));
+        return;
     }
     ShowCompany(lblCompanyTitle, lblAcYear);
     OptionCollections.Choose();
@@ -34,8 +35,7 @@ void frmReportMilkPS::Load()
 
 void frmReportMilkPS::Escape()
 {
-    for (Field* field : std::initializer_list<Field*>{&maskFromDate, &maskToDate, &ComboAccountName})
-        field->Clear();
+    EmptyFields();
     Close();
 }
 

@@ -6,8 +6,6 @@
 #include "OptionButton.h"
 #include "Screen.h"
 
-class QLayout;
-
 // The statement of one member's deliveries or of one customer's purchases over a range of days. A counter
 // opens it with gReportMode "ShowMilkCollection": it then stages what lies in MilkCollectionsTemp and leaves
 // the printing to the counter.

@@ -33,7 +33,7 @@ void frmReportPaymentList::Load()
 
 void frmReportPaymentList::Escape()
 {
-    MaskFromDate.Clear();
+    EmptyFields();
     Close();
 }
 
@@ -42,9 +42,8 @@ void frmReportPaymentList::MaskFromDate_LostFocus()
     MaskFromDate.InsistOnDate();
 }
 
-QString frmReportPaymentList::SelectionFormula() const
+QString frmReportPaymentList::SelectionFormula(const QString& date)
 {
-    const QString date = MaskFromDate.Text();
     return Sql(u"{MilkPayments.PaymentDate} = DateTime (", date.mid(6, 4), u",", Part(date.mid(3, 2)), u",",
         Part(date.left(2)), u",00, 00, 00)");
 }
@@ -52,8 +51,8 @@ QString frmReportPaymentList::SelectionFormula() const
 void frmReportPaymentList::cmdReport_Click()
 {
     if (MaskFromDate.InsistOnDate())
-        ReportRun::Show(
-            Option1.Chosen() ? u"CashMilkPayment.rpt" : u"BankMilkPayment.rpt", SelectionFormula());
+        ReportRun::Show(Option1.Chosen() ? u"CashMilkPayment.rpt" : u"BankMilkPayment.rpt",
+            SelectionFormula(MaskFromDate.Text()));
 }
 
 void frmReportPaymentList::cmdExit_Click()

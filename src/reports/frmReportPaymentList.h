@@ -10,6 +10,9 @@ class frmReportPaymentList final : public Screen {
 public:
     frmReportPaymentList();
 
+    // The payments of a date dd/MM/yyyy, in the words of the report control.
+    static QString SelectionFormula(const QString& date);
+
 private:
     Label lblTitle{this, "lblTitle"};
     Label lblCompanyTitle{this, "lblCompanyTitle"};
@@ -28,6 +31,5 @@ private:
     void cmdReport_Click();
     void cmdExit_Click();
 
-    QString SelectionFormula() const;
     void LayOut();
 };

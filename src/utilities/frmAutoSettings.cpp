@@ -4,6 +4,8 @@
 #include "Messages.h"
 #include "Numbers.h"
 
+#include <QKeyEvent>
+
 namespace {
 
 QStringList YesNo()
@@ -41,6 +43,7 @@ frmAutoSettings::frmAutoSettings()
     cmbFatRateType.SetMouseOnly(true);
     ComboPrintStatus.SetText(QStringLiteral("haoya"));
     CmdCancel.SetCancels(true);
+    CmdExit.SetCancels(true); // nothing is saved by it, so no field need be right
     SetTitle(Shivaji(u"Aa^Tao saoTIMgja"));
     Wire();
     SetGuides();
@@ -81,7 +84,25 @@ void frmAutoSettings::Load()
 
 bool frmAutoSettings::KeyDown(const QKeyEvent& key)
 {
-    return SSTab.TurnPage(key);
+    HasOwnWay = true;
+    const bool gone = SSTab.TurnPage(key) || GoToSalesPrint(key);
+    HasOwnWay = false;
+    return gone;
+}
+
+// The rate before it leads to the button that saves, so the print of the sales has a key of its own.
+bool frmAutoSettings::GoToSalesPrint(const QKeyEvent& key)
+{
+    if (key.key() != Qt::Key_Down || SSTab.Tab() != Sale || ComboMSRPrintStatus.HasFocus())
+        return false;
+    ComboMSRPrintStatus.SetFocus();
+    return true;
+}
+
+void frmAutoSettings::Escape()
+{
+    EmptyFields();
+    Close();
 }
 
 void frmAutoSettings::SSTab_Click()
@@ -122,7 +143,7 @@ bool frmAutoSettings::CheckChoice(ChoiceCombo& combo)
     return false;
 }
 
-bool frmAutoSettings::CheckAboveZero(NumberField& field, QStringView pattern)
+bool frmAutoSettings::CheckNotZero(NumberField& field, QStringView pattern)
 {
     const double value = Val(field.Text());
     field.SetText(Format(value, pattern));
@@ -162,13 +183,13 @@ void frmAutoSettings::ComboPrintStatus_LostFocus()
 void frmAutoSettings::txtCowLimit_LostFocus()
 {
     if (!ComboPrintStatus.IsEmpty())
-        CheckAboveZero(txtCowLimit, u"######0.000");
+        CheckNotZero(txtCowLimit, u"######0.000");
 }
 
 void frmAutoSettings::txtBuffLimit_LostFocus()
 {
     if (!txtCowLimit.IsEmpty())
-        CheckAboveZero(txtBuffLimit, u"######0.000");
+        CheckNotZero(txtBuffLimit, u"######0.000");
 }
 
 void frmAutoSettings::ComboReceipt_LostFocus()
@@ -179,6 +200,8 @@ void frmAutoSettings::ComboReceipt_LostFocus()
 
 void frmAutoSettings::CheckRepeatCol_LostFocus()
 {
+    if (!LeadsOn())
+        return;
     SSTab.SetTab(Payment);
     ComboPaymentDuration.SetFocus();
 }
@@ -195,7 +218,9 @@ void frmAutoSettings::txtCow_LostFocus()
 
 void frmAutoSettings::txtBuff_LostFocus()
 {
-    if (txtCow.IsEmpty() || !CheckKapat(txtBuff))
+    if (!txtCow.IsEmpty() && !CheckKapat(txtBuff))
+        return;
+    if (!LeadsOn())
         return;
     SSTab.SetTab(Sale);
     txtCowSaleRate.SetFocus();
@@ -212,18 +237,20 @@ void frmAutoSettings::cmbFatRateType_LostFocus()
 
 void frmAutoSettings::txtCowSaleRate_LostFocus()
 {
-    CheckAboveZero(txtCowSaleRate, u"#####0.00");
+    CheckNotZero(txtCowSaleRate, u"#####0.00");
 }
 
 void frmAutoSettings::txtBuffSaleRate_LostFocus()
 {
     if (!txtCowSaleRate.IsEmpty())
-        CheckAboveZero(txtBuffSaleRate, u"######0.00");
+        CheckNotZero(txtBuffSaleRate, u"######0.00");
 }
 
 void frmAutoSettings::txtMixSaleRate_LostFocus()
 {
-    if (txtBuffSaleRate.IsEmpty() || !CheckAboveZero(txtMixSaleRate, u"#####0.00"))
+    if (!txtBuffSaleRate.IsEmpty() && !CheckNotZero(txtMixSaleRate, u"#####0.00"))
+        return;
+    if (!LeadsOn())
         return;
     SSTab.SetTab(Collection);
     CmdSave.SetFocus();

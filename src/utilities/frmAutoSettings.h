@@ -22,6 +22,7 @@ public:
 protected:
     void Load() override;
     bool KeyDown(const QKeyEvent& key) override;
+    void Escape() override;
 
 private:
     Label lblTitle{this, "lblTitle"};
@@ -72,6 +73,7 @@ private:
     Button cmdReceipt{this, "cmdReceipt", Shivaji(u"pavatI p`kar")};
 
     ReportControl CRMilkReceipt;
+    bool HasOwnWay = false; // the running key leads elsewhere than on
 
     void Wire();
     void LayOut();
@@ -79,6 +81,7 @@ private:
     QLayout* PaymentPage();
     QLayout* SalePage();
     void SetGuides();
+    bool GoToSalesPrint(const QKeyEvent& key);
 
     void SSTab_Click();
     void CheckCNP_Click();
@@ -104,9 +107,12 @@ private:
     void txtMixSaleRate_LostFocus();
     void ComboMSRPrintStatus_LostFocus();
 
+    // Whether the last field of a page leads on to what comes next, or the clerk is going elsewhere.
+    bool LeadsOn() const { return !IsSteppingBack() && !HasOwnWay; }
+
     // These return whether the field may be left.
     bool CheckChoice(ChoiceCombo& combo);
-    bool CheckAboveZero(NumberField& field, QStringView pattern);
+    bool CheckNotZero(NumberField& field, QStringView pattern);
     bool CheckKapat(NumberField& field);
 
     // The row behind the screen

@@ -121,8 +121,7 @@ QString frmAutoSettings::InsertStatement()
         txtMixSaleRate.Text(), next, gAppState.gWeighScale, u"')");
 }
 
-// Stages the sample bill and shows it in the chosen layout. Before a layout was ever chosen there is no
-// template to print it with.
+// Stages the sample bill and shows it in the chosen layout; one that isn't known keeps the layout before.
 void frmAutoSettings::cmdReceipt_Click()
 {
     Transaction staging(gCn);
@@ -134,8 +133,10 @@ void frmAutoSettings::cmdReceipt_Click()
         CRMilkReceipt.SetReportFileName(AppFolder.toString() + layout.sampleTemplate);
     gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
     staging.Commit();
-    if (CRMilkReceipt.ReportFileName().isEmpty())
+    if (CRMilkReceipt.ReportFileName().isEmpty()) {
+        TellNoTemplate();
         return;
+    }
     CRMilkReceipt.SetLogon(Logon());
     CRMilkReceipt.Print();
 }

@@ -104,6 +104,62 @@ TEST_F(AbsentMembersTest, TheFirstShiftOfAllGivesAnEmptyList)
     EXPECT_TRUE(AbsentOn("15042026").empty());
 }
 
+TEST_F(AbsentMembersTest, AnEmptyListIsToldInTheGuideUntilThereIsAnother)
+{
+    Bring("14/04/2026", "sakaL", 1, 1, "rama", "gaaya");
+    AskingAfter([this](Clerk& clerk) {
+        Type(clerk, "13042026{ENTER}1{ENTER}");
+        EXPECT_FALSE(Shows(clerk, "lblFooter"));
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Label(clerk, "lblFooter"), "कालच्या या वेळेतील कोणीही गैरहजर नाही");
+        EXPECT_TRUE(Shows(clerk, "lblFooter"));
+        Bring("12/04/2026", "sakaL", 1, 1, "rama", "gaaya");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Grid(clerk, "DataGridMembers").Rows(), 1);
+        EXPECT_FALSE(Shows(clerk, "lblFooter"));
+    });
+}
+
+TEST_F(AbsentMembersTest, ADeliveryWithoutACompanyCountsLikeAnyOther)
+{
+    Bring("14/04/2026", "sakaL", 1, 1, "rama", "gaaya");
+    Bring("14/04/2026", "sakaL", 2, 2, "saIta", "mhOsa");
+    Bring("15/04/2026", "sakaL", 1, 2, "saIta", "mhOsa");
+    Run(QStringLiteral("update MilkCollections set CompanyId=0"));
+    EXPECT_EQ(AbsentOn("15042026"), std::vector{Member(1, "rama")});
+    EXPECT_EQ(Listed(), Of({"1|1|rama"})) << "listed for the company of the screen";
+}
+
+TEST_F(AbsentMembersTest, TheListHasItsCaptions)
+{
+    AskingAfter([](Clerk& clerk) { EXPECT_EQ(Heads(Grid(clerk, "DataGridMembers")), "मेम्बर नं.|मेम्बरचे नाव"); });
+}
+
+TEST_F(AbsentMembersTest, EscClosesWithoutClearing)
+{
+    TheClerk.Play(
+        [] {
+            frmAbsenseMemberCollection screen;
+            screen.ShowModal();
+            EXPECT_EQ(screen.Find(u"MaskDate")->Text(), QStringLiteral("15/04/2026"));
+            EXPECT_EQ(screen.Find(u"txtTime")->Text(), QStringLiteral("sakaL"));
+        },
+        [](Clerk& clerk) {
+            Type(clerk, "15042026{ENTER}1{ESC}");
+            EXPECT_EQ(clerk.ScreenName(), QString());
+        });
+}
+
+TEST_F(AbsentMembersTest, TheCalculatorAndTheKeyboardTutorAreAtHand)
+{
+    AskingAfter([this](Clerk& clerk) {
+        Type(clerk, "{F2}");
+        EXPECT_EQ(TheCalculator.Started, Of({"C:\\Tarvel01\\Vetrolan\\calc.EXE maximised"}));
+        Type(clerk, "{F12}");
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
+    });
+}
+
 TEST_F(AbsentMembersTest, OnlyTheShiftAskedForCounts)
 {
     Bring("14/04/2026", "saMQyaakaL", 1, 1, "rama", "gaaya");

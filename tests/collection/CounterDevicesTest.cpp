@@ -99,6 +99,37 @@ TEST_F(CounterDevicesTest, TheTesterFillsTheFat)
     });
 }
 
+TEST_F(CounterDevicesTest, WithNoScaleOnlyTheFatIsRead)
+{
+    Devices("NO", "haoya", "haoya");
+    Reply("W", "ST,GS,00000000 4.5%");
+    InTheMorning([this](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtLiters");
+        EXPECT_EQ(Reads(clerk, "txtLiters"), "0");
+        EXPECT_TRUE(Ports.TakeLog().isEmpty());
+        Type(clerk, "2{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtFat");
+        EXPECT_EQ(Reads(clerk, "txtFat"), "4.5");
+        EXPECT_EQ(Reads(clerk, "txtLiters"), "2.000");
+        EXPECT_EQ(Ports.TakeLog(), Of({"open 1 2400,n,8,1", "dtr", "write W", "close"}));
+    });
+}
+
+TEST_F(CounterDevicesTest, OneKeyReadsASilentTesterOnce)
+{
+    Devices("NO", "naahI", "haoya");
+    InTheMorning([this](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}2{ENTER}");
+        EXPECT_EQ(Ports.TakeLog().count(QStringLiteral("write W")), 1) << "on entering the fat";
+        for (int time = 0; time < 3; ++time) {
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(Focus(clerk), "txtFat");
+            EXPECT_EQ(Ports.TakeLog().count(QStringLiteral("write W")), 1) << "the repeated exchange alone";
+        }
+    });
+}
+
 TEST_F(CounterDevicesTest, WithoutAFatTheFieldIsNotLeftUntilTheTesterGivesOneOrIsTurnedOff)
 {
     Devices("NO", "naahI", "haoya");
@@ -158,11 +189,22 @@ TEST_F(CounterDevicesTest, ASaveSendsTheTareByTheSwitchAndNotByTheStoredSetting)
         EXPECT_EQ(Books().size(), 1);
         EXPECT_TRUE(Ports.TakeLog().contains(QStringLiteral("write z")));
         EXPECT_EQ(Reads(clerk, "txtLiters"), "");
+    });
+    EXPECT_EQ(One(QStringLiteral("select AutoLiters from AutoSettings")), QStringLiteral("naahI"));
+}
+
+TEST_F(CounterDevicesTest, WithBothButtonsOffNothingIsSentAndNoTareEither)
+{
+    Devices("ELECTRO", "haoya", "haoya");
+    Set("AutoLiters", "haoya");
+    On<frmMilkCollections>([this](Clerk& clerk) {
         clerk.Press(QStringLiteral("cmdAutoLiter"));
-        clerk.Press(QStringLiteral("txtCollectionNo"));
-        Deliver(clerk, 2, "2", "8");
-        EXPECT_EQ(Books().size(), 2);
-        EXPECT_TRUE(Ports.TakeLog().isEmpty()) << "with both switches off nothing is sent";
+        clerk.Press(QStringLiteral("cmdAutoFat"));
+        clerk.Press(QStringLiteral("maskDate"));
+        Type(clerk, "{ENTER}1{ENTER}");
+        Deliver(clerk, 1, "5", "4.5");
+        EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|5|4.5|35|175"}));
+        EXPECT_TRUE(Ports.Log.isEmpty());
     });
 }
 

@@ -29,6 +29,15 @@ std::string CounterTest::Line(const DataGrid& grid, int row)
     return cells.join(u'|').toStdString();
 }
 
+std::string CounterTest::Heads(const DataGrid& grid)
+{
+    const QAbstractItemModel& model = *static_cast<QTableView*>(grid.Widget())->model();
+    QStringList heads;
+    for (int column = 0; column < model.columnCount(); ++column)
+        heads.append(model.headerData(column, Qt::Horizontal).toString());
+    return heads.join(u'|').toStdString();
+}
+
 QStringList CounterTest::Of(std::initializer_list<const char*> lines)
 {
     QStringList list;

@@ -23,6 +23,9 @@ protected:
     // What the counters have sent to the printer or to the screen.
     std::vector<CounterReport::Run> Printed;
 
+    // Lets the counters print through the report controls again, as they do for a clerk.
+    void PrintForReal() { CounterReport::Engine() = m_engine; }
+
     // Plays on the counter as it opens, with the focus on the date.
     void AtTheCounter(const std::function<void(Clerk&)>& script) { On<frmMilkCollections>(script); }
 
@@ -70,6 +73,9 @@ protected:
 
     // The cells of a row of a grid as they are seen, separated by '|'.
     static std::string Line(const DataGrid& grid, int row);
+
+    // The captions of a grid's columns, the same way.
+    static std::string Heads(const DataGrid& grid);
 
     static bool Shows(Clerk& clerk, const char* label) { return !LabelOf(clerk, label).isHidden(); }
 

@@ -34,7 +34,7 @@ protected:
     static std::string MorningLine(const std::string& date, const std::string& number, const std::string& fat)
     {
         return date + '|' + Seen(QStringLiteral("sakaL")).toStdString() + '|' + number + '|'
-            + Seen(QStringLiteral("gaaya")).toStdString() + "|5|" + fat + "|35|175";
+            + Seen(QStringLiteral("gaaya")).toStdString() + "|5.000|" + fat + "|35.00|175.00";
     }
 
     // From the member's number to that row, with the list opened.
@@ -196,6 +196,14 @@ TEST_F(DailyCollectionChangesTest, DeletingOpensOnlyWhatFindsTheRow)
     });
 }
 
+TEST_F(DailyCollectionChangesTest, ShiftTabLeadsFromTheNumberBackToTheShiftWithoutADeletionAtHand)
+{
+    After("%k1{ENTER}{ENTER}15042026{ENTER}1{ENTER}5+{TAB}", [](Clerk& clerk) {
+        EXPECT_EQ(Focus(clerk), "cmbCollectionTime");
+        EXPECT_EQ(Reads(clerk, "txtLiters"), "5");
+    });
+}
+
 TEST_F(DailyCollectionChangesTest, ADeletionTakesTheNumberOfMemberAndShiftOnEveryDay)
 {
     Add("17/04/2026", "saMQyaakaL", 5, 1, 4.5);
@@ -218,6 +226,56 @@ TEST_F(DailyCollectionChangesTest, ADeletionTakesTheNumberOfMemberAndShiftOnEver
             "1|17/04/2026|sakaL|5|2", "2|18/04/2026|sakaL|5|1"}));
 }
 
+TEST_F(DailyCollectionChangesTest, ADeletionLeavesTheMembersFiguresAlone)
+{
+    Run(QStringLiteral("update MembersMaster set ClosingBalance=525,ClosingDorC='C',CowClosingLits=15"));
+    const QString members = QStringLiteral("select MemberNo,ClosingBalance,ClosingDorC,CowClosingLits,"
+                                           "BuffClosingLits from MembersMaster");
+    const QStringList before = Rows(members);
+    InTheOffice([](Clerk& clerk) {
+        GoTo(clerk, "%k", "15042026", 5);
+        Type(clerk, "{ENTER}");
+    });
+    EXPECT_EQ(Books().size(), 2);
+    EXPECT_EQ(Rows(members), before);
+}
+
+TEST_F(DailyCollectionChangesTest, ADeletionAsksForNoPayment)
+{
+    Run(QStringLiteral("insert into MilkPayments(CompanyId,MemberNo,FromDate,ToDate) "
+                       "values(1,1,'15/04/2026','15/04/2026')"));
+    InTheOffice([](Clerk& clerk) {
+        GoTo(clerk, "%k", "15042026", 5);
+        Type(clerk, "{ENTER}");
+        ExpectIdle(clerk, "cmdDelete");
+    });
+    EXPECT_TRUE(TheBox.Shown.isEmpty());
+    EXPECT_EQ(Books().size(), 2);
+}
+
+// Guides
+
+TEST_F(DailyCollectionChangesTest, TheGuidesSayHowARowIsFoundAndWhatIsSaved)
+{
+    for (const char* mode : {"%d", "%k"}) {
+        After(mode, [](Clerk& clerk) {
+            EXPECT_EQ(Label(clerk, "lblGuide"), "नोंद शोधा : मेम्बर, दिनांक, वेळ, संकलन क्रमांक");
+            Type(clerk, "1{ENTER}{ENTER}15042026{ENTER}1{ENTER}");
+            EXPECT_EQ(Label(clerk, "lblGuide"), "Enter : ही नोंद");
+        });
+    }
+    InTheOffice([](Clerk& clerk) {
+        GoTo(clerk, "%d", "15042026", 5);
+        EXPECT_EQ(Label(clerk, "lblGuide"), "दूध प्रकार नोंदीचाच ठेवा : दुसरा सेव्ह होत नाही");
+        Type(clerk, "%r%n");
+        EXPECT_EQ(Label(clerk, "lblGuide"), "F5 : मेम्बरचे आतापर्यंतचे संकलन");
+        Type(clerk, "3{ENTER}{ENTER}15042026{ENTER}1{ENTER}");
+        EXPECT_EQ(Label(clerk, "lblGuide"), "");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Label(clerk, "lblGuide"), Seen(QStringLiteral("  1 ¹ gaaya    2 ¹ mhOsa")).toStdString());
+    });
+}
+
 // Cancel
 
 TEST_F(DailyCollectionChangesTest, CancelGoesBackToIdle)
@@ -226,6 +284,23 @@ TEST_F(DailyCollectionChangesTest, CancelGoesBackToIdle)
         InTheOffice([mode](Clerk& clerk) {
             Type(clerk, mode);
             Type(clerk, "1{ENTER}%r");
+            ExpectIdle(clerk, "cmdAdd");
+        });
+    }
+}
+
+TEST_F(DailyCollectionChangesTest, CancelByItsKeyIsNotHeldByAFieldThatRefuses)
+{
+    const char* refused[] = {"%n1{ENTER}{ENTER}", "%n1{ENTER}{ENTER}15042026{ENTER}",
+        "%n3{ENTER}{ENTER}15042026{ENTER}1{ENTER}{ENTER}",
+        "%n1{ENTER}{ENTER}15042026{ENTER}1{ENTER}{ENTER}{ENTER}",
+        "%n1{ENTER}{ENTER}15042026{ENTER}1{ENTER}{ENTER}{ENTER}5{ENTER}"};
+    for (const char* keys : refused) {
+        After(keys, [keys](Clerk& clerk) {
+            const std::string field = Focus(clerk);
+            Type(clerk, "{ENTER}");
+            ASSERT_EQ(Focus(clerk), field) << keys;
+            Type(clerk, "%r");
             ExpectIdle(clerk, "cmdAdd");
         });
     }
@@ -257,6 +332,17 @@ TEST_F(DailyCollectionChangesTest, F5ListsTheMembersRowsWhileAdding)
     });
 }
 
+TEST_F(DailyCollectionChangesTest, TheListHasItsCaptionsAndItsFiguresTheirDecimals)
+{
+    Run(QStringLiteral("update MilkCollections set Liters=5.5,Rate=35.5,Amount=195.25 where CollectionNo=7"));
+    Adding([](Clerk& clerk) {
+        Type(clerk, "1{F5}");
+        const DataGrid& list = Grid(clerk, "DataGrid1");
+        EXPECT_EQ(Heads(list), "दिनांक|वेळ|संकलन क्रं|दूध प्रकार|लिटर्स|फॅट|दर|रक्कम");
+        EXPECT_GE(RowOf(clerk, "15/04/2026|सकाळ|7|गाय|5.500|4.55|35.50|195.25"), 0);
+    });
+}
+
 TEST_F(DailyCollectionChangesTest, F5InTheNumberHidesTheListToo)
 {
     Adding([](Clerk& clerk) {
@@ -284,7 +370,7 @@ TEST_F(DailyCollectionChangesTest, F5ClearsTheCompanyThatIsNeverUsed)
 TEST_F(DailyCollectionChangesTest, APickedRowIsShownOnLeavingItsNumberAndIsADuplicate)
 {
     Adding([this](Clerk& clerk) {
-        ListAndMoveTo(clerk, MorningLine("15/04/2026", "5", "4.5"));
+        ListAndMoveTo(clerk, MorningLine("15/04/2026", "5", "4.50"));
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         EXPECT_FALSE(CanEnter(clerk, "DataGrid1"));
@@ -304,7 +390,7 @@ TEST_F(DailyCollectionChangesTest, APickedRowIsShownOnLeavingItsNumberAndIsADupl
 TEST_F(DailyCollectionChangesTest, ARowIsPickedByTheMouse)
 {
     Adding([](Clerk& clerk) {
-        ListAndMoveTo(clerk, MorningLine("16/04/2026", "5", "4.5"));
+        ListAndMoveTo(clerk, MorningLine("16/04/2026", "5", "4.50"));
         clerk.Press(QStringLiteral("DataGrid1"));
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         EXPECT_EQ(Reads(clerk, "MasKCollectionDate"), "16/04/2026");

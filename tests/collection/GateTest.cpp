@@ -1,4 +1,4 @@
-#include "CounterTest.h"
+#include "GateTest.h"
 
 #include "ScreenDirectory.h"
 
@@ -7,63 +7,6 @@ namespace {
 class frmAbsent final : public Screen {
 public:
     frmAbsent() : Screen("frmAbsenseMemberCollection") { }
-};
-
-// The morning has four deliveries already.
-class GateTest : public CounterTest {
-protected:
-    GateTest()
-    {
-        AddMilk(1, 1, "rama", "gaaya", 5, 4.5, 35, 175);
-        AddMilk(2, 2, "saIta", "mhOsa", 2.5, 8, 49, 122.5);
-        AddMilk(3, 3, "gaNaoSa", "gaaya", 7, 4, 32, 224);
-        AddMilk(4, 3, "gaNaoSa", "mhOsa", 2.5, 7, 45, 112.5);
-    }
-
-    void AddMilk(int number, int member, const char* name, const char* animal, double liters, double fat,
-        double rate, double amount)
-    {
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), number, member,
-            QString::fromLatin1(name), QString::fromLatin1(animal), liters, fat, rate, amount);
-    }
-
-    // The numbers in the list, from the top down.
-    static std::string Listed(Clerk& clerk)
-    {
-        const DataGrid& grid = Grid(clerk, "DataGridInwards");
-        std::string numbers;
-        for (int row = 0; row < grid.Rows(); ++row)
-            numbers += grid.Cell(row, 0).toStdString();
-        return numbers;
-    }
-
-    // At the gate with the search on and the focus on the collection number.
-    void Searching(const std::function<void(Clerk&)>& script)
-    {
-        AtTheGate([&](Clerk& clerk) {
-            clerk.Press(QStringLiteral("chkSerachMode"));
-            PressAndSelect(clerk, "txtCollectionNo");
-            script(clerk);
-        });
-    }
-
-    // With the mouse into a field, whose text is to be typed over.
-    static void PressAndSelect(Clerk& clerk, const char* field)
-    {
-        clerk.Press(QString::fromLatin1(field));
-        Type(clerk, "{HOME}+{END}");
-    }
-
-    static std::string ColourOf(Clerk& clerk, const char* control, QPalette::ColorRole role)
-    {
-        return clerk.Top()
-            .Find(QString::fromLatin1(control))
-            ->Widget()
-            ->palette()
-            .color(QPalette::Active, role)
-            .name()
-            .toStdString();
-    }
 };
 
 TEST_F(GateTest, LitresHaveTwoDecimalsInTheFieldTheListAndTheTotals)
@@ -165,6 +108,82 @@ TEST_F(GateTest, EscAndItsButtonCloseIt)
     EXPECT_EQ(Books().size(), 4);
 }
 
+TEST_F(GateTest, AltBLeavesItFromEveryField)
+{
+    AddMorningDelivery(5);
+    for (const auto& [keys, field] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"+{TAB}", "txtTime"}, {"+{TAB}+{TAB}", "maskDate"}, {"+{TAB}+{TAB}31022026", "maskDate"},
+             {"+{TAB}+{TAB}15042027{ENTER}", "txtTime"}, {"5{ENTER}", "txtMemberNo"},
+             {"{ENTER}{ENTER}", "ComboMemberName"}, {"{ENTER}3{ENTER}", "txtAnimal"},
+             {"{ENTER}1{ENTER}", "txtLiters"}, {"{ENTER}1{ENTER}2{ENTER}99", "txtFat"},
+             {"{ENTER}1{ENTER}2{ENTER}4.5{ENTER}", "txtRate"},
+             {"{ENTER}1{ENTER}2{ENTER}4.5{ENTER}{ENTER}", "cmdGo"}}) {
+        AtTheGate([&](Clerk& clerk) {
+            Type(clerk, keys);
+            EXPECT_EQ(Focus(clerk), field);
+            Type(clerk, "%b");
+            if (clerk.ScreenName() == u"frmMessages") // an empty name is asked for on the way
+                Type(clerk, "{ENTER}");
+            EXPECT_TRUE(clerk.ScreenName().isEmpty()) << field;
+        });
+        EXPECT_FALSE(Failure) << field;
+    }
+    EXPECT_EQ(Books().size(), 5);
+}
+
+// By keyboard: what stands behind the entry line is reached backwards from the date
+
+TEST_F(GateTest, TheSearchBoxIsReachedBackwardsFromTheDate)
+{
+    AtTheGate([](Clerk& clerk) {
+        Type(clerk, "+{TAB}+{TAB}+{TAB}");
+        EXPECT_EQ(Focus(clerk), "chkSerachMode");
+        Type(clerk, " ");
+        EXPECT_EQ(Reads(clerk, "chkSerachMode"), "1");
+        Type(clerk, "{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtCollectionNo");
+        Type(clerk, "{ENTER}3");
+        EXPECT_EQ(Listed(clerk), "43");
+    });
+}
+
+TEST_F(GateTest, TheSortButtonsAreReachedBackwardsFromTheDate)
+{
+    AtTheGate([](Clerk& clerk) {
+        Type(clerk, "+{TAB}+{TAB}+{TAB}+{TAB}+{TAB}");
+        for (const auto& [button, rows] :
+            std::initializer_list<std::pair<const char*, const char*>>{{"cmdAmtOrder", "3124"},
+                {"cmdRateOrder", "2413"}, {"cmdFatOrder", "2413"}, {"cmdLtrOrder", "3124"}}) {
+            Type(clerk, "+{TAB}");
+            EXPECT_EQ(Focus(clerk), button);
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(Reads(clerk, button), "↓");
+            EXPECT_EQ(Listed(clerk), rows) << button;
+        }
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Reads(clerk, "cmdLtrOrder"), "↑");
+        EXPECT_EQ(Listed(clerk), "2413");
+    });
+}
+
+TEST_F(GateTest, TheDeviceButtonsAreReachedBackwardsFromTheDate)
+{
+    AtTheGate([](Clerk& clerk) {
+        Type(clerk, "+{TAB}+{TAB}+{TAB}+{TAB}+{TAB}+{TAB}+{TAB}+{TAB}+{TAB}");
+        for (const auto& [button, before, after] :
+            {std::tuple("cmdPrinterOnOff", "ip`MTr sau$", "ip`MTr baMd"), {"cmdAutoFat", "baMd", "sau$"},
+                {"cmdAutoLiter", "baMd", "sau$"}}) {
+            Type(clerk, "+{TAB}");
+            EXPECT_EQ(Focus(clerk), button);
+            EXPECT_EQ(Reads(clerk, button), before);
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(Reads(clerk, button), after);
+        }
+        EXPECT_EQ(gAppState.gAutoLiters, QStringLiteral("haoya"));
+        EXPECT_EQ(gAppState.gAutoFat, QStringLiteral("haoya"));
+    });
+}
+
 TEST_F(GateTest, AbsentMembersAreAScreenOfTheirOwn)
 {
     ScreenDirectory::Add(
@@ -212,128 +231,6 @@ TEST_F(GateTest, TheOrderStaysThroughASave)
         Type(clerk, "2{ENTER}{ENTER}9{ENTER}{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Listed(clerk)[0], '2');
     });
-}
-
-// The search
-
-TEST_F(GateTest, WithTheBoxOffNothingIsFiltered)
-{
-    AtTheGate([](Clerk& clerk) {
-        Type(clerk, "{ENTER}1");
-        EXPECT_EQ(Listed(clerk), "4321");
-    });
-}
-
-TEST_F(GateTest, TheListFollowsTheNumberKeystrokeByKeystroke)
-{
-    Searching([](Clerk& clerk) {
-        Type(clerk, "{ENTER}3");
-        EXPECT_EQ(Listed(clerk), "43");
-        Type(clerk, "1");
-        EXPECT_EQ(Listed(clerk), "");
-        Type(clerk, "{BS}");
-        EXPECT_EQ(Listed(clerk), "43");
-        Type(clerk, "{BS}");
-        EXPECT_EQ(Listed(clerk), "4321") << "an emptied field shows the whole shift";
-    });
-}
-
-TEST_F(GateTest, ANewEntryNarrowsTheListAndIsSavedAgainstTheWholeShift)
-{
-    Searching([this](Clerk& clerk) {
-        Type(clerk, "{ENTER}3{ENTER}");
-        EXPECT_EQ(Focus(clerk), "txtAnimal");
-        EXPECT_EQ(Listed(clerk), "43") << "the name found by the number filters last";
-        Type(clerk, "1");
-        EXPECT_EQ(Listed(clerk), "31") << "filters don't combine";
-        Type(clerk, "{ENTER}2{ENTER}4.5{ENTER}{ENTER}{ENTER}");
-        EXPECT_EQ(TheBox.Shown, Of({"Duplicate Record"}));
-        Set("RepeatCollection", "haoya");
-        DeliverOf(clerk, 3, 1, "2", "4.5");
-        EXPECT_EQ(Books().last().toStdString(), "5|3|gaNaoSa|gaaya|2|4.5|35|70");
-        EXPECT_EQ(Listed(clerk), "54321") << "the emptied line shows the whole shift";
-        EXPECT_EQ(Label(clerk, "lblTotalCowLiters"), "14.00");
-    });
-}
-
-TEST_F(GateTest, LitresFatAndRateAreSearchedByTheirValue)
-{
-    Searching([](Clerk& clerk) {
-        clerk.Press(QStringLiteral("txtLiters"));
-        Type(clerk, "2.5");
-        EXPECT_EQ(Listed(clerk), "42");
-    });
-    Searching([](Clerk& clerk) {
-        PressAndSelect(clerk, "txtFat");
-        Type(clerk, "7");
-        EXPECT_EQ(Listed(clerk), "4");
-        Type(clerk, ".");
-        EXPECT_EQ(Listed(clerk), "4");
-    });
-    Searching([](Clerk& clerk) {
-        clerk.Press(QStringLiteral("txtRate"));
-        Type(clerk, "49");
-        EXPECT_EQ(Listed(clerk), "2");
-    });
-}
-
-TEST_F(GateTest, ANamesFirstLettersShowAllThatBeginWithThem)
-{
-    AddMember(4, QStringLiteral("rajaa"));
-    AddMilk(5, 4, "rajaa", "gaaya", 1, 4, 32, 32);
-    Searching([](Clerk& clerk) {
-        Type(clerk, "{ENTER}{ENTER}r");
-        EXPECT_EQ(Listed(clerk), "51");
-        Type(clerk, "aj");
-        EXPECT_EQ(Listed(clerk), "5");
-        Type(clerk, "{BS}{BS}{BS}");
-        EXPECT_EQ(Listed(clerk), "54321");
-    });
-}
-
-TEST_F(GateTest, ARowLoadedIntoTheLineFiltersToo)
-{
-    Searching([](Clerk& clerk) {
-        Type(clerk, "2{ENTER}");
-        EXPECT_EQ(Listed(clerk), "2") << "its rate is set last";
-    });
-}
-
-TEST_F(GateTest, SortingShowsTheWholeShiftAgain)
-{
-    Searching([](Clerk& clerk) {
-        Type(clerk, "{ENTER}1{ENTER}5");
-        EXPECT_EQ(Listed(clerk), "1");
-        clerk.Press(QStringLiteral("cmdLtrOrder"));
-        EXPECT_EQ(Listed(clerk).size(), 4U);
-    });
-}
-
-TEST_F(GateTest, TheTotalsGoByTheWholeShift)
-{
-    Searching([](Clerk& clerk) {
-        Type(clerk, "{ENTER}3");
-        EXPECT_EQ(Label(clerk, "lblTotalCowLiters"), "12.00");
-        EXPECT_EQ(Label(clerk, "lblTotalBuffLiters"), "5.00");
-    });
-}
-
-TEST_F(GateTest, TheFilterStaysWhenTheSearchIsTurnedOff)
-{
-    Searching([](Clerk& clerk) {
-        Type(clerk, "{ENTER}1{ENTER}5");
-        clerk.Press(QStringLiteral("chkSerachMode"));
-        EXPECT_EQ(Reads(clerk, "chkSerachMode"), "0");
-        EXPECT_EQ(Listed(clerk), "1");
-    });
-}
-
-TEST_F(GateTest, AMembersNameWithAnApostropheEndsTheProgram)
-{
-    gCn.RunScript(QStringLiteral("update MilkCollections set MemberName='ra''ma' where CollectionNo=1"));
-    Searching([](Clerk& clerk) { Type(clerk, "1{ENTER}"); });
-    ASSERT_TRUE(Failure);
-    EXPECT_TRUE(Failure->Statement().contains(QStringLiteral("ra'ma")));
 }
 
 }

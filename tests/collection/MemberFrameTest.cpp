@@ -1,73 +1,15 @@
-#include "CounterTest.h"
+#include "MemberFrameTest.h"
 
+#include "Keys.h"
 #include "ScreenDirectory.h"
+
+#include <algorithm>
 
 namespace {
 
 class frmAbsent final : public Screen {
 public:
     frmAbsent() : Screen("frmAbsenseMemberCollection") { }
-};
-
-// Member 3 brought both kinds of milk on the 13th and the 14th; the morning of the 15th is open.
-class MemberFrameTest : public CounterTest {
-protected:
-    MemberFrameTest()
-    {
-        AddMilk("13/04/2026", "sakaL", 4, "gaaya", 10, 4, 300);
-        AddMilk("13/04/2026", "saMQyaakaL", 7, "gaaya", 5, 5, 175.5);
-        AddMilk("14/04/2026", "sakaL", 2, "mhOsa", 2, 7, 90);
-        AddMilk("14/04/2026", "saMQyaakaL", 1, "mhOsa", 6, 8, 294.25);
-        AddMorningDelivery(1);
-    }
-
-    void AddMilk(const char* date, const char* shift, int number, const char* animal, double liters,
-        double fat, double amount)
-    {
-        AddDelivery(QString::fromLatin1(date), QString::fromLatin1(shift), number, 3,
-            QStringLiteral("gaNaoSa"), QString::fromLatin1(animal), liters, fat, 35, amount);
-    }
-
-    // With the frame open and the focus on its first date.
-    void InTheFrame(const std::function<void(Clerk&)>& script)
-    {
-        InTheMorning([&](Clerk& clerk) {
-            Type(clerk, "{ENTER}2{F7}");
-            script(clerk);
-        });
-    }
-
-    // The period of both days, and the member by number.
-    static void Ask(Clerk& clerk, const char* member)
-    {
-        clerk.Type(QStringLiteral("13042026{ENTER}14042026{ENTER}%1{ENTER}{ENTER}{ENTER}")
-                       .arg(QString::fromLatin1(member)));
-    }
-
-    static const DataGrid& Milk(Clerk& clerk) { return Grid(clerk, "DataGridMilk"); }
-    static bool IsOpen(Clerk& clerk)
-    {
-        return clerk.Top().findChild<QWidget*>(QStringLiteral("FrameMilkCollection"))->isVisible();
-    }
-    static std::string Labels(Clerk& clerk, std::initializer_list<const char*> names)
-    {
-        std::string all;
-        for (const char* name : names)
-            all += Label(clerk, name) + '|';
-        return all;
-    }
-    static std::string Cow(Clerk& clerk)
-    {
-        return Labels(clerk,
-            {"lblCowLitM", "lblCowLitE", "lblCowTotalLiters", "lblCowTotalM", "lblCowTotalE", "lblCowTotal",
-                "lblCowAvgFatM", "lblCowAvgFatE", "lblCowTotalAvgFat"});
-    }
-    static std::string Buff(Clerk& clerk)
-    {
-        return Labels(clerk,
-            {"lblBuffLitM", "lblBuffLitE", "lblBuffTotalLiters", "lblBuffTotalM", "lblBuffTotalE",
-                "lblBuffTotal", "lblBuffAvgFatM", "lblBuffAvgFatE", "lblBuffTotalAvgFat"});
-    }
 };
 
 constexpr const char* NoMilk = "0.000|0.000|0.000|0.000|0.000|0.000|0.0|0.0|0.0|";
@@ -83,65 +25,6 @@ TEST_F(MemberFrameTest, F7OpensItOnTheFirstDateAndTheLineStaysAsItWas)
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "2");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "") << "the number wasn't checked on leaving it";
         EXPECT_EQ(Cow(clerk), NoMilk);
-    });
-}
-
-TEST_F(MemberFrameTest, ShowsTheMembersRowsOfThePeriodNumberedAnew)
-{
-    InTheFrame([](Clerk& clerk) {
-        Ask(clerk, "3");
-        const DataGrid& grid = Milk(clerk);
-        ASSERT_EQ(grid.Rows(), 4);
-        EXPECT_EQ(Line(grid, 0), "1|13/04/2026|संध्याकाळ|गाय|5.000|5.00|35.00|175.50");
-        EXPECT_EQ(Line(grid, 1), "2|13/04/2026|सकाळ|गाय|10.000|4.00|35.00|300.00");
-        EXPECT_EQ(Line(grid, 2), "3|14/04/2026|संध्याकाळ|म्हैस|6.000|8.00|35.00|294.25");
-        EXPECT_EQ(Line(grid, 3), "4|14/04/2026|सकाळ|म्हैस|2.000|7.00|35.00|90.00");
-    });
-    EXPECT_EQ(Books().size(), 5) << "only the copy is numbered anew";
-    EXPECT_EQ(One(QStringLiteral("select max(CollectionNo) from MilkCollections")), QStringLiteral("7"));
-}
-
-TEST_F(MemberFrameTest, TheSumsAreByAnimalAndHalfOfTheDay)
-{
-    InTheFrame([](Clerk& clerk) {
-        Ask(clerk, "3");
-        EXPECT_EQ(Cow(clerk), "10.000|5.000|15.000|300.000|175.500|475.500|4.0|5.0|4.3|");
-        EXPECT_EQ(Buff(clerk), "2.000|6.000|8.000|90.000|294.250|384.250|7.0|8.0|7.8|");
-    });
-}
-
-TEST_F(MemberFrameTest, OneDeliveryIsOneRowNumberedOne)
-{
-    InTheFrame([](Clerk& clerk) {
-        Type(clerk, "13042026{ENTER}15042026{ENTER}1{ENTER}{ENTER}{ENTER}");
-        ASSERT_EQ(Milk(clerk).Rows(), 1);
-        EXPECT_EQ(Line(Milk(clerk), 0), "1|15/04/2026|सकाळ|गाय|5.000|4.50|35.00|175.00");
-        EXPECT_EQ(Label(clerk, "lblCowTotalM"), "175.000") << "amounts have three decimals here";
-        EXPECT_EQ(Label(clerk, "lblCowAvgFatE"), "0.0");
-    });
-}
-
-TEST_F(MemberFrameTest, AMemberWithoutMilkInThePeriodIsToldAndNothingChanges)
-{
-    InTheFrame([this](Clerk& clerk) {
-        Ask(clerk, "3");
-        const QStringList before = Copy();
-        clerk.Press(QStringLiteral("txtAccountId"));
-        Type(clerk, "{END}{BS}2{ENTER}{ENTER}{ENTER}");
-        EXPECT_EQ(TheBox.Shown, Of({"No Records"}));
-        EXPECT_EQ(Focus(clerk), "txtAccountId");
-        EXPECT_EQ(Copy(), before);
-        EXPECT_EQ(Milk(clerk).Rows(), 4);
-    });
-}
-
-TEST_F(MemberFrameTest, RowsOfAnotherCompanyAndRowsNumberedZeroStayOut)
-{
-    AddMilk("14/04/2026", "sakaL", 3, "gaaya", 1, 4, 35);
-    Run(QStringLiteral("update MilkCollections set CompanyId=2 where CollectionNo=3"));
-    InTheFrame([](Clerk& clerk) {
-        Ask(clerk, "3");
-        EXPECT_EQ(Milk(clerk).Rows(), 4);
     });
 }
 
@@ -256,6 +139,15 @@ TEST_F(MemberFrameTest, TheReloadGoesByTheCompany)
     });
 }
 
+TEST_F(MemberFrameTest, TheReloadLeavesOutRowsNumberedZero)
+{
+    AddMorningDelivery(0);
+    InTheFrame([this](Clerk& clerk) {
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(Copy(), Of({"1|1|rama|gaaya|5|4.5|35|175"}));
+    });
+}
+
 TEST_F(MemberFrameTest, ItsOwnButtonLeadsBackToTheEntryLine)
 {
     InTheFrame([this](Clerk& clerk) {
@@ -267,6 +159,43 @@ TEST_F(MemberFrameTest, ItsOwnButtonLeadsBackToTheEntryLine)
         EXPECT_EQ(Copy(), Of({"1|1|rama|gaaya|5|4.5|35|175"}));
         Type(clerk, "{END}{BS}2{ENTER}2{ENTER}8{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Books().last().toStdString(), "2|2|saIta|mhOsa|2|8|49|98");
+    });
+}
+
+TEST_F(MemberFrameTest, ItsOwnButtonLeadsBackWhateverStandsInItsDates)
+{
+    for (const char* dates : {"", "31022026", "13042026{ENTER}", "13042026{ENTER}3113"})
+        InTheFrame([dates](Clerk& clerk) {
+            Type(clerk, dates);
+            Type(clerk, "%b");
+            EXPECT_FALSE(IsOpen(clerk)) << dates;
+            EXPECT_EQ(Focus(clerk), "txtMemberNo") << dates;
+        });
+}
+
+TEST_F(MemberFrameTest, ItShowsItsOwnKeysInPlaceOfTheCounters)
+{
+    const auto shown = [](Clerk& clerk, const QString& action) {
+        const QList<QLabel*> labels = clerk.Top().findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(),
+            [&](const QLabel* label) { return label->isVisible() && label->text() == action; });
+    };
+    const QString report = Keys::Action(QStringLiteral("FrameMilkCollection"), u"Alt+I").Seen();
+    const QString members = Keys::Action(QStringLiteral("frmMilkCollections"), u"F3").Seen();
+    const auto expect = [&](Clerk& clerk, bool frame) {
+        EXPECT_EQ(shown(clerk, report), frame);
+        EXPECT_EQ(shown(clerk, members), !frame);
+        for (const char* label : {"lblF9", "lblSearch", "lblF7", "lblMilk", "lblF10", "lblDelete"})
+            EXPECT_FALSE(Shows(clerk, label)) << label;
+    };
+    InTheMorning([&](Clerk& clerk) {
+        Type(clerk, "1{ENTER}");
+        EXPECT_TRUE(Shows(clerk, "lblF7"));
+        EXPECT_TRUE(Shows(clerk, "lblF10"));
+        Type(clerk, "{F7}");
+        expect(clerk, true);
+        Type(clerk, "{ESC}");
+        expect(clerk, false);
     });
 }
 

@@ -62,6 +62,17 @@ TEST_F(MilkDevicesTest, ADeviceThatNeverStopsHoldsTheCounterForItsWaitAndNoLonge
     EXPECT_LE(TimeOf([this] { EXPECT_EQ(Written(Devices.ReadLiters(ThreeDecimals)), "-"); }), 1020ms);
 }
 
+TEST_F(MilkDevicesTest, AMarkThatComesLateHoldsTheCounterNoLonger)
+{
+    for (const auto& [scale, mark] : {std::pair("ACE CORP", "+"), std::pair("Micro-Tech", "%")}) {
+        Scale(scale);
+        for (const auto late : {700ms, 900ms, 1019ms}) {
+            Ports.Replies = {{"", {{mark, late}}}};
+            EXPECT_LE(TimeOf([this] { EXPECT_EQ(Written(Devices.ReadFat().fat), "-"); }), 1020ms) << scale;
+        }
+    }
+}
+
 TEST_F(MilkDevicesTest, AReadingReturnsAsSoonAsTheReplyHoldsThePiece)
 {
     Scale("ELECTRO");

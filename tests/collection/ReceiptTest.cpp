@@ -163,7 +163,7 @@ TEST_F(ReceiptTest, TheDeliveryIsOnDiskAndTheNumberHasSteppedOnBeforeTheSlipIsPr
     EXPECT_EQ(atPrinting, Of({"rama", "rama", "rama", "2", ""}));
 }
 
-TEST_F(ReceiptTest, APrinterThatFailsLosesNothing)
+TEST_F(ReceiptTest, ATemplateThatFailsLosesNothing)
 {
     PrintTo("haoya");
     InTheMorning([](Clerk& clerk) {

@@ -1,70 +1,6 @@
-#include "CounterTest.h"
-#include "ScreenDirectory.h"
-#include "frmSearchCollections.h"
+// Finding a member's deliveries: the fields, the search, and what is left of it.
 
-#include <QDeadlineTimer>
-
-namespace {
-
-// In the books: two rows of member 1 and one of member 2 in the morning of the 15th.
-class SearchCollectionsTest : public CounterTest {
-protected:
-    SearchCollectionsTest()
-    {
-        AddMorningDelivery(1);
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 2, 2, QStringLiteral("saIta"),
-            QStringLiteral("mhOsa"), 2, 8, 49, 98);
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 3, 1, QStringLiteral("rama"),
-            QStringLiteral("mhOsa"), 1.5, 8, 49, 73.5);
-        ScreenDirectory::Add(
-            QStringLiteral("frmSearchCollections"), [] { return std::make_unique<frmSearchCollections>(); });
-    }
-    ~SearchCollectionsTest() override { ScreenDirectory::Add(QStringLiteral("frmSearchCollections"), {}); }
-
-    // Goes on as soon as the timer of the opening has ticked.
-    static void AwaitTick(Clerk& clerk)
-    {
-        const QDeadlineTimer limit(10000);
-        while (clerk.On<frmSearchCollections>().TimerStart && !limit.hasExpired())
-            clerk.Do([] {});
-        ASSERT_FALSE(clerk.On<frmSearchCollections>().TimerStart);
-    }
-
-    // Plays as the menu opens it, with the focus on the date.
-    void FromTheMenu(const std::function<void(Clerk&)>& script)
-    {
-        On<frmSearchCollections>([&](Clerk& clerk) {
-            AwaitTick(clerk);
-            script(clerk);
-        });
-    }
-
-    // Plays with a member of the morning looked for by number.
-    void After(int member, const std::function<void(Clerk&)>& script)
-    {
-        FromTheMenu([&](Clerk& clerk) {
-            clerk.Type(QStringLiteral("{ENTER}1{ENTER}%1{ENTER}{ENTER}").arg(member));
-            script(clerk);
-        });
-    }
-
-    // Plays with F9 pressed at a counter on a member of the morning.
-    template <class Counter> void FromTheCounter(int member, const std::function<void(Clerk&)>& script)
-    {
-        On<Counter>([&](Clerk& clerk) {
-            clerk.Type(QStringLiteral("{ENTER}1{ENTER}{ENTER}%1{F9}").arg(member));
-            ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmSearchCollections"));
-            AwaitTick(clerk);
-            script(clerk);
-        });
-    }
-
-    static void ExpectNothingFound(Clerk& clerk)
-    {
-        EXPECT_FALSE(CanEnter(clerk, "DataGridInwards"));
-        EXPECT_FALSE(CanEnter(clerk, "cmdGo"));
-    }
-};
+#include "SearchCollectionsTest.h"
 
 // Opening
 
@@ -113,6 +49,32 @@ TEST_F(SearchCollectionsTest, CalculatorTutorAndEscAnswer)
         EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
         Type(clerk, "{ESC}{ESC}");
         EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+}
+
+TEST_F(SearchCollectionsTest, EscClearsTheFieldsBeforeItCloses)
+{
+    TheClerk.Play(
+        [] {
+            frmSearchCollections screen;
+            screen.ShowModal();
+            EXPECT_EQ(screen.Find(u"maskDate")->Text(), QStringLiteral("__/__/____"));
+            for (const char* field : {"txtTime", "txtMemberNo", "ComboMemberName"})
+                EXPECT_EQ(screen.Find(QString::fromLatin1(field))->Text(), QString()) << field;
+        },
+        [](Clerk& clerk) {
+            AwaitTick(clerk);
+            Type(clerk, "{ENTER}1{ENTER}1{ENTER}{ENTER}");
+            ASSERT_EQ(Focus(clerk), "DataGridInwards");
+            Type(clerk, "{ESC}");
+            EXPECT_EQ(clerk.ScreenName(), QString());
+        });
+}
+
+TEST_F(SearchCollectionsTest, TheListHasItsCaptions)
+{
+    FromTheMenu([](Clerk& clerk) {
+        EXPECT_EQ(Heads(Grid(clerk, "DataGridInwards")), "संकलन क्र.|दूध|लिटर्स|फॅट|दर|रक्कम");
     });
 }
 
@@ -172,13 +134,26 @@ TEST_F(SearchCollectionsTest, ANumberShowsItsMemberAndAnUnknownOneIsEmptied)
     });
 }
 
-TEST_F(SearchCollectionsTest, ANameThatIsNobodysKeepsTheFocusAndTheRows)
+TEST_F(SearchCollectionsTest, ANameThatIsNobodysKeepsTheFocusWhileThereIsNoNumber)
+{
+    FromTheMenu([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}{ENTER}raja{ENTER}");
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "raja");
+        EXPECT_TRUE(dynamic_cast<const NameCombo&>(*clerk.Top().Find(u"ComboMemberName")).IsDroppedDown());
+        ExpectNothingFound(clerk);
+    });
+}
+
+TEST_F(SearchCollectionsTest, ANameThatIsNobodysBesideANumberLetsGoAndLeavesTheRows)
 {
     After(1, [this](Clerk& clerk) {
         Type(clerk, "+{TAB}{END}+{HOME}raja{ENTER}");
-        EXPECT_EQ(Focus(clerk), "ComboMemberName");
+        EXPECT_EQ(Focus(clerk), "maskDate");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "1");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "raja");
         EXPECT_EQ(Copy().size(), 2);
+        EXPECT_TRUE(TheBox.Shown.isEmpty());
         ExpectNothingFound(clerk);
     });
 }
@@ -204,12 +179,45 @@ TEST_F(SearchCollectionsTest, TheMembersRowsOfTheShiftAreShownNewestFirst)
     });
 }
 
+TEST_F(SearchCollectionsTest, FromTheMenuTheCopyIsLeftWithTheMembersRows)
+{
+    Run(QStringLiteral("insert into MilkCollectionsTemp select * from MilkCollections"));
+    After(1, [](Clerk& clerk) {
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+    EXPECT_EQ(Copy(), Of({"1|1|rama|gaaya|5|4.5|35|175", "3|1|rama|mhOsa|1.5|8|49|73.5"}));
+    EXPECT_EQ(Books().size(), 3);
+}
+
+TEST_F(SearchCollectionsTest, ARowWithoutACompanyIsFoundLikeAnyOther)
+{
+    Run(QStringLiteral("update MilkCollections set CompanyId=0 where CollectionNo=3"));
+    After(1, [this](Clerk& clerk) {
+        EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 2);
+        EXPECT_EQ(One(QStringLiteral("select CompanyId from MilkCollectionsTemp where CollectionNo=3")),
+            QStringLiteral("0"));
+    });
+}
+
 TEST_F(SearchCollectionsTest, AMemberIsFoundByNameWithBlanksAroundIt)
 {
     FromTheMenu([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}{ENTER} saIta {ENTER}");
         EXPECT_EQ(Focus(clerk), "DataGridInwards");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "2");
+        EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 1);
+    });
+}
+
+TEST_F(SearchCollectionsTest, ShiftTabLeadsFromTheRowsBackToTheNumberOfAnotherMember)
+{
+    After(1, [](Clerk& clerk) {
+        Type(clerk, "+{TAB}+{TAB}");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+        Type(clerk, "2{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "DataGridInwards");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "saIta");
         EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 1);
     });
 }
@@ -298,110 +306,4 @@ TEST_F(SearchCollectionsTest, TheCounterGoesByWhatWasFoundUntilItsShiftIsLeftAga
         EXPECT_EQ(Copy(), Books());
         EXPECT_EQ(Label(clerk, "lblTotalBuffLiters"), "6.500");
     });
-}
-
-// Printing again
-
-class ReprintTest : public SearchCollectionsTest {
-protected:
-    QStringList Receipt()
-    {
-        return Rows(QStringLiteral("select CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
-                                   "MemberName,Animal,Liters,Fat,Rate,Amount,ActualCollectionTime "
-                                   "from MilkReceipt"));
-    }
-};
-
-TEST_F(ReprintTest, TheRowUnderTheCursorIsPrintedWithoutItsClock)
-{
-    After(1, [this](Clerk& clerk) {
-        Type(clerk, "{DOWN}{ENTER}");
-        EXPECT_EQ(Focus(clerk), "cmdGo");
-        Type(clerk, "{ENTER}");
-        EXPECT_EQ(Receipt(), Of({"1|15/04/2026|sakaL|1|1|rama|gaaya|5|4.5|35|175|NULL"}));
-        clerk.Press(QStringLiteral("DataGridInwards"));
-        Type(clerk, "{UP}%p");
-        EXPECT_EQ(Receipt(), Of({"1|15/04/2026|sakaL|3|1|rama|mhOsa|1.5|8|49|73.5|NULL"}));
-    });
-    EXPECT_EQ(Printed.size(), 2U);
-}
-
-TEST_F(ReprintTest, ItShowsOnTheScreenWhateverTheSettingsSay)
-{
-    for (const char* status : {"naahI", "haoya"}) {
-        Set("PrintStatus", status);
-        Printed.clear();
-        After(1, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}"); });
-        ASSERT_EQ(Printed.size(), 1U) << status;
-        EXPECT_EQ(Printed[0].destination, CounterReport::Destination::Window);
-        EXPECT_EQ(Printed[0].logon, QStringLiteral("dsn=VetrolanDSN;pwd=Doodh#26"));
-    }
-}
-
-TEST_F(ReprintTest, ARowOfAnotherCompanyBecomesOneOfThisForTheSlip)
-{
-    Run(QStringLiteral("update MilkCollections set CompanyId=2 where MemberNo=2"));
-    After(2, [this](Clerk& clerk) {
-        Type(clerk, "{ENTER}{ENTER}");
-        EXPECT_EQ(Receipt(), Of({"1|15/04/2026|sakaL|2|2|saIta|mhOsa|2|8|49|98|NULL"}));
-    });
-    EXPECT_EQ(
-        One(QStringLiteral("select CompanyId from MilkCollections where MemberNo=2")), QStringLiteral("2"));
-}
-
-TEST_F(ReprintTest, ASocietyThatIsNoneLeavesNoSlip)
-{
-    Run(QStringLiteral("delete * from AutoSettings"));
-    gAppState.gCompanyId = 0;
-    After(1, [this](Clerk& clerk) {
-        Type(clerk, "{ENTER}{ENTER}");
-        EXPECT_TRUE(Receipt().isEmpty());
-    });
-}
-
-TEST_F(ReprintTest, EachTypeHasItsTemplateHere)
-{
-    const std::pair<const char*, const char*> types[] = {
-        {"Tašp 1", "C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt"},
-        {"Tašp 2", "C:\\Tarvel01\\Vetrolan\\MilkReceipt2.rpt"},
-        {"Tašp 3", "C:\\Tarvel01\\Vetrolan\\MilkReceiptBhl.rpt"},
-        {"Tašp 4", "C:\\Tarvel01\\Vetrolan\\MilkReceiptGhlp.rpt"},
-        {"Tašp 5", "C:\\Tarvel01\\Sorvelan\\MilkReceiptAtk.rpt"},
-        {" Tašp 6 ", "C:\\Tarvel01\\Vetrolan\\MilkReceiptShenoli.rpt"},
-    };
-    for (const auto& [type, path] : types) {
-        Run(QStringLiteral("update AutoSettings set ReceiptType='%1'").arg(QString::fromUtf8(type)));
-        Printed.clear();
-        After(1, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}"); });
-        ASSERT_EQ(Printed.size(), 1U) << type;
-        EXPECT_EQ(Printed[0].fileName, QString::fromLatin1(path)) << type;
-    }
-}
-
-TEST_F(ReprintTest, WithoutATemplateTheSlipIsStagedAndTheClerkIsTold)
-{
-    for (const char* type : {"Tašp 7", "Tašp 8", "Tašp 9"}) {
-        Run(QStringLiteral("update AutoSettings set ReceiptType='%1'").arg(QString::fromUtf8(type)));
-        TheBox.Shown.clear();
-        After(1, [this](Clerk& clerk) {
-            Type(clerk, "{ENTER}{ENTER}");
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmSearchCollections"));
-            EXPECT_EQ(Receipt().size(), 1);
-        });
-        EXPECT_TRUE(Printed.empty()) << type;
-        EXPECT_EQ(TheBox.Shown.size(), 1) << type;
-    }
-}
-
-TEST_F(ReprintTest, ATypeWithoutATemplateKeepsThatOfTheSlipBefore)
-{
-    After(1, [this](Clerk& clerk) {
-        Type(clerk, "{ENTER}{ENTER}");
-        Run(QString::fromUtf8("update AutoSettings set ReceiptType='Tašp 8'"));
-        Type(clerk, "{ENTER}");
-        ASSERT_EQ(Printed.size(), 2U);
-        EXPECT_EQ(Printed[1].fileName, QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt"));
-    });
-}
-
 }

@@ -1,5 +1,6 @@
 #include "CounterTest.h"
 
+#include <QHeaderView>
 #include <QTableView>
 
 namespace {
@@ -58,15 +59,33 @@ TEST_F(ShiftViewTest, TheListHasItsCaptionsAndWidths)
         std::string widths;
         for (int column = 0; column < view->model()->columnCount(); ++column) {
             captions += view->model()->headerData(column, Qt::Horizontal).toString().toStdString() + '|';
-            widths += std::to_string(view->columnWidth(column)) + '|';
+            if (column < 7)
+                widths += std::to_string(view->columnWidth(column)) + '|';
         }
         EXPECT_EQ(captions, "संकलन क्र.|मेम्बर नंबर|मेम्बरचे नांव|दूध|लिटर्स|फॅट|दर|रक्कम|");
-        EXPECT_EQ(widths, "60|66|206|46|93|80|80|86|");
+        EXPECT_EQ(widths, "60|66|206|46|93|80|80|");
+        EXPECT_GE(view->columnWidth(7), 1300 / 15) << "the amount has what is left";
         for (int column = 4; column < 8; ++column)
             EXPECT_TRUE(Qt::Alignment(
                 view->model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt())
                             .testFlag(Qt::AlignRight));
     });
+}
+
+TEST_F(ShiftViewTest, AnAmountOfLakhsIsNotCutOff)
+{
+    AddMorningDelivery(1);
+    Run(QStringLiteral("update MilkCollections set Liters=9999.999,Amount=1234567.89"));
+    const auto fits = [](Clerk& clerk) {
+        const auto* view = static_cast<QTableView*>(Inwards(clerk).Widget());
+        for (int column = 0; column < view->model()->columnCount(); ++column)
+            EXPECT_GE(
+                view->columnWidth(column), view->sizeHintForIndex(view->model()->index(0, column)).width())
+                << column;
+        EXPECT_EQ(view->horizontalHeader()->length(), view->viewport()->width());
+    };
+    InTheMorning(fits);
+    AtTheGate(fits);
 }
 
 TEST_F(ShiftViewTest, ASaveAndADeletionShowAtOnce)
@@ -120,6 +139,20 @@ TEST_F(ShiftViewTest, TheListHasAllCompaniesAndTheTotalsTheSelectedOne)
         EXPECT_EQ(Inwards(clerk).Rows(), 2);
         EXPECT_EQ(Totals(clerk), "9.000|0.000|4.0|0.0");
     });
+}
+
+TEST_F(ShiftViewTest, RowsNumberedZeroAndRowsOfNoCompanyStayOutOfTheCopy)
+{
+    AddMilk(0, "gaaya", 9, 4);
+    AddMilk(1, "gaaya", 8, 4, 0);
+    AddMilk(2, "gaaya", 5, 5);
+    InTheMorning([this](Clerk& clerk) {
+        EXPECT_EQ(Inwards(clerk).Rows(), 1);
+        EXPECT_EQ(Copy(), Of({"2|3|gaNaoSa|gaaya|5|5|35|175"}));
+        EXPECT_EQ(Totals(clerk), "5.000|0.000|5.0|0.0");
+        EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "3");
+    });
+    EXPECT_EQ(Books().size(), 3);
 }
 
 TEST_F(ShiftViewTest, TheListCannotBeEnteredWhileTheShiftIsChosen)

@@ -79,7 +79,7 @@ TEST_F(Preview, TheFirstPageIsSeenBeforeTheLastOfThreeHundredIsLaidOut)
     Show([&](Clerk& clerk) {
         EXPECT_EQ(first.Pages, QStringLiteral("1 / …"));
         EXPECT_EQ(Pages(clerk), QStringLiteral("1 / …"));
-        TypeAtOnce(clerk, QStringLiteral("{PGDN}{PGDN}{END}"));
+        TypeAtOnce(clerk, QStringLiteral("{F6}{PGDN}{PGDN}{END}"));
         EXPECT_EQ(Pages(clerk), QStringLiteral("3 / …")) << "one can leaf before the last page is there";
         EXPECT_EQ(State(clerk), QStringLiteral("शेवटचे पान तयार होत आहे …"));
         WaitForLastPage(clerk);
@@ -95,7 +95,7 @@ TEST_F(Preview, ATurnOfThePageWhileTheLastIsAwaitedStays)
     AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
     WriteTableTemplate();
     Show([](Clerk& clerk) {
-        TypeAtOnce(clerk, QStringLiteral("{END}{PGDN}"));
+        TypeAtOnce(clerk, QStringLiteral("{F6}{END}{PGDN}"));
         EXPECT_EQ(Pages(clerk), QStringLiteral("2 / …"));
         WaitForLastPage(clerk);
         EXPECT_TRUE(Pages(clerk).startsWith(QStringLiteral("2 / "))) << qPrintable(Pages(clerk));
@@ -125,11 +125,12 @@ TEST_F(Preview, AReportWithATitleShowsItInPlaceOfItsName)
     });
 }
 
-TEST_F(Preview, PgDnAndPgUpHomeAndEndTurnThePages)
+TEST_F(Preview, PgDnAndPgUpHomeAndEndTurnThePagesThatAreWhollySeen)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
+        clerk.Type(QStringLiteral("{F6}"));
         const std::pair<const char*, const char*> steps[] = {{"{PGUP}", "1 / 5"}, {"{PGDN}", "2 / 5"},
             {"{PGDN}", "3 / 5"}, {"{PGUP}", "2 / 5"}, {"{END}", "5 / 5"}, {"{PGDN}", "5 / 5"},
             {"{HOME}", "1 / 5"}};
@@ -158,6 +159,59 @@ TEST_F(Preview, AnArrowScrollsAPageThatIsLargerThanTheWindowAndTurnsItAtItsEdge)
         clerk.Type(QStringLiteral("{UP}"));
         EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
         EXPECT_GT(Scrolled(clerk), once) << "the page before from its bottom";
+    });
+}
+
+TEST_F(Preview, PgDnAndPgUpScrollALargerPageByTheWindowAndTurnItAtItsEdge)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        clerk.Type(QStringLiteral("{F7}{PGDN}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
+        EXPECT_GT(Scrolled(clerk), View(clerk).Widget()->height() / 4);
+        EXPECT_LT(Scrolled(clerk), View(clerk).Widget()->height()) << "nothing is passed over";
+        for (int presses = 0; presses < 10 && Pages(clerk) == QStringLiteral("1 / 5"); ++presses)
+            clerk.Type(QStringLiteral("{PGDN}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
+        EXPECT_EQ(Scrolled(clerk), 0);
+        clerk.Type(QStringLiteral("{PGUP}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
+        EXPECT_GT(Scrolled(clerk), 0) << "the page before from its bottom";
+    });
+}
+
+TEST_F(Preview, ASlipIsWhollyAndLegiblySeenAtOnceAndCanBeScrolledWhenItIsEnlarged)
+{
+    for (const char* roll : {"58mm", "80mm"}) {
+        WriteTemplate(QStringLiteral("<report name=\"Slip\" paper=\"%1\" margin=\"4\"><text>एक</text>"
+                                     "<space h=\"80\"/><text>दोन</text></report>")
+                          .arg(QLatin1String(roll)));
+        Show([](Clerk& clerk) {
+            WaitForLastPage(clerk);
+            EXPECT_GE(View(clerk).Percent(), 100) << qPrintable(Zoom(clerk));
+            clerk.Type(QStringLiteral("{DOWN}"));
+            EXPECT_EQ(Scrolled(clerk), 0) << "all of it is seen";
+            for (int presses = 0; presses < 15; ++presses)
+                clerk.Type(QStringLiteral("{+}"));
+            EXPECT_EQ(Scrolled(clerk), 0);
+            clerk.Type(QStringLiteral("{DOWN}"));
+            const int once = Scrolled(clerk);
+            EXPECT_GT(once, 0);
+            clerk.Type(QStringLiteral("{PGDN}"));
+            EXPECT_GT(Scrolled(clerk), once);
+        });
+    }
+}
+
+TEST_F(Preview, APageThatWouldBeTooSmallAsAWholeIsShownInItsWidthAtFirst)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        const QString first = Zoom(clerk);
+        clerk.Type(QStringLiteral("{F5}"));
+        EXPECT_EQ(Zoom(clerk), first);
+        EXPECT_GE(View(clerk).Percent(), 75);
     });
 }
 
@@ -219,7 +273,7 @@ TEST_F(Preview, ASearchGoesToThePageAndMarksTheHitAndF3GoesOn)
         }
         clerk.Type(QStringLiteral("{END}{F3}"));
         EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5")) << "behind the last it begins anew";
-        clerk.Type(QStringLiteral("{PGDN}{F3}"));
+        clerk.Type(QStringLiteral("{F6}{PGDN}{F3}"));
         EXPECT_EQ(Pages(clerk), QStringLiteral("4 / 5")) << "it goes on from the page that is looked at";
     });
 }
@@ -229,7 +283,7 @@ TEST_F(Preview, ASearchThatFindsNothingSaysSoAndLeavesThePage)
     AddFivePages();
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
-        clerk.Type(QStringLiteral("{PGDN}"));
+        clerk.Type(QStringLiteral("{F6}{PGDN}"));
         Seek(clerk, QStringLiteral("गणपत"));
         EXPECT_EQ(State(clerk), QStringLiteral("सापडले नाही"));
         EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));

@@ -104,6 +104,16 @@ TEST_F(ReportSaving, TheReportsNameAndTheDayAreProposedInTheClerksDocuments)
     });
 }
 
+TEST_F(ReportSaving, ATitleIsProposedInPlaceOfTheNameWithoutSignsThatNoFileTakes)
+{
+    WriteTemplate(QStringLiteral("<report name=\"Deliveries\" title=\"दूध यादी : बँक\" paper=\"A4\">"
+                                 "<text>एक</text></report>"));
+    Show([](Clerk& clerk) {
+        clerk.Type(PdfKey);
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")), QStringLiteral("दूध यादी - बँक 15-04-2026.pdf"));
+    });
+}
+
 TEST_F(ReportSaving, ANameWithoutItsEndingGetsIt)
 {
     Show([this](Clerk& clerk) { SaveAs(clerk, PdfKey, QStringLiteral("april.2026")); });

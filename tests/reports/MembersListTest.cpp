@@ -51,12 +51,13 @@ TEST_F(MembersListTest, OneAreaHoldsItsOwn)
 
 TEST_F(MembersListTest, AllAreasHoldEachMemberUnderItsOwn)
 {
-    EXPECT_EQ(Staged("%2%i"),
-        "Area|kraD|1|Anata|kraD|gaaya Area|masaUr|2|gaNaoSa|masaUr|mhOsa "
-        "Area||3|maaQava||daonhI");
+    const char* all = "Area|kraD|1|Anata|kraD|gaaya Area|masaUr|2|gaNaoSa|masaUr|mhOsa "
+                      "Area||3|maaQava||daonhI";
+    EXPECT_EQ(Staged("%2%i"), all);
+    EXPECT_EQ(Staged("%2{ENTER}{ENTER}{ENTER}"), all) << "Enter through the empty area leaves it empty";
 }
 
-TEST_F(MembersListTest, AnAnimalHoldsOnlyThoseOfExactlyThatWord)
+TEST_F(MembersListTest, AnAnimalHoldsOnlyThoseOfExactlyThatWordSoOneOfBothIsNotInTheCowsList)
 {
     EXPECT_EQ(Staged("%3%i"), "Milk|gaaya|1|Anata|kraD|gaaya");
     EXPECT_EQ(Staged("%3{ENTER}{DOWN}%i"), "Milk|mhOsa|2|gaNaoSa|masaUr|mhOsa");
@@ -91,6 +92,19 @@ TEST_F(MembersListTest, OnlyWhatBelongsToTheChosenListCanBeEntered)
         EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdReport"));
         clerk.Type(QStringLiteral("{ESC}"));
         EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+}
+
+TEST_F(MembersListTest, TheAreasGuideSaysThatNoneMeansAll)
+{
+    On<frmReportMembersList>([](Clerk& clerk) {
+        const auto guide = [&] { return clerk.Reads(QStringLiteral("lblGuide")); };
+        EXPECT_EQ(guide(), QString());
+        clerk.Type(QStringLiteral("%2{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboArea"));
+        EXPECT_EQ(guide(), QStringLiteral("रिकामे ठेवल्यास सर्व विभाग"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(guide(), QString());
     });
 }
 

@@ -117,6 +117,19 @@ TEST_F(MilkStatementTest, WithRepetitionAFurtherSaleIsFoundByItsOwnNumber)
         Rows(QStringLiteral("select LitersM,SNFM from MilkCollectionsME")), Texts({"100|8.5", "50|NULL"}));
 }
 
+TEST_F(MilkStatementTest, TheDatesOfTheRunBeforeAreRemovedBeforeAnyRowIsStaged)
+{
+    AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
+    Run(QStringLiteral("insert into ReportDates(CompanyId,FromDate) values(1,'01/01/2026')"));
+    gCn.RunScript(QStringLiteral("create trigger Watch after delete on ReportDates begin "
+                                 "insert into KapatDetails(MemberNo) "
+                                 "select count(*) from MilkCollectionsTemp; end"));
+    Report(OfTheMember);
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Rows(QStringLiteral("select MemberNo from KapatDetails")), Texts({"0"}));
+    EXPECT_EQ(Staged().size(), 1);
+}
+
 TEST_F(MilkStatementTest, TwoRunsGiveTheSame)
 {
     AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
@@ -208,8 +221,11 @@ TEST_F(MilkStatementTest, ForACounterItStagesItsCopyPrintsNothingAndClosesItself
     Run(QStringLiteral("insert into MilkCollectionsTemp select * from MilkCollections"));
     Run(QStringLiteral("insert into MilkCollectionsME(CompanyId,MemberNo) values(1,9)"));
     gAppState.gReportMode = QStringLiteral("ShowMilkCollection");
+    const QStringList dates{QStringLiteral("2|NULL|NULL")};
+    Run(QStringLiteral("insert into ReportDates(CompanyId) values(2)"));
     On<frmReportMilkPS>([](Clerk& clerk) { EXPECT_EQ(clerk.ScreenName(), QString()); });
     EXPECT_FALSE(Failure);
+    EXPECT_EQ(Rows(QStringLiteral("select * from ReportDates")), dates) << "the range is the counter's";
     EXPECT_TRUE(TheWindow.Shown.empty());
     EXPECT_EQ(Staged(),
         Texts({"13/04/2026|3|gaNaoSa|gaaya|10|4|30|300|0|0|0|0|0|0",

@@ -1,22 +1,12 @@
 #pragma once
 
-#include "ReportControl.h"
+#include "FakeReportWindow.h"
 #include "SocietyTest.h"
 
 #include <ostream>
 
 // Makes the test framework print texts that differ.
 void PrintTo(const QStringList& texts, std::ostream* out);
-
-// A window that keeps the reports that it is shown.
-class FakeReportWindow final : public ReportWindow {
-public:
-    void Show(std::shared_ptr<Report> report) override { Shown.push_back(std::move(report)); }
-    void Tell(const QString& sentence) override { Told.append(sentence); }
-
-    std::vector<std::shared_ptr<Report>> Shown;
-    QStringList Told;
-};
 
 // A society with its templates, and one clerk at a report screen.
 class ReportsTest : public SocietyTest {

@@ -239,9 +239,20 @@ TEST_F(AutoSettingsChain, TheBuffaloDepositBehindAnEmptyOneIsNotChecked)
     });
 }
 
-TEST_F(AutoSettingsChain, TheBoxOfRepeatedDeliveriesLeadsToTheSecondPageWhicheverWayItIsLeft)
+TEST_F(AutoSettingsChain, TheBuffaloDepositBehindAnEmptyOneLeadsOnUnchecked)
 {
-    for (const char* key : {"{ENTER}", "{TAB}", "+{TAB}"}) {
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "txtBuff");
+        Put(clerk, "txtCow", "");
+        EXPECT_EQ(Leave(clerk, "txtBuff", "0"), Q("txtCowSaleRate"));
+        EXPECT_EQ(Page(clerk), Q("3"));
+        EXPECT_EQ(Reads(clerk, "txtBuff"), Q("0"));
+    });
+}
+
+TEST_F(AutoSettingsChain, TheBoxOfRepeatedDeliveriesLeadsToTheSecondPage)
+{
+    for (const char* key : {"{ENTER}", "{TAB}"}) {
         Settings([&](Clerk& clerk) {
             GoTo(clerk, "CheckRepeatCol");
             clerk.Type(Q(key));
@@ -251,11 +262,83 @@ TEST_F(AutoSettingsChain, TheBoxOfRepeatedDeliveriesLeadsToTheSecondPageWhicheve
     }
 }
 
+TEST_F(AutoSettingsChain, ShiftTabLeadsBackFromTheFieldsThatTurnThePage)
+{
+    const std::pair<const char*, const char*> fields[] = {
+        {"CheckRepeatCol", "ComboReceipt"}, {"txtBuff", "txtCow"}, {"txtMixSaleRate", "txtBuffSaleRate"}};
+    for (const auto& [field, before] : fields) {
+        Settings([&, name = field, expected = before](Clerk& clerk) {
+            GoTo(clerk, name);
+            const QString page = Page(clerk);
+            clerk.Type(Q("+{TAB}"));
+            EXPECT_EQ(Focus(clerk), Q(expected));
+            EXPECT_EQ(Page(clerk), page);
+        });
+    }
+}
+
+TEST_F(AutoSettingsChain, ThePageBeforeIsTurnedToFromThoseFieldsToo)
+{
+    const std::pair<const char*, const char*> fields[] = {
+        {"CheckRepeatCol", "3"}, {"txtBuff", "1"}, {"txtMixSaleRate", "2"}};
+    for (const auto& [field, page] : fields) {
+        Settings([&, name = field, expected = page](Clerk& clerk) {
+            GoTo(clerk, name);
+            clerk.Type(Q("^{PGUP}"));
+            EXPECT_EQ(Page(clerk), Q(expected)) << name;
+        });
+    }
+}
+
 TEST_F(AutoSettingsChain, TheMixedRateLeadsBackToTheFirstPageAndToSave)
 {
     Settings([&](Clerk& clerk) {
         EXPECT_EQ(Leave(clerk, "txtMixSaleRate", "50"), Q("CmdSave"));
         EXPECT_EQ(Page(clerk), Q("1"));
+    });
+}
+
+TEST_F(AutoSettingsChain, TheMixedRateBehindAnEmptyOneLeadsToSaveUnchecked)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "txtMixSaleRate");
+        Put(clerk, "txtBuffSaleRate", "");
+        EXPECT_EQ(Leave(clerk, "txtMixSaleRate", "0"), Q("CmdSave"));
+        EXPECT_EQ(Page(clerk), Q("1"));
+        EXPECT_EQ(Reads(clerk, "txtMixSaleRate"), Q("0"));
+    });
+}
+
+TEST_F(AutoSettingsChain, DownLeadsToThePrintOfTheSalesFromAnywhereOnItsPage)
+{
+    for (const char* control : {"SSTab", "txtCowSaleRate", "txtMixSaleRate", "CmdSave"}) {
+        Settings([&](Clerk& clerk) {
+            clerk.Type(Q("^{PGUP}"));
+            GoTo(clerk, control);
+            clerk.Type(Q("{DOWN}"));
+            EXPECT_EQ(Focus(clerk), Q("ComboMSRPrintStatus")) << control;
+            EXPECT_EQ(Page(clerk), Q("3"));
+        });
+    }
+}
+
+TEST_F(AutoSettingsChain, DownPassesNoRateThatIsRefused)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "txtMixSaleRate");
+        clerk.Type(Q("0{DOWN}"));
+        EXPECT_EQ(Focus(clerk), Q("txtMixSaleRate"));
+    });
+}
+
+TEST_F(AutoSettingsChain, DownDoesNothingOnTheOtherPages)
+{
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("{DOWN}"));
+        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+        GoTo(clerk, "txtCow");
+        clerk.Type(Q("{DOWN}"));
+        EXPECT_EQ(Focus(clerk), Q("txtCow"));
     });
 }
 

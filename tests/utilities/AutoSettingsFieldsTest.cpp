@@ -303,12 +303,40 @@ TEST_F(AutoSettingsFields, EscAndTheExitButtonCloseWithoutASave)
     EXPECT_EQ(gAppState.gAutoLiters, Q("naahI"));
 }
 
-TEST_F(AutoSettingsFields, EscLeavesEvenAFieldThatRefuses)
+TEST_F(AutoSettingsFields, EscAndTheExitButtonLeaveEvenAFieldThatRefuses)
+{
+    for (const char* way : {"{ESC}", "%b"}) {
+        Settings([&](Clerk& clerk) {
+            clerk.Type(Q("{BS}{ENTER}"));
+            ASSERT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+            clerk.Type(Q(way));
+            EXPECT_EQ(clerk.ScreenName(), QString()) << way;
+        });
+    }
+}
+
+TEST_F(AutoSettingsFields, CancelByItsKeyReadsTheRowAgainFromAFieldThatRefuses)
 {
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("{BS}{ENTER}"));
-        ASSERT_EQ(Focus(clerk), Q("ComboAutoLiters"));
-        clerk.Type(Q("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        clerk.Type(Q("{BS}%r"));
+        EXPECT_EQ(Reads(clerk, "ComboAutoLiters"), Q("naahI"));
+        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
     });
+}
+
+TEST_F(AutoSettingsFields, EscClearsTheFieldsBeforeItCloses)
+{
+    TheClerk.Play(
+        [] {
+            frmAutoSettings screen;
+            screen.ShowModal();
+            for (const char* field : {"ComboAutoLiters", "ComboReceipt", "ComboPaymentDuration", "txtCow",
+                     "cmbFatRateType", "txtMixSaleRate", "ComboMSRPrintStatus"})
+                EXPECT_EQ(screen.Find(Q(field))->Text(), QString()) << field;
+        },
+        [](Clerk& clerk) {
+            ASSERT_NE(clerk.Reads(Q("ComboReceipt")), QString());
+            clerk.Type(Q("{ESC}"));
+            EXPECT_EQ(clerk.ScreenName(), QString());
+        });
 }

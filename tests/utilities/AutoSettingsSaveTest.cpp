@@ -56,6 +56,33 @@ TEST_F(AutoSettingsSave, BoxesWithoutATickAndEachOptionHaveTheirWords)
     }
 }
 
+TEST_F(AutoSettingsSave, ThePrintOfTheSalesIsSetAndSavedByKeysAlone)
+{
+    Settings([&](Clerk& clerk) {
+        clerk.Type(Q("^{PGUP}{ENTER}{ENTER}{ENTER}{DOWN}3{ENTER}"));
+        EXPECT_EQ(Focus(clerk), Q("CmdSave"));
+        clerk.Type(Q("{ENTER}"));
+    });
+    EXPECT_EQ(One(Q("select MSRPrintStatus from AutoSettings")), Q("saovh va ip`MT"));
+}
+
+TEST_F(AutoSettingsSave, TheRowIsDeletedBeforeTheNewOneIsWrittenAndTheTypeOfRateComesLast)
+{
+    gCn.RunScript(Q("create trigger Inserted before insert on AutoSettings "
+                    "begin select raise(abort, 'the row is still there') "
+                    "where exists(select 1 from AutoSettings); end"));
+    gCn.RunScript(Q("create trigger Updated before update on AutoSettings "
+                    "begin select raise(abort, 'the row is not there yet') where old.ReceiptType<>'Tašp 3'; "
+                    "end"));
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "ComboReceipt");
+        clerk.Type(Q("3"));
+        Save(clerk);
+    });
+    EXPECT_EQ(
+        Rows(Q("select ReceiptType,FatRateType from AutoSettings")), QStringList(Q("Tašp 3|f^T nausaar")));
+}
+
 TEST_F(AutoSettingsSave, ASavedRowIsReadBackAsItWas)
 {
     Settings([&](Clerk& clerk) { Save(clerk); });

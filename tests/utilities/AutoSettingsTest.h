@@ -2,8 +2,6 @@
 
 #include "SocietyTest.h"
 
-#include "Report.h"
-#include "ReportControl.h"
 #include "frmAutoSettings.h"
 
 // Texts of these tests are UTF-8.
@@ -44,18 +42,4 @@ protected:
 
     // Whether the row of the society is there.
     bool HasRow() { return One(Q("select count(*) from AutoSettings where CompanyId=1")) == u"1"; }
-};
-
-// Keeps what the reports show.
-class FakeReportWindow final : public ReportWindow {
-public:
-    QStringList Shown; // the names of the templates
-    std::vector<std::shared_ptr<Report>> Reports;
-
-    void Show(std::shared_ptr<Report> report) override
-    {
-        Shown.append(report->Name());
-        Reports.push_back(std::move(report));
-    }
-    void Tell(const QString& sentence) override { Shown.append(sentence); }
 };

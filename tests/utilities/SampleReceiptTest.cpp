@@ -1,6 +1,7 @@
 #include "AutoSettingsTest.h"
 
 #include "AppFolder.h"
+#include "FakeReportWindow.h"
 #include "Sql.h"
 
 #include <QFile>
@@ -17,7 +18,7 @@ protected:
     }
     ~SampleReceipt() override
     {
-        Window.Reports.clear();
+        Window.Shown.clear();
         ReportControl::CloseConnections();
         ReportSurroundings::Current() = {};
     }
@@ -59,7 +60,7 @@ TEST_F(SampleReceipt, EachLayoutHasItsTemplate)
             clerk.Press(Q("ComboReceipt"));
             PickFromList(clerk, layout);
             clerk.Press(Q("cmdReceipt"));
-            EXPECT_EQ(Window.Shown, QStringList(Q(Samples[layout]))) << "layout " << layout + 1;
+            EXPECT_EQ(Window.Titles(), QStringList(Q(Samples[layout]))) << "layout " << layout + 1;
             Window.Shown.clear();
         }
     });
@@ -79,7 +80,7 @@ TEST_F(SampleReceipt, StagesTheRowOfTheSampleBillInPlaceOfTheLastSlip)
         PrintSample(clerk);
         EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("1")) << "a second sample takes its place";
     });
-    EXPECT_EQ(Window.Shown.size(), 2);
+    EXPECT_EQ(Window.Shown.size(), 2U);
 }
 
 TEST_F(SampleReceipt, TheRowsTakeTheCompanyOfTheScreen)
@@ -95,8 +96,8 @@ TEST_F(SampleReceipt, TheReportReadsWhatIsStaged)
 {
     AddTemplate(Q("MilkReceipt1"));
     Settings([&](Clerk& clerk) { PrintSample(clerk); });
-    ASSERT_EQ(Window.Reports.size(), 1U);
-    Report& report = *Window.Reports.front();
+    ASSERT_EQ(Window.Shown.size(), 1U);
+    Report& report = *Window.Shown.front();
     report.Complete();
     QStringList texts;
     for (const PlacedItem& item : report.PageAt(0).items)
@@ -113,7 +114,7 @@ TEST_F(SampleReceipt, IsMadeFromTheFieldAndSavesNothing)
         clerk.Type(Q("3"));
         clerk.Press(Q("cmdReceipt"));
     });
-    EXPECT_EQ(Window.Shown, QStringList(Q("MilkReceiptBhl")));
+    EXPECT_EQ(Window.Titles(), QStringList(Q("MilkReceiptBhl")));
     EXPECT_EQ(Rows(Q("select * from AutoSettings")), before);
 }
 
@@ -125,17 +126,18 @@ TEST_F(SampleReceipt, WithoutALayoutTheTemplateBeforeIsTakenAgain)
         Put(clerk, "ComboReceipt", "");
         clerk.Type(Q("{ENTER}"));
     });
-    EXPECT_EQ(Window.Shown, QStringList({Q("MilkReceipt1"), Q("MilkReceipt1")}));
+    EXPECT_EQ(Window.Titles(), QStringList({Q("MilkReceipt1"), Q("MilkReceipt1")}));
 }
 
-TEST_F(SampleReceipt, BeforeALayoutWasEverChosenNothingIsShown)
+TEST_F(SampleReceipt, BeforeALayoutWasEverChosenTheClerkIsTold)
 {
     Given("ReceiptType=''");
     Settings([&](Clerk& clerk) {
         PrintSample(clerk);
+        EXPECT_EQ(TheBox.Shown, QStringList(Q("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही.")));
         EXPECT_EQ(clerk.ScreenName(), Q("frmAutoSettings"));
     });
-    EXPECT_EQ(Window.Shown, QStringList());
+    EXPECT_EQ(Window.Titles(), QStringList());
     EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("1"));
 }
 
@@ -146,5 +148,5 @@ TEST_F(SampleReceipt, AMissingTemplateEndsTheProgramWithTheRowStaged)
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), int(RunTimeError::FileNotFound));
     EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("1"));
-    EXPECT_EQ(Window.Shown, QStringList());
+    EXPECT_EQ(Window.Titles(), QStringList());
 }

@@ -31,13 +31,21 @@ QWidget* KeyTarget()
     return screen ? screen->KeyTarget() : nullptr;
 }
 
-// Lays a window over the middle of a picture, which steps back.
-void LayOver(QPixmap& picture, const QPixmap& window)
+void PaintInTheMiddle(QPainter& painter, const QSize& size, const QPixmap& window)
 {
-    QPainter painter(&picture);
-    painter.fillRect(picture.rect(), QColor(0, 0, 0, 60));
-    const QPointF at((picture.width() - window.width()) / 2.0, (picture.height() - window.height()) / 2.0);
-    painter.drawPixmap(at, window);
+    painter.drawPixmap((size.width() - window.width()) / 2, (size.height() - window.height()) / 2, window);
+}
+
+// Lays a window over the middle of a picture, which steps back; the picture grows if the window is larger.
+QPixmap LaidOver(const QPixmap& picture, const QPixmap& window)
+{
+    QPixmap both(picture.size().expandedTo(window.size()));
+    both.fill(Qt::gray);
+    QPainter painter(&both);
+    PaintInTheMiddle(painter, both.size(), picture);
+    painter.fillRect(both.rect(), QColor(0, 0, 0, 60));
+    PaintInTheMiddle(painter, both.size(), window);
+    return both;
 }
 
 }
@@ -207,7 +215,7 @@ void Clerk::Picture(const QString& file)
         QPixmap picture = windows.front()->grab();
         for (QWidget* window : windows)
             if (window != windows.front())
-                LayOver(picture, window->grab());
+                picture = LaidOver(picture, window->grab());
         picture.save(file);
     });
 }

@@ -19,6 +19,8 @@ public:
 
     // The manner of a name such as "prompt"; nothing for a name that is none.
     static std::optional<Manner> MannerOf(const QString& name);
+
+    // The names of all manners.
     static QStringList Manners();
 
     // `pause` lies between two pieces and between two frames; before a slow answer it passes many times.

@@ -18,7 +18,8 @@ public:
     // Runs Click, if the button can take the focus.
     void Press();
 
-    // A mouse press on a Cancel button leaves the field before it without its validation.
+    // A mouse press on a Cancel button leaves the field before it without its validation; by its key the
+    // field is validated, and left whatever comes of it.
     bool Cancels() const { return m_cancels; }
     void SetCancels(bool cancels) { m_cancels = cancels; }
 

@@ -1,6 +1,7 @@
 #include "Screen.h"
 
 #include "Button.h"
+#include "Field.h"
 #include "Look.h"
 #include "ModalStack.h"
 
@@ -10,6 +11,16 @@
 #include <QTimer>
 
 #include <algorithm>
+
+namespace {
+
+bool IsCancel(const Control& control)
+{
+    const auto* button = dynamic_cast<const Button*>(&control);
+    return button && button->Cancels();
+}
+
+}
 
 Screen::Screen(const char* name)
     : QWidget(ModalStack::Current().Top(), Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowTitleHint)
@@ -173,6 +184,13 @@ void Screen::SetTitleLabel(Label& label)
 {
     m_titleLabel = &label;
     label.SetCaption(m_title);
+}
+
+void Screen::EmptyFields()
+{
+    for (Control* control : m_controls)
+        if (auto* field = dynamic_cast<Field*>(control))
+            field->Clear();
 }
 
 // Focus
@@ -427,6 +445,9 @@ bool Screen::AnswerMnemonic(const QKeyEvent& key)
         if (!control->CanTakeFocus() || mnemonic.isNull() || mnemonic.unicode() != key.key())
             continue;
         MoveTo(control);
+        // The field before a Cancel button is asked, but it can't keep the clerk from getting out.
+        if (m_holder != control && IsCancel(*control) && control->CanTakeFocus())
+            MoveTo(control, false);
         if (m_holder == control)
             control->AnswerMnemonic();
         return true;
@@ -439,7 +460,6 @@ bool Screen::PressedByMouse(Control& control)
 {
     if (!m_open || !control.CanTakeFocus())
         return false;
-    const auto* button = dynamic_cast<Button*>(&control);
-    Run([&] { MoveTo(&control, !(button && button->Cancels())); });
+    Run([&] { MoveTo(&control, !IsCancel(control)); });
     return m_holder == &control;
 }

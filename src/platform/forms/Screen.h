@@ -79,6 +79,9 @@ protected:
     void MoveNext();
     void MovePrevious();
 
+    // Empties every field, as a screen that is left with Esc does.
+    void EmptyFields();
+
     // For a LostFocus that sends the clerk on: whether he is stepping back with Shift+Tab instead.
     bool IsSteppingBack() const { return m_leaving && m_step < 0; }
 

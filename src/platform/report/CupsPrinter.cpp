@@ -1,14 +1,9 @@
+#include "Paper.h"
 #include "Printer.h"
 
 #include <cups/cups.h>
 
-#include <algorithm>
-#include <cmath>
-#include <utility>
-
 namespace {
-
-constexpr double MillimetresPerPoint = 25.4 / 72;
 
 // The printers that the print service knows; freed in the end.
 class Destinations {
@@ -21,13 +16,8 @@ public:
     QStringList Names() const
     {
         QStringList names;
-        for (int i = 0; i < m_count; ++i) {
-            const QString name = QString::fromUtf8(m_all[i].name);
-            if (m_all[i].is_default)
-                names.prepend(name);
-            else
-                names.append(name);
-        }
+        for (int i = 0; i < m_count; ++i)
+            names.append(QString::fromUtf8(m_all[i].name));
         return names;
     }
 
@@ -56,31 +46,32 @@ private:
     cups_option_t* m_all = nullptr;
 };
 
-// The paper by the name that printers know, or by its size.
-QString Media(const QSizeF& paper)
+// The machine's own choice; empty if it has made none.
+QString DefaultPrinter()
 {
-    const int width = static_cast<int>(std::lround(paper.width() * MillimetresPerPoint));
-    const int height = static_cast<int>(std::lround(paper.height() * MillimetresPerPoint));
-    const std::pair sides(std::min(width, height), std::max(width, height));
-    if (sides == std::pair(210, 297))
-        return QStringLiteral("A4");
-    if (sides == std::pair(148, 210))
-        return QStringLiteral("A5");
-    return QStringLiteral("Custom.%1x%2mm").arg(width).arg(height);
+    return QString::fromUtf8(cupsGetDefault2(CUPS_HTTP_DEFAULT));
 }
 
 class CupsPrinter final : public Printer {
 public:
-    QStringList Names() override { return Destinations().Names(); }
+    QStringList Names() override
+    {
+        QStringList names = Destinations().Names();
+        if (const qsizetype own = names.indexOf(DefaultPrinter()); own > 0)
+            names.move(own, 0);
+        return names;
+    }
 
     Outcome Print(const PrintJob& job) override
     {
-        const QString printer = job.printer.isEmpty() ? Names().value(0) : job.printer;
+        QString printer = job.printer.isEmpty() ? DefaultPrinter() : job.printer;
+        if (printer.isEmpty())
+            printer = Names().value(0); // asks for all of them, which takes a while
         if (printer.isEmpty())
             return {QStringLiteral("प्रिंटर मिळाला नाही. छपाई झाली नाही; नोंदी सुरक्षित आहेत.\n"
                                    "There is no printer.")};
         Options options;
-        options.Add("media", Media(job.paper));
+        options.Add("media", MediaName(job.paper));
         options.Add("print-scaling", QStringLiteral("none"));
         const int number = cupsPrintFile2(CUPS_HTTP_DEFAULT, printer.toUtf8().constData(),
             job.file.toUtf8().constData(), job.title.toUtf8().constData(), options.Count(), options.All());

@@ -11,6 +11,7 @@
 // Paints pages: the same strokes for the screen and for the paper.
 class PagePainter {
 public:
+    // The fonts of the pages; they must outlive it.
     explicit PagePainter(const FontTable& fonts);
     ~PagePainter();
     PagePainter(const PagePainter&) = delete;

@@ -44,6 +44,7 @@ public:
     // A group begins, and with it all groups inside it.
     void Begin(std::size_t group);
 
+    // What one of them comes to so far: at level 0 of the whole table, at level n of its n-th group.
     Value Result(int slot, int level) const;
 
 private:

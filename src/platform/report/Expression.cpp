@@ -11,34 +11,22 @@
 
 Value Value::OfNumber(double number)
 {
-    Value value;
-    value.kind = Kind::Number;
-    value.number = number;
-    return value;
+    return {.kind = Kind::Number, .number = number};
 }
 
 Value Value::OfText(QString text)
 {
-    Value value;
-    value.kind = Kind::Text;
-    value.text = std::move(text);
-    return value;
+    return {.kind = Kind::Text, .text = std::move(text)};
 }
 
 Value Value::OfDate(QDate date)
 {
-    Value value;
-    value.kind = date.isValid() ? Kind::Date : Kind::Null;
-    value.date = date;
-    return value;
+    return {.kind = date.isValid() ? Kind::Date : Kind::Null, .date = date};
 }
 
 Value Value::OfTruth(bool truth)
 {
-    Value value;
-    value.kind = Kind::Truth;
-    value.number = truth ? 1 : 0;
-    return value;
+    return {.kind = Kind::Truth, .number = truth ? 1.0 : 0.0};
 }
 
 double Value::Number() const

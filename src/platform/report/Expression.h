@@ -50,6 +50,7 @@ struct Expression {
     int slot = -1; // of an aggregate in a table: among the table's aggregates
     int group = -1; // of a running sum: the group that it begins anew with; -1: the whole table
 
+    // Whether it or a part of it is of that kind.
     bool Uses(Operation wanted) const;
     bool operator==(const Expression&) const = default;
 };

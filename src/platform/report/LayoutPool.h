@@ -4,7 +4,6 @@
 
 #include <QStringView>
 
-#include <memory>
 #include <utility>
 #include <vector>
 

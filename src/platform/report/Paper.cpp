@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -27,6 +28,29 @@ std::optional<Paper> Sensible(const Paper& paper)
     return fits ? std::optional(paper) : std::nullopt;
 }
 
+// A side in millimetres and their tenths: "58", "93.4".
+QString SideInMillimetres(double points)
+{
+    return QString::number(std::round(points / PointsPerMillimetre * 10) / 10);
+}
+
+}
+
+QString MediaName(const QSizeF& sheet)
+{
+    constexpr double Tolerance = 0.5 * PointsPerMillimetre;
+    const auto isAlike = [](const QSizeF& first, const QSizeF& second) {
+        return std::abs(first.width() - second.width()) < Tolerance
+            && std::abs(first.height() - second.height()) < Tolerance;
+    };
+    for (const QStringView name : {u"A4", u"A5", u"A6"}) {
+        const Paper known = *ReadPaper(name);
+        const QSizeF size(known.width, known.height);
+        if (isAlike(sheet, size) || isAlike(sheet, size.transposed()))
+            return known.name;
+    }
+    return QStringLiteral("Custom.%1x%2mm")
+        .arg(SideInMillimetres(sheet.width()), SideInMillimetres(sheet.height()));
 }
 
 std::optional<Paper> ReadPaper(QStringView text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSizeF>
 #include <QString>
 
 #include <optional>
@@ -23,3 +24,6 @@ struct Paper {
 // such as "105x148mm" or, for fanfold, "10x12in". Nothing for a text that is none of these, or that is
 // smaller than 20 mm or larger than a metre.
 std::optional<Paper> ReadPaper(QStringView text);
+
+// What print services call a sheet of so many points: "A6" whichever way it lies, "Custom.58x93.4mm".
+QString MediaName(const QSizeF& sheet);

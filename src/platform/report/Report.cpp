@@ -69,7 +69,7 @@ std::vector<Report::Found> Report::Search(const QString& text) const
 bool Report::WritePdf(QIODevice& device)
 {
     return m_painter->WritePdf(
-        device, m_template.name, m_pages.size(), [this](std::size_t i) -> const Page& { return m_pages[i]; });
+        device, Title(), m_pages.size(), [this](std::size_t i) -> const Page& { return m_pages[i]; });
 }
 
 Outcome Report::SavePdf(const QString& file)
@@ -92,5 +92,5 @@ Outcome Report::Print(Printer& printer, const QString& printerName)
         return {QStringLiteral("छपाईसाठी तात्पुरती फाइल लिहिता आली नाही. डिस्कवर जागा आहे का ते पाहा.\n%1")
                     .arg(pdf.errorString())};
     const Page& first = m_pages.front();
-    return printer.Print({pdf.fileName(), m_template.name, printerName, QSizeF(first.width, first.height)});
+    return printer.Print({pdf.fileName(), Title(), printerName, QSizeF(first.width, first.height)});
 }

@@ -23,8 +23,6 @@ public:
     Report(const Report&) = delete;
     Report& operator=(const Report&) = delete;
 
-    const QString& Name() const { return m_template.name; }
-
     // What the clerk knows the report by: its title, or its name if it has none.
     const QString& Title() const { return m_template.title.isEmpty() ? m_template.name : m_template.title; }
 

@@ -1,7 +1,9 @@
 #include "ReportControl.h"
 
 #include "DataSource.h"
+#include "Drawing.h"
 #include "RunTimeError.h"
+#include "TextMeasure.h"
 
 #include <QFileInfo>
 
@@ -23,14 +25,21 @@ public:
     std::shared_ptr<Connection> Open(const QString& logon)
     {
         FinishReading();
-        const QString file = FileOf(logon);
-        if (!m_connection || logon != m_logon || file != m_file) {
-            m_connection = std::make_shared<Connection>();
-            m_connection->Open(logon);
-            m_logon = logon;
-            m_file = file;
-        }
+        Prepare(logon);
         return m_connection;
+    }
+
+    // Sees that the books of a logon are open; if they can't be opened, everything stays as it was.
+    void Prepare(const QString& logon)
+    {
+        const QString file = FileOf(logon);
+        if (m_connection && logon == m_logon && file == m_file)
+            return;
+        auto connection = std::make_shared<Connection>();
+        connection->Open(logon);
+        m_connection = std::move(connection);
+        m_logon = logon;
+        m_file = file;
     }
 
     void Add(const std::shared_ptr<Report>& report) { m_reading.push_back(report); }
@@ -64,6 +73,28 @@ private:
     QString m_file;
     std::vector<std::weak_ptr<Report>> m_reading;
 };
+
+// Measures and paints a line of both scripts in the light and the bold face, for nobody to see: the machine's
+// fonts are found and opened when they are first needed, and stay.
+void OpenFonts()
+{
+    const QString line = QStringLiteral("क्षीर र्यूं 148.20 Fat");
+    constexpr float Wide = 400;
+    FontTable fonts;
+    TextMeasure measure;
+    Page page;
+    page.width = page.height = Wide;
+    for (const bool isBold : {false, true}) {
+        const FontSpec font{ReportTemplate().fontFamily, 10, isBold};
+        PlacedItem item;
+        item.font = fonts.Add(font);
+        item.width = Wide;
+        item.height = measure.Height(font, line, Wide);
+        item.text = line;
+        page.items.push_back(item);
+    }
+    PagePainter(fonts).Image(page, 1);
+}
 
 [[noreturn]] void ThrowFaults(const QString& path, const TemplateFaults& faults)
 {
@@ -116,6 +147,13 @@ bool ReportControl::Print()
     if (!outcome.Done() && surroundings.window)
         surroundings.window->Tell(outcome.fault);
     return outcome.Done();
+}
+
+void ReportControl::Prepare(const QString& logon)
+{
+    ReadingRoom::Current().Prepare(logon);
+    static const bool areOpen = (OpenFonts(), true);
+    Q_UNUSED(areOpen)
 }
 
 void ReportControl::CloseConnections()

@@ -23,6 +23,7 @@ struct ReportSurroundings {
     Printer* printer = nullptr;
     std::function<QString(const QString&)> localPath; // where a path of AppFolder lies on this machine
 
+    // Those of the program; there is neither window nor printer until somebody puts one in.
     static ReportSurroundings& Current();
 };
 
@@ -44,12 +45,18 @@ public:
     // 00)".
     void SetSelectionFormula(const QString& formula) { m_formula = formula; }
 
+    // The window, unless it is set.
     void SetDestination(ReportDestination destination) { m_destination = destination; }
 
     // Runs the report and hands it over. A template that is missing or has faults, and a formula that can't
     // be read, are run-time errors that show them all. A printer that refuses is told in the window, and
     // false is returned.
     bool Print();
+
+    // Opens the books of a logon for reading and gets the fonts of the templates ready, so that the first
+    // slip needn't wait for either. To be called when the program starts, and again at any time. Books that
+    // can't be opened are a run-time error, as in printing.
+    static void Prepare(const QString& logon);
 
     // Ends the reading of all reports and closes the books that were opened for them; they are opened again
     // when needed. To be called before the database file is copied or replaced.

@@ -44,6 +44,8 @@ public:
 
     // Opens a source's rows, in its order.
     Recordset Open(int source);
+
+    // Puts the row that the recordset stands at into `row`.
     void ReadRow(int source, const Recordset& rows, Row& row) const;
 
     // Whether the source's own condition lets a row pass.
@@ -74,6 +76,7 @@ private:
 // A walk through the rows of a source: all of it, or those that hang on the parent's current row.
 class RowWalk {
 public:
+    // Stands before the first row.
     RowWalk(ReportData& data, int source);
 
     // Puts the next row into `row`; false at the end.

@@ -52,16 +52,31 @@ ReportFiller::ReportFiller(
 
 ReportFiller::~ReportFiller() = default;
 
-void ReportFiller::MakeRecordHeads()
+// The groups, then the columns that hold anything, each under the words that stand above it.
+QStringList ReportFiller::HeadsOf(const TemplateTable& table)
 {
     QStringList heads;
+    for (const TemplateGroup& group : table.groups)
+        heads.append(group.label.isEmpty() ? group.name : group.label);
+    QStringList spans;
+    for (const TemplateSpan& span : table.spans)
+        spans.append(QList<QString>(span.columns, Fill(span.text, m_data)));
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        if (table.columns[i].cell.IsEmpty())
+            continue;
+        const QString head =
+            spans.value(static_cast<qsizetype>(i)) + u' ' + Fill(table.columns[i].head, m_data);
+        heads.append(head.trimmed());
+    }
+    return heads;
+}
+
+void ReportFiller::MakeRecordHeads()
+{
     if (const TemplateTable* table = m_maker.Recorded) {
-        for (const TemplateGroup& group : table->groups)
-            heads.append(group.name);
-        for (const TemplateColumn& column : table->columns)
-            heads.append(Fill(column.head, m_data));
-        m_records.push_back(heads);
+        m_records.push_back(HeadsOf(*table));
     } else if (!m_report.sources.empty()) {
+        QStringList heads;
         QStringList values;
         const Row* const row = m_data.CurrentRow(0);
         const std::vector<SourceColumn>& columns = m_report.sources.front().columns;

@@ -2,11 +2,10 @@
 
 #include "Bands.h"
 
-#include <optional>
-
 // Fills a checked template: reads rows as it goes and gives one page after the other.
 class ReportFiller {
 public:
+    // The template, the connection and the fonts must outlive it. New fonts are put in as they are met.
     ReportFiller(const ReportTemplate& report, Connection& connection, Selection selection, FontTable& fonts);
     ~ReportFiller();
 
@@ -42,6 +41,7 @@ private:
     void SplitFront(std::deque<Band>& bands, float room);
     float HeightAtTop(const Band& band) const;
     void AddRepeated(Sheet& sheet, const Band& band);
+    QStringList HeadsOf(const TemplateTable& table);
     void MakeRecordHeads();
     void Record(const QStringList& record);
 

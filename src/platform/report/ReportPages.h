@@ -30,6 +30,7 @@ struct PlacedItem {
     float weight = 0; // of a line
     QString text;
 
+    // Its place on the page; of a line, whichever way it runs.
     QRectF Rect() const;
 };
 
@@ -42,6 +43,7 @@ struct Page {
 // The fonts of a report's pages, each once.
 class FontTable {
 public:
+    // The position of a font; it is put in if it isn't there.
     quint16 Add(const FontSpec& font);
     const FontSpec& At(quint16 index) const { return m_fonts[index]; }
 

@@ -95,6 +95,7 @@ struct TemplateGroup {
     int line = 0;
     Expression by;
     QString name; // the text of `by`, as running(x by name) names it
+    QString label; // what its values are called in a spreadsheet; empty: the name
     TemplateText head, foot;
     int keep = 1; // rows that stay with the head
     bool newPage = false;
@@ -159,7 +160,7 @@ struct ReportTemplate {
     QString name;
     QString title; // what the clerk knows the report by; empty: the name
     Paper paper;
-    QString fontFamily;
+    QString fontFamily = QStringLiteral("Noto Sans Devanagari");
     double fontSize = 10;
     std::vector<TemplateSource> sources;
     std::vector<TemplateElement> header, footer, body;

@@ -9,6 +9,7 @@ namespace {
 
 constexpr float CellPadding = 2; // left and right of a cell's text
 constexpr float RowPadding = 0.5F; // above and below
+constexpr float GroupGap = 5; // above a group that isn't the first
 constexpr float ThinRule = 0.4F;
 constexpr float HeadRule = 0.8F;
 constexpr quint8 PaleGray = 170;
@@ -24,6 +25,13 @@ struct Cell {
 bool IsFigure(const TemplateColumn& column)
 {
     return column.cell.IsOneExpression() && column.cell.pieces.front().formatKind == FormatKind::Number;
+}
+
+void MoveDown(Band& band, float by)
+{
+    for (PlacedItem& item : band.items)
+        item.y += by;
+    band.height += by;
 }
 
 class TableStream final : public BandStream {
@@ -59,7 +67,6 @@ private:
     Accumulators m_totals;
     std::vector<Cell> m_cells;
     std::shared_ptr<Band> m_head;
-    bool m_wraps = false;
     float m_rowHeight = 0;
     bool m_hasStarted = false;
     bool m_hasRow = false;
@@ -99,7 +106,6 @@ void TableStream::PlaceColumns()
         cell.look = Merge(m_element.look, column.look);
         cell.font = m_maker.Fonts.Add(m_maker.Font(cell.look));
         cell.fit = column.wraps ? Fit::Wrap : IsFigure(column) ? Fit::Shrink : Fit::Cut;
-        m_wraps = m_wraps || column.wraps;
         m_rowHeight = std::max(m_rowHeight, m_maker.Measure.LineHeight(m_maker.Font(cell.look)));
         m_cells.push_back(cell);
         x += widths[i];
@@ -174,9 +180,8 @@ void TableStream::MakeHead()
         item.y += m_head->height;
         m_head->items.push_back(std::move(item));
     }
-    for (PlacedItem& item : m_head->items)
-        item.y += HeadRule + RowPadding;
-    m_head->height += heads.height + 2 * (HeadRule + RowPadding);
+    m_head->height += heads.height + HeadRule + RowPadding;
+    MoveDown(*m_head, HeadRule + RowPadding);
     AddRule(*m_head, 0, HeadRule, 0);
     AddRule(*m_head, m_head->height - HeadRule, HeadRule, 0);
     m_head->keepWithNext = true;
@@ -280,6 +285,8 @@ void TableStream::BeginGroups(std::size_t from)
         Band head;
         m_maker.AddWrapped(head, text, look, {m_stretch.x + CellPadding, m_stretch.width - 2 * CellPadding});
         head.keepWithNext = true;
+        if (i == from && m_hasRow)
+            MoveDown(head, GroupGap);
         Push(std::move(head));
     }
 }
@@ -312,7 +319,7 @@ void TableStream::MakeRow()
     m_maker.Data.Totals = &m_totals;
     for (std::size_t i = 0; i < m_cells.size(); ++i) {
         const QString text = Fill(m_table.columns[i].cell, m_maker.Data);
-        if (isRecorded)
+        if (isRecorded && !m_table.columns[i].cell.IsEmpty())
             band.record.append(text);
         AddCell(band, i, text, m_cells[i].look, m_cells[i].fit);
     }
@@ -367,10 +374,9 @@ void TableStream::MakeFoot(const TemplateText& label, int level)
     }
     data.Totals = nullptr;
     data.TotalsLevel = 0;
-    for (PlacedItem& item : band.items)
-        item.y += RowPadding;
+    MoveDown(band, RowPadding);
     AddRule(band, 0, ThinRule, 0);
-    band.height += 2 * RowPadding;
+    band.height += RowPadding;
     AddRule(band, band.height - ThinRule / 2, ThinRule, 0);
     Push(std::move(band));
 }

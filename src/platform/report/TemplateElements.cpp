@@ -8,6 +8,26 @@ constexpr double LargestLength = 1000;
 constexpr double HeaviestRule = 10;
 constexpr double MostRows = 100;
 
+// An element with what all of them have; `only` is said of rows, `if` of the element itself.
+TemplateElement BeginElement(ElementKind kind, ElementAttributes& attributes, QStringView condition = u"if")
+{
+    TemplateElement element;
+    element.kind = kind;
+    element.line = attributes.Line();
+    element.condition = attributes.Condition(condition);
+    return element;
+}
+
+}
+
+bool TemplateReader::NextChild(QStringView name)
+{
+    while (m_xml.readNextStartElement()) {
+        if (m_xml.name() == name)
+            return true;
+        RefuseElement();
+    }
+    return false;
 }
 
 std::vector<TemplateElement> TemplateReader::ReadElements(Place place)
@@ -50,10 +70,7 @@ std::optional<TemplateElement> TemplateReader::ReadElement(Place place)
 TemplateElement TemplateReader::ReadSimple(ElementKind kind)
 {
     ElementAttributes attributes(m_xml, *this);
-    TemplateElement element;
-    element.kind = kind;
-    element.line = attributes.Line();
-    element.condition = attributes.Condition(u"if");
+    TemplateElement element = BeginElement(kind, attributes);
     if (kind == ElementKind::Text) {
         element.look = attributes.Look();
         element.keep = attributes.Flag(u"keep");
@@ -74,18 +91,11 @@ TemplateElement TemplateReader::ReadSimple(ElementKind kind)
 TemplateElement TemplateReader::ReadPairs()
 {
     ElementAttributes attributes(m_xml, *this);
-    TemplateElement element;
-    element.kind = ElementKind::Pairs;
-    element.line = attributes.Line();
-    element.condition = attributes.Condition(u"if");
+    TemplateElement element = BeginElement(ElementKind::Pairs, attributes);
     element.size = attributes.Number(u"labelw", 1, LargestLength, 0);
     element.look = attributes.Look();
     attributes.Finish();
-    while (m_xml.readNextStartElement()) {
-        if (m_xml.name() != u"pair") {
-            RefuseElement();
-            continue;
-        }
+    while (NextChild(u"pair")) {
         ElementAttributes own(m_xml, *this);
         TemplatePair pair;
         pair.line = own.Line();
@@ -102,17 +112,10 @@ TemplateElement TemplateReader::ReadPairs()
 TemplateElement TemplateReader::ReadLanes(Place place)
 {
     ElementAttributes attributes(m_xml, *this);
-    TemplateElement element;
-    element.kind = ElementKind::Columns;
-    element.line = attributes.Line();
-    element.condition = attributes.Condition(u"if");
+    TemplateElement element = BeginElement(ElementKind::Columns, attributes);
     element.size = attributes.Number(u"gap", 0, LargestLength, 3);
     attributes.Finish();
-    while (m_xml.readNextStartElement()) {
-        if (m_xml.name() != u"column") {
-            RefuseElement();
-            continue;
-        }
+    while (NextChild(u"column")) {
         ElementAttributes own(m_xml, *this);
         TemplateLane lane;
         lane.line = own.Line();
@@ -129,11 +132,8 @@ TemplateElement TemplateReader::ReadLanes(Place place)
 TemplateElement TemplateReader::ReadEach()
 {
     ElementAttributes attributes(m_xml, *this);
-    TemplateElement element;
-    element.kind = ElementKind::Each;
-    element.line = attributes.Line();
+    TemplateElement element = BeginElement(ElementKind::Each, attributes, u"only");
     element.sourceName = attributes.Required(u"source");
-    element.condition = attributes.Condition(u"only");
     element.keep = attributes.Flag(u"keep");
     element.newPage = attributes.Flag(u"newpage");
     attributes.Finish();
@@ -144,10 +144,7 @@ TemplateElement TemplateReader::ReadEach()
 TemplateElement TemplateReader::ReadTable()
 {
     ElementAttributes attributes(m_xml, *this);
-    TemplateElement element;
-    element.kind = ElementKind::Table;
-    element.line = attributes.Line();
-    element.condition = attributes.Condition(u"if");
+    TemplateElement element = BeginElement(ElementKind::Table, attributes);
     element.look = attributes.Look();
     element.table = std::make_unique<TemplateTable>();
     TemplateTable& table = *element.table;
@@ -176,11 +173,7 @@ void TemplateReader::ReadSpans(TemplateTable& table)
 {
     ElementAttributes attributes(m_xml, *this);
     attributes.Finish();
-    while (m_xml.readNextStartElement()) {
-        if (m_xml.name() != u"head") {
-            RefuseElement();
-            continue;
-        }
+    while (NextChild(u"head")) {
         ElementAttributes own(m_xml, *this);
         TemplateSpan span;
         span.columns = static_cast<int>(own.Number(u"span", 1, MostRows, 1));
@@ -222,6 +215,7 @@ void TemplateReader::ReadGroup(TemplateTable& table)
     group.line = attributes.Line();
     group.name = attributes.Required(u"by");
     const std::optional<Expression> by = group.name.isEmpty() ? std::nullopt : attributes.Condition(u"by");
+    group.label = attributes.Text(u"label");
     group.head = attributes.Template(u"head");
     group.foot = attributes.Template(u"foot");
     group.keep = static_cast<int>(attributes.Number(u"keep", 1, MostRows, 1));
@@ -248,11 +242,8 @@ void TemplateReader::ReadTotal(TemplateTable& table)
 TemplateElement TemplateReader::ReadChart()
 {
     ElementAttributes attributes(m_xml, *this);
-    TemplateElement element;
-    element.kind = ElementKind::Chart;
-    element.line = attributes.Line();
-    element.condition = attributes.Condition(u"if");
-    element.look = attributes.Look();
+    TemplateElement element = BeginElement(ElementKind::Chart, attributes);
+    element.look.size = attributes.LetterSize();
     element.chart = std::make_unique<TemplateChart>();
     TemplateChart& chart = *element.chart;
     chart.sourceName = attributes.Required(u"source");
@@ -266,11 +257,7 @@ TemplateElement TemplateReader::ReadChart()
     chart.x = attributes.Template(u"x");
     chart.only = attributes.Condition(u"only");
     attributes.Finish();
-    while (m_xml.readNextStartElement()) {
-        if (m_xml.name() != u"series") {
-            RefuseElement();
-            continue;
-        }
+    while (NextChild(u"series")) {
         ElementAttributes own(m_xml, *this);
         TemplateSeries series;
         series.line = own.Line();

@@ -35,10 +35,8 @@ Paper ReadSheet(ElementAttributes& attributes)
 void ReadFont(ElementAttributes& attributes, ReportTemplate& report)
 {
     const QString font = attributes.Text(u"font");
-    if (font.isEmpty()) {
-        report.fontFamily = QStringLiteral("Noto Sans Devanagari");
+    if (font.isEmpty())
         return;
-    }
     const qsizetype blank = font.lastIndexOf(u' ');
     bool isSize = false;
     report.fontSize = font.mid(blank + 1).toDouble(&isSize);
@@ -135,8 +133,13 @@ TextLook ElementAttributes::Look()
         Fault(QStringLiteral("align=\"%1\" is neither left, center nor right").arg(align));
     if (m_attributes.hasAttribute(QStringLiteral("bold")))
         look.isBold = Flag(u"bold");
-    look.size = Number(u"size", SmallestFont, LargestFont, 0);
+    look.size = LetterSize();
     return look;
+}
+
+double ElementAttributes::LetterSize()
+{
+    return Number(u"size", SmallestFont, LargestFont, 0);
 }
 
 std::optional<Expression> ElementAttributes::Condition(QStringView name)

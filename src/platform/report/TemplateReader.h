@@ -6,22 +6,40 @@
 
 class TemplateReader;
 
-// The attributes of one element. Each is asked for by name; Finish tells of those that nobody asked for.
+// The attributes of one element, each asked for by name. What can't be read becomes a fault, and what it is
+// read as then is of no use.
 class ElementAttributes {
 public:
+    // Of the element that the XML reader stands at.
     ElementAttributes(const QXmlStreamReader& xml, TemplateReader& reader);
 
     int Line() const { return m_line; }
     void Fault(const QString& text);
+
+    // Tells of the attributes that nobody has asked for.
     void Finish();
 
+    // A text as it stands; empty if it isn't there, which is a fault where it is required.
     QString Text(QStringView name);
     QString Required(QStringView name);
+
+    // "1" or "0"; false if it isn't there.
     bool Flag(QStringView name);
+
+    // A number from `least` to `most`, or `otherwise`.
     double Number(QStringView name, double least, double most, double otherwise);
+
+    // The width in `w`: millimetres, or a share.
     WidthRule Width();
+
+    // What align, bold and size say; of letters that stand where they must, only the size.
     TextLook Look();
+    double LetterSize();
+
+    // An expression; nothing if it isn't there or can't be read.
     std::optional<Expression> Condition(QStringView name);
+
+    // A text with {expressions}.
     TemplateText Template(QStringView name);
 
 private:
@@ -35,7 +53,10 @@ private:
 // Reads the XML of a template into its structs; what it doesn't know becomes a fault and is passed over.
 class TemplateReader {
 public:
+    // `file` names the template in its faults.
     TemplateReader(const QString& text, QString file, TemplateFaults& faults);
+
+    // Reads all of it. Whatever is wrong has been added to the faults.
     ReportTemplate Read();
 
 private:
@@ -47,6 +68,9 @@ private:
     void Fault(int line, const QString& text);
     void RefuseElement();
     void EndEmpty();
+
+    // Goes on to the next child of this name; false at the end of the parent. Others are refused.
+    bool NextChild(QStringView name);
     TemplateText ReadMixed(const QString& text, int line);
     TemplateText ReadContent(int line);
 

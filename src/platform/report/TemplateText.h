@@ -20,6 +20,8 @@ struct TemplateText {
     std::vector<TextPiece> pieces;
 
     bool IsEmpty() const { return pieces.empty(); }
+
+    // Whether one of its expressions holds a part of that kind.
     bool Uses(Operation wanted) const;
 
     // The text is one expression and nothing around it.

@@ -2,6 +2,8 @@
 
 #include "LayoutPool.h"
 
+#include <QHash>
+
 #include <pango/pangocairo.h>
 
 namespace {

@@ -2,8 +2,6 @@
 
 #include "ReportPages.h"
 
-#include <QHash>
-
 #include <memory>
 
 // Measures texts the way the pages are drawn: one layout a font is kept and used again.

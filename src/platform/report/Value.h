@@ -12,9 +12,10 @@ struct Value {
     enum class Kind : quint8 { Null, Number, Text, Date, Truth };
     Kind kind = Kind::Null;
     double number = 0; // a truth is 1 or 0
-    QDate date;
-    QString text;
+    QDate date = {};
+    QString text = {};
 
+    // Each of its kind; a date that is none is Null.
     static Value OfNumber(double number);
     static Value OfText(QString text);
     static Value OfDate(QDate date);

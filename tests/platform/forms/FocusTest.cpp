@@ -347,6 +347,24 @@ TEST_F(FocusTest, CancelByItsKeyIsNoMousePressAndValidates)
     });
 }
 
+TEST_F(FocusTest, CancelByItsKeyIsPressedThoughTheFieldBeforeItRefuses)
+{
+    AtDesk([](Desk& desk) { desk.Also("-txtA", [&] { desk.txtA.SetFocus(); }); },
+        [&](Desk& desk) {
+            Type("%r");
+            EXPECT_EQ(desk.Happened(), "-txtA +txtA +cmdCancel !cmdCancel");
+        });
+}
+
+TEST_F(FocusTest, CancelByItsKeyIsNotPressedWhenTheFieldBeforeItHasDisabledIt)
+{
+    AtDesk([](Desk& desk) { desk.Also("-txtA", [&] { desk.cmdCancel.SetEnabled(false); }); },
+        [&](Desk& desk) {
+            Type("%r");
+            EXPECT_EQ(desk.Happened(), "-txtA +txtA");
+        });
+}
+
 TEST_F(FocusTest, AltKeysThatNoButtonHasDoNothing)
 {
     AtDesk([](Desk& desk) { desk.cmdGo.SetEnabled(false); },

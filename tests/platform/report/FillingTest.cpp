@@ -187,7 +187,7 @@ TEST_F(FillingTest, AChartWithoutRowsHasItsAxesAndNoBars)
     EXPECT_TRUE(Texts(report->PageAt(0)).contains(QStringLiteral("0")));
 }
 
-// Every placed item of one page. VETROLAN_RENEW_GOLDEN=1 writes the file anew.
+// Every placed item of one page. VETROLAN_RENEW=1 writes the file anew.
 TEST_F(FillingTest, TheItemsOfAPageAreThoseOfTheGoldenFile)
 {
     AddDelivery(1, Morning, QStringLiteral("अशोक पाटील"), 10.125, 4.0, 350.55);
@@ -214,12 +214,12 @@ TEST_F(FillingTest, TheItemsOfAPageAreThoseOfTheGoldenFile)
     report->Complete();
     const QString seen = Describe(report->PageAt(0), report->Fonts()).join(u'\n') + QStringLiteral("\n");
     QFile golden(QStringLiteral(GOLDEN_FOLDER "/page.txt"));
-    if (qEnvironmentVariableIsSet("VETROLAN_RENEW_GOLDEN")) {
+    if (qEnvironmentVariableIsSet("VETROLAN_RENEW")) {
         ASSERT_TRUE(golden.open(QIODevice::WriteOnly));
         golden.write(seen.toUtf8());
     } else {
         ASSERT_TRUE(golden.open(QIODevice::ReadOnly));
         EXPECT_EQ(seen, QString::fromUtf8(golden.readAll()))
-            << "if the change is wanted: VETROLAN_RENEW_GOLDEN=1 report_tests";
+            << "if the change is wanted: VETROLAN_RENEW=1 report_tests";
     }
 }

@@ -151,6 +151,21 @@ TEST_F(OutputTest, ATableForASpreadsheetHasItsMarkItsHeadsAndItsQuotes)
         QStringLiteral("plain(City),क्र.,नाव,टीप\r\nC,001,\"A,B\",\"He said \"\"no\"\"\"\r\n"));
 }
 
+TEST_F(OutputTest, ATableForASpreadsheetNamesItsGroupsAndWhatItsHeadsStandUnder)
+{
+    AddDelivery(7, QStringLiteral("सकाळ"), QStringLiteral("विठ्ठल"), 12.5, 4.2, 437.5);
+    const std::unique_ptr<Report> report = Make(
+        Template(QStringLiteral("<table source=\"c\"><heads><head/><head span=\"2\">दूध</head></heads>"
+                                "<col head=\"नाव\">{MemberName}</col><col head=\"लिटर\">{Liters|0.00}</col>"
+                                "<col head=\"फॅट\">{Fat|0.0}</col><col head=\"सही\"></col>"
+                                "<group by=\"CollectionTime\" label=\"वेळ\"/></table>")));
+    const QString file = Output(QStringLiteral("a.csv"));
+    EXPECT_TRUE(report->SaveCsv(file).Done());
+    EXPECT_EQ(QString::fromUtf8(Content(file).mid(3)),
+        QStringLiteral("वेळ,नाव,दूध लिटर,दूध फॅट\r\nसकाळ,विठ्ठल,12.50,4.2\r\n"))
+        << "a column without anything in it is for the pen";
+}
+
 TEST_F(OutputTest, AReportWithoutATableGivesTheRowOfItsSource)
 {
     AddDelivery(7, QStringLiteral("सकाळ"), QStringLiteral("विठ्ठल"), 12.5, 4.2, 437.5);
@@ -203,12 +218,46 @@ TEST_F(OutputTest, ThePrinterGetsThePdfAndItsAnswerIsPassedOn)
     const std::unique_ptr<Report> report = MakeText(QStringLiteral("अ"));
     EXPECT_TRUE(report->Print(printer, QStringLiteral("one")).Done());
     EXPECT_TRUE(printer.Content.startsWith("%PDF"));
-    EXPECT_EQ(printer.Job.title, QStringLiteral("Test"));
+    EXPECT_EQ(printer.Job.title, QStringLiteral("Test")) << "its name, since it has no title";
     EXPECT_EQ(printer.Job.printer, QStringLiteral("one"));
     EXPECT_NEAR(printer.Job.paper.width(), 595.3, 0.1);
     EXPECT_FALSE(QFileInfo::exists(printer.Job.file)) << "nothing is left behind";
     printer.Answer = {QStringLiteral("no paper")};
     EXPECT_EQ(report->Print(printer).fault, QStringLiteral("no paper"));
+}
+
+TEST_F(OutputTest, PaperAndPdfAreNamedByTheTitle)
+{
+    KeepingPrinter printer;
+    const std::unique_ptr<Report> report =
+        Make(Template(QStringLiteral("<text>अ</text>"), QStringLiteral("title=\"दूध यादी\" paper=\"A6\"")));
+    EXPECT_TRUE(report->Print(printer).Done());
+    EXPECT_EQ(printer.Job.title, QStringLiteral("दूध यादी"));
+    const QString file = Output(QStringLiteral("a.pdf"));
+    EXPECT_TRUE(report->SavePdf(file).Done());
+    QProcess info;
+    info.start(QStringLiteral("pdfinfo"), {file});
+    ASSERT_TRUE(info.waitForFinished());
+    const QString told = QString::fromUtf8(info.readAllStandardOutput());
+    EXPECT_TRUE(told.contains(QStringLiteral("दूध यादी"))) << told.toStdString();
+}
+
+TEST(MediaNames, EveryPaperOfTheTemplatesHasTheNameThatPrintersKnow)
+{
+    const std::pair<const char16_t*, const char*> papers[] = {{u"A4", "A4"}, {u"A5", "A5"}, {u"A6", "A6"},
+        {u"105x148mm", "A6"}, {u"120x90mm", "Custom.120x90mm"}, {u"10x12in", "Custom.254x304.8mm"},
+        {u"9.5x4in", "Custom.241.3x101.6mm"}};
+    for (const auto& [name, media] : papers) {
+        const std::optional<Paper> paper = ReadPaper(name);
+        ASSERT_TRUE(paper) << media;
+        EXPECT_EQ(MediaName(QSizeF(paper->width, paper->height)), QLatin1String(media));
+    }
+    EXPECT_EQ(MediaName(QSizeF(ReadPaper(u"A5")->height, ReadPaper(u"A5")->width)), QStringLiteral("A5"))
+        << "lying on its side";
+    for (const auto& [roll, media] :
+        {std::pair(u"58mm", "Custom.58x93.4mm"), std::pair(u"80mm", "Custom.80x93.4mm")})
+        EXPECT_EQ(MediaName(QSizeF(ReadPaper(roll)->width, 93.4 * PointsPerMillimetre)), QLatin1String(media))
+            << "as long as what stands on it";
 }
 
 TEST_F(OutputTest, SearchingFindsPageAndPlace)

@@ -1,32 +1,12 @@
+#include "FakePrinter.h"
+#include "FakeReportWindow.h"
 #include "ReportTest.h"
-
-#include "ReportControl.h"
 
 #include <QFile>
 
 namespace {
 
-class FakeWindow final : public ReportWindow {
-public:
-    void Show(std::shared_ptr<Report> report) override { Shown.push_back(std::move(report)); }
-    void Tell(const QString& sentence) override { Told.append(sentence); }
-
-    std::vector<std::shared_ptr<Report>> Shown;
-    QStringList Told;
-};
-
-class FakePrinter final : public Printer {
-public:
-    QStringList Names() override { return {}; }
-    Outcome Print(const PrintJob&) override
-    {
-        ++Jobs;
-        return Answer;
-    }
-
-    int Jobs = 0;
-    Outcome Answer;
-};
+const QString Logon = QStringLiteral("dsn=VetrolanDSN;pwd=secret");
 
 class ReportControlTest : public ReportTest {
 protected:
@@ -39,7 +19,7 @@ protected:
                            "order=\"MemberNo\"/>"
                            "<table source=\"p\"><col>{MemberNo}</col></table></report>"));
         Control.SetReportFileName(QStringLiteral("C:\\Tarvel01\\Vetrolan\\List.rpt"));
-        Control.SetLogon(QStringLiteral("dsn=VetrolanDSN;pwd=secret"));
+        Control.SetLogon(Logon);
         for (const int member : {1, 2})
             Run(QStringLiteral("insert into MilkPayments(PaymentDate,MemberNo) values('0%1/04/2026',%1)")
                     .arg(member));
@@ -48,6 +28,14 @@ protected:
     {
         ReportControl::CloseConnections();
         ReportSurroundings::Current() = {};
+    }
+
+    // So many that they fill many pages.
+    void AddManyPayments()
+    {
+        connection->RunScript(
+            QStringLiteral("with recursive n(i) as (select 3 union all select i+1 from n where i<2000) "
+                           "insert into MilkPayments(MemberNo) select i from n"));
     }
 
     QString ErrorOfPrinting()
@@ -67,7 +55,7 @@ protected:
         return Texts(Window.Shown.at(report)->PageAt(0)).join(u' ');
     }
 
-    FakeWindow Window;
+    FakeReportWindow Window;
     FakePrinter ThePrinter;
     ReportControl Control;
 };
@@ -93,9 +81,7 @@ TEST_F(ReportControlTest, TheSelectionFormulaNarrowsIt)
 
 TEST_F(ReportControlTest, EachPrintShowsTheTablesOfItsMoment)
 {
-    connection->RunScript(
-        QStringLiteral("with recursive n(i) as (select 3 union all select i+1 from n where i<2000) "
-                       "insert into MilkPayments(MemberNo) select i from n"));
+    AddManyPayments();
     Control.Print();
     EXPECT_FALSE(Window.Shown[0]->IsComplete());
     Run(QStringLiteral("delete * from MilkPayments"));
@@ -148,10 +134,46 @@ TEST_F(ReportControlTest, AFormulaThatCantBeReadIsAnErrorThatShowsIt)
     EXPECT_TRUE(ErrorOfPrinting().contains(QStringLiteral("{MilkPayments.PaymentDate} == 5")));
 }
 
-TEST_F(ReportControlTest, AWrongPasswordIsAnError)
+TEST_F(ReportControlTest, AWrongPasswordIsAnErrorAndTheRightOnePrintsAfterwards)
 {
     Control.SetLogon(QStringLiteral("dsn=VetrolanDSN;pwd=wrong"));
-    EXPECT_NE(ErrorOfPrinting(), QString());
+    const QString error = ErrorOfPrinting();
+    EXPECT_NE(error, QString());
+    EXPECT_EQ(ErrorOfPrinting(), error) << "nothing of the first attempt is used";
+    Control.SetLogon(Logon);
+    EXPECT_TRUE(Control.Print());
+    EXPECT_EQ(ShownTexts(), QStringLiteral("1 2"));
+}
+
+TEST_F(ReportControlTest, AReportReadsTheBooksThatWereOpenedInPreparingForIt)
+{
+    ReportControl::Prepare(Logon);
+    ASSERT_TRUE(QFile::rename(File(QStringLiteral("books.mdb")), File(QStringLiteral("moved.mdb"))));
+    EXPECT_TRUE(Control.Print());
+    EXPECT_EQ(ShownTexts(), QStringLiteral("1 2"));
+    ReportControl::CloseConnections();
+    EXPECT_NE(ErrorOfPrinting(), QString()) << "without preparing they would have been missing";
+}
+
+TEST_F(ReportControlTest, PreparingAgainNeitherDisturbsAReportThatIsBeingReadNorPrintsAnything)
+{
+    AddManyPayments();
+    Control.Print();
+    ReportControl::Prepare(Logon);
+    ReportControl::Prepare(Logon);
+    EXPECT_FALSE(Window.Shown[0]->IsComplete());
+    EXPECT_EQ(Window.Shown.size(), 1U);
+    EXPECT_EQ(ThePrinter.Jobs, 0);
+    EXPECT_TRUE(Control.Print());
+    EXPECT_TRUE(ShownTexts(1).startsWith(QStringLiteral("1 2 3 4 ")));
+}
+
+TEST_F(ReportControlTest, PreparingWithAWrongPasswordIsAnErrorAndLeavesTheBooksThatAreOpen)
+{
+    ReportControl::Prepare(Logon);
+    EXPECT_THROW(ReportControl::Prepare(QStringLiteral("dsn=VetrolanDSN;pwd=wrong")), RunTimeError);
+    EXPECT_TRUE(Control.Print());
+    EXPECT_EQ(ShownTexts(), QStringLiteral("1 2"));
 }
 
 TEST_F(ReportControlTest, AfterClosingTheBooksCanBeReplacedAndAreOpenedAnew)

@@ -1,0 +1,36 @@
+#include "CopySums.h"
+
+#include "Counter.h"
+#include "MdlAccounts.h"
+#include "Recordset.h"
+#include "Sql.h"
+
+double MilkSums::AverageFat() const
+{
+    return liters == 0 && litersByFat == 0 ? 0 : litersByFat / liters;
+}
+
+MilkSums HalfDaySums::Both() const
+{
+    return {morning.liters + evening.liters, morning.amount + evening.amount,
+        morning.litersByFat + evening.litersByFat};
+}
+
+CopySums WalkCopy()
+{
+    CopySums sums;
+    for (Recordset row(gCn, Sql(u"select * from MilkCollectionsTemp where CompanyId=", gAppState.gCompanyId));
+         !row.Eof(); row.MoveNext()) {
+        const QString animal = row[u"Animal"].Text();
+        const QString time = row[u"CollectionTime"].Text();
+        if ((animal != u"gaaya" && animal != u"mhOsa") || !Counter::IsShift(time))
+            continue;
+        HalfDaySums& ofAnimal = animal == u"gaaya" ? sums.cow : sums.buff;
+        MilkSums& sum = time == u"sakaL" ? ofAnimal.morning : ofAnimal.evening;
+        const double liters = row[u"Liters"].Number();
+        sum.liters += liters;
+        sum.amount += row[u"Amount"].Number();
+        sum.litersByFat += liters * row[u"Fat"].Number();
+    }
+    return sums;
+}

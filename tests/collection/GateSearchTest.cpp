@@ -1,0 +1,138 @@
+#include "GateTest.h"
+
+namespace {
+
+class GateSearchTest : public GateTest { };
+
+TEST_F(GateSearchTest, WithTheBoxOffNothingIsFiltered)
+{
+    AtTheGate([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1");
+        EXPECT_EQ(Listed(clerk), "4321");
+    });
+}
+
+TEST_F(GateSearchTest, TheListFollowsTheNumberKeystrokeByKeystroke)
+{
+    Searching([](Clerk& clerk) {
+        Type(clerk, "{ENTER}3");
+        EXPECT_EQ(Listed(clerk), "43");
+        Type(clerk, "1");
+        EXPECT_EQ(Listed(clerk), "");
+        Type(clerk, "{BS}");
+        EXPECT_EQ(Listed(clerk), "43");
+        Type(clerk, "{BS}");
+        EXPECT_EQ(Listed(clerk), "4321") << "an emptied field shows the whole shift";
+    });
+}
+
+TEST_F(GateSearchTest, ANewEntryNarrowsTheListAndIsSavedAgainstTheWholeShift)
+{
+    Searching([this](Clerk& clerk) {
+        Type(clerk, "{ENTER}3{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtAnimal");
+        EXPECT_EQ(Listed(clerk), "43") << "the name found by the number filters last";
+        Type(clerk, "1");
+        EXPECT_EQ(Listed(clerk), "31") << "filters don't combine";
+        Type(clerk, "{ENTER}2{ENTER}4.5{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(TheBox.Shown, Of({"Duplicate Record"}));
+        Set("RepeatCollection", "haoya");
+        DeliverOf(clerk, 3, 1, "2", "4.5");
+        EXPECT_EQ(Books().last().toStdString(), "5|3|gaNaoSa|gaaya|2|4.5|35|70");
+        EXPECT_EQ(Listed(clerk), "54321") << "the emptied line shows the whole shift";
+        EXPECT_EQ(Label(clerk, "lblTotalCowLiters"), "14.00");
+    });
+}
+
+TEST_F(GateSearchTest, LitresFatAndRateAreSearchedByTheirValue)
+{
+    Searching([](Clerk& clerk) {
+        clerk.Press(QStringLiteral("txtLiters"));
+        Type(clerk, "2.5");
+        EXPECT_EQ(Listed(clerk), "42");
+    });
+    Searching([](Clerk& clerk) {
+        PressAndSelect(clerk, "txtFat");
+        Type(clerk, "7");
+        EXPECT_EQ(Listed(clerk), "4");
+        Type(clerk, ".");
+        EXPECT_EQ(Listed(clerk), "4");
+    });
+    Searching([](Clerk& clerk) {
+        clerk.Press(QStringLiteral("txtRate"));
+        Type(clerk, "49");
+        EXPECT_EQ(Listed(clerk), "2");
+    });
+}
+
+TEST_F(GateSearchTest, ANamesFirstLettersShowAllThatBeginWithThem)
+{
+    AddMember(4, QStringLiteral("rajaa"));
+    AddMilk(5, 4, "rajaa", "gaaya", 1, 4, 32, 32);
+    Searching([](Clerk& clerk) {
+        Type(clerk, "{ENTER}{ENTER}r");
+        EXPECT_EQ(Listed(clerk), "51");
+        Type(clerk, "aj");
+        EXPECT_EQ(Listed(clerk), "5");
+    });
+}
+
+TEST_F(GateSearchTest, AnEmptyNameGivesAllRows)
+{
+    Searching([](Clerk& clerk) {
+        Type(clerk, "{ENTER}{ENTER}r");
+        EXPECT_EQ(Listed(clerk), "1");
+        Type(clerk, "{BS}");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "");
+        EXPECT_EQ(Listed(clerk), "4321");
+        Type(clerk, " ");
+        EXPECT_EQ(Listed(clerk), "4321") << "blanks are no name";
+    });
+}
+
+TEST_F(GateSearchTest, ARowLoadedIntoTheLineFiltersToo)
+{
+    Searching([](Clerk& clerk) {
+        Type(clerk, "2{ENTER}");
+        EXPECT_EQ(Listed(clerk), "2") << "its rate is set last";
+    });
+}
+
+TEST_F(GateSearchTest, SortingShowsTheWholeShiftAgain)
+{
+    Searching([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}5");
+        EXPECT_EQ(Listed(clerk), "1");
+        clerk.Press(QStringLiteral("cmdLtrOrder"));
+        EXPECT_EQ(Listed(clerk).size(), 4U);
+    });
+}
+
+TEST_F(GateSearchTest, TheTotalsGoByTheWholeShift)
+{
+    Searching([](Clerk& clerk) {
+        Type(clerk, "{ENTER}3");
+        EXPECT_EQ(Label(clerk, "lblTotalCowLiters"), "12.00");
+        EXPECT_EQ(Label(clerk, "lblTotalBuffLiters"), "5.00");
+    });
+}
+
+TEST_F(GateSearchTest, TheFilterStaysWhenTheSearchIsTurnedOff)
+{
+    Searching([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}5");
+        clerk.Press(QStringLiteral("chkSerachMode"));
+        EXPECT_EQ(Reads(clerk, "chkSerachMode"), "0");
+        EXPECT_EQ(Listed(clerk), "1");
+    });
+}
+
+TEST_F(GateSearchTest, AMembersNameWithAnApostropheEndsTheProgram)
+{
+    gCn.RunScript(QStringLiteral("update MilkCollections set MemberName='ra''ma' where CollectionNo=1"));
+    Searching([](Clerk& clerk) { Type(clerk, "1{ENTER}"); });
+    ASSERT_TRUE(Failure);
+    EXPECT_TRUE(Failure->Statement().contains(QStringLiteral("ra'ma")));
+}
+
+}

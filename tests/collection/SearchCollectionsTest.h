@@ -1,0 +1,67 @@
+#pragma once
+
+#include "CounterTest.h"
+#include "ScreenDirectory.h"
+#include "frmSearchCollections.h"
+
+#include <QDeadlineTimer>
+
+// In the books: two rows of member 1 and one of member 2 in the morning of the 15th.
+class SearchCollectionsTest : public CounterTest {
+protected:
+    SearchCollectionsTest()
+    {
+        AddMorningDelivery(1);
+        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 2, 2, QStringLiteral("saIta"),
+            QStringLiteral("mhOsa"), 2, 8, 49, 98);
+        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 3, 1, QStringLiteral("rama"),
+            QStringLiteral("mhOsa"), 1.5, 8, 49, 73.5);
+        ScreenDirectory::Add(
+            QStringLiteral("frmSearchCollections"), [] { return std::make_unique<frmSearchCollections>(); });
+    }
+    ~SearchCollectionsTest() override { ScreenDirectory::Add(QStringLiteral("frmSearchCollections"), {}); }
+
+    // Goes on as soon as the timer of the opening has ticked.
+    static void AwaitTick(Clerk& clerk)
+    {
+        const QDeadlineTimer limit(10000);
+        while (clerk.On<frmSearchCollections>().TimerStart && !limit.hasExpired())
+            clerk.Do([] {});
+        ASSERT_FALSE(clerk.On<frmSearchCollections>().TimerStart);
+    }
+
+    // Plays as the menu opens it, with the focus on the date.
+    void FromTheMenu(const std::function<void(Clerk&)>& script)
+    {
+        On<frmSearchCollections>([&](Clerk& clerk) {
+            AwaitTick(clerk);
+            script(clerk);
+        });
+    }
+
+    // Plays with a member of the morning looked for by number.
+    void After(int member, const std::function<void(Clerk&)>& script)
+    {
+        FromTheMenu([&](Clerk& clerk) {
+            clerk.Type(QStringLiteral("{ENTER}1{ENTER}%1{ENTER}{ENTER}").arg(member));
+            script(clerk);
+        });
+    }
+
+    // Plays with F9 pressed at a counter on a member of the morning.
+    template <class Counter> void FromTheCounter(int member, const std::function<void(Clerk&)>& script)
+    {
+        On<Counter>([&](Clerk& clerk) {
+            clerk.Type(QStringLiteral("{ENTER}1{ENTER}{ENTER}%1{F9}").arg(member));
+            ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmSearchCollections"));
+            AwaitTick(clerk);
+            script(clerk);
+        });
+    }
+
+    static void ExpectNothingFound(Clerk& clerk)
+    {
+        EXPECT_FALSE(CanEnter(clerk, "DataGridInwards"));
+        EXPECT_FALSE(CanEnter(clerk, "cmdGo"));
+    }
+};
