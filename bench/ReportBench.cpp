@@ -29,8 +29,8 @@ struct List {
         for (std::size_t page = 0; page < report->PageCount(); ++page)
             for (const PlacedItem& item : report->PageAt(page).items)
                 figures += item.kind == PlacedItem::Kind::Text && item.fit == Fit::Shrink;
-        // Four figures a row, and the totals of three of them.
-        Require(figures == 4 * ListedRows + 3, "All rows of the list are on its pages.");
+        // The number and four figures a row, and the totals of three of them.
+        Require(figures == 5 * ListedRows + 3, "All rows of the list are on its pages.");
         return report;
     }
 };
@@ -101,7 +101,9 @@ void MeasurePdf(benchmark::State& state, const QString& drives, Pair& pair)
     }
     const auto size = static_cast<double>(QFileInfo(file).size());
     const auto floorsSize = static_cast<double>(QFileInfo(floors).size());
-    Require(size > 0.9 * floorsSize && size < 1.1 * floorsSize, "Both ways write as much.");
+    // The report marks each Marathi word as one piece for those who read the file, on top of what the floor
+    // writes.
+    Require(size >= floorsSize && size < 1.5 * floorsSize, "The report writes all that the floor writes.");
 }
 
 struct ReportCase {

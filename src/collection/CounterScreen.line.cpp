@@ -45,6 +45,8 @@ CounterScreen::CounterScreen(const CounterKind& kind)
 {
     WireHandlers();
     NameMemberKeys();
+    maskDate.SetGuide(Keys::Guide(Name() + QStringLiteral(".maskDate")));
+    txtCollectionNo.SetGuide(Keys::Guide(Name() + QStringLiteral(".txtCollectionNo")));
     txtTime.SetLocked(true);
     txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     txtAnimal.SetLocked(true);
@@ -52,6 +54,9 @@ CounterScreen::CounterScreen(const CounterKind& kind)
     ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
     txtLiters.SetMaxLength(9);
     txtAmount.SetEnabled(false);
+    // A field that waits for a silent device can be left for the device's switch.
+    cmdAutoLiter.SetCancels(true);
+    cmdAutoFat.SetCancels(true);
     EnableEntry(false);
 }
 

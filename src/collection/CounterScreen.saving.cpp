@@ -119,6 +119,7 @@ void CounterScreen::SearchMember()
         txtCollectionNo.SetText(row[u"CollectionNo"].Text());
         ShowRow(row);
     }
+    DataGridInwards.Rows(); // the search puts other rows into the copy: the list is to be whole before
     gAppState.gCallerTag = QStringLiteral("MC");
     ScreenDirectory::Open(QStringLiteral("frmSearchCollections"), lblSearch.Shown());
 }

@@ -22,8 +22,7 @@ using namespace CounterPieces;
 
 namespace {
 
-constexpr int WindowWidth = 860;
-constexpr int WindowHeight = 640;
+constexpr int ListRow = 38;
 
 constexpr QStringView MembersQuery = u"SELECT MemberNo,MemberName FROM ShortMemberList";
 
@@ -54,6 +53,7 @@ frmAbsenseMemberCollection::frmAbsenseMemberCollection()
     When(Command1.Click, &frmAbsenseMemberCollection::Command1_Click);
     txtTime.SetLocked(true);
     txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
+    Command1.SetGuide(Plain(u"Enter : यादी"));
     LayOut();
 }
 
@@ -107,9 +107,8 @@ void frmAbsenseMemberCollection::Command1_Click()
         return;
     ListAbsent({MaskDate.Date(), txtTime.Text()});
     DataGridMembers.Bind(gCn, MembersQuery.toString());
-    const bool isEmpty = DataGridMembers.Rows() == 0;
-    lblFooter.SetCaption(isEmpty ? Plain(u"कालच्या या वेळेतील कोणीही गैरहजर नाही") : Caption());
-    lblFooter.SetVisible(isEmpty);
+    lblFooter.SetCaption(
+        DataGridMembers.Rows() == 0 ? Plain(u"कालच्या या वेळेतील कोणीही गैरहजर नाही") : Command1.Guide());
 }
 
 // One line for each delivery of the day before: who brought two kinds of milk is listed twice.
@@ -153,9 +152,9 @@ void frmAbsenseMemberCollection::LayOut()
     body->addWidget(question);
     body->addWidget(lblFooter.Widget());
     body->addWidget(Label28.Widget());
-    body->addWidget(List(DataGridMembers), 1);
+    body->addWidget(List(DataGridMembers, ListRow, Look::Size::Large), 1);
     Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
         Layout::KeyStrip(Keys::Of(Name())));
     body->setContentsMargins(20, 10, 20, 12);
-    setFixedSize(WindowWidth, WindowHeight);
+    setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
 }

@@ -5,6 +5,7 @@
 #include "Counter.h"
 #include "MdlAccounts.h"
 #include "Messages.h"
+#include "ModeTitles.h"
 #include "Queries.h"
 #include "Sql.h"
 #include "Transaction.h"
@@ -14,6 +15,8 @@
 using namespace Counter;
 
 namespace {
+
+constexpr QStringView IdleTitle = u"  raojacao saBaasadanausaar duQa saMklana";
 
 // One action is one statement here.
 void Write(const QString& statement)
@@ -47,9 +50,10 @@ void frmDailyCollection::Escape()
 
 // States
 
-void frmDailyCollection::EnterState(Button& button, QStringView caption)
+void frmDailyCollection::EnterState(Button& button, QStringView caption, QStringView title)
 {
     button.SetCaption(Shivaji(caption));
+    SetTitle(Shivaji(QString(IdleTitle % title)));
     for (Button* other : {&cmdAdd, &cmdModify, &cmdDelete})
         other->SetEnabled(other == &button);
     cmdExit.SetEnabled(false);
@@ -79,6 +83,7 @@ void frmDailyCollection::ShowIdle()
     cmdAdd.SetCaption(Shivaji(u"&navaIna"));
     cmdModify.SetCaption(Shivaji(u"ba&dla"));
     cmdDelete.SetCaption(Shivaji(u"&KaoDNao..."));
+    SetTitle(Shivaji(IdleTitle));
     for (Button* button : {&cmdAdd, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit})
         button->SetEnabled(true);
     for (Field* field : Fields())
@@ -114,7 +119,7 @@ void frmDailyCollection::cmdExit_Click()
 void frmDailyCollection::cmdAdd_Click()
 {
     if (!IsAdding()) {
-        EnterState(cmdAdd, u"&saovh");
+        EnterState(cmdAdd, u"&saovh", ModeTitles::New);
         return;
     }
     if (Field* field = Unfinished()) {
@@ -161,7 +166,7 @@ void frmDailyCollection::ShowNextNumber()
 void frmDailyCollection::cmdModify_Click()
 {
     if (!IsModifying()) {
-        EnterState(cmdModify, u"&saovh");
+        EnterState(cmdModify, u"&saovh", ModeTitles::Modify);
         return;
     }
     if (Field* field = Unfinished()) {
@@ -186,7 +191,7 @@ QString frmDailyCollection::UpdateStatement() const
 void frmDailyCollection::cmdDelete_Click()
 {
     if (!IsDeleting()) {
-        EnterState(cmdDelete, u"&KaoDa");
+        EnterState(cmdDelete, u"&KaoDa", ModeTitles::Delete);
         return;
     }
     if (Field* field = Unfinished()) {

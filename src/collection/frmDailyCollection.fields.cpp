@@ -55,8 +55,10 @@ frmDailyCollection::frmDailyCollection()
 void frmDailyCollection::WireHandlers()
 {
     When(txtMemberNo.TextChanged, &frmDailyCollection::txtMemberNo_Change);
-    When(MasKCollectionDate.TextChanged, &frmDailyCollection::ForgetRow);
-    When(txtCollectionNo.TextChanged, &frmDailyCollection::ForgetRow);
+    for (Field* key :
+        std::initializer_list<Field*>{&MasKCollectionDate, &cmbCollectionTime, &txtCollectionNo})
+        When(key->TextChanged, &frmDailyCollection::ForgetRow);
+    When(txtAmount.TextChanged, &frmDailyCollection::txtAmount_Change);
     When(txtMemberNo.LostFocus, &frmDailyCollection::txtMemberNo_LostFocus);
     When(cmbMemberName.LostFocus, &frmDailyCollection::cmbMemberName_LostFocus);
     When(MasKCollectionDate.LostFocus, &frmDailyCollection::MasKCollectionDate_LostFocus);
@@ -102,14 +104,27 @@ Field* frmDailyCollection::Unfinished()
         return &txtCollectionNo;
     if (txtAnimal.IsEmpty() && !IsDeleting())
         return &txtAnimal;
-    if (!IsAdding())
+    if (IsDeleting())
         return nullptr;
+    if (Field* figure = IsAdding() ? UnfinishedFigure() : nullptr)
+        return figure;
+    return Priced() == PricedFor ? nullptr : &txtFat; // it is left with the rate and the amount
+}
+
+Field* frmDailyCollection::UnfinishedFigure()
+{
     for (Field* figure : {&txtLiters, &txtFat, &txtRate, &txtAmount})
         if (!IsNumeric(figure->Text()))
             return figure;
     if (Value(txtLiters) <= 0)
         return &txtLiters;
     return Value(txtFat) <= 0 || Value(txtFat) > HighestFat ? &txtFat : nullptr;
+}
+
+// What the rate and the amount are made from. A rate that is typed makes the amount as soon as it is left.
+QStringList frmDailyCollection::Priced() const
+{
+    return {MasKCollectionDate.Text(), txtAnimal.Text(), txtLiters.Text(), txtFat.Text()};
 }
 
 // Member
@@ -131,7 +146,8 @@ void frmDailyCollection::txtMemberNo_Change()
     ShowList(false); // it is another member's now
 }
 
-// What is written is the row that was shown: with another member, day or number it has to be shown first.
+// What is written is the row that was shown: with another member, day, shift or number it has to be shown
+// first.
 void frmDailyCollection::ForgetRow()
 {
     IsRowShown = false;
@@ -212,6 +228,7 @@ void frmDailyCollection::cmbCollectionTime_LostFocus()
 void frmDailyCollection::txtCollectionNo_LostFocus()
 {
     const bool isPicked = std::exchange(IsPicked, false);
+    const bool isSeen = IsRowShown;
     if ((IsAdding() && !isPicked) || !MasKCollectionDate.InsistOnDate())
         return;
     const Recordset row(gCn,
@@ -219,7 +236,9 @@ void frmDailyCollection::txtCollectionNo_LostFocus()
             Value(txtMemberNo), u" AND CollectionDate=", Day()));
     if (!row.Eof()) {
         ShowRow(row);
-        if (IsDeleting() && !IsSteppingBack())
+        if (!isSeen && (GoingTo() == &cmdModify || GoingTo() == &cmdDelete))
+            txtCollectionNo.SetFocus(); // one look at it before it is written
+        else if (IsDeleting() && !IsSteppingBack())
             cmdDelete.SetFocus();
     } else if (!IsAdding()) {
         ShowNotice(u"saMklana naM tpasaa.");
@@ -240,6 +259,7 @@ void frmDailyCollection::ShowRow(const Recordset& row)
         field->SetText(row[column].Text());
         MendNumber(*field);
     }
+    PricedFor = Priced();
     IsRowShown = true;
 }
 
@@ -292,6 +312,7 @@ void frmDailyCollection::txtFat_LostFocus()
 void frmDailyCollection::ShowAmount()
 {
     txtAmount.SetText(Format(Value(txtLiters) * Value(txtRate), MoneyFormat));
+    PricedFor = Priced();
 }
 
 void frmDailyCollection::txtRate_LostFocus()
@@ -302,6 +323,12 @@ void frmDailyCollection::txtRate_LostFocus()
         return;
     for (Button* button : {&cmdAdd, &cmdModify, &cmdDelete})
         button->SetFocus(); // the one that is open
+}
+
+// An amount that is typed stands for the figures beside it as they are.
+void frmDailyCollection::txtAmount_Change()
+{
+    PricedFor = Priced();
 }
 
 void frmDailyCollection::txtAmount_LostFocus()

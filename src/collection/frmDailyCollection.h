@@ -41,6 +41,7 @@ private:
     QWidget* Frame1 = nullptr; // holds DataGrid1
     bool IsRowShown = false; // the fields show a row of the books
     bool IsPicked = false; // the number comes from the member's list, and its row is to be shown
+    QStringList PricedFor; // what the amount that is shown was made for
 
     void Load() override;
     bool KeyDown(const QKeyEvent& key) override;
@@ -58,6 +59,7 @@ private:
     void txtLiters_LostFocus();
     void txtFat_LostFocus();
     void txtRate_LostFocus();
+    void txtAmount_Change();
     void txtAmount_LostFocus();
     void cmdAdd_Click();
     void cmdModify_Click();
@@ -71,7 +73,7 @@ private:
     bool IsAdding() const { return cmdAdd.Reads(u"&saovh"); }
     bool IsModifying() const { return cmdModify.Reads(u"&saovh"); }
     bool IsDeleting() const { return cmdDelete.Reads(u"&KaoDa"); }
-    void EnterState(Button& button, QStringView caption);
+    void EnterState(Button& button, QStringView caption, QStringView title);
     void SetGuides();
     void ShowIdle();
     void ClearFields();
@@ -79,6 +81,8 @@ private:
 
     // Rules of the fields
     Field* Unfinished();
+    Field* UnfinishedFigure();
+    QStringList Priced() const;
     void TakeMember(const Recordset& member);
     void ShowAmount();
     void ShowNextNumber();

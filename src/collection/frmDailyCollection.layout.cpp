@@ -13,7 +13,6 @@ using namespace CounterPieces;
 void frmDailyCollection::LayOut()
 {
     SetTitleLabel(lblTitle);
-    SetTitle(Shivaji(u"  raojacao saBaasadanausaar duQa saMklana"));
     SetGuideLabel(lblGuide);
     Layout::MakeGuide(lblGuide);
 

@@ -29,7 +29,6 @@ constexpr QStringView BuffAverageFormat = u"########0.0";
 void frmMilkCollections::ShowMemberFrame()
 {
     SkipMemberChecks = true;
-    ShowMemberKeys(false);
     ShowFrame(true);
     maskFromDate.SetFocus();
     const std::vector<Control*> frame = FrameControls();

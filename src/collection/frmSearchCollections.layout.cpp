@@ -12,7 +12,7 @@ using namespace CounterPieces;
 
 namespace {
 
-constexpr int WindowHeight = 560;
+constexpr int ListRow = 38;
 
 }
 
@@ -27,14 +27,14 @@ void frmSearchCollections::LayOut()
     body->setSpacing(8);
     body->addWidget(Question());
     body->addWidget(lblFooter.Widget());
-    body->addWidget(List(DataGridInwards), 1);
+    body->addWidget(List(DataGridInwards, ListRow, Look::Size::Large), 1);
     DataGridInwards.SetAccessibleName(Shivaji(u"dUQa saMklana"));
     cmdGo.SetAccessibleName(Keys::Action(Name(), u"Alt+P"));
     body->addLayout(Layout::ButtonRow({&cmdGo}));
     Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
         Layout::KeyStrip(Keys::Of(Name())));
     body->setContentsMargins(20, 10, 20, 12);
-    setFixedSize(Look::ScreenWidth, WindowHeight);
+    setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
 }
 
 // Whose slip, and of which shift.

@@ -36,6 +36,9 @@ const Table& TheTable()
             {Shivaji(u"dUQa saMklana 1"),
                 {Next, Back, Leave, Calculator, {QStringLiteral("F3"), Shivaji(u"]%padkacao rijasTr")},
                     {QStringLiteral("F6"), Shivaji(u"]cala naaoMd")}, Tutor}}},
+        {QStringLiteral("frmMilkCollections.maskDate"),
+            {Plain(u"दूध संकलन १, दिनांकात"),
+                {{QStringLiteral("Shift+Tab"), Plain(u"वजन काटा, फॅट मशीन, प्रिंटर")}}}},
         {QStringLiteral("frmMilkCollections.txtCollectionNo"),
             {Plain(u"दूध संकलन १, संकलन क्रमांकात"),
                 {{QStringLiteral("↑"), Plain(u"आधीची नोंद")}, {QStringLiteral("↓"), Plain(u"पुढची नोंद")}}}},
@@ -47,12 +50,17 @@ const Table& TheTable()
         {QStringLiteral("FrameMilkCollection"),
             {Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana"),
                 {Next, Back, Leave, {QStringLiteral("Alt+I"), Shivaji(u"irpaoT-")},
-                    {QStringLiteral("Alt+B"), Shivaji(u"baahor")}}}},
+                    {QStringLiteral("Alt+B"), Shivaji(u"baahor")}, Calculator,
+                    {QStringLiteral("F3"), Shivaji(u"]%padkacao rijasTr")},
+                    {QStringLiteral("F6"), Shivaji(u"]cala naaoMd")}, Tutor}}},
         {QStringLiteral("frmCollectionGate"),
             {Shivaji(u"dUQa saMklana 2"),
                 {Next, Back, Leave, Calculator, {QStringLiteral("F3"), Shivaji(u"]%padkacao rijasTr")},
                     {QStringLiteral("F6"), Shivaji(u"]cala naaoMd")}, Tutor,
                     {QStringLiteral("Alt+B"), Shivaji(u"baahor")}}}},
+        {QStringLiteral("frmCollectionGate.maskDate"),
+            {Plain(u"दूध संकलन २, दिनांकात"),
+                {{QStringLiteral("Shift+Tab"), Plain(u"शोध, क्रम, वजन काटा, फॅट मशीन, प्रिंटर")}}}},
         {QStringLiteral("frmCollectionGate.txtCollectionNo"),
             {Plain(u"दूध संकलन २, संकलन क्रमांकात"),
                 {{QStringLiteral("↑"), Plain(u"आधीची नोंद")}, {QStringLiteral("↓"), Plain(u"पुढची नोंद")}}}},
@@ -114,6 +122,10 @@ const Table& TheTable()
                     {QStringLiteral("Ctrl+PgUp"), Plain(u"मागचे पान")},
                     {QStringLiteral("Alt+↓"), Plain(u"यादी")}, {QStringLiteral("Space"), Plain(u"खूण")},
                     Leave}}},
+        {QStringLiteral("frmAutoSettings.cmdReceipt"),
+            {Plain(u"ऑटो सेटींग्ज, संकलनाच्या पानावर"),
+                {{QStringLiteral("Shift+Tab"), Plain(u"पहिल्या प्रश्नावरून पावती प्रकाराच्या बटणावर")},
+                    {QStringLiteral("Enter"), Plain(u"बटणावर : नमुना पावती")}}}},
         {QStringLiteral("frmAutoSettings.Sale"),
             {Plain(u"ऑटो सेटींग्ज, दूध विक्रीच्या पानावर"),
                 {{QStringLiteral("↓"), Shivaji(u"ivaËI pavatIÀip`MT")}}}},
@@ -138,6 +150,14 @@ Caption Keys::Action(const QString& screen, QStringView key)
         if (hint.key == key)
             return hint.action;
     return {};
+}
+
+Caption Keys::Guide(const QString& place)
+{
+    QStringList parts;
+    for (const KeyHint& hint : Of(place))
+        parts.append(hint.key + QStringLiteral(" : ") + hint.action.Seen().trimmed());
+    return Plain(parts.join(QStringLiteral("    ")));
 }
 
 const std::vector<Keys::Sheet>& Keys::Sheets()

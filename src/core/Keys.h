@@ -12,6 +12,9 @@ const std::vector<KeyHint>& Of(const QString& screen);
 // What a key of a screen does, as its hint says; an empty caption for a key that it doesn't have.
 Caption Action(const QString& screen, QStringView key);
 
+// The keys of a place in one line, to stand as a field's guide.
+Caption Guide(const QString& place);
+
 // The screens that have keys, and the name that the clerk knows each by.
 struct Sheet {
     QString screen;

@@ -5,8 +5,15 @@
 #include "MdlAccounts.h"
 #include "MemberClosing.h"
 #include "Messages.h"
+#include "ModeTitles.h"
 #include "Sql.h"
 #include "Transaction.h"
+
+namespace {
+
+constexpr QStringView IdleTitle = u" ]%padkacao maasTr";
+
+}
 
 frmMembers::frmMembers()
     : Screen("frmMembers")
@@ -68,10 +75,10 @@ void frmMembers::Escape()
 
 // Modes
 
-void frmMembers::EnterMode(Button& mode, const Caption& caption, const Caption& title)
+void frmMembers::EnterMode(Button& mode, const Caption& caption, QStringView title)
 {
     mode.SetCaption(caption);
-    SetTitle(title);
+    SetTitle(Shivaji(QString(IdleTitle % title)));
     for (Button* button : {&cmdNew, &cmdModify, &cmdDelete, &cmdExit})
         button->SetEnabled(button == &mode);
     cmdCancel.SetEnabled(true);
@@ -85,7 +92,7 @@ void frmMembers::ShowIdle()
     cmdNew.SetCaption(Shivaji(u"&navaIna"));
     cmdModify.SetCaption(Shivaji(u"ba&dla"));
     cmdDelete.SetCaption(Shivaji(u"&KaoDNao"));
-    SetTitle(Shivaji(u" ]%padkacao maasTr"));
+    SetTitle(Shivaji(IdleTitle));
 
     const bool hasMembers = !Recordset(gCn, QStringLiteral("SELECT * FROM MembersMaster")).Eof();
     for (Button* button : {&cmdModify, &cmdDelete})
@@ -142,7 +149,7 @@ void frmMembers::cmdNew_Click()
 void frmMembers::StartNew()
 {
     const int next = NextMemberNo();
-    EnterMode(cmdNew, Shivaji(u"&saovh"), Shivaji(u" ]%padkacao maasTr navaIna roka^D-"));
+    EnterMode(cmdNew, Shivaji(u"&saovh"), ModeTitles::New);
     txtMemberNo.SetText(QString::number(next));
     txtMemberNo.SetFocus();
 }
@@ -168,7 +175,7 @@ void frmMembers::cmdModify_Click()
 
 void frmMembers::StartModify()
 {
-    EnterMode(cmdModify, Shivaji(u"&saovh"), Shivaji(u" ]%padkacao maasTr roka^D-maQyao badla"));
+    EnterMode(cmdModify, Shivaji(u"&saovh"), ModeTitles::Modify);
     txtMemberNo.SetFocus();
 }
 
@@ -196,7 +203,7 @@ void frmMembers::cmdDelete_Click()
 
 void frmMembers::StartDelete()
 {
-    EnterMode(cmdDelete, Shivaji(u"&KaoDa"), Shivaji(u" ]%padkacao maasTr roka^D- KaoDNao"));
+    EnterMode(cmdDelete, Shivaji(u"&KaoDa"), ModeTitles::Delete);
     txtMemberNo.SetFocus();
 }
 

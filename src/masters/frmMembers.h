@@ -75,7 +75,7 @@ private:
     bool IsNew() const { return cmdNew.Reads(u"&saovh"); }
     bool IsModify() const { return cmdModify.Reads(u"&saovh"); }
     bool IsDelete() const { return cmdDelete.Reads(u"&KaoDa"); }
-    void EnterMode(Button& mode, const Caption& caption, const Caption& title);
+    void EnterMode(Button& mode, const Caption& caption, QStringView title);
     void ShowIdle();
     void ReturnToIdle();
     std::vector<Control*> EntryFields();

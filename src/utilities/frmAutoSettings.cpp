@@ -84,10 +84,7 @@ void frmAutoSettings::Load()
 
 bool frmAutoSettings::KeyDown(const QKeyEvent& key)
 {
-    HasOwnWay = true;
-    const bool gone = SSTab.TurnPage(key) || GoToSalesPrint(key);
-    HasOwnWay = false;
-    return gone;
+    return SSTab.TurnPage(key) || GoToSalesPrint(key);
 }
 
 // The rate before it leads to the button that saves, so the print of the sales has a key of its own.

@@ -73,7 +73,6 @@ private:
     Button cmdReceipt{this, "cmdReceipt", Shivaji(u"pavatI p`kar")};
 
     ReportControl CRMilkReceipt;
-    bool HasOwnWay = false; // the running key leads elsewhere than on
 
     void Wire();
     void LayOut();
@@ -107,8 +106,9 @@ private:
     void txtMixSaleRate_LostFocus();
     void ComboMSRPrintStatus_LostFocus();
 
-    // Whether the last field of a page leads on to what comes next, or the clerk is going elsewhere.
-    bool LeadsOn() const { return !IsSteppingBack() && !HasOwnWay; }
+    // Whether the last field of a page leads on to what comes next. It doesn't when the clerk goes elsewhere
+    // himself: back, to another page, to a button.
+    bool LeadsOn() const { return !IsSteppingBack() && !GoingTo(); }
 
     // These return whether the field may be left.
     bool CheckChoice(ChoiceCombo& combo);

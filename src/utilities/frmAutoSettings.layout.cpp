@@ -175,6 +175,7 @@ void frmAutoSettings::SetGuides()
     ComboPaymentDuration.SetGuide(
         Shivaji(u"  1Á– 1 idvasa    2Á– 7 idvasa    3Á– 10 idvasa    4Á– 15 idvasa    5Á– 1 maihnaa"));
     ComboMSRPrintStatus.SetGuide(Shivaji(u"  1–saovh  2–saovh va sËIna  3–saovh va ip`MT"));
+    cmdReceipt.SetGuide(Plain(u"Enter : नमुना पावती"));
     SSTab.SetGuide(Plain(u"Enter : दर    ↓ : विक्री पावती/प्रिंट"));
     for (NumberField* rate : {&txtCowSaleRate, &txtBuffSaleRate, &txtMixSaleRate})
         rate->SetGuide(Plain(u"↓ : विक्री पावती/प्रिंट"));

@@ -1,4 +1,4 @@
-#include "CounterTest.h"
+#include "EachCounterTest.h"
 
 #include "FakeSerialPort.h"
 
@@ -6,8 +6,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// The counter with a scale and a tester on scripted ports.
-class CounterDevicesTest : public CounterTest {
+// The counters with a scale and a tester on scripted ports.
+class CounterDevicesTest : public EachCounterTest {
 protected:
     void Devices(const char* scale, const char* autoLiters, const char* autoFat)
     {
@@ -22,24 +22,33 @@ protected:
         Ports.Replies.insert(command, {{reply, 1ms}});
     }
 
+    // Plays on the counter as it opens, with the focus on the date.
+    void AtThisCounter(const std::function<void(Clerk&)>& script)
+    {
+        if (IsGate())
+            On<frmCollectionGate>(script);
+        else
+            AtTheCounter(script);
+    }
+
     FakeSerialPorts Ports;
 };
 
-TEST_F(CounterDevicesTest, WithoutARowOfPortsTheClerkIsToldAndTheCounterOpens)
+INSTANTIATE_TEST_SUITE_P(AtEach, CounterDevicesTest, Counters(), CounterName);
+
+TEST_P(CounterDevicesTest, WithoutARowOfPortsTheClerkIsToldAndTheCounterOpens)
 {
     Run(QStringLiteral("delete * from PortTable"));
-    AtTheCounter([this](Clerk& clerk) {
+    AtThisCounter([this](Clerk& clerk) {
         EXPECT_EQ(TheBox.Shown, Of({"Check port setting"}));
         EXPECT_EQ(Focus(clerk), "maskDate");
     });
-    TheBox.Shown.clear();
-    On<frmCollectionGate>([this](Clerk&) { EXPECT_EQ(TheBox.Shown, Of({"Check port setting"})); });
 }
 
-TEST_F(CounterDevicesTest, TheSwitchesFollowTheSettingAndTurnItForThisRunOnly)
+TEST_P(CounterDevicesTest, TheSwitchesFollowTheSettingAndTurnItForThisRunOnly)
 {
     gAppState.gAutoLiters = QStringLiteral("haoya");
-    AtTheCounter([](Clerk& clerk) {
+    AtThisCounter([](Clerk& clerk) {
         EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "sau$");
         EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "baMd");
         clerk.Press(QStringLiteral("cmdAutoLiter"));
@@ -52,45 +61,45 @@ TEST_F(CounterDevicesTest, TheSwitchesFollowTheSettingAndTurnItForThisRunOnly)
     EXPECT_EQ(Rows(QStringLiteral("select AutoLiters,AutoFat from AutoSettings")), Of({"naahI|naahI"}));
 }
 
-TEST_F(CounterDevicesTest, TheScaleFillsTheLitresAndTheClerkGoesOnWithoutAKey)
+TEST_P(CounterDevicesTest, TheScaleFillsTheLitresAndTheClerkGoesOnWithoutAKey)
 {
     Devices("ELECTRO", "haoya", "naahI");
     Reply("W", "ST,+ 05.25 kg");
-    InTheMorning([](Clerk& clerk) {
+    InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}");
-        EXPECT_EQ(Reads(clerk, "txtLiters"), "5.250");
+        EXPECT_EQ(Reads(clerk, "txtLiters"), Litres("5.25"));
         EXPECT_EQ(Focus(clerk), "txtFat");
     });
 }
 
-TEST_F(CounterDevicesTest, AScaleThatSaysNothingLeavesAZeroToTypeOver)
+TEST_P(CounterDevicesTest, AScaleThatSaysNothingLeavesAZeroToTypeOver)
 {
     Devices("ELECTRO", "haoya", "naahI");
-    InTheMorning([](Clerk& clerk) {
+    InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtLiters");
         EXPECT_EQ(Reads(clerk, "txtLiters"), "0");
         Type(clerk, "4{ENTER}");
-        EXPECT_EQ(Reads(clerk, "txtLiters"), "4.000");
+        EXPECT_EQ(Reads(clerk, "txtLiters"), Litres("4.00"));
         EXPECT_EQ(Focus(clerk), "txtFat");
     });
 }
 
-TEST_F(CounterDevicesTest, WithoutAMemberTheScaleIsLeftAlone)
+TEST_P(CounterDevicesTest, WithoutAMemberTheScaleIsLeftAlone)
 {
     Devices("ELECTRO", "haoya", "naahI");
-    InTheMorning([this](Clerk& clerk) {
+    InTheShift([this](Clerk& clerk) {
         clerk.Press(QStringLiteral("txtLiters"));
         EXPECT_EQ(Reads(clerk, "txtLiters"), "");
         EXPECT_TRUE(Ports.Log.isEmpty());
     });
 }
 
-TEST_F(CounterDevicesTest, TheTesterFillsTheFat)
+TEST_P(CounterDevicesTest, TheTesterFillsTheFat)
 {
     Devices("NO", "naahI", "haoya");
     Reply("W", "ST,GS,00000000 4.5%");
-    InTheMorning([](Clerk& clerk) {
+    InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}2{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
         EXPECT_EQ(Reads(clerk, "txtFat"), "4.5");
@@ -99,11 +108,11 @@ TEST_F(CounterDevicesTest, TheTesterFillsTheFat)
     });
 }
 
-TEST_F(CounterDevicesTest, WithNoScaleOnlyTheFatIsRead)
+TEST_P(CounterDevicesTest, WithNoScaleOnlyTheFatIsRead)
 {
     Devices("NO", "haoya", "haoya");
     Reply("W", "ST,GS,00000000 4.5%");
-    InTheMorning([this](Clerk& clerk) {
+    InTheShift([this](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtLiters");
         EXPECT_EQ(Reads(clerk, "txtLiters"), "0");
@@ -111,15 +120,15 @@ TEST_F(CounterDevicesTest, WithNoScaleOnlyTheFatIsRead)
         Type(clerk, "2{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
         EXPECT_EQ(Reads(clerk, "txtFat"), "4.5");
-        EXPECT_EQ(Reads(clerk, "txtLiters"), "2.000");
+        EXPECT_EQ(Reads(clerk, "txtLiters"), Litres("2.00"));
         EXPECT_EQ(Ports.TakeLog(), Of({"open 1 2400,n,8,1", "dtr", "write W", "close"}));
     });
 }
 
-TEST_F(CounterDevicesTest, OneKeyReadsASilentTesterOnce)
+TEST_P(CounterDevicesTest, OneKeyReadsASilentTesterOnce)
 {
     Devices("NO", "naahI", "haoya");
-    InTheMorning([this](Clerk& clerk) {
+    InTheShift([this](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}2{ENTER}");
         EXPECT_EQ(Ports.TakeLog().count(QStringLiteral("write W")), 1) << "on entering the fat";
         for (int time = 0; time < 3; ++time) {
@@ -130,13 +139,11 @@ TEST_F(CounterDevicesTest, OneKeyReadsASilentTesterOnce)
     });
 }
 
-TEST_F(CounterDevicesTest, WithoutAFatTheFieldIsNotLeftUntilTheTesterGivesOneOrIsTurnedOff)
+TEST_P(CounterDevicesTest, WithoutAFatTheFieldIsNotLeftUntilTheTesterGivesOne)
 {
     Devices("NO", "naahI", "haoya");
-    InTheMorning([this](Clerk& clerk) {
+    InTheShift([this](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}2{ENTER}{ENTER}");
-        EXPECT_EQ(Focus(clerk), "txtFat");
-        clerk.Press(QStringLiteral("cmdAutoFat"));
         EXPECT_EQ(Focus(clerk), "txtFat");
         Reply("W", "ST,GS,00000000 4.5%");
         Type(clerk, "{ENTER}");
@@ -147,33 +154,85 @@ TEST_F(CounterDevicesTest, WithoutAFatTheFieldIsNotLeftUntilTheTesterGivesOneOrI
     });
 }
 
-TEST_F(CounterDevicesTest, AFatTypedBesideASilentTesterPasses)
+TEST_P(CounterDevicesTest, WithoutAFatTheFieldIsNotLeftUntilTheTesterIsSwitchedOff)
 {
     Devices("NO", "naahI", "haoya");
-    InTheMorning([](Clerk& clerk) {
+    InTheShift([this](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}2{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtFat");
+        Ports.TakeLog();
+        clerk.Press(QStringLiteral("cmdAutoFat"));
+        EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "baMd");
+        clerk.Press(QStringLiteral("txtFat"));
+        Type(clerk, "4.5{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtRate");
+        EXPECT_TRUE(Ports.Log.isEmpty());
+    });
+}
+
+TEST_P(CounterDevicesTest, TheScaleCanBeSwitchedOffWhileTheLitresWaitForIt)
+{
+    Devices("ELECTRO", "haoya", "naahI");
+    InTheShift([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtLiters");
+        clerk.Press(QStringLiteral("cmdAutoLiter"));
+        EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "baMd");
+        clerk.Press(QStringLiteral("txtLiters"));
+        Type(clerk, "4{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtFat");
+    });
+}
+
+TEST_P(CounterDevicesTest, TheDeviceThatDoesBothGivesLitresWithTheDecimalsOfTheCounter)
+{
+    Devices("MCS", "haoya", "haoya");
+    Reply("", "012345042\r\n");
+    InTheShift([this](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(Rows(QStringLiteral("select Liters,Fat from MilkCollections")),
+            Of({IsGate() ? "12.35|4.2" : "12.345|4.2"}));
+    });
+}
+
+TEST_P(CounterDevicesTest, TheDeviceThatDoesBothShowsAnEmptyCanWithTwoLeadingNoughts)
+{
+    Devices("MCS", "haoya", "naahI");
+    Reply("", "000000042\r\n");
+    InTheShift([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtLiters");
+        EXPECT_EQ(Reads(clerk, "txtLiters"), Litres("00.00"));
+    });
+}
+
+TEST_P(CounterDevicesTest, AFatTypedBesideASilentTesterPasses)
+{
+    Devices("NO", "naahI", "haoya");
+    InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}2{ENTER}4.5{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtRate");
     });
 }
 
-TEST_F(CounterDevicesTest, UdfreadReadsTheLitresASecondTimeAtTheFat)
+TEST_P(CounterDevicesTest, UdfreadReadsTheLitresASecondTimeAtTheFat)
 {
     Run(QStringLiteral("update PortTable set LReceiverCommand='RD'"));
     Devices("UDFREAD", "naahI", "haoya");
     Reply("RD", "12345 06.5");
     Reply("W", "ST,GS,00000000 4.5%");
-    InTheMorning([](Clerk& clerk) {
+    InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}2{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtLiters"), "6.5");
         EXPECT_EQ(Reads(clerk, "txtFat"), "4.5");
     });
 }
 
-TEST_F(CounterDevicesTest, AceCorpNeverFillsTheFat)
+TEST_P(CounterDevicesTest, AceCorpNeverFillsTheFat)
 {
     Devices("ACE CORP", "naahI", "haoya");
     Reply("", "+0006.5000");
-    InTheMorning([](Clerk& clerk) {
+    InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}2{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
         EXPECT_EQ(Reads(clerk, "txtFat"), "0");
@@ -181,10 +240,10 @@ TEST_F(CounterDevicesTest, AceCorpNeverFillsTheFat)
     });
 }
 
-TEST_F(CounterDevicesTest, ASaveSendsTheTareByTheSwitchAndNotByTheStoredSetting)
+TEST_P(CounterDevicesTest, ASaveSendsTheTareByTheSwitchAndNotByTheStoredSetting)
 {
     Devices("NO", "haoya", "naahI");
-    InTheMorning([this](Clerk& clerk) {
+    InTheShift([this](Clerk& clerk) {
         Deliver(clerk, 1, "5", "4.5");
         EXPECT_EQ(Books().size(), 1);
         EXPECT_TRUE(Ports.TakeLog().contains(QStringLiteral("write z")));
@@ -193,11 +252,11 @@ TEST_F(CounterDevicesTest, ASaveSendsTheTareByTheSwitchAndNotByTheStoredSetting)
     EXPECT_EQ(One(QStringLiteral("select AutoLiters from AutoSettings")), QStringLiteral("naahI"));
 }
 
-TEST_F(CounterDevicesTest, WithBothButtonsOffNothingIsSentAndNoTareEither)
+TEST_P(CounterDevicesTest, WithBothButtonsOffNothingIsSentAndNoTareEither)
 {
     Devices("ELECTRO", "haoya", "haoya");
     Set("AutoLiters", "haoya");
-    On<frmMilkCollections>([this](Clerk& clerk) {
+    AtThisCounter([this](Clerk& clerk) {
         clerk.Press(QStringLiteral("cmdAutoLiter"));
         clerk.Press(QStringLiteral("cmdAutoFat"));
         clerk.Press(QStringLiteral("maskDate"));
@@ -208,11 +267,11 @@ TEST_F(CounterDevicesTest, WithBothButtonsOffNothingIsSentAndNoTareEither)
     });
 }
 
-TEST_F(CounterDevicesTest, ADeviceThatIsUnpluggedLosesNoDelivery)
+TEST_P(CounterDevicesTest, ADeviceThatIsUnpluggedLosesNoDelivery)
 {
     Devices("ELECTRO", "haoya", "haoya");
     Ports.Fails = FakeSerialPorts::Step::Open;
-    InTheMorning([this](Clerk& clerk) {
+    InTheShift([this](Clerk& clerk) {
         Deliver(clerk, 1, "5", "4.5");
         EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|5|4.5|35|175"}));
         EXPECT_TRUE(TheBox.Shown.isEmpty());

@@ -166,18 +166,38 @@ TEST_F(DailyCollectionChangesTest, AnotherAnimalFindsNoRowToChange)
 
 TEST_F(DailyCollectionChangesTest, ARowIsShownBeforeItIsWritten)
 {
+    Add("17/04/2026", "saMQyaakaL", 5, 1, 4.5);
     const QStringList before = Days();
+    const std::pair<const char*, const char*> others[] = {{"txtMemberNo", "2"},
+        {"MasKCollectionDate", "16042026"}, {"cmbCollectionTime", "2"}, {"txtCollectionNo", "7"}};
     for (const char* mode : {"%d", "%k"}) {
-        InTheOffice([mode](Clerk& clerk) {
-            Type(clerk, mode);
-            Type(clerk, "1{ENTER}{ENTER}15042026{ENTER}1{ENTER}5+{TAB}");
-            clerk.Press(QStringLiteral("txtMemberNo"));
-            Type(clerk, "2");
-            Type(clerk, mode[1] == 'd' ? "%s" : "%k");
-            EXPECT_EQ(Focus(clerk), "txtCollectionNo") << mode;
-        });
+        for (const auto& [field, other] : others) {
+            InTheOffice([mode, field = field, other = other](Clerk& clerk) {
+                Type(clerk, mode);
+                Type(clerk, "1{ENTER}{ENTER}15042026{ENTER}1{ENTER}5+{TAB}");
+                ASSERT_EQ(Reads(clerk, "txtLiters"), "5");
+                clerk.Press(QString::fromLatin1(field));
+                Type(clerk, "{HOME}+{END}");
+                Type(clerk, other);
+                Type(clerk, mode[1] == 'd' ? "%s" : "%k");
+                EXPECT_EQ(Focus(clerk), "txtCollectionNo") << mode << field;
+            });
+        }
     }
     EXPECT_EQ(Days(), before);
+}
+
+TEST_F(DailyCollectionChangesTest, ANumberAndTheButtonAtOnceShowTheRowAndASecondPressWritesIt)
+{
+    InTheOffice([this](Clerk& clerk) {
+        Type(clerk, "%k1{ENTER}{ENTER}15042026{ENTER}1{ENTER}7%k");
+        EXPECT_EQ(Focus(clerk), "txtCollectionNo");
+        EXPECT_EQ(Reads(clerk, "txtFat"), "4.55");
+        EXPECT_EQ(Books().size(), 5);
+        clerk.Press(QStringLiteral("cmdDelete"));
+        ExpectIdle(clerk, "cmdDelete");
+        EXPECT_EQ(Books().size(), 4);
+    });
 }
 
 // Deleting

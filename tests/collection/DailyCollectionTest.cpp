@@ -141,6 +141,14 @@ TEST_F(DailyCollectionTest, ANameThatIsNobodysGivesWayToThatOfTheNumber)
     });
 }
 
+TEST_F(DailyCollectionTest, ApostrophesAndDigitsAreDroppedFromTheName)
+{
+    Adding([](Clerk& clerk) {
+        Type(clerk, "{ENTER}s'a1I2ta");
+        EXPECT_EQ(Reads(clerk, "cmbMemberName"), "saIta");
+    });
+}
+
 TEST_F(DailyCollectionTest, OfTwoNamesakesTheOneOfTheNumberStays)
 {
     AddMember(8, QStringLiteral("rama"), QStringLiteral("mhOsa"));

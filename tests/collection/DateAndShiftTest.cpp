@@ -1,5 +1,7 @@
 #include "CounterTest.h"
 
+#include "Keys.h"
+
 namespace {
 
 class DateAndShiftTest : public CounterTest {
@@ -113,7 +115,8 @@ TEST_F(DateAndShiftTest, TheKeysOfTheShiftPutItsWordsAndAllOthersAreDropped)
         Type(clerk, "2");
         EXPECT_EQ(Reads(clerk, "txtTime"), "saMQyaakaL");
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(LabelOf(clerk, "lblFooter").text(), QString());
+        EXPECT_EQ(LabelOf(clerk, "lblFooter").text(),
+            Keys::Guide(QStringLiteral("frmMilkCollections.txtCollectionNo")).Seen());
     });
 }
 

@@ -181,20 +181,30 @@ TEST_F(MemberFrameTest, ItShowsItsOwnKeysInPlaceOfTheCounters)
             [&](const QLabel* label) { return label->isVisible() && label->text() == action; });
     };
     const QString report = Keys::Action(QStringLiteral("FrameMilkCollection"), u"Alt+I").Seen();
-    const QString members = Keys::Action(QStringLiteral("frmMilkCollections"), u"F3").Seen();
-    const auto expect = [&](Clerk& clerk, bool frame) {
-        EXPECT_EQ(shown(clerk, report), frame);
-        EXPECT_EQ(shown(clerk, members), !frame);
-        for (const char* label : {"lblF9", "lblSearch", "lblF7", "lblMilk", "lblF10", "lblDelete"})
-            EXPECT_FALSE(Shows(clerk, label)) << label;
+    InTheMorning([&](Clerk& clerk) {
+        Type(clerk, "{ENTER}");
+        EXPECT_FALSE(shown(clerk, report));
+        Type(clerk, "{F7}");
+        EXPECT_TRUE(shown(clerk, report));
+        Type(clerk, "{ESC}");
+        EXPECT_FALSE(shown(clerk, report));
+    });
+}
+
+TEST_F(MemberFrameTest, TheKeysOfTheMemberStayToldUntilTheNumberIsLeftWithoutTheFrame)
+{
+    const auto expect = [](Clerk& clerk, bool told) {
+        for (const char* label : {"lblF9", "lblSearch", "lblF7", "lblMilk"})
+            EXPECT_EQ(Shows(clerk, label), told) << label;
     };
     InTheMorning([&](Clerk& clerk) {
-        Type(clerk, "1{ENTER}");
-        EXPECT_TRUE(Shows(clerk, "lblF7"));
-        EXPECT_TRUE(Shows(clerk, "lblF10"));
+        Type(clerk, "{ENTER}");
+        expect(clerk, true);
         Type(clerk, "{F7}");
         expect(clerk, true);
         Type(clerk, "{ESC}");
+        clerk.Press(QStringLiteral("txtMemberNo"));
+        Type(clerk, "1{ENTER}");
         expect(clerk, false);
     });
 }

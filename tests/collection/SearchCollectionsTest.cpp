@@ -158,6 +158,14 @@ TEST_F(SearchCollectionsTest, ANameThatIsNobodysBesideANumberLetsGoAndLeavesTheR
     });
 }
 
+TEST_F(SearchCollectionsTest, ApostrophesAndDigitsAreDroppedFromTheName)
+{
+    FromTheMenu([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}{ENTER}s'a1I2ta");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "saIta");
+    });
+}
+
 // Search
 
 TEST_F(SearchCollectionsTest, TheMembersRowsOfTheShiftAreShownNewestFirst)
@@ -285,6 +293,17 @@ TEST_F(SearchCollectionsTest, F9OnAMemberWithoutARowOpensNothing)
     InTheMorning([](Clerk& clerk) {
         Type(clerk, "{ENTER}3{F9}");
         EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+    });
+}
+
+TEST_F(SearchCollectionsTest, TheCountersListStaysAsLongAsItWasAfterTheCopyWasReplaced)
+{
+    for (int number = 10; number < 70; ++number)
+        AddMorningDelivery(number);
+    FromTheCounter<frmMilkCollections>(2, [](Clerk& clerk) {
+        Type(clerk, "{ENTER}{ESC}");
+        ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+        EXPECT_GT(Grid(clerk, "DataGridInwards").Rows(), 60);
     });
 }
 

@@ -184,7 +184,7 @@ TEST_F(Preview, PgDnAndPgUpScrollALargerPageByTheWindowAndTurnItAtItsEdge)
 TEST_F(Preview, ASlipIsWhollyAndLegiblySeenAtOnceAndCanBeScrolledWhenItIsEnlarged)
 {
     for (const char* roll : {"58mm", "80mm"}) {
-        WriteTemplate(QStringLiteral("<report name=\"Slip\" paper=\"%1\" margin=\"4\"><text>एक</text>"
+        WriteTemplate(QStringLiteral("<report name=\"Deliveries\" paper=\"%1\" margin=\"4\"><text>एक</text>"
                                      "<space h=\"80\"/><text>दोन</text></report>")
                           .arg(QLatin1String(roll)));
         Show([](Clerk& clerk) {

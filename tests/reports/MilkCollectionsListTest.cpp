@@ -66,6 +66,27 @@ TEST_F(MilkCollectionsListTest, AnEmptyAnimalBecomesBoth)
     });
 }
 
+TEST_F(MilkCollectionsListTest, AnEmptyAnimalBecomesBothStraightFromTheDateToo)
+{
+    EXPECT_EQ(Staged("15042026%i"), "1 2 3 4");
+    EXPECT_EQ(Staged("15042026{ENTER}gaaya{ENTER}%i"), "1 3");
+    On<frmReportMilkCollections>([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("15042026"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("MaskUserDate"));
+        clerk.Type(QStringLiteral("%i"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAnimal")), QStringLiteral("daonhI"));
+    });
+    EXPECT_EQ(Rows(QStringLiteral("select Liters from MilkCollectionsTemp")).size(), 4);
+}
+
+TEST_F(MilkCollectionsListTest, TheEndOfAListOfOneShiftOrOneAnimalDoesntSpeakOfTheWholeDay)
+{
+    EXPECT_EQ(Staged("15042026{ENTER}gaaya{ENTER}%k%i"), "3");
+    const QStringList texts = ReportTexts();
+    EXPECT_TRUE(texts.contains(QStringLiteral("एकूण (1)")));
+    EXPECT_FALSE(texts.join(u' ').contains(QStringLiteral("दिवस ")));
+}
+
 TEST_F(MilkCollectionsListTest, ABadDateIsToldAndTakesTheFocusBack)
 {
     On<frmReportMilkCollections>([this](Clerk& clerk) {
@@ -89,7 +110,7 @@ TEST_F(MilkCollectionsListTest, TheReportGroupsByShiftMorningFirstAndWeighsTheFa
     EXPECT_LT(morning, evening);
     EXPECT_EQ(texts.mid(morning + 1, 3).join(u' '), QStringLiteral("3.000 6.0 110.00"));
     EXPECT_EQ(texts.mid(evening + 1, 3).join(u' '), QStringLiteral("7.000 6.7 250.00"));
-    const auto day = texts.indexOf(QStringLiteral("एकूण दिवस (4)"));
+    const auto day = texts.indexOf(QStringLiteral("एकूण (4)"));
     EXPECT_EQ(texts.mid(day + 1, 3).join(u' '), QStringLiteral("10.000 6.5 360.00"));
 }
 

@@ -3,6 +3,7 @@
 #include "ReportsTest.h"
 
 #include "Numbers.h"
+#include "PdfText.h"
 #include "Sql.h"
 #include "frmReportPaymentList.h"
 
@@ -90,6 +91,27 @@ TEST_F(PaymentListTest, WhereEveryBankIsListedThereIsNoLineForThoseWithoutOne)
 TEST_F(PaymentListTest, AnAccountNumberStandsInWesternDigits)
 {
     EXPECT_TRUE(Listed("05042026{ENTER}{DOWN}%i").contains(QStringLiteral("77")));
+}
+
+TEST_F(PaymentListTest, AnAccountNumberOfEighteenFiguresStandsWholeOnOneLine)
+{
+    const QString number = QStringLiteral("501001234567891234");
+    Run(QStringLiteral("update MembersMaster set BankAccountNo='%1' where MemberNo=4").arg(number));
+    ASSERT_TRUE(Listed("05042026{ENTER}{DOWN}%i").contains(number));
+    Report& report = *TheWindow.Shown.back();
+    float shortOne = 0;
+    for (const PlacedItem& item : report.PageAt(0).items) {
+        if (item.text == QStringLiteral("77"))
+            shortOne = item.height;
+        if (item.text != number)
+            continue;
+        EXPECT_NE(item.fit, Fit::Cut);
+        EXPECT_GT(shortOne, 0);
+        EXPECT_EQ(item.height, shortOne);
+    }
+    const QString pdf = FolderFile(QStringLiteral("read.pdf"));
+    EXPECT_TRUE(report.SavePdf(pdf).Done());
+    EXPECT_TRUE(Words(PdfText(pdf)).contains(number));
 }
 
 TEST(PaymentListFormula, DayAndMonthGoIntoTheFormulaWithoutTheirNoughts)

@@ -5,6 +5,7 @@
 
 #include "AppFolder.h"
 #include "Delivered.h"
+#include "PdfText.h"
 #include "Program.h"
 #include "Society.h"
 #include "Sql.h"
@@ -75,14 +76,29 @@ protected:
         return lines;
     }
 
-    // Compares the last report with its golden file, or writes the file anew. VETROLAN_PDFS names a folder
-    // that gets the report as a PDF, to be looked at.
+    // Whoever reads the PDF finds each word that was placed, whole, and no other.
+    void ComparePdfWithItems(Report& report) const
+    {
+        const QString pdf = FolderFile(QStringLiteral("read.pdf"));
+        ASSERT_EQ(report.SavePdf(pdf).fault, QString());
+        QStringList placed = Words(ReportTexts().join(u' '));
+        placed.sort();
+        for (const QStringList& way : {QStringList(), QStringList(QStringLiteral("-layout"))}) {
+            QStringList words = Words(PdfText(pdf, way));
+            words.sort();
+            EXPECT_TRUE(words == placed) << Difference(placed, words) << way.join(u' ').toStdString();
+        }
+    }
+
+    // Compares the last report with its PDF and its golden file, or writes the file anew. VETROLAN_PDFS names
+    // a folder that gets the report as a PDF, to be looked at.
     void CompareWithGolden(const QString& name) const
     {
         ASSERT_FALSE(Failure) << Failure->Text().toStdString();
         ASSERT_EQ(TheWindow.Shown.size(), 1U);
         Report& report = *TheWindow.Shown.back();
         const QStringList now = Lines(report);
+        ComparePdfWithItems(report);
         if (qEnvironmentVariableIsSet("VETROLAN_PDFS")) {
             const QString pdf = QDir(qEnvironmentVariable("VETROLAN_PDFS")).filePath(name + u".pdf");
             EXPECT_EQ(report.SavePdf(pdf).fault, QString());

@@ -1,8 +1,5 @@
 #include "AutoSettingsTest.h"
 
-#include <QCoreApplication>
-#include <QMouseEvent>
-
 namespace {
 
 class AutoSettingsChain : public AutoSettingsTest {
@@ -361,13 +358,7 @@ TEST_F(AutoSettingsChain, TurningThePageEntersItsFirstFieldOnTheFirstTwo)
 TEST_F(AutoSettingsChain, PressingTheTabOfThePaymentsEntersThePeriod)
 {
     Settings([&](Clerk& clerk) {
-        clerk.Do([&] {
-            auto* strip = clerk.Top().Find(u"SSTab")->Widget();
-            const QPointF at(250, 20);
-            QMouseEvent press(QEvent::MouseButtonPress, at, strip->mapToGlobal(at), Qt::LeftButton,
-                Qt::LeftButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(strip, &press);
-        });
+        PressTab(clerk, 2);
         EXPECT_EQ(Page(clerk), Q("2"));
         EXPECT_EQ(Focus(clerk), Q("ComboPaymentDuration"));
     });

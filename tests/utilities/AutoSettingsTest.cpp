@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QListView>
 #include <QMouseEvent>
+#include <QTabBar>
 
 #include <stdexcept>
 
@@ -38,6 +39,17 @@ void AutoSettingsTest::GoTo(Clerk& clerk, const char* control)
 void AutoSettingsTest::Put(Clerk& clerk, const char* control, const char* text)
 {
     clerk.Do([&] { dynamic_cast<Field&>(*clerk.Top().Find(Q(control))).SetText(Q(text)); });
+}
+
+void AutoSettingsTest::PressTab(Clerk& clerk, int page)
+{
+    clerk.Do([&] {
+        auto& strip = dynamic_cast<QTabBar&>(*clerk.Top().Find(u"SSTab")->Widget());
+        const QPointF at = strip.tabRect(page - 1).center();
+        QMouseEvent press(QEvent::MouseButtonPress, at, strip.mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
+            Qt::NoModifier);
+        QCoreApplication::sendEvent(&strip, &press);
+    });
 }
 
 void AutoSettingsTest::PickFromList(Clerk& clerk, int row)

@@ -28,6 +28,9 @@ protected:
     // Puts a text into a field, whatever its keys would take.
     static void Put(Clerk& clerk, const char* control, const char* text);
 
+    // Presses the tab of a page, from 1, with the mouse.
+    static void PressTab(Clerk& clerk, int page);
+
     // Presses the row of the list that is open.
     static void PickFromList(Clerk& clerk, int row);
 

@@ -36,14 +36,13 @@ void PaintInTheMiddle(QPainter& painter, const QSize& size, const QPixmap& windo
     painter.drawPixmap((size.width() - window.width()) / 2, (size.height() - window.height()) / 2, window);
 }
 
-// Lays a window over the middle of a picture, which steps back; the picture grows if the window is larger.
+// Lays a window over the middle of a picture, which grows if the window is larger.
 QPixmap LaidOver(const QPixmap& picture, const QPixmap& window)
 {
     QPixmap both(picture.size().expandedTo(window.size()));
     both.fill(Qt::gray);
     QPainter painter(&both);
     PaintInTheMiddle(painter, both.size(), picture);
-    painter.fillRect(both.rect(), QColor(0, 0, 0, 60));
     PaintInTheMiddle(painter, both.size(), window);
     return both;
 }

@@ -19,15 +19,6 @@ void MakeTables(Connection& connection, const QTemporaryDir& folder)
     connection.RunScript(Delivered::Schema());
 }
 
-TemplateFaults CheckFile(const QString& file, Connection& connection)
-{
-    TemplateFaults faults;
-    ReportTemplate report = ReportTemplate::Read(file, faults);
-    const TemplateFaults more = Check(report, connection);
-    faults.insert(faults.end(), more.begin(), more.end());
-    return faults;
-}
-
 int CheckFiles(const QStringList& files)
 {
     const QTemporaryDir folder;
@@ -36,7 +27,8 @@ int CheckFiles(const QStringList& files)
     QTextStream out(stdout);
     bool isSound = true;
     for (const QString& file : files) {
-        const TemplateFaults faults = CheckFile(file, connection);
+        TemplateFaults faults;
+        ReportTemplate::ReadChecked(file, connection, faults);
         isSound = isSound && faults.empty();
         for (const TemplateFault& fault : faults)
             out << fault.Line() << '\n';

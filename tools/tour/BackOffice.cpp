@@ -44,6 +44,26 @@ void SortAndSearchAtTheGate(Tour& tour)
     tour.Type(Escape);
 }
 
+// A row under a wrong number is changed, and then taken away with its number.
+void MendTheRegister(Tour& tour)
+{
+    tour.Type(QStringLiteral("15+{TAB}+{TAB}99") + Enter + Enter + Enter);
+    tour.Type(QStringLiteral("6.8") + Enter + Enter + QStringLiteral("%r"));
+    const QString wrong = QStringLiteral("10") + Enter + Enter + QStringLiteral("05062026") + Enter
+        + QStringLiteral("1") + Enter + QStringLiteral("99") + Enter;
+    const QString figures = QStringLiteral(
+        "select Liters,Fat,Rate,Amount from MilkCollections where MemberNo=10 and CollectionNo=99");
+    tour.CheckRows(QStringLiteral("wrong row"), figures, {QStringLiteral("15|6.8|47.2|708")});
+    tour.Type(QStringLiteral("%d") + wrong + Enter);
+    tour.Step(QStringLiteral("register-change"), QStringLiteral("5.1") + Enter + Enter);
+    tour.Type(Enter + Enter);
+    tour.CheckRows(QStringLiteral("row changed"), figures, {QStringLiteral("5.1|6.8|47.2|240.72")});
+    tour.Step(QStringLiteral("register-delete"), QStringLiteral("%k") + wrong);
+    tour.CheckReads(QStringLiteral("lblGuide"), QStringLiteral("हा क्रमांक या वेळेच्या सर्व दिवसांतून खोडला जाईल"));
+    tour.Type(Enter);
+    tour.CheckRows(QStringLiteral("row deleted"), figures, {});
+}
+
 // Three mornings of a member from a paper register.
 void KeyTheRegister(Tour& tour)
 {
@@ -63,6 +83,7 @@ void KeyTheRegister(Tour& tour)
         {u"02/06/2026|sakaL|1|" + name + u"|mhOsa|4.5|6.9|47.35|213.08",
             u"03/06/2026|sakaL|1|" + name + u"|mhOsa|4.75|7|47.5|225.63",
             u"04/06/2026|sakaL|1|" + name + u"|mhOsa|5|6.8|47.2|236"});
+    MendTheRegister(tour);
     tour.Step(QStringLiteral("register-list"), Escape + Enter + QStringLiteral("%n10{F5}"));
     tour.Check(QStringLiteral("the list is open"), tour.TheClerk().Focus(), QStringLiteral("DataGrid1"));
     tour.Type(Escape);

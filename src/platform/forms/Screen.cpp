@@ -242,6 +242,7 @@ void Screen::MoveTo(Control* to, bool validate)
     if (!to || to == m_holder)
         return;
     m_step = 0;
+    m_straightTo = to;
     Move([this, to] { return to->CanTakeFocus() ? to : Neighbour(to, 1); }, validate);
 }
 

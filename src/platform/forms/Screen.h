@@ -85,6 +85,10 @@ protected:
     // For a LostFocus that sends the clerk on: whether he is stepping back with Shift+Tab instead.
     bool IsSteppingBack() const { return m_leaving && m_step < 0; }
 
+    // For the same: the control that he goes straight to, by its letter, another key or the mouse; null if he
+    // steps on or back.
+    const Control* GoingTo() const { return m_leaving && m_step == 0 ? m_straightTo : nullptr; }
+
     void SetColours(QColor focus, QColor plain);
 
     // The label that shows the title.
@@ -143,6 +147,7 @@ private:
     Control* m_holder = nullptr;
     Control* m_asked = nullptr; // where LostFocus wants the focus instead
     int m_step = 0; // of the move that is running: 1 on, -1 back, 0 straight to a control
+    Control* m_straightTo = nullptr; // that control
     bool m_leaving = false; // a LostFocus is running
     Label* m_guideLabel = nullptr;
     Label* m_titleLabel = nullptr;

@@ -1,15 +1,14 @@
 #include "Bands.h"
 
 #include "Evaluation.h"
+#include "Room.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace {
 
-constexpr float RuleRoom = 1.5F; // above and below a rule
 constexpr float PairGap = 4;
-constexpr double LabelShare = 0.4;
 
 float ToPoints(double millimetres)
 {
@@ -80,8 +79,10 @@ public:
                 m_kept.pop_front();
                 return true;
             }
-            if (m_children && m_children->Next(band))
+            if (m_children && m_children->Next(band)) {
+                Record(band);
                 return true;
+            }
             if (!Advance())
                 return false;
         }
@@ -98,15 +99,24 @@ private:
             m_maker.Data.SetCurrent(m_element.source, &m_row);
         } while (!m_maker.Holds(m_element.condition));
         m_children = MakeFlow(m_element.children, m_maker, m_stretch);
+        m_waitsForRecord = m_maker.Records.each == &m_element;
         if (m_element.keep || m_element.newPage)
             Collect();
         return true;
+    }
+
+    // The first strip of a row takes its record along.
+    void Record(Band& band)
+    {
+        if (std::exchange(m_waitsForRecord, false))
+            band.record = FieldsAround(m_maker.Records, m_maker.Data);
     }
 
     // All strips of a row that stay together.
     void Collect()
     {
         for (Band band; m_children->Next(band); band = Band()) {
+            Record(band);
             band.keepWithNext = band.keepWithNext || m_element.keep;
             m_kept.push_back(std::move(band));
         }
@@ -121,6 +131,7 @@ private:
     Stretch m_stretch;
     RowWalk m_walk;
     Row m_row;
+    bool m_waitsForRecord = false;
     std::unique_ptr<BandStream> m_children;
     std::deque<Band> m_kept;
 };
@@ -261,9 +272,9 @@ void BandMaker::MakeSimple(const TemplateElement& element, Stretch stretch, std:
         rule.kind = PlacedItem::Kind::Line;
         rule.weight = static_cast<float>(element.size);
         rule.x = stretch.x;
-        rule.y = RuleRoom + rule.weight / 2;
+        rule.y = Room::RuleGap + rule.weight / 2;
         rule.width = stretch.width;
-        band.height = 2 * RuleRoom + rule.weight;
+        band.height = 2 * Room::RuleGap + rule.weight;
         band.items.push_back(std::move(rule));
     }
     bands.push_back(std::move(band));
@@ -272,7 +283,7 @@ void BandMaker::MakeSimple(const TemplateElement& element, Stretch stretch, std:
 void BandMaker::MakePairs(const TemplateElement& element, Stretch stretch, std::deque<Band>& bands)
 {
     const float labelWidth =
-        element.size > 0 ? ToPoints(element.size) : stretch.width * static_cast<float>(LabelShare);
+        element.size > 0 ? ToPoints(element.size) : stretch.width * static_cast<float>(Room::PairLabelShare);
     const Stretch labels{stretch.x, labelWidth - PairGap};
     const Stretch values{stretch.x + labelWidth, stretch.width - labelWidth};
     for (const TemplatePair& pair : element.pairs) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ReportData.h"
+#include "Records.h"
 #include "ReportPages.h"
 #include "TextMeasure.h"
 
@@ -17,7 +17,7 @@ struct Band {
     bool newPage = false; // begins a page
     std::shared_ptr<const Band> repeated; // stands above it when it begins a page: the heads of its table
     std::vector<std::vector<Band>> lanes; // instead of items: strips side by side
-    QStringList record; // of a row: the texts of its cells, for the table of a spreadsheet
+    QStringList record; // of a row that goes into a spreadsheet: its fields
 };
 
 // Where an element stands on the paper, in points.
@@ -45,7 +45,7 @@ public:
     ReportData& Data;
     TextMeasure& Measure;
     FontTable& Fonts;
-    const TemplateTable* Recorded = nullptr; // whose rows are kept for the table of a spreadsheet
+    RecordPlan Records; // which rows are kept for a spreadsheet
 
 private:
     void MakePairs(const TemplateElement& element, Stretch stretch, std::deque<Band>& bands);

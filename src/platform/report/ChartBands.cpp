@@ -2,18 +2,17 @@
 
 #include "Evaluation.h"
 #include "Numbers.h"
+#include "Room.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr double AxisWidth = 46; // room for the figures at the left
-constexpr double AxisGap = 4;
-constexpr double LabelRoom = 26; // what a label under the axis needs at least
 constexpr double SpaceForBars = 0.7; // of a label's room
 constexpr float ThinLine = 0.4F;
 constexpr float ThickLine = 1.4F;
+constexpr double PointSide = 3.6; // of the mark at each point of a line
 constexpr int WantedTicks = 5;
 constexpr quint8 PaleGray = 210;
 constexpr quint8 Grays[] = {60, 170, 110, 205, 20};
@@ -95,7 +94,7 @@ public:
         , m_scale(MakeScale(m_figures.least, m_figures.most))
     {
         band.height = static_cast<float>(m_chart.height * PointsPerMillimetre);
-        m_plot = QRectF(stretch.x + AxisWidth, 0, stretch.width - AxisWidth, band.height);
+        m_plot = QRectF(stretch.x + Room::ChartAxis, 0, stretch.width - Room::ChartAxis, band.height);
     }
 
     void Draw()
@@ -103,7 +102,7 @@ public:
         DrawTitle();
         DrawLegend();
         m_plot.setTop(m_plot.top() + m_lineHeight / 2);
-        m_plot.setBottom(m_plot.bottom() - m_lineHeight - AxisGap);
+        m_plot.setBottom(m_plot.bottom() - m_lineHeight - Room::ChartGap);
         DrawScale();
         for (qsizetype i = 0; i < m_figures.labels.size(); ++i)
             DrawLabel(i);
@@ -163,8 +162,8 @@ private:
         for (std::size_t i = 0; i < m_chart.series.size(); ++i) {
             const QPointF corner(m_plot.left() + room * static_cast<double>(i), m_plot.top() + side / 2);
             AddStroke(PlacedItem::Kind::Box, corner, corner + QPointF(side, side), 0, Gray(i));
-            AddText(Fill(m_chart.series[i].label, m_maker.Data), corner.x() + side + AxisGap, m_plot.top(),
-                room - side - 2 * AxisGap, Align::Left);
+            AddText(Fill(m_chart.series[i].label, m_maker.Data), corner.x() + side + Room::ChartGap,
+                m_plot.top(), room - side - 2 * Room::ChartGap, Align::Left);
         }
         m_plot.setTop(m_plot.top() + m_lineHeight);
     }
@@ -175,8 +174,8 @@ private:
         for (int i = 0; i <= ticks; ++i) {
             const double value = m_scale.low + i * m_scale.step;
             const double y = HeightOf(value);
-            AddText(
-                ShortestDecimal(value), m_stretch.x, y - m_lineHeight / 2, AxisWidth - AxisGap, Align::Right);
+            AddText(ShortestDecimal(value), m_stretch.x, y - m_lineHeight / 2,
+                Room::ChartAxis - Room::ChartGap, Align::Right);
             AddStroke(PlacedItem::Kind::Line, {m_plot.left(), y}, {m_plot.right(), y}, ThinLine,
                 i == 0 ? 0 : PaleGray);
         }
@@ -186,11 +185,12 @@ private:
     void DrawLabel(qsizetype index)
     {
         const double room = RoomOfLabel();
-        const qsizetype every = std::max<qsizetype>(1, static_cast<qsizetype>(std::ceil(LabelRoom / room)));
+        const qsizetype every =
+            std::max<qsizetype>(1, static_cast<qsizetype>(std::ceil(Room::ChartLabel / room)));
         if (index % every != 0)
             return;
         const double shown = room * static_cast<double>(every);
-        AddText(m_figures.labels[index], MiddleOf(index) - shown / 2, m_plot.bottom() + AxisGap, shown,
+        AddText(m_figures.labels[index], MiddleOf(index) - shown / 2, m_plot.bottom() + Room::ChartGap, shown,
             Align::Center);
     }
 
@@ -211,10 +211,14 @@ private:
     void DrawLine(std::size_t series)
     {
         const std::vector<double>& numbers = m_figures.series[series];
-        for (std::size_t i = 1; i < numbers.size(); ++i) {
-            const QPointF from(MiddleOf(static_cast<qsizetype>(i) - 1), HeightOf(numbers[i - 1]));
+        const QPointF half(PointSide / 2, PointSide / 2);
+        QPointF from;
+        for (std::size_t i = 0; i < numbers.size(); ++i) {
             const QPointF to(MiddleOf(static_cast<qsizetype>(i)), HeightOf(numbers[i]));
-            AddStroke(PlacedItem::Kind::Line, from, to, ThickLine, Gray(series));
+            if (i > 0)
+                AddStroke(PlacedItem::Kind::Line, from, to, ThickLine, Gray(series));
+            AddStroke(PlacedItem::Kind::Box, to - half, to + half, 0, Gray(series));
+            from = to;
         }
     }
 

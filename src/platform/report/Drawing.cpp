@@ -2,6 +2,7 @@
 
 #include "Evaluation.h"
 #include "LayoutPool.h"
+#include "WordPainter.h"
 
 #include <pango/pangocairo.h>
 
@@ -53,6 +54,7 @@ public:
 
     const FontTable& fonts;
     LayoutPool pool;
+    WordPainter words;
 
 private:
     void DrawText(cairo_t* cairo, const PlacedItem& item);
@@ -107,8 +109,7 @@ void PagePainter::Private::DrawWrapped(cairo_t* cairo, const PlacedItem& item, c
     pango_layout_set_width(layout, static_cast<int>(item.width * PANGO_SCALE));
     pango_layout_set_alignment(layout, Aligns[static_cast<std::size_t>(item.align)]);
     SetText(layout, text);
-    cairo_move_to(cairo, item.x, item.y + pool.Drop(fonts.At(item.font), layout));
-    pango_cairo_show_layout(cairo, layout);
+    words.Show(cairo, layout, item.x, item.y + pool.Drop(fonts.At(item.font), layout));
 }
 
 void PagePainter::Private::DrawSingle(cairo_t* cairo, const PlacedItem& item, const QString& text)
@@ -125,14 +126,16 @@ void PagePainter::Private::DrawSingle(cairo_t* cairo, const PlacedItem& item, co
     }
     const double room = std::max(0.0, item.width - width * squeeze);
     const double shift = item.align == Align::Left ? 0 : item.align == Align::Right ? room : room / 2;
-    cairo_move_to(cairo, item.x + shift, item.y + pool.Drop(fonts.At(item.font), layout));
+    const double x = item.x + shift;
+    const double y = item.y + pool.Drop(fonts.At(item.font), layout);
     if (squeeze < 1) {
         cairo_save(cairo);
+        cairo_translate(cairo, x, 0);
         cairo_scale(cairo, squeeze, 1);
-        pango_cairo_show_layout(cairo, layout);
+        words.Show(cairo, layout, 0, y, true);
         cairo_restore(cairo);
     } else {
-        pango_cairo_show_layout(cairo, layout);
+        words.Show(cairo, layout, x, y);
     }
     if (isTooWide && item.fit == Fit::Cut) {
         pango_layout_set_width(layout, -1);

@@ -4,6 +4,7 @@
 #include "Numbers.h"
 #include "ReportData.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -66,6 +67,34 @@ bool EvaluateLogic(const Expression& expression, ReportData& data)
     if (first == (expression.operation == Operation::Or))
         return first;
     return Evaluate(expression.arguments[1], data).Truth();
+}
+
+bool IsNumber(const Expression& expression, const ReportTemplate& report)
+{
+    switch (expression.operation) {
+    case Operation::Number:
+    case Operation::Page:
+    case Operation::PageCount:
+    case Operation::Negate:
+    case Operation::Add:
+    case Operation::Subtract:
+    case Operation::Multiply:
+    case Operation::Divide:
+    case Operation::Absolute:
+        return true;
+    case Operation::Field: {
+        const TemplateSource& source = report.sources[static_cast<std::size_t>(expression.source)];
+        return source.columns[static_cast<std::size_t>(expression.column)].type == ValueType::Number;
+    }
+    case Operation::If:
+        return IsNumber(expression.arguments[1], report) || IsNumber(expression.arguments[2], report);
+    case Operation::Aggregate:
+        return (expression.aggregate != AggregateKind::Minimum
+                   && expression.aggregate != AggregateKind::Maximum)
+            || IsNumber(expression.arguments[0], report);
+    default:
+        return false;
+    }
 }
 
 // A total outside of a table: the source is walked through for it.
@@ -142,6 +171,14 @@ QString Printed(const Value& value, const TextPiece& piece)
     if (piece.formatKind == FormatKind::Date && value.kind == Value::Kind::Date)
         return Format(value.date, piece.format);
     return value.Text();
+}
+
+bool HoldsFigure(const TemplateText& text, const ReportTemplate& report)
+{
+    return std::any_of(text.pieces.begin(), text.pieces.end(), [&](const TextPiece& piece) {
+        return piece.formatKind == FormatKind::Number
+            || (piece.expression && IsNumber(*piece.expression, report));
+    });
 }
 
 QString Fill(const TemplateText& text, ReportData& data)

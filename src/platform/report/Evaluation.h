@@ -6,6 +6,7 @@
 #include <vector>
 
 class ReportData;
+struct ReportTemplate;
 
 // Stands in a text for the number of pages until that is known.
 inline constexpr QChar PageCountMark = QChar(0xFDD0);
@@ -18,6 +19,9 @@ QString Printed(const Value& value, const TextPiece& piece);
 
 // A text of a template with its expressions worked out.
 QString Fill(const TemplateText& text, ReportData& data);
+
+// Whether a number of a checked template stands in a text, alone or among words.
+bool HoldsFigure(const TemplateText& text, const ReportTemplate& report);
 
 // One total in the making.
 class Accumulator {

@@ -170,6 +170,26 @@ ValueType ExpressionBinder::BindPage(const Expression& expression, const Place& 
     return ValueType::Number;
 }
 
+void ExpressionBinder::Walk(int source)
+{
+    Walked.push_back(source);
+    Use.walked.insert(source);
+}
+
+void ExpressionBinder::NoteReading(int source)
+{
+    const std::vector<TemplateSource>& sources = m_report.sources;
+    for (;;) {
+        if (std::find(Walked.begin(), Walked.end(), source) != Walked.end())
+            return;
+        const int parent = sources[static_cast<std::size_t>(source)].parent;
+        if (parent < 0)
+            break;
+        source = parent;
+    }
+    Use.readByFirstRow.insert(source);
+}
+
 ValueType ExpressionBinder::BindField(Expression& field, const Place& place)
 {
     std::vector<int> candidates;
@@ -188,6 +208,7 @@ ValueType ExpressionBinder::BindField(Expression& field, const Place& place)
             continue;
         field.source = source;
         field.column = column;
+        NoteReading(source);
         const SourceColumn& found =
             m_report.sources[static_cast<std::size_t>(source)].columns[static_cast<std::size_t>(column)];
         if (field.isPlain && found.type != ValueType::Text && found.type != ValueType::Unknown)
@@ -284,7 +305,7 @@ ValueType ExpressionBinder::BindAggregate(Expression& expression, const Place& p
         expression.source = SourceOf(expression, place.line);
         if (expression.source < 0)
             return type;
-        Walked.push_back(expression.source);
+        Walk(expression.source);
     }
     for (Expression& argument : expression.arguments) {
         type = Bind(argument, inside);

@@ -2,6 +2,7 @@
 
 #include "Catalogue.h"
 #include "ReportTemplate.h"
+#include "TemplateChoices.h"
 
 // Finds the columns that the names of a template stand for, and the types of its expressions.
 class ExpressionBinder {
@@ -33,7 +34,14 @@ public:
     // The sources whose rows are being walked through, the innermost last.
     std::vector<int> Walked;
 
+    // Begins to walk through a source; it is noted as walked somewhere in the template.
+    void Walk(int source);
+
+    // What has been bound so far.
+    SourceUse Use;
+
 private:
+    void NoteReading(int source);
     ValueType BindField(Expression& field, const Place& place);
     ValueType BindArithmetic(Expression& expression, const Place& place);
     ValueType BindComparison(Expression& expression, const Place& place);

@@ -119,11 +119,9 @@ std::shared_ptr<Report> ReportControl::Run() const
     if (!QFileInfo(file).isFile())
         throw RunTimeError(RunTimeError::FileNotFound,
             QStringLiteral("अहवालाचा नमुना सापडला नाही.\nThe report template isn't there."), m_file);
-    TemplateFaults faults;
-    ReportTemplate report = ReportTemplate::Read(file, faults);
     const std::shared_ptr<Connection> connection = ReadingRoom::Current().Open(m_logon);
-    const TemplateFaults more = Check(report, *connection);
-    faults.insert(faults.end(), more.begin(), more.end());
+    TemplateFaults faults;
+    ReportTemplate report = ReportTemplate::ReadChecked(file, *connection, faults);
     if (!faults.empty())
         ThrowFaults(m_file, faults);
     Selection selection = ReadSelectionFormula(m_formula, *connection);

@@ -1,6 +1,7 @@
 #include "ReportFiller.h"
 
 #include "Evaluation.h"
+#include "Room.h"
 #include "RunTimeError.h"
 
 #include <algorithm>
@@ -9,23 +10,6 @@
 namespace {
 
 constexpr float Tolerance = 0.01F;
-constexpr float SmallestBody = 30; // points that head and foot of a page must leave
-
-// The table whose rows go into a spreadsheet.
-const TemplateTable* FirstTable(const std::vector<TemplateElement>& elements)
-{
-    for (const TemplateElement& element : elements) {
-        if (element.table)
-            return element.table.get();
-        if (const TemplateTable* inside = FirstTable(element.children))
-            return inside;
-        for (const TemplateLane& lane : element.lanes) {
-            if (const TemplateTable* inside = FirstTable(lane.elements))
-                return inside;
-        }
-    }
-    return nullptr;
-}
 
 float HeightOf(const std::vector<Band>& bands)
 {
@@ -43,8 +27,8 @@ ReportFiller::ReportFiller(
     , m_data(report, connection, std::move(selection))
     , m_maker(m_data, m_measure, fonts)
 {
-    m_maker.Recorded = FirstTable(report.body);
-    MakeRecordHeads();
+    m_maker.Records = RecordPlan::Of(report.body);
+    BeginRecords();
     const Stretch stretch{
         static_cast<float>(report.paper.left), static_cast<float>(report.paper.BodyWidth())};
     m_flow = MakeFlow(report.body, m_maker, stretch);
@@ -52,43 +36,14 @@ ReportFiller::ReportFiller(
 
 ReportFiller::~ReportFiller() = default;
 
-// The groups, then the columns that hold anything, each under the words that stand above it.
-QStringList ReportFiller::HeadsOf(const TemplateTable& table)
+void ReportFiller::BeginRecords()
 {
-    QStringList heads;
-    for (const TemplateGroup& group : table.groups)
-        heads.append(group.label.isEmpty() ? group.name : group.label);
-    QStringList spans;
-    for (const TemplateSpan& span : table.spans)
-        spans.append(QList<QString>(span.columns, Fill(span.text, m_data)));
-    for (std::size_t i = 0; i < table.columns.size(); ++i) {
-        if (table.columns[i].cell.IsEmpty())
-            continue;
-        const QString head =
-            spans.value(static_cast<qsizetype>(i)) + u' ' + Fill(table.columns[i].head, m_data);
-        heads.append(head.trimmed());
-    }
-    return heads;
-}
-
-void ReportFiller::MakeRecordHeads()
-{
-    if (const TemplateTable* table = m_maker.Recorded) {
-        m_records.push_back(HeadsOf(*table));
+    const RecordPlan& plan = m_maker.Records;
+    if (plan.table || plan.each) {
+        m_records.push_back(RecordHeads(plan, m_data));
     } else if (!m_report.sources.empty()) {
-        QStringList heads;
-        QStringList values;
-        const Row* const row = m_data.CurrentRow(0);
-        const std::vector<SourceColumn>& columns = m_report.sources.front().columns;
-        for (std::size_t i = 0; i < columns.size(); ++i) {
-            heads.append(columns[i].name);
-            if (row)
-                values.append(
-                    (*row)[i].kind == Value::Kind::Text ? m_data.Seen((*row)[i].text) : (*row)[i].Text());
-        }
-        m_records.push_back(heads);
-        if (row)
-            m_records.push_back(values);
+        m_records.push_back(FieldNames(0, m_data));
+        Record(Fields(0, m_data));
     }
 }
 
@@ -114,7 +69,7 @@ ReportFiller::Sheet ReportFiller::BeginSheet()
     std::vector<Band> header = MakeEdge(m_report.header);
     sheet.footer = MakeEdge(m_report.footer);
     sheet.end = static_cast<float>(paper.height - paper.bottom) - HeightOf(sheet.footer);
-    if (sheet.y + HeightOf(header) + SmallestBody > sheet.end)
+    if (sheet.y + HeightOf(header) + Room::SmallestBody > sheet.end)
         throw RunTimeError(RunTimeError::Overflow,
             QStringLiteral("The head and the foot of the page leave no room for the report.\n%1:%2")
                 .arg(m_report.file)
@@ -229,6 +184,7 @@ bool ReportFiller::PlaceNext(Sheet& sheet)
     if (!fits && !m_waiting.front().lanes.empty()) {
         for (std::vector<Band>& lane : m_waiting.front().lanes)
             m_lanes.emplace_back(std::make_move_iterator(lane.begin()), std::make_move_iterator(lane.end()));
+        Record(m_waiting.front().record);
         m_waiting.pop_front();
         return ContinueLanes(sheet);
     }

@@ -12,8 +12,7 @@ public:
     // Lays out the next page; false when there is none any more. A report without a row has one page.
     bool NextPage(Page& page);
 
-    // The rows of the template's first table that stand on the pages so far, for a spreadsheet; without a
-    // table the row of its first source. The heads come first.
+    // The rows that stand on the pages so far, for a spreadsheet (see RecordPlan). The heads come first.
     const std::vector<QStringList>& Records() const { return m_records; }
 
 private:
@@ -41,8 +40,7 @@ private:
     void SplitFront(std::deque<Band>& bands, float room);
     float HeightAtTop(const Band& band) const;
     void AddRepeated(Sheet& sheet, const Band& band);
-    QStringList HeadsOf(const TemplateTable& table);
-    void MakeRecordHeads();
+    void BeginRecords();
     void Record(const QStringList& record);
 
     const ReportTemplate& m_report;

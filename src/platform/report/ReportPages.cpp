@@ -18,11 +18,20 @@ QString Place(const PlacedItem& item)
 
 QString DescribeText(const PlacedItem& item, const FontSpec& font)
 {
-    constexpr QStringView Aligns[] = {u"left", u"center", u"right"};
-    return QStringLiteral("text ") + Place(item) + QStringLiteral(" ")
-        + Aligns[static_cast<std::size_t>(item.align)]
+    constexpr QStringView Aligns[] = {u" left", u" center", u" right"};
+    constexpr QStringView Fits[] = {u" wrap", u" cut", u" shrink"};
+    return QStringLiteral("text ") + Place(item) + Aligns[static_cast<std::size_t>(item.align)]
+        + Fits[static_cast<std::size_t>(item.fit)]
         + (font.isBold ? QStringLiteral(" bold ") : QStringLiteral(" ")) + QString::number(font.size)
-        + QStringLiteral(": ") + item.text;
+        + QStringLiteral(" ") + font.family + QStringLiteral(": ") + item.text;
+}
+
+QString DescribeStroke(const PlacedItem& item)
+{
+    const QString place = Place(item) + QStringLiteral(" gray ") + QString::number(item.gray);
+    if (item.kind == PlacedItem::Kind::Box)
+        return QStringLiteral("box ") + place;
+    return QStringLiteral("line ") + place + QStringLiteral(" weight ") + QString::number(item.weight);
 }
 
 }
@@ -48,9 +57,7 @@ QStringList Describe(const Page& page, const FontTable& fonts)
         if (item.kind == PlacedItem::Kind::Text)
             lines.append(DescribeText(item, fonts.At(item.font)));
         else
-            lines.append(
-                (item.kind == PlacedItem::Kind::Line ? QStringLiteral("line ") : QStringLiteral("box "))
-                + Place(item) + QStringLiteral(" gray ") + QString::number(item.gray));
+            lines.append(DescribeStroke(item));
     }
     return lines;
 }

@@ -157,6 +157,8 @@ struct TemplateElement {
 // A whole template: the sheet, what it reads, and what it prints from top to bottom.
 struct ReportTemplate {
     QString file;
+    int line = 0;
+    bool isRead = false; // it is a report and sound XML, so there is something to check
     QString name;
     QString title; // what the clerk knows the report by; empty: the name
     Paper paper;
@@ -166,16 +168,20 @@ struct ReportTemplate {
     std::vector<TemplateElement> header, footer, body;
     int headerLine = 0;
 
-    // Reads a template file. Everything that is wrong with it is added to the faults; a template with faults
-    // is for nothing but finding more of them.
+    // Reads a template file, which is UTF-8 and has the name of its report. Everything that is wrong with it
+    // is added to the faults; a template with faults is for nothing but finding more of them.
     static ReportTemplate Read(const QString& file, TemplateFaults& faults);
 
     // The same for the text of a template; `file` names it in the faults.
     static ReportTemplate ReadText(const QString& text, const QString& file, TemplateFaults& faults);
+
+    // Reads a template file and checks it: the faults of both come together, in the order of their lines.
+    static ReportTemplate ReadChecked(const QString& file, Connection& connection, TemplateFaults& faults);
 };
 
 // Compares a template with the tables of an open connection and with its paper, and binds its names to them:
-// only a template that was checked without faults can be filled. No row is read.
+// only a template that was checked without faults can be filled. No row is read. A text that couldn't be read
+// to its end has no other faults than that.
 TemplateFaults Check(ReportTemplate& report, Connection& connection);
 
 // Widths in points for rules of widths: the shares divide what is left.

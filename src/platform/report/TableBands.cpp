@@ -22,11 +22,6 @@ struct Cell {
     Fit fit = Fit::Cut;
 };
 
-bool IsFigure(const TemplateColumn& column)
-{
-    return column.cell.IsOneExpression() && column.cell.pieces.front().formatKind == FormatKind::Number;
-}
-
 void MoveDown(Band& band, float by)
 {
     for (PlacedItem& item : band.items)
@@ -105,7 +100,9 @@ void TableStream::PlaceColumns()
             std::max(1.0F, static_cast<float>(widths[i]) - 2 * CellPadding)};
         cell.look = Merge(m_element.look, column.look);
         cell.font = m_maker.Fonts.Add(m_maker.Font(cell.look));
-        cell.fit = column.wraps ? Fit::Wrap : IsFigure(column) ? Fit::Shrink : Fit::Cut;
+        cell.fit = column.wraps                                 ? Fit::Wrap
+            : HoldsFigure(column.cell, m_maker.Data.Template()) ? Fit::Shrink
+                                                                : Fit::Cut;
         m_rowHeight = std::max(m_rowHeight, m_maker.Measure.LineHeight(m_maker.Font(cell.look)));
         m_cells.push_back(cell);
         x += widths[i];
@@ -312,7 +309,9 @@ void TableStream::MakeRow()
 {
     Band band;
     band.items.reserve(m_cells.size() + (m_table.hasLines ? 1 : 0));
-    const bool isRecorded = m_maker.Recorded == &m_table;
+    const bool isRecorded = m_maker.Records.table == &m_table;
+    if (isRecorded)
+        band.record = FieldsAround(m_maker.Records, m_maker.Data);
     for (std::size_t i = 0; isRecorded && i < m_groupValues.size(); ++i)
         band.record.append(m_groupValues[i].Text());
     band.height = m_rowHeight;

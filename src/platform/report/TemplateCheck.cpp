@@ -1,5 +1,6 @@
 #include "Connection.h"
 #include "ExpressionBinder.h"
+#include "TemplateChoices.h"
 #include "TemplateWidths.h"
 
 #include <algorithm>
@@ -51,7 +52,9 @@ void Checker::CheckAll()
     CheckElements(m_report.header, edge);
     CheckElements(m_report.footer, edge);
     CheckElements(m_report.body, Place());
-    CheckWidths(m_report, [this](int line, const QString& text) { m_binder.Fault(line, text); });
+    const auto fault = [this](int line, const QString& text) { m_binder.Fault(line, text); };
+    CheckChoices(m_report, m_binder.Use, fault);
+    CheckWidths(m_report, fault);
 }
 
 void Checker::CheckSource(int index)
@@ -80,9 +83,11 @@ void Checker::CheckOrder(int index)
 {
     const TemplateSource& source = m_report.sources[static_cast<std::size_t>(index)];
     const std::shared_ptr<const Table> table = m_catalogue.Find(source.table);
-    for (const QString& part : source.order.split(u',', Qt::SkipEmptyParts)) {
+    if (source.order.isEmpty())
+        return;
+    for (const QString& part : source.order.split(u',')) {
         const QStringList words = part.simplified().split(u' ');
-        if (words.size() > 2 || (words.size() == 2 && words[1] != u"desc"))
+        if (words[0].isEmpty() || words.size() > 2 || (words.size() == 2 && words[1] != u"desc"))
             m_binder.Fault(source.line, QStringLiteral("\"%1\" is no order").arg(part));
         else if (table && !table->Find(words[0]))
             m_binder.Fault(
@@ -153,7 +158,7 @@ int Checker::Enter(const QString& sourceName, int line)
                     .arg(sourceName, source.parentName));
         if (std::find(walked.begin(), walked.end(), index) != walked.end())
             m_binder.Fault(line, QStringLiteral("\"%1\" is being walked already").arg(sourceName));
-        m_binder.Walked.push_back(index);
+        m_binder.Walk(index);
     }
     return index;
 }
@@ -273,6 +278,8 @@ void Checker::CheckChart(TemplateChart& chart, const Place& place)
 TemplateFaults Check(ReportTemplate& report, Connection& connection)
 {
     TemplateFaults faults;
+    if (!report.isRead)
+        return faults;
     Checker(report, connection, faults).CheckAll();
     std::stable_sort(faults.begin(), faults.end(),
         [](const TemplateFault& a, const TemplateFault& b) { return a.line < b.line; });

@@ -22,7 +22,7 @@ TemplateElement BeginElement(ElementKind kind, ElementAttributes& attributes, QS
 
 bool TemplateReader::NextChild(QStringView name)
 {
-    while (m_xml.readNextStartElement()) {
+    while (NextElement()) {
         if (m_xml.name() == name)
             return true;
         RefuseElement();
@@ -33,7 +33,7 @@ bool TemplateReader::NextChild(QStringView name)
 std::vector<TemplateElement> TemplateReader::ReadElements(Place place)
 {
     std::vector<TemplateElement> elements;
-    while (m_xml.readNextStartElement()) {
+    while (NextElement()) {
         if (std::optional<TemplateElement> element = ReadElement(place))
             elements.push_back(std::move(*element));
     }
@@ -152,7 +152,7 @@ TemplateElement TemplateReader::ReadTable()
     table.only = attributes.Condition(u"only");
     table.hasLines = attributes.Flag(u"lines");
     attributes.Finish();
-    while (m_xml.readNextStartElement()) {
+    while (NextElement()) {
         if (m_xml.name() == u"col")
             ReadColumn(table);
         else if (m_xml.name() == u"heads")

@@ -1,6 +1,8 @@
 #include "TemplateReader.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QStringDecoder>
 
 #include <algorithm>
 
@@ -9,6 +11,7 @@ namespace {
 constexpr double LargestLength = 1000;
 constexpr double LargestFont = 72;
 constexpr double SmallestFont = 4;
+constexpr qsizetype MostShown = 40; // characters of a text that a fault shows
 
 Paper ReadSheet(ElementAttributes& attributes)
 {
@@ -43,6 +46,20 @@ void ReadFont(ElementAttributes& attributes, ReportTemplate& report)
     report.fontFamily = font.left(blank).trimmed();
     if (blank <= 0 || !isSize || report.fontSize < SmallestFont || report.fontSize > LargestFont)
         attributes.Fault(QStringLiteral("\"%1\" is no font such as \"Noto Sans Devanagari 10\"").arg(font));
+}
+
+// The first line that isn't UTF-8, or 0. A sign never goes on into the next line, so each stands by itself.
+int LineThatIsNoUtf8(const QByteArray& bytes)
+{
+    int line = 0;
+    for (const QByteArray& one : bytes.split('\n')) {
+        ++line;
+        QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+        const QString text = decoder(one);
+        if (decoder.hasError())
+            return line;
+    }
+    return 0;
 }
 
 }
@@ -166,9 +183,11 @@ TemplateReader::TemplateReader(const QString& text, QString file, TemplateFaults
 {
 }
 
+// What is read after the XML has broken off is not what stands there.
 void TemplateReader::Fault(int line, const QString& text)
 {
-    m_faults.push_back({m_file, line, text});
+    if (!m_xml.hasError())
+        m_faults.push_back({m_file, line, text});
 }
 
 TemplateText TemplateReader::ReadMixed(const QString& text, int line)
@@ -202,6 +221,34 @@ void TemplateReader::RefuseElement()
     m_xml.skipCurrentElement();
 }
 
+void TemplateReader::RefuseText()
+{
+    const QStringView text = m_xml.text();
+    const auto first = std::find_if(text.begin(), text.end(), [](QChar sign) { return !sign.isSpace(); });
+    if (first == text.end())
+        return;
+    const QStringView seen = text.mid(first - text.begin());
+    QString shown = seen.toString().simplified();
+    if (shown.size() > MostShown)
+        shown = shown.left(MostShown) + u'…';
+    Fault(static_cast<int>(m_xml.lineNumber() - seen.count(u'\n')),
+        QStringLiteral("\"%1\" stands where no text is printed").arg(shown));
+}
+
+bool TemplateReader::NextElement()
+{
+    while (!m_xml.atEnd()) {
+        const QXmlStreamReader::TokenType token = m_xml.readNext();
+        if (token == QXmlStreamReader::StartElement)
+            return true;
+        if (token == QXmlStreamReader::EndElement)
+            return false;
+        if (token == QXmlStreamReader::Characters)
+            RefuseText();
+    }
+    return false;
+}
+
 void TemplateReader::ReadSource(ReportTemplate& report)
 {
     ElementAttributes attributes(m_xml, *this);
@@ -212,8 +259,10 @@ void TemplateReader::ReadSource(ReportTemplate& report)
     source.order = attributes.Text(u"order");
     source.parentName = attributes.Text(u"to");
     const QString link = attributes.Text(u"link");
-    for (const QString& column : link.split(u',', Qt::SkipEmptyParts))
-        source.link.append(column.trimmed());
+    if (!link.isEmpty()) {
+        for (const QString& column : link.split(u','))
+            source.link.append(column.trimmed());
+    }
     source.only = attributes.Condition(u"only");
     if (source.link.isEmpty() != source.parentName.isEmpty())
         attributes.Fault(QStringLiteral("\"link\" and \"to\" go together"));
@@ -224,31 +273,35 @@ void TemplateReader::ReadSource(ReportTemplate& report)
 
 void TemplateReader::EndEmpty()
 {
-    while (m_xml.readNextStartElement())
+    while (NextElement())
         RefuseElement();
 }
 
 void TemplateReader::ReadReport(ReportTemplate& report)
 {
     ElementAttributes attributes(m_xml, *this);
+    report.line = attributes.Line();
     report.name = attributes.Required(u"name");
     report.title = attributes.Text(u"title");
     report.paper = ReadSheet(attributes);
     ReadFont(attributes, report);
     attributes.Finish();
-    while (m_xml.readNextStartElement()) {
+    QStringList edges;
+    while (NextElement()) {
         const QStringView name = m_xml.name();
         const int line = static_cast<int>(m_xml.lineNumber());
         if (name == u"source") {
             ReadSource(report);
         } else if (name == u"pageheader" || name == u"pagefooter") {
             std::vector<TemplateElement>& part = name == u"pageheader" ? report.header : report.footer;
-            if (!part.empty())
+            if (edges.contains(name))
                 Fault(line, QStringLiteral("there is a second <%1>").arg(name.toString()));
+            edges.append(name.toString());
             report.headerLine = std::max(report.headerLine, line);
             ElementAttributes none(m_xml, *this);
             none.Finish();
-            part = ReadElements(Place::PageEdge);
+            for (TemplateElement& element : ReadElements(Place::PageEdge))
+                part.push_back(std::move(element));
         } else if (std::optional<TemplateElement> element = ReadElement(Place::Flow)) {
             report.body.push_back(std::move(*element));
         }
@@ -260,15 +313,19 @@ ReportTemplate TemplateReader::Read()
     ReportTemplate report;
     report.file = m_file;
     if (m_xml.readNextStartElement()) {
-        if (m_xml.name() == u"report")
+        report.isRead = m_xml.name() == u"report";
+        if (report.isRead)
             ReadReport(report);
         else
             RefuseElement();
     }
     while (!m_xml.atEnd())
         m_xml.readNext();
-    if (m_xml.hasError())
-        Fault(static_cast<int>(m_xml.lineNumber()), QStringLiteral("no XML: ") + m_xml.errorString());
+    if (m_xml.hasError()) {
+        report.isRead = false;
+        m_faults.push_back(
+            {m_file, static_cast<int>(m_xml.lineNumber()), QStringLiteral("no XML: ") + m_xml.errorString()});
+    }
     return report;
 }
 
@@ -285,9 +342,32 @@ ReportTemplate ReportTemplate::ReadText(const QString& text, const QString& file
 ReportTemplate ReportTemplate::Read(const QString& file, TemplateFaults& faults)
 {
     QFile source(file);
-    if (!source.open(QIODevice::ReadOnly)) {
+    const QByteArray bytes = source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
+    if (source.error() != QFile::NoError) {
         faults.push_back({file, 0, QStringLiteral("the file can't be read: ") + source.errorString()});
         return {};
     }
-    return ReadText(QString::fromUtf8(source.readAll()), file, faults);
+    if (const int line = LineThatIsNoUtf8(bytes)) {
+        faults.push_back({file, line, QStringLiteral("the file isn't written in UTF-8")});
+        return {};
+    }
+    ReportTemplate report = ReadText(QString::fromUtf8(bytes), file, faults);
+    const QString name = QFileInfo(file).completeBaseName();
+    if (!report.name.isEmpty() && report.name.compare(name, Qt::CaseInsensitive) != 0)
+        faults.push_back({file, report.line,
+            QStringLiteral("the report is called \"%1\", but its file \"%2\"").arg(report.name, name)});
+    return report;
+}
+
+ReportTemplate ReportTemplate::ReadChecked(
+    const QString& file, Connection& connection, TemplateFaults& faults)
+{
+    TemplateFaults own;
+    ReportTemplate report = Read(file, own);
+    const TemplateFaults more = Check(report, connection);
+    own.insert(own.end(), more.begin(), more.end());
+    std::stable_sort(own.begin(), own.end(),
+        [](const TemplateFault& a, const TemplateFault& b) { return a.line < b.line; });
+    faults.insert(faults.end(), own.begin(), own.end());
+    return report;
 }

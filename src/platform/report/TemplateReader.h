@@ -67,6 +67,11 @@ private:
 
     void Fault(int line, const QString& text);
     void RefuseElement();
+    void RefuseText();
+
+    // Goes on to the next child, whatever its name; false at the end of the parent. Text between the
+    // children is refused.
+    bool NextElement();
     void EndEmpty();
 
     // Goes on to the next child of this name; false at the end of the parent. Others are refused.

@@ -76,6 +76,8 @@ TemplateText ReadTemplateText(QStringView text, QStringList& faults)
     while (at < text.size()) {
         const qsizetype open = text.indexOf(u'{', at);
         const QStringView before = text.mid(at, open < 0 ? -1 : open - at);
+        if (before.contains(u'}'))
+            faults.append(QStringLiteral("a } closes nothing; as a sign it is written {'}'}"));
         if (!before.isEmpty()) {
             TextPiece plain;
             plain.characters = before.toString();

@@ -1,71 +1,192 @@
 #include "TemplateWidths.h"
 
+#include "Room.h"
+#include "TemplateHeights.h"
+
 #include <algorithm>
+#include <limits>
 
 namespace {
 
 constexpr double SmallestShare = 4 * PointsPerMillimetre;
+constexpr double SmallestValue = 10 * PointsPerMillimetre; // beside a label
+constexpr double LettersOfAFigure = 4; // how many times its letters' size a figure such as 1234.50 is wide
+constexpr double LinesOfAChart = 3; // the legend, the labels, and half a line at both ends of the scale
 constexpr double Tolerance = 0.05;
+
+// Points as millimetres.
+QString Shown(double points)
+{
+    return QString::number(std::max(points, 0.0) / PointsPerMillimetre, 'f', 1);
+}
+
+bool HoldsFigure(const TemplateText& text)
+{
+    return std::any_of(text.pieces.begin(), text.pieces.end(),
+        [](const TextPiece& piece) { return piece.formatKind == FormatKind::Number; });
+}
 
 class WidthChecker {
 public:
-    WidthChecker(double pageHeight, const std::function<void(int, const QString&)>& fault)
-        : m_pageHeight(pageHeight)
+    WidthChecker(const ReportTemplate& report, const std::function<void(int, const QString&)>& fault)
+        : m_report(report)
         , m_fault(fault)
+        , m_heights(report)
     {
     }
 
-    void CheckElements(const std::vector<TemplateElement>& elements, double width) const
+    void CheckAll()
+    {
+        const double width = m_report.paper.BodyWidth();
+        CheckElements(m_report.header, width);
+        CheckElements(m_report.footer, width);
+        m_pageHeight = RoomForBody();
+        CheckElements(m_report.body, width);
+    }
+
+private:
+    // What head and foot of a page leave of it; if that is nothing, that is the fault, and not what stands
+    // there.
+    double RoomForBody()
+    {
+        const double page = m_report.paper.BodyHeight();
+        const LeastHeight header = m_heights.Of(m_report.header);
+        const LeastHeight footer = m_heights.Of(m_report.footer);
+        const double always = header.always + footer.always;
+        const double most = always + std::max(header.atTimes, footer.atTimes);
+        if (most + Room::SmallestBody <= page)
+            return page - always;
+        m_fault(m_report.headerLine,
+            QStringLiteral("the head and the foot of the page need %1 mm, and %2 mm for the report between "
+                           "them, but there are %3 mm")
+                .arg(Shown(most), Shown(Room::SmallestBody), Shown(page)));
+        return std::numeric_limits<double>::infinity();
+    }
+
+    void CheckElements(const std::vector<TemplateElement>& elements, double width)
     {
         for (const TemplateElement& element : elements)
             CheckElement(element, width);
     }
 
-private:
-    void CheckElement(const TemplateElement& element, double width) const
+    void CheckElement(const TemplateElement& element, double width)
     {
-        if (element.kind == ElementKind::Columns)
-            CheckLanes(element, width);
-        if (element.kind == ElementKind::Pairs && element.size * PointsPerMillimetre >= width)
-            m_fault(element.line, QStringLiteral("the labels leave no room for their values"));
-        if (element.kind == ElementKind::Space && element.size * PointsPerMillimetre > m_pageHeight)
-            m_fault(element.line, QStringLiteral("the space is taller than the page"));
-        if (element.table)
-            CheckTable(*element.table, element.line, width);
-        if (element.chart && element.chart->height * PointsPerMillimetre > m_pageHeight)
-            m_fault(element.line, QStringLiteral("the chart is taller than the page"));
-        CheckElements(element.children, width);
+        switch (element.kind) {
+        case ElementKind::Columns:
+            return CheckLanes(element, width);
+        case ElementKind::Pairs:
+            return CheckPairs(element, width);
+        case ElementKind::Space:
+            return CheckHeight(element.line, element.size * PointsPerMillimetre, "the space");
+        case ElementKind::Text:
+            return CheckHeight(element.line, m_heights.Line(element.look), "a line of the text");
+        case ElementKind::Table:
+            return CheckTable(element, width);
+        case ElementKind::Chart:
+            return CheckChart(element, width);
+        case ElementKind::Each:
+            return CheckElements(element.children, width);
+        case ElementKind::Rule:
+        case ElementKind::PageBreak:
+            break;
+        }
     }
 
-    void CheckLanes(const TemplateElement& element, double width) const
+    void CheckHeight(int line, double height, const char* what)
+    {
+        if (height > m_pageHeight + Tolerance)
+            m_fault(line, QStringLiteral("%1 is taller than the page").arg(QLatin1String(what)));
+    }
+
+    void CheckPairs(const TemplateElement& element, double width)
+    {
+        const double labels =
+            element.size > 0 ? element.size * PointsPerMillimetre : width * Room::PairLabelShare;
+        double needed = SmallestValue;
+        bool hasLabel = false;
+        for (const TemplatePair& pair : element.pairs) {
+            hasLabel = hasLabel || !pair.label.IsEmpty();
+            const double size = m_heights.LetterSize(pair.look, element.look.size);
+            if (HoldsFigure(pair.value))
+                needed = std::max(needed, LettersOfAFigure * size);
+            CheckHeight(pair.line, m_heights.Line(pair.look, element.look.size), "a line of the pair");
+        }
+        if (width - labels < needed - Tolerance)
+            m_fault(element.line,
+                QStringLiteral("the labels leave %1 mm for their values, which need %2 mm")
+                    .arg(Shown(width - labels), Shown(needed)));
+        if (hasLabel && labels < SmallestShare - Tolerance)
+            m_fault(element.line,
+                QStringLiteral("the labels have %1 mm, but need %2 mm")
+                    .arg(Shown(labels), Shown(SmallestShare)));
+    }
+
+    void CheckLanes(const TemplateElement& element, double width)
     {
         std::vector<WidthRule> rules;
-        for (const TemplateLane& lane : element.lanes)
+        for (const TemplateLane& lane : element.lanes) {
             rules.push_back(lane.width);
+            if (!lane.elements.empty())
+                CheckShare(lane.width, lane.line);
+        }
         const double gap = element.size * PointsPerMillimetre;
         CheckRules(rules, element.line, width, gap);
         const std::vector<double> widths = DivideWidth(rules, width, gap);
-        for (std::size_t i = 0; i < element.lanes.size(); ++i)
-            CheckElements(element.lanes[i].elements, widths[i]);
+        for (std::size_t i = 0; i < element.lanes.size(); ++i) {
+            if (widths[i] >= SmallestShare - Tolerance)
+                CheckElements(element.lanes[i].elements, widths[i]);
+        }
     }
 
-    void CheckTable(const TemplateTable& table, int line, double width) const
+    void CheckTable(const TemplateElement& element, double width)
     {
+        const TemplateTable& table = *element.table;
         std::vector<WidthRule> rules;
-        for (const TemplateColumn& column : table.columns)
+        for (const TemplateColumn& column : table.columns) {
             rules.push_back(column.width);
-        CheckRules(rules, line, width, 0);
+            if (!column.cell.IsEmpty() || !column.head.IsEmpty() || column.total)
+                CheckShare(column.width, column.line);
+            CheckHeight(column.line, m_heights.Line(column.look, element.look.size), "a line of the column");
+        }
+        CheckRules(rules, element.line, width, 0);
         std::size_t spanned = 0;
         for (const TemplateSpan& span : table.spans)
             spanned += static_cast<std::size_t>(span.columns);
         if (spanned > table.columns.size())
-            m_fault(line,
+            m_fault(element.line,
                 QStringLiteral("the heads span %1 columns, but there are %2")
                     .arg(spanned)
                     .arg(table.columns.size()));
     }
 
-    void CheckRules(const std::vector<WidthRule>& rules, int line, double width, double gap) const
+    void CheckChart(const TemplateElement& element, double width)
+    {
+        const TemplateChart& chart = *element.chart;
+        const double line = m_heights.Line(element.look);
+        const double series = static_cast<double>(std::max<std::size_t>(1, chart.series.size()));
+        const double wide = Room::ChartAxis + series * std::max(Room::ChartLabel, line);
+        if (width < wide - Tolerance)
+            m_fault(element.line,
+                QStringLiteral("the chart needs %1 mm, but there are %2 mm").arg(Shown(wide), Shown(width)));
+        const double height = chart.height * PointsPerMillimetre;
+        const double high = (LinesOfAChart + (chart.title.IsEmpty() ? 0 : 1)) * line + Room::ChartGap;
+        if (height < high - Tolerance)
+            m_fault(element.line,
+                QStringLiteral("the chart needs a height of %1 mm, but has %2 mm")
+                    .arg(Shown(high), Shown(height)));
+        CheckHeight(element.line, height, "the chart");
+    }
+
+    void CheckShare(const WidthRule& rule, int line)
+    {
+        if (!rule.isShare && rule.millimetres * PointsPerMillimetre < SmallestShare - Tolerance)
+            m_fault(line,
+                QStringLiteral("w=\"%1\" is too narrow for what stands there: it needs %2 mm")
+                    .arg(rule.millimetres)
+                    .arg(Shown(SmallestShare)));
+    }
+
+    void CheckRules(const std::vector<WidthRule>& rules, int line, double width, double gap)
     {
         double needed = rules.empty() ? 0 : gap * static_cast<double>(rules.size() - 1);
         for (const WidthRule& rule : rules)
@@ -73,12 +194,13 @@ private:
         if (needed > width + Tolerance)
             m_fault(line,
                 QStringLiteral("the columns need %1 mm, but there are %2 mm")
-                    .arg(needed / PointsPerMillimetre, 0, 'f', 1)
-                    .arg(width / PointsPerMillimetre, 0, 'f', 1));
+                    .arg(Shown(needed), Shown(width)));
     }
 
-    double m_pageHeight;
+    const ReportTemplate& m_report;
     const std::function<void(int, const QString&)>& m_fault;
+    HeightReckoner m_heights;
+    double m_pageHeight = std::numeric_limits<double>::infinity();
 };
 
 }
@@ -103,8 +225,5 @@ std::vector<double> DivideWidth(const std::vector<WidthRule>& rules, double widt
 
 void CheckWidths(const ReportTemplate& report, const std::function<void(int, const QString&)>& fault)
 {
-    const WidthChecker checker(report.paper.BodyHeight(), fault);
-    checker.CheckElements(report.header, report.paper.BodyWidth());
-    checker.CheckElements(report.footer, report.paper.BodyWidth());
-    checker.CheckElements(report.body, report.paper.BodyWidth());
+    WidthChecker(report, fault).CheckAll();
 }

@@ -78,6 +78,7 @@ bool MachineSerialPort::Write(const QByteArray& bytes)
 {
     if (!m_port.isOpen() || m_port.write(bytes) != bytes.size())
         return false;
+    m_isAnswerOverdue = false;
     m_port.flush(); // what doesn't fit now follows while the answer is waited for
     return !IsBroken();
 }
@@ -93,6 +94,7 @@ SerialPort::Line MachineSerialPort::WaitForInput(std::chrono::microseconds atMos
     m_port.clearError();
     if (m_port.waitForReadyRead(static_cast<int>(std::clamp<decltype(whole)>(whole, 0, longest))))
         return Line::Input;
+    m_isAnswerOverdue = true;
     return IsBroken() ? Line::Broken : Line::Quiet;
 }
 
@@ -107,7 +109,10 @@ void MachineSerialPort::Close()
 {
     if (!m_port.isOpen())
         return;
-    SendOut();
+    if (m_isAnswerOverdue)
+        m_port.clear(QSerialPort::Output); // what is still queued had its time
+    else
+        SendOut();
     m_port.close();
 }
 

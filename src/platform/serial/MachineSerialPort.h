@@ -22,4 +22,5 @@ private:
     bool IsBroken() const;
 
     QSerialPort m_port;
+    bool m_isAnswerOverdue = false; // since the last write, a wait for an answer has run out
 };

@@ -43,6 +43,29 @@ TEST_F(FocusTest, AFocusChosenWhileLoadingIsKept)
         [&](Desk& desk) { EXPECT_EQ(desk.Happened(), "load +txtB shown"); });
 }
 
+TEST_F(FocusTest, WhatIsLeftCanTellAStepFromAWayStraightToAControl)
+{
+    QString to;
+    AtDesk(
+        [&](Desk& desk) {
+            for (const char* event : {"-txtA", "-txtB", "-txtC"})
+                desk.Also(event, [&] { to = desk.GoingTo() ? desk.GoingTo()->Name() : Q("a step"); });
+        },
+        [&](Desk& desk) {
+            for (const char* keys : {"{TAB}", "{ENTER}", "+{TAB}"}) {
+                Type(keys);
+                EXPECT_EQ(to, Q("a step")) << keys;
+            }
+            TheClerk.Press(Q("txtA"));
+            EXPECT_EQ(to, Q("txtA"));
+            Do([&] { desk.txtC.SetFocus(); });
+            EXPECT_EQ(to, Q("txtC"));
+            EXPECT_EQ(desk.GoingTo(), nullptr) << "nothing is being left";
+            Type("%s");
+            EXPECT_EQ(to, Q("cmdGo"));
+        });
+}
+
 TEST_F(FocusTest, EveryKindOfMoveRunsLostFocusAndThenGotFocus)
 {
     AtDesk(Plain, [&](Desk& desk) {

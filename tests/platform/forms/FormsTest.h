@@ -72,6 +72,7 @@ public:
     void Tell(const std::string& event);
 
     using Screen::After;
+    using Screen::GoingTo;
     using Screen::SetColours;
 
 protected:

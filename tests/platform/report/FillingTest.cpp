@@ -122,15 +122,24 @@ TEST_F(FillingTest, HeadsSpanTheirColumns)
 
 TEST_F(FillingTest, FiguresAreShrunkWhereNamesAreCut)
 {
-    AddDelivery(1, Morning, QStringLiteral("अशोक"), 1, 4, 123456789.25);
-    const std::unique_ptr<Report> report =
-        Make(Template(QStringLiteral("<table source=\"c\"><col w=\"10\">{MemberName}</col><col w=\"10\" "
-                                     "align=\"right\">{Amount|0.00}</col>"
-                                     "<col w=\"10\" wrap=\"1\">{CollectionTime}</col></table>")));
-    report->Complete();
-    EXPECT_EQ(Item(report->PageAt(0), QStringLiteral("अशोक")).fit, Fit::Cut);
-    EXPECT_EQ(Item(report->PageAt(0), QStringLiteral("123456789.25")).fit, Fit::Shrink);
-    EXPECT_EQ(Item(report->PageAt(0), Morning).fit, Fit::Wrap);
+    AddDelivery(1, Morning, QStringLiteral("अशोक"), 1234567.125, 4, 123456789.25);
+    const auto fitOf = [this](const char* cell) {
+        const std::unique_ptr<Report> report =
+            Make(Template(QStringLiteral("<table source=\"c\"><col w=\"10\" %1</col></table>")
+                              .arg(QString::fromUtf8(cell))));
+        report->Complete();
+        const std::vector<PlacedItem>& items = report->PageAt(0).items;
+        EXPECT_EQ(items.size(), 1U) << cell;
+        return items.front().fit;
+    };
+    for (const char* figure :
+        {">{Amount|0.00}", ">{Liters}", ">{MemberNo}", ">{Liters|0.000} लि.", ">क्र. {MemberNo} {MemberName}",
+            ">{Liters + 1}", ">{abs(Liters)}", ">{running(Liters)}", ">{if(Liters &gt; 0, Liters, '')}"})
+        EXPECT_EQ(fitOf(figure), Fit::Shrink) << figure;
+    for (const char* name :
+        {">{MemberName}", ">{MemberName|plain}", ">{CollectionDate}", ">{if(Liters &gt; 0, MemberName, '')}"})
+        EXPECT_EQ(fitOf(name), Fit::Cut) << name;
+    EXPECT_EQ(fitOf("wrap=\"1\">{MemberNo}"), Fit::Wrap);
 }
 
 TEST_F(FillingTest, AChartAddsTheRowsOfALabelAndScalesItsBars)
@@ -173,6 +182,32 @@ TEST_F(FillingTest, ALineChartJoinsItsPointsBelowZeroToo)
     }
     EXPECT_EQ(falling, 1);
     EXPECT_EQ(rising, 1);
+}
+
+TEST_F(FillingTest, ALineChartMarksItsPointsSoThatOneAloneIsSeen)
+{
+    AddDelivery(1, Morning, QStringLiteral("अ"), 10, 4, 30);
+    const QString chart =
+        Template(QStringLiteral("<chart source=\"c\" kind=\"line\" x=\"{MemberNo}\"><series "
+                                "label=\"लिटर\" value=\"Liters\"/></chart>"));
+    const auto marks = [&] {
+        const std::unique_ptr<Report> report = Make(chart);
+        report->Complete();
+        std::vector<QPointF> middles;
+        for (const PlacedItem& item : report->PageAt(0).items) {
+            if (item.kind == PlacedItem::Kind::Box)
+                middles.push_back(item.Rect().center());
+        }
+        middles.erase(middles.begin()); // the legend's
+        const PlacedItem label = Item(report->PageAt(0), QStringLiteral("1"));
+        EXPECT_NEAR(middles.front().x(), label.Rect().center().x(), 0.01);
+        EXPECT_NEAR(
+            middles.front().y(), Item(report->PageAt(0), QStringLiteral("10")).Rect().center().y(), 0.01);
+        return middles.size();
+    };
+    EXPECT_EQ(marks(), 1U);
+    AddDelivery(2, Morning, QStringLiteral("ब"), 5, 4, 60);
+    EXPECT_EQ(marks(), 2U);
 }
 
 TEST_F(FillingTest, AChartWithoutRowsHasItsAxesAndNoBars)

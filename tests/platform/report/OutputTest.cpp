@@ -10,7 +10,10 @@
 
 namespace {
 
-const QString Conjuncts = QStringLiteral("श्री ज्ञानेश्वर क्षीरसागर, राष्ट्रीय विद्यार्थी, कऱ्हाड, पुण्यस्मृती, द्ध्य");
+const QString Conjuncts =
+    QStringLiteral("श्री ज्ञानेश्वर क्षीरसागर, राष्ट्रीय विद्यार्थी, कऱ्हाड, पुण्यस्मृती, द्ध्य महादेव शंकर शिंदे "
+                   "नामदेव यशवंत काळे शोभा हणमंत साळुंखे शालन जयवंत डुबल तानाजी रघुनाथ देसाई देय रक्कम (लिटर) "
+                   "बँक नोंदलेली नाही रु. 148.20 Fat-दर मूळ/एकूण");
 
 // A disk on which no file can grow beyond a size, as long as it stands.
 class NarrowDisk {
@@ -82,15 +85,33 @@ protected:
 
 TEST_F(OutputTest, ThePdfReadsAsThePageIsSeenConjunctsIncluded)
 {
-    AddDelivery(1, QStringLiteral("सकाळ"), QStringLiteral("ज्ञानेश्वर क्षीरसागर"), 12.5, 4, 350.5);
+    AddDelivery(1, QStringLiteral("सकाळ"), QStringLiteral("ज्ञानेश्वर साळुंखे"), 12.5, 4, 350.5);
     const std::unique_ptr<Report> report = Make(Template(QStringLiteral("<text>") + Conjuncts
+        + QStringLiteral("</text><text bold=\"1\" size=\"15\">") + Conjuncts
         + QStringLiteral("</text><table source=\"c\"><col w=\"60\">{MemberName}</col>"
                          "<col align=\"right\">{Amount|0.00}</col></table>")));
     const QString file = Output(QStringLiteral("a.pdf"));
     EXPECT_TRUE(report->SavePdf(file).Done());
-    const QStringList lines = PdfText(file, {QStringLiteral("-layout")}).simplified().split(u' ');
-    QString seen = Conjuncts + QStringLiteral(" ज्ञानेश्वर क्षीरसागर 350.50");
-    EXPECT_EQ(lines.join(u' '), seen);
+    const QString seen = Conjuncts + u' ' + Conjuncts + QStringLiteral(" ज्ञानेश्वर साळुंखे 350.50");
+    for (const QStringList& way : {QStringList(), QStringList(QStringLiteral("-layout"))})
+        EXPECT_EQ(PdfText(file, way).simplified(), seen) << way.join(u' ').toStdString();
+}
+
+TEST_F(OutputTest, ThePdfReadsAsThePageIsSeenWhereATextIsCutOrDrawnNarrower)
+{
+    AddDelivery(1, QStringLiteral("सकाळ"), QStringLiteral("महादेव नामदेव साळुंखे"), 12.5, 4, 123456789.25);
+    AddDelivery(2, QStringLiteral("सकाळ"), QStringLiteral("देसाई"), 1, 4, 1);
+    const std::unique_ptr<Report> report =
+        Make(Template(QStringLiteral("<table source=\"c\"><col w=\"23\">{MemberName}</col>"
+                                     "<col w=\"14\" align=\"right\">{Amount|0.00} रुपये</col></table>")));
+    const QString file = Output(QStringLiteral("a.pdf"));
+    EXPECT_TRUE(report->SavePdf(file).Done());
+    const QStringList words = Words(PdfText(file));
+    EXPECT_EQ(words.size(), 7) << words.join(u'|').toStdString();
+    EXPECT_EQ(words.value(0), QStringLiteral("महादेव"));
+    EXPECT_TRUE(words.value(1).endsWith(u'…')) << "what was left out isn't found in it";
+    EXPECT_TRUE(QStringLiteral("नामदेव").startsWith(words.value(1).chopped(1)));
+    EXPECT_EQ(words.mid(2).join(u' '), QStringLiteral("123456789.25 रुपये देसाई 1.00 रुपये"));
 }
 
 TEST_F(OutputTest, ThePdfHasOnePageASheetAndItsFontsInIt)
@@ -173,6 +194,59 @@ TEST_F(OutputTest, AReportWithoutATableGivesTheRowOfItsSource)
     const QString file = Output(QStringLiteral("a.csv"));
     EXPECT_TRUE(report->SaveCsv(file).Done());
     EXPECT_EQ(QString::fromUtf8(Content(file).mid(3)), QStringLiteral("MemberName,Liters\r\nविठ्ठल,12.5\r\n"));
+}
+
+TEST_F(OutputTest, APartThatComesOnceARowGivesARowEachToASpreadsheet)
+{
+    AddDelivery(1, QStringLiteral("सकाळ"), QStringLiteral("अशोक"), 1.5, 4, 30);
+    AddDelivery(2, QStringLiteral("सकाळ"), QStringLiteral("बाबू"), 2, 4, 60);
+    AddDelivery(3, QStringLiteral("सकाळ"), QStringLiteral("कमल"), 0, 4, 60);
+    const QString file = Output(QStringLiteral("a.csv"));
+    for (const char* attributes : {"", "keep=\"1\"", "newpage=\"1\""}) {
+        const std::unique_ptr<Report> report = Make(
+            Template(QStringLiteral("<text>{$society}</text><each source=\"c\" only=\"Liters &gt; 0\" %1>"
+                                    "<columns><column><text>{MemberName}</text></column>"
+                                    "<column><text>{Liters|0.00}</text></column></columns><rule/></each>")
+                         .arg(QLatin1String(attributes))));
+        EXPECT_TRUE(report->SaveCsv(file).Done());
+        EXPECT_EQ(QString::fromUtf8(Content(file).mid(3)),
+            QStringLiteral("Liters,MemberName\r\n1.5,अशोक\r\n2,बाबू\r\n"))
+            << attributes;
+    }
+}
+
+TEST_F(OutputTest, ARowOfATableInsideAPartThatComesOnceARowSaysWhoseItIs)
+{
+    AddDelivery(1, QStringLiteral("सकाळ"), QStringLiteral("अशोक"), 1, 4, 30);
+    AddDelivery(2, QStringLiteral("सकाळ"), QStringLiteral("बाबू"), 2, 4, 60);
+    for (const char* pair : {"1,'A',5", "1,'B',6", "2,'C',7"})
+        Run(QStringLiteral("insert into KapatDetails(MemberNo,Label1,Value1) values(%1)")
+                .arg(QString::fromLatin1(pair)));
+    const std::unique_ptr<Report> report = Make(Template(QStringLiteral(
+        "<source name=\"k\" table=\"KapatDetails\" link=\"MemberNo\" to=\"c\" order=\"Label1\"/>"
+        "<each source=\"c\"><columns><column><text>{MemberNo} {MemberName}</text></column>"
+        "<column><table source=\"k\"><col head=\"कपात\">{Label1|plain}</col>"
+        "<col head=\"रक्कम\">{Value1|0.00}</col></table></column></columns></each>")));
+    const QString file = Output(QStringLiteral("a.csv"));
+    EXPECT_TRUE(report->SaveCsv(file).Done());
+    EXPECT_EQ(QString::fromUtf8(Content(file).mid(3)),
+        QStringLiteral(
+            "MemberNo,MemberName,कपात,रक्कम\r\n1,अशोक,A,5.00\r\n1,अशोक,B,6.00\r\n2,बाबू,C,7.00\r\n"));
+}
+
+TEST_F(OutputTest, ARecordIsntLostWhereItsPartIsTallerThanAPage)
+{
+    for (const int number : {1, 2, 3})
+        AddDelivery(number, QStringLiteral("सकाळ"), QStringLiteral("अशोक"), 1, 4, 30);
+    const std::unique_ptr<Report> report = Make(
+        Template(QStringLiteral("<each source=\"c\"><columns><column><text>{CollectionNo}</text>%1</column>"
+                                "<column><text>y</text></column></columns></each>")
+                     .arg(QStringLiteral("<text>x</text>").repeated(80))));
+    const QString file = Output(QStringLiteral("a.csv"));
+    EXPECT_TRUE(report->SaveCsv(file).Done());
+    EXPECT_GT(report->PageCount(), 3U);
+    EXPECT_EQ(
+        Words(QString::fromUtf8(Content(file).mid(3))).join(u' '), QStringLiteral("CollectionNo 1 2 3"));
 }
 
 TEST_F(OutputTest, AFullDiskLeavesWhatWasThereBeforeAndNothingElse)

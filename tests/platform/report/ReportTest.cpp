@@ -5,7 +5,6 @@
 #include "Sql.h"
 
 #include <QFile>
-#include <QProcess>
 
 #include <algorithm>
 
@@ -51,16 +50,26 @@ void ReportTest::AddDelivery(
         shift, u"]',", number, u",", number, u",'[", name, u"]',", liters, u",", fat, u",", amount, u")"));
 }
 
-QStringList ReportTest::Faults(const QString& text)
+QStringList ReportTest::Faults(const QString& text, const QString& name)
+{
+    return FaultsOfFile(Write(name + QStringLiteral(".rpt"), text));
+}
+
+QStringList ReportTest::FaultsOfFile(const QString& file)
 {
     TemplateFaults faults;
-    ReportTemplate report = ReportTemplate::ReadText(text, QStringLiteral("test.rpt"), faults);
-    const TemplateFaults more = Check(report, *connection);
-    faults.insert(faults.end(), more.begin(), more.end());
+    ReportTemplate::ReadChecked(file, *connection, faults);
     QStringList lines;
     for (const TemplateFault& fault : faults)
         lines.append(QString::number(fault.line) + QStringLiteral(": ") + fault.text);
     return lines;
+}
+
+QString ReportTest::OnlyFault(const QString& elements)
+{
+    const QStringList faults = Faults(Template(elements));
+    EXPECT_EQ(faults.size(), 1) << faults.join(u'\n').toStdString();
+    return faults.value(0).section(QStringLiteral(": "), 1);
 }
 
 std::unique_ptr<Report> ReportTest::Make(const QString& text, const Selection& selection)
@@ -102,15 +111,6 @@ PlacedItem ReportTest::Item(const Page& page, const QString& text)
         return *found;
     ADD_FAILURE() << "no such text on the page: " << text.toStdString();
     return {};
-}
-
-QString ReportTest::PdfText(const QString& file, const QStringList& options)
-{
-    QProcess reader;
-    reader.start(QStringLiteral("pdftotext"), options + QStringList{file, QStringLiteral("-")});
-    EXPECT_TRUE(reader.waitForFinished());
-    EXPECT_EQ(reader.exitCode(), 0);
-    return QString::fromUtf8(reader.readAllStandardOutput()).remove(u'\f');
 }
 
 QString ReportTest::Write(const QString& name, const QString& text) const

@@ -2,6 +2,7 @@
 
 #include "Connection.h"
 #include "DataSource.h"
+#include "PdfText.h"
 #include "Report.h"
 #include "RunTimeError.h"
 
@@ -31,8 +32,12 @@ protected:
     void AddDelivery(
         int number, const QString& shift, const QString& name, double liters, double fat, double amount);
 
-    // All faults of a template: of its reading, then of its check, each as "line: text".
-    QStringList Faults(const QString& text);
+    // All faults of a template in a file of that name, each as "line: text".
+    QStringList Faults(const QString& text, const QString& name = QStringLiteral("Test"));
+    QStringList FaultsOfFile(const QString& file);
+
+    // The text of the one fault that a template of some elements has; the test fails if it has none, or more.
+    QString OnlyFault(const QString& elements);
 
     // A report over a template without faults; the test fails if it has any.
     std::unique_ptr<Report> Make(const QString& text, const Selection& selection = {});
@@ -45,9 +50,6 @@ protected:
 
     // The first item of a page that has this text; the test fails if there is none.
     static PlacedItem Item(const Page& page, const QString& text);
-
-    // What pdftotext reads in a PDF, without the breaks of pages; options such as "-layout".
-    static QString PdfText(const QString& file, const QStringList& options = {});
 
     QString File(const QString& name) const { return folder.filePath(name); }
     QString Write(const QString& name, const QString& text) const;

@@ -7,15 +7,7 @@
 
 namespace {
 
-class TemplateCheckTest : public ReportTest {
-protected:
-    QString OnlyFault(const QString& elements)
-    {
-        const QStringList faults = Faults(Template(elements));
-        EXPECT_EQ(faults.size(), 1) << faults.join(u'\n').toStdString();
-        return faults.value(0).section(QStringLiteral(": "), 1);
-    }
-};
+class TemplateCheckTest : public ReportTest { };
 
 }
 
@@ -29,51 +21,157 @@ TEST_F(TemplateCheckTest, AllFaultsAreToldAtOnceWithTheirLines)
                               "<blink/>\n"
                               "<text>{m.MemberNo|0,00} {1 +}</text>\n"
                               "<table source=\"x\"><col w=\"wide\">a</col></table>\n"
-                              "</report>"));
+                              "</report>"),
+            QStringLiteral("T"));
     const QStringList expected{QStringLiteral("1: \"A9\" is no paper"),
-        QStringLiteral("4: <text> knows no \"colour\""), QStringLiteral("5: <blink> isn't known here"),
+        QStringLiteral("2: there is no table \"NoSuchTable\""),
+        QStringLiteral("3: there is no column \"Nmae\" in MembersMaster"),
+        QStringLiteral("4: <text> knows no \"colour\""),
+        QStringLiteral("4: there is no column \"Surname\" in MembersMaster"),
+        QStringLiteral("5: <blink> isn't known here"),
         QStringLiteral("6: \"0,00\" is no format of a number or a date"),
         QStringLiteral("6: {1 +}: the expression breaks off"),
         QStringLiteral("7: w=\"wide\" is neither millimetres nor *"),
-        QStringLiteral("2: there is no table \"NoSuchTable\""),
-        QStringLiteral("3: there is no column \"Nmae\" in MembersMaster"),
-        QStringLiteral("4: there is no column \"Surname\" in MembersMaster"),
         QStringLiteral("7: there is no source \"x\"")};
     EXPECT_EQ(faults, expected);
 }
 
 TEST_F(TemplateCheckTest, ATemplateThatIsNoXmlIsToldWithItsLine)
 {
-    const QStringList faults = Faults(QStringLiteral("<report name=\"T\" paper=\"A4\">\n<text>\n</report>"));
-    ASSERT_FALSE(faults.isEmpty());
+    const QStringList faults =
+        Faults(QStringLiteral("<report name=\"Test\" paper=\"A4\">\n<text>\n</report>"));
+    ASSERT_EQ(faults.size(), 1) << faults.join(u'\n').toStdString();
     EXPECT_TRUE(faults.first().startsWith(QStringLiteral("3: no XML: "))) << faults.first().toStdString();
-    EXPECT_FALSE(Faults(QString()).isEmpty());
-    EXPECT_FALSE(Faults(QStringLiteral("<html/>")).isEmpty());
+    EXPECT_EQ(Faults(QString()).size(), 1);
+    EXPECT_EQ(Faults(QStringLiteral("<html/>")), QStringList({QStringLiteral("1: <html> isn't known here")}));
 }
 
-TEST_F(TemplateCheckTest, WidthsMustFitThePaper)
+TEST_F(TemplateCheckTest, WhereTheXmlBreaksOffNoFaultsAreInvented)
 {
+    const QStringList faults = Faults(QStringLiteral("<report name=\"Test\" paper=\"A4\">\n"
+                                                     "<blink/>\n"
+                                                     "<text>{c.Liters}</text>\n"
+                                                     "<table source=\"c\">{Liters & Fat}\n"
+                                                     "<source name=\"c\" table=\"MilkCollectionsTemp\"/>\n"
+                                                     "</report>"));
+    ASSERT_EQ(faults.size(), 2) << faults.join(u'\n').toStdString();
+    EXPECT_EQ(faults[0], QStringLiteral("2: <blink> isn't known here"));
+    EXPECT_TRUE(faults[1].startsWith(QStringLiteral("4: no XML: "))) << faults[1].toStdString();
+}
+
+TEST_F(TemplateCheckTest, AFileThatIsntUtf8IsToldWithItsLine)
+{
+    const auto faults = [this](const QByteArray& bytes) {
+        QFile file(File(QStringLiteral("Test.rpt")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        file.close();
+        return FaultsOfFile(file.fileName());
+    };
+    const QByteArray begin = "<report name=\"Test\" paper=\"A4\">\n<text>";
+    const QByteArray end = "</text>\n</report>";
+    EXPECT_EQ(faults(begin + "caf\xC3\xA9 \xEF\xBF\xBD" + end), QStringList());
+    EXPECT_EQ(faults("\xEF\xBB\xBF" + begin + "a" + end), QStringList());
+    const QStringList second{QStringLiteral("2: the file isn't written in UTF-8")};
+    EXPECT_EQ(faults(begin + "caf\xE9" + end), second);
+    EXPECT_EQ(faults("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>" + begin + "caf\xE9" + end), second);
+    EXPECT_EQ(faults(begin + "\xE0\xA4\n" + end), second) << "a sign that breaks off with its line";
+    EXPECT_EQ(faults("\xFF\xFE<\0r\0"), QStringList({QStringLiteral("1: the file isn't written in UTF-8")}));
+}
+
+TEST_F(TemplateCheckTest, TheReportHasTheNameOfItsFile)
+{
+    const QString text = Template(QStringLiteral("<text>a</text>"));
+    EXPECT_EQ(Faults(text, QStringLiteral("Other")),
+        QStringList({QStringLiteral("1: the report is called \"Test\", but its file \"Other\"")}));
+    EXPECT_EQ(Faults(text, QStringLiteral("TEST")), QStringList());
+}
+
+TEST_F(TemplateCheckTest, TextThatWouldNotBePrintedIsAFault)
+{
+    EXPECT_EQ(Faults(Template(QStringLiteral("\nदूध\nलिटर <text>a</text>\n"))),
+        QStringList({QStringLiteral("4: \"दूध लिटर\" stands where no text is printed")}));
+    for (const char16_t* elements :
+        {u"<table source=\"c\">दूध<col>a</col></table>", u"<columns><column>दूध</column></columns>",
+            u"<columns>दूध<column/></columns>", u"<pairs><pair label=\"a\">b</pair>दूध</pairs>",
+            u"<each source=\"c\">दूध</each>", u"<rule>दूध</rule>", u"<pageheader><![CDATA[दूध]]></pageheader>"})
+        EXPECT_EQ(
+            OnlyFault(QString::fromUtf16(elements)), QStringLiteral("\"दूध\" stands where no text is printed"))
+            << QString::fromUtf16(elements).toStdString();
+    EXPECT_EQ(Faults(Template(QStringLiteral("<!-- दूध --><table source=\"c\"> <!-- दूध -->\n<col>a</col>"
+                                             "</table>"))),
+        QStringList());
+}
+
+TEST_F(TemplateCheckTest, ABraceThatClosesNothingIsAFault)
+{
+    const QString fault = QStringLiteral("a } closes nothing; as a sign it is written {'}'}");
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>a } b {MemberNo}</text>")), fault);
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{MemberNo}}</text>")), fault);
+    EXPECT_EQ(OnlyFault(QStringLiteral("<pairs><pair label=\"}\">a</pair></pairs>")), fault);
+    EXPECT_EQ(Faults(Template(QStringLiteral("<text>{'}'}{'{'}</text>"))), QStringList());
+}
+
+TEST_F(TemplateCheckTest, EveryPartOfAnOrderIsAColumn)
+{
+    const auto fault = [this](const char* order) {
+        return OnlyFault(QStringLiteral("<source name=\"m\" table=\"MembersMaster\" order=\"%1\"/>")
+                             .arg(QLatin1String(order)));
+    };
+    EXPECT_EQ(fault("MemberNo,"), QStringLiteral("\"\" is no order"));
+    EXPECT_EQ(fault(",MemberNo desc"), QStringLiteral("\"\" is no order"));
+    EXPECT_EQ(fault("MemberNo,,City"), QStringLiteral("\"\" is no order"));
+    EXPECT_EQ(fault("MemberNo up"), QStringLiteral("\"MemberNo up\" is no order"));
     EXPECT_EQ(
-        OnlyFault(QStringLiteral("<table source=\"c\"><col w=\"100\">a</col><col w=\"95\">b</col></table>")),
-        QStringLiteral("the columns need 195.0 mm, but there are 190.0 mm"));
+        OnlyFault(QStringLiteral("<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo,\" to=\"c\"/>")),
+        QStringLiteral("the two sources don't share a column \"\""));
+}
+
+TEST_F(TemplateCheckTest, RowsThatAreKeptCantBeChosenByARowThatMovesOn)
+{
+    const auto linked = [](const char* only) {
+        return QStringLiteral(
+            "<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\" only=\"%1\"/>")
+            .arg(QLatin1String(only));
+    };
+    const QString end = QStringLiteral("; say it with \"link\", or where the rows are walked");
+    EXPECT_EQ(OnlyFault(linked("City = 'a' and c.Liters &gt; 3")),
+        QStringLiteral("the rows of \"m\" are chosen once and not for each row of \"c\", so its \"only\" "
+                       "can't ask for c.Liters")
+            + end);
+    EXPECT_EQ(OnlyFault(linked("City = 'a'")
+                  + QStringLiteral("<source name=\"n\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\" "
+                                   "only=\"m.City = 'a'\"/>")),
+        QStringLiteral("the rows of \"n\" are chosen once and not for each row of \"m\", so its \"only\" "
+                       "can't ask for m.City")
+            + end);
+    const QString dates = QStringLiteral("<source name=\"d\" table=\"ReportDates\"/>");
+    const QString ofDate = linked("CompanyId = d.CompanyId");
+    EXPECT_EQ(Faults(Template(dates + ofDate)), QStringList()) << "it stands still";
+    EXPECT_EQ(OnlyFault(dates + ofDate + QStringLiteral("<each source=\"d\"><text>{m.City}</text></each>")),
+        QStringLiteral("the rows of \"m\" are chosen once and not for each row of \"d\", so its \"only\" "
+                       "can't ask for d.CompanyId")
+            + end);
     EXPECT_EQ(
-        OnlyFault(QStringLiteral("<columns gap=\"10\"><column w=\"100\"/><column w=\"85\"/></columns>")),
-        QStringLiteral("the columns need 195.0 mm, but there are 190.0 mm"));
+        Faults(Template(linked("City = 'a'")
+            + QStringLiteral("<source name=\"p\" table=\"MilkPayments\" only=\"k.City = 'a'\"/>"
+                             "<source name=\"k\" table=\"MembersMaster\" link=\"MemberNo\" to=\"p\"/>"))),
+        QStringList())
+        << "what hangs on a row goes with it";
+}
+
+TEST_F(TemplateCheckTest, ASourceReadByItsFirstRowCantBeChosenByARowThatMovesOn)
+{
+    const QString members =
+        QStringLiteral("<source name=\"m\" table=\"MembersMaster\" only=\"MemberNo = c.MemberNo\"/>");
     EXPECT_EQ(
-        OnlyFault(QStringLiteral("<columns><column w=\"60\"><table source=\"c\"><col w=\"61\">a</col></table>"
-                                 "</column><column/></columns>")),
-        QStringLiteral("the columns need 61.0 mm, but there are 60.0 mm"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<table source=\"c\"><col w=\"188\">a</col><col>b</col></table>")),
-        QStringLiteral("the columns need 192.0 mm, but there are 190.0 mm"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<pairs labelw=\"200\"><pair label=\"a\">b</pair></pairs>")),
-        QStringLiteral("the labels leave no room for their values"));
-    EXPECT_EQ(
-        OnlyFault(QStringLiteral(
-            "<table source=\"c\"><heads><head span=\"3\">a</head></heads><col>a</col><col>b</col></table>")),
-        QStringLiteral("the heads span 3 columns, but there are 2"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<chart source=\"c\" kind=\"bar\" x=\"{MemberNo}\" h=\"300\">"
-                                       "<series value=\"Liters\"/></chart>")),
-        QStringLiteral("the chart is taller than the page"));
+        Faults(Template(members
+            + QStringLiteral("<each source=\"c\"><table source=\"m\"><col>{City}</col></table></each>"))),
+        QStringList())
+        << "its rows are chosen anew each time";
+    EXPECT_EQ(OnlyFault(members + QStringLiteral("<each source=\"c\"><text>{m.City}</text></each>")),
+        QStringLiteral("the rows of \"m\" are chosen once and not for each row of \"c\", so its \"only\" "
+                       "can't ask for c.MemberNo; say it with \"link\", or where the rows are walked"));
 }
 
 TEST_F(TemplateCheckTest, KindsOfValuesMustSuit)
@@ -175,7 +273,7 @@ TEST_F(TemplateCheckTest, TheExamplesOfTheManualHaveNoFaultsAndThoseThatAreShipp
     int shipped = 0;
     for (const QString& part : parts) {
         const QString example = part.section(QStringLiteral("```"), 0, 0);
-        EXPECT_EQ(Faults(example), QStringList());
+        EXPECT_EQ(Faults(example, example.section(u'"', 1, 1)), QStringList());
         const QString name = example.section(u'"', 1, 1) + QStringLiteral(".rpt");
         for (const Delivered::File& file : Delivered::Templates()) {
             if (file.name != name)
@@ -191,7 +289,7 @@ TEST_F(TemplateCheckTest, TheExamplesOfTheManualHaveNoFaultsAndThoseThatAreShipp
 TEST_F(TemplateCheckTest, TheShellToolTellsEachFaultOnALineAndAnswersWithItsExitCode)
 {
     const QString good =
-        Write(QStringLiteral("good.rpt"), Template(QStringLiteral("<text>{MemberName}</text>")));
+        Write(QStringLiteral("Test.rpt"), Template(QStringLiteral("<text>{MemberName}</text>")));
     const QString bad =
         Write(QStringLiteral("bad.rpt"), Template(QStringLiteral("<text>{Nmae}</text>\n<blink/>")));
     const auto check = [](const QStringList& files) {
@@ -201,8 +299,9 @@ TEST_F(TemplateCheckTest, TheShellToolTellsEachFaultOnALineAndAnswersWithItsExit
         return std::pair(tool.exitCode(), QString::fromUtf8(tool.readAllStandardOutput()));
     };
     EXPECT_EQ(check({good}), std::pair(0, QString()));
-    const QString expected = bad + QStringLiteral(":4: <blink> isn't known here\n") + bad
-        + QStringLiteral(":3: there is no column \"Nmae\" in MilkCollectionsTemp\n");
+    const QString expected = bad + QStringLiteral(":1: the report is called \"Test\", but its file \"bad\"\n")
+        + bad + QStringLiteral(":3: there is no column \"Nmae\" in MilkCollectionsTemp\n") + bad
+        + QStringLiteral(":4: <blink> isn't known here\n");
     EXPECT_EQ(check({good, bad}), std::pair(1, expected));
     EXPECT_EQ(check({File(QStringLiteral("missing.rpt"))}).first, 1);
     EXPECT_EQ(check({}).first, 2);

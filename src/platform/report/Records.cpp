@@ -1,0 +1,110 @@
+#include "Records.h"
+
+#include "Evaluation.h"
+
+#include <algorithm>
+
+namespace {
+
+using Elements = std::vector<TemplateElement>;
+
+bool FindTable(const Elements& elements, RecordPlan& plan)
+{
+    for (const TemplateElement& element : elements) {
+        if (element.table) {
+            plan.table = element.table.get();
+            return true;
+        }
+        if (element.kind == ElementKind::Each) {
+            plan.around.push_back(element.source);
+            if (FindTable(element.children, plan))
+                return true;
+            plan.around.pop_back();
+        }
+        if (std::any_of(element.lanes.begin(), element.lanes.end(),
+                [&](const TemplateLane& lane) { return FindTable(lane.elements, plan); }))
+            return true;
+    }
+    return false;
+}
+
+// The innermost part that comes once a row.
+bool FindEach(const Elements& elements, RecordPlan& plan)
+{
+    for (const TemplateElement& element : elements) {
+        if (element.kind == ElementKind::Each) {
+            plan.around.push_back(element.source);
+            plan.each = &element;
+            FindEach(element.children, plan);
+            return true;
+        }
+        if (std::any_of(element.lanes.begin(), element.lanes.end(),
+                [&](const TemplateLane& lane) { return FindEach(lane.elements, plan); }))
+            return true;
+    }
+    return false;
+}
+
+QStringList TableHeads(const TemplateTable& table, ReportData& data)
+{
+    QStringList heads;
+    for (const TemplateGroup& group : table.groups)
+        heads.append(group.label.isEmpty() ? group.name : group.label);
+    QStringList spans;
+    for (const TemplateSpan& span : table.spans)
+        spans.append(QList<QString>(span.columns, Fill(span.text, data)));
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        if (table.columns[i].cell.IsEmpty())
+            continue;
+        const QString head =
+            spans.value(static_cast<qsizetype>(i)) + u' ' + Fill(table.columns[i].head, data);
+        heads.append(head.trimmed());
+    }
+    return heads;
+}
+
+}
+
+RecordPlan RecordPlan::Of(const std::vector<TemplateElement>& body)
+{
+    RecordPlan plan;
+    if (!FindTable(body, plan))
+        FindEach(body, plan);
+    return plan;
+}
+
+QStringList RecordHeads(const RecordPlan& plan, ReportData& data)
+{
+    QStringList heads;
+    for (const int source : plan.around)
+        heads += FieldNames(source, data);
+    if (plan.table)
+        heads += TableHeads(*plan.table, data);
+    return heads;
+}
+
+QStringList FieldsAround(const RecordPlan& plan, ReportData& data)
+{
+    QStringList fields;
+    for (const int source : plan.around)
+        fields += Fields(source, data);
+    return fields;
+}
+
+QStringList FieldNames(int source, const ReportData& data)
+{
+    QStringList names;
+    for (const SourceColumn& column : data.Template().sources[static_cast<std::size_t>(source)].columns)
+        names.append(column.name);
+    return names;
+}
+
+QStringList Fields(int source, ReportData& data)
+{
+    QStringList fields;
+    if (const Row* const row = data.CurrentRow(source)) {
+        for (const Value& value : *row)
+            fields.append(value.kind == Value::Kind::Text ? data.Seen(value.text) : value.Text());
+    }
+    return fields;
+}

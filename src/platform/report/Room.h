@@ -1,0 +1,13 @@
+#pragma once
+
+// Lengths that the filling and the check of a template share; points.
+namespace Room {
+
+inline constexpr float RuleGap = 1.5F; // above and below a rule
+inline constexpr float SmallestBody = 30; // what head and foot of a page must leave
+inline constexpr double PairLabelShare = 0.4; // of the width, where a template doesn't say it
+inline constexpr double ChartAxis = 46; // for the figures at the left of a chart
+inline constexpr double ChartGap = 4; // between a chart and its labels
+inline constexpr double ChartLabel = 26; // what a label under a chart needs at least
+
+}

@@ -1,0 +1,81 @@
+#include "TemplateHeights.h"
+
+#include "Room.h"
+#include "TemplateWidths.h"
+
+#include <algorithm>
+
+namespace {
+
+void Add(LeastHeight& sum, const LeastHeight& one, bool hasCondition)
+{
+    if (!hasCondition)
+        sum.always += one.always;
+    sum.atTimes = std::max(sum.atTimes, hasCondition ? one.Most() : one.atTimes);
+}
+
+}
+
+double HeightReckoner::LetterSize(const TextLook& look, double sizeAround) const
+{
+    if (look.size > 0)
+        return look.size;
+    return sizeAround > 0 ? sizeAround : m_report.fontSize;
+}
+
+double HeightReckoner::Line(const TextLook& look, double sizeAround)
+{
+    return m_measure.LineHeight(
+        {m_report.fontFamily, static_cast<float>(LetterSize(look, sizeAround)), look.isBold.value_or(false)});
+}
+
+LeastHeight HeightReckoner::Of(const std::vector<TemplateElement>& elements)
+{
+    LeastHeight sum;
+    for (const TemplateElement& element : elements)
+        Add(sum, OfOne(element), element.condition.has_value());
+    return sum;
+}
+
+LeastHeight HeightReckoner::OfOne(const TemplateElement& element)
+{
+    switch (element.kind) {
+    case ElementKind::Text:
+        return {element.text.IsEmpty() ? 0 : Line(element.look)};
+    case ElementKind::Rule:
+        return {2 * Room::RuleGap + element.size};
+    case ElementKind::Space:
+        return {element.size * PointsPerMillimetre};
+    case ElementKind::Pairs:
+        return OfPairs(element);
+    case ElementKind::Columns:
+        return OfLanes(element);
+    case ElementKind::PageBreak:
+    case ElementKind::Each:
+    case ElementKind::Table:
+    case ElementKind::Chart:
+        break;
+    }
+    return {};
+}
+
+LeastHeight HeightReckoner::OfPairs(const TemplateElement& element)
+{
+    LeastHeight sum;
+    for (const TemplatePair& pair : element.pairs)
+        Add(sum, {Line(pair.look, element.look.size)}, pair.condition.has_value());
+    return sum;
+}
+
+LeastHeight HeightReckoner::OfLanes(const TemplateElement& element)
+{
+    LeastHeight tallest;
+    double most = 0;
+    for (const TemplateLane& lane : element.lanes) {
+        const LeastHeight one = Of(lane.elements);
+        tallest.always = std::max(tallest.always, one.always);
+        most = std::max(most, one.Most());
+    }
+    tallest.atTimes = most - tallest.always;
+    return tallest;
+}

@@ -1,0 +1,57 @@
+// The way out of each report screen.
+
+#include "ReportsTest.h"
+
+#include "frmReportMembersList.h"
+#include "frmReportMilkCollections.h"
+#include "frmReportMilkPS.h"
+#include "frmReportPaymentList.h"
+
+namespace {
+
+template <class S> class ReportExitTest : public ReportsTest {
+};
+
+using ReportScreens =
+    testing::Types<frmReportMilkPS, frmReportMilkCollections, frmReportMembersList, frmReportPaymentList>;
+TYPED_TEST_SUITE(ReportExitTest, ReportScreens);
+
+TYPED_TEST(ReportExitTest, TheButtonLeavesTheScreenAndPrintsNothing)
+{
+    this->template On<TypeParam>([](Clerk& clerk) {
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("&baahor"));
+        clerk.Press(QStringLiteral("cmdExit"));
+        EXPECT_EQ(clerk.Message(), QString());
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+    EXPECT_FALSE(this->Failure);
+    EXPECT_TRUE(this->TheWindow.Shown.empty());
+}
+
+TYPED_TEST(ReportExitTest, TheButtonLeavesTheScreenWhateverStandsInItsFirstField)
+{
+    this->template On<TypeParam>([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("3113"));
+        clerk.Press(QStringLiteral("cmdExit"));
+        EXPECT_EQ(clerk.Message(), QString());
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+    EXPECT_TRUE(this->TheWindow.Shown.empty());
+}
+
+TYPED_TEST(ReportExitTest, ItsKeyLeavesTheScreen)
+{
+    this->template On<TypeParam>([](Clerk& clerk) {
+        if (std::is_same_v<TypeParam, frmReportMilkPS>)
+            clerk.Type(QStringLiteral("01042026{ENTER}10042026"));
+        else if (!std::is_same_v<TypeParam, frmReportMembersList>)
+            clerk.Type(QStringLiteral("15042026"));
+        EXPECT_NE(clerk.ScreenName(), QString());
+        clerk.Type(QStringLiteral("%b"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+    EXPECT_FALSE(this->Failure);
+    EXPECT_TRUE(this->TheWindow.Shown.empty());
+}
+
+}
