@@ -1,7 +1,11 @@
 #include "WordPainter.h"
 
+#include <pango/pangocairo.h>
+
 #include <algorithm>
 #include <cstring>
+#include <string_view>
+#include <vector>
 
 namespace {
 
@@ -35,7 +39,30 @@ double WidthOf(const PangoGlyphString& glyphs)
 
 }
 
+class WordPainter::Private {
+public:
+    void Show(cairo_t* cairo, PangoLayout* layout, double x, double y, bool isSqueezed);
+
+private:
+    double ShowRun(cairo_t* cairo, const char* text, PangoGlyphItem* run, double x, double baseline);
+    bool PlaceGlyphs(const PangoGlyphString& glyphs, double x, double baseline);
+    void DivideIntoWords(const PangoGlyphString& glyphs, std::string_view text);
+
+    bool m_isSqueezed = false;
+    std::vector<cairo_glyph_t> m_glyphs; // of one run: those with ink
+    std::vector<cairo_text_cluster_t> m_clusters; // which bytes of its text which glyphs stand for
+};
+
+WordPainter::WordPainter() : m_d(std::make_unique<Private>()) { }
+
+WordPainter::~WordPainter() = default;
+
 void WordPainter::Show(cairo_t* cairo, PangoLayout* layout, double x, double y, bool isSqueezed)
+{
+    m_d->Show(cairo, layout, x, y, isSqueezed);
+}
+
+void WordPainter::Private::Show(cairo_t* cairo, PangoLayout* layout, double x, double y, bool isSqueezed)
 {
     m_isSqueezed = isSqueezed;
     const char* const text = pango_layout_get_text(layout);
@@ -57,7 +84,8 @@ void WordPainter::Show(cairo_t* cairo, PangoLayout* layout, double x, double y, 
 }
 
 // Draws the glyphs of one font; returns how wide they are.
-double WordPainter::ShowRun(cairo_t* cairo, const char* text, PangoGlyphItem* run, double x, double baseline)
+double WordPainter::Private::ShowRun(
+    cairo_t* cairo, const char* text, PangoGlyphItem* run, double x, double baseline)
 {
     const PangoItem& item = *run->item;
     const PangoGlyphString& glyphs = *run->glyphs;
@@ -85,7 +113,7 @@ double WordPainter::ShowRun(cairo_t* cairo, const char* text, PangoGlyphItem* ru
 }
 
 // False if a glyph isn't one of the font: the text engine draws a sign of its own for it.
-bool WordPainter::PlaceGlyphs(const PangoGlyphString& glyphs, double x, double baseline)
+bool WordPainter::Private::PlaceGlyphs(const PangoGlyphString& glyphs, double x, double baseline)
 {
     m_glyphs.clear();
     int at = 0;
@@ -102,7 +130,7 @@ bool WordPainter::PlaceGlyphs(const PangoGlyphString& glyphs, double x, double b
 }
 
 // A word with letters beyond ASCII is one piece; all else goes glyph by glyph.
-void WordPainter::DivideIntoWords(const PangoGlyphString& glyphs, std::string_view text)
+void WordPainter::Private::DivideIntoWords(const PangoGlyphString& glyphs, std::string_view text)
 {
     const auto startOf = [&](int glyph) {
         return glyph < glyphs.num_glyphs ? static_cast<std::size_t>(glyphs.log_clusters[glyph]) : text.size();
