@@ -25,13 +25,14 @@ protected:
         Pay("04/05/2026", 1, 999);
     }
 
-    void Pay(const char* date, int number, double amount)
+    void Pay(const char* date, int number, double amount, const char* from = "01/04/2026",
+        const char* to = "10/04/2026")
     {
         Run(Sql(u"insert into "
                 u"MilkPayments(CompanyId,FromDate,ToDate,PaymentDate,TranId,MemberNo,MemberName,Liters,"
-                u"Amount,Kapat,NetAmount) values(1,'01/04/2026','10/04/2026','",
-            QString::fromLatin1(date), u"',1,", number, u",'k", number, u"',10,", amount, u",0,", amount,
-            u")"));
+                u"Amount,Kapat,NetAmount) values(1,'",
+            QString::fromLatin1(from), u"','", QString::fromLatin1(to), u"','", QString::fromLatin1(date),
+            u"',1,", number, u",'k", number, u"',10,", amount, u",0,", amount, u")"));
     }
 
     QStringList Listed(const char* keys)
@@ -126,6 +127,21 @@ TEST_F(PaymentListTest, TheFormulaSelectsThePaymentsOfItsDay)
 {
     EXPECT_TRUE(Listed("04052026{ENTER}%i").contains(QStringLiteral("999.00")));
     EXPECT_TRUE(Listed("10102026{ENTER}%i").contains(QStringLiteral("या दिवशी रोख पेमेंट नाही.")));
+}
+
+TEST_F(PaymentListTest, ThePeriodOfTheHeadSpansThoseOfAllItsRowsAndOfNoOthers)
+{
+    const auto period = [this](const char* keys) {
+        return Listed(keys).filter(QStringLiteral("कालावधी")).join(u'|').toStdString();
+    };
+    EXPECT_EQ(period("05042026{ENTER}%i"), "कालावधी 01/04/2026 ते 10/04/2026");
+    Pay("05/04/2026", 2, 10, "11/04/2026", "20/04/2026");
+    Pay("05/04/2026", 1, 10, "21/03/2026", "31/03/2026");
+    Pay("05/04/2026", 4, 10, "01/02/2026", "02/05/2026");
+    Pay("06/04/2026", 1, 10, "01/01/2026", "31/12/2026");
+    EXPECT_EQ(period("05042026{ENTER}%i"), "कालावधी 21/03/2026 ते 20/04/2026");
+    EXPECT_EQ(period("05042026{ENTER}{DOWN}%i"), "कालावधी 01/02/2026 ते 02/05/2026");
+    EXPECT_EQ(period("10102026{ENTER}%i"), "") << "nothing was paid then";
 }
 
 TEST_F(PaymentListTest, CashIsChosenAtFirstAndADateThatIsNoneTakesTheFocusBack)

@@ -29,6 +29,7 @@ public:
         for (std::size_t i = 0; i < element.lanes.size(); ++i) {
             const Stretch own{static_cast<float>(x), static_cast<float>(widths[i])};
             AddLane(MakeFlow(element.lanes[i].elements, maker, own));
+            m_band.holdsRows = m_band.holdsRows || HoldsRows(element.lanes[i]);
             x += widths[i] + gap;
         }
     }
@@ -43,6 +44,13 @@ public:
     }
 
 private:
+    static bool HoldsRows(const TemplateLane& lane)
+    {
+        return std::any_of(lane.elements.begin(), lane.elements.end(), [](const TemplateElement& element) {
+            return element.kind == ElementKind::Table || element.kind == ElementKind::Each;
+        });
+    }
+
     void AddLane(const std::unique_ptr<BandStream>& flow)
     {
         std::vector<Band>& lane = m_band.lanes.emplace_back();
@@ -66,6 +74,7 @@ public:
         , m_maker(maker)
         , m_stretch(stretch)
         , m_walk(maker.Data, element.source)
+        , m_depth(maker.Records.DepthOf(element))
     {
     }
 
@@ -83,6 +92,8 @@ public:
                 Record(band);
                 return true;
             }
+            if (m_children && RecordAlone(band))
+                return true;
             if (!Advance())
                 return false;
         }
@@ -100,6 +111,7 @@ private:
         } while (!m_maker.Holds(m_element.condition));
         m_children = MakeFlow(m_element.children, m_maker, m_stretch);
         m_waitsForRecord = m_maker.Records.each == &m_element;
+        m_countBefore = m_maker.RecordCount;
         if (m_element.keep || m_element.newPage)
             Collect();
         return true;
@@ -109,7 +121,23 @@ private:
     void Record(Band& band)
     {
         if (std::exchange(m_waitsForRecord, false))
-            band.record = FieldsAround(m_maker.Records, m_maker.Data);
+            MakeRecord(band);
+    }
+
+    // A row of which nothing went into the spreadsheet by now, such as one without rows inside, stands there
+    // by itself. It is laid out to its end when this is asked.
+    bool RecordAlone(Band& band)
+    {
+        if (m_depth == 0 || m_maker.RecordCount != m_countBefore)
+            return false;
+        MakeRecord(band);
+        return true;
+    }
+
+    void MakeRecord(Band& band)
+    {
+        band.record = FieldsAround(m_maker.Records, m_depth, m_maker.Data);
+        m_maker.RecordCount += 1;
     }
 
     // All strips of a row that stay together.
@@ -120,10 +148,12 @@ private:
             band.keepWithNext = band.keepWithNext || m_element.keep;
             m_kept.push_back(std::move(band));
         }
-        if (m_kept.empty())
-            return;
-        m_kept.back().keepWithNext = false;
-        m_kept.front().newPage = m_element.newPage;
+        if (!m_kept.empty()) {
+            m_kept.back().keepWithNext = false;
+            m_kept.front().newPage = m_element.newPage;
+        }
+        if (Band alone; RecordAlone(alone))
+            m_kept.push_back(std::move(alone));
     }
 
     const TemplateElement& m_element;
@@ -131,6 +161,8 @@ private:
     Stretch m_stretch;
     RowWalk m_walk;
     Row m_row;
+    std::size_t m_depth; // among the parts whose rows go into the spreadsheet, from 1; 0: it is none of them
+    int m_countBefore = 0; // of the records, when the row began
     bool m_waitsForRecord = false;
     std::unique_ptr<BandStream> m_children;
     std::deque<Band> m_kept;

@@ -17,7 +17,12 @@ struct Band {
     bool newPage = false; // begins a page
     std::shared_ptr<const Band> repeated; // stands above it when it begins a page: the heads of its table
     std::vector<std::vector<Band>> lanes; // instead of items: strips side by side
+    bool holdsRows = false; // of lanes: tables or parts that come once a row stand in them
+    bool isPicture = false; // is never split; made lower where a page has too little room for it
     QStringList record; // of a row that goes into a spreadsheet: its fields
+
+    // Nothing is seen of it: it only carries a record.
+    bool IsUnseen() const { return items.empty() && lanes.empty() && height <= 0; }
 };
 
 // Where an element stands on the paper, in points.
@@ -46,6 +51,7 @@ public:
     TextMeasure& Measure;
     FontTable& Fonts;
     RecordPlan Records; // which rows are kept for a spreadsheet
+    int RecordCount = 0; // of those that have been made
 
 private:
     void MakePairs(const TemplateElement& element, Stretch stretch, std::deque<Band>& bands);

@@ -189,9 +189,10 @@ private:
             std::max<qsizetype>(1, static_cast<qsizetype>(std::ceil(Room::ChartLabel / room)));
         if (index % every != 0)
             return;
-        const double shown = room * static_cast<double>(every);
-        AddText(m_figures.labels[index], MiddleOf(index) - shown / 2, m_plot.bottom() + Room::ChartGap, shown,
-            Align::Center);
+        const double left = MiddleOf(index) - room * static_cast<double>(every) / 2;
+        const double shown = std::min(room * static_cast<double>(every), m_plot.right() - left);
+        if (shown >= std::min(room, Room::ChartLabel))
+            AddText(m_figures.labels[index], left, m_plot.bottom() + Room::ChartGap, shown, Align::Center);
     }
 
     void DrawBars(std::size_t series)
@@ -256,6 +257,7 @@ private:
 Band MakeChart(const TemplateElement& element, BandMaker& maker, Stretch stretch)
 {
     Band band;
+    band.isPicture = true;
     ChartDrawer(element, maker, stretch, band).Draw();
     return band;
 }

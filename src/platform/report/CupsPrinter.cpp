@@ -5,10 +5,47 @@
 
 namespace {
 
+// A connection to the machine's print service. A service that is too slow to answer is given up, once and for
+// all, so that the clerk isn't kept waiting.
+class Service {
+public:
+    explicit Service(std::chrono::milliseconds patience)
+        : m_http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+            static_cast<int>(patience.count()), nullptr))
+    {
+        if (!m_http)
+            return;
+        httpSetTimeout(m_http, std::chrono::duration<double>(patience).count(), GiveUp, this);
+        Greet();
+    }
+    ~Service() { httpClose(m_http); }
+    Service(const Service&) = delete;
+    Service& operator=(const Service&) = delete;
+
+    // Whether it can still be asked.
+    bool IsThere() const { return m_http && !m_hasGivenUp; }
+    bool HasGivenUp() const { return m_hasGivenUp; }
+    http_t* Http() const { return m_http; }
+
+private:
+    // Handing over a job asks some questions on connections that have no limit: a service that is silent is
+    // to be known before.
+    void Greet() { ippDelete(cupsDoRequest(m_http, ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/")); }
+
+    static int GiveUp(http_t* /*connection*/, void* service)
+    {
+        static_cast<Service*>(service)->m_hasGivenUp = true;
+        return 0;
+    }
+
+    http_t* m_http;
+    bool m_hasGivenUp = false;
+};
+
 // The printers that the print service knows; freed in the end.
 class Destinations {
 public:
-    Destinations() : m_count(cupsGetDests2(CUPS_HTTP_DEFAULT, &m_all)) { }
+    explicit Destinations(const Service& service) : m_count(cupsGetDests2(service.Http(), &m_all)) { }
     ~Destinations() { cupsFreeDests(m_count, m_all); }
     Destinations(const Destinations&) = delete;
     Destinations& operator=(const Destinations&) = delete;
@@ -47,45 +84,74 @@ private:
 };
 
 // The machine's own choice; empty if it has made none.
-QString DefaultPrinter()
+QString DefaultPrinter(const Service& service)
 {
-    return QString::fromUtf8(cupsGetDefault2(CUPS_HTTP_DEFAULT));
+    return service.IsThere() ? QString::fromUtf8(cupsGetDefault2(service.Http())) : QString();
+}
+
+QStringList NamesOf(const Service& service)
+{
+    const QString own = DefaultPrinter(service);
+    QStringList names = service.IsThere() ? Destinations(service).Names() : QStringList();
+    if (const qsizetype at = names.indexOf(own); at > 0)
+        names.move(at, 0);
+    return names;
+}
+
+Outcome NoAnswer()
+{
+    return {QStringLiteral("प्रिंटर सेवेने उत्तर दिले नाही. छपाई झाली नाही; नोंदी सुरक्षित आहेत.\n"
+                           "The print service doesn't answer.")};
+}
+
+Outcome Refused(const QString& printer, const QString& why)
+{
+    return {QStringLiteral("प्रिंटरने काम घेतले नाही. छपाई झाली नाही; नोंदी सुरक्षित आहेत.\n"
+                           "The printer %1 refused: %2")
+                .arg(printer, why)};
 }
 
 class CupsPrinter final : public Printer {
 public:
-    QStringList Names() override
-    {
-        QStringList names = Destinations().Names();
-        if (const qsizetype own = names.indexOf(DefaultPrinter()); own > 0)
-            names.move(own, 0);
-        return names;
-    }
+    explicit CupsPrinter(std::chrono::milliseconds patience) : m_patience(patience) { }
+
+    QStringList Names() override { return NamesOf(Service(m_patience)); }
 
     Outcome Print(const PrintJob& job) override
     {
-        QString printer = job.printer.isEmpty() ? DefaultPrinter() : job.printer;
+        const Service service(m_patience);
+        QString printer = job.printer.isEmpty() ? DefaultPrinter(service) : job.printer;
         if (printer.isEmpty())
-            printer = Names().value(0); // asks for all of them, which takes a while
+            printer = NamesOf(service).value(0); // asks for all of them, which takes a while
+        if (service.HasGivenUp())
+            return NoAnswer();
         if (printer.isEmpty())
             return {QStringLiteral("प्रिंटर मिळाला नाही. छपाई झाली नाही; नोंदी सुरक्षित आहेत.\n"
                                    "There is no printer.")};
+        if (!service.IsThere())
+            return Refused(printer, QStringLiteral("there is no print service."));
+        return Hand(job, printer, service);
+    }
+
+private:
+    static Outcome Hand(const PrintJob& job, const QString& printer, const Service& service)
+    {
         Options options;
         options.Add("media", MediaName(job.paper));
         options.Add("print-scaling", QStringLiteral("none"));
-        const int number = cupsPrintFile2(CUPS_HTTP_DEFAULT, printer.toUtf8().constData(),
+        const int number = cupsPrintFile2(service.Http(), printer.toUtf8().constData(),
             job.file.toUtf8().constData(), job.title.toUtf8().constData(), options.Count(), options.All());
         if (number != 0)
             return {};
-        return {QStringLiteral("प्रिंटरने काम घेतले नाही. छपाई झाली नाही; नोंदी सुरक्षित आहेत.\n"
-                               "The printer %1 refused: %2")
-                    .arg(printer, QString::fromUtf8(cupsLastErrorString()))};
+        return service.HasGivenUp() ? NoAnswer() : Refused(printer, QString::fromUtf8(cupsLastErrorString()));
     }
+
+    std::chrono::milliseconds m_patience;
 };
 
 }
 
-std::unique_ptr<Printer> MakeSystemPrinter()
+std::unique_ptr<Printer> MakeSystemPrinter(std::chrono::milliseconds patience)
 {
-    return std::make_unique<CupsPrinter>();
+    return std::make_unique<CupsPrinter>(patience);
 }

@@ -166,6 +166,7 @@ bool PagePainter::WritePdf(QIODevice& device, const QString& title, std::size_t 
 {
     const Surface surface(cairo_pdf_surface_create_for_stream(WriteTo, &device, 1, 1));
     cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_TITLE, title.toUtf8().constData());
+    bool isDrawn = true;
     {
         const Cairo cairo(cairo_create(surface.get()));
         for (std::size_t i = 0; i < pages; ++i) {
@@ -174,7 +175,8 @@ bool PagePainter::WritePdf(QIODevice& device, const QString& title, std::size_t 
             m_d->Draw(cairo.get(), sheet);
             cairo_show_page(cairo.get());
         }
+        isDrawn = cairo_status(cairo.get()) == CAIRO_STATUS_SUCCESS;
     }
     cairo_surface_finish(surface.get());
-    return cairo_surface_status(surface.get()) == CAIRO_STATUS_SUCCESS;
+    return isDrawn && cairo_surface_status(surface.get()) == CAIRO_STATUS_SUCCESS;
 }

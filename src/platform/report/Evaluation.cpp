@@ -84,7 +84,8 @@ bool IsNumber(const Expression& expression, const ReportTemplate& report)
         return true;
     case Operation::Field: {
         const TemplateSource& source = report.sources[static_cast<std::size_t>(expression.source)];
-        return source.columns[static_cast<std::size_t>(expression.column)].type == ValueType::Number;
+        const ValueType type = source.columns[static_cast<std::size_t>(expression.column)].type;
+        return type == ValueType::Number || type == ValueType::Unknown;
     }
     case Operation::If:
         return IsNumber(expression.arguments[1], report) || IsNumber(expression.arguments[2], report);

@@ -60,7 +60,10 @@ struct ExpressionFault {
     QString text;
 };
 
-// Reads an expression. Returns nothing, and sets the fault, if it can't be read.
+// In characters; each sign in it can be a level of its tree.
+inline constexpr int LongestExpression = 2000;
+
+// Reads an expression. Returns nothing, and sets the fault, if it can't be read or is too long.
 //   field, source.field, 'text', 12.5, #page, #pages, $society $year $from $to
 //   + - * /   = <> < > <= >=   and or not   ( )
 //   if(condition, then, else)  abs(x)  plain(field)

@@ -25,6 +25,11 @@ bool CanBeNumber(ValueType type)
     return type == ValueType::Number || type == ValueType::Text || type == ValueType::Unknown;
 }
 
+bool IsExtreme(AggregateKind kind)
+{
+    return kind == AggregateKind::Minimum || kind == AggregateKind::Maximum;
+}
+
 // A number that a text holds is written in Western digits; the text must not be read as Marathi.
 void ReadAsStored(Expression& expression, ValueType type)
 {
@@ -75,12 +80,14 @@ int ExpressionBinder::FindColumn(int source, const QString& name)
         if (from.columns[i].name.compare(name, Qt::CaseInsensitive) == 0)
             return static_cast<int>(i);
     }
-    SourceColumn column{name, ValueType::Unknown};
+    SourceColumn column;
+    column.name = name;
     if (const std::shared_ptr<const Table> table = m_catalogue.Find(from.table)) {
         const Column* found = table->Find(name);
         if (!found)
             return -1;
-        column = {found->name, TypeOf(found->type)};
+        column.name = found->name;
+        column.type = TypeOf(found->type);
     }
     from.columns.push_back(column);
     return static_cast<int>(from.columns.size()) - 1;
@@ -95,7 +102,22 @@ void ExpressionBinder::BindText(TemplateText& text, const Place& place)
         CheckPiece(piece, type, place);
         if (piece.formatKind == FormatKind::Number)
             ReadAsStored(*piece.expression, type);
+        NotePrinting(*piece.expression);
     }
+}
+
+// A text is printed as it is stored or as the eye sees it; both can be, in two places.
+void ExpressionBinder::NotePrinting(const Expression& expression)
+{
+    if (expression.operation == Operation::If) {
+        NotePrinting(expression.arguments[1]);
+        NotePrinting(expression.arguments[2]);
+    }
+    if (expression.operation != Operation::Field || expression.source < 0)
+        return;
+    TemplateSource& source = m_report.sources[static_cast<std::size_t>(expression.source)];
+    SourceColumn& column = source.columns[static_cast<std::size_t>(expression.column)];
+    (expression.isPlain ? column.isPrintedPlain : column.isPrintedSeen) = true;
 }
 
 void ExpressionBinder::CheckPiece(const TextPiece& piece, ValueType type, const Place& place)
@@ -174,6 +196,15 @@ void ExpressionBinder::Walk(int source)
 {
     Walked.push_back(source);
     Use.walked.insert(source);
+}
+
+void ExpressionBinder::RequireParent(int source, int line)
+{
+    const TemplateSource& own = m_report.sources[static_cast<std::size_t>(source)];
+    if (own.parent >= 0 && std::find(Walked.begin(), Walked.end(), own.parent) == Walked.end())
+        Fault(line,
+            QStringLiteral("\"%1\" can only be walked within an <each> of \"%2\"")
+                .arg(own.name, own.parentName));
 }
 
 void ExpressionBinder::NoteReading(int source)
@@ -305,22 +336,29 @@ ValueType ExpressionBinder::BindAggregate(Expression& expression, const Place& p
         expression.source = SourceOf(expression, place.line);
         if (expression.source < 0)
             return type;
+        RequireParent(expression.source, place.line);
         Walk(expression.source);
     }
     for (Expression& argument : expression.arguments) {
         type = Bind(argument, inside);
-        const bool isOrdered =
-            expression.aggregate == AggregateKind::Minimum || expression.aggregate == AggregateKind::Maximum;
-        if (!CanBeNumber(type) && expression.aggregate != AggregateKind::Count
-            && !(isOrdered && type == ValueType::Date))
-            Fault(place.line, QStringLiteral("a total needs numbers"));
+        CheckTotalled(expression.aggregate, type, place.line);
         ReadAsStored(argument, type);
     }
     if (isOfTable)
         BindToTable(expression, place);
     else
         Walked.pop_back();
-    return type == ValueType::Date && expression.aggregate != AggregateKind::Count ? type : ValueType::Number;
+    return IsExtreme(expression.aggregate) ? type : ValueType::Number;
+}
+
+void ExpressionBinder::CheckTotalled(AggregateKind kind, ValueType type, int line)
+{
+    if (IsExtreme(kind)) {
+        if (type == ValueType::Text || type == ValueType::Truth)
+            Fault(line, QStringLiteral("min and max need numbers or dates"));
+    } else if (kind != AggregateKind::Count && !CanBeNumber(type)) {
+        Fault(line, QStringLiteral("a total needs numbers"));
+    }
 }
 
 void ExpressionBinder::BindToTable(Expression& expression, const Place& place)

@@ -34,6 +34,9 @@ public:
     // The sources whose rows are being walked through, the innermost last.
     std::vector<int> Walked;
 
+    // Tells of a source that hangs on another whose rows aren't being walked through.
+    void RequireParent(int source, int line);
+
     // Begins to walk through a source; it is noted as walked somewhere in the template.
     void Walk(int source);
 
@@ -49,9 +52,11 @@ private:
     ValueType BindIf(Expression& expression, const Place& place);
     ValueType BindPage(const Expression& expression, const Place& place);
     ValueType BindAggregate(Expression& expression, const Place& place);
+    void CheckTotalled(AggregateKind kind, ValueType type, int line);
     void BindToTable(Expression& expression, const Place& place);
     bool IsAllowed(const Expression& aggregate, const Place& place);
     int SourceOf(const Expression& expression, int line);
+    void NotePrinting(const Expression& expression);
     void CheckPiece(const TextPiece& piece, ValueType type, const Place& place);
 
     ReportTemplate& m_report;

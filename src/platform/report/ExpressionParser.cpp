@@ -376,6 +376,10 @@ Expression Parser::ReadAggregate(AggregateKind kind)
 
 std::optional<Expression> ReadExpression(QStringView text, ExpressionFault& fault)
 {
+    if (text.size() > LongestExpression) {
+        fault.text = QStringLiteral("it is longer than %1 characters").arg(LongestExpression);
+        return std::nullopt;
+    }
     try {
         return Parser(text).ReadAll();
     } catch (const ExpressionFault& found) {

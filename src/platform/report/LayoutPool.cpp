@@ -1,35 +1,14 @@
 #include "LayoutPool.h"
 
+#include "FontMap.h"
+
 #include <pango/pangocairo.h>
 
 #include <algorithm>
 
-namespace {
-
-// The fonts of the machine, found once a process; the engine's own map of them is never given back.
-class FontMap {
-public:
-    FontMap(const FontMap&) = delete;
-    FontMap& operator=(const FontMap&) = delete;
-
-    static PangoFontMap* Current()
-    {
-        static const FontMap map;
-        return map.m_map;
-    }
-
-private:
-    FontMap() : m_map(pango_cairo_font_map_new()) { }
-    ~FontMap() { g_object_unref(m_map); }
-
-    PangoFontMap* m_map;
-};
-
-}
-
-LayoutPool::LayoutPool()
+LayoutPool::LayoutPool() : m_fonts(FontMap::Current())
 {
-    m_context = pango_font_map_create_context(FontMap::Current());
+    m_context = pango_font_map_create_context(m_fonts->Get());
     cairo_font_options_t* const options = cairo_font_options_create();
     cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
     cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);

@@ -4,9 +4,11 @@
 
 #include <QStringView>
 
+#include <memory>
 #include <utility>
 #include <vector>
 
+class FontMap;
 using PangoLayout = struct _PangoLayout;
 using PangoContext = struct _PangoContext;
 
@@ -39,6 +41,7 @@ private:
     using Layouts = std::vector<std::pair<FontSpec, PangoLayout*>>;
     PangoLayout* Find(Layouts& layouts, const FontSpec& font, bool wraps);
 
+    const std::shared_ptr<FontMap> m_fonts;
     PangoContext* m_context;
     std::vector<std::pair<FontSpec, int>> m_baselines;
     Layouts m_single, m_wrapping;

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
 #include <memory>
 
 // How a task that the machine can refuse has ended. Nothing of the books hangs on it.
@@ -32,5 +33,6 @@ public:
     virtual Outcome Print(const PrintJob& job) = 0;
 };
 
-// The printers of the system's print service.
-std::unique_ptr<Printer> MakeSystemPrinter();
+// The printers of the system's print service. One that doesn't answer a question in time is given up, and the
+// clerk is told.
+std::unique_ptr<Printer> MakeSystemPrinter(std::chrono::milliseconds patience = std::chrono::seconds(5));

@@ -16,7 +16,7 @@ bool FindTable(const Elements& elements, RecordPlan& plan)
             return true;
         }
         if (element.kind == ElementKind::Each) {
-            plan.around.push_back(element.source);
+            plan.around.push_back(&element);
             if (FindTable(element.children, plan))
                 return true;
             plan.around.pop_back();
@@ -33,7 +33,7 @@ bool FindEach(const Elements& elements, RecordPlan& plan)
 {
     for (const TemplateElement& element : elements) {
         if (element.kind == ElementKind::Each) {
-            plan.around.push_back(element.source);
+            plan.around.push_back(&element);
             plan.each = &element;
             FindEach(element.children, plan);
             return true;
@@ -76,18 +76,24 @@ RecordPlan RecordPlan::Of(const std::vector<TemplateElement>& body)
 QStringList RecordHeads(const RecordPlan& plan, ReportData& data)
 {
     QStringList heads;
-    for (const int source : plan.around)
-        heads += FieldNames(source, data);
+    for (const TemplateElement* part : plan.around)
+        heads += FieldNames(part->source, data);
     if (plan.table)
         heads += TableHeads(*plan.table, data);
     return heads;
 }
 
-QStringList FieldsAround(const RecordPlan& plan, ReportData& data)
+std::size_t RecordPlan::DepthOf(const TemplateElement& part) const
+{
+    const auto found = std::find(around.begin(), around.end(), &part);
+    return found == around.end() ? 0 : static_cast<std::size_t>(found - around.begin()) + 1;
+}
+
+QStringList FieldsAround(const RecordPlan& plan, std::size_t parts, ReportData& data)
 {
     QStringList fields;
-    for (const int source : plan.around)
-        fields += Fields(source, data);
+    for (std::size_t i = 0; i < parts; ++i)
+        fields += Fields(plan.around[i]->source, data);
     return fields;
 }
 
@@ -102,9 +108,13 @@ QStringList FieldNames(int source, const ReportData& data)
 QStringList Fields(int source, ReportData& data)
 {
     QStringList fields;
-    if (const Row* const row = data.CurrentRow(source)) {
-        for (const Value& value : *row)
-            fields.append(value.kind == Value::Kind::Text ? data.Seen(value.text) : value.Text());
+    const Row* const row = data.CurrentRow(source);
+    const TemplateSource& from = data.Template().sources[static_cast<std::size_t>(source)];
+    for (std::size_t i = 0; row && i < row->size(); ++i) {
+        const SourceColumn& column = from.columns[i];
+        const bool isSeen = column.isPrintedSeen || !column.isPrintedPlain;
+        const Value& value = (*row)[i];
+        fields.append(value.kind == Value::Kind::Text && isSeen ? data.Seen(value.text) : value.Text());
     }
     return fields;
 }

@@ -7,7 +7,11 @@
 struct RecordPlan {
     const TemplateTable* table = nullptr;
     const TemplateElement* each = nullptr; // only without a table
-    std::vector<int> around; // the sources of the parts that it stands in, and of `each`, the outermost first
+    std::vector<const TemplateElement*>
+        around; // the parts that it stands in, and `each`, the outermost first
+
+    // Where a part stands among these, from 1; 0 if it is none of them.
+    std::size_t DepthOf(const TemplateElement& part) const;
 
     static RecordPlan Of(const std::vector<TemplateElement>& body);
 };
@@ -16,9 +20,11 @@ struct RecordPlan {
 // columns that hold anything, each under the words that stand above it.
 QStringList RecordHeads(const RecordPlan& plan, ReportData& data);
 
-// The fields of the rows around that are current now, in the order of the heads.
-QStringList FieldsAround(const RecordPlan& plan, ReportData& data);
+// The fields of the rows around that are current now, in the order of the heads: those of so many parts, the
+// outermost first.
+QStringList FieldsAround(const RecordPlan& plan, std::size_t parts, ReportData& data);
 
-// The columns that a template reads of a source, and what they hold in its current row, as the eye sees it.
+// The columns that a template reads of a source, and what they hold in its current row, as it stands on
+// paper.
 QStringList FieldNames(int source, const ReportData& data);
 QStringList Fields(int source, ReportData& data);

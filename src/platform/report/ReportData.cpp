@@ -34,6 +34,13 @@ int FindSelected(const ReportTemplate& report, const Selection& selection)
     return static_cast<int>(found - report.sources.begin());
 }
 
+// A column whose declaration says nothing comes with what is stored there, as the database tells it.
+ValueType TypeOfStored(const FieldValue& told)
+{
+    const QString type = told.Text();
+    return type == u"integer" || type == u"real" ? ValueType::Number : ValueType::Text;
+}
+
 Value ToValue(const FieldValue& field, ValueType type)
 {
     if (field.IsNull())
@@ -68,6 +75,10 @@ QString ReportData::Query(const TemplateSource& source) const
     QStringList columns;
     for (const SourceColumn& column : source.columns)
         columns.append(column.name);
+    for (const SourceColumn& column : source.columns) {
+        if (column.type == ValueType::Unknown)
+            columns.append(QStringLiteral("typeof(") + column.name + QStringLiteral(")"));
+    }
     QString query = QStringLiteral("select ")
         + (columns.isEmpty() ? QStringLiteral("*") : columns.join(QStringLiteral(",")))
         + QStringLiteral(" from ") + source.table;
@@ -87,8 +98,12 @@ void ReportData::ReadRow(int source, const Recordset& rows, Row& row) const
 {
     const std::vector<SourceColumn>& columns = m_report.sources[static_cast<std::size_t>(source)].columns;
     row.resize(columns.size());
-    for (std::size_t i = 0; i < columns.size(); ++i)
-        row[i] = ToValue(rows.At(static_cast<int>(i)), columns[i].type);
+    int told = static_cast<int>(columns.size());
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const bool isUnknown = columns[i].type == ValueType::Unknown;
+        const ValueType type = isUnknown ? TypeOfStored(rows.At(told++)) : columns[i].type;
+        row[i] = ToValue(rows.At(static_cast<int>(i)), type);
+    }
 }
 
 bool ReportData::Passes(int source, const Row& row)

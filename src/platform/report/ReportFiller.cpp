@@ -5,6 +5,7 @@
 #include "RunTimeError.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -17,6 +18,63 @@ float HeightOf(const std::vector<Band>& bands)
     for (const Band& band : bands)
         height += band.height;
     return height;
+}
+
+bool HasContent(const Band& band)
+{
+    return !band.items.empty()
+        || std::any_of(band.lanes.begin(), band.lanes.end(), [](const auto& lane) { return !lane.empty(); });
+}
+
+float HeightAtTop(const Band& band)
+{
+    return band.repeated ? band.repeated->height : 0;
+}
+
+// How many strips at the front of a lane stay together.
+template <typename Lane> std::size_t ChainIn(const Lane& lane)
+{
+    std::size_t length = 1;
+    while (length < lane.size() && lane[length - 1].keepWithNext)
+        ++length;
+    return length;
+}
+
+// The height with which a lane begins: the strips that stay together, or the first of them if together they
+// fill more than a page.
+template <typename Lane> float FirstPiece(const Lane& lane, float page)
+{
+    float height = 0;
+    for (std::size_t i = 0; i < ChainIn(lane); ++i)
+        height += lane[i].height;
+    return height + HeightAtTop(lane.front()) > page ? lane.front().height : height;
+}
+
+// The room with which a strip can begin, if it may go on over the page.
+float LeastHeight(const Band& band, float page)
+{
+    if (band.lanes.empty())
+        return band.height;
+    float height = 0;
+    for (const std::vector<Band>& lane : band.lanes)
+        height = std::max(height, lane.empty() ? 0 : FirstPiece(lane, page));
+    return height;
+}
+
+// Makes a picture stand in a height: its strokes lie closer, its texts keep their size.
+void Lower(Band& picture, float room)
+{
+    const float share = room / picture.height;
+    for (PlacedItem& item : picture.items) {
+        if (item.kind == PlacedItem::Kind::Text) {
+            const float middle = (item.y + item.height / 2) * share;
+            item.y = std::clamp(middle - item.height / 2, 0.0F, std::max(0.0F, room - item.height));
+        } else {
+            item.y *= share;
+            item.height *= share;
+        }
+    }
+    picture.height = room;
 }
 
 }
@@ -130,7 +188,7 @@ std::size_t ReportFiller::ChainLength()
 {
     std::size_t length = 1;
     float height = m_waiting.front().height;
-    while (m_waiting[length - 1].keepWithNext && height < m_report.paper.BodyHeight()) {
+    while (m_waiting[length - 1].keepWithNext && height < PageHeight()) {
         if (length == m_waiting.size()) {
             Band band;
             if (m_hasEnded || !m_flow->Next(band)) {
@@ -147,9 +205,21 @@ std::size_t ReportFiller::ChainLength()
     return length;
 }
 
-float ReportFiller::HeightAtTop(const Band& band) const
+float ReportFiller::PageHeight() const
 {
-    return band.repeated ? band.repeated->height : 0;
+    return static_cast<float>(m_report.paper.BodyHeight());
+}
+
+// What the strips that stay together take up. Blocks side by side that stand at their end may go on over the
+// page: those with rows in them, and those that no page can hold.
+float ReportFiller::ChainHeight(std::size_t length) const
+{
+    float height = 0;
+    for (std::size_t i = 0; i + 1 < length; ++i)
+        height += m_waiting[i].height;
+    const Band& last = m_waiting[length - 1];
+    const bool goesOn = last.holdsRows || last.height > PageHeight();
+    return height + (goesOn ? LeastHeight(last, PageHeight()) : last.height);
 }
 
 // Places the strips that stay together. False when the page is full or the report has ended.
@@ -160,14 +230,12 @@ bool ReportFiller::PlaceChain(Sheet& sheet)
     if (std::exchange(m_waiting.front().newPage, false) && !sheet.isEmpty)
         return false;
     const std::size_t length = ChainLength();
-    float height = 0;
-    for (std::size_t i = 0; i < length; ++i)
-        height += m_waiting[i].height;
+    const float height = ChainHeight(length);
     if (!sheet.isEmpty && sheet.y + height > sheet.end + Tolerance) {
         // What fills more than a page by itself begins where it is, if it can begin there at all.
-        const float page = static_cast<float>(m_report.paper.BodyHeight());
-        const bool isHopeless = height + HeightAtTop(m_waiting.front()) > page;
-        if (!isHopeless || sheet.y + m_waiting.front().height > sheet.end + Tolerance)
+        const Band& front = m_waiting.front();
+        const bool isHopeless = height + HeightAtTop(front) > PageHeight();
+        if (!isHopeless || sheet.y + LeastHeight(front, PageHeight()) > sheet.end + Tolerance)
             return false;
     }
     for (std::size_t i = 0; i < length; ++i) {
@@ -180,20 +248,26 @@ bool ReportFiller::PlaceChain(Sheet& sheet)
 // Places the first waiting strip; false if it, or a part of it, has to go on to the next page.
 bool ReportFiller::PlaceNext(Sheet& sheet)
 {
-    const bool fits = sheet.y + m_waiting.front().height <= sheet.end + Tolerance;
-    if (!fits && !m_waiting.front().lanes.empty()) {
-        for (std::vector<Band>& lane : m_waiting.front().lanes)
+    Band& front = m_waiting.front();
+    if (front.IsUnseen()) {
+        Record(front.record);
+        m_waiting.pop_front();
+        return true;
+    }
+    const bool fits = sheet.y + front.height <= sheet.end + Tolerance;
+    if (!fits && !front.lanes.empty()) {
+        for (std::vector<Band>& lane : front.lanes)
             m_lanes.emplace_back(std::make_move_iterator(lane.begin()), std::make_move_iterator(lane.end()));
-        Record(m_waiting.front().record);
+        Record(front.record);
         m_waiting.pop_front();
         return ContinueLanes(sheet);
     }
     if (sheet.isEmpty)
-        AddRepeated(sheet, m_waiting.front());
-    if (sheet.y + m_waiting.front().height > sheet.end + Tolerance) {
+        sheet.y = AddRepeated(sheet, front, sheet.y);
+    if (sheet.y + front.height > sheet.end + Tolerance) {
         if (!sheet.isEmpty)
             return false;
-        SplitFront(m_waiting, sheet.end - sheet.y);
+        FitFront(m_waiting, sheet.end - sheet.y);
     }
     Band band = std::move(m_waiting.front());
     m_waiting.pop_front();
@@ -202,13 +276,15 @@ bool ReportFiller::PlaceNext(Sheet& sheet)
     return true;
 }
 
-void ReportFiller::AddRepeated(Sheet& sheet, const Band& band)
+// Puts down what stands above a strip that begins a page, if it leaves room; returns where the strip goes.
+float ReportFiller::AddRepeated(Sheet& sheet, const Band& band, float y)
 {
-    if (!band.repeated)
-        return;
+    if (!band.repeated || y + band.repeated->height >= sheet.end)
+        return y;
     Band head = *band.repeated;
-    if (sheet.y + head.height < sheet.end)
-        Place(sheet, head);
+    float height = 0;
+    Put(sheet, head, y, height);
+    return y + height;
 }
 
 void ReportFiller::Place(Sheet& sheet, Band& band)
@@ -239,8 +315,12 @@ void ReportFiller::Put(Sheet& sheet, Band& band, float y, float& height)
 
 void ReportFiller::Record(const QStringList& record)
 {
-    if (!record.isEmpty())
-        m_records.push_back(record);
+    if (record.isEmpty())
+        return;
+    QStringList whole = record;
+    while (whole.size() < m_records.front().size())
+        whole.append(QString());
+    m_records.push_back(whole);
 }
 
 // Goes on with strips side by side; true when nothing of them is left.
@@ -262,22 +342,22 @@ bool ReportFiller::ContinueLanes(Sheet& sheet)
 
 bool ReportFiller::FillLane(Sheet& sheet, std::deque<Band>& lane, float top, float& bottom)
 {
-    float y = top;
-    const bool isTop = sheet.isEmpty;
-    if (isTop && !lane.empty() && lane.front().repeated) {
-        Band head = *lane.front().repeated;
-        float height = 0;
-        Put(sheet, head, y, height);
-        y += height;
-    }
-    bool isFirst = true;
+    bool isFirst = sheet.isEmpty;
+    float y = isFirst && !lane.empty() ? AddRepeated(sheet, lane.front(), top) : top;
+    std::size_t chain = 0; // strips at the front that stay together and have begun
     while (!lane.empty()) {
-        if (y + lane.front().height > sheet.end + Tolerance) {
-            if (!isTop || !isFirst)
+        if (chain == 0) {
+            chain = ChainIn(lane);
+            if (!isFirst && y + FirstPiece(lane, PageHeight()) > sheet.end + Tolerance)
                 break;
-            SplitFront(lane, sheet.end - y);
         }
-        isFirst = false;
+        if (y + lane.front().height > sheet.end + Tolerance) {
+            if (!isFirst)
+                break;
+            FitFront(lane, sheet.end - y);
+        }
+        isFirst = isFirst && lane.front().IsUnseen();
+        --chain;
         float height = 0;
         Put(sheet, lane.front(), y, height);
         y += height;
@@ -287,43 +367,77 @@ bool ReportFiller::FillLane(Sheet& sheet, std::deque<Band>& lane, float top, flo
     return lane.empty();
 }
 
-// Cuts the first strip, which is taller than a whole page, into one that has room and the rest of it: texts
-// between two of their lines, everything else goes to the side where it begins.
-void ReportFiller::SplitFront(std::deque<Band>& bands, float room)
+// Makes the first strip, which is taller than the room of a whole page, stand in it: a picture is made lower,
+// anything else is cut into what has room and the rest of it.
+void ReportFiller::FitFront(std::deque<Band>& bands, float room)
 {
     Band& whole = bands.front();
+    if (whole.isPicture)
+        return Lower(whole, room);
+    Band rest = Split(whole, room);
+    if (!HasContent(whole) && HasContent(rest))
+        throw RunTimeError(RunTimeError::Overflow,
+            QStringLiteral("A line of the report is taller than the page.\n%1").arg(m_report.file));
+    if (HasContent(rest))
+        bands.insert(bands.begin() + 1, std::move(rest));
+}
+
+// Leaves in a strip what stands in a height and returns the rest of it: texts are cut between two of their
+// lines, everything else goes to the side where it begins.
+Band ReportFiller::Split(Band& whole, float room)
+{
     Band first;
     Band rest;
     first.height = room;
     first.record = std::move(whole.record);
     rest.repeated = whole.repeated;
     rest.keepWithNext = whole.keepWithNext;
-    for (PlacedItem& item : whole.items) {
-        const bool isText = item.kind == PlacedItem::Kind::Text && item.fit == Fit::Wrap;
-        if (item.y + item.height <= room + Tolerance) {
-            first.items.push_back(std::move(item));
-            continue;
-        }
-        PlacedItem next = item;
-        next.y = std::max(0.0F, item.y - room);
-        const FontSpec& font = m_maker.Fonts.At(item.font);
-        if (isText && item.y + m_measure.LineHeight(font) <= room + Tolerance) {
-            const qsizetype count = m_measure.Fitting(font, item.text, item.width, room - item.y);
-            next.text = item.text.mid(count);
-            next.height = m_measure.Height(font, next.text, item.width);
-            item.text.truncate(count);
-            item.height = room - item.y;
-            first.items.push_back(std::move(item));
-        }
-        if (isText && next.text.isEmpty())
-            continue;
-        rest.height = std::max(rest.height, next.y + next.height);
-        rest.items.push_back(std::move(next));
-    }
-    if (first.items.empty() && !rest.items.empty())
-        throw RunTimeError(RunTimeError::Overflow,
-            QStringLiteral("A line of the report is taller than the page.\n%1").arg(m_report.file));
+    for (PlacedItem& item : whole.items)
+        SplitItem(std::move(item), room, first, rest);
+    if (!whole.lanes.empty())
+        SplitLanes(whole, room, first, rest);
     whole = std::move(first);
-    if (!rest.items.empty())
-        bands.insert(bands.begin() + 1, std::move(rest));
+    return rest;
+}
+
+void ReportFiller::SplitItem(PlacedItem item, float room, Band& first, Band& rest)
+{
+    if (item.y + item.height <= room + Tolerance)
+        return first.items.push_back(std::move(item));
+    const bool isText = item.kind == PlacedItem::Kind::Text && item.fit == Fit::Wrap;
+    PlacedItem next = item;
+    next.y = std::max(0.0F, item.y - room);
+    const FontSpec& font = m_maker.Fonts.At(item.font);
+    if (isText && item.y + m_measure.LineHeight(font) <= room + Tolerance) {
+        const qsizetype count = m_measure.Fitting(font, item.text, item.width, room - item.y);
+        next.text = item.text.mid(count);
+        next.height = m_measure.Height(font, next.text, item.width);
+        item.text.truncate(count);
+        item.height = room - item.y;
+        first.items.push_back(std::move(item));
+    }
+    if (isText && next.text.isEmpty())
+        return;
+    rest.height = std::max(rest.height, next.y + next.height);
+    rest.items.push_back(std::move(next));
+}
+
+void ReportFiller::SplitLanes(Band& whole, float room, Band& first, Band& rest)
+{
+    for (std::vector<Band>& lane : whole.lanes) {
+        float y = 0;
+        std::size_t at = 0;
+        while (at < lane.size() && y + lane[at].height <= room + Tolerance)
+            y += lane[at++].height;
+        std::vector<Band>& later = rest.lanes.emplace_back();
+        if (at < lane.size()) {
+            if (Band next = Split(lane[at], room - y); HasContent(next))
+                later.push_back(std::move(next));
+            const auto behind = lane.begin() + static_cast<std::ptrdiff_t>(at) + 1;
+            std::move(behind, lane.end(), std::back_inserter(later));
+            lane.resize(HasContent(lane[at]) ? at + 1 : at);
+        }
+        first.lanes.push_back(std::move(lane));
+        rest.height = std::max(rest.height, HeightOf(later));
+    }
 }

@@ -31,15 +31,19 @@ private:
     std::vector<Band> MakeEdge(const std::vector<TemplateElement>& elements);
     bool Fetch();
     std::size_t ChainLength();
+    float ChainHeight(std::size_t length) const;
+    float PageHeight() const;
     bool PlaceChain(Sheet& sheet);
     bool PlaceNext(Sheet& sheet);
     void Place(Sheet& sheet, Band& band);
     void Put(Sheet& sheet, Band& band, float y, float& height);
     bool ContinueLanes(Sheet& sheet);
     bool FillLane(Sheet& sheet, std::deque<Band>& lane, float top, float& bottom);
-    void SplitFront(std::deque<Band>& bands, float room);
-    float HeightAtTop(const Band& band) const;
-    void AddRepeated(Sheet& sheet, const Band& band);
+    void FitFront(std::deque<Band>& bands, float room);
+    Band Split(Band& whole, float room);
+    void SplitItem(PlacedItem item, float room, Band& first, Band& rest);
+    void SplitLanes(Band& whole, float room, Band& first, Band& rest);
+    float AddRepeated(Sheet& sheet, const Band& band, float y);
     void BeginRecords();
     void Record(const QStringList& record);
 

@@ -41,6 +41,10 @@ struct WidthRule {
 struct SourceColumn {
     QString name;
     ValueType type = ValueType::Unknown;
+
+    // Found by the check: how its texts stand on the paper.
+    bool isPrintedPlain = false;
+    bool isPrintedSeen = false;
 };
 
 // A table or view that a report reads.

@@ -1,17 +1,19 @@
 #include "Bands.h"
 
 #include "Evaluation.h"
+#include "Room.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace {
 
-constexpr float CellPadding = 2; // left and right of a cell's text
-constexpr float RowPadding = 0.5F; // above and below
+using Room::CellPadding;
+using Room::HeadRule;
+using Room::RowPadding;
+
 constexpr float GroupGap = 5; // above a group that isn't the first
 constexpr float ThinRule = 0.4F;
-constexpr float HeadRule = 0.8F;
 constexpr quint8 PaleGray = 170;
 
 // A column as it stands on the paper.
@@ -27,6 +29,28 @@ void MoveDown(Band& band, float by)
     for (PlacedItem& item : band.items)
         item.y += by;
     band.height += by;
+}
+
+// A total in the place of the figures above it: by their format, and with the words around the only one of a
+// cell.
+QString TotalText(const TemplateColumn& column, const Value& total)
+{
+    const bool isCount =
+        column.total->operation == Operation::Aggregate && column.total->aggregate == AggregateKind::Count;
+    const std::vector<TextPiece>& pieces = column.cell.pieces;
+    const auto isFigure = [](const TextPiece& piece) { return piece.expression.has_value(); };
+    const auto figures = std::count_if(pieces.begin(), pieces.end(), isFigure);
+    if (isCount || figures == 0)
+        return total.Text();
+    if (figures > 1) {
+        const auto formatted = std::find_if(pieces.begin(), pieces.end(),
+            [](const TextPiece& piece) { return piece.formatKind != FormatKind::None; });
+        return formatted == pieces.end() ? total.Text() : Printed(total, *formatted);
+    }
+    QString text;
+    for (const TextPiece& piece : pieces)
+        text += isFigure(piece) ? Printed(total, piece) : piece.characters;
+    return text;
 }
 
 class TableStream final : public BandStream {
@@ -310,8 +334,10 @@ void TableStream::MakeRow()
     Band band;
     band.items.reserve(m_cells.size() + (m_table.hasLines ? 1 : 0));
     const bool isRecorded = m_maker.Records.table == &m_table;
-    if (isRecorded)
-        band.record = FieldsAround(m_maker.Records, m_maker.Data);
+    if (isRecorded) {
+        band.record = FieldsAround(m_maker.Records, m_maker.Records.around.size(), m_maker.Data);
+        m_maker.RecordCount += 1;
+    }
     for (std::size_t i = 0; isRecorded && i < m_groupValues.size(); ++i)
         band.record.append(m_groupValues[i].Text());
     band.height = m_rowHeight;
@@ -364,12 +390,7 @@ void TableStream::MakeFoot(const TemplateText& label, int level)
         const Value total = Evaluate(*column.total, data);
         TextLook own = m_cells[i].look;
         own.isBold = true;
-        const bool isCount = column.total->operation == Operation::Aggregate
-            && column.total->aggregate == AggregateKind::Count;
-        const QString text = column.cell.IsOneExpression() && !isCount
-            ? Printed(total, column.cell.pieces.front())
-            : total.Text();
-        AddCell(band, i, text, own, Fit::Shrink);
+        AddCell(band, i, TotalText(column, total), own, Fit::Shrink);
     }
     data.Totals = nullptr;
     data.TotalsLevel = 0;

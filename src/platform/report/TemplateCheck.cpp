@@ -150,12 +150,8 @@ int Checker::Enter(const QString& sourceName, int line)
 {
     const int index = m_binder.FindSource(sourceName, line);
     if (index >= 0) {
-        const TemplateSource& source = m_report.sources[static_cast<std::size_t>(index)];
         const std::vector<int>& walked = m_binder.Walked;
-        if (source.parent >= 0 && std::find(walked.begin(), walked.end(), source.parent) == walked.end())
-            m_binder.Fault(line,
-                QStringLiteral("\"%1\" can only be walked within an <each> of \"%2\"")
-                    .arg(sourceName, source.parentName));
+        m_binder.RequireParent(index, line);
         if (std::find(walked.begin(), walked.end(), index) != walked.end())
             m_binder.Fault(line, QStringLiteral("\"%1\" is being walked already").arg(sourceName));
         m_binder.Walk(index);
@@ -232,7 +228,8 @@ void Checker::CheckGroup(TemplateTable& table, TemplateGroup& group, Place place
 {
     place.line = group.line;
     place.table = &table;
-    m_binder.Bind(group.by, place);
+    if (m_binder.Bind(group.by, place) == ValueType::Truth)
+        m_binder.Fault(group.line, QStringLiteral("rows aren't grouped by a condition; use if(…)"));
     m_binder.BindText(group.head, place);
     place.aggregates = Aggregates::OfTable;
     m_binder.BindText(group.foot, place);

@@ -7,6 +7,7 @@ namespace {
 constexpr double LargestLength = 1000;
 constexpr double HeaviestRule = 10;
 constexpr double MostRows = 100;
+constexpr int DeepestElement = 40;
 
 // An element with what all of them have; `only` is said of rows, `if` of the element itself.
 TemplateElement BeginElement(ElementKind kind, ElementAttributes& attributes, QStringView condition = u"if")
@@ -33,10 +34,17 @@ bool TemplateReader::NextChild(QStringView name)
 std::vector<TemplateElement> TemplateReader::ReadElements(Place place)
 {
     std::vector<TemplateElement> elements;
+    ++m_depth;
     while (NextElement()) {
-        if (std::optional<TemplateElement> element = ReadElement(place))
+        if (m_depth > DeepestElement) {
+            Fault(static_cast<int>(m_xml.lineNumber()),
+                QStringLiteral("there are more than %1 elements around this one").arg(DeepestElement));
+            m_xml.skipCurrentElement();
+        } else if (std::optional<TemplateElement> element = ReadElement(place)) {
             elements.push_back(std::move(*element));
+        }
     }
+    --m_depth;
     return elements;
 }
 
@@ -53,18 +61,49 @@ std::optional<TemplateElement> TemplateReader::ReadElement(Place place)
         return ReadPairs();
     if (name == u"columns")
         return ReadLanes(place);
-    if (place == Place::Flow) {
-        if (name == u"pagebreak")
-            return ReadSimple(ElementKind::PageBreak);
-        if (name == u"each")
-            return ReadEach();
-        if (name == u"table")
-            return ReadTable();
-        if (name == u"chart")
-            return ReadChart();
+    return ReadLongElement(place);
+}
+
+// Those that go on over pages, or begin one.
+std::optional<TemplateElement> TemplateReader::ReadLongElement(Place place)
+{
+    const QStringView name = m_xml.name();
+    const bool isPageBreak = name == u"pagebreak";
+    if (!isPageBreak && name != u"each" && name != u"table" && name != u"chart") {
+        RefuseElement();
+        return std::nullopt;
     }
-    RefuseElement();
-    return std::nullopt;
+    if (!MayStand(place)) {
+        m_xml.skipCurrentElement();
+        return std::nullopt;
+    }
+    if (isPageBreak)
+        return ReadSimple(ElementKind::PageBreak);
+    if (name == u"each")
+        return ReadEach(place);
+    return name == u"table" ? ReadTable(place) : ReadChart();
+}
+
+// Tells if what the reader stands at can't be there.
+bool TemplateReader::MayStand(Place place)
+{
+    const QString name = m_xml.name().toString();
+    const int line = static_cast<int>(m_xml.lineNumber());
+    if (place == Place::PageEdge)
+        Fault(line, QStringLiteral("<%1> isn't known here").arg(name));
+    else if (place == Place::InnerLane)
+        Fault(line, QStringLiteral("<%1> can't stand in <columns> that stand in a <column>").arg(name));
+    else if (place == Place::Lane && name == u"pagebreak")
+        Fault(line, QStringLiteral("no page can begin in a <column>"));
+    else
+        return true;
+    return false;
+}
+
+void TemplateReader::RefuseNewPage(int line, bool newPage, Place place)
+{
+    if (newPage && place != Place::Flow)
+        Fault(line, QStringLiteral("no page can begin in a <column>"));
 }
 
 TemplateElement TemplateReader::ReadSimple(ElementKind kind)
@@ -115,13 +154,14 @@ TemplateElement TemplateReader::ReadLanes(Place place)
     TemplateElement element = BeginElement(ElementKind::Columns, attributes);
     element.size = attributes.Number(u"gap", 0, LargestLength, 3);
     attributes.Finish();
+    const Place inside = place == Place::Flow ? Place::Lane : place == Place::Lane ? Place::InnerLane : place;
     while (NextChild(u"column")) {
         ElementAttributes own(m_xml, *this);
         TemplateLane lane;
         lane.line = own.Line();
         lane.width = own.Width();
         own.Finish();
-        lane.elements = ReadElements(place);
+        lane.elements = ReadElements(inside);
         element.lanes.push_back(std::move(lane));
     }
     if (element.lanes.empty())
@@ -129,19 +169,20 @@ TemplateElement TemplateReader::ReadLanes(Place place)
     return element;
 }
 
-TemplateElement TemplateReader::ReadEach()
+TemplateElement TemplateReader::ReadEach(Place place)
 {
     ElementAttributes attributes(m_xml, *this);
     TemplateElement element = BeginElement(ElementKind::Each, attributes, u"only");
     element.sourceName = attributes.Required(u"source");
     element.keep = attributes.Flag(u"keep");
     element.newPage = attributes.Flag(u"newpage");
+    RefuseNewPage(element.line, element.newPage, place);
     attributes.Finish();
-    element.children = ReadElements(Place::Flow);
+    element.children = ReadElements(place);
     return element;
 }
 
-TemplateElement TemplateReader::ReadTable()
+TemplateElement TemplateReader::ReadTable(Place place)
 {
     ElementAttributes attributes(m_xml, *this);
     TemplateElement element = BeginElement(ElementKind::Table, attributes);
@@ -158,7 +199,7 @@ TemplateElement TemplateReader::ReadTable()
         else if (m_xml.name() == u"heads")
             ReadSpans(table);
         else if (m_xml.name() == u"group")
-            ReadGroup(table);
+            ReadGroup(table, place);
         else if (m_xml.name() == u"total")
             ReadTotal(table);
         else
@@ -208,7 +249,7 @@ void TemplateReader::ReadColumn(TemplateTable& table)
     table.columns.push_back(std::move(column));
 }
 
-void TemplateReader::ReadGroup(TemplateTable& table)
+void TemplateReader::ReadGroup(TemplateTable& table, Place place)
 {
     ElementAttributes attributes(m_xml, *this);
     TemplateGroup group;
@@ -220,6 +261,7 @@ void TemplateReader::ReadGroup(TemplateTable& table)
     group.foot = attributes.Template(u"foot");
     group.keep = static_cast<int>(attributes.Number(u"keep", 1, MostRows, 1));
     group.newPage = attributes.Flag(u"newpage");
+    RefuseNewPage(group.line, group.newPage, place);
     attributes.Finish();
     EndEmpty();
     if (!by)

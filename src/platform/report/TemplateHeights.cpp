@@ -29,6 +29,18 @@ double HeightReckoner::Line(const TextLook& look, double sizeAround)
         {m_report.fontFamily, static_cast<float>(LetterSize(look, sizeAround)), look.isBold.value_or(false)});
 }
 
+double HeightReckoner::Written(
+    const TemplateText& text, const TextLook& look, double sizeAround, double width)
+{
+    QString written;
+    for (const TextPiece& piece : text.pieces)
+        written += piece.characters;
+    if (written.isEmpty())
+        return 0;
+    const FontSpec font{m_report.fontFamily, static_cast<float>(LetterSize(look, sizeAround)), true};
+    return m_measure.Height(font, written, static_cast<float>(width));
+}
+
 LeastHeight HeightReckoner::Of(const std::vector<TemplateElement>& elements)
 {
     LeastHeight sum;

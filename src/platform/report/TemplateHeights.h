@@ -20,6 +20,9 @@ public:
     // The height of a line; letters that have no size are as large as those around, or as the template's.
     double Line(const TextLook& look, double sizeAround = 0);
 
+    // The height of what is written in a bold text without its {expressions}, in a width.
+    double Written(const TemplateText& text, const TextLook& look, double sizeAround, double width);
+
     // How large letters are, in points.
     double LetterSize(const TextLook& look, double sizeAround = 0) const;
 

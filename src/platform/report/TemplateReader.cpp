@@ -11,7 +11,6 @@ namespace {
 constexpr double LargestLength = 1000;
 constexpr double LargestFont = 72;
 constexpr double SmallestFont = 4;
-constexpr qsizetype MostShown = 40; // characters of a text that a fault shows
 
 Paper ReadSheet(ElementAttributes& attributes)
 {
@@ -167,7 +166,7 @@ std::optional<Expression> ElementAttributes::Condition(QStringView name)
     ExpressionFault fault;
     std::optional<Expression> expression = ReadExpression(text, fault);
     if (!expression)
-        Fault(QStringLiteral("%1=\"%2\": %3").arg(name.toString(), text, fault.text));
+        Fault(QStringLiteral("%1=\"%2\": %3").arg(name.toString(), ShownInFault(text), fault.text));
     return expression;
 }
 
@@ -228,11 +227,8 @@ void TemplateReader::RefuseText()
     if (first == text.end())
         return;
     const QStringView seen = text.mid(first - text.begin());
-    QString shown = seen.toString().simplified();
-    if (shown.size() > MostShown)
-        shown = shown.left(MostShown) + u'…';
     Fault(static_cast<int>(m_xml.lineNumber() - seen.count(u'\n')),
-        QStringLiteral("\"%1\" stands where no text is printed").arg(shown));
+        QStringLiteral("\"%1\" stands where no text is printed").arg(ShownInFault(seen)));
 }
 
 bool TemplateReader::NextElement()

@@ -62,8 +62,9 @@ public:
 private:
     friend class ElementAttributes;
 
-    // Where an element stands: not everything may stand at the edge of a page.
-    enum class Place { PageEdge, Flow };
+    // Where an element stands. At the edge of a page, and in blocks that stand side by side within others,
+    // there is no room for what goes on over pages; side by side nothing can begin one.
+    enum class Place { Flow, Lane, PageEdge, InnerLane };
 
     void Fault(int line, const QString& text);
     void RefuseElement();
@@ -83,18 +84,22 @@ private:
     void ReadSource(ReportTemplate& report);
     std::vector<TemplateElement> ReadElements(Place place);
     std::optional<TemplateElement> ReadElement(Place place);
+    std::optional<TemplateElement> ReadLongElement(Place place);
+    bool MayStand(Place place);
     TemplateElement ReadSimple(ElementKind kind);
     TemplateElement ReadPairs();
     TemplateElement ReadLanes(Place place);
-    TemplateElement ReadEach();
-    TemplateElement ReadTable();
+    TemplateElement ReadEach(Place place);
+    TemplateElement ReadTable(Place place);
     TemplateElement ReadChart();
     void ReadSpans(TemplateTable& table);
     void ReadColumn(TemplateTable& table);
-    void ReadGroup(TemplateTable& table);
+    void ReadGroup(TemplateTable& table, Place place);
+    void RefuseNewPage(int line, bool newPage, Place place);
     void ReadTotal(TemplateTable& table);
 
     QXmlStreamReader m_xml;
+    int m_depth = 0; // of the elements that hold others
     QString m_file;
     TemplateFaults& m_faults;
 };

@@ -59,7 +59,7 @@ TextPiece ReadPiece(QStringView inside, QStringList& faults)
     ExpressionFault fault;
     piece.expression = ReadExpression(bar < 0 ? inside : inside.left(bar), fault);
     if (!piece.expression) {
-        faults.append(QStringLiteral("{%1}: %2").arg(inside.toString(), fault.text));
+        faults.append(QStringLiteral("{%1}: %2").arg(ShownInFault(inside), fault.text));
         return piece;
     }
     if (bar >= 0)
@@ -67,6 +67,13 @@ TextPiece ReadPiece(QStringView inside, QStringList& faults)
     return piece;
 }
 
+}
+
+QString ShownInFault(QStringView text)
+{
+    constexpr qsizetype MostShown = 40;
+    const QString shown = text.toString().simplified();
+    return shown.size() > MostShown ? QString(shown.left(MostShown) + u'…') : shown;
 }
 
 TemplateText ReadTemplateText(QStringView text, QStringList& faults)

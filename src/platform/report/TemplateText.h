@@ -28,6 +28,9 @@ struct TemplateText {
     bool IsOneExpression() const { return pieces.size() == 1 && pieces.front().expression.has_value(); }
 };
 
+// A text as a fault shows it: on one line, and only its beginning if it is long.
+QString ShownInFault(QStringView text);
+
 // Reads such a text. What can't be read is added to the faults and left out. A format is a pattern of '#',
 // '0' and one '.', or one of dd, MM, yy, yyyy, MMMM and signs, or the word "plain" behind a field.
 TemplateText ReadTemplateText(QStringView text, QStringList& faults);

@@ -11,6 +11,7 @@ namespace {
 constexpr double SmallestShare = 4 * PointsPerMillimetre;
 constexpr double SmallestValue = 10 * PointsPerMillimetre; // beside a label
 constexpr double LettersOfAFigure = 4; // how many times its letters' size a figure such as 1234.50 is wide
+constexpr double LettersOfALabel = 4; // the same for what a total is called
 constexpr double LinesOfAChart = 3; // the legend, the labels, and half a line at both ends of the scale
 constexpr double Tolerance = 0.05;
 
@@ -79,6 +80,7 @@ private:
         case ElementKind::Space:
             return CheckHeight(element.line, element.size * PointsPerMillimetre, "the space");
         case ElementKind::Text:
+            CheckLetters(element.line, element.text, m_heights.LetterSize(element.look), width);
             return CheckHeight(element.line, m_heights.Line(element.look), "a line of the text");
         case ElementKind::Table:
             return CheckTable(element, width);
@@ -98,6 +100,16 @@ private:
             m_fault(line, QStringLiteral("%1 is taller than the page").arg(QLatin1String(what)));
     }
 
+    // At least one letter stands on a line.
+    void CheckLetters(int line, const TemplateText& text, double size, double width)
+    {
+        if (!text.IsEmpty() && width < size - Tolerance)
+            m_fault(line,
+                QStringLiteral("letters of %1 points don't stand in a place of %2 mm")
+                    .arg(size)
+                    .arg(Shown(width)));
+    }
+
     void CheckPairs(const TemplateElement& element, double width)
     {
         const double labels =
@@ -107,6 +119,8 @@ private:
         for (const TemplatePair& pair : element.pairs) {
             hasLabel = hasLabel || !pair.label.IsEmpty();
             const double size = m_heights.LetterSize(pair.look, element.look.size);
+            CheckLetters(pair.line, pair.label, size, std::max(labels, SmallestShare));
+            CheckLetters(pair.line, pair.value, size, std::max(width - labels, SmallestValue));
             if (HoldsFigure(pair.value))
                 needed = std::max(needed, LettersOfAFigure * size);
             CheckHeight(pair.line, m_heights.Line(pair.look, element.look.size), "a line of the pair");
@@ -149,6 +163,7 @@ private:
             CheckHeight(column.line, m_heights.Line(column.look, element.look.size), "a line of the column");
         }
         CheckRules(rules, element.line, width, 0);
+        CheckCells(element, DivideWidth(rules, width, 0));
         std::size_t spanned = 0;
         for (const TemplateSpan& span : table.spans)
             spanned += static_cast<std::size_t>(span.columns);
@@ -157,6 +172,62 @@ private:
                 QStringLiteral("the heads span %1 columns, but there are %2")
                     .arg(spanned)
                     .arg(table.columns.size()));
+    }
+
+    // Columns that are too narrow for anything have been told already.
+    void CheckCells(const TemplateElement& element, const std::vector<double>& widths)
+    {
+        const TemplateTable& table = *element.table;
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            const TemplateColumn& column = table.columns[i];
+            const double size = m_heights.LetterSize(column.look, element.look.size);
+            const double width = std::max(widths[i], SmallestShare);
+            CheckLetters(column.line, column.cell.IsEmpty() ? column.head : column.cell, size, width);
+        }
+        CheckHeads(element, widths);
+        CheckTotalLabel(element, widths);
+    }
+
+    // The heads come again on every page, with a row below them at least.
+    void CheckHeads(const TemplateElement& element, const std::vector<double>& widths)
+    {
+        const TemplateTable& table = *element.table;
+        double spans = 0;
+        std::size_t at = 0;
+        for (const TemplateSpan& span : table.spans) {
+            double width = -2 * Room::CellPadding;
+            for (int i = 0; i < span.columns && at < widths.size(); ++i)
+                width += widths[at++];
+            spans = std::max(spans, m_heights.Written(span.text, span.look, element.look.size, width));
+        }
+        double heads = 0;
+        double row = 0;
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            const TemplateColumn& column = table.columns[i];
+            const double width = std::max(1.0, widths[i] - 2 * Room::CellPadding);
+            heads = std::max(heads, m_heights.Written(column.head, column.look, element.look.size, width));
+            row = std::max(row, m_heights.Line(column.look, element.look.size));
+        }
+        const double edges = 2 * (Room::HeadRule + 2 * Room::RowPadding);
+        if (heads + spans > 0 && row <= m_pageHeight)
+            CheckHeight(element.line, spans + heads + row + edges, "the head of the table with a row");
+    }
+
+    void CheckTotalLabel(const TemplateElement& element, const std::vector<double>& widths)
+    {
+        const TemplateTable& table = *element.table;
+        const bool hasLabel = (table.totalLabel && !table.totalLabel->IsEmpty())
+            || std::any_of(table.groups.begin(), table.groups.end(),
+                [](const TemplateGroup& group) { return !group.foot.IsEmpty(); });
+        double room = 0;
+        std::size_t first = 0;
+        while (first < widths.size() && !table.columns[first].total && !table.columns[first].totalIsOwnSum)
+            room += widths[first++];
+        const double needed = LettersOfALabel * m_heights.LetterSize(element.look);
+        if (hasLabel && first > 0 && first < widths.size() && room < needed - Tolerance)
+            m_fault(table.columns[first].line,
+                QStringLiteral("before the first total there are %1 mm for its label, which needs %2 mm")
+                    .arg(Shown(room), Shown(needed)));
     }
 
     void CheckChart(const TemplateElement& element, double width)

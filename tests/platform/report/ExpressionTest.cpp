@@ -120,10 +120,22 @@ TEST(ExpressionReading, WhatCantBeReadIsToldAndNotGuessed)
 TEST(ExpressionReading, BracketsWithoutEndAreRefusedAndDontOverflow)
 {
     ExpressionFault fault;
-    EXPECT_FALSE(ReadExpression(QString(100000, u'('), fault).has_value());
-    EXPECT_EQ(fault.text, QStringLiteral("the brackets are nested too deeply"));
-    EXPECT_FALSE(ReadExpression(QString(100000, u'-'), fault).has_value());
-    EXPECT_EQ(fault.text, QStringLiteral("the brackets are nested too deeply"));
+    for (const char16_t sign : {u'(', u'-'}) {
+        EXPECT_FALSE(ReadExpression(QString(LongestExpression, sign), fault).has_value());
+        EXPECT_EQ(fault.text, QStringLiteral("the brackets are nested too deeply"));
+    }
+}
+
+TEST_F(ExpressionTest, AnExpressionHasALengthThatItsReckoningCanBear)
+{
+    const QString longest = QString(QStringLiteral("0")) + QStringLiteral("+1").repeated(999);
+    EXPECT_EQ(Printed(QStringLiteral("{%1}").arg(longest)), QStringLiteral("999"));
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{%1}</text>").arg(QStringLiteral("1+").repeated(100000))),
+        QStringLiteral("{%1…}: it is longer than 2000 characters").arg(QStringLiteral("1+").repeated(20)));
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text if=\"%1\">a</text>")
+                            .arg(QStringLiteral("1=1 and ").repeated(1000) + QStringLiteral("1=1"))),
+        QStringLiteral("if=\"%1…\": it is longer than 2000 characters")
+            .arg(QStringLiteral("1=1 and ").repeated(5)));
 }
 
 TEST(ExactSums, StayExactWhereBinaryNumbersDrift)

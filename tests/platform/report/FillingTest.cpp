@@ -258,3 +258,38 @@ TEST_F(FillingTest, TheItemsOfAPageAreThoseOfTheGoldenFile)
             << "if the change is wanted: VETROLAN_RENEW=1 report_tests";
     }
 }
+
+TEST_F(FillingTest, TheLabelsOfAChartStayWithinIt)
+{
+    for (int i = 1; i <= 40; ++i)
+        AddDelivery(i, Morning, QStringLiteral("अ"), i, 4, 30);
+    for (int rows = 1; rows <= 40; ++rows) {
+        const std::unique_ptr<Report> report =
+            Make(Template(QStringLiteral("<chart source=\"c\" kind=\"bar\" x=\"LBL{CollectionNo}\" h=\"40\" "
+                                         "only=\"CollectionNo &lt;= %1\"><series value=\"Liters\"/></chart>")
+                              .arg(rows),
+                QStringLiteral("paper=\"58mm\" margin=\"2\"")));
+        report->Complete();
+        const double right = (58 - 2) * PointsPerMillimetre;
+        EXPECT_TRUE(Texts(report->PageAt(0)).contains(QStringLiteral("LBL1")));
+        for (const PlacedItem& item : report->PageAt(0).items)
+            EXPECT_LE(item.Rect().right(), right + 0.01) << rows << ' ' << item.text.toStdString();
+    }
+}
+
+TEST_F(FillingTest, AColumnOfAViewWithoutATypeIsTakenAsItIsStored)
+{
+    AddDelivery(1, Morning, QStringLiteral("अशोक"), 9.5, 4, 30);
+    AddDelivery(2, Morning, QStringLiteral("बाबू"), 12.5, 4, 60);
+    connection->RunScript(QStringLiteral("create view Reckoned as select CollectionNo, Liters + 0 as Twice, "
+                                         "MemberName || '' as Named from MilkCollectionsTemp"));
+    const QString view =
+        QStringLiteral("<source name=\"v\" table=\"Reckoned\" order=\"CollectionNo desc\"/>");
+    EXPECT_EQ(
+        Joined(Template(view
+            + QStringLiteral("<text>{v.Twice} {v.Named} {v.Twice|0.00}</text>"
+                             "<text if=\"v.Twice &gt; 9\">जास्त</text><text if=\"v.Twice &lt; 9\">कमी</text>"
+                             "<text>{min(v.Twice)} {max(v.Twice)} {sum(v.Twice)}</text>"
+                             "<each source=\"v\" only=\"v.Twice &lt; 10\"><text>{v.Twice}</text></each>"))),
+        QStringLiteral("12.5 बाबू 12.50 | जास्त | 9.5 12.5 22 | 9.5"));
+}

@@ -1,5 +1,7 @@
+#include "Drawing.h"
 #include "ReportTest.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -347,4 +349,26 @@ TEST_F(OutputTest, SearchingFindsPageAndPlace)
     EXPECT_EQ(found[0].rect, report->PageAt(1).items.front().Rect());
     EXPECT_TRUE(report->Search(QStringLiteral("गोविंद")).empty());
     EXPECT_TRUE(report->Search(QString()).empty());
+}
+
+TEST_F(OutputTest, APageThatCantBeDrawnIsTold)
+{
+    FontTable fonts;
+    Page page;
+    page.width = page.height = 100;
+    PlacedItem item;
+    item.font = fonts.Add({QStringLiteral("Noto Sans Devanagari"), 10, false});
+    item.fit = Fit::Shrink;
+    item.width = 50;
+    item.text = QStringLiteral("1234.50");
+    page.items.push_back(item);
+    PagePainter painter(fonts);
+    const auto isWritten = [&] {
+        QBuffer pdf;
+        pdf.open(QIODevice::WriteOnly);
+        return painter.WritePdf(pdf, {}, 1, [&](std::size_t) -> const Page& { return page; });
+    };
+    EXPECT_TRUE(isWritten());
+    page.items.front().width = 0;
+    EXPECT_FALSE(isWritten());
 }

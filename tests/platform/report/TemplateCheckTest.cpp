@@ -306,3 +306,21 @@ TEST_F(TemplateCheckTest, TheShellToolTellsEachFaultOnALineAndAnswersWithItsExit
     EXPECT_EQ(check({File(QStringLiteral("missing.rpt"))}).first, 1);
     EXPECT_EQ(check({}).first, 2);
 }
+
+TEST_F(TemplateCheckTest, ElementsStandInOneAnotherToADepthOnly)
+{
+    const auto nested = [](int depth) -> QString {
+        return QStringLiteral("<columns><column>").repeated(depth) + QStringLiteral("<text>a</text>")
+            + QStringLiteral("</column></columns>").repeated(depth);
+    };
+    EXPECT_EQ(Faults(Template(nested(40))), QStringList());
+    EXPECT_EQ(OnlyFault(nested(41)), QStringLiteral("there are more than 40 elements around this one"));
+    EXPECT_EQ(OnlyFault(nested(20000)), QStringLiteral("there are more than 40 elements around this one"));
+}
+
+TEST_F(TemplateCheckTest, RowsArentGroupedByACondition)
+{
+    EXPECT_EQ(OnlyFault(QStringLiteral(
+                  "<table source=\"c\"><col>{MemberNo}</col><group by=\"MemberNo &gt; 75\"/></table>")),
+        QStringLiteral("rows aren't grouped by a condition; use if(…)"));
+}

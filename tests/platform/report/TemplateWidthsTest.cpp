@@ -116,3 +116,50 @@ TEST_F(TemplateWidthsTest, WhatCannotBreakFitsBetweenHeadAndFootOfThePage)
                   QStringLiteral("paper=\"100x22mm\" margin=\"2\""))),
         QStringList({QStringLiteral("3: a line of the text is taller than the page")}));
 }
+
+TEST_F(TemplateWidthsTest, ALetterHasRoomInItsPlace)
+{
+    const QString inColumn = QStringLiteral("<columns><column w=\"%1\">%2</column><column/></columns>");
+    EXPECT_EQ(OnlyFault(inColumn.arg(QStringLiteral("4"), QStringLiteral("<text size=\"40\">W</text>"))),
+        QStringLiteral("letters of 40 points don't stand in a place of 4.0 mm"));
+    EXPECT_EQ(
+        Faults(Template(inColumn.arg(QStringLiteral("15"), QStringLiteral("<text size=\"40\">W</text>")))),
+        QStringList());
+    EXPECT_EQ(OnlyFault(QStringLiteral("<table source=\"c\"><col>{MemberNo}</col>"
+                                       "<col w=\"4\" size=\"60\">{MemberName}</col></table>")),
+        QStringLiteral("letters of 60 points don't stand in a place of 4.0 mm"));
+    EXPECT_EQ(OnlyFault(QStringLiteral("<table source=\"c\"><col>{MemberNo}</col>"
+                                       "<col w=\"4\" size=\"12\" head=\"a\"/></table>")),
+        QStringLiteral("letters of 12 points don't stand in a place of 4.0 mm"));
+    EXPECT_EQ(OnlyFault(QStringLiteral("<pairs labelw=\"5\"><pair label=\"a\" size=\"20\">b</pair></pairs>")),
+        QStringLiteral("letters of 20 points don't stand in a place of 5.0 mm"));
+    EXPECT_EQ(OnlyFault(QStringLiteral("<pairs labelw=\"178\"><pair size=\"36\">b</pair></pairs>")),
+        QStringLiteral("letters of 36 points don't stand in a place of 12.0 mm"));
+}
+
+TEST_F(TemplateWidthsTest, ATotalHasRoomForItsLabel)
+{
+    const auto table = [](const char* first, const char* end) {
+        return QStringLiteral(
+            "<table source=\"c\"><col w=\"%1\"/><col w=\"30\" total=\"sum\">{Liters|0.00}</col>"
+            "<col>{MemberName}</col>%2</table>")
+            .arg(QLatin1String(first), QLatin1String(end));
+    };
+    const QString fault =
+        QStringLiteral("before the first total there are 1.0 mm for its label, which needs 14.1 mm");
+    EXPECT_EQ(OnlyFault(table("1", "<total label=\"GRAND TOTAL\"/>")), fault);
+    EXPECT_EQ(OnlyFault(table("1", "<group by=\"MemberNo\" foot=\"a\"/>")), fault);
+    EXPECT_EQ(Faults(Template(table("1", "<total/>"))), QStringList());
+    EXPECT_EQ(Faults(Template(table("15", "<total label=\"GRAND TOTAL\"/>"))), QStringList());
+}
+
+TEST_F(TemplateWidthsTest, TheHeadsOfATableLeaveRoomForARow)
+{
+    const QString table = QStringLiteral("<table source=\"c\"><col w=\"12\" head=\"%1\">{CollectionNo}</col>"
+                                         "<col>{MemberName}</col></table>");
+    const QString fault = QStringLiteral("the head of the table with a row is taller than the page");
+    const QString tall = table.arg(QStringLiteral("विस्तारित माहिती ").repeated(40));
+    EXPECT_EQ(OnlyFault(tall), fault);
+    EXPECT_EQ(OnlyFault(QStringLiteral("<columns><column>%1</column></columns>").arg(tall)), fault);
+    EXPECT_EQ(Faults(Template(table.arg(QStringLiteral("विस्तारित माहिती ").repeated(10)))), QStringList());
+}

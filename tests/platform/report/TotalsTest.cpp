@@ -120,3 +120,48 @@ TEST_F(TotalsTest, RowsThatAreLeftOutAreNotAdded)
                                 "<col total=\"sum\">{Amount|0.00}</col><total label=\"=\"/></table>")));
     EXPECT_EQ(texts.join(u' '), QStringLiteral("1 350.55 2 180.10 = 530.65"));
 }
+
+TEST_F(TotalsTest, TheLeastAndTheGreatestAreOfNumbersAndDates)
+{
+    AddShifts();
+    Run(QStringLiteral("update MilkCollectionsTemp set CollectionDate='12/11/2026' where CollectionNo=2"));
+    EXPECT_EQ(AllTexts(Template(QStringLiteral("<text>{min(CollectionDate)} {max(CollectionDate)} "
+                                               "{max(CollectionDate)|dd MM} {min(Liters)}</text>"))),
+        QStringList({QStringLiteral("05/04/2026 12/11/2026 12 11 5.5")}));
+    EXPECT_EQ(
+        AllTexts(Template(QStringLiteral(
+                     "<table source=\"c\" only=\"CollectionNo = 2\"><col w=\"40\">{MemberNo}</col>"
+                     "<col total=\"max(CollectionDate)\">{Liters|0.0}</col><total label=\"=\"/></table>")))
+            .last(),
+        QStringLiteral("12/11/2026"));
+    for (const char* text : {"{max(MemberName)}", "{min(MemberName)|0.00}"})
+        EXPECT_EQ(OnlyFault(QStringLiteral("<text>%1</text>").arg(QLatin1String(text))),
+            QStringLiteral("min and max need numbers or dates"));
+}
+
+TEST_F(TotalsTest, ATotalHasTheFormatAndTheWordsOfItsCells)
+{
+    AddShifts();
+    const auto total = [this](const char* column) {
+        return AllTexts(Template(QStringLiteral("<table source=\"c\"><col w=\"40\">{MemberNo}</col>%1"
+                                                "<total label=\"=\"/></table>")
+                                     .arg(QString::fromUtf8(column))))
+            .last();
+    };
+    EXPECT_EQ(total("<col total=\"average(Fat)\">{Fat|0.0} %</col>"), QStringLiteral("4.2 %"));
+    EXPECT_EQ(total("<col total=\"sum(Liters)\">लि. {Liters|0.00}</col>"), QStringLiteral("लि. 35.63"));
+    EXPECT_EQ(total("<col total=\"average(Fat)\">{MemberNo}: {Fat|0.00} %</col>"), QStringLiteral("4.17"));
+    EXPECT_EQ(total("<col total=\"count\">{Fat|0.0} %</col>"), QStringLiteral("3"));
+    EXPECT_EQ(total("<col total=\"max(Liters)\"></col>"), QStringLiteral("20"));
+}
+
+TEST_F(TotalsTest, WhatHangsOnARowIsTotalledForThatRowOnly)
+{
+    const QString linked =
+        QStringLiteral("<source name=\"k\" table=\"KapatDetails\" link=\"MemberNo\" to=\"c\"/>");
+    EXPECT_EQ(OnlyFault(linked + QStringLiteral("<text>{sum(k.Value1)}</text>")),
+        QStringLiteral("\"k\" can only be walked within an <each> of \"c\""));
+    EXPECT_EQ(
+        Faults(Template(linked + QStringLiteral("<each source=\"c\"><text>{sum(k.Value1)}</text></each>"))),
+        QStringList());
+}
