@@ -55,7 +55,11 @@ void CounterScreen::txtLiters_LostFocus()
         return;
     const double liters = Value(txtLiters);
     txtLiters.SetText(Format(liters, m_kind.liters.field));
-    if (liters == 0)
+    if (liters != 0)
+        return;
+    if (IsSwitchingOff(cmdAutoLiter, gAppState.gAutoLiters))
+        ShowAmount(); // that of the litres before would be saved with none
+    else
         txtLiters.SetFocus();
 }
 
@@ -93,10 +97,21 @@ void CounterScreen::ReadFat()
         txtFat.SetText(*read.fat);
 }
 
+// Whether a field that is left without a value is left for the switch of the device it has waited for.
+bool CounterScreen::IsSwitchingOff(const Button& device, QStringView setting) const
+{
+    return GoingTo() == &device && DeviceSwitch::IsOn(setting);
+}
+
 // With a fat tester the field isn't left until there is a fat, or the tester is switched off.
 void CounterScreen::txtFat_LostFocus()
 {
     if (DeviceSwitch::IsOn(gAppState.gAutoFat) && Value(txtFat) <= 0) {
+        if (IsSwitchingOff(cmdAutoFat, gAppState.gAutoFat)) {
+            txtRate.SetText(Format(0, MoneyFormat)); // that of the fat before isn't that of this milk
+            ShowAmount();
+            return;
+        }
         if (const std::optional<QString> read = m_devices.RepeatFat())
             txtFat.SetText(*read);
         FatRefused = true; // it was just read: once is enough for one key

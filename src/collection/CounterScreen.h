@@ -144,6 +144,7 @@ private:
     void TakeAnimalOf(const Recordset& member);
     void OfferLastFat();
     void ReadFat();
+    bool IsSwitchingOff(const Button& device, QStringView setting) const;
     bool IsSecondDelivery() const;
     void StoreNew(const Delivery& delivery);
     void DeleteRow();

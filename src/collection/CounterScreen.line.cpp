@@ -54,9 +54,6 @@ CounterScreen::CounterScreen(const CounterKind& kind)
     ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
     txtLiters.SetMaxLength(9);
     txtAmount.SetEnabled(false);
-    // A field that waits for a silent device can be left for the device's switch.
-    cmdAutoLiter.SetCancels(true);
-    cmdAutoFat.SetCancels(true);
     EnableEntry(false);
 }
 

@@ -196,8 +196,9 @@ std::optional<QString> MilkDevices::ReadFatPercent()
     return FatOfFrame(*number);
 }
 
-// The number of a device that talks by itself. What doesn't begin with the mark is thrown away and read
-// again, unless it is long; so a reading that began in the middle of a frame comes to the next one.
+// The number of a device that talks by itself. Fewer than ten characters that don't begin with the mark are
+// thrown away and read again, so that a reading that began in the middle of a frame comes to the next one.
+// Ten or more at once end the reading: without the mark they count only if all behind the first is a number.
 std::optional<double> MilkDevices::ReadFrame(char mark)
 {
     constexpr qsizetype longUnmarked = 10;

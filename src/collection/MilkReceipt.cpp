@@ -21,8 +21,7 @@ void MilkReceipt::StageReceipt(const Delivery& d)
 
 void MilkReceipt::Prepare()
 {
-    const QString printStatus = Setting(u"PrintStatus");
-    if (!printStatus.isEmpty() && printStatus != u"naahI")
+    if (Setting(u"PrintStatus") != u"naahI")
         ReportControl::Prepare(Logon());
 }
 

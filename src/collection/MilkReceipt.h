@@ -13,7 +13,8 @@ public:
     // Puts the delivery in place of the one before it.
     static void StageReceipt(const Delivery& delivery);
 
-    // Gets ready what the first slip would make the member wait for, unless the settings want no slips.
+    // Gets ready what the first slip would make the member wait for, unless PrintStatus is "naahI". An empty
+    // status prints, too.
     static void Prepare();
 
     // Prints what is staged, as the settings want it. Nothing is printed with "naahI" in PrintStatus, nor

@@ -72,7 +72,7 @@ void frmDailyCollection::SetGuides()
 {
     txtMemberNo.SetGuide(
         IsAdding() ? Plain(u"F5 : मेम्बरचे आतापर्यंतचे संकलन") : Plain(u"नोंद शोधा : मेम्बर, दिनांक, वेळ, संकलन क्रमांक"));
-    txtCollectionNo.SetGuide(IsAdding() ? Caption() : Plain(u"Enter : ही नोंद"));
+    txtCollectionNo.SetGuide(IsAdding() ? Plain(u"1 ते 32766") : Plain(u"Enter : ही नोंद"));
     txtAnimal.SetGuide(IsModifying() ? Plain(u"दूध प्रकार नोंदीचाच ठेवा : दुसरा सेव्ह होत नाही")
                                      : Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
     cmdDelete.SetGuide(IsDeleting() ? Plain(u"हा क्रमांक या वेळेच्या सर्व दिवसांतून खोडला जाईल") : Caption());
@@ -101,6 +101,7 @@ void frmDailyCollection::ClearFields()
     for (Field* figure : {&txtLiters, &txtFat, &txtRate, &txtAmount})
         figure->SetText(QStringLiteral("0"));
     IsPicked = false;
+    NumberedFor.clear();
 }
 
 void frmDailyCollection::cmdCancel_Click()
@@ -159,6 +160,7 @@ void frmDailyCollection::ShowNextNumber()
         Sql(u"SELECT MAX(CollectionNo) as mMaxNo FROM MilkCollections WHERE CompanyId=", gAppState.gCompanyId,
             u" AND CollectionDate=", Day()));
     txtCollectionNo.SetText(ShortestDecimal(highest.Eof() ? 1.0 : highest[u"mMaxNo"].Number() + 1));
+    NumberedFor = DayAndShift();
 }
 
 // Modifying
@@ -252,6 +254,7 @@ void frmDailyCollection::DataGrid1_Click()
     MasKCollectionDate.SetDate(DataGrid1.Value(row, u"CollectionDate").Date());
     cmbCollectionTime.SetText(DataGrid1.Value(row, u"CollectionTime").Text());
     txtCollectionNo.SetText(DataGrid1.Value(row, u"CollectionNo").Text());
+    NumberedFor = DayAndShift();
     IsPicked = true;
     txtCollectionNo.SetFocus();
     ShowList(false);

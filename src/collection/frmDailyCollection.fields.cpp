@@ -10,6 +10,7 @@
 
 #include <QKeyEvent>
 
+#include <cmath>
 #include <utility>
 
 using namespace Counter;
@@ -29,6 +30,9 @@ std::vector<DataGrid::Column> ListColumns()
         {QStringLiteral("Amount"), Shivaji(u"r@kma"), 130, QStringLiteral("#####0.00"), true},
     };
 }
+
+// The counters keep a number in 16 bits, and so the one after it.
+constexpr double HighestNumber = 32766;
 
 // A field that must hold a number, whatever was typed.
 void MendNumber(Field& field)
@@ -55,9 +59,9 @@ frmDailyCollection::frmDailyCollection()
 void frmDailyCollection::WireHandlers()
 {
     When(txtMemberNo.TextChanged, &frmDailyCollection::txtMemberNo_Change);
-    for (Field* key :
-        std::initializer_list<Field*>{&MasKCollectionDate, &cmbCollectionTime, &txtCollectionNo})
+    for (Field* key : std::initializer_list<Field*>{&MasKCollectionDate, &cmbCollectionTime})
         When(key->TextChanged, &frmDailyCollection::ForgetRow);
+    When(txtCollectionNo.TextChanged, &frmDailyCollection::txtCollectionNo_Change);
     When(txtAmount.TextChanged, &frmDailyCollection::txtAmount_Change);
     When(txtMemberNo.LostFocus, &frmDailyCollection::txtMemberNo_LostFocus);
     When(cmbMemberName.LostFocus, &frmDailyCollection::cmbMemberName_LostFocus);
@@ -98,10 +102,8 @@ Field* frmDailyCollection::Unfinished()
         return &MasKCollectionDate;
     if (!IsShift(cmbCollectionTime.Text()))
         return &cmbCollectionTime;
-    if (!IsNumeric(txtCollectionNo.Text()))
-        return &txtCollectionNo;
-    if (!IsAdding() && !IsRowShown)
-        return &txtCollectionNo;
+    if (Field* number = UnfinishedNumber())
+        return number;
     if (txtAnimal.IsEmpty() && !IsDeleting())
         return &txtAnimal;
     if (IsDeleting())
@@ -109,6 +111,18 @@ Field* frmDailyCollection::Unfinished()
     if (Field* figure = IsAdding() ? UnfinishedFigure() : nullptr)
         return figure;
     return Priced() == PricedFor ? nullptr : &txtFat; // it is left with the rate and the amount
+}
+
+// A new row has a number of its own day and shift: leaving the shift shows it.
+Field* frmDailyCollection::UnfinishedNumber()
+{
+    if (IsAdding() && DayAndShift() != NumberedFor)
+        return &cmbCollectionTime;
+    if (!IsNumeric(txtCollectionNo.Text()) || (!IsAdding() && !IsRowShown))
+        return &txtCollectionNo;
+    const double number = Value(txtCollectionNo);
+    const bool isOfASeries = number >= 1 && number <= HighestNumber && number == std::trunc(number);
+    return IsAdding() && !isOfASeries ? &txtCollectionNo : nullptr;
 }
 
 Field* frmDailyCollection::UnfinishedFigure()
@@ -201,6 +215,11 @@ void frmDailyCollection::MasKCollectionDate_LostFocus()
     MasKCollectionDate.InsistOnDate();
 }
 
+QStringList frmDailyCollection::DayAndShift() const
+{
+    return {MasKCollectionDate.Text(), cmbCollectionTime.Text()};
+}
+
 QString frmDailyCollection::Day() const
 {
     return SqlDay(MasKCollectionDate.Date());
@@ -223,6 +242,13 @@ void frmDailyCollection::cmbCollectionTime_LostFocus()
         cmbCollectionTime.SetFocus();
     else if (IsAdding() && MasKCollectionDate.InsistOnDate())
         ShowNextNumber();
+}
+
+// A number that is typed stands for the day and shift beside it as they are.
+void frmDailyCollection::txtCollectionNo_Change()
+{
+    ForgetRow();
+    NumberedFor = DayAndShift();
 }
 
 void frmDailyCollection::txtCollectionNo_LostFocus()
@@ -259,6 +285,7 @@ void frmDailyCollection::ShowRow(const Recordset& row)
         field->SetText(row[column].Text());
         MendNumber(*field);
     }
+    NumberedFor = DayAndShift();
     PricedFor = Priced();
     IsRowShown = true;
 }

@@ -41,6 +41,7 @@ private:
     QWidget* Frame1 = nullptr; // holds DataGrid1
     bool IsRowShown = false; // the fields show a row of the books
     bool IsPicked = false; // the number comes from the member's list, and its row is to be shown
+    QStringList NumberedFor; // the day and shift that the number shown stands for
     QStringList PricedFor; // what the amount that is shown was made for
 
     void Load() override;
@@ -54,6 +55,7 @@ private:
     void MasKCollectionDate_LostFocus();
     bool cmbCollectionTime_KeyDown(const QKeyEvent& key);
     void cmbCollectionTime_LostFocus();
+    void txtCollectionNo_Change();
     void txtCollectionNo_LostFocus();
     void txtAnimal_LostFocus();
     void txtLiters_LostFocus();
@@ -81,7 +83,9 @@ private:
 
     // Rules of the fields
     Field* Unfinished();
+    Field* UnfinishedNumber();
     Field* UnfinishedFigure();
+    QStringList DayAndShift() const;
     QStringList Priced() const;
     void TakeMember(const Recordset& member);
     void ShowAmount();

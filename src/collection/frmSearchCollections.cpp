@@ -103,15 +103,14 @@ void frmSearchCollections::Escape()
     Close();
 }
 
-// From a counter it goes on with the member in the line there.
+// From a counter it goes on with the member in the line there. From the menu the clerk is at the date
+// already, or as far beyond it as his keys were quicker than the tick, which doesn't call him back.
 void frmSearchCollections::TimerStart_Timer()
 {
     TimerStart = false;
     const CounterScreen* counter = gAppState.gCallerTag == u"MC" ? OpeningCounter() : nullptr;
-    if (!counter) {
-        maskDate.SetFocus();
+    if (!counter)
         return;
-    }
     const Shift shift = counter->TheShift();
     maskDate.SetDate(shift.date);
     txtTime.SetText(shift.time);

@@ -35,7 +35,8 @@ struct AppState {
     std::int16_t gAccessStatisticalReport = 0;
     std::int16_t gAccessUtilities = 0;
     QDate gAppDate; // the working day; not valid until it was asked for
-    QString gCallerTag = QStringLiteral("N"); // who opens a shared screen: "N", "MC" or "PV"
+    // Who opens a shared screen: "N", "MC" or "PV"; "1" after a fat on a day that no rate chart is named for.
+    QString gCallerTag = QStringLiteral("N");
     QString gReportMode;
     std::int32_t gSelectedVoucherNo = 0;
     QDate gSelectedVoucherDate;

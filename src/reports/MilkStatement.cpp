@@ -31,14 +31,14 @@ constexpr Books Sales{
     u"MilkSales", u"MilkSalesTemp", u"SalesDate", u"SalesTime", u"SalesNo", u"CustomerName", true};
 
 struct Person {
-    int memberNo = 0;
+    double memberNo = 0;
     QString name;
 };
 
 // One half of a line: a delivery or a sale; nothing of it when there was none.
 struct Entry {
     bool isThere = false;
-    int number = 0;
+    double number = 0;
     double snf = 0;
     double liters = 0;
     double fat = 0;
@@ -50,7 +50,7 @@ Entry ReadEntry(const Recordset& row, const Books& books)
 {
     Entry entry;
     entry.isThere = true;
-    entry.number = static_cast<int>(row[books.number].Number());
+    entry.number = row[books.number].Number();
     if (books.holdsSnf)
         entry.snf = row[u"SNF"].Number();
     entry.liters = row[u"Liters"].Number();
@@ -78,8 +78,8 @@ public:
         if (!morning.isThere && !evening.isThere)
             return;
         WriteLine(morning, evening, true);
-        int lastMorning = morning.number;
-        int lastEvening = evening.number;
+        double lastMorning = morning.number;
+        double lastEvening = evening.number;
         while (repeats) {
             morning = Find(Morning, lastMorning);
             evening = Find(Evening, lastEvening);
@@ -93,14 +93,16 @@ public:
 
 private:
     // The first row of a shift, or the first one after a number.
-    Entry Find(QStringView shift, std::optional<int> after) const
+    Entry Find(QStringView shift, std::optional<double> after) const
     {
         const Recordset row(gCn,
             Sql(u"select * from ", m_books.copy, u" where CompanyId=", gAppState.gCompanyId, u" and ",
                 m_books.date, u"=", SqlDay(m_day), u" and Animal='", m_animal, u"' and ", m_books.time, u"='",
                 shift, u"'", after ? Sql(u" and ", m_books.number, u">", *after) : QString(), u" order by ",
                 m_books.number));
-        return row.Eof() ? Entry() : ReadEntry(row, m_books);
+        const Entry found = row.Eof() ? Entry() : ReadEntry(row, m_books);
+        // A number of more than fifteen digits goes rounded into the condition, and would be found again.
+        return after && found.number <= *after ? Entry() : found;
     }
 
     void WriteLine(const Entry& morning, const Entry& evening, bool withSnf) const
@@ -152,12 +154,12 @@ void LookUpCompany()
     const Recordset company(gCn, Sql(u"SELECT * FROM CompanyMaster where CompanyId=", gAppState.gCompanyId));
 }
 
-int NumberOfMember(const QString& name)
+double NumberOfMember(const QString& name)
 {
     const Recordset member(gCn,
         Sql(u"select * from MembersMaster where CompanyId=", gAppState.gCompanyId, u" and trim(MemberName)='",
             name, u"'"));
-    return member.Eof() ? 0 : static_cast<int>(member[u"MemberNo"].Number());
+    return member.Eof() ? 0 : member[u"MemberNo"].Number();
 }
 
 void FillCopy(const Books& books, const MilkStatement::Wanted& wanted)
@@ -194,7 +196,7 @@ void MilkStatement::StageCopy()
     {
         const Recordset row(gCn, QStringLiteral("select * from MilkCollectionsTemp"));
         if (!row.Eof())
-            person = {static_cast<int>(row[u"MemberNo"].Number()), row[u"MemberName"].Text()};
+            person = {row[u"MemberNo"].Number(), row[u"MemberName"].Text()};
     }
     const QSet<QDate> days = DaysOf(Collections);
     const bool repeats = Repeats();

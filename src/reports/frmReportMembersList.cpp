@@ -28,10 +28,12 @@ frmReportMembersList::frmReportMembersList() : Screen("frmReportMembersList")
     for (OptionButton* option : {&OptionList, &OptionArea, &OptionMilk})
         When(option->Click, &frmReportMembersList::Option_Click);
     When(ComboArea.GotFocus, &frmReportMembersList::ComboArea_GotFocus);
+    When(ComboArea.LostFocus, &frmReportMembersList::ComboArea_LostFocus);
     When(cmdReport.Click, &frmReportMembersList::cmdReport_Click);
     When(cmdExit.Click, &frmReportMembersList::cmdExit_Click);
     SetTitle(Shivaji(u" maombar yaadI"));
     ComboArea.SetGuide(Plain(u"रिकामे ठेवल्यास सर्व विभाग"));
+    ComboArea.Accepts = [](QChar c) { return c != u'\''; };
     LayOut();
 }
 
@@ -62,6 +64,11 @@ void frmReportMembersList::Option_Click()
 void frmReportMembersList::ComboArea_GotFocus()
 {
     SendKeys(QStringLiteral("%{Down}"));
+}
+
+void frmReportMembersList::ComboArea_LostFocus()
+{
+    ComboArea.TakeMatch();
 }
 
 void frmReportMembersList::StageAll()

@@ -32,6 +32,7 @@ private:
 
     void Option_Click();
     void ComboArea_GotFocus();
+    void ComboArea_LostFocus();
     void cmdReport_Click();
     void cmdExit_Click();
 

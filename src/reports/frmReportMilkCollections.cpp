@@ -58,8 +58,20 @@ void frmReportMilkCollections::ComboAnimal_GotFocus()
 
 void frmReportMilkCollections::ComboAnimal_LostFocus()
 {
+    HoldAnimal();
+}
+
+// It holds one of its words. What none of them begins with is emptied and keeps the focus.
+bool frmReportMilkCollections::HoldAnimal()
+{
     if (ComboAnimal.IsEmpty())
         ComboAnimal.SetText(BothAnimals.toString());
+    ComboAnimal.TakeMatch();
+    if (ComboAnimal.Items().contains(ComboAnimal.Text()))
+        return true;
+    ComboAnimal.Clear();
+    ComboAnimal.SetFocus();
+    return false;
 }
 
 // The rows of the choices. The day is compared as text.
@@ -78,9 +90,8 @@ QString frmReportMilkCollections::Selection() const
 
 void frmReportMilkCollections::cmdReport_Click()
 {
-    if (!HoldDate())
+    if (!HoldDate() || !HoldAnimal())
         return;
-    ComboAnimal_LostFocus();
     Transaction staging(gCn);
     gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
     gCn.Execute(Selection());

@@ -34,6 +34,7 @@ private:
     void cmdExit_Click();
 
     bool HoldDate();
+    bool HoldAnimal();
     QString Selection() const;
     void LayOut();
 };

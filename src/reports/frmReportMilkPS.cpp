@@ -13,6 +13,7 @@ frmReportMilkPS::frmReportMilkPS() : Screen("frmReportMilkPS")
     When(OptionCollections.Click, &frmReportMilkPS::Option_Click);
     When(OptionSales.Click, &frmReportMilkPS::Option_Click);
     When(ComboAccountName.GotFocus, &frmReportMilkPS::ComboAccountName_GotFocus);
+    When(ComboAccountName.LostFocus, &frmReportMilkPS::ComboAccountName_LostFocus);
     When(cmdReport.Click, &frmReportMilkPS::cmdReport_Click);
     When(cmdExit.Click, &frmReportMilkPS::cmdExit_Click);
     SetTitle(Shivaji(u" dUQa saMklana À ivaËI irpaoT-"));
@@ -68,6 +69,11 @@ void frmReportMilkPS::ListAccounts()
 void frmReportMilkPS::ComboAccountName_GotFocus()
 {
     SendKeys(QStringLiteral("%{Down}"));
+}
+
+void frmReportMilkPS::ComboAccountName_LostFocus()
+{
+    ComboAccountName.TakeMatch();
 }
 
 void frmReportMilkPS::cmdReport_Click()

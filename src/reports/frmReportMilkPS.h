@@ -33,6 +33,7 @@ private:
     void maskToDate_LostFocus();
     void Option_Click();
     void ComboAccountName_GotFocus();
+    void ComboAccountName_LostFocus();
     void cmdReport_Click();
     void cmdExit_Click();
 

@@ -84,15 +84,21 @@ void frmAutoSettings::Load()
 
 bool frmAutoSettings::KeyDown(const QKeyEvent& key)
 {
-    return SSTab.TurnPage(key) || GoToSalesPrint(key);
+    return SSTab.TurnPage(key) || GoBeyondThePageTurn(key);
 }
 
-// The rate before it leads to the button that saves, so the print of the sales has a key of its own.
-bool frmAutoSettings::GoToSalesPrint(const QKeyEvent& key)
+// The last figure of a page leads on to another page, so what stands below it has a key of its own: the rest
+// of the payments, and the print of the sales.
+bool frmAutoSettings::GoBeyondThePageTurn(const QKeyEvent& key)
 {
-    if (key.key() != Qt::Key_Down || SSTab.Tab() != Sale || ComboMSRPrintStatus.HasFocus())
+    if (key.key() != Qt::Key_Down)
         return false;
-    ComboMSRPrintStatus.SetFocus();
+    if (SSTab.Tab() == Sale && !ComboMSRPrintStatus.HasFocus())
+        ComboMSRPrintStatus.SetFocus();
+    else if (SSTab.Tab() == Payment && (SSTab.HasFocus() || txtCow.HasFocus() || txtBuff.HasFocus()))
+        cmbFatRateType.SetFocus();
+    else
+        return false;
     return true;
 }
 
@@ -104,6 +110,7 @@ void frmAutoSettings::Escape()
 
 void frmAutoSettings::SSTab_Click()
 {
+    ShowTabGuide();
     if (SSTab.Tab() == Collection)
         ComboAutoLiters.SetFocus();
     else if (SSTab.Tab() == Payment)

@@ -80,7 +80,8 @@ private:
     QLayout* PaymentPage();
     QLayout* SalePage();
     void SetGuides();
-    bool GoToSalesPrint(const QKeyEvent& key);
+    void ShowTabGuide();
+    bool GoBeyondThePageTurn(const QKeyEvent& key);
 
     void SSTab_Click();
     void CheckCNP_Click();

@@ -176,7 +176,20 @@ void frmAutoSettings::SetGuides()
         Shivaji(u"  1Á– 1 idvasa    2Á– 7 idvasa    3Á– 10 idvasa    4Á– 15 idvasa    5Á– 1 maihnaa"));
     ComboMSRPrintStatus.SetGuide(Shivaji(u"  1–saovh  2–saovh va sËIna  3–saovh va ip`MT"));
     cmdReceipt.SetGuide(Plain(u"Enter : नमुना पावती"));
-    SSTab.SetGuide(Plain(u"Enter : दर    ↓ : विक्री पावती/प्रिंट"));
+    txtCow.SetGuide(Plain(u"↓ : दराचा प्रकार व पुढील प्रश्न"));
+    txtBuff.SetGuide(Plain(u"Enter : दूध विक्री    ↓ : दराचा प्रकार व पुढील प्रश्न"));
     for (NumberField* rate : {&txtCowSaleRate, &txtBuffSaleRate, &txtMixSaleRate})
         rate->SetGuide(Plain(u"↓ : विक्री पावती/प्रिंट"));
+}
+
+// The strip holds the focus on after the sale page is turned to; on the others where it is pressed once more.
+void frmAutoSettings::ShowTabGuide()
+{
+    const Caption guides[] = {Caption(), Plain(u"Enter : पेमेंट कालावधी    ↓ : दराचा प्रकार व पुढील प्रश्न"),
+        Plain(u"Enter : दर    ↓ : विक्री पावती/प्रिंट")};
+    SSTab.SetGuide(guides[SSTab.Tab()]);
+    if (!SSTab.HasFocus())
+        return;
+    lblMessage.SetCaption(SSTab.Guide());
+    lblMessage.SetVisible(!SSTab.Guide().IsEmpty());
 }

@@ -64,8 +64,8 @@ void frmAutoSettings::ShowSettings(const Recordset& settings)
     ComboMSRPrintStatus.SetText(settings[u"MSRPrintStatus"].Text());
 }
 
-// The row goes before anything is checked, and stays away if a required field is empty: the screens read
-// the lack of settings as they do a new society's.
+// The row goes before anything is checked, and stays away if a required field is empty: until a later save
+// the screens then read every setting as empty.
 void frmAutoSettings::CmdSave_Click()
 {
     Transaction save(gCn);

@@ -184,6 +184,144 @@ TEST_P(CounterDevicesTest, TheScaleCanBeSwitchedOffWhileTheLitresWaitForIt)
     });
 }
 
+// A switch is pressed from a field that doesn't wait for its device
+
+TEST_P(CounterDevicesTest, ATypedNumberShowsItsDeliveryBeforeItCanBeOverwritten)
+{
+    AddMorningDelivery(3);
+    InTheShift([this](Clerk& clerk) {
+        Type(clerk, "3");
+        clerk.Press(QStringLiteral("cmdAutoLiter"));
+        clerk.Press(QStringLiteral("cmdAutoLiter"));
+        EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "baMd") << "on, and off again";
+        EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "3");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "rama");
+        EXPECT_EQ(Reads(clerk, "txtLiters"), Litres("5.00"));
+        clerk.Press(QStringLiteral("txtCollectionNo"));
+        Type(clerk, "{HOME}+{END}9");
+        clerk.Press(QStringLiteral("cmdAutoFat"));
+        EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "4") << "there is no such row";
+        clerk.Press(QStringLiteral("txtMemberNo"));
+        Type(clerk, "{HOME}+{END}2{ENTER}2{ENTER}8{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(Books(), Of({"3|1|rama|gaaya|5|4.5|35|175", "4|2|saIta|mhOsa|2|8|49|98"}));
+    });
+}
+
+TEST_P(CounterDevicesTest, AFieldThatWaitsForNoDeviceIsAskedBeforeASwitchIsTurned)
+{
+    for (const auto& [keys, field] :
+        std::initializer_list<std::pair<const char*, const char*>>{{"31022026", "maskDate"},
+            {"{ENTER}", "txtTime"}, {"{ENTER}1{ENTER}0", "txtCollectionNo"},
+            {"{ENTER}1{ENTER}{ENTER}3{ENTER}", "txtAnimal"}, {"{ENTER}1{ENTER}{ENTER}1{ENTER}0", "txtLiters"},
+            {"{ENTER}1{ENTER}{ENTER}1{ENTER}2{ENTER}0", "txtFat"},
+            {"{ENTER}1{ENTER}{ENTER}1{ENTER}2{ENTER}30.1", "txtFat"},
+            {"{ENTER}1{ENTER}{ENTER}1{ENTER}2{ENTER}4.5{ENTER}60.01", "txtRate"}})
+        for (const char* button : {"cmdAutoLiter", "cmdAutoFat"})
+            AtThisCounter([&](Clerk& clerk) {
+                Type(clerk, keys);
+                ASSERT_EQ(Focus(clerk), field);
+                clerk.Press(QString::fromLatin1(button));
+                EXPECT_EQ(Focus(clerk), field) << keys;
+                EXPECT_EQ(Reads(clerk, button), "baMd") << keys;
+            });
+}
+
+TEST_P(CounterDevicesTest, AnEmptyNameIsAskedForBeforeASwitchIsTurned)
+{
+    InTheShift([](Clerk& clerk) {
+        Type(clerk, "{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
+        clerk.Press(QStringLiteral("cmdAutoFat"));
+        EXPECT_EQ(clerk.Message(), QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra"));
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
+        EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "baMd");
+    });
+}
+
+TEST_P(CounterDevicesTest, LitresTypedBesideASilentScaleAreTakenWhenItIsSwitchedOff)
+{
+    Devices("ELECTRO", "haoya", "naahI");
+    InTheShift([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}4");
+        clerk.Press(QStringLiteral("cmdAutoLiter"));
+        EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "baMd");
+        EXPECT_EQ(Reads(clerk, "txtLiters"), Litres("4.00"));
+    });
+}
+
+TEST_P(CounterDevicesTest, AFatTypedBesideASilentTesterIsPricedWhenItIsSwitchedOff)
+{
+    Devices("NO", "naahI", "haoya");
+    InTheShift([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}2{ENTER}4.5");
+        clerk.Press(QStringLiteral("cmdAutoFat"));
+        EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "baMd");
+        EXPECT_EQ(Reads(clerk, "txtRate"), "35.00");
+        EXPECT_EQ(Reads(clerk, "txtAmount"), "70.00");
+    });
+}
+
+TEST_P(CounterDevicesTest, AFatAboveThirtyIsRefusedThoughItsTesterIsToBeSwitchedOff)
+{
+    Devices("NO", "naahI", "haoya");
+    InTheShift([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}2{ENTER}42");
+        clerk.Press(QStringLiteral("cmdAutoFat"));
+        EXPECT_EQ(Focus(clerk), "txtFat");
+        EXPECT_EQ(Reads(clerk, "txtFat"), "42.0");
+        EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "sau$");
+    });
+}
+
+TEST_P(CounterDevicesTest, AFieldThatWaitsIsLeftForTheSwitchOfItsOwnDeviceOnly)
+{
+    Devices("NO", "haoya", "haoya");
+    InTheShift([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}");
+        clerk.Press(QStringLiteral("cmdAutoFat"));
+        EXPECT_EQ(Focus(clerk), "txtLiters");
+        EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "sau$");
+        Type(clerk, "2{ENTER}");
+        clerk.Press(QStringLiteral("cmdAutoLiter"));
+        EXPECT_EQ(Focus(clerk), "txtFat");
+        EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "sau$");
+    });
+}
+
+TEST_P(CounterDevicesTest, ARowWhoseLitresWereEmptiedForTheSwitchIsNotSavedWithoutLitres)
+{
+    AddMorningDelivery(1);
+    Devices("ACE CORP", "haoya", "naahI");
+    Reply("", "+000.0\r\n");
+    InTheShift([this](Clerk& clerk) {
+        Type(clerk, "1{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtLiters");
+        clerk.Press(QStringLiteral("cmdAutoLiter"));
+        EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "baMd");
+        clerk.Press(QStringLiteral("cmdGo"));
+        EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|5|4.5|35|175"}));
+    });
+}
+
+TEST_P(CounterDevicesTest, ARowWhoseFatWasEmptiedForTheSwitchIsNotSavedWithoutAFat)
+{
+    AddMorningDelivery(1);
+    Devices("NO", "naahI", "haoya");
+    InTheShift([this](Clerk& clerk) {
+        Type(clerk, "1{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtFat");
+        Type(clerk, "0");
+        clerk.Press(QStringLiteral("cmdAutoFat"));
+        EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "baMd");
+        clerk.Press(QStringLiteral("cmdGo"));
+        EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|5|4.5|35|175"}));
+        clerk.Press(QStringLiteral("txtFat"));
+        Type(clerk, "{HOME}+{END}8{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtRate");
+    });
+}
+
 TEST_P(CounterDevicesTest, TheDeviceThatDoesBothGivesLitresWithTheDecimalsOfTheCounter)
 {
     Devices("MCS", "haoya", "haoya");

@@ -1,4 +1,4 @@
-#include "CounterTest.h"
+#include "EachCounterTest.h"
 
 #include "ScreenDirectory.h"
 
@@ -10,55 +10,95 @@ public:
     explicit frmOpened(const char* name) : Screen(name) { }
 };
 
-class CounterKeysTest : public CounterTest {
+void Register(const char* name)
+{
+    ScreenDirectory::Add(QString::fromLatin1(name), [name] { return std::make_unique<frmOpened>(name); });
+}
+
+// The keys that work anywhere on a counter.
+class EachCounterKeysTest : public EachCounterTest {
 protected:
-    static void Register(const char* name)
+    ~EachCounterKeysTest() override
     {
-        ScreenDirectory::Add(QString::fromLatin1(name), [name] { return std::make_unique<frmOpened>(name); });
+        for (const QString& name : {QStringLiteral("frmMembers"), QStringLiteral("frmUchalVouchers")})
+            ScreenDirectory::Add(name, {});
     }
 
+    // With 5 litres of member 1 typed and not yet left.
+    void AtTheLitres(const std::function<void(Clerk&)>& script)
+    {
+        InTheShift([&](Clerk& clerk) {
+            Type(clerk, "{ENTER}1{ENTER}5");
+            script(clerk);
+        });
+    }
+
+    static void ExpectTheLitres(Clerk& clerk)
+    {
+        EXPECT_EQ(clerk.ScreenName(), QLatin1String(GetParam()));
+        EXPECT_EQ(Focus(clerk), "txtLiters");
+        EXPECT_EQ(Reads(clerk, "txtLiters"), "5");
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(AtEach, EachCounterKeysTest, Counters(), CounterName);
+
+TEST_P(EachCounterKeysTest, F2StartsTheCalculatorInANormalWindow)
+{
+    AtTheLitres([this](Clerk& clerk) {
+        Type(clerk, "{F2}");
+        EXPECT_EQ(TheCalculator.Started, Of({"C:\\Tarvel01\\Vetrolan\\calc.EXE normal"}));
+        ExpectTheLitres(clerk);
+    });
+}
+
+TEST_P(EachCounterKeysTest, F3OpensTheMembersAndTheEntryStays)
+{
+    Register("frmMembers");
+    AtTheLitres([](Clerk& clerk) {
+        Type(clerk, "{F3}");
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
+        Type(clerk, "{ESC}");
+        ExpectTheLitres(clerk);
+    });
+}
+
+TEST_P(EachCounterKeysTest, F6OpensTheVouchersAndTheEntryStays)
+{
+    Register("frmUchalVouchers");
+    AtTheLitres([](Clerk& clerk) {
+        Type(clerk, "{F6}");
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmUchalVouchers"));
+        Type(clerk, "{ESC}");
+        ExpectTheLitres(clerk);
+    });
+}
+
+TEST_P(EachCounterKeysTest, F12OpensTheKeyboardTutorAndTheEntryStays)
+{
+    AtTheLitres([](Clerk& clerk) {
+        Type(clerk, "{F12}");
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
+        Type(clerk, "{ESC}");
+        ExpectTheLitres(clerk);
+    });
+}
+
+TEST_P(EachCounterKeysTest, AScreenThatIsNotThereIsAMessageThatNamesItsEntry)
+{
+    AtTheLitres([this](Clerk& clerk) {
+        Type(clerk, "{F6}");
+        ASSERT_EQ(TheBox.Shown.size(), 1);
+        EXPECT_TRUE(TheBox.Shown[0].contains(Seen(QStringLiteral("]cala naaoMd"))));
+        ExpectTheLitres(clerk);
+    });
+}
+
+class CounterKeysTest : public CounterTest {
+protected:
     static constexpr const char* MemberLabels[] = {"lblF9", "lblSearch", "lblF7", "lblMilk"};
     static constexpr const char* DeleteLabels[] = {"lblF10", "lblDelete"};
 };
-
-TEST_F(CounterKeysTest, F2StartsTheCalculatorInANormalWindow)
-{
-    InTheMorning([this](Clerk& clerk) {
-        Type(clerk, "{F2}");
-        EXPECT_EQ(TheCalculator.Started, Of({"C:\\Tarvel01\\Vetrolan\\calc.EXE normal"}));
-        EXPECT_EQ(Focus(clerk), "txtCollectionNo");
-    });
-}
-
-TEST_F(CounterKeysTest, F12OpensTheKeyboardTutor)
-{
-    AtTheCounter([](Clerk& clerk) {
-        Type(clerk, "{F12}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
-    });
-}
-
-TEST_F(CounterKeysTest, AScreenThatIsNotThereIsAMessageThatNamesItsEntry)
-{
-    InTheMorning([this](Clerk& clerk) {
-        Type(clerk, "{ENTER}{F6}");
-        ASSERT_EQ(TheBox.Shown.size(), 1);
-        EXPECT_TRUE(TheBox.Shown[0].contains(Seen(QStringLiteral("]cala naaoMd"))));
-        EXPECT_EQ(Focus(clerk), "txtMemberNo");
-    });
-}
-
-TEST_F(CounterKeysTest, F3OpensTheMembersAndTheEntryStays)
-{
-    Register("frmMembers");
-    InTheMorning([](Clerk& clerk) {
-        Type(clerk, "{ENTER}1{ENTER}5{F3}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
-        Type(clerk, "{ESC}");
-        EXPECT_EQ(Focus(clerk), "txtLiters");
-        EXPECT_EQ(Reads(clerk, "txtLiters"), "5");
-    });
-}
 
 TEST_F(CounterKeysTest, TheKeysOfTheMembersNumberAreShownThereOnly)
 {

@@ -2,6 +2,7 @@
 
 #include "Sql.h"
 
+#include <QHeaderView>
 #include <QTableView>
 
 void CounterTest::AddDelivery(const QString& date, const QString& shift, int number, int member,
@@ -36,6 +37,29 @@ std::string CounterTest::Heads(const DataGrid& grid)
     for (int column = 0; column < model.columnCount(); ++column)
         heads.append(model.headerData(column, Qt::Horizontal).toString());
     return heads.join(u'|').toStdString();
+}
+
+std::vector<int> CounterTest::Widths(const DataGrid& grid)
+{
+    const auto& view = *static_cast<QTableView*>(grid.Widget());
+    std::vector<int> widths;
+    for (int column = 0; column < view.model()->columnCount(); ++column)
+        if (view.horizontalHeader()->sectionResizeMode(column) != QHeaderView::Stretch)
+            widths.push_back(view.columnWidth(column));
+    return widths;
+}
+
+std::string CounterTest::Alignments(const DataGrid& grid)
+{
+    const QAbstractItemModel& model = *static_cast<QTableView*>(grid.Widget())->model();
+    const auto isRight = [](const QVariant& alignment) { return (alignment.toInt() & Qt::AlignRight) != 0; };
+    std::string sides;
+    for (int column = 0; column < model.columnCount(); ++column) {
+        const bool head = isRight(model.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole));
+        const bool cell = isRight(model.data(model.index(0, column), Qt::TextAlignmentRole));
+        sides += head != cell ? '?' : head ? 'r' : 'l';
+    }
+    return sides;
 }
 
 QStringList CounterTest::Of(std::initializer_list<const char*> lines)

@@ -77,6 +77,12 @@ protected:
     // The captions of a grid's columns, the same way.
     static std::string Heads(const DataGrid& grid);
 
+    // The widths of its columns but the one that takes what is left, in pixels.
+    static std::vector<int> Widths(const DataGrid& grid);
+
+    // 'r' for each column whose head and cells stand at the right, 'l' for each other.
+    static std::string Alignments(const DataGrid& grid);
+
     static bool Shows(Clerk& clerk, const char* label) { return !LabelOf(clerk, label).isHidden(); }
 
     // From the number field through the line and back to it: a member with one animal.

@@ -23,13 +23,6 @@ protected:
         After("%d1{ENTER}{ENTER}15042026{ENTER}1{ENTER}5{ENTER}", script);
     }
 
-    static void Change(Clerk& clerk, const char* field, const char* keys)
-    {
-        clerk.Press(QString::fromLatin1(field));
-        Type(clerk, "{HOME}+{END}");
-        Type(clerk, keys);
-    }
-
     // The row that is keyed by WithAPricedRow, or changed by ChangingARow.
     QStringList Figures()
     {
@@ -59,7 +52,7 @@ TEST_F(DailyCollectionPricingTest, LitresThatCameAfterTheAmountArePricedBeforeTh
 TEST_F(DailyCollectionPricingTest, AnotherDayOrAnimalIsPricedBeforeItIsSaved)
 {
     for (const auto& [field, keys] :
-        {std::pair("MasKCollectionDate", "17042026"), std::pair("txtAnimal", "2")}) {
+        {std::pair("MasKCollectionDate", "17042026{ENTER}{ENTER}"), std::pair("txtAnimal", "2")}) {
         WithAPricedRow(3, [&, field = field, keys = keys](Clerk& clerk) {
             Change(clerk, field, keys);
             Type(clerk, "%s");

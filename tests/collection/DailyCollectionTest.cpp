@@ -450,6 +450,36 @@ TEST_F(DailyCollectionTest, ARowEnteredHereIsNotInTheCountersCopyUntilItsShiftIs
     });
 }
 
+TEST_F(DailyCollectionTest, ACounterThatStaysOpenDoesNotSeeARowEnteredHereUntilItsShiftIsLeftAgain)
+{
+    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 4, 2, QStringLiteral("saIta"),
+        QStringLiteral("mhOsa"), 2, 8, 49, 98);
+    InTheMorning([this](Clerk& clerk) {
+        const QStringList before = Copy();
+        OverTheCounter(
+            clerk, "%n1{ENTER}{ENTER}15042026{ENTER}1{ENTER}{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}{ESC}");
+        ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+        ASSERT_EQ(Books().size(), 2);
+        const auto expectUnseen = [&](const char* when) {
+            EXPECT_EQ(Copy(), before) << when;
+            EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 1) << when;
+            EXPECT_EQ(Label(clerk, "lblTotalCowLiters"), "0.000") << when;
+        };
+        expectUnseen("as the counter comes back");
+        Type(clerk, "5{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "") << "number 5 is no row of the shift that is open";
+        clerk.Press(QStringLiteral("txtCollectionNo"));
+        expectUnseen("after a look at its number");
+        clerk.Press(QStringLiteral("txtTime"));
+        expectUnseen("before the shift is left");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Copy(), Books());
+        EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 2);
+        EXPECT_EQ(Label(clerk, "lblTotalCowLiters"), "5.000");
+        EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "6");
+    });
+}
+
 TEST_F(DailyCollectionTest, TheCountersSeriesContinuesFromANumberMadeHere)
 {
     AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("saMQyaakaL"), 4, 2, QStringLiteral("saIta"),
@@ -482,4 +512,95 @@ TEST_F(DailyCollectionTest, AStatementThatFailsChangesNothing)
     AddingFor(5, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}"); });
     ASSERT_TRUE(Failure);
     EXPECT_TRUE(Books().isEmpty());
+}
+
+// The number of a new row
+
+TEST_F(DailyCollectionTest, ADayOrShiftThatCameAfterTheNumberGetsItsOwnBeforeTheRowIsSaved)
+{
+    AddDelivery(QStringLiteral("18/04/2026"), QStringLiteral("sakaL"), 4, 2, QStringLiteral("saIta"),
+        QStringLiteral("mhOsa"), 2, 8, 49, 98);
+    AddingFor(1, [this](Clerk& clerk) {
+        Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}");
+        for (int step = 0; step < 8; ++step)
+            Type(clerk, "+{TAB}");
+        ASSERT_EQ(Focus(clerk), "MasKCollectionDate");
+        Type(clerk, "18042026%s");
+        EXPECT_EQ(Focus(clerk), "cmbCollectionTime");
+        EXPECT_EQ(Books().size(), 1);
+        Type(clerk, "%s");
+        EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "5");
+        EXPECT_EQ(Focus(clerk), "txtFat") << "the other day has its own rate";
+        Type(clerk, "{ENTER}{ENTER}");
+        EXPECT_EQ(
+            Days(), Of({"18/04/2026|sakaL|4|2|mhOsa|2|8|49|98", "18/04/2026|sakaL|5|1|gaaya|5|4.5|35|175"}));
+    });
+}
+
+TEST_F(DailyCollectionTest, ATypedNumberStandsForTheDayThatItWasTypedFor)
+{
+    AddingFor(1, [this](Clerk& clerk) {
+        Type(clerk, "40{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}");
+        EXPECT_EQ(Days(), Of({"15/04/2026|sakaL|40|1|gaaya|5|4.5|35|175"}));
+        EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "1");
+        Type(clerk, "1");
+        Change(clerk, "MasKCollectionDate", "20042026");
+        Change(clerk, "txtCollectionNo", "7{ENTER}{ENTER}6{ENTER}4.5{ENTER}{ENTER}");
+        ASSERT_EQ(Focus(clerk), "txtLiters");
+        EXPECT_EQ(Days(),
+            Of({"15/04/2026|sakaL|40|1|gaaya|5|4.5|35|175", "20/04/2026|sakaL|7|1|gaaya|6|4.5|35|210"}));
+        Type(clerk, "1");
+        Change(clerk, "MasKCollectionDate", "22042026");
+        Change(clerk, "txtLiters", "5{ENTER}4.5{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "cmbCollectionTime");
+        EXPECT_EQ(Books().size(), 2);
+    });
+}
+
+TEST_F(DailyCollectionTest, TheDayOfAPickedRowHasThatRowsNumberAndAnotherDayHasNot)
+{
+    AddMorningDelivery(5);
+    Adding([](Clerk& clerk) {
+        Type(clerk, "1{F5}{ENTER}{ENTER}");
+        ASSERT_EQ(Reads(clerk, "txtLiters"), "5");
+        Type(clerk, "%s");
+        EXPECT_NE(Focus(clerk), "cmbCollectionTime") << "its number is its own";
+    });
+    EXPECT_EQ(TheBox.Shown, Of({"Duplicate record not allowed"}));
+    Adding([this](Clerk& clerk) {
+        Type(clerk, "1{F5}{ENTER}{ENTER}");
+        Change(clerk, "MasKCollectionDate", "17042026%s");
+        EXPECT_EQ(Focus(clerk), "cmbCollectionTime");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "1");
+        EXPECT_EQ(Books().size(), 1);
+    });
+}
+
+TEST_F(DailyCollectionTest, ANumberBeyondTheCountersIsNotSaved)
+{
+    for (const char* number : {"0", "32767", "99999", "123456"}) {
+        AddingFor(1, [&](Clerk& clerk) {
+            Type(clerk, number);
+            Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}");
+            EXPECT_EQ(Focus(clerk), "txtCollectionNo") << number;
+            EXPECT_EQ(Label(clerk, "lblGuide"), "1 ते 32766");
+            EXPECT_EQ(Reads(clerk, "txtCollectionNo"), number);
+            EXPECT_TRUE(Books().isEmpty()) << number;
+        });
+    }
+    AddingFor(1, [](Clerk& clerk) { Type(clerk, "32766{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}"); });
+    EXPECT_EQ(Days(), Of({"15/04/2026|sakaL|32766|1|gaaya|5|4.5|35|175"}));
+    InTheMorning([](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "32767"); });
+    EXPECT_FALSE(Failure) << "the counter opens the shift";
+}
+
+TEST_F(DailyCollectionTest, ANumberBeyondTheCountersThatIsInTheBooksCanBeDeletedHere)
+{
+    AddMorningDelivery(123456);
+    After("%k1{ENTER}{ENTER}15042026{ENTER}1{ENTER}123456{ENTER}", [this](Clerk& clerk) {
+        EXPECT_EQ(Focus(clerk), "cmdDelete");
+        Type(clerk, "{ENTER}");
+        EXPECT_TRUE(Books().isEmpty());
+    });
 }

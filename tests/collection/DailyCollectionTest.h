@@ -30,6 +30,24 @@ protected:
         });
     }
 
+    // Goes to a field with the mouse and types in place of what it holds.
+    static void Change(Clerk& clerk, const char* field, const char* keys)
+    {
+        clerk.Press(QString::fromLatin1(field));
+        Type(clerk, "{HOME}+{END}");
+        Type(clerk, keys);
+    }
+
+    // Types keys on the screen opened over the one that is open, until the last of them has closed it.
+    static void OverTheCounter(Clerk& clerk, const char* keys)
+    {
+        clerk.Do([] {
+            frmDailyCollection office;
+            office.ShowModal();
+        });
+        Type(clerk, keys);
+    }
+
     // All rows of the books, each with its day and shift.
     QStringList Days()
     {

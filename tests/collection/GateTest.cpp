@@ -2,6 +2,8 @@
 
 #include "ScreenDirectory.h"
 
+#include <QCheckBox>
+
 namespace {
 
 class frmAbsent final : public Screen {
@@ -81,6 +83,16 @@ TEST_F(GateTest, HasNoMemberFrameAndF7DoesNothing)
             EXPECT_EQ(clerk.Top().Find(QString::fromLatin1(control)), nullptr) << control;
         Type(clerk, "{ENTER}{ENTER}");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "rama") << "the number is checked on leaving it";
+    });
+}
+
+TEST_F(GateTest, ItsButtonsAndItsBoxHaveTheirCaptions)
+{
+    AtTheGate([](Clerk& clerk) {
+        EXPECT_EQ(Reads(clerk, "Command1"), "&baahor");
+        EXPECT_EQ(Reads(clerk, "Command3"), " dUQa saMklana nasaNaaro saBaasad") << "with a blank before it";
+        const auto& box = *static_cast<QCheckBox*>(clerk.Top().Find(u"chkSerachMode")->Widget());
+        EXPECT_EQ(box.text(), Seen(QStringLiteral("A^DvhansD saca-")));
     });
 }
 

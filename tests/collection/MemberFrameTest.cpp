@@ -28,6 +28,29 @@ TEST_F(MemberFrameTest, F7OpensItOnTheFirstDateAndTheLineStaysAsItWas)
     });
 }
 
+TEST_F(MemberFrameTest, TheListHasItsCaptionsAndWidths)
+{
+    InTheFrame([](Clerk& clerk) {
+        Ask(clerk, "3");
+        EXPECT_EQ(Heads(Milk(clerk)), "अ.क्र.|दिनांक|वेळ|दूध|लिटर्स|फॅट|दर|रक्कम");
+        EXPECT_EQ(Widths(Milk(clerk)), (std::vector<int>{60, 86, 46, 93, 80, 80, 86}))
+            << "900 twips are 60 pixels; the half of the day has what is left";
+        EXPECT_EQ(Alignments(Milk(clerk)), "llllrrrr");
+    });
+}
+
+TEST_F(MemberFrameTest, ItsTitleAndItsButtonsHaveTheirCaptions)
+{
+    InTheFrame([](Clerk& clerk) {
+        EXPECT_EQ(
+            LabelOf(clerk, "Label28").text(), Seen(QStringLiteral("]%padkacao vaOyai@tk dUQa saMklana")));
+        EXPECT_EQ(Reads(clerk, "cmdGoOn"), ">>");
+        EXPECT_EQ(Reads(clerk, "Command1"), "&irpaoT-");
+        EXPECT_EQ(Reads(clerk, "Command2"), "&baahor");
+        EXPECT_EQ(Reads(clerk, "Command3"), "dUQa saMklana nasaNaaro saBaasad");
+    });
+}
+
 TEST_F(MemberFrameTest, ANumberOrANameFindsTheMember)
 {
     InTheFrame([](Clerk& clerk) {

@@ -131,6 +131,42 @@ TEST_F(ReceiptTest, AnUnknownTypeKeepsTheTemplateOfTheSlipBefore)
             run.fileName, QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkReceiptShenoli Epson LX 300.rpt"));
 }
 
+TEST_F(ReceiptTest, AnUnknownStatusPrintsWhereTheSlipBeforeWent)
+{
+    const std::pair<const char*, CounterReport::Destination> slips[] = {
+        {"kahI", CounterReport::Destination::Window}, // the first of the day goes to the screen
+        {"haoya", CounterReport::Destination::Printer},
+        {"", CounterReport::Destination::Printer},
+        {"kahI", CounterReport::Destination::Printer},
+        {"f@t s\xCBIna", CounterReport::Destination::Window},
+        {"kahI", CounterReport::Destination::Window},
+    };
+    Set("RepeatCollection", "haoya");
+    InTheMorning([&](Clerk& clerk) {
+        for (const auto& [status, destination] : slips) {
+            PrintTo(status);
+            Deliver(clerk, 1, "2", "4.5");
+        }
+    });
+    ASSERT_EQ(Printed.size(), std::size(slips));
+    for (std::size_t at = 0; at < Printed.size(); ++at)
+        EXPECT_EQ(Printed[at].destination, slips[at].second) << at;
+}
+
+// Books that can't be opened for the slips tell whether they were to be opened.
+TEST_F(ReceiptTest, TheFirstSlipIsMadeReadyUnlessTheSettingsWantNone)
+{
+    gAppState.gDbPassword = QStringLiteral("wrong");
+    for (const char* status : {"haoya", "", "kahI"}) {
+        PrintTo(status);
+        AtTheCounter([](Clerk&) {});
+        EXPECT_TRUE(Failure) << status;
+    }
+    PrintTo(" naahI ");
+    AtTheCounter([](Clerk& clerk) { EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections")); });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(ReceiptTest, ARowWithoutACompanyNeverReachesTheSlip)
 {
     PrintTo("haoya");

@@ -21,13 +21,21 @@ TEST_F(SearchCollectionsTest, OpensFromTheMenuWithTheWorkingDayAndNoRows)
     });
 }
 
-TEST_F(SearchCollectionsTest, TheTickComesOnceAndLeavesTheClerkAlone)
+TEST_F(SearchCollectionsTest, TheTickSwitchesItselfOffAndLeavesTheClerkWhereHeIs)
 {
     On<frmSearchCollections>([](Clerk& clerk) {
-        EXPECT_TRUE(clerk.On<frmSearchCollections>().TimerStart);
-        Type(clerk, "{ENTER}1");
+        auto& screen = clerk.On<frmSearchCollections>();
+        clerk.Do([&] {
+            EXPECT_TRUE(screen.TimerStart) << "it has yet to tick";
+            EXPECT_EQ(screen.FocusHolder(), screen.Find(u"maskDate")) << "he is at the date before it";
+            screen.Find(u"txtTime")->SetFocus();
+        });
         AwaitTick(clerk);
+        EXPECT_EQ(Focus(clerk), "txtTime");
+        Type(clerk, "1");
         EXPECT_EQ(Reads(clerk, "txtTime"), "sakaL");
+        EXPECT_TRUE(CanEnter(clerk, "txtMemberNo")) << "the date's own rules were not run again";
+        EXPECT_FALSE(screen.TimerStart);
     });
 }
 

@@ -51,25 +51,31 @@ TEST_F(ShiftViewTest, OpeningAShiftShowsItsRowsWithTheNewestOnTop)
     });
 }
 
-TEST_F(ShiftViewTest, TheListHasItsCaptionsAndWidths)
+TEST_F(ShiftViewTest, TheListHasItsCaptionsAndWidthsAtBothCounters)
 {
-    InTheMorning([](Clerk& clerk) {
-        const auto* view = static_cast<QTableView*>(Inwards(clerk).Widget());
-        std::string captions;
-        std::string widths;
-        for (int column = 0; column < view->model()->columnCount(); ++column) {
-            captions += view->model()->headerData(column, Qt::Horizontal).toString().toStdString() + '|';
-            if (column < 7)
-                widths += std::to_string(view->columnWidth(column)) + '|';
-        }
-        EXPECT_EQ(captions, "संकलन क्र.|मेम्बर नंबर|मेम्बरचे नांव|दूध|लिटर्स|फॅट|दर|रक्कम|");
-        EXPECT_EQ(widths, "60|66|206|46|93|80|80|");
-        EXPECT_GE(view->columnWidth(7), 1300 / 15) << "the amount has what is left";
-        for (int column = 4; column < 8; ++column)
-            EXPECT_TRUE(Qt::Alignment(
-                view->model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt())
-                            .testFlag(Qt::AlignRight));
-    });
+    AddMorningDelivery(1);
+    const auto expect = [](Clerk& clerk) {
+        const DataGrid& list = Inwards(clerk);
+        EXPECT_EQ(Heads(list), "संकलन क्र.|मेम्बर नंबर|मेम्बरचे नांव|दूध|लिटर्स|फॅट|दर|रक्कम");
+        EXPECT_EQ(Widths(list), (std::vector<int>{60, 66, 206, 46, 93, 80, 80})) << "900 twips are 60 pixels";
+        EXPECT_GE(static_cast<QTableView*>(list.Widget())->columnWidth(7), 1300 / 15)
+            << "it has what is left";
+        EXPECT_EQ(Alignments(list), "llllrrrr");
+    };
+    InTheMorning(expect);
+    AtTheGate(expect);
+}
+
+TEST_F(ShiftViewTest, TheTotalsHaveTheirCaptionsAtBothCounters)
+{
+    const auto expect = [](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblTotalLitersTitle").text(), Seen(QStringLiteral("¹ ekUNa ilaTsa- ¹")));
+        EXPECT_EQ(Label(clerk, "lblTotalLitersC"), "गाय");
+        EXPECT_EQ(Label(clerk, "lblTotalLitersB"), "म्हैस");
+        EXPECT_EQ(LabelOf(clerk, "Label4").text(), Seen(QStringLiteral("¹ sarasarI f^T ¹")));
+    };
+    InTheMorning(expect);
+    AtTheGate(expect);
 }
 
 TEST_F(ShiftViewTest, AnAmountOfLakhsIsNotCutOff)

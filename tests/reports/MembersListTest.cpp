@@ -49,6 +49,23 @@ TEST_F(MembersListTest, OneAreaHoldsItsOwn)
     EXPECT_EQ(Staged("%2{ENTER}kraD%i"), "Area|kraD|1|Anata|kraD|gaaya");
 }
 
+TEST_F(MembersListTest, AnAreaThatIsBegunIsTheOneThatTheListStandsAt)
+{
+    EXPECT_EQ(Staged("%2{ENTER}kr%i"), "Area|kraD|1|Anata|kraD|gaaya");
+    EXPECT_EQ(Staged("%2{ENTER}m{ENTER}{ENTER}"), "Area|masaUr|2|gaNaoSa|masaUr|mhOsa");
+    EXPECT_EQ(Staged("%2{ENTER} kraD %i"), "Area|kraD|1|Anata|kraD|gaaya");
+    EXPECT_EQ(Staged("%2{ENTER}krm%i"), "") << "no area begins like this";
+}
+
+TEST_F(MembersListTest, ApostrophesAreDroppedFromTheArea)
+{
+    On<frmReportMembersList>([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%2{ENTER}k'r"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboArea")), QStringLiteral("kr"));
+    });
+    EXPECT_EQ(Staged("%2{ENTER}'kraD'%i"), "Area|kraD|1|Anata|kraD|gaaya");
+}
+
 TEST_F(MembersListTest, AllAreasHoldEachMemberUnderItsOwn)
 {
     const char* all = "Area|kraD|1|Anata|kraD|gaaya Area|masaUr|2|gaNaoSa|masaUr|mhOsa "

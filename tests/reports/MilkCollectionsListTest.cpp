@@ -5,6 +5,8 @@
 #include "NameCombo.h"
 #include "frmReportMilkCollections.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 // One delivery of each shift and animal on the 15th, and one on another day. Each has litres of its own.
@@ -77,6 +79,66 @@ TEST_F(MilkCollectionsListTest, AnEmptyAnimalBecomesBothStraightFromTheDateToo)
         EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAnimal")), QStringLiteral("daonhI"));
     });
     EXPECT_EQ(Rows(QStringLiteral("select Liters from MilkCollectionsTemp")).size(), 4);
+}
+
+TEST_F(MilkCollectionsListTest, AWordThatIsBegunIsTheOneThatTheListStandsAt)
+{
+    for (const auto& [typed, word, liters] :
+        {std::tuple("ga", "gaaya", "1 3"), std::tuple("mhO", "mhOsa", "2 4"),
+            std::tuple("dao", "daonhI", "1 2 3 4"), std::tuple(" gaaya ", "gaaya", "1 3")}) {
+        On<frmReportMilkCollections>([&, keys = typed, expected = word](Clerk& clerk) {
+            clerk.Type(QStringLiteral("15042026{ENTER}") + QString::fromLatin1(keys));
+            clerk.Type(QStringLiteral("{ENTER}"));
+            EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAnimal")), QString::fromLatin1(expected)) << keys;
+            EXPECT_EQ(clerk.Focus(), QStringLiteral("OptionBoth")) << keys;
+        });
+        EXPECT_EQ(Staged((std::string("15042026{ENTER}") + typed + "%i").c_str()), liters) << typed;
+    }
+}
+
+TEST_F(MilkCollectionsListTest, AnAnimalThatIsNoneOfTheThreeIsEmptiedAndKeepsTheFocus)
+{
+    for (const char* typed : {"ga'", "'", "gaayaa", "Gaaya", "x"}) {
+        On<frmReportMilkCollections>([&](Clerk& clerk) {
+            clerk.Type(QStringLiteral("15042026{ENTER}") + QString::fromLatin1(typed));
+            clerk.Type(QStringLiteral("{ENTER}"));
+            EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboAnimal")) << typed;
+            EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAnimal")), QString()) << typed;
+            EXPECT_EQ(clerk.Message(), QString());
+            clerk.Type(QString::fromLatin1(typed));
+            clerk.Type(QStringLiteral("%i"));
+            EXPECT_TRUE(TheWindow.Shown.empty()) << typed;
+            clerk.Type(QString::fromLatin1(typed));
+            clerk.Type(QStringLiteral("%b"));
+            EXPECT_EQ(clerk.ScreenName(), QString()) << "it doesn't keep the clerk from leaving";
+        });
+        EXPECT_FALSE(Failure) << typed;
+    }
+    EXPECT_EQ(
+        Rows(QStringLiteral("select Liters from MilkCollectionsTemp")), QStringList(QStringLiteral("9")));
+}
+
+TEST_F(MilkCollectionsListTest, TheListOfOneAnimalDoesntSpeakOfTheOther)
+{
+    const QString cow = QStringLiteral("गाय");
+    const QString buffalo = QStringLiteral("म्हैस");
+    // What stands below the total of the list.
+    const auto sums = [this](const char* keys) {
+        Type<frmReportMilkCollections>(keys);
+        const QStringList texts = ReportTexts();
+        return texts.mid(texts.indexOf(QRegularExpression(QStringLiteral("^एकूण \\(\\d+\\)$"))));
+    };
+    QStringList below = sums("15042026{ENTER}gaaya%i");
+    EXPECT_EQ(below.count(cow), 1);
+    EXPECT_FALSE(below.contains(buffalo));
+    EXPECT_FALSE(below.contains(QStringLiteral("0.000")));
+    below = sums("15042026{ENTER}mhOsa%i");
+    EXPECT_EQ(below.count(buffalo), 1);
+    EXPECT_FALSE(below.contains(cow));
+    EXPECT_FALSE(below.contains(QStringLiteral("0.000")));
+    below = sums("15042026{ENTER}{ENTER}%i");
+    EXPECT_TRUE(below.contains(cow));
+    EXPECT_TRUE(below.contains(buffalo));
 }
 
 TEST_F(MilkCollectionsListTest, TheEndOfAListOfOneShiftOrOneAnimalDoesntSpeakOfTheWholeDay)

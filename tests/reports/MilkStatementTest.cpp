@@ -93,6 +93,28 @@ TEST_F(MilkStatementTest, WithRepetitionTheFurtherRowsFollowWithoutSnfUntilNeith
         Texts({"gaaya|5|2|0|0", "gaaya|7|0|NULL|NULL", "gaaya|9|0|NULL|NULL", "mhOsa|0|3|0|0"}));
 }
 
+TEST_F(MilkStatementTest, WithRepetitionNumbersOfAnySizeComeToAnEnd)
+{
+    Run(QStringLiteral("update AutoSettings set RepeatCollection='haoya'"));
+    for (int number : {1, 2, 3, 4})
+        AddDelivery("13/04/2026", "sakaL", number, 3, "gaNaoSa", "gaaya", number, 4, 30);
+    for (const auto& [number, large] :
+        {std::pair("2", "3000000000"), {"3", "3000000001"}, {"4", "1234567890123456768"}})
+        Run(QStringLiteral("update MilkCollections set CollectionNo=%1 where CollectionNo=%2")
+                .arg(QString::fromLatin1(large), QString::fromLatin1(number)));
+    Report(OfTheMember);
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Rows(QStringLiteral("select LitersM from MilkCollectionsME")), Texts({"1", "2", "3", "4"}));
+}
+
+TEST_F(MilkStatementTest, AMembersLargeNumberIsStagedAsItIs)
+{
+    Run(QStringLiteral("update MembersMaster set MemberNo=3000000000 where MemberNo=3"));
+    AddDelivery("13/04/2026", "sakaL", 1, 3, "gaNaoSa", "gaaya", 10, 4, 30);
+    Report(OfTheMember);
+    EXPECT_EQ(Rows(QStringLiteral("select MemberNo from MilkCollectionsME")), Texts({"3000000000"}));
+}
+
 TEST_F(MilkStatementTest, ACustomersPurchasesAreStagedInTheMembersShapeWithTheirSnf)
 {
     AddSale("13/04/2026", "sakaL", 1, "dUQa saMGa", "gaaya", 100, 4, 8.5);
@@ -167,6 +189,41 @@ TEST_F(MilkStatementTest, ANameWithAnApostropheEndsTheProgramAndChangesNothing)
     Report("13042026{ENTER}15042026{ENTER}{ENTER}ga'Na%i");
     EXPECT_TRUE(Failure);
     EXPECT_EQ(Rows(QStringLiteral("select MemberNo from MilkCollectionsME")), Texts({"9"}));
+}
+
+TEST_F(MilkStatementTest, ANameThatIsBegunIsTheOneThatTheListStandsAt)
+{
+    AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
+    for (const char* typed : {"gaNa", "g", " gaNaoSa"}) {
+        Run(QStringLiteral("delete * from MilkCollectionsME"));
+        On<frmReportMilkPS>([&](Clerk& clerk) {
+            clerk.Type(QStringLiteral("13042026{ENTER}15042026{ENTER}{ENTER}") + QString::fromLatin1(typed));
+            clerk.Type(QStringLiteral("{ENTER}"));
+            EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAccountName")), QStringLiteral("gaNaoSa")) << typed;
+            EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdReport"));
+            clerk.Type(QStringLiteral("{ENTER}"));
+        });
+        EXPECT_EQ(Staged(), Texts({"13/04/2026|3|gaNaoSa|gaaya|10|4|30|300|0|0|0|0|0|0"})) << typed;
+    }
+}
+
+TEST_F(MilkStatementTest, ANameOfTheListIsNotTakenForTheBeginningOfALongerOne)
+{
+    AddMember(5, QStringLiteral("gaNaoSarava"));
+    AddMember(6, QStringLiteral("gaNa"));
+    On<frmReportMilkPS>([](Clerk& clerk) {
+        const QString combo = QStringLiteral("ComboAccountName");
+        clerk.Type(QStringLiteral("13042026{ENTER}15042026{ENTER}{ENTER}gaNaoSa{ENTER}"));
+        EXPECT_EQ(clerk.Reads(combo), QStringLiteral("gaNaoSa"));
+        clerk.Type(QStringLiteral("+{TAB}gaNa +{TAB}"));
+        EXPECT_EQ(clerk.Reads(combo), QStringLiteral("gaNa"));
+        clerk.Type(QStringLiteral("{ENTER}gaNaoSar{ENTER}"));
+        EXPECT_EQ(clerk.Reads(combo), QStringLiteral("gaNaoSarava"));
+        clerk.Type(QStringLiteral("+{TAB}raja{ENTER}"));
+        EXPECT_EQ(clerk.Reads(combo), QStringLiteral("raja")) << "what matches nothing stays";
+        clerk.Type(QStringLiteral("+{TAB}{BS}{ENTER}"));
+        EXPECT_EQ(clerk.Reads(combo), QString()) << "and so does nothing";
+    });
 }
 
 TEST_F(MilkStatementTest, ADateThatIsNoneTakesTheFocusBackWithoutAMessage)

@@ -61,12 +61,58 @@ TEST_F(AutoSettingsChain, EnterLeadsFromTheFirstFieldToTheSaveButton)
 
 TEST_F(AutoSettingsChain, TheRestOfThePaymentPageIsWalkedInItsOrder)
 {
-    Settings([&](Clerk& clerk) {
-        GoTo(clerk, "cmbFatRateType");
-        for (const char* control : {"CheckCNP", "CheckSNU", "OptionPayIt", "CmdSave"}) {
+    for (const char* figures : {"{ENTER}", "{ENTER}{ENTER}"}) {
+        Settings([&](Clerk& clerk) {
+            clerk.Type(Q("^{PGDN}"));
+            clerk.Type(Q(figures));
+            EXPECT_TRUE(Guide(clerk).contains(Q("↓ : दराचा प्रकार व पुढील प्रश्न"))) << figures;
+            clerk.Type(Q("{DOWN}"));
+            EXPECT_EQ(Focus(clerk), Q("cmbFatRateType")) << figures;
+            for (const char* control : {"CheckCNP", "CheckSNU", "OptionPayIt"}) {
+                clerk.Type(Q("{ENTER}"));
+                EXPECT_EQ(Focus(clerk), Q(control));
+            }
+            clerk.Type(Q("{DOWN}"));
+            EXPECT_EQ(Focus(clerk), Q("OptionDiscount"));
+            EXPECT_EQ(Reads(clerk, "OptionDiscount"), Q("1"));
             clerk.Type(Q("{ENTER}"));
-            EXPECT_EQ(Focus(clerk), Q(control));
-        }
+            EXPECT_EQ(Focus(clerk), Q("CmdSave"));
+            EXPECT_EQ(Page(clerk), Q("2"));
+        });
+    }
+}
+
+TEST_F(AutoSettingsChain, TheFiguresGuideNamesBothWaysOn)
+{
+    Settings([&](Clerk& clerk) {
+        GoTo(clerk, "txtCow");
+        EXPECT_EQ(Guide(clerk), Q("↓ : दराचा प्रकार व पुढील प्रश्न"));
+        clerk.Type(Q("{ENTER}"));
+        EXPECT_EQ(Guide(clerk), Q("Enter : दूध विक्री    ↓ : दराचा प्रकार व पुढील प्रश्न"));
+        clerk.Type(Q("{ENTER}"));
+        EXPECT_EQ(Focus(clerk), Q("txtCowSaleRate"));
+    });
+}
+
+TEST_F(AutoSettingsChain, TheTabThatIsPressedOnceMoreSaysWhereItsOwnPageGoesOn)
+{
+    Settings([&](Clerk& clerk) {
+        PressTab(clerk, 1);
+        EXPECT_EQ(Focus(clerk), Q("SSTab"));
+        EXPECT_EQ(Guide(clerk), QString());
+        PressTab(clerk, 2);
+        EXPECT_EQ(Focus(clerk), Q("ComboPaymentDuration"));
+        PressTab(clerk, 2);
+        EXPECT_EQ(Focus(clerk), Q("SSTab"));
+        EXPECT_EQ(Guide(clerk), Q("Enter : पेमेंट कालावधी    ↓ : दराचा प्रकार व पुढील प्रश्न"));
+        clerk.Type(Q("{ENTER}"));
+        EXPECT_EQ(Focus(clerk), Q("ComboPaymentDuration"));
+        PressTab(clerk, 2);
+        clerk.Type(Q("{DOWN}"));
+        EXPECT_EQ(Focus(clerk), Q("cmbFatRateType"));
+        clerk.Type(Q("^{PGDN}"));
+        EXPECT_EQ(Focus(clerk), Q("SSTab"));
+        EXPECT_EQ(Guide(clerk), Q("Enter : दर    ↓ : विक्री पावती/प्रिंट"));
     });
 }
 
@@ -328,14 +374,27 @@ TEST_F(AutoSettingsChain, DownPassesNoRateThatIsRefused)
     });
 }
 
-TEST_F(AutoSettingsChain, DownDoesNothingOnTheOtherPages)
+TEST_F(AutoSettingsChain, DownPassesNoDepositThatIsRefused)
 {
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("{DOWN}"));
-        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
-        GoTo(clerk, "txtCow");
-        clerk.Type(Q("{DOWN}"));
-        EXPECT_EQ(Focus(clerk), Q("txtCow"));
+        for (const char* field : {"txtCow", "txtBuff"}) {
+            GoTo(clerk, field);
+            clerk.Type(Q("0{DOWN}"));
+            EXPECT_EQ(Focus(clerk), Q(field));
+            clerk.Type(Q("1"));
+        }
+    });
+}
+
+TEST_F(AutoSettingsChain, DownDoesNothingElsewhere)
+{
+    Settings([&](Clerk& clerk) {
+        for (const char* control : {"ComboAutoLiters", "txtCowLimit", "ComboPaymentDuration",
+                 "cmbFatRateType", "CheckCNP", "CheckSNU"}) {
+            GoTo(clerk, control);
+            clerk.Type(Q("{DOWN}"));
+            EXPECT_EQ(Focus(clerk), Q(control));
+        }
     });
 }
 

@@ -5,6 +5,8 @@
 
 #include <QKeyEvent>
 
+#include <algorithm>
+
 NameCombo::NameCombo(Screen* screen, const char* name)
     : TextField(screen, name)
     , m_list(*screen, [this](int row) {
@@ -100,11 +102,31 @@ void NameCombo::ShowMatch()
     const QString stored = Text();
     if (const int row = m_list.CurrentRow(); row >= 0 && m_names[row] == stored)
         return;
+    m_list.SetCurrentRow(MatchOf(stored));
+}
+
+// The row of a name, or else the first one that begins with it, as it is stored or as it is seen; -1 is none.
+int NameCombo::MatchOf(const QString& stored)
+{
     const QString seen = Seen();
     const QStringList names = m_list.Rows().stringList();
     qsizetype row = m_names.indexOf(stored);
     for (qsizetype at = 0; row < 0 && at < names.size(); ++at)
         if (m_names[at].startsWith(stored) || names[at].startsWith(seen))
             row = at;
-    m_list.SetCurrentRow(static_cast<int>(row));
+    return static_cast<int>(row);
+}
+
+void NameCombo::TakeMatch()
+{
+    const QString stored = Text();
+    const QString word = stored.trimmed();
+    if (word.isEmpty() || m_names.contains(stored))
+        return;
+    const auto same = std::find_if(
+        m_names.begin(), m_names.end(), [&](const QString& name) { return name.trimmed() == word; });
+    if (same != m_names.end())
+        SetText(*same);
+    else if (const int row = MatchOf(stored); row >= 0)
+        SetText(m_names[row]);
 }

@@ -21,6 +21,10 @@ public:
     bool IsDroppedDown() const { return m_list.IsOpen(); }
     void DropDown(bool open);
 
+    // Puts a name of the list in place of its beginning: the one that the text is but for blanks around it,
+    // or else the first that begins with it. A text that no name begins with stays as it is.
+    void TakeMatch();
+
 protected:
     bool KeyPress(const QKeyEvent& key) override;
     void ShowFocus(bool held) override;
@@ -28,6 +32,7 @@ protected:
 
 private:
     void Pick(int row);
+    int MatchOf(const QString& stored);
     void ShowMatch();
 
     QStringList m_names;
