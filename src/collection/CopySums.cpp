@@ -21,16 +21,16 @@ CopySums WalkCopy()
     CopySums sums;
     for (Recordset row(gCn, Sql(u"select * from MilkCollectionsTemp where CompanyId=", gAppState.gCompanyId));
          !row.Eof(); row.MoveNext()) {
+        const QString time = row[u"CollectionTime"].Text(); // in the table's order, which finds names sooner
         const QString animal = row[u"Animal"].Text();
-        const QString time = row[u"CollectionTime"].Text();
         if ((animal != u"gaaya" && animal != u"mhOsa") || !Counter::IsShift(time))
             continue;
         HalfDaySums& ofAnimal = animal == u"gaaya" ? sums.cow : sums.buff;
         MilkSums& sum = time == u"sakaL" ? ofAnimal.morning : ofAnimal.evening;
         const double liters = row[u"Liters"].Number();
         sum.liters += liters;
-        sum.amount += row[u"Amount"].Number();
         sum.litersByFat += liters * row[u"Fat"].Number();
+        sum.amount += row[u"Amount"].Number();
     }
     return sums;
 }

@@ -122,7 +122,6 @@ void frmAutoSettings::CheckCNP_Click()
     lblMessage.SetCaption(CheckCNP.Checked()
             ? Shivaji(u"dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kolaI jaa[-la")
             : Shivaji(u"dUQa KrodIcaI enT/I dUQa pomaonT krtovaoLIca kolaI jaa[-la"));
-    lblMessage.SetVisible(true);
 }
 
 void frmAutoSettings::CmdCancel_Click()

@@ -191,5 +191,4 @@ void frmAutoSettings::ShowTabGuide()
     if (!SSTab.HasFocus())
         return;
     lblMessage.SetCaption(SSTab.Guide());
-    lblMessage.SetVisible(!SSTab.Guide().IsEmpty());
 }

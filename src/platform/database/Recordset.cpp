@@ -99,18 +99,20 @@ void Recordset::Private::MoveNext()
 
 FieldValue Recordset::Private::Read(int column) const
 {
-    sqlite3_stmt* statement = m_loan.Handle();
-    switch (sqlite3_column_type(statement, column)) {
+    // Asked of the value, not of the statement, which would lock itself for every question; only one thread
+    // reads.
+    sqlite3_value* value = sqlite3_column_value(m_loan.Handle(), column);
+    switch (sqlite3_value_type(value)) {
     case SQLITE_NULL:
         return {};
     case SQLITE_INTEGER:
     case SQLITE_FLOAT:
-        return FieldValue::OfNumber(sqlite3_column_double(statement, column));
+        return FieldValue::OfNumber(sqlite3_value_double(value));
     default:
         break;
     }
-    const char* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-    const int length = sqlite3_column_bytes(statement, column);
+    const char* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    const int length = sqlite3_value_bytes(value);
     if (m_loan->IsDate(column)) {
         const QDate date = IsoDates::ToDate(std::string_view(text, static_cast<std::size_t>(length)));
         if (date.isValid())

@@ -206,9 +206,7 @@ void Layout::MakeGuide(Label& label)
     label.Widget()->setFont(Look::Font(Look::Size::Large, true));
     label.Widget()->setAlignment(Qt::AlignCenter);
     label.Widget()->setMinimumHeight(44);
-    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    policy.setRetainSizeWhenHidden(true); // the screen must not move when a guide comes and goes
-    label.Widget()->setSizePolicy(policy);
+    label.Widget()->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     SetInk(*label.Widget(), Look::GuideInk);
 }
 

@@ -298,10 +298,9 @@ void Screen::SetGuideLabel(Label& label)
 
 void Screen::ShowGuide(const Caption& guide)
 {
-    if (!m_guideLabel)
-        return;
-    m_guideLabel->SetCaption(guide);
-    m_guideLabel->SetVisible(!guide.IsEmpty());
+    // An empty one keeps its place: hiding it would lay the whole screen out anew at every key.
+    if (m_guideLabel)
+        m_guideLabel->SetCaption(guide);
 }
 
 // A holder that was disabled or hidden by the running event passes the focus on without a validation:
