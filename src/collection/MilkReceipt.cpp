@@ -1,5 +1,6 @@
 #include "MilkReceipt.h"
 
+#include "AppFolder.h"
 #include "Dates.h"
 #include "MdlAccounts.h"
 #include "Queries.h"
@@ -21,8 +22,12 @@ void MilkReceipt::StageReceipt(const Delivery& d)
 
 void MilkReceipt::Prepare()
 {
-    if (Setting(u"PrintStatus") != u"naahI")
-        ReportControl::Prepare(Logon());
+    if (Setting(u"PrintStatus") == u"naahI")
+        return;
+    ReportControl slip;
+    slip.SetReportFileName(AppFolder.toString() + ReceiptLayoutOf(Setting(u"ReceiptType")).counterTemplate);
+    slip.SetLogon(Logon());
+    slip.Prepare();
 }
 
 void MilkReceipt::PrintReceipt(QStringView printerButton)

@@ -1,15 +1,15 @@
 #include "ReportControl.h"
 
 #include "DataSource.h"
-#include "Drawing.h"
 #include "RunTimeError.h"
-#include "TextMeasure.h"
 
 #include <QFileInfo>
 
 #include <vector>
 
 namespace {
+
+constexpr double ScreenScale = 1.5; // dots a point, about as a slip is looked at
 
 // The connections that are kept for reading, one a logon, and the reports that are still reading.
 class ReadingRoom {
@@ -25,21 +25,22 @@ public:
     std::shared_ptr<Connection> Open(const QString& logon)
     {
         FinishReading();
-        Prepare(logon);
-        return m_connection;
+        return Prepare(logon);
     }
 
-    // Sees that the books of a logon are open; if they can't be opened, everything stays as it was.
-    void Prepare(const QString& logon)
+    // Sees that the books of a logon are open, whoever may be reading in them; if they can't be opened,
+    // everything stays as it was.
+    std::shared_ptr<Connection> Prepare(const QString& logon)
     {
         const QString file = FileOf(logon);
         if (m_connection && logon == m_logon && file == m_file)
-            return;
+            return m_connection;
         auto connection = std::make_shared<Connection>();
         connection->Open(logon);
         m_connection = std::move(connection);
         m_logon = logon;
         m_file = file;
+        return m_connection;
     }
 
     void Add(const std::shared_ptr<Report>& report) { m_reading.push_back(report); }
@@ -74,28 +75,6 @@ private:
     std::vector<std::weak_ptr<Report>> m_reading;
 };
 
-// Measures and paints a line of both scripts in the light and the bold face, for nobody to see: the machine's
-// fonts are found and opened when they are first needed, and stay.
-void OpenFonts()
-{
-    const QString line = QStringLiteral("क्षीर र्यूं 148.20 Fat");
-    constexpr float Wide = 400;
-    FontTable fonts;
-    TextMeasure measure;
-    Page page;
-    page.width = page.height = Wide;
-    for (const bool isBold : {false, true}) {
-        const FontSpec font{ReportTemplate().fontFamily, 10, isBold};
-        PlacedItem item;
-        item.font = fonts.Add(font);
-        item.width = Wide;
-        item.height = measure.Height(font, line, Wide);
-        item.text = line;
-        page.items.push_back(item);
-    }
-    PagePainter(fonts).Image(page, 1);
-}
-
 [[noreturn]] void ThrowFaults(const QString& path, const TemplateFaults& faults)
 {
     QStringList lines{QStringLiteral("The report template has faults:")};
@@ -112,14 +91,13 @@ ReportSurroundings& ReportSurroundings::Current()
     return surroundings;
 }
 
-std::shared_ptr<Report> ReportControl::Run() const
+std::shared_ptr<Report> ReportControl::Begin(const std::shared_ptr<Connection>& connection) const
 {
     const auto& localPath = ReportSurroundings::Current().localPath;
     const QString file = localPath ? localPath(m_file) : m_file;
     if (!QFileInfo(file).isFile())
         throw RunTimeError(RunTimeError::FileNotFound,
             QStringLiteral("अहवालाचा नमुना सापडला नाही.\nThe report template isn't there."), m_file);
-    const std::shared_ptr<Connection> connection = ReadingRoom::Current().Open(m_logon);
     TemplateFaults faults;
     ReportTemplate report = ReportTemplate::ReadChecked(file, *connection, faults);
     if (!faults.empty())
@@ -132,7 +110,7 @@ std::shared_ptr<Report> ReportControl::Run() const
 
 bool ReportControl::Print()
 {
-    const std::shared_ptr<Report> report = Run();
+    const std::shared_ptr<Report> report = Begin(ReadingRoom::Current().Open(m_logon));
     const ReportSurroundings& surroundings = ReportSurroundings::Current();
     if (m_destination == ReportDestination::Window) {
         Q_ASSERT(surroundings.window);
@@ -147,11 +125,13 @@ bool ReportControl::Print()
     return outcome.Done();
 }
 
-void ReportControl::Prepare(const QString& logon)
+void ReportControl::Prepare() const
 {
-    ReadingRoom::Current().Prepare(logon);
-    static const bool areOpen = (OpenFonts(), true);
-    Q_UNUSED(areOpen)
+    const std::shared_ptr<Connection> connection = ReadingRoom::Current().Prepare(m_logon);
+    try {
+        Begin(connection)->Image(0, ScreenScale);
+    } catch (const RunTimeError&) { // is told when the report is printed
+    }
 }
 
 void ReportControl::CloseConnections()

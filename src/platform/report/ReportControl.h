@@ -53,17 +53,17 @@ public:
     // false is returned.
     bool Print();
 
-    // Opens the books of a logon for reading and gets the fonts of the templates ready, so that the first
-    // slip needn't wait for either. To be called when the program starts, and again at any time. Books that
-    // can't be opened are a run-time error, as in printing.
-    static void Prepare(const QString& logon);
+    // Opens the books for reading and paints the first page for nobody to see, so that the first slip needn't
+    // wait for its books, its template or its fonts. May be called at any time. Books that can't be opened
+    // are a run-time error, as in printing; what is wrong with the template is left for the printing to tell.
+    void Prepare() const;
 
     // Ends the reading of all reports and closes the books that were opened for them; they are opened again
     // when needed. To be called before the database file is copied or replaced.
     static void CloseConnections();
 
 private:
-    std::shared_ptr<Report> Run() const;
+    std::shared_ptr<Report> Begin(const std::shared_ptr<Connection>& connection) const;
 
     QString m_file;
     QString m_logon;

@@ -151,7 +151,7 @@ TEST_F(ReportControlTest, AWrongPasswordIsAnErrorAndTheRightOnePrintsAfterwards)
 
 TEST_F(ReportControlTest, AReportReadsTheBooksThatWereOpenedInPreparingForIt)
 {
-    ReportControl::Prepare(Logon);
+    Control.Prepare();
     ASSERT_TRUE(QFile::rename(File(QStringLiteral("books.mdb")), File(QStringLiteral("moved.mdb"))));
     EXPECT_TRUE(Control.Print());
     EXPECT_EQ(ShownTexts(), QStringLiteral("1 2"));
@@ -163,8 +163,8 @@ TEST_F(ReportControlTest, PreparingAgainNeitherDisturbsAReportThatIsBeingReadNor
 {
     AddManyPayments();
     Control.Print();
-    ReportControl::Prepare(Logon);
-    ReportControl::Prepare(Logon);
+    Control.Prepare();
+    Control.Prepare();
     EXPECT_FALSE(Window.Shown[0]->IsComplete());
     EXPECT_EQ(Window.Shown.size(), 1U);
     EXPECT_EQ(ThePrinter.Jobs, 0);
@@ -174,10 +174,25 @@ TEST_F(ReportControlTest, PreparingAgainNeitherDisturbsAReportThatIsBeingReadNor
 
 TEST_F(ReportControlTest, PreparingWithAWrongPasswordIsAnErrorAndLeavesTheBooksThatAreOpen)
 {
-    ReportControl::Prepare(Logon);
-    EXPECT_THROW(ReportControl::Prepare(QStringLiteral("dsn=VetrolanDSN;pwd=wrong")), RunTimeError);
+    Control.Prepare();
+    Control.SetLogon(QStringLiteral("dsn=VetrolanDSN;pwd=wrong"));
+    EXPECT_THROW(Control.Prepare(), RunTimeError);
+    Control.SetLogon(Logon);
     EXPECT_TRUE(Control.Print());
     EXPECT_EQ(ShownTexts(), QStringLiteral("1 2"));
+}
+
+TEST_F(ReportControlTest, PreparingLeavesAMissingOrFaultyTemplateForThePrintingToTell)
+{
+    const QString missing = QStringLiteral("C:\\Tarvel01\\Vetrolan\\Missing.rpt");
+    const QString faulty = QStringLiteral("C:\\Tarvel01\\Vetrolan\\Faulty.rpt");
+    Write(QStringLiteral("Faulty.rpt"), QStringLiteral("<report name=\"Faulty\" paper=\"A9\"/>"));
+    for (const QString& file : {missing, faulty}) {
+        Control.SetReportFileName(file);
+        EXPECT_NO_THROW(Control.Prepare());
+        EXPECT_NE(ErrorOfPrinting(), QString());
+    }
+    EXPECT_TRUE(Window.Shown.empty());
 }
 
 TEST_F(ReportControlTest, AfterClosingTheBooksCanBeReplacedAndAreOpenedAnew)
