@@ -5,7 +5,6 @@
 #include "MdlAccounts.h"
 #include "Queries.h"
 #include "ReceiptLayouts.h"
-#include "Recordset.h"
 #include "ReportControl.h"
 #include "Sql.h"
 
@@ -32,22 +31,17 @@ void MilkReceipt::Prepare()
 
 void MilkReceipt::PrintReceipt(QStringView printerButton)
 {
-    {
-        const Recordset settings(gCn, QStringLiteral("SELECT * FROM AutoSettings"));
-        if (settings.Eof())
-            return;
-        const QString printStatus = settings[u"PrintStatus"].Text().trimmed();
-        if (printStatus == u"naahI" || printerButton != PrinterOn)
-            return;
-        // An unknown type leaves the template of the slip before.
-        const ReceiptLayout layout = ReceiptLayoutOf(settings[u"ReceiptType"].Text().trimmed());
-        if (!layout.counterTemplate.isEmpty())
-            CRMilkReceipt.SetReportFileName(layout.counterTemplate);
-        if (printStatus == u"f@t sËIna")
-            CRMilkReceipt.SetDestination(CounterReport::Destination::Window);
-        else if (printStatus == u"haoya")
-            CRMilkReceipt.SetDestination(CounterReport::Destination::Printer);
-    }
+    const QString printStatus = Setting(u"PrintStatus");
+    if (printStatus == u"naahI" || printerButton != PrinterOn)
+        return;
+    // An unknown type leaves the template of the slip before.
+    const ReceiptLayout layout = ReceiptLayoutOf(Setting(u"ReceiptType"));
+    if (!layout.counterTemplate.isEmpty())
+        CRMilkReceipt.SetReportFileName(layout.counterTemplate);
+    if (printStatus == u"f@t sËIna")
+        CRMilkReceipt.SetDestination(CounterReport::Destination::Window);
+    else if (printStatus == u"haoya")
+        CRMilkReceipt.SetDestination(CounterReport::Destination::Printer);
     gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
     CRMilkReceipt.Print();
 }

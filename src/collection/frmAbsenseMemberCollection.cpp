@@ -108,7 +108,7 @@ void frmAbsenseMemberCollection::Command1_Click()
     ListAbsent({MaskDate.Date(), txtTime.Text()});
     DataGridMembers.Bind(gCn, MembersQuery.toString());
     lblFooter.SetCaption(
-        DataGridMembers.Rows() == 0 ? Plain(u"कालच्या या वेळेतील कोणीही गैरहजर नाही") : Command1.Guide());
+        DataGridMembers.CurrentRow() < 0 ? Plain(u"कालच्या या वेळेतील कोणीही गैरहजर नाही") : Command1.Guide());
 }
 
 // One line for each delivery of the day before: who brought two kinds of milk is listed twice.

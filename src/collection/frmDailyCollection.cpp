@@ -220,7 +220,7 @@ void frmDailyCollection::OpenList()
     Write(QStringLiteral("DELETE * FROM MilkCollections WHERE CompanyId=999"));
     DataGrid1.Bind(gCn, Sql(u"SELECT * FROM MilkCollections WHERE MemberNo=", Value(txtMemberNo)));
     ShowList(true);
-    if (DataGrid1.Rows() > 0)
+    if (DataGrid1.CurrentRow() >= 0)
         DataGrid1.SetFocus();
 }
 

@@ -250,7 +250,7 @@ void frmReportPreview::LastPage()
 
 void frmReportPreview::Search()
 {
-    m_searched = txtSearch.Text();
+    m_searched = txtSearch.Text().trimmed();
     picPage.SetFocus();
     picPage.Mark({});
     TellState({});

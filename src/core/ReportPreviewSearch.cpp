@@ -15,14 +15,12 @@ QString WithWesternDigits(QString text)
     return text;
 }
 
-// What the typed text can look like on paper. A text without a letter is a figure or a date, whose signs
-// would be parts of letters in the system's encoding.
+// What the typed text can look like on paper. Figures, dates and Latin letters stand there as they are typed;
+// in the system's encoding their signs would be parts of Marathi letters.
 QStringList Readings(const QString& stored)
 {
     const QString seen = Shivaji01::ToUnicode(stored);
-    QStringList readings{seen, WithWesternDigits(seen)};
-    if (std::none_of(stored.begin(), stored.end(), [](QChar c) { return c.isLetter(); }))
-        readings.append(stored);
+    QStringList readings{seen, WithWesternDigits(seen), stored};
     readings.removeDuplicates();
     return readings;
 }

@@ -69,6 +69,17 @@ TEST_F(GateTest, OpensWithTheSocietysNameAndWithoutReadingTheSelectedCompany)
     });
 }
 
+TEST_F(GateTest, OpeningEmptiesTheCopyAndLeavesTheBooks)
+{
+    const QStringList books = Books();
+    Run(QStringLiteral("insert into MilkCollectionsTemp select * from MilkCollections"));
+    On<frmCollectionGate>([&](Clerk& clerk) {
+        EXPECT_TRUE(Copy().isEmpty());
+        EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 0);
+        EXPECT_EQ(Books(), books);
+    });
+}
+
 TEST_F(GateTest, HasNoMemberFrameAndF7DoesNothing)
 {
     AtTheGate([this](Clerk& clerk) {

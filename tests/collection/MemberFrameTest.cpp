@@ -283,6 +283,19 @@ TEST_F(MemberFrameTest, TheReportIsRunOverTheCopyWithThePeriod)
     });
 }
 
+TEST_F(MemberFrameTest, TheReportLeavesOutRowsAndPeriodsOfNoCompany)
+{
+    InTheFrame([this](Clerk& clerk) {
+        Ask(clerk, "3");
+        Run(QStringLiteral("update MilkCollectionsTemp set CompanyId=0 where CollectionNo=1"));
+        gAppState.gCompanyId = 0;
+        Type(clerk, "%i");
+        EXPECT_EQ(Printed.size(), 1U);
+        EXPECT_EQ(One(QStringLiteral("select count(*) from MilkCollectionsTemp")), QStringLiteral("3"));
+        EXPECT_EQ(One(QStringLiteral("select count(*) from ReportDates")), QStringLiteral("0"));
+    });
+}
+
 TEST_F(MemberFrameTest, AbsentMembersAreAScreenOfTheirOwn)
 {
     ScreenDirectory::Add(

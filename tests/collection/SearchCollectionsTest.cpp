@@ -128,6 +128,17 @@ TEST_F(SearchCollectionsTest, TheMemberWaitsForTheShift)
     });
 }
 
+TEST_F(SearchCollectionsTest, OfTwoMembersOfOneNameTheFirstIsFoundWhoseverNumberWasTyped)
+{
+    AddMember(4, QStringLiteral("rama"), QStringLiteral("gaaya"));
+    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 5, 4, QStringLiteral("rama"),
+        QStringLiteral("gaaya"), 7, 4.5, 35, 245);
+    After(4, [](Clerk& clerk) {
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "1");
+        EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 2);
+    });
+}
+
 TEST_F(SearchCollectionsTest, ANumberShowsItsMemberAndAnUnknownOneIsEmptied)
 {
     FromTheMenu([](Clerk& clerk) {

@@ -318,6 +318,27 @@ TEST_F(Preview, FiguresAndDatesAreFoundAsTheyAreTyped)
     });
 }
 
+TEST_F(Preview, LatinLettersOnThePaperAreFoundAsTheyAreTyped)
+{
+    WriteTemplate(QStringLiteral("<report name=\"Deliveries\" paper=\"A4\"><text>SNF</text></report>"));
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        clerk.Type(QStringLiteral("^fSNF{ENTER}"));
+        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 1"));
+    });
+}
+
+TEST_F(Preview, BlanksAroundTheTypedWordsAreNoPartOfThem)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        clerk.Type(QStringLiteral("^f ") + Shivaji01::FromUnicode(QStringLiteral("पाटील"))
+            + QStringLiteral(" {ENTER}"));
+        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 2"));
+    });
+}
+
 TEST_F(Preview, ASearchBehindWhatIsLaidOutWaitsForTheRest)
 {
     AddDeliveries(LongReport, [](int number) {

@@ -2,6 +2,7 @@
 
 #include "ModalStack.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -148,7 +149,11 @@ void Clerk::Press(const QString& control)
         if (!found)
             return;
         QWidget* widget = found->Widget();
-        const QPointF at = widget->rect().center();
+        QPointF at = widget->rect().center();
+        if (auto* list = qobject_cast<QAbstractItemView*>(widget)) {
+            at = list->visualRect(list->currentIndex()).center();
+            widget = list->viewport();
+        }
         const QPointF global = widget->mapToGlobal(at);
         for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
             QMouseEvent event(type, at, global, Qt::LeftButton,

@@ -29,7 +29,7 @@ public:
     // Types keys in the form that SendKeys takes.
     void Type(const QString& keys);
 
-    // Presses a control of the screen on top with the mouse.
+    // Presses a control of the screen on top with the mouse; a list on its current row.
     void Press(const QString& control);
 
     // Closes the window on top by its close box.

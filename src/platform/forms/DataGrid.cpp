@@ -161,6 +161,7 @@ DataGrid::DataGrid(Screen* screen, const char* name, std::vector<Column> columns
 {
     View().setModel(m_model.get());
     LayOut();
+    QObject::connect(&View(), &QTableView::pressed, &View(), [this] { m_isRowPressed = true; });
     DataGrid::ShowFocus(false);
 }
 
@@ -183,6 +184,7 @@ void DataGrid::LayOut()
     QHeaderView& header = *view.horizontalHeader();
     header.setHighlightSections(false);
     header.setMinimumHeight(34);
+    header.setSectionResizeMode(QHeaderView::Fixed); // no hand can draw a column away from its caption
     const std::vector<Column>& columns = m_model->Columns();
     for (int at = 0; at < static_cast<int>(columns.size()); ++at) {
         if (columns[at].width > 0)
@@ -252,7 +254,7 @@ void DataGrid::ShowFocus(bool held)
 
 void DataGrid::MouseDone()
 {
-    if (Click && CurrentRow() >= 0)
+    if (std::exchange(m_isRowPressed, false) && Click)
         Click();
 }
 

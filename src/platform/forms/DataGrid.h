@@ -57,4 +57,5 @@ private:
     void Reach(int row) const;
 
     std::unique_ptr<Model> m_model;
+    bool m_isRowPressed = false; // by the mouse, which hasn't let go yet
 };

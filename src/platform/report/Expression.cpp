@@ -87,7 +87,7 @@ std::optional<ValueType> VariableType(QStringView name)
 
 namespace {
 
-constexpr std::array<std::int64_t, ExactSum::Places + 1> Powers = {1, 10, 100, 1000, 10000, 100000, 1000000};
+constexpr std::int64_t Units = 1000000; // of the last of the six places, in one
 
 [[noreturn]] void ThrowTooLarge()
 {
@@ -99,16 +99,10 @@ constexpr std::array<std::int64_t, ExactSum::Places + 1> Powers = {1, 10, 100, 1
 std::int64_t ToUnits(long double number)
 {
     constexpr long double Limit = 9.2e18L;
-    const long double units = std::round(number * Powers[ExactSum::Places]);
+    const long double units = std::round(number * Units);
     if (!(std::abs(units) < Limit))
         ThrowTooLarge();
     return static_cast<std::int64_t>(units);
-}
-
-std::int64_t RoundUnits(std::int64_t units, std::int64_t step)
-{
-    const std::int64_t half = units < 0 ? -(step / 2) : step / 2;
-    return (units + half) / step * step;
 }
 
 }
@@ -121,8 +115,8 @@ void ExactSum::AddUnits(std::int64_t units)
 
 void ExactSum::Add(double number, int decimals)
 {
-    const std::size_t dropped = static_cast<std::size_t>(Places - std::clamp(decimals, 0, Places));
-    AddUnits(RoundUnits(ToUnits(number), Powers[dropped]));
+    constexpr QStringView Printed[Places] = {u"0", u"0.0", u"0.00", u"0.000", u"0.0000", u"0.00000"};
+    AddUnits(ToUnits(decimals < Places ? Val(Format(number, Printed[std::max(decimals, 0)])) : number));
 }
 
 void ExactSum::AddProduct(double first, double second)
@@ -132,5 +126,5 @@ void ExactSum::AddProduct(double first, double second)
 
 double ExactSum::Number() const
 {
-    return static_cast<double>(m_units) / static_cast<double>(Powers[Places]);
+    return static_cast<double>(m_units) / static_cast<double>(Units);
 }

@@ -1,5 +1,6 @@
 #include "FontMap.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
@@ -7,20 +8,40 @@
 #include <pango/pangocairo.h>
 #include <pango/pangofc-fontmap.h>
 
+#include <unistd.h>
+
 #include <thread>
 
 namespace {
 
-// The engine lends nobody its threads, so that they can only be looked for among those of the process.
-bool IsSearching()
+// How long a thread that has yet to take its own name is waited for.
+constexpr int PatienceMs = 1000;
+
+QByteArray NameOf(const QString& thread)
 {
+    QFile name(QStringLiteral("/proc/self/task/") + thread + QStringLiteral("/comm"));
+    return name.open(QFile::ReadOnly) ? name.readAll() : QByteArray();
+}
+
+// The engine lends nobody its threads, so that they can only be looked for among those of the process.
+bool RunsThread(const QByteArray& name)
+{
+    const QString own = QString::number(gettid());
     const QDir threads(QStringLiteral("/proc/self/task"));
     for (const QString& thread : threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        QFile name(threads.filePath(thread + u"/comm"));
-        if (name.open(QFile::ReadOnly) && name.readAll().startsWith("[pango]"))
+        if (thread != own && NameOf(thread).startsWith(name))
             return true;
     }
     return false;
+}
+
+// A thread that has just begun still has the name of the one that began it.
+void WaitForSearches()
+{
+    const QByteArray own = NameOf(QString::number(gettid()));
+    const QDeadlineTimer patience(PatienceMs);
+    while (RunsThread("[pango]") || (!patience.hasExpired() && RunsThread(own)))
+        std::this_thread::yield();
 }
 
 }
@@ -34,8 +55,7 @@ FontMap::FontMap()
 
 FontMap::~FontMap()
 {
-    while (IsSearching())
-        std::this_thread::yield();
+    WaitForSearches();
     g_object_unref(m_map);
     if (!m_hasWindows) // Qt gives the list behind the map back with its last window
         FcConfigSetCurrent(nullptr);

@@ -127,9 +127,8 @@ bool ReportControl::Print()
 
 void ReportControl::Prepare() const
 {
-    const std::shared_ptr<Connection> connection = ReadingRoom::Current().Prepare(m_logon);
     try {
-        Begin(connection)->Image(0, ScreenScale);
+        Begin(ReadingRoom::Current().Prepare(m_logon))->Image(0, ScreenScale);
     } catch (const RunTimeError&) { // is told when the report is printed
     }
 }

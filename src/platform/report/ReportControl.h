@@ -54,8 +54,8 @@ public:
     bool Print();
 
     // Opens the books for reading and paints the first page for nobody to see, so that the first slip needn't
-    // wait for its books, its template or its fonts. May be called at any time. Books that can't be opened
-    // are a run-time error, as in printing; what is wrong with the template is left for the printing to tell.
+    // wait for its books, its template or its fonts. May be called at any time. What goes wrong is left for
+    // the printing to tell.
     void Prepare() const;
 
     // Ends the reading of all reports and closes the books that were opened for them; they are opened again

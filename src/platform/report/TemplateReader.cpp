@@ -43,7 +43,7 @@ void ReadFont(ElementAttributes& attributes, ReportTemplate& report)
     bool isSize = false;
     report.fontSize = font.mid(blank + 1).toDouble(&isSize);
     report.fontFamily = font.left(blank).trimmed();
-    if (blank <= 0 || !isSize || report.fontSize < SmallestFont || report.fontSize > LargestFont)
+    if (blank <= 0 || !isSize || !(report.fontSize >= SmallestFont && report.fontSize <= LargestFont))
         attributes.Fault(QStringLiteral("\"%1\" is no font such as \"Noto Sans Devanagari 10\"").arg(font));
 }
 

@@ -15,14 +15,18 @@
 
 namespace {
 
-void ClickOn(QAbstractItemView& view, const QModelIndex& index, QEvent::Type press = QEvent::MouseButtonPress)
+void ClickAt(QAbstractItemView& view, const QPointF& at, QEvent::Type press = QEvent::MouseButtonPress)
 {
-    const QPointF at = view.visualRect(index).center();
     for (QEvent::Type type : {press, QEvent::MouseButtonRelease}) {
         QMouseEvent event(type, at, view.viewport()->mapToGlobal(at), Qt::LeftButton,
             type == press ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(view.viewport(), &event);
     }
+}
+
+void ClickOn(QAbstractItemView& view, const QModelIndex& index, QEvent::Type press = QEvent::MouseButtonPress)
+{
+    ClickAt(view, view.visualRect(index).center(), press);
 }
 
 class MenuScreen : public Screen {
@@ -248,6 +252,45 @@ TEST_F(DataGridTest, AClickTakesTheFocusAndTheRow)
         Do([&] { ClickOn(screen.View(), screen.View().model()->index(1, 0)); });
         EXPECT_EQ(FocusName(), "DataGridInwards");
         EXPECT_EQ(grid.CurrentRow(), 1);
+    });
+}
+
+TEST_F(DataGridTest, APressBesideTheRowsIsNoClickOnOne)
+{
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        std::string clicked;
+        Do([&] {
+            grid.Click = [&] { clicked += std::to_string(grid.CurrentRow()); };
+            grid.SetCurrentRow(2);
+            const QPointF below(5, screen.View().viewport()->height() - 5);
+            ASSERT_FALSE(screen.View().indexAt(below.toPoint()).isValid());
+            ClickAt(screen.View(), below);
+        });
+        EXPECT_EQ(clicked, "");
+        Do([&] { ClickOn(screen.View(), screen.View().model()->index(1, 0)); });
+        EXPECT_EQ(clicked, "1");
+    });
+}
+
+TEST_F(DataGridTest, NoHandCanDrawAColumnAwayFromItsCaption)
+{
+    AtGrid([&](DataGrid&, GridScreen& screen) {
+        QHeaderView& header = *screen.View().horizontalHeader();
+        const int width = header.sectionSize(0);
+        QPointF at(header.sectionViewportPosition(1) - 1, header.height() / 2);
+        Do([&] {
+            for (QEvent::Type type : {QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseMove,
+                     QEvent::MouseButtonRelease}) {
+                const bool isPress = type == QEvent::MouseButtonPress;
+                QMouseEvent event(type, at, header.viewport()->mapToGlobal(at),
+                    type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                    type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+                QCoreApplication::sendEvent(header.viewport(), &event);
+                if (isPress)
+                    at += QPointF(40, 0);
+            }
+        });
+        EXPECT_EQ(header.sectionSize(0), width);
     });
 }
 

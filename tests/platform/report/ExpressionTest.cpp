@@ -158,6 +158,16 @@ TEST(ExactSums, AddWhatIsPrintedAndRoundHalvesAwayFromZero)
     EXPECT_EQ(negative.Number(), -1.01);
 }
 
+TEST(ExactSums, AFigureJustBelowAHalfIsAddedAsItIsPrinted)
+{
+    ExactSum sum;
+    for (int i = 0; i < 100; ++i)
+        sum.Add(0.0049999996, 2);
+    EXPECT_TRUE(sum.IsZero());
+    sum.Add(0.0049999996);
+    EXPECT_EQ(sum.Number(), 0.005);
+}
+
 TEST(ExactSums, ATotalBeyondAllRangeIsAnErrorAndNotAWrongNumber)
 {
     ExactSum sum;

@@ -10,6 +10,8 @@
 #include <unistd.h>
 
 #include <cstring>
+#include <string>
+#include <string_view>
 #include <thread>
 
 namespace {
@@ -29,8 +31,44 @@ public:
     SilentService(const SilentService&) = delete;
     SilentService& operator=(const SilentService&) = delete;
 
+protected:
+    int Socket() const { return m_socket; }
+
 private:
     int m_socket;
+};
+
+// One that answers every question with a refusal.
+class RefusingService : public SilentService {
+public:
+    explicit RefusingService(const QByteArray& path) : SilentService(path), m_thread([this] { Serve(); }) { }
+    ~RefusingService()
+    {
+        shutdown(Socket(), SHUT_RDWR);
+        m_thread.join();
+    }
+
+private:
+    void Serve() const
+    {
+        constexpr std::string_view Refusal = "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n";
+        for (int client = accept(Socket(), nullptr, nullptr); client >= 0;
+             client = accept(Socket(), nullptr, nullptr)) {
+            std::string asked;
+            char piece[4096];
+            for (ssize_t got = read(client, piece, sizeof(piece)); got > 0;
+                 got = read(client, piece, sizeof(piece))) {
+                asked.append(piece, static_cast<std::size_t>(got));
+                if (asked.find("\r\n\r\n") == std::string::npos)
+                    continue;
+                asked.clear();
+                send(client, Refusal.data(), Refusal.size(), MSG_NOSIGNAL);
+            }
+            close(client);
+        }
+    }
+
+    std::thread m_thread;
 };
 
 // Runs on a thread of its own, which looks for the service anew.
@@ -65,5 +103,22 @@ TEST(SystemPrinter, APrintServiceThatDoesntAnswerIsGivenUpAndTold)
         clock.start();
         EXPECT_EQ(printer->Names(), QStringList());
         EXPECT_LT(clock.elapsed(), AtMost);
+    });
+}
+
+TEST(SystemPrinter, APrinterThatRefusesAJobIsToldWithItsReason)
+{
+    constexpr std::chrono::milliseconds Patience(5000);
+    const QTemporaryDir folder;
+    const QByteArray path = folder.filePath(QStringLiteral("s")).toLocal8Bit();
+    const RefusingService service(path);
+    WithService(path, [&] {
+        const std::unique_ptr<Printer> printer = MakeSystemPrinter(Patience);
+        const Outcome outcome =
+            printer->Print({QStringLiteral("/dev/null"), {}, QStringLiteral("lp"), QSizeF(100, 100)});
+        const QString told = QStringLiteral("प्रिंटरने काम घेतले नाही. छपाई झाली नाही; नोंदी सुरक्षित आहेत.\n"
+                                            "The printer lp refused: ");
+        EXPECT_TRUE(outcome.fault.startsWith(told)) << outcome.fault.toStdString();
+        EXPECT_GT(outcome.fault.size(), told.size()) << "the service's own word is told";
     });
 }

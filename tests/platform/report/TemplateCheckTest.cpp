@@ -36,6 +36,16 @@ TEST_F(TemplateCheckTest, AllFaultsAreToldAtOnceWithTheirLines)
     EXPECT_EQ(faults, expected);
 }
 
+TEST_F(TemplateCheckTest, AFontNeedsASizeThatCanBeRead)
+{
+    for (const char* size : {"", " 3", " 73", " nan", " inf", " big"}) {
+        const QString font = QStringLiteral("Noto Sans Devanagari") + QLatin1String(size);
+        EXPECT_EQ(Faults(QStringLiteral("<report name=\"Test\" paper=\"A4\" font=\"%1\"/>").arg(font)),
+            QStringList(
+                QStringLiteral("1: \"%1\" is no font such as \"Noto Sans Devanagari 10\"").arg(font)));
+    }
+}
+
 TEST_F(TemplateCheckTest, ATemplateThatIsNoXmlIsToldWithItsLine)
 {
     const QStringList faults =

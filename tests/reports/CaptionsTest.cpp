@@ -1,0 +1,61 @@
+// What the four report screens call themselves and their choices.
+
+#include "OptionButton.h"
+#include "ReportsTest.h"
+#include "frmReportMembersList.h"
+#include "frmReportMilkCollections.h"
+#include "frmReportMilkPS.h"
+#include "frmReportPaymentList.h"
+
+namespace {
+
+class CaptionsTest : public ReportsTest {
+protected:
+    struct Choice {
+        const char* control;
+        const char* caption;
+    };
+
+    static QString CaptionOf(Clerk& clerk, const char* option)
+    {
+        return dynamic_cast<const OptionButton&>(*clerk.Top().Find(QString::fromLatin1(option)))
+            .Shown()
+            .Text();
+    }
+
+    template <class S> void Expect(const char* title, std::initializer_list<Choice> choices)
+    {
+        On<S>([&](Clerk& clerk) {
+            EXPECT_EQ(clerk.Top().Title().Text(), QString::fromUtf8(title));
+            for (const Choice& choice : choices)
+                EXPECT_EQ(CaptionOf(clerk, choice.control), QString::fromUtf8(choice.caption));
+            EXPECT_EQ(clerk.Reads(QStringLiteral("cmdReport")), QStringLiteral("&irpaoT-"));
+        });
+        EXPECT_FALSE(Failure);
+    }
+};
+
+}
+
+TEST_F(CaptionsTest, TheStatementOfCollectionsOrSales)
+{
+    Expect<frmReportMilkPS>(
+        " dUQa saMklana À ivaËI irpaoT-", {{"OptionCollections", " saMklana"}, {"OptionSales", " ivaËI"}});
+}
+
+TEST_F(CaptionsTest, TheCollectionList)
+{
+    Expect<frmReportMilkCollections>(" dUQa saMklana irpaoT-",
+        {{"OptionMorning", "&sakaL"}, {"OptionEvening", "saMQyaa&kaL"}, {"OptionBoth", "&daonhI"}});
+}
+
+TEST_F(CaptionsTest, TheMembersList)
+{
+    Expect<frmReportMembersList>(" maombar yaadI",
+        {{"OptionList", "  &1 pUNa- yaadI"}, {"OptionArea", "  &2 ivaBaaga"}, {"OptionMilk", "  &3 dUQa"}});
+}
+
+TEST_F(CaptionsTest, ThePaymentList)
+{
+    Expect<frmReportPaymentList>(" dUQa pomaoMT ilasT", {{"Option1", "raoK"}, {"Option2", "baÐMk"}});
+}
