@@ -46,3 +46,9 @@ create index TransactionsDetailsByMember on TransactionsDetails (MemberNo, TranD
 
 -- The repayments of a member before and within a period, likewise.
 create index AdvanceReceiptByMember on AdvanceReceipt (MemberNo, TranDate);
+
+-- The gate's list in the order of a column shows its first rows after every save, and reads no others.
+create index MilkCollectionsTempByLiters on MilkCollectionsTemp (Liters);
+create index MilkCollectionsTempByFat on MilkCollectionsTemp (Fat);
+create index MilkCollectionsTempByRate on MilkCollectionsTemp (Rate);
+create index MilkCollectionsTempByAmount on MilkCollectionsTemp (Amount);

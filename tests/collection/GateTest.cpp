@@ -170,13 +170,14 @@ TEST_F(GateTest, TheSearchBoxIsReachedBackwardsFromTheDate)
     });
 }
 
+// Rows that are alike there stand in the order of their numbers, or with the arrow down against it.
 TEST_F(GateTest, TheSortButtonsAreReachedBackwardsFromTheDate)
 {
     AtTheGate([](Clerk& clerk) {
         Type(clerk, "+{TAB}+{TAB}+{TAB}+{TAB}+{TAB}");
         for (const auto& [button, rows] :
             std::initializer_list<std::pair<const char*, const char*>>{{"cmdAmtOrder", "3124"},
-                {"cmdRateOrder", "2413"}, {"cmdFatOrder", "2413"}, {"cmdLtrOrder", "3124"}}) {
+                {"cmdRateOrder", "2413"}, {"cmdFatOrder", "2413"}, {"cmdLtrOrder", "3142"}}) {
             Type(clerk, "+{TAB}");
             EXPECT_EQ(Focus(clerk), button);
             Type(clerk, "{ENTER}");
