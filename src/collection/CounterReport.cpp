@@ -30,6 +30,14 @@ void CounterReport::SetReportFileName(QStringView name)
     m_run.fileName = AppFolder.toString() + name;
 }
 
+void CounterReport::Prepare() const
+{
+    ReportControl report;
+    report.SetReportFileName(m_run.fileName);
+    report.SetLogon(Logon());
+    report.Prepare();
+}
+
 void CounterReport::Print()
 {
     if (m_run.fileName.isEmpty()) {

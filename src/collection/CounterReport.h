@@ -31,6 +31,9 @@ public:
     // is a run-time error.
     void Print();
 
+    // Lets the first printing wait for nothing that can be got ready before it; shows and tells nothing.
+    void Prepare() const;
+
     // Who prints; a test puts its own in place.
     static std::function<void(const Run&)>& Engine();
 

@@ -1,11 +1,9 @@
 #include "MilkReceipt.h"
 
-#include "AppFolder.h"
 #include "Dates.h"
 #include "MdlAccounts.h"
 #include "Queries.h"
 #include "ReceiptLayouts.h"
-#include "ReportControl.h"
 #include "Sql.h"
 
 void MilkReceipt::StageReceipt(const Delivery& d)
@@ -23,9 +21,8 @@ void MilkReceipt::Prepare()
 {
     if (Setting(u"PrintStatus") == u"naahI")
         return;
-    ReportControl slip;
-    slip.SetReportFileName(AppFolder.toString() + ReceiptLayoutOf(Setting(u"ReceiptType")).counterTemplate);
-    slip.SetLogon(Logon());
+    CounterReport slip;
+    slip.SetReportFileName(ReceiptLayoutOf(Setting(u"ReceiptType")).counterTemplate);
     slip.Prepare();
 }
 

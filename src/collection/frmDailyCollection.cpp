@@ -89,7 +89,6 @@ void frmDailyCollection::ShowIdle()
     for (Field* field : Fields())
         field->SetEnabled(false);
     cmdDelete.SetGuide({});
-    lblGuide.SetCaption({}); // the button may hold the focus on
     ShowList(false);
     ClearFields();
 }

@@ -188,7 +188,4 @@ void frmAutoSettings::ShowTabGuide()
     const Caption guides[] = {Caption(), Plain(u"Enter : पेमेंट कालावधी    ↓ : दराचा प्रकार व पुढील प्रश्न"),
         Plain(u"Enter : दर    ↓ : विक्री पावती/प्रिंट")};
     SSTab.SetGuide(guides[SSTab.Tab()]);
-    if (!SSTab.HasFocus())
-        return;
-    lblMessage.SetCaption(SSTab.Guide());
 }

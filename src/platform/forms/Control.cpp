@@ -55,6 +55,13 @@ void Control::SetColours(QColor focus, QColor plain)
     ShowFocus(HasFocus());
 }
 
+void Control::SetGuide(const Caption& guide)
+{
+    m_guide = guide;
+    if (HasFocus())
+        m_screen->ShowGuide(guide);
+}
+
 void Control::RunEvent(const Event& event)
 {
     m_screen->Run(event);

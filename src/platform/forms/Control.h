@@ -52,7 +52,7 @@ public:
 
     // The line that the screen's guide label shows while this control holds the focus.
     const Caption& Guide() const { return m_guide; }
-    void SetGuide(const Caption& guide) { m_guide = guide; }
+    void SetGuide(const Caption& guide);
 
     // What a screen reader calls the control.
     void SetAccessibleName(const Caption& name);

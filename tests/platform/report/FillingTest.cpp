@@ -4,8 +4,6 @@
 
 namespace {
 
-const QString Morning = QStringLiteral("सकाळ");
-
 class FillingTest : public ReportTest {
 protected:
     QString Joined(const QString& text) { return AllTexts(text).join(QStringLiteral(" | ")); }

@@ -4,8 +4,6 @@
 
 namespace {
 
-const QString Morning = QStringLiteral("सकाळ");
-
 // What a report gives to a spreadsheet.
 class RecordsTest : public ReportTest {
 protected:

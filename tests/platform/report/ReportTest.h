@@ -23,6 +23,8 @@ class ReportTest : public ::testing::Test {
 protected:
     ReportTest();
 
+    static inline const QString Morning = QStringLiteral("सकाळ");
+
     int Run(const QString& statement) { return connection->Execute(statement); }
 
     // Puts Devanagari between the marks [ and ] into the stored encoding, and runs the statement.

@@ -2,7 +2,6 @@
 
 namespace {
 
-const QString Morning = QStringLiteral("सकाळ");
 const QString Evening = QStringLiteral("संध्याकाळ");
 
 class TotalsTest : public ReportTest {
