@@ -2,6 +2,12 @@
 
 #include <sqlcipher/sqlite3.h>
 
+#include <fstream>
+#include <sstream>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace {
 
 std::vector<std::string> FirstColumn(sqlite3* handle, const char* query)
@@ -32,4 +38,22 @@ std::vector<std::string> BooksFile::TablesOf(sqlite3* handle)
 {
     return FirstColumn(handle,
         "select name from sqlite_master where type='table' and name not like 'sqlite%' order by name");
+}
+
+int BooksFile::LocksOn(const std::string& path)
+{
+    struct stat found { };
+    if (stat(path.c_str(), &found) != 0)
+        return 0;
+    int count = 0;
+    std::ifstream locks("/proc/locks");
+    for (std::string line; std::getline(locks, line);) {
+        std::istringstream words(line);
+        std::string number, kind, mode, way, process, file;
+        words >> number >> kind >> mode >> way >> process >> file;
+        if (kind == "POSIX" && process == std::to_string(getpid())
+            && file.ends_with(':' + std::to_string(found.st_ino)))
+            ++count;
+    }
+    return count;
 }

@@ -14,4 +14,7 @@ std::string IntegrityOf(sqlite3* handle);
 // The names of all tables, in the order of the alphabet.
 std::vector<std::string> TablesOf(sqlite3* handle);
 
+// How many locks this process has on a file, as the system lists them for every program.
+int LocksOn(const std::string& path);
+
 }

@@ -36,11 +36,32 @@ Target ReadConnectionString(const QString& connectionString)
 Connection::Connection() = default;
 Connection::~Connection() = default;
 
-void Connection::Open(const QString& connectionString)
+QStringList Connection::Open(const QString& connectionString, const OpeningPlan& plan)
 {
     const Target target = ReadConnectionString(connectionString);
     Close();
-    m_d = std::make_unique<Private>(DatabaseFile::Open(target.file, target.password));
+    const bool isFirst = !BooksOnDisk::AreOpen(target.file);
+    const OpenedFile opened = DatabaseFile::Open(target.file, target.password, plan);
+    m_d = std::make_unique<Private>(opened);
+    if (isFirst)
+        m_d->Fold();
+    return opened.notes;
+}
+
+bool Connection::Fold()
+{
+    return m_d && m_d->Fold();
+}
+
+qint64 Connection::LogSize() const
+{
+    return m_d ? m_d->LogSize() : 0;
+}
+
+void Connection::SetWritten(std::function<void()> written)
+{
+    if (m_d)
+        m_d->SetWritten(std::move(written));
 }
 
 void Connection::Close()

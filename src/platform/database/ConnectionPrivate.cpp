@@ -7,6 +7,17 @@
 
 #include <algorithm>
 
+namespace {
+
+// Connections to files that were changed from outside; the end of the process closes them.
+std::vector<std::pair<sqlite3*, std::shared_ptr<BooksOnDisk>>>& ConnectionsLeftOpen()
+{
+    static std::vector<std::pair<sqlite3*, std::shared_ptr<BooksOnDisk>>> connections;
+    return connections;
+}
+
+}
+
 Loan& Loan::operator=(Loan&& other) noexcept
 {
     End();
@@ -28,11 +39,25 @@ void Loan::End()
     m_cache->GiveBack(std::move(m_prepared));
 }
 
+Connection::Private::Private(const OpenedFile& opened)
+    : m_handle(opened.handle)
+    , m_onDisk(opened.onDisk)
+    , m_catalogue(opened.handle)
+    , m_cache(opened.handle)
+{
+}
+
 Connection::Private::~Private()
 {
     for (Recordset::Private* recordset : m_recordsets)
         recordset->Abandon();
     m_cache.Clear();
+    if (m_isForeign) {
+        // The engine's own closing would fold the log into whatever lies there now.
+        ConnectionsLeftOpen().push_back({m_handle, m_onDisk});
+        return;
+    }
+    Fold();
     sqlite3_close(m_handle);
 }
 
@@ -51,6 +76,22 @@ Loan Connection::Private::Take(const QString& statement)
 int Connection::Private::Execute(const QString& statement)
 {
     Loan loan = Take(statement);
+    if (loan->Made().kind == StatementKind::Query || m_depth > 0)
+        return Run(loan, statement);
+    Begin();
+    try {
+        const int changes = Run(loan, statement);
+        Commit();
+        return changes;
+    } catch (...) {
+        loan.End();
+        GiveUp();
+        throw;
+    }
+}
+
+int Connection::Private::Run(Loan& loan, const QString& statement)
+{
     const StatementKind kind = loan->Made().kind;
     const bool isSchema = kind == StatementKind::Create || kind == StatementKind::Drop;
     if (kind != StatementKind::Query) {
@@ -106,20 +147,113 @@ void Connection::Private::RequireTransaction() const
                     "The transaction was rolled back after a failure; nothing was saved. Start again.")));
 }
 
+// Two looks at names cost nothing beside a save; saving into files that nobody will open again costs the day.
+void Connection::Private::RequireUntouchedFiles()
+{
+    switch (m_onDisk->Look()) {
+    case BooksOnDisk::Verdict::Untouched:
+        return;
+    case BooksOnDisk::Verdict::FoldedByOthers:
+        m_onDisk->round = {m_onDisk->round.log, m_onDisk->round.log, false, false};
+        return;
+    case BooksOnDisk::Verdict::LogGone:
+        Fold();
+        DatabaseErrors::ThrowLogGone();
+    case BooksOnDisk::Verdict::Changed:
+        m_isForeign = true;
+        DatabaseErrors::ThrowFilesChanged();
+    }
+}
+
+int Connection::Private::RunOwn(const QByteArray& own)
+{
+    return sqlite3_exec(m_handle, own.constData(), nullptr, nullptr, nullptr);
+}
+
+void Connection::Private::RunOrThrow(const QByteArray& own)
+{
+    if (const int code = RunOwn(own); code != SQLITE_OK)
+        DatabaseErrors::ThrowFailure(m_handle, code, {});
+}
+
+// The first writing behind a fold begins a new round of the log.
+void Connection::Private::MarkRound()
+{
+    if (m_onDisk->round.isMarked)
+        return;
+    m_newRound = LogMark::New();
+    RunOrThrow("pragma application_id="
+        + QByteArray::number(LogMark::BaseOf(m_onDisk->round.books, m_onDisk->Books()))
+        + ";pragma user_version=" + QByteArray::number(m_newRound));
+}
+
+bool Connection::Private::IsReading() const
+{
+    for (sqlite3_stmt* one = sqlite3_next_stmt(m_handle, nullptr); one;
+         one = sqlite3_next_stmt(m_handle, one)) {
+        if (sqlite3_stmt_busy(one) != 0)
+            return true;
+    }
+    return false;
+}
+
+// A fold changes the file's time and, when the power fails, a part of its pages, so before it begins the log
+// is told to go by the file's mark alone.
+bool Connection::Private::SayThatFoldBegins()
+{
+    LogRound& round = m_onDisk->round;
+    if (RunOwn("begin immediate;pragma application_id="
+            + QByteArray::number(LogMark::FoldingBaseOf(round.books)) + ";commit")
+        != SQLITE_OK) {
+        if (sqlite3_get_autocommit(m_handle) == 0)
+            RunOwn("rollback");
+        return false;
+    }
+    round.isMarked = true;
+    round.isFolding = true;
+    return true;
+}
+
+bool Connection::Private::Fold()
+{
+    m_onDisk->RememberLog();
+    if (m_depth > 0 || m_isForeign || IsReading() || m_onDisk->LogSize() == 0)
+        return m_onDisk->LogSize() == 0;
+    LogRound& round = m_onDisk->round;
+    if (!round.isFolding && !SayThatFoldBegins())
+        return false;
+    sqlite3_busy_timeout(m_handle, 0);
+    const int code =
+        sqlite3_wal_checkpoint_v2(m_handle, nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr);
+    sqlite3_busy_timeout(m_handle, DatabaseFile::BusyMilliseconds);
+    m_onDisk->Sync();
+    m_onDisk->Remember();
+    if (code == SQLITE_OK && m_onDisk->LogSize() == 0) {
+        round = {round.log, round.log, false, false};
+    }
+    return !round.isMarked;
+}
+
 void Connection::Private::Rollback()
 {
     if (sqlite3_get_autocommit(m_handle) == 0)
-        sqlite3_exec(m_handle, "rollback", nullptr, nullptr, nullptr);
+        RunOwn("rollback");
     m_isDoomed = false;
+    m_newRound = 0;
     ForgetShapes();
 }
 
 void Connection::Private::Begin()
 {
     if (m_depth == 0) {
-        const int code = sqlite3_exec(m_handle, "begin immediate", nullptr, nullptr, nullptr);
-        if (code != SQLITE_OK)
-            DatabaseErrors::ThrowFailure(m_handle, code, {});
+        RequireUntouchedFiles();
+        RunOrThrow("begin immediate");
+        try {
+            MarkRound();
+        } catch (...) {
+            Rollback();
+            throw;
+        }
     }
     ++m_depth;
 }
@@ -141,12 +275,18 @@ void Connection::Private::Commit()
             Sentences(u"कामाचा एक भाग पूर्ण झाला नाही; काहीही जतन झाले नाही.",
                 QStringLiteral("A part of the transaction was given up; nothing was saved.")));
     }
-    const int code = sqlite3_exec(m_handle, "commit", nullptr, nullptr, nullptr);
-    if (code != SQLITE_OK) {
-        const RunTimeError failure = DatabaseErrors::Failure(m_handle, code, {});
+    if (const int code = RunOwn("commit"); code != SQLITE_OK) {
+        const RunTimeError failure = DatabaseErrors::CommitFailure(m_handle, code);
         Rollback();
         throw failure;
     }
+    if (m_newRound != 0) {
+        m_onDisk->round.log = std::exchange(m_newRound, 0);
+        m_onDisk->round.isMarked = true;
+    }
+    m_onDisk->RememberLog();
+    if (m_written)
+        m_written();
 }
 
 void Connection::Private::GiveUp()

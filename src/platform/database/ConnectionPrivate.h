@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Connection.h"
+#include "DatabaseFile.h"
 #include "Recordset.h"
 #include "StatementCache.h"
 
@@ -70,7 +71,7 @@ private:
 
 class Connection::Private {
 public:
-    explicit Private(sqlite3* handle) : m_handle(handle), m_catalogue(handle), m_cache(handle) { }
+    explicit Private(const OpenedFile& opened);
     ~Private();
 
     sqlite3* Handle() const { return m_handle; }
@@ -87,20 +88,35 @@ public:
     void Commit();
     void GiveUp();
 
+    bool Fold();
+    qint64 LogSize() const { return m_onDisk->LogSize(); }
+    void SetWritten(std::function<void()> written) { m_written = std::move(written); }
+
     void Add(Recordset::Private* recordset) { m_recordsets.push_back(recordset); }
     void Remove(Recordset::Private* recordset);
 
 private:
+    int Run(Loan& loan, const QString& statement);
     void KeepRests(const Translation* writing);
     void RequireTransaction() const;
+    void RequireUntouchedFiles();
     void Rollback();
     void ForgetShapes();
+    void RunOrThrow(const QByteArray& own);
+    int RunOwn(const QByteArray& own);
+    void MarkRound();
+    bool SayThatFoldBegins();
+    bool IsReading() const;
 
     sqlite3* m_handle;
+    std::shared_ptr<BooksOnDisk> m_onDisk;
     Catalogue m_catalogue;
     StatementCache m_cache;
     ScannedStatement m_scanned;
     std::vector<Recordset::Private*> m_recordsets;
+    std::function<void()> m_written;
     int m_depth = 0;
     bool m_isDoomed = false;
+    qint32 m_newRound = 0; // the mark that the running transaction gives to a new round of the log; 0: none
+    bool m_isForeign = false; // the files aren't the ones that were opened
 };

@@ -87,6 +87,48 @@ RunTimeError DatabaseErrors::Failure(sqlite3* handle, int code, QStringView stat
         Shown(statement));
 }
 
+RunTimeError DatabaseErrors::CommitFailure(sqlite3* handle, int code)
+{
+    const bool isFull = (code & 0xFF) == SQLITE_FULL;
+    return RunTimeError(RunTimeError::DatabaseFailure,
+        Sentences(isFull ? u"डिस्क भरली आहे. शेवटची नोंद जतन झाली की नाही ते माहीत नाही. डिस्कवर जागा करा, पुन्हा सुरू "
+                           u"करा आणि ती नोंद पुन्हा "
+                           u"भरण्याआधी ती आहे का ते पाहा."
+                         : u"डिस्कवर लिहिता आले नाही. शेवटची नोंद जतन झाली की नाही ते माहीत नाही. डिस्क तपासा, "
+                           u"पुन्हा सुरू करा आणि ती नोंद "
+                           u"पुन्हा भरण्याआधी ती आहे का ते पाहा.",
+            QStringLiteral(
+                "%1. It is not known whether the last entry was kept. Start again and look for it before "
+                "you key it again. (%2, %3)")
+                .arg(
+                    isFull ? QStringLiteral("The disk is full") : QStringLiteral("The disk can't be written"),
+                    QString::fromUtf8(sqlite3_errmsg(handle)), QString::number(code))));
+}
+
+void DatabaseErrors::ThrowFilesChanged()
+{
+    throw RunTimeError(RunTimeError::DatabaseFailure,
+        Sentences(u"हिशेबाची फाइल कार्यक्रम चालू असताना बदलली, काढली किंवा हलवली गेली. ही नोंद जतन झाली नाही. योग्य "
+                  u"फाइल जागेवर ठेवा, पुन्हा "
+                  u"सुरू करा आणि शेवटच्या नोंदी तपासा.",
+            QStringLiteral(
+                "The database file or its log was replaced, cut or moved while the program was running. "
+                "This entry was not saved. Put the right file in its place, start again, and look at "
+                "the last entries.")));
+}
+
+void DatabaseErrors::ThrowLogGone()
+{
+    throw RunTimeError(RunTimeError::DatabaseFailure,
+        Sentences(u"नोंदींची फाइल (-wal) कार्यक्रम चालू असताना काढली गेली. आधीच्या नोंदी जतन केल्या आहेत; ही शेवटची नोंद "
+                  u"जतन झाली नाही. पुन्हा सुरू "
+                  u"करा आणि ती पुन्हा भरा.",
+            QStringLiteral(
+                "The log beside the database file was removed while the program was running. The earlier "
+                "entries were brought into the books; this one was not saved. Start again and key it "
+                "again.")));
+}
+
 void DatabaseErrors::ThrowFailure(sqlite3* handle, int code, QStringView statement)
 {
     throw Failure(handle, code, statement);

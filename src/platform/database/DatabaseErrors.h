@@ -23,6 +23,13 @@ namespace DatabaseErrors {
 RunTimeError Failure(sqlite3* handle, int code, QStringView statement);
 [[noreturn]] void ThrowFailure(sqlite3* handle, int code, QStringView statement);
 
+// A commit that failed: what was written last may be on the disk all the same.
+RunTimeError CommitFailure(sqlite3* handle, int code);
+
+// The file of the books, or its log, isn't the one that was opened any more.
+[[noreturn]] void ThrowFilesChanged();
+[[noreturn]] void ThrowLogGone();
+
 // The file or the record set isn't open any more.
 [[noreturn]] void ThrowClosed();
 

@@ -1,5 +1,7 @@
 #include "WriteAheadLog.h"
 
+#include "BooksOnDisk.h"
+
 #include <QFile>
 #include <QtEndian>
 
@@ -8,6 +10,8 @@ namespace {
 constexpr quint32 Magic = 0x377f0682; // the lowest bit tells the byte order of the checksums
 constexpr int HeadSize = 32;
 constexpr int FrameHeadSize = 24;
+constexpr int SaltsAt = 16; // in the head of the log
+constexpr int SaltsSize = 8;
 
 struct Checksum {
     quint32 first = 0;
@@ -32,43 +36,149 @@ struct Checksum {
     }
 };
 
+// A page as the log holds it, behind its head.
+struct Frame {
+    QByteArray bytes;
+
+    quint32 Page() const { return qFromBigEndian<quint32>(bytes.constData()); }
+    quint32 DatabasePages() const { return qFromBigEndian<quint32>(bytes.constData() + 4); }
+    bool IsCommit() const { return DatabasePages() != 0; }
+    QByteArray Salts() const { return bytes.mid(8, SaltsSize); }
+    const char* Sums() const { return bytes.constData() + 16; }
+    const char* Content() const { return bytes.constData() + FrameHeadSize; }
+};
+
+// Walks through the frames of a log, from its head to its last whole frame.
+class LogReader {
+public:
+    LogReader(const QString& file, int pageSize) : m_file(file), m_pageSize(pageSize)
+    {
+        if (m_file.open(QIODevice::ReadOnly))
+            m_head = m_file.read(HeadSize);
+    }
+
+    bool IsThere() const { return m_file.isOpen(); }
+
+    // Whether the head is whole; if so, the frames are checked from here on.
+    bool HasSoundHead()
+    {
+        if (m_head.size() != HeadSize || (Word(0) & ~1U) != Magic
+            || Word(8) != static_cast<quint32>(m_pageSize))
+            return false;
+        m_bigEndian = (Word(0) & 1U) != 0;
+        m_sum.Add(m_head.constData(), HeadSize - SaltsSize, m_bigEndian);
+        m_salts = m_head.mid(SaltsAt, SaltsSize);
+        return m_sum.IsAt(m_head.constData() + HeadSize - SaltsSize);
+    }
+
+    const QByteArray& Salts() const { return m_salts; }
+
+    bool ReadNext(Frame& frame)
+    {
+        frame.bytes = m_file.read(FrameHeadSize + m_pageSize);
+        return frame.bytes.size() == FrameHeadSize + m_pageSize;
+    }
+
+    // Whether a frame continues the log without a break.
+    bool Continues(const Frame& frame)
+    {
+        if (frame.Salts() != m_salts)
+            return false;
+        m_sum.Add(frame.bytes.constData(), 8, m_bigEndian);
+        m_sum.Add(frame.Content(), m_pageSize, m_bigEndian);
+        return m_sum.IsAt(frame.Sums());
+    }
+
+private:
+    quint32 Word(int at) const { return qFromBigEndian<quint32>(m_head.constData() + at); }
+
+    QFile m_file;
+    int m_pageSize;
+    QByteArray m_head;
+    QByteArray m_salts;
+    bool m_bigEndian = false;
+    Checksum m_sum;
+};
+
+// Commits of this log from a frame on. Frames that an abandoned writing has left behind hold no commit;
+// frames of an older round have other salts.
+int CommitsFrom(LogReader& reader, Frame frame, QByteArray salts)
+{
+    int commits = 0;
+    do {
+        if (salts.isEmpty())
+            salts = frame.Salts();
+        if (frame.Salts() == salts && frame.IsCommit())
+            ++commits;
+    } while (reader.ReadNext(frame));
+    return commits;
+}
+
+// How many frames the engine's index says were committed. After a killed program it is exact, after a power
+// cut it may be older than the log; 0 if it belongs to another log or is itself half written.
+quint32 FramesByIndex(const QString& databaseFile, const QByteArray& salts)
+{
+    constexpr int copySize = 48; // it stands there twice, and the copies differ while it is being written
+    constexpr int framesAt = 16;
+    constexpr int saltsAt = 32;
+    QFile file(WriteAheadLog::IndexNameFor(databaseFile));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArray copies = file.read(2 * copySize);
+    if (copies.size() != 2 * copySize || copies.left(copySize) != copies.right(copySize)
+        || copies.mid(saltsAt, SaltsSize) != salts)
+        return 0;
+    quint32 frames = 0;
+    memcpy(&frames, copies.constData() + framesAt, sizeof frames);
+    return frames;
+}
+
+// Frames that are known to have been committed and are cut off, as commits of the usual length.
+int CommitsIn(quint32 missingFrames, quint32 frames, int commits)
+{
+    const quint32 usual = commits > 0 ? qMax(1U, frames / static_cast<quint32>(commits)) : 1U;
+    return static_cast<int>((missingFrames + usual - 1) / usual);
+}
+
 }
 
 WriteAheadLog WriteAheadLog::Read(const QString& databaseFile, int pageSize)
 {
+    Q_ASSERT(!BooksOnDisk::AreOpen(databaseFile));
     WriteAheadLog log;
-    QFile file(databaseFile + QStringLiteral("-wal"));
-    if (!file.open(QIODevice::ReadOnly))
+    LogReader reader(NameFor(databaseFile), pageSize);
+    log.isThere = reader.IsThere();
+    Frame frame;
+    if (!reader.HasSoundHead()) {
+        if (log.isThere && reader.ReadNext(frame))
+            log.lostCommits = CommitsFrom(reader, frame, {});
         return log;
-    const QByteArray head = file.read(HeadSize);
-    if (head.size() != HeadSize || (qFromBigEndian<quint32>(head.constData()) & ~1U) != Magic
-        || qFromBigEndian<quint32>(head.constData() + 8) != static_cast<quint32>(pageSize))
-        return log;
-    const bool bigEndian = (qFromBigEndian<quint32>(head.constData()) & 1U) != 0;
-    const QByteArray salts = head.mid(16, 8);
-    Checksum sum;
-    sum.Add(head.constData(), HeadSize - 8, bigEndian);
-    if (!sum.IsAt(head.constData() + HeadSize - 8))
-        return log;
+    }
 
     QSet<quint32> pages;
     QByteArray firstPage;
-    for (;;) {
-        const QByteArray frame = file.read(FrameHeadSize + pageSize);
-        if (frame.size() != FrameHeadSize + pageSize || frame.mid(8, 8) != salts)
-            return log;
-        sum.Add(frame.constData(), 8, bigEndian);
-        sum.Add(frame.constData() + FrameHeadSize, pageSize, bigEndian);
-        if (!sum.IsAt(frame.constData() + 16))
-            return log;
-        const auto page = qFromBigEndian<quint32>(frame.constData());
-        pages.insert(page);
-        if (page == 1)
-            firstPage = frame.mid(FrameHeadSize);
-        if (const auto size = qFromBigEndian<quint32>(frame.constData() + 4); size != 0) {
-            log.databasePages = size;
-            log.pages = pages;
-            log.firstPage = firstPage;
+    quint32 frames = 0;
+    quint32 committedFrames = 0;
+    int commits = 0;
+    while (reader.ReadNext(frame)) {
+        if (!reader.Continues(frame)) {
+            log.lostCommits = CommitsFrom(reader, frame, reader.Salts());
+            break;
         }
+        ++frames;
+        pages.insert(frame.Page());
+        if (frame.Page() == 1)
+            firstPage = frame.bytes.mid(FrameHeadSize);
+        if (!frame.IsCommit())
+            continue;
+        log.databasePages = frame.DatabasePages();
+        log.pages = pages;
+        log.firstPage = firstPage;
+        committedFrames = frames;
+        ++commits;
     }
+    const quint32 known = FramesByIndex(databaseFile, reader.Salts());
+    if (log.lostCommits == 0 && known > committedFrames)
+        log.lostCommits = CommitsIn(known - committedFrames, committedFrames, commits);
+    return log;
 }

@@ -1,0 +1,115 @@
+#include "BooksOnDisk.h"
+
+#include "DatabaseFile.h"
+#include "WriteAheadLog.h"
+
+#include <QFileInfo>
+#include <QHash>
+
+namespace {
+
+using Held = QHash<QString, std::weak_ptr<BooksOnDisk>>;
+
+Held& HeldFiles()
+{
+    static Held files;
+    return files;
+}
+
+QString KeyOf(const QString& file)
+{
+    return QFileInfo(file).absoluteFilePath();
+}
+
+}
+
+std::shared_ptr<BooksOnDisk> BooksOnDisk::Hold(const QString& file)
+{
+    const QString key = KeyOf(file);
+    if (std::shared_ptr<BooksOnDisk> held = HeldFiles().value(key).lock())
+        return held;
+    std::shared_ptr<BooksOnDisk> books(new BooksOnDisk(key));
+    HeldFiles().insert(key, books);
+    return books;
+}
+
+bool BooksOnDisk::AreOpen(const QString& file)
+{
+    return !HeldFiles().value(KeyOf(file)).expired();
+}
+
+BooksOnDisk::BooksOnDisk(const QString& file)
+    : m_path(file)
+    , m_file(file)
+    , m_log(WriteAheadLog::NameFor(file))
+{
+    m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    Remember();
+}
+
+BooksOnDisk::~BooksOnDisk()
+{
+    HeldFiles().remove(m_path);
+}
+
+void BooksOnDisk::HoldLog()
+{
+    if (!m_log.isOpen())
+        m_log.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    Remember();
+}
+
+BooksOnDisk::Verdict BooksOnDisk::Look()
+{
+    if (!m_logState.Exists())
+        HoldLog();
+    const FileState books = FileState::Of(m_path);
+    const FileState log = FileState::Of(m_log.fileName());
+    if (!books.Exists() || !books.IsSameFileAs(m_books) || books.size < m_books.size)
+        return Verdict::Changed;
+    const bool isLogThere = log.Exists() && log.IsSameFileAs(m_logState);
+    if (isLogThere && log.size < m_logState.size)
+        return Verdict::Changed;
+    if (books.written == m_books.written && books.size == m_books.size)
+        return isLogThere ? Verdict::Untouched : Verdict::LogGone;
+
+    // Somebody else has written. Each round of the log begins with a first page of its own, so an unchanged
+    // first page means unchanged books, and one that stands in the log has come out of it.
+    const QByteArray firstPage = FirstPage();
+    const bool isSame = firstPage == m_firstPage;
+    if (!isSame && !LogHolds(firstPage))
+        return Verdict::Changed;
+    if (!isLogThere)
+        return Verdict::LogGone;
+    Remember();
+    return isSame ? Verdict::Untouched : Verdict::FoldedByOthers;
+}
+
+void BooksOnDisk::RememberLog()
+{
+    m_logState = FileState::Of(m_log.fileName());
+}
+
+void BooksOnDisk::Remember()
+{
+    m_books = FileState::Of(m_path);
+    RememberLog();
+    m_firstPage = FirstPage();
+}
+
+void BooksOnDisk::Sync()
+{
+    SyncToDisk(m_file);
+}
+
+QByteArray BooksOnDisk::FirstPage()
+{
+    return m_file.seek(0) ? m_file.read(DatabaseFile::PageSize) : QByteArray();
+}
+
+bool BooksOnDisk::LogHolds(const QByteArray& firstPage)
+{
+    if (!m_log.isOpen() || !m_log.seek(0))
+        return false;
+    return m_log.readAll().contains(firstPage);
+}

@@ -1,0 +1,48 @@
+#include "FileState.h"
+
+#include <QFile>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#include <unistd.h>
+#else
+#include <QDateTime>
+#include <QFileInfo>
+
+#include <io.h>
+#endif
+
+#ifdef Q_OS_UNIX
+
+FileState FileState::Of(const QString& path)
+{
+    struct stat found { };
+    if (stat(QFile::encodeName(path).constData(), &found) != 0)
+        return {};
+    constexpr qint64 nanoseconds = 1000000000;
+    return {found.st_dev, found.st_ino, found.st_size,
+        found.st_mtim.tv_sec * nanoseconds + found.st_mtim.tv_nsec};
+}
+
+bool SyncToDisk(const QFile& file)
+{
+    return fsync(file.handle()) == 0;
+}
+
+#else
+
+FileState FileState::Of(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return {};
+    constexpr qint64 nanoseconds = 1000000;
+    return {0, 0, info.size(), info.lastModified().toMSecsSinceEpoch() * nanoseconds};
+}
+
+bool SyncToDisk(const QFile& file)
+{
+    return _commit(file.handle()) == 0;
+}
+
+#endif

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+class QFile;
+
+// Which file a name stands for at the moment, and when it was last written.
+struct FileState {
+    quint64 device = 0;
+    quint64 number = 0; // of the file on its device; 0 where the system has none
+    qint64 size = -1; // bytes; -1 if there is no such file
+    qint64 written = 0; // nanoseconds since 1970
+
+    static FileState Of(const QString& path);
+
+    bool Exists() const { return size >= 0; }
+    bool IsSameFileAs(const FileState& other) const
+    {
+        return device == other.device && number == other.number;
+    }
+};
+
+// Sees that what was written into an open file is on the disk, with its size and time.
+bool SyncToDisk(const QFile& file);

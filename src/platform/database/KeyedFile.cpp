@@ -1,0 +1,97 @@
+#include "KeyedFile.h"
+
+#include "DatabaseErrors.h"
+#include "DatabaseFile.h"
+
+#include <QFileInfo>
+#include <QTemporaryFile>
+#include <QUrl>
+
+#include <sqlcipher/sqlite3.h>
+
+namespace {
+
+QByteArray NameFor(const QString& file, KeyedFile::Way way)
+{
+    if (way != KeyedFile::Way::LookOnly)
+        return file.toUtf8();
+    return "file:" + QUrl::toPercentEncoding(QFileInfo(file).absoluteFilePath(), "/") + "?immutable=1";
+}
+
+int FlagsFor(KeyedFile::Way way)
+{
+    switch (way) {
+    case KeyedFile::Way::Write:
+        return SQLITE_OPEN_READWRITE;
+    case KeyedFile::Way::Read:
+        return SQLITE_OPEN_READONLY;
+    case KeyedFile::Way::LookOnly:
+        return SQLITE_OPEN_READONLY | SQLITE_OPEN_URI;
+    }
+    return 0;
+}
+
+}
+
+KeyedFile::KeyedFile(const QString& file, const QString& password, Way way)
+{
+    m_code = sqlite3_open_v2(NameFor(file, way).constData(), &m_handle, FlagsFor(way), nullptr);
+    if (m_code == SQLITE_OK)
+        m_code = Key(password);
+}
+
+KeyedFile::~KeyedFile()
+{
+    sqlite3_close(m_handle);
+}
+
+int KeyedFile::Run(const QByteArray& pragma)
+{
+    return sqlite3_exec(m_handle, pragma.constData(), nullptr, nullptr, nullptr);
+}
+
+void KeyedFile::RunOrThrow(const QByteArray& pragma)
+{
+    if (const int code = Run(pragma); code != SQLITE_OK)
+        DatabaseErrors::ThrowFailure(m_handle, code, {});
+}
+
+int KeyedFile::Key(const QString& password)
+{
+    const QByteArray bytes = password.toUtf8();
+    const int code = sqlite3_key(m_handle, bytes.constData(), static_cast<int>(bytes.size()));
+    if (code != SQLITE_OK)
+        return code;
+    return Run("pragma cipher_page_size=" + QByteArray::number(DatabaseFile::PageSize));
+}
+
+FirstPage FirstPage::OfFile(const QString& file, const QString& password)
+{
+    KeyedFile opened(file, password, KeyedFile::Way::LookOnly);
+    FirstPage page;
+    page.code = opened.Code() != SQLITE_OK ? opened.Code() : opened.Run("pragma schema_version");
+    if (page.IsReadable())
+        page.mark = LogMark::Of(opened.Handle());
+    return page;
+}
+
+FirstPage FirstPage::OfBytes(const QByteArray& bytes, quint32 pages, const QString& password)
+{
+    QTemporaryFile copy;
+    FirstPage unread;
+    unread.code = SQLITE_IOERR;
+    if (!copy.open() || copy.write(bytes) != bytes.size() || !copy.flush())
+        return unread;
+    // The engine reads nothing of a first page that counts more pages than there are.
+    return copy.resize(qint64(pages) * bytes.size()) ? OfFile(copy.fileName(), password) : unread;
+}
+
+bool FirstPage::IsUnreadable() const
+{
+    return (code & 0xFF) == SQLITE_NOTADB;
+}
+
+bool FirstPage::IsOfTooFewPages() const
+{
+    return (code & 0xFF) == SQLITE_CORRUPT;
+}

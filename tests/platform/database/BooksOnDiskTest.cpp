@@ -1,0 +1,155 @@
+#include "BooksFile.h"
+#include "DatabaseTest.h"
+
+#include "Transaction.h"
+
+#include <QFile>
+
+#include <cstdio>
+
+namespace {
+
+// What happens to books and log from outside while they are open.
+class BooksOnDiskTest : public DatabaseTest {
+protected:
+    void Add(int number)
+    {
+        connection.Execute(
+            QStringLiteral("insert into CityMaster(CompanyId,CityName) values(%1,'a')").arg(number));
+    }
+
+    // What a save says now; empty if it goes well.
+    QString Refusal()
+    {
+        try {
+            Transaction saving(connection);
+            Add(99);
+            saving.Commit();
+        } catch (const RunTimeError& error) {
+            return error.Happened();
+        }
+        return {};
+    }
+
+    QByteArray Bytes()
+    {
+        QFile read(file);
+        EXPECT_TRUE(read.open(QIODevice::ReadOnly));
+        return read.readAll();
+    }
+
+    int LocksOn() const { return BooksFile::LocksOn(file.toStdString()); }
+    QString Log() const { return file + QStringLiteral("-wal"); }
+};
+
+TEST_F(BooksOnDiskTest, TheEnginesLockStandsWhileAnotherConnectionComesAndGoes)
+{
+    Add(1);
+    ASSERT_EQ(LocksOn(), 1);
+    for (int i = 0; i < 3; ++i) {
+        {
+            Connection reader;
+            reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
+            EXPECT_FALSE(Recordset(reader, QStringLiteral("select * from CityMaster")).Eof());
+            EXPECT_EQ(LocksOn(), 1);
+        }
+        EXPECT_EQ(LocksOn(), 1);
+    }
+    connection.Fold();
+    EXPECT_EQ(LocksOn(), 1);
+    connection.Close();
+    EXPECT_EQ(LocksOn(), 0);
+}
+
+TEST_F(BooksOnDiskTest, ARemovedLogIsToldAndWhatItHeldIsInTheBooks)
+{
+    Add(1);
+    Add(2);
+    ASSERT_TRUE(QFile::remove(Log()));
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("log beside the database file was removed")));
+    connection.Close();
+    Open();
+    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("2"));
+    EXPECT_TRUE(IsSound(connection));
+}
+
+TEST_F(BooksOnDiskTest, BooksThatWereReplacedAreToldAndLeftAsTheyAre)
+{
+    Add(1);
+    connection.Fold();
+    const QByteArray backup = Bytes();
+    Add(2);
+    const QString other = folder.filePath(QStringLiteral("other"));
+    QFile made(other);
+    ASSERT_TRUE(made.open(QIODevice::WriteOnly));
+    made.write(backup);
+    made.close();
+    ASSERT_EQ(rename(other.toLocal8Bit().constData(), file.toLocal8Bit().constData()), 0);
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    connection.Close();
+    EXPECT_EQ(Bytes(), backup);
+}
+
+TEST_F(BooksOnDiskTest, BooksThatWereOverwrittenAreToldAndLeftAsTheyAre)
+{
+    Add(1);
+    connection.Fold();
+    const QByteArray backup = Bytes();
+    Add(2);
+    connection.Fold();
+    Add(3);
+    ASSERT_EQ(Bytes().size(), backup.size()) << "so that it isn't the size that tells";
+    QFile write(file);
+    ASSERT_TRUE(write.open(QIODevice::ReadWrite));
+    write.write(backup);
+    write.close();
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    connection.Close();
+    EXPECT_EQ(Bytes(), backup);
+}
+
+TEST_F(BooksOnDiskTest, BooksOrALogThatWereCutShortAreTold)
+{
+    Add(1);
+    connection.Fold();
+    const qint64 size = QFileInfo(file).size();
+    Add(2);
+    ASSERT_TRUE(QFile::resize(Log(), 100));
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    connection.Close();
+    EXPECT_EQ(QFileInfo(file).size(), size);
+}
+
+TEST_F(BooksOnDiskTest, BooksThatAreGoneAreTold)
+{
+    Add(1);
+    ASSERT_TRUE(QFile::rename(file, file + QStringLiteral(".away")));
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    connection.Close();
+    EXPECT_FALSE(QFile::exists(file));
+}
+
+TEST_F(BooksOnDiskTest, AFoldByAnotherProgramIsNoHarm)
+{
+    Add(1);
+    Add(2);
+    sqlite3* other = nullptr;
+    ASSERT_EQ(sqlite3_open(file.toUtf8().constData(), &other), SQLITE_OK);
+    const QByteArray statements = "pragma key='" + TestPassword.toUtf8().replace("'", "''")
+        + "'; pragma cipher_page_size=1024; pragma wal_checkpoint(restart)";
+    ASSERT_EQ(sqlite3_exec(other, statements.constData(), nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(other);
+    EXPECT_EQ(Refusal(), QString());
+    Add(3);
+    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("4"));
+    const QString left = folder.filePath(QStringLiteral("left.mdb"));
+    ASSERT_TRUE(QFile::copy(file, left));
+    ASSERT_TRUE(QFile::copy(Log(), left + QStringLiteral("-wal")));
+    DataSource::Register(QStringLiteral("Left"), left);
+    Connection again;
+    EXPECT_EQ(again.Open(QStringLiteral("dsn=Left;pwd=") + TestPassword), QStringList());
+    EXPECT_EQ(Recordset(again, QStringLiteral("select count(*) from CityMaster")).At(0).Text(),
+        QStringLiteral("4"));
+}
+
+}
