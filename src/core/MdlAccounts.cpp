@@ -1,6 +1,8 @@
 #include "MdlAccounts.h"
 
 #include "AppFolder.h"
+#include "BooksKeeper.h"
+#include "BooksOpening.h"
 #include "DateField.h"
 #include "Dates.h"
 #include "ModalStack.h"
@@ -86,15 +88,17 @@ bool LoadAccessFlags()
 
 void AppMain()
 {
-    if (LoadAppState())
-        ShowOpeningScreens();
+    if (!LoadAppState())
+        return;
+    const BooksKeeper keeper;
+    ShowOpeningScreens();
 }
 
 bool LoadAppState()
 {
     gAppState = AppState();
     ReadPassword();
-    gCn.Open(Logon());
+    OpenBooks();
     LoadCompany();
     gAppState.gCallerTag = QStringLiteral("N");
     LoadSettings();

@@ -2,6 +2,7 @@
 //
 //   other_process DRIVES            starts, says which screen it has come to, and leaves
 //   other_process DRIVES ACTION N   plays an action and dies at its N-th write
+//   other_process DRIVES keys       types each line of its standard input, and says the screen that it led to
 //
 // What the plain boxes say goes to the standard output; none of them waits.
 
@@ -46,6 +47,22 @@ int StartAndLeave()
     return exitCode;
 }
 
+// Whoever started it sees what it has saved, meddles with the books, or kills it between two lines.
+int TypeWhatIsSaid()
+{
+    int exitCode = -1;
+    Clerk clerk;
+    clerk.Play([&] { exitCode = RunProgram(); },
+        [](Clerk& hands) {
+            QTextStream lines(stdin);
+            for (QString keys = lines.readLine(); !keys.isNull(); keys = lines.readLine()) {
+                hands.Type(keys);
+                Say("screen", hands.ScreenName());
+            }
+        });
+    return exitCode;
+}
+
 int DieAtWrite(const Action& action, int n)
 {
     FaultyDisk::Install();
@@ -68,7 +85,7 @@ int main(int argc, char* argv[])
 {
     Application application(argc, argv);
     const QStringList arguments = Application::arguments();
-    if (arguments.size() != 2 && arguments.size() != 4)
+    if (arguments.size() < 2 || arguments.size() > 4)
         return 2;
     SpokenBox box;
     MorningClock clock;
@@ -76,5 +93,12 @@ int main(int argc, char* argv[])
     World::Current().clock = &clock;
     SetDrivesRoot(arguments[1]);
     RegisterScreens();
-    return arguments.size() == 2 ? StartAndLeave() : DieAtWrite(ActionOf(arguments[2]), arguments[3].toInt());
+    switch (arguments.size()) {
+    case 2:
+        return StartAndLeave();
+    case 3:
+        return TypeWhatIsSaid();
+    default:
+        return DieAtWrite(ActionOf(arguments[2]), arguments[3].toInt());
+    }
 }

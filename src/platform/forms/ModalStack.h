@@ -5,6 +5,7 @@
 
 #include <QApplication>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -26,6 +27,9 @@ public:
     void Fail(const RunTimeError& error);
     const std::optional<RunTimeError>& Failure() const { return m_failure; }
 
+    // `left` is called whenever a screen has been left, before the one beneath it goes on.
+    void SetLeft(std::function<void()> left) { m_left = std::move(left); }
+
     // Forgets a failure, so that a test can begin anew.
     void Reset();
 
@@ -33,6 +37,7 @@ private:
     friend class Screen;
 
     std::vector<Screen*> m_open;
+    std::function<void()> m_left;
     std::optional<RunTimeError> m_failure;
 };
 

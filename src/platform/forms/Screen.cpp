@@ -62,6 +62,8 @@ void Screen::ShowModal()
             screen.m_open = false;
             screen.hide();
             std::erase(open, &screen);
+            if (ModalStack::Current().m_left)
+                ModalStack::Current().m_left();
             if (open.empty())
                 return;
             open.back()->TypeLater({screen.m_keys.begin(), screen.m_keys.end()});

@@ -1,0 +1,240 @@
+#include "Actions.h"
+#include "BooksFile.h"
+#include "Processes.h"
+#include "ProgramTest.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+
+namespace {
+
+// What was keyed stays, whatever is looked at, printed, killed or put in its place meanwhile.
+class BooksKeptTest : public ProgramTest {
+protected:
+    BooksKeptTest() { FillBooks(); }
+
+    void ShowSlips()
+    {
+        Run(QStringLiteral("update AutoSettings set PrintStatus='f@t sËIna',ReceiptType='Tašp 2'"));
+    }
+
+    const QString Books = QStringLiteral("Morvelta.mdb");
+    const QString Log = QStringLiteral("Morvelta.mdb-wal");
+
+    // Whether the engine's lock stands on the books, for every other program to see.
+    bool IsLocked() const { return BooksFile::LocksOn(FolderFile(Books).toStdString()) > 0; }
+
+    qint64 LogSize() const { return QFileInfo(FolderFile(Log)).size(); }
+
+    QStringList Deliveries()
+    {
+        return Rows(QStringLiteral("select CollectionNo,MemberNo,Liters from MilkCollections where "
+                                   "CollectionTime='saMQyaakaL' order by CollectionNo"));
+    }
+
+    // The program in a process of its own, which can be killed; its books are closed in this one.
+    void StartOther()
+    {
+        gCn.Close();
+        m_other = Processes::Start(QStringLiteral("other_process"), {Drives(), QStringLiteral("keys")});
+    }
+
+    // Types there, and returns the screen that it has led to.
+    QString TypeThere(const QString& keys)
+    {
+        m_other->write(keys.toUtf8() + '\n');
+        constexpr int halfMinute = 30000;
+        QElapsedTimer waited;
+        waited.start();
+        while (!m_other->canReadLine() && waited.elapsed() < halfMinute) {
+            if (!m_other->waitForReadyRead(halfMinute))
+                break;
+        }
+        const QString said = QString::fromUtf8(m_other->readLine()).trimmed();
+        EXPECT_TRUE(said.startsWith(QStringLiteral("screen "))) << said.toStdString();
+        return said.mid(7);
+    }
+
+    void KillOther()
+    {
+        m_other->kill();
+        EXPECT_TRUE(Processes::WaitForEnd(*m_other));
+        m_other.reset();
+    }
+
+    // What the stock shell prints for a query.
+    QString AskShell(const QString& query) const
+    {
+        QProcess shell;
+        shell.start(QStringLiteral("sqlcipher"), {FolderFile(Books)});
+        EXPECT_TRUE(shell.waitForStarted()) << "the package sqlcipher is needed";
+        shell.write("pragma key='Doodh#26';\n" + query.toUtf8() + "\n.quit\n");
+        EXPECT_TRUE(Processes::WaitForEnd(shell));
+        return QString::fromUtf8(shell.readAllStandardOutput()).trimmed();
+    }
+
+    std::unique_ptr<QProcess> m_other;
+};
+
+const QString ToTheEvening = QStringLiteral("{DOWN}{ENTER}{ENTER}{ENTER}2{ENTER}");
+
+QString Delivery(const char* member, const char* litres, const char* fat)
+{
+    return QStringLiteral("{ENTER}%1{ENTER}%2{ENTER}%3{ENTER}{ENTER}{ENTER}")
+        .arg(QLatin1String(member), QLatin1String(litres), QLatin1String(fat));
+}
+
+}
+
+TEST_F(BooksKeptTest, ALookWithTheShellAfterASlipAndAKillLoseNothing)
+{
+    ShowSlips();
+    StartOther();
+    EXPECT_EQ(TypeThere(OpeningKeys() + ToTheEvening + Delivery("1", "6", "4.1")),
+        QStringLiteral("frmReportPreview"));
+    EXPECT_EQ(TypeThere(QStringLiteral("{ESC}")), QStringLiteral("frmMilkCollections"));
+    EXPECT_TRUE(AskShell(QStringLiteral("select count(*) from MilkCollections;")).endsWith(u'4'));
+    for (const char* member : {"2", "3"}) {
+        TypeThere(Delivery(member, member[0] == '2' ? "4" : "1{ENTER}5", "7.1"));
+        TypeThere(QStringLiteral("{ESC}"));
+    }
+    KillOther();
+    Reopen();
+    EXPECT_EQ(Deliveries(), Lines({"1|1|6", "2|2|4", "3|3|5"}));
+    EXPECT_EQ(Integrity(), "ok");
+}
+
+TEST_F(BooksKeptTest, ABackupPutOverTheBooksOfAKilledProgramIsWhatOpens)
+{
+    gCn.Close();
+    const QString backup = FolderFile(QStringLiteral("Backup/kept.mdb"));
+    ASSERT_TRUE(QFile::copy(FolderFile(Books), backup));
+    StartOther();
+    TypeThere(OpeningKeys() + ToTheEvening + Delivery("1", "6", "4.1"));
+    EXPECT_EQ(TypeThere(QStringLiteral("{ESC}")), QStringLiteral("MainMenuFrm"));
+    TypeThere(QStringLiteral("{ENTER}{ENTER}2{ENTER}") + Delivery("2", "4", "7.1"));
+    KillOther();
+    ASSERT_GT(LogSize(), 0);
+    ASSERT_TRUE(QFile::remove(FolderFile(Books)));
+    ASSERT_TRUE(QFile::copy(backup, FolderFile(Books)));
+    Reopen();
+    EXPECT_EQ(Deliveries(), QStringList());
+    EXPECT_EQ(TheBox.Shown.size(), 1);
+    EXPECT_EQ(Boxes("log of other books"), 1);
+    EXPECT_EQ(Integrity(), "ok");
+}
+
+TEST_F(BooksKeptTest, TheEnginesLockStandsAfterEachSlipPreviewFileAndScreen)
+{
+    const QString folder = FolderFile(QStringLiteral("Saved"));
+    ASSERT_TRUE(QDir().mkdir(folder));
+    ShowSlips();
+    Start([&](Clerk& clerk) {
+        clerk.Type(OpeningKeys());
+        EXPECT_TRUE(IsLocked());
+        clerk.Type(ToTheEvening + Delivery("1", "6", "4.1"));
+        ASSERT_EQ(OnTop(clerk), "frmReportPreview");
+        EXPECT_TRUE(IsLocked()) << "a slip";
+        for (const char* key : {"^s", "^e"}) {
+            Type(clerk, key);
+            clerk.Type(QStringLiteral("slip{ENTER}") + folder + QStringLiteral("{ENTER}{ENTER}"));
+            ASSERT_EQ(OnTop(clerk), "frmReportPreview");
+            EXPECT_TRUE(IsLocked()) << "a PDF, a CSV";
+        }
+        EXPECT_EQ(QDir(folder).entryList(QDir::Files), Lines({"slip.csv", "slip.pdf"}));
+        Type(clerk, "{ESC}");
+        EXPECT_TRUE(IsLocked());
+        Type(clerk, "{ESC}");
+        ASSERT_EQ(OnTop(clerk), "MainMenuFrm");
+        EXPECT_TRUE(IsLocked()) << "the counter is left";
+        EXPECT_EQ(LogSize(), 0);
+    });
+    EXPECT_FALSE(IsLocked());
+}
+
+TEST_F(BooksKeptTest, LeavingAScreenFoldsTheLogIntoTheBooks)
+{
+    Start([&](Clerk& clerk) {
+        clerk.Type(OpeningKeys() + ToTheEvening + Delivery("1", "6", "4.1"));
+        EXPECT_GT(LogSize(), 0);
+        Type(clerk, "{ESC}");
+        ASSERT_EQ(OnTop(clerk), "MainMenuFrm");
+        EXPECT_EQ(LogSize(), 0);
+    });
+    EXPECT_FALSE(QFile::exists(FolderFile(Log))) << "a clean end leaves no log";
+}
+
+TEST_F(BooksKeptTest, KeysThatRestFoldTheLogToo)
+{
+    Start([&](Clerk& clerk) {
+        clerk.Type(OpeningKeys() + ToTheEvening + Delivery("1", "6", "4.1"));
+        ASSERT_EQ(OnTop(clerk), "frmMilkCollections");
+        EXPECT_GT(LogSize(), 0);
+        const QDeadlineTimer patience(30000);
+        while (LogSize() > 0 && !patience.hasExpired())
+            clerk.Do([] {});
+        EXPECT_EQ(LogSize(), 0);
+    });
+}
+
+TEST_F(BooksKeptTest, BooksReplacedUnderTheRunningProgramEndItWithAWordAndStayAsTheyAre)
+{
+    gCn.Close();
+    const QString backup = FolderFile(QStringLiteral("Backup/kept.mdb"));
+    ASSERT_TRUE(QFile::copy(FolderFile(Books), backup));
+    const int exitCode = Start([&](Clerk& clerk) {
+        clerk.Type(OpeningKeys() + ToTheEvening);
+        ASSERT_TRUE(QFile::remove(FolderFile(Books)));
+        ASSERT_TRUE(QFile::copy(backup, FolderFile(Books)));
+        clerk.Type(Delivery("1", "6", "4.1"));
+        EXPECT_EQ(OnTop(clerk), "");
+    });
+    EXPECT_EQ(exitCode, 1);
+    EXPECT_EQ(Boxes("was replaced"), 1);
+    Reopen();
+    EXPECT_EQ(Deliveries(), QStringList());
+    EXPECT_EQ(Integrity(), "ok");
+}
+
+TEST_F(BooksKeptTest, AfterAWeekThePagesAreReadAndDamageIsNamedWithTheNewestBackup)
+{
+    gCn.Close();
+    ASSERT_TRUE(QFile::copy(FolderFile(Books), FolderFile(QStringLiteral("Backup/kept.mdb"))));
+    QFile books(FolderFile(Books));
+    ASSERT_TRUE(books.open(QIODevice::ReadWrite));
+    // The index of the gate's list: nothing of the start reads it.
+    const qint64 at = books.size() - 500;
+    books.seek(at);
+    const QByteArray byte = books.read(1);
+    books.seek(at);
+    books.write(QByteArray(1, static_cast<char>(byte[0] ^ 8)));
+    books.close();
+    EXPECT_NO_THROW(Reopen());
+    gCn.Close();
+    TheClock.Time = TheClock.Time.addDays(7);
+    try {
+        Reopen();
+        FAIL() << "it opened";
+    } catch (const RunTimeError& error) {
+        EXPECT_TRUE(error.Happened().contains(QStringLiteral("is damaged in the tables"))) << error.what();
+        EXPECT_TRUE(error.Happened().contains(QStringLiteral("kept.mdb"))) << error.what();
+    }
+}
+
+TEST_F(BooksKeptTest, SoundBooksAreReadOnceAWeek)
+{
+    const QString checked = FolderFile(QStringLiteral("Checked.txt"));
+    const auto day = [&] {
+        QFile file(checked);
+        return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
+    };
+    EXPECT_EQ(day(), QStringLiteral("2026-04-15"));
+    TheClock.Time = TheClock.Time.addDays(6);
+    Reopen();
+    EXPECT_EQ(day(), QStringLiteral("2026-04-15"));
+    TheClock.Time = TheClock.Time.addDays(1);
+    Reopen();
+    EXPECT_EQ(day(), QStringLiteral("2026-04-22"));
+}
