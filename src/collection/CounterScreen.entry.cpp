@@ -68,7 +68,7 @@ void CounterScreen::txtFat_GotFocus()
     const bool refused = std::exchange(FatRefused, false);
     if (Setting(u"AutoFat") == u"naahI" && !IsExistingRow && !refused)
         OfferLastFat();
-    if (DeviceSwitch::IsOn(gAppState.gAutoFat) && !refused)
+    if (DeviceSwitch::IsOn(gAppState.gAutoFat))
         ReadFat();
     if (txtFat.IsEmpty())
         txtFat.SetText(QStringLiteral("0"));
@@ -103,7 +103,9 @@ bool CounterScreen::IsSwitchingOff(const Button& device, QStringView setting) co
     return GoingTo() == &device && DeviceSwitch::IsOn(setting);
 }
 
-// With a fat tester the field isn't left until there is a fat, or the tester is switched off.
+// With a fat tester the field isn't left until there is a fat, or the tester is switched off. What the common
+// exchange finds may be another device's figure; the field's own reading follows with the focus that comes
+// back.
 void CounterScreen::txtFat_LostFocus()
 {
     if (DeviceSwitch::IsOn(gAppState.gAutoFat) && Value(txtFat) <= 0) {
@@ -114,14 +116,14 @@ void CounterScreen::txtFat_LostFocus()
         }
         if (const std::optional<QString> read = m_devices.RepeatFat())
             txtFat.SetText(*read);
-        FatRefused = true; // it was just read: once is enough for one key
+        FatRefused = true;
         txtFat.SetFocus();
         return;
     }
     const double fat = Value(txtFat);
     txtFat.SetText(Format(fat, FatFormat));
     if (fat == 0 || fat > HighestFat) {
-        FatRefused = true; // the clerk is to see what was refused, not another offer
+        FatRefused = true; // the clerk is to see what was refused
         txtFat.SetFocus();
         return;
     }

@@ -99,7 +99,7 @@ private:
 
     std::int16_t NextCollectionNo = 1; // the number of the next new row
     bool IsExistingRow = false; // the fields show a row that the shift already has
-    bool FatRefused = false; // the fat was just sent back to be mended
+    bool FatRefused = false; // the focus was just kept in the fat, which is not offered anew
     bool FocusBounce = false; // a field that was just entered is sending the focus back
 
     void maskDate_GotFocus();

@@ -125,17 +125,77 @@ TEST_P(CounterDevicesTest, WithNoScaleOnlyTheFatIsRead)
     });
 }
 
-TEST_P(CounterDevicesTest, OneKeyReadsASilentTesterOnce)
+TEST_P(CounterDevicesTest, ARefusedFatRepeatsTheCommonExchangeAndThenTheFieldsOwnReading)
 {
-    Devices("NO", "naahI", "haoya");
-    InTheShift([this](Clerk& clerk) {
-        Type(clerk, "{ENTER}1{ENTER}2{ENTER}");
-        EXPECT_EQ(Ports.TakeLog().count(QStringLiteral("write W")), 1) << "on entering the fat";
-        for (int time = 0; time < 3; ++time) {
+    Run(QStringLiteral("update PortTable set LReceiverCommand='RD'"));
+    const QStringList common = Of({"open 1 2400,n,8,1", "dtr", "write W", "close"});
+    const QStringList listened = Of({"open 2 9600,n,8,1", "dtr", "close"});
+    const QStringList litres = Of({"open 1 2400,n,8,1", "dtr", "write RD", "close"});
+    for (const auto& [scale, own] :
+        std::initializer_list<std::pair<const char*, QStringList>>{{"DILIGENT", common}, {"ELECTRO", common},
+            {"NO", common}, {"Micro-Tech", listened}, {"ELECTKAPIL", listened}, {"UDFREAD", litres + common},
+            {"MCS", Of({"open 1 2400,n,8,1", "dtr", "close"})},
+            {"ACE CORP", Of({"open 1 2400,n,8,1", "dtr", "close"})}}) {
+        Devices(scale, "naahI", "haoya");
+        InTheShift([&](Clerk& clerk) {
+            Ports.TakeLog();
+            Type(clerk, "{ENTER}1{ENTER}2{ENTER}");
+            EXPECT_EQ(Ports.TakeLog(), own) << "on entering the fat: " << scale;
+            for (int time = 0; time < 3; ++time) {
+                Type(clerk, "{ENTER}");
+                EXPECT_EQ(Focus(clerk), "txtFat");
+                EXPECT_EQ(Ports.TakeLog(), common + own) << "on leaving it with nothing: " << scale;
+            }
+        });
+    }
+}
+
+TEST_P(CounterDevicesTest, ATesterThatWasSilentOnceIsListenedToOnItsPortAgain)
+{
+    for (const char* scale : {"Micro-Tech", "ELECTKAPIL"}) {
+        Devices(scale, "naahI", "haoya");
+        Ports.Replies.clear();
+        InTheShift([&](Clerk& clerk) {
+            Type(clerk, "{ENTER}1{ENTER}2{ENTER}{ENTER}");
+            EXPECT_EQ(Focus(clerk), "txtFat");
+            EXPECT_EQ(Reads(clerk, "txtFat"), "0") << scale;
+            Reply("", "%0450\r\n");
             Type(clerk, "{ENTER}");
             EXPECT_EQ(Focus(clerk), "txtFat");
-            EXPECT_EQ(Ports.TakeLog().count(QStringLiteral("write W")), 1) << "the repeated exchange alone";
-        }
+            EXPECT_EQ(Reads(clerk, "txtFat"), "4.5") << scale;
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(Focus(clerk), "txtRate") << scale;
+            EXPECT_EQ(Reads(clerk, "txtRate"), "35.00") << scale;
+        });
+    }
+}
+
+TEST_P(CounterDevicesTest, TheColumnOfTheCommonExchangeIsNoFatOfTheDeviceThatDoesBoth)
+{
+    Devices("MCS", "naahI", "haoya");
+    InTheShift([this](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}2{ENTER}{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtFat"), "0");
+        Reply("", "012345045\r\n012345045\r\n"); // 3450 stands where others have the fat
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtFat"), "4.5");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtRate");
+    });
+}
+
+TEST_P(CounterDevicesTest, AFatAboveThirtyGivesWayToWhatTheTesterSaysThen)
+{
+    Devices("MCS", "naahI", "haoya");
+    InTheShift([this](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}2{ENTER}");
+        Reply("W", "xxxxxxxxxxxxxx3450");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtFat"), "3450");
+        Reply("", "012345045\r\n");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtFat");
+        EXPECT_EQ(Reads(clerk, "txtFat"), "4.5");
     });
 }
 
