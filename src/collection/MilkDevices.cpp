@@ -158,12 +158,11 @@ std::optional<QString> MilkDevices::ReadScaleCommand(
 {
     SerialLine line(MSComm1.number, MSComm1.settings);
     const std::chrono::microseconds whole = WaitOf(waitCount);
-    const Wait wait(whole);
     if (SerialPorts::Current().Now() < m_restUntil) // the rest is no answer to the next question
         line.Drain(Wait(whole / 2), std::min<std::chrono::microseconds>(RestSilence, whole / 4));
     line.Write(command.toLatin1());
     const auto holdsPiece = [=](const QByteArray& reply) { return reply.size() >= start - 1 + length; };
-    const std::optional<QByteArray> reply = line.Collect(wait, holdsPiece);
+    const std::optional<QByteArray> reply = line.Collect(Wait(whole), holdsPiece);
     if (!reply)
         return {};
     if (holdsPiece(*reply))
@@ -199,23 +198,29 @@ std::optional<QString> MilkDevices::ReadFatPercent()
 // The number of a device that talks by itself. Fewer than ten characters that don't begin with the mark are
 // thrown away and read again, so that a reading that began in the middle of a frame comes to the next one.
 // Ten or more at once end the reading: without the mark they count only if all behind the first is a number.
+// A frame without a line end is whole only after a silence, which may last longer than the wait.
 std::optional<double> MilkDevices::ReadFrame(char mark)
 {
     constexpr qsizetype longUnmarked = 10;
     constexpr qsizetype longestFrame = 64;
     SerialLine line(MSComm2.number, MSComm2.settings);
     const Wait wait(WaitOf(UsualWaitCount));
+    const Wait withSilence(WaitOf(UsualWaitCount) + FrameSilence);
     QByteArray reply;
     while (!reply.startsWith(mark) && reply.size() < longUnmarked) {
+        if (wait.IsOver())
+            return {};
         const std::optional<QByteArray> next = line.Next(wait.Left());
-        if (!next || wait.IsOver())
+        if (!next)
             return {};
         reply = *next;
     }
     while (reply.startsWith(mark) && !HoldsFrame(reply, mark)) {
+        const auto left = FrameValue(reply, mark) ? withSilence.Left() : wait.Left();
         const std::optional<QByteArray> next =
-            line.Next(std::min<std::chrono::microseconds>(FrameSilence, wait.Left()));
-        if (!next || wait.IsOver() || reply.size() > longestFrame)
+            line.Next(std::min<std::chrono::microseconds>(FrameSilence, left));
+        const bool isStillComing = next && next->isEmpty() && left < FrameSilence;
+        if (!next || isStillComing || reply.size() > longestFrame)
             return {};
         if (next->isEmpty())
             break;

@@ -29,6 +29,27 @@ QStringView WithoutBlanks(QStringView text)
     return text;
 }
 
+// What may follow a number in a frame, such as "kg". A figure there, or a byte that can't be printed, is
+// noise, and the number in front of it may be a part only.
+bool IsUnit(QStringView text)
+{
+    return std::all_of(
+        text.begin(), text.end(), [](QChar c) { return c >= u' ' && c <= u'~' && !IsDigit(c); });
+}
+
+// The number in front of a unit, if there is one.
+std::optional<double> NumberBeforeUnit(QStringView text)
+{
+    text = WithoutBlanks(text);
+    const auto mayBeOfNumber = [](QChar c) {
+        return IsDigit(c) || IsBlank(c) || c == u'.' || c == u'+' || c == u'-';
+    };
+    const auto unit = std::find_if_not(text.begin(), text.end(), mayBeOfNumber);
+    if (!IsUnit({unit, text.end()}))
+        return {};
+    return MilkDevicesReplies::NumberOf({text.begin(), unit});
+}
+
 // Where the number behind the mark ends, -1 if it may still go on.
 qsizetype FrameEnd(const QByteArray& reply, char mark)
 {
@@ -84,8 +105,10 @@ bool MilkDevicesReplies::HoldsFrame(const QByteArray& reply, char mark)
 
 std::optional<double> MilkDevicesReplies::FrameValue(const QByteArray& reply, char mark)
 {
-    const qsizetype end = reply.startsWith(mark) ? FrameEnd(reply, mark) : -1;
-    return NumberOf(QString::fromLatin1(reply.left(end < 0 ? reply.size() : end).mid(1)));
+    if (!reply.startsWith(mark))
+        return NumberOf(QString::fromLatin1(reply.mid(1)));
+    const qsizetype end = FrameEnd(reply, mark);
+    return NumberBeforeUnit(QString::fromLatin1(reply.left(end < 0 ? reply.size() : end).mid(1)));
 }
 
 QString MilkDevicesReplies::LitersOfFrame(double number)

@@ -20,8 +20,8 @@ std::optional<QString> ScaleValue(const QByteArray& reply, int start, int length
 // end or the next mark. A device that sends neither has to fall silent.
 bool HoldsFrame(const QByteArray& reply, char mark);
 
-// The number behind the first character. Behind a mark it ends where HoldsFrame tells; a reply without one
-// has to be a number to its end.
+// The number behind the first character. Behind a mark it ends where HoldsFrame tells, and a unit may follow
+// it, as in "+12.5kg"; a reply without a mark has to be a number to its end.
 std::optional<double> FrameValue(const QByteArray& reply, char mark);
 
 // The litres of the "+" frame: one decimal, four characters.

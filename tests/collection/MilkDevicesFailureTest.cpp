@@ -73,6 +73,14 @@ TEST_F(MilkDevicesTest, AMarkThatComesLateHoldsTheCounterNoLonger)
     }
 }
 
+TEST_F(MilkDevicesTest, AFrameThatGoesOnAndOnHoldsTheCounterForItsSilenceMoreAndNoLonger)
+{
+    Scale("ACE CORP");
+    Ports.Replies = {{"", {{"+1"}}}};
+    Ports.Endless = {"1", 40ms};
+    EXPECT_LE(TimeOf([this] { EXPECT_EQ(Written(Devices.ReadLiters(ThreeDecimals)), "-"); }), 1270ms);
+}
+
 TEST_F(MilkDevicesTest, AReadingReturnsAsSoonAsTheReplyHoldsThePiece)
 {
     Scale("ELECTRO");
@@ -90,6 +98,22 @@ TEST_F(MilkDevicesTest, AReplyAfterTheWaitComesTooLate)
     Scale("ELECTRO");
     Ports.Replies = {{"W", {{"xxxxx12.50", 1021ms}}}};
     EXPECT_EQ(Written(Devices.ReadLiters(ThreeDecimals)), "-");
+}
+
+TEST_F(MilkDevicesTest, TheWaitForAReplyBeginsWhenTheRestOfTheOneBeforeHasCome)
+{
+    EXPECT_EQ(Liters("ELECTRO", "W", "xxxxx12.50"), "12.5");
+    Ports.Replies = {
+        {"", {{"kg", 90ms}, {",FT,", 90ms}, {" 4.2\r\n", 90ms}}}, {"W", {{"xxxxx13.50", 1019ms}}}};
+    EXPECT_EQ(
+        TimeOf([this] { EXPECT_EQ(Written(Devices.ReadLiters(ThreeDecimals)), "13.5"); }), 370ms + 1019ms);
+}
+
+TEST_F(MilkDevicesTest, ADeviceThatNeverFallsSilentDelaysItsNextQuestionByHalfAWaitAtMost)
+{
+    EXPECT_EQ(Liters("ELECTRO", "W", "xxxxx12.50"), "12.5");
+    Ports.Replies = {{"", FakeSerialPorts::Pieces(30, {"x", 99ms})}};
+    EXPECT_LE(TimeOf([this] { Devices.ReadLiters(ThreeDecimals); }), 510ms + 1020ms);
 }
 
 // ---- Failures ----

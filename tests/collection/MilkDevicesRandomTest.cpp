@@ -26,16 +26,32 @@ QByteArray WithoutLeadingZeros(QByteArray digits)
     return digits;
 }
 
-std::optional<Decimal> Read(const QByteArray& piece)
+QRegularExpression NumberThen(const char* unit)
 {
-    static const QRegularExpression number(
-        Latin("\\A%1([+-]?)%1([0-9]*)(?:\\.([0-9]*))?%1\\z").arg(Latin(Blanks)));
-    const auto match = number.match(QString::fromLatin1(piece));
+    return QRegularExpression(
+        Latin("\\A%1([+-]?)%1([0-9]*)(?:\\.([0-9]*))?%1%2%1\\z").arg(Latin(Blanks), Latin(unit)));
+}
+
+std::optional<Decimal> Read(const QByteArray& piece, const QRegularExpression& form)
+{
+    const auto match = form.match(QString::fromLatin1(piece));
     const QByteArray whole = match.captured(2).toLatin1();
     const QByteArray fraction = match.captured(3).toLatin1();
     if (!match.hasMatch() || (whole.isEmpty() && fraction.isEmpty()))
         return {};
     return Decimal{match.captured(1) == Latin("-"), WithoutLeadingZeros(whole), fraction};
+}
+
+std::optional<Decimal> Read(const QByteArray& piece)
+{
+    static const QRegularExpression alone = NumberThen("");
+    return Read(piece, alone);
+}
+
+std::optional<Decimal> ReadBeforeUnit(const QByteArray& piece)
+{
+    static const QRegularExpression withUnit = NumberThen("(?:[!-*,/:-~][ -/:-~]*)?");
+    return Read(piece, withUnit);
 }
 
 std::string Shortest(const Decimal& decimal, bool keepsSign)
@@ -97,7 +113,7 @@ std::optional<Decimal> Frame(const QList<QByteArray>& reads, char mark)
     const QByteArray text = reads.mid(first).join().mid(1);
     const QRegularExpression digitsThenEnd(Latin("\\A[^0-9]*[0-9][^\\r\\n%1]*").arg(QLatin1Char(mark)));
     const auto upToEnd = digitsThenEnd.match(QString::fromLatin1(text));
-    return Read(upToEnd.hasMatch() ? upToEnd.captured().toLatin1() : text);
+    return ReadBeforeUnit(upToEnd.hasMatch() ? upToEnd.captured().toLatin1() : text);
 }
 
 std::string PlusFrame(const QList<QByteArray>& reads)

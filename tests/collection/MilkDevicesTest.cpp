@@ -265,8 +265,25 @@ TEST_F(MilkDevicesTest, ThePlusFrameIsRoundedAndFourCharactersLong)
 TEST_F(MilkDevicesTest, AFrameThatIsNoNumberLeavesTheField)
 {
     for (const char* reply :
-        {"+", "+\r\n", "+kg", "+1.2.3\r\n", "+12.5kg\r\n", "12.5\r\n", "x12.5\r\n", "+1\xB2\r\n"})
+        {"+", "+\r\n", "+kg", "+kg\r\n", "+1.2.3\r\n", "12.5\r\n", "x12.5\r\n", "+1\xB2\r\n"})
         EXPECT_EQ(Liters("ACE CORP", "", reply), "-") << reply;
+}
+
+TEST_F(MilkDevicesTest, AFrameWithAUnitBehindTheNumberGivesItsNumber)
+{
+    for (const char* reply :
+        {"+12.5kg\r\n", "+ 12.5 kg\r\n", "+12.5 Ltr.\r\n", "+12.5l", "+12.5kg+12.5kg", "+12.5%\r\n"})
+        EXPECT_EQ(Liters("ACE CORP", "", reply), "12.5") << reply;
+    for (const char* reply : {"%0425%\r\n", "%0425 pct\r\n", "%0425F"})
+        EXPECT_EQ(Written(Fat("ELECTKAPIL", "", reply).fat), "4.2") << reply;
+}
+
+TEST_F(MilkDevicesTest, WhatFollowsANumberAndHoldsAnotherIsNoUnit)
+{
+    for (const char* reply : {"+1x.5\r\n", "+12,50\r\n", "+1E003\r\n", "+12.5kg7\r\n", "+1\x07.5\r\n",
+             "+12.5\xB5g\r\n", "+12.5\x7F\r\n"})
+        EXPECT_EQ(Liters("ACE CORP", "", reply), "-") << reply;
+    EXPECT_EQ(Written(Fat("Micro-Tech", "", "A00000425%").fat), "-") << "without its mark it may be anything";
 }
 
 TEST_F(MilkDevicesTest, AFrameEndsAtItsLineEndTheNextMarkOrASilence)
@@ -281,8 +298,30 @@ TEST_F(MilkDevicesTest, ANumberThatIsStillComingIsNotTaken)
     Scale("ACE CORP");
     Ports.Replies = {{"", {{"+1", 5ms}, {"2", 100ms}, {".5", 100ms}, {"\r\n", 100ms}}}};
     EXPECT_EQ(Written(Devices.ReadLiters(ThreeDecimals)), "12.5");
+    Ports.Replies = {{"", {{"+1", 1000ms}, {"2", 200ms}, {".5\r\n", 100ms}}}};
+    EXPECT_EQ(Written(Devices.ReadLiters(ThreeDecimals)), "-") << "the silence of its end doesn't begin anew";
+}
+
+TEST_F(MilkDevicesTest, AFrameWithoutALineEndThatComesLateIsTakenWhenItsSilenceHasPassed)
+{
+    for (const auto late : {770ms, 771ms, 900ms, 1019ms}) {
+        Scale("ACE CORP");
+        Ports.Replies = {{"", {{"+12.5", late}}}};
+        EXPECT_EQ(
+            TimeOf([this] { EXPECT_EQ(Written(Devices.ReadLiters(ThreeDecimals)), "12.5"); }), late + 250ms);
+        Scale("Micro-Tech");
+        Ports.Replies = {{"", {{"%0425", late}}}};
+        EXPECT_EQ(TimeOf([this] { EXPECT_EQ(Written(Devices.ReadFat().fat), "4.2"); }), late + 250ms);
+    }
+}
+
+TEST_F(MilkDevicesTest, AFrameThatHasBegunWithinTheWaitMayEndInTheSilenceAfterIt)
+{
+    Scale("ACE CORP");
     Ports.Replies = {{"", {{"+1", 1000ms}, {"2.5\r\n", 100ms}}}};
-    EXPECT_EQ(Written(Devices.ReadLiters(ThreeDecimals)), "-");
+    EXPECT_EQ(Written(Devices.ReadLiters(ThreeDecimals)), "12.5");
+    Ports.Replies = {{"", {{"x", 1000ms}, {"+12.5\r\n", 21ms}}}};
+    EXPECT_EQ(Written(Devices.ReadLiters(ThreeDecimals)), "-") << "it began too late";
 }
 
 TEST_F(MilkDevicesTest, WhatDoesNotBeginWithTheMarkIsReadAgain)
