@@ -13,6 +13,7 @@ constexpr int Never = std::numeric_limits<int>::max();
 int g_count = 0;
 int g_fullFrom = Never;
 int g_killAt = Never;
+bool g_hasRoomForAnIndex = true;
 
 // A file of this disk, with the real one right behind it in the same memory.
 struct File {
@@ -133,6 +134,8 @@ int DeviceCharacteristics(sqlite3_file* file)
 
 int ShmMap(sqlite3_file* file, int region, int size, int extend, void volatile** memory)
 {
+    if (extend != 0 && !g_hasRoomForAnIndex)
+        return SQLITE_IOERR_SHMSIZE;
     return Real(file)->pMethods->xShmMap(Real(file), region, size, extend, memory);
 }
 
@@ -208,11 +211,17 @@ void FaultyDisk::Reset()
     g_count = 0;
     g_fullFrom = Never;
     g_killAt = Never;
+    g_hasRoomForAnIndex = true;
 }
 
 void FaultyDisk::FullFrom(int n)
 {
     g_fullFrom = n;
+}
+
+void FaultyDisk::NoRoomForAnIndex()
+{
+    g_hasRoomForAnIndex = false;
 }
 
 void FaultyDisk::KillAt(int n)

@@ -13,6 +13,9 @@ void Reset();
 // Full from the n-th (from 1) write, sync or cutting on.
 void FullFrom(int n);
 
+// Has no room from now on for the index of a log.
+void NoRoomForAnIndex();
+
 // Kills the process with SIGKILL at the n-th write, sync or cutting: a write is done to its half.
 void KillAt(int n);
 

@@ -44,6 +44,13 @@ constexpr Reason Reasons[] = {
     {SQLITE_MISMATCH, u"माहितीचा प्रकार जुळत नाही; काहीही जतन झाले नाही.", "Type mismatch; nothing was saved."},
 };
 
+// The engine tells a file that has no room to grow from a disk that fails, but not for the index of its log,
+// which takes 32 KB before anything is read or written.
+bool IsFull(sqlite3* handle, int code)
+{
+    return (code & 0xFF) == SQLITE_IOERR && sqlite3_extended_errcode(handle) == SQLITE_IOERR_SHMSIZE;
+}
+
 }
 
 void DatabaseErrors::ThrowRefused(const char* english, QStringView statement)
@@ -70,7 +77,7 @@ void DatabaseErrors::ThrowOverflow(QStringView value, QStringView statement)
 
 RunTimeError DatabaseErrors::Failure(sqlite3* handle, int code, QStringView statement)
 {
-    const int primary = code & 0xFF;
+    const int primary = IsFull(handle, code) ? SQLITE_FULL : code & 0xFF;
     const QString detail = QString::fromUtf8(sqlite3_errmsg(handle));
     for (const Reason& reason : Reasons) {
         if (reason.code != primary)

@@ -154,6 +154,23 @@ TEST_F(TransactionTest, IsAllOrNothingOnAFullDisk)
     }
 }
 
+TEST_F(TransactionTest, ADiskWithoutRoomForTheIndexOfTheLogIsToldAsFullAtTheOpening)
+{
+    connection.Close();
+    FaultyDisk::NoRoomForAnIndex();
+    try {
+        Open();
+        ADD_FAILURE() << "the books were opened";
+    } catch (const RunTimeError& error) {
+        EXPECT_TRUE(error.Happened().contains(QStringLiteral("The disk is full"))) << error.what();
+        EXPECT_FALSE(error.Happened().contains(QStringLiteral("can't be read"))) << error.what();
+    }
+    FaultyDisk::Reset();
+    Open();
+    Save(connection);
+    EXPECT_EQ(Saved(), 5);
+}
+
 TEST_F(TransactionTest, WorksAgainOnceTheDiskHasRoom)
 {
     FaultyDisk::FullFrom(2);
