@@ -116,7 +116,7 @@ void ReadPassword()
     if (!file.open(QIODevice::ReadOnly))
         throw RunTimeError(RunTimeError::FileAccess,
             QStringLiteral("पासवर्डची फाईल वाचता येत नाही.\nPWD.TXT: ") + file.errorString());
-    gAppState.gDbPassword = PasswordOfItems(ItemsOf(QString::fromLatin1(file.readAll())));
+    gAppState.gDbPassword = PasswordOfFile(file);
 }
 
 void FillCombo(NameCombo& combo, QStringView tableName, QStringView fieldName, QStringView tail)

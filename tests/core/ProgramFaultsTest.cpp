@@ -73,6 +73,20 @@ TEST_F(ProgramFaults, AnEmptyPasswordFileIsNamedInTheBox)
     EXPECT_TRUE(FailingStart().contains(Password));
 }
 
+TEST_F(ProgramFaults, APasswordFileWithAByteOrderMarkOpensTheBooks)
+{
+    Overwrite(Password, "\xEF\xBB\xBF" + Read(Password));
+    EXPECT_NO_THROW(EXPECT_TRUE(LoadAppState()));
+    EXPECT_EQ(gAppState.gCompanyId, 1);
+}
+
+TEST_F(ProgramFaults, APasswordFileOfAMegabyteIsNamedInTheBox)
+{
+    Overwrite(Password, Read(Password).repeated(1'000'000 / Read(Password).size()));
+    const QString box = FailingStart();
+    EXPECT_TRUE(box.contains(QStringLiteral("PWD.TXT is too long"))) << qPrintable(box);
+}
+
 TEST_F(ProgramFaults, AMissingDatabaseIsNamedInTheBox)
 {
     ASSERT_TRUE(QFile::remove(FolderFile(Database)));
@@ -124,6 +138,7 @@ TEST_F(ProgramFaults, TheFaultsAreToldApartAndEachInMarathi)
     const std::pair<const char*, std::function<void()>> faults[] = {
         {"missing password file", [&] { QFile::remove(FolderFile(Password)); }},
         {"empty password file", [&] { Overwrite(Password, {}); }},
+        {"long password file", [&] { Overwrite(Password, QByteArray(1'000'000, 'x')); }},
         {"missing database", [&] { QFile::remove(FolderFile(Database)); }},
         {"empty database", [&] { Overwrite(Database, {}); }},
         {"no database", [&] { Overwrite(Database, QByteArray(5000, 'x')); }},

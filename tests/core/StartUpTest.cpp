@@ -3,7 +3,9 @@
 #include "AppFolder.h"
 #include "PasswordItems.h"
 
+#include <QBuffer>
 #include <QFile>
+#include <QStringConverter>
 
 namespace {
 
@@ -162,6 +164,38 @@ TEST(PasswordItems, OnlyTheFirstCharacterOfAnItemCounts)
     QStringList items = Disguised(QStringLiteral("ab"), u'!');
     items[0] += QStringLiteral("zzz");
     EXPECT_EQ(PasswordOfItems(items), QStringLiteral("ab"));
+}
+
+TEST(PasswordItems, AByteOrderMarkInFrontIsNoCharacterOfThePassword)
+{
+    const QString text = QStringLiteral("\"\u00FC\"\r\n\"e\"\r\n\"!\"\r\n");
+    const QString password = QStringLiteral("\u00DBD");
+    QByteArray latin1 = text.toLatin1();
+    QBuffer unmarked(&latin1);
+    ASSERT_TRUE(unmarked.open(QIODevice::ReadOnly));
+    EXPECT_EQ(PasswordOfFile(unmarked), password);
+    for (const auto encoding :
+        {QStringConverter::Utf8, QStringConverter::Utf16LE, QStringConverter::Utf16BE}) {
+        QByteArray bytes = QStringEncoder(encoding, QStringConverter::Flag::WriteBom).encode(text);
+        ASSERT_TRUE(QStringConverter::encodingForData(bytes)) << "the mark stands in front";
+        QBuffer file(&bytes);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_EQ(PasswordOfFile(file), password) << QStringConverter::nameForEncoding(encoding);
+    }
+}
+
+TEST(PasswordItems, AFileTooLongForAPasswordIsRefusedAndNotReadOn)
+{
+    const QByteArray item("\"a\"\n");
+    QByteArray bytes = item.repeated(1'000'000 / item.size());
+    QBuffer file(&bytes);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+    EXPECT_THROW(PasswordOfFile(file), RunTimeError);
+    EXPECT_LE(file.pos(), 4097);
+    QByteArray fits = item.repeated(4096 / item.size());
+    QBuffer allowed(&fits);
+    ASSERT_TRUE(allowed.open(QIODevice::ReadOnly));
+    EXPECT_NO_THROW(PasswordOfFile(allowed));
 }
 
 TEST(PasswordItems, ADamagedFileIsARunTimeError)

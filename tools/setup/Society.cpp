@@ -102,7 +102,7 @@ std::optional<QString> OldPassword(const QString& folder)
             QStringLiteral("Can't read ") % QDir::toNativeSeparators(file.fileName()) % QStringLiteral(": ")
                 % file.errorString() % u'.');
     try {
-        return PasswordOfItems(ItemsOf(QString::fromLatin1(file.readAll())));
+        return PasswordOfFile(file);
     } catch (const RunTimeError&) {
         return {};
     }

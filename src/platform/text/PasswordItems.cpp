@@ -3,6 +3,9 @@
 #include "Numbers.h"
 #include "RunTimeError.h"
 
+#include <QIODevice>
+#include <QStringConverter>
+
 namespace {
 
 bool IsSeparator(QChar c)
@@ -47,6 +50,20 @@ QString Trimmed(QString text)
         Sentences(u"पासवर्डची फाईल खराब झाली आहे. मूळ फाईल परत ठेवा.", QStringLiteral("PWD.TXT is damaged")));
 }
 
+[[noreturn]] void TooLong()
+{
+    throw RunTimeError(RunTimeError::TypeMismatch,
+        Sentences(u"पासवर्डची फाईल फार मोठी आहे; ती पासवर्डची नाही. मूळ फाईल परत ठेवा.",
+            QStringLiteral("PWD.TXT is too long to hold a password")));
+}
+
+// An editor may put a byte order mark in front, which is no character of the first item.
+QString TextOf(const QByteArray& bytes)
+{
+    const std::optional<QStringConverter::Encoding> marked = QStringConverter::encodingForData(bytes);
+    return marked ? QStringDecoder(*marked).decode(bytes) : QString::fromLatin1(bytes);
+}
+
 }
 
 QStringList ItemsOf(const QString& text)
@@ -73,4 +90,13 @@ QString PasswordOfItems(const QStringList& items)
     }
     password.chop(1);
     return password;
+}
+
+QString PasswordOfFile(QIODevice& file)
+{
+    constexpr qsizetype longest = 4096;
+    const QByteArray bytes = file.read(longest + 1);
+    if (bytes.size() > longest)
+        TooLong();
+    return PasswordOfItems(ItemsOf(TextOf(bytes)));
 }
