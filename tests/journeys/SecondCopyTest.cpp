@@ -1,48 +1,15 @@
+#include "DeliveredProgram.h"
+
 #include "AppFolder.h"
-#include "Processes.h"
-#include "ProgramTest.h"
 
 #include <QDir>
-#include <QEventLoop>
 #include <QFile>
-#include <QFileSystemWatcher>
-#include <QTimer>
 
 namespace {
 
-// The program as it is delivered, in a process of its own, and other copies beside it.
-class SecondCopyTest : public ProgramTest {
+// The delivered program, and other copies beside it.
+class SecondCopyTest : public DeliveredProgram {
 protected:
-    void SetUp() override
-    {
-        gCn.Close();
-        // The delivered program finds its drives below the user's data.
-        const QString drives = m_data.filePath(QStringLiteral("vetrolan"));
-        ASSERT_TRUE(QDir().rename(Drives(), drives));
-        SetDrivesRoot(drives);
-    }
-
-    // Starts the delivered program and returns when it has the books open, which is after it has the lock.
-    std::unique_ptr<QProcess> StartTheProgram()
-    {
-        QFileSystemWatcher watcher({LocalPath(AppFolder)});
-        auto program = Processes::Start(
-            QStringLiteral("vetrolan"), {}, {QStringLiteral("XDG_DATA_HOME=") + m_data.path()});
-        QEventLoop waiting;
-        const auto isReady = [this] { return QFile::exists(FolderFile(QStringLiteral("Morvelta.mdb-shm"))); };
-        QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &waiting, [&] {
-            if (isReady())
-                waiting.quit();
-        });
-        QObject::connect(program.get(), &QProcess::finished, &waiting, &QEventLoop::quit);
-        QTimer::singleShot(30000, &waiting, &QEventLoop::quit);
-        if (!isReady() && program->state() == QProcess::Running)
-            waiting.exec();
-        EXPECT_TRUE(isReady());
-        EXPECT_EQ(program->state(), QProcess::Running) << program->readAllStandardError().toStdString();
-        return program;
-    }
-
     // Starts a copy that says what it shows, and returns that; `exitCode` is the one that it ended with.
     QString OtherCopy(int& exitCode)
     {
@@ -53,14 +20,29 @@ protected:
         return QString::fromUtf8(other->readAllStandardOutput());
     }
 
-    static void Kill(QProcess& process)
+    void ExpectAnotherCopyKeptOut()
     {
-        process.kill();
-        EXPECT_TRUE(Processes::WaitForEnd(process));
+        int exitCode = -1;
+        const QString said = OtherCopy(exitCode);
+        EXPECT_EQ(exitCode, 1);
+        EXPECT_TRUE(said.contains(QStringLiteral("हिशेबाची वही आधीच उघडी आहे."))) << said.toStdString();
+        EXPECT_FALSE(said.contains(QStringLiteral("screen frm"))) << said.toStdString();
     }
 
-private:
-    QTemporaryDir m_data;
+    void ExpectTheInstallerKeptOut()
+    {
+        const auto setup = Processes::Start(QStringLiteral("vetrolan-setup"),
+            {QStringLiteral("--society"), QStringLiteral("नवी संस्था"), QStringLiteral("--year"),
+                QStringLiteral("2026-2027"), QStringLiteral("--password"), QStringLiteral("other"),
+                QStringLiteral("--replace")},
+            Environment());
+        EXPECT_TRUE(Processes::WaitForEnd(*setup));
+        EXPECT_EQ(setup->exitCode(), 1);
+        EXPECT_TRUE(setup->readAllStandardError().contains("open in the program"));
+        EXPECT_EQ(QDir(LocalPath(AppFolder)).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 1);
+    }
+
+    void RemoveTheLockFile() { ASSERT_TRUE(QFile::remove(FolderFile(QStringLiteral("Vetrolan.lock")))); }
 };
 
 }
@@ -68,12 +50,31 @@ private:
 TEST_F(SecondCopyTest, WhileTheProgramRunsAnotherCopySaysThatTheBooksAreOpenAndEnds)
 {
     const auto program = StartTheProgram();
-    int exitCode = -1;
-    const QString said = OtherCopy(exitCode);
-    EXPECT_EQ(exitCode, 1);
-    EXPECT_TRUE(said.contains(QStringLiteral("हिशेबाची वही आधीच उघडी आहे."))) << said.toStdString();
-    EXPECT_FALSE(said.contains(QStringLiteral("screen frm"))) << said.toStdString();
+    ExpectAnotherCopyKeptOut();
     EXPECT_EQ(program->state(), QProcess::Running) << "the first copy goes on";
+    Kill(*program);
+}
+
+TEST_F(SecondCopyTest, WithItsLockFileRemovedTheRunningProgramKeepsAnotherCopyAndTheInstallerOut)
+{
+    const auto program = StartTheProgram();
+    RemoveTheLockFile();
+    ExpectAnotherCopyKeptOut();
+    ExpectTheInstallerKeptOut();
+    EXPECT_EQ(program->state(), QProcess::Running);
+    Kill(*program);
+}
+
+TEST_F(SecondCopyTest, WithItsBooksReplacedTheRunningProgramKeepsAnotherCopyAndTheInstallerOut)
+{
+    const auto program = StartTheProgram();
+    const QString books = FolderFile(QStringLiteral("Morvelta.mdb"));
+    ASSERT_TRUE(QFile::copy(books, books + QStringLiteral(".copy")));
+    ASSERT_TRUE(QFile::remove(books));
+    ASSERT_TRUE(QFile::rename(books + QStringLiteral(".copy"), books));
+    RemoveTheLockFile();
+    ExpectAnotherCopyKeptOut();
+    ExpectTheInstallerKeptOut();
     Kill(*program);
 }
 

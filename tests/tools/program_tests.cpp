@@ -113,6 +113,9 @@ TEST_F(SetupProgram, LeavesBooksAloneThatAreOpen)
     ASSERT_TRUE(running.Taken());
     ExpectRefusal(RunSetup(Arguments(Folder()) << QStringLiteral("--replace")), 1, u"open in the program");
     EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 1);
+    ASSERT_TRUE(QFile::remove(QDir(Folder()).filePath(QStringLiteral("Vetrolan.lock"))));
+    ExpectRefusal(RunSetup(Arguments(Folder()) << QStringLiteral("--replace")), 1, u"open in the program");
+    EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 1);
 }
 
 TEST_F(SetupProgram, TellsWhatItTakes)

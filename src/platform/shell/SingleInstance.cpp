@@ -11,10 +11,13 @@
 #include <cerrno>
 
 #include <fcntl.h>
+#include <pwd.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
+
+#ifdef Q_OS_WIN
 
 namespace {
 
@@ -27,15 +30,14 @@ namespace {
 
 }
 
-#ifdef Q_OS_WIN
-
 // A file opened with no sharing is the lock; the system closes and removes it however the process ends.
 class SingleInstance::Private {
 public:
-    explicit Private(const QString& path)
-        : m_file(CreateFileW(reinterpret_cast<LPCWSTR>(path.utf16()), GENERIC_READ | GENERIC_WRITE, 0,
-            nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr))
+    explicit Private(const QString& folder)
     {
+        const QString path = QDir(folder).filePath(QStringLiteral("Vetrolan.lock"));
+        m_file = CreateFileW(reinterpret_cast<LPCWSTR>(path.utf16()), GENERIC_READ | GENERIC_WRITE, 0,
+            nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
         if (!Taken() && GetLastError() != ERROR_SHARING_VIOLATION)
             Refuse(path, qt_error_string());
     }
@@ -49,73 +51,172 @@ public:
     bool Taken() const { return m_file != INVALID_HANDLE_VALUE; }
 
 private:
-    HANDLE m_file;
+    HANDLE m_file = INVALID_HANDLE_VALUE;
 };
 
 #else
 
-class SingleInstance::Private {
+namespace {
+
+QString NameOf(uid_t user)
+{
+    const passwd* known = getpwuid(user);
+    return known ? QString::fromLocal8Bit(known->pw_name) : QString::number(user);
+}
+
+[[noreturn]] void Refuse(const QString& folder, const QString& path, int why)
+{
+    const QString english = QStringLiteral("%1 cannot be locked: %2").arg(path, qt_error_string(why));
+    if (why != EACCES && why != EPERM)
+        throw RunTimeError(
+            RunTimeError::FileAccess, Sentences(u"हिशेबाच्या फोल्डरमध्ये लिहिता येत नाही.", english));
+    throw RunTimeError(RunTimeError::FileAccess,
+        Sentences(u"हिशेबाचे फोल्डर दुसऱ्या वापरकर्त्याच्या नावावर आहे, म्हणून उघडता येत नाही. संगणक "
+                  u"सांभाळणाऱ्याला खालची आज्ञा द्यायला सांगा.",
+            english
+                + QStringLiteral("\nsudo chown -R %1: '%2'")
+                      .arg(NameOf(geteuid()), QDir(folder).absolutePath())));
+}
+
+// What root writes among somebody else's books shuts that somebody out of them.
+void RefuseRootAmongOthersBooks(const QString& folder, uid_t owner)
+{
+    if (geteuid() != 0 || owner == 0)
+        return;
+    throw RunTimeError(RunTimeError::FileAccess,
+        Sentences(u"हे हिशेब दुसऱ्या वापरकर्त्याच्या नावावर आहेत. sudo न लावता, त्याच वापरकर्त्याच्या नावाने सुरु करा.",
+            QStringLiteral("The books in %1 belong to %2: start as that user, without sudo.")
+                .arg(QDir(folder).absolutePath(), NameOf(owner))));
+}
+
+// A lock of the system on an opened file or folder. It goes with its descriptor, however the process ends.
+class DescriptorLock {
 public:
-    explicit Private(const QString& path) : m_path(QFile::encodeName(path))
-    {
-        while (!Try(path)) { }
-    }
-    ~Private()
-    {
-        if (!Taken())
-            return;
-        unlink(m_path.constData());
-        close(m_file);
-    }
-    Q_DISABLE_COPY_MOVE(Private)
+    enum Outcome { Locked, HeldByAnother, Unlockable };
 
-    bool Taken() const { return m_file >= 0; }
+    DescriptorLock() = default;
+    ~DescriptorLock() { Close(); }
+    Q_DISABLE_COPY_MOVE(DescriptorLock)
 
-private:
-    // Returns false if the file went away between its opening and its locking: the copy that held it has
-    // ended in between, and a lock on the removed file would keep nobody out.
-    bool Try(const QString& path)
+    // False with the reason in errno if it can't be opened. A program that is started from this one gets no
+    // share in the lock.
+    bool Open(const QByteArray& path, int flags)
     {
-        m_file = open(m_path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-        if (m_file < 0)
-            Refuse(path, qt_error_string(errno));
-        if (flock(m_file, LOCK_EX | LOCK_NB) != 0) {
-            const int why = errno;
-            Close();
-            if (why != EWOULDBLOCK)
-                Refuse(path, qt_error_string(why));
-            return true;
-        }
-        if (IsStillThere())
-            return true;
-        Close();
-        return false;
+        m_opened = open(path.constData(), flags | O_CLOEXEC, 0600);
+        return m_opened >= 0;
     }
 
-    bool IsStillThere() const
+    Outcome Lock() const
     {
-        struct stat held { };
-        struct stat named { };
-        return fstat(m_file, &held) == 0 && stat(m_path.constData(), &named) == 0
-            && held.st_ino == named.st_ino && held.st_dev == named.st_dev;
+        if (flock(m_opened, LOCK_EX | LOCK_NB) == 0)
+            return Locked;
+        return errno == EWOULDBLOCK ? HeldByAnother : Unlockable;
+    }
+
+    struct stat Status() const
+    {
+        struct stat found { };
+        fstat(m_opened, &found);
+        return found;
     }
 
     void Close()
     {
-        close(m_file);
-        m_file = -1;
+        if (m_opened >= 0)
+            close(m_opened);
+        m_opened = -1;
     }
 
-    QByteArray m_path;
-    int m_file = -1;
+private:
+    int m_opened = -1;
+};
+
+}
+
+// Two locks. That of the folder can't be taken away by removing or replacing a file in it; there are disks
+// of the network that know none. That of the file keeps out older copies of the program, too.
+class SingleInstance::Private {
+public:
+    explicit Private(const QString& folder)
+        : m_folder(folder)
+        , m_path(QDir(folder).filePath(QStringLiteral("Vetrolan.lock")))
+        , m_name(QFile::encodeName(m_path))
+    {
+        if (!m_folderLock.Open(QFile::encodeName(folder), O_RDONLY | O_DIRECTORY))
+            Refuse(m_folder, m_folder, errno);
+        RefuseRootAmongOthersBooks(m_folder, m_folderLock.Status().st_uid);
+        const DescriptorLock::Outcome outcome = m_folderLock.Lock();
+        if (outcome == DescriptorLock::HeldByAnother)
+            return;
+        m_folderIsOurs = outcome == DescriptorLock::Locked;
+        while (!TryFile()) { }
+    }
+    ~Private()
+    {
+        if (m_taken)
+            unlink(m_name.constData());
+    }
+    Q_DISABLE_COPY_MOVE(Private)
+
+    bool Taken() const { return m_taken; }
+
+private:
+    // Returns false if it is to be tried again.
+    bool TryFile()
+    {
+        if (!m_fileLock.Open(m_name, O_RDWR | O_CREAT)) {
+            RemoveSomebodyElses(errno);
+            return false;
+        }
+        switch (m_fileLock.Lock()) {
+        case DescriptorLock::Unlockable:
+            if (!m_folderIsOurs)
+                Refuse(m_folder, m_path, errno);
+            m_taken = true;
+            return true;
+        case DescriptorLock::HeldByAnother:
+            m_folderLock.Close();
+            return true;
+        case DescriptorLock::Locked:
+            break;
+        }
+        m_taken = IsStillThere();
+        return m_taken;
+    }
+
+    // A start as root leaves a file that the clerk can't open. With the folder locked nobody is in, so that
+    // it may go.
+    void RemoveSomebodyElses(int why)
+    {
+        if (why != EACCES || !m_folderIsOurs || unlink(m_name.constData()) != 0)
+            Refuse(m_folder, m_path, why);
+    }
+
+    // False if the file went away between its opening and its locking: the copy that held it has ended in
+    // between, and a lock on the removed file would keep nobody out.
+    bool IsStillThere()
+    {
+        const struct stat held = m_fileLock.Status();
+        struct stat named { };
+        if (stat(m_name.constData(), &named) == 0 && held.st_ino == named.st_ino
+            && held.st_dev == named.st_dev)
+            return true;
+        m_fileLock.Close();
+        return false;
+    }
+
+    QString m_folder;
+    QString m_path;
+    QByteArray m_name;
+    DescriptorLock m_folderLock;
+    DescriptorLock m_fileLock;
+    bool m_folderIsOurs = false;
+    bool m_taken = false;
 };
 
 #endif
 
-SingleInstance::SingleInstance(const QString& folder)
-    : m_d(std::make_unique<Private>(QDir(folder).filePath(QStringLiteral("Vetrolan.lock"))))
-{
-}
+SingleInstance::SingleInstance(const QString& folder) : m_d(std::make_unique<Private>(folder)) { }
 
 SingleInstance::~SingleInstance() = default;
 

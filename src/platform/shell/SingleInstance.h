@@ -8,9 +8,10 @@
 // killed program leaves none behind.
 class SingleInstance {
 public:
-    // Takes the lock of a folder, which must exist and be writable: a RunTimeError if it isn't. The lock is
-    // held on the file Vetrolan.lock, which goes when the lock is given back; left behind by a killed
-    // program, it locks nobody out.
+    // Takes the lock of a folder, which must exist and be writable: a RunTimeError that says what to do if it
+    // isn't, or if root takes somebody else's. The lock is held on the folder itself, which nobody can
+    // remove from under it, and on the file Vetrolan.lock, which goes when the lock is given back; left
+    // behind by a killed program or by root, it locks nobody out.
     explicit SingleInstance(const QString& folder);
     ~SingleInstance();
 
