@@ -1,4 +1,5 @@
 #include "AppFolder.h"
+#include "AskedPassword.h"
 #include "RunTimeError.h"
 #include "SafeFiles.h"
 #include "SingleInstance.h"
@@ -19,7 +20,9 @@ struct Options {
     QCommandLineOption year{QStringLiteral("year"), QStringLiteral("The accounting year, such as 2026-2027."),
         QStringLiteral("YEAR")};
     QCommandLineOption password{QStringLiteral("password"),
-        QStringLiteral("The database's password: English letters, digits and marks."),
+        QStringLiteral("The database's password: English letters, digits and marks. Left out, or -, it is "
+                       "asked for, unseen, or read from the standard input: a WORD given here stands in the "
+                       "shell's history."),
         QStringLiteral("WORD")};
     QCommandLineOption demo{QStringLiteral("demo"),
         QStringLiteral(
@@ -48,13 +51,20 @@ QString WhyUnusable(const QCommandLineParser& parser, const Options& options)
         return QStringLiteral("\"%1\" isn't an option; see --help.")
             .arg(parser.positionalArguments().first());
     const bool makes = !parser.isSet(options.templates);
-    for (const QCommandLineOption& needed : {options.society, options.year, options.password}) {
-        if (!makes && parser.isSet(needed))
-            return QStringLiteral("--%1 doesn't go with --templates.").arg(needed.names().first());
+    for (const QCommandLineOption& needless : {options.society, options.year, options.password})
+        if (!makes && parser.isSet(needless))
+            return QStringLiteral("--%1 doesn't go with --templates.").arg(needless.names().first());
+    for (const QCommandLineOption& needed : {options.society, options.year})
         if (makes && !parser.isSet(needed))
             return QStringLiteral("--%1 is missing; see --help.").arg(needed.names().first());
-    }
     return {};
+}
+
+QString PasswordFor(const QCommandLineParser& parser, const Options& options)
+{
+    const QString given = parser.value(options.password);
+    const bool asks = !parser.isSet(options.password) || given == u"-";
+    return asks ? AskedPassword::Read() : given;
 }
 
 // The search screen looks for its slip in the folder of an older program.
@@ -136,7 +146,7 @@ int main(int argc, char* argv[])
         SocietyPlan plan;
         plan.name = parser.value(options.society);
         plan.year = parser.value(options.year);
-        plan.password = parser.value(options.password);
+        plan.password = PasswordFor(parser, options);
         plan.demo = parser.isSet(options.demo);
         plan.replace = parser.isSet(options.replace);
         const QString refused = WhyRefused(plan);
