@@ -7,6 +7,7 @@
 #include "MdlAccounts.h"
 #include "Messages.h"
 #include "PortDevice.h"
+#include "Privacy.h"
 #include "ReportHandover.h"
 #include "RunTimeError.h"
 #include "SingleInstance.h"
@@ -48,6 +49,7 @@ int RunProgram()
                 QStringLiteral("The books are open in another window of this program.")));
             return 1;
         }
+        Privacy::KeepToOwner(folder);
         RegisterPlaces();
         {
             const ReportHandover reports;

@@ -1,5 +1,7 @@
 #include "AppFolder.h"
 #include "AskedPassword.h"
+#include "FileRights.h"
+#include "Privacy.h"
 #include "RunTimeError.h"
 #include "SafeFiles.h"
 #include "SingleInstance.h"
@@ -78,6 +80,18 @@ public:
 
     QString Folder() const { return m_named.isEmpty() ? LocalPath(AppFolder) : m_named; }
 
+    // Takes from everybody else what they may do with older files. In a folder that was named other things
+    // may lie, too: there it is done with those of a society only.
+    void KeepToOwner() const
+    {
+        if (m_named.isEmpty())
+            return Privacy::KeepToOwner(Folder());
+        const QDir folder(m_named);
+        for (const QString& name : folder.entryList(
+                 {QStringLiteral("Morvelta*"), QStringLiteral("PWD*.TXT"), BackupFolderName.toString()}))
+            Privacy::KeepToOwner(folder.filePath(name));
+    }
+
     void WriteOlderTemplate() const
     {
         if (m_named.isEmpty())
@@ -106,6 +120,7 @@ int Make(const Place& place, const SocietyPlan& plan)
     const SingleInstance lock(folder);
     if (!lock.Taken())
         return Complain(Failed, QStringLiteral("The books are open in the program; close it first."));
+    place.KeepToOwner();
     MakeSociety(folder, plan);
     place.WriteOlderTemplate();
     QTextStream(stdout) << plan.name << ' ' << plan.year << ": "
@@ -118,6 +133,8 @@ int Make(const Place& place, const SocietyPlan& plan)
 
 int main(int argc, char* argv[])
 {
+    FileRights::KeepPrivate();
+    Privacy::ForbidCores();
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vetrolan-setup"));
     QCommandLineParser parser;

@@ -1,0 +1,47 @@
+#include "FileRights.h"
+
+#include <QtGlobal>
+
+#include <optional>
+
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
+
+namespace {
+
+constexpr unsigned Private = 077;
+
+// Sets the mask of the process and returns the one before; where there are no such masks, nothing happens.
+unsigned Replace(unsigned mask)
+{
+#ifdef Q_OS_WIN
+    return mask;
+#else
+    return umask(mask);
+#endif
+}
+
+std::optional<unsigned>& Former()
+{
+    static std::optional<unsigned> former;
+    return former;
+}
+
+}
+
+void FileRights::KeepPrivate()
+{
+    const unsigned before = Replace(Private);
+    if (before != Private) // else it has been called before, or the user has it so
+        Former() = before;
+}
+
+unsigned FileRights::OfTheUser()
+{
+    if (Former())
+        return *Former();
+    const unsigned own = Replace(Private);
+    Replace(own);
+    return own;
+}
