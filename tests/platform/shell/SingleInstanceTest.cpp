@@ -3,6 +3,7 @@
 #include "RunTimeError.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -171,6 +172,21 @@ TEST_F(SingleInstanceTest, AnOlderCopyThatHoldsTheFileOnlyKeepsOthersOut)
     EXPECT_FALSE(SingleInstance(Folder()).Taken());
     close(file);
     EXPECT_TRUE(SingleInstance(Folder()).Taken());
+}
+
+TEST_F(SingleInstanceTest, AProgramThatWasStartedFromTheHolderKeepsNobodyOutAfterIt)
+{
+    QProcess calculator;
+    {
+        const SingleInstance first(Folder());
+        ASSERT_TRUE(first.Taken());
+        calculator.start(QStringLiteral("cat"), {}); // runs until its input is closed
+        ASSERT_TRUE(calculator.waitForStarted());
+    }
+    EXPECT_TRUE(SingleInstance(Folder()).Taken());
+    EXPECT_EQ(calculator.state(), QProcess::Running);
+    calculator.closeWriteChannel();
+    EXPECT_TRUE(calculator.waitForFinished());
 }
 
 // What a clerk without any rights of root comes to, in a process of his own: "taken", "busy", or what the
