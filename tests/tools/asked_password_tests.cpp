@@ -85,6 +85,9 @@ public:
         return now.c_lflag & ECHO;
     }
 
+    // What the system lets the program do, a line each.
+    QByteArray Limits() const { return FileContent(QStringLiteral("/proc/%1/limits").arg(m_process)); }
+
     // The exit code, when it has ended.
     int Ended()
     {
@@ -188,6 +191,15 @@ TEST_F(AskedPassword, TypedDifferentlyMakesNoBooks)
     EXPECT_EQ(terminal.Ended(), 1);
     EXPECT_TRUE(terminal.ShowsKeys());
     EXPECT_FALSE(HasBooks());
+}
+
+TEST_F(AskedPassword, IsLeftInNoCore)
+{
+    Terminal terminal(WithoutPassword(Folder()));
+    ASSERT_TRUE(terminal.Says("isn't shown"));
+    EXPECT_TRUE(terminal.Limits().simplified().contains("Max core file size 0 0 "));
+    terminal.Type("\x03");
+    EXPECT_EQ(terminal.Ended(), 1);
 }
 
 TEST_F(AskedPassword, BrokenOffLeavesTheTerminalShowingWhatIsTyped)
