@@ -1,4 +1,5 @@
-// A report of 20,000 rows: laid out in memory, its first page, and the whole as a PDF.
+// A report of 20,000 rows: laid out in memory, its first page, and the whole as a PDF. And one of a single
+// text that is as long as a book.
 
 #include "BenchSociety.h"
 #include "Cases.h"
@@ -107,10 +108,35 @@ void MeasurePdf(benchmark::State& state, const QString& drives, Pair& pair)
     Require(size >= floorsSize && size < 1.5 * floorsSize, "The report writes all that the floor writes.");
 }
 
+// Until the last page of a text in one field is laid out.
+double SecondsToFillLongText(const std::shared_ptr<Connection>& books, int megabytes)
+{
+    StageLongText(megabytes);
+    std::unique_ptr<Report> report;
+    const double seconds = SecondsOf([&] {
+        report = BeginLongText(books);
+        report->Complete();
+    });
+    Require(report->PageCount() > 50U * static_cast<unsigned>(megabytes), "The text is on its pages.");
+    return seconds;
+}
+
+// The floor of ten megabytes is ten times one.
+void MeasureLongText(benchmark::State& state, const QString&, Pair& pair)
+{
+    const std::shared_ptr<Connection> books = OpenForReports();
+    for ([[maybe_unused]] auto _ : state) {
+        pair.Turn([&] { return SecondsToFillLongText(books, 10); },
+            [&] { return 10 * SecondsToFillLongText(books, 1); });
+        state.SetIterationTime(pair.Measured.Last());
+    }
+}
+
 struct ReportCase {
     const char* what;
     void (*measure)(benchmark::State&, const QString&, Pair&);
     Target target;
+    int turns = Turns;
 };
 
 void Run(benchmark::State& state, const QString& drives, const ReportCase& which)
@@ -129,7 +155,7 @@ void Register(const char* name, const QString& drives, const ReportCase& which)
 {
     benchmark::RegisterBenchmark(name, Run, drives, which)
         ->UseManualTime()
-        ->Iterations(Turns)
+        ->Iterations(which.turns)
         ->Unit(benchmark::kMillisecond);
 }
 
@@ -140,4 +166,6 @@ void RegisterReportCases(const QString& drives)
     Register("report/fill", drives, {"a report of 20,000 rows: laid out", MeasureFill, {.ratio = 1.2}});
     Register("report/first", drives, {"its first page, beside the whole", MeasureFirstPage, {.ratio = 0.1}});
     Register("report/pdf", drives, {"its PDF", MeasurePdf, {.ratio = 1.2}});
+    Register("report/long", drives,
+        {"a text of 10 MB in one field, beside ten of 1 MB", MeasureLongText, {.ratio = 1.2}, 3});
 }

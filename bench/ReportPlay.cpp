@@ -24,6 +24,24 @@ constexpr const char* ListTemplate =
   <pagefooter><text size="8" align="center">पान {#page} / {#pages}</text></pagefooter>
 </report>)xml";
 
+constexpr const char* LongTextTemplate =
+    R"xml(<report name="LongText" paper="A4" margin="10" font="Noto Sans Devanagari 10">
+  <source name="m" table="MembersListReport"/>
+  <text>{MemberName}</text>
+</report>)xml";
+
+ReportTemplate Checked(const char* text, const char* file, Connection& books)
+{
+    TemplateFaults faults;
+    ReportTemplate report =
+        ReportTemplate::ReadText(QString::fromUtf8(text), QString::fromLatin1(file), faults);
+    for (const TemplateFault& fault : Check(report, books))
+        faults.push_back(fault);
+    if (!faults.empty())
+        throw RunTimeError(-1, faults.front().Line());
+    return report;
+}
+
 // A day as a selection formula words it.
 QString FormulaDay(const char* iso)
 {
@@ -42,15 +60,24 @@ std::shared_ptr<Connection> OpenForReports()
 
 std::unique_ptr<Report> BeginList(const std::shared_ptr<Connection>& books)
 {
-    TemplateFaults faults;
-    ReportTemplate list =
-        ReportTemplate::ReadText(QString::fromUtf8(ListTemplate), QStringLiteral("List.rpt"), faults);
-    for (const TemplateFault& fault : Check(list, *books))
-        faults.push_back(fault);
-    if (!faults.empty())
-        throw RunTimeError(-1, faults.front().Line());
     const QString formula = QStringLiteral("{MilkCollections.CollectionDate} >= %1 and "
                                            "{MilkCollections.CollectionDate} <= %2")
                                 .arg(FormulaDay(FirstListedDay), FormulaDay(LastListedDay));
-    return std::make_unique<Report>(std::move(list), books, ReadSelectionFormula(formula, *books));
+    return std::make_unique<Report>(
+        Checked(ListTemplate, "List.rpt", *books), books, ReadSelectionFormula(formula, *books));
+}
+
+void StageLongText(int megabytes)
+{
+    constexpr int Megabyte = 1024 * 1024;
+    const QString words = QStringLiteral("dUQa saMklana ");
+    gCn.RunScript(QStringLiteral("delete from MembersListReport;"
+                                 "insert into MembersListReport(CompanyId,MemberName) "
+                                 "values(1,replace(hex(zeroblob(%1)),'00','%2'))")
+                      .arg(QString::number(megabytes * (Megabyte / words.size())), words));
+}
+
+std::unique_ptr<Report> BeginLongText(const std::shared_ptr<Connection>& books)
+{
+    return std::make_unique<Report>(Checked(LongTextTemplate, "LongText.rpt", *books), books, Selection());
 }

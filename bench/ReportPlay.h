@@ -18,3 +18,9 @@ std::shared_ptr<Connection> OpenForReports();
 
 // Reads and checks the template and begins the report; no page of it is laid out yet.
 std::unique_ptr<Report> BeginList(const std::shared_ptr<Connection>& books);
+
+// Puts a Marathi text of so many megabytes into one field of the books, in place of the one before.
+void StageLongText(int megabytes);
+
+// The same for a report of that field alone, on A4.
+std::unique_ptr<Report> BeginLongText(const std::shared_ptr<Connection>& books);

@@ -281,10 +281,17 @@ void BandMaker::AddWrapped(Band& band, const QString& text, const TextLook& look
     item.font = Fonts.Add(font);
     item.x = stretch.x;
     item.width = stretch.width;
-    item.height = Measure.Height(font, text, stretch.width);
-    item.text = text;
-    band.height = std::max(band.height, item.height);
-    band.items.push_back(std::move(item));
+    for (const MeasuredText& piece : Measure.Divide(font, text, stretch.width)) {
+        item.height = piece.height;
+        item.text = piece.text;
+        if (!item.text.isEmpty())
+            band.items.push_back(item);
+        else if (!band.items.empty())
+            band.items.back().height += item.height; // lines with nothing on them
+        item.y += item.height;
+        item.goesOn = true;
+    }
+    band.height = std::max(band.height, item.y);
 }
 
 void BandMaker::MakeSimple(const TemplateElement& element, Stretch stretch, std::deque<Band>& bands)

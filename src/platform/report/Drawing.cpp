@@ -14,6 +14,7 @@
 namespace {
 
 constexpr double Black = 255.0;
+constexpr qsizetype Portion = 500; // characters
 
 struct SurfaceDeleter {
     void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
@@ -115,8 +116,14 @@ void PagePainter::Private::DrawWrapped(cairo_t* cairo, const PlacedItem& item, c
 void PagePainter::Private::DrawSingle(cairo_t* cairo, const PlacedItem& item, const QString& text)
 {
     PangoLayout* const layout = pool.Single(fonts.At(item.font));
-    SetText(layout, text);
-    double width = WidthOf(layout);
+    double width = 0;
+    // Of a text that is cut, no more is laid out than can be seen.
+    for (qsizetype length = item.fit == Fit::Cut ? Portion : text.size();; length *= 2) {
+        SetText(layout, text.left(length));
+        width = WidthOf(layout);
+        if (length >= text.size() || width > item.width)
+            break;
+    }
     const bool isTooWide = width > item.width;
     const double squeeze = isTooWide && item.fit == Fit::Shrink ? item.width / width : 1;
     if (isTooWide && item.fit == Fit::Cut) {

@@ -54,8 +54,13 @@ PangoLayout* LayoutPool::Find(Layouts& layouts, const FontSpec& font, bool wraps
 
 double LayoutPool::Drop(const FontSpec& font, PangoLayout* layout)
 {
+    return Drop(font, pango_layout_get_baseline(layout));
+}
+
+double LayoutPool::Drop(const FontSpec& font, int baseline)
+{
     const auto known = std::find_if(
-        m_baselines.begin(), m_baselines.end(), [&](const auto& baseline) { return baseline.first == font; });
+        m_baselines.begin(), m_baselines.end(), [&](const auto& one) { return one.first == font; });
     const std::ptrdiff_t index = known - m_baselines.begin();
     if (known == m_baselines.end()) {
         PangoLayout* const tall = pango_layout_copy(Single(font));
@@ -64,6 +69,6 @@ double LayoutPool::Drop(const FontSpec& font, PangoLayout* layout)
         m_baselines.emplace_back(font, pango_layout_get_baseline(tall));
         g_object_unref(tall);
     }
-    const int drop = m_baselines[static_cast<std::size_t>(index)].second - pango_layout_get_baseline(layout);
+    const int drop = m_baselines[static_cast<std::size_t>(index)].second - baseline;
     return std::max(0.0, static_cast<double>(drop) / PANGO_SCALE);
 }

@@ -34,6 +34,9 @@ public:
     // although they may come from different faces.
     double Drop(const FontSpec& font, PangoLayout* layout);
 
+    // The same for a text whose first line has its letters on a baseline, in units of the text engine.
+    double Drop(const FontSpec& font, int baseline);
+
     // Its letters have signs above and below.
     static constexpr QStringView TallText = u"क्ष्र्यूंङ्ळृEg";
 

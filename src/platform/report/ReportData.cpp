@@ -9,6 +9,7 @@
 namespace {
 
 constexpr qsizetype MostSeenTexts = 20000;
+constexpr qsizetype LongestSeenText = 200;
 
 // What two linked rows share, as one text.
 QString KeyOf(const Row& row, const std::vector<int>& columns)
@@ -194,7 +195,8 @@ QString ReportData::Seen(const QString& stored)
     if (m_seen.size() >= MostSeenTexts)
         m_seen.clear();
     const QString seen = Shivaji01::ToUnicode(stored);
-    m_seen.insert(stored, seen);
+    if (stored.size() <= LongestSeenText)
+        m_seen.insert(stored, seen);
     return seen;
 }
 

@@ -392,8 +392,14 @@ Band ReportFiller::Split(Band& whole, float room)
     first.record = std::move(whole.record);
     rest.repeated = whole.repeated;
     rest.keepWithNext = whole.keepWithNext;
-    for (PlacedItem& item : whole.items)
+    bool goesOver = false; // the item before, or a part of it
+    for (PlacedItem& item : whole.items) {
+        if (item.goesOn && goesOver)
+            item.y = room + rest.items.back().y + rest.items.back().height;
+        const std::size_t before = rest.items.size();
         SplitItem(std::move(item), room, first, rest);
+        goesOver = rest.items.size() > before;
+    }
     if (!whole.lanes.empty())
         SplitLanes(whole, room, first, rest);
     whole = std::move(first);

@@ -15,6 +15,9 @@ public:
     // The rows that stand on the pages so far, for a spreadsheet (see RecordPlan). The heads come first.
     const std::vector<QStringList>& Records() const { return m_records; }
 
+    // What its texts are measured with.
+    const TextMeasure& Measure() const { return m_measure; }
+
 private:
     // A page in the making.
     struct Sheet {

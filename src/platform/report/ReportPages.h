@@ -25,6 +25,7 @@ struct PlacedItem {
     Align align = Align::Left;
     Fit fit = Fit::Wrap;
     quint8 gray = 0; // of a line or a box: 0 is black, 255 is white
+    bool goesOn = false; // a piece of the text before it, directly below
     quint16 font = 0; // among the fonts of the report
     float x = 0, y = 0, width = 0, height = 0; // a line goes from (x, y) to (x + width, y + height)
     float weight = 0; // of a line

@@ -6,14 +6,47 @@
 
 #include <pango/pangocairo.h>
 
+#include <algorithm>
+
 namespace {
 
 constexpr qsizetype MostKept = 20000;
+constexpr qsizetype LongestKept = 200;
 constexpr float Tolerance = 0.01F;
+
+// The text engine looks at all that is left of a paragraph for each of its lines, so that it is never given
+// more than this at once; and a piece of more lines would be looked at again for too many pages.
+constexpr qsizetype Portion = 4000;
+constexpr std::size_t MostLines = 100;
+
+// A line of a laid out text, in units of the text engine.
+struct Line {
+    qsizetype start = 0; // the character that it begins with
+    int top = 0;
+    int bottom = 0;
+    int baseline = 0;
+};
 
 float ToPoints(int units)
 {
     return static_cast<float>(units) / PANGO_SCALE;
+}
+
+// Without the end of the line that it ends with.
+QString WithoutLineEnd(QString text)
+{
+    if (text.endsWith(u'\n') || text.endsWith(QChar::ParagraphSeparator))
+        text.chop(1);
+    if (text.endsWith(u'\r'))
+        text.chop(1);
+    return text;
+}
+
+// Some characters of a text; the two signs that end a line in some files stay together.
+QString PortionOf(const QString& text, qsizetype from, qsizetype length)
+{
+    const bool cutsLineEnd = from + length < text.size() && text[from + length - 1] == u'\r';
+    return text.mid(from, cutsLineEnd ? length + 1 : length);
 }
 
 }
@@ -26,17 +59,54 @@ public:
         const QByteArray utf8 = text.toUtf8();
         pango_layout_set_width(layout, static_cast<int>(width * PANGO_SCALE));
         pango_layout_set_text(layout, utf8.constData(), static_cast<int>(utf8.size()));
+        laidOut += text.size();
         return layout;
     }
+
+    std::vector<Line> LinesOf(const FontSpec& font, const QString& text, float width);
+    float HeightOf(const FontSpec& font, const Line& first, const Line& last);
 
     LayoutPool pool;
     std::vector<std::pair<FontSpec, float>> lineHeights;
     QHash<QString, float> heights;
+    qsizetype laidOut = 0;
 };
+
+std::vector<Line> TextMeasure::Private::LinesOf(const FontSpec& font, const QString& text, float width)
+{
+    PangoLayout* const layout = Lay(font, text, width);
+    const char* const utf8 = pango_layout_get_text(layout);
+    std::vector<Line> lines;
+    qsizetype start = 0;
+    int at = 0;
+    PangoLayoutIter* const iter = pango_layout_get_iter(layout);
+    do {
+        PangoRectangle extents;
+        pango_layout_iter_get_line_extents(iter, nullptr, &extents);
+        const int begin = pango_layout_iter_get_line_readonly(iter)->start_index;
+        start += QString::fromUtf8(utf8 + at, begin - at).size();
+        at = begin;
+        lines.push_back({start, extents.y, extents.y + extents.height, pango_layout_iter_get_baseline(iter)});
+    } while (pango_layout_iter_next_line(iter));
+    pango_layout_iter_free(iter);
+    return lines;
+}
+
+// Of lines that stand by themselves.
+float TextMeasure::Private::HeightOf(const FontSpec& font, const Line& first, const Line& last)
+{
+    return ToPoints(last.bottom - first.top)
+        + static_cast<float>(pool.Drop(font, first.baseline - first.top));
+}
 
 TextMeasure::TextMeasure() : m_d(std::make_unique<Private>()) { }
 
 TextMeasure::~TextMeasure() = default;
+
+qsizetype TextMeasure::LaidOut() const
+{
+    return m_d->laidOut;
+}
 
 float TextMeasure::LineHeight(const FontSpec& font)
 {
@@ -56,6 +126,12 @@ float TextMeasure::LineHeight(const FontSpec& font)
 
 float TextMeasure::Height(const FontSpec& font, const QString& text, float width)
 {
+    if (text.size() > Portion) {
+        float whole = 0;
+        for (const MeasuredText& piece : Divide(font, text, width))
+            whole += piece.height;
+        return whole;
+    }
     const QString key = text + QChar(u'\x1f') + font.family + QChar(u'\x1f') + QString::number(font.size)
         + QChar(u'\x1f') + QString::number(width) + QChar(font.isBold ? u'b' : u'n');
     const auto known = m_d->heights.constFind(key);
@@ -68,26 +144,45 @@ float TextMeasure::Height(const FontSpec& font, const QString& text, float width
     PangoLayout* const layout = m_d->Lay(font, text, width);
     pango_layout_get_size(layout, &ignored, &height);
     const float whole = ToPoints(height) + static_cast<float>(m_d->pool.Drop(font, layout));
-    m_d->heights.insert(key, whole);
+    if (text.size() <= LongestKept)
+        m_d->heights.insert(key, whole);
     return whole;
+}
+
+std::vector<MeasuredText> TextMeasure::Divide(const FontSpec& font, const QString& text, float width)
+{
+    if (text.size() <= Portion)
+        return {{text, Height(font, text, width)}};
+    std::vector<MeasuredText> pieces;
+    qsizetype length = Portion;
+    for (qsizetype at = 0; at < text.size();) {
+        const QString portion = PortionOf(text, at, length);
+        const bool isEnd = at + portion.size() == text.size();
+        const std::vector<Line> lines = m_d->LinesOf(font, portion, width);
+        // The last line goes on behind the portion, so it is left to the next one.
+        const std::size_t whole = isEnd ? lines.size() : lines.size() - 1;
+        const auto startOf = [&](std::size_t line) {
+            return line < lines.size() ? lines[line].start : portion.size();
+        };
+        for (std::size_t first = 0; first < whole; first += MostLines) {
+            const std::size_t next = std::min(first + MostLines, whole);
+            const QString piece = portion.mid(startOf(first), startOf(next) - startOf(first));
+            const bool isLast = isEnd && next == whole;
+            pieces.push_back(
+                {isLast ? piece : WithoutLineEnd(piece), m_d->HeightOf(font, lines[first], lines[next - 1])});
+        }
+        at += startOf(whole);
+        length = whole == 0 ? 2 * length : Portion; // one line can be longer than a portion
+    }
+    return pieces;
 }
 
 qsizetype TextMeasure::Fitting(const FontSpec& font, const QString& text, float width, float height)
 {
-    PangoLayout* const layout = m_d->Lay(font, text, width);
-    const int lines = pango_layout_get_line_count(layout);
-    const float drop = static_cast<float>(m_d->pool.Drop(font, layout));
-    const QByteArray utf8 = text.toUtf8();
-    for (int i = 1; i < lines; ++i) {
-        PangoRectangle extents;
-        PangoLayoutIter* const iter = pango_layout_get_iter(layout);
-        for (int step = 0; step < i; ++step)
-            pango_layout_iter_next_line(iter);
-        pango_layout_iter_get_line_extents(iter, nullptr, &extents);
-        const int start = pango_layout_iter_get_line_readonly(iter)->start_index;
-        pango_layout_iter_free(iter);
-        if (drop + ToPoints(extents.y + extents.height) > height + Tolerance)
-            return QString::fromUtf8(utf8.constData(), start).size();
+    const std::vector<Line> lines = m_d->LinesOf(font, text, width);
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+        if (m_d->HeightOf(font, lines.front(), lines[i]) > height + Tolerance)
+            return lines[i].start;
     }
     return text.size();
 }
