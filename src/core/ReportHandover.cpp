@@ -2,12 +2,14 @@
 
 #include "AppFolder.h"
 #include "Messages.h"
+#include "PrintFiles.h"
 #include "ReportPreview.h"
 
 ReportHandover::ReportHandover(std::unique_ptr<Printer> printer) : m_printer(std::move(printer))
 {
     ReportSurroundings::Current() = {
         &m_window, m_printer.get(), [](const QString& path) { return LocalPath(path); }};
+    PrintFiles::KeepIn(LocalPath(AppFolder));
 }
 
 ReportHandover::~ReportHandover()

@@ -4,7 +4,8 @@
 #include "ReportControl.h"
 
 // Gives the report controls of the screens what they work with, as long as it lives: the preview, a printer,
-// and the way to the templates of AppFolder. When it goes, the books that were opened for reports are closed.
+// and the way to the templates of AppFolder, where what goes to the printer lies, too. When it goes, the
+// books that were opened for reports are closed.
 class ReportHandover {
 public:
     explicit ReportHandover(std::unique_ptr<Printer> printer = MakeSystemPrinter());

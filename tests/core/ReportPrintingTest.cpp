@@ -96,6 +96,19 @@ TEST_F(ReportPrinting, WithoutAPrinterTheRefusalIsToldToo)
     EXPECT_EQ(TheBox.Shown, QStringList(Refusal));
 }
 
+TEST_F(ReportPrinting, WhatIsPrintedLiesWithTheBooksAndIsSweptAtTheNextStart)
+{
+    Show([](Clerk& clerk) { clerk.Type(QStringLiteral("^p")); });
+    ASSERT_EQ(m_printer->Jobs.size(), 1U);
+    const QString printed = m_printer->Jobs.front().file;
+    EXPECT_EQ(QFileInfo(printed).absoluteFilePath(), FolderFile(QFileInfo(printed).fileName()));
+    EXPECT_TRUE(QFile(printed).open(QIODevice::WriteOnly)) << "as if the program had been killed";
+    m_handover.reset();
+    m_handover.emplace(std::make_unique<FakePrinter>());
+    EXPECT_FALSE(QFile::exists(printed));
+    EXPECT_TRUE(QFile::exists(FolderFile(QStringLiteral("Morvelta.mdb"))));
+}
+
 TEST_F(ReportPrinting, APrintWithoutThePreviewTellsTheRefusalAndGoesOn)
 {
     m_printer->Answer = {Refusal};

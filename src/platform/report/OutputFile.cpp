@@ -1,9 +1,20 @@
 #include "OutputFile.h"
 
+#include "FileRights.h"
+
 #include <QDir>
+#include <QFileInfo>
 #include <QSaveFile>
 
 namespace {
+
+// The rights of a new file under the user's own mask. Qt has four bits for each of owner, group and others.
+QFileDevice::Permissions RightsOfTheUser()
+{
+    const unsigned rights = 0666 & ~FileRights::OfTheUser();
+    return QFileDevice::Permissions::fromInt(
+        static_cast<int>((rights >> 6 & 7) << 12 | (rights >> 3 & 7) << 4 | (rights & 7)));
+}
 
 Outcome Failed(const QString& file, const QString& why)
 {
@@ -26,6 +37,7 @@ QString Quoted(const QString& cell)
 
 Outcome WriteWhole(const QString& file, const std::function<bool(QIODevice&)>& write)
 {
+    const bool isNew = !QFileInfo::exists(file); // what was there before keeps its rights
     QSaveFile target(file);
     if (!target.open(QIODevice::WriteOnly))
         return Failed(file, target.errorString());
@@ -35,6 +47,8 @@ Outcome WriteWhole(const QString& file, const std::function<bool(QIODevice&)>& w
         target.cancelWriting();
         return Failed(file, why);
     }
+    if (isNew)
+        target.setPermissions(RightsOfTheUser());
     return target.commit() ? Outcome() : Failed(file, target.errorString());
 }
 

@@ -3,6 +3,7 @@
 #include "Drawing.h"
 #include "Evaluation.h"
 #include "OutputFile.h"
+#include "PrintFiles.h"
 #include "ReportFiller.h"
 
 #include <QTemporaryFile>
@@ -87,7 +88,7 @@ Outcome Report::SaveCsv(const QString& file)
 Outcome Report::Print(Printer& printer, const QString& printerName)
 {
     Complete();
-    QTemporaryFile pdf;
+    QTemporaryFile pdf(PrintFiles::Pattern()); // for its owner alone
     if (!pdf.open() || !WritePdf(pdf) || !pdf.flush())
         return {QStringLiteral("छपाईसाठी तात्पुरती फाइल लिहिता आली नाही. डिस्कवर जागा आहे का ते पाहा.\n%1")
                     .arg(pdf.errorString())};

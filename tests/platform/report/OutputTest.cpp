@@ -1,4 +1,6 @@
 #include "Drawing.h"
+#include "FileRights.h"
+#include "PrintFiles.h"
 #include "ReportTest.h"
 
 #include <QBuffer>
@@ -9,6 +11,7 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -49,13 +52,27 @@ public:
         QFile file(job.file);
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         Content = file.readAll();
+        Rights = file.permissions();
         Job = job;
         return Answer;
     }
 
     QByteArray Content;
+    QFile::Permissions Rights;
     PrintJob Job;
     Outcome Answer;
+};
+
+// A process that keeps its files private, of a user who doesn't: as long as it stands.
+class PrivateProcess {
+public:
+    explicit PrivateProcess(mode_t ofTheUser) : m_before(umask(ofTheUser)) { FileRights::KeepPrivate(); }
+    ~PrivateProcess() { umask(m_before); }
+    PrivateProcess(const PrivateProcess&) = delete;
+    PrivateProcess& operator=(const PrivateProcess&) = delete;
+
+private:
+    mode_t m_before;
 };
 
 class OutputTest : public ReportTest {
@@ -74,6 +91,13 @@ protected:
     {
         QDir(folder.path()).mkpath(QStringLiteral("out"));
         return File(QStringLiteral("out/") + name);
+    }
+    // The rights of a file as the shell shows them: 0644.
+    static unsigned Rights(const QString& file)
+    {
+        struct stat told { };
+        EXPECT_EQ(stat(QFile::encodeName(file).constData(), &told), 0);
+        return told.st_mode & 0777;
     }
     static QByteArray Content(const QString& file)
     {
@@ -300,6 +324,42 @@ TEST_F(OutputTest, ThePrinterGetsThePdfAndItsAnswerIsPassedOn)
     EXPECT_FALSE(QFileInfo::exists(printer.Job.file)) << "nothing is left behind";
     printer.Answer = {QStringLiteral("no paper")};
     EXPECT_EQ(report->Print(printer).fault, QStringLiteral("no paper"));
+}
+
+TEST_F(OutputTest, WhatTheClerkSavesHasTheRightsOfTheUsersOwnMask)
+{
+    const std::unique_ptr<Report> report = MakeText(QStringLiteral("अ"));
+    for (const auto& [mask, rights] :
+        {std::pair(022U, 0644U), std::pair(027U, 0640U), std::pair(002U, 0664U)}) {
+        const PrivateProcess process(mask);
+        const QString pdf = Output(QStringLiteral("%1.pdf").arg(mask));
+        const QString csv = Output(QStringLiteral("%1.csv").arg(mask));
+        EXPECT_TRUE(report->SavePdf(pdf).Done() && report->SaveCsv(csv).Done());
+        EXPECT_EQ(Rights(pdf), rights);
+        EXPECT_EQ(Rights(csv), rights);
+        ASSERT_EQ(chmod(QFile::encodeName(pdf).constData(), 0600), 0);
+        EXPECT_TRUE(report->SavePdf(pdf).Done());
+        EXPECT_EQ(Rights(pdf), 0600U) << "a file that was there keeps its own";
+    }
+}
+
+TEST_F(OutputTest, WhatIsPrintedLiesInTheGivenFolderForItsOwnerAloneAndIsSweptWhenItWasLeft)
+{
+    const QString left = Output(QStringLiteral(".print-aB3xyZ.pdf"));
+    for (const QString& name :
+        {left, Output(QStringLiteral("list.pdf")), Output(QStringLiteral("print-a.pdf"))})
+        EXPECT_TRUE(QFile(name).open(QIODevice::WriteOnly));
+    PrintFiles::KeepIn(Output({}));
+    EXPECT_EQ(Outputs(), QStringList({QStringLiteral("list.pdf"), QStringLiteral("print-a.pdf")}));
+    KeepingPrinter printer;
+    EXPECT_TRUE(MakeText(QStringLiteral("अ"))->Print(printer).Done());
+    EXPECT_TRUE(printer.Content.startsWith("%PDF"));
+    EXPECT_EQ(QFileInfo(printer.Job.file).path(), QFileInfo(left).path());
+    EXPECT_TRUE(QDir::match(QStringLiteral(".print-??????.pdf"), QFileInfo(printer.Job.file).fileName()))
+        << "it would be swept: " << printer.Job.file.toStdString();
+    constexpr auto OfOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    EXPECT_FALSE(printer.Rights.testAnyFlags(OfOthers));
+    PrintFiles::KeepIn(QDir::tempPath());
 }
 
 TEST_F(OutputTest, PaperAndPdfAreNamedByTheTitle)
