@@ -19,7 +19,7 @@ ValueType TypeOf(ColumnType type)
     return ValueType::Unknown;
 }
 
-// A stored text can hold a number; a date and a truth can't.
+// A stored text can hold a number that is printed by a format; a date and a truth can't.
 bool CanBeNumber(ValueType type)
 {
     return type == ValueType::Number || type == ValueType::Text || type == ValueType::Unknown;
@@ -59,7 +59,8 @@ ExpressionBinder::ExpressionBinder(ReportTemplate& report, Catalogue& catalogue,
 
 void ExpressionBinder::Fault(int line, const QString& text)
 {
-    m_faults.push_back({m_report.file, line, text});
+    if (m_faults.size() <= MostFaults)
+        m_faults.push_back({m_report.file, line, text});
 }
 
 int ExpressionBinder::FindSource(const QString& name, int line)
@@ -257,7 +258,10 @@ ValueType ExpressionBinder::BindArithmetic(Expression& expression, const Place& 
 {
     for (Expression& argument : expression.arguments) {
         const ValueType type = Bind(argument, place);
-        if (!CanBeNumber(type))
+        if (type == ValueType::Text)
+            Fault(place.line,
+                QStringLiteral("texts can't be reckoned with; words stand before or behind the braces"));
+        else if (!CanBeNumber(type))
             Fault(place.line, QStringLiteral("dates and conditions can't be reckoned with"));
         ReadAsStored(argument, type);
     }
@@ -356,7 +360,7 @@ void ExpressionBinder::CheckTotalled(AggregateKind kind, ValueType type, int lin
     if (IsExtreme(kind)) {
         if (type == ValueType::Text || type == ValueType::Truth)
             Fault(line, QStringLiteral("min and max need numbers or dates"));
-    } else if (kind != AggregateKind::Count && !CanBeNumber(type)) {
+    } else if (kind != AggregateKind::Count && (type == ValueType::Text || !CanBeNumber(type))) {
         Fault(line, QStringLiteral("a total needs numbers"));
     }
 }

@@ -49,6 +49,7 @@ private:
     void TakeNumber();
     void TakeText();
     void TakeSign();
+    void RefuseForeignSign() const;
 
     bool IsSign(QStringView sign) const { return m_token.kind == Token::Kind::Sign && m_token.text == sign; }
     bool IsWord(QStringView word) const { return m_token.kind == Token::Kind::Name && m_token.text == word; }
@@ -144,10 +145,23 @@ void Parser::TakeSign()
             return;
         }
     }
+    RefuseForeignSign();
     const QChar c = m_text[m_at++];
     if (!QStringView(u"+-*/=<>(),.").contains(c))
         Fail(QStringLiteral("\"%1\" has no meaning in an expression").arg(c));
     m_token = {Token::Kind::Sign, QString(c)};
+}
+
+// Signs of programming languages that mean something here under another name.
+void Parser::RefuseForeignSign() const
+{
+    constexpr std::pair<QStringView, QStringView> Foreign[] = {
+        {u"==", u"="}, {u"!=", u"<>"}, {u"&&", u"and"}, {u"||", u"or"}};
+    for (const auto& [sign, own] : Foreign) {
+        if (m_text.mid(m_at).startsWith(sign))
+            Fail(QStringLiteral("\"%1\" isn't known; it is written \"%2\"")
+                     .arg(sign.toString(), own.toString()));
+    }
 }
 
 bool Parser::Accept(QStringView sign)
@@ -282,7 +296,8 @@ Expression Parser::ReadPrimary()
         Next();
         return ReadName(token.text);
     case Token::Kind::Sign:
-        Expect(u"(");
+        if (!Accept(u"("))
+            Fail(QStringLiteral("a value is missing before \"%1\"").arg(token.text));
         whole = ReadOr();
         Expect(u")");
         return whole;

@@ -61,6 +61,20 @@ FontMap::~FontMap()
         FcConfigSetCurrent(nullptr);
 }
 
+bool FontMap::Has(const QString& family) const
+{
+    FcPattern* const wanted = FcPatternCreate();
+    FcPatternAddString(wanted, FC_FAMILY, reinterpret_cast<const FcChar8*>(family.toUtf8().constData()));
+    FcObjectSet* const told = FcObjectSetBuild(FC_FAMILY, nullptr);
+    FcFontSet* const found = FcFontList(pango_fc_font_map_get_config(PANGO_FC_FONT_MAP(m_map)), wanted, told);
+    const bool isThere = found && found->nfont > 0;
+    if (found)
+        FcFontSetDestroy(found);
+    FcObjectSetDestroy(told);
+    FcPatternDestroy(wanted);
+    return isThere;
+}
+
 std::shared_ptr<FontMap> FontMap::Current()
 {
     static std::shared_ptr<FontMap> map;

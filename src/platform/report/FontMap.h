@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <memory>
 
 using PangoFontMap = struct _PangoFontMap;
@@ -17,6 +19,9 @@ public:
     static std::shared_ptr<FontMap> Current();
 
     PangoFontMap* Get() const { return m_map; }
+
+    // Whether fonts of that name are installed; another that would be taken instead doesn't count.
+    bool Has(const QString& family) const;
 
 private:
     PangoFontMap* m_map;

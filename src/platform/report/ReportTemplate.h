@@ -22,6 +22,9 @@ struct TemplateFault {
 };
 using TemplateFaults = std::vector<TemplateFault>;
 
+// A template with more faults than this isn't looked at to its end.
+inline constexpr std::size_t MostFaults = 100;
+
 enum class Align : quint8 { Left, Center, Right };
 
 // How a text of a template looks; what isn't said is taken from what stands around it.
@@ -179,7 +182,8 @@ struct ReportTemplate {
     // The same for the text of a template; `file` names it in the faults.
     static ReportTemplate ReadText(const QString& text, const QString& file, TemplateFaults& faults);
 
-    // Reads a template file and checks it: the faults of both come together, in the order of their lines.
+    // Reads a template file and checks it: the faults of both come together, in the order of their lines. Of
+    // very many only the first are told, and that there are more.
     static ReportTemplate ReadChecked(const QString& file, Connection& connection, TemplateFaults& faults);
 };
 

@@ -1,5 +1,7 @@
 #include "TemplateReader.h"
 
+#include "FontMap.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QStringDecoder>
@@ -11,6 +13,7 @@ namespace {
 constexpr double LargestLength = 1000;
 constexpr double LargestFont = 72;
 constexpr double SmallestFont = 4;
+constexpr qint64 LargestFile = 1024 * 1024;
 
 Paper ReadSheet(ElementAttributes& attributes)
 {
@@ -34,17 +37,27 @@ Paper ReadSheet(ElementAttributes& attributes)
     return *paper;
 }
 
+// What can't be used leaves the font as it was, so that the rest can be measured.
 void ReadFont(ElementAttributes& attributes, ReportTemplate& report)
 {
     const QString font = attributes.Text(u"font");
-    if (font.isEmpty())
-        return;
     const qsizetype blank = font.lastIndexOf(u' ');
     bool isSize = false;
-    report.fontSize = font.mid(blank + 1).toDouble(&isSize);
-    report.fontFamily = font.left(blank).trimmed();
-    if (blank <= 0 || !isSize || !(report.fontSize >= SmallestFont && report.fontSize <= LargestFont))
+    const double size = font.mid(blank + 1).toDouble(&isSize);
+    const bool isFont = blank > 0 && isSize && size >= SmallestFont && size <= LargestFont;
+    if (isFont)
+        report.fontSize = size;
+    else if (!font.isEmpty())
         attributes.Fault(QStringLiteral("\"%1\" is no font such as \"Noto Sans Devanagari 10\"").arg(font));
+    const QString wanted =
+        isFont ? font.left(blank) : QStringLiteral("Noto Sans Devanagari, Lohit Devanagari");
+    for (const QString& family : wanted.split(u',')) {
+        if (FontMap::Current()->Has(family.trimmed())) {
+            report.fontFamily = family.trimmed();
+            return;
+        }
+    }
+    attributes.Fault(QStringLiteral("the font \"%1\" isn't installed").arg(wanted.trimmed()));
 }
 
 // The first line that isn't UTF-8, or 0. A sign never goes on into the next line, so each stands by itself.
@@ -185,8 +198,17 @@ TemplateReader::TemplateReader(const QString& text, QString file, TemplateFaults
 // What is read after the XML has broken off is not what stands there.
 void TemplateReader::Fault(int line, const QString& text)
 {
-    if (!m_xml.hasError())
-        m_faults.push_back({m_file, line, text});
+    if (m_xml.hasError())
+        return;
+    m_faults.push_back({m_file, line, text});
+    if (m_faults.size() > MostFaults)
+        Stop();
+}
+
+void TemplateReader::Stop()
+{
+    m_hasStopped = true;
+    m_xml.raiseError();
 }
 
 TemplateText TemplateReader::ReadMixed(const QString& text, int line)
@@ -308,7 +330,7 @@ ReportTemplate TemplateReader::Read()
 {
     ReportTemplate report;
     report.file = m_file;
-    if (m_xml.readNextStartElement()) {
+    if (GoToReport()) {
         report.isRead = m_xml.name() == u"report";
         if (report.isRead)
             ReadReport(report);
@@ -319,10 +341,26 @@ ReportTemplate TemplateReader::Read()
         m_xml.readNext();
     if (m_xml.hasError()) {
         report.isRead = false;
-        m_faults.push_back(
-            {m_file, static_cast<int>(m_xml.lineNumber()), QStringLiteral("no XML: ") + m_xml.errorString()});
+        if (!m_hasStopped)
+            m_faults.push_back({m_file, static_cast<int>(m_xml.lineNumber()),
+                QStringLiteral("no XML: ") + m_xml.errorString()});
     }
     return report;
+}
+
+// Goes on to the outermost element. What is declared before it could stand for any amount of text.
+bool TemplateReader::GoToReport()
+{
+    while (!m_xml.atEnd()) {
+        const QXmlStreamReader::TokenType token = m_xml.readNext();
+        if (token == QXmlStreamReader::StartElement)
+            return true;
+        if (token == QXmlStreamReader::DTD) {
+            Fault(static_cast<int>(m_xml.lineNumber()), QStringLiteral("a template has no <!DOCTYPE>"));
+            Stop();
+        }
+    }
+    return false;
 }
 
 QString TemplateFault::Line() const
@@ -338,9 +376,13 @@ ReportTemplate ReportTemplate::ReadText(const QString& text, const QString& file
 ReportTemplate ReportTemplate::Read(const QString& file, TemplateFaults& faults)
 {
     QFile source(file);
-    const QByteArray bytes = source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
+    const QByteArray bytes = source.open(QIODevice::ReadOnly) ? source.read(LargestFile + 1) : QByteArray();
     if (source.error() != QFile::NoError) {
         faults.push_back({file, 0, QStringLiteral("the file can't be read: ") + source.errorString()});
+        return {};
+    }
+    if (bytes.size() > LargestFile) {
+        faults.push_back({file, 0, QStringLiteral("the file is larger than 1 MB")});
         return {};
     }
     if (const int line = LineThatIsNoUtf8(bytes)) {
@@ -364,6 +406,10 @@ ReportTemplate ReportTemplate::ReadChecked(
     own.insert(own.end(), more.begin(), more.end());
     std::stable_sort(own.begin(), own.end(),
         [](const TemplateFault& a, const TemplateFault& b) { return a.line < b.line; });
+    if (own.size() > MostFaults) {
+        own.resize(MostFaults + 1);
+        own.back().text = QStringLiteral("there are more faults than %1").arg(MostFaults);
+    }
     faults.insert(faults.end(), own.begin(), own.end());
     return report;
 }

@@ -67,6 +67,8 @@ private:
     enum class Place { Flow, Lane, PageEdge, InnerLane };
 
     void Fault(int line, const QString& text);
+    void Stop();
+    bool GoToReport();
     void RefuseElement();
     void RefuseText();
 
@@ -100,6 +102,7 @@ private:
 
     QXmlStreamReader m_xml;
     int m_depth = 0; // of the elements that hold others
+    bool m_hasStopped = false; // what is wrong with it as a whole has been told
     QString m_file;
     TemplateFaults& m_faults;
 };

@@ -107,7 +107,11 @@ TEST(ExpressionReading, WhatCantBeReadIsToldAndNotGuessed)
         {u"1 2", u"\"2\" isn't expected here"}, {u"'open", u"a text in quotes isn't closed"},
         {u"hello(1)", u"there is no function \"hello\""}, {u"#paper", u"there is no #paper"},
         {u"$town", u"there is no $town"}, {u"1 & 2", u"\"&\" has no meaning in an expression"},
-        {u"if(1=1, 2)", u"\",\" is missing"},
+        {u"if(1=1, 2)", u"\",\" is missing"}, {u"x == 1", u"\"==\" isn't known; it is written \"=\""},
+        {u"x != 1", u"\"!=\" isn't known; it is written \"<>\""},
+        {u"x = 1 && y = 2", u"\"&&\" isn't known; it is written \"and\""},
+        {u"x = 1 || y = 2", u"\"||\" isn't known; it is written \"or\""},
+        {u"1 + * 2", u"a value is missing before \"*\""}, {u"(1 + )", u"a value is missing before \")\""},
         {u"sum(x by y)", u"\"by\" stands in average(x by weight) and in running(x by field)"},
         {u"plain(1)", u"plain() takes a field"}, {u"c.", u"a column's name is missing behind \"c.\""}};
     for (const auto& [text, expected] : faults) {

@@ -46,6 +46,83 @@ TEST_F(TemplateCheckTest, AFontNeedsASizeThatCanBeRead)
     }
 }
 
+TEST_F(TemplateCheckTest, AFontThatIsntInstalledIsAFault)
+{
+    const auto sheet = [](const char* font) {
+        return QStringLiteral("<!-- a slip -->\n<report name=\"Test\" paper=\"A4\" font=\"%1\">"
+                              "<text>{$society}</text></report>")
+            .arg(QLatin1String(font));
+    };
+    EXPECT_EQ(Faults(sheet("Nobodys Letters 10")),
+        QStringList(QStringLiteral("2: the font \"Nobodys Letters\" isn't installed")));
+    EXPECT_EQ(Faults(sheet("Nobodys Letters, Nobodys Others 10")),
+        QStringList(QStringLiteral("2: the font \"Nobodys Letters, Nobodys Others\" isn't installed")));
+    const QString second = sheet("Nobodys Letters, Noto Sans Devanagari 12");
+    EXPECT_EQ(Faults(second), QStringList());
+    const std::unique_ptr<Report> report = Make(second);
+    report->Complete();
+    EXPECT_EQ(report->Fonts().At(report->PageAt(0).items.front().font),
+        (FontSpec{QStringLiteral("Noto Sans Devanagari"), 12, false}));
+}
+
+TEST_F(TemplateCheckTest, ABadSizeOfLettersIsOneLineAndNothingElse)
+{
+    for (const char* size : {"nan", "-5", "1e300", "99999"}) {
+        const QString file = Write(QStringLiteral("Test.rpt"),
+            Template(QStringLiteral("<text>{MemberName}</text><table source=\"c\">"
+                                    "<col head=\"a\">{Liters}</col></table>"),
+                QStringLiteral("paper=\"A4\" font=\"Noto Sans Devanagari %1\"").arg(QLatin1String(size))));
+        QProcess tool;
+        tool.setProcessChannelMode(QProcess::MergedChannels);
+        tool.start(QStringLiteral(TEMPLATE_CHECKER), {file});
+        ASSERT_TRUE(tool.waitForFinished());
+        EXPECT_EQ(QString::fromUtf8(tool.readAllStandardOutput()),
+            QStringLiteral("%1:1: \"Noto Sans Devanagari %2\" is no font such as "
+                           "\"Noto Sans Devanagari 10\"\n")
+                .arg(file, QLatin1String(size)));
+    }
+}
+
+TEST_F(TemplateCheckTest, NothingIsDeclaredBeforeATemplate)
+{
+    const QString many = QStringLiteral("&a;").repeated(30000);
+    EXPECT_EQ(Faults(QStringLiteral("<!DOCTYPE report [<!ENTITY a \"%1\">]>\n"
+                                    "<report name=\"Test\" paper=\"A4\"><text>%2</text></report>")
+                         .arg(QString(4000, u'x'), many)),
+        QStringList(QStringLiteral("1: a template has no <!DOCTYPE>")));
+    EXPECT_EQ(Faults(QStringLiteral("<?xml version=\"1.0\"?>\n<!DOCTYPE report>\n") + Template({})),
+        QStringList(QStringLiteral("2: a template has no <!DOCTYPE>")));
+}
+
+TEST_F(TemplateCheckTest, ATemplateIsNoLargerThanAMegabyte)
+{
+    const QString text = Template(QStringLiteral("<text>a</text>"));
+    const QString comment = QStringLiteral("<!--%1-->");
+    const qsizetype room = 1024 * 1024 - text.size() - comment.arg(QString()).size();
+    EXPECT_EQ(Faults(text + comment.arg(QString(room, u'x'))), QStringList());
+    EXPECT_EQ(Faults(text + comment.arg(QString(room + 1, u'x'))),
+        QStringList(QStringLiteral("0: the file is larger than 1 MB")));
+}
+
+TEST_F(TemplateCheckTest, OfManyFaultsTheFirstHundredAreTold)
+{
+    const auto expect = [this](const QString& elements, int first, int count, const char* fault) {
+        const QStringList faults = Faults(Template(elements));
+        ASSERT_EQ(faults.size(), count) << fault;
+        for (int i = 0; i < count; ++i)
+            EXPECT_EQ(faults[i].section(u':', 0, 0), QString::number(first + i)) << fault;
+        EXPECT_TRUE(faults[count > 100 ? 99 : count - 1].contains(QLatin1String(fault)));
+        EXPECT_EQ(faults.last().endsWith(QStringLiteral("there are more faults than 100")), count > 100);
+    };
+    const QString unknown = QStringLiteral("<blink/>\n");
+    expect(unknown.repeated(100), 3, 100, "<blink> isn't known here");
+    expect(unknown.repeated(101), 3, 101, "<blink> isn't known here");
+    expect(unknown.repeated(50000), 3, 101, "<blink> isn't known here");
+    expect(QStringLiteral("<text>{Nmae}</text>\n").repeated(20000), 3, 101, "there is no column \"Nmae\"");
+    expect(unknown.repeated(60) + QStringLiteral("<text>{Nmae}</text>\n").repeated(60), 3, 101,
+        "there is no column \"Nmae\"");
+}
+
 TEST_F(TemplateCheckTest, ATemplateThatIsNoXmlIsToldWithItsLine)
 {
     const QStringList faults =
@@ -192,6 +269,13 @@ TEST_F(TemplateCheckTest, KindsOfValuesMustSuit)
         QStringLiteral("the format \"dd/MM/yyyy\" needs a date"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{CollectionDate + 1}</text>")),
         QStringLiteral("dates and conditions can't be reckoned with"));
+    const QString noText =
+        QStringLiteral("texts can't be reckoned with; words stand before or behind the braces");
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{'रु. ' + Amount}</text>")), noText);
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{MemberName * 2}</text>")), noText);
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{-plain(MemberName)} {abs(Amount)}</text>")), noText);
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{sum(MemberName)} {count(MemberName)}</text>")),
+        QStringLiteral("a total needs numbers"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<text if=\"Liters = 'दोन'\">a</text>")),
         QStringLiteral("things of different kinds are compared"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<text if=\"Liters\">a</text>")),
