@@ -94,7 +94,9 @@ void frmReportMilkCollections::cmdReport_Click()
         return;
     Transaction staging(gCn);
     gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
+    gCn.Execute(QStringLiteral("delete * from ReportDates"));
     gCn.Execute(Selection());
+    ReportRun::StageDates(MaskUserDate.Text(), MaskUserDate.Text());
     ReportRun::Tidy(u"MilkCollectionsTemp");
     staging.Commit();
     ReportRun::Show(u"MilkCollectionsReport.rpt");

@@ -176,6 +176,17 @@ TEST_F(MilkCollectionsListTest, TheReportGroupsByShiftMorningFirstAndWeighsTheFa
     EXPECT_EQ(texts.mid(day + 1, 3).join(u' '), QStringLiteral("10.000 6.5 360.00"));
 }
 
+TEST_F(MilkCollectionsListTest, AnEmptyListSaysForWhichDateItIsEmpty)
+{
+    EXPECT_EQ(Staged("15042026{ENTER}{ENTER}%i"), "1 2 3 4");
+    EXPECT_TRUE(ReportTexts().contains(QStringLiteral("दिनांक 15/04/2026")));
+    EXPECT_EQ(Staged("16042026{ENTER}{ENTER}%i"), "");
+    const QStringList texts = ReportTexts();
+    EXPECT_TRUE(texts.contains(QStringLiteral("दिनांक 16/04/2026")));
+    EXPECT_TRUE(texts.contains(QStringLiteral("दिनांक 16/04/2026 रोजी दुधाची नोंद नाही.")));
+    EXPECT_EQ(Rows(QStringLiteral("select * from ReportDates")).size(), 1);
+}
+
 TEST_F(MilkCollectionsListTest, TwoRunsGiveTheSame)
 {
     const std::string staged = Staged("15042026{ENTER}{ENTER}%i");

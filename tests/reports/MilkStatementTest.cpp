@@ -169,7 +169,7 @@ TEST_F(MilkStatementTest, NoMilkAtAllIsAReportThatSaysSo)
     Report(OfTheMember);
     EXPECT_FALSE(Failure);
     EXPECT_EQ(Staged(), QStringList());
-    EXPECT_TRUE(ReportTexts().contains(QStringLiteral("या काळात दुधाची नोंद नाही.")));
+    EXPECT_TRUE(ReportTexts().contains(QStringLiteral("13/04/2026 ते 15/04/2026 या काळात दुधाची नोंद नाही.")));
 }
 
 TEST_F(MilkStatementTest, AMissingTemplateEndsTheProgramWithTheStagingDone)

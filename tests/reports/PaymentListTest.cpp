@@ -126,7 +126,22 @@ TEST(PaymentListFormula, DayAndMonthGoIntoTheFormulaWithoutTheirNoughts)
 TEST_F(PaymentListTest, TheFormulaSelectsThePaymentsOfItsDay)
 {
     EXPECT_TRUE(Listed("04052026{ENTER}%i").contains(QStringLiteral("999.00")));
-    EXPECT_TRUE(Listed("10102026{ENTER}%i").contains(QStringLiteral("या दिवशी रोख पेमेंट नाही.")));
+}
+
+TEST_F(PaymentListTest, AnEmptyListSaysForWhichDateItIsEmpty)
+{
+    for (const auto& [keys, word] :
+        {std::pair("10102026{ENTER}%i", u"रोख"), std::pair("10102026{ENTER}{DOWN}%i", u"बँकेचे")}) {
+        const QStringList texts = Listed(keys);
+        EXPECT_TRUE(texts.contains(
+            QStringLiteral("दिनांक 10/10/2026 रोजी %1 पेमेंट नाही.").arg(QString::fromUtf16(word))));
+        EXPECT_TRUE(texts.contains(QStringLiteral("पेमेंट दिनांक 10/10/2026")));
+    }
+    const QStringList onlyBank = [this] {
+        Run(QStringLiteral("delete * from MilkPayments where MemberNo<>3"));
+        return Listed("05042026{ENTER}%i");
+    }();
+    EXPECT_TRUE(onlyBank.contains(QStringLiteral("दिनांक 05/04/2026 रोजी रोख पेमेंट नाही.")));
 }
 
 TEST_F(PaymentListTest, ThePeriodOfTheHeadSpansThoseOfAllItsRowsAndOfNoOthers)

@@ -80,7 +80,7 @@ std::optional<ValueType> VariableType(QStringView name)
 {
     if (name == u"society" || name == u"year")
         return ValueType::Text;
-    if (name == u"from" || name == u"to")
+    if (name == u"from" || name == u"to" || name == u"date")
         return ValueType::Date;
     return std::nullopt;
 }

@@ -64,7 +64,7 @@ struct ExpressionFault {
 inline constexpr int LongestExpression = 2000;
 
 // Reads an expression. Returns nothing, and sets the fault, if it can't be read or is too long.
-//   field, source.field, 'text', 12.5, #page, #pages, $society $year $from $to
+//   field, source.field, 'text', 12.5, #page, #pages, $society $year $from $to $date
 //   + - * /   = <> < > <= >=   and or not   ( )
 //   if(condition, then, else)  abs(x)  plain(field)
 //   sum(x) count() average(x) average(x by weight) min(x) max(x) running(x) running(x by groupfield)

@@ -182,7 +182,7 @@ Value ReportData::Variable(const QString& name)
             m_variables[QStringLiteral("from")] = Value::OfDate(dates[u"FromDate"].Date());
             m_variables[QStringLiteral("to")] = Value::OfDate(dates[u"ToDate"].Date());
         }
-        m_variables[QString()] = {};
+        m_variables[QStringLiteral("date")] = Value::OfDate(m_selection.date);
     }
     return m_variables.value(name);
 }

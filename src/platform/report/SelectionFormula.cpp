@@ -17,6 +17,7 @@ enum class Kind { Number, Text, Date };
 struct Operand {
     Kind kind = Kind::Number;
     QString sql;
+    QDate date = {}; // of a literal
 };
 
 class Reader {
@@ -35,6 +36,8 @@ public:
         if (!m_rest.trimmed().isEmpty())
             Fail(QStringLiteral("\"%1\" isn't expected").arg(m_rest.trimmed()));
         selection.table = m_table;
+        if (m_dates.size() == 1 && m_isOneChain)
+            selection.date = m_dates.first();
         return selection;
     }
 
@@ -74,6 +77,8 @@ private:
     const QString m_formula;
     QString m_rest;
     QString m_table;
+    QList<QDate> m_dates; // that columns have to have, each once
+    bool m_isOneChain = true; // all comparisons have to hold: there is neither "or" nor "not"
     int m_depth = 0;
     Catalogue m_catalogue;
 };
@@ -83,8 +88,10 @@ QString Reader::ReadOr()
     if (++m_depth > DeepestNesting)
         Fail(QStringLiteral("its brackets are nested too deeply"));
     QString whole = ReadAnd();
-    while (TakeWord(QStringLiteral("or")))
+    while (TakeWord(QStringLiteral("or"))) {
+        m_isOneChain = false;
         whole = whole + QStringLiteral(" or ") + ReadAnd();
+    }
     --m_depth;
     return QStringLiteral("(") + whole + QStringLiteral(")");
 }
@@ -101,8 +108,10 @@ QString Reader::ReadTerm()
 {
     static const QRegularExpression open(QStringLiteral("\\s*\\("));
     static const QRegularExpression close(QStringLiteral("\\s*\\)"));
-    if (TakeWord(QStringLiteral("not")))
+    if (TakeWord(QStringLiteral("not"))) {
+        m_isOneChain = false;
         return QStringLiteral("not ") + ReadTerm();
+    }
     if (!Take(open).hasMatch())
         return ReadComparison();
     const QString inside = ReadOr();
@@ -121,6 +130,8 @@ QString Reader::ReadComparison()
     const Operand literal = ReadLiteral();
     if (literal.kind != field.kind)
         Fail(QStringLiteral("%1 is compared with a value of another kind").arg(field.sql));
+    if (literal.kind == Kind::Date && sign.captured(1) == u"=" && !m_dates.contains(literal.date))
+        m_dates.append(literal.date);
     return field.sql + sign.captured(1) + literal.sql;
 }
 
@@ -173,7 +184,7 @@ Operand Reader::ReadDate()
         if (match.captured(part).toInt() != 0)
             Fail(QStringLiteral("the books hold dates without a time of day"));
     }
-    return {Kind::Date, SqlDay(date)};
+    return {Kind::Date, SqlDay(date), date};
 }
 
 }

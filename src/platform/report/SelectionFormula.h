@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
 
 class Connection;
@@ -8,6 +9,7 @@ class Connection;
 struct Selection {
     QString table; // empty: nothing is narrowed
     QString condition; // in the words of a statement
+    QDate date = {}; // the one that a column has to have; none if there is no such day, or more than one
 };
 
 // Reads a selection formula such as

@@ -51,6 +51,29 @@ TEST_F(FormulaTest, TheDateOfThePaymentListSelectsItsRows)
         Selected(QStringLiteral("{milkpayments.paymentdate}>=Date(2026,04,02)")), QStringLiteral("2,3"));
 }
 
+TEST_F(FormulaTest, TheReportKnowsTheDateThatItIsAskedForWhetherOrNotThereAreRows)
+{
+    const auto dateOf = [this](const char* formula) {
+        const std::unique_ptr<Report> report =
+            Make(QStringLiteral("<report name=\"T\" paper=\"A4\"><source name=\"p\" table=\"MilkPayments\"/>"
+                                "<text>{$date}|{count()}</text></report>"),
+                ReadSelectionFormula(QString::fromLatin1(formula), *connection));
+        report->Complete();
+        return Texts(report->PageAt(0)).join(u' ');
+    };
+    EXPECT_EQ(dateOf("{MilkPayments.PaymentDate} = DateTime (2026,4,2,00, 00, 00)"),
+        QStringLiteral("02/04/2026|1"));
+    EXPECT_EQ(dateOf("{MilkPayments.PaymentDate} = Date(2026,10,31) and {MilkPayments.MemberNo} > 0"),
+        QStringLiteral("31/10/2026|0"));
+    for (const char* none :
+        {"", "{MilkPayments.MemberNo} > 0", "{MilkPayments.PaymentDate} <= Date(2026,4,3)",
+            "not {MilkPayments.PaymentDate} = Date(2026,5,3)",
+            "{MilkPayments.PaymentDate} = Date(2026,4,1) or {MilkPayments.MemberNo} > 1",
+            "{MilkPayments.PaymentDate} > Date(2026,3,1) and ({MilkPayments.PaymentDate} = Date(2026,4,1) or "
+            "{MilkPayments.PaymentDate} <> Date(2026,4,1))"})
+        EXPECT_EQ(dateOf(none), QStringLiteral("|3")) << none;
+}
+
 TEST_F(FormulaTest, ComparisonsJoinWithAndOrNotAndBrackets)
 {
     EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberNo} = 1 or {MilkPayments.MemberNo} > 1 and "
