@@ -26,10 +26,15 @@ QString ToUnicode(QStringView stored);
 QString ToUnicode(QStringView stored, std::vector<Piece>& pieces);
 
 // The canonical spelling of a Unicode text: ToUnicode of the result reads as `seen` reads; Western digits
-// become the encoding's digits. What the encoding can't spell passes through unchanged: rare Devanagari
+// become the encoding's digits, and what is written in two pieces, such as अ and ॅ, becomes
+// the letter that they make. What the encoding can't spell passes through unchanged: rare Devanagari
 // signs and joiners (they read back as themselves; a joiner after ra makes the eyelash ra), and Latin
 // letters and + # $ & * = _ { } where they have no code (most of those read back as the code they are).
 QString FromUnicode(QStringView seen);
+
+// What a stored text reads, however it is spelled: two names whose readings are equal look the same. Blanks
+// at the ends and joiners don't count, and blanks in a row count once.
+QString Reading(QStringView stored);
 
 // One code of the encoding, for the picture of the keyboard.
 struct Glyph {

@@ -50,6 +50,9 @@ inline constexpr Composite Composites[] = {
     {u'\u0947', SignAa, u'\u094B'},
     {u'\u0948', SignAa, u'\u094C'},
     {u'\u0945', SignAa, u'\u0949'},
+    {u'\u0905', u'\u094B', u'\u0913'},
+    {u'\u0905', u'\u094C', u'\u0914'},
+    {u'\u0905', u'\u0949', u'\u0911'},
 };
 
 // What two signs show as together, or 0 if they stay two.
@@ -61,6 +64,10 @@ constexpr char16_t Compose(char16_t first, char16_t second)
     }
     return 0;
 }
+
+// A Unicode text with one form for what the eye takes for one: signs that make one are one, dots below stand
+// apart, except on the eyelash ra.
+QString OneForm(QStringView seen);
 
 // Whether the encoding puts a dot below this letter.
 constexpr bool TakesNukta(char16_t letter)
