@@ -21,6 +21,24 @@ bool IsJoiner(QChar c)
     return c.unicode() == 0x200C || c.unicode() == 0x200D;
 }
 
+bool HoldsDevanagari(const QString& text)
+{
+    return std::any_of(text.cbegin(), text.cend(), IsDevanagari);
+}
+
+bool IsLatinLetter(QChar c)
+{
+    return c.isLetter() && c.unicode() < 0x80;
+}
+
+// A sign of punctuation as it is spelled; a character that the encoding has no sign for stays the key that it
+// is.
+QString SpelledSign(QChar c)
+{
+    const QString spelled = Shivaji01::FromUnicode(QStringView(&c, 1));
+    return c.unicode() < 0x80 && Shivaji01::ToUnicode(spelled) == c ? spelled : QString(c);
+}
+
 }
 
 TextField::TextField(Screen* screen, const char* name) : Field(screen, name) { }
@@ -113,10 +131,27 @@ void TextField::Insert(const QString& text)
             taken += c;
     if (taken.isEmpty())
         return;
-    if (IsJoiner(taken[0]) || std::any_of(taken.cbegin(), taken.cend(), IsDevanagari))
+    if (IsJoiner(taken[0]) || HoldsDevanagari(taken)) {
+        m_inUnicode = true;
         InsertSeen(taken);
-    else
-        Replace(Selection(), taken);
+    } else {
+        InsertKeys(taken);
+    }
+}
+
+// The keys of the old layout. While Devanagari comes in, a hyphen is a hyphen and no sign of that layout,
+// until a Latin letter is typed.
+void TextField::InsertKeys(const QString& keys)
+{
+    if (std::any_of(keys.cbegin(), keys.cend(), IsLatinLetter))
+        m_inUnicode = false;
+    QString stored = keys;
+    if (m_inUnicode) {
+        stored.clear();
+        for (QChar c : keys)
+            stored += SpelledSign(c);
+    }
+    Replace(Selection(), stored);
 }
 
 // A sign belongs to the syllable before it, and so does what follows a half letter: that syllable is
@@ -141,6 +176,7 @@ void TextField::InsertSeen(const QString& devanagari)
 // The line edit shows it at its caret, and would take a selection away behind the field's back.
 void TextField::ShowComposition(const QString& text)
 {
+    m_inUnicode = m_inUnicode || HoldsDevanagari(text);
     if (!text.isEmpty())
         EraseSelection();
     QInputMethodEvent shown(text, {});
@@ -174,6 +210,12 @@ bool TextField::EraseSelection()
         return false;
     Replace(Selection(), {});
     return true;
+}
+
+void TextField::ShowFocus(bool held)
+{
+    m_inUnicode = false;
+    Field::ShowFocus(held);
 }
 
 // Keys are taken back until less is seen: a half form without its stem is more to read than the letter.

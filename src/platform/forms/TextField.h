@@ -5,7 +5,7 @@
 
 // A text in the system's encoding. The stored text is the truth; the eye sees Devanagari while the clerk
 // types the Latin keys of the old layout, and Devanagari from an input method is taken as well. Caret,
-// Backspace and selection work on what is seen.
+// Backspace and selection work on what is seen. While Devanagari comes in, punctuation is punctuation.
 class TextField : public Field {
 public:
     TextField(Screen* screen, const char* name);
@@ -28,6 +28,7 @@ protected:
     void Insert(const QString& text) override;
     void ShowComposition(const QString& text) override;
     void MouseDone() override;
+    void ShowFocus(bool held) override;
 
     // The text has changed, by the clerk or by the screen.
     virtual void Changed() { }
@@ -41,6 +42,7 @@ private:
     void Hold(const QString& stored);
     void Replace(Range range, const QString& stored);
     void InsertSeen(const QString& devanagari);
+    void InsertKeys(const QString& keys);
     bool TypeAltNumber(const QKeyEvent& key);
     void Backspace();
     void Delete();
@@ -58,4 +60,5 @@ private:
     qsizetype m_anchor = 0; // the other end of the selection
     int m_maxLength = 0;
     QString m_altDigits; // typed with Alt so far
+    bool m_inUnicode = false; // what was written last came as Devanagari, not as keys of the old layout
 };

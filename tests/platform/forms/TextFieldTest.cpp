@@ -217,6 +217,86 @@ TEST_F(TextFieldTest, DevanagariFromAKeyIsTheSameAsFromAnInputMethod)
     });
 }
 
+TEST_F(TextFieldTest, ALetterInTwoPiecesIsOneLetter)
+{
+    WithText([&](TextField& field) {
+        EXPECT_EQ(Composed(field, "अ\xE0\xA5\x85ड."), "A^D.");
+        EXPECT_EQ(Composed(field, "ॲड."), "A^D.");
+        Do([&] { field.Clear(); });
+        for (const char* part : {"अ", "\xE0\xA5\x85", "ड"})
+            Compose(part);
+        EXPECT_EQ(Text(field), "A^D");
+        EXPECT_EQ(Seen(field), "ॲड");
+    });
+}
+
+TEST_F(TextFieldTest, WhileDevanagariComesInPunctuationIsPunctuation)
+{
+    WithText([&](TextField& field) {
+        EXPECT_EQ(Composed(field, "गोडबोले"), "gaaoDbaaolao");
+        Type("{-}");
+        Compose("पाटील");
+        EXPECT_EQ(Seen(field), "गोडबोले-पाटील");
+        EXPECT_EQ(Text(field), Shivaji01::FromUnicode(u"गोडबोले-पाटील").toStdString());
+        for (const char* sign :
+            {"-", "(", ")", "/", ",", "%", ":", "?", "!", ".", ";", "[", "]", "=", "\""}) {
+            Composed(field, "क");
+            Type((std::string("{") + sign + "}").c_str());
+            EXPECT_EQ(Seen(field), std::string("क") + sign);
+            Compose("म");
+            EXPECT_EQ(Seen(field), std::string("क") + sign + "म");
+        }
+    });
+}
+
+TEST_F(TextFieldTest, DevanagariFromKeysBringsItsPunctuationToo)
+{
+    WithText([&](TextField& field) {
+        EXPECT_EQ(Typed(field, "राम {(}गाय{)}"), Shivaji01::FromUnicode(u"राम (गाय)").toStdString());
+    });
+}
+
+TEST_F(TextFieldTest, WhatIsBeingComposedIsDevanagariComingIn)
+{
+    WithText([&](TextField& field) {
+        Do([&] { field.Clear(); });
+        Compose("", "क");
+        Compose("");
+        Type("{(}");
+        EXPECT_EQ(Seen(field), "(");
+    });
+}
+
+TEST_F(TextFieldTest, ALatinLetterBringsTheKeysOfTheOldLayoutBack)
+{
+    WithText([&](TextField& field) {
+        EXPECT_EQ(Composed(field, "राम"), "rama");
+        Type("{-}ka{-}{%}yaa");
+        EXPECT_EQ(Text(field), "rama\xC2\xB9ka-%yaa");
+        EXPECT_EQ(Typed(field, "ka-"), "ka-");
+    });
+}
+
+TEST_F(TextFieldTest, AFieldEnteredAnewBeginsWithTheKeysOfTheOldLayout)
+{
+    WithText([&](TextField& field) {
+        EXPECT_EQ(Composed(field, "राम"), "rama");
+        EnterAnew();
+        Type("{(}aa");
+        EXPECT_EQ(Text(field), "(aa");
+        EXPECT_EQ(Seen(field), "ह्याा");
+    });
+}
+
+TEST_F(TextFieldTest, InDevanagariASignWithoutACodeStaysAKey)
+{
+    WithText([&](TextField& field) {
+        EXPECT_EQ(Composed(field, "राम"), "rama");
+        Type("{&}1 ");
+        EXPECT_EQ(Text(field), "rama&1 ");
+    });
+}
+
 TEST_F(TextFieldTest, ASignAloneJoinsTheSyllableBeforeIt)
 {
     WithText([&](TextField& field) {
