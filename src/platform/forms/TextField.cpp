@@ -218,7 +218,8 @@ void TextField::ShowFocus(bool held)
     Field::ShowFocus(held);
 }
 
-// Keys are taken back until less is seen: a half form without its stem is more to read than the letter.
+// Keys are taken back until less is seen: a half form without its stem is more to read than the letter. What
+// is left of a piece must not join the syllable behind the caret: then the whole piece goes.
 void TextField::Backspace()
 {
     if (EraseSelection() || m_caret == 0)
@@ -228,7 +229,19 @@ void TextField::Backspace()
     qsizetype left = m_caret - 1;
     while (left > 0 && Shivaji01::ToUnicode(before.left(left)).size() >= seen)
         --left;
+    if (JoinsWhatIsBehind(before.left(left)))
+        left = Before(m_caret);
     Replace({left, m_caret}, {});
+}
+
+// Whether the syllable behind the caret would be another one with this text before it.
+bool TextField::JoinsWhatIsBehind(QStringView before) const
+{
+    std::vector<Shivaji01::Piece> pieces;
+    Shivaji01::ToUnicode(QString(before + QStringView(m_stored).sliced(m_caret)), pieces);
+    return m_caret < m_stored.size()
+        && std::none_of(pieces.begin(), pieces.end(),
+            [&](const Shivaji01::Piece& piece) { return piece.storedStart == before.size(); });
 }
 
 void TextField::Delete()

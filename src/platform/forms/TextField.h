@@ -45,6 +45,7 @@ private:
     void InsertKeys(const QString& keys);
     bool TypeAltNumber(const QKeyEvent& key);
     void Backspace();
+    bool JoinsWhatIsBehind(QStringView before) const;
     void Delete();
     bool EraseSelection();
     void MoveCaret(qsizetype to, bool select);

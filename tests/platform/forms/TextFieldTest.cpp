@@ -297,6 +297,38 @@ TEST_F(TextFieldTest, InDevanagariASignWithoutACodeStaysAKey)
     });
 }
 
+TEST_F(TextFieldTest, BackspaceInTheMiddleNeverReshapesWhatStandsBehind)
+{
+    WithText([&](TextField& field) {
+        EXPECT_EQ(After(field, "ixatIja", "{Home}{Right}{BS}"), "tIja") << "क्षि|तीज";
+        EXPECT_EQ(Line(field).cursorPosition(), 0);
+        EXPECT_EQ(After(field, "ikma", "{Left}{BS}"), "ma");
+        EXPECT_EQ(After(field, "rag`ama", "{Left}{BS}"), "rama") << "no half form is left before a letter";
+        EXPECT_EQ(After(field, "saaoka", "{Left}{BS}"), "saka") << "a sign goes alone as ever";
+    });
+}
+
+TEST_F(TextFieldTest, BackspaceAnywhereInAnyNameLeavesTheRestAsItIs)
+{
+    WithText([&](TextField& field) {
+        for (const char* stored : {"ixatIja", "&aanaoSvar", "saMQyaakaL", "maa^Q`aI", "ip`MT", "sad\\gau$",
+                 "raYT/Iya naO?-%ya", "\xC3\xA1yaa (Ea) ikma-Na"}) {
+            const QString whole = Shivaji01::ToUnicode(Q(stored));
+            for (int step = 1, caret = 0; caret < whole.size(); ++step) {
+                std::string keys = "{Home}";
+                for (int i = 0; i < step; ++i)
+                    keys += "{Right}";
+                After(field, stored, keys.c_str());
+                caret = Line(field).cursorPosition();
+                Type("{BS}");
+                EXPECT_LT(field.Seen().size(), whole.size()) << stored << ' ' << step;
+                EXPECT_TRUE(field.Seen().endsWith(whole.sliced(caret)))
+                    << stored << ' ' << step << ' ' << Seen(field);
+            }
+        }
+    });
+}
+
 TEST_F(TextFieldTest, ASignAloneJoinsTheSyllableBeforeIt)
 {
     WithText([&](TextField& field) {
