@@ -44,6 +44,11 @@ void Control::SetFocus()
     m_screen->SetFocus(*this);
 }
 
+void Control::SetFocus(const Caption& wanted)
+{
+    m_screen->SetFocus(*this, wanted);
+}
+
 void Control::SetAccessibleName(const Caption& name)
 {
     m_widget->setAccessibleName(name.Seen().trimmed());

@@ -50,6 +50,9 @@ public:
     // Moves the screen's focus here; does nothing if it can't take it.
     void SetFocus();
 
+    // The same, with what is wanted here: the guide label says it until the control is left.
+    void SetFocus(const Caption& wanted);
+
     // The line that the screen's guide label shows while this control holds the focus.
     const Caption& Guide() const { return m_guide; }
     void SetGuide(const Caption& guide);

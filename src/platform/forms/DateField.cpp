@@ -47,11 +47,11 @@ bool DateField::HoldsDate() const
     return IsDate(Text());
 }
 
-bool DateField::InsistOnDate()
+bool DateField::InsistOnDate(const Caption& wanted)
 {
     const bool holds = HoldsDate();
     if (!holds)
-        SetFocus();
+        SetFocus(wanted);
     return holds;
 }
 

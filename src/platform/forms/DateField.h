@@ -22,8 +22,9 @@ public:
     bool HoldsDate() const;
     bool IsEmptyMask() const;
 
-    // Whether the mask holds a date; unless it does, the focus goes back to it.
-    bool InsistOnDate();
+    // Whether the mask holds a date; unless it does, the focus goes back to it, and the guide label says what
+    // is wanted.
+    bool InsistOnDate(const Caption& wanted = {});
 
     // The date in the mask; a mask that holds none is a type mismatch error.
     QDate Date() const;

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -207,6 +208,18 @@ void Screen::SetFocus(Control& control)
         MoveTo(&control);
 }
 
+void Screen::SetFocus(Control& control, const Caption& wanted)
+{
+    if (!control.CanTakeFocus())
+        return;
+    if (&control == m_holder && !m_leaving) {
+        ShowGuide(wanted.IsEmpty() ? control.Guide() : wanted);
+        return;
+    }
+    m_wanted = {&control, wanted};
+    SetFocus(control);
+}
+
 void Screen::MoveNext()
 {
     MoveBy(1);
@@ -280,7 +293,8 @@ void Screen::Take(Control& control)
 {
     m_holder = &control;
     control.ShowFocus(true);
-    ShowGuide(control.Guide());
+    const auto [wanting, wanted] = std::exchange(m_wanted, {});
+    ShowGuide(wanting == &control && !wanted.IsEmpty() ? wanted : control.Guide());
     GiveWidgetFocus();
     if (control.GotFocus)
         control.GotFocus();

@@ -38,6 +38,9 @@ public:
     // Moves the focus by the rules above; a control that is disabled or hidden is left alone.
     void SetFocus(Control& control);
 
+    // The same, with what the control wants: until it is left, the guide label says it in place of its guide.
+    void SetFocus(Control& control, const Caption& wanted);
+
     // The controls in tab order.
     const std::vector<Control*>& Controls() const { return m_controls; }
 
@@ -146,6 +149,7 @@ private:
     std::vector<Control*> m_controls;
     Control* m_holder = nullptr;
     Control* m_asked = nullptr; // where LostFocus wants the focus instead
+    std::pair<Control*, Caption> m_wanted; // what it is to say there
     int m_step = 0; // of the move that is running: 1 on, -1 back, 0 straight to a control
     Control* m_straightTo = nullptr; // that control
     bool m_leaving = false; // a LostFocus is running

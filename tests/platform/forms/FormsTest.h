@@ -74,6 +74,7 @@ public:
     using Screen::After;
     using Screen::GoingTo;
     using Screen::SetColours;
+    using Screen::SetGuideLabel;
 
 protected:
     void Load() override { Tell("load"); }
