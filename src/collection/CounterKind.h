@@ -12,8 +12,9 @@ struct LitersFormats {
     QStringView combinedDevice; // what "MCS" has weighed
 };
 
-inline constexpr LitersFormats ThreeDecimals{u"########0.000", u"####0.000", u"#######0.000", u"#00.000"};
-inline constexpr LitersFormats TwoDecimals{u"########0.00", u"####0.00", u"#######0.00", u"#00.00"};
+inline constexpr LitersFormats LitersInThousandths{
+    u"########0.000", u"####0.000", u"#######0.000", u"#00.000"};
+inline constexpr LitersFormats LitersInHundredths{u"########0.00", u"####0.00", u"#######0.00", u"#00.00"};
 
 // All that one counter of the society has otherwise than another; what only one of them has is in its own
 // class.
@@ -28,11 +29,11 @@ struct CounterKind {
 
 // The first counter, with the member's frame.
 inline constexpr CounterKind MainCounter{
-    "frmMilkCollections", u"dUQa saMklana 1", ThreeDecimals, u"#####0.00", Look::DateColour, true};
+    "frmMilkCollections", u"dUQa saMklana 1", LitersInThousandths, u"#####0.00", Look::DateColour, true};
 
 // The counter at the gate, with sorting and search.
 inline constexpr CounterKind GateCounter{
-    "frmCollectionGate", u"dUQa saMklana 2", TwoDecimals, u"#####0.0", Look::BandText, false};
+    "frmCollectionGate", u"dUQa saMklana 2", LitersInHundredths, u"#####0.0", Look::BandText, false};
 
 // The devices of a counter, as their switches are marked.
 inline constexpr QStringView ScaleName = u"वजन काटा";

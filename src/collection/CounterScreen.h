@@ -98,7 +98,7 @@ private:
     MilkReceipt m_receipt;
 
     std::int16_t NextCollectionNo = 1; // the number of the next new row
-    bool IsExistingRow = false; // the fields show a row that the shift already has
+    bool IsExistingRow = false; // the number has found its row: the fat is that row's, and none is offered
     bool FatRefused = false; // the focus was just kept in the fat, which is not offered anew
     bool FocusBounce = false; // a field that was just entered is sending the focus back
 

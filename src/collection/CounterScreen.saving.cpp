@@ -119,7 +119,7 @@ void CounterScreen::SearchMember()
         txtCollectionNo.SetText(row[u"CollectionNo"].Text());
         ShowRow(row);
     }
-    DataGridInwards.Rows(); // the search puts other rows into the copy: the list is to be whole before
+    DataGridInwards.ReadAll(); // the search puts other rows into the copy
     gAppState.gCallerTag = QStringLiteral("MC");
     ScreenDirectory::Open(QStringLiteral("frmSearchCollections"), lblSearch.Shown());
 }

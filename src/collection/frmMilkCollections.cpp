@@ -62,7 +62,7 @@ void frmMilkCollections::Load()
 // Esc in the member's frame is the way back to the shift.
 void frmMilkCollections::Escape()
 {
-    if (!Label28.Visible()) {
+    if (!IsFrameOpen) {
         CounterScreen::Escape();
         return;
     }

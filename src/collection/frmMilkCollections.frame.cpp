@@ -25,7 +25,9 @@ constexpr QStringView BuffAverageFormat = u"########0.0";
 
 }
 
-// A delivery saved now would look for its row in the copy, so the rest of the counter waits for the frame.
+// The rest of the counter waits for the frame. The copy has the member's period then, numbered anew: number 2
+// of the shift would find the member's second delivery there, and saving it would write his milk over the
+// delivery that has number 2 in the books; a number that isn't in the period would be stored a second time.
 void frmMilkCollections::ShowMemberFrame()
 {
     SkipMemberChecks = true;

@@ -48,6 +48,7 @@ private:
     CounterReport CRMilkPayments;
     QStackedLayout* m_views; // the list of the shift, and FrameMilkCollection over it
     QStackedLayout* m_keys; // the strips of keys of both
+    bool IsFrameOpen = false;
     std::vector<Control*> m_heldBack; // what could be entered before the frame was opened
 
     void Load() override;

@@ -32,6 +32,7 @@ std::vector<Control*> frmMilkCollections::FrameControls()
 
 void frmMilkCollections::ShowFrame(bool shown)
 {
+    IsFrameOpen = shown;
     for (Control* control : FrameControls())
         control->SetVisible(shown);
     Label28.SetVisible(shown);

@@ -207,6 +207,11 @@ void DataGrid::Refresh()
         SetCurrentRow(0);
 }
 
+void DataGrid::ReadAll()
+{
+    m_model->ReadRest();
+}
+
 int DataGrid::Rows() const
 {
     m_model->ReadRest();

@@ -32,6 +32,10 @@ public:
     void Bind(Connection& connection, const QString& query);
     void Refresh();
 
+    // Reads the rows that haven't been needed yet, so that the list stays whole when what the query reads is
+    // about to change.
+    void ReadAll();
+
     int Rows() const;
     int CurrentRow() const;
     void SetCurrentRow(int row);
