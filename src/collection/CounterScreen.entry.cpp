@@ -55,11 +55,7 @@ void CounterScreen::txtLiters_LostFocus()
         return;
     const double liters = Value(txtLiters);
     txtLiters.SetText(Format(liters, m_kind.liters.field));
-    if (liters != 0)
-        return;
-    if (IsSwitchingOff(cmdAutoLiter, gAppState.gAutoLiters))
-        ShowAmount(); // that of the litres before would be saved with none
-    else
+    if (liters == 0 && !IsSwitchingOff(cmdAutoLiter, gAppState.gAutoLiters, txtLiters))
         txtLiters.SetFocus();
 }
 
@@ -98,9 +94,19 @@ void CounterScreen::ReadFat()
 }
 
 // Whether a field that is left without a value is left for the switch of the device it has waited for.
-bool CounterScreen::IsSwitchingOff(const Button& device, QStringView setting) const
+// Leaving the switch leads back to it then: the line isn't to be saved without that value.
+bool CounterScreen::IsSwitchingOff(const Button& device, QStringView setting, Field& waiting)
 {
-    return GoingTo() == &device && DeviceSwitch::IsOn(setting);
+    const bool isSwitchingOff = GoingTo() == &device && DeviceSwitch::IsOn(setting);
+    if (isSwitchingOff)
+        m_waiting = &waiting;
+    return isSwitchingOff;
+}
+
+void CounterScreen::DeviceSwitch_LostFocus()
+{
+    if (Field* waiting = std::exchange(m_waiting, nullptr))
+        waiting->SetFocus();
 }
 
 // With a fat tester the field isn't left until there is a fat, or the tester is switched off. What the common
@@ -109,11 +115,8 @@ bool CounterScreen::IsSwitchingOff(const Button& device, QStringView setting) co
 void CounterScreen::txtFat_LostFocus()
 {
     if (DeviceSwitch::IsOn(gAppState.gAutoFat) && Value(txtFat) <= 0) {
-        if (IsSwitchingOff(cmdAutoFat, gAppState.gAutoFat)) {
-            txtRate.SetText(Format(0, MoneyFormat)); // that of the fat before isn't that of this milk
-            ShowAmount();
+        if (IsSwitchingOff(cmdAutoFat, gAppState.gAutoFat, txtFat))
             return;
-        }
         if (const std::optional<QString> read = m_devices.RepeatFat())
             txtFat.SetText(*read);
         FatRefused = true;

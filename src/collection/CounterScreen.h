@@ -101,6 +101,7 @@ private:
     bool IsExistingRow = false; // the number has found its row: the fat is that row's, and none is offered
     bool FatRefused = false; // the focus was just kept in the fat, which is not offered anew
     bool FocusBounce = false; // a field that was just entered is sending the focus back
+    Field* m_waiting = nullptr; // a field that was left without its value for the switch of its device
 
     void maskDate_GotFocus();
     void maskDate_LostFocus();
@@ -126,6 +127,7 @@ private:
     void cmdAutoLiter_Click();
     void cmdAutoFat_Click();
     void cmdPrinterOnOff_Click();
+    void DeviceSwitch_LostFocus();
 
     void RefreshActualTime();
     void ShiftLitersTotal();
@@ -144,7 +146,7 @@ private:
     void TakeAnimalOf(const Recordset& member);
     void OfferLastFat();
     void ReadFat();
-    bool IsSwitchingOff(const Button& device, QStringView setting) const;
+    bool IsSwitchingOff(const Button& device, QStringView setting, Field& waiting);
     bool IsSecondDelivery() const;
     void StoreNew(const Delivery& delivery);
     void DeleteRow();

@@ -78,6 +78,8 @@ void CounterScreen::WireHandlers()
     When(txtRate.LostFocus, &CounterScreen::txtRate_LostFocus);
     When(cmdGo.Click, &CounterScreen::cmdGo_Click);
     When(cmdGo.LostFocus, &CounterScreen::cmdGo_LostFocus);
+    for (Button* device : {&cmdAutoLiter, &cmdAutoFat})
+        When(device->LostFocus, &CounterScreen::DeviceSwitch_LostFocus);
     When(cmdAutoLiter.Click, &CounterScreen::cmdAutoLiter_Click);
     When(cmdAutoFat.Click, &CounterScreen::cmdAutoFat_Click);
     When(cmdPrinterOnOff.Click, &CounterScreen::cmdPrinterOnOff_Click);

@@ -16,6 +16,8 @@ using namespace Counter;
 
 void CounterScreen::cmdGo_Click()
 {
+    if (Value(txtMemberNo) != 0)
+        ShowAmount(); // pressed by the mouse it comes straight from the litres, which make none
     if (Value(txtMemberNo) == 0 || Value(txtAmount) == 0) {
         txtCollectionNo.SetFocus();
         return;
