@@ -7,6 +7,7 @@
 #include "Narrations.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QRegularExpression>
 
 namespace {
@@ -98,6 +99,28 @@ TEST_F(KeySheet, TheMenusStripNamesItsSixFunctionKeys)
         QStringList({QStringLiteral("F2 k^la@yaulaoTr"), QStringLiteral("F4 ]cala naaoMd"),
             QStringLiteral("F7 Aa^Tao saoTIMgja"), QStringLiteral("F8 dUQa saMklana"),
             QStringLiteral("F9 dUQa ivaËI"), QStringLiteral("F12 kIbaaoD- TyaUTr")}));
+}
+
+TEST_F(KeySheet, OfTheMenusKeysTheOneThatDoesNothingIsNotLit)
+{
+    for (const KeyHint& hint : Keys::Of(QStringLiteral("MainMenuFrm")))
+        EXPECT_EQ(hint.lit, hint.key != u"F9") << hint.key.toStdString();
+    TheClerk.Play(
+        [] {
+            MainMenuFrm menu;
+            menu.ShowModal();
+        },
+        [](Clerk& clerk) {
+            clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
+            int dull = 0;
+            for (const QLabel* label : clerk.Top().findChildren<QLabel*>())
+                if (!label->isEnabled()) {
+                    ++dull;
+                    EXPECT_TRUE(
+                        label->text() == u"F9" || label->text() == Seen(QStringLiteral("dUQa ivaËI")));
+                }
+            EXPECT_EQ(dull, 2);
+        });
 }
 
 TEST_F(KeySheet, TheMenuAnswersTheFunctionKeysOfItsStripAndNoOthersAndF9DoesNothing)

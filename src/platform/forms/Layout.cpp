@@ -60,13 +60,19 @@ QWidget* HintWidget(const KeyHint& hint)
     QPalette cap = key->palette();
     cap.setColor(QPalette::Window, QColor(Look::PlainColour));
     cap.setColor(QPalette::WindowText, QColor(Look::Ink));
+    cap.setColor(QPalette::Disabled, QPalette::Window, QColor(Look::DullColour));
+    cap.setColor(QPalette::Disabled, QPalette::WindowText, QColor(Look::Band));
     key->setPalette(cap);
     key->setAutoFillBackground(true);
     row->addWidget(key);
     auto* action = PlainLabel(hint.action.Seen().trimmed());
     action->setFont(Look::Font(Look::Size::Small));
-    SetInk(*action, Look::BandText);
+    QPalette ink = action->palette();
+    ink.setColor(QPalette::WindowText, QColor(Look::BandText));
+    ink.setColor(QPalette::Disabled, QPalette::WindowText, QColor(Look::DullColour));
+    action->setPalette(ink);
     row->addWidget(action);
+    piece->setEnabled(hint.lit);
     return piece;
 }
 

@@ -10,6 +10,7 @@
 struct KeyHint {
     QString key; // "F2", "Esc"
     Caption action;
+    bool lit = true; // whether it does something; a key that doesn't stands there in a dull colour
 };
 
 // The pieces that every screen is put together from, so that they all look like one program.

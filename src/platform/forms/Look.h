@@ -18,6 +18,7 @@ inline constexpr QRgb Band = qRgb(0x24, 0x3B, 0x4A); // the title band and the k
 inline constexpr QRgb BandText = qRgb(0xFF, 0xFF, 0xFF);
 inline constexpr QRgb Ink = qRgb(0x12, 0x1C, 0x22); // text
 inline constexpr QRgb Quiet = qRgb(0xDC, 0xE4, 0xE8); // fields that can't be entered now
+inline constexpr QRgb DullColour = qRgb(0x6B, 0x7F, 0x8C); // a key that does nothing now
 inline constexpr QRgb GuideInk = qRgb(0x8A, 0x1C, 0x1C); // the guide line
 
 // The width and height of an entry screen; it fits a screen of 1024 x 768 with a window frame around it.
