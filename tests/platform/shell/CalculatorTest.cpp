@@ -110,6 +110,20 @@ TEST_F(CalculatorTest, AProgramThatFailsToStartGivesWayToTheNext)
     EXPECT_EQ(Started(), "kcalc");
 }
 
+// Each package of the list gives a program of its own name; none of them but the calculator is started.
+TEST_F(CalculatorTest, ThePackagesBringOneThatIsStarted)
+{
+    QFile packages(QStringLiteral(PACKAGES));
+    ASSERT_TRUE(packages.open(QIODevice::ReadOnly));
+    while (!packages.atEnd()) {
+        const QByteArray line = packages.readLine().trimmed();
+        if (!line.isEmpty() && !line.startsWith('#'))
+            Put(Bin(line.constData()), Saying(line.constData()));
+    }
+    EXPECT_TRUE(Start());
+    EXPECT_EQ(Started(), "galculator");
+}
+
 TEST_F(CalculatorTest, NoCalculatorAtAllIsSaid)
 {
     EXPECT_FALSE(Start());
