@@ -181,6 +181,8 @@ void CounterScreen::txtMemberNo_LostFocus()
         ComboMemberName.SetText(member[u"MemberName"].Text());
         TakeAnimalOf(member);
     }
+    if (IsSteppingBack())
+        return;
     if (txtAnimal.Enabled())
         txtAnimal.SetFocus();
     else
@@ -223,7 +225,8 @@ void CounterScreen::ComboMemberName_LostFocus()
             continue;
         txtMemberNo.SetText(member[u"MemberNo"].Text());
         TakeAnimalOf(member);
-        txtAnimal.SetFocus(); // only if it is the clerk's choice: it is disabled otherwise
+        if (!IsSteppingBack())
+            txtAnimal.SetFocus(); // only if it is the clerk's choice: it is disabled otherwise
         return;
     }
     LoadMemberNames();

@@ -161,5 +161,6 @@ void CounterScreen::ShowAmount()
 
 void CounterScreen::cmdGo_LostFocus()
 {
-    txtCollectionNo.SetFocus();
+    if (!IsSteppingBack())
+        txtCollectionNo.SetFocus();
 }

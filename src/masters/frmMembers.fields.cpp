@@ -60,7 +60,7 @@ void frmMembers::txtMemberNo_LostFocus()
         Refuse(txtMemberNo, u"yaa maombar naMbarcao roka^D- ]plabQa naahI");
     } else {
         LoadRecord(member);
-        if (IsDelete())
+        if (IsDelete() && !IsSteppingBack())
             cmdDelete.SetFocus();
     }
 }
@@ -80,7 +80,8 @@ void frmMembers::ComboMemberName_LostFocus()
         Refuse(ComboMemberName, u"yaa naavaacao roka^D- Agaaodrca Aaho");
     } else if (IsDelete()) {
         LoadRecord(member);
-        cmdDelete.SetFocus();
+        if (!IsSteppingBack())
+            cmdDelete.SetFocus();
     } else if (member[u"MemberNo"].Number() != MemberNo()) {
         LoadRecord(member);
     }
@@ -228,5 +229,6 @@ void frmMembers::txtBuffOpeningThev_LostFocus()
 
 void frmMembers::ToSaveButton()
 {
-    (IsNew() ? cmdNew : cmdModify).SetFocus();
+    if (!IsSteppingBack())
+        (IsNew() ? cmdNew : cmdModify).SetFocus();
 }
