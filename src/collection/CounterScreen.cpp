@@ -9,6 +9,7 @@
 #include "Recordset.h"
 #include "ScreenDirectory.h"
 #include "Sql.h"
+#include "Wanted.h"
 
 #include <QKeyEvent>
 
@@ -67,7 +68,7 @@ void CounterScreen::maskDate_GotFocus()
 
 void CounterScreen::maskDate_LostFocus()
 {
-    maskDate.InsistOnDate();
+    maskDate.InsistOnDate(Wanted::Date());
 }
 
 void CounterScreen::txtTime_GotFocus()
@@ -77,10 +78,10 @@ void CounterScreen::txtTime_GotFocus()
 
 void CounterScreen::txtTime_LostFocus()
 {
-    if (!maskDate.InsistOnDate())
+    if (!maskDate.InsistOnDate(Wanted::Date()))
         return;
     if (!IsShift(txtTime.Text())) {
-        txtTime.SetFocus();
+        txtTime.SetFocus(Wanted::Shift());
         return;
     }
     const Shift shift = TheShift();
@@ -99,7 +100,7 @@ void CounterScreen::txtCollectionNo_GotFocus()
 {
     EnableEntry(true);
     if (txtTime.IsEmpty())
-        SendBack(txtTime);
+        SendBack(txtTime, Wanted::Shift());
 }
 
 bool CounterScreen::txtCollectionNo_KeyDown(const QKeyEvent& key)
@@ -124,7 +125,7 @@ void CounterScreen::txtCollectionNo_LostFocus()
     if (number == 0) {
         ClearEntryFields();
         ShowNumber(NextCollectionNo);
-        txtCollectionNo.SetFocus();
+        txtCollectionNo.SetFocus(Plain(u"क्रमांक 0 नसतो : नवीन नोंदीसाठी Enter    Esc : बाहेर"));
         return;
     }
     const Shift shift = TheShift();
@@ -145,6 +146,12 @@ void CounterScreen::txtCollectionNo_LostFocus()
 void CounterScreen::txtMemberNo_GotFocus()
 {
     ShowMemberKeys(true);
+}
+
+void CounterScreen::txtMemberNo_Change()
+{
+    if (txtMemberNo.HasFocus())
+        LightMemberKeys();
 }
 
 bool CounterScreen::txtMemberNo_KeyDown(const QKeyEvent& key)
@@ -214,17 +221,20 @@ void CounterScreen::ComboMemberName_LostFocus()
     const QString name = ComboMemberName.Text().trimmed();
     if (name.isEmpty()) {
         ShowNotice(u"maombarcao naaMva vyavaisqat Ta[-p kra");
-        ComboMemberName.SetFocus();
+        ComboMemberName.SetFocus(Wanted::Name());
         return;
     }
-    if (txtMemberNo.IsEmpty())
-        ComboMemberName.SetFocus();
+    const bool asks = txtMemberNo.IsEmpty();
+    if (asks)
+        ComboMemberName.SetFocus(Wanted::Name());
     for (Recordset member(gCn, QStringLiteral("SELECT * FROM MembersMaster")); !member.Eof();
          member.MoveNext()) {
         if (member[u"MemberName"].Text().trimmed() != name)
             continue;
         txtMemberNo.SetText(member[u"MemberNo"].Text());
         TakeAnimalOf(member);
+        if (asks)
+            ComboMemberName.SetFocus(Plain(u"Enter : पुढे"));
         if (!IsSteppingBack())
             txtAnimal.SetFocus(); // only if it is the clerk's choice: it is disabled otherwise
         return;

@@ -8,6 +8,7 @@
 #include "Queries.h"
 #include "Recordset.h"
 #include "Sql.h"
+#include "Wanted.h"
 
 #include <utility>
 
@@ -18,7 +19,7 @@ void CounterScreen::txtAnimal_GotFocus()
     if (ComboMemberName.IsEmpty())
         ComboMemberName.SetEnabled(true);
     if (Value(txtMemberNo) == 0)
-        SendBack(txtMemberNo);
+        SendBack(txtMemberNo, Plain(u"मेम्बर नंबर टाका    Enter : नावाने"));
 }
 
 void CounterScreen::txtAnimal_LostFocus()
@@ -26,7 +27,7 @@ void CounterScreen::txtAnimal_LostFocus()
     if (IsSentBack())
         return;
     if (txtAnimal.IsEmpty())
-        txtAnimal.SetFocus();
+        txtAnimal.SetFocus(Wanted::Animal());
 }
 
 // Litres, fat, rate
@@ -48,7 +49,7 @@ void CounterScreen::txtLiters_GotFocus()
 void CounterScreen::txtLiters_LostFocus()
 {
     if (ComboMemberName.IsEmpty()) {
-        ComboMemberName.SetFocus();
+        ComboMemberName.SetFocus(Wanted::Name());
         return;
     }
     if (txtAnimal.Text() != u"gaaya" && txtAnimal.Text() != u"mhOsa")
@@ -56,7 +57,7 @@ void CounterScreen::txtLiters_LostFocus()
     const double liters = Value(txtLiters);
     txtLiters.SetText(Format(liters, m_kind.liters.field));
     if (liters == 0 && !IsSwitchingOff(cmdAutoLiter, gAppState.gAutoLiters, txtLiters))
-        txtLiters.SetFocus();
+        txtLiters.SetFocus(Plain(u"लिटर टाका    Esc : बाहेर"));
 }
 
 void CounterScreen::txtFat_GotFocus()
@@ -120,14 +121,14 @@ void CounterScreen::txtFat_LostFocus()
         if (const std::optional<QString> read = m_devices.RepeatFat())
             txtFat.SetText(*read);
         FatRefused = true;
-        txtFat.SetFocus();
+        txtFat.SetFocus(Plain(u"फॅट टाका    Enter : मशीनवरून पुन्हा    Esc : बाहेर"));
         return;
     }
     const double fat = Value(txtFat);
     txtFat.SetText(Format(fat, FatFormat));
     if (fat == 0 || fat > HighestFat) {
-        FatRefused = true; // the clerk is to see what was refused
-        txtFat.SetFocus();
+        FatRefused = true; // the clerk is to see what was refused, not another offer
+        txtFat.SetFocus(Plain(u"फॅट टाका : 0.1 ते 30.0    Esc : बाहेर"));
         return;
     }
     const FatRate found = LookupFatRate(maskDate.Date(), Value(txtFat), txtAnimal.Text());
@@ -147,8 +148,10 @@ void CounterScreen::txtRate_LostFocus()
     if (Value(txtFat) != 0) {
         const double rate = Value(txtRate);
         txtRate.SetText(Format(rate, MoneyFormat));
-        if (rate == 0 || rate > HighestRate)
-            txtRate.SetFocus();
+        if (rate == 0)
+            txtRate.SetFocus(Plain(u"तक्त्यात या फॅटचा दर नाही : दर टाका    Esc : बाहेर"));
+        else if (rate > HighestRate)
+            txtRate.SetFocus(Plain(u"दर टाका : 60.00 पर्यंत    Esc : बाहेर"));
     }
     ShowAmount();
 }

@@ -82,10 +82,12 @@ protected:
     virtual void LoadMemberNames();
     virtual void ShowMemberFrame() { } // F7
     virtual void MembersShown() { } // frmMembers has closed
+    virtual void txtMemberNo_Change();
 
     void ClearEntryFields();
     void ShowInwardsGrid();
     void ShowMemberKeys(bool shown);
+    void LightMemberKeys();
 
     // Puts the window together: the band, what stands under the entry line, and the strip of keys are the
     // counter's own.
@@ -137,7 +139,7 @@ private:
     void NameMemberKeys();
     std::array<std::pair<Label*, Label*>, 3> MemberKeyLabels(); // each key and what it does
     void EnableEntry(bool enabled);
-    void SendBack(Control& to);
+    void SendBack(Control& to, const Caption& wanted);
     bool IsSentBack();
     Delivery TheDelivery() const;
     void ShowNumber(std::int16_t number);
@@ -150,6 +152,7 @@ private:
     bool IsSecondDelivery() const;
     void StoreNew(const Delivery& delivery);
     void DeleteRow();
+    QString RowsOfMember() const;
     void SearchMember();
     void SendTareToScale();
     void ShowDeviceSwitches();

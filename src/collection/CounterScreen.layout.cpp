@@ -113,6 +113,8 @@ QWidget* CounterScreen::MemberKeys()
         QPalette cap = key->Widget()->palette();
         cap.setColor(QPalette::Window, QColor(Look::PlainColour));
         cap.setColor(QPalette::WindowText, QColor(Look::Ink));
+        cap.setColor(QPalette::Disabled, QPalette::Window, QColor(Look::Quiet));
+        cap.setColor(QPalette::Disabled, QPalette::WindowText, QColor(Look::DullColour));
         key->Widget()->setPalette(cap);
         action->Widget()->setFont(Look::Font(Look::Size::Small));
         action->Widget()->setPalette(cap);

@@ -5,6 +5,7 @@
 #include "Counter.h"
 #include "Keys.h"
 #include "MdlAccounts.h"
+#include "Queries.h"
 #include "Recordset.h"
 
 #include <utility>
@@ -51,6 +52,7 @@ CounterScreen::CounterScreen(const CounterKind& kind)
     txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     txtAnimal.SetLocked(true);
     txtAnimal.SetGuide(Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
+    ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
     txtLiters.SetMaxLength(9);
     txtAmount.SetEnabled(false);
@@ -66,6 +68,7 @@ void CounterScreen::WireHandlers()
     When(txtCollectionNo.GotFocus, &CounterScreen::txtCollectionNo_GotFocus);
     When(txtCollectionNo.LostFocus, &CounterScreen::txtCollectionNo_LostFocus);
     When(txtMemberNo.GotFocus, &CounterScreen::txtMemberNo_GotFocus);
+    txtMemberNo.TextChanged = [this] { txtMemberNo_Change(); };
     When(txtMemberNo.LostFocus, &CounterScreen::txtMemberNo_LostFocus);
     When(ComboMemberName.GotFocus, &CounterScreen::ComboMemberName_GotFocus);
     When(ComboMemberName.LostFocus, &CounterScreen::ComboMemberName_LostFocus);
@@ -108,6 +111,20 @@ void CounterScreen::ShowMemberKeys(bool shown)
         label->SetVisible(shown && m_kind.hasMemberFrame);
     for (Label* label : {&lblF10, &lblDelete})
         label->SetVisible(shown && !ComboMemberName.IsEmpty());
+    if (shown)
+        LightMemberKeys();
+}
+
+// Lit are those that do something now: F9 finds only a member who has a row in the shift, and behind the
+// member's frame neither is answered.
+void CounterScreen::LightMemberKeys()
+{
+    const bool isHere = txtMemberNo.HasFocus();
+    const bool hasRow = isHere && Value(txtMemberNo) != 0 && Finds(RowsOfMember());
+    for (Label* label : {&lblF9, &lblSearch})
+        label->Widget()->setEnabled(hasRow);
+    for (Label* label : {&lblF7, &lblMilk})
+        label->Widget()->setEnabled(isHere);
 }
 
 void CounterScreen::ClearEntryFields()
@@ -130,10 +147,10 @@ void CounterScreen::EnableEntry(bool enabled)
 }
 
 // A field that must not be entered yet sends the focus back; that isn't a leaving to be validated.
-void CounterScreen::SendBack(Control& to)
+void CounterScreen::SendBack(Control& to, const Caption& wanted)
 {
     FocusBounce = true;
-    to.SetFocus();
+    to.SetFocus(wanted);
 }
 
 bool CounterScreen::IsSentBack()

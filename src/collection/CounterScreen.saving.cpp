@@ -19,7 +19,7 @@ void CounterScreen::cmdGo_Click()
     if (Value(txtMemberNo) != 0)
         ShowAmount(); // pressed by the mouse it comes straight from the litres, which make none
     if (Value(txtMemberNo) == 0 || Value(txtAmount) == 0) {
-        txtCollectionNo.SetFocus();
+        txtCollectionNo.SetFocus(Plain(u"रक्कम किंवा मेम्बर नाही : काहीही सेव्ह झाले नाही"));
         return;
     }
     if (Setting(u"RepeatCollection") == u"naahI" && IsSecondDelivery()) {
@@ -109,13 +109,18 @@ void CounterScreen::DeleteRow()
     txtCollectionNo.SetFocus();
 }
 
-void CounterScreen::SearchMember()
+// The member's rows in the copy of the shift.
+QString CounterScreen::RowsOfMember() const
 {
     const Shift shift = TheShift();
+    return Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
+        u" and CollectionTime='", shift.time, u"' AND MemberNo=", Value(txtMemberNo));
+}
+
+void CounterScreen::SearchMember()
+{
     {
-        const Recordset row(gCn,
-            Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
-                u" and CollectionTime='", shift.time, u"' AND MemberNo=", Value(txtMemberNo)));
+        const Recordset row(gCn, RowsOfMember());
         if (row.Eof())
             return;
         txtCollectionNo.SetText(row[u"CollectionNo"].Text());
@@ -124,4 +129,5 @@ void CounterScreen::SearchMember()
     DataGridInwards.ReadAll(); // the search puts other rows into the copy
     gAppState.gCallerTag = QStringLiteral("MC");
     ScreenDirectory::Open(QStringLiteral("frmSearchCollections"), lblSearch.Shown());
+    LightMemberKeys();
 }

@@ -12,6 +12,7 @@
 #include "Recordset.h"
 #include "Sql.h"
 #include "Transaction.h"
+#include "Wanted.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -82,7 +83,7 @@ void frmAbsenseMemberCollection::MaskDate_GotFocus()
 
 void frmAbsenseMemberCollection::MaskDate_LostFocus()
 {
-    MaskDate.InsistOnDate();
+    MaskDate.InsistOnDate(Wanted::Date());
 }
 
 void frmAbsenseMemberCollection::txtTime_LostFocus()
@@ -93,11 +94,11 @@ void frmAbsenseMemberCollection::txtTime_LostFocus()
 // The same for date and shift.
 bool frmAbsenseMemberCollection::HoldShift()
 {
-    if (!MaskDate.InsistOnDate())
+    if (!MaskDate.InsistOnDate(Wanted::Date()))
         return false;
     const bool isShift = IsShift(txtTime.Text());
     if (!isShift)
-        txtTime.SetFocus();
+        txtTime.SetFocus(Wanted::Shift());
     return isShift;
 }
 

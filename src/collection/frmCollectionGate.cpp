@@ -17,11 +17,12 @@ frmCollectionGate::frmCollectionGate() : CounterScreen(GateCounter)
     When(Command1.Click, &frmCollectionGate::Command1_Click);
     When(Command3.Click, &frmCollectionGate::Command3_Click);
     for (const auto& [field, column] : std::initializer_list<std::pair<Field*, QStringView>>{
-             {&txtMemberNo, u"MemberNo"}, {&txtLiters, u"Liters"}, {&txtFat, u"Fat"}, {&txtRate, u"Rate"}})
+             {&txtLiters, u"Liters"}, {&txtFat, u"Fat"}, {&txtRate, u"Rate"}})
         field->TextChanged = [this, field = field, column = column] { SearchNumber(*field, column); };
     When(txtAnimal.TextChanged, &frmCollectionGate::txtAnimal_Change);
     When(ComboMemberName.TextChanged, &frmCollectionGate::ComboMemberName_Change);
 
+    chkSerachMode.SetGuide(Keys::Guide(QStringLiteral("CheckBox")));
     Command1.SetCancels(true); // the gate is left whatever stands in its fields
 
     LayOut(Layout::Header(lblTitle, lblCompanyName), ListAndTotals(), Layout::KeyStrip(Keys::Of(Name())));
@@ -58,6 +59,12 @@ void frmCollectionGate::ToggleOrder(Button& button, QStringView column)
 }
 
 // The search: the field changed last decides what the list shows.
+
+void frmCollectionGate::txtMemberNo_Change()
+{
+    CounterScreen::txtMemberNo_Change();
+    SearchNumber(txtMemberNo, u"MemberNo");
+}
 
 void frmCollectionGate::txtAnimal_Change()
 {

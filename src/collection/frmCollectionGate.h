@@ -24,6 +24,7 @@ private:
     void cmdGo_GotFocus();
     void Command1_Click();
     void Command3_Click();
+    void txtMemberNo_Change() override;
     void txtAnimal_Change();
     void ComboMemberName_Change();
 

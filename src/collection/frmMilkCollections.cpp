@@ -2,6 +2,7 @@
 
 #include "CompanyTitle.h"
 #include "Counter.h"
+#include "Keys.h"
 #include "Layout.h"
 #include "MdlAccounts.h"
 #include "Recordset.h"
@@ -39,6 +40,7 @@ frmMilkCollections::frmMilkCollections()
     When(Command1.Click, &frmMilkCollections::Command1_Click);
     When(Command2.Click, &frmMilkCollections::Command2_Click);
     When(Command3.Click, &frmMilkCollections::Command3_Click);
+    cmbAccountName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     cmbAccountName.Accepts = ComboMemberName.Accepts;
     Command2.SetCancels(true); // the frame is left whatever stands in its dates
 

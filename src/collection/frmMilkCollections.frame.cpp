@@ -12,6 +12,7 @@
 #include "ScreenDirectory.h"
 #include "Sql.h"
 #include "Transaction.h"
+#include "Wanted.h"
 
 #include <algorithm>
 #include <array>
@@ -33,6 +34,7 @@ void frmMilkCollections::ShowMemberFrame()
     SkipMemberChecks = true;
     ShowFrame(true);
     maskFromDate.SetFocus();
+    LightMemberKeys();
     const std::vector<Control*> frame = FrameControls();
     for (Control* control : Controls()) {
         if (!control->Enabled() || std::find(frame.begin(), frame.end(), control) != frame.end())
@@ -44,8 +46,7 @@ void frmMilkCollections::ShowMemberFrame()
 
 void frmMilkCollections::maskFromDate_LostFocus()
 {
-    if (!maskFromDate.HoldsDate())
-        maskFromDate.SetFocus();
+    maskFromDate.InsistOnDate(Wanted::Date());
 }
 
 void frmMilkCollections::maskToDate_LostFocus()
@@ -56,13 +57,7 @@ void frmMilkCollections::maskToDate_LostFocus()
 // Sends the focus back to a date that is none; true if both are good.
 bool frmMilkCollections::HoldPeriod()
 {
-    for (DateField* date : {&maskFromDate, &maskToDate}) {
-        if (!date->HoldsDate()) {
-            date->SetFocus();
-            return false;
-        }
-    }
-    return true;
+    return maskFromDate.InsistOnDate(Wanted::Date()) && maskToDate.InsistOnDate(Wanted::Date());
 }
 
 void frmMilkCollections::txtAccountId_LostFocus()
@@ -172,7 +167,7 @@ void frmMilkCollections::MemberAverageFat()
 void frmMilkCollections::Command1_Click()
 {
     if (Value(txtAccountId) == 0) {
-        txtAccountId.SetFocus();
+        txtAccountId.SetFocus(Plain(u"मेम्बर नंबर टाका"));
         return;
     }
     if (!HoldPeriod())

@@ -41,6 +41,8 @@ void frmMilkCollections::ShowFrame(bool shown)
     for (Control* control : m_heldBack)
         control->SetEnabled(true);
     m_heldBack.clear();
+    if (!shown)
+        ShowMemberKeys(false); // the focus won't be at the number
 }
 
 QLayout* frmMilkCollections::Views()

@@ -5,6 +5,7 @@
 #include "CompanyTitle.h"
 #include "Counter.h"
 #include "CounterScreen.h"
+#include "Keys.h"
 #include "MdlAccounts.h"
 #include "Messages.h"
 #include "ModalStack.h"
@@ -13,6 +14,7 @@
 #include "Recordset.h"
 #include "Sql.h"
 #include "Transaction.h"
+#include "Wanted.h"
 
 using namespace Counter;
 
@@ -61,6 +63,7 @@ frmSearchCollections::frmSearchCollections()
     txtTime.SetLocked(true);
     txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     DataGridInwards.SetGuide(Plain(u"↑ ↓ : पावतीची नोंद निवडा"));
+    ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
     EnableFound(false);
     LayOut();
@@ -133,7 +136,7 @@ void frmSearchCollections::maskDate_GotFocus()
 
 void frmSearchCollections::maskDate_LostFocus()
 {
-    maskDate.InsistOnDate();
+    maskDate.InsistOnDate(Wanted::Date());
 }
 
 void frmSearchCollections::txtTime_GotFocus()
@@ -143,8 +146,8 @@ void frmSearchCollections::txtTime_GotFocus()
 
 void frmSearchCollections::txtTime_LostFocus()
 {
-    if (maskDate.InsistOnDate() && !IsShift(txtTime.Text()))
-        txtTime.SetFocus();
+    if (maskDate.InsistOnDate(Wanted::Date()) && !IsShift(txtTime.Text()))
+        txtTime.SetFocus(Wanted::Shift());
 }
 
 Shift frmSearchCollections::TheShift() const
@@ -177,7 +180,7 @@ void frmSearchCollections::ComboMemberName_LostFocus()
     const QString name = ComboMemberName.Text().trimmed();
     if (name.isEmpty()) {
         ShowNotice(u"maombarcao naaMva vyavaisqat Ta[-p kra");
-        ComboMemberName.SetFocus();
+        ComboMemberName.SetFocus(Wanted::Name());
         return;
     }
     for (Recordset member(gCn, QStringLiteral("SELECT * FROM MembersMaster")); !member.Eof();
@@ -190,7 +193,7 @@ void frmSearchCollections::ComboMemberName_LostFocus()
     }
     LoadMemberNames();
     if (txtMemberNo.IsEmpty())
-        ComboMemberName.SetFocus();
+        ComboMemberName.SetFocus(Wanted::Name());
 }
 
 void frmSearchCollections::LoadMemberNames()

@@ -210,7 +210,7 @@ void frmMembers::StartDelete()
 void frmMembers::DeleteFound()
 {
     if (MemberNo() == 0) {
-        txtMemberNo.SetFocus();
+        Hold(txtMemberNo);
         return;
     }
     if (Ask(u"maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ")) {
@@ -234,12 +234,12 @@ void frmMembers::cmdExit_Click()
 bool frmMembers::AreRequiredFieldsFilled()
 {
     if (MemberNo() == 0) {
-        txtMemberNo.SetFocus();
+        Hold(txtMemberNo);
         return false;
     }
     for (Field* field : std::initializer_list<Field*>{&ComboMemberName, &txtAnimal, &txtPaymentType}) {
         if (field->Text().trimmed().isEmpty()) {
-            field->SetFocus();
+            Hold(*field);
             return false;
         }
     }

@@ -41,7 +41,13 @@ double Reformat(NumberField& field, QStringView pattern)
 void frmMembers::Refuse(Field& field, QStringView message)
 {
     ShowNotice(message);
-    field.SetFocus();
+    Hold(field);
+}
+
+// The guide of a field that must not be left as it is says which key gives the record up, too.
+void frmMembers::Hold(Field& field)
+{
+    field.SetFocus(Plain(QString(field.Guide().Seen().trimmed() + QStringLiteral("    Alt+R : रद्द"))));
 }
 
 void frmMembers::txtMemberNo_LostFocus()
@@ -75,7 +81,7 @@ void frmMembers::ComboMemberName_LostFocus()
     const Recordset member = MemberOfName(name);
     if (member.Eof()) {
         if (!IsNew() && txtMemberNo.IsEmpty())
-            ComboMemberName.SetFocus();
+            Hold(ComboMemberName);
     } else if (IsNew()) {
         Refuse(ComboMemberName, u"yaa naavaacao roka^D- Agaaodrca Aaho");
     } else if (IsDelete()) {
@@ -109,7 +115,7 @@ void frmMembers::OfferToAdd(NameCombo& combo, QStringView table, QStringView col
     if (known)
         return;
     if (!Ask(question)) {
-        combo.SetFocus();
+        Hold(combo);
         return;
     }
     Transaction adding(gCn);
@@ -122,7 +128,7 @@ void frmMembers::OfferToAdd(NameCombo& combo, QStringView table, QStringView col
 void frmMembers::txtAnimal_LostFocus()
 {
     if (txtAnimal.IsEmpty())
-        txtAnimal.SetFocus();
+        Hold(txtAnimal);
     else
         EnableFiguresOfAnimal();
 }
@@ -141,7 +147,7 @@ void frmMembers::txtPaymentType_LostFocus()
 {
     const bool bank = txtPaymentType.Text() == u"ba^nk";
     if (txtPaymentType.IsEmpty())
-        txtPaymentType.SetFocus();
+        Hold(txtPaymentType);
     else
         ShowBankFields(bank);
 }
@@ -166,14 +172,14 @@ bool frmMembers::IsAccountNoMissing() const
 void frmMembers::txtBankAccountNo_LostFocus()
 {
     if (IsAccountNoMissing())
-        txtBankAccountNo.SetFocus();
+        Hold(txtBankAccountNo);
 }
 
 void frmMembers::txtOpeningBalance_LostFocus()
 {
     Reformat(txtOpeningBalance, u"#######0.00");
     if (IsAccountNoMissing())
-        txtBankAccountNo.SetFocus();
+        Hold(txtBankAccountNo);
 }
 
 void frmMembers::txtOpeningDorC_LostFocus()

@@ -111,6 +111,7 @@ private:
     void txtBuffOpeningThev_LostFocus();
 
     void Refuse(Field& field, QStringView message);
+    void Hold(Field& field);
     void OfferToAdd(NameCombo& combo, QStringView table, QStringView column, QStringView question);
     bool IsAccountNoMissing() const;
     bool AreRequiredFieldsFilled();

@@ -16,6 +16,12 @@ constexpr int RowSpacing = 18;
 
 }
 
+void ReportLayout::AddGuide(Layout::Form& form, Label& guide)
+{
+    Layout::MakeGuide(guide);
+    form.Row(guide);
+}
+
 void ReportLayout::Finish(
     Screen& screen, QWidget* header, const Layout::Form& form, Button& cmdReport, Button& cmdExit)
 {

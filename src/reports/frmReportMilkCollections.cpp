@@ -6,6 +6,7 @@
 #include "ReportRun.h"
 #include "Sql.h"
 #include "Transaction.h"
+#include "Wanted.h"
 
 namespace {
 
@@ -47,7 +48,7 @@ bool frmReportMilkCollections::HoldDate()
     if (MaskUserDate.HoldsDate())
         return true;
     ShowNotice(u"idnaaMk vyavaisqat Ta[-p kra");
-    MaskUserDate.SetFocus();
+    MaskUserDate.SetFocus(Wanted::Date());
     return false;
 }
 
@@ -70,7 +71,7 @@ bool frmReportMilkCollections::HoldAnimal()
     if (ComboAnimal.Items().contains(ComboAnimal.Text()))
         return true;
     ComboAnimal.Clear();
-    ComboAnimal.SetFocus();
+    ComboAnimal.SetFocus(Plain(u"↓ ने यादीतून निवडा    Esc : बाहेर"));
     return false;
 }
 

@@ -15,6 +15,7 @@ private:
     Label lblTitle{this, "lblTitle"};
     Label lblCompanyTitle{this, "lblCompanyTitle"};
     Label lblAcYear{this, "lblAcYear"};
+    Label lblGuide{this, "lblGuide"};
     DateField MaskUserDate{this, "MaskUserDate"};
     NameCombo ComboAnimal{this, "ComboAnimal"};
     OptionButton OptionMorning{this, "OptionMorning", Shivaji(u"&sakaL")};

@@ -4,7 +4,9 @@
 void frmReportMilkCollections::LayOut()
 {
     SetTitleLabel(lblTitle);
+    SetGuideLabel(lblGuide);
     Layout::Form form;
+    ReportLayout::AddGuide(form, lblGuide);
     form.Row(Shivaji(u"idnaaMk"), MaskUserDate, ReportLayout::DateWidth);
     form.Row(Plain(u"जनावर"), ComboAnimal, ReportLayout::DateWidth);
     form.Row(Plain(u"वेळ"),

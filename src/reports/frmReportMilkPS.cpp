@@ -5,6 +5,7 @@
 #include "MilkStatement.h"
 #include "ReportRun.h"
 #include "Sql.h"
+#include "Wanted.h"
 
 frmReportMilkPS::frmReportMilkPS() : Screen("frmReportMilkPS")
 {
@@ -42,12 +43,12 @@ void frmReportMilkPS::Escape()
 
 void frmReportMilkPS::maskFromDate_LostFocus()
 {
-    maskFromDate.InsistOnDate();
+    maskFromDate.InsistOnDate(Wanted::Date());
 }
 
 void frmReportMilkPS::maskToDate_LostFocus()
 {
-    maskToDate.InsistOnDate();
+    maskToDate.InsistOnDate(Wanted::Date());
 }
 
 void frmReportMilkPS::Option_Click()
@@ -78,7 +79,7 @@ void frmReportMilkPS::ComboAccountName_LostFocus()
 
 void frmReportMilkPS::cmdReport_Click()
 {
-    if (!maskFromDate.InsistOnDate() || !maskToDate.InsistOnDate())
+    if (!maskFromDate.InsistOnDate(Wanted::Date()) || !maskToDate.InsistOnDate(Wanted::Date()))
         return;
     MilkStatement::Stage(
         {OptionSales.Chosen() ? MilkStatement::Kind::Sales : MilkStatement::Kind::Collections,

@@ -17,6 +17,7 @@ private:
     Label lblTitle{this, "lblTitle"};
     Label lblCompanyTitle{this, "lblCompanyTitle"};
     Label lblAcYear{this, "lblAcYear"};
+    Label lblGuide{this, "lblGuide"};
     DateField maskFromDate{this, "maskFromDate"};
     DateField maskToDate{this, "maskToDate"};
     OptionButton OptionCollections{this, "OptionCollections", Shivaji(u" saMklana")};

@@ -4,7 +4,9 @@
 void frmReportMilkPS::LayOut()
 {
     SetTitleLabel(lblTitle);
+    SetGuideLabel(lblGuide);
     Layout::Form form;
+    ReportLayout::AddGuide(form, lblGuide);
     form.Row(Shivaji(u"pasaUna"), maskFromDate, ReportLayout::DateWidth);
     form.Row(Shivaji(u"pya-nt"), maskToDate, ReportLayout::DateWidth);
     form.Row(Plain(u"प्रकार"),

@@ -3,6 +3,7 @@
 #include "CompanyTitle.h"
 #include "ReportRun.h"
 #include "Sql.h"
+#include "Wanted.h"
 
 namespace {
 
@@ -39,7 +40,7 @@ void frmReportPaymentList::Escape()
 
 void frmReportPaymentList::MaskFromDate_LostFocus()
 {
-    MaskFromDate.InsistOnDate();
+    MaskFromDate.InsistOnDate(Wanted::Date());
 }
 
 QString frmReportPaymentList::SelectionFormula(const QString& date)
@@ -50,7 +51,7 @@ QString frmReportPaymentList::SelectionFormula(const QString& date)
 
 void frmReportPaymentList::cmdReport_Click()
 {
-    if (MaskFromDate.InsistOnDate())
+    if (MaskFromDate.InsistOnDate(Wanted::Date()))
         ReportRun::Show(Option1.Chosen() ? u"CashMilkPayment.rpt" : u"BankMilkPayment.rpt",
             SelectionFormula(MaskFromDate.Text()));
 }

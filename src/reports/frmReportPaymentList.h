@@ -17,6 +17,7 @@ private:
     Label lblTitle{this, "lblTitle"};
     Label lblCompanyTitle{this, "lblCompanyTitle"};
     Label lblAcYear{this, "lblAcYear"};
+    Label lblGuide{this, "lblGuide"};
     DateField MaskFromDate{this, "MaskFromDate"};
     OptionButton Option1{this, "Option1", Shivaji(u"raoK")};
     OptionButton Option2{this, "Option2", Shivaji(u"baÐMk")};

@@ -142,7 +142,7 @@ bool frmAutoSettings::CheckChoice(ChoiceCombo& combo)
     if (combo.HoldsAWord())
         return true;
     combo.Clear();
-    combo.SetFocus();
+    combo.SetFocus(Plain(u"Alt+↓ : यादीतून निवडा    Alt+R : रद्द"));
     return false;
 }
 
@@ -152,7 +152,7 @@ bool frmAutoSettings::CheckNotZero(NumberField& field, QStringView pattern)
     field.SetText(Format(value, pattern));
     if (value != 0)
         return true;
-    field.SetFocus();
+    field.SetFocus(Plain(u"0 पेक्षा जास्त टाका    Alt+R : रद्द"));
     return false;
 }
 
@@ -162,7 +162,7 @@ bool frmAutoSettings::CheckKapat(NumberField& field)
     field.SetText(Format(value, u"######0.00"));
     if (value > 0 || (value == 0 && ComboPaymentDuration.IsEmpty()))
         return true;
-    field.SetFocus();
+    field.SetFocus(Plain(u"0 पेक्षा जास्त टाका    Alt+R : रद्द"));
     return false;
 }
 

@@ -214,7 +214,7 @@ TEST_F(MemberFrameTest, ItShowsItsOwnKeysInPlaceOfTheCounters)
     });
 }
 
-TEST_F(MemberFrameTest, TheKeysOfTheMemberStayToldUntilTheNumberIsLeftWithoutTheFrame)
+TEST_F(MemberFrameTest, TheKeysOfTheMemberAreToldWhileTheFrameIsOpenAndNoLongerBehindIt)
 {
     const auto expect = [](Clerk& clerk, bool told) {
         for (const char* label : {"lblF9", "lblSearch", "lblF7", "lblMilk"})
@@ -226,7 +226,10 @@ TEST_F(MemberFrameTest, TheKeysOfTheMemberStayToldUntilTheNumberIsLeftWithoutThe
         Type(clerk, "{F7}");
         expect(clerk, true);
         Type(clerk, "{ESC}");
+        EXPECT_EQ(Focus(clerk), "txtCollectionNo");
+        expect(clerk, false);
         clerk.Press(QStringLiteral("txtMemberNo"));
+        expect(clerk, true);
         Type(clerk, "1{ENTER}");
         expect(clerk, false);
     });
