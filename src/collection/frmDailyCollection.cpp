@@ -100,6 +100,7 @@ void frmDailyCollection::ClearFields()
     for (Field* figure : {&txtLiters, &txtFat, &txtRate, &txtAmount})
         figure->SetText(QStringLiteral("0"));
     IsPicked = false;
+    ProposedNo.clear();
     NumberedFor.clear();
 }
 
@@ -122,10 +123,8 @@ void frmDailyCollection::cmdAdd_Click()
         EnterState(cmdAdd, u"&saovh", ModeTitles::New);
         return;
     }
-    if (Field* field = Unfinished()) {
-        field->SetFocus();
+    if (HasMissing())
         return;
-    }
     if (Finds(Sql(u"SELECT * FROM MilkCollections WHERE CompanyId=", gAppState.gCompanyId, u" AND MemberNo=",
             txtMemberNo.Text(), u" AND CollectionDate=", Day(), u" AND CollectionTime='",
             cmbCollectionTime.Text(), u"' AND Animal='", txtAnimal.Text(), u"'"))) {
@@ -158,7 +157,8 @@ void frmDailyCollection::ShowNextNumber()
     const Recordset highest(gCn,
         Sql(u"SELECT MAX(CollectionNo) as mMaxNo FROM MilkCollections WHERE CompanyId=", gAppState.gCompanyId,
             u" AND CollectionDate=", Day()));
-    txtCollectionNo.SetText(ShortestDecimal(highest.Eof() ? 1.0 : highest[u"mMaxNo"].Number() + 1));
+    ProposedNo = ShortestDecimal(highest.Eof() ? 1.0 : highest[u"mMaxNo"].Number() + 1);
+    txtCollectionNo.SetText(ProposedNo);
     NumberedFor = DayAndShift();
 }
 
@@ -170,10 +170,8 @@ void frmDailyCollection::cmdModify_Click()
         EnterState(cmdModify, u"&saovh", ModeTitles::Modify);
         return;
     }
-    if (Field* field = Unfinished()) {
-        field->SetFocus();
+    if (HasMissing())
         return;
-    }
     Write(UpdateStatement());
     ShowIdle();
     cmdModify.SetFocus();
@@ -195,10 +193,8 @@ void frmDailyCollection::cmdDelete_Click()
         EnterState(cmdDelete, u"&KaoDa", ModeTitles::Delete);
         return;
     }
-    if (Field* field = Unfinished()) {
-        field->SetFocus();
+    if (HasMissing())
         return;
-    }
     Write(DeleteStatement());
     ShowIdle();
     cmdDelete.SetFocus();

@@ -3,10 +3,12 @@
 #include "frmDailyCollection.h"
 #include "Counter.h"
 #include "Dates.h"
+#include "Keys.h"
 #include "LookupFatRate.h"
 #include "MdlAccounts.h"
 #include "Messages.h"
 #include "Sql.h"
+#include "Wanted.h"
 
 #include <QKeyEvent>
 
@@ -34,6 +36,22 @@ std::vector<DataGrid::Column> ListColumns()
 // The counters keep a number in 16 bits, and so the one after it.
 constexpr double HighestNumber = 32766;
 
+// What is wanted in a field that keeps the focus, and the key that gives the row up.
+Caption WithWayOut(QStringView wanted)
+{
+    return Plain(QString(wanted % QStringView(u"    Alt+R : रद्द")));
+}
+
+Caption LitersWanted()
+{
+    return WithWayOut(u"लिटर टाका : 0 पेक्षा जास्त");
+}
+
+Caption FatWanted()
+{
+    return WithWayOut(u"फॅट टाका : 0.1 ते 30.0");
+}
+
 // A field that must hold a number, whatever was typed.
 void MendNumber(Field& field)
 {
@@ -50,6 +68,7 @@ frmDailyCollection::frmDailyCollection()
     WireHandlers();
     txtAnimal.SetLocked(true);
     cmbCollectionTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
+    cmbMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     DataGrid1.SetGuide(Plain(u"Enter : ही नोंद    F5 : यादी बंद"));
     cmbMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
     cmdCancel.SetCancels(true);
@@ -90,49 +109,64 @@ std::vector<Field*> frmDailyCollection::Fields()
         &txtAnimal, &txtLiters, &txtFat, &txtRate, &txtAmount};
 }
 
-// What still has to be entered before the books can be written; null if nothing has. A button can be pressed
-// from any field, before the rules of the others were asked.
-Field* frmDailyCollection::Unfinished()
+// Goes to what still has to be entered before the books can be written. A button can be pressed from any
+// field, before the rules of the others were asked.
+bool frmDailyCollection::HasMissing()
+{
+    const Missing missing = Unfinished();
+    if (missing.field)
+        missing.field->SetFocus(missing.wanted);
+    return missing.field;
+}
+
+frmDailyCollection::Missing frmDailyCollection::Unfinished()
 {
     if (!IsNumeric(txtMemberNo.Text()))
-        return &txtMemberNo;
+        return {&txtMemberNo, WithWayOut(u"मेम्बर नंबर टाका")};
     if (IsAdding() && cmbMemberName.IsEmpty())
-        return &cmbMemberName;
+        return {&cmbMemberName, WithWayOut(u"नाव टाका, किंवा ↓ ने यादीतून निवडा")};
     if (!MasKCollectionDate.HoldsDate())
-        return &MasKCollectionDate;
+        return {&MasKCollectionDate, Wanted::Date()};
     if (!IsShift(cmbCollectionTime.Text()))
-        return &cmbCollectionTime;
-    if (Field* number = UnfinishedNumber())
+        return {&cmbCollectionTime, Wanted::Shift()};
+    if (const Missing number = UnfinishedNumber(); number.field)
         return number;
-    if (txtAnimal.IsEmpty() && !IsDeleting())
-        return &txtAnimal;
     if (IsDeleting())
-        return nullptr;
-    if (Field* figure = IsAdding() ? UnfinishedFigure() : nullptr)
+        return {};
+    if (txtAnimal.IsEmpty())
+        return {&txtAnimal, Wanted::Animal()};
+    if (const Missing figure = IsAdding() ? UnfinishedFigure() : Missing(); figure.field)
         return figure;
-    return Priced() == PricedFor ? nullptr : &txtFat; // it is left with the rate and the amount
+    if (Priced() == PricedFor)
+        return {};
+    return {&txtFat, Plain(u"नोंद बदलली : Enter ने दर व रक्कम पुन्हा काढा, मग सेव्ह")};
 }
 
 // A new row has a number of its own day and shift: leaving the shift shows it.
-Field* frmDailyCollection::UnfinishedNumber()
+frmDailyCollection::Missing frmDailyCollection::UnfinishedNumber()
 {
     if (IsAdding() && DayAndShift() != NumberedFor)
-        return &cmbCollectionTime;
-    if (!IsNumeric(txtCollectionNo.Text()) || (!IsAdding() && !IsRowShown))
-        return &txtCollectionNo;
+        return {&cmbCollectionTime, Plain(u"दिनांक किंवा वेळ बदलली : Enter ने नवा क्रमांक, मग सेव्ह")};
+    if (!IsNumeric(txtCollectionNo.Text()))
+        return {&txtCollectionNo, WithWayOut(u"संकलन क्रमांक टाका")};
+    if (!IsAdding())
+        return IsRowShown ? Missing() : Missing{&txtCollectionNo, Plain(u"Enter ने नोंद पाहा, मग पुढे")};
     const double number = Value(txtCollectionNo);
     const bool isOfASeries = number >= 1 && number <= HighestNumber && number == std::trunc(number);
-    return IsAdding() && !isOfASeries ? &txtCollectionNo : nullptr;
+    if (isOfASeries || txtCollectionNo.Text() == ProposedNo)
+        return {};
+    return {&txtCollectionNo, WithWayOut(u"हा क्रमांक चालत नाही : 1 ते 32766")};
 }
 
-Field* frmDailyCollection::UnfinishedFigure()
+frmDailyCollection::Missing frmDailyCollection::UnfinishedFigure()
 {
-    for (Field* figure : {&txtLiters, &txtFat, &txtRate, &txtAmount})
-        if (!IsNumeric(figure->Text()))
-            return figure;
-    if (Value(txtLiters) <= 0)
-        return &txtLiters;
-    return Value(txtFat) <= 0 || Value(txtFat) > HighestFat ? &txtFat : nullptr;
+    if (!IsNumeric(txtLiters.Text()) || Value(txtLiters) <= 0)
+        return {&txtLiters, LitersWanted()};
+    if (!IsNumeric(txtFat.Text()) || Value(txtFat) <= 0 || Value(txtFat) > HighestFat)
+        return {&txtFat, FatWanted()};
+    if (!IsNumeric(txtRate.Text()))
+        return {&txtRate, WithWayOut(u"दर टाका")};
+    return IsNumeric(txtAmount.Text()) ? Missing() : Missing{&txtAmount, WithWayOut(u"रक्कम टाका")};
 }
 
 // What the rate and the amount are made from. A rate that is typed makes the amount as soon as it is left.
@@ -212,7 +246,7 @@ void frmDailyCollection::cmbMemberName_LostFocus()
 
 void frmDailyCollection::MasKCollectionDate_LostFocus()
 {
-    MasKCollectionDate.InsistOnDate();
+    MasKCollectionDate.InsistOnDate(Wanted::Date());
 }
 
 QStringList frmDailyCollection::DayAndShift() const
@@ -239,8 +273,8 @@ bool frmDailyCollection::cmbCollectionTime_KeyDown(const QKeyEvent& key)
 void frmDailyCollection::cmbCollectionTime_LostFocus()
 {
     if (!IsShift(cmbCollectionTime.Text()))
-        cmbCollectionTime.SetFocus();
-    else if (IsAdding() && MasKCollectionDate.InsistOnDate())
+        cmbCollectionTime.SetFocus(Wanted::Shift());
+    else if (IsAdding() && MasKCollectionDate.InsistOnDate(Wanted::Date()))
         ShowNextNumber();
 }
 
@@ -255,7 +289,7 @@ void frmDailyCollection::txtCollectionNo_LostFocus()
 {
     const bool isPicked = std::exchange(IsPicked, false);
     const bool isSeen = IsRowShown;
-    if ((IsAdding() && !isPicked) || !MasKCollectionDate.InsistOnDate())
+    if ((IsAdding() && !isPicked) || !MasKCollectionDate.InsistOnDate(Wanted::Date()))
         return;
     const Recordset row(gCn,
         Sql(u"SELECT * FROM MilkCollections WHERE CollectionNo=", Value(txtCollectionNo), u" AND MemberNo=",
@@ -263,7 +297,7 @@ void frmDailyCollection::txtCollectionNo_LostFocus()
     if (!row.Eof()) {
         ShowRow(row);
         if (!isSeen && (GoingTo() == &cmdModify || GoingTo() == &cmdDelete))
-            txtCollectionNo.SetFocus(); // one look at it before it is written
+            txtCollectionNo.SetFocus(Plain(u"नोंद पाहा, मग पुन्हा दाबा")); // one look before it is written
         else if (IsDeleting() && !IsSteppingBack())
             cmdDelete.SetFocus();
     } else if (!IsAdding()) {
@@ -295,15 +329,15 @@ void frmDailyCollection::ShowRow(const Recordset& row)
 void frmDailyCollection::txtAnimal_LostFocus()
 {
     if (txtAnimal.IsEmpty())
-        txtAnimal.SetFocus();
+        txtAnimal.SetFocus(Wanted::Animal());
 }
 
 void frmDailyCollection::txtLiters_LostFocus()
 {
     if (txtAnimal.IsEmpty())
-        txtAnimal.SetFocus();
+        txtAnimal.SetFocus(Wanted::Animal());
     else if (Value(txtLiters) <= 0)
-        txtLiters.SetFocus();
+        txtLiters.SetFocus(LitersWanted());
 }
 
 void frmDailyCollection::txtFat_LostFocus()
@@ -312,21 +346,21 @@ void frmDailyCollection::txtFat_LostFocus()
         if (IsNumeric(field->Text()) && Value(*field) > 0)
             continue;
         field->SetText(QStringLiteral("0"));
-        field->SetFocus();
+        field->SetFocus(field == &txtFat ? FatWanted() : LitersWanted());
         return;
     }
     const double fat = Value(txtFat);
     txtFat.SetText(Format(fat, FatFormat));
     if (fat > HighestFat) {
-        txtFat.SetFocus();
+        txtFat.SetFocus(FatWanted());
         return;
     }
-    if (!MasKCollectionDate.InsistOnDate())
+    if (!MasKCollectionDate.InsistOnDate(Wanted::Date()))
         return;
     const FatRate found = LookupFatRate(MasKCollectionDate.Date(), Value(txtFat), txtAnimal.Text());
     if (found.outcome == FatRate::Outcome::NoChart) {
         gAppState.gCallerTag = QStringLiteral("1");
-        txtFat.SetFocus();
+        txtFat.SetFocus(WithWayOut(u"फॅट दराचा तक्ता नाही"));
         return;
     }
     if (found.outcome == FatRate::Outcome::Priced)

@@ -41,6 +41,7 @@ private:
     QWidget* Frame1 = nullptr; // holds DataGrid1
     bool IsRowShown = false; // the fields show a row of the books
     bool IsPicked = false; // the number comes from the member's list, and its row is to be shown
+    QString ProposedNo; // the number that the screen has put there itself
     QStringList NumberedFor; // the day and shift that the number shown stands for
     QStringList PricedFor; // what the amount that is shown was made for
 
@@ -82,9 +83,14 @@ private:
     std::vector<Field*> Fields();
 
     // Rules of the fields
-    Field* Unfinished();
-    Field* UnfinishedNumber();
-    Field* UnfinishedFigure();
+    struct Missing { // a field that has to be entered first, and what the guide line says of it; or none
+        Field* field = nullptr;
+        Caption wanted;
+    };
+    bool HasMissing();
+    Missing Unfinished();
+    Missing UnfinishedNumber();
+    Missing UnfinishedFigure();
     QStringList DayAndShift() const;
     QStringList Priced() const;
     void TakeMember(const Recordset& member);

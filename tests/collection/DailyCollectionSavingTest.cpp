@@ -231,7 +231,7 @@ TEST_F(DailyCollectionTest, ANumberBeyondTheCountersIsNotSaved)
             Type(clerk, number);
             Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}");
             EXPECT_EQ(Focus(clerk), "txtCollectionNo") << number;
-            EXPECT_EQ(Label(clerk, "lblGuide"), "1 ते 32766");
+            EXPECT_EQ(Label(clerk, "lblGuide"), "हा क्रमांक चालत नाही : 1 ते 32766    Alt+R : रद्द");
             EXPECT_EQ(Reads(clerk, "txtCollectionNo"), number);
             EXPECT_TRUE(Books().isEmpty()) << number;
         });
@@ -240,6 +240,67 @@ TEST_F(DailyCollectionTest, ANumberBeyondTheCountersIsNotSaved)
     EXPECT_EQ(Days(), Of({"15/04/2026|sakaL|32766|1|gaaya|5|4.5|35|175"}));
     InTheMorning([](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "32767"); });
     EXPECT_FALSE(Failure) << "the counter opens the shift";
+}
+
+TEST_F(DailyCollectionTest, ANumberThatTheScreenHasProposedItselfIsSaved)
+{
+    for (const int highest : {32766, 123456}) {
+        Run(QStringLiteral("delete * from MilkCollections"));
+        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("saMQyaakaL"), highest, 2,
+            QStringLiteral("saIta"), QStringLiteral("mhOsa"), 2, 8, 49, 98);
+        AddingFor(1, [&](Clerk& clerk) {
+            const std::string proposed = std::to_string(highest + 1);
+            EXPECT_EQ(Reads(clerk, "txtCollectionNo"), proposed);
+            Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}");
+            EXPECT_EQ(Days().last().toStdString(), "15/04/2026|sakaL|" + proposed + "|1|gaaya|5|4.5|35|175");
+        });
+    }
+}
+
+TEST_F(DailyCollectionTest, ASaveThatIsRefusedSaysWhatIsWanted)
+{
+    const std::pair<const char*, const char*> refused[] = {{"%s", "मेम्बर नंबर टाका    Alt+R : रद्द"},
+        {"77{ENTER}%s", "नाव टाका, किंवा ↓ ने यादीतून निवडा    Alt+R : रद्द"},
+        {"1{ENTER}%s", "दिनांक असा टाका : 15/04/2026    Esc : बाहेर"},
+        {"1{ENTER}{ENTER}15042026{ENTER}%s", "1 : सकाळ    2 : संध्याकाळ    Esc : बाहेर"},
+        {"3{ENTER}{ENTER}15042026{ENTER}1{ENTER}{BS}%s", "संकलन क्रमांक टाका    Alt+R : रद्द"},
+        {"3{ENTER}{ENTER}15042026{ENTER}1{ENTER}40000%s", "हा क्रमांक चालत नाही : 1 ते 32766    Alt+R : रद्द"},
+        {"3{ENTER}{ENTER}15042026{ENTER}1{ENTER}%s", "1 : गाय    2 : म्हैस    Esc : बाहेर"},
+        {"1{ENTER}{ENTER}15042026{ENTER}1{ENTER}%s", "लिटर टाका : 0 पेक्षा जास्त    Alt+R : रद्द"},
+        {"1{ENTER}{ENTER}15042026{ENTER}1{ENTER}{ENTER}{ENTER}5%s", "फॅट टाका : 0.1 ते 30.0    Alt+R : रद्द"}};
+    for (const auto& [keys, guide] : refused)
+        Adding([&, keys = keys, guide = guide](Clerk& clerk) {
+            Type(clerk, keys);
+            EXPECT_EQ(Label(clerk, "lblGuide"), guide) << keys;
+        });
+    for (const auto& [field, keys, guide] :
+        {std::tuple("txtLiters", "9%s", "नोंद बदलली : Enter ने दर व रक्कम पुन्हा काढा, मग सेव्ह"),
+            std::tuple(
+                "MasKCollectionDate", "18042026%s", "दिनांक किंवा वेळ बदलली : Enter ने नवा क्रमांक, मग सेव्ह")})
+        AddingFor(1, [&, field = field, keys = keys, guide = guide](Clerk& clerk) {
+            Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}");
+            Change(clerk, field, keys);
+            EXPECT_EQ(Label(clerk, "lblGuide"), guide);
+        });
+    EXPECT_TRUE(Books().isEmpty());
+}
+
+TEST_F(DailyCollectionTest, AFieldThatKeepsTheFocusSaysWhatItWants)
+{
+    const std::pair<const char*, const char*> kept[] = {
+        {"{ENTER}{ENTER}0{ENTER}", "लिटर टाका : 0 पेक्षा जास्त    Alt+R : रद्द"},
+        {"{ENTER}{ENTER}5{ENTER}0{ENTER}", "फॅट टाका : 0.1 ते 30.0    Alt+R : रद्द"},
+        {"{ENTER}{ENTER}5{ENTER}31{ENTER}", "फॅट टाका : 0.1 ते 30.0    Alt+R : रद्द"}};
+    for (const auto& [keys, guide] : kept)
+        AddingFor(1, [&, keys = keys, guide = guide](Clerk& clerk) {
+            Type(clerk, keys);
+            EXPECT_EQ(Label(clerk, "lblGuide"), guide) << keys;
+        });
+    Run(QStringLiteral("delete * from FatDates"));
+    AddingFor(1, [](Clerk& clerk) {
+        Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}");
+        EXPECT_EQ(Label(clerk, "lblGuide"), "फॅट दराचा तक्ता नाही    Alt+R : रद्द");
+    });
 }
 
 TEST_F(DailyCollectionTest, ANumberBeyondTheCountersThatIsInTheBooksCanBeDeletedHere)
