@@ -31,7 +31,7 @@ private:
     static std::string RateQuery()
     {
         const Recordset chart(gCn, QStringLiteral("select * from FatDates"));
-        return Sql(u"select * from ", chart[u"FatFileName"].Text(), u" where Fat=?").toStdString();
+        return QString(Sql(u"select * from ", chart[u"FatFileName"].Text(), u" where Fat=?")).toStdString();
     }
 
     FloorStatement m_charts{"select * from FatDates order by FromDate"};

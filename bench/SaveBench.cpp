@@ -56,7 +56,7 @@ std::vector<FloorSave::Row> FloorsRows()
 void RequireSameResult()
 {
     for (QStringView table : {u"MilkCollections", u"MilkCollectionsTemp"}) {
-        const QString rows =
+        const SqlText rows =
             Sql(u"select count(*),sum(Liters),sum(Fat),sum(Rate),sum(Amount),sum(CollectionNo) "
                 u"from ",
                 table, u" where CollectionDate=#", SavingDay.toString(QStringLiteral("MM/dd/yyyy")),

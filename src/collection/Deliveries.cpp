@@ -22,7 +22,7 @@ std::int16_t NextNumber(QStringView table, QStringView day, const Shift& shift)
 }
 
 // The row that a number of a shift stands for.
-QString TheRow(const Shift& shift, double number)
+SqlText TheRow(const Shift& shift, double number)
 {
     return Sql(u" where CollectionDate=", shift.Day(), u" and CollectionTime='", shift.time,
         u"' and CollectionNo=", number);

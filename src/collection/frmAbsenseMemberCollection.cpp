@@ -36,7 +36,7 @@ std::vector<DataGrid::Column> MemberColumns()
 }
 
 // The deliveries of a shift.
-QString Deliverers(const Shift& shift)
+SqlText Deliverers(const Shift& shift)
 {
     return Sql(u"SELECT MemberNo,MemberName FROM MilkCollections WHERE CollectionDate=", shift.Day(),
         u" AND CollectionTime='", shift.time, u"'");

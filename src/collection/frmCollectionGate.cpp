@@ -80,10 +80,10 @@ void frmCollectionGate::ComboMemberName_Change()
 // A field that was just emptied shows the whole shift.
 void frmCollectionGate::SearchNumber(const Field& field, QStringView column)
 {
-    Search(IsNumeric(field.Text()) ? Sql(u" WHERE ", column, u"=", Value(field)) : QString());
+    Search(IsNumeric(field.Text()) ? Sql(u" WHERE ", column, u"=", Value(field)) : SqlText());
 }
 
-void frmCollectionGate::Search(const QString& condition)
+void frmCollectionGate::Search(const SqlText& condition)
 {
     if (chkSerachMode.Checked())
         DataGridInwards.Bind(

@@ -2,6 +2,7 @@
 
 #include "CheckBox.h"
 #include "CounterScreen.h"
+#include "Sql.h"
 
 // The counter at the gate: the same deliveries, with a list that can be sorted, and searched by what is typed
 // into the line.
@@ -33,7 +34,7 @@ private:
     std::array<std::pair<Button*, QStringView>, 4> OrderButtons(); // each button and its column
     void ToggleOrder(Button& button, QStringView column);
     void SearchNumber(const Field& field, QStringView column);
-    void Search(const QString& condition);
+    void Search(const SqlText& condition);
 
     QLayout* ListAndTotals();
     QLayout* OrderLine();

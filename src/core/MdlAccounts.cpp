@@ -119,7 +119,7 @@ void ReadPassword()
     gAppState.gDbPassword = PasswordOfFile(file);
 }
 
-void FillCombo(NameCombo& combo, QStringView tableName, QStringView fieldName, QStringView tail)
+void FillCombo(NameCombo& combo, QStringView tableName, QStringView fieldName, const SqlText& tail)
 {
     QStringList names;
     for (Recordset rows(gCn, Sql(u"select * from ", tableName, u" ", tail)); !rows.Eof(); rows.MoveNext())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Connection.h"
+#include "Sql.h"
 
 #include <QDate>
 #include <QString>
@@ -60,7 +61,7 @@ bool LoadAppState();
 void ReadPassword();
 
 // Fills a combo's list with a column of "select * from TABLE TAIL", in the order of the query.
-void FillCombo(NameCombo& combo, QStringView tableName, QStringView fieldName, QStringView tail);
+void FillCombo(NameCombo& combo, QStringView tableName, QStringView fieldName, const SqlText& tail);
 
 // Sets flag to 0 if the field holds a date; else to 1, empties the field and sends the focus back to it.
 void CheckDateField(DateField& field, int& flag);

@@ -37,7 +37,7 @@ int frmMembers::NextMemberNo() const
 
 void frmMembers::LoadLists()
 {
-    const QString ofCompany = Sql(u"where CompanyId=", gAppState.gCompanyId, u" ORDER BY ");
+    const SqlText ofCompany = Sql(u"where CompanyId=", gAppState.gCompanyId, u" ORDER BY ");
     FillCombo(ComboMemberName, u"MembersMaster", u"MemberName", u"order by MemberName");
     FillCombo(ComboCity, u"CityMaster", u"CityName", Sql(ofCompany, u"CityName"));
     FillCombo(ComboBankName, u"BankMaster", u"BankName", Sql(ofCompany, u"BankName"));

@@ -78,15 +78,17 @@ bool frmReportMilkCollections::HoldAnimal()
 // The rows of the choices. The day is compared as text.
 QString frmReportMilkCollections::Selection() const
 {
-    QString statement =
+    SqlText statement =
         Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where CStr(CollectionDate)='",
             MaskUserDate.Text());
     const bool oneShift = !OptionBoth.Chosen();
     if (oneShift)
-        statement += Sql(u"' and CollectionTime='", OptionMorning.Chosen() ? u"sakaL" : u"saMQyaakaL");
+        statement =
+            Sql(statement, u"' and CollectionTime='", OptionMorning.Chosen() ? u"sakaL" : u"saMQyaakaL");
     if (ComboAnimal.Text() != BothAnimals)
-        statement += Sql(oneShift ? u"' and  Animal='" : u"' and Animal='", ComboAnimal.Text());
-    return statement + u'\'';
+        statement = oneShift ? Sql(statement, u"' and  Animal='", ComboAnimal.Text())
+                             : Sql(statement, u"' and Animal='", ComboAnimal.Text());
+    return Sql(statement, u"'");
 }
 
 void frmReportMilkCollections::cmdReport_Click()

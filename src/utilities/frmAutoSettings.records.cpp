@@ -107,7 +107,7 @@ QStringView frmAutoSettings::DecimalPaymentWord()
 
 QString frmAutoSettings::InsertStatement()
 {
-    constexpr QStringView next = u"','";
+    constexpr char16_t next[] = u"','";
     return Sql(u"insert into AutoSettings(CompanyId,AutoLiters,AutoFat,PrintStatus,MSRPrintStatus,"
                u"CanLimitBuff,CanLimitCow,ReceiptType,RepeatCollection,PaymentDuration,PurchaseEntry,"
                u"UchalEntry,DecimalPayment,ThevKapatCow,ThevKapatBuff,SalesRateCow,SalesRateBuff,"

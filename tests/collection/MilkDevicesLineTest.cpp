@@ -17,7 +17,7 @@ protected:
         DevicePlay::Measure measure;
         measure.receiverCommand = "RD";
         auto device = std::make_unique<DeviceSimulator>(*DevicePlay::Of(Latin(kind), measure), manner, 2ms);
-        const QString link = LocalAppFile(Sql(u"COM", port));
+        const QString link = LocalAppFile(QStringLiteral("COM%1").arg(port));
         QFile::remove(link);
         EXPECT_TRUE(QFile::link(device->Device(), link));
         return device;

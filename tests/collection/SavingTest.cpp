@@ -229,6 +229,25 @@ TEST_F(SavingTest, AnApostropheInAMembersNameFailsTheStatementAndChangesNothing)
     }
 }
 
+TEST_F(SavingTest, ANameThatReadsAsWordsOfTheStatementReachesNoOtherMember)
+{
+    // As the screen of the members takes it, and doubled once more.
+    for (const char* name : {"x'' or ''a''=''a", "x'''' or ''''a''''=''''a"}) {
+        for (const char* entry : {"Collection", "Payment"}) {
+            Set("PurchaseEntry", entry);
+            gCn.RunScript(QStringLiteral("update MembersMaster set MemberName='%1' where MemberNo=1")
+                              .arg(QString::fromLatin1(name)));
+            const QStringList before = Rows(QStringLiteral("select * from MembersMaster order by MemberNo"));
+            InTheMorning([](Clerk& clerk) { Deliver(clerk, 1, "2", "4.5"); });
+            ASSERT_TRUE(Failure) << name << entry;
+            EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
+            EXPECT_FALSE(Failure->Statement().isEmpty());
+            EXPECT_EQ(Rows(QStringLiteral("select * from MembersMaster order by MemberNo")), before);
+            EXPECT_TRUE(Books().isEmpty()) << name << entry;
+        }
+    }
+}
+
 TEST_F(SavingTest, AFailureBetweenTheTwoTablesLeavesNeitherWithTheRow)
 {
     InTheMorning([](Clerk& clerk) {

@@ -28,7 +28,7 @@ void InsertDeliveries()
     for (const char* values : {"'14/04/2026','sakaL',1,1,'rama','gaaya',5,4.5,35,175,0,'6.01')",
              "'15/04/2026','sakaL',1,1,'rama','gaaya',6,4.5,35,210,0,'6.02')",
              "'15/04/2026','sakaL',2,2,'saIta','mhOsa',4,7.1,47.65,190.6,0,'6.03')"})
-        gCn.Execute(Sql(u"insert into MilkCollections", columns, QString::fromLatin1(values)));
+        gCn.Execute(QStringLiteral("insert into MilkCollections") + columns + QString::fromLatin1(values));
     gCn.Execute(Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where CollectionNo=2"));
 }
 

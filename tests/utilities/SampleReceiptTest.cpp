@@ -27,9 +27,10 @@ protected:
     {
         QFile file(FolderFile(name + QStringLiteral(".rpt")));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(Sql(u"<report name=\"", name,
-            u"\" paper=\"A4\">\n<source name=\"r\" table=\"MilkReceipt\"/>\n"
-            u"<table source=\"r\"><col w=\"*\" head=\"No\">{MemberNo}</col></table>\n</report>\n")
+        file.write(QStringLiteral(
+            "<report name=\"%1\" paper=\"A4\">\n<source name=\"r\" table=\"MilkReceipt\"/>\n"
+            "<table source=\"r\"><col w=\"*\" head=\"No\">{MemberNo}</col></table>\n</report>\n")
+                       .arg(name)
                        .toUtf8());
     }
 

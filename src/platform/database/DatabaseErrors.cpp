@@ -60,6 +60,14 @@ void DatabaseErrors::ThrowRefused(const char* english, QStringView statement)
         Shown(statement));
 }
 
+void DatabaseErrors::ThrowApostrophe(QStringView statement)
+{
+    throw RunTimeError(RunTimeError::DatabaseFailure,
+        Sentences(u"माहितीत ' हे चिन्ह चालत नाही; काहीही जतन झाले नाही. त्या चिन्हाशिवाय पुन्हा भरा.",
+            QStringLiteral("A value holds an apostrophe ('); nothing was saved.")),
+        Shown(statement));
+}
+
 void DatabaseErrors::ThrowMismatch(QStringView value, QStringView statement)
 {
     throw RunTimeError(RunTimeError::TypeMismatch,

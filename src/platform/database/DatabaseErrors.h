@@ -13,6 +13,9 @@ namespace DatabaseErrors {
 // A statement that isn't one of the system's is not run.
 [[noreturn]] void ThrowRefused(const char* english, QStringView statement);
 
+// A value that holds an apostrophe never reaches the engine.
+[[noreturn]] void ThrowApostrophe(QStringView statement);
+
 // A text that isn't the number or the date that its column holds.
 [[noreturn]] void ThrowMismatch(QStringView value, QStringView statement);
 

@@ -7,39 +7,62 @@
 #include <QString>
 
 #include <concepts>
+#include <utility>
 
-// Puts a statement together: texts go in as they stand (no escaping), numbers in their shortest form.
+// A statement, or a piece of one, that Sql has put together. It may go into further pieces with the quotes
+// that it holds. Where it is handed over as a text (to be run, to be bound to a list), a value in it that
+// holds an apostrophe is the run-time error of a failed statement: doubled or not, the apostrophe would end
+// the value's own quotes, and the rest of the value would be read as the statement's words.
+class SqlText {
+public:
+    SqlText() = default;
+
+    // Words of the statement itself, quotes and all.
+    template <std::size_t N> SqlText(const char16_t (&words)[N]) : m_text(QStringView(words).toString()) { }
+
+    operator QString() const
+    {
+        if (m_isBroken)
+            ThrowBroken();
+        return m_text;
+    }
+
+private:
+    template <class... Pieces> friend SqlText Sql(const Pieces&... pieces);
+
+    void Append(QStringView words) { m_text += words; }
+    void Append(const SqlText& piece)
+    {
+        m_text += piece.m_text;
+        m_isBroken = m_isBroken || piece.m_isBroken;
+    }
+    void AppendValue(QStringView value)
+    {
+        m_text += value;
+        m_isBroken = m_isBroken || value.contains(u'\'');
+    }
+    void AppendValue(double number) { m_text += ShortestDecimal(number); }
+    void AppendValue(float number) { m_text += ShortestDecimal(number); }
+    void AppendValue(std::integral auto number) { m_text += QString::number(number); }
+
+    template <std::size_t N> void Take(const char16_t (&words)[N]) { Append(QStringView(words)); }
+    void Take(const SqlText& piece) { Append(piece); }
+    template <class Value> void Take(const Value& value) { AppendValue(value); }
+
+    [[noreturn]] void ThrowBroken() const;
+
+    QString m_text;
+    bool m_isBroken = false;
+};
+
+// Puts a statement together: words written out here go in as they stand, and so does what Sql has made
+// before; any other text is a value, which may hold no apostrophe; numbers go in in their shortest form.
 // Sql(u"select * from T where No=", n, u" and Name='", name, u"'")
-namespace SqlPieces {
-
-inline void Append(QString& sql, QStringView text)
+template <class... Pieces> SqlText Sql(const Pieces&... pieces)
 {
-    sql += text;
-}
-inline void Append(QString& sql, const QString& text)
-{
-    sql += text;
-}
-inline void Append(QString& sql, double number)
-{
-    sql += ShortestDecimal(number);
-}
-inline void Append(QString& sql, float number)
-{
-    sql += ShortestDecimal(number);
-}
-inline void Append(QString& sql, std::integral auto number)
-{
-    sql += QString::number(number);
-}
-
-}
-
-template <class... Pieces> QString Sql(const Pieces&... pieces)
-{
-    QString sql;
-    sql.reserve(256);
-    (SqlPieces::Append(sql, pieces), ...);
+    SqlText sql;
+    sql.m_text.reserve(256);
+    (sql.Take(pieces), ...);
     return sql;
 }
 

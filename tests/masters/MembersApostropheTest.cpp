@@ -1,0 +1,108 @@
+#include "MembersTest.h"
+
+namespace {
+
+// A name that would end its own quotes in a statement and go on as the statement's words: as it is typed,
+// doubled, and as it would stand in the books then.
+const QString Doubled = QStringLiteral("x'' or ''a''=''a");
+const QString Single = QStringLiteral("x' or 'a'='a");
+
+// Three members, each with an entry in every table that knows members by number or by name.
+class MembersApostrophe : public MembersTest {
+protected:
+    MembersApostrophe()
+    {
+        int number = 0;
+        for (const QString& name :
+            {QStringLiteral("rama"), QStringLiteral("Xyaama"), QStringLiteral("gaNaoXa")}) {
+            AddMember(++number, name);
+            AddCollection(number, name, 10);
+            AddPayment(number, name, 5);
+            AddUchal(number, 3);
+            AddReceipt(number, QStringLiteral("Uchal Receipt"), 2);
+            AddDeduction(number, QStringLiteral("zova"), 1);
+            AddVoucher(name, QStringLiteral("raoK"));
+        }
+    }
+
+    // All rows of all tables that the screen writes.
+    QStringList Books()
+    {
+        QStringList rows;
+        for (const char* table : {"MembersMaster", "MilkCollections", "MilkPayments", "TransactionsMaster",
+                 "TransactionsDetails", "AdvanceReceipt", "MilkPaymentsDetails", "CityMaster", "BankMaster"})
+            rows += Rows(QStringLiteral("select * from ") + QLatin1String(table));
+        return rows;
+    }
+
+    void StoreName(int number, const QString& name)
+    {
+        QString quoted = name;
+        quoted.replace(QStringLiteral("'"), QStringLiteral("''"));
+        gCn.RunScript(QStringLiteral("update MembersMaster set MemberName='%1' where MemberNo=%2")
+                          .arg(quoted)
+                          .arg(number));
+    }
+
+    void ExpectFailureAndBooks(const QStringList& before)
+    {
+        ASSERT_TRUE(Failure);
+        EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
+        EXPECT_TRUE(Failure->Statement().contains(u'\'')) << Failure->what();
+        EXPECT_EQ(Books(), before);
+    }
+};
+
+TEST_F(MembersApostrophe, NoNewMemberIsStoredUnderSuchAName)
+{
+    for (const QString& name : {Doubled, Single}) {
+        const QStringList before = Books();
+        Play([&](Clerk& clerk) {
+            clerk.Type(QStringLiteral("%n"));
+            FillNewMember(clerk, name);
+            clerk.Type(QStringLiteral("%s"));
+        });
+        ExpectFailureAndBooks(before);
+    }
+}
+
+TEST_F(MembersApostrophe, NoMemberIsRenamedToSuchAName)
+{
+    const QStringList before = Books();
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        clerk.Type(Typed(Doubled) + QStringLiteral("{ENTER}%s%h"));
+    });
+    ExpectFailureAndBooks(before);
+}
+
+TEST_F(MembersApostrophe, AMemberWhoIsStoredSoIsRenamedNowhere)
+{
+    StoreName(1, Single);
+    const QStringList before = Books();
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        clerk.Type(QStringLiteral("ramaa{ENTER}%s%h"));
+    });
+    ExpectFailureAndBooks(before);
+}
+
+TEST_F(MembersApostrophe, TheDeletionOfAMemberWhoIsStoredSoTakesNobodysVouchers)
+{
+    StoreName(1, Single);
+    const QStringList before = Books();
+    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h")); });
+    ExpectFailureAndBooks(before);
+}
+
+TEST_F(MembersApostrophe, NoVillageIsAddedUnderSuchAName)
+{
+    const QStringList before = Books();
+    Play([](Clerk& clerk) {
+        clerk.Type(
+            QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}") + Typed(Doubled) + QStringLiteral("{ENTER}%h"));
+    });
+    ExpectFailureAndBooks(before);
+}
+
+}

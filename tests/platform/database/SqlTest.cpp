@@ -1,0 +1,83 @@
+#include "Sql.h"
+#include "DatabaseTest.h"
+
+namespace {
+
+class SqlTest : public DatabaseTest {
+protected:
+    SqlTest()
+    {
+        Run("insert into CityMaster(CompanyId,CityName) values(1,'gaava')");
+        Run("insert into CityMaster(CompanyId,CityName) values(2,'sahr')");
+    }
+
+    // The statement that the failure of `sql` tells; empty if it doesn't fail as a statement fails.
+    QString Told(const SqlText& sql)
+    {
+        try {
+            connection.Execute(sql);
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.Number(), RunTimeError::DatabaseFailure);
+            EXPECT_TRUE(error.Happened().contains(QStringLiteral("apostrophe"))) << error.what();
+            return error.Statement();
+        }
+        return {};
+    }
+
+    QString Cities() { return One("select count(*) from CityMaster where CityName in ('gaava','sahr')"); }
+};
+
+TEST_F(SqlTest, AnApostropheInAValueFailsTheStatement)
+{
+    for (const char* value : {"'", "''", "ga'ava", "ga''ava", "x'' or ''a''=''a", "x' or 'a'='a", "gaava'",
+             "'gaava", "''''", "x'';", "1' --"}) {
+        const QString name = QString::fromUtf8(value);
+        EXPECT_EQ(Told(Sql(u"delete * from CityMaster where CityName='", name, u"'")),
+            QStringLiteral("delete * from CityMaster where CityName='") + name + u'\'');
+        EXPECT_EQ(Told(Sql(u"update CityMaster set CityName='", QStringView(name), u"' where CompanyId=", 1)),
+            QStringLiteral("update CityMaster set CityName='") + name
+                + QStringLiteral("' where CompanyId=1"));
+        EXPECT_FALSE(Told(Sql(u"delete * from ", name)).isEmpty()) << "no quotes around it: " << value;
+        EXPECT_EQ(Cities(), QStringLiteral("2")) << value;
+    }
+}
+
+TEST_F(SqlTest, AnApostropheThatStandsInTheBooksFailsTheNextStatement)
+{
+    connection.RunScript(
+        QStringLiteral("insert into CityMaster(CompanyId,CityName) values(3,'x'' or ''a''=''a')"));
+    const QString stored = One("select CityName from CityMaster where CompanyId=3");
+    EXPECT_EQ(stored, QStringLiteral("x' or 'a'='a"));
+    EXPECT_FALSE(Told(Sql(u"delete * from CityMaster where CityName='", stored, u"'")).isEmpty());
+    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("3"));
+}
+
+TEST_F(SqlTest, APieceThatSqlHasMadeKeepsItsQuotes)
+{
+    const QString name = QStringLiteral("gaava");
+    const SqlText condition = Sql(u" where CityName='", name, u"'");
+    EXPECT_EQ(
+        connection.Execute(Sql(u"update CityMaster set CompanyId=7", condition, u" and CompanyId=1")), 1);
+    const SqlText words(u" where CityName='sahr'");
+    EXPECT_EQ(connection.Execute(Sql(u"delete * from CityMaster", words)), 1);
+}
+
+TEST_F(SqlTest, APieceWithABrokenValueBreaksTheWholeStatement)
+{
+    const QString name = QStringLiteral("ga'ava");
+    const SqlText condition = Sql(u" where CityName='", name, u"'");
+    EXPECT_EQ(Told(Sql(Sql(u"delete * from CityMaster", condition), u" and CompanyId=", 1)),
+        QStringLiteral("delete * from CityMaster where CityName='ga'ava' and CompanyId=1"));
+    EXPECT_EQ(Cities(), QStringLiteral("2"));
+}
+
+TEST_F(SqlTest, EveryOtherSignOfAValueIsCarried)
+{
+    const QString name = QStringLiteral("a\" or \"1\"=\"1 # ; -- /* ? %_ [x] \\ ") + QChar(0x2019);
+    connection.Execute(Sql(u"insert into CityMaster(CompanyId,CityName) values(", 3, u",'", name, u"')"));
+    EXPECT_EQ(One("select CityName from CityMaster where CompanyId=3"), name);
+    EXPECT_EQ(connection.Execute(Sql(u"delete * from CityMaster where CityName='", name, u"'")), 1);
+    EXPECT_EQ(Cities(), QStringLiteral("2"));
+}
+
+}
