@@ -321,7 +321,7 @@ TEST_F(EntryChainTest, WithoutAChartTheLineIsGivenUpAndTheShiftOpenedAnew)
 TEST_F(EntryChainTest, AChartWhoseTableIsGoneEndsTheProgram)
 {
     AtTheFat([this](Clerk& clerk) {
-        Run(QStringLiteral("drop table Fat010426"));
+        gCn.RunScript(QStringLiteral("drop table Fat010426"));
         Type(clerk, "4.5{ENTER}");
     });
     ASSERT_TRUE(Failure);

@@ -72,7 +72,7 @@ TEST_F(StartUp, AnEmptyCompanySelectedTurnsTheCompanyIntoZeroAndGoesOn)
 
 TEST_F(StartUp, TheCompanyIs1BeforeItIsReadAndStays1WhenTheReadingStopsWithAnError)
 {
-    Run(QStringLiteral("drop table CompanySelected"));
+    gCn.RunScript(QStringLiteral("drop table CompanySelected"));
     gAppState.gCompanyId = 7;
     EXPECT_EQ(ErrorOfStart(), RunTimeError::DatabaseFailure);
     EXPECT_EQ(gAppState.gCompanyId, 1);

@@ -133,7 +133,7 @@ TEST_F(MembersDelete, NoKeepsTheRecord)
 
 TEST_F(MembersDelete, AFailureInTheLastTableKeepsTheRowsOfAllOthers)
 {
-    Run(QStringLiteral("drop table MilkPaymentsDetails"));
+    gCn.RunScript(QStringLiteral("drop table MilkPaymentsDetails"));
     Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h")); });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Statement(),

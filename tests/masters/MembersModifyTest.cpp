@@ -210,8 +210,8 @@ TEST_F(MembersModify, AFailureInTheLastRenameLeavesEverythingAsItWas)
 {
     AddEntriesOf(QStringLiteral("rama"));
     const QStringList before = NamesElsewhere();
-    Run(QStringLiteral("drop table TransactionsMaster"));
-    Run(QStringLiteral("create table TransactionsMaster(CompanyId INTEGER,DAccountName TEXT)"));
+    gCn.RunScript(QStringLiteral("drop table TransactionsMaster"));
+    gCn.RunScript(QStringLiteral("create table TransactionsMaster(CompanyId INTEGER,DAccountName TEXT)"));
     Run(QStringLiteral("insert into TransactionsMaster(CompanyId,DAccountName) values(1,'rama')"));
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);

@@ -127,7 +127,7 @@ TEST_F(LookupFatRateTest, AChartWithoutATableNameIsNoChart)
 
 TEST_F(LookupFatRateTest, AChartWhoseTableIsGoneIsARunTimeError)
 {
-    Run(QStringLiteral("drop table Fat010707"));
+    gCn.RunScript(QStringLiteral("drop table Fat010707"));
     try {
         InJuly(4.5);
         FAIL() << "a missing chart was priced";

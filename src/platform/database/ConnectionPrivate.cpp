@@ -42,6 +42,7 @@ void Loan::End()
 Connection::Private::Private(const OpenedFile& opened)
     : m_handle(opened.handle)
     , m_onDisk(opened.onDisk)
+    , m_guard(opened.handle)
     , m_catalogue(opened.handle)
     , m_cache(opened.handle)
 {
@@ -93,11 +94,12 @@ int Connection::Private::Execute(const QString& statement)
 int Connection::Private::Run(Loan& loan, const QString& statement)
 {
     const StatementKind kind = loan->Made().kind;
-    const bool isSchema = kind == StatementKind::Create || kind == StatementKind::Drop;
+    const bool isSchema = kind == StatementKind::Create;
     if (kind != StatementKind::Query) {
         RequireTransaction();
         KeepRests(isSchema ? nullptr : &loan->Made());
     }
+    m_guard.Begin();
     int code = SQLITE_ROW;
     while (code == SQLITE_ROW)
         code = sqlite3_step(loan.Handle());
@@ -114,6 +116,7 @@ void Connection::Private::RunScript(const QString& script)
 {
     RequireTransaction();
     KeepRests(nullptr);
+    const StatementGuard::Aside aside(m_guard);
     const int code = sqlite3_exec(m_handle, script.toUtf8().constData(), nullptr, nullptr, nullptr);
     ForgetShapes();
     if (code != SQLITE_OK)
@@ -167,6 +170,7 @@ void Connection::Private::RequireUntouchedFiles()
 
 int Connection::Private::RunOwn(const QByteArray& own)
 {
+    const StatementGuard::Aside aside(m_guard);
     return sqlite3_exec(m_handle, own.constData(), nullptr, nullptr, nullptr);
 }
 

@@ -4,6 +4,7 @@
 #include "DatabaseFile.h"
 #include "Recordset.h"
 #include "StatementCache.h"
+#include "StatementGuard.h"
 
 #include <deque>
 
@@ -76,6 +77,7 @@ public:
 
     sqlite3* Handle() const { return m_handle; }
     StatementCache& Cache() { return m_cache; }
+    StatementGuard& Guard() { return m_guard; }
 
     // Makes a statement ready to step, with its literals bound.
     Loan Take(const QString& statement);
@@ -110,6 +112,7 @@ private:
 
     sqlite3* m_handle;
     std::shared_ptr<BooksOnDisk> m_onDisk;
+    StatementGuard m_guard;
     Catalogue m_catalogue;
     StatementCache m_cache;
     ScannedStatement m_scanned;

@@ -41,6 +41,10 @@ constexpr Reason Reasons[] = {
         "The database file can't be opened. Check the permissions of its folder."},
     {SQLITE_NOMEM, u"मेमरी संपली आहे. दुसरे प्रोग्राम बंद करा आणि पुन्हा सुरू करा.",
         "There is no memory left. Close other programs and start again."},
+    {SQLITE_AUTH, u"हे विधान चालवू दिले जात नाही; काहीही बदलले नाही.",
+        "The statement isn't one of the system's; nothing was changed."},
+    {SQLITE_INTERRUPT, u"हे काम फार वेळ चालले म्हणून थांबवले; काहीही जतन झाले नाही. पुन्हा सुरू करा.",
+        "The statement took too long and was ended; nothing was saved. Start again."},
     {SQLITE_MISMATCH, u"माहितीचा प्रकार जुळत नाही; काहीही जतन झाले नाही.", "Type mismatch; nothing was saved."},
 };
 

@@ -36,6 +36,7 @@ Recordset::Private::Private(Connection::Private& connection, const QString& quer
 {
     if (m_loan->Made().kind != StatementKind::Query)
         DatabaseErrors::ThrowRefused("A record set takes a select.", query);
+    connection.Guard().Begin();
     Step();
     connection.Add(this);
 }
@@ -91,8 +92,10 @@ void Recordset::Private::MoveNext()
     if (m_eof)
         throw RunTimeError(RunTimeError::NoCurrentRecord,
             Sentences(u"यादी संपली आहे.", QStringLiteral("There is no current record.")), m_query);
-    if (!m_isKept)
+    if (!m_isKept) {
+        m_connection->Guard().Begin();
         return Step();
+    }
     m_rows.pop_front();
     m_eof = m_rows.empty();
 }
@@ -143,6 +146,7 @@ void Recordset::Private::KeepRest(const Translation* writing)
     if (m_eof || m_isKept || (writing && !IsTouchedBy(*writing)))
         return;
     std::deque<std::vector<FieldValue>> rows;
+    m_connection->Guard().Begin();
     do {
         rows.push_back(ReadRow());
         Step();

@@ -34,7 +34,7 @@ TranslatorWork::TranslatorWork(Catalogue& catalogue, const ScannedStatement& sca
 Translation TranslatorWork::Run()
 {
     FindKind();
-    if (m_made.kind == StatementKind::Create || m_made.kind == StatementKind::Drop) {
+    if (m_made.kind == StatementKind::Create) {
         for (int i = 0; i < m_tokens.Count(); ++i)
             UseInLine(i);
     } else {
@@ -74,11 +74,9 @@ void TranslatorWork::FindKind()
             m_tokens.Replace(1, QString());
     } else if (m_tokens.IsWord(0, u"create") && m_tokens.IsWord(1, u"table")) {
         m_made.kind = StatementKind::Create;
-    } else if (m_tokens.IsWord(0, u"drop") && m_tokens.IsWord(1, u"table")) {
-        m_made.kind = StatementKind::Drop;
     } else {
         DatabaseErrors::ThrowRefused(
-            "It is none of select, insert into, update, delete, create table, drop table.", m_statement);
+            "It is none of select, insert into, update, delete, create table.", m_statement);
     }
 }
 

@@ -17,7 +17,7 @@ enum class LiteralUse : quint8 {
     InLine, // part of the statement itself: no parameter
 };
 
-enum class StatementKind { Query, Insert, Update, Delete, Create, Drop };
+enum class StatementKind { Query, Insert, Update, Delete, Create };
 
 // A statement in the engine's words, and all that is known of its shape.
 struct Translation {

@@ -1,5 +1,6 @@
 #include "DatabaseTest.h"
 
+#include "ConnectionPrivate.h"
 #include "Transaction.h"
 
 #include <QCryptographicHash>
@@ -77,6 +78,7 @@ TEST_F(ConnectionTest, OpensWhatItMade)
 
 TEST_F(ConnectionTest, IsSafeAgainstPowerCuts)
 {
+    const StatementGuard::Aside asking(connection.d()->Guard());
     for (const auto& [pragma, value] :
         {std::pair("pragma journal_mode", "wal"), std::pair("pragma synchronous", "2"),
             std::pair("pragma foreign_keys", "0"), std::pair("pragma busy_timeout", "5000")}) {
@@ -203,7 +205,7 @@ TEST_F(ConnectionTest, CountsTheRowsThatItChanges)
         EXPECT_EQ(Run("insert into CityMaster(CompanyId,CityName) values(1,'a')"), 1);
     EXPECT_EQ(Run("update CityMaster set CityName='b' where CompanyId=1"), 3);
     EXPECT_EQ(Run("select * from CityMaster"), 0);
-    EXPECT_EQ(Run("create table T(A TEXT)"), 0);
+    EXPECT_EQ(Run("create table Fat150307(Fat TEXT,CowRate TEXT,BuffRate TEXT)"), 0);
     EXPECT_EQ(Run("delete * from CityMaster where CompanyId=2"), 0);
     EXPECT_EQ(Run("Delete * From CityMaster;"), 3);
 }

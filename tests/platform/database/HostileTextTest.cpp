@@ -46,10 +46,10 @@ TEST_F(HostileTextTest, RunsNoStatementOfTheEnginesOwn)
             "update or ignore CityMaster set CompanyId=2", "alter table CityMaster rename to X",
             "create index i on CityMaster(CompanyId)", "create view v as select 1", "drop view MRView",
             "create trigger t after insert on CityMaster begin delete from CityMaster; end",
-            "create temp table x(a)", "create virtual table x using fts4(a)",
-            "drop index MilkCollectionsByShift", "with x as (select 1) delete from CityMaster", "values(1)",
-            "delete from sqlite_master", "update sqlite_master set sql=''",
-            "insert into sqlite_master values('a','b','c',1,'d')"})
+            "create temp table x(a)", "drop table CityMaster", "create table Towns(A TEXT)",
+            "create virtual table x using fts4(a)", "drop index MilkCollectionsByShift",
+            "with x as (select 1) delete from CityMaster", "values(1)", "delete from sqlite_master",
+            "update sqlite_master set sql=''", "insert into sqlite_master values('a','b','c',1,'d')"})
         ExpectRefused(QString::fromUtf8(statement));
 }
 

@@ -114,7 +114,7 @@ TEST_F(RecordsetTest, SurvivesTheDroppingOfItsTable)
     Run("insert into Fat150307 values(4,5,6)");
     Run("insert into Fat150307 values(7,8,9)");
     Recordset rows = Rows("select * from Fat150307");
-    Run("drop table Fat150307");
+    connection.RunScript(QStringLiteral("drop table Fat150307"));
     rows.MoveNext();
     EXPECT_EQ(rows.At(0).Text(), QStringLiteral("7"));
 }
@@ -170,7 +170,7 @@ TEST_F(RecordsetTest, SeesATableMadeAnewUnderAnOldName)
     Run("create table Fat150307(Fat TEXT,CowRate TEXT,BuffRate TEXT)");
     Run("insert into Fat150307 values(4.50,5,6)");
     EXPECT_EQ(One("select * from Fat150307 where Fat='4.5'"), QStringLiteral("4.5"));
-    Run("drop table Fat150307");
+    connection.RunScript(QStringLiteral("drop table Fat150307"));
     Run("create table Fat150307(Fat REAL,CowRate REAL)");
     Run("insert into Fat150307 values(4.50,5)");
     EXPECT_EQ(One("select * from Fat150307 where Fat='4.5'"), QStringLiteral("4.5"));

@@ -1,0 +1,88 @@
+#include "StatementGuard.h"
+
+#include <sqlcipher/sqlite3.h>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace {
+
+// After so many of the engine's small steps (some milliseconds) it asks whether to go on.
+constexpr int StepsBetweenQuestions = 500'000;
+
+// What the engine can do beyond the rows: run statements of a text, load code.
+constexpr std::array DeniedFunctions{"sqlcipher_export", "load_extension", "fts3_tokenizer"};
+
+// What may be asked of the engine at any time; it changes nothing. The first tells the translator a table's
+// columns.
+constexpr std::array AllowedPragmas{"table_info", "integrity_check", "quick_check"};
+
+bool IsOneOf(const char* name, const auto& names)
+{
+    return std::any_of(
+        names.begin(), names.end(), [name](const char* each) { return sqlite3_stricmp(name, each) == 0; });
+}
+
+// "Fat" and six digits: the day that a rate chart is made for.
+bool IsChart(std::string_view table)
+{
+    constexpr std::string_view Start = "Fat";
+    return table.size() == Start.size() + 6 && table.starts_with(Start)
+        && std::all_of(
+            table.begin() + Start.size(), table.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+bool IsAllowed(int action, const char* first, const char* second)
+{
+    switch (action) {
+    case SQLITE_SELECT:
+    case SQLITE_READ:
+    case SQLITE_INSERT: // the engine itself guards its own tables
+    case SQLITE_UPDATE:
+    case SQLITE_DELETE:
+    case SQLITE_TRANSACTION:
+    case SQLITE_RECURSIVE:
+        return true;
+    case SQLITE_FUNCTION:
+        return !IsOneOf(second, DeniedFunctions);
+    case SQLITE_PRAGMA:
+        return IsOneOf(first, AllowedPragmas);
+    case SQLITE_CREATE_TABLE:
+        return IsChart(first);
+    default:
+        return false;
+    }
+}
+
+}
+
+StatementGuard::StatementGuard(sqlite3* handle)
+{
+    sqlite3_set_authorizer(handle, Authorize, this);
+    sqlite3_progress_handler(handle, StepsBetweenQuestions, Progress, this);
+}
+
+int StatementGuard::Authorize(
+    void* guard, int action, const char* first, const char* second, const char*, const char*)
+{
+    const bool isAside = static_cast<StatementGuard*>(guard)->m_aside > 0;
+    return isAside || IsAllowed(action, first, second) ? SQLITE_OK : SQLITE_DENY;
+}
+
+int StatementGuard::Progress(void* guard)
+{
+    return static_cast<StatementGuard*>(guard)->IsOverdue() ? 1 : 0;
+}
+
+// The clock is read here and not at the beginning of each run: nearly all are over before the first question.
+bool StatementGuard::IsOverdue()
+{
+    const Clock::time_point now = Clock::now();
+    if (m_run != m_timedRun) {
+        m_timedRun = m_run;
+        m_since = now;
+        return false;
+    }
+    return m_aside == 0 && now - m_since >= m_bound;
+}
