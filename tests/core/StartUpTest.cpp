@@ -128,6 +128,17 @@ TEST_F(StartUp, EachMenuNameFillsItsOwnFlag)
     EXPECT_EQ(gAppState.gAccessUtilities, 7);
 }
 
+TEST_F(StartUp, TheBlanksAroundASettingAreNoPartOfIt)
+{
+    Run(QStringLiteral("update AutoSettings set PaymentDuration=' 7 idvasa ',AutoFat=' haoya ',"
+                       "AutoLiters=' haoya ',WeighScale=' MCS '"));
+    ASSERT_TRUE(StartAgain());
+    EXPECT_EQ(gAppState.gPaymentDuration, QStringLiteral("7 idvasa"));
+    EXPECT_EQ(gAppState.gAutoFat, QStringLiteral("haoya"));
+    EXPECT_EQ(gAppState.gAutoLiters, QStringLiteral("haoya"));
+    EXPECT_EQ(gAppState.gWeighScale, QStringLiteral("MCS"));
+}
+
 TEST_F(StartUp, ARightBeyond16BitsOverflowsAndOneOfAnUnknownNameIsIgnored)
 {
     const QString set =
