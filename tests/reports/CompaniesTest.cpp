@@ -1,0 +1,150 @@
+// Two companies in one file: whose rows the statement and the list of members stage, and that what belongs to
+// no company is tidied away.
+
+#include "ReportsTest.h"
+
+#include "Sql.h"
+#include "frmReportMembersList.h"
+#include "frmReportMilkPS.h"
+
+#include <QApplication>
+#include <QEvent>
+
+#include <utility>
+
+namespace {
+
+constexpr const char* OfTheMember = "13042026{ENTER}15042026{ENTER}{ENTER}gaNaoSa%i";
+constexpr const char* OfTheCustomer = "13042026{ENTER}15042026{ENTER}{DOWN}{ENTER}dUQa saMGa%i";
+
+// The second company has a member and a customer of the same names; theirs stand first in the books.
+class StatementCompaniesTest : public ReportsTest {
+protected:
+    StatementCompaniesTest()
+    {
+        InCompany(2, [this] {
+            AddMember(33, QStringLiteral("gaNaoSa"));
+            AddDelivery("13/04/2026", "sakaL", 1, 33, "gaNaoSa", "gaaya", 99, 4, 30);
+            AddSale("13/04/2026", "sakaL", 1, "dUQa saMGa", "gaaya", 88, 4, 8.5);
+        });
+        AddMember(3, QStringLiteral("gaNaoSa"));
+    }
+
+    static void InCompany(int company, const std::function<void()>& action)
+    {
+        const int before = std::exchange(gAppState.gCompanyId, company);
+        action();
+        gAppState.gCompanyId = before;
+    }
+
+    QStringList Staged()
+    {
+        return Rows(QStringLiteral("select CompanyId,MemberNo,LitersM,LitersE from MilkCollectionsME"));
+    }
+
+    // Lets a counter open the screen over what lies in the copy.
+    void StageForACounter()
+    {
+        Run(QStringLiteral("insert into MilkCollectionsTemp select * from MilkCollections"));
+        gAppState.gReportMode = QStringLiteral("ShowMilkCollection");
+        On<frmReportMilkPS>([](Clerk& clerk) { EXPECT_EQ(clerk.ScreenName(), QString()); });
+        EXPECT_FALSE(Failure);
+    }
+};
+
+TEST_F(StatementCompaniesTest, AMembersStatementHasTheRowsAndTheNumberOfItsOwnCompany)
+{
+    AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
+    Type<frmReportMilkPS>(OfTheMember);
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Staged(), QStringList(QStringLiteral("1|3|10|0")));
+    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,Liters from MilkCollectionsTemp")),
+        QStringList(QStringLiteral("1|10")));
+    EXPECT_EQ(Rows(QStringLiteral("select CompanyId from ReportDates")), QStringList(QStringLiteral("1")));
+}
+
+TEST_F(StatementCompaniesTest, ACustomersStatementHasTheSalesOfItsOwnCompany)
+{
+    AddSale("13/04/2026", "sakaL", 5, "dUQa saMGa", "gaaya", 10, 4, 8.5);
+    Type<frmReportMilkPS>(OfTheCustomer);
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Staged(), QStringList(QStringLiteral("1|0|10|0")));
+    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,Liters from MilkSalesTemp")),
+        QStringList(QStringLiteral("1|10")));
+}
+
+TEST_F(StatementCompaniesTest, ACountersCopyMayHoldBothAndItsLinesAreThoseOfTheSelectedOne)
+{
+    AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
+    StageForACounter();
+    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,LitersM from MilkCollectionsME")),
+        QStringList(QStringLiteral("1|10")));
+}
+
+TEST_F(StatementCompaniesTest, TheDatesAreStagedWhenTheLinesStand)
+{
+    AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
+    gCn.RunScript(QStringLiteral("create trigger Watch before insert on ReportDates begin "
+                                 "insert into KapatDetails(MemberNo) "
+                                 "select count(*) from MilkCollectionsME; end"));
+    Type<frmReportMilkPS>(OfTheMember);
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Rows(QStringLiteral("select MemberNo from KapatDetails")), QStringList(QStringLiteral("1")));
+}
+
+TEST_F(StatementCompaniesTest, LinesOfNoCompanyAreTidiedAway)
+{
+    gAppState.gCompanyId = 0;
+    AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
+    Type<frmReportMilkPS>(OfTheMember);
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(One(QStringLiteral("select count(*) from MilkCollectionsTemp")), QStringLiteral("1"));
+    EXPECT_EQ(Staged(), QStringList());
+    StageForACounter();
+    EXPECT_EQ(Staged(), QStringList());
+}
+
+// Notes when a report screen is shown.
+class ShowWatch final : public QObject {
+public:
+    ShowWatch() { qApp->installEventFilter(this); }
+    int Shown = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show && dynamic_cast<frmReportMilkPS*>(watched))
+            ++Shown;
+        return false;
+    }
+};
+
+TEST_F(StatementCompaniesTest, ForACounterTheScreenComesUpAndIsLeftByTheEscThatIsSent)
+{
+    ShowWatch watch;
+    StageForACounter();
+    EXPECT_EQ(watch.Shown, 1);
+}
+
+// The list of members
+
+using MembersCompaniesTest = StatementCompaniesTest;
+
+TEST_F(MembersCompaniesTest, TheListHasTheMembersOfBothAsRowsOfTheSelectedOne)
+{
+    Type<frmReportMembersList>("%i");
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,MemberNo from MembersListReport")),
+        QStringList({QStringLiteral("1|33"), QStringLiteral("1|3")}));
+}
+
+TEST_F(MembersCompaniesTest, RowsOfNoCompanyAreTidiedAway)
+{
+    gAppState.gCompanyId = 0;
+    Type<frmReportMembersList>("%i");
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(One(QStringLiteral("select count(*) from MembersListReport")), QStringLiteral("0"));
+    EXPECT_EQ(TheWindow.Shown.size(), 1U);
+}
+
+}

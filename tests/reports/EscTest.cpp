@@ -1,0 +1,69 @@
+// Esc empties the fields of a report screen before it closes.
+
+#include "ReportsTest.h"
+
+#include "frmReportMembersList.h"
+#include "frmReportMilkCollections.h"
+#include "frmReportMilkPS.h"
+#include "frmReportPaymentList.h"
+
+namespace {
+
+// A report screen and the keys that fill its fields.
+struct Statement {
+    using Screen = frmReportMilkPS;
+    static constexpr const char* Keys = "13042026{ENTER}15042026{ENTER}{ENTER}gaNaoSa{ENTER}";
+    static constexpr int Fields = 3;
+};
+struct CollectionList {
+    using Screen = frmReportMilkCollections;
+    static constexpr const char* Keys = "15042026{ENTER}gaaya{ENTER}";
+    static constexpr int Fields = 2;
+};
+struct MembersList {
+    using Screen = frmReportMembersList;
+    static constexpr const char* Keys = "%2{ENTER}kraD{ENTER}";
+    static constexpr int Fields = 1;
+};
+struct PaymentList {
+    using Screen = frmReportPaymentList;
+    static constexpr const char* Keys = "15042026{ENTER}";
+    static constexpr int Fields = 1;
+};
+
+template <class S> class ReportEscTest : public ReportsTest {
+protected:
+    // How many fields of a screen hold a text.
+    static int Filled(const ::Screen& screen)
+    {
+        int filled = 0;
+        for (const Control* control : screen.Controls()) {
+            const auto* field = dynamic_cast<const Field*>(control);
+            filled += field && !field->IsEmpty() && field->Text() != u"__/__/____" ? 1 : 0;
+        }
+        return filled;
+    }
+};
+
+using Screens = testing::Types<Statement, CollectionList, MembersList, PaymentList>;
+TYPED_TEST_SUITE(ReportEscTest, Screens);
+
+TYPED_TEST(ReportEscTest, TheFieldsAreEmptyWhenTheScreenHasClosed)
+{
+    this->AddMember(3, QStringLiteral("gaNaoSa"));
+    this->Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'kraD')"));
+    this->TheClerk.Play(
+        [this] {
+            typename TypeParam::Screen screen;
+            screen.ShowModal();
+            EXPECT_EQ(this->Filled(screen), 0);
+        },
+        [this](Clerk& clerk) {
+            clerk.Type(QString::fromLatin1(TypeParam::Keys));
+            EXPECT_EQ(this->Filled(clerk.Top()), TypeParam::Fields);
+            clerk.Type(QStringLiteral("{ESC}"));
+            EXPECT_EQ(clerk.ScreenName(), QString());
+        });
+}
+
+}
