@@ -2,6 +2,7 @@
 #include "BooksFile.h"
 #include "Processes.h"
 #include "ProgramTest.h"
+#include "ScreenDirectory.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -152,6 +153,23 @@ TEST_F(BooksKeptTest, TheEnginesLockStandsAfterEachSlipPreviewFileAndScreen)
         EXPECT_EQ(LogSize(), 0);
     });
     EXPECT_FALSE(IsLocked());
+}
+
+TEST_F(BooksKeptTest, TheEnginesLockStandsAfterEveryScreen)
+{
+    gAppState.gAppDate = QDate(2026, 4, 15);
+    for (const char* name : {"frmMembers", "frmCollectionGate", "frmMilkCollections", "frmDailyCollection",
+             "frmSearchCollections", "frmAbsenseMemberCollection", "frmAutoSettings", "frmReportMilkPS",
+             "frmReportMilkCollections", "frmReportMembersList", "frmReportPaymentList"}) {
+        const QString screen = QString::fromLatin1(name);
+        Failure = TheClerk.Play([&] { ScreenDirectory::Open(screen, Plain(screen)); },
+            [&](Clerk& clerk) {
+                EXPECT_EQ(clerk.ScreenName(), screen);
+                Type(clerk, "{ENTER}{ENTER}{ESC}");
+            });
+        EXPECT_FALSE(Failure) << name;
+        EXPECT_TRUE(IsLocked()) << name;
+    }
 }
 
 TEST_F(BooksKeptTest, LeavingAScreenFoldsTheLogIntoTheBooks)
