@@ -43,5 +43,5 @@ public:
 class SilentBox final : public MessageBox {
 public:
     QStringList Shown;
-    void Show(const QString& text) override { Shown.append(text); }
+    void Show(const QString& text, const QString&) override { Shown.append(text); }
 };

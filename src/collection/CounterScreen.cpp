@@ -220,7 +220,7 @@ void CounterScreen::ComboMemberName_LostFocus()
 {
     const QString name = ComboMemberName.Text().trimmed();
     if (name.isEmpty()) {
-        ShowNotice(u"maombarcao naaMva vyavaisqat Ta[-p kra");
+        ShowNotice(Shivaji(u"maombarcao naaMva vyavaisqat Ta[-p kra"));
         ComboMemberName.SetFocus(Wanted::Name());
         return;
     }

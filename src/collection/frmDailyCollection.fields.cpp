@@ -301,7 +301,7 @@ void frmDailyCollection::txtCollectionNo_LostFocus()
         else if (IsDeleting() && !IsSteppingBack())
             cmdDelete.SetFocus();
     } else if (!IsAdding()) {
-        ShowNotice(u"saMklana naM tpasaa.");
+        ShowNotice(Shivaji(u"saMklana naM tpasaa."));
         cmdCancel_Click();
     }
 }

@@ -67,7 +67,7 @@ void frmAppDate::MaskAppDate_LostFocus()
     if (MaskAppDate.HoldsDate())
         return;
     DateBad = 1;
-    ShowNotice(u" idnaaMk vyavaisqat Ta[-p kra.");
+    ShowNotice(Shivaji(u" idnaaMk vyavaisqat Ta[-p kra."));
     MaskAppDate.SetDate(World::Current().clock->Now().date());
     MaskAppDate.SetFocus();
 }

@@ -196,6 +196,6 @@ void MainMenuFrm::LeaveSubList(MenuList& list)
 void MainMenuFrm::LeaveSystem()
 {
     ScreenDirectory::Open(QStringLiteral("frmBackup"), Shivaji(u"ba^k Ap\\ fa[-lsa"));
-    if (Ask(u"saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ"))
+    if (Ask(Shivaji(u"saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ")))
         Close();
 }

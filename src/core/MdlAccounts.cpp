@@ -5,6 +5,7 @@
 #include "BooksOpening.h"
 #include "DateField.h"
 #include "Dates.h"
+#include "Messages.h"
 #include "ModalStack.h"
 #include "NameCombo.h"
 #include "Numbers.h"
@@ -13,7 +14,6 @@
 #include "Recordset.h"
 #include "RunTimeError.h"
 #include "Sql.h"
-#include "World.h"
 
 #include <QFile>
 
@@ -74,7 +74,7 @@ bool LoadAccessFlags()
     gAppState.gAdminLoggedIn = QStringLiteral("NO");
     Recordset rights(gCn, QStringLiteral("SELECT * FROM MenuAccessTable"));
     if (rights.Eof()) {
-        World::Current().messageBox->Show(QStringLiteral("Contact Service provider for Technical Support"));
+        ShowPlain(QStringLiteral("Contact Service provider for Technical Support"));
         return false;
     }
     for (; !rights.Eof(); rights.MoveNext())

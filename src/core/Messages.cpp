@@ -9,7 +9,9 @@
 
 int frmMessages::MessageAnswer = 0;
 
-frmMessages::frmMessages(Mode mode, const Caption& message) : Screen("frmMessages")
+frmMessages::frmMessages(Mode mode, const Caption& message, OnEnter onEnter)
+    : Screen("frmMessages")
+    , m_onEnter(onEnter)
 {
     When(cmdOkYes.Click, &frmMessages::cmdOkYes_Click);
     When(cmdCancelNo.Click, &frmMessages::cmdCancelNo_Click);
@@ -33,6 +35,12 @@ frmMessages::frmMessages(Mode mode, const Caption& message) : Screen("frmMessage
     body->addWidget(lblMessage2.Widget());
     body->addLayout(Layout::ButtonRow({&cmdOkYes, &cmdCancelNo, &cmdExit}));
     Layout::Stack(*this, nullptr, body, nullptr);
+}
+
+void frmMessages::Load()
+{
+    if (m_onEnter == OnEnter::No)
+        cmdCancelNo.SetFocus();
 }
 
 void frmMessages::cmdOkYes_Click()
@@ -59,20 +67,19 @@ void frmMessages::Dismiss()
     Close();
 }
 
-void ShowNotice(QStringView stored)
+void ShowNotice(const Caption& notice)
 {
-    frmMessages notice(frmMessages::Mode::Notice, Words(stored));
-    notice.ShowModal();
+    frmMessages(frmMessages::Mode::Notice, notice).ShowModal();
 }
 
-bool Ask(QStringView stored)
+bool Ask(const Caption& question, OnEnter onEnter)
 {
-    frmMessages question(frmMessages::Mode::Question, Words(stored));
-    question.ShowModal();
-    return question.Answered() && frmMessages::MessageAnswer == 1;
+    frmMessages dialog(frmMessages::Mode::Question, question, onEnter);
+    dialog.ShowModal();
+    return dialog.Answered() && frmMessages::MessageAnswer == 1;
 }
 
-void ShowPlain(const QString& text)
+void ShowPlain(const QString& text, const QString& title)
 {
-    World::Current().messageBox->Show(text);
+    World::Current().messageBox->Show(text, title);
 }

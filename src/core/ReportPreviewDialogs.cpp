@@ -31,13 +31,6 @@ QString ProposedName(const QString& report)
     return name + u' ' + World::Current().clock->Now().toString(QStringLiteral("dd-MM-yyyy"));
 }
 
-bool AskPlain(const QString& text)
-{
-    frmMessages question(frmMessages::Mode::Question, Plain(text));
-    question.ShowModal();
-    return question.Answered() && frmMessages::MessageAnswer == 1;
-}
-
 }
 
 frmReportFile::frmReportFile(const QString& report, const QString& ending)
@@ -91,7 +84,7 @@ void frmReportFile::cmdSave_Click()
         ShowPlain(QStringLiteral("या नावाचा फोल्डर आहे. फाइलला दुसरे नाव द्या.\n%1")
                       .arg(QDir::toNativeSeparators(wanted)));
         txtFile.SetFocus();
-    } else if (file.exists() && !AskPlain(QStringLiteral("या नावाची फाइल आधीच आहे. ती बदलायची का?"))) {
+    } else if (file.exists() && !Ask(Plain(u"या नावाची फाइल आधीच आहे. ती बदलायची का?"), OnEnter::No)) {
         txtFile.SetFocus();
     } else {
         FileName = wanted;

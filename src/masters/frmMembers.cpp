@@ -183,7 +183,7 @@ void frmMembers::SaveModified()
 {
     if (!AreRequiredFieldsFilled())
         return;
-    if (Ask(u"roka^D- na@kI badlaayacao ka Æ")) {
+    if (Ask(Shivaji(u"roka^D- na@kI badlaayacao ka Æ"))) {
         ComputeClosingBalance();
         Transaction saving(gCn);
         gCn.Execute(UpdateStatement());
@@ -213,7 +213,8 @@ void frmMembers::DeleteFound()
         Hold(txtMemberNo);
         return;
     }
-    if (Ask(u"maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ")) {
+    if (Ask(Shivaji(u"maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ"),
+            OnEnter::No)) {
         Transaction deleting(gCn);
         DeleteEverywhere();
         deleting.Commit();

@@ -40,7 +40,7 @@ double Reformat(NumberField& field, QStringView pattern)
 
 void frmMembers::Refuse(Field& field, QStringView message)
 {
-    ShowNotice(message);
+    ShowNotice(Shivaji(message));
     Hold(field);
 }
 
@@ -114,7 +114,7 @@ void frmMembers::OfferToAdd(NameCombo& combo, QStringView table, QStringView col
                             .Eof();
     if (known)
         return;
-    if (!Ask(question)) {
+    if (!Ask(Shivaji(question))) {
         Hold(combo);
         return;
     }

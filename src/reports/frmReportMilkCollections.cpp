@@ -47,7 +47,7 @@ bool frmReportMilkCollections::HoldDate()
 {
     if (MaskUserDate.HoldsDate())
         return true;
-    ShowNotice(u"idnaaMk vyavaisqat Ta[-p kra");
+    ShowNotice(Shivaji(u"idnaaMk vyavaisqat Ta[-p kra"));
     MaskUserDate.SetFocus(Wanted::Date());
     return false;
 }

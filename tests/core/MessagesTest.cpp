@@ -14,12 +14,12 @@ protected:
 
     void AskOf(const std::function<void(Clerk&)>& script)
     {
-        TheClerk.Play([this] { m_answer = Ask(u"roka^D- na@kI badlaayacao ka Æ"); }, script);
+        TheClerk.Play([this] { m_answer = Ask(Shivaji(u"roka^D- na@kI badlaayacao ka Æ")); }, script);
     }
 
     void NoticeOf(const std::function<void(Clerk&)>& script)
     {
-        TheClerk.Play([] { ShowNotice(u"yaa naavaacao roka^D- Agaaodrca Aaho"); }, script);
+        TheClerk.Play([] { ShowNotice(Shivaji(u"yaa naavaacao roka^D- Agaaodrca Aaho")); }, script);
     }
 
     void PromptOf(const std::function<void(Clerk&)>& script)
@@ -60,6 +60,34 @@ TEST_F(Messages, TheButtonsReadHaoyaNaahiAndPuzo)
         EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("puZo"));
         EXPECT_EQ(LabelOf(clerk, "lblMessages"), Seen(QStringLiteral("roka^D- na@kI badlaayacao ka Æ")));
     });
+}
+
+TEST_F(Messages, AQuestionThatDestroysIsANoOnEnter)
+{
+    frmMessages::MessageAnswer = 1;
+    bool answer = true;
+    TheClerk.Play([&] { answer = Ask(Shivaji(u"roka^D- na@kI KaoDayacao ka Æ"), OnEnter::No); },
+        [](Clerk& clerk) {
+            EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdCancelNo"));
+            clerk.Type(QStringLiteral("{ENTER}"));
+            EXPECT_EQ(clerk.ScreenName(), QString());
+        });
+    EXPECT_FALSE(answer);
+    EXPECT_EQ(frmMessages::MessageAnswer, 0);
+}
+
+TEST_F(Messages, APlainQuestionIsReadAsItIsWrittenAndSoIsAPlainNotice)
+{
+    TheClerk.Play([] { Ask(Plain(u"Are You Sure to Save ?")); },
+        [](Clerk& clerk) {
+            EXPECT_EQ(LabelOf(clerk, "lblMessages"), QStringLiteral("Are You Sure to Save ?"));
+            clerk.Type(QStringLiteral("{ENTER}"));
+        });
+    TheClerk.Play([] { ShowNotice(Plain(u"Saved")); },
+        [](Clerk& clerk) {
+            EXPECT_EQ(LabelOf(clerk, "lblMessages"), QStringLiteral("Saved"));
+            clerk.Type(QStringLiteral("{ENTER}"));
+        });
 }
 
 TEST_F(Messages, TheKeysOfTheCaptionsAnswer)

@@ -26,7 +26,7 @@ void Say(const char* what, const QString& text)
 
 class SpokenBox final : public MessageBox {
 public:
-    void Show(const QString& text) override { Say("box", text); }
+    void Show(const QString& text, const QString&) override { Say("box", text); }
 };
 
 // The same morning as in the tests, so that the same rows are written.

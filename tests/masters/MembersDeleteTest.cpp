@@ -87,6 +87,18 @@ TEST_F(MembersDelete, WithoutANumberThePressGoesBackToIt)
     EXPECT_EQ(RowCounts(), before);
 }
 
+TEST_F(MembersDelete, AnEnterTooManyDeletesNothing)
+{
+    const QStringList before = RowCounts();
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}"));
+        EXPECT_EQ(clerk.Message(), DeleteQuestion);
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
+    });
+    EXPECT_EQ(RowCounts(), before);
+}
+
 TEST_F(MembersDelete, YesTakesTheMemberOutOfAllSevenTables)
 {
     Play([](Clerk& clerk) {

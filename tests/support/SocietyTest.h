@@ -29,7 +29,7 @@ public:
 class FakeMessageBox final : public MessageBox {
 public:
     QStringList Shown;
-    void Show(const QString& text) override { Shown.append(text); }
+    void Show(const QString& text, const QString&) override { Shown.append(text); }
 };
 
 // A society made fresh for each test, its books open and its state loaded, with one clerk at the keyboard.

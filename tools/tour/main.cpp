@@ -26,10 +26,10 @@ class TourBox final : public MessageBox {
 public:
     bool ClerkIsThere = true;
 
-    void Show(const QString& text) override
+    void Show(const QString& text, const QString& title) override
     {
         if (ClerkIsThere)
-            World::Real().messageBox->Show(text);
+            World::Real().messageBox->Show(text, title);
         else
             QTextStream(stderr) << text << '\n';
     }

@@ -25,8 +25,8 @@ class MessageBox {
 public:
     virtual ~MessageBox() = default;
 
-    // Returns when the clerk has closed the box.
-    virtual void Show(const QString& text) = 0;
+    // Returns when the clerk has closed the box. An empty title is the program's name.
+    virtual void Show(const QString& text, const QString& title = {}) = 0;
 };
 
 // What the program asks of the machine around it. Whoever replaces a part (a test, the tour) owns it.
