@@ -1,12 +1,14 @@
 #pragma once
 
 #include "Button.h"
+#include "FreshKeys.h"
 #include "Screen.h"
 
 // What Enter answers to a question.
 enum class OnEnter { Yes, No };
 
-// The program's own message dialog: a notice to go on from, or a question.
+// The program's own message dialog: a notice to go on from, or a question. It takes only keys that were
+// pressed after it was painted.
 class frmMessages final : public Screen {
 public:
     enum class Mode { Notice, Question };
@@ -34,6 +36,7 @@ private:
     void Dismiss();
 
     OnEnter m_onEnter;
+    FreshKeys m_keys{*this};
     bool m_answered = false;
 };
 

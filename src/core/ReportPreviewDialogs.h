@@ -2,6 +2,7 @@
 
 #include "Button.h"
 #include "Field.h"
+#include "FreshKeys.h"
 #include "MenuList.h"
 #include "Screen.h"
 
@@ -41,6 +42,7 @@ public:
 private:
     Label lblTitle{this, "lblTitle"};
     MenuList lstPrinters{this, "lstPrinters"};
+    FreshKeys m_keys{*this}; // nothing is printed by a key that was meant for the page
 
     void Enter() override { lstPrinters.Choose(); }
     void lstPrinters_Chosen();

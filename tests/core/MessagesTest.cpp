@@ -1,8 +1,11 @@
 #include "SocietyTest.h"
 
 #include "Messages.h"
+#include "ModalStack.h"
 #include "Narrations.h"
 #include "ScreenFace.h"
+
+#include <QKeyEvent>
 
 namespace {
 
@@ -88,6 +91,43 @@ TEST_F(Messages, APlainQuestionIsReadAsItIsWrittenAndSoIsAPlainNotice)
             EXPECT_EQ(LabelOf(clerk, "lblMessages"), QStringLiteral("Saved"));
             clerk.Type(QStringLiteral("{ENTER}"));
         });
+}
+
+TEST_F(Messages, KeysThatWereTypedAheadOfAQuestionOrANoticeAreThrownAway)
+{
+    for (const char* keys : {"{ENTER}{ENTER}", "%h", "{ESC}", "{TAB}{ENTER}"}) {
+        frmMessages::MessageAnswer = 0;
+        TheClerk.Play(
+            [&] {
+                for (const KeyStroke& stroke : ParseKeys(QString::fromLatin1(keys)))
+                    QMetaObject::invokeMethod(
+                        qApp,
+                        [stroke] {
+                            QKeyEvent press(QEvent::KeyPress, stroke.key, stroke.modifiers, stroke.text);
+                            QCoreApplication::sendEvent(ModalStack::Current().Top()->KeyTarget(), &press);
+                        },
+                        Qt::QueuedConnection);
+                m_answer = Ask(Shivaji(u"roka^D- na@kI badlaayacao ka Æ"));
+            },
+            [keys](Clerk& clerk) {
+                EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMessages")) << keys;
+                EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdOkYes")) << keys;
+                clerk.Type(QStringLiteral("%n"));
+                EXPECT_EQ(clerk.ScreenName(), QString()) << keys;
+            });
+        EXPECT_FALSE(m_answer) << keys;
+    }
+}
+
+TEST_F(Messages, AKeyThatIsHeldDownAnswersNothing)
+{
+    AskOf([](Clerk& clerk) {
+        clerk.Do([] {
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+            QCoreApplication::sendEvent(ModalStack::Current().Top()->KeyTarget(), &held);
+        });
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMessages"));
+    });
 }
 
 TEST_F(Messages, TheKeysOfTheCaptionsAnswer)

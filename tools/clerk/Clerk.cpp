@@ -1,5 +1,6 @@
 #include "Clerk.h"
 
+#include "FreshKeys.h"
 #include "ModalStack.h"
 
 #include <QAbstractItemView>
@@ -30,6 +31,15 @@ QWidget* KeyTarget()
         return box;
     const Screen* screen = ModalStack::Current().Top();
     return screen ? screen->KeyTarget() : nullptr;
+}
+
+void Strike(const KeyStroke& stroke)
+{
+    QWidget* target = KeyTarget();
+    if (!target)
+        return;
+    QKeyEvent press(QEvent::KeyPress, stroke.key, stroke.modifiers, stroke.text);
+    QCoreApplication::sendEvent(target, &press);
 }
 
 void PaintInTheMiddle(QPainter& painter, const QSize& size, const QPixmap& window)
@@ -76,10 +86,13 @@ public:
         wanted();
     }
 
-    // Twice round the event loop, so that what the program has put off until its event ends is done, too.
+    // Twice round the event loop, so that what the program has put off until its event ends is done, too. A
+    // box that has come up is waited for until it takes keys: the clerk presses what he sees.
     void TurnWhenAtRest()
     {
-        QTimer::singleShot(0, qApp, [this] { QTimer::singleShot(0, qApp, [this] { Turn(); }); });
+        QTimer::singleShot(0, qApp, [this] {
+            QTimer::singleShot(0, qApp, [this] { FreshKeys::Awaited() ? TurnWhenAtRest() : Turn(); });
+        });
     }
 
     void Ask(std::function<void()> wanted)
@@ -131,15 +144,17 @@ void Clerk::Do(const std::function<void()>& action)
 
 void Clerk::Type(const QString& keys)
 {
-    for (const KeyStroke& stroke : ParseKeys(keys)) {
-        Do([stroke] {
-            QWidget* target = KeyTarget();
-            if (!target)
-                return;
-            QKeyEvent press(QEvent::KeyPress, stroke.key, stroke.modifiers, stroke.text);
-            QCoreApplication::sendEvent(target, &press);
-        });
-    }
+    for (const KeyStroke& stroke : ParseKeys(keys))
+        Do([stroke] { Strike(stroke); });
+}
+
+void Clerk::TypeAhead(const QString& keys)
+{
+    Do([keys] {
+        for (const KeyStroke& stroke : ParseKeys(keys))
+            QMetaObject::invokeMethod(
+                qApp, [stroke] { Strike(stroke); }, Qt::QueuedConnection);
+    });
 }
 
 void Clerk::Press(const QString& control)

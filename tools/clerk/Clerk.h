@@ -29,6 +29,11 @@ public:
     // Types keys in the form that SendKeys takes.
     void Type(const QString& keys);
 
+    // Types keys without looking up: all of them wait in the application's queue before the first is
+    // answered, and each goes to whatever window is on top when its turn comes. Returns when the program is
+    // at rest.
+    void TypeAhead(const QString& keys);
+
     // Presses a control of the screen on top with the mouse; a list on its current row.
     void Press(const QString& control);
 

@@ -1,6 +1,7 @@
 #include "World.h"
 
 #include "AppFolder.h"
+#include "FreshKeys.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -124,6 +125,7 @@ public:
         box.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
         box.setDefaultButton(QMessageBox::Ok);
         box.setEscapeButton(QMessageBox::Ok);
+        const FreshKeys keys(box);
         box.exec();
     }
 

@@ -20,7 +20,8 @@ public:
     virtual bool Start(const QString& program, bool maximised) = 0;
 };
 
-// The plain message box of the platform: one text, one button.
+// The plain message box of the platform: one text, one button. It takes only keys that were pressed after it
+// was painted.
 class MessageBox {
 public:
     virtual ~MessageBox() = default;

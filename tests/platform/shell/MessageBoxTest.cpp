@@ -1,3 +1,4 @@
+#include "FreshKeys.h"
 #include "World.h"
 
 #include <QApplication>
@@ -12,23 +13,60 @@
 
 namespace {
 
+QMessageBox* Box()
+{
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+}
+
+// Sends a key to the box that is up, if there is one.
+void Strike(Qt::Key key, bool repeated = false)
+{
+    QMessageBox* box = Box();
+    if (!box)
+        return;
+    QWidget* focus = box->focusWidget() ? box->focusWidget() : box;
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), repeated);
+    QApplication::sendEvent(focus, &press);
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, QString(), repeated);
+    QApplication::sendEvent(focus, &release);
+}
+
+// Puts a key behind all that waits in the application's queue.
+void StrikeLater(Qt::Key key)
+{
+    QMetaObject::invokeMethod(
+        qApp, [key] { Strike(key); }, Qt::QueuedConnection);
+}
+
+// Does something once the box takes keys.
+void WhenItListens(const std::function<void()>& action)
+{
+    QTimer::singleShot(0, qApp, [action] {
+        if (FreshKeys::Awaited())
+            WhenItListens(action);
+        else
+            action();
+    });
+}
+
 // Shows the box, lets `look` see it while it stands, and closes it with `key`. Returns whether it was shown.
-bool ShowBox(const QString& text, Qt::Key key, const std::function<void(QMessageBox&)>& look)
+bool ShowBox(const QString& text, Qt::Key key, const std::function<void(QMessageBox&)>& look,
+    const QString& title = {})
 {
     bool shown = false;
-    QTimer::singleShot(0, [&] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box)
-            return;
-        shown = true;
-        look(*box);
-        QWidget* focus = box->focusWidget() ? box->focusWidget() : box;
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-        QApplication::sendEvent(focus, &press);
-        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
-        QApplication::sendEvent(focus, &release);
-    });
-    World::Real().messageBox->Show(text);
+    QMetaObject::invokeMethod(
+        qApp,
+        [&] {
+            WhenItListens([&] {
+                shown = Box() != nullptr;
+                if (!shown)
+                    return;
+                look(*Box());
+                Strike(key);
+            });
+        },
+        Qt::QueuedConnection);
+    World::Real().messageBox->Show(text, title);
     return shown;
 }
 
@@ -45,6 +83,41 @@ TEST(MessageBoxTest, ShowsTheTextAsItStandsAboveOneButton)
         ASSERT_EQ(box.buttons().size(), 1);
         EXPECT_EQ(box.buttons().first()->text(), QStringLiteral("OK"));
     }));
+}
+
+TEST(MessageBoxTest, TheWindowBearsTheTitleOrElseTheNameOfTheProgram)
+{
+    EXPECT_TRUE(ShowBox(
+        QStringLiteral("Records Not Available"), Qt::Key_Return,
+        [](QMessageBox& box) { EXPECT_EQ(box.windowTitle(), QStringLiteral("Advance Records")); },
+        QStringLiteral("Advance Records")));
+}
+
+TEST(MessageBoxTest, KeysThatWereTypedAheadOfItAreThrownAway)
+{
+    for (int i = 0; i < 5; ++i)
+        StrikeLater(Qt::Key_Return);
+    EXPECT_TRUE(ShowBox(QStringLiteral("Duplicate Record"), Qt::Key_Return, LookAtNothing))
+        << "it stands until a key is pressed that came after it";
+}
+
+TEST(MessageBoxTest, KeysThatWaitedWhileItWasPaintedAreThrownAwayToo)
+{
+    QMetaObject::invokeMethod(
+        qApp, [] { Box()->repaint(); }, Qt::QueuedConnection);
+    StrikeLater(Qt::Key_Return);
+    EXPECT_TRUE(ShowBox(QStringLiteral("Duplicate Record"), Qt::Key_Return, LookAtNothing));
+}
+
+TEST(MessageBoxTest, AKeyThatIsHeldDownDoesNotCloseIt)
+{
+    bool stood = false;
+    EXPECT_TRUE(ShowBox(QStringLiteral("Duplicate Record"), Qt::Key_Return, [&](QMessageBox& box) {
+        for (int i = 0; i < 5; ++i)
+            Strike(Qt::Key_Return, true);
+        stood = box.isVisible();
+    }));
+    EXPECT_TRUE(stood);
 }
 
 TEST(MessageBoxTest, EnterOnEitherPadAndEscCloseIt)

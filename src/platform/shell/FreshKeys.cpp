@@ -1,0 +1,67 @@
+#include "FreshKeys.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTimer>
+#include <QWidget>
+
+namespace {
+
+int g_awaited = 0; // boxes that are up and take no key yet
+
+}
+
+FreshKeys::FreshKeys(QWidget& box) : m_box(box)
+{
+    qApp->installEventFilter(this);
+}
+
+FreshKeys::~FreshKeys()
+{
+    Turn(State::Open);
+}
+
+bool FreshKeys::Awaited()
+{
+    return g_awaited > 0;
+}
+
+bool FreshKeys::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Show:
+        if (watched == &m_box)
+            Turn(State::Unseen);
+        return false;
+    case QEvent::Hide:
+        if (watched == &m_box)
+            Turn(State::Open);
+        return false;
+    case QEvent::Paint:
+        if (watched == &m_box && m_state == State::Unseen)
+            Turn(State::Painted);
+        return false;
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+        return m_state != State::Open
+            || (m_box.isVisible() && static_cast<QKeyEvent*>(event)->isAutoRepeat());
+    default:
+        return false;
+    }
+}
+
+// When a box is painted, keys that were pressed before may still be on their way: it opens its ears after the
+// event loop has gone round with nothing left to deliver, twice, since the first round may have begun before.
+void FreshKeys::Turn(State state)
+{
+    g_awaited += (state == State::Open ? 0 : 1) - (m_state == State::Open ? 0 : 1);
+    m_state = state;
+    if (state != State::Painted)
+        return;
+    QTimer::singleShot(0, this, [this] {
+        QTimer::singleShot(0, this, [this] {
+            if (m_state == State::Painted)
+                Turn(State::Open);
+        });
+    });
+}
