@@ -177,7 +177,6 @@ TEST_F(DailyCollectionChangesTest, ARowIsShownBeforeItIsWritten)
                 Type(clerk, "1{ENTER}{ENTER}15042026{ENTER}1{ENTER}5+{TAB}");
                 ASSERT_EQ(Reads(clerk, "txtLiters"), "5");
                 clerk.Press(QString::fromLatin1(field));
-                Type(clerk, "{HOME}+{END}");
                 Type(clerk, other);
                 Type(clerk, mode[1] == 'd' ? "%s" : "%k");
                 EXPECT_EQ(Focus(clerk), "txtCollectionNo") << mode << field;

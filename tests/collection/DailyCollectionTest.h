@@ -34,7 +34,6 @@ protected:
     static void Change(Clerk& clerk, const char* field, const char* keys)
     {
         clerk.Press(QString::fromLatin1(field));
-        Type(clerk, "{HOME}+{END}");
         Type(clerk, keys);
     }
 

@@ -181,7 +181,7 @@ TEST_F(DateAndShiftTest, ChangingTheDateOpensAnEarlierDay)
         for (const char* field : {"txtCollectionNo", "txtMemberNo", "ComboMemberName", "txtAnimal",
                  "txtLiters", "txtFat", "txtRate", "cmdGo"})
             EXPECT_FALSE(CanEnter(clerk, field)) << field;
-        Type(clerk, "{HOME}14{ENTER}{ENTER}");
+        Type(clerk, "14042026{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "3");
         EXPECT_EQ(Copy(), Of({"2|2|saIta|mhOsa|2|8|49|98"}));

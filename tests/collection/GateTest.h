@@ -41,11 +41,7 @@ protected:
     }
 
     // With the mouse into a field, whose text is to be typed over.
-    static void PressAndSelect(Clerk& clerk, const char* field)
-    {
-        clerk.Press(QString::fromLatin1(field));
-        Type(clerk, "{HOME}+{END}");
-    }
+    static void PressAndSelect(Clerk& clerk, const char* field) { clerk.Press(QString::fromLatin1(field)); }
 
     static std::string ColourOf(Clerk& clerk, const char* control, QPalette::ColorRole role)
     {

@@ -67,6 +67,11 @@ void Control::SetGuide(const Caption& guide)
         m_screen->ShowGuide(guide);
 }
 
+bool Control::KeepsPress(bool)
+{
+    return false;
+}
+
 void Control::RunEvent(const Event& event)
 {
     m_screen->Run(event);

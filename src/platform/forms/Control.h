@@ -84,7 +84,11 @@ protected:
     // The focus has come or gone; the handlers run after this.
     virtual void ShowFocus(bool held);
 
-    // The mouse has moved caret or selection.
+    // The mouse is pressed here; `entering` if the focus has come with it. Returns true if the widget is to
+    // see nothing of the mouse until it is released.
+    virtual bool KeepsPress(bool entering);
+
+    // The mouse is released: it may have moved caret or selection.
     virtual void MouseDone() { }
 
     // The letter or figure that reaches the control with Alt; a null character if there is none. The control

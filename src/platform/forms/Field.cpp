@@ -45,10 +45,21 @@ QString Field::Seen() const
 void Field::ShowFocus(bool held)
 {
     Control::ShowFocus(held);
+    m_wasPressed = false;
     if (held)
         SelectAll();
     else
         Line().deselect();
+}
+
+// The press that brings the focus leaves the text as it was left by taking it.
+bool Field::KeepsPress(bool entering)
+{
+    if (std::exchange(m_wasPressed, true) && CaretByMouse())
+        return false;
+    if (!entering)
+        SelectAll();
+    return true;
 }
 
 void Field::TellChange(const QString& before) const

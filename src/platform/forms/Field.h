@@ -4,7 +4,7 @@
 
 class QLineEdit;
 
-// A one-line entry field. On taking the focus it selects its whole text.
+// A one-line entry field. On taking the focus it selects its whole text, whether by key or by mouse.
 class Field : public Control {
 public:
     Field(Screen* screen, const char* name);
@@ -31,12 +31,20 @@ public:
 protected:
     QLineEdit& Line() const;
     void ShowFocus(bool held) override;
+    bool KeepsPress(bool entering) override;
+
+    // Whether the mouse may put the caret into the text, from its second press on. A field of figures is
+    // typed anew as a whole: each press selects it.
+    virtual bool CaretByMouse() const { return false; }
 
     // Runs TextChanged if the text isn't what it was before.
     void TellChange(const QString& before) const;
 
     // Copies what is seen; true if the key asked for it.
     bool CopyKey(const QKeyEvent& key) const;
+
+private:
+    bool m_wasPressed = false; // by the mouse, since the focus came
 };
 
 // A number as the clerk types it: digits, and where it has decimals a point. All other keys are dropped.
@@ -100,4 +108,5 @@ public:
 protected:
     bool KeyPress(const QKeyEvent& key) override;
     void Insert(const QString& text) override;
+    bool CaretByMouse() const override { return true; }
 };

@@ -362,13 +362,18 @@ bool Screen::eventFilter(QObject* watched, QEvent* event)
         return true;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        return static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton || !PressedByMouse(*control);
+        if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
+            return true;
+        m_mouseIsKept = !PressedByMouse(*control);
+        return m_mouseIsKept;
+    case QEvent::MouseMove:
+        return m_mouseIsKept;
     case QEvent::MouseButtonRelease:
         if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
             return true;
         if (control == m_holder)
             Run([this] { m_holder->MouseDone(); });
-        return false;
+        return std::exchange(m_mouseIsKept, false);
     default:
         return false;
     }
@@ -471,11 +476,13 @@ bool Screen::AnswerMnemonic(const QKeyEvent& key)
     return false;
 }
 
-// Returns whether the control holds the focus now, so that the press may reach it.
+// Returns whether the press may reach the widget: the control holds the focus now, and has no use of its own
+// for it.
 bool Screen::PressedByMouse(Control& control)
 {
     if (!m_open || !control.CanTakeFocus())
         return false;
+    const bool entering = m_holder != &control;
     Run([&] { MoveTo(&control, !IsCancel(control)); });
-    return m_holder == &control;
+    return m_holder == &control && !control.KeepsPress(entering);
 }

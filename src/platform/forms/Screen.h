@@ -153,6 +153,7 @@ private:
     int m_step = 0; // of the move that is running: 1 on, -1 back, 0 straight to a control
     Control* m_straightTo = nullptr; // that control
     bool m_leaving = false; // a LostFocus is running
+    bool m_mouseIsKept = false; // from the widget that was pressed, until it is released
     Label* m_guideLabel = nullptr;
     Label* m_titleLabel = nullptr;
     Caption m_title;

@@ -29,6 +29,7 @@ protected:
     void ShowComposition(const QString& text) override;
     void MouseDone() override;
     void ShowFocus(bool held) override;
+    bool CaretByMouse() const override { return true; }
 
     // The text has changed, by the clerk or by the screen.
     virtual void Changed() { }

@@ -169,6 +169,20 @@ TEST_F(DateFieldTest, OnlyADateOfTheCalendarIsADate)
     });
 }
 
+TEST_F(DateFieldTest, APressOfTheMouseSelectsItAllSoThatADateIsTypedAnew)
+{
+    With(Make, [&](DateField& field) {
+        Do([&] { field.SetText(Q("15/04/2026")); });
+        for (const char* before : {"{TAB}", "", "{Home}{Right}"}) {
+            Type(before);
+            TheClerk.Press(Q("maskDate"));
+            EXPECT_EQ(Selected(field), Text(field)) << "after " << before;
+            Type("14042026");
+            EXPECT_EQ(Text(field), "14/04/2026") << "after " << before;
+        }
+    });
+}
+
 TEST_F(DateFieldTest, ADateIsSetAndReadBack)
 {
     With(Make, [&](DateField& field) {

@@ -258,4 +258,29 @@ TEST_F(PlainFieldTest, LettersAreSeenAsTheyAreTyped)
     });
 }
 
+TEST_F(NumberFieldTest, APressOfTheMouseSelectsItAllAndItsMovesChangeNothing)
+{
+    With(Decimals, [&](NumberField& field) {
+        for (const char* before : {"{TAB}", "", "{Home}"}) {
+            Do([&] { field.SetText(Q("12.5")); });
+            Type(before);
+            Do([&] {
+                QLineEdit& line = Line(field);
+                const auto mouse = [&](QEvent::Type type, const QPointF& at, Qt::MouseButtons held) {
+                    QMouseEvent event(type, at, line.mapToGlobal(at),
+                        type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, held, Qt::NoModifier);
+                    QCoreApplication::sendEvent(&line, &event);
+                };
+                mouse(QEvent::MouseButtonPress, line.rect().center(), Qt::LeftButton);
+                mouse(QEvent::MouseMove, {2, 2}, Qt::LeftButton);
+                mouse(QEvent::MouseButtonRelease, {2, 2}, Qt::NoButton);
+            });
+            EXPECT_EQ(FocusName(), "txtLiters") << "after " << before;
+            EXPECT_EQ(Selected(field), "12.5") << "after " << before;
+        }
+        Type("7");
+        EXPECT_EQ(Text(field), "7");
+    });
+}
+
 }

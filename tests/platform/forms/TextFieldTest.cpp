@@ -530,3 +530,21 @@ TEST_F(TextFieldTest, ACodeWithoutAKeyIsTypedAsItsNumberWithAlt)
         EXPECT_EQ(After(field, "k", "%9%9%9%9a"), "ka") << "nor does one without a code";
     });
 }
+
+TEST_F(TextFieldTest, TheFirstPressOfTheMouseSelectsItAllAndTheNextSetsTheCaret)
+{
+    WithText([&](TextField& field) {
+        for (const char* before : {"{TAB}", "{TAB}+{TAB}{Home}"}) {
+            Do([&] { field.SetText(Q("rama")); });
+            Type(before);
+            TheClerk.Press(Q("txtMemberName"));
+            EXPECT_EQ(Selected(field), "राम") << "after " << before;
+            TheClerk.Press(Q("txtMemberName"));
+            EXPECT_EQ(Selected(field), "") << "after " << before;
+            TheClerk.Press(Q("next"));
+            TheClerk.Press(Q("txtMemberName"));
+            Type("k");
+            EXPECT_EQ(Text(field), "k") << "after " << before;
+        }
+    });
+}
