@@ -1,9 +1,10 @@
 #pragma once
 
 #include "Field.h"
+#include "NameCombo.h"
 #include "Numbers.h"
 
-#include <QStringList>
+#include <vector>
 
 // What the counters of the society have in common.
 namespace Counter {
@@ -32,7 +33,7 @@ inline double Value(const Field& field)
     return Val(field.Text());
 }
 
-// The names of all members, in order.
-QStringList MemberNames();
+// The names of all members with their numbers, in the order of the books.
+std::vector<NameCombo::Entry> MemberNames();
 
 }

@@ -229,7 +229,8 @@ void CounterScreen::ComboMemberName_LostFocus()
         ComboMemberName.SetFocus(Wanted::Name());
     for (Recordset member(gCn, QStringLiteral("SELECT * FROM MembersMaster")); !member.Eof();
          member.MoveNext()) {
-        if (member[u"MemberName"].Text().trimmed() != name)
+        if (member[u"MemberName"].Text().trimmed() != name
+            || !ComboMemberName.MayMean(member[u"MemberNo"].Text()))
             continue;
         txtMemberNo.SetText(member[u"MemberNo"].Text());
         TakeAnimalOf(member);
@@ -244,5 +245,5 @@ void CounterScreen::ComboMemberName_LostFocus()
 
 void CounterScreen::LoadMemberNames()
 {
-    ComboMemberName.SetItems(MemberNames());
+    ComboMemberName.SetNames(MemberNames());
 }

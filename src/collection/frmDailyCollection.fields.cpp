@@ -228,11 +228,13 @@ void frmDailyCollection::cmbMemberName_LostFocus()
 {
     const QString name = cmbMemberName.Text().trimmed();
     const Recordset numbered(gCn, Sql(u"SELECT * FROM MembersMaster WHERE MemberNo=", Value(txtMemberNo)));
-    if (!numbered.Eof() && numbered[u"MemberName"].Text().trimmed() == name)
+    if (!numbered.Eof() && numbered[u"MemberName"].Text().trimmed() == name
+        && cmbMemberName.MayMean(numbered[u"MemberNo"].Text()))
         return;
     for (Recordset member(gCn, QStringLiteral("SELECT * FROM MembersMaster")); !member.Eof();
          member.MoveNext()) {
-        if (member[u"MemberName"].Text().trimmed() != name)
+        if (member[u"MemberName"].Text().trimmed() != name
+            || !cmbMemberName.MayMean(member[u"MemberNo"].Text()))
             continue;
         txtMemberNo.SetText(member[u"MemberNo"].Text());
         TakeMember(member);

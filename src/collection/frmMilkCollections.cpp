@@ -76,12 +76,12 @@ void frmMilkCollections::Escape()
 void frmMilkCollections::LoadMemberNames()
 {
     CounterScreen::LoadMemberNames();
-    cmbAccountName.AddItems(ComboMemberName.Items());
+    cmbAccountName.AddNames(ComboMemberName.Names());
 }
 
 void frmMilkCollections::MembersShown()
 {
     const Recordset member(gCn, QStringLiteral("Select * from MembersMaster"));
     if (!member.Eof())
-        cmbAccountName.AddItem(member[u"MemberName"].Text());
+        cmbAccountName.AddNames({{member[u"MemberName"].Text(), member[u"MemberNo"].Text()}});
 }

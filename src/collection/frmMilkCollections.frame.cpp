@@ -70,14 +70,16 @@ void frmMilkCollections::txtAccountId_LostFocus()
 // The names are added to those that are there already.
 void frmMilkCollections::cmbAccountName_GotFocus()
 {
-    cmbAccountName.AddItems(MemberNames());
+    cmbAccountName.AddNames(MemberNames());
     SendKeys(QStringLiteral("%{Down}"));
 }
 
 void frmMilkCollections::cmbAccountName_LostFocus()
 {
-    const Recordset member(
+    Recordset member(
         gCn, Sql(u"Select * from MembersMaster Where MemberName='", cmbAccountName.Text(), u"'"));
+    while (!member.Eof() && !cmbAccountName.MayMean(member[u"MemberNo"].Text()))
+        member.MoveNext();
     if (!member.Eof())
         ShowAccount(member);
 }

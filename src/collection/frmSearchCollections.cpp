@@ -185,7 +185,8 @@ void frmSearchCollections::ComboMemberName_LostFocus()
     }
     for (Recordset member(gCn, QStringLiteral("SELECT * FROM MembersMaster")); !member.Eof();
          member.MoveNext()) {
-        if (member[u"MemberName"].Text().trimmed() != name)
+        if (member[u"MemberName"].Text().trimmed() != name
+            || !ComboMemberName.MayMean(member[u"MemberNo"].Text()))
             continue;
         txtMemberNo.SetText(member[u"MemberNo"].Text());
         Search();
@@ -198,7 +199,7 @@ void frmSearchCollections::ComboMemberName_LostFocus()
 
 void frmSearchCollections::LoadMemberNames()
 {
-    ComboMemberName.SetItems(MemberNames());
+    ComboMemberName.SetNames(MemberNames());
 }
 
 void frmSearchCollections::EnableMember(bool enabled)

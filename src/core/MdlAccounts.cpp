@@ -68,6 +68,14 @@ void LoadSettings()
     gAppState.gExtraRsPerLtr = QStringLiteral("0");
 }
 
+// The column that numbers the names of a table; empty if they have no numbers.
+QStringView NumberColumn(QStringView tableName)
+{
+    if (tableName == u"MembersMaster")
+        return u"MemberNo";
+    return tableName == u"CustomersMaster" ? QStringView(u"CustomerNo") : QStringView();
+}
+
 // Returns false if no right is on record at all.
 bool LoadAccessFlags()
 {
@@ -121,10 +129,11 @@ void ReadPassword()
 
 void FillCombo(NameCombo& combo, QStringView tableName, QStringView fieldName, const SqlText& tail)
 {
-    QStringList names;
+    const QStringView number = NumberColumn(tableName);
+    std::vector<NameCombo::Entry> names;
     for (Recordset rows(gCn, Sql(u"select * from ", tableName, u" ", tail)); !rows.Eof(); rows.MoveNext())
-        names.append(rows[fieldName].Text());
-    combo.SetItems(names);
+        names.push_back({rows[fieldName].Text(), number.isEmpty() ? QString() : rows[number].Text()});
+    combo.SetNames(names);
 }
 
 void CheckDateField(DateField& field, int& flag)

@@ -60,7 +60,8 @@ bool LoadAppState();
 // Fills gDbPassword from PWD.TXT.
 void ReadPassword();
 
-// Fills a combo's list with a column of "select * from TABLE TAIL", in the order of the query.
+// Fills a combo's list with a column of "select * from TABLE TAIL". The combo holds the names in the order of
+// the query, and shows them in that of the alphabet, those of members and customers with their numbers.
 void FillCombo(NameCombo& combo, QStringView tableName, QStringView fieldName, const SqlText& tail);
 
 // Sets flag to 0 if the field holds a date; else to 1, empties the field and sends the focus back to it.

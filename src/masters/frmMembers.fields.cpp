@@ -19,11 +19,13 @@ Recordset MemberOfNumber(double number)
     return members;
 }
 
-// The record of a name, blanks at its ends aside.
-Recordset MemberOfName(const QString& name)
+// The record of the name in a list, blanks at its ends aside.
+Recordset MemberOfName(const NameCombo& list)
 {
+    const QString name = list.Text().trimmed();
     Recordset members(gCn, QStringLiteral("SELECT * FROM MembersMaster"));
-    while (!members.Eof() && members[u"MemberName"].Text().trimmed() != name)
+    while (!members.Eof()
+        && (members[u"MemberName"].Text().trimmed() != name || !list.MayMean(members[u"MemberNo"].Text())))
         members.MoveNext();
     return members;
 }
@@ -78,7 +80,7 @@ void frmMembers::ComboMemberName_LostFocus()
         Refuse(ComboMemberName, u"maombarcao naaMva vyavaisqat Ta[-p kra");
         return;
     }
-    const Recordset member = MemberOfName(name);
+    const Recordset member = MemberOfName(ComboMemberName);
     if (member.Eof()) {
         if (!IsNew() && txtMemberNo.IsEmpty())
             Hold(ComboMemberName);

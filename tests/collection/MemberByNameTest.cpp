@@ -143,4 +143,38 @@ TEST_F(MemberByNameTest, ApostrophesAndDigitsAreDropped)
     });
 }
 
+TEST_F(MemberByNameTest, TheBeginningOfANameAndEnterTakeTheDarkRow)
+{
+    AtTheName([](Clerk& clerk) {
+        Type(clerk, "sa{ENTER}");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "saIta");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "2");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtLiters");
+    });
+}
+
+TEST_F(MemberByNameTest, EscClosesTheListAndLeavesTheCounterOpen)
+{
+    AtTheName([](Clerk& clerk) {
+        Type(clerk, "ra{ESC}");
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "ra");
+        EXPECT_FALSE(Combo(clerk).IsDroppedDown());
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+}
+
+TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheOnePickedInTheListIsTaken)
+{
+    AddMember(8, QStringLiteral("rama"), QStringLiteral("mhOsa"));
+    AtTheName([](Clerk& clerk) {
+        Type(clerk, "{DOWN}{DOWN}{DOWN}{ENTER}");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "rama");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "8");
+        EXPECT_EQ(Reads(clerk, "txtAnimal"), "mhOsa");
+    });
+}
+
 }

@@ -51,7 +51,7 @@ void ChoiceCombo::SetWords(const QStringList& words)
     QStringList seen;
     for (const QString& word : words)
         seen.append(Shivaji01::ToUnicode(word));
-    m_list.Rows().setStringList(seen);
+    m_list.SetRows(seen);
     DropDown(IsDroppedDown());
 }
 
@@ -100,6 +100,15 @@ bool ChoiceCombo::KeyPress(const QKeyEvent& key)
         Choose(key.text()[0]);
     else
         CopyKey(key);
+    return true;
+}
+
+// Esc closes the list and nothing else.
+bool ChoiceCombo::KeyBeforeScreen(const QKeyEvent& key)
+{
+    if (!IsDroppedDown() || key.key() != Qt::Key_Escape)
+        return false;
+    DropDown(false);
     return true;
 }
 

@@ -6,8 +6,8 @@
 #include <QStringList>
 
 // A field with a few fixed words and a list of them that drops below it. A digit chooses a word by its place;
-// a press of the mouse or Alt+Down opens the list, where the mouse, Up and Down pick. Backspace and Delete
-// empty the field. All other keys are dropped.
+// a press of the mouse or Alt+Down opens the list, where the mouse, Up and Down pick; Esc closes it
+// and nothing else. Backspace and Delete empty the field. All other keys are dropped.
 class ChoiceCombo final : public Field {
 public:
     // `words` as the system spells them, in the order of their digits.
@@ -34,6 +34,7 @@ public:
 
 protected:
     bool KeyPress(const QKeyEvent& key) override;
+    bool KeyBeforeScreen(const QKeyEvent& key) override;
     void Insert(const QString& text) override;
     void ShowFocus(bool held) override;
     void MouseDone() override;

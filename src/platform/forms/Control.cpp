@@ -67,6 +67,11 @@ void Control::SetGuide(const Caption& guide)
         m_screen->ShowGuide(guide);
 }
 
+bool Control::KeyBeforeScreen(const QKeyEvent&)
+{
+    return false;
+}
+
 bool Control::KeepsPress(bool)
 {
     return false;

@@ -84,6 +84,10 @@ protected:
     // The focus has come or gone; the handlers run after this.
     virtual void ShowFocus(bool held);
 
+    // A key that for now means something else here than on the screen at large, such as Esc while a list is
+    // open. Returns true if it is used up; false lets the screen answer it as ever.
+    virtual bool KeyBeforeScreen(const QKeyEvent& key);
+
     // The mouse is pressed here; `entering` if the focus has come with it. Returns true if the widget is to
     // see nothing of the mouse until it is released.
     virtual bool KeepsPress(bool entering);

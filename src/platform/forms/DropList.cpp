@@ -2,13 +2,47 @@
 
 #include "Screen.h"
 
+#include <QPainter>
+#include <QStyledItemDelegate>
+
 #include <algorithm>
+
+namespace {
+
+constexpr int MarkMargin = 8; // between a text, its mark, and the edge of the list
+
+// Paints a row's mark at its right edge, in the colour of its text.
+class RowLook final : public QStyledItemDelegate {
+public:
+    explicit RowLook(const QStringList& marks) : m_marks(marks) { }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QString mark = m_marks.value(index.row());
+        const int width = mark.isEmpty() ? 0 : option.fontMetrics.horizontalAdvance(mark) + 2 * MarkMargin;
+        QStyleOptionViewItem row = option;
+        initStyleOption(&row, index);
+        row.text =
+            row.fontMetrics.elidedText(row.text, Qt::ElideRight, row.rect.width() - width - MarkMargin);
+        row.widget->style()->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+        const bool marked = row.state.testFlag(QStyle::State_Selected);
+        painter->setPen(row.palette.color(marked ? QPalette::HighlightedText : QPalette::Text));
+        painter->drawText(row.rect.adjusted(0, 0, -MarkMargin, 0), Qt::AlignRight | Qt::AlignVCenter, mark);
+    }
+
+private:
+    const QStringList& m_marks;
+};
+
+}
 
 DropList::DropList(Screen& screen, const std::function<void(int)>& picked)
     : m_screen(screen)
+    , m_look(std::make_unique<RowLook>(m_marks))
     , m_list(std::make_unique<QListView>(&screen))
 {
     m_list->setModel(&m_rows);
+    m_list->setItemDelegate(m_look.get());
     m_list->setFocusPolicy(Qt::NoFocus);
     m_list->setUniformItemSizes(true);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -18,6 +52,14 @@ DropList::DropList(Screen& screen, const std::function<void(int)>& picked)
     m_list->setPalette(palette);
     QObject::connect(m_list.get(), &QListView::clicked, m_list.get(),
         [picked](const QModelIndex& index) { picked(index.row()); });
+}
+
+DropList::~DropList() = default;
+
+void DropList::SetRows(const QStringList& texts, const QStringList& marks)
+{
+    m_marks = marks;
+    m_rows.setStringList(texts);
 }
 
 void DropList::OpenAt(const QWidget& field)
@@ -43,7 +85,10 @@ int DropList::CurrentRow() const
 
 void DropList::SetCurrentRow(int row)
 {
-    m_list->setCurrentIndex(row < 0 ? QModelIndex() : m_rows.index(row));
+    const QModelIndex index = row < 0 ? QModelIndex() : m_rows.index(row);
+    m_list->setCurrentIndex(index);
+    if (m_open)
+        m_list->scrollTo(index, QAbstractItemView::PositionAtCenter);
 }
 
 void DropList::Place(const QWidget& field)

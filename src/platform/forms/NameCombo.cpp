@@ -3,9 +3,38 @@
 #include "Screen.h"
 #include "Shivaji01.h"
 
+#include <QCollator>
 #include <QKeyEvent>
 
 #include <algorithm>
+
+namespace {
+
+// The order of the alphabet as names are read, those of one name by their numbers.
+std::vector<NameCombo::Entry> ByAlphabet(const std::vector<NameCombo::Entry>& names)
+{
+    static const QCollator alphabet(QLocale(QLocale::Marathi, QLocale::India));
+    struct Place {
+        QCollatorSortKey key;
+        int number;
+        const NameCombo::Entry* entry;
+    };
+    std::vector<Place> places;
+    places.reserve(names.size());
+    for (const NameCombo::Entry& entry : names)
+        places.push_back({alphabet.sortKey(Shivaji01::ToUnicode(entry.name)), entry.number.toInt(), &entry});
+    std::stable_sort(places.begin(), places.end(), [](const Place& a, const Place& b) {
+        const int order = a.key.compare(b.key);
+        return order != 0 ? order < 0 : a.number < b.number;
+    });
+    std::vector<NameCombo::Entry> sorted;
+    sorted.reserve(places.size());
+    for (const Place& place : places)
+        sorted.push_back(*place.entry);
+    return sorted;
+}
+
+}
 
 NameCombo::NameCombo(Screen* screen, const char* name)
     : TextField(screen, name)
@@ -18,32 +47,68 @@ NameCombo::NameCombo(Screen* screen, const char* name)
 {
 }
 
-void NameCombo::SetItems(const QStringList& names)
+void NameCombo::SetItems(const QStringList& words)
 {
-    m_names = names;
+    m_given.clear();
+    for (const QString& word : words)
+        m_given.push_back({word, {}});
+    m_numbered.clear();
+    m_rows = m_given;
+    m_byAlphabet = false;
+    ShowRows();
+}
+
+void NameCombo::SetNames(const std::vector<Entry>& names)
+{
+    if (m_byAlphabet && names == m_given) {
+        DropDown(IsDroppedDown());
+        return;
+    }
+    m_given.clear();
+    m_numbered.clear();
+    m_rows.clear();
+    if (names.empty())
+        ShowRows();
+    AddNames(names);
+}
+
+void NameCombo::AddNames(const std::vector<Entry>& names)
+{
+    m_given.insert(m_given.end(), names.begin(), names.end());
+    m_byAlphabet = true;
+    const std::size_t before = m_rows.size();
+    for (const Entry& entry : names) {
+        const std::pair row(entry.name, entry.number);
+        if (m_numbered.contains(row))
+            continue;
+        if (!entry.number.isEmpty())
+            m_numbered.insert(row);
+        m_rows.push_back(entry);
+    }
+    if (m_rows.size() == before)
+        return;
+    m_rows = ByAlphabet(m_rows);
+    ShowRows();
+}
+
+QStringList NameCombo::Items() const
+{
+    QStringList names;
+    for (const Entry& entry : m_given)
+        names.append(entry.name);
+    return names;
+}
+
+void NameCombo::ShowRows()
+{
     QStringList seen;
-    seen.reserve(names.size());
-    for (const QString& name : names)
-        seen.append(Shivaji01::ToUnicode(name));
-    m_list.Rows().setStringList(seen);
+    QStringList numbers;
+    for (const Entry& entry : m_rows) {
+        seen.append(Shivaji01::ToUnicode(entry.name));
+        numbers.append(entry.number);
+    }
+    m_list.SetRows(seen, numbers);
     DropDown(IsDroppedDown());
-}
-
-void NameCombo::AddItem(const QString& name)
-{
-    AddItems({name});
-}
-
-void NameCombo::AddItems(const QStringList& names)
-{
-    m_names += names;
-    QStringListModel& seen = m_list.Rows();
-    int row = seen.rowCount();
-    seen.insertRows(row, static_cast<int>(names.size()));
-    for (const QString& name : names)
-        seen.setData(seen.index(row++), Shivaji01::ToUnicode(name));
-    if (IsDroppedDown())
-        m_list.OpenAt(*Widget());
 }
 
 void NameCombo::DropDown(bool open)
@@ -68,10 +133,30 @@ bool NameCombo::KeyPress(const QKeyEvent& key)
     DropDown(true);
     const int row = m_list.CurrentRow();
     // At a name that was picked, on to its neighbour; at one that only begins with what was typed, this one.
-    const int wanted = row >= 0 && m_names[row] != Text() ? row : row + (down ? 1 : -1);
-    if (wanted >= 0 && wanted < m_names.size())
+    const int wanted = row >= 0 && m_rows[row].name != Text() ? row : row + (down ? 1 : -1);
+    if (wanted >= 0 && wanted < static_cast<int>(m_rows.size()))
         Pick(wanted);
     return true;
+}
+
+bool NameCombo::KeyBeforeScreen(const QKeyEvent& key)
+{
+    if (!IsDroppedDown())
+        return false;
+    switch (key.key()) {
+    case Qt::Key_Escape:
+        DropDown(false);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Tab:
+        if (const int row = m_list.CurrentRow(); row >= 0)
+            Take(row);
+        DropDown(false);
+        return false; // the screen goes on with it
+    default:
+        return false;
+    }
 }
 
 void NameCombo::ShowFocus(bool held)
@@ -83,50 +168,63 @@ void NameCombo::ShowFocus(bool held)
 
 void NameCombo::Changed()
 {
+    m_picked.clear();
     if (IsDroppedDown())
         ShowMatch();
 }
 
+void NameCombo::Take(int row)
+{
+    const Entry taken = m_rows[row];
+    const bool isOther = taken.name != Text();
+    m_list.SetCurrentRow(row);
+    SetText(taken.name);
+    m_picked = taken.number;
+    if (isOther && Change)
+        Change();
+}
+
 void NameCombo::Pick(int row)
 {
-    m_list.SetCurrentRow(row);
-    SetText(m_names[row]);
+    Take(row);
     SelectAll();
-    if (Change)
-        Change();
 }
 
 // It stays at a name that is the one: two members may have the same.
 void NameCombo::ShowMatch()
 {
-    const QString stored = Text();
-    if (const int row = m_list.CurrentRow(); row >= 0 && m_names[row] == stored)
-        return;
-    m_list.SetCurrentRow(MatchOf(stored));
+    const int row = m_list.CurrentRow();
+    const bool stays = row >= 0 && m_rows[row].name == Text();
+    m_list.SetCurrentRow(stays ? row : MatchOf(Text()));
 }
 
 // The row of a name, or else the first one that begins with it, as it is stored or as it is seen; -1 is none.
-int NameCombo::MatchOf(const QString& stored)
+int NameCombo::MatchOf(const QString& stored) const
 {
+    if (stored.isEmpty())
+        return -1;
+    const auto same =
+        std::find_if(m_rows.begin(), m_rows.end(), [&](const Entry& entry) { return entry.name == stored; });
+    if (same != m_rows.end())
+        return static_cast<int>(same - m_rows.begin());
     const QString seen = Seen();
-    const QStringList names = m_list.Rows().stringList();
-    qsizetype row = m_names.indexOf(stored);
-    for (qsizetype at = 0; row < 0 && at < names.size(); ++at)
-        if (m_names[at].startsWith(stored) || names[at].startsWith(seen))
-            row = at;
-    return static_cast<int>(row);
+    const QStringList texts = m_list.Rows();
+    for (qsizetype row = 0; row < texts.size(); ++row)
+        if (m_rows[row].name.startsWith(stored) || texts[row].startsWith(seen))
+            return static_cast<int>(row);
+    return -1;
 }
 
 void NameCombo::TakeMatch()
 {
     const QString stored = Text();
     const QString word = stored.trimmed();
-    if (word.isEmpty() || m_names.contains(stored))
+    const auto holds = [this](const auto& isIt) { return std::find_if(m_rows.begin(), m_rows.end(), isIt); };
+    if (word.isEmpty() || holds([&](const Entry& entry) { return entry.name == stored; }) != m_rows.end())
         return;
-    const auto same = std::find_if(
-        m_names.begin(), m_names.end(), [&](const QString& name) { return name.trimmed() == word; });
-    if (same != m_names.end())
-        SetText(*same);
+    const auto same = holds([&](const Entry& entry) { return entry.name.trimmed() == word; });
+    if (same != m_rows.end())
+        SetText(same->name);
     else if (const int row = MatchOf(stored); row >= 0)
-        SetText(m_names[row]);
+        SetText(m_rows[row].name);
 }

@@ -434,6 +434,8 @@ bool Screen::Answer(const QKeyEvent& key)
     Control* control = m_holder && m_holder->CanTakeFocus() ? m_holder : nullptr;
     if (control && control->KeyDown && control->KeyDown(key))
         return true;
+    if (control && control->KeyBeforeScreen(key))
+        return true;
     switch (key.key()) {
     case Qt::Key_Escape:
         Escape();

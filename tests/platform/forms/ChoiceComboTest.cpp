@@ -187,4 +187,16 @@ TEST_F(ChoiceComboTest, TellsThatItsTextHasChanged)
     });
 }
 
+TEST_F(ChoiceComboTest, EscClosesTheListAndNothingElse)
+{
+    WithWords([&](ChoiceCombo& combo) {
+        Type("2%{DOWN}{ESC}");
+        EXPECT_FALSE(combo.IsDroppedDown());
+        EXPECT_EQ(FocusName(), "ComboReceipt");
+        EXPECT_EQ(Text(combo), "f@t sËIna");
+        Type("{ESC}");
+        EXPECT_EQ(ScreenName(), "");
+    });
+}
+
 }

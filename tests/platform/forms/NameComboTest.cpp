@@ -74,9 +74,9 @@ TEST_F(NameComboTest, TheListStandsAtTheFirstNameThatBeginsWithWhatIsTyped)
 {
     WithNames([&](NameCombo& combo) {
         Type("%{Down}");
-        EXPECT_EQ(Row(combo), 0);
+        EXPECT_EQ(Row(combo), -1) << "an empty field means nobody yet";
         for (const auto& [keys, row] : std::vector<std::pair<const char*, int>>{
-                 {"s", 1}, {"v", 2}, {"{BS}{BS}", 0}, {"i", 4}, {"k", 4}, {"x", -1}}) {
+                 {"s", 1}, {"v", 2}, {"{BS}{BS}", -1}, {"i", 4}, {"k", 4}, {"x", -1}}) {
             Type(keys);
             EXPECT_EQ(Row(combo), row) << "after " << keys;
         }
@@ -160,8 +160,8 @@ TEST_F(NameComboTest, NamesAreAddedOneByOne)
     WithNames([&](NameCombo& combo) {
         Do([&] {
             combo.ClearItems();
-            combo.AddItem(Q("gaMgaa"));
-            combo.AddItem(Q("yamaunaa"));
+            combo.AddNames({{Q("yamaunaa"), {}}});
+            combo.AddNames({{Q("gaMgaa"), {}}});
         });
         Type("{Down}{Down}");
         EXPECT_EQ(Text(combo), "yamaunaa");
@@ -218,6 +218,154 @@ TEST_F(NameComboTest, TwoThousandNamesAreWalkedAndMatched)
             EXPECT_EQ(Text(combo), "rama 1998");
             EXPECT_LE(List(combo).height(), combo.Owner().height());
         });
+}
+
+TEST_F(NameComboTest, EnterAndTabTakeTheDarkRowAndGoOn)
+{
+    for (const char* key : {"{ENTER}", "{TAB}"}) {
+        WithNames([&](NameCombo& combo) {
+            int changes = 0;
+            Do([&] { combo.Change = [&] { ++changes; }; });
+            Type("%{Down}sa");
+            Type(key);
+            EXPECT_EQ(Text(combo), "sakaarama") << key;
+            EXPECT_EQ(FocusName(), "next") << key;
+            EXPECT_EQ(changes, 3) << key;
+            EXPECT_FALSE(combo.IsDroppedDown()) << key;
+        });
+    }
+}
+
+TEST_F(NameComboTest, WithoutADarkRowOrAnOpenListEnterLeavesTheTextAsItIs)
+{
+    WithNames([&](NameCombo& combo) {
+        for (const auto& [keys, text] : std::vector<std::pair<const char*, const char*>>{
+                 {"%{Down}{ENTER}", ""}, {"%{Down}xyz{ENTER}", "xyz"}, {"sa{ENTER}", "sa"},
+                 {"%{Down}sa%{Up}{ENTER}", "sa"}, {"%{Down}sa+{TAB}", "sa"}}) {
+            Do([&] { combo.Clear(); });
+            Type(keys);
+            EXPECT_EQ(Text(combo), text) << keys;
+            EXPECT_EQ(FocusName(), "next") << keys;
+            Type("+{TAB}");
+        }
+    });
+}
+
+TEST_F(NameComboTest, EscClosesTheListAndNothingElse)
+{
+    WithNames([&](NameCombo& combo) {
+        Type("%{Down}sa{ESC}");
+        EXPECT_FALSE(combo.IsDroppedDown());
+        EXPECT_EQ(Text(combo), "sa");
+        EXPECT_EQ(FocusName(), "ComboMemberName");
+        Type("{ESC}");
+        EXPECT_EQ(ScreenName(), "");
+    });
+}
+
+// Eleven people, five of one name, as the books have them: in the order of the keys of the old layout.
+std::unique_ptr<NameCombo> Village(Screen* screen)
+{
+    auto combo = std::make_unique<NameCombo>(screen, "ComboMemberName");
+    combo->SetNames({{Q("AaSaa"), Q("9")}, {Q("gaMgaa"), Q("4")}, {Q("kmala"), Q("2")},
+        {Q("ikSaaor"), Q("5")}, {Q("saunaIta"), Q("30")}, {Q("saunaIta"), Q("7")}, {Q("saunaIta"), Q("12")},
+        {Q("sauroSa"), Q("3")}, {Q("saIta"), Q("1")}, {Q("rama"), Q("8")}, {Q("ima`"), Q("6")}});
+    return combo;
+}
+
+TEST_F(NameComboTest, TheListIsInTheOrderOfTheAlphabetAsItIsRead)
+{
+    With(Village, [&](NameCombo& combo) {
+        std::string shown;
+        const auto& rows = *List(combo).model();
+        for (int row = 0; row < rows.rowCount(); ++row)
+            shown += rows.index(row, 0).data().toString().toStdString() + " ";
+        EXPECT_EQ(shown, "आशा कमल किशोर गंगा म्रि राम सीता सुनीता सुनीता सुनीता सुरेश ");
+        EXPECT_EQ(combo.Items().first(), Q("AaSaa")) << "what was given stays as it was given";
+        EXPECT_EQ(combo.Items()[3], Q("ikSaaor"));
+    });
+}
+
+TEST_F(NameComboTest, OfPeopleOfOneNameTheNumberOfTheRowIsMeant)
+{
+    With(Village, [&](NameCombo& combo) {
+        const auto meant = [&] {
+            std::string numbers;
+            for (const char* number : {"7", "12", "30"})
+                numbers += combo.MayMean(Q(number)) ? std::string(number) + " " : "";
+            return numbers;
+        };
+        Type("saunaI");
+        EXPECT_EQ(meant(), "7 12 30 ") << "typed, it may be any";
+        Type("{Down}");
+        EXPECT_EQ(meant(), "7 ");
+        Type("{Down}");
+        EXPECT_EQ(meant(), "12 ");
+        Type("{ENTER}");
+        EXPECT_EQ(Text(combo), "saunaIta");
+        EXPECT_EQ(meant(), "12 ");
+        Do([&] { combo.SetText(Q("saunaIta")); });
+        EXPECT_EQ(meant(), "7 12 30 ");
+    });
+}
+
+TEST_F(NameComboTest, OnePersonIsShownOnceHoweverOftenAdded)
+{
+    With(Village, [&](NameCombo& combo) {
+        Do([&] { combo.AddNames(std::vector<NameCombo::Entry>(combo.Names())); });
+        EXPECT_EQ(combo.Items().size(), 22);
+        EXPECT_EQ(List(combo).model()->rowCount(), 11);
+    });
+}
+
+TEST_F(NameComboTest, TheDarkRowStandsInTheMiddleOfTheList)
+{
+    With(
+        [](Screen* screen) {
+            auto combo = std::make_unique<NameCombo>(screen, "ComboMemberName");
+            std::vector<NameCombo::Entry> names;
+            for (int number = 1; number <= 40; ++number)
+                names.push_back(
+                    {QStringLiteral("k%1").arg(number, 2, 10, QLatin1Char('0')), QString::number(number)});
+            combo->SetNames(names);
+            return combo;
+        },
+        [&](NameCombo& combo) {
+            const auto expectMiddle = [&](int row) {
+                ASSERT_EQ(Row(combo), row);
+                QListView& list = List(combo);
+                const QRect dark = list.visualRect(list.currentIndex());
+                EXPECT_LE(std::abs(dark.center().y() - list.viewport()->rect().center().y()), dark.height());
+            };
+            Type("%{Down}k20");
+            expectMiddle(19);
+            Type("{Down}");
+            expectMiddle(20);
+            Type("{Up}{Up}");
+            expectMiddle(18);
+            Type("%{Up}%{Down}");
+            expectMiddle(18);
+        });
+}
+
+TEST_F(NameComboTest, TheNumberStandsAtTheEdgeOfItsRow)
+{
+    With(Village, [&](NameCombo& combo) {
+        Type("%{Down}");
+        const auto edge = [&] {
+            QListView& list = List(combo);
+            const QImage seen = list.grab().toImage();
+            const QRect row = list.visualRect(list.model()->index(0, 0)).translated(list.frameWidth(), 0);
+            int ink = 0;
+            for (int x = row.right() - 30; x < row.right(); ++x)
+                for (int y = row.top(); y < row.bottom(); ++y)
+                    ink += qGray(seen.pixel(x, y)) < 128 ? 1 : 0;
+            return ink;
+        };
+        EXPECT_GT(edge(), 0);
+        Do([&] { combo.SetItems({Q("AaSaa"), Q("kmala")}); });
+        EXPECT_EQ(edge(), 0);
+    });
 }
 
 }
