@@ -12,6 +12,7 @@ void RunReport(const CounterReport::Run& run)
     ReportControl report;
     report.SetReportFileName(run.fileName);
     report.SetLogon(run.logon);
+    report.SetSubject(run.subject);
     report.SetDestination(run.destination == CounterReport::Destination::Printer ? ReportDestination::Printer
                                                                                  : ReportDestination::Window);
     report.Print();

@@ -15,6 +15,7 @@ public:
         QString fileName; // by its AppFolder path
         QString logon;
         Destination destination = Destination::Window;
+        QString subject; // what a file that it is saved in is named after
     };
 
     // The template's name in AppFolder, such as "MilkPSReport.rpt".
@@ -25,6 +26,9 @@ public:
 
     // Where the next printings go; on the screen until it is set.
     void SetDestination(Destination destination) { m_run.destination = destination; }
+
+    // What the next printings are about, as it is read.
+    void SetSubject(const QString& subject) { m_run.subject = subject; }
 
     // Logs on to the books and prints; without a template yet the clerk is told and nothing is printed. A
     // printer that refuses is told to the clerk and the counter goes on; a template that is missing or faulty

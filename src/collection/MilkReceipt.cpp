@@ -4,6 +4,8 @@
 #include "MdlAccounts.h"
 #include "Queries.h"
 #include "ReceiptLayouts.h"
+#include "Recordset.h"
+#include "ReportSubject.h"
 #include "Sql.h"
 
 void MilkReceipt::StageReceipt(const Delivery& d)
@@ -15,6 +17,15 @@ void MilkReceipt::StageReceipt(const Delivery& d)
         gAppState.gCompanyId, u",'", DateText(d.shift.date), u"','", d.shift.time, u"',", d.number, u",",
         d.memberNo, u",'", d.memberName, u"','", d.animal, u"',", d.liters, u",", d.fat, u",", d.rate, u",",
         d.amount, u",'", d.actualTime, u"')"));
+}
+
+QString MilkReceipt::Subject()
+{
+    const Recordset slip(gCn, QStringLiteral("select * from MilkReceipt"));
+    if (slip.Eof())
+        return {};
+    return ReportSubject({slip[u"MemberName"].Text(), slip[u"Animal"].Text(), slip[u"CollectionTime"].Text()},
+        slip[u"CollectionDate"].Date());
 }
 
 void MilkReceipt::Prepare()
@@ -40,5 +51,6 @@ void MilkReceipt::PrintReceipt(QStringView printerButton)
     else if (printStatus == u"haoya")
         CRMilkReceipt.SetDestination(CounterReport::Destination::Printer);
     gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
+    CRMilkReceipt.SetSubject(Subject());
     CRMilkReceipt.Print();
 }

@@ -13,6 +13,9 @@ public:
     // Puts the delivery in place of the one before it.
     static void StageReceipt(const Delivery& delivery);
 
+    // What tells the staged slip from others: the member, the milk, the shift and the day.
+    static QString Subject();
+
     // Gets ready what the first slip would make the member wait for, unless PrintStatus is "naahI". An empty
     // status prints, too.
     static void Prepare();

@@ -9,6 +9,7 @@
 #include "ModalStack.h"
 #include "Queries.h"
 #include "Recordset.h"
+#include "ReportSubject.h"
 #include "ScreenDirectory.h"
 #include "Sql.h"
 #include "Transaction.h"
@@ -185,6 +186,7 @@ void frmMilkCollections::Command1_Click()
     gCn.Execute(QStringLiteral("Delete * From ReportDates Where CompanyId=0"));
     staging.Commit();
     CRMilkPayments.SetReportFileName(u"MilkPSReport.rpt");
+    CRMilkPayments.SetSubject(ReportSubject({cmbAccountName.Text()}, maskFromDate.Date(), maskToDate.Date()));
     CRMilkPayments.Print();
 }
 

@@ -8,6 +8,7 @@
 #include "Keys.h"
 #include "MdlAccounts.h"
 #include "Messages.h"
+#include "MilkReceipt.h"
 #include "ModalStack.h"
 #include "Queries.h"
 #include "ReceiptLayouts.h"
@@ -251,6 +252,7 @@ void frmSearchCollections::cmdGo_Click()
     CRMilkReceipt.SetDestination(CounterReport::Destination::Window);
     gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
     staging.Commit();
+    CRMilkReceipt.SetSubject(MilkReceipt::Subject());
     CRMilkReceipt.Print();
 }
 

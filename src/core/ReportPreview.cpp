@@ -346,7 +346,7 @@ void frmReportPreview::Print()
 
 void frmReportPreview::Save(const QString& ending, Outcome (Report::*save)(const QString&))
 {
-    frmReportFile dialog(m_report->Title(), ending);
+    frmReportFile dialog(m_report->Title(), m_report->Subject(), ending);
     dialog.ShowModal();
     if (dialog.FileName.isEmpty())
         return;

@@ -2,7 +2,7 @@
 
 #include "Keys.h"
 #include "Messages.h"
-#include "World.h"
+#include "ReportSubject.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -22,24 +22,24 @@ QString DocumentsFolder()
 }
 
 // A name that every file system takes.
-QString ProposedName(const QString& report)
+QString ProposedName(const QString& report, const QString& subject)
 {
-    QString name = report;
+    QString name = report + u' ' + (subject.isEmpty() ? ReportSubject({}) : subject);
     for (QChar& c : name)
         if (QStringView(u"\\/:*?\"<>|").contains(c))
             c = u'-';
-    return name + u' ' + World::Current().clock->Now().toString(QStringLiteral("dd-MM-yyyy"));
+    return name;
 }
 
 }
 
-frmReportFile::frmReportFile(const QString& report, const QString& ending)
+frmReportFile::frmReportFile(const QString& report, const QString& subject, const QString& ending)
     : Screen("frmReportFile")
     , m_ending(u'.' + ending)
 {
     When(cmdSave.Click, &frmReportFile::cmdSave_Click);
     When(cmdExit.Click, &frmReportFile::cmdExit_Click);
-    txtFile.SetText(ProposedName(report) + m_ending);
+    txtFile.SetText(ProposedName(report, subject) + m_ending);
     txtFolder.SetText(DocumentsFolder());
     SetTitle(Plain(QStringLiteral("%1 फाइल जतन करा").arg(ending.toUpper())));
     BuildWindow();

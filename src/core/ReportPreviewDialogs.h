@@ -9,9 +9,9 @@
 // Asks where a report is to be saved.
 class frmReportFile final : public Screen {
 public:
-    // `report` is the report's title, `ending` that of the file, such as "pdf". A name with the day's date
-    // in the clerk's documents is proposed.
-    frmReportFile(const QString& report, const QString& ending);
+    // `report` is the report's title, `ending` that of the file, such as "pdf". A name of the title and the
+    // subject, or the day's date if there is no subject, is proposed in the clerk's documents.
+    frmReportFile(const QString& report, const QString& subject, const QString& ending);
 
     // The whole path, in a folder that is there; empty if the clerk has thought better of it.
     QString FileName;

@@ -16,10 +16,11 @@ void ReportRun::Tidy(QStringView table)
     gCn.Execute(Sql(u"delete * from ", table, u" where CompanyId=0"));
 }
 
-void ReportRun::Show(QStringView templateName, const QString& selectionFormula)
+void ReportRun::Show(QStringView templateName, const QString& subject, const QString& selectionFormula)
 {
     ReportControl report;
     report.SetReportFileName(AppFolder.toString() + templateName);
+    report.SetSubject(subject);
     report.SetLogon(Logon());
     report.SetSelectionFormula(selectionFormula);
     report.SetDestination(ReportDestination::Window);

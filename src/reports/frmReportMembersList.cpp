@@ -4,6 +4,7 @@
 #include "MdlAccounts.h"
 #include "Recordset.h"
 #include "ReportRun.h"
+#include "ReportSubject.h"
 #include "Sql.h"
 #include "Transaction.h"
 
@@ -102,6 +103,13 @@ QString frmReportMembersList::ChosenAnimal() const
     return OptionBuff.Chosen() ? QStringLiteral("mhOsa") : QStringLiteral("daonhI");
 }
 
+QString frmReportMembersList::Subject() const
+{
+    if (OptionArea.Chosen())
+        return ReportSubject({ComboArea.Text()});
+    return ReportSubject(OptionMilk.Chosen() ? QStringList(ChosenAnimal()) : QStringList());
+}
+
 void frmReportMembersList::cmdReport_Click()
 {
     Transaction staging(gCn);
@@ -114,7 +122,7 @@ void frmReportMembersList::cmdReport_Click()
         StageMilk();
     ReportRun::Tidy(u"MembersListReport");
     staging.Commit();
-    ReportRun::Show(u"ReportListMembers.rpt");
+    ReportRun::Show(u"ReportListMembers.rpt", Subject());
 }
 
 void frmReportMembersList::cmdExit_Click()

@@ -40,5 +40,6 @@ private:
     void StageArea();
     void StageMilk();
     QString ChosenAnimal() const;
+    QString Subject() const;
     void LayOut();
 };

@@ -4,6 +4,7 @@
 #include "MdlAccounts.h"
 #include "Messages.h"
 #include "ReportRun.h"
+#include "ReportSubject.h"
 #include "Sql.h"
 #include "Transaction.h"
 #include "Wanted.h"
@@ -91,6 +92,16 @@ QString frmReportMilkCollections::Selection() const
     return Sql(statement, u"'");
 }
 
+QString frmReportMilkCollections::Subject() const
+{
+    QStringList choices;
+    if (ComboAnimal.Text() != BothAnimals)
+        choices.append(ComboAnimal.Text());
+    if (!OptionBoth.Chosen())
+        choices.append(OptionMorning.Chosen() ? QStringLiteral("sakaL") : QStringLiteral("saMQyaakaL"));
+    return ReportSubject(choices, MaskUserDate.Date());
+}
+
 void frmReportMilkCollections::cmdReport_Click()
 {
     if (!HoldDate() || !HoldAnimal())
@@ -102,7 +113,7 @@ void frmReportMilkCollections::cmdReport_Click()
     ReportRun::StageDates(MaskUserDate.Text(), MaskUserDate.Text());
     ReportRun::Tidy(u"MilkCollectionsTemp");
     staging.Commit();
-    ReportRun::Show(u"MilkCollectionsReport.rpt");
+    ReportRun::Show(u"MilkCollectionsReport.rpt", Subject());
 }
 
 void frmReportMilkCollections::cmdExit_Click()

@@ -37,5 +37,6 @@ private:
     bool HoldDate();
     bool HoldAnimal();
     QString Selection() const;
+    QString Subject() const;
     void LayOut();
 };

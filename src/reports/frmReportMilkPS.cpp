@@ -4,6 +4,7 @@
 #include "MdlAccounts.h"
 #include "MilkStatement.h"
 #include "ReportRun.h"
+#include "ReportSubject.h"
 #include "Sql.h"
 #include "Wanted.h"
 
@@ -84,7 +85,8 @@ void frmReportMilkPS::cmdReport_Click()
     MilkStatement::Stage(
         {OptionSales.Chosen() ? MilkStatement::Kind::Sales : MilkStatement::Kind::Collections,
             ComboAccountName.Text().trimmed(), maskFromDate.Date(), maskToDate.Date()});
-    ReportRun::Show(u"MilkPSReport.rpt");
+    ReportRun::Show(u"MilkPSReport.rpt",
+        ReportSubject({ComboAccountName.Text()}, maskFromDate.Date(), maskToDate.Date()));
 }
 
 void frmReportMilkPS::cmdExit_Click()

@@ -2,6 +2,7 @@
 
 #include "CompanyTitle.h"
 #include "ReportRun.h"
+#include "ReportSubject.h"
 #include "Sql.h"
 #include "Wanted.h"
 
@@ -53,7 +54,7 @@ void frmReportPaymentList::cmdReport_Click()
 {
     if (MaskFromDate.InsistOnDate(Wanted::Date()))
         ReportRun::Show(Option1.Chosen() ? u"CashMilkPayment.rpt" : u"BankMilkPayment.rpt",
-            SelectionFormula(MaskFromDate.Text()));
+            ReportSubject({}, MaskFromDate.Date()), SelectionFormula(MaskFromDate.Text()));
 }
 
 void frmReportPaymentList::cmdExit_Click()

@@ -60,6 +60,8 @@ TEST_P(ReceiptTest, OnScreenItGoesToTheWindowAndOnPaperToThePrinter)
     ASSERT_EQ(Printed.size(), 2U);
     EXPECT_EQ(Printed[0].destination, CounterReport::Destination::Window);
     EXPECT_EQ(Printed[1].destination, CounterReport::Destination::Printer);
+    EXPECT_EQ(Printed[0].subject, QStringLiteral("राम गाय सकाळ 15-04-2026"));
+    EXPECT_EQ(Printed[1].subject, QStringLiteral("सीता म्हैस सकाळ 15-04-2026"));
     for (const CounterReport::Run& run : Printed) {
         EXPECT_EQ(run.fileName, QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt"));
         EXPECT_EQ(run.logon, QStringLiteral("dsn=VetrolanDSN;pwd=Doodh#26"));

@@ -46,6 +46,7 @@ TEST_F(ReprintTest, ItShowsOnTheScreenWhateverTheSettingsSay)
         After(1, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}"); });
         ASSERT_EQ(Printed.size(), 1U) << status;
         EXPECT_EQ(Printed[0].destination, CounterReport::Destination::Window);
+        EXPECT_TRUE(Printed[0].subject.endsWith(QStringLiteral(" 15-04-2026"))) << status;
         EXPECT_EQ(Printed[0].logon, QStringLiteral("dsn=VetrolanDSN;pwd=Doodh#26"));
     }
 }

@@ -1,4 +1,5 @@
 #include "ReportPreviewTest.h"
+#include "ReportSubject.h"
 #include "ScreenFace.h"
 
 #include <QDir>
@@ -112,6 +113,27 @@ TEST_F(ReportSaving, ATitleIsProposedInPlaceOfTheNameWithoutSignsThatNoFileTakes
         clerk.Type(PdfKey);
         EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")), QStringLiteral("दूध यादी - बँक 15-04-2026.pdf"));
     });
+}
+
+TEST_F(ReportSaving, TheNameCarriesWhatTheReportIsAbout)
+{
+    ReportControl control = Control();
+    control.SetSubject(
+        ReportSubject({QStringLiteral("saunaIta paTIla"), QString()}, QDate(2026, 4, 1), QDate(2026, 4, 10)));
+    TheClerk.Play([&] { control.Print(); },
+        [](Clerk& clerk) {
+            clerk.Type(CsvKey);
+            EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")),
+                QStringLiteral("Deliveries सुनीता पाटील 01-04-2026 ते 10-04-2026.csv"));
+        });
+}
+
+TEST_F(ReportSaving, OneDayIsNamedOnceAndWithoutAnyItIsToday)
+{
+    EXPECT_EQ(ReportSubject({QStringLiteral("gaaya")}, QDate(2026, 4, 1), QDate(2026, 4, 1)),
+        QStringLiteral("गाय 01-04-2026"));
+    EXPECT_EQ(ReportSubject({}, QDate(2026, 4, 1)), QStringLiteral("01-04-2026"));
+    EXPECT_EQ(ReportSubject({QStringLiteral("puNao")}), QStringLiteral("पुणे 15-04-2026"));
 }
 
 TEST_F(ReportSaving, ANameWithoutItsEndingGetsIt)

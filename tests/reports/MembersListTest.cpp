@@ -44,6 +44,14 @@ TEST_F(MembersListTest, TheFullListHoldsAllOfThemUnderNoValue)
     EXPECT_TRUE(ReportTexts().contains(QStringLiteral("एकूण सभासद : 3")));
 }
 
+TEST_F(MembersListTest, AFileOfItIsNamedAfterWhatIsListedAndTheDay)
+{
+    Staged("%i");
+    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("15-04-2026"));
+    Staged("%2{ENTER}masaUr%i");
+    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("मसूर 15-04-2026"));
+}
+
 TEST_F(MembersListTest, OneAreaHoldsItsOwn)
 {
     EXPECT_EQ(Staged("%2{ENTER}kraD%i"), "Area|kraD|1|Anata|kraD|gaaya");

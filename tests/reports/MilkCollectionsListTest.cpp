@@ -45,6 +45,14 @@ TEST_F(MilkCollectionsListTest, EachChoiceOfShiftAndAnimalTakesItsRowsOfTheDay)
     EXPECT_EQ(TheWindow.Shown.size(), 7U);
 }
 
+TEST_F(MilkCollectionsListTest, AFileOfItIsNamedAfterTheMilkTheShiftAndTheDay)
+{
+    Staged("15042026{ENTER}{ENTER}%i");
+    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("15-04-2026"));
+    Staged("15042026{ENTER}mhOsa{ENTER}%s%i");
+    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("म्हैस सकाळ 15-04-2026"));
+}
+
 TEST_F(MilkCollectionsListTest, TheDayIsComparedAsText)
 {
     EXPECT_EQ(Staged("05012026{ENTER}{ENTER}%i"), "5");

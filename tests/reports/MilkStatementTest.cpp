@@ -49,6 +49,14 @@ TEST_F(MilkStatementTest, AMorningAloneHasEveningNoughtsAndADayWithoutMilkHasNoL
     EXPECT_TRUE(ReportTexts().contains(Seen(QStringLiteral("gaNaoSa"))));
 }
 
+TEST_F(MilkStatementTest, AFileOfItIsNamedAfterTheMemberAndThePeriod)
+{
+    Report(OfTheMember);
+    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("गणेश 13-04-2026 ते 15-04-2026"));
+    Report("13042026{ENTER}13042026{ENTER}%i");
+    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("13-04-2026"));
+}
+
 TEST_F(MilkStatementTest, CowStandsBeforeBuffaloOnEachDayAndBothShiftsInOneLine)
 {
     AddDelivery("13/04/2026", "sakaL", 1, 3, "gaNaoSa", "mhOsa", 2, 7, 45);

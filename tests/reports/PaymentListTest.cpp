@@ -52,6 +52,7 @@ TEST_F(PaymentListTest, CashHoldsTheDaysPaymentsOfThoseWhoAreNotPaidThroughABank
         EXPECT_FALSE(texts.contains(QString::fromLatin1(amount))) << amount;
     EXPECT_TRUE(texts.contains(QStringLiteral("एकूण (3)")));
     EXPECT_TRUE(texts.contains(QStringLiteral("800.00")));
+    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("05-04-2026"));
 }
 
 TEST_F(PaymentListTest, BankHoldsTheAccountsAndWhatEachBankGets)

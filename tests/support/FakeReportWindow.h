@@ -15,6 +15,9 @@ public:
     std::vector<std::shared_ptr<Report>> Shown;
     QStringList Told;
 
+    // What the last of them is about.
+    QString Subject() const { return Shown.empty() ? QString() : Shown.back()->Subject(); }
+
     // What the clerk knows the reports by.
     QStringList Titles() const
     {

@@ -26,6 +26,10 @@ public:
     // What the clerk knows the report by: its title, or its name if it has none.
     const QString& Title() const { return m_template.title.isEmpty() ? m_template.name : m_template.title; }
 
+    // What it is about beyond its title, such as a member and a period; empty if nobody has said.
+    const QString& Subject() const { return m_subject; }
+    void SetSubject(const QString& subject) { m_subject = subject; }
+
     // Lays out one more page. Returns false if there is none any more; the number of pages is known then.
     bool LayOutNext();
 
@@ -60,6 +64,7 @@ private:
     void FillInPageCount();
 
     ReportTemplate m_template;
+    QString m_subject;
     std::shared_ptr<Connection> m_connection;
     FontTable m_fonts;
     std::vector<Page> m_pages;

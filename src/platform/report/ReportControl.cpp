@@ -111,6 +111,7 @@ std::shared_ptr<Report> ReportControl::Begin(const std::shared_ptr<Connection>& 
 bool ReportControl::Print()
 {
     const std::shared_ptr<Report> report = Begin(ReadingRoom::Current().Open(m_logon));
+    report->SetSubject(m_subject);
     const ReportSurroundings& surroundings = ReportSurroundings::Current();
     if (m_destination == ReportDestination::Window) {
         Q_ASSERT(surroundings.window);

@@ -45,6 +45,9 @@ public:
     // 00)".
     void SetSelectionFormula(const QString& formula) { m_formula = formula; }
 
+    // What the run is about, as it is read: see Report::Subject.
+    void SetSubject(const QString& subject) { m_subject = subject; }
+
     // The window, unless it is set.
     void SetDestination(ReportDestination destination) { m_destination = destination; }
 
@@ -68,5 +71,6 @@ private:
     QString m_file;
     QString m_logon;
     QString m_formula;
+    QString m_subject;
     ReportDestination m_destination = ReportDestination::Window;
 };
