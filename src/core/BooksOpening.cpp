@@ -10,10 +10,13 @@
 #include <QFile>
 
 #include <optional>
+#include <utility>
 
 namespace {
 
 constexpr int DaysBetweenChecks = 7;
+
+bool g_checksNext = false;
 
 QDate Today()
 {
@@ -52,7 +55,7 @@ void OpenBooks()
 {
     std::optional<CheckingLine> line;
     OpeningPlan plan;
-    plan.checksPages = IsCheckDue();
+    plan.checksPages = IsCheckDue() || std::exchange(g_checksNext, false);
     plan.checking = [&] { line.emplace(); };
     plan.newestBackup = NewestBackup();
     const QStringList notes = gCn.Open(Logon(), plan);
@@ -61,6 +64,11 @@ void OpenBooks()
     line.reset();
     for (const QString& note : notes)
         ShowPlain(note);
+}
+
+void CheckNextOpening()
+{
+    g_checksNext = true;
 }
 
 QString NewestBackup()

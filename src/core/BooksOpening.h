@@ -7,5 +7,8 @@
 // that can't be used are a run-time error, which names the newest backup if they are damaged.
 void OpenBooks();
 
+// The next OpenBooks reads every page: the program that had the books last didn't come to its end.
+void CheckNextOpening();
+
 // The newest copy of the books in AppFolder's Backup; empty if there is none.
 QString NewestBackup();

@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include "AppFolder.h"
+#include "BooksOpening.h"
 #include "DataSource.h"
 #include "Fonts.h"
 #include "Look.h"
@@ -42,6 +43,7 @@ int RunProgram()
     const QString folder = LocalPath(AppFolder);
     std::optional<SingleInstance> instance; // held until the books are closed
     try {
+        const bool wasLeftBehind = SingleInstance::IsLeftBehind(folder);
         if (QDir(folder).exists())
             instance.emplace(folder);
         if (instance && !instance->Taken()) {
@@ -49,6 +51,8 @@ int RunProgram()
                 QStringLiteral("The books are open in another window of this program.")));
             return 1;
         }
+        if (wasLeftBehind)
+            CheckNextOpening();
         Privacy::KeepToOwner(folder);
         RegisterPlaces();
         {

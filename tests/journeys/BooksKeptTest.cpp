@@ -35,6 +35,18 @@ protected:
                                    "CollectionTime='saMQyaakaL' order by CollectionNo"));
     }
 
+    // A flipped bit in the index of the gate's list: nothing of the start reads it.
+    void DamageAPage() const
+    {
+        QFile books(FolderFile(Books));
+        ASSERT_TRUE(books.open(QIODevice::ReadWrite));
+        const qint64 at = books.size() - 500;
+        books.seek(at);
+        const QByteArray byte = books.read(1);
+        books.seek(at);
+        books.write(QByteArray(1, static_cast<char>(byte[0] ^ 8)));
+    }
+
     // The program in a process of its own, which can be killed; its books are closed in this one.
     void StartOther()
     {
@@ -220,15 +232,7 @@ TEST_F(BooksKeptTest, AfterAWeekThePagesAreReadAndDamageIsNamedWithTheNewestBack
 {
     gCn.Close();
     ASSERT_TRUE(QFile::copy(FolderFile(Books), FolderFile(QStringLiteral("Backup/kept.mdb"))));
-    QFile books(FolderFile(Books));
-    ASSERT_TRUE(books.open(QIODevice::ReadWrite));
-    // The index of the gate's list: nothing of the start reads it.
-    const qint64 at = books.size() - 500;
-    books.seek(at);
-    const QByteArray byte = books.read(1);
-    books.seek(at);
-    books.write(QByteArray(1, static_cast<char>(byte[0] ^ 8)));
-    books.close();
+    DamageAPage();
     EXPECT_NO_THROW(Reopen());
     gCn.Close();
     TheClock.Time = TheClock.Time.addDays(7);
@@ -239,6 +243,17 @@ TEST_F(BooksKeptTest, AfterAWeekThePagesAreReadAndDamageIsNamedWithTheNewestBack
         EXPECT_TRUE(error.Happened().contains(QStringLiteral("is damaged in the tables"))) << error.what();
         EXPECT_TRUE(error.Happened().contains(QStringLiteral("kept.mdb"))) << error.what();
     }
+}
+
+TEST_F(BooksKeptTest, AfterAnEndThatLeftItsLockThePagesAreReadToo)
+{
+    gCn.Close();
+    DamageAPage();
+    QFile lock(FolderFile(QStringLiteral("Vetrolan.lock")));
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    lock.close();
+    EXPECT_EQ(Start([](Clerk& clerk) { EXPECT_EQ(OnTop(clerk), ""); }), 1);
+    EXPECT_EQ(Boxes("is damaged in the tables"), 1);
 }
 
 TEST_F(BooksKeptTest, SoundBooksAreReadOnceAWeek)

@@ -21,6 +21,11 @@
 
 namespace {
 
+QString LockIn(const QString& folder)
+{
+    return QDir(folder).filePath(QStringLiteral("Vetrolan.lock"));
+}
+
 [[noreturn]] void Refuse(const QString& path, const QString& why)
 {
     throw RunTimeError(RunTimeError::FileAccess,
@@ -35,7 +40,7 @@ class SingleInstance::Private {
 public:
     explicit Private(const QString& folder)
     {
-        const QString path = QDir(folder).filePath(QStringLiteral("Vetrolan.lock"));
+        const QString path = LockIn(folder);
         m_file = CreateFileW(reinterpret_cast<LPCWSTR>(path.utf16()), GENERIC_READ | GENERIC_WRITE, 0,
             nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
         if (!Taken() && GetLastError() != ERROR_SHARING_VIOLATION)
@@ -139,7 +144,7 @@ class SingleInstance::Private {
 public:
     explicit Private(const QString& folder)
         : m_folder(folder)
-        , m_path(QDir(folder).filePath(QStringLiteral("Vetrolan.lock")))
+        , m_path(LockIn(folder))
         , m_name(QFile::encodeName(m_path))
     {
         if (!m_folderLock.Open(QFile::encodeName(folder), O_RDONLY | O_DIRECTORY))
@@ -219,6 +224,11 @@ private:
 SingleInstance::SingleInstance(const QString& folder) : m_d(std::make_unique<Private>(folder)) { }
 
 SingleInstance::~SingleInstance() = default;
+
+bool SingleInstance::IsLeftBehind(const QString& folder)
+{
+    return QFile::exists(LockIn(folder));
+}
 
 bool SingleInstance::Taken() const
 {

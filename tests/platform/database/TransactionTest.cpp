@@ -180,6 +180,27 @@ TEST_F(TransactionTest, WorksAgainOnceTheDiskHasRoom)
     EXPECT_EQ(Saved(), 5);
 }
 
+TEST_F(TransactionTest, AFailedCommitSaysThatItIsNotKnownWhetherTheEntryWasKept)
+{
+    FaultyDisk::Reset();
+    Save(connection);
+    const int writes = FaultyDisk::Count();
+    for (int n = 1; n <= writes; ++n) {
+        FaultyDisk::Reset();
+        FaultyDisk::FullFrom(n);
+        try {
+            Save(connection);
+            ADD_FAILURE() << "full from " << n;
+        } catch (const RunTimeError& error) {
+            EXPECT_TRUE(
+                error.Happened().contains(QStringLiteral("It is not known whether the last entry was kept")));
+            EXPECT_TRUE(error.Happened().contains(QStringLiteral("ते माहीत नाही")));
+            EXPECT_FALSE(error.Happened().contains(QStringLiteral("nothing was saved")));
+        }
+    }
+    FaultyDisk::Reset();
+}
+
 TEST_F(TransactionTest, AFailureInsideLeavesNothingToCommit)
 {
     FaultyDisk::FullFrom(1);
