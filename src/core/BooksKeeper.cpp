@@ -1,6 +1,7 @@
 #include "BooksKeeper.h"
 
 #include "MdlAccounts.h"
+#include "Messages.h"
 #include "ModalStack.h"
 
 namespace {
@@ -20,7 +21,11 @@ BooksKeeper::BooksKeeper()
         if (!gCn.Fold() && gCn.LogSize() > 0)
             m_rest.start();
     });
-    ModalStack::Current().SetLeft([] { gCn.Fold(); });
+    // A box is answered in the midst of some other screen's work.
+    ModalStack::Current().SetLeft([](const Screen& screen) {
+        if (!dynamic_cast<const frmMessages*>(&screen))
+            gCn.Fold();
+    });
     gCn.SetWritten([this] { BooksWritten(); });
 }
 

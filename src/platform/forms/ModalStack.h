@@ -28,7 +28,7 @@ public:
     const std::optional<RunTimeError>& Failure() const { return m_failure; }
 
     // `left` is called whenever a screen has been left, before the one beneath it goes on.
-    void SetLeft(std::function<void()> left) { m_left = std::move(left); }
+    void SetLeft(std::function<void(const Screen&)> left) { m_left = std::move(left); }
 
     // Forgets a failure, so that a test can begin anew.
     void Reset();
@@ -37,7 +37,7 @@ private:
     friend class Screen;
 
     std::vector<Screen*> m_open;
-    std::function<void()> m_left;
+    std::function<void(const Screen&)> m_left;
     std::optional<RunTimeError> m_failure;
 };
 

@@ -64,7 +64,7 @@ void Screen::ShowModal()
             screen.hide();
             std::erase(open, &screen);
             if (ModalStack::Current().m_left)
-                ModalStack::Current().m_left();
+                ModalStack::Current().m_left(screen);
             if (open.empty())
                 return;
             open.back()->TypeLater({screen.m_keys.begin(), screen.m_keys.end()});
