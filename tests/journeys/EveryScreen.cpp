@@ -1,0 +1,109 @@
+#include "EveryScreen.h"
+
+#include "AppDate.h"
+#include "KeyboardTutor.h"
+#include "MainMenu.h"
+#include "Messages.h"
+#include "Narrations.h"
+#include "OpeningScreens.h"
+#include "RunTimeError.h"
+#include "ScreenDirectory.h"
+#include "frmSearchCollections.h"
+
+#include <QDeadlineTimer>
+
+namespace {
+
+// A screen that the menu or another screen opens by its name.
+ScreenState ByName(const char* screen, const char* keys)
+{
+    const QString name = QString::fromLatin1(screen);
+    return {name, QString::fromUtf8(keys), [name] { ScreenDirectory::Open(name, {}); }};
+}
+
+// A screen that is reached from another with keys of it.
+ScreenState From(const char* opening, const char* screen, const char* keys)
+{
+    ScreenState state = ByName(opening, keys);
+    state.screen = QString::fromLatin1(screen);
+    return state;
+}
+
+template <class S> ScreenState Alone(const char* screen, const char* keys = "")
+{
+    return {QString::fromLatin1(screen), QString::fromUtf8(keys), [] {
+                S shown;
+                shown.ShowModal();
+            }};
+}
+
+// The tick of the search's opening calls the clerk back: it is waited for.
+void WaitForTheSearch(Clerk& clerk)
+{
+    const QDeadlineTimer limit(10000);
+    while (clerk.On<frmSearchCollections>().TimerStart && !limit.hasExpired())
+        clerk.Do([] {});
+}
+
+std::vector<ScreenState> All()
+{
+    constexpr const char* line = "{ENTER}1{ENTER}{ENTER}3{ENTER}1{ENTER}5{ENTER}4.5{ENTER}{ENTER}";
+    return {
+        Alone<frmAbout>("frmAbout"),
+        Alone<frmTip>("frmTip"),
+        Alone<frmAppDate>("frmAppDate", "15042026{ENTER}"),
+        Alone<frmKeyboardTutor>("frmKeyboardTutor"),
+        Alone<MainMenuFrm>("MainMenuFrm", "{ENTER}{ENTER}{ENTER}"),
+        {QStringLiteral("frmNarrations"), {},
+            [] {
+                frmNarrations prompt(Plain(u"नाव"));
+                prompt.ShowModal();
+            }},
+        {QStringLiteral("frmMessages"), {}, [] { Ask(u"roka^D- na@kI badlaayacao ka Æ"); }},
+        ByName("frmMembers", ""),
+        ByName("frmMembers", "%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}2{ENTER}"),
+        ByName("frmMembers", "%d3{ENTER}"),
+        ByName("frmMembers", "%k1{ENTER}"),
+        ByName("frmMilkCollections", line),
+        ByName(
+            "frmMilkCollections", "{ENTER}1{ENTER}{ENTER}3{F7}14042026{ENTER}15042026{ENTER}3{ENTER}{ENTER}"),
+        ByName("frmCollectionGate", line),
+        ByName("frmDailyCollection", ""),
+        ByName("frmDailyCollection",
+            "%n3{ENTER}{ENTER}16042026{ENTER}2{ENTER}{ENTER}1{ENTER}5{ENTER}4.5{ENTER}"),
+        ByName("frmDailyCollection", "%d1{ENTER}{ENTER}15042026{ENTER}1{ENTER}1{ENTER}"),
+        ByName("frmDailyCollection", "%k1{ENTER}{ENTER}15042026{ENTER}1{ENTER}1{ENTER}"),
+        ByName("frmSearchCollections", "15042026{ENTER}1{ENTER}1{ENTER}{ENTER}"),
+        ByName("frmAbsenseMemberCollection", "15042026{ENTER}1{ENTER}"),
+        ByName("frmAutoSettings", ""),
+        ByName("frmAutoSettings", "^{PGDN}"),
+        ByName("frmAutoSettings", "^{PGDN}^{PGDN}{ENTER}"),
+        ByName("frmReportMilkPS", "14042026{ENTER}15042026{ENTER}{ENTER}{ENTER}"),
+        ByName("frmReportMilkCollections", "14042026{ENTER}{ENTER}"),
+        ByName("frmReportMembersList", ""),
+        ByName("frmReportMembersList", "%2"),
+        ByName("frmReportMembersList", "%3"),
+        ByName("frmReportPaymentList", "11042026{ENTER}"),
+        From("frmReportMembersList", "frmReportPreview", "%i"),
+        From("frmReportMembersList", "frmReportFile", "%i^s"),
+        From("frmReportMembersList", "frmReportPrinter", "%i^p"),
+    };
+}
+
+}
+
+const std::vector<ScreenState>& EveryScreen()
+{
+    static const std::vector<ScreenState> all = All();
+    return all;
+}
+
+void PlayOn(Clerk& theClerk, const ScreenState& state, const std::function<void(Clerk&)>& script)
+{
+    theClerk.Play(state.open, [&](Clerk& clerk) {
+        if (clerk.ScreenName() == u"frmSearchCollections")
+            WaitForTheSearch(clerk);
+        clerk.Type(state.keys);
+        script(clerk);
+    });
+}

@@ -1,0 +1,208 @@
+// What holds on every screen of the program, in each of its states: the way back, and the names of its keys.
+
+#include "EveryScreen.h"
+#include "Actions.h"
+#include "ProgramTest.h"
+
+#include "Button.h"
+#include "CheckBox.h"
+#include "Keys.h"
+#include "NameCombo.h"
+#include "OptionButton.h"
+#include "ReportHandover.h"
+#include "ScreenDirectory.h"
+
+#include <QLabel>
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+// Printers to choose from.
+class TwoPrinters final : public Printer {
+public:
+    QStringList Names() override { return {QStringLiteral("Office"), QStringLiteral("Store")}; }
+    Outcome Print(const PrintJob&) override { return {}; }
+};
+
+class EveryScreenTest : public ProgramTest, public ::testing::WithParamInterface<ScreenState> {
+protected:
+    EveryScreenTest() { FillBooks(); }
+
+    // Plays on the screen in its state.
+    void OnIt(const std::function<void(Clerk&)>& script)
+    {
+        PlayOn(TheClerk, GetParam(), [&](Clerk& clerk) {
+            ASSERT_EQ(clerk.ScreenName(), GetParam().screen);
+            script(clerk);
+        });
+    }
+
+private:
+    ReportHandover m_handover{std::make_unique<TwoPrinters>()};
+};
+
+std::string NameOf(const ::testing::TestParamInfo<ScreenState>& info)
+{
+    return info.param.screen.toStdString() + std::to_string(info.index);
+}
+
+INSTANTIATE_TEST_SUITE_P(Program, EveryScreenTest, ::testing::ValuesIn(EveryScreen()), NameOf);
+
+// The stop before the one that holds the focus, around the end, as the screen stands now.
+QString Before(const Screen& screen, const QString& name)
+{
+    const std::vector<Control*>& controls = screen.Controls();
+    const auto isStop = [](const Control* control) { return control->CanTakeFocus() && control->TabStop(); };
+    const auto here = std::find_if(
+        controls.begin(), controls.end(), [&](const Control* control) { return control->Name() == name; });
+    auto at = here;
+    do
+        at = std::prev(at == controls.begin() ? controls.end() : at);
+    while (at != here && !isStop(*at));
+    return (*at)->Name();
+}
+
+// A field may open or close what is before it while it is left.
+TEST_P(EveryScreenTest, ShiftTabLeadsFromEachFieldToTheOneBeforeIt)
+{
+    OnIt([](Clerk& clerk) {
+        std::set<QString> met;
+        while (met.insert(clerk.Focus()).second) {
+            const QString from = clerk.Focus();
+            const QString asItStood = Before(clerk.Top(), from);
+            Type(clerk, "+{TAB}");
+            ASSERT_EQ(clerk.ScreenName(), GetParam().screen) << "from " << from.toStdString();
+            const QString asItStands = Before(clerk.Top(), from);
+            EXPECT_TRUE(clerk.Focus() == asItStood || clerk.Focus() == asItStands)
+                << "from " << from.toStdString() << " to " << Focus(clerk);
+        }
+        const bool hasOneStop = clerk.Focus() == Before(clerk.Top(), clerk.Focus());
+        EXPECT_TRUE(hasOneStop || met.size() > 1);
+    });
+}
+
+// All keys that the list of keys names for a screen, its places included.
+QString KeysNamedOn(const QString& screen)
+{
+    QString named;
+    for (const Keys::Sheet& sheet : Keys::Sheets()) {
+        const bool isFrame = screen == u"frmMilkCollections" && sheet.screen == u"FrameMilkCollection";
+        if (sheet.screen != screen && !sheet.screen.startsWith(QString(screen + u'.')) && !isFrame)
+            continue;
+        for (const KeyHint& hint : Keys::Of(sheet.screen))
+            named += u' ' + hint.key + u' ';
+    }
+    return named;
+}
+
+TEST_P(EveryScreenTest, ItsKeysAreNamedInTheListOrInTheGuide)
+{
+    OnIt([](Clerk& clerk) {
+        const QString named = KeysNamedOn(clerk.ScreenName());
+        for (const Control* control : clerk.Top().Controls()) {
+            const auto expect = [&](const QString& key) {
+                EXPECT_TRUE(
+                    named.contains(QString(u' ' + key + u' ')) || control->Guide().Seen().contains(key))
+                    << key.toStdString() << " at " << control->Name().toStdString();
+            };
+            QChar mnemonic;
+            if (const auto* button = dynamic_cast<const Button*>(control))
+                mnemonic = button->Shown().Mnemonic();
+            else if (const auto* option = dynamic_cast<const OptionButton*>(control))
+                mnemonic = option->Shown().Mnemonic();
+            if (!mnemonic.isNull() && control->CanTakeFocus())
+                expect(QStringLiteral("Alt+") + mnemonic);
+            if (dynamic_cast<const NameCombo*>(control))
+                expect(QStringLiteral("↓"));
+            if (dynamic_cast<const ChoiceField*>(control)) {
+                EXPECT_TRUE(named.contains(u" 1 ") || control->Guide().Seen().contains(u'१'))
+                    << "1 at " << control->Name().toStdString();
+            }
+            if (dynamic_cast<const CheckBox*>(control))
+                expect(QStringLiteral("Space"));
+        }
+    });
+}
+
+// Where a field keeps the focus without a message
+
+class WantedOnEveryScreenTest : public ProgramTest {
+protected:
+    WantedOnEveryScreenTest() { FillBooks(); }
+
+    // Plays on a screen as it opens with keys that the last of is refused, and looks at the guide line.
+    void Expect(
+        const char* screen, const char* keys, const char* focus, const char* guideLabel, const char* guide)
+    {
+        const ScreenState state{QString::fromLatin1(screen), QString::fromUtf8(keys),
+            [screen] { ScreenDirectory::Open(QString::fromLatin1(screen), {}); }};
+        PlayOn(TheClerk, state, [&](Clerk& clerk) {
+            if (clerk.ScreenName() == u"frmMessages")
+                Type(clerk, "{ENTER}");
+            EXPECT_EQ(Focus(clerk), focus) << screen << ' ' << keys;
+            const auto* label = clerk.Top().findChild<QLabel*>(QString::fromLatin1(guideLabel));
+            ASSERT_NE(label, nullptr) << screen;
+            EXPECT_EQ(label->text().toStdString(), guide) << screen << ' ' << keys;
+        });
+    }
+};
+
+constexpr const char* DateWanted = "दिनांक असा टाका : 15/04/2026    Esc : बाहेर";
+constexpr const char* ShiftWanted = "1 : सकाळ    2 : संध्याकाळ    Esc : बाहेर";
+
+TEST_F(WantedOnEveryScreenTest, TheMembers)
+{
+    const auto expect = [this](const char* keys, const char* focus, const char* guide) {
+        Expect("frmMembers", keys, focus, "lblGuide", guide);
+    };
+    expect("%n1{ENTER}", "txtMemberNo", "मेम्बर नंबर    Alt+R : रद्द");
+    expect("%n{ENTER}{ENTER}", "ComboMemberName", "मेम्बरचे नांव    Alt+R : रद्द");
+    expect("%d88{ENTER}", "txtMemberNo", "मेम्बर नंबर    Alt+R : रद्द");
+    expect("%d{ENTER}xyz{ENTER}", "ComboMemberName", "मेम्बरचे नांव    Alt+R : रद्द");
+    expect("%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}{ENTER}", "txtAnimal",
+        "१ - गाय    २ - म्हैस    ३ - दोन्ही    Alt+R : रद्द");
+    expect("%n{ENTER}gaIta{ENTER}%s", "txtAnimal", "१ - गाय    २ - म्हैस    ३ - दोन्ही    Alt+R : रद्द");
+}
+
+TEST_F(WantedOnEveryScreenTest, TheMembersFrameOfTheCounter)
+{
+    const auto expect = [this](const char* keys, const char* focus, const char* guide) {
+        Expect("frmMilkCollections", (std::string("{ENTER}1{ENTER}{ENTER}{F7}") + keys).c_str(), focus,
+            "lblFooter", guide);
+    };
+    expect("{ENTER}", "maskFromDate", DateWanted);
+    expect("14042026{ENTER}{ENTER}", "maskToDate", DateWanted);
+    expect("14042026{ENTER}15042026{ENTER}%i", "txtAccountId", "मेम्बर नंबर टाका");
+}
+
+TEST_F(WantedOnEveryScreenTest, TheSearchAndTheAbsentMembers)
+{
+    Expect("frmSearchCollections", "31022026{ENTER}", "maskDate", "lblFooter", DateWanted);
+    Expect("frmSearchCollections", "15042026{ENTER}{ENTER}", "txtTime", "lblFooter", ShiftWanted);
+    Expect("frmSearchCollections", "15042026{ENTER}1{ENTER}{ENTER}xyz{ENTER}", "ComboMemberName", "lblFooter",
+        "नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : बाहेर");
+    Expect("frmAbsenseMemberCollection", "{ENTER}", "MaskDate", "lblFooter", DateWanted);
+    Expect("frmAbsenseMemberCollection", "15042026{ENTER}{ENTER}", "txtTime", "lblFooter", ShiftWanted);
+}
+
+TEST_F(WantedOnEveryScreenTest, TheSettings)
+{
+    Expect("frmAutoSettings", "{BS}{ENTER}", "ComboAutoLiters", "lblMessage",
+        "Alt+↓ : यादीतून निवडा    Alt+R : रद्द");
+    Expect("frmAutoSettings", "{ENTER}{ENTER}{ENTER}0{ENTER}", "txtCowLimit", "lblMessage",
+        "0 पेक्षा जास्त टाका    Alt+R : रद्द");
+}
+
+TEST_F(WantedOnEveryScreenTest, TheReports)
+{
+    Expect("frmReportMilkPS", "{ENTER}", "maskFromDate", "lblGuide", DateWanted);
+    Expect("frmReportMilkPS", "14042026{ENTER}{ENTER}", "maskToDate", "lblGuide", DateWanted);
+    Expect("frmReportMilkCollections", "{ENTER}", "MaskUserDate", "lblGuide", DateWanted);
+    Expect("frmReportMilkCollections", "14042026{ENTER}xyz{ENTER}", "ComboAnimal", "lblGuide",
+        "↓ ने यादीतून निवडा    Esc : बाहेर");
+    Expect("frmReportPaymentList", "{ENTER}", "MaskFromDate", "lblGuide", DateWanted);
+}
+
+}
