@@ -6,6 +6,7 @@
 #include "MdlAccounts.h"
 #include "Messages.h"
 #include "ModalStack.h"
+#include "Names.h"
 #include "Recordset.h"
 #include "ScreenDirectory.h"
 #include "Sql.h"
@@ -227,20 +228,18 @@ void CounterScreen::ComboMemberName_LostFocus()
     const bool asks = txtMemberNo.IsEmpty();
     if (asks)
         ComboMemberName.SetFocus(Wanted::Name());
-    for (Recordset member(gCn, QStringLiteral("SELECT * FROM MembersMaster")); !member.Eof();
-         member.MoveNext()) {
-        if (member[u"MemberName"].Text().trimmed() != name
-            || !ComboMemberName.MayMean(member[u"MemberNo"].Text()))
-            continue;
-        txtMemberNo.SetText(member[u"MemberNo"].Text());
-        TakeAnimalOf(member);
-        if (asks)
-            ComboMemberName.SetFocus(Plain(u"Enter : पुढे"));
-        if (!IsSteppingBack())
-            txtAnimal.SetFocus(); // only if it is the clerk's choice: it is disabled otherwise
+    const Recordset member = MemberOfName(ComboMemberName);
+    if (member.Eof()) {
+        LoadMemberNames();
         return;
     }
-    LoadMemberNames();
+    txtMemberNo.SetText(member[u"MemberNo"].Text());
+    ShowStoredName(ComboMemberName, member); // the balance is kept under this spelling
+    TakeAnimalOf(member);
+    if (asks)
+        ComboMemberName.SetFocus(Plain(u"Enter : पुढे"));
+    if (!IsSteppingBack())
+        txtAnimal.SetFocus(); // only if it is the clerk's choice: it is disabled otherwise
 }
 
 void CounterScreen::LoadMemberNames()

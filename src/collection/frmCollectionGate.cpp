@@ -4,7 +4,9 @@
 #include "Keys.h"
 #include "Layout.h"
 #include "MdlAccounts.h"
+#include "Recordset.h"
 #include "ScreenDirectory.h"
+#include "Shivaji01.h"
 #include "Sql.h"
 
 using namespace Counter;
@@ -74,7 +76,23 @@ void frmCollectionGate::txtAnimal_Change()
 void frmCollectionGate::ComboMemberName_Change()
 {
     const QString name = ComboMemberName.Text().trimmed();
-    Search(Sql(u" WHERE left(MemberName,", name.size(), u")='", name, u"'"));
+    Search(Sql(u" WHERE left(MemberName,", name.size(), u")='", name, u"'", OrReadsLike(name)));
+}
+
+// The deliveries of members whose name begins with what is read, in another spelling.
+QString frmCollectionGate::OrReadsLike(const QString& beginning) const
+{
+    QString condition;
+    if (!chkSerachMode.Checked())
+        return condition;
+    const QString reading = Shivaji01::Reading(beginning);
+    for (Recordset row(gCn, QStringLiteral("SELECT * FROM MilkCollectionsTemp")); !row.Eof();
+         row.MoveNext()) {
+        const QString name = row[u"MemberName"].Text();
+        if (!name.startsWith(beginning) && Shivaji01::Reading(name).startsWith(reading))
+            condition += Sql(u" or CollectionNo=", row[u"CollectionNo"].Number());
+    }
+    return condition;
 }
 
 // A field that was just emptied shows the whole shift.

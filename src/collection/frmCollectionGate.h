@@ -28,6 +28,7 @@ private:
     void txtMemberNo_Change() override;
     void txtAnimal_Change();
     void ComboMemberName_Change();
+    QString OrReadsLike(const QString& beginning) const;
 
     static Caption Ascending() { return Plain(u"↑"); }
     static Caption Descending() { return Plain(u"↓"); }

@@ -7,6 +7,7 @@
 #include "LookupFatRate.h"
 #include "MdlAccounts.h"
 #include "Messages.h"
+#include "Names.h"
 #include "Sql.h"
 #include "Wanted.h"
 
@@ -231,11 +232,7 @@ void frmDailyCollection::cmbMemberName_LostFocus()
     if (!numbered.Eof() && numbered[u"MemberName"].Text().trimmed() == name
         && cmbMemberName.MayMean(numbered[u"MemberNo"].Text()))
         return;
-    for (Recordset member(gCn, QStringLiteral("SELECT * FROM MembersMaster")); !member.Eof();
-         member.MoveNext()) {
-        if (member[u"MemberName"].Text().trimmed() != name
-            || !cmbMemberName.MayMean(member[u"MemberNo"].Text()))
-            continue;
+    if (const Recordset member = MemberOfName(cmbMemberName); !member.Eof()) {
         txtMemberNo.SetText(member[u"MemberNo"].Text());
         TakeMember(member);
         return;

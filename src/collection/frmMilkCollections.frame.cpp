@@ -7,6 +7,7 @@
 #include "MdlAccounts.h"
 #include "Messages.h"
 #include "ModalStack.h"
+#include "Names.h"
 #include "Queries.h"
 #include "Recordset.h"
 #include "ReportSubject.h"
@@ -81,6 +82,8 @@ void frmMilkCollections::cmbAccountName_LostFocus()
         gCn, Sql(u"Select * from MembersMaster Where MemberName='", cmbAccountName.Text(), u"'"));
     while (!member.Eof() && !cmbAccountName.MayMean(member[u"MemberNo"].Text()))
         member.MoveNext();
+    if (member.Eof())
+        member = MemberOfName(cmbAccountName);
     if (!member.Eof())
         ShowAccount(member);
 }

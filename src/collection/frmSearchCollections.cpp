@@ -10,6 +10,7 @@
 #include "Messages.h"
 #include "MilkReceipt.h"
 #include "ModalStack.h"
+#include "Names.h"
 #include "Queries.h"
 #include "ReceiptLayouts.h"
 #include "Recordset.h"
@@ -165,7 +166,7 @@ void frmSearchCollections::txtMemberNo_LostFocus()
     if (number == 0 || member.Eof())
         txtMemberNo.Clear();
     else
-        ComboMemberName.SetText(member[u"MemberName"].Text());
+        ShowStoredName(ComboMemberName, member);
 }
 
 void frmSearchCollections::ComboMemberName_GotFocus()
@@ -184,12 +185,9 @@ void frmSearchCollections::ComboMemberName_LostFocus()
         ComboMemberName.SetFocus(Wanted::Name());
         return;
     }
-    for (Recordset member(gCn, QStringLiteral("SELECT * FROM MembersMaster")); !member.Eof();
-         member.MoveNext()) {
-        if (member[u"MemberName"].Text().trimmed() != name
-            || !ComboMemberName.MayMean(member[u"MemberNo"].Text()))
-            continue;
+    if (const Recordset member = MemberOfName(ComboMemberName); !member.Eof()) {
         txtMemberNo.SetText(member[u"MemberNo"].Text());
+        ShowStoredName(ComboMemberName, member);
         Search();
         return;
     }

@@ -3,6 +3,8 @@
 #include "MdlAccounts.h"
 #include "MemberClosing.h"
 #include "Messages.h"
+#include "Names.h"
+#include "Queries.h"
 #include "Sql.h"
 #include "Transaction.h"
 
@@ -15,17 +17,6 @@ Recordset MemberOfNumber(double number)
 {
     Recordset members(gCn, QStringLiteral("SELECT * FROM MembersMaster"));
     while (!members.Eof() && members[u"MemberNo"].Number() != number)
-        members.MoveNext();
-    return members;
-}
-
-// The record of the name in a list, blanks at its ends aside.
-Recordset MemberOfName(const NameCombo& list)
-{
-    const QString name = list.Text().trimmed();
-    Recordset members(gCn, QStringLiteral("SELECT * FROM MembersMaster"));
-    while (!members.Eof()
-        && (members[u"MemberName"].Text().trimmed() != name || !list.MayMean(members[u"MemberNo"].Text())))
         members.MoveNext();
     return members;
 }
@@ -110,11 +101,10 @@ void frmMembers::OfferToAdd(NameCombo& combo, QStringView table, QStringView col
     const QString name = combo.Text().trimmed();
     if (name.isEmpty())
         return;
-    const bool known = !Recordset(gCn,
-        Sql(u"SELECT ", column, u" FROM ", table, u" WHERE CompanyId=", gAppState.gCompanyId, u" and trim(",
-            column, u")='", name, u"'"))
-                            .Eof();
-    if (known)
+    const QString ofCompany =
+        Sql(u"SELECT ", column, u" FROM ", table, u" WHERE CompanyId=", gAppState.gCompanyId);
+    if (Finds(Sql(ofCompany, u" and trim(", column, u")='", name, u"'"))
+        || !RowOfName(ofCompany, column, name).Eof())
         return;
     if (!Ask(Shivaji(question))) {
         Hold(combo);

@@ -2,6 +2,7 @@
 
 #include "CompanyTitle.h"
 #include "MdlAccounts.h"
+#include "Names.h"
 #include "Recordset.h"
 #include "ReportRun.h"
 #include "ReportSubject.h"
@@ -82,9 +83,16 @@ void frmReportMembersList::StageAll()
 void frmReportMembersList::StageArea()
 {
     const QString area = ComboArea.Text();
-    const QString query = area.isEmpty() ? AllMembers : Sql(AllMembers, u" where City='", area, u"'");
-    for (Recordset member(gCn, query); !member.Eof(); member.MoveNext())
-        StageMember(member, u"Area", area.isEmpty() ? member[u"City"].Text() : area);
+    if (area.isEmpty()) {
+        for (Recordset member(gCn, AllMembers); !member.Eof(); member.MoveNext())
+            StageMember(member, u"Area", member[u"City"].Text());
+        return;
+    }
+    for (const QString& city : SpellingsOf(u"MembersMaster", u"City", area)) {
+        for (Recordset member(gCn, Sql(AllMembers, u" where City='", city, u"'")); !member.Eof();
+             member.MoveNext())
+            StageMember(member, u"Area", area);
+    }
 }
 
 void frmReportMembersList::StageMilk()

@@ -76,6 +76,16 @@ TEST_F(DailyCollectionTest, ANumberShowsItsMemberAndHisAnimal)
     });
 }
 
+TEST_F(DailyCollectionTest, AnotherSpellingOfANameIsTheMember)
+{
+    AddMember(8, QStringLiteral("maa$tI"), QStringLiteral("gaaya"));
+    Adding([](Clerk& clerk) {
+        Type(clerk, "{ENTER}maarutI{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "8");
+        EXPECT_EQ(Reads(clerk, "cmbMemberName"), "maa$tI");
+    });
+}
+
 TEST_F(DailyCollectionTest, ATextThatIsNoNumberIsEmptied)
 {
     Adding([](Clerk& clerk) {

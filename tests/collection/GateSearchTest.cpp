@@ -77,6 +77,22 @@ TEST_F(GateSearchTest, ANamesFirstLettersShowAllThatBeginWithThem)
     });
 }
 
+TEST_F(GateSearchTest, ANameIsFoundInAnySpellingThatReadsSo)
+{
+    AddMember(4, QStringLiteral("maa$tI"));
+    AddMember(5, QStringLiteral("maarutI paaTIla"));
+    AddMilk(5, 4, "maa$tI", "gaaya", 1, 4, 32, 32);
+    AddMilk(6, 5, "maarutI paaTIla", "gaaya", 1, 4, 32, 32);
+    Searching([](Clerk& clerk) {
+        Type(clerk, "{ENTER}{ENTER}maaru");
+        EXPECT_EQ(Listed(clerk), "65");
+        Type(clerk, "tI");
+        EXPECT_EQ(Listed(clerk), "65");
+        Type(clerk, " p");
+        EXPECT_EQ(Listed(clerk), "6");
+    });
+}
+
 TEST_F(GateSearchTest, AnEmptyNameGivesAllRows)
 {
     Searching([](Clerk& clerk) {

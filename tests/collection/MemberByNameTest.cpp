@@ -113,6 +113,23 @@ TEST_F(MemberByNameTest, BlanksAroundANameDoNotCount)
     });
 }
 
+TEST_F(MemberByNameTest, AnotherSpellingOfANameFindsTheMemberAndGivesWayToHisOwn)
+{
+    Set("PurchaseEntry", "Collection");
+    AddMember(8, QStringLiteral("maa$tI"), QStringLiteral("gaaya"));
+    AtTheName([this](Clerk& clerk) {
+        Type(clerk, "maarutI{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "8");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "maa$tI");
+        Type(clerk, "{ENTER}5{ENTER}4.5{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(One(QStringLiteral("select MemberName from MilkCollections where MemberNo=8")),
+            QStringLiteral("maa$tI"));
+        EXPECT_EQ(One(QStringLiteral("select ClosingBalance from MembersMaster where MemberNo=8")),
+            QStringLiteral("175"))
+            << "the balance is kept under the member's own spelling";
+    });
+}
+
 TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheFirstIsFound)
 {
     AddMember(8, QStringLiteral("rama"), QStringLiteral("mhOsa"));

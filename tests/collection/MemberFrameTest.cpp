@@ -64,6 +64,16 @@ TEST_F(MemberFrameTest, ANumberOrANameFindsTheMember)
     });
 }
 
+TEST_F(MemberFrameTest, AnotherSpellingOfANameIsTheMember)
+{
+    AddMember(8, QStringLiteral("maa$tI"), QStringLiteral("gaaya"));
+    InTheFrame([](Clerk& clerk) {
+        Type(clerk, "13042026{ENTER}14042026{ENTER}3{ENTER}maarutI{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtAccountId"), "8");
+        EXPECT_EQ(Reads(clerk, "cmbAccountName"), "maa$tI");
+    });
+}
+
 TEST_F(MemberFrameTest, AnUnknownNumberAndAnUnknownNameChangeNothing)
 {
     InTheFrame([](Clerk& clerk) {

@@ -237,6 +237,19 @@ TEST_F(SearchCollectionsTest, AMemberIsFoundByNameWithBlanksAroundIt)
     });
 }
 
+TEST_F(SearchCollectionsTest, AnotherSpellingOfANameFindsTheMembersRows)
+{
+    AddMember(8, QStringLiteral("maa$tI"), QStringLiteral("gaaya"));
+    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 4, 8, QStringLiteral("maa$tI"),
+        QStringLiteral("gaaya"), 2, 4.5, 35, 70);
+    FromTheMenu([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}{ENTER}maarutI{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "8");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "maa$tI");
+        EXPECT_EQ(Focus(clerk), "DataGridInwards");
+    });
+}
+
 TEST_F(SearchCollectionsTest, ShiftTabLeadsFromTheRowsBackToTheNumberOfAnotherMember)
 {
     After(1, [](Clerk& clerk) {

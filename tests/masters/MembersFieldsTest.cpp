@@ -271,3 +271,16 @@ TEST_F(MembersFields, DevanagariFromAnInputMethodIsWrittenAsTheSystemSpellsIt)
     EXPECT_EQ(stored, QStringLiteral("iSaMdo vaaDa"));
     EXPECT_EQ(Seen(stored), seen);
 }
+
+TEST_F(MembersFields, ATownThatReadsLikeOneOfTheListIsNotAskedFor)
+{
+    Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'maa$tI')"));
+    Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(2,'saata$')"));
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{ENTER}{ENTER}rama{ENTER}{ENTER}maarutI{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAnimal"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboCity")), QStringLiteral("maarutI"));
+        clerk.Type(QStringLiteral("1+{TAB}saataru{ENTER}"));
+        EXPECT_EQ(clerk.Message(), CityQuestion) << "the other company's town";
+    });
+}

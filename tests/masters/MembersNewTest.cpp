@@ -121,6 +121,27 @@ TEST_F(MembersNew, ANameOnRecordIsRefusedWhateverItsBlanks)
     });
 }
 
+TEST_F(MembersNew, ANameThatReadsLikeOneOnRecordIsRefused)
+{
+    AddMember(1, QStringLiteral("maa$tI"));
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{ENTER}{ENTER}maarutI{ENTER}"));
+        GoOn(clerk, QStringLiteral("yaa naavaacao roka^D- Agaaodrca Aaho"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        clerk.Type(QStringLiteral("maaQava{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAddress"));
+    });
+}
+
+TEST_F(MembersNew, ANameIsStoredInTheSpellingThatWasTyped)
+{
+    Play([](Clerk& clerk) {
+        FillNewMember(clerk, QStringLiteral("maarutI"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+    });
+    EXPECT_EQ(One(QStringLiteral("select MemberName from MembersMaster")), QStringLiteral("maarutI"));
+}
+
 TEST_F(MembersNew, AnEmptyNameIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {

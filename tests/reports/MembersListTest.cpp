@@ -65,6 +65,16 @@ TEST_F(MembersListTest, AnAreaThatIsBegunIsTheOneThatTheListStandsAt)
     EXPECT_EQ(Staged("%2{ENTER}krm%i"), "") << "no area begins like this";
 }
 
+TEST_F(MembersListTest, AnAreaHoldsItsMembersInAnySpelling)
+{
+    AddMember(4, QStringLiteral("rama"), QStringLiteral("gaaya"));
+    AddMember(5, QStringLiteral("saIta"), QStringLiteral("gaaya"));
+    Run(QStringLiteral("update MembersMaster set City='vaaru' where MemberNo=4"));
+    Run(QStringLiteral("update MembersMaster set City='vaa$' where MemberNo=5"));
+    Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'vaa$')"));
+    EXPECT_EQ(Staged("%2{ENTER}vaaru%i"), "Area|vaa$|5|saIta|vaa$|gaaya Area|vaa$|4|rama|vaaru|gaaya");
+}
+
 TEST_F(MembersListTest, ApostrophesAreDroppedFromTheArea)
 {
     On<frmReportMembersList>([](Clerk& clerk) {

@@ -222,7 +222,10 @@ void NameCombo::TakeMatch()
     const auto holds = [this](const auto& isIt) { return std::find_if(m_rows.begin(), m_rows.end(), isIt); };
     if (word.isEmpty() || holds([&](const Entry& entry) { return entry.name == stored; }) != m_rows.end())
         return;
-    const auto same = holds([&](const Entry& entry) { return entry.name.trimmed() == word; });
+    auto same = holds([&](const Entry& entry) { return entry.name.trimmed() == word; });
+    if (same == m_rows.end())
+        same = holds([reading = Shivaji01::Reading(word)](
+                         const Entry& entry) { return Shivaji01::Reading(entry.name) == reading; });
     if (same != m_rows.end())
         SetText(same->name);
     else if (const int row = MatchOf(stored); row >= 0)

@@ -41,7 +41,8 @@ public:
     void DropDown(bool open);
 
     // Puts a name of the list in place of its beginning: the one that the text is but for blanks around it,
-    // or else the first that begins with it. A text that no name begins with stays as it is.
+    // or that reads the same, or else the first that begins with it. A text that no name begins with stays as
+    // it is.
     void TakeMatch();
 
     // Whether the name in the field may be that of a number: a row that was picked stands for the number

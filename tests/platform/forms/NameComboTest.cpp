@@ -169,6 +169,16 @@ TEST_F(NameComboTest, NamesAreAddedOneByOne)
     });
 }
 
+TEST_F(NameComboTest, ANameThatReadsTheSameComesBeforeOneThatOnlyBeginsSo)
+{
+    WithNames([&](NameCombo& combo) {
+        Do([&] { combo.SetItems({Q("maarutI paaTIla"), Q("maa$tI")}); });
+        Type("maarutI");
+        Do([&] { combo.TakeMatch(); });
+        EXPECT_EQ(Text(combo), "maa$tI");
+    });
+}
+
 TEST_F(NameComboTest, WhatIsPickedIsAChangeByTheClerk)
 {
     WithNames([&](NameCombo& combo) {
