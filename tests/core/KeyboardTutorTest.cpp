@@ -71,4 +71,5 @@ TEST_F(KeyboardTutor, ThePictureShowsTheFourRowsOfKeysWithTheirLettersAndTheNumb
         const int top = 5 * rowHeight;
         EXPECT_GT(DarkPoints(picture, QRect(0, top, picture.width(), picture.height() - top)), 400);
     });
+    EXPECT_FALSE(Failure);
 }

@@ -12,6 +12,9 @@ constexpr const char* Tables[] = {"MembersMaster", "MilkCollections", "MilkPayme
 
 class MembersRecord : public MembersTest {
 protected:
+    // No script of these is broken off, unless its test says so.
+    void TearDown() override { EXPECT_FALSE(Failure); }
+
     // A member of the second company, with a row in every table.
     void AddNamesake(int number, const QString& name)
     {

@@ -52,7 +52,7 @@ TYPED_TEST(ReportEscTest, TheFieldsAreEmptyWhenTheScreenHasClosed)
 {
     this->AddMember(3, QStringLiteral("gaNaoSa"));
     this->Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'kraD')"));
-    this->TheClerk.Play(
+    this->Failure = this->TheClerk.Play(
         [this] {
             typename TypeParam::Screen screen;
             screen.ShowModal();
@@ -64,6 +64,7 @@ TYPED_TEST(ReportEscTest, TheFieldsAreEmptyWhenTheScreenHasClosed)
             clerk.Type(QStringLiteral("{ESC}"));
             EXPECT_EQ(clerk.ScreenName(), QString());
         });
+    EXPECT_FALSE(this->Failure);
 }
 
 }
