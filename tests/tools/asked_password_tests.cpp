@@ -7,6 +7,7 @@
 #include <QFile>
 
 #include <array>
+#include <csignal>
 #include <vector>
 
 #include <poll.h>
@@ -56,6 +57,8 @@ public:
     }
     ~Terminal()
     {
+        if (m_process > 0)
+            kill(m_process, SIGKILL);
         Ended();
         close(m_master);
         close(m_slave);
@@ -200,6 +203,17 @@ TEST_F(AskedPassword, IsLeftInNoCore)
     EXPECT_TRUE(terminal.Limits().simplified().contains("Max core file size 0 0 "));
     terminal.Type("\x03");
     EXPECT_EQ(terminal.Ended(), 1);
+}
+
+TEST_F(AskedPassword, IsBrokenOffAtOnceHoweverSoonThatComesAfterTheQuestion)
+{
+    for (int time = 0; time < 100; ++time) {
+        Terminal terminal(WithoutPassword(Folder()));
+        ASSERT_TRUE(terminal.Says("P")) << time;
+        terminal.Type("\x03");
+        ASSERT_TRUE(terminal.Says("broken off")) << time;
+        EXPECT_EQ(terminal.Ended(), 1);
+    }
 }
 
 TEST_F(AskedPassword, BrokenOffLeavesTheTerminalShowingWhatIsTyped)

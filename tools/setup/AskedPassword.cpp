@@ -8,7 +8,9 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <functional>
 
+#include <poll.h>
 #include <termios.h>
 #include <unistd.h>
 #else
@@ -36,13 +38,19 @@ void BreakOff(int)
 }
 
 // While it lives the terminal shows the ends of lines only. A signal that would end the program ends the
-// typing instead: the terminal must not be left so.
+// typing instead: the terminal must not be left so. It comes through while input is waited for, and only
+// then, so that none falls between a look and the waiting.
 class UnseenTyping {
 public:
     UnseenTyping()
     {
+        sigset_t held;
+        sigemptyset(&held);
+        for (const int signal : Signals)
+            sigaddset(&held, signal);
+        sigprocmask(SIG_BLOCK, &held, &m_heard);
         struct sigaction breaking { };
-        breaking.sa_handler = BreakOff; // without SA_RESTART: the reading ends
+        breaking.sa_handler = BreakOff;
         for (std::size_t i = 0; i < Signals.size(); ++i)
             sigaction(Signals[i], &breaking, &m_handled[i]);
         if (tcgetattr(STDIN_FILENO, &m_seen) != 0)
@@ -58,25 +66,34 @@ public:
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_seen);
         for (std::size_t i = 0; i < Signals.size(); ++i)
             sigaction(Signals[i], &m_handled[i], nullptr);
+        sigprocmask(SIG_SETMASK, &m_heard, nullptr);
     }
     Q_DISABLE_COPY_MOVE(UnseenTyping)
 
+    void WaitForInput() const
+    {
+        pollfd input{STDIN_FILENO, POLLIN, 0};
+        while (ppoll(&input, 1, nullptr, &m_heard) < 0 && errno == EINTR)
+            if (brokenOff)
+                Fail(QStringLiteral("The password was broken off."));
+    }
+
 private:
     static constexpr std::array Signals{SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP};
+    sigset_t m_heard{};
     std::array<struct sigaction, Signals.size()> m_handled{};
     termios m_seen{};
 };
 
 // One line without its end; no more than that is taken. What is far too long for a password isn't read out.
-QString Line()
+QString Line(const std::function<void()>& waitForInput = [] {})
 {
     constexpr qsizetype farTooLong = 1000;
     QByteArray line;
     char c = 0;
     while (line.size() < farTooLong) {
+        waitForInput();
         const ssize_t got = read(STDIN_FILENO, &c, 1);
-        if (brokenOff)
-            Fail(QStringLiteral("The password was broken off."));
         if (got < 0 && errno == EINTR)
             continue;
         if (got <= 0 || c == '\n')
@@ -101,10 +118,11 @@ QString AskedPassword::Read()
     if (!isatty(STDIN_FILENO))
         return Line();
     const UnseenTyping unseen;
+    const auto wait = [&] { unseen.WaitForInput(); };
     Prompt("Password of the books (it isn't shown): ");
-    const QString password = Line();
+    const QString password = Line(wait);
     Prompt("The same once more: ");
-    if (Line() != password)
+    if (Line(wait) != password)
         Fail(QStringLiteral("The two passwords differ."));
     return password;
 }
