@@ -17,14 +17,18 @@
 #include <unistd.h>
 #endif
 
-#ifdef Q_OS_WIN
-
 namespace {
 
 QString LockIn(const QString& folder)
 {
     return QDir(folder).filePath(QStringLiteral("Vetrolan.lock"));
 }
+
+}
+
+#ifdef Q_OS_WIN
+
+namespace {
 
 [[noreturn]] void Refuse(const QString& path, const QString& why)
 {
