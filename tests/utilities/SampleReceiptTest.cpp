@@ -93,6 +93,16 @@ TEST_F(SampleReceipt, TheRowsTakeTheCompanyOfTheScreen)
     EXPECT_EQ(Rows(Q("select CompanyId from MilkReceipt")), QStringList(Q("4")));
 }
 
+TEST_F(SampleReceipt, WithoutACompanyTheSampleIsTidiedAwayBeforeItIsShown)
+{
+    AddTemplate(Q("MilkReceipt1"));
+    gAppState.gCompanyId = 0;
+    Given("CompanyId=0");
+    Settings([&](Clerk& clerk) { PrintSample(clerk); });
+    EXPECT_EQ(Window.Shown.size(), 1U);
+    EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("0"));
+}
+
 TEST_F(SampleReceipt, TheReportReadsWhatIsStaged)
 {
     AddTemplate(Q("MilkReceipt1"));
