@@ -143,6 +143,18 @@ TEST_F(GateSearchTest, TheFilterStaysWhenTheSearchIsTurnedOff)
     });
 }
 
+TEST_F(GateSearchTest, AnEmptiedAnimalShowsTheRowsWithoutOne)
+{
+    Searching([](Clerk& clerk) {
+        Type(clerk, "{ENTER}3{ENTER}1");
+        EXPECT_EQ(Listed(clerk), "31");
+        PressAndSelect(clerk, "txtCollectionNo");
+        Type(clerk, "0{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtAnimal"), "");
+        EXPECT_EQ(Listed(clerk), "") << "it was emptied last, and there is none";
+    });
+}
+
 TEST_F(GateSearchTest, AMembersNameWithAnApostropheEndsTheProgram)
 {
     gCn.RunScript(QStringLiteral("update MilkCollections set MemberName='ra''ma' where CollectionNo=1"));

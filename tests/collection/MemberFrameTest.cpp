@@ -167,8 +167,10 @@ TEST_F(MemberFrameTest, TheReloadGoesByTheCompany)
     Run(QStringLiteral("update MilkCollections set CompanyId=2 where CollectionNo=5"));
     InTheFrame([this](Clerk& clerk) {
         EXPECT_EQ(Copy().size(), 2);
+        EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 2);
         Type(clerk, "{ESC}");
         EXPECT_EQ(Copy(), Of({"1|1|rama|gaaya|5|4.5|35|175"}));
+        EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 1) << "the list of the shift follows";
     });
 }
 

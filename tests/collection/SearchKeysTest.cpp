@@ -1,0 +1,50 @@
+// What F9 brings along, what the list of names shows, and the slip of no company.
+
+#include "SearchCollectionsTest.h"
+
+namespace {
+
+class SearchKeysTest : public SearchCollectionsTest {
+protected:
+    // No script of these is broken off, unless its test says so.
+    void TearDown() override { EXPECT_FALSE(Failure); }
+};
+
+TEST_F(SearchKeysTest, F9BringsTheDayAndTheShiftOfTheCounterAlong)
+{
+    AddDelivery(QStringLiteral("02/04/2026"), QStringLiteral("saMQyaakaL"), 1, 1, QStringLiteral("rama"),
+        QStringLiteral("gaaya"), 9, 4.5, 35, 315);
+    AtTheCounter([](Clerk& clerk) {
+        Type(clerk, "02042026{ENTER}2{ENTER}{ENTER}1{F9}");
+        ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmSearchCollections"));
+        AwaitTick(clerk);
+        EXPECT_EQ(Reads(clerk, "maskDate"), "02/04/2026");
+        EXPECT_EQ(Reads(clerk, "txtTime"), "saMQyaakaL");
+        Type(clerk, "{ENTER}");
+        ASSERT_EQ(Grid(clerk, "DataGridInwards").Rows(), 1);
+        EXPECT_EQ(Grid(clerk, "DataGridInwards").Cell(0, 2), QStringLiteral("9.000"));
+    });
+}
+
+TEST_F(SearchKeysTest, AnUnknownNameBesideANumberLoadsTheListAnew)
+{
+    After(1, [this](Clerk& clerk) {
+        AddMember(4, QStringLiteral("Aajaaobaa"));
+        Type(clerk, "+{TAB}{END}+{HOME}raja{ENTER}");
+        EXPECT_EQ(dynamic_cast<const NameCombo&>(*clerk.Top().Find(u"ComboMemberName")).Items(),
+            Of({"Aajaaobaa", "gaNaoSa", "rama", "saIta"}));
+    });
+}
+
+TEST_F(SearchKeysTest, ASlipOfNoCompanyIsGoneBeforeItIsPrintedAgain)
+{
+    QStringList atPrinting;
+    CounterReport::Engine() = [&](const CounterReport::Run&) {
+        atPrinting.append(One(QStringLiteral("select count(*) from MilkReceipt")));
+    };
+    gAppState.gCompanyId = 0;
+    After(1, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}"); });
+    EXPECT_EQ(atPrinting, Of({"0"}));
+}
+
+}
