@@ -9,8 +9,8 @@
 namespace {
 
 constexpr int FieldWidth = 230;
-constexpr int RowSpacing = 14;
-constexpr int PageMargin = 22;
+constexpr int RowSpacing = 10;
+constexpr int PageMargin = 16;
 constexpr int QuestionWidth = 330;
 constexpr int WhoseWidth = 110;
 constexpr int ButtonWidth = 150;
