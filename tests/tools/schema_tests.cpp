@@ -15,114 +15,128 @@ struct Table {
     const char* columns;
 };
 
-// Every table, with its columns in order, spelled as the statements spell them.
+// Every table, with its columns in order, spelled as the statements spell them, and what each holds: whole
+// numbers (i), numbers with decimals (r), numbers copied into texts without decimals of their own (n), texts
+// (t), days (d).
 const std::vector<Table> Tables{
-    {"CompanyMaster", "CompanyId FromDate CompanyName"},
-    {"CompanySelected", "CompanyId CompanyName AccountingYear FromDate ToDate BstNo CostCenter"},
+    {"CompanyMaster", "CompanyId:i FromDate:d CompanyName:t"},
+    {"CompanySelected",
+        "CompanyId:i CompanyName:t AccountingYear:t FromDate:d ToDate:d BstNo:t CostCenter:i"},
     {"AutoSettings",
-        "CompanyId AutoLiters AutoFat PrintStatus MSRPrintStatus CanLimitBuff CanLimitCow ReceiptType "
-        "RepeatCollection PaymentDuration PurchaseEntry UchalEntry DecimalPayment ThevKapatCow "
-        "ThevKapatBuff SalesRateCow SalesRateBuff SalesRateMix WeighScale FatRateType BasicCowRate "
-        "BasicBuffRate CowBonusRate BuffBonusRate FixedKapat ShowTransportCharges"},
-    {"MenuAccessTable", "MenuName AccessYesNo"},
-    {"PortTable", "LComPortNo LSetting LTareCommand LCounter LReceiverCommand FComPortNo FSetting"},
-    {"rswords", "no1 word1"},
+        "CompanyId:i AutoLiters:t AutoFat:t PrintStatus:t MSRPrintStatus:t CanLimitBuff:t "
+        "CanLimitCow:t ReceiptType:t RepeatCollection:t PaymentDuration:t PurchaseEntry:t "
+        "UchalEntry:t DecimalPayment:t ThevKapatCow:r ThevKapatBuff:r SalesRateCow:t "
+        "SalesRateBuff:t SalesRateMix:t WeighScale:t FatRateType:t BasicCowRate:r BasicBuffRate:r "
+        "CowBonusRate:r BuffBonusRate:r FixedKapat:r ShowTransportCharges:t"},
+    {"MenuAccessTable", "MenuName:t AccessYesNo:i"},
+    {"PortTable",
+        "LComPortNo:i LSetting:t LTareCommand:t LCounter:i LReceiverCommand:t FComPortNo:i "
+        "FSetting:t"},
+    {"rswords", "no1:i word1:t"},
     {"MembersMaster",
-        "CompanyId MemberNo MemberName AccountId Address City Animal PaymentType BankName "
-        "BankAccountNo OpeningBalance OpeningDorC ClosingBalance ClosingDorC CowOpeningThev "
-        "CowClosingThev BuffOpeningThev BuffClosingThev OpeningUchal ClosingUchal CowOpeningLits "
-        "CowClosingLits BuffOpeningLits BuffClosingLits"},
+        "CompanyId:i MemberNo:i MemberName:t AccountId:i Address:t City:t Animal:t PaymentType:t "
+        "BankName:t BankAccountNo:t OpeningBalance:r OpeningDorC:t ClosingBalance:r ClosingDorC:t "
+        "CowOpeningThev:r CowClosingThev:r BuffOpeningThev:r BuffClosingThev:r OpeningUchal:r "
+        "ClosingUchal:r CowOpeningLits:r CowClosingLits:r BuffOpeningLits:r BuffClosingLits:r"},
     {"CustomersMaster",
-        "CompanyId CustomerNo CustomerName Animal CustomerType CowOpeningLits CowClosingLits "
-        "BuffOpeningLits BuffClosingLits"},
-    {"CityMaster", "CompanyId CityName"},
-    {"BankMaster", "CompanyId BankName"},
+        "CompanyId:i CustomerNo:i CustomerName:t Animal:t CustomerType:t CowOpeningLits:r "
+        "CowClosingLits:r BuffOpeningLits:r BuffClosingLits:r"},
+    {"CityMaster", "CompanyId:i CityName:t"},
+    {"BankMaster", "CompanyId:i BankName:t"},
     {"AccountsMaster",
-        "CompanyId AccountId AccountName GroupCode Category OpeningBalance OpeningDorC ClosingBalance "
-        "ClosingDorC"},
-    {"UchalTypes", "CompanyId TypeId UchalType"},
-    {"InstallmentTable", "MemberNo MemberName Kapat"},
-    {"FatDates", "FromDate FatFileName"},
-    {"FatRates", "Fat CowRate BuffRate"},
+        "CompanyId:i AccountId:i AccountName:t GroupCode:t Category:t OpeningBalance:r "
+        "OpeningDorC:t ClosingBalance:r ClosingDorC:t"},
+    {"UchalTypes", "CompanyId:i TypeId:i UchalType:t"},
+    {"InstallmentTable", "MemberNo:i MemberName:t Kapat:r"},
+    {"FatDates", "FromDate:d FatFileName:t"},
+    {"FatRates", "Fat:n CowRate:n BuffRate:n"},
     {"MilkCollections",
-        "CompanyId CollectionDate CollectionTime CollectionNo MemberNo MemberName Animal Liters Fat "
-        "Rate Amount TranId ActualCollectionTime SNF"},
+        "CompanyId:i CollectionDate:d CollectionTime:t CollectionNo:i MemberNo:i MemberName:t "
+        "Animal:t Liters:r Fat:r Rate:r Amount:r TranId:i ActualCollectionTime:t SNF:r"},
     {"MilkSales",
-        "CompanyId SalesDate SalesTime SalesType SalesNo CustomerNo CustomerName Animal Liters Fat "
-        "Rate Amount OurLiters SNF OurFat OurRate OurAmount"},
+        "CompanyId:i SalesDate:d SalesTime:t SalesType:t SalesNo:i CustomerNo:i CustomerName:t "
+        "Animal:t Liters:r Fat:r Rate:r Amount:r OurLiters:r SNF:r OurFat:r OurRate:r OurAmount:r"},
     {"MilkPayments",
-        "CompanyId FromDate ToDate PaymentDate TranId MemberNo MemberName Animal Liters Amount Kapat "
-        "NetAmount PreviousBalance CurrentBalance TotalUchal ThevKapatCow ThevKapatBuff LitersCow "
-        "LitersBuff CowAmount BuffAmount FixedKapat PreviousAdvance"},
-    {"MilkPaymentsDetails", "CompanyId TranDate TranId MemberNo AdvanceType Amount"},
+        "CompanyId:i FromDate:d ToDate:d PaymentDate:d TranId:i MemberNo:i MemberName:t Animal:t "
+        "Liters:r Amount:r Kapat:r NetAmount:r PreviousBalance:r CurrentBalance:r TotalUchal:r "
+        "ThevKapatCow:r ThevKapatBuff:r LitersCow:r LitersBuff:r CowAmount:r BuffAmount:r "
+        "FixedKapat:r PreviousAdvance:r"},
+    {"MilkPaymentsDetails", "CompanyId:i TranDate:d TranId:i MemberNo:i AdvanceType:t Amount:r"},
     {"TransactionsMaster",
-        "CompanyId TranDate TranId TranType DAccountName CAccountName Amount BillNo Narration "
-        "RsInWords Printname Narration2 Narration3"},
-    {"TransactionsDetails", "CompanyId TranDate TranId MemberNo AdvanceType Amount"},
-    {"AdvanceReceipt", "CompanyId TranDate TranId MemberNo AdvanceType Amount"},
+        "CompanyId:i TranDate:d TranId:i TranType:t DAccountName:t CAccountName:t Amount:r "
+        "BillNo:t Narration:t RsInWords:t Printname:t Narration2:t Narration3:t"},
+    {"TransactionsDetails", "CompanyId:i TranDate:d TranId:i MemberNo:i AdvanceType:t Amount:r"},
+    {"AdvanceReceipt", "CompanyId:i TranDate:d TranId:i MemberNo:i AdvanceType:t Amount:r"},
     {"MilkCollectionsOld",
-        "CompanyId CollectionDate CollectionTime CollectionNo MemberNo MemberName Animal Liters Fat "
-        "Rate Amount TranId ActualCollectionTime SNF"},
+        "CompanyId:i CollectionDate:d CollectionTime:t CollectionNo:i MemberNo:i MemberName:t "
+        "Animal:t Liters:r Fat:r Rate:r Amount:r TranId:i ActualCollectionTime:t SNF:r"},
     {"MilkPaymentsOld",
-        "CompanyId FromDate ToDate PaymentDate TranId MemberNo MemberName Animal Liters Amount Kapat "
-        "NetAmount PreviousBalance CurrentBalance TotalUchal ThevKapatCow ThevKapatBuff LitersCow "
-        "LitersBuff CowAmount BuffAmount FixedKapat PreviousAdvance"},
+        "CompanyId:i FromDate:d ToDate:d PaymentDate:d TranId:i MemberNo:i MemberName:t Animal:t "
+        "Liters:r Amount:r Kapat:r NetAmount:r PreviousBalance:r CurrentBalance:r TotalUchal:r "
+        "ThevKapatCow:r ThevKapatBuff:r LitersCow:r LitersBuff:r CowAmount:r BuffAmount:r "
+        "FixedKapat:r PreviousAdvance:r"},
     {"TransactionsMasterOld",
-        "CompanyId TranDate TranId TranType DAccountName CAccountName Amount BillNo Narration "
-        "RsInWords Printname Narration2 Narration3"},
+        "CompanyId:i TranDate:d TranId:i TranType:t DAccountName:t CAccountName:t Amount:r "
+        "BillNo:t Narration:t RsInWords:t Printname:t Narration2:t Narration3:t"},
     {"AccountsMasterOld",
-        "CompanyId AccountId AccountName GroupCode Category OpeningBalance OpeningDorC ClosingBalance "
-        "ClosingDorC"},
+        "CompanyId:i AccountId:i AccountName:t GroupCode:t Category:t OpeningBalance:r "
+        "OpeningDorC:t ClosingBalance:r ClosingDorC:t"},
     {"MilkCollectionsTemp",
-        "CompanyId CollectionDate CollectionTime CollectionNo MemberNo MemberName Animal Liters Fat "
-        "Rate Amount TranId ActualCollectionTime SNF"},
+        "CompanyId:i CollectionDate:d CollectionTime:t CollectionNo:i MemberNo:i MemberName:t "
+        "Animal:t Liters:r Fat:r Rate:r Amount:r TranId:i ActualCollectionTime:t SNF:r"},
     {"MilkSalesTemp",
-        "CompanyId SalesDate SalesTime SalesType SalesNo CustomerNo CustomerName Animal Liters Fat "
-        "Rate Amount OurLiters SNF OurFat OurRate OurAmount"},
+        "CompanyId:i SalesDate:d SalesTime:t SalesType:t SalesNo:i CustomerNo:i CustomerName:t "
+        "Animal:t Liters:r Fat:r Rate:r Amount:r OurLiters:r SNF:r OurFat:r OurRate:r OurAmount:r"},
     {"MilkPaymentsTemp",
-        "CompanyId FromDate ToDate PaymentDate TranId MemberNo MemberName Animal Liters Amount Kapat "
-        "NetAmount PreviousBalance CurrentBalance TotalUchal ThevKapatCow ThevKapatBuff LitersCow "
-        "LitersBuff CowAmount BuffAmount FixedKapat PreviousAdvance"},
-    {"MilkPaymentsDetailsTemp", "CompanyId TranDate TranId MemberNo AdvanceType Amount"},
-    {"AdvanceTemp", "CompanyId TranDate TranId MemberNo AdvanceType Amount"},
-    {"TransactionsDetailsTemp", "CompanyId TranDate TranId MemberNo AdvanceType Amount"},
+        "CompanyId:i FromDate:d ToDate:d PaymentDate:d TranId:i MemberNo:i MemberName:t Animal:t "
+        "Liters:r Amount:r Kapat:r NetAmount:r PreviousBalance:r CurrentBalance:r TotalUchal:r "
+        "ThevKapatCow:r ThevKapatBuff:r LitersCow:r LitersBuff:r CowAmount:r BuffAmount:r "
+        "FixedKapat:r PreviousAdvance:r"},
+    {"MilkPaymentsDetailsTemp", "CompanyId:i TranDate:d TranId:i MemberNo:i AdvanceType:t Amount:r"},
+    {"AdvanceTemp", "CompanyId:i TranDate:d TranId:i MemberNo:i AdvanceType:t Amount:r"},
+    {"TransactionsDetailsTemp", "CompanyId:i TranDate:d TranId:i MemberNo:i AdvanceType:t Amount:r"},
     {"TransactionsMasterTemp",
-        "CompanyId TranDate TranId TranType DAccountName CAccountName Amount BillNo Narration "
-        "RsInWords Printname Narration2 Narration3"},
+        "CompanyId:i TranDate:d TranId:i TranType:t DAccountName:t CAccountName:t Amount:r "
+        "BillNo:t Narration:t RsInWords:t Printname:t Narration2:t Narration3:t"},
     {"BonusPaymentsTemp",
-        "CompanyId FromDate ToDate FromAcNo ToAcNo MilkType CowBonusRate BuffBonusRate SerialNo "
-        "MemberNo MemberName CurrentCowLiters CurrentBuffLiters PreviousCowLiters PreviousBuffLiters "
-        "TotalCowLiters TotalBuffLiters TotalCowBonus TotalBuffBonus TotalBonus Advance "
-        "RemainingBonus PreviousThev AcNo AccountName Animal TotalMilk BonusCharges"},
-    {"ShortMemberList", "CompanyId MemberNo MemberName"},
-    {"ReportDates", "CompanyId FromDate ToDate"},
+        "CompanyId:i FromDate:d ToDate:d FromAcNo:i ToAcNo:i MilkType:t CowBonusRate:r "
+        "BuffBonusRate:r SerialNo:i MemberNo:i MemberName:t CurrentCowLiters:r "
+        "CurrentBuffLiters:r PreviousCowLiters:r PreviousBuffLiters:r TotalCowLiters:r "
+        "TotalBuffLiters:r TotalCowBonus:r TotalBuffBonus:r TotalBonus:r Advance:r "
+        "RemainingBonus:r PreviousThev:r AcNo:i AccountName:t Animal:t TotalMilk:r BonusCharges:r"},
+    {"ShortMemberList", "CompanyId:i MemberNo:i MemberName:t"},
+    {"ReportDates", "CompanyId:i FromDate:d ToDate:d"},
     {"MilkReceipt",
-        "CompanyId CollectionDate CollectionTime CollectionNo MemberNo MemberName Animal Liters Fat "
-        "Rate Amount ActualCollectionTime"},
+        "CompanyId:i CollectionDate:d CollectionTime:t CollectionNo:i MemberNo:i MemberName:t "
+        "Animal:t Liters:r Fat:r Rate:r Amount:r ActualCollectionTime:t"},
     {"MilkSalesReceipt",
-        "CompanyId SalesDate SalesTime SalesType SalesNo CustomerNo CustomerName Animal Liters Fat "
-        "Rate Amount OurLiters SNF OurFat OurRate OurAmount"},
+        "CompanyId:i SalesDate:d SalesTime:t SalesType:t SalesNo:i CustomerNo:i CustomerName:t "
+        "Animal:t Liters:r Fat:r Rate:r Amount:r OurLiters:r SNF:r OurFat:r OurRate:r OurAmount:r"},
     {"MilkCollectionsME",
-        "CompanyId CollectionDate MemberNo MemberName Animal LitersM FatM RateM AmountM LitersE FatE "
-        "RateE AmountE SNFM SNFE"},
-    {"KapatDetails", "CompanyId MemberNo CollectionDate Label1 Value1"},
-    {"KapatSummary", "CompanyId MemberNo Other Uchal Khadya Kirana PrevThev CurrentThev BalThev"},
+        "CompanyId:i CollectionDate:d MemberNo:i MemberName:t Animal:t LitersM:r FatM:r RateM:r "
+        "AmountM:r LitersE:r FatE:r RateE:r AmountE:r SNFM:r SNFE:r"},
+    {"KapatDetails", "CompanyId:i MemberNo:i CollectionDate:d Label1:t Value1:r"},
+    {"KapatSummary",
+        "CompanyId:i MemberNo:i Other:r Uchal:r Khadya:r Kirana:r PrevThev:r CurrentThev:r "
+        "BalThev:r"},
     {"MilkPaymentsRegister",
-        "CompanyId FromDate ToDate PaymentDate TranId MemberNo MemberName Animal CowLiters BuffLiters "
-        "Amount ThevKapat OtherKapat NetAmount PreviousBalance CurrentBalance ActualKapat "
-        "PreviousAdvance"},
-    {"MembersListReport", "CompanyId Crieteria CrieteriaValue MemberNo MemberName City Animal"},
+        "CompanyId:i FromDate:d ToDate:d PaymentDate:d TranId:i MemberNo:i MemberName:t Animal:t "
+        "CowLiters:r BuffLiters:r Amount:r ThevKapat:r OtherKapat:r NetAmount:r PreviousBalance:r "
+        "CurrentBalance:r ActualKapat:r PreviousAdvance:r"},
+    {"MembersListReport", "CompanyId:i Crieteria:t CrieteriaValue:t MemberNo:i MemberName:t City:t Animal:t"},
     {"VadhTootReport",
-        "CompanyId CollectionDate CollectionTime Animal LitersIn LitersLocal LitersSangh LitersOut "
-        "OurLiters"},
+        "CompanyId:i CollectionDate:d CollectionTime:t Animal:t LitersIn:r LitersLocal:r "
+        "LitersSangh:r LitersOut:r OurLiters:r"},
     {"LedgersMaster",
-        "LedgerName FromDate ToDate CompanyId TranDate TranId TranType AccountName DAmount CAmount "
-        "Narration Narration2 Narration3 OpeningBalance OpeningDorC ClosingBalance ClosingDorC Total"},
+        "LedgerName:t FromDate:d ToDate:d CompanyId:i TranDate:d TranId:i TranType:t "
+        "AccountName:t DAmount:r CAmount:r Narration:t Narration2:t Narration3:t OpeningBalance:r "
+        "OpeningDorC:t ClosingBalance:r ClosingDorC:t Total:r"},
     {"BonusPayments",
-        "CompanyId FromDate ToDate FromAcNo ToAcNo MilkType CowBonusRate BuffBonusRate SerialNo "
-        "MemberNo MemberName CurrentCowLiters CurrentBuffLiters PreviousCowLiters PreviousBuffLiters "
-        "TotalCowLiters TotalBuffLiters TotalCowBonus TotalBuffBonus TotalBonus Advance "
-        "RemainingBonus PreviousThev AcNo AccountName Animal TotalMilk BonusCharges"},
+        "CompanyId:i FromDate:d ToDate:d FromAcNo:i ToAcNo:i MilkType:t CowBonusRate:r "
+        "BuffBonusRate:r SerialNo:i MemberNo:i MemberName:t CurrentCowLiters:r "
+        "CurrentBuffLiters:r PreviousCowLiters:r PreviousBuffLiters:r TotalCowLiters:r "
+        "TotalBuffLiters:r TotalCowBonus:r TotalBuffBonus:r TotalBonus:r Advance:r "
+        "RemainingBonus:r PreviousThev:r AcNo:i AccountName:t Animal:t TotalMilk:r BonusCharges:r"},
 };
 
 // Tables that are copied whole from one another.
@@ -186,14 +200,24 @@ QString PlanOf(const QString& statement)
     return AskDelivered(QStringLiteral("explain query plan ") % statement % u';').join(u' ');
 }
 
-TEST(Schema, HasEveryTableWithEveryColumnInOrder)
+TEST(Schema, HasEveryTableWithEveryColumnInOrderAndOfItsType)
 {
+    const QHash<QString, QChar> letters{{QStringLiteral("INTEGER"), u'i'}, {QStringLiteral("REAL"), u'r'},
+        {QStringLiteral("NUMERIC"), u'n'}, {QStringLiteral("TEXT"), u't'}, {QStringLiteral("DATE"), u'd'}};
     for (const Table& table : Tables) {
-        QStringList names;
+        QStringList columns;
         for (const Column& column : ColumnsOf(table.name))
-            names.append(column.name);
-        EXPECT_EQ(names.join(u' '), QString::fromLatin1(table.columns)) << table.name;
+            columns.append(column.name % u':' % letters.value(column.type, u'?'));
+        EXPECT_EQ(columns.join(u' '), QString::fromLatin1(table.columns)) << table.name;
     }
+}
+
+TEST(Schema, AChartHoldsTexts)
+{
+    QStringList columns;
+    for (const QString& line : AskDelivered(QStringLiteral("pragma table_info(Fat010426);")))
+        columns.append(line.section(u'|', 1, 2));
+    EXPECT_EQ(columns.join(u' '), QStringLiteral("Fat|TEXT CowRate|TEXT BuffRate|TEXT"));
 }
 
 TEST(Schema, HasNoOtherTablesThanTheseAndTheFirstChart)
