@@ -41,7 +41,7 @@ INSTANTIATE_TEST_SUITE_P(AtEach, CounterRulesTest, Counters(), CounterName);
 class ReadingBox final : public MessageBox {
 public:
     std::map<QString, QStringList> Line; // what was told -> member, litres, amount at that time
-    void Show(const QString& text) override
+    void Show(const QString& text, const QString&) override
     {
         for (const char* field : {"txtMemberNo", "txtLiters", "txtAmount"})
             Line[text].append(ModalStack::Current().Top()->Find(QString::fromLatin1(field))->Text());

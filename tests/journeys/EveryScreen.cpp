@@ -59,7 +59,7 @@ std::vector<ScreenState> All()
                 frmNarrations prompt(Plain(u"नाव"));
                 prompt.ShowModal();
             }},
-        {QStringLiteral("frmMessages"), {}, [] { Ask(u"roka^D- na@kI badlaayacao ka Æ"); }},
+        {QStringLiteral("frmMessages"), {}, [] { Ask(Shivaji(u"roka^D- na@kI badlaayacao ka Æ")); }},
         ByName("frmMembers", ""),
         ByName("frmMembers", "%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}2{ENTER}"),
         ByName("frmMembers", "%d3{ENTER}"),

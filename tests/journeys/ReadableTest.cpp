@@ -39,8 +39,8 @@ void ReadableTest::AddLargeDeliveries(const QString& name)
                 u"insert into MilkCollections(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
                 u"MemberName,Animal,Liters,Fat,Rate,Amount,TranId,ActualCollectionTime) values(1,"
                 u"'14/04/2026','",
-                QLatin1String(time), u"',", ++number, u",3,'", name, u"','", QLatin1String(animal),
-                u"',1666.666,29.9,60,99999.96,0,'10.59')"));
+                QString::fromLatin1(time), u"',", ++number, u",3,'", name, u"','",
+                QString::fromLatin1(animal), u"',1666.666,29.9,60,99999.96,0,'10.59')"));
 }
 
 QString ReadableTest::Stored(const char16_t* seen)
