@@ -55,7 +55,7 @@ void OpenBooks()
 {
     std::optional<CheckingLine> line;
     OpeningPlan plan;
-    plan.checksPages = IsCheckDue() || std::exchange(g_checksNext, false);
+    plan.checksPages = std::exchange(g_checksNext, false) || IsCheckDue();
     plan.checking = [&] { line.emplace(); };
     plan.newestBackup = NewestBackup();
     const QStringList notes = gCn.Open(Logon(), plan);

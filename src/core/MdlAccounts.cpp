@@ -120,10 +120,10 @@ void ReadPassword()
     if (!file.exists())
         throw RunTimeError(RunTimeError::FileNotFound,
             QStringLiteral(
-                "पासवर्डची फाईल सापडली नाही. ती परत ठेवा आणि पुन्हा सुरु करा.\nFile not found: PWD.TXT"));
+                "पासवर्डची फाइल सापडली नाही. ती परत ठेवा आणि पुन्हा सुरू करा.\nFile not found: PWD.TXT"));
     if (!file.open(QIODevice::ReadOnly))
         throw RunTimeError(RunTimeError::FileAccess,
-            QStringLiteral("पासवर्डची फाईल वाचता येत नाही.\nPWD.TXT: ") + file.errorString());
+            QStringLiteral("पासवर्डची फाइल वाचता येत नाही.\nPWD.TXT: ") + file.errorString());
     gAppState.gDbPassword = PasswordOfFile(file);
 }
 

@@ -49,28 +49,29 @@ BooksOnDisk::BooksOnDisk(const QString& file)
 
 BooksOnDisk::~BooksOnDisk()
 {
-    HeldFiles().remove(m_path);
+    LeaveToTheEnd();
 }
 
-void BooksOnDisk::HoldLog()
+void BooksOnDisk::LeaveToTheEnd()
 {
-    if (!m_log.isOpen())
-        m_log.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-    Remember();
+    const Held::iterator held = HeldFiles().find(m_path);
+    if (held != HeldFiles().end() && (held->expired() || held->lock().get() == this))
+        HeldFiles().erase(held);
 }
 
 BooksOnDisk::Verdict BooksOnDisk::Look()
 {
     if (!m_logState.Exists())
-        HoldLog();
+        RememberLog();
     const FileState books = FileState::Of(m_path);
     const FileState log = FileState::Of(m_log.fileName());
     if (!books.Exists() || !books.IsSameFileAs(m_books) || books.size < m_books.size)
         return Verdict::Changed;
+    const bool areWritten = books.written != m_books.written || books.size != m_books.size;
     const bool isLogThere = log.Exists() && log.IsSameFileAs(m_logState);
     if (isLogThere && log.size < m_logState.size)
-        return Verdict::Changed;
-    if (books.written == m_books.written && books.size == m_books.size)
+        return areWritten && log.size == 0 ? Verdict::LogEmptied : Verdict::Changed;
+    if (!areWritten)
         return isLogThere ? Verdict::Untouched : Verdict::LogGone;
 
     // Somebody else has written. Each round of the log begins with a first page of its own, so an unchanged
@@ -87,14 +88,21 @@ BooksOnDisk::Verdict BooksOnDisk::Look()
 
 void BooksOnDisk::RememberLog()
 {
+    if (!m_log.isOpen())
+        m_log.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     m_logState = FileState::Of(m_log.fileName());
+}
+
+void BooksOnDisk::RememberBooks()
+{
+    m_books = FileState::Of(m_path);
+    m_firstPage = FirstPage();
 }
 
 void BooksOnDisk::Remember()
 {
-    m_books = FileState::Of(m_path);
+    RememberBooks();
     RememberLog();
-    m_firstPage = FirstPage();
 }
 
 void BooksOnDisk::Sync()

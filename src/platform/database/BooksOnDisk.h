@@ -23,12 +23,10 @@ public:
     // Whether this process has the file open.
     static bool AreOpen(const QString& file);
 
-    // To be called when the engine has opened the log.
-    void HoldLog();
-
     enum class Verdict {
         Untouched,
         FoldedByOthers, // another program has brought the log into the books, as it may
+        LogEmptied, // the books were written and the log is empty: folded by others, if the engine says so
         LogGone, // the books are the same, and the engine still has the removed log
         Changed, // replaced, cut short or overwritten: nothing may be written any more
     };
@@ -36,12 +34,21 @@ public:
     // Looks whether books and log are still the ones that were opened, and not smaller.
     Verdict Look();
 
-    // What lies there now is what the engine has written: the log, or both.
+    // What lies there now is what the engine has written: one of them, or both. First called when the engine
+    // has opened the log.
+    void RememberBooks();
     void RememberLog();
     void Remember();
 
     // The marks of the books and of the round of the log that is being written, see LogMark.
     LogRound round;
+
+    // Whether the files were found to be others: from then on nothing goes into them, whoever has them open.
+    bool isForeign = false;
+
+    // Takes the object out of the books that this process has open: its connection is left to the end of the
+    // process, and the file can be opened anew.
+    void LeaveToTheEnd();
 
     // Sees that what was written into the books is on the disk with its time.
     void Sync();

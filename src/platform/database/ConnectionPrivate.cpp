@@ -9,12 +9,24 @@
 
 namespace {
 
-// Connections to files that were changed from outside; the end of the process closes them.
+// Connections that the engine mustn't close; the end of the process does.
 std::vector<std::pair<sqlite3*, std::shared_ptr<BooksOnDisk>>>& ConnectionsLeftOpen()
 {
     static std::vector<std::pair<sqlite3*, std::shared_ptr<BooksOnDisk>>> connections;
     return connections;
 }
+
+// As long as it lives nobody else who uses the books is waited for.
+class NoWaiting {
+public:
+    explicit NoWaiting(sqlite3* handle) : m_handle(handle) { sqlite3_busy_timeout(handle, 0); }
+    ~NoWaiting() { sqlite3_busy_timeout(m_handle, DatabaseFile::BusyMilliseconds); }
+    NoWaiting(const NoWaiting&) = delete;
+    NoWaiting& operator=(const NoWaiting&) = delete;
+
+private:
+    sqlite3* m_handle;
+};
 
 }
 
@@ -53,12 +65,16 @@ Connection::Private::~Private()
     for (Recordset::Private* recordset : m_recordsets)
         recordset->Abandon();
     m_cache.Clear();
-    if (m_isForeign) {
-        // The engine's own closing would fold the log into whatever lies there now.
+    Fold();
+    // The engine's own closing folds the log: into whatever lies there now, and without a word in the log of
+    // what a power cut would leave half done.
+    const LogRound& round = m_onDisk->round;
+    const bool isLogUntold = m_onDisk->LogSize() > 0 && round.isMarked && !round.isFolding;
+    if (m_onDisk->isForeign || isLogUntold) {
+        m_onDisk->LeaveToTheEnd();
         ConnectionsLeftOpen().push_back({m_handle, m_onDisk});
         return;
     }
-    Fold();
     sqlite3_close(m_handle);
 }
 
@@ -119,6 +135,7 @@ void Connection::Private::RunScript(const QString& script)
     const StatementGuard::Aside aside(m_guard);
     const int code = sqlite3_exec(m_handle, script.toUtf8().constData(), nullptr, nullptr, nullptr);
     ForgetShapes();
+    m_onDisk->RememberLog();
     if (code != SQLITE_OK)
         DatabaseErrors::ThrowFailure(m_handle, code, script);
 }
@@ -153,19 +170,41 @@ void Connection::Private::RequireTransaction() const
 // Two looks at names cost nothing beside a save; saving into files that nobody will open again costs the day.
 void Connection::Private::RequireUntouchedFiles()
 {
+    if (!AreFilesOurs())
+        DatabaseErrors::ThrowFilesChanged();
+    if (m_onDisk->Look() == BooksOnDisk::Verdict::LogGone)
+        DatabaseErrors::ThrowLogGone(Fold());
+}
+
+// Whether books and log may be written, by whatever other program they were folded meanwhile.
+bool Connection::Private::AreFilesOurs()
+{
+    if (m_onDisk->isForeign)
+        return false;
     switch (m_onDisk->Look()) {
     case BooksOnDisk::Verdict::Untouched:
-        return;
-    case BooksOnDisk::Verdict::FoldedByOthers:
-        m_onDisk->round = {m_onDisk->round.log, m_onDisk->round.log, false, false};
-        return;
     case BooksOnDisk::Verdict::LogGone:
-        Fold();
-        DatabaseErrors::ThrowLogGone();
+        return true;
+    case BooksOnDisk::Verdict::LogEmptied:
+        if (!IsEmptiedByFold())
+            break;
+        m_onDisk->Remember();
+        [[fallthrough]];
+    case BooksOnDisk::Verdict::FoldedByOthers:
+        m_onDisk->round.BeginAnew();
+        return true;
     case BooksOnDisk::Verdict::Changed:
-        m_isForeign = true;
-        DatabaseErrors::ThrowFilesChanged();
+        break;
     }
+    m_onDisk->isForeign = true;
+    return false;
+}
+
+// An emptied log leaves the engine nothing but the file to read the mark from.
+bool Connection::Private::IsEmptiedByFold()
+{
+    const StatementGuard::Aside aside(m_guard);
+    return LogMark::Of(m_handle).round == m_onDisk->round.log;
 }
 
 int Connection::Private::RunOwn(const QByteArray& own)
@@ -183,12 +222,12 @@ void Connection::Private::RunOrThrow(const QByteArray& own)
 // The first writing behind a fold begins a new round of the log.
 void Connection::Private::MarkRound()
 {
-    if (m_onDisk->round.isMarked)
+    const LogRound& round = m_onDisk->round;
+    if (round.isMarked)
         return;
-    m_newRound = LogMark::New();
-    RunOrThrow("pragma application_id="
-        + QByteArray::number(LogMark::BaseOf(m_onDisk->round.books, m_onDisk->Books()))
-        + ";pragma user_version=" + QByteArray::number(m_newRound));
+    m_newRound = LogMark{LogMark::BaseOf(round.books, m_onDisk->Books()), LogMark::New()};
+    RunOrThrow("pragma application_id=" + QByteArray::number(m_newRound->base)
+        + ";pragma user_version=" + QByteArray::number(m_newRound->round));
 }
 
 bool Connection::Private::IsReading() const
@@ -206,13 +245,16 @@ bool Connection::Private::IsReading() const
 bool Connection::Private::SayThatFoldBegins()
 {
     LogRound& round = m_onDisk->round;
-    if (RunOwn("begin immediate;pragma application_id="
-            + QByteArray::number(LogMark::FoldingBaseOf(round.books)) + ";commit")
+    if (round.isFolding)
+        return true;
+    const qint32 base = round.isMarked ? LogMark::Folding(round.base) : LogMark::FoldingBaseOf(round.books);
+    if (RunOwn("begin immediate;pragma application_id=" + QByteArray::number(base) + ";commit")
         != SQLITE_OK) {
         if (sqlite3_get_autocommit(m_handle) == 0)
             RunOwn("rollback");
         return false;
     }
+    round.base = base;
     round.isMarked = true;
     round.isFolding = true;
     return true;
@@ -220,22 +262,29 @@ bool Connection::Private::SayThatFoldBegins()
 
 bool Connection::Private::Fold()
 {
-    m_onDisk->RememberLog();
-    if (m_depth > 0 || m_isForeign || IsReading() || m_onDisk->LogSize() == 0)
-        return m_onDisk->LogSize() == 0;
-    LogRound& round = m_onDisk->round;
-    if (!round.isFolding && !SayThatFoldBegins())
+    if (m_depth > 0 || IsReading() || !AreFilesOurs())
         return false;
-    sqlite3_busy_timeout(m_handle, 0);
+    const bool isLogGone = m_onDisk->Look() == BooksOnDisk::Verdict::LogGone;
+    if (!isLogGone)
+        m_onDisk->RememberLog();
+    if (m_onDisk->LogSize() == 0)
+        return true;
+    const NoWaiting noWaiting(m_handle);
+    if (!SayThatFoldBegins())
+        return false;
+    int frames = -1;
+    int folded = -1;
     const int code =
-        sqlite3_wal_checkpoint_v2(m_handle, nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr);
-    sqlite3_busy_timeout(m_handle, DatabaseFile::BusyMilliseconds);
+        sqlite3_wal_checkpoint_v2(m_handle, nullptr, SQLITE_CHECKPOINT_TRUNCATE, &frames, &folded);
     m_onDisk->Sync();
-    m_onDisk->Remember();
-    if (code == SQLITE_OK && m_onDisk->LogSize() == 0) {
-        round = {round.log, round.log, false, false};
-    }
-    return !round.isMarked;
+    m_onDisk->RememberBooks();
+    if (!isLogGone)
+        m_onDisk->RememberLog();
+    // Even if somebody who reads holds up the emptying, the engine begins the log anew when all of it is
+    // folded.
+    if (code == SQLITE_OK || (code == SQLITE_BUSY && frames >= 0 && frames == folded))
+        m_onDisk->round.BeginAnew();
+    return code == SQLITE_OK;
 }
 
 void Connection::Private::Rollback()
@@ -243,7 +292,7 @@ void Connection::Private::Rollback()
     if (sqlite3_get_autocommit(m_handle) == 0)
         RunOwn("rollback");
     m_isDoomed = false;
-    m_newRound = 0;
+    m_newRound.reset();
     ForgetShapes();
 }
 
@@ -284,9 +333,9 @@ void Connection::Private::Commit()
         Rollback();
         throw failure;
     }
-    if (m_newRound != 0) {
-        m_onDisk->round.log = std::exchange(m_newRound, 0);
-        m_onDisk->round.isMarked = true;
+    if (m_newRound) {
+        m_onDisk->round.Write(*m_newRound);
+        m_newRound.reset();
     }
     m_onDisk->RememberLog();
     if (m_written)

@@ -7,6 +7,7 @@
 #include "StatementGuard.h"
 
 #include <deque>
+#include <optional>
 
 // A prepared statement on loan: bound and ready to step. It goes back to the cache when the loan ends.
 class Loan {
@@ -108,6 +109,8 @@ private:
     int RunOwn(const QByteArray& own);
     void MarkRound();
     bool SayThatFoldBegins();
+    bool AreFilesOurs();
+    bool IsEmptiedByFold();
     bool IsReading() const;
 
     sqlite3* m_handle;
@@ -120,6 +123,5 @@ private:
     std::function<void()> m_written;
     int m_depth = 0;
     bool m_isDoomed = false;
-    qint32 m_newRound = 0; // the mark that the running transaction gives to a new round of the log; 0: none
-    bool m_isForeign = false; // the files aren't the ones that were opened
+    std::optional<LogMark> m_newRound; // what the running transaction gives to a new round of the log
 };

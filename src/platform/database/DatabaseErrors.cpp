@@ -31,13 +31,13 @@ constexpr Reason Reasons[] = {
         "The database is locked; nothing was saved. Start again."},
     {SQLITE_IOERR, u"डिस्कवर वाचता किंवा लिहिता आले नाही; काहीही जतन झाले नाही. डिस्क तपासा आणि पुन्हा सुरू करा.",
         "The disk can't be read or written; nothing was saved. Check the disk and start again."},
-    {SQLITE_CORRUPT, u"डेटाबेसची फाइल बिघडली आहे. शेवटचा बॅकअप परत आणा.",
+    {SQLITE_CORRUPT, u"हिशेबाची फाइल बिघडली आहे. शेवटचा बॅकअप परत आणा.",
         "The database file is damaged. Restore the last backup."},
-    {SQLITE_NOTADB, u"डेटाबेसची फाइल बिघडली आहे. शेवटचा बॅकअप परत आणा.",
+    {SQLITE_NOTADB, u"हिशेबाची फाइल बिघडली आहे. शेवटचा बॅकअप परत आणा.",
         "The database file is damaged. Restore the last backup."},
-    {SQLITE_READONLY, u"डेटाबेसच्या फाइलमध्ये लिहिता येत नाही; काहीही जतन झाले नाही. फाइलची परवानगी तपासा.",
+    {SQLITE_READONLY, u"हिशेबाच्या फाइलमध्ये लिहिता येत नाही; काहीही जतन झाले नाही. फाइलची परवानगी तपासा.",
         "The database file can't be written; nothing was saved. Check the permissions of the file."},
-    {SQLITE_CANTOPEN, u"डेटाबेसची फाइल उघडता आली नाही. फोल्डरची परवानगी तपासा.",
+    {SQLITE_CANTOPEN, u"हिशेबाची फाइल उघडता आली नाही. फोल्डरची परवानगी तपासा.",
         "The database file can't be opened. Check the permissions of its folder."},
     {SQLITE_NOMEM, u"मेमरी संपली आहे. दुसरे प्रोग्राम बंद करा आणि पुन्हा सुरू करा.",
         "There is no memory left. Close other programs and start again."},
@@ -60,8 +60,7 @@ bool IsFull(sqlite3* handle, int code)
 void DatabaseErrors::ThrowRefused(const char* english, QStringView statement)
 {
     throw RunTimeError(RunTimeError::DatabaseFailure,
-        Sentences(u"हे विधान चालवता येत नाही; काहीही बदलले नाही.", QString::fromUtf8(english)),
-        Shown(statement));
+        Sentences(u"हे काम करता येत नाही; काहीही बदलले नाही.", QString::fromUtf8(english)), Shown(statement));
 }
 
 void DatabaseErrors::ThrowApostrophe(QStringView statement)
@@ -90,7 +89,7 @@ void DatabaseErrors::ThrowOverflow(QStringView value, QStringView statement)
 RunTimeError DatabaseErrors::Failure(sqlite3* handle, int code, QStringView statement)
 {
     const int primary = IsFull(handle, code) ? SQLITE_FULL : code & 0xFF;
-    const QString detail = QString::fromUtf8(sqlite3_errmsg(handle));
+    const QString detail = QString::fromUtf8(handle ? sqlite3_errmsg(handle) : sqlite3_errstr(code));
     for (const Reason& reason : Reasons) {
         if (reason.code != primary)
             continue;
@@ -102,7 +101,7 @@ RunTimeError DatabaseErrors::Failure(sqlite3* handle, int code, QStringView stat
     }
     return RunTimeError(RunTimeError::DatabaseFailure,
         Sentences(
-            u"हे विधान चालवता आले नाही; काहीही बदलले नाही.", QStringLiteral("The statement failed: ") + detail),
+            u"हे काम करता आले नाही; काहीही बदलले नाही.", QStringLiteral("The statement failed: ") + detail),
         Shown(statement));
 }
 
@@ -136,8 +135,16 @@ void DatabaseErrors::ThrowFilesChanged()
                 "the last entries.")));
 }
 
-void DatabaseErrors::ThrowLogGone()
+void DatabaseErrors::ThrowLogGone(bool isBroughtIn)
 {
+    if (!isBroughtIn)
+        throw RunTimeError(RunTimeError::DatabaseFailure,
+            Sentences(u"नोंदींची फाइल (-wal) कार्यक्रम चालू असताना काढली गेली. ही नोंद जतन झाली नाही. पुन्हा सुरू करा "
+                      u"आणि शेवटच्या नोंदी आहेत का ते "
+                      u"पाहा.",
+                QStringLiteral(
+                    "The log beside the database file was removed while the program was running. This "
+                    "entry was not saved. Start again and look whether the last entries are there.")));
     throw RunTimeError(RunTimeError::DatabaseFailure,
         Sentences(u"नोंदींची फाइल (-wal) कार्यक्रम चालू असताना काढली गेली. आधीच्या नोंदी जतन केल्या आहेत; ही शेवटची नोंद "
                   u"जतन झाली नाही. पुन्हा सुरू "

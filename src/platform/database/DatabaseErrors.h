@@ -29,9 +29,10 @@ RunTimeError Failure(sqlite3* handle, int code, QStringView statement);
 // A commit that failed: what was written last may be on the disk all the same.
 RunTimeError CommitFailure(sqlite3* handle, int code);
 
-// The file of the books, or its log, isn't the one that was opened any more.
+// The file of the books, or its log, isn't the one that was opened any more; whether what stood in a removed
+// log could be brought into the books.
 [[noreturn]] void ThrowFilesChanged();
-[[noreturn]] void ThrowLogGone();
+[[noreturn]] void ThrowLogGone(bool isBroughtIn);
 
 // The file or the record set isn't open any more.
 [[noreturn]] void ThrowClosed();

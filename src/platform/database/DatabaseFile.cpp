@@ -30,7 +30,7 @@ OpenedFile OpenForBooks(const QString& file, const QString& password)
     if (opened.Code() != SQLITE_OK)
         DatabaseErrors::ThrowFailure(opened.Handle(), opened.Code(), {});
     MakeReady(opened);
-    books.onDisk->HoldLog();
+    books.onDisk->Remember();
     books.handle = opened.LetGo();
     return books;
 }
@@ -45,10 +45,7 @@ OpenedFile DatabaseFile::Open(const QString& file, const QString& password, cons
     opening.Run();
     OpenedFile books = OpenForBooks(file, password);
     books.notes = opening.Notes();
-    LogRound& round = books.onDisk->round;
-    round.books = opening.BooksRound();
-    round.log = LogMark::Of(books.handle).round;
-    round.isMarked = opening.IsLogMarked();
+    books.onDisk->round = opening.Round();
     return books;
 }
 

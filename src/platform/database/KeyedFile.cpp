@@ -36,8 +36,10 @@ int FlagsFor(KeyedFile::Way way)
 KeyedFile::KeyedFile(const QString& file, const QString& password, Way way)
 {
     m_code = sqlite3_open_v2(NameFor(file, way).constData(), &m_handle, FlagsFor(way), nullptr);
-    if (m_code == SQLITE_OK)
-        m_code = Key(password);
+    if (m_code != SQLITE_OK)
+        return;
+    sqlite3_busy_timeout(m_handle, DatabaseFile::BusyMilliseconds);
+    m_code = Key(password);
 }
 
 KeyedFile::~KeyedFile()
@@ -67,8 +69,12 @@ int KeyedFile::Key(const QString& password)
 
 FirstPage FirstPage::OfFile(const QString& file, const QString& password)
 {
-    KeyedFile opened(file, password, KeyedFile::Way::LookOnly);
     FirstPage page;
+    if (password.isEmpty()) {
+        page.code = SQLITE_NOTADB;
+        return page;
+    }
+    KeyedFile opened(file, password, KeyedFile::Way::LookOnly);
     page.code = opened.Code() != SQLITE_OK ? opened.Code() : opened.Run("pragma schema_version");
     if (page.IsReadable())
         page.mark = LogMark::Of(opened.Handle());
@@ -79,7 +85,7 @@ FirstPage FirstPage::OfBytes(const QByteArray& bytes, quint32 pages, const QStri
 {
     QTemporaryFile copy;
     FirstPage unread;
-    unread.code = SQLITE_IOERR;
+    unread.code = SQLITE_FULL;
     if (!copy.open() || copy.write(bytes) != bytes.size() || !copy.flush())
         return unread;
     // The engine reads nothing of a first page that counts more pages than there are.

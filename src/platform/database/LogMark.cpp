@@ -62,6 +62,16 @@ qint32 LogMark::FoldingBaseOf(qint32 booksRound)
     return static_cast<qint32>(MarkBits(booksRound) | FoldingBit);
 }
 
+qint32 LogMark::Folding(qint32 base)
+{
+    return static_cast<qint32>((static_cast<quint32>(base) & MarkMask) | FoldingBit);
+}
+
+bool LogMark::IsFolding(qint32 base)
+{
+    return (static_cast<quint32>(base) & FoldingBit) != 0;
+}
+
 bool LogMark::GoesOnFrom(qint32 booksRound, const FileState& books, const FileState& log) const
 {
     if (round == booksRound)
@@ -69,6 +79,6 @@ bool LogMark::GoesOnFrom(qint32 booksRound, const FileState& books, const FileSt
     const auto bits = static_cast<quint32>(base);
     if ((bits & MarkMask) != MarkBits(booksRound))
         return false;
-    return (bits & FoldingBit) != 0 || (bits & TraceMask) == TraceBits(books)
+    return IsFolding(base) || (bits & TraceMask) == TraceBits(books)
         || books.written <= log.written + OneCopying;
 }

@@ -28,6 +28,10 @@ struct LogMark {
     static qint32 BaseOf(qint32 booksRound, const FileState& books);
     static qint32 FoldingBaseOf(qint32 booksRound);
 
+    // The same base, with the word that a fold has begun.
+    static qint32 Folding(qint32 base);
+    static bool IsFolding(qint32 base);
+
     // Whether a log with these marks goes on from these books. Books that were put there after the log was
     // written are a copy: they are what somebody wants to have back, even if the log would fit them.
     bool GoesOnFrom(qint32 booksRound, const FileState& books, const FileState& log) const;
@@ -37,6 +41,13 @@ struct LogMark {
 struct LogRound {
     qint32 books = 0; // the mark that the file has
     qint32 log = 0; // the mark that is being written
+    qint32 base = 0; // what the log says that it goes on from
     bool isMarked = false; // whether the log holds its marks already
     bool isFolding = false; // whether the log says that a fold has begun
+
+    // All that the log holds is in the books: what is written next begins a new round.
+    void BeginAnew() { *this = {log, log, 0, false, false}; }
+
+    // The log holds this mark now.
+    void Write(const LogMark& mark) { *this = {books, mark.round, mark.base, true, false}; }
 };

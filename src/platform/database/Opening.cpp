@@ -20,41 +20,58 @@ constexpr int SaltSize = 16; // stands unencrypted at the beginning of the file
 
 [[noreturn]] void ThrowCutShort(const QString& file)
 {
-    ThrowBad(u"डेटाबेसची फाइल अपुरी आहे; तिचा काही भाग नाही. शेवटचा बॅकअप परत आणा.",
+    ThrowBad(u"हिशेबाची फाइल अपुरी आहे; तिचा काही भाग नाही. शेवटचा बॅकअप परत आणा.",
         "The database file \"%1\" is cut short: a part of it is missing. Restore the last backup.", file);
+}
+
+[[noreturn]] void ThrowNoRoom(const QString& file)
+{
+    ThrowBad(u"हिशेबाच्या फाइलचे पहिले पान बिघडले आहे. ते दुरुस्त करायला डिस्कवर जागा नाही. जागा करा आणि पुन्हा सुरू करा.",
+        "The first page of \"%1\" is torn, and the disk has no room to mend it. Make room and start again.",
+        file);
+}
+
+[[noreturn]] void ThrowUnreadable(const QString& file)
+{
+    throw RunTimeError(RunTimeError::FileAccess,
+        Sentences(u"हिशेबाची फाइल वाचता येत नाही. फाइलची परवानगी तपासा.",
+            QStringLiteral("The database file \"%1\" can't be read. Check its permissions.").arg(file)));
 }
 
 [[noreturn]] void ThrowNotWritable(const QString& file)
 {
     throw RunTimeError(RunTimeError::FileAccess,
-        Sentences(u"डेटाबेसच्या फाइलमध्ये किंवा तिच्या फोल्डरमध्ये लिहिता येत नाही. परवानगी बदला आणि पुन्हा सुरू करा.",
-            QStringLiteral(
-                "The database file \"%1\" or its folder can't be written. Change the permissions and "
-                "start again.")
+        Sentences(u"हिशेबाच्या फाइलमध्ये किंवा तिच्या फोल्डरमध्ये लिहिता येत नाही. परवानगी बदला आणि पुन्हा सुरू करा.",
+            QStringLiteral("The database file \"%1\" or its folder can't be written. Change the permissions "
+                           "and start again.")
                 .arg(file)));
 }
 
 // A copy of books and log to try something on, removed at the end.
 class TriedCopy {
 public:
-    explicit TriedCopy(const QString& books) : m_file(books + QStringLiteral(".try"))
+    explicit TriedCopy(const QString& books) : m_file(NameFor(books))
     {
-        Remove();
+        Sweep(books);
         m_isMade = QFile::copy(books, m_file)
             && QFile::copy(WriteAheadLog::NameFor(books), WriteAheadLog::NameFor(m_file));
     }
-    ~TriedCopy() { Remove(); }
+    ~TriedCopy() { Remove(m_file); }
     TriedCopy(const TriedCopy&) = delete;
     TriedCopy& operator=(const TriedCopy&) = delete;
+
+    // Removes what a killed program has left of a copy.
+    static void Sweep(const QString& books) { Remove(NameFor(books)); }
 
     bool IsMade() const { return m_isMade; }
     const QString& File() const { return m_file; }
 
 private:
-    void Remove() const
+    static QString NameFor(const QString& books) { return books + QStringLiteral(".try"); }
+
+    static void Remove(const QString& file)
     {
-        for (const QString& name :
-            {m_file, WriteAheadLog::NameFor(m_file), WriteAheadLog::IndexNameFor(m_file)})
+        for (const QString& name : {file, WriteAheadLog::NameFor(file), WriteAheadLog::IndexNameFor(file)})
             QFile::remove(name);
     }
 
@@ -84,14 +101,31 @@ Opening::Opening(QString file, QString password, const OpeningPlan& plan)
 {
 }
 
+// What was put right before something else failed is told with the failure.
 void Opening::Run()
+{
+    try {
+        LookAndMend();
+    } catch (const RunTimeError& error) {
+        if (m_notes.isEmpty())
+            throw;
+        const QString all = error.Happened() + QStringLiteral("\n\n") + m_notes.join(u'\n');
+        throw RunTimeError(error.Number(), all);
+    }
+}
+
+void Opening::LookAndMend()
 {
     RequireReadable();
     RequireWritable();
+    TriedCopy::Sweep(m_file);
     m_log = WriteAheadLog::Read(m_file, PageSize);
     m_first = FirstPage::OfFile(m_file, m_password);
-    if (HasLoggedPage())
+    RequireLookedAt(m_first);
+    if (HasLoggedPage()) {
         m_logged = FirstPage::OfBytes(m_log.firstPage, m_log.databasePages, m_password);
+        RequireLookedAt(m_logged);
+    }
     if (m_first.IsUnreadable() && HasLoggedPage() && m_logged.IsReadable())
         ReturnFirstSector();
     RequireRightPassword();
@@ -104,20 +138,25 @@ void Opening::Run()
         KeepDamagedLog();
 }
 
+LogRound Opening::Round() const
+{
+    if (m_log.databasePages == 0 || !HasLoggedPage())
+        return {m_first.mark.round, m_first.mark.round, 0, false, false};
+    const LogMark& mark = m_logged.mark;
+    return {m_first.mark.round, mark.round, mark.base, true, LogMark::IsFolding(mark.base)};
+}
+
 void Opening::RequireReadable() const
 {
     const QFileInfo info(m_file);
     if (m_file.isEmpty() || !info.exists())
         throw RunTimeError(RunTimeError::FileNotFound,
-            Sentences(u"डेटाबेसची फाइल सापडली नाही.",
+            Sentences(u"हिशेबाची फाइल सापडली नाही.",
                 QStringLiteral("The database file \"%1\" was not found.").arg(m_file)));
     if (!info.isFile() || !info.isReadable())
-        throw RunTimeError(RunTimeError::FileAccess,
-            Sentences(u"डेटाबेसची फाइल वाचता येत नाही. फाइलची परवानगी तपासा.",
-                QStringLiteral("The database file \"%1\" can't be read. Check its permissions.")
-                    .arg(m_file)));
+        ThrowUnreadable(m_file);
     if (info.size() == 0)
-        ThrowBad(u"डेटाबेसची फाइल रिकामी आहे. शेवटचा बॅकअप परत आणा.",
+        ThrowBad(u"हिशेबाची फाइल रिकामी आहे. शेवटचा बॅकअप परत आणा.",
             "The file \"%1\" is empty; it is not a database. Restore the last backup.", m_file);
 }
 
@@ -127,6 +166,14 @@ void Opening::RequireWritable() const
     const QFileInfo info(m_file);
     if (!info.isWritable() || !info.permission(QFile::WriteOwner) || !QFileInfo(info.path()).isWritable())
         ThrowNotWritable(m_file);
+}
+
+// Whose the log is, and whether the password is right, is told by pages that were read. A disk that is full
+// or can't be read says nothing about either.
+void Opening::RequireLookedAt(const FirstPage& page) const
+{
+    if (!page.IsReadable() && !page.IsUnreadable() && !page.IsOfTooFewPages())
+        DatabaseErrors::ThrowFailure(nullptr, page.code, {});
 }
 
 bool Opening::IsLogOfThisFile() const
@@ -146,11 +193,15 @@ void Opening::PutForeignLogAside()
     QFile::remove(WriteAheadLog::IndexNameFor(m_file));
     m_log = {};
     m_log.isThere = true;
-    m_notes.append(Sentences(QStringLiteral("हिशेबाच्या फाइलशेजारी दुसऱ्या फाइलच्या नोंदी होत्या. त्या वापरल्या नाहीत; "
-                                            "\"%1\" या नावाने बाजूला ठेवल्या आहेत.")
-                                 .arg(QFileInfo(kept).fileName()),
-        QStringLiteral("Beside the books lay the log of other books. It was not used; it is kept as \"%1\".")
-            .arg(kept)));
+    m_notes.append(
+        Sentences(QStringLiteral("या हिशेबाच्या फाइलशी न जुळणाऱ्या नोंदी तिच्याशेजारी होत्या. त्या यात घेतल्या नाहीत; "
+                                 "\"%1\" या नावाने बाजूला ठेवल्या "
+                                 "आहेत. बॅकअप परत आणला असेल तर हे बरोबर आहे; नसेल तर संगणक सांभाळणाऱ्याला दाखवा.")
+                      .arg(QFileInfo(kept).fileName()),
+            QStringLiteral(
+                "Beside the books lay the log of other books. It was not used; it is kept as \"%1\". After "
+                "a restored backup this is as it should be.")
+                .arg(kept)));
 }
 
 // A power cut while the log was being folded can leave a torn first page. All of it stands in the log but for
@@ -160,44 +211,45 @@ void Opening::ReturnFirstSector()
 {
     const QByteArray salt = m_log.firstPage.left(SaltSize);
     const TriedCopy copy(m_file);
-    if (!copy.IsMade() || !WriteSalt(copy.File(), salt) || !DamagedTables(copy.File()).isEmpty())
+    if (!copy.IsMade() || !WriteSalt(copy.File(), salt))
+        ThrowNoRoom(m_file);
+    if (!DamagedTables(copy.File()).isEmpty())
         return;
     if (!WriteSalt(m_file, salt))
         ThrowNotWritable(m_file);
-    m_first = m_logged;
-    m_notes.append(
-        Sentences(QStringLiteral("हिशेबाच्या फाइलचे पहिले पान बिघडले होते; ते नोंदींवरून दुरुस्त केले. काहीही गेले नाही."),
-            QStringLiteral(
-                "The first page of the books was torn; it was mended from the log. Nothing is lost.")));
+    m_notes.append(Sentences(u"हिशेबाच्या फाइलचे पहिले पान बिघडले होते; ते नोंदींवरून दुरुस्त केले.",
+        QStringLiteral("The first page of the books was torn; it was mended from the log.")));
 }
 
 void Opening::KeepDamagedLog()
 {
     const QString kept = DatedLog();
-    if (!QFile::copy(WriteAheadLog::NameFor(m_file), kept))
-        ThrowNotWritable(m_file);
-    const QDateTime since = QFileInfo(m_file).lastModified();
-    m_notes.append(Sentences(QStringLiteral("नोंदींची फाइल बिघडली होती. %1 नंतरच्या सुमारे %2 नोंदी गेल्या असण्याची "
-                                            "शक्यता आहे. त्या तपासा आणि नसतील त्या पुन्हा भरा.")
-                                 .arg(InMarathi(since), QString::number(m_log.lostCommits)),
+    const bool isKept = QFile::copy(WriteAheadLog::NameFor(m_file), kept);
+    const QString since = InMarathi(QFileInfo(m_file).lastModified());
+    const QString number = QString::number(m_log.lostCommits);
+    m_notes.append(Sentences(QStringLiteral("शेवटच्या नोंदींची फाइल बिघडली होती. %1 नंतरच्या सुमारे %2 नोंदी गेल्या "
+                                            "असण्याची शक्यता आहे. त्या तपासा आणि नसतील त्या "
+                                            "पुन्हा भरा.")
+                                 .arg(since, number),
         QStringLiteral(
-            "The log was damaged. About %1 entries made after %2 may be missing: look and key what is "
-            "not there. The damaged log is kept as \"%3\".")
-            .arg(QString::number(m_log.lostCommits), InMarathi(since), kept)));
+            "The log was damaged. About %1 entries made after %2 may be missing: look and key what "
+            "is not there.%3")
+            .arg(number, since,
+                isKept ? QStringLiteral(" The damaged log is kept as \"%1\".").arg(kept) : QString())));
 }
 
 void Opening::RequireRightPassword() const
 {
     if (!m_password.isEmpty() && !m_first.IsUnreadable())
         return;
-    // A torn second sector of the first page: the engine reads the page of the log in its place.
+    // A torn first page of the right salt: the engine reads the page of the log in its place.
     if (!m_password.isEmpty() && HasLoggedPage() && m_logged.IsReadable()
         && m_log.firstPage.left(SaltSize) == Salt())
         return;
     if (QFileInfo(m_file).size() % PageSize != 0)
-        ThrowBad(u"ही फाइल डेटाबेस नाही किंवा अपुरी आहे. शेवटचा बॅकअप परत आणा.",
+        ThrowBad(u"ही फाइल हिशेबाची नाही किंवा अपुरी आहे. शेवटचा बॅकअप परत आणा.",
             "The file \"%1\" is not a database, or it is cut short. Restore the last backup.", m_file);
-    ThrowBad(u"पासवर्ड चुकीचा आहे किंवा ही फाइल डेटाबेस नाही. PWD.TXT तपासा.",
+    ThrowBad(u"पासवर्ड चुकीचा आहे किंवा ही फाइल हिशेबाची नाही. PWD.TXT तपासा.",
         "The password is wrong, or the file \"%1\" is not a database. Check PWD.TXT.", m_file);
 }
 
@@ -223,21 +275,27 @@ void Opening::RequireSoundPages()
     const QStringList damaged = DamagedTables(m_file);
     if (damaged.isEmpty())
         return;
+    const bool areNamed = damaged.first() != u"?";
     const QString tables = damaged.join(QStringLiteral(", "));
-    const QString backup = m_plan.newestBackup;
+    const QString& backup = m_plan.newestBackup;
+    const QString marathi = QStringLiteral("हिशेबाची फाइल बिघडली आहे")
+        + (areNamed ? QStringLiteral(" (%1)").arg(tables) : QString())
+        + QStringLiteral(". शेवटचा बॅकअप परत आणा")
+        + (backup.isEmpty() ? QStringLiteral(".") : QStringLiteral(": %1").arg(backup));
     throw RunTimeError(RunTimeError::DatabaseFailure,
-        Sentences(backup.isEmpty()
-                ? QStringLiteral("हिशेबाची फाइल बिघडली आहे (%1). शेवटचा बॅकअप परत आणा.").arg(tables)
-                : QStringLiteral("हिशेबाची फाइल बिघडली आहे (%1). शेवटचा बॅकअप परत आणा: %2.").arg(tables, backup),
-            QStringLiteral("The database file \"%1\" is damaged in the tables %2. Restore the last backup%3.")
-                .arg(m_file, tables, backup.isEmpty() ? QString() : QStringLiteral(" \"%1\"").arg(backup))));
+        Sentences(marathi,
+            QStringLiteral("The database file \"%1\" is damaged%2. Restore the last backup%3.")
+                .arg(m_file, areNamed ? QStringLiteral(" in the tables ") + tables : QString(),
+                    backup.isEmpty() ? QString() : QStringLiteral(" \"%1\"").arg(backup))));
 }
 
 QStringList Opening::DamagedTables(const QString& file) const
 {
     return PageCheck::DamagedTables([&] {
         KeyedFile opened(file, m_password, KeyedFile::Way::Read);
-        return opened.Code() == 0 ? opened.LetGo() : nullptr;
+        if (opened.Code() != 0)
+            DatabaseErrors::ThrowFailure(opened.Handle(), opened.Code(), {});
+        return opened.LetGo();
     });
 }
 
@@ -256,5 +314,8 @@ QString Opening::DatedLog() const
 QByteArray Opening::Salt() const
 {
     QFile file(m_file);
-    return file.open(QIODevice::ReadOnly) ? file.read(SaltSize) : QByteArray();
+    const QByteArray salt = file.open(QIODevice::ReadOnly) ? file.read(SaltSize) : QByteArray();
+    if (salt.size() != SaltSize)
+        ThrowUnreadable(m_file);
+    return salt;
 }

@@ -14,15 +14,13 @@ public:
     // Does all of it. What can't be put right is an error, and the files are left as they were.
     void Run();
 
-    // The mark that the file has.
-    qint32 BooksRound() const { return m_first.mark.round; }
-
-    // Whether the log's round is marked already.
-    bool IsLogMarked() const { return m_log.databasePages > 0 && !m_log.firstPage.isEmpty(); }
+    // The round of the log that the books go on with.
+    LogRound Round() const;
 
     const QStringList& Notes() const { return m_notes; }
 
 private:
+    void LookAndMend();
     void RequireReadable() const;
     void RequireWritable() const;
     void PutForeignLogAside();
@@ -32,6 +30,7 @@ private:
     void RequirePages() const;
     void RequireSoundPages();
 
+    void RequireLookedAt(const FirstPage& page) const;
     bool HasLoggedPage() const { return !m_log.firstPage.isEmpty(); }
     bool IsLogOfThisFile() const;
     QString DatedLog() const;

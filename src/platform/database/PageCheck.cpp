@@ -1,5 +1,7 @@
 #include "PageCheck.h"
 
+#include "DatabaseErrors.h"
+
 #include <sqlcipher/sqlite3.h>
 
 #include <memory>
@@ -14,17 +16,31 @@ struct Closing {
 using Handle = std::unique_ptr<sqlite3, Closing>;
 using Statement = std::unique_ptr<sqlite3_stmt, Closing>;
 
-// Runs a query to its end; `row` sees each row. Returns false if it failed.
+// Whether a failed reading means a bad page, and not a full disk or another program.
+bool IsDamage(int code)
+{
+    const int primary = code & 0xFF;
+    return primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB || primary == SQLITE_ERROR
+        || code == SQLITE_IOERR_READ || code == SQLITE_IOERR_SHORT_READ;
+}
+
+// Runs a query to its end; `row` sees each row. Returns false if a page can't be read; any other failure is
+// an error.
 template <class Row> bool ReadAll(sqlite3* handle, const QByteArray& query, Row row)
 {
     sqlite3_stmt* prepared = nullptr;
     int code = sqlite3_prepare_v2(handle, query.constData(), -1, &prepared, nullptr);
     const Statement statement(prepared);
-    if (code != SQLITE_OK)
-        return false;
-    while ((code = sqlite3_step(prepared)) == SQLITE_ROW)
-        row(prepared);
-    return code == SQLITE_DONE;
+    while (code == SQLITE_OK || code == SQLITE_ROW) {
+        code = sqlite3_step(prepared);
+        if (code == SQLITE_ROW)
+            row(prepared);
+    }
+    if (code == SQLITE_DONE)
+        return true;
+    if (const int extended = sqlite3_extended_errcode(handle); !IsDamage(extended))
+        DatabaseErrors::ThrowFailure(handle, extended, {});
+    return false;
 }
 
 QByteArray TextOf(sqlite3_stmt* statement, int column)
@@ -72,12 +88,12 @@ std::vector<Reading> Readings(sqlite3* handle)
 QStringList PageCheck::DamagedTables(const std::function<sqlite3*()>& open)
 {
     Handle handle(open());
-    if (handle && IsSound(handle.get()))
+    if (IsSound(handle.get()))
         return {};
     handle.reset(open());
     QStringList damaged;
-    for (const Reading& reading : handle ? Readings(handle.get()) : std::vector<Reading>()) {
-        if (!handle || ReadAll(handle.get(), reading.query, [](sqlite3_stmt*) {}))
+    for (const Reading& reading : Readings(handle.get())) {
+        if (ReadAll(handle.get(), reading.query, [](sqlite3_stmt*) {}))
             continue;
         const QString table = QString::fromUtf8(reading.table);
         if (!damaged.contains(table))

@@ -93,7 +93,7 @@ void RefuseRootAmongOthersBooks(const QString& folder, uid_t owner)
     if (geteuid() != 0 || owner == 0)
         return;
     throw RunTimeError(RunTimeError::FileAccess,
-        Sentences(u"हे हिशेब दुसऱ्या वापरकर्त्याच्या नावावर आहेत. sudo न लावता, त्याच वापरकर्त्याच्या नावाने सुरु करा.",
+        Sentences(u"हे हिशेब दुसऱ्या वापरकर्त्याच्या नावावर आहेत. sudo न लावता, त्याच वापरकर्त्याच्या नावाने सुरू करा.",
             QStringLiteral("The books in %1 belong to %2: start as that user, without sudo.")
                 .arg(QDir(folder).absolutePath(), NameOf(owner))));
 }

@@ -47,13 +47,13 @@ QString Trimmed(QString text)
 [[noreturn]] void Damaged()
 {
     throw RunTimeError(RunTimeError::TypeMismatch,
-        Sentences(u"पासवर्डची फाईल खराब झाली आहे. मूळ फाईल परत ठेवा.", QStringLiteral("PWD.TXT is damaged")));
+        Sentences(u"पासवर्डची फाइल खराब झाली आहे. मूळ फाइल परत ठेवा.", QStringLiteral("PWD.TXT is damaged")));
 }
 
 [[noreturn]] void TooLong()
 {
     throw RunTimeError(RunTimeError::TypeMismatch,
-        Sentences(u"पासवर्डची फाईल फार मोठी आहे; ती पासवर्डची नाही. मूळ फाईल परत ठेवा.",
+        Sentences(u"पासवर्डची फाइल फार मोठी आहे; ती पासवर्डची नाही. मूळ फाइल परत ठेवा.",
             QStringLiteral("PWD.TXT is too long to hold a password")));
 }
 

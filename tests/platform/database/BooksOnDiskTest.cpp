@@ -38,6 +38,14 @@ protected:
         return read.readAll();
     }
 
+    // As a copy over the file does it: the same file, other bytes.
+    void Overwrite(const QByteArray& bytes)
+    {
+        QFile write(file);
+        ASSERT_TRUE(write.open(QIODevice::ReadWrite));
+        ASSERT_EQ(write.write(bytes), bytes.size());
+    }
+
     int LocksOn() const { return BooksFile::LocksOn(file.toStdString()); }
     QString Log() const { return file + QStringLiteral("-wal"); }
 };
@@ -99,13 +107,68 @@ TEST_F(BooksOnDiskTest, BooksThatWereOverwrittenAreToldAndLeftAsTheyAre)
     connection.Fold();
     Add(3);
     ASSERT_EQ(Bytes().size(), backup.size()) << "so that it isn't the size that tells";
-    QFile write(file);
-    ASSERT_TRUE(write.open(QIODevice::ReadWrite));
-    write.write(backup);
-    write.close();
+    Overwrite(backup);
     EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
     connection.Close();
     EXPECT_EQ(Bytes(), backup);
+}
+
+TEST_F(BooksOnDiskTest, AFoldGoesIntoNoBooksThatWereOverwritten)
+{
+    Add(1);
+    connection.Fold();
+    const QByteArray backup = Bytes();
+    Add(2);
+    connection.Fold();
+    Add(3);
+    Overwrite(backup);
+    EXPECT_FALSE(connection.Fold());
+    connection.Close();
+    EXPECT_EQ(Bytes(), backup);
+}
+
+TEST_F(BooksOnDiskTest, NorDoesTheFoldOfTheConnectionThatReportsAreReadOn)
+{
+    Connection reader;
+    reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
+    Add(1);
+    connection.Fold();
+    const QByteArray backup = Bytes();
+    Add(2);
+    connection.Fold();
+    Add(3);
+    Overwrite(backup);
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    reader.Close();
+    connection.Close();
+    EXPECT_EQ(Bytes(), backup);
+}
+
+TEST_F(BooksOnDiskTest, ARemovedLogThatAnotherProgramMadeAnewIsToldAllTheSame)
+{
+    Add(1);
+    ASSERT_TRUE(QFile::remove(Log()));
+    QFile made(Log());
+    ASSERT_TRUE(made.open(QIODevice::WriteOnly));
+    made.close();
+    connection.Fold();
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("log beside the database file was removed")));
+    const QString alone = folder.filePath(QStringLiteral("alone.mdb"));
+    ASSERT_TRUE(QFile::copy(file, alone));
+    DataSource::Register(QStringLiteral("Alone"), alone);
+    Connection again;
+    again.Open(QStringLiteral("dsn=Alone;pwd=") + TestPassword);
+    EXPECT_EQ(
+        Recordset(again, QStringLiteral("select count(*) from CityMaster")).At(0).Text(), QStringLiteral("1"))
+        << "what is said to be kept is in the file already";
+}
+
+TEST_F(BooksOnDiskTest, ALogThatWasEmptiedIsToldBehindAFoldToo)
+{
+    Add(1);
+    ASSERT_TRUE(QFile::resize(Log(), 0));
+    EXPECT_FALSE(connection.Fold());
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
 }
 
 TEST_F(BooksOnDiskTest, BooksOrALogThatWereCutShortAreTold)
@@ -129,14 +192,20 @@ TEST_F(BooksOnDiskTest, BooksThatAreGoneAreTold)
     EXPECT_FALSE(QFile::exists(file));
 }
 
-TEST_F(BooksOnDiskTest, AFoldByAnotherProgramIsNoHarm)
+// The checkpoints that another program may run beside this one.
+class OtherFoldTest : public BooksOnDiskTest, public ::testing::WithParamInterface<const char*> { };
+
+INSTANTIATE_TEST_SUITE_P(Ways, OtherFoldTest, ::testing::Values("passive", "full", "restart", "truncate"),
+    [](const auto& way) { return std::string(way.param); });
+
+TEST_P(OtherFoldTest, IsNoHarm)
 {
     Add(1);
     Add(2);
     sqlite3* other = nullptr;
     ASSERT_EQ(sqlite3_open(file.toUtf8().constData(), &other), SQLITE_OK);
     const QByteArray statements = "pragma key='" + TestPassword.toUtf8().replace("'", "''")
-        + "'; pragma cipher_page_size=1024; pragma wal_checkpoint(restart)";
+        + "'; pragma cipher_page_size=1024; pragma wal_checkpoint(" + QByteArray(GetParam()) + ")";
     ASSERT_EQ(sqlite3_exec(other, statements.constData(), nullptr, nullptr, nullptr), SQLITE_OK);
     sqlite3_close(other);
     EXPECT_EQ(Refusal(), QString());

@@ -1,4 +1,5 @@
 #include "DatabaseTest.h"
+#include "FaultyDisk.h"
 
 #include "Transaction.h"
 
@@ -6,6 +7,8 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -80,7 +83,7 @@ protected:
         ASSERT_EQ(write.write(bytes), bytes.size());
     }
 
-    // The file's own time, an hour later.
+    // Makes a file so much younger.
     static void Age(const QString& path, int seconds)
     {
         QFile touched(path);
@@ -419,6 +422,59 @@ TEST_F(LogTest, AfterACleanEndThePagesAreReadOnlyWhenAsked)
     plan.checksPages = true;
     OpenAgain(file, plan);
     EXPECT_EQ(checks, 1);
+}
+
+TEST_F(LogTest, WithNoRoomToLookAtItTheRightfulLogStaysWhereItIs)
+{
+    Add("ek");
+    connection.Fold();
+    Add("dona");
+    const QString left = Left(QStringLiteral("left"));
+    // No file can grow any more, as on a full disk.
+    signal(SIGXFSZ, SIG_IGN);
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const rlimit none{0, usual.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &none);
+    const QString told = Failure(left);
+    setrlimit(RLIMIT_FSIZE, &usual);
+    EXPECT_TRUE(told.contains(QStringLiteral("disk is full"))) << told.toStdString();
+    EXPECT_EQ(LogsAside(left), QStringList());
+    EXPECT_EQ(OpenAgain(left), QStringList());
+    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona"));
+}
+
+TEST_F(LogTest, AFullDiskIsNoDamagedPage)
+{
+    Add("ek");
+    connection.Close();
+    OpeningPlan plan;
+    plan.checksPages = true;
+    FaultyDisk::Reset();
+    FaultyDisk::Install();
+    FaultyDisk::NoRoomForAnIndex();
+    const QString told = Failure(file, plan);
+    FaultyDisk::Reset();
+    EXPECT_TRUE(told.contains(QStringLiteral("disk is full"))) << told.toStdString();
+    EXPECT_EQ(OpenAgain(file, plan), QStringList());
+}
+
+TEST_F(LogTest, WhatAFullDiskKeepsFromBeingFoldedStaysInTheLogAtTheEndToo)
+{
+    connection.Close();
+    FaultyDisk::Reset();
+    FaultyDisk::Install();
+    Open();
+    Add("ek");
+    FaultyDisk::FullFrom(1);
+    EXPECT_FALSE(connection.Fold());
+    const QByteArray before = Bytes(file);
+    connection.Close();
+    FaultyDisk::Reset();
+    EXPECT_EQ(Bytes(file), before) << "a closing that breaks off must not leave books that no log names";
+    const QString left = Left(QStringLiteral("left"));
+    EXPECT_EQ(OpenAgain(left), QStringList());
+    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
 }
 
 TEST_F(LogTest, BooksThatMayNotBeWrittenAreRefusedAtTheStart)

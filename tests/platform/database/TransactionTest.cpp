@@ -182,6 +182,7 @@ TEST_F(TransactionTest, WorksAgainOnceTheDiskHasRoom)
 
 TEST_F(TransactionTest, AFailedCommitSaysThatItIsNotKnownWhetherTheEntryWasKept)
 {
+    Save(connection);
     FaultyDisk::Reset();
     Save(connection);
     const int writes = FaultyDisk::Count();
