@@ -100,16 +100,20 @@ private:
     Checksum m_sum;
 };
 
-// Commits of this log from a frame on. Frames that an abandoned writing has left behind hold no commit;
-// frames of an older round have other salts.
-int CommitsFrom(LogReader& reader, Frame frame, QByteArray salts)
+// Commits of this log from a frame on; `isWithin` says whether the frame goes on with a commit that has
+// begun. Frames that an abandoned writing has left behind hold no commit; frames of an older round have other
+// salts. A commit of the first page alone holds no entry: it says that a fold begins.
+int CommitsFrom(LogReader& reader, Frame frame, QByteArray salts, bool isWithin)
 {
     int commits = 0;
     do {
         if (salts.isEmpty())
             salts = frame.Salts();
-        if (frame.Salts() == salts && frame.IsCommit())
+        if (frame.Salts() != salts)
+            continue;
+        if (frame.IsCommit() && (frame.Page() != 1 || isWithin))
             ++commits;
+        isWithin = !frame.IsCommit();
     } while (reader.ReadNext(frame));
     return commits;
 }
@@ -151,7 +155,7 @@ WriteAheadLog WriteAheadLog::Read(const QString& databaseFile, int pageSize)
     Frame frame;
     if (!reader.HasSoundHead()) {
         if (log.isThere && reader.ReadNext(frame))
-            log.lostCommits = CommitsFrom(reader, frame, {});
+            log.lostCommits = CommitsFrom(reader, frame, {}, false);
         return log;
     }
 
@@ -162,7 +166,7 @@ WriteAheadLog WriteAheadLog::Read(const QString& databaseFile, int pageSize)
     int commits = 0;
     while (reader.ReadNext(frame)) {
         if (!reader.Continues(frame)) {
-            log.lostCommits = CommitsFrom(reader, frame, reader.Salts());
+            log.lostCommits = CommitsFrom(reader, frame, reader.Salts(), frames > committedFrames);
             break;
         }
         ++frames;

@@ -333,6 +333,46 @@ TEST_F(LogTest, ADamagedPlaceInTheLogIsToldWithTheEntriesBehindIt)
     }
 }
 
+// The page that says that a fold begins holds no entry. A power cut while it was written, without an index
+// that knows of it, has lost nothing; once it was committed, a broken one is damage like any other.
+TEST_F(LogTest, AFoldWhoseBeginningIsHalfWrittenIsNoLostEntry)
+{
+    Add("ek");
+    connection.Fold();
+    Add("dona");
+    const qint64 entries = connection.LogSize();
+    Connection reader;
+    reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
+    const Recordset rows(reader, QStringLiteral("select * from CityMaster"));
+    Add("tIna");
+    const qint64 withTheLast = connection.LogSize();
+    ASSERT_FALSE(connection.Fold());
+    ASSERT_EQ(connection.LogSize(), withTheLast + FrameSize);
+    const auto broken = [&](const QString& left, qint64 at) {
+        QByteArray bytes = Bytes(left + QStringLiteral("-wal"));
+        bytes[at] = static_cast<char>(bytes[at] ^ 0x10);
+        Write(left + QStringLiteral("-wal"), bytes);
+    };
+
+    const QString cut = Left(QStringLiteral("cut"));
+    ASSERT_TRUE(QFile::remove(cut + QStringLiteral("-shm")));
+    broken(cut, withTheLast + FrameSize / 2);
+    EXPECT_EQ(OpenAgain(cut), QStringList());
+    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona tIna"));
+
+    const QString damaged = Left(QStringLiteral("damaged"));
+    broken(damaged, withTheLast + FrameSize / 2);
+    EXPECT_EQ(OpenAgain(damaged).size(), 1) << "the index knows of it";
+    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona tIna"));
+
+    const QString lost = Left(QStringLiteral("lost"));
+    ASSERT_TRUE(QFile::remove(lost + QStringLiteral("-shm")));
+    broken(lost, entries + FrameSize / 2);
+    const QStringList notes = OpenAgain(lost);
+    ASSERT_EQ(notes.size(), 1);
+    EXPECT_TRUE(notes.first().contains(QStringLiteral("About 1 entries"))) << notes.first().toStdString();
+}
+
 TEST_F(LogTest, ADamagedHeadOfTheLogIsToldWithAllItsEntries)
 {
     Add("ek");
