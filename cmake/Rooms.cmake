@@ -10,6 +10,7 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 option(VETROLAN_WERROR "Treat warnings as errors" OFF)
 option(VETROLAN_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 option(VETROLAN_BENCH "Build the benchmarks" OFF)
+option(VETROLAN_NIGHTLY "Build the trials that take long" OFF)
 
 # Every target of the project takes its warnings and checks from here, and from nowhere else.
 add_library(vetrolan_options INTERFACE)
