@@ -25,6 +25,16 @@ constexpr Pair Dotted[] = {
     {u'\u095E', u'\u092B'},
 };
 
+// Whether it is a joiner that keeps nothing apart: what stands around it shows as one letter.
+bool IsIdle(char16_t c, char16_t before, QStringView rest)
+{
+    if (c != Joiner && c != NonJoiner)
+        return false;
+    const auto* next = std::find_if(
+        rest.begin(), rest.end(), [](QChar after) { return after != Joiner && after != NonJoiner; });
+    return next != rest.end() && Compose(before, next->unicode()) != 0;
+}
+
 }
 
 QString OneForm(QStringView seen)
@@ -36,8 +46,10 @@ QString OneForm(QStringView seen)
         const QStringView rest = seen.sliced(i + 1);
         const auto* dotted = std::find_if(
             std::begin(Dotted), std::end(Dotted), [c](const Pair& pair) { return pair.letter == c; });
-        const char16_t whole = text.isEmpty() ? u'\0' : Compose(text.back().unicode(), c);
-        if (whole != 0) {
+        const char16_t before = text.isEmpty() ? u'\0' : text.back().unicode();
+        if (IsIdle(c, before, rest))
+            continue;
+        if (const char16_t whole = Compose(before, c)) {
             text.back() = QChar(whole);
         } else if (dotted != std::end(Dotted)) {
             text += QChar(dotted->plain);
@@ -60,7 +72,7 @@ QString Reading(QStringView stored)
 {
     QString reading = OneForm(ToUnicode(stored));
     reading.remove(QChar(Joiner)).remove(QChar(NonJoiner));
-    return reading.simplified();
+    return OneForm(reading).simplified(); // a joiner may have kept two pieces of a letter apart
 }
 
 }

@@ -65,8 +65,8 @@ constexpr char16_t Compose(char16_t first, char16_t second)
     return 0;
 }
 
-// A Unicode text with one form for what the eye takes for one: signs that make one are one, dots below stand
-// apart, except on the eyelash ra.
+// A Unicode text with one form for what the eye takes for one: signs that make one are one, even with a
+// joiner between them; dots below stand apart, except on the eyelash ra.
 QString OneForm(QStringView seen);
 
 // Whether the encoding puts a dot below this letter.

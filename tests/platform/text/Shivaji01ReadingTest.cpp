@@ -145,3 +145,21 @@ TEST(Shivaji01Reading, BlanksThatNobodySeesDoNotCount)
     EXPECT_NE(Reading(u"ramapaaTIla"), Reading(u"rama paaTIla"));
     EXPECT_EQ(Reading(u" \u200D"), QString());
 }
+
+TEST(Shivaji01Reading, AJoinerBetweenThePiecesOfALetterDoesNotCount)
+{
+    for (const QStringView raw :
+        {u"अ\u200D\u0945ड.", u"अ\u200C\u0945ड.", u"अ\u200D\u200D\u0945ड.", u"अ\u0945ड."}) {
+        EXPECT_EQ(Utf8(Reading(raw)), Utf8(u"ॲड.")) << "stored as it came";
+        EXPECT_EQ(Utf8(FromUnicode(raw)), Utf8(FromUnicode(u"ॲड."))) << "spelled anew";
+    }
+    EXPECT_EQ(Utf8(Reading(u"A\u200D^D.")), Utf8(u"ॲड."));
+    EXPECT_EQ(Utf8(FromUnicode(u"अ\u093E\u200D\u0947ंकार")), Utf8(FromUnicode(u"ओंकार")));
+    EXPECT_EQ(Utf8(Reading(u"र\u200D\u093C\u094Dय")), Utf8(Reading(u"áya"))) << "a dot behind a joiner";
+}
+
+TEST(Shivaji01Reading, AJoinerThatKeepsLettersApartIsSpelled)
+{
+    for (const QStringView seen : {u"क्\u200Dष", u"अ\u200Dक", u"अ\u200D", u"\u200D\u0945"})
+        EXPECT_EQ(Utf8(ToUnicode(FromUnicode(seen))), Utf8(seen));
+}

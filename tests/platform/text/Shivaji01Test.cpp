@@ -122,14 +122,18 @@ constexpr Pieces TwoPieces[] = {{u'अ', u'\u0945', u'ॲ'}, {u'ए', u'\u0945',
     {u'\u093E', u'\u0945', u'\u0949'}, {u'\u093E', u'\u0947', u'\u094B'}, {u'\u093E', u'\u0948', u'\u094C'},
     {u'\u0945', u'\u093E', u'\u0949'}, {u'\u0947', u'\u093E', u'\u094B'}, {u'\u0948', u'\u093E', u'\u094C'}};
 
+// Pieces are one letter with joiners between them, too.
 QString PutTogether(QStringView text)
 {
     QString whole;
     for (const QChar c : text) {
+        qsizetype end = whole.size();
+        while (end > 0 && (whole[end - 1] == u'\u200C' || whole[end - 1] == u'\u200D'))
+            --end;
         const auto* pair = std::find_if(std::begin(TwoPieces), std::end(TwoPieces),
-            [&](const Pieces& p) { return whole.endsWith(p.first) && p.second == c; });
+            [&](const Pieces& p) { return whole.first(end).endsWith(p.first) && p.second == c; });
         if (pair != std::end(TwoPieces))
-            whole.back() = pair->whole;
+            whole = whole.first(end - 1) + pair->whole;
         else
             whole += c;
     }
