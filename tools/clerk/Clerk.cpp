@@ -2,6 +2,7 @@
 
 #include "FreshKeys.h"
 #include "ModalStack.h"
+#include "TextField.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -111,6 +112,7 @@ std::optional<RunTimeError> Clerk::Play(
     const std::function<void()>& program, const std::function<void(Clerk&)>& script)
 {
     ModalStack::Current().Reset();
+    TextField::BeginWithKeys();
     std::optional<RunTimeError> failure;
     m_d->ended = false;
     std::thread hands([&] {

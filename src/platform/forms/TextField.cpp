@@ -31,12 +31,11 @@ bool IsLatinLetter(QChar c)
     return c.isLetter() && c.unicode() < 0x80;
 }
 
-// A sign of punctuation as it is spelled; a character that the encoding has no sign for stays the key that it
-// is.
-QString SpelledSign(QChar c)
+// Whether the encoding can show a sign of the keyboard as what it is; its letters and digits are keys.
+bool HasPlace(QChar c)
 {
-    const QString spelled = Shivaji01::FromUnicode(QStringView(&c, 1));
-    return c.unicode() < 0x80 && Shivaji01::ToUnicode(spelled) == c ? spelled : QString(c);
+    return c.unicode() >= 0x80 || c.isLetterOrNumber()
+        || Shivaji01::ToUnicode(Shivaji01::FromUnicode(QStringView(&c, 1))) == c;
 }
 
 }
@@ -133,6 +132,7 @@ void TextField::Insert(const QString& text)
         return;
     if (IsJoiner(taken[0]) || HoldsDevanagari(taken)) {
         m_inUnicode = true;
+        taken.removeIf([](QChar c) { return !HasPlace(c); });
         InsertSeen(taken);
     } else {
         InsertKeys(taken);
@@ -140,7 +140,7 @@ void TextField::Insert(const QString& text)
 }
 
 // The keys of the old layout. While Devanagari comes in, a hyphen is a hyphen and no sign of that layout,
-// until a Latin letter is typed.
+// until a Latin letter is typed; a sign that the encoding can't show isn't taken, for it would be a letter.
 void TextField::InsertKeys(const QString& keys)
 {
     if (std::any_of(keys.cbegin(), keys.cend(), IsLatinLetter))
@@ -149,9 +149,11 @@ void TextField::InsertKeys(const QString& keys)
     if (m_inUnicode) {
         stored.clear();
         for (QChar c : keys)
-            stored += SpelledSign(c);
+            if (HasPlace(c))
+                stored += c.unicode() < 0x80 ? Shivaji01::FromUnicode(QStringView(&c, 1)) : QString(c);
     }
-    Replace(Selection(), stored);
+    if (!stored.isEmpty())
+        Replace(Selection(), stored);
 }
 
 // A sign belongs to the syllable before it, and so does what follows a half letter: that syllable is
@@ -210,12 +212,6 @@ bool TextField::EraseSelection()
         return false;
     Replace(Selection(), {});
     return true;
-}
-
-void TextField::ShowFocus(bool held)
-{
-    m_inUnicode = false;
-    Field::ShowFocus(held);
 }
 
 // Keys are taken back until less is seen: a half form without its stem is more to read than the letter. What

@@ -5,7 +5,8 @@
 
 // A text in the system's encoding. The stored text is the truth; the eye sees Devanagari while the clerk
 // types the Latin keys of the old layout, and Devanagari from an input method is taken as well. Caret,
-// Backspace and selection work on what is seen. While Devanagari comes in, punctuation is punctuation.
+// Backspace and selection work on what is seen. Once Devanagari has come in, in whichever field, punctuation
+// is punctuation, and a sign that the encoding has no place for isn't taken, until a Latin letter is typed.
 class TextField : public Field {
 public:
     TextField(Screen* screen, const char* name);
@@ -20,6 +21,9 @@ public:
     QString Text() const override { return m_stored; }
     void SetText(const QString& stored) override;
 
+    // Keys are those of the old layout until Devanagari comes in, as when the program starts.
+    static void BeginWithKeys() { m_inUnicode = false; }
+
     void SelectAll() override;
     void SetMaxLength(int characters) override { m_maxLength = characters; }
 
@@ -28,7 +32,6 @@ protected:
     void Insert(const QString& text) override;
     void ShowComposition(const QString& text) override;
     void MouseDone() override;
-    void ShowFocus(bool held) override;
     bool CaretByMouse() const override { return true; }
 
     // The text has changed, by the clerk or by the screen.
@@ -62,5 +65,8 @@ private:
     qsizetype m_anchor = 0; // the other end of the selection
     int m_maxLength = 0;
     QString m_altDigits; // typed with Alt so far
-    bool m_inUnicode = false; // what was written last came as Devanagari, not as keys of the old layout
+
+    // What was written last came as Devanagari, not as keys of the old layout. The clerk changes the
+    // keyboard, not the field: it holds for all of them.
+    inline static bool m_inUnicode = false;
 };

@@ -277,23 +277,61 @@ TEST_F(TextFieldTest, ALatinLetterBringsTheKeysOfTheOldLayoutBack)
     });
 }
 
-TEST_F(TextFieldTest, AFieldEnteredAnewBeginsWithTheKeysOfTheOldLayout)
+TEST_F(TextFieldTest, AFieldEnteredAnewGoesOnAsWasWrittenLast)
 {
     WithText([&](TextField& field) {
-        EXPECT_EQ(Composed(field, "राम"), "rama");
+        EXPECT_EQ(After(field, "gaaoDbaaolao", "{End}{(}"), "gaaoDbaaolao(")
+            << "keys of the old layout at first";
+        Compose("राम");
+        Do([&] { field.SetText(Q("gaaoDbaaolao")); });
         EnterAnew();
-        Type("{(}aa");
-        EXPECT_EQ(Text(field), "(aa");
+        Type("{End}-");
+        Compose("पाटील");
+        EXPECT_EQ(Seen(field), "गोडबोले-पाटील");
+        EXPECT_EQ(Text(field), Shivaji01::FromUnicode(u"गोडबोले-पाटील").toStdString());
+        EnterAnew();
+        Type("k");
+        EnterAnew();
+        EXPECT_EQ(Typed(field, "{(}aa"), "(aa");
         EXPECT_EQ(Seen(field), "ह्याा");
     });
 }
 
-TEST_F(TextFieldTest, InDevanagariASignWithoutACodeStaysAKey)
+TEST_F(TextFieldTest, WhatComesInHoldsForTheFieldsOfAllScreens)
 {
     WithText([&](TextField& field) {
         EXPECT_EQ(Composed(field, "राम"), "rama");
-        Type("{&}1 ");
-        EXPECT_EQ(Text(field), "rama&1 ");
+        FieldScreen<TextField>* other = nullptr;
+        Do([&other] {
+            FieldScreen<TextField> screen(Make);
+            other = &screen;
+            screen.ShowModal();
+        });
+        ASSERT_NE(other, nullptr);
+        Type("-");
+        EXPECT_EQ(Seen(*other->field), "-");
+        Do([&other] { other->Close(); });
+    });
+}
+
+TEST_F(TextFieldTest, InDevanagariASignThatHasNoPlaceIsNotTaken)
+{
+    WithText([&](TextField& field) {
+        EXPECT_EQ(Composed(field, "राम"), "rama");
+        int changes = 0;
+        field.Change = [&] { ++changes; };
+        Type("^a");
+        for (const char* sign : {"{&}", "{+}", "*", "#", "_", "$"})
+            Type(sign);
+        EXPECT_EQ(Text(field), "rama");
+        EXPECT_EQ(Selected(field), "राम");
+        EXPECT_EQ(changes, 0);
+        Type("{End}1 2");
+        EXPECT_EQ(Text(field), "rama1 2") << "blanks and digits are taken";
+        EXPECT_EQ(Composed(field, "राम & श्याम"), "rama  Syaama");
+        EXPECT_EQ(Composed(field, "राम"), "rama");
+        Type("{{}{}}");
+        EXPECT_EQ(Seen(field), "राम{}") << "braces have their codes";
     });
 }
 
