@@ -116,8 +116,8 @@ class PlatformMessageBox final : public MessageBox {
 public:
     void Show(const QString& text, const QString& title) override
     {
-        QMessageBox box(QMessageBox::NoIcon, title.isEmpty() ? QStringLiteral("Vetrolan") : title.trimmed(),
-            QString(), QMessageBox::Ok, QApplication::activeWindow());
+        QMessageBox box(QMessageBox::NoIcon, title.isEmpty() ? QStringLiteral("Vetrolan") : title, QString(),
+            QMessageBox::Ok, QApplication::activeWindow());
         box.setWindowModality(Qt::ApplicationModal);
         box.setTextFormat(Qt::PlainText);
         box.setFont(ReadableFont());

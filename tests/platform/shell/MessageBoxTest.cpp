@@ -93,6 +93,14 @@ TEST(MessageBoxTest, TheWindowBearsTheTitleOrElseTheNameOfTheProgram)
         QStringLiteral("Advance Records")));
 }
 
+TEST(MessageBoxTest, TheTitleStandsAsItIsAskedForBlanksAndAll)
+{
+    EXPECT_TRUE(ShowBox(
+        QStringLiteral("Records Not Available"), Qt::Key_Return,
+        [](QMessageBox& box) { EXPECT_EQ(box.windowTitle(), QStringLiteral(" Cash Book")); },
+        QStringLiteral(" Cash Book")));
+}
+
 TEST(MessageBoxTest, KeysThatWereTypedAheadOfItAreThrownAway)
 {
     for (int i = 0; i < 5; ++i)
