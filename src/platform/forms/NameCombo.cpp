@@ -34,6 +34,15 @@ std::vector<NameCombo::Entry> ByAlphabet(const std::vector<NameCombo::Entry>& na
     return sorted;
 }
 
+// What a text reads that is only begun: the blank behind a word ends that word.
+QString BegunReading(const QString& stored)
+{
+    QString reading = Shivaji01::Reading(stored);
+    if (!reading.isEmpty() && stored.back().isSpace())
+        reading += u' ';
+    return reading;
+}
+
 }
 
 NameCombo::NameCombo(Screen* screen, const char* name)
@@ -103,8 +112,10 @@ void NameCombo::ShowRows()
 {
     QStringList seen;
     QStringList numbers;
+    m_readings.clear();
     for (const Entry& entry : m_rows) {
         seen.append(Shivaji01::ToUnicode(entry.name));
+        m_readings.append(Shivaji01::Reading(entry.name));
         numbers.append(entry.number);
     }
     m_list.SetRows(seen, numbers);
@@ -198,7 +209,8 @@ void NameCombo::ShowMatch()
     m_list.SetCurrentRow(stays ? row : MatchOf(Text()));
 }
 
-// The row of a name, or else the first one that begins with it, as it is stored or as it is seen; -1 is none.
+// The row of a name, or else the first one that begins with it, as it is stored, is seen or reads; -1 is
+// none.
 int NameCombo::MatchOf(const QString& stored) const
 {
     if (stored.isEmpty())
@@ -208,9 +220,11 @@ int NameCombo::MatchOf(const QString& stored) const
     if (same != m_rows.end())
         return static_cast<int>(same - m_rows.begin());
     const QString seen = Seen();
+    const QString reading = BegunReading(stored);
     const QStringList texts = m_list.Rows();
     for (qsizetype row = 0; row < texts.size(); ++row)
-        if (m_rows[row].name.startsWith(stored) || texts[row].startsWith(seen))
+        if (m_rows[row].name.startsWith(stored) || texts[row].startsWith(seen)
+            || (!reading.isEmpty() && m_readings[row].startsWith(reading)))
             return static_cast<int>(row);
     return -1;
 }

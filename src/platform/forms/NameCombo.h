@@ -64,6 +64,7 @@ private:
 
     std::vector<Entry> m_given;
     std::vector<Entry> m_rows; // of the list
+    QStringList m_readings; // what they read
     QSet<std::pair<QString, QString>> m_numbered; // names and numbers of the rows that have one
     bool m_byAlphabet = false;
     QString m_picked; // the number of the row whose name stands in the field

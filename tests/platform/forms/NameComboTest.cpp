@@ -95,6 +95,33 @@ TEST_F(NameComboTest, NamesOfAnInputMethodMatchByWhatIsSeen)
     });
 }
 
+TEST_F(NameComboTest, NamesOfAnotherSpellingMatchByWhatTheyRead)
+{
+    WithNames([&](NameCombo& combo) {
+        Do([&] {
+            combo.SetItems({Q("Ad"), Q("अ\xE0\xA5\x85ड. kdma"), Q("अ\xE2\x80\x8D\xE0\xA5\x85ड. paaTIla"),
+                Q("ramaa"), Q("rama  paaTIla")});
+        });
+        Type("%{Down}");
+        Compose("ॲड");
+        EXPECT_EQ(Row(combo), 1);
+        Compose(". पा");
+        EXPECT_EQ(Row(combo), 2);
+        Compose("य");
+        EXPECT_EQ(Row(combo), -1);
+        Type("^aA{^}D");
+        EXPECT_EQ(Row(combo), 1) << "by the keys of the old layout";
+        Type("^arama");
+        EXPECT_EQ(Row(combo), 3);
+        Type(" p");
+        EXPECT_EQ(Row(combo), 4) << "one blank counts as two";
+        Type("^arama ");
+        EXPECT_EQ(Row(combo), 4) << "a blank ends the word";
+        Type("^a ");
+        EXPECT_EQ(Row(combo), -1) << "blanks alone begin no name";
+    });
+}
+
 TEST_F(NameComboTest, DownTakesTheMatchOfWhatIsTyped)
 {
     WithNames([&](NameCombo& combo) {
