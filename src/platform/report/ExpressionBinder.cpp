@@ -4,6 +4,12 @@
 
 namespace {
 
+// An empty text prints nothing and counts as 0, so that it goes with values of any kind.
+bool IsNothing(const Expression& expression)
+{
+    return expression.operation == Operation::Text && expression.text.isEmpty();
+}
+
 ValueType TypeOf(ColumnType type)
 {
     switch (type) {
@@ -294,7 +300,16 @@ ValueType ExpressionBinder::BindIf(Expression& expression, const Place& place)
         Fault(place.line, QStringLiteral("if() needs a condition first"));
     const ValueType yes = Bind(expression.arguments[1], place);
     const ValueType no = Bind(expression.arguments[2], place);
-    return yes == no ? yes : ValueType::Unknown;
+    if (yes == no)
+        return yes;
+    const auto either = [&](ValueType type) {
+        return (yes == type && !IsNothing(expression.arguments[1]))
+            || (no == type && !IsNothing(expression.arguments[2]));
+    };
+    for (const ValueType type : {ValueType::Date, ValueType::Text})
+        if (either(type))
+            return type;
+    return ValueType::Unknown;
 }
 
 int ExpressionBinder::SourceOf(const Expression& expression, int line)

@@ -286,6 +286,32 @@ TEST_F(TemplateCheckTest, KindsOfValuesMustSuit)
         QStringLiteral("\"Liters\" is no text, so \"plain\" says nothing"));
 }
 
+TEST_F(TemplateCheckTest, AChoiceThatMayBeATextOrADateIsNotReckonedWith)
+{
+    const QString noText =
+        QStringLiteral("texts can't be reckoned with; words stand before or behind the braces");
+    const QString noDate = QStringLiteral("dates and conditions can't be reckoned with");
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{if(MemberNo = 1, 'x', Amount) * 2}</text>")), noText);
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{2 + if(MemberNo = 1, Amount, MemberName)}</text>")), noText);
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{abs(if(MemberNo = 1, '', if(Liters = 1, 1, 'x')))}</text>")),
+        noText);
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{sum(if(MemberNo = 1, 'x', Amount))}</text>")),
+        QStringLiteral("a total needs numbers"));
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text if=\"if(MemberNo = 1, 'x', Amount) = 2\">a</text>")),
+        QStringLiteral("things of different kinds are compared"));
+    EXPECT_EQ(
+        OnlyFault(QStringLiteral("<text>{if(MemberNo = 1, CollectionDate, Amount) * 2}</text>")), noDate);
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{if(MemberNo = 1, CollectionDate, 'x') * 2}</text>")), noDate);
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{if(MemberNo = 1, '', CollectionDate)|0.00}</text>")),
+        QStringLiteral("the format \"0.00\" needs a number"));
+    EXPECT_EQ(Faults(Template(QStringLiteral(
+                  "<text>{if(MemberNo = 1, '', Amount) * 2} "
+                  "{if(MemberNo = 1, '-', CollectionDate)|dd/MM/yyyy} "
+                  "{if(MemberNo = 1, '-', Amount)|0.00} {if(MemberNo = 1, 1, Amount)}</text>"))),
+        QStringList())
+        << "an empty text counts as 0, and a word may stand for what is printed";
+}
+
 TEST_F(TemplateCheckTest, TotalsStandOnlyWhereTheyAreKnown)
 {
     EXPECT_EQ(OnlyFault(QStringLiteral("<table source=\"c\"><col>{sum(Liters)}</col></table>")),
