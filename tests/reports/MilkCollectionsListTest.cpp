@@ -191,8 +191,23 @@ TEST_F(MilkCollectionsListTest, AnEmptyListSaysForWhichDateItIsEmpty)
     EXPECT_EQ(Staged("16042026{ENTER}{ENTER}%i"), "");
     const QStringList texts = ReportTexts();
     EXPECT_TRUE(texts.contains(QStringLiteral("दिनांक 16/04/2026")));
-    EXPECT_TRUE(texts.contains(QStringLiteral("दिनांक 16/04/2026 रोजी दुधाची नोंद नाही.")));
+    EXPECT_TRUE(texts.contains(QStringLiteral("दिनांक 16/04/2026 : निवडीप्रमाणे दुधाची नोंद नाही.")));
     EXPECT_EQ(Rows(QStringLiteral("select * from ReportDates")).size(), 1);
+}
+
+TEST_F(MilkCollectionsListTest, AListThatTheChoiceLeavesEmptyDoesntSayThatTheDayHadNoMilk)
+{
+    Run(QStringLiteral("delete from MilkCollections where Liters=3"));
+    for (const char* keys :
+        {"15042026{ENTER}gaaya{ENTER}%k%i", "05012026{ENTER}mhOsa%i", "05012026{ENTER}{ENTER}%k%i"}) {
+        EXPECT_EQ(Staged(keys), "");
+        const QString empty = ReportTexts().filter(QStringLiteral("नोंद नाही")).join(u'|');
+        EXPECT_TRUE(
+            QRegularExpression(QStringLiteral("^दिनांक (15/04|05/01)/2026 : निवडीप्रमाणे दुधाची नोंद नाही\\.$"))
+                .match(empty)
+                .hasMatch())
+            << empty.toStdString();
+    }
 }
 
 TEST_F(MilkCollectionsListTest, TwoRunsGiveTheSame)
