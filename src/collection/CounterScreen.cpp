@@ -186,7 +186,7 @@ void CounterScreen::txtMemberNo_LostFocus()
     if (member.Eof()) {
         txtMemberNo.Clear();
     } else {
-        ComboMemberName.SetText(member[u"MemberName"].Text());
+        ShowMember(ComboMemberName, member);
         TakeAnimalOf(member);
     }
     if (IsSteppingBack())
@@ -228,13 +228,13 @@ void CounterScreen::ComboMemberName_LostFocus()
     const bool asks = txtMemberNo.IsEmpty();
     if (asks)
         ComboMemberName.SetFocus(Wanted::Name());
-    const Recordset member = MemberOfName(ComboMemberName);
+    const Recordset member = MemberOfName(ComboMemberName, Value(txtMemberNo));
     if (member.Eof()) {
         LoadMemberNames();
         return;
     }
     txtMemberNo.SetText(member[u"MemberNo"].Text());
-    ShowStoredName(ComboMemberName, member); // the balance is kept under this spelling
+    ShowMember(ComboMemberName, member); // the balance is kept under this spelling
     TakeAnimalOf(member);
     if (asks)
         ComboMemberName.SetFocus(Plain(u"Enter : पुढे"));

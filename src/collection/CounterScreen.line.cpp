@@ -5,6 +5,7 @@
 #include "Counter.h"
 #include "Keys.h"
 #include "MdlAccounts.h"
+#include "Names.h"
 #include "Queries.h"
 #include "Recordset.h"
 
@@ -180,7 +181,7 @@ void CounterScreen::ShowNumber(std::int16_t number)
 // A stored row's member by name, its animal and its figures.
 void CounterScreen::ShowRow(const Recordset& row)
 {
-    ComboMemberName.SetText(row[u"MemberName"].Text());
+    ShowMember(ComboMemberName, row);
     txtAnimal.SetText(row[u"Animal"].Text());
     txtLiters.SetText(Format(row[u"Liters"].Number(), m_kind.liters.field));
     txtFat.SetText(Format(row[u"Fat"].Number(), FatFormat));

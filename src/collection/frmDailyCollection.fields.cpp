@@ -219,7 +219,7 @@ void frmDailyCollection::txtMemberNo_LostFocus()
 // A member of both kinds leaves the animal to the clerk.
 void frmDailyCollection::TakeMember(const Recordset& member)
 {
-    cmbMemberName.SetText(member[u"MemberName"].Text());
+    cmbMemberName.SetEntry({member[u"MemberName"].Text(), ShortestDecimal(Value(txtMemberNo))});
     if (const QString animal = member[u"Animal"].Text(); animal != u"daonhI")
         txtAnimal.SetText(animal);
 }
@@ -227,10 +227,7 @@ void frmDailyCollection::TakeMember(const Recordset& member)
 // A member can be told by name as well; a name that is nobody's gives way to that of the number.
 void frmDailyCollection::cmbMemberName_LostFocus()
 {
-    const QString name = cmbMemberName.Text().trimmed();
-    const Recordset numbered(gCn, Sql(u"SELECT * FROM MembersMaster WHERE MemberNo=", Value(txtMemberNo)));
-    if (!numbered.Eof() && numbered[u"MemberName"].Text().trimmed() == name
-        && cmbMemberName.MayMean(numbered[u"MemberNo"].Text()))
+    if (IsNameOf(cmbMemberName, Value(txtMemberNo)))
         return;
     if (const Recordset member = MemberOfName(cmbMemberName); !member.Eof()) {
         txtMemberNo.SetText(member[u"MemberNo"].Text());
@@ -308,7 +305,7 @@ void frmDailyCollection::txtCollectionNo_LostFocus()
 void frmDailyCollection::ShowRow(const Recordset& row)
 {
     txtMemberNo.SetText(row[u"MemberNo"].Text());
-    cmbMemberName.SetText(row[u"MemberName"].Text());
+    ShowMember(cmbMemberName, row);
     MasKCollectionDate.SetDate(row[u"CollectionDate"].Date());
     cmbCollectionTime.SetText(row[u"CollectionTime"].Text());
     txtCollectionNo.SetText(row[u"CollectionNo"].Text());

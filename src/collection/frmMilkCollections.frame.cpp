@@ -78,6 +78,8 @@ void frmMilkCollections::cmbAccountName_GotFocus()
 
 void frmMilkCollections::cmbAccountName_LostFocus()
 {
+    if (IsNameOf(cmbAccountName, Value(txtAccountId)))
+        return;
     Recordset member(
         gCn, Sql(u"Select * from MembersMaster Where MemberName='", cmbAccountName.Text(), u"'"));
     while (!member.Eof() && !cmbAccountName.MayMean(member[u"MemberNo"].Text()))
@@ -91,7 +93,7 @@ void frmMilkCollections::cmbAccountName_LostFocus()
 void frmMilkCollections::ShowAccount(const Recordset& member)
 {
     txtAccountId.SetText(member[u"MemberNo"].Text());
-    cmbAccountName.SetText(member[u"MemberName"].Text());
+    ShowMember(cmbAccountName, member);
 }
 
 // The rows of the member in the period.

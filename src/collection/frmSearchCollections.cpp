@@ -120,7 +120,7 @@ void frmSearchCollections::TimerStart_Timer()
     maskDate.SetDate(shift.date);
     txtTime.SetText(shift.time);
     txtMemberNo.SetText(counter->MemberNo());
-    ComboMemberName.SetText(counter->MemberName());
+    ComboMemberName.SetEntry({counter->MemberName(), ShortestDecimal(Value(txtMemberNo))});
     EnableMember(true);
     ComboMemberName.SetFocus();
 }
@@ -166,7 +166,7 @@ void frmSearchCollections::txtMemberNo_LostFocus()
     if (number == 0 || member.Eof())
         txtMemberNo.Clear();
     else
-        ShowStoredName(ComboMemberName, member);
+        ShowMember(ComboMemberName, member);
 }
 
 void frmSearchCollections::ComboMemberName_GotFocus()
@@ -185,9 +185,9 @@ void frmSearchCollections::ComboMemberName_LostFocus()
         ComboMemberName.SetFocus(Wanted::Name());
         return;
     }
-    if (const Recordset member = MemberOfName(ComboMemberName); !member.Eof()) {
+    if (const Recordset member = MemberOfName(ComboMemberName, Value(txtMemberNo)); !member.Eof()) {
         txtMemberNo.SetText(member[u"MemberNo"].Text());
-        ShowStoredName(ComboMemberName, member);
+        ShowMember(ComboMemberName, member);
         Search();
         return;
     }

@@ -5,6 +5,8 @@
 #include "Shivaji01.h"
 #include "Sql.h"
 
+#include <utility>
+
 namespace {
 
 template <typename Test> Recordset FirstRow(const QString& query, Test isIt)
@@ -13,6 +15,16 @@ template <typename Test> Recordset FirstRow(const QString& query, Test isIt)
     while (!row.Eof() && !isIt(row))
         row.MoveNext();
     return row;
+}
+
+// The member of a number, if the name in the list is his and may mean him.
+Recordset MemberNumbered(const NameCombo& list, double number)
+{
+    const QString name = list.Text().trimmed();
+    return FirstRow(Sql(u"SELECT * FROM MembersMaster where MemberNo=", number), [&](const Recordset& row) {
+        return !name.isEmpty() && row[u"MemberName"].Text().trimmed() == name
+            && list.MayMean(row[u"MemberNo"].Text());
+    });
 }
 
 }
@@ -43,11 +55,20 @@ Recordset MemberOfName(const NameCombo& list)
         [&](const Recordset& row) { return list.MayMean(row[u"MemberNo"].Text()); });
 }
 
-void ShowStoredName(NameCombo& list, const Recordset& member)
+Recordset MemberOfName(const NameCombo& list, double number)
 {
-    const QString stored = member[u"MemberName"].Text();
-    if (list.Text() != stored)
-        list.SetText(stored);
+    Recordset numbered = MemberNumbered(list, number);
+    return numbered.Eof() ? MemberOfName(list) : std::move(numbered);
+}
+
+bool IsNameOf(const NameCombo& list, double number)
+{
+    return !MemberNumbered(list, number).Eof();
+}
+
+void ShowMember(NameCombo& list, const Recordset& row)
+{
+    list.SetEntry({row[u"MemberName"].Text(), row[u"MemberNo"].Text()});
 }
 
 QStringList SpellingsOf(QStringView table, QStringView column, const QString& name)

@@ -23,8 +23,13 @@ Recordset MemberOfName(const QString& name);
 // The member that stands in a list of names: of several of one name the one whose row was picked.
 Recordset MemberOfName(const NameCombo& list);
 
-// Shows a name as its member's record spells it. What was picked in the list stays picked.
-void ShowStoredName(NameCombo& list, const Recordset& member);
+// The same where a number stands beside the list: while the name is that of its member, no other of that name
+// takes his place.
+Recordset MemberOfName(const NameCombo& list, double number);
+bool IsNameOf(const NameCombo& list, double number);
+
+// Shows the member of a record, or of a delivery: his name as it is spelled there, for his number.
+void ShowMember(NameCombo& list, const Recordset& row);
 
 // The ways in which a column of a table spells a name: first as it is given, then the others that read the
 // same.

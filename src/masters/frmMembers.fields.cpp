@@ -71,7 +71,8 @@ void frmMembers::ComboMemberName_LostFocus()
         Refuse(ComboMemberName, u"maombarcao naaMva vyavaisqat Ta[-p kra");
         return;
     }
-    const Recordset member = MemberOfName(ComboMemberName);
+    const Recordset member =
+        IsNew() ? MemberOfName(ComboMemberName) : MemberOfName(ComboMemberName, MemberNo());
     if (member.Eof()) {
         if (!IsNew() && txtMemberNo.IsEmpty())
             Hold(ComboMemberName);

@@ -2,6 +2,7 @@
 
 #include "MdlAccounts.h"
 #include "MemberClosing.h"
+#include "Names.h"
 #include "Sql.h"
 
 namespace {
@@ -46,7 +47,7 @@ void frmMembers::LoadLists()
 void frmMembers::LoadRecord(const Recordset& member)
 {
     txtMemberNo.SetText(member[u"MemberNo"].Text());
-    ComboMemberName.SetText(member[u"MemberName"].Text());
+    ShowMember(ComboMemberName, member);
     txtAddress.SetText(member[u"Address"].Text());
     ComboCity.SetText(member[u"City"].Text());
     txtAnimal.SetText(member[u"Animal"].Text());

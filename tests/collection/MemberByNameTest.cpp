@@ -140,6 +140,30 @@ TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheFirstIsFound)
     });
 }
 
+TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
+{
+    AddMember(12, QStringLiteral("rama"), QStringLiteral("gaaya"));
+    for (const char* keys : {"{ENTER}12{ENTER}5+{TAB}+{TAB}", "{ENTER}12{ENTER}5+{TAB}rama+{TAB}"})
+        InTheMorning([keys](Clerk& clerk) {
+            Type(clerk, keys);
+            EXPECT_EQ(Focus(clerk), "txtMemberNo") << keys;
+            EXPECT_EQ(Reads(clerk, "txtMemberNo"), "12") << keys;
+        });
+}
+
+TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheOneOfAStoredRowStays)
+{
+    AddMember(12, QStringLiteral("rama"), QStringLiteral("gaaya"));
+    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 1, 12, QStringLiteral("rama"),
+        QStringLiteral("gaaya"), 5, 4.5, 35, 175);
+    InTheMorning([](Clerk& clerk) {
+        Type(clerk, "1{ENTER}");
+        clerk.Press(QStringLiteral("ComboMemberName"));
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "12");
+    });
+}
+
 TEST_F(MemberByNameTest, AnEmptyNameIsAskedForAndHoldsTheFocus)
 {
     AtTheName([](Clerk& clerk) {

@@ -64,6 +64,18 @@ TEST_F(MemberFrameTest, ANumberOrANameFindsTheMember)
     });
 }
 
+TEST_F(MemberFrameTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
+{
+    AddMember(12, QStringLiteral("rama"), QStringLiteral("gaaya"));
+    for (const char* keys : {"12{ENTER}{ENTER}", "12{ENTER}rama%{UP}{ENTER}"})
+        InTheFrame([keys](Clerk& clerk) {
+            Type(clerk, "13042026{ENTER}14042026{ENTER}");
+            Type(clerk, keys);
+            EXPECT_EQ(Focus(clerk), "cmdGoOn") << keys;
+            EXPECT_EQ(Reads(clerk, "txtAccountId"), "12") << keys;
+        });
+}
+
 TEST_F(MemberFrameTest, AnotherSpellingOfANameIsTheMember)
 {
     AddMember(8, QStringLiteral("maa$tI"), QStringLiteral("gaaya"));

@@ -128,15 +128,50 @@ TEST_F(SearchCollectionsTest, TheMemberWaitsForTheShift)
     });
 }
 
-TEST_F(SearchCollectionsTest, OfTwoMembersOfOneNameTheFirstIsFoundWhoseverNumberWasTyped)
+TEST_F(SearchCollectionsTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedIsFound)
 {
-    AddMember(4, QStringLiteral("rama"), QStringLiteral("gaaya"));
-    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 5, 4, QStringLiteral("rama"),
-        QStringLiteral("gaaya"), 7, 4.5, 35, 245);
+    AddSecondRama();
     After(4, [](Clerk& clerk) {
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "4");
+        EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 1);
+    });
+}
+
+TEST_F(SearchCollectionsTest, OfTwoMembersOfOneNameTheFirstIsFoundByTheNameAlone)
+{
+    AddSecondRama();
+    FromTheMenu([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}{ENTER}rama%{UP}{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "1");
         EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 2);
     });
+}
+
+TEST_F(SearchCollectionsTest, AMemberPickedInTheListGivesWayToANumberThatIsTyped)
+{
+    AddSecondRama();
+    FromTheMenu([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}{ENTER}{DOWN}{DOWN}{DOWN}{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "4");
+        Type(clerk, "+{TAB}+{TAB}1{ENTER}{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "1");
+        EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 2);
+    });
+}
+
+TEST_F(SearchCollectionsTest, F9OnTheSecondOfTwoMembersOfOneNameFindsHim)
+{
+    AddSecondRama();
+    for (const char* number : {"4", "04"})
+        On<frmMilkCollections>([&](Clerk& clerk) {
+            Type(clerk, "{ENTER}1{ENTER}{ENTER}");
+            Type(clerk, number);
+            Type(clerk, "{F9}");
+            AwaitTick(clerk);
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(Reads(clerk, "txtMemberNo"), "4");
+            EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 1);
+        });
 }
 
 TEST_F(SearchCollectionsTest, ANumberShowsItsMemberAndAnUnknownOneIsEmptied)

@@ -21,6 +21,14 @@ protected:
     }
     ~SearchCollectionsTest() override { ScreenDirectory::Add(QStringLiteral("frmSearchCollections"), {}); }
 
+    // A second member of the name of member 1, with a row of his own.
+    void AddSecondRama()
+    {
+        AddMember(4, QStringLiteral("rama"), QStringLiteral("gaaya"));
+        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 5, 4, QStringLiteral("rama"),
+            QStringLiteral("gaaya"), 7, 4.5, 35, 245);
+    }
+
     // Goes on as soon as the timer of the opening has ticked.
     static void AwaitTick(Clerk& clerk)
     {

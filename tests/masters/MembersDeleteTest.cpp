@@ -57,6 +57,16 @@ TEST_F(MembersDelete, AFoundNameDoesTheSame)
     });
 }
 
+TEST_F(MembersDelete, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedIsTheOne)
+{
+    AddMember(12, QStringLiteral("rama"));
+    Play([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("%k12{ENTER}+{TAB}{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdDelete"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QStringLiteral("12"));
+    });
+}
+
 TEST_F(MembersDelete, AnUnknownNumberIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {

@@ -93,6 +93,18 @@ TEST_F(MembersModify, AnotherMembersNameCallsUpThatMember)
     });
 }
 
+TEST_F(MembersModify, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
+{
+    AddMember(12, QStringLiteral("rama"), QStringLiteral("mhOsa"));
+    for (const char* keys : {"%d12{ENTER}{ENTER}", "%d12{ENTER}rama{ENTER}"})
+        Play([keys](Clerk& clerk) {
+            clerk.Type(QString::fromLatin1(keys));
+            EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAddress")) << keys;
+            EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QStringLiteral("12")) << keys;
+            EXPECT_EQ(clerk.Reads(QStringLiteral("txtAnimal")), QStringLiteral("mhOsa")) << keys;
+        });
+}
+
 TEST_F(MembersModify, TheMembersOwnNameLeavesWhatWasTypedElsewhere)
 {
     Play([](Clerk& clerk) {

@@ -184,13 +184,19 @@ void NameCombo::Changed()
         ShowMatch();
 }
 
+void NameCombo::SetEntry(const Entry& entry)
+{
+    SetText(entry.name);
+    m_picked = entry.number;
+    ShowMatch();
+}
+
 void NameCombo::Take(int row)
 {
     const Entry taken = m_rows[row];
     const bool isOther = taken.name != Text();
     m_list.SetCurrentRow(row);
-    SetText(taken.name);
-    m_picked = taken.number;
+    SetEntry(taken);
     if (isOther && Change)
         Change();
 }
@@ -205,18 +211,18 @@ void NameCombo::Pick(int row)
 void NameCombo::ShowMatch()
 {
     const int row = m_list.CurrentRow();
-    const bool stays = row >= 0 && m_rows[row].name == Text();
+    const bool stays = row >= 0 && m_rows[row].name == Text() && MayMean(m_rows[row].number);
     m_list.SetCurrentRow(stays ? row : MatchOf(Text()));
 }
 
-// The row of a name, or else the first one that begins with it, as it is stored, is seen or reads; -1 is
-// none.
+// The row of a name, of several that of the number that is meant; or else the first one that begins with it,
+// as it is stored, is seen or reads; -1 is none.
 int NameCombo::MatchOf(const QString& stored) const
 {
     if (stored.isEmpty())
         return -1;
-    const auto same =
-        std::find_if(m_rows.begin(), m_rows.end(), [&](const Entry& entry) { return entry.name == stored; });
+    const auto same = std::find_if(m_rows.begin(), m_rows.end(),
+        [&](const Entry& entry) { return entry.name == stored && MayMean(entry.number); });
     if (same != m_rows.end())
         return static_cast<int>(same - m_rows.begin());
     const QString seen = Seen();

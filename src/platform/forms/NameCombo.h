@@ -45,6 +45,9 @@ public:
     // it is.
     void TakeMatch();
 
+    // Shows somebody who is known by his number, as if his row had been picked.
+    void SetEntry(const Entry& entry);
+
     // Whether the name in the field may be that of a number: a row that was picked stands for the number
     // beside it, a name that was typed for any.
     bool MayMean(const QString& number) const { return m_picked.isEmpty() || m_picked == number; }
@@ -67,6 +70,6 @@ private:
     QStringList m_readings; // what they read
     QSet<std::pair<QString, QString>> m_numbered; // names and numbers of the rows that have one
     bool m_byAlphabet = false;
-    QString m_picked; // the number of the row whose name stands in the field
+    QString m_picked; // the number of the one whose name stands in the field
     DropList m_list;
 };

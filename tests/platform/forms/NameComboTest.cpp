@@ -346,6 +346,28 @@ TEST_F(NameComboTest, OfPeopleOfOneNameTheNumberOfTheRowIsMeant)
     });
 }
 
+TEST_F(NameComboTest, SomebodyShownByHisNumberIsTheOneThatIsMeant)
+{
+    With(Village, [&](NameCombo& combo) {
+        const auto expect = [&](const char* number, int row) {
+            for (const char* other : {"7", "12", "30"})
+                EXPECT_EQ(combo.MayMean(Q(other)), std::string(other) == number) << other;
+            EXPECT_EQ(Text(combo), "saunaIta");
+            EXPECT_EQ(Row(combo), row);
+        };
+        Do([&] { combo.SetEntry({Q("saunaIta"), Q("12")}); });
+        expect("12", 8);
+        Type("%{Down}");
+        expect("12", 8);
+        Do([&] { combo.SetEntry({Q("saunaIta"), Q("30")}); });
+        expect("30", 9);
+        Do([&] { combo.SetNames({{Q("rama"), Q("8")}, {Q("saunaIta"), Q("30")}, {Q("saunaIta"), Q("7")}}); });
+        expect("30", 2);
+        Type("{ENTER}");
+        expect("30", 2);
+    });
+}
+
 TEST_F(NameComboTest, OnePersonIsShownOnceHoweverOftenAdded)
 {
     With(Village, [&](NameCombo& combo) {
