@@ -114,8 +114,13 @@ TEST_P(EveryScreenTest, ItsKeysAreNamedInTheListOrInTheGuide)
                 mnemonic = option->Shown().Mnemonic();
             if (!mnemonic.isNull() && control->CanTakeFocus())
                 expect(QStringLiteral("Alt+") + mnemonic);
-            if (dynamic_cast<const NameCombo*>(control))
+            if (dynamic_cast<const NameCombo*>(control)) {
                 expect(QStringLiteral("↓"));
+                for (const char* key : {"Enter Tab", "Esc", "Alt+↓ Alt+↑"})
+                    EXPECT_FALSE(
+                        Keys::Action(QStringLiteral("NameCombo.list"), QString::fromUtf8(key)).IsEmpty())
+                        << key << " at " << control->Name().toStdString();
+            }
             if (dynamic_cast<const ChoiceField*>(control)) {
                 EXPECT_TRUE(named.contains(u" 1 ") || control->Guide().Seen().contains(u'१'))
                     << "1 at " << control->Name().toStdString();
