@@ -23,7 +23,7 @@ inline Caption Animal()
 
 inline Caption Name()
 {
-    return Plain(u"नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : बाहेर");
+    return Plain(u"नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : यादी बंद, मग बाहेर");
 }
 
 }

@@ -19,7 +19,8 @@ TEST_P(CounterGuidesTest, AFieldThatKeepsTheFocusSaysWhatItWants)
              {"+{TAB}+{TAB}31022026{ENTER}", "maskDate", "दिनांक असा टाका : 15/04/2026    Esc : बाहेर"},
              {"0{ENTER}", "txtCollectionNo", "क्रमांक 0 नसतो : नवीन नोंदीसाठी Enter    Esc : बाहेर"},
              {"{ENTER}77{ENTER}", "txtMemberNo", "मेम्बर नंबर टाका    Enter : नावाने"},
-             {"{ENTER}{ENTER}xyz{ENTER}", "ComboMemberName", "नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : बाहेर"},
+             {"{ENTER}{ENTER}xyz{ENTER}", "ComboMemberName",
+                 "नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : यादी बंद, मग बाहेर"},
              {"{ENTER}{ENTER}rama{ENTER}", "ComboMemberName", "Enter : पुढे"},
              {"{ENTER}3{ENTER}{ENTER}", "txtAnimal", "1 : गाय    2 : म्हैस    Esc : बाहेर"},
              {"{ENTER}1{ENTER}0{ENTER}", "txtLiters", "लिटर टाका    Esc : बाहेर"},
@@ -43,7 +44,7 @@ TEST_P(CounterGuidesTest, AnEmptyNameIsStillSaidAfterItsNotice)
         ASSERT_EQ(clerk.Message(), QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra"));
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboMemberName");
-        EXPECT_EQ(Label(clerk, "lblFooter"), "नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : बाहेर");
+        EXPECT_EQ(Label(clerk, "lblFooter"), "नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : यादी बंद, मग बाहेर");
     });
 }
 

@@ -187,7 +187,7 @@ TEST_F(WantedOnEveryScreenTest, TheSearchAndTheAbsentMembers)
     Expect("frmSearchCollections", "31022026{ENTER}", "maskDate", "lblFooter", DateWanted);
     Expect("frmSearchCollections", "15042026{ENTER}{ENTER}", "txtTime", "lblFooter", ShiftWanted);
     Expect("frmSearchCollections", "15042026{ENTER}1{ENTER}{ENTER}xyz{ENTER}", "ComboMemberName", "lblFooter",
-        "नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : बाहेर");
+        "नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : यादी बंद, मग बाहेर");
     Expect("frmAbsenseMemberCollection", "{ENTER}", "MaskDate", "lblFooter", DateWanted);
     Expect("frmAbsenseMemberCollection", "15042026{ENTER}{ENTER}", "txtTime", "lblFooter", ShiftWanted);
 }
