@@ -216,7 +216,8 @@ void CounterScreen::ComboMemberName_GotFocus()
 }
 
 // Without a number the focus is asked for here, so that the clerk sees which member the name has found; the
-// next Enter goes on. Coming back with no number also reloads the list and drops it open.
+// next Enter goes on; a step back is not led elsewhere. Coming back with no number also reloads the list and
+// drops it open.
 void CounterScreen::ComboMemberName_LostFocus()
 {
     const QString name = ComboMemberName.Text().trimmed();
@@ -226,20 +227,21 @@ void CounterScreen::ComboMemberName_LostFocus()
         return;
     }
     const bool asks = txtMemberNo.IsEmpty();
-    if (asks)
-        ComboMemberName.SetFocus(Wanted::Name());
     const Recordset member = MemberOfName(ComboMemberName, Value(txtMemberNo));
     if (member.Eof()) {
+        if (asks)
+            ComboMemberName.SetFocus(Wanted::Name());
         LoadMemberNames();
         return;
     }
     txtMemberNo.SetText(member[u"MemberNo"].Text());
     ShowMember(ComboMemberName, member); // the balance is kept under this spelling
     TakeAnimalOf(member);
+    if (IsSteppingBack())
+        return;
     if (asks)
         ComboMemberName.SetFocus(Plain(u"Enter : पुढे"));
-    if (!IsSteppingBack())
-        txtAnimal.SetFocus(); // only if it is the clerk's choice: it is disabled otherwise
+    txtAnimal.SetFocus(); // only if it is the clerk's choice: it is disabled otherwise
 }
 
 void CounterScreen::LoadMemberNames()

@@ -60,6 +60,18 @@ TEST_F(MemberByNameTest, TheFirstEnterFindsTheMemberAndTheNextGoesOn)
     });
 }
 
+TEST_F(MemberByNameTest, AStepBackFromANameThatIsFoundLeadsToTheNumber)
+{
+    for (const char* name : {"rama", "gaNaoSa", "sa"})
+        AtTheName([name](Clerk& clerk) {
+            Type(clerk, name);
+            Type(clerk, "%{UP}+{TAB}");
+            const bool isFound = std::string(name) != "sa";
+            EXPECT_EQ(Focus(clerk), isFound ? "txtMemberNo" : "ComboMemberName") << name;
+            EXPECT_EQ(Reads(clerk, "txtMemberNo").empty(), !isFound) << name;
+        });
+}
+
 TEST_F(MemberByNameTest, ANameCanBePickedFromTheList)
 {
     AtTheName([](Clerk& clerk) {
