@@ -183,8 +183,10 @@ void CounterScreen::txtMemberNo_LostFocus()
         return;
     }
     const Recordset member(gCn, Sql(u"SELECT * FROM MembersMaster where MemberNo=", number));
+    Caption wanted;
     if (member.Eof()) {
         txtMemberNo.Clear();
+        wanted = Plain(u"हा मेम्बर नंबर नाही    Shift+Tab : मागे");
     } else {
         ShowMember(ComboMemberName, member);
         TakeAnimalOf(member);
@@ -194,7 +196,7 @@ void CounterScreen::txtMemberNo_LostFocus()
     if (txtAnimal.Enabled())
         txtAnimal.SetFocus();
     else
-        txtLiters.SetFocus();
+        txtLiters.SetFocus(wanted);
 }
 
 // A member of both kinds leaves the choice to the clerk; any other settles it.

@@ -70,6 +70,19 @@ TEST_P(CounterGuidesTest, ALineThatIsNotSavedIsSaid)
     });
 }
 
+TEST_P(CounterGuidesTest, ANumberThatIsNotThereIsSaidBesideASettledAnimal)
+{
+    InTheShift([](Clerk& clerk) {
+        Type(clerk, "{ENTER}1{ENTER}5+{TAB}+{TAB}77{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtLiters");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "");
+        EXPECT_EQ(Label(clerk, "lblFooter"), "हा मेम्बर नंबर नाही    Shift+Tab : मागे");
+        Type(clerk, "+{TAB}+{TAB}1{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtLiters");
+        EXPECT_EQ(Label(clerk, "lblFooter"), "");
+    });
+}
+
 // The keys beside the member's number
 
 TEST_P(CounterGuidesTest, F9IsLitOnlyBesideAMemberWhoHasARowInTheShift)
