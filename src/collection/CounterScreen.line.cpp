@@ -133,6 +133,7 @@ void CounterScreen::ClearEntryFields()
     for (Field* field : std::initializer_list<Field*>{
              &txtMemberNo, &ComboMemberName, &txtAnimal, &txtLiters, &txtFat, &txtRate, &txtAmount})
         field->Clear();
+    IsExistingRow = false;
 }
 
 void CounterScreen::RefreshActualTime()
