@@ -90,6 +90,32 @@ TEST_F(DailyCollectionKeysTest, AMemberAndARowOfTheOtherCompanyAreShownAndChange
         Of({"2|40|6|210"}));
 }
 
+TEST_F(DailyCollectionKeysTest, ANameOfTheOtherCompanyIsListedAndFoundAndStaysBesideItsNumber)
+{
+    AddMember(40, QStringLiteral("maaQava"), QStringLiteral("gaaya"));
+    AddMember(41, QStringLiteral("maaQava"), QStringLiteral("gaaya"));
+    Run(QStringLiteral("update MembersMaster set CompanyId=2 where MemberNo>3"));
+    Adding([](Clerk& clerk) {
+        EXPECT_EQ(dynamic_cast<const NameCombo&>(*clerk.Top().Find(u"cmbMemberName")).Items().size(), 5);
+        Type(clerk, "{ENTER}maaQava{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "40");
+    });
+    EXPECT_FALSE(Failure);
+    Adding([](Clerk& clerk) {
+        Type(clerk, "41{ENTER}{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "41");
+        EXPECT_EQ(Reads(clerk, "cmbMemberName"), "maaQava");
+    });
+}
+
+TEST_F(DailyCollectionKeysTest, ACanOfAnotherDayIsNoDuplicate)
+{
+    Add("14/04/2026", "sakaL", 1, 1, 5);
+    AddingFor(1, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}6{ENTER}4.5{ENTER}{ENTER}"); });
+    EXPECT_TRUE(TheBox.Shown.isEmpty());
+    EXPECT_EQ(Books().size(), 2);
+}
+
 TEST_F(DailyCollectionKeysTest, OnlyWhileAddingDoesLeavingTheShiftGiveANumber)
 {
     Add("15/04/2026", "sakaL", 5, 1, 5);

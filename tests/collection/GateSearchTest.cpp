@@ -93,6 +93,33 @@ TEST_F(GateSearchTest, ANameIsFoundInAnySpellingThatReadsSo)
     });
 }
 
+TEST_F(GateSearchTest, ARowOfTheOtherCompanyIsFoundAndListedInEachOrder)
+{
+    AddMember(4, QStringLiteral("maa$tI"), QStringLiteral("gaaya"));
+    AddMilk(5, 4, "maa$tI", "gaaya", 9, 3, 32, 288);
+    Run(QStringLiteral("update MilkCollections set CompanyId=2 where CollectionNo=5"));
+    Searching([](Clerk& clerk) {
+        EXPECT_EQ(Listed(clerk), "54321");
+        Type(clerk, "{ENTER}4");
+        EXPECT_EQ(Listed(clerk), "5") << "by number";
+        Type(clerk, "{BS}{ENTER}maa$");
+        EXPECT_EQ(Listed(clerk), "5") << "by name";
+    });
+    EXPECT_FALSE(Failure);
+    Searching([](Clerk& clerk) {
+        Type(clerk, "{ENTER}{ENTER}maarutI");
+        EXPECT_EQ(Listed(clerk), "5") << "by another spelling";
+    });
+    EXPECT_FALSE(Failure);
+    Searching([](Clerk& clerk) {
+        Type(clerk, "{ENTER}3{ENTER}1");
+        EXPECT_EQ(Listed(clerk), "531") << "by animal";
+        clerk.Press(QStringLiteral("cmdLtrOrder"));
+        EXPECT_EQ(Listed(clerk).size(), 5U) << "in order";
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(GateSearchTest, AnEmptyNameGivesAllRows)
 {
     Searching([](Clerk& clerk) {

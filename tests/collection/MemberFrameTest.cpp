@@ -86,6 +86,22 @@ TEST_F(MemberFrameTest, AnotherSpellingOfANameIsTheMember)
     });
 }
 
+TEST_F(MemberFrameTest, AMemberOfTheOtherCompanyIsFoundByNumberAndByName)
+{
+    AddMember(40, QStringLiteral("paava-tI"), QStringLiteral("gaaya"));
+    AddMember(41, QStringLiteral("paava-tI"), QStringLiteral("gaaya"));
+    Run(QStringLiteral("update MembersMaster set CompanyId=2 where MemberNo=40"));
+    InTheFrame([](Clerk& clerk) {
+        Type(clerk, "13042026{ENTER}14042026{ENTER}40{ENTER}");
+        EXPECT_EQ(Reads(clerk, "cmbAccountName"), "paava-tI");
+        Type(clerk, "paava-tI{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtAccountId"), "40") << "the number beside the name";
+        Type(clerk, "+{TAB}+{TAB}3{ENTER}paava-tI{ESC}{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtAccountId"), "40") << "the first of the name, whosesoever he is";
+        EXPECT_EQ(Focus(clerk), "cmdGoOn");
+    });
+}
+
 TEST_F(MemberFrameTest, AnUnknownNumberAndAnUnknownNameChangeNothing)
 {
     InTheFrame([](Clerk& clerk) {

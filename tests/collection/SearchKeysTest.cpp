@@ -36,6 +36,23 @@ TEST_F(SearchKeysTest, AnUnknownNameBesideANumberLoadsTheListAnew)
     });
 }
 
+TEST_F(SearchKeysTest, AMemberOfTheOtherCompanyIsFoundByNumberAndByName)
+{
+    AddMember(40, QStringLiteral("paava-tI"), QStringLiteral("gaaya"));
+    Run(QStringLiteral("update MembersMaster set CompanyId=2 where MemberNo=40"));
+    Run(QStringLiteral("update MilkCollections set MemberNo=40,MemberName='paava-tI' where MemberNo=2"));
+    for (const char* keys : {"40{ENTER}{ENTER}", "{ENTER}paava-tI{ENTER}"}) {
+        FromTheMenu([keys](Clerk& clerk) {
+            Type(clerk, "{ENTER}1{ENTER}");
+            Type(clerk, keys);
+            EXPECT_EQ(Reads(clerk, "txtMemberNo"), "40") << keys;
+            EXPECT_EQ(Reads(clerk, "ComboMemberName"), "paava-tI") << keys;
+            EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 1) << keys;
+        });
+        EXPECT_FALSE(Failure) << keys;
+    }
+}
+
 TEST_F(SearchKeysTest, ASlipOfNoCompanyIsGoneBeforeItIsPrintedAgain)
 {
     QStringList atPrinting;
