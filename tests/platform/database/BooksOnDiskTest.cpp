@@ -46,6 +46,16 @@ protected:
         ASSERT_EQ(write.write(bytes), bytes.size());
     }
 
+    void FoldByAnother(const char* way = "restart") const
+    {
+        sqlite3* other = nullptr;
+        ASSERT_EQ(sqlite3_open(file.toUtf8().constData(), &other), SQLITE_OK);
+        const QByteArray statements = "pragma key='" + TestPassword.toUtf8().replace("'", "''")
+            + "'; pragma cipher_page_size=1024; pragma wal_checkpoint(" + QByteArray(way) + ")";
+        ASSERT_EQ(sqlite3_exec(other, statements.constData(), nullptr, nullptr, nullptr), SQLITE_OK);
+        sqlite3_close(other);
+    }
+
     int LocksOn() const { return BooksFile::LocksOn(file.toStdString()); }
     QString Log() const { return file + QStringLiteral("-wal"); }
 };
@@ -171,7 +181,19 @@ TEST_F(BooksOnDiskTest, ALogThatWasEmptiedIsToldBehindAFoldToo)
     EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
 }
 
-TEST_F(BooksOnDiskTest, BooksOrALogThatWereCutShortAreTold)
+TEST_F(BooksOnDiskTest, BooksThatWereCutShortAreToldAndLeftAsTheyAre)
+{
+    Add(1);
+    connection.Fold();
+    Add(2);
+    const qint64 size = QFileInfo(file).size() - DatabaseFile::PageSize;
+    ASSERT_TRUE(QFile::resize(file, size));
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    connection.Close();
+    EXPECT_EQ(QFileInfo(file).size(), size);
+}
+
+TEST_F(BooksOnDiskTest, ALogThatWasCutShortIsTold)
 {
     Add(1);
     connection.Fold();
@@ -202,12 +224,7 @@ TEST_P(OtherFoldTest, IsNoHarm)
 {
     Add(1);
     Add(2);
-    sqlite3* other = nullptr;
-    ASSERT_EQ(sqlite3_open(file.toUtf8().constData(), &other), SQLITE_OK);
-    const QByteArray statements = "pragma key='" + TestPassword.toUtf8().replace("'", "''")
-        + "'; pragma cipher_page_size=1024; pragma wal_checkpoint(" + QByteArray(GetParam()) + ")";
-    ASSERT_EQ(sqlite3_exec(other, statements.constData(), nullptr, nullptr, nullptr), SQLITE_OK);
-    sqlite3_close(other);
+    FoldByAnother(GetParam());
     EXPECT_EQ(Refusal(), QString());
     Add(3);
     EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("4"));
@@ -219,6 +236,19 @@ TEST_P(OtherFoldTest, IsNoHarm)
     EXPECT_EQ(again.Open(QStringLiteral("dsn=Left;pwd=") + TestPassword), QStringList());
     EXPECT_EQ(Recordset(again, QStringLiteral("select count(*) from CityMaster")).At(0).Text(),
         QStringLiteral("4"));
+}
+
+TEST_F(BooksOnDiskTest, ALogThatWentAfterAFoldByAnotherProgramIsTold)
+{
+    Add(1);
+    Add(2);
+    FoldByAnother();
+    ASSERT_TRUE(QFile::remove(Log()));
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("log beside the database file was removed")));
+    connection.Close();
+    Open();
+    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("2"));
+    EXPECT_TRUE(IsSound(connection));
 }
 
 }

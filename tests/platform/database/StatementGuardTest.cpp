@@ -57,6 +57,17 @@ TEST_F(StatementGuardTest, AFunctionThatRunsStatementsOrLoadsCodeIsDenied)
     }
 }
 
+TEST_F(StatementGuardTest, SuchAFunctionIsDeniedBeforeItRuns)
+{
+    for (const char* statement : {"select sqlcipher_export('main')", "select load_extension('./x')",
+             "select load_extension('./x','y')"}) {
+        EXPECT_NE(Asked(statement), SQLITE_OK) << statement;
+        EXPECT_TRUE(
+            QByteArray(sqlite3_errmsg(connection.Handle())).contains("not authorized to use function"))
+            << statement;
+    }
+}
+
 TEST_F(StatementGuardTest, TheSchemaChangesByANewChartOnly)
 {
     for (const char* statement : ChangesOfTheSchema) {

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPaintEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
@@ -112,7 +113,12 @@ TEST(MessageBoxTest, KeysThatWereTypedAheadOfItAreThrownAway)
 TEST(MessageBoxTest, KeysThatWaitedWhileItWasPaintedAreThrownAwayToo)
 {
     QMetaObject::invokeMethod(
-        qApp, [] { Box()->repaint(); }, Qt::QueuedConnection);
+        qApp,
+        [] {
+            QPaintEvent painted(Box()->rect());
+            QCoreApplication::sendEvent(Box(), &painted);
+        },
+        Qt::QueuedConnection);
     StrikeLater(Qt::Key_Return);
     EXPECT_TRUE(ShowBox(QStringLiteral("Duplicate Record"), Qt::Key_Return, LookAtNothing));
 }
