@@ -15,8 +15,8 @@ public:
     explicit SingleInstance(const QString& folder);
     ~SingleInstance();
 
-    // Whether the file Vetrolan.lock lies in a folder: asked before the lock is taken, it tells that a program
-    // runs there, or that the last one was killed.
+    // Whether the file Vetrolan.lock lies in a folder: asked before the lock is taken, it tells that a
+    // program runs there, or that the last one was killed.
     static bool IsLeftBehind(const QString& folder);
 
     // Whether this process holds the lock.
