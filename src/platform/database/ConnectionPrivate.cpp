@@ -9,11 +9,12 @@
 
 namespace {
 
-// Connections that the engine mustn't close; the end of the process does.
-std::vector<std::pair<sqlite3*, std::shared_ptr<BooksOnDisk>>>& ConnectionsLeftOpen()
+// Connections that the engine mustn't close: they are never let go, and the end of the process closes them.
+void LeaveOpen(sqlite3* handle, const std::shared_ptr<BooksOnDisk>& onDisk)
 {
-    static std::vector<std::pair<sqlite3*, std::shared_ptr<BooksOnDisk>>> connections;
-    return connections;
+    using Connections = std::vector<std::pair<sqlite3*, std::shared_ptr<BooksOnDisk>>>;
+    static Connections& connections = *new Connections;
+    connections.emplace_back(handle, onDisk);
 }
 
 // As long as it lives nobody else who uses the books is waited for.
@@ -72,7 +73,7 @@ Connection::Private::~Private()
     const bool isLogUntold = m_onDisk->LogSize() > 0 && round.isMarked && !round.isFolding;
     if (m_onDisk->isForeign || isLogUntold) {
         m_onDisk->LeaveToTheEnd();
-        ConnectionsLeftOpen().push_back({m_handle, m_onDisk});
+        LeaveOpen(m_handle, m_onDisk);
         return;
     }
     sqlite3_close(m_handle);
