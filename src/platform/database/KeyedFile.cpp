@@ -2,6 +2,7 @@
 
 #include "DatabaseErrors.h"
 #include "DatabaseFile.h"
+#include "FileKey.h"
 
 #include <QFileInfo>
 #include <QTemporaryFile>
@@ -60,8 +61,8 @@ void KeyedFile::RunOrThrow(const QByteArray& pragma)
 
 int KeyedFile::Key(const QString& password)
 {
-    const QByteArray bytes = password.toUtf8();
-    const int code = sqlite3_key(m_handle, bytes.constData(), static_cast<int>(bytes.size()));
+    const QByteArray key = FileKey::For(m_handle, password);
+    const int code = sqlite3_key(m_handle, key.constData(), static_cast<int>(key.size()));
     if (code != SQLITE_OK)
         return code;
     return Run("pragma cipher_page_size=" + QByteArray::number(DatabaseFile::PageSize));
