@@ -3,6 +3,8 @@
 
 # A second build of the same text costs next to nothing.
 export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+# It keeps what was compiled with headers that were read once for all only if it is told that this is meant.
+export CCACHE_SLOPPINESS=pch_defines,time_macros
 
 # Fail TEXT...: says why in one line, and ends.
 Fail()
