@@ -238,6 +238,25 @@ TEST_P(OtherFoldTest, IsNoHarm)
         QStringLiteral("4"));
 }
 
+TEST_F(BooksOnDiskTest, AfterAFoldByAnotherProgramTheLogStillBelongsToItsOwnBooksOnly)
+{
+    Add(1);
+    FoldByAnother();
+    Add(2);
+    const QString restored = folder.filePath(QStringLiteral("restored.mdb"));
+    ASSERT_TRUE(QFile::copy(file, restored));
+    connection.Fold();
+    Add(3);
+    ASSERT_TRUE(QFile::copy(Log(), restored + QStringLiteral("-wal")));
+    DataSource::Register(QStringLiteral("Restored"), restored);
+    Connection again;
+    const QStringList notes = again.Open(QStringLiteral("dsn=Restored;pwd=") + TestPassword);
+    ASSERT_EQ(notes.size(), 1);
+    EXPECT_TRUE(notes.first().contains(QStringLiteral("log of other books"))) << notes.first().toStdString();
+    EXPECT_EQ(Recordset(again, QStringLiteral("select count(*) from CityMaster")).At(0).Text(),
+        QStringLiteral("1"));
+}
+
 TEST_F(BooksOnDiskTest, ALogThatWentAfterAFoldByAnotherProgramIsTold)
 {
     Add(1);
