@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Clerk.h"
+#include "KeptFailure.h"
 #include "MdlAccounts.h"
 #include "Recordset.h"
 #include "RunTimeError.h"
@@ -69,7 +70,7 @@ protected:
     FakeClock TheClock;
     FakeCalculator TheCalculator;
     FakeMessageBox TheBox;
-    std::optional<RunTimeError> Failure;
+    KeptFailure Failure;
 
 private:
     QTemporaryDir m_drives;

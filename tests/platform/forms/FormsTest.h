@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../../support/KeptFailure.h"
 #include "Button.h"
 #include "Clerk.h"
 #include "Field.h"
@@ -47,7 +48,7 @@ protected:
     std::string ScreenName() const { return TheClerk.ScreenName().toStdString(); }
 
     Clerk TheClerk;
-    std::optional<RunTimeError> Failure;
+    KeptFailure Failure;
 };
 
 // Three fields and two buttons that tell what happens to them: "+txtA" is GotFocus, "-txtA" LostFocus,
