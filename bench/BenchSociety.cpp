@@ -1,12 +1,13 @@
-#include "BenchSociety.h"
+#include "bench/BenchSociety.h"
 
-#include "AppFolder.h"
-#include "Dates.h"
-#include "MdlAccounts.h"
-#include "Program.h"
-#include "Recordset.h"
-#include "Society.h"
-#include "Sql.h"
+#include "core/start/MdlAccounts.h"
+#include "core/start/Program.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/shell/AppFolder.h"
+#include "platform/text/Dates.h"
+#include "tools/setup/Society.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "World.h"
+#include "platform/shell/World.h"
 
 #include <QDate>
 #include <QString>

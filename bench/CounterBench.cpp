@@ -1,14 +1,14 @@
 // What the clerk waits for on the way through the line of fields.
 
-#include "BenchSociety.h"
-#include "Cases.h"
-#include "CounterPlay.h"
-#include "FloorStatement.h"
-#include "MdlAccounts.h"
-#include "Outcomes.h"
-#include "Recordset.h"
-#include "RunTimeError.h"
-#include "Sql.h"
+#include "bench/BenchSociety.h"
+#include "bench/Cases.h"
+#include "bench/CounterPlay.h"
+#include "bench/FloorStatement.h"
+#include "bench/Outcomes.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/text/RunTimeError.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "CounterPlay.h"
+#include "bench/CounterPlay.h"
 
-#include "Clerk.h"
-#include "MdlAccounts.h"
-#include "ModalStack.h"
-#include "Numbers.h"
-#include "frmMilkCollections.h"
+#include "collection/frmMilkCollections.h"
+#include "core/state/AppState.h"
+#include "platform/forms/ModalStack.h"
+#include "platform/text/Numbers.h"
+#include "tools/clerk/Clerk.h"
 
 #include <QKeyEvent>
 

@@ -1,7 +1,7 @@
-#include "FloorReport.h"
+#include "bench/FloorReport.h"
 
-#include "CounterPlay.h"
-#include "ReportPlay.h"
+#include "bench/CounterPlay.h"
+#include "bench/ReportPlay.h"
 
 #include <pango/pangocairo.h>
 

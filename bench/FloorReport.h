@@ -1,8 +1,8 @@
 #pragma once
 
-#include "FloorStatement.h"
-#include "LayoutPool.h"
-#include "Report.h"
+#include "bench/FloorStatement.h"
+#include "platform/report/LayoutPool.h"
+#include "platform/report/Report.h"
 
 #include <string>
 

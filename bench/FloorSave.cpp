@@ -1,6 +1,6 @@
-#include "FloorSave.h"
+#include "bench/FloorSave.h"
 
-#include "CounterPlay.h"
+#include "bench/CounterPlay.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FloorStatement.h"
+#include "bench/FloorStatement.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
-#include "FloorStatement.h"
+#include "bench/FloorStatement.h"
 
-#include "MdlAccounts.h"
-#include "RunTimeError.h"
+#include "core/state/AppState.h"
+#include "platform/text/RunTimeError.h"
 
 #include <sqlcipher/sqlite3.h>
 

@@ -1,15 +1,15 @@
 // A list after a write: read anew and painted, however many rows it has.
 
-#include "BenchSociety.h"
-#include "Cases.h"
-#include "CounterPlay.h"
-#include "DataGrid.h"
-#include "Layout.h"
-#include "MdlAccounts.h"
-#include "Outcomes.h"
-#include "RunTimeError.h"
-#include "Screen.h"
-#include "Sql.h"
+#include "bench/BenchSociety.h"
+#include "bench/Cases.h"
+#include "bench/CounterPlay.h"
+#include "bench/Outcomes.h"
+#include "core/state/AppState.h"
+#include "platform/database/Sql.h"
+#include "platform/forms/DataGrid.h"
+#include "platform/forms/Layout.h"
+#include "platform/forms/Screen.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>

@@ -1,4 +1,4 @@
-#include "Outcomes.h"
+#include "bench/Outcomes.h"
 
 #include <cstdio>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Timing.h"
+#include "bench/Timing.h"
 
 #include <benchmark/benchmark.h>
 

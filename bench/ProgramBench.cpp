@@ -1,12 +1,12 @@
 // The program as a whole, each time in a process of its own, with nothing of it warm.
 
-#include "AppFolder.h"
-#include "BenchSociety.h"
-#include "Cases.h"
-#include "CounterPlay.h"
-#include "MdlAccounts.h"
-#include "Outcomes.h"
-#include "RunTimeError.h"
+#include "bench/BenchSociety.h"
+#include "bench/Cases.h"
+#include "bench/CounterPlay.h"
+#include "bench/Outcomes.h"
+#include "core/state/AppState.h"
+#include "platform/shell/AppFolder.h"
+#include "platform/text/RunTimeError.h"
 
 #include <sqlcipher/sqlite3.h>
 

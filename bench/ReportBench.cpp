@@ -1,14 +1,13 @@
 // A report of 20,000 rows: laid out in memory, its first page, and the whole as a PDF. And one of a single
 // text that is as long as a book.
 
-#include "BenchSociety.h"
-#include "Cases.h"
-#include "CounterPlay.h"
-#include "FloorReport.h"
-#include "MdlAccounts.h"
-#include "Outcomes.h"
-#include "ReportPlay.h"
-#include "RunTimeError.h"
+#include "bench/BenchSociety.h"
+#include "bench/Cases.h"
+#include "bench/CounterPlay.h"
+#include "bench/FloorReport.h"
+#include "bench/Outcomes.h"
+#include "bench/ReportPlay.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QFileInfo>
 

@@ -1,8 +1,8 @@
-#include "ReportPlay.h"
+#include "bench/ReportPlay.h"
 
-#include "CounterPlay.h"
-#include "MdlAccounts.h"
-#include "RunTimeError.h"
+#include "bench/CounterPlay.h"
+#include "core/state/AppState.h"
+#include "platform/text/RunTimeError.h"
 
 namespace {
 

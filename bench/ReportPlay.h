@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Report.h"
+#include "platform/report/Report.h"
 
 #include <memory>
 

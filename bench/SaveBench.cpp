@@ -1,13 +1,13 @@
-#include "BenchSociety.h"
-#include "Cases.h"
-#include "CounterPlay.h"
-#include "FloorSave.h"
-#include "LookupFatRate.h"
-#include "MdlAccounts.h"
-#include "Outcomes.h"
-#include "Recordset.h"
-#include "RunTimeError.h"
-#include "Sql.h"
+#include "bench/BenchSociety.h"
+#include "bench/Cases.h"
+#include "bench/CounterPlay.h"
+#include "bench/FloorSave.h"
+#include "bench/Outcomes.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/text/RunTimeError.h"
+#include "rates/LookupFatRate.h"
 
 #include <cmath>
 

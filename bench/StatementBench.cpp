@@ -1,16 +1,16 @@
 // A statement in the system's words, put together from texts as a screen does it and met before, beside the
 // prepared one that is bound directly.
 
-#include "BenchSociety.h"
-#include "Cases.h"
-#include "CounterPlay.h"
-#include "FloorStatement.h"
-#include "MdlAccounts.h"
-#include "Outcomes.h"
-#include "Recordset.h"
-#include "RunTimeError.h"
-#include "Sql.h"
-#include "Transaction.h"
+#include "bench/BenchSociety.h"
+#include "bench/Cases.h"
+#include "bench/CounterPlay.h"
+#include "bench/FloorStatement.h"
+#include "bench/Outcomes.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "platform/text/RunTimeError.h"
 
 namespace {
 

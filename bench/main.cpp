@@ -1,9 +1,9 @@
-#include "BenchSociety.h"
-#include "Cases.h"
-#include "ModalStack.h"
-#include "Outcomes.h"
-#include "ProgramPlay.h"
 #include "Screens.h"
+#include "bench/BenchSociety.h"
+#include "bench/Cases.h"
+#include "bench/Outcomes.h"
+#include "bench/ProgramPlay.h"
+#include "platform/forms/ModalStack.h"
 
 #include <cstdio>
 

@@ -1,5 +1,5 @@
-# A room is one folder of the house, built as one static library. A room can include only the
-# headers of the rooms that it links to, so the link lists below src/ say who may know whom.
+# A room is one folder of the house, built as one static library. The link lists below src/ say who may know whom;
+# .ci/rooms holds the includes to them, which are written from src/ and so name their room.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -15,6 +15,7 @@ option(VETROLAN_NIGHTLY "Build the trials that take long" OFF)
 
 # Every target of the project takes its warnings and checks from here, and from nowhere else.
 add_library(vetrolan_options INTERFACE)
+target_include_directories(vetrolan_options INTERFACE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR})
 target_compile_options(vetrolan_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
     -Wno-sign-conversion -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Wimplicit-fallthrough)
 target_compile_definitions(vetrolan_options INTERFACE
@@ -71,7 +72,6 @@ endfunction()
 function(vetrolan_room name)
     cmake_parse_arguments(ROOM "WINDOWLESS" "" "SOURCES;LINK" ${ARGN})
     add_library(${name} STATIC ${ROOM_SOURCES})
-    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ROOM_LINK} PRIVATE vetrolan_options)
     if(ROOM_WINDOWLESS)
         vetrolan_precompiled(${name} windowless)

@@ -1,8 +1,8 @@
-#include "FileRights.h"
-#include "ModalStack.h"
-#include "Privacy.h"
-#include "Program.h"
 #include "Screens.h"
+#include "core/start/Program.h"
+#include "platform/forms/ModalStack.h"
+#include "platform/shell/Privacy.h"
+#include "platform/text/FileRights.h"
 
 int main(int argc, char* argv[])
 {

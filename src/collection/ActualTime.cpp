@@ -1,7 +1,7 @@
-#include "ActualTime.h"
+#include "collection/ActualTime.h"
 
-#include "Dates.h"
-#include "World.h"
+#include "platform/shell/World.h"
+#include "platform/text/Dates.h"
 
 QString ActualTime(QStringView clockText)
 {

@@ -1,8 +1,8 @@
-#include "ClosingFigures.h"
+#include "collection/ClosingFigures.h"
 
-#include "MdlAccounts.h"
-#include "Recordset.h"
-#include "Sql.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
 
 void PostClosingBalance(QStringView name, double amount, PostAction action)
 {

@@ -1,9 +1,9 @@
-#include "CopySums.h"
+#include "collection/CopySums.h"
 
-#include "Counter.h"
-#include "MdlAccounts.h"
-#include "Recordset.h"
-#include "Sql.h"
+#include "collection/Counter.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
 
 double MilkSums::AverageFat() const
 {

@@ -1,7 +1,7 @@
-#include "Counter.h"
+#include "collection/Counter.h"
 
-#include "MdlAccounts.h"
-#include "Recordset.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
 
 #include <QHash>
 #include <QStringList>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Field.h"
-#include "NameCombo.h"
-#include "Numbers.h"
+#include "platform/forms/Field.h"
+#include "platform/forms/NameCombo.h"
+#include "platform/text/Numbers.h"
 
 #include <vector>
 

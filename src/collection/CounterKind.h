@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Look.h"
+#include "platform/forms/Look.h"
 
 #include <QStringView>
 

@@ -1,6 +1,6 @@
-#include "CounterPieces.h"
+#include "collection/CounterPieces.h"
 
-#include "DataGrid.h"
+#include "platform/forms/DataGrid.h"
 
 #include <QHeaderView>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Field.h"
-#include "Look.h"
+#include "platform/forms/Field.h"
+#include "platform/forms/Look.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,9 +1,9 @@
-#include "CounterReport.h"
+#include "collection/CounterReport.h"
 
-#include "AppFolder.h"
-#include "MdlAccounts.h"
-#include "ReceiptLayouts.h"
-#include "ReportControl.h"
+#include "core/state/AppState.h"
+#include "platform/report/ReportControl.h"
+#include "platform/shell/AppFolder.h"
+#include "society/ReceiptLayouts.h"
 
 namespace {
 

@@ -1,16 +1,16 @@
-#include "CounterScreen.h"
+#include "collection/CounterScreen.h"
 
-#include "CommonKeys.h"
-#include "Counter.h"
-#include "Keys.h"
-#include "MdlAccounts.h"
-#include "Messages.h"
-#include "ModalStack.h"
-#include "Names.h"
-#include "Recordset.h"
-#include "ScreenDirectory.h"
-#include "Sql.h"
-#include "Wanted.h"
+#include "collection/Counter.h"
+#include "core/menu/CommonKeys.h"
+#include "core/menu/Keys.h"
+#include "core/menu/ScreenDirectory.h"
+#include "core/messages/Messages.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/forms/ModalStack.h"
+#include "society/Names.h"
+#include "society/Wanted.h"
 
 #include <QKeyEvent>
 

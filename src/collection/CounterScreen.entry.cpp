@@ -1,14 +1,14 @@
 // The milk of the line: animal, litres, fat, rate and amount.
 
-#include "CounterScreen.h"
-#include "Counter.h"
-#include "LookupFatRate.h"
-#include "MdlAccounts.h"
-#include "ModalStack.h"
-#include "Queries.h"
-#include "Recordset.h"
-#include "Sql.h"
-#include "Wanted.h"
+#include "collection/CounterScreen.h"
+#include "collection/Counter.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/forms/ModalStack.h"
+#include "rates/LookupFatRate.h"
+#include "society/Queries.h"
+#include "society/Wanted.h"
 
 #include <utility>
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "Button.h"
-#include "CounterKind.h"
-#include "DataGrid.h"
-#include "DateField.h"
-#include "Deliveries.h"
-#include "MilkDevices.h"
-#include "MilkReceipt.h"
-#include "NameCombo.h"
-#include "Screen.h"
+#include "collection/CounterKind.h"
+#include "collection/Deliveries.h"
+#include "collection/MilkDevices.h"
+#include "collection/MilkReceipt.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/DataGrid.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/NameCombo.h"
+#include "platform/forms/Screen.h"
 
 #include <array>
 #include <utility>

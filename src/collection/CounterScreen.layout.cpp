@@ -1,7 +1,7 @@
-#include "CounterScreen.h"
+#include "collection/CounterScreen.h"
 
-#include "CounterPieces.h"
-#include "Layout.h"
+#include "collection/CounterPieces.h"
+#include "platform/forms/Layout.h"
 
 #include <QFrame>
 #include <QHBoxLayout>

@@ -1,13 +1,13 @@
 // The line of fields as a whole.
 
-#include "CounterScreen.h"
-#include "ActualTime.h"
-#include "Counter.h"
-#include "Keys.h"
-#include "MdlAccounts.h"
-#include "Names.h"
-#include "Queries.h"
-#include "Recordset.h"
+#include "collection/CounterScreen.h"
+#include "collection/ActualTime.h"
+#include "collection/Counter.h"
+#include "core/menu/Keys.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "society/Names.h"
+#include "society/Queries.h"
 
 #include <utility>
 

@@ -1,16 +1,16 @@
 // What becomes of the line of fields: saved as a delivery, deleted, or looked up.
 
-#include "CounterScreen.h"
-#include "ClosingFigures.h"
-#include "Counter.h"
-#include "MdlAccounts.h"
-#include "Messages.h"
-#include "ModalStack.h"
-#include "Queries.h"
-#include "Recordset.h"
-#include "ScreenDirectory.h"
-#include "Sql.h"
-#include "Transaction.h"
+#include "collection/CounterScreen.h"
+#include "collection/ClosingFigures.h"
+#include "collection/Counter.h"
+#include "core/menu/ScreenDirectory.h"
+#include "core/messages/Messages.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "platform/forms/ModalStack.h"
+#include "society/Queries.h"
 
 using namespace Counter;
 

@@ -1,8 +1,8 @@
 // The deliveries of the open shift and their totals. Both go by the copy; a total is walked anew each time.
 
-#include "CounterScreen.h"
-#include "CopySums.h"
-#include "Counter.h"
+#include "collection/CounterScreen.h"
+#include "collection/CopySums.h"
+#include "collection/Counter.h"
 
 using namespace Counter;
 

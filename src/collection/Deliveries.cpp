@@ -1,10 +1,10 @@
-#include "Deliveries.h"
+#include "collection/Deliveries.h"
 
-#include "Dates.h"
-#include "MdlAccounts.h"
-#include "Recordset.h"
-#include "Sql.h"
-#include "Transaction.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "platform/text/Dates.h"
 
 #include <array>
 

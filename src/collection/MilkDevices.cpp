@@ -1,10 +1,10 @@
-#include "MilkDevices.h"
+#include "collection/MilkDevices.h"
 
-#include "MdlAccounts.h"
-#include "MilkDevicesLines.h"
-#include "MilkDevicesReplies.h"
-#include "Recordset.h"
-#include "SerialLine.h"
+#include "collection/MilkDevicesLines.h"
+#include "collection/MilkDevicesReplies.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/serial/SerialLine.h"
 
 #include <algorithm>
 #include <array>

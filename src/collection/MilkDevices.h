@@ -1,6 +1,6 @@
 #pragma once
 
-#include "MilkDevicesCombined.h"
+#include "collection/MilkDevicesCombined.h"
 
 #include <QString>
 #include <chrono>

@@ -1,7 +1,7 @@
-#include "MilkDevicesCombined.h"
+#include "collection/MilkDevicesCombined.h"
 
-#include "MilkDevicesLines.h"
-#include "SerialLine.h"
+#include "collection/MilkDevicesLines.h"
+#include "platform/serial/SerialLine.h"
 
 #include <algorithm>
 

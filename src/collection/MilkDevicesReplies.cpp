@@ -1,6 +1,6 @@
-#include "MilkDevicesReplies.h"
+#include "collection/MilkDevicesReplies.h"
 
-#include "Numbers.h"
+#include "platform/text/Numbers.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,12 +1,12 @@
-#include "MilkReceipt.h"
+#include "collection/MilkReceipt.h"
 
-#include "Dates.h"
-#include "MdlAccounts.h"
-#include "Queries.h"
-#include "ReceiptLayouts.h"
-#include "Recordset.h"
-#include "ReportSubject.h"
-#include "Sql.h"
+#include "core/preview/ReportSubject.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/text/Dates.h"
+#include "society/Queries.h"
+#include "society/ReceiptLayouts.h"
 
 void MilkReceipt::StageReceipt(const Delivery& d)
 {

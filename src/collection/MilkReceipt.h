@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CounterReport.h"
-#include "Deliveries.h"
+#include "collection/CounterReport.h"
+#include "collection/Deliveries.h"
 
 // The slip that a member takes home: one delivery, staged in MilkReceipt and printed from there.
 class MilkReceipt {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Button.h"
-#include "DataGrid.h"
-#include "DateField.h"
-#include "Deliveries.h"
-#include "Screen.h"
+#include "collection/Deliveries.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/DataGrid.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/Screen.h"
 
 // The members who brought milk to a shift the day before and none to it today.
 class frmAbsenseMemberCollection final : public Screen {

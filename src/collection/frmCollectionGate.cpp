@@ -1,13 +1,13 @@
-#include "frmCollectionGate.h"
+#include "collection/frmCollectionGate.h"
 
-#include "Counter.h"
-#include "Keys.h"
-#include "Layout.h"
-#include "MdlAccounts.h"
-#include "Recordset.h"
-#include "ScreenDirectory.h"
-#include "Shivaji01.h"
-#include "Sql.h"
+#include "collection/Counter.h"
+#include "core/menu/Keys.h"
+#include "core/menu/ScreenDirectory.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/forms/Layout.h"
+#include "platform/text/Shivaji01.h"
 
 using namespace Counter;
 

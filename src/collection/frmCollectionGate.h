@@ -1,8 +1,8 @@
 #pragma once
 
-#include "CheckBox.h"
-#include "CounterScreen.h"
-#include "Sql.h"
+#include "collection/CounterScreen.h"
+#include "platform/database/Sql.h"
+#include "platform/forms/CheckBox.h"
 
 // The counter at the gate: the same deliveries, with a list that can be sorted, and searched by what is typed
 // into the line.

@@ -1,6 +1,6 @@
-#include "frmCollectionGate.h"
+#include "collection/frmCollectionGate.h"
 
-#include "CounterPieces.h"
+#include "collection/CounterPieces.h"
 
 #include <QApplication>
 #include <QHBoxLayout>

@@ -1,14 +1,15 @@
-#include "frmDailyCollection.h"
+#include "collection/frmDailyCollection.h"
 
-#include "CommonKeys.h"
-#include "CompanyTitle.h"
-#include "Counter.h"
-#include "MdlAccounts.h"
-#include "Messages.h"
-#include "ModeTitles.h"
-#include "Queries.h"
-#include "Sql.h"
-#include "Transaction.h"
+#include "collection/Counter.h"
+#include "core/menu/CommonKeys.h"
+#include "core/messages/Messages.h"
+#include "core/state/AppState.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "society/CompanyTitle.h"
+#include "society/FieldRoutines.h"
+#include "society/ModeTitles.h"
+#include "society/Queries.h"
 
 #include <QKeyEvent>
 

@@ -1,15 +1,15 @@
 // Leaving the fields of the daily collection.
 
-#include "frmDailyCollection.h"
-#include "Counter.h"
-#include "Dates.h"
-#include "Keys.h"
-#include "LookupFatRate.h"
-#include "MdlAccounts.h"
-#include "Messages.h"
-#include "Names.h"
-#include "Sql.h"
-#include "Wanted.h"
+#include "collection/frmDailyCollection.h"
+#include "collection/Counter.h"
+#include "core/menu/Keys.h"
+#include "core/messages/Messages.h"
+#include "core/state/AppState.h"
+#include "platform/database/Sql.h"
+#include "platform/text/Dates.h"
+#include "rates/LookupFatRate.h"
+#include "society/Names.h"
+#include "society/Wanted.h"
 
 #include <QKeyEvent>
 

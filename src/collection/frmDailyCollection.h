@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Button.h"
-#include "DataGrid.h"
-#include "DateField.h"
-#include "NameCombo.h"
-#include "Recordset.h"
-#include "Screen.h"
+#include "platform/database/Recordset.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/DataGrid.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/NameCombo.h"
+#include "platform/forms/Screen.h"
 
 // The deliveries of one member, day after day: for keying a paper register, and for mending a row. It writes
 // the books and nothing beside them: no slip, no balance and no copy of the shift. The captions of the

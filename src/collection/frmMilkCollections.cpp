@@ -1,11 +1,11 @@
-#include "frmMilkCollections.h"
+#include "collection/frmMilkCollections.h"
 
-#include "CompanyTitle.h"
-#include "Counter.h"
-#include "Keys.h"
-#include "Layout.h"
-#include "MdlAccounts.h"
-#include "Recordset.h"
+#include "collection/Counter.h"
+#include "core/menu/Keys.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/forms/Layout.h"
+#include "society/CompanyTitle.h"
 
 using namespace Counter;
 

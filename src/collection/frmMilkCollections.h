@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CounterReport.h"
-#include "CounterScreen.h"
+#include "collection/CounterReport.h"
+#include "collection/CounterScreen.h"
 
 class QStackedLayout;
 

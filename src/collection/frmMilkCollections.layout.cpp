@@ -1,8 +1,8 @@
-#include "frmMilkCollections.h"
+#include "collection/frmMilkCollections.h"
 
-#include "CounterPieces.h"
-#include "Keys.h"
-#include "Layout.h"
+#include "collection/CounterPieces.h"
+#include "core/menu/Keys.h"
+#include "platform/forms/Layout.h"
 
 #include <QFrame>
 #include <QHBoxLayout>

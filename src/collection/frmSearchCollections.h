@@ -1,12 +1,12 @@
 #pragma once
 
-#include "Button.h"
-#include "CounterReport.h"
-#include "DataGrid.h"
-#include "DateField.h"
-#include "Deliveries.h"
-#include "NameCombo.h"
-#include "Screen.h"
+#include "collection/CounterReport.h"
+#include "collection/Deliveries.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/DataGrid.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/NameCombo.h"
+#include "platform/forms/Screen.h"
 
 // Finds a member's deliveries in a shift and prints the slip of one of them again. A search puts the copy of
 // the shift aside: what was found lies there instead, and stays for the counter that has opened this screen.

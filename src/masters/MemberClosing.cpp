@@ -1,8 +1,8 @@
-#include "MemberClosing.h"
+#include "masters/MemberClosing.h"
 
-#include "MdlAccounts.h"
-#include "Recordset.h"
-#include "Sql.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
 
 #include <cmath>
 

@@ -1,13 +1,13 @@
-#include "frmMembers.h"
+#include "masters/frmMembers.h"
 
-#include "CommonKeys.h"
-#include "CompanyTitle.h"
-#include "MdlAccounts.h"
-#include "MemberClosing.h"
-#include "Messages.h"
-#include "ModeTitles.h"
-#include "Sql.h"
-#include "Transaction.h"
+#include "core/menu/CommonKeys.h"
+#include "core/messages/Messages.h"
+#include "core/state/AppState.h"
+#include "masters/MemberClosing.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "society/CompanyTitle.h"
+#include "society/ModeTitles.h"
 
 namespace {
 

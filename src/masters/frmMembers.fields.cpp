@@ -1,12 +1,12 @@
-#include "frmMembers.h"
+#include "masters/frmMembers.h"
 
-#include "MdlAccounts.h"
-#include "MemberClosing.h"
-#include "Messages.h"
-#include "Names.h"
-#include "Queries.h"
-#include "Sql.h"
-#include "Transaction.h"
+#include "core/messages/Messages.h"
+#include "core/state/AppState.h"
+#include "masters/MemberClosing.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "society/Names.h"
+#include "society/Queries.h"
 
 #include <cmath>
 

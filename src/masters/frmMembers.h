@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Button.h"
-#include "NameCombo.h"
-#include "Recordset.h"
-#include "Screen.h"
+#include "platform/database/Recordset.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/NameCombo.h"
+#include "platform/forms/Screen.h"
 
 #include <vector>
 

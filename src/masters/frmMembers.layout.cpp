@@ -1,10 +1,10 @@
-#include "frmMembers.h"
+#include "masters/frmMembers.h"
 
-#include "Dates.h"
-#include "Keys.h"
-#include "Layout.h"
-#include "Look.h"
-#include "MdlAccounts.h"
+#include "core/menu/Keys.h"
+#include "core/state/AppState.h"
+#include "platform/forms/Layout.h"
+#include "platform/forms/Look.h"
+#include "platform/text/Dates.h"
 
 #include <QGridLayout>
 #include <QLabel>

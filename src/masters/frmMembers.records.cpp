@@ -1,9 +1,10 @@
-#include "frmMembers.h"
+#include "masters/frmMembers.h"
 
-#include "MdlAccounts.h"
-#include "MemberClosing.h"
-#include "Names.h"
-#include "Sql.h"
+#include "core/state/AppState.h"
+#include "masters/MemberClosing.h"
+#include "platform/database/Sql.h"
+#include "society/FieldRoutines.h"
+#include "society/Names.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
-#include "LookupFatRate.h"
+#include "rates/LookupFatRate.h"
 
-#include "MdlAccounts.h"
-#include "Numbers.h"
-#include "Recordset.h"
-#include "Sql.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/text/Numbers.h"
 
 namespace {
 

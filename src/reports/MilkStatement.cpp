@@ -1,11 +1,11 @@
-#include "MilkStatement.h"
+#include "reports/MilkStatement.h"
 
-#include "Dates.h"
-#include "MdlAccounts.h"
-#include "Recordset.h"
-#include "ReportRun.h"
-#include "Sql.h"
-#include "Transaction.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "platform/text/Dates.h"
+#include "reports/ReportRun.h"
 
 #include <QSet>
 

@@ -1,9 +1,9 @@
-#include "ReportLayout.h"
+#include "reports/ReportLayout.h"
 
-#include "Button.h"
-#include "Keys.h"
-#include "Look.h"
-#include "Screen.h"
+#include "core/menu/Keys.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/Look.h"
+#include "platform/forms/Screen.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

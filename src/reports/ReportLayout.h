@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Layout.h"
+#include "platform/forms/Layout.h"
 
 class Button;
 

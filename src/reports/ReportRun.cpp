@@ -1,9 +1,9 @@
-#include "ReportRun.h"
+#include "reports/ReportRun.h"
 
-#include "AppFolder.h"
-#include "MdlAccounts.h"
-#include "ReportControl.h"
-#include "Sql.h"
+#include "core/state/AppState.h"
+#include "platform/database/Sql.h"
+#include "platform/report/ReportControl.h"
+#include "platform/shell/AppFolder.h"
 
 void ReportRun::StageDates(const QString& from, const QString& to)
 {

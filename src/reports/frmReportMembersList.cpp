@@ -1,13 +1,14 @@
-#include "frmReportMembersList.h"
+#include "reports/frmReportMembersList.h"
 
-#include "CompanyTitle.h"
-#include "MdlAccounts.h"
-#include "Names.h"
-#include "Recordset.h"
-#include "ReportRun.h"
-#include "ReportSubject.h"
-#include "Sql.h"
-#include "Transaction.h"
+#include "core/preview/ReportSubject.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "reports/ReportRun.h"
+#include "society/CompanyTitle.h"
+#include "society/FieldRoutines.h"
+#include "society/Names.h"
 
 namespace {
 

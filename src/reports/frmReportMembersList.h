@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Button.h"
-#include "NameCombo.h"
-#include "OptionButton.h"
-#include "Screen.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/NameCombo.h"
+#include "platform/forms/OptionButton.h"
+#include "platform/forms/Screen.h"
 
 // The list of the members: all of them, those of an area, or those of an animal.
 class frmReportMembersList final : public Screen {

@@ -1,5 +1,5 @@
-#include "frmReportMembersList.h"
-#include "ReportLayout.h"
+#include "reports/frmReportMembersList.h"
+#include "reports/ReportLayout.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

@@ -1,13 +1,13 @@
-#include "frmReportMilkCollections.h"
+#include "reports/frmReportMilkCollections.h"
 
-#include "CompanyTitle.h"
-#include "MdlAccounts.h"
-#include "Messages.h"
-#include "ReportRun.h"
-#include "ReportSubject.h"
-#include "Sql.h"
-#include "Transaction.h"
-#include "Wanted.h"
+#include "core/messages/Messages.h"
+#include "core/preview/ReportSubject.h"
+#include "core/state/AppState.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "reports/ReportRun.h"
+#include "society/CompanyTitle.h"
+#include "society/Wanted.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Button.h"
-#include "DateField.h"
-#include "NameCombo.h"
-#include "OptionButton.h"
-#include "Screen.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/NameCombo.h"
+#include "platform/forms/OptionButton.h"
+#include "platform/forms/Screen.h"
 
 // The list of a day's deliveries, of one shift or both, of one animal or both.
 class frmReportMilkCollections final : public Screen {

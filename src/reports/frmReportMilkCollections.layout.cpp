@@ -1,5 +1,5 @@
-#include "frmReportMilkCollections.h"
-#include "ReportLayout.h"
+#include "reports/frmReportMilkCollections.h"
+#include "reports/ReportLayout.h"
 
 void frmReportMilkCollections::LayOut()
 {

@@ -1,12 +1,13 @@
-#include "frmReportMilkPS.h"
+#include "reports/frmReportMilkPS.h"
 
-#include "CompanyTitle.h"
-#include "MdlAccounts.h"
-#include "MilkStatement.h"
-#include "ReportRun.h"
-#include "ReportSubject.h"
-#include "Sql.h"
-#include "Wanted.h"
+#include "core/preview/ReportSubject.h"
+#include "core/state/AppState.h"
+#include "platform/database/Sql.h"
+#include "reports/MilkStatement.h"
+#include "reports/ReportRun.h"
+#include "society/CompanyTitle.h"
+#include "society/FieldRoutines.h"
+#include "society/Wanted.h"
 
 frmReportMilkPS::frmReportMilkPS() : Screen("frmReportMilkPS")
 {

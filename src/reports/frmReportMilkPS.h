@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Button.h"
-#include "DateField.h"
-#include "NameCombo.h"
-#include "OptionButton.h"
-#include "Screen.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/NameCombo.h"
+#include "platform/forms/OptionButton.h"
+#include "platform/forms/Screen.h"
 
 // The statement of one member's deliveries or of one customer's purchases over a range of days. A counter
 // opens it with gReportMode "ShowMilkCollection": it then stages what lies in MilkCollectionsTemp and leaves

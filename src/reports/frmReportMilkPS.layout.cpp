@@ -1,5 +1,5 @@
-#include "frmReportMilkPS.h"
-#include "ReportLayout.h"
+#include "reports/frmReportMilkPS.h"
+#include "reports/ReportLayout.h"
 
 void frmReportMilkPS::LayOut()
 {

@@ -1,10 +1,10 @@
-#include "frmReportPaymentList.h"
+#include "reports/frmReportPaymentList.h"
 
-#include "CompanyTitle.h"
-#include "ReportRun.h"
-#include "ReportSubject.h"
-#include "Sql.h"
-#include "Wanted.h"
+#include "core/preview/ReportSubject.h"
+#include "platform/database/Sql.h"
+#include "reports/ReportRun.h"
+#include "society/CompanyTitle.h"
+#include "society/Wanted.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Button.h"
-#include "DateField.h"
-#include "OptionButton.h"
-#include "Screen.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/OptionButton.h"
+#include "platform/forms/Screen.h"
 
 // The list of the payments of a date: to be paid out in cash, or through the bank.
 class frmReportPaymentList final : public Screen {

@@ -1,5 +1,5 @@
-#include "frmReportPaymentList.h"
-#include "ReportLayout.h"
+#include "reports/frmReportPaymentList.h"
+#include "reports/ReportLayout.h"
 
 void frmReportPaymentList::LayOut()
 {

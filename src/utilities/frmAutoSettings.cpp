@@ -1,8 +1,8 @@
-#include "frmAutoSettings.h"
+#include "utilities/frmAutoSettings.h"
 
-#include "CompanyTitle.h"
-#include "Messages.h"
-#include "Numbers.h"
+#include "core/messages/Messages.h"
+#include "platform/text/Numbers.h"
+#include "society/CompanyTitle.h"
 
 #include <QKeyEvent>
 

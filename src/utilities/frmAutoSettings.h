@@ -1,13 +1,13 @@
 #pragma once
 
-#include "Button.h"
-#include "CheckBox.h"
-#include "ChoiceCombo.h"
-#include "OptionButton.h"
-#include "Recordset.h"
-#include "ReportControl.h"
-#include "Screen.h"
-#include "TabPages.h"
+#include "platform/database/Recordset.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/CheckBox.h"
+#include "platform/forms/ChoiceCombo.h"
+#include "platform/forms/OptionButton.h"
+#include "platform/forms/Screen.h"
+#include "platform/forms/TabPages.h"
+#include "platform/report/ReportControl.h"
 
 #include <array>
 #include <utility>

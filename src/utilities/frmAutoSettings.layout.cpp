@@ -1,7 +1,7 @@
-#include "frmAutoSettings.h"
-#include "Keys.h"
-#include "Layout.h"
-#include "Look.h"
+#include "utilities/frmAutoSettings.h"
+#include "core/menu/Keys.h"
+#include "platform/forms/Layout.h"
+#include "platform/forms/Look.h"
 
 #include <QLabel>
 #include <QVBoxLayout>

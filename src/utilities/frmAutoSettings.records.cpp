@@ -1,10 +1,10 @@
-#include "frmAutoSettings.h"
-#include "AppFolder.h"
-#include "MdlAccounts.h"
-#include "Numbers.h"
-#include "ReceiptLayouts.h"
-#include "Sql.h"
-#include "Transaction.h"
+#include "utilities/frmAutoSettings.h"
+#include "core/state/AppState.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "platform/shell/AppFolder.h"
+#include "platform/text/Numbers.h"
+#include "society/ReceiptLayouts.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
-#include "CounterTest.h"
-#include "frmAbsenseMemberCollection.h"
+#include "collection/frmAbsenseMemberCollection.h"
+#include "tests/collection/CounterTest.h"
 
 namespace {
 

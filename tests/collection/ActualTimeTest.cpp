@@ -1,6 +1,6 @@
-#include "ActualTime.h"
+#include "collection/ActualTime.h"
 
-#include "SocietyTest.h"
+#include "tests/support/SocietyTest.h"
 
 TEST(ActualTime, ATextOfTenCharactersHasAnHourOfOneDigit)
 {

@@ -1,6 +1,6 @@
-#include "ClosingFigures.h"
+#include "collection/ClosingFigures.h"
 
-#include "CounterTest.h"
+#include "tests/collection/CounterTest.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The books and the copy of the open shift differ: the back office has written to the books meanwhile. What a
 // counter looks up in which of the two is the point here.
 
-#include "EachCounterTest.h"
+#include "tests/collection/EachCounterTest.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // What is saved fits together at every counter, whichever way leads to the button that saves.
 
-#include "EachCounterTest.h"
+#include "tests/collection/EachCounterTest.h"
 
-#include "FakeSerialPort.h"
+#include "tests/support/FakeSerialPort.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Two companies in one file: what a counter takes from both, and what from the selected one only.
 
-#include "EachCounterTest.h"
+#include "tests/collection/EachCounterTest.h"
 
-#include "Sql.h"
+#include "platform/database/Sql.h"
 
 namespace {
 

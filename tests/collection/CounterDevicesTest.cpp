@@ -1,6 +1,6 @@
-#include "EachCounterTest.h"
+#include "tests/collection/EachCounterTest.h"
 
-#include "FakeSerialPort.h"
+#include "tests/support/FakeSerialPort.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "EachCounterTest.h"
+#include "tests/collection/EachCounterTest.h"
 
-#include "Sql.h"
+#include "platform/database/Sql.h"
 
 #include <map>
 

@@ -1,6 +1,6 @@
 // Where a counter keeps the focus without a message, the guide line says what is wanted and what leads out.
 
-#include "EachCounterTest.h"
+#include "tests/collection/EachCounterTest.h"
 
 namespace {
 

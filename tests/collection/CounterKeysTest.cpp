@@ -1,6 +1,6 @@
-#include "EachCounterTest.h"
+#include "tests/collection/EachCounterTest.h"
 
-#include "ScreenDirectory.h"
+#include "core/menu/ScreenDirectory.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // Rules of the entry line that only particular rows and devices bring to light.
 
-#include "EachCounterTest.h"
+#include "tests/collection/EachCounterTest.h"
 
-#include "FakeSerialPort.h"
-#include "ModalStack.h"
+#include "platform/forms/ModalStack.h"
+#include "tests/support/FakeSerialPort.h"
 
 #include <map>
 

@@ -1,6 +1,6 @@
-#include "CounterTest.h"
+#include "tests/collection/CounterTest.h"
 
-#include "Sql.h"
+#include "platform/database/Sql.h"
 
 #include <QHeaderView>
 #include <QTableView>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "CounterReport.h"
-#include "SocietyTest.h"
-#include "frmCollectionGate.h"
-#include "frmMilkCollections.h"
+#include "collection/CounterReport.h"
+#include "collection/frmCollectionGate.h"
+#include "collection/frmMilkCollections.h"
+#include "tests/support/SocietyTest.h"
 
 #include <QLabel>
 

@@ -1,10 +1,10 @@
 // Walks over the counters by keyboard alone: on, back, and over rows that are there already.
 
-#include "EachCounterTest.h"
+#include "tests/collection/EachCounterTest.h"
 
-#include "FakeSerialPort.h"
-#include "LookupFatRate.h"
-#include "Sql.h"
+#include "platform/database/Sql.h"
+#include "rates/LookupFatRate.h"
+#include "tests/support/FakeSerialPort.h"
 
 #include <map>
 #include <random>

@@ -1,6 +1,6 @@
 // Modifying and deleting a row of the books, Cancel, and the member's list.
 
-#include "DailyCollectionTest.h"
+#include "tests/collection/DailyCollectionTest.h"
 
 namespace {
 

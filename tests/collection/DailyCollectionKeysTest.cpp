@@ -1,6 +1,6 @@
 // Rows that differ in one part of their key only: what is shown, changed and taken for a duplicate.
 
-#include "DailyCollectionTest.h"
+#include "tests/collection/DailyCollectionTest.h"
 
 namespace {
 

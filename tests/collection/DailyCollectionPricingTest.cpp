@@ -1,6 +1,6 @@
 // What the daily collection saves fits together. Rows of other companies, and the title in each mode.
 
-#include "DailyCollectionTest.h"
+#include "tests/collection/DailyCollectionTest.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // The saving of new rows of the daily collection, and their numbers.
 
-#include "DailyCollectionTest.h"
+#include "tests/collection/DailyCollectionTest.h"
 
 // Saving
 

@@ -1,6 +1,6 @@
 // The fields of the daily collection.
 
-#include "DailyCollectionTest.h"
+#include "tests/collection/DailyCollectionTest.h"
 
 TEST_F(DailyCollectionTest, OpensIdleWithItsTitleAndNothingToEnter)
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CounterTest.h"
-#include "frmDailyCollection.h"
+#include "collection/frmDailyCollection.h"
+#include "tests/collection/CounterTest.h"
 
 // A clerk in the back office, with the members of the counter: 1 brings cow milk, 2 buffalo milk, 3 both.
 class DailyCollectionTest : public CounterTest {

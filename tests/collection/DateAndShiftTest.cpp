@@ -1,6 +1,6 @@
-#include "CounterTest.h"
+#include "tests/collection/CounterTest.h"
 
-#include "Keys.h"
+#include "core/menu/Keys.h"
 
 namespace {
 

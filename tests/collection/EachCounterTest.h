@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CounterTest.h"
+#include "tests/collection/CounterTest.h"
 
 #include <string_view>
 

@@ -1,4 +1,4 @@
-#include "GateTest.h"
+#include "tests/collection/GateTest.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "GateTest.h"
+#include "tests/collection/GateTest.h"
 
-#include "ScreenDirectory.h"
+#include "core/menu/ScreenDirectory.h"
 
 #include <QCheckBox>
 

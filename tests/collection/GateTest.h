@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CounterTest.h"
+#include "tests/collection/CounterTest.h"
 
 // The morning has four deliveries already.
 class GateTest : public CounterTest {

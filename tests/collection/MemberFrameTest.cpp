@@ -1,7 +1,7 @@
-#include "MemberFrameTest.h"
+#include "tests/collection/MemberFrameTest.h"
 
-#include "Keys.h"
-#include "ScreenDirectory.h"
+#include "core/menu/Keys.h"
+#include "core/menu/ScreenDirectory.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CounterTest.h"
+#include "tests/collection/CounterTest.h"
 
 // Member 3 brought both kinds of milk on the 13th and the 14th; the morning of the 15th is open.
 class MemberFrameTest : public CounterTest {

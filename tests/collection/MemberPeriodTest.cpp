@@ -1,4 +1,4 @@
-#include "MemberFrameTest.h"
+#include "tests/collection/MemberFrameTest.h"
 
 #include <numeric>
 

@@ -1,6 +1,6 @@
-#include "MilkDevicesTest.h"
+#include "tests/collection/MilkDevicesTest.h"
 
-#include "MilkDevicesLines.h"
+#include "collection/MilkDevicesLines.h"
 
 using MilkDevicesLines::WaitOf;
 

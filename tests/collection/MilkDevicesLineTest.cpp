@@ -1,7 +1,7 @@
-#include "AppFolder.h"
-#include "DeviceSimulator.h"
-#include "MilkDevices.h"
-#include "MilkDevicesTest.h"
+#include "collection/MilkDevices.h"
+#include "platform/shell/AppFolder.h"
+#include "tests/collection/MilkDevicesTest.h"
+#include "tools/devices/DeviceSimulator.h"
 
 #include <QFile>
 

@@ -1,4 +1,4 @@
-#include "MilkDevicesTest.h"
+#include "tests/collection/MilkDevicesTest.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FakeSerialPort.h"
-#include "MilkDevices.h"
-#include "SocietyTest.h"
-#include "Sql.h"
+#include "collection/MilkDevices.h"
+#include "platform/database/Sql.h"
+#include "tests/support/FakeSerialPort.h"
+#include "tests/support/SocietyTest.h"
 
 using namespace std::chrono_literals;
 

@@ -1,7 +1,7 @@
-#include "EachCounterTest.h"
+#include "tests/collection/EachCounterTest.h"
 
-#include "MilkReceipt.h"
-#include "ReportControl.h"
+#include "collection/MilkReceipt.h"
+#include "platform/report/ReportControl.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "EachCounterTest.h"
+#include "tests/collection/EachCounterTest.h"
 
 namespace {
 

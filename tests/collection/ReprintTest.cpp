@@ -1,9 +1,9 @@
 // Printing a slip again.
 
-#include "SearchCollectionsTest.h"
+#include "tests/collection/SearchCollectionsTest.h"
 
-#include "AppFolder.h"
-#include "ReportControl.h"
+#include "platform/report/ReportControl.h"
+#include "platform/shell/AppFolder.h"
 
 #include <QFile>
 

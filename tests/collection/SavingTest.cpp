@@ -1,6 +1,6 @@
-#include "CounterTest.h"
+#include "tests/collection/CounterTest.h"
 
-#include "ClosingFigures.h"
+#include "collection/ClosingFigures.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // Finding a member's deliveries: the fields, the search, and what is left of it.
 
-#include "SearchCollectionsTest.h"
+#include "tests/collection/SearchCollectionsTest.h"
 
 // Opening
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "CounterTest.h"
-#include "ScreenDirectory.h"
-#include "frmSearchCollections.h"
+#include "collection/frmSearchCollections.h"
+#include "core/menu/ScreenDirectory.h"
+#include "tests/collection/CounterTest.h"
 
 #include <QDeadlineTimer>
 

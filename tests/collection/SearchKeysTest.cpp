@@ -1,6 +1,6 @@
 // What F9 brings along, what the list of names shows, and the slip of no company.
 
-#include "SearchCollectionsTest.h"
+#include "tests/collection/SearchCollectionsTest.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
-#include "EachCounterTest.h"
+#include "tests/collection/EachCounterTest.h"
 
-#include "AppFolder.h"
-#include "FakePrinter.h"
-#include "FakeReportWindow.h"
-#include "Sql.h"
+#include "platform/database/Sql.h"
+#include "platform/shell/AppFolder.h"
+#include "tests/support/FakePrinter.h"
+#include "tests/support/FakeReportWindow.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "CounterTest.h"
+#include "tests/collection/CounterTest.h"
 
 #include <QApplication>
 #include <QMessageBox>

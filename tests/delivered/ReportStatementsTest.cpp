@@ -1,4 +1,4 @@
-#include "StatementsTest.h"
+#include "tests/delivered/StatementsTest.h"
 
 namespace {
 

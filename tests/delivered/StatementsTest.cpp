@@ -1,10 +1,10 @@
-#include "StatementsTest.h"
+#include "tests/delivered/StatementsTest.h"
 
-#include "DataSource.h"
-#include "Numbers.h"
-#include "Recordset.h"
-#include "Shivaji01.h"
-#include "Society.h"
+#include "platform/database/DataSource.h"
+#include "platform/database/Recordset.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/Shivaji01.h"
+#include "tools/setup/Society.h"
 
 namespace {
 

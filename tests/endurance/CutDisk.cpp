@@ -1,4 +1,4 @@
-#include "CutDisk.h"
+#include "tests/endurance/CutDisk.h"
 
 #include <QFile>
 

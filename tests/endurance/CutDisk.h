@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RecordingDisk.h"
+#include "tests/support/RecordingDisk.h"
 
 #include <QRandomGenerator>
 

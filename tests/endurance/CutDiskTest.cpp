@@ -1,8 +1,8 @@
-#include "CutDisk.h"
-#include "Counts.h"
-#include "NumberedSaves.h"
-#include "PlayedSession.h"
-#include "RunTimeError.h"
+#include "tests/endurance/CutDisk.h"
+#include "platform/text/RunTimeError.h"
+#include "tests/endurance/Counts.h"
+#include "tests/endurance/NumberedSaves.h"
+#include "tests/endurance/PlayedSession.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "Counts.h"
-#include "NumberedSaves.h"
-#include "RunTimeError.h"
+#include "platform/text/RunTimeError.h"
+#include "tests/endurance/Counts.h"
+#include "tests/endurance/NumberedSaves.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "Actions.h"
-#include "Counts.h"
-#include "Processes.h"
-#include "ProgramTest.h"
+#include "tests/endurance/Counts.h"
+#include "tests/journeys/Actions.h"
+#include "tests/journeys/Processes.h"
+#include "tests/journeys/ProgramTest.h"
 
 #include <QDeadlineTimer>
 

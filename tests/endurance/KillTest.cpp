@@ -1,7 +1,7 @@
-#include "Counts.h"
-#include "NumberedSaves.h"
-#include "Processes.h"
-#include "RunTimeError.h"
+#include "platform/text/RunTimeError.h"
+#include "tests/endurance/Counts.h"
+#include "tests/endurance/NumberedSaves.h"
+#include "tests/journeys/Processes.h"
 
 #include <gtest/gtest.h>
 

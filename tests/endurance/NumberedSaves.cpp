@@ -1,11 +1,11 @@
-#include "NumberedSaves.h"
+#include "tests/endurance/NumberedSaves.h"
 
-#include "BooksFile.h"
-#include "DataSource.h"
-#include "Recordset.h"
-#include "RunTimeError.h"
-#include "Sql.h"
-#include "Transaction.h"
+#include "platform/database/DataSource.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "platform/text/RunTimeError.h"
+#include "tests/support/BooksFile.h"
 
 #include <array>
 #include <vector>

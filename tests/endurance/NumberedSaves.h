@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Connection.h"
+#include "platform/database/Connection.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
-#include "PlayedSession.h"
+#include "tests/endurance/PlayedSession.h"
 
-#include "NumberedSaves.h"
-#include "Recordset.h"
+#include "platform/database/Recordset.h"
+#include "tests/endurance/NumberedSaves.h"
 
 #include <gtest/gtest.h>
 

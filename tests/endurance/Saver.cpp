@@ -7,8 +7,8 @@
 // it opened, "saved N" a save that it acknowledges, "saving", "folding", "closing" and "opening" what comes
 // now, "fault" and "note" what must not be.
 
-#include "NumberedSaves.h"
-#include "RunTimeError.h"
+#include "platform/text/RunTimeError.h"
+#include "tests/endurance/NumberedSaves.h"
 
 #include <QRandomGenerator>
 

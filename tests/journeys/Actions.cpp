@@ -1,7 +1,7 @@
-#include "Actions.h"
+#include "tests/journeys/Actions.h"
 
-#include "MdlAccounts.h"
-#include "Sql.h"
+#include "core/state/AppState.h"
+#include "platform/database/Sql.h"
 
 #include <algorithm>
 

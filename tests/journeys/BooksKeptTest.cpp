@@ -1,8 +1,8 @@
-#include "Actions.h"
-#include "BooksFile.h"
-#include "Processes.h"
-#include "ProgramTest.h"
-#include "ScreenDirectory.h"
+#include "core/menu/ScreenDirectory.h"
+#include "tests/journeys/Actions.h"
+#include "tests/journeys/Processes.h"
+#include "tests/journeys/ProgramTest.h"
+#include "tests/support/BooksFile.h"
 
 #include <QDeadlineTimer>
 #include <QDir>

@@ -1,7 +1,7 @@
-#include "Actions.h"
-#include "DataGrid.h"
-#include "ProgramTest.h"
-#include "frmSearchCollections.h"
+#include "collection/frmSearchCollections.h"
+#include "platform/forms/DataGrid.h"
+#include "tests/journeys/Actions.h"
+#include "tests/journeys/ProgramTest.h"
 
 #include <QDeadlineTimer>
 #include <QFile>

@@ -1,6 +1,6 @@
-#include "DeliveredProgram.h"
+#include "tests/journeys/DeliveredProgram.h"
 
-#include "AppFolder.h"
+#include "platform/shell/AppFolder.h"
 
 #include <QDir>
 #include <QEventLoop>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Processes.h"
-#include "ProgramTest.h"
+#include "tests/journeys/Processes.h"
+#include "tests/journeys/ProgramTest.h"
 
 // The program as it is delivered, in a process of its own, on the books of a fresh society.
 class DeliveredProgram : public ProgramTest {

@@ -1,14 +1,14 @@
-#include "EveryScreen.h"
+#include "tests/journeys/EveryScreen.h"
 
-#include "AppDate.h"
-#include "KeyboardTutor.h"
-#include "MainMenu.h"
-#include "Messages.h"
-#include "Narrations.h"
-#include "OpeningScreens.h"
-#include "RunTimeError.h"
-#include "ScreenDirectory.h"
-#include "frmSearchCollections.h"
+#include "collection/frmSearchCollections.h"
+#include "core/menu/KeyboardTutor.h"
+#include "core/menu/MainMenu.h"
+#include "core/menu/ScreenDirectory.h"
+#include "core/messages/Messages.h"
+#include "core/messages/Narrations.h"
+#include "core/start/AppDate.h"
+#include "core/start/OpeningScreens.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QDeadlineTimer>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Clerk.h"
+#include "tools/clerk/Clerk.h"
 
 #include <QString>
 

@@ -1,16 +1,16 @@
 // What holds on every screen of the program, in each of its states: the way back, and the names of its keys.
 
-#include "EveryScreen.h"
-#include "Actions.h"
-#include "ProgramTest.h"
+#include "tests/journeys/EveryScreen.h"
+#include "tests/journeys/Actions.h"
+#include "tests/journeys/ProgramTest.h"
 
-#include "Button.h"
-#include "CheckBox.h"
-#include "Keys.h"
-#include "NameCombo.h"
-#include "OptionButton.h"
-#include "ReportHandover.h"
-#include "ScreenDirectory.h"
+#include "core/menu/Keys.h"
+#include "core/menu/ScreenDirectory.h"
+#include "core/preview/ReportHandover.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/CheckBox.h"
+#include "platform/forms/NameCombo.h"
+#include "platform/forms/OptionButton.h"
 
 #include <QLabel>
 

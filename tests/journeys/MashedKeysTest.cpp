@@ -1,7 +1,7 @@
-#include "Actions.h"
-#include "ModalStack.h"
-#include "Numbers.h"
-#include "ProgramTest.h"
+#include "platform/forms/ModalStack.h"
+#include "platform/text/Numbers.h"
+#include "tests/journeys/Actions.h"
+#include "tests/journeys/ProgramTest.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

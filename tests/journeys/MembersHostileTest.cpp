@@ -1,7 +1,7 @@
-#include "Actions.h"
-#include "ProgramTest.h"
+#include "tests/journeys/Actions.h"
+#include "tests/journeys/ProgramTest.h"
 
-#include "frmMembers.h"
+#include "masters/frmMembers.h"
 
 namespace {
 

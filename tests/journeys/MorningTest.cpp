@@ -1,4 +1,4 @@
-#include "ProgramTest.h"
+#include "tests/journeys/ProgramTest.h"
 
 namespace {
 

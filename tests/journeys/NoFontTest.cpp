@@ -1,5 +1,5 @@
-#include "Processes.h"
-#include "ProgramTest.h"
+#include "tests/journeys/Processes.h"
+#include "tests/journeys/ProgramTest.h"
 
 #include <QDir>
 #include <QFile>

@@ -6,14 +6,14 @@
 //
 // What the plain boxes say goes to the standard output; none of them waits.
 
-#include "Actions.h"
-#include "AppFolder.h"
-#include "Clerk.h"
-#include "FaultyDisk.h"
-#include "ModalStack.h"
-#include "Program.h"
 #include "Screens.h"
-#include "World.h"
+#include "core/start/Program.h"
+#include "platform/forms/ModalStack.h"
+#include "platform/shell/AppFolder.h"
+#include "platform/shell/World.h"
+#include "tests/journeys/Actions.h"
+#include "tests/support/FaultyDisk.h"
+#include "tools/clerk/Clerk.h"
 
 #include <QTextStream>
 

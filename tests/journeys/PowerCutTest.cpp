@@ -1,8 +1,8 @@
-#include "Actions.h"
-#include "AppFolder.h"
-#include "FaultyDisk.h"
-#include "Processes.h"
-#include "ProgramTest.h"
+#include "platform/shell/AppFolder.h"
+#include "tests/journeys/Actions.h"
+#include "tests/journeys/Processes.h"
+#include "tests/journeys/ProgramTest.h"
+#include "tests/support/FaultyDisk.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "Processes.h"
+#include "tests/journeys/Processes.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,10 +1,11 @@
-#include "ProgramTest.h"
+#include "tests/journeys/ProgramTest.h"
 
-#include "AppFolder.h"
-#include "BooksFile.h"
-#include "Program.h"
 #include "Screens.h"
-#include "Sql.h"
+#include "core/start/MdlAccounts.h"
+#include "core/start/Program.h"
+#include "platform/database/Sql.h"
+#include "platform/shell/AppFolder.h"
+#include "tests/support/BooksFile.h"
 
 #include <QDir>
 

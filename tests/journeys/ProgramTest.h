@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SocietyTest.h"
+#include "tests/support/SocietyTest.h"
 
 // The whole program in this process, from its start to its end, on the books of a fresh society.
 class ProgramTest : public SocietyTest {

@@ -1,6 +1,6 @@
-#include "Readable.h"
+#include "tests/journeys/Readable.h"
 
-#include "Screen.h"
+#include "platform/forms/Screen.h"
 
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>

@@ -1,12 +1,12 @@
 // The counters and what is opened from them.
 
-#include "DataGrid.h"
-#include "ReadableTest.h"
-#include "frmAbsenseMemberCollection.h"
-#include "frmCollectionGate.h"
-#include "frmDailyCollection.h"
-#include "frmMilkCollections.h"
-#include "frmSearchCollections.h"
+#include "collection/frmAbsenseMemberCollection.h"
+#include "collection/frmCollectionGate.h"
+#include "collection/frmDailyCollection.h"
+#include "collection/frmMilkCollections.h"
+#include "collection/frmSearchCollections.h"
+#include "platform/forms/DataGrid.h"
+#include "tests/journeys/ReadableTest.h"
 
 #include <QDeadlineTimer>
 

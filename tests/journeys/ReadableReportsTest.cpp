@@ -1,12 +1,12 @@
 // The settings, the report screens, and the reports before the clerk's eyes.
 
-#include "ReadableTest.h"
-#include "ReportHandover.h"
-#include "frmAutoSettings.h"
-#include "frmReportMembersList.h"
-#include "frmReportMilkCollections.h"
-#include "frmReportMilkPS.h"
-#include "frmReportPaymentList.h"
+#include "core/preview/ReportHandover.h"
+#include "reports/frmReportMembersList.h"
+#include "reports/frmReportMilkCollections.h"
+#include "reports/frmReportMilkPS.h"
+#include "reports/frmReportPaymentList.h"
+#include "tests/journeys/ReadableTest.h"
+#include "utilities/frmAutoSettings.h"
 
 namespace {
 

@@ -1,15 +1,16 @@
-#include "ReadableTest.h"
-#include "Actions.h"
-#include "Readable.h"
+#include "tests/journeys/ReadableTest.h"
+#include "core/start/MdlAccounts.h"
+#include "tests/journeys/Actions.h"
+#include "tests/journeys/Readable.h"
 
-#include "Button.h"
-#include "CheckBox.h"
-#include "DataGrid.h"
-#include "Messages.h"
-#include "Narrations.h"
-#include "Shivaji01.h"
-#include "Sql.h"
-#include "frmMembers.h"
+#include "core/messages/Messages.h"
+#include "core/messages/Narrations.h"
+#include "masters/frmMembers.h"
+#include "platform/database/Sql.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/CheckBox.h"
+#include "platform/forms/DataGrid.h"
+#include "platform/text/Shivaji01.h"
 
 ReadableTest::ReadableTest()
 {

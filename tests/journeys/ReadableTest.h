@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ProgramTest.h"
+#include "tests/journeys/ProgramTest.h"
 
 // Every screen in every state that a clerk meets, with long names and large figures. The same tests run at
 // twice the size of the letters, too.

@@ -1,6 +1,6 @@
-#include "MembersTest.h"
+#include "tests/masters/MembersTest.h"
 
-#include "MemberClosing.h"
+#include "masters/MemberClosing.h"
 
 namespace {
 

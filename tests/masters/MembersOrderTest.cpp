@@ -1,4 +1,4 @@
-#include "MembersTest.h"
+#include "tests/masters/MembersTest.h"
 
 namespace {
 

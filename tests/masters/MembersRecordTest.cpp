@@ -1,9 +1,9 @@
 // What a save and a deletion write, with openings that differ from their closings and a second company whose
 // members have the same numbers and names.
 
-#include "MembersTest.h"
+#include "tests/masters/MembersTest.h"
 
-#include "Sql.h"
+#include "platform/database/Sql.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "MembersTest.h"
+#include "tests/masters/MembersTest.h"
 
-#include "Sql.h"
+#include "platform/database/Sql.h"
 
 void MembersTest::AddCollection(int number, const QString& name, double amount, int company)
 {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "SocietyTest.h"
+#include "tests/support/SocietyTest.h"
 
-#include "frmMembers.h"
+#include "masters/frmMembers.h"
 
 // A clerk at the screen of the members.
 class MembersTest : public SocietyTest {

@@ -1,7 +1,7 @@
-#include "LookupFatRate.h"
+#include "rates/LookupFatRate.h"
 
-#include "SocietyTest.h"
-#include "Sql.h"
+#include "platform/database/Sql.h"
+#include "tests/support/SocietyTest.h"
 
 namespace {
 

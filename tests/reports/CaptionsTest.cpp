@@ -1,11 +1,11 @@
 // What the four report screens call themselves and their choices.
 
-#include "OptionButton.h"
-#include "ReportsTest.h"
-#include "frmReportMembersList.h"
-#include "frmReportMilkCollections.h"
-#include "frmReportMilkPS.h"
-#include "frmReportPaymentList.h"
+#include "platform/forms/OptionButton.h"
+#include "reports/frmReportMembersList.h"
+#include "reports/frmReportMilkCollections.h"
+#include "reports/frmReportMilkPS.h"
+#include "reports/frmReportPaymentList.h"
+#include "tests/reports/ReportsTest.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 // Two companies in one file: whose rows the statement and the list of members stage, and that what belongs to
 // no company is tidied away.
 
-#include "ReportsTest.h"
+#include "tests/reports/ReportsTest.h"
 
-#include "Sql.h"
-#include "frmReportMembersList.h"
-#include "frmReportMilkPS.h"
+#include "platform/database/Sql.h"
+#include "reports/frmReportMembersList.h"
+#include "reports/frmReportMilkPS.h"
 
 #include <QApplication>
 #include <QEvent>

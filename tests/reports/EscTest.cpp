@@ -1,11 +1,11 @@
 // Esc empties the fields of a report screen before it closes.
 
-#include "ReportsTest.h"
+#include "tests/reports/ReportsTest.h"
 
-#include "frmReportMembersList.h"
-#include "frmReportMilkCollections.h"
-#include "frmReportMilkPS.h"
-#include "frmReportPaymentList.h"
+#include "reports/frmReportMembersList.h"
+#include "reports/frmReportMilkCollections.h"
+#include "reports/frmReportMilkPS.h"
+#include "reports/frmReportPaymentList.h"
 
 namespace {
 

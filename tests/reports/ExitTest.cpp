@@ -1,11 +1,11 @@
 // The way out of each report screen.
 
-#include "ReportsTest.h"
+#include "tests/reports/ReportsTest.h"
 
-#include "frmReportMembersList.h"
-#include "frmReportMilkCollections.h"
-#include "frmReportMilkPS.h"
-#include "frmReportPaymentList.h"
+#include "reports/frmReportMembersList.h"
+#include "reports/frmReportMilkCollections.h"
+#include "reports/frmReportMilkPS.h"
+#include "reports/frmReportPaymentList.h"
 
 namespace {
 

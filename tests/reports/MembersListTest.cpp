@@ -1,9 +1,9 @@
 // The list of the members.
 
-#include "ReportsTest.h"
+#include "tests/reports/ReportsTest.h"
 
-#include "NameCombo.h"
-#include "frmReportMembersList.h"
+#include "platform/forms/NameCombo.h"
+#include "reports/frmReportMembersList.h"
 
 namespace {
 

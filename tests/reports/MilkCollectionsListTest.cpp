@@ -1,9 +1,9 @@
 // The list of a day's deliveries.
 
-#include "ReportsTest.h"
+#include "tests/reports/ReportsTest.h"
 
-#include "NameCombo.h"
-#include "frmReportMilkCollections.h"
+#include "platform/forms/NameCombo.h"
+#include "reports/frmReportMilkCollections.h"
 
 #include <QRegularExpression>
 

@@ -1,9 +1,9 @@
 // The statement of a member's deliveries and of a customer's purchases.
 
-#include "ReportsTest.h"
+#include "tests/reports/ReportsTest.h"
 
-#include "OptionButton.h"
-#include "frmReportMilkPS.h"
+#include "platform/forms/OptionButton.h"
+#include "reports/frmReportMilkPS.h"
 
 namespace {
 

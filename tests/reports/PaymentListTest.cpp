@@ -1,11 +1,11 @@
 // The list of the payments of a date.
 
-#include "ReportsTest.h"
+#include "tests/reports/ReportsTest.h"
 
-#include "Numbers.h"
-#include "PdfText.h"
-#include "Sql.h"
-#include "frmReportPaymentList.h"
+#include "platform/database/Sql.h"
+#include "platform/text/Numbers.h"
+#include "reports/frmReportPaymentList.h"
+#include "tests/support/PdfText.h"
 
 namespace {
 

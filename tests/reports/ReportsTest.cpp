@@ -1,7 +1,7 @@
-#include "ReportsTest.h"
+#include "tests/reports/ReportsTest.h"
 
-#include "AppFolder.h"
-#include "Sql.h"
+#include "platform/database/Sql.h"
+#include "platform/shell/AppFolder.h"
 
 #include <QFile>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "FakeReportWindow.h"
-#include "SocietyTest.h"
+#include "tests/support/FakeReportWindow.h"
+#include "tests/support/SocietyTest.h"
 
 #include <ostream>
 

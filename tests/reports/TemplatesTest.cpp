@@ -1,18 +1,19 @@
 // Every template that is shipped: sound against the tables, and laid out with the demonstration's figures as
 // the golden file of its placed items says.
 
-#include "ReportsTest.h"
+#include "core/start/MdlAccounts.h"
+#include "tests/reports/ReportsTest.h"
 
-#include "AppFolder.h"
-#include "Delivered.h"
-#include "PdfText.h"
-#include "Program.h"
-#include "Society.h"
-#include "Sql.h"
-#include "frmReportMembersList.h"
-#include "frmReportMilkCollections.h"
-#include "frmReportMilkPS.h"
-#include "frmReportPaymentList.h"
+#include "core/start/Program.h"
+#include "delivered/Delivered.h"
+#include "platform/database/Sql.h"
+#include "platform/shell/AppFolder.h"
+#include "reports/frmReportMembersList.h"
+#include "reports/frmReportMilkCollections.h"
+#include "reports/frmReportMilkPS.h"
+#include "reports/frmReportPaymentList.h"
+#include "tests/support/PdfText.h"
+#include "tools/setup/Society.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,5 @@
-#include "Look.h"
-#include "ModalStack.h"
+#include "platform/forms/Look.h"
+#include "platform/forms/ModalStack.h"
 
 #include <gtest/gtest.h>
 

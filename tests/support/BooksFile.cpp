@@ -1,4 +1,4 @@
-#include "BooksFile.h"
+#include "tests/support/BooksFile.h"
 
 #include <sqlcipher/sqlite3.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Printer.h"
+#include "platform/report/Printer.h"
 
 // A printer that counts its jobs and takes them, unless a test says otherwise.
 class FakePrinter final : public Printer {

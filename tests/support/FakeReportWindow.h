@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ReportControl.h"
+#include "platform/report/ReportControl.h"
 
 #include <QStringList>
 

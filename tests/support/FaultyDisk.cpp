@@ -1,6 +1,6 @@
-#include "FaultyDisk.h"
+#include "tests/support/FaultyDisk.h"
 
-#include "WatchedDisk.h"
+#include "tests/support/WatchedDisk.h"
 
 #include <sqlcipher/sqlite3.h>
 

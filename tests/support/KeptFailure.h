@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RunTimeError.h"
+#include "platform/text/RunTimeError.h"
 
 #include <gtest/gtest.h>
 

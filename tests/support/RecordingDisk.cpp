@@ -1,6 +1,6 @@
-#include "RecordingDisk.h"
+#include "tests/support/RecordingDisk.h"
 
-#include "WatchedDisk.h"
+#include "tests/support/WatchedDisk.h"
 
 #include <QFile>
 

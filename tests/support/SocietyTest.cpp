@@ -1,10 +1,11 @@
-#include "SocietyTest.h"
+#include "tests/support/SocietyTest.h"
 
-#include "AppFolder.h"
-#include "Program.h"
-#include "Shivaji01.h"
-#include "Society.h"
-#include "Sql.h"
+#include "core/start/MdlAccounts.h"
+#include "core/start/Program.h"
+#include "platform/database/Sql.h"
+#include "platform/shell/AppFolder.h"
+#include "platform/text/Shivaji01.h"
+#include "tools/setup/Society.h"
 
 #include <QDir>
 

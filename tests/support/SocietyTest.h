@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Clerk.h"
-#include "KeptFailure.h"
-#include "MdlAccounts.h"
-#include "Recordset.h"
-#include "RunTimeError.h"
-#include "World.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/shell/World.h"
+#include "platform/text/RunTimeError.h"
+#include "tests/support/KeptFailure.h"
+#include "tools/clerk/Clerk.h"
 
 #include <gtest/gtest.h>
 

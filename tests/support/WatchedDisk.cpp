@@ -1,4 +1,4 @@
-#include "WatchedDisk.h"
+#include "tests/support/WatchedDisk.h"
 
 #include <sqlcipher/sqlite3.h>
 

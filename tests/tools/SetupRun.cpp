@@ -1,4 +1,4 @@
-#include "SetupRun.h"
+#include "tests/tools/SetupRun.h"
 
 #include <gtest/gtest.h>
 

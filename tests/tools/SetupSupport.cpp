@@ -1,7 +1,7 @@
-#include "SetupSupport.h"
+#include "tests/tools/SetupSupport.h"
 
-#include "Connection.h"
-#include "DataSource.h"
+#include "platform/database/Connection.h"
+#include "platform/database/DataSource.h"
 
 #include <gtest/gtest.h>
 

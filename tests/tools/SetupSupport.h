@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Society.h"
+#include "tools/setup/Society.h"
 
 #include <QStringList>
 #include <QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "TestDisk.h"
+#include "tests/tools/TestDisk.h"
 
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Disk.h"
+#include "tools/setup/Disk.h"
 
 #include <QStringList>
 

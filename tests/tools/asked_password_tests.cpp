@@ -1,5 +1,5 @@
-#include "SetupRun.h"
-#include "SetupSupport.h"
+#include "tests/tools/SetupRun.h"
+#include "tests/tools/SetupSupport.h"
 
 #include <gtest/gtest.h>
 

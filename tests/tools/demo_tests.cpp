@@ -1,6 +1,6 @@
-#include "Numbers.h"
-#include "SetupSupport.h"
-#include "Shivaji01.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/Shivaji01.h"
+#include "tests/tools/SetupSupport.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "PasswordFile.h"
-#include "PasswordItems.h"
-#include "SetupSupport.h"
+#include "platform/text/PasswordItems.h"
+#include "tests/tools/SetupSupport.h"
+#include "tools/setup/PasswordFile.h"
 
 #include <gtest/gtest.h>
 

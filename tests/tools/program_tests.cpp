@@ -1,6 +1,6 @@
-#include "SetupRun.h"
-#include "SetupSupport.h"
-#include "SingleInstance.h"
+#include "platform/shell/SingleInstance.h"
+#include "tests/tools/SetupRun.h"
+#include "tests/tools/SetupSupport.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "FaultyDisk.h"
-#include "PasswordItems.h"
-#include "RunTimeError.h"
-#include "SetupSupport.h"
-#include "TestDisk.h"
+#include "platform/text/PasswordItems.h"
+#include "platform/text/RunTimeError.h"
+#include "tests/support/FaultyDisk.h"
+#include "tests/tools/SetupSupport.h"
+#include "tests/tools/TestDisk.h"
 
 #include <gtest/gtest.h>
 

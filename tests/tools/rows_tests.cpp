@@ -1,7 +1,7 @@
-#include "Delivered.h"
-#include "Numbers.h"
-#include "SetupSupport.h"
-#include "Shivaji01.h"
+#include "delivered/Delivered.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/Shivaji01.h"
+#include "tests/tools/SetupSupport.h"
 
 #include <gtest/gtest.h>
 

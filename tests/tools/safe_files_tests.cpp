@@ -1,7 +1,7 @@
-#include "RunTimeError.h"
-#include "SafeFiles.h"
-#include "SetupSupport.h"
-#include "TestDisk.h"
+#include "platform/text/RunTimeError.h"
+#include "tests/tools/SetupSupport.h"
+#include "tests/tools/TestDisk.h"
+#include "tools/setup/SafeFiles.h"
 
 #include <gtest/gtest.h>
 

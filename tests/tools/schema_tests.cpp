@@ -1,4 +1,4 @@
-#include "SetupSupport.h"
+#include "tests/tools/SetupSupport.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "Connection.h"
-#include "DataSource.h"
-#include "Delivered.h"
-#include "Recordset.h"
-#include "RunTimeError.h"
-#include "SetupSupport.h"
+#include "delivered/Delivered.h"
+#include "platform/database/Connection.h"
+#include "platform/database/DataSource.h"
+#include "platform/database/Recordset.h"
+#include "platform/text/RunTimeError.h"
+#include "tests/tools/SetupSupport.h"
 
 #include <gtest/gtest.h>
 

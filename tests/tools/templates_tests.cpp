@@ -1,7 +1,7 @@
-#include "Delivered.h"
-#include "RunTimeError.h"
-#include "SetupSupport.h"
-#include "TestDisk.h"
+#include "delivered/Delivered.h"
+#include "platform/text/RunTimeError.h"
+#include "tests/tools/SetupSupport.h"
+#include "tests/tools/TestDisk.h"
 
 #include <gtest/gtest.h>
 

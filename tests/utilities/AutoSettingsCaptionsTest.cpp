@@ -1,6 +1,6 @@
 // Every word that the settings show: on the pages, beside the fields and on the buttons.
 
-#include "AutoSettingsTest.h"
+#include "tests/utilities/AutoSettingsTest.h"
 
 #include <QLabel>
 #include <QTabBar>

@@ -1,4 +1,4 @@
-#include "AutoSettingsTest.h"
+#include "tests/utilities/AutoSettingsTest.h"
 
 namespace {
 

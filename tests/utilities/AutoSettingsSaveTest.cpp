@@ -1,7 +1,8 @@
-#include "AutoSettingsTest.h"
+#include "tests/utilities/AutoSettingsTest.h"
 
-#include "MainMenu.h"
-#include "MenuList.h"
+#include "core/menu/MainMenu.h"
+#include "core/start/MdlAccounts.h"
+#include "platform/forms/MenuList.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "SocietyTest.h"
+#include "tests/support/SocietyTest.h"
 
-#include "frmAutoSettings.h"
+#include "utilities/frmAutoSettings.h"
 
 // Texts of these tests are UTF-8.
 inline QString Q(const char* text)

@@ -1,6 +1,6 @@
 // The ways out of a field that aren't the next one: the buttons, the other pages, another field.
 
-#include "AutoSettingsTest.h"
+#include "tests/utilities/AutoSettingsTest.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include "AutoSettingsTest.h"
+#include "tests/utilities/AutoSettingsTest.h"
 
-#include "AppFolder.h"
-#include "FakeReportWindow.h"
-#include "Sql.h"
+#include "platform/database/Sql.h"
+#include "platform/shell/AppFolder.h"
+#include "tests/support/FakeReportWindow.h"
 
 #include <QFile>
 

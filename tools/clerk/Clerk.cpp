@@ -1,8 +1,8 @@
-#include "Clerk.h"
+#include "tools/clerk/Clerk.h"
 
-#include "FreshKeys.h"
-#include "ModalStack.h"
-#include "TextField.h"
+#include "platform/forms/ModalStack.h"
+#include "platform/forms/TextField.h"
+#include "platform/shell/FreshKeys.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

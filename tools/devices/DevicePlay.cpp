@@ -1,4 +1,4 @@
-#include "DevicePlay.h"
+#include "tools/devices/DevicePlay.h"
 
 #include <QMap>
 

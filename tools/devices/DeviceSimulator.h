@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DevicePlay.h"
+#include "tools/devices/DevicePlay.h"
 
 #include <QString>
 

@@ -1,4 +1,4 @@
-#include "DeviceSimulator.h"
+#include "tools/devices/DeviceSimulator.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

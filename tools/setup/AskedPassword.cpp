@@ -1,6 +1,6 @@
-#include "AskedPassword.h"
+#include "tools/setup/AskedPassword.h"
 
-#include "RunTimeError.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QByteArray>
 

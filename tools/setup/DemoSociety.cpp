@@ -1,8 +1,8 @@
-#include "DemoPeople.h"
-#include "Filling.h"
-#include "Numbers.h"
-#include "Society.h"
-#include "SocietyRows.h"
+#include "platform/text/Numbers.h"
+#include "tools/setup/DemoPeople.h"
+#include "tools/setup/Filling.h"
+#include "tools/setup/Society.h"
+#include "tools/setup/SocietyRows.h"
 
 #include <QStringList>
 

@@ -1,4 +1,4 @@
-#include "Disk.h"
+#include "tools/setup/Disk.h"
 
 #include <QFile>
 

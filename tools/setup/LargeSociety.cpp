@@ -1,7 +1,7 @@
-#include "DemoPeople.h"
-#include "Filling.h"
-#include "Society.h"
-#include "SocietyRows.h"
+#include "tools/setup/DemoPeople.h"
+#include "tools/setup/Filling.h"
+#include "tools/setup/Society.h"
+#include "tools/setup/SocietyRows.h"
 
 #include <QStringList>
 

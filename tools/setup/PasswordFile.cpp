@@ -1,4 +1,4 @@
-#include "PasswordFile.h"
+#include "tools/setup/PasswordFile.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "SafeFiles.h"
+#include "tools/setup/SafeFiles.h"
 
-#include "Disk.h"
-#include "RunTimeError.h"
+#include "platform/text/RunTimeError.h"
+#include "tools/setup/Disk.h"
 
 #include <QDir>
 #include <QFile>

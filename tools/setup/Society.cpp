@@ -1,15 +1,15 @@
-#include "Society.h"
+#include "tools/setup/Society.h"
 
-#include "Connection.h"
-#include "DataSource.h"
-#include "Delivered.h"
-#include "Filling.h"
-#include "PasswordFile.h"
-#include "PasswordItems.h"
-#include "RunTimeError.h"
-#include "SafeFiles.h"
-#include "Shivaji01.h"
-#include "SocietyRows.h"
+#include "delivered/Delivered.h"
+#include "platform/database/Connection.h"
+#include "platform/database/DataSource.h"
+#include "platform/text/PasswordItems.h"
+#include "platform/text/RunTimeError.h"
+#include "platform/text/Shivaji01.h"
+#include "tools/setup/Filling.h"
+#include "tools/setup/PasswordFile.h"
+#include "tools/setup/SafeFiles.h"
+#include "tools/setup/SocietyRows.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
-#include "SocietyRows.h"
+#include "tools/setup/SocietyRows.h"
 
-#include "Delivered.h"
-#include "Shivaji01.h"
-#include "Society.h"
+#include "delivered/Delivered.h"
+#include "platform/text/Shivaji01.h"
+#include "tools/setup/Society.h"
 
 #include <QStringList>
 

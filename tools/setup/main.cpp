@@ -1,11 +1,11 @@
-#include "AppFolder.h"
-#include "AskedPassword.h"
-#include "FileRights.h"
-#include "Privacy.h"
-#include "RunTimeError.h"
-#include "SafeFiles.h"
-#include "SingleInstance.h"
-#include "Society.h"
+#include "platform/shell/AppFolder.h"
+#include "platform/shell/Privacy.h"
+#include "platform/shell/SingleInstance.h"
+#include "platform/text/FileRights.h"
+#include "platform/text/RunTimeError.h"
+#include "tools/setup/AskedPassword.h"
+#include "tools/setup/SafeFiles.h"
+#include "tools/setup/Society.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

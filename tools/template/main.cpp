@@ -1,7 +1,7 @@
-#include "Connection.h"
-#include "Delivered.h"
-#include "ReportTemplate.h"
-#include "RunTimeError.h"
+#include "delivered/Delivered.h"
+#include "platform/database/Connection.h"
+#include "platform/report/ReportTemplate.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

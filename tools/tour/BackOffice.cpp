@@ -1,8 +1,8 @@
-#include "MdlAccounts.h"
-#include "Recordset.h"
-#include "Shivaji01.h"
-#include "Tour.h"
-#include "frmSearchCollections.h"
+#include "collection/frmSearchCollections.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/text/Shivaji01.h"
+#include "tools/tour/Tour.h"
 
 #include <QDeadlineTimer>
 

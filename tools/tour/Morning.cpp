@@ -1,5 +1,5 @@
-#include "Shivaji01.h"
-#include "Tour.h"
+#include "platform/text/Shivaji01.h"
+#include "tools/tour/Tour.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include "MdlAccounts.h"
-#include "Recordset.h"
-#include "Shivaji01.h"
-#include "Sql.h"
-#include "Tour.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/text/Shivaji01.h"
+#include "tools/tour/Tour.h"
 
 namespace {
 

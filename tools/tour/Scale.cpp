@@ -1,9 +1,9 @@
-#include "AppFolder.h"
-#include "Shivaji01.h"
-#include "Tour.h"
+#include "platform/shell/AppFolder.h"
+#include "platform/text/Shivaji01.h"
+#include "tools/tour/Tour.h"
 
 #ifdef Q_OS_UNIX
-#include "DeviceSimulator.h"
+#include "tools/devices/DeviceSimulator.h"
 #endif
 
 #include <QFile>

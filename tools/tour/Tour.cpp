@@ -1,9 +1,9 @@
-#include "Tour.h"
+#include "tools/tour/Tour.h"
 
-#include "DataGrid.h"
-#include "MdlAccounts.h"
-#include "Recordset.h"
-#include "Shivaji01.h"
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/forms/DataGrid.h"
+#include "platform/text/Shivaji01.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,12 +1,12 @@
-#include "AppFolder.h"
-#include "Connection.h"
-#include "ModalStack.h"
-#include "Program.h"
-#include "RunTimeError.h"
 #include "Screens.h"
-#include "Society.h"
-#include "Tour.h"
-#include "World.h"
+#include "core/start/Program.h"
+#include "platform/database/Connection.h"
+#include "platform/forms/ModalStack.h"
+#include "platform/shell/AppFolder.h"
+#include "platform/shell/World.h"
+#include "platform/text/RunTimeError.h"
+#include "tools/setup/Society.h"
+#include "tools/tour/Tour.h"
 
 #include <QDir>
 #include <QScopeGuard>

@@ -1,7 +1,7 @@
-#include "BooksOnDisk.h"
+#include "platform/database/BooksOnDisk.h"
 
-#include "DatabaseFile.h"
-#include "WriteAheadLog.h"
+#include "platform/database/DatabaseFile.h"
+#include "platform/database/WriteAheadLog.h"
 
 #include <QFileInfo>
 #include <QHash>

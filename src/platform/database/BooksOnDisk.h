@@ -1,7 +1,7 @@
 #pragma once
 
-#include "FileState.h"
-#include "LogMark.h"
+#include "platform/database/FileState.h"
+#include "platform/database/LogMark.h"
 
 #include <QByteArray>
 #include <QFile>

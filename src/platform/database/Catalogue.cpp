@@ -1,4 +1,4 @@
-#include "Catalogue.h"
+#include "platform/database/Catalogue.h"
 
 #include <sqlcipher/sqlite3.h>
 

@@ -1,9 +1,9 @@
-#include "Connection.h"
+#include "platform/database/Connection.h"
 
-#include "ConnectionPrivate.h"
-#include "DataSource.h"
-#include "DatabaseErrors.h"
-#include "DatabaseFile.h"
+#include "platform/database/ConnectionPrivate.h"
+#include "platform/database/DataSource.h"
+#include "platform/database/DatabaseErrors.h"
+#include "platform/database/DatabaseFile.h"
 
 namespace {
 

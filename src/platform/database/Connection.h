@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DatabaseFile.h"
+#include "platform/database/DatabaseFile.h"
 
 #include <QString>
 #include <QVariant>

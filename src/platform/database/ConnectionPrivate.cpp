@@ -1,7 +1,7 @@
-#include "ConnectionPrivate.h"
+#include "platform/database/ConnectionPrivate.h"
 
-#include "DatabaseErrors.h"
-#include "LiteralBinding.h"
+#include "platform/database/DatabaseErrors.h"
+#include "platform/database/LiteralBinding.h"
 
 #include <sqlcipher/sqlite3.h>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Connection.h"
-#include "DatabaseFile.h"
-#include "Recordset.h"
-#include "StatementCache.h"
-#include "StatementGuard.h"
+#include "platform/database/Connection.h"
+#include "platform/database/DatabaseFile.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/StatementCache.h"
+#include "platform/database/StatementGuard.h"
 
 #include <deque>
 #include <optional>

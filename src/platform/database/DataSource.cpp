@@ -1,4 +1,4 @@
-#include "DataSource.h"
+#include "platform/database/DataSource.h"
 
 #include <QHash>
 

@@ -1,4 +1,4 @@
-#include "DatabaseErrors.h"
+#include "platform/database/DatabaseErrors.h"
 
 #include <sqlcipher/sqlite3.h>
 

@@ -1,8 +1,8 @@
-#include "DatabaseFile.h"
+#include "platform/database/DatabaseFile.h"
 
-#include "DatabaseErrors.h"
-#include "Opening.h"
-#include "SqlFunctions.h"
+#include "platform/database/DatabaseErrors.h"
+#include "platform/database/Opening.h"
+#include "platform/database/SqlFunctions.h"
 
 #include <QFile>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "BooksOnDisk.h"
+#include "platform/database/BooksOnDisk.h"
 
 #include <QStringList>
 

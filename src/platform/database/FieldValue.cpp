@@ -1,7 +1,7 @@
-#include "Recordset.h"
+#include "platform/database/Recordset.h"
 
-#include "Dates.h"
-#include "Numbers.h"
+#include "platform/text/Dates.h"
+#include "platform/text/Numbers.h"
 
 FieldValue FieldValue::OfText(QString text)
 {

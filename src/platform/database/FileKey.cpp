@@ -1,4 +1,4 @@
-#include "FileKey.h"
+#include "platform/database/FileKey.h"
 
 #include <QHash>
 #include <QPair>

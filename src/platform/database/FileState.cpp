@@ -1,4 +1,4 @@
-#include "FileState.h"
+#include "platform/database/FileState.h"
 
 #include <QFile>
 

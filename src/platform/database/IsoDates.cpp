@@ -1,4 +1,4 @@
-#include "IsoDates.h"
+#include "platform/database/IsoDates.h"
 
 #include <cstring>
 

@@ -1,8 +1,8 @@
-#include "KeyedFile.h"
+#include "platform/database/KeyedFile.h"
 
-#include "DatabaseErrors.h"
-#include "DatabaseFile.h"
-#include "FileKey.h"
+#include "platform/database/DatabaseErrors.h"
+#include "platform/database/DatabaseFile.h"
+#include "platform/database/FileKey.h"
 
 #include <QFileInfo>
 #include <QTemporaryFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "LogMark.h"
+#include "platform/database/LogMark.h"
 
 #include <QByteArray>
 #include <QString>

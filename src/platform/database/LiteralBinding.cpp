@@ -1,8 +1,8 @@
-#include "LiteralBinding.h"
+#include "platform/database/LiteralBinding.h"
 
-#include "DatabaseErrors.h"
-#include "IsoDates.h"
-#include "Numbers.h"
+#include "platform/database/DatabaseErrors.h"
+#include "platform/database/IsoDates.h"
+#include "platform/text/Numbers.h"
 
 #include <sqlcipher/sqlite3.h>
 

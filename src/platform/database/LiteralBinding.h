@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Translator.h"
+#include "platform/database/Translator.h"
 
 struct sqlite3_stmt;
 

@@ -1,4 +1,4 @@
-#include "LogMark.h"
+#include "platform/database/LogMark.h"
 
 #include <QRandomGenerator>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FileState.h"
+#include "platform/database/FileState.h"
 
 struct sqlite3;
 

@@ -1,7 +1,7 @@
-#include "Opening.h"
+#include "platform/database/Opening.h"
 
-#include "DatabaseErrors.h"
-#include "PageCheck.h"
+#include "platform/database/DatabaseErrors.h"
+#include "platform/database/PageCheck.h"
 
 #include <QDateTime>
 #include <QFile>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DatabaseFile.h"
-#include "KeyedFile.h"
-#include "WriteAheadLog.h"
+#include "platform/database/DatabaseFile.h"
+#include "platform/database/KeyedFile.h"
+#include "platform/database/WriteAheadLog.h"
 
 // What is looked at and put right before the engine opens the books: whether they can be read and written,
 // whether the log beside them is theirs and whole, and, after an unclean end, every page. Nothing is played

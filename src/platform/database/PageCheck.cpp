@@ -1,6 +1,6 @@
-#include "PageCheck.h"
+#include "platform/database/PageCheck.h"
 
-#include "DatabaseErrors.h"
+#include "platform/database/DatabaseErrors.h"
 
 #include <sqlcipher/sqlite3.h>
 

@@ -1,8 +1,8 @@
-#include "Recordset.h"
+#include "platform/database/Recordset.h"
 
-#include "ConnectionPrivate.h"
-#include "DatabaseErrors.h"
-#include "IsoDates.h"
+#include "platform/database/ConnectionPrivate.h"
+#include "platform/database/DatabaseErrors.h"
+#include "platform/database/IsoDates.h"
 
 #include <sqlcipher/sqlite3.h>
 

@@ -1,6 +1,6 @@
-#include "Sql.h"
+#include "platform/database/Sql.h"
 
-#include "DatabaseErrors.h"
+#include "platform/database/DatabaseErrors.h"
 
 void SqlText::ThrowBroken() const
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Dates.h"
-#include "Numbers.h"
+#include "platform/text/Dates.h"
+#include "platform/text/Numbers.h"
 
 #include <QDate>
 #include <QString>

@@ -1,7 +1,7 @@
-#include "SqlFunctions.h"
+#include "platform/database/SqlFunctions.h"
 
-#include "IsoDates.h"
-#include "Numbers.h"
+#include "platform/database/IsoDates.h"
+#include "platform/text/Numbers.h"
 
 #include <sqlcipher/sqlite3.h>
 

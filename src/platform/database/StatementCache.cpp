@@ -1,6 +1,6 @@
-#include "StatementCache.h"
+#include "platform/database/StatementCache.h"
 
-#include "DatabaseErrors.h"
+#include "platform/database/DatabaseErrors.h"
 
 #include <sqlcipher/sqlite3.h>
 

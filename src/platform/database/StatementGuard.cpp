@@ -1,4 +1,4 @@
-#include "StatementGuard.h"
+#include "platform/database/StatementGuard.h"
 
 #include <sqlcipher/sqlite3.h>
 

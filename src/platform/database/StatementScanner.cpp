@@ -1,7 +1,7 @@
-#include "StatementScanner.h"
+#include "platform/database/StatementScanner.h"
 
-#include "DatabaseErrors.h"
-#include "IsoDates.h"
+#include "platform/database/DatabaseErrors.h"
+#include "platform/database/IsoDates.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "StatementTokens.h"
+#include "platform/database/StatementTokens.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "StatementScanner.h"
+#include "platform/database/StatementScanner.h"
 
 #include <QString>
 

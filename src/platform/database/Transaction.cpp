@@ -1,7 +1,7 @@
-#include "Transaction.h"
+#include "platform/database/Transaction.h"
 
-#include "ConnectionPrivate.h"
-#include "DatabaseErrors.h"
+#include "platform/database/ConnectionPrivate.h"
+#include "platform/database/DatabaseErrors.h"
 
 Transaction::Transaction(Connection& connection) : m_connection(connection)
 {

@@ -1,7 +1,7 @@
-#include "Translator.h"
+#include "platform/database/Translator.h"
 
-#include "DatabaseErrors.h"
-#include "TranslatorWork.h"
+#include "platform/database/DatabaseErrors.h"
+#include "platform/database/TranslatorWork.h"
 
 #include <algorithm>
 

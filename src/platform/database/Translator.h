@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Catalogue.h"
-#include "StatementTokens.h"
+#include "platform/database/Catalogue.h"
+#include "platform/database/StatementTokens.h"
 
 #include <QByteArray>
 

@@ -1,4 +1,4 @@
-#include "TranslatorWork.h"
+#include "platform/database/TranslatorWork.h"
 
 #include <algorithm>
 

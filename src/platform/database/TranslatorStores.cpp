@@ -1,4 +1,4 @@
-#include "TranslatorWork.h"
+#include "platform/database/TranslatorWork.h"
 
 // What goes into columns: insert ... values, insert ... select, update ... set.
 

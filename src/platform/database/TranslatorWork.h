@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Translator.h"
+#include "platform/database/Translator.h"
 
 // The work on one statement: its tokens, the tables in its reach, and what has been settled so far.
 class TranslatorWork {

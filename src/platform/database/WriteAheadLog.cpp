@@ -1,6 +1,6 @@
-#include "WriteAheadLog.h"
+#include "platform/database/WriteAheadLog.h"
 
-#include "BooksOnDisk.h"
+#include "platform/database/BooksOnDisk.h"
 
 #include <QFile>
 #include <QtEndian>

@@ -1,4 +1,4 @@
-#include "Button.h"
+#include "platform/forms/Button.h"
 
 #include <QKeyEvent>
 #include <QPushButton>

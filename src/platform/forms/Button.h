@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Control.h"
+#include "platform/forms/Control.h"
 
 // A button. Its caption is the state of the screen: a handler reads it to know what the press means.
 class Button final : public Control {

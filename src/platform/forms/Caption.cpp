@@ -1,6 +1,6 @@
-#include "Caption.h"
+#include "platform/forms/Caption.h"
 
-#include "Shivaji01.h"
+#include "platform/text/Shivaji01.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "CheckBox.h"
+#include "platform/forms/CheckBox.h"
 
 #include <QCheckBox>
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Control.h"
+#include "platform/forms/Control.h"
 
 // A box to tick, beside its caption. Space or the mouse turns it; Enter goes on to the next control.
 class CheckBox final : public Control {

@@ -1,8 +1,8 @@
-#include "ChoiceCombo.h"
+#include "platform/forms/ChoiceCombo.h"
 
-#include "Look.h"
-#include "Screen.h"
-#include "Shivaji01.h"
+#include "platform/forms/Look.h"
+#include "platform/forms/Screen.h"
+#include "platform/text/Shivaji01.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DropList.h"
-#include "Field.h"
+#include "platform/forms/DropList.h"
+#include "platform/forms/Field.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
-#include "Control.h"
+#include "platform/forms/Control.h"
 
-#include "Look.h"
-#include "Screen.h"
+#include "platform/forms/Look.h"
+#include "platform/forms/Screen.h"
 
 #include <QAbstractScrollArea>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Caption.h"
+#include "platform/forms/Caption.h"
 
 #include <QColor>
 #include <QLabel>

@@ -1,10 +1,10 @@
-#include "DataGrid.h"
+#include "platform/forms/DataGrid.h"
 
-#include "Connection.h"
-#include "Dates.h"
-#include "Look.h"
-#include "Numbers.h"
-#include "Shivaji01.h"
+#include "platform/database/Connection.h"
+#include "platform/forms/Look.h"
+#include "platform/text/Dates.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/Shivaji01.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Control.h"
-#include "Recordset.h"
+#include "platform/database/Recordset.h"
+#include "platform/forms/Control.h"
 
 #include <QAbstractTableModel>
 

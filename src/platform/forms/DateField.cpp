@@ -1,6 +1,6 @@
-#include "DateField.h"
+#include "platform/forms/DateField.h"
 
-#include "Dates.h"
+#include "platform/text/Dates.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

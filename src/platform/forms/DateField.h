@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Field.h"
+#include "platform/forms/Field.h"
 
 #include <QDate>
 

@@ -1,6 +1,6 @@
-#include "DropList.h"
+#include "platform/forms/DropList.h"
 
-#include "Screen.h"
+#include "platform/forms/Screen.h"
 
 #include <QPainter>
 #include <QStyledItemDelegate>

@@ -1,6 +1,6 @@
-#include "Field.h"
+#include "platform/forms/Field.h"
 
-#include "Shivaji01.h"
+#include "platform/text/Shivaji01.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Control.h"
+#include "platform/forms/Control.h"
 
 class QLineEdit;
 

@@ -1,7 +1,7 @@
-#include "Layout.h"
+#include "platform/forms/Layout.h"
 
-#include "Look.h"
-#include "Screen.h"
+#include "platform/forms/Look.h"
+#include "platform/forms/Screen.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

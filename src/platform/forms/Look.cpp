@@ -1,4 +1,4 @@
-#include "Look.h"
+#include "platform/forms/Look.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -1,6 +1,6 @@
-#include "MenuList.h"
+#include "platform/forms/MenuList.h"
 
-#include "Look.h"
+#include "platform/forms/Look.h"
 
 #include <QKeyEvent>
 #include <QListWidget>

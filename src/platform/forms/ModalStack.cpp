@@ -1,6 +1,6 @@
-#include "ModalStack.h"
+#include "platform/forms/ModalStack.h"
 
-#include "Screen.h"
+#include "platform/forms/Screen.h"
 
 ModalStack& ModalStack::Current()
 {

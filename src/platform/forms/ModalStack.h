@@ -1,7 +1,7 @@
 #pragma once
 
-#include "RunTimeError.h"
-#include "SendKeys.h"
+#include "platform/forms/SendKeys.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QApplication>
 

@@ -1,7 +1,7 @@
-#include "NameCombo.h"
+#include "platform/forms/NameCombo.h"
 
-#include "Screen.h"
-#include "Shivaji01.h"
+#include "platform/forms/Screen.h"
+#include "platform/text/Shivaji01.h"
 
 #include <QCollator>
 #include <QKeyEvent>

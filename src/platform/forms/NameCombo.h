@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DropList.h"
-#include "TextField.h"
+#include "platform/forms/DropList.h"
+#include "platform/forms/TextField.h"
 
 #include <QSet>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "OptionButton.h"
+#include "platform/forms/OptionButton.h"
 
 #include <QKeyEvent>
 #include <QRadioButton>

@@ -1,9 +1,9 @@
-#include "Screen.h"
+#include "platform/forms/Screen.h"
 
-#include "Button.h"
-#include "Field.h"
-#include "Look.h"
-#include "ModalStack.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/Field.h"
+#include "platform/forms/Look.h"
+#include "platform/forms/ModalStack.h"
 
 #include <QCloseEvent>
 #include <QInputMethodEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Control.h"
-#include "SendKeys.h"
+#include "platform/forms/Control.h"
+#include "platform/forms/SendKeys.h"
 
 #include <QEventLoop>
 

@@ -1,6 +1,6 @@
-#include "SendKeys.h"
+#include "platform/forms/SendKeys.h"
 
-#include "ModalStack.h"
+#include "platform/forms/ModalStack.h"
 
 #include <QHash>
 

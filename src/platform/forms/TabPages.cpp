@@ -1,7 +1,7 @@
-#include "TabPages.h"
+#include "platform/forms/TabPages.h"
 
-#include "Look.h"
-#include "Screen.h"
+#include "platform/forms/Look.h"
+#include "platform/forms/Screen.h"
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "TextField.h"
+#include "platform/forms/TextField.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

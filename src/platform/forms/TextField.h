@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Field.h"
-#include "Shivaji01.h"
+#include "platform/forms/Field.h"
+#include "platform/text/Shivaji01.h"
 
 // A text in the system's encoding. The stored text is the truth; the eye sees Devanagari while the clerk
 // types the Latin keys of the old layout, and Devanagari from an input method is taken as well. Caret,

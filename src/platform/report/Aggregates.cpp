@@ -1,6 +1,6 @@
-#include "Evaluation.h"
+#include "platform/report/Evaluation.h"
 
-#include "ReportData.h"
+#include "platform/report/ReportData.h"
 
 void Accumulator::Add(const Expression& aggregate, ReportData& data)
 {

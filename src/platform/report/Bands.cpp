@@ -1,7 +1,7 @@
-#include "Bands.h"
+#include "platform/report/Bands.h"
 
-#include "Evaluation.h"
-#include "Room.h"
+#include "platform/report/Evaluation.h"
+#include "platform/report/Room.h"
 
 #include <algorithm>
 #include <utility>

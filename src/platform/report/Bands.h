@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Records.h"
-#include "ReportPages.h"
-#include "TextMeasure.h"
+#include "platform/report/Records.h"
+#include "platform/report/ReportPages.h"
+#include "platform/report/TextMeasure.h"
 
 #include <deque>
 #include <memory>

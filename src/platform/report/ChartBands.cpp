@@ -1,8 +1,8 @@
-#include "Bands.h"
+#include "platform/report/Bands.h"
 
-#include "Evaluation.h"
-#include "Numbers.h"
-#include "Room.h"
+#include "platform/report/Evaluation.h"
+#include "platform/report/Room.h"
+#include "platform/text/Numbers.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,5 @@
-#include "Paper.h"
-#include "Printer.h"
+#include "platform/report/Paper.h"
+#include "platform/report/Printer.h"
 
 #include <cups/cups.h>
 

@@ -1,8 +1,8 @@
-#include "Drawing.h"
+#include "platform/report/Drawing.h"
 
-#include "Evaluation.h"
-#include "LayoutPool.h"
-#include "WordPainter.h"
+#include "platform/report/Evaluation.h"
+#include "platform/report/LayoutPool.h"
+#include "platform/report/WordPainter.h"
 
 #include <pango/pangocairo.h>
 

@@ -1,8 +1,8 @@
-#include "Evaluation.h"
+#include "platform/report/Evaluation.h"
 
-#include "Dates.h"
-#include "Numbers.h"
-#include "ReportData.h"
+#include "platform/report/ReportData.h"
+#include "platform/text/Dates.h"
+#include "platform/text/Numbers.h"
 
 #include <algorithm>
 #include <cmath>

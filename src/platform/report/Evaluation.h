@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ExactSum.h"
-#include "TemplateText.h"
+#include "platform/report/ExactSum.h"
+#include "platform/report/TemplateText.h"
 
 #include <vector>
 

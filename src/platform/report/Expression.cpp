@@ -1,9 +1,9 @@
-#include "Expression.h"
+#include "platform/report/Expression.h"
 
-#include "Dates.h"
-#include "ExactSum.h"
-#include "Numbers.h"
-#include "RunTimeError.h"
+#include "platform/report/ExactSum.h"
+#include "platform/text/Dates.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/RunTimeError.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Value.h"
+#include "platform/report/Value.h"
 
 #include <optional>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "ExpressionBinder.h"
+#include "platform/report/ExpressionBinder.h"
 
 #include <algorithm>
 

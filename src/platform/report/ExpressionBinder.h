@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Catalogue.h"
-#include "ReportTemplate.h"
-#include "TemplateChoices.h"
+#include "platform/database/Catalogue.h"
+#include "platform/report/ReportTemplate.h"
+#include "platform/report/TemplateChoices.h"
 
 // Finds the columns that the names of a template stand for, and the types of its expressions.
 class ExpressionBinder {

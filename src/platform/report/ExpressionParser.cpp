@@ -1,5 +1,5 @@
-#include "ExactSum.h"
-#include "Expression.h"
+#include "platform/report/ExactSum.h"
+#include "platform/report/Expression.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
-#include "LayoutPool.h"
+#include "platform/report/LayoutPool.h"
 
-#include "FontMap.h"
+#include "platform/report/FontMap.h"
 
 #include <pango/pangocairo.h>
 

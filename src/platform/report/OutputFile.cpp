@@ -1,6 +1,6 @@
-#include "OutputFile.h"
+#include "platform/report/OutputFile.h"
 
-#include "FileRights.h"
+#include "platform/text/FileRights.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Printer.h"
+#include "platform/report/Printer.h"
 
 #include <QIODevice>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "Paper.h"
+#include "platform/report/Paper.h"
 
 #include <QRegularExpression>
 

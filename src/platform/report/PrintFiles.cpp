@@ -1,4 +1,4 @@
-#include "PrintFiles.h"
+#include "platform/report/PrintFiles.h"
 
 #include <QDir>
 

@@ -1,6 +1,6 @@
-#include "Records.h"
+#include "platform/report/Records.h"
 
-#include "Evaluation.h"
+#include "platform/report/Evaluation.h"
 
 #include <algorithm>
 

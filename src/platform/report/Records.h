@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ReportData.h"
+#include "platform/report/ReportData.h"
 
 // Which rows of a report go into a spreadsheet: those of its first table; without a table, those of its first
 // part that comes once a row; else the first row of its first source.

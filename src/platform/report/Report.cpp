@@ -1,10 +1,10 @@
-#include "Report.h"
+#include "platform/report/Report.h"
 
-#include "Drawing.h"
-#include "Evaluation.h"
-#include "OutputFile.h"
-#include "PrintFiles.h"
-#include "ReportFiller.h"
+#include "platform/report/Drawing.h"
+#include "platform/report/Evaluation.h"
+#include "platform/report/OutputFile.h"
+#include "platform/report/PrintFiles.h"
+#include "platform/report/ReportFiller.h"
 
 #include <QTemporaryFile>
 

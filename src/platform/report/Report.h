@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Connection.h"
-#include "Printer.h"
-#include "ReportPages.h"
-#include "SelectionFormula.h"
+#include "platform/database/Connection.h"
+#include "platform/report/Printer.h"
+#include "platform/report/ReportPages.h"
+#include "platform/report/SelectionFormula.h"
 
 #include <QImage>
 

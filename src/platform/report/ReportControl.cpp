@@ -1,7 +1,7 @@
-#include "ReportControl.h"
+#include "platform/report/ReportControl.h"
 
-#include "DataSource.h"
-#include "RunTimeError.h"
+#include "platform/database/DataSource.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QFileInfo>
 

@@ -1,8 +1,8 @@
-#include "ReportData.h"
+#include "platform/report/ReportData.h"
 
-#include "Evaluation.h"
-#include "RunTimeError.h"
-#include "Shivaji01.h"
+#include "platform/report/Evaluation.h"
+#include "platform/text/RunTimeError.h"
+#include "platform/text/Shivaji01.h"
 
 #include <algorithm>
 

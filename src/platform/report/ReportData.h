@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Recordset.h"
-#include "ReportTemplate.h"
-#include "SelectionFormula.h"
+#include "platform/database/Recordset.h"
+#include "platform/report/ReportTemplate.h"
+#include "platform/report/SelectionFormula.h"
 
 #include <QHash>
 

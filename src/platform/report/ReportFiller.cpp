@@ -1,8 +1,8 @@
-#include "ReportFiller.h"
+#include "platform/report/ReportFiller.h"
 
-#include "Evaluation.h"
-#include "Room.h"
-#include "RunTimeError.h"
+#include "platform/report/Evaluation.h"
+#include "platform/report/Room.h"
+#include "platform/text/RunTimeError.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Bands.h"
+#include "platform/report/Bands.h"
 
 // Fills a checked template: reads rows as it goes and gives one page after the other.
 class ReportFiller {

@@ -1,4 +1,4 @@
-#include "ReportPages.h"
+#include "platform/report/ReportPages.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Paper.h"
-#include "TemplateText.h"
+#include "platform/report/Paper.h"
+#include "platform/report/TemplateText.h"
 
 #include <QStringList>
 

@@ -1,11 +1,11 @@
-#include "SelectionFormula.h"
+#include "platform/report/SelectionFormula.h"
 
-#include "Catalogue.h"
-#include "Connection.h"
-#include "Dates.h"
-#include "Numbers.h"
-#include "RunTimeError.h"
-#include "Sql.h"
+#include "platform/database/Catalogue.h"
+#include "platform/database/Connection.h"
+#include "platform/database/Sql.h"
+#include "platform/text/Dates.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QRegularExpression>
 

@@ -1,7 +1,7 @@
-#include "Connection.h"
-#include "ExpressionBinder.h"
-#include "TemplateChoices.h"
-#include "TemplateWidths.h"
+#include "platform/database/Connection.h"
+#include "platform/report/ExpressionBinder.h"
+#include "platform/report/TemplateChoices.h"
+#include "platform/report/TemplateWidths.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "TemplateChoices.h"
+#include "platform/report/TemplateChoices.h"
 
 namespace {
 

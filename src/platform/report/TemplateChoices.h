@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ReportTemplate.h"
+#include "platform/report/ReportTemplate.h"
 
 #include <functional>
 #include <set>

@@ -1,4 +1,4 @@
-#include "TemplateReader.h"
+#include "platform/report/TemplateReader.h"
 
 #include <utility>
 

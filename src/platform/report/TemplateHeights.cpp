@@ -1,7 +1,7 @@
-#include "TemplateHeights.h"
+#include "platform/report/TemplateHeights.h"
 
-#include "Room.h"
-#include "TemplateWidths.h"
+#include "platform/report/Room.h"
+#include "platform/report/TemplateWidths.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ReportTemplate.h"
-#include "TextMeasure.h"
+#include "platform/report/ReportTemplate.h"
+#include "platform/report/TextMeasure.h"
 
 // The least height of some elements, in points.
 struct LeastHeight {

@@ -1,6 +1,6 @@
-#include "TemplateReader.h"
+#include "platform/report/TemplateReader.h"
 
-#include "FontMap.h"
+#include "platform/report/FontMap.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "TemplateText.h"
+#include "platform/report/TemplateText.h"
 
 #include <QRegularExpression>
 

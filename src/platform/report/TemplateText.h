@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Expression.h"
+#include "platform/report/Expression.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
-#include "TextMeasure.h"
+#include "platform/report/TextMeasure.h"
 
-#include "LayoutPool.h"
+#include "platform/report/LayoutPool.h"
 
 #include <QHash>
 

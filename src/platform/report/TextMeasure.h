@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ReportPages.h"
+#include "platform/report/ReportPages.h"
 
 #include <memory>
 #include <vector>

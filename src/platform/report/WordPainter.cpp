@@ -1,4 +1,4 @@
-#include "WordPainter.h"
+#include "platform/report/WordPainter.h"
 
 #include <pango/pangocairo.h>
 

@@ -1,4 +1,4 @@
-#include "LineSettings.h"
+#include "platform/serial/LineSettings.h"
 
 #include <QList>
 

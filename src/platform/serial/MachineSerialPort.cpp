@@ -1,7 +1,7 @@
-#include "MachineSerialPort.h"
+#include "platform/serial/MachineSerialPort.h"
 
-#include "LineSettings.h"
-#include "PortDevice.h"
+#include "platform/serial/LineSettings.h"
+#include "platform/serial/PortDevice.h"
 
 #include <QDeadlineTimer>
 #include <QThread>

@@ -1,4 +1,4 @@
-#include "PortDevice.h"
+#include "platform/serial/PortDevice.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "SerialLine.h"
+#include "platform/serial/SerialLine.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SerialPort.h"
+#include "platform/serial/SerialPort.h"
 
 #include <functional>
 

@@ -1,4 +1,4 @@
-#include "MachineSerialPort.h"
+#include "platform/serial/MachineSerialPort.h"
 
 namespace {
 

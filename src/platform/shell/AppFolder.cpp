@@ -1,4 +1,4 @@
-#include "AppFolder.h"
+#include "platform/shell/AppFolder.h"
 
 #include <QDir>
 #include <QStandardPaths>

@@ -1,4 +1,4 @@
-#include "FreshKeys.h"
+#include "platform/shell/FreshKeys.h"
 
 #include <QApplication>
 #include <QKeyEvent>

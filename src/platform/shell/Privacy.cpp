@@ -1,4 +1,4 @@
-#include "Privacy.h"
+#include "platform/shell/Privacy.h"
 
 #ifdef Q_OS_LINUX
 #include <sys/prctl.h>

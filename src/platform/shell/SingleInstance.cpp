@@ -1,6 +1,6 @@
-#include "SingleInstance.h"
+#include "platform/shell/SingleInstance.h"
 
-#include "RunTimeError.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
-#include "World.h"
+#include "platform/shell/World.h"
 
-#include "AppFolder.h"
-#include "FreshKeys.h"
+#include "platform/shell/AppFolder.h"
+#include "platform/shell/FreshKeys.h"
 
 #include <QApplication>
 #include <QFileInfo>

@@ -1,5 +1,5 @@
-#include "Numbers.h"
-#include "RunTimeError.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QVarLengthArray>
 

@@ -1,7 +1,7 @@
-#include "PasswordItems.h"
+#include "platform/text/PasswordItems.h"
 
-#include "Numbers.h"
-#include "RunTimeError.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QIODevice>
 #include <QStringConverter>

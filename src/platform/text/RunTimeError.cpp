@@ -1,4 +1,4 @@
-#include "RunTimeError.h"
+#include "platform/text/RunTimeError.h"
 
 RunTimeError::RunTimeError(int number, QString happened, QString statement)
     : m_number(number)

@@ -1,5 +1,5 @@
-#include "Shivaji01.h"
-#include "Shivaji01Table.h"
+#include "platform/text/Shivaji01.h"
+#include "platform/text/Shivaji01Table.h"
 
 #include <algorithm>
 #include <array>

@@ -33,7 +33,7 @@ file(WRITE "${HEADER}" "#pragma once
 
 // Made from the glyph table; changes belong there.
 
-#include \"Shivaji01Row.h\"
+#include \"platform/text/Shivaji01Row.h\"
 
 namespace Shivaji01 {
 inline constexpr GlyphRow GlyphRows[] = {

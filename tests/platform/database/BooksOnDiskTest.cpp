@@ -1,7 +1,7 @@
-#include "BooksFile.h"
-#include "DatabaseTest.h"
+#include "tests/platform/database/DatabaseTest.h"
+#include "tests/support/BooksFile.h"
 
-#include "Transaction.h"
+#include "platform/database/Transaction.h"
 
 #include <QFile>
 

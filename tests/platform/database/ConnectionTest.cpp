@@ -1,7 +1,7 @@
-#include "DatabaseTest.h"
+#include "tests/platform/database/DatabaseTest.h"
 
-#include "ConnectionPrivate.h"
-#include "Transaction.h"
+#include "platform/database/ConnectionPrivate.h"
+#include "platform/database/Transaction.h"
 
 #include <QCryptographicHash>
 #include <QDir>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Connection.h"
-#include "DataSource.h"
-#include "Recordset.h"
-#include "RunTimeError.h"
+#include "platform/database/Connection.h"
+#include "platform/database/DataSource.h"
+#include "platform/database/Recordset.h"
+#include "platform/text/RunTimeError.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "DatabaseTest.h"
+#include "tests/platform/database/DatabaseTest.h"
 
-#include "FileKey.h"
+#include "platform/database/FileKey.h"
 
 #include <QFile>
 #include <QSet>

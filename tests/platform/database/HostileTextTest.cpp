@@ -1,5 +1,5 @@
-#include "DatabaseTest.h"
-#include "SystemStatements.h"
+#include "tests/platform/database/DatabaseTest.h"
+#include "tests/platform/database/SystemStatements.h"
 
 #include <QElapsedTimer>
 

@@ -1,7 +1,7 @@
-#include "DatabaseTest.h"
-#include "FaultyDisk.h"
+#include "tests/platform/database/DatabaseTest.h"
+#include "tests/support/FaultyDisk.h"
 
-#include "Transaction.h"
+#include "platform/database/Transaction.h"
 
 #include <QDir>
 #include <QFile>

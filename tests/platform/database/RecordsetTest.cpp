@@ -1,6 +1,6 @@
-#include "DatabaseTest.h"
+#include "tests/platform/database/DatabaseTest.h"
 
-#include "ConnectionPrivate.h"
+#include "platform/database/ConnectionPrivate.h"
 
 namespace {
 

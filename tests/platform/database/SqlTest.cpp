@@ -1,5 +1,5 @@
-#include "Sql.h"
-#include "DatabaseTest.h"
+#include "platform/database/Sql.h"
+#include "tests/platform/database/DatabaseTest.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "ConnectionPrivate.h"
-#include "DatabaseTest.h"
-#include "Transaction.h"
+#include "platform/database/ConnectionPrivate.h"
+#include "platform/database/Transaction.h"
+#include "tests/platform/database/DatabaseTest.h"
 
 #include <QFile>
 

@@ -1,7 +1,7 @@
-#include "Transaction.h"
+#include "platform/database/Transaction.h"
 
-#include "DatabaseTest.h"
-#include "FaultyDisk.h"
+#include "tests/platform/database/DatabaseTest.h"
+#include "tests/support/FaultyDisk.h"
 
 #include <sys/wait.h>
 #include <unistd.h>

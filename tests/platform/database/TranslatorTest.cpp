@@ -1,9 +1,9 @@
-#include "DatabaseTest.h"
-#include "SystemStatements.h"
+#include "tests/platform/database/DatabaseTest.h"
+#include "tests/platform/database/SystemStatements.h"
 
 #include <QLocale>
 
-#include "Translator.h"
+#include "platform/database/Translator.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "FormsTest.h"
+#include "tests/platform/forms/FormsTest.h"
 
-#include "CheckBox.h"
+#include "platform/forms/CheckBox.h"
 
 #include <QCheckBox>
 #include <QVBoxLayout>

@@ -1,5 +1,5 @@
-#include "ChoiceCombo.h"
-#include "FieldTest.h"
+#include "platform/forms/ChoiceCombo.h"
+#include "tests/platform/forms/FieldTest.h"
 
 #include <QListView>
 

@@ -1,5 +1,5 @@
-#include "DateField.h"
-#include "FieldTest.h"
+#include "platform/forms/DateField.h"
+#include "tests/platform/forms/FieldTest.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FormsTest.h"
+#include "tests/platform/forms/FormsTest.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

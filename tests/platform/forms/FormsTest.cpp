@@ -1,4 +1,4 @@
-#include "FormsTest.h"
+#include "tests/platform/forms/FormsTest.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "../../support/KeptFailure.h"
-#include "Button.h"
-#include "Clerk.h"
-#include "Field.h"
-#include "ModalStack.h"
-#include "Screen.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/Field.h"
+#include "platform/forms/ModalStack.h"
+#include "platform/forms/Screen.h"
+#include "tests/support/KeptFailure.h"
+#include "tools/clerk/Clerk.h"
 
 #include <gtest/gtest.h>
 

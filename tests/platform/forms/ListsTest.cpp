@@ -1,8 +1,8 @@
-#include "FormsTest.h"
+#include "tests/platform/forms/FormsTest.h"
 
-#include "Connection.h"
-#include "DataGrid.h"
-#include "MenuList.h"
+#include "platform/database/Connection.h"
+#include "platform/forms/DataGrid.h"
+#include "platform/forms/MenuList.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

@@ -1,10 +1,10 @@
-#include "FormsTest.h"
+#include "tests/platform/forms/FormsTest.h"
 
-#include "DateField.h"
-#include "Layout.h"
-#include "Look.h"
-#include "NameCombo.h"
-#include "Shivaji01.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/Layout.h"
+#include "platform/forms/Look.h"
+#include "platform/forms/NameCombo.h"
+#include "platform/text/Shivaji01.h"
 
 #include <QLabel>
 #include <QPushButton>

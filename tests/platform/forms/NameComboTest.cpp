@@ -1,5 +1,5 @@
-#include "NameCombo.h"
-#include "FieldTest.h"
+#include "platform/forms/NameCombo.h"
+#include "tests/platform/forms/FieldTest.h"
 
 #include <QLayout>
 #include <QListView>

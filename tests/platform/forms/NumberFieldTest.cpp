@@ -1,4 +1,4 @@
-#include "FieldTest.h"
+#include "tests/platform/forms/FieldTest.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

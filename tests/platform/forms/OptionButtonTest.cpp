@@ -1,6 +1,6 @@
-#include "FormsTest.h"
+#include "tests/platform/forms/FormsTest.h"
 
-#include "OptionButton.h"
+#include "platform/forms/OptionButton.h"
 
 #include <QMouseEvent>
 #include <QRadioButton>

@@ -1,6 +1,6 @@
-#include "FormsTest.h"
+#include "tests/platform/forms/FormsTest.h"
 
-#include "NameCombo.h"
+#include "platform/forms/NameCombo.h"
 
 #include <QKeyEvent>
 #include <QVBoxLayout>

@@ -1,6 +1,6 @@
-#include "FormsTest.h"
+#include "tests/platform/forms/FormsTest.h"
 
-#include "TabPages.h"
+#include "platform/forms/TabPages.h"
 
 #include <QMouseEvent>
 #include <QTabBar>

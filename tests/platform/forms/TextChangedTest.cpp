@@ -1,7 +1,7 @@
-#include "FieldTest.h"
+#include "tests/platform/forms/FieldTest.h"
 
-#include "DateField.h"
-#include "NameCombo.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/NameCombo.h"
 
 namespace {
 

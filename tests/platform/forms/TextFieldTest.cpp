@@ -1,6 +1,6 @@
-#include "TextField.h"
-#include "FieldTest.h"
-#include "Shivaji01.h"
+#include "platform/forms/TextField.h"
+#include "platform/text/Shivaji01.h"
+#include "tests/platform/forms/FieldTest.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

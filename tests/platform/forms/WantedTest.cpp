@@ -1,6 +1,6 @@
 // A control that is given the focus with what it wants says so in the guide line until it is left.
 
-#include "FormsTest.h"
+#include "tests/platform/forms/FormsTest.h"
 
 namespace {
 

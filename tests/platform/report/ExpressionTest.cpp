@@ -1,7 +1,7 @@
-#include "ReportTest.h"
+#include "tests/platform/report/ReportTest.h"
 
-#include "ExactSum.h"
-#include "Expression.h"
+#include "platform/report/ExactSum.h"
+#include "platform/report/Expression.h"
 
 namespace {
 

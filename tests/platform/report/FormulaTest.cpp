@@ -1,7 +1,7 @@
-#include "ReportTest.h"
+#include "tests/platform/report/ReportTest.h"
 
-#include "Recordset.h"
-#include "SelectionFormula.h"
+#include "platform/database/Recordset.h"
+#include "platform/report/SelectionFormula.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Texts of many pages in one field: nothing is lost or moved, and the work grows with the text.
 
-#include "ReportFiller.h"
-#include "ReportTest.h"
-#include "Sql.h"
+#include "platform/database/Sql.h"
+#include "platform/report/ReportFiller.h"
+#include "tests/platform/report/ReportTest.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
-#include "Drawing.h"
-#include "FileRights.h"
-#include "PrintFiles.h"
-#include "ReportTest.h"
+#include "platform/report/Drawing.h"
+#include "platform/report/PrintFiles.h"
+#include "platform/text/FileRights.h"
+#include "tests/platform/report/ReportTest.h"
 
 #include <QBuffer>
 #include <QDir>

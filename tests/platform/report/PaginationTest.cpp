@@ -1,6 +1,6 @@
-#include "ReportTest.h"
+#include "tests/platform/report/ReportTest.h"
 
-#include "Sql.h"
+#include "platform/database/Sql.h"
 
 namespace {
 

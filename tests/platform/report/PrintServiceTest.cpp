@@ -1,4 +1,4 @@
-#include "Printer.h"
+#include "platform/report/Printer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "FakePrinter.h"
-#include "FakeReportWindow.h"
-#include "ReportTest.h"
+#include "tests/platform/report/ReportTest.h"
+#include "tests/support/FakePrinter.h"
+#include "tests/support/FakeReportWindow.h"
 
 #include <QFile>
 

@@ -1,8 +1,8 @@
-#include "ReportTest.h"
+#include "tests/platform/report/ReportTest.h"
 
-#include "Delivered.h"
-#include "Shivaji01.h"
-#include "Sql.h"
+#include "delivered/Delivered.h"
+#include "platform/database/Sql.h"
+#include "platform/text/Shivaji01.h"
 
 #include <QFile>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Connection.h"
-#include "DataSource.h"
-#include "PdfText.h"
-#include "Report.h"
-#include "RunTimeError.h"
+#include "platform/database/Connection.h"
+#include "platform/database/DataSource.h"
+#include "platform/report/Report.h"
+#include "platform/text/RunTimeError.h"
+#include "tests/support/PdfText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "ReportTest.h"
+#include "tests/platform/report/ReportTest.h"
 
-#include "Delivered.h"
+#include "delivered/Delivered.h"
 
 #include <QFile>
 #include <QProcess>

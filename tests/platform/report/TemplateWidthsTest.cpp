@@ -1,4 +1,4 @@
-#include "ReportTest.h"
+#include "tests/platform/report/ReportTest.h"
 
 namespace {
 

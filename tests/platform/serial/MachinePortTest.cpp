@@ -1,6 +1,6 @@
-#include "DeviceSimulator.h"
-#include "PortDevice.h"
-#include "SerialLine.h"
+#include "platform/serial/PortDevice.h"
+#include "platform/serial/SerialLine.h"
+#include "tools/devices/DeviceSimulator.h"
 
 #include <gtest/gtest.h>
 

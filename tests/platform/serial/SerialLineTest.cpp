@@ -1,6 +1,6 @@
-#include "SerialLine.h"
+#include "platform/serial/SerialLine.h"
 
-#include "FakeSerialPort.h"
+#include "tests/support/FakeSerialPort.h"
 
 #include <gtest/gtest.h>
 

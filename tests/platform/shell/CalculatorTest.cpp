@@ -1,5 +1,5 @@
-#include "AppFolder.h"
-#include "World.h"
+#include "platform/shell/AppFolder.h"
+#include "platform/shell/World.h"
 
 #include <QDir>
 #include <QFile>

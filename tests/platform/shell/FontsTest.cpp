@@ -1,4 +1,4 @@
-#include "Fonts.h"
+#include "platform/shell/Fonts.h"
 
 #include <QFont>
 #include <QFontMetrics>

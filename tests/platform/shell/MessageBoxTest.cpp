@@ -1,5 +1,5 @@
-#include "FreshKeys.h"
-#include "World.h"
+#include "platform/shell/FreshKeys.h"
+#include "platform/shell/World.h"
 
 #include <QApplication>
 #include <QKeyEvent>

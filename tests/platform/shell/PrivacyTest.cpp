@@ -1,4 +1,4 @@
-#include "Privacy.h"
+#include "platform/shell/Privacy.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "World.h"
+#include "platform/shell/World.h"
 
 #include <gtest/gtest.h>
 

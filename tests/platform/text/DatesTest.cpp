@@ -1,5 +1,5 @@
-#include "Dates.h"
-#include "RunTimeError.h"
+#include "platform/text/Dates.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QLocale>
 

@@ -1,4 +1,4 @@
-#include "FileRights.h"
+#include "platform/text/FileRights.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "RunTimeError.h"
+#include "platform/text/RunTimeError.h"
 
 #include <gtest/gtest.h>
 

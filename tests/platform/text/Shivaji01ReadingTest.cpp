@@ -1,5 +1,5 @@
-#include "Shivaji01.h"
 #include "TextData.h"
+#include "platform/text/Shivaji01.h"
 
 #include <QFile>
 

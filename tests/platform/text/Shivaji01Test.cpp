@@ -1,4 +1,4 @@
-#include "Shivaji01.h"
+#include "platform/text/Shivaji01.h"
 #include "TextData.h"
 
 #include <QFile>

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/forms/Caption.h"
+
+#include <vector>
+
+// One entry of a menu list: its text decides, the rest tells what it opens.
+struct MenuEntry {
+    QStringView text; // as the system spells it
+    QString screen; // empty: the entry has no action
+    QString reportMode; // goes into gReportMode before the screen opens; empty leaves it
+    QStringView title = {}; // written over the screen's own title
+    bool asksCaller = false; // the screen asks who opened it
+};
+
+// The text of the entries that lead back and out.
+inline constexpr QStringView MenuBack = u"baahor";
+
+namespace MenuEntries {
+
+// The lists in the order that the menu shows them; the transactions with or without the charges of transport.
+const std::vector<MenuEntry>& Master();
+std::vector<MenuEntry> SVouchers(bool withTransport);
+const std::vector<MenuEntry>& MReports();
+const std::vector<MenuEntry>& YearlyReport();
+const std::vector<MenuEntry>& Utilities();
+
+// The entry of a text in any of the sub-lists; null for a text that is none.
+const MenuEntry* Find(const QString& text);
+
+// The texts of a list, as captions.
+std::vector<Caption> Captions(const std::vector<MenuEntry>& entries);
+
+}

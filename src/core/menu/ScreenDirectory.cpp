@@ -1,0 +1,34 @@
+#include "core/menu/ScreenDirectory.h"
+
+#include "core/messages/Messages.h"
+#include "platform/forms/Screen.h"
+
+#include <QHash>
+
+namespace {
+
+QHash<QString, ScreenDirectory::Maker>& Makers()
+{
+    static QHash<QString, ScreenDirectory::Maker> makers;
+    return makers;
+}
+
+}
+
+void ScreenDirectory::Add(const QString& name, Maker maker)
+{
+    Makers().insert(name, std::move(maker));
+}
+
+void ScreenDirectory::Open(const QString& name, const Caption& entry, const Caption& title)
+{
+    const Maker maker = Makers().value(name);
+    if (!maker) {
+        ShowPlain(QStringLiteral("«%1» ही सुविधा या आवृत्तीत नाही.").arg(entry.Seen().trimmed()));
+        return;
+    }
+    const std::unique_ptr<Screen> screen = maker();
+    if (!title.IsEmpty())
+        screen->SetTitle(title);
+    screen->ShowModal();
+}

@@ -1,0 +1,43 @@
+#include "core/start/BooksKeeper.h"
+
+#include "core/messages/Messages.h"
+#include "core/state/AppState.h"
+#include "platform/forms/ModalStack.h"
+
+namespace {
+
+constexpr int RestMilliseconds = 2000;
+
+// A long run of savings without a rest is folded on its way.
+constexpr qint64 LongestLog = 8 * 1024 * 1024;
+
+}
+
+BooksKeeper::BooksKeeper()
+{
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(RestMilliseconds);
+    QObject::connect(&m_rest, &QTimer::timeout, &m_rest, [this] {
+        if (!gCn.Fold() && gCn.LogSize() > 0)
+            m_rest.start();
+    });
+    // A box is answered in the midst of some other screen's work.
+    ModalStack::Current().SetLeft([](const Screen& screen) {
+        if (!dynamic_cast<const frmMessages*>(&screen))
+            gCn.Fold();
+    });
+    gCn.SetWritten([this] { BooksWritten(); });
+}
+
+BooksKeeper::~BooksKeeper()
+{
+    ModalStack::Current().SetLeft({});
+    gCn.SetWritten({});
+}
+
+void BooksKeeper::BooksWritten()
+{
+    if (gCn.LogSize() > LongestLog)
+        gCn.Fold();
+    m_rest.start();
+}

@@ -1,0 +1,49 @@
+#include "society/FieldRoutines.h"
+
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/ModalStack.h"
+#include "platform/forms/NameCombo.h"
+
+namespace {
+
+// The column that numbers the names of a table; empty if they have no numbers.
+QStringView NumberColumn(QStringView tableName)
+{
+    if (tableName == u"MembersMaster")
+        return u"MemberNo";
+    return tableName == u"CustomersMaster" ? QStringView(u"CustomerNo") : QStringView();
+}
+
+}
+
+void FillCombo(NameCombo& combo, QStringView tableName, QStringView fieldName, const SqlText& tail)
+{
+    const QStringView number = NumberColumn(tableName);
+    std::vector<NameCombo::Entry> names;
+    for (Recordset rows(gCn, Sql(u"select * from ", tableName, u" ", tail)); !rows.Eof(); rows.MoveNext())
+        names.push_back({rows[fieldName].Text(), number.isEmpty() ? QString() : rows[number].Text()});
+    combo.SetNames(names);
+}
+
+void CheckDateField(DateField& field, int& flag)
+{
+    flag = field.HoldsDate() ? 0 : 1;
+    if (flag == 0)
+        return;
+    ClearDateField(field);
+    field.SetFocus();
+}
+
+void ClearDateField(DateField& field)
+{
+    field.Clear();
+}
+
+void SelectFieldText()
+{
+    SendKeys(QStringLiteral("{Home}"));
+    SendKeys(QStringLiteral("+{End}"));
+    SendKeys(QStringLiteral("+{End}"));
+}

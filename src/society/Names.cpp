@@ -1,0 +1,84 @@
+#include "society/Names.h"
+
+#include "core/state/AppState.h"
+#include "platform/database/Sql.h"
+#include "platform/forms/NameCombo.h"
+#include "platform/text/Shivaji01.h"
+
+#include <utility>
+
+namespace {
+
+template <typename Test> Recordset FirstRow(const QString& query, Test isIt)
+{
+    Recordset row(gCn, query);
+    while (!row.Eof() && !isIt(row))
+        row.MoveNext();
+    return row;
+}
+
+// The member of a number, if the name in the list is his and may mean him.
+Recordset MemberNumbered(const NameCombo& list, double number)
+{
+    const QString name = list.Text().trimmed();
+    return FirstRow(Sql(u"SELECT * FROM MembersMaster where MemberNo=", number), [&](const Recordset& row) {
+        return !name.isEmpty() && row[u"MemberName"].Text().trimmed() == name
+            && list.MayMean(row[u"MemberNo"].Text());
+    });
+}
+
+}
+
+Recordset RowOfName(const QString& query, QStringView column, const QString& name, const IsMeant& isMeant)
+{
+    const QString spelling = name.trimmed();
+    const QString reading = Shivaji01::Reading(name);
+    const auto isOne = [&](const Recordset& row) { return !isMeant || isMeant(row); };
+    Recordset found = FirstRow(query, [&](const Recordset& row) {
+        return !spelling.isEmpty() && row[column].Text().trimmed() == spelling && isOne(row);
+    });
+    if (found.Eof())
+        found = FirstRow(query, [&](const Recordset& row) {
+            return !reading.isEmpty() && Shivaji01::Reading(row[column].Text()) == reading && isOne(row);
+        });
+    return found;
+}
+
+Recordset MemberOfName(const QString& name)
+{
+    return RowOfName(QStringLiteral("SELECT * FROM MembersMaster"), u"MemberName", name);
+}
+
+Recordset MemberOfName(const NameCombo& list)
+{
+    return RowOfName(QStringLiteral("SELECT * FROM MembersMaster"), u"MemberName", list.Text(),
+        [&](const Recordset& row) { return list.MayMean(row[u"MemberNo"].Text()); });
+}
+
+Recordset MemberOfName(const NameCombo& list, double number)
+{
+    Recordset numbered = MemberNumbered(list, number);
+    return numbered.Eof() ? MemberOfName(list) : std::move(numbered);
+}
+
+bool IsNameOf(const NameCombo& list, double number)
+{
+    return !MemberNumbered(list, number).Eof();
+}
+
+void ShowMember(NameCombo& list, const Recordset& row)
+{
+    list.SetEntry({row[u"MemberName"].Text(), row[u"MemberNo"].Text()});
+}
+
+QStringList SpellingsOf(QStringView table, QStringView column, const QString& name)
+{
+    QStringList spellings{name};
+    const QString reading = Shivaji01::Reading(name);
+    for (Recordset row(gCn, Sql(u"select ", column, u" from ", table)); !row.Eof(); row.MoveNext()) {
+        const QString text = row[column].Text();
+        if (!reading.isEmpty() && !spellings.contains(text) && Shivaji01::Reading(text) == reading)
+            spellings.append(text);
+    }
+    return spellings;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/forms/Caption.h"
+
+// What a field that keeps the focus without a message wants, and the key that leads out of it: the guide line
+// says it until the field is left.
+namespace Wanted {
+
+inline Caption Date()
+{
+    return Plain(u"दिनांक असा टाका : 15/04/2026    Esc : बाहेर");
+}
+
+inline Caption Shift()
+{
+    return Plain(u"1 : सकाळ    2 : संध्याकाळ    Esc : बाहेर");
+}
+
+inline Caption Animal()
+{
+    return Plain(u"1 : गाय    2 : म्हैस    Esc : बाहेर");
+}
+
+inline Caption Name()
+{
+    return Plain(u"नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : यादी बंद, मग बाहेर");
+}
+
+}

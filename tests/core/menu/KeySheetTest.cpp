@@ -1,0 +1,149 @@
+#include "tests/support/SocietyTest.h"
+
+#include "core/menu/KeyboardTutor.h"
+#include "core/menu/Keys.h"
+#include "core/menu/MainMenu.h"
+#include "core/messages/Narrations.h"
+#include "core/start/AppDate.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QRegularExpression>
+
+namespace {
+
+// The key sheet as it is printed: a table of every screen's keys.
+QString TheSheet()
+{
+    QString sheet = QStringLiteral("# The keys\n\nMade from the program's own list of keys; "
+                                   "`VETROLAN_RENEW=1 ctest --preset check -R KeySheet` writes it anew.\n");
+    for (const Keys::Sheet& screen : Keys::Sheets()) {
+        sheet += QStringLiteral("\n## %1\n\n| key | what it does |\n|---|---|\n")
+                     .arg(screen.name.Seen().trimmed());
+        for (const KeyHint& hint : Keys::Of(screen.screen))
+            sheet += QStringLiteral("| %1 | %2 |\n").arg(hint.key, hint.action.Seen().trimmed());
+    }
+    return sheet;
+}
+
+bool IsFunctionKey(const QString& key)
+{
+    static const QRegularExpression functionKey(QStringLiteral("^F\\d+$"));
+    return functionKey.match(key).hasMatch();
+}
+
+// The function keys that a screen's list names.
+QStringList Listed(const QString& screen)
+{
+    QStringList keys;
+    for (const KeyHint& hint : Keys::Of(screen))
+        if (IsFunctionKey(hint.key))
+            keys.append(hint.key);
+    return keys;
+}
+
+class KeySheet : public SocietyTest {
+protected:
+    // The function keys of F1 to F12 that a screen answers: another screen opens, a box is shown, or the
+    // calculator starts. `open` shows the screen; `arrive` are the keys that lead to it.
+    QStringList Answered(const QString& screen, const std::function<void()>& open, const QString& arrive = {})
+    {
+        QStringList answered;
+        for (int number = 1; number <= 12; ++number) {
+            const QString key = QStringLiteral("F%1").arg(number);
+            TheBox.Shown.clear();
+            TheCalculator.Started.clear();
+            TheClerk.Play(open, [&](Clerk& clerk) {
+                clerk.Type(arrive);
+                ASSERT_EQ(clerk.ScreenName(), screen);
+                clerk.Type(QStringLiteral("{%1}").arg(key));
+                if (clerk.ScreenName() != screen || !TheBox.Shown.isEmpty()
+                    || !TheCalculator.Started.isEmpty())
+                    answered.append(key);
+            });
+        }
+        return answered;
+    }
+
+    template <class S, class... Arguments> QStringList Answered(const QString& screen, Arguments... arguments)
+    {
+        return Answered(screen, [&] {
+            S shown(arguments...);
+            shown.ShowModal();
+        });
+    }
+};
+
+}
+
+TEST_F(KeySheet, ThePrintedSheetHoldsTheProgramsOwnListOfKeys)
+{
+    QFile file(QStringLiteral(KEY_SHEET));
+    if (qEnvironmentVariableIsSet("VETROLAN_RENEW")) {
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(TheSheet().toUtf8());
+        file.close();
+    }
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll().toStdString(), TheSheet().toStdString())
+        << "VETROLAN_RENEW=1 ctest --preset check -R KeySheet writes docs/keys.md anew";
+}
+
+TEST_F(KeySheet, TheMenusStripNamesItsSixFunctionKeys)
+{
+    QStringList strip;
+    for (const KeyHint& hint : Keys::Of(QStringLiteral("MainMenuFrm")))
+        if (IsFunctionKey(hint.key))
+            strip.append(hint.key + u' ' + hint.action.Text());
+    EXPECT_EQ(strip,
+        QStringList({QStringLiteral("F2 k^la@yaulaoTr"), QStringLiteral("F4 ]cala naaoMd"),
+            QStringLiteral("F7 Aa^Tao saoTIMgja"), QStringLiteral("F8 dUQa saMklana"),
+            QStringLiteral("F9 dUQa ivaËI"), QStringLiteral("F12 kIbaaoD- TyaUTr")}));
+}
+
+TEST_F(KeySheet, OfTheMenusKeysTheOneThatDoesNothingIsNotLit)
+{
+    for (const KeyHint& hint : Keys::Of(QStringLiteral("MainMenuFrm")))
+        EXPECT_EQ(hint.lit, hint.key != u"F9") << hint.key.toStdString();
+    TheClerk.Play(
+        [] {
+            MainMenuFrm menu;
+            menu.ShowModal();
+        },
+        [](Clerk& clerk) {
+            clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
+            int dull = 0;
+            for (const QLabel* label : clerk.Top().findChildren<QLabel*>())
+                if (!label->isEnabled()) {
+                    ++dull;
+                    EXPECT_TRUE(
+                        label->text() == u"F9" || label->text() == Seen(QStringLiteral("dUQa ivaËI")));
+                }
+            EXPECT_EQ(dull, 2);
+        });
+}
+
+TEST_F(KeySheet, TheMenuAnswersTheFunctionKeysOfItsStripAndNoOthersAndF9DoesNothing)
+{
+    const QString menu = QStringLiteral("MainMenuFrm");
+    QStringList expected = Listed(menu);
+    ASSERT_EQ(expected.removeAll(QStringLiteral("F9")), 1);
+    EXPECT_EQ(Answered(
+                  menu,
+                  [] {
+                      MainMenuFrm shown;
+                      shown.ShowModal();
+                  },
+                  QStringLiteral("{ENTER}{ENTER}")),
+        expected);
+}
+
+TEST_F(KeySheet, TheSmallScreensAnswerTheFunctionKeysOfTheirStripsAndNoOthers)
+{
+    EXPECT_EQ(Listed(QStringLiteral("frmNarrations")), QStringList(QStringLiteral("F12")));
+    EXPECT_EQ(Answered<frmNarrations>(QStringLiteral("frmNarrations"), Plain(u"नाव")),
+        Listed(QStringLiteral("frmNarrations")));
+    EXPECT_EQ(Answered<frmAppDate>(QStringLiteral("frmAppDate")), Listed(QStringLiteral("frmAppDate")));
+    EXPECT_EQ(Answered<frmKeyboardTutor>(QStringLiteral("frmKeyboardTutor")),
+        Listed(QStringLiteral("frmKeyboardTutor")));
+}

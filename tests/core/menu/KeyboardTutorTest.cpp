@@ -1,0 +1,75 @@
+#include "tests/support/SocietyTest.h"
+
+#include "core/menu/KeyboardMap.h"
+#include "core/menu/KeyboardTutor.h"
+#include "platform/forms/Field.h"
+
+namespace {
+
+using KeyboardTutor = SocietyTest;
+
+const QString English = QStringLiteral("txtEnglish");
+const QString Marathi = QStringLiteral("txtMarathi");
+
+// The picture of the keyboard as it is seen; none if it isn't.
+QImage KeyboardPicture(Clerk& clerk)
+{
+    for (QWidget* widget : clerk.Top().findChildren<QWidget*>())
+        if (dynamic_cast<KeyboardMap*>(widget) && widget->isVisible())
+            return widget->grab().toImage();
+    return {};
+}
+
+// How many points of a part of a picture are as dark as the letters.
+int DarkPoints(const QImage& picture, const QRect& part)
+{
+    int dark = 0;
+    for (int y = part.top(); y <= part.bottom(); ++y)
+        for (int x = part.left(); x <= part.right(); ++x)
+            dark += picture.pixelColor(x, y).lightness() < 80 ? 1 : 0;
+    return dark;
+}
+
+}
+
+TEST_F(KeyboardTutor, WhatIsTypedInEnglishShowsInMarathi)
+{
+    On<frmKeyboardTutor>([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("gaaya"));
+        EXPECT_EQ(clerk.Reads(English), QStringLiteral("gaaya"));
+        EXPECT_EQ(clerk.Reads(Marathi), QStringLiteral("gaaya"));
+        EXPECT_EQ(dynamic_cast<Field*>(clerk.Top().Find(Marathi))->Seen(), QStringLiteral("गाय"));
+    });
+}
+
+TEST_F(KeyboardTutor, WhatIsTypedInMarathiShowsInEnglish)
+{
+    On<frmKeyboardTutor>([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{TAB}mhOsa{BS}"));
+        EXPECT_EQ(clerk.Reads(English), clerk.Reads(Marathi));
+        EXPECT_EQ(clerk.Reads(English), QStringLiteral("mhO"));
+    });
+}
+
+TEST_F(KeyboardTutor, EscClosesIt)
+{
+    On<frmKeyboardTutor>([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{ESC}"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+}
+
+TEST_F(KeyboardTutor, ThePictureShowsTheFourRowsOfKeysWithTheirLettersAndTheNumbersBelow)
+{
+    On<frmKeyboardTutor>([](Clerk& clerk) {
+        const QImage picture = KeyboardPicture(clerk);
+        ASSERT_GT(picture.height(), 300);
+        constexpr int rowHeight = 62;
+        for (int row = 0; row < 4; ++row)
+            EXPECT_GT(DarkPoints(picture, QRect(0, row * rowHeight, picture.width(), rowHeight)), 400)
+                << "row " << row;
+        const int top = 5 * rowHeight;
+        EXPECT_GT(DarkPoints(picture, QRect(0, top, picture.width(), picture.height() - top)), 400);
+    });
+    EXPECT_FALSE(Failure);
+}

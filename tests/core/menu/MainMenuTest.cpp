@@ -1,0 +1,252 @@
+#include "tests/core/menu/MenuTest.h"
+
+#include "core/start/MdlAccounts.h"
+#include "tests/core/ScreenFace.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <QMouseEvent>
+
+namespace {
+
+using MainMenu = MenuTest;
+
+// Double-clicks the current entry of a list.
+void DoubleClick(Clerk& clerk, MenuList& list)
+{
+    clerk.Do([&list] {
+        auto& widget = *static_cast<QListWidget*>(list.Widget());
+        const QPointF at = widget.visualItemRect(widget.currentItem()).center();
+        const QPointF global = widget.viewport()->mapToGlobal(at);
+        for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                 QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, at, global, Qt::LeftButton,
+                type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(widget.viewport(), &event);
+        }
+    });
+}
+
+}
+
+TEST_F(MainMenu, EachMainEntryOpensItsListOnItsFirstEntryAndTheToolsOnTheSecond)
+{
+    Menu([&](Clerk& clerk) {
+        for (int at = 0; at < 5; ++at) {
+            ChooseMain(clerk, at);
+            EXPECT_TRUE(Shows(clerk, SubLists[at]));
+            EXPECT_EQ(clerk.Focus(), QLatin1String(SubLists[at]));
+            EXPECT_EQ(List(clerk, SubLists[at]).CurrentIndex(), at == 4 ? 1 : 0);
+            clerk.Type(QStringLiteral("{ESC}"));
+            EXPECT_FALSE(Shows(clerk, SubLists[at]));
+        }
+    });
+}
+
+TEST_F(MainMenu, EscAndLeftSetTheMainListToTheirFixedPlace)
+{
+    const int after[] = {0, 2, 4, 4, 4};
+    Menu([&](Clerk& clerk) {
+        for (const char* key : {"{ESC}", "{LEFT}"})
+            for (int at = 0; at < 5; ++at) {
+                ChooseMain(clerk, at);
+                clerk.Type(QLatin1String(key));
+                EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
+                EXPECT_EQ(IndexOfMain(clerk), after[at]) << "from list " << at << " by " << key;
+            }
+    });
+}
+
+TEST_F(MainMenu, BaahorOfASubListHidesItAndLeavesTheMainListWhereItWas)
+{
+    Menu([&](Clerk& clerk) {
+        for (int at = 0; at < 5; ++at) {
+            ChooseMain(clerk, at);
+            clerk.Type(QStringLiteral("{END}{ENTER}"));
+            EXPECT_FALSE(Shows(clerk, SubLists[at])) << SubLists[at];
+            EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
+            EXPECT_EQ(IndexOfMain(clerk), at);
+        }
+    });
+}
+
+TEST_F(MainMenu, AClosedMasterSaysThatALoginIsRequiredWhileTheFunctionKeysStillWork)
+{
+    gAppState.gAccessMaster = 0;
+    Menu([&](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("Administrator LogIn Required")));
+        EXPECT_FALSE(Shows(clerk, "ListMaster"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
+        clerk.Type(QStringLiteral("{F7}"));
+        ASSERT_EQ(TheBox.Shown.size(), 2);
+        EXPECT_TRUE(TheBox.Shown[1].contains(QStringLiteral("ऑटो सेटींग्ज")));
+    });
+}
+
+TEST_F(MainMenu, WithEverythingClosedOnlyTheYearlyListOpens)
+{
+    CloseEverything();
+    Menu([&](Clerk& clerk) {
+        for (int at : {0, 1, 2, 4})
+            ChooseMain(clerk, at);
+        EXPECT_EQ(TheBox.Shown.size(), 4);
+        ChooseMain(clerk, 3);
+        EXPECT_TRUE(Shows(clerk, "listYearlyReport"));
+        EXPECT_EQ(TheBox.Shown.size(), 4);
+    });
+}
+
+TEST_F(MainMenu, AnAdministratorIsGrantedAccessToAClosedList)
+{
+    gAppState.gAccessUtilities = 0;
+    gAppState.gAdminLoggedIn = QStringLiteral("YES");
+    Menu([&](Clerk& clerk) {
+        ChooseMain(clerk, 4);
+        EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("Access Granted")));
+        EXPECT_TRUE(Shows(clerk, "ListUtilities"));
+    });
+}
+
+TEST_F(MainMenu, TabActsAsEnter)
+{
+    Menu([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{TAB}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMaster"));
+    });
+}
+
+TEST_F(MainMenu, AnEntryWhoseScreenIsNotThereNamesItInAPlainMessageAndNothingElse)
+{
+    Menu([&](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{ENTER}{DOWN}{ENTER}"));
+        ASSERT_EQ(TheBox.Shown.size(), 1);
+        EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("ग्राहकाचे रजिस्टर")));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMaster")) << "the list stays as it was";
+    });
+}
+
+TEST_F(MainMenu, F9IsPromisedByItsLabelAndDoesNothing)
+{
+    Menu([&](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{F9}"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
+        EXPECT_TRUE(TheBox.Shown.isEmpty());
+    });
+}
+
+TEST_F(MainMenu, F4F7F8AndF12AnswerFromAnyList)
+{
+    Menu([&](Clerk& clerk) {
+        ChooseMain(clerk, 1);
+        clerk.Type(QStringLiteral("{F4}{F8}"));
+        ASSERT_EQ(TheBox.Shown.size(), 2);
+        EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("उचल नोंद")));
+        EXPECT_TRUE(TheBox.Shown[1].contains(QStringLiteral("दूध संकलन")));
+        clerk.Type(QStringLiteral("{F12}"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
+    });
+}
+
+TEST_F(MainMenu, LeavingOffersTheBackupAndAsksAndNoStays)
+{
+    Menu([&](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{END}{ENTER}"));
+        ASSERT_EQ(TheBox.Shown.size(), 1) << "the backup is named first";
+        EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("बॅक अप्")));
+        EXPECT_EQ(clerk.Message(), QStringLiteral("saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ"));
+        clerk.Type(QStringLiteral("%n"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
+        clerk.Type(QStringLiteral("{ESC}%h"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+}
+
+TEST_F(MainMenu, TheCloseBoxClosesAtOnceWithoutBackupOrQuestion)
+{
+    Menu([&](Clerk& clerk) {
+        clerk.CloseBox();
+        EXPECT_EQ(clerk.ScreenName(), QString());
+        EXPECT_TRUE(TheBox.Shown.isEmpty());
+    });
+}
+
+TEST_F(MainMenu, TheMainListGainingTheFocusByMouseHidesEveryListButTheYearlyOne)
+{
+    Menu([](Clerk& clerk) {
+        for (int at = 0; at < 5; ++at) {
+            ChooseMain(clerk, at);
+            clerk.Press(QStringLiteral("ListMain"));
+            EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
+            EXPECT_EQ(Shows(clerk, SubLists[at]), at == 3) << SubLists[at];
+            if (at == 3)
+                clerk.Type(QStringLiteral("{HOME}{DOWN}{DOWN}{DOWN}{ENTER}{ESC}"));
+        }
+    });
+}
+
+TEST_F(MainMenu, ADoubleClickChoosesAsEnterDoes)
+{
+    Menu([&](Clerk& clerk) {
+        DoubleClick(clerk, List(clerk, "ListMain"));
+        ASSERT_TRUE(Shows(clerk, "ListMaster"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMaster"));
+        DoubleClick(clerk, List(clerk, "ListMaster"));
+        ASSERT_EQ(TheBox.Shown.size(), 1) << "the first entry has no screen in this program";
+        EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("उत्पादकाचे रजिस्टर")));
+    });
+}
+
+TEST_F(MainMenu, F2StartsTheCalculatorMaximised)
+{
+    Menu([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
+    EXPECT_EQ(
+        TheCalculator.Started, QStringList(QStringLiteral("C:\\Tarvel01\\Vetrolan\\calc.EXE maximised")));
+}
+
+TEST_F(MainMenu, ItsFaceShowsTitlesHeadingVersionTwiceAndTheSocietyButNoYear)
+{
+    Menu([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(QStringLiteral(" dUQa saMklana saa^FTvaoAr")));
+        EXPECT_EQ(
+            LabelOf(clerk, "lblSystem"), Seen(QStringLiteral(" dUQa saMklana va vyavasqaapna p`NaalaI")));
+        EXPECT_EQ(LabelOf(clerk, "lblMenu"), Seen(QStringLiteral("maona maonaU")));
+        EXPECT_EQ(LabelOf(clerk, "lblVersion"), QStringLiteral("Ver 2.0"));
+        EXPECT_EQ(LabelOf(clerk, "lblVersionFoot"), QStringLiteral("Ver 2.0"));
+        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), QStringLiteral("श्री गणेश दूध संस्था"));
+        EXPECT_EQ(LabelOf(clerk, "lblAcYear"), QString());
+    });
+}
+
+TEST_F(MainMenu, TodaysDateIsTheMachinesAtLoadAndIsNotUpdated)
+{
+    Menu([&](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblTodayDate"), QStringLiteral("15/04/2026"));
+        TheClock.Time = TheClock.Time.addDays(1);
+        clerk.Type(QStringLiteral("{ENTER}{ESC}{F12}{ESC}"));
+        EXPECT_EQ(LabelOf(clerk, "lblTodayDate"), QStringLiteral("15/04/2026"));
+    });
+}
+
+TEST_F(MainMenu, WithoutACompanyTheDateAskedForIsEmptyThenTodayAndTheMenuNamesNoSociety)
+{
+    Run(QStringLiteral("delete * from CompanySelected"));
+    gCn.Close();
+    ASSERT_TRUE(LoadAppState());
+    On<MainMenuFrm>([](Clerk& clerk) {
+        ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmAppDate"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("MaskAppDate")), QStringLiteral("__/__/____"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.Message(), QStringLiteral(" idnaaMk vyavaisqat Ta[-p kra."));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("MaskAppDate")), QStringLiteral("15/04/2026"));
+        clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
+        ASSERT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
+        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), QString());
+        EXPECT_EQ(LabelOf(clerk, "lblAcYear"), QString());
+    });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(gAppState.gCompanyId, 0);
+    EXPECT_EQ(gAppState.gAppDate, QDate(2026, 4, 15));
+}

@@ -1,0 +1,392 @@
+#include "tests/core/preview/ReportPreviewTest.h"
+
+#include "core/menu/Keys.h"
+#include "core/preview/ReportPreviewPage.h"
+#include "platform/forms/Look.h"
+#include "platform/text/Shivaji01.h"
+#include "tests/core/ScreenFace.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QScrollBar>
+
+namespace {
+
+constexpr int LongReport = 30000; // deliveries; they fill more than 300 pages
+
+// What the head of the preview says when its page is painted for the first time.
+class FirstPaint final : public QObject {
+public:
+    FirstPaint() { qApp->installEventFilter(this); }
+    QString Pages;
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && Pages.isEmpty() && object->parent()
+            && object->parent()->objectName() == u"picPage")
+            Pages = static_cast<QWidget*>(object)
+                        ->window()
+                        ->findChild<QLabel*>(QStringLiteral("lblPages"))
+                        ->text();
+        return false;
+    }
+};
+
+class Preview : public ReportPreviewTest {
+protected:
+    // Five deliveries, each on a page of its own: the second and the fourth are Kamal's.
+    void AddFivePages()
+    {
+        AddDeliveries(5, [](int number) {
+            return number % 2 == 0 ? QStringLiteral("कमल पाटील") : QStringLiteral("अशोक शिंदे");
+        });
+        WritePagesTemplate();
+    }
+
+    static ReportPageView& View(Clerk& clerk)
+    {
+        return dynamic_cast<ReportPageView&>(*clerk.Top().Find(u"picPage"));
+    }
+
+    static int Scrolled(Clerk& clerk)
+    {
+        return static_cast<QAbstractScrollArea*>(View(clerk).Widget())->verticalScrollBar()->value();
+    }
+
+    // Types without a rest between the keys, so that little is laid out meanwhile.
+    static void TypeAtOnce(Clerk& clerk, const QString& keys)
+    {
+        clerk.Do([&] { SendKeys(keys); });
+    }
+
+    // Types words into the search and looks for them.
+    static void Seek(Clerk& clerk, const QString& words)
+    {
+        clerk.Type(QStringLiteral("^f"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtSearch"));
+        clerk.Type(Shivaji01::FromUnicode(words) + QStringLiteral("{ENTER}"));
+    }
+};
+
+}
+
+TEST_F(Preview, TheFirstPageIsSeenBeforeTheLastOfThreeHundredIsLaidOut)
+{
+    AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
+    WriteTableTemplate();
+    FirstPaint first;
+    Show([&](Clerk& clerk) {
+        EXPECT_EQ(first.Pages, QStringLiteral("1 / …"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / …"));
+        TypeAtOnce(clerk, QStringLiteral("{F6}{PGDN}{PGDN}{END}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("3 / …")) << "one can leaf before the last page is there";
+        EXPECT_EQ(State(clerk), QStringLiteral("शेवटचे पान तयार होत आहे …"));
+        WaitForLastPage(clerk);
+        const QStringList pages = Pages(clerk).split(QStringLiteral(" / "));
+        EXPECT_EQ(pages.first(), pages.last()) << "End leads to the last page once it is there";
+        EXPECT_GE(pages.last().toInt(), 300);
+        EXPECT_EQ(State(clerk), QString());
+    });
+}
+
+TEST_F(Preview, ATurnOfThePageWhileTheLastIsAwaitedStays)
+{
+    AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
+    WriteTableTemplate();
+    Show([](Clerk& clerk) {
+        TypeAtOnce(clerk, QStringLiteral("{F6}{END}{PGDN}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / …"));
+        WaitForLastPage(clerk);
+        EXPECT_TRUE(Pages(clerk).startsWith(QStringLiteral("2 / "))) << qPrintable(Pages(clerk));
+    });
+}
+
+TEST_F(Preview, TheTitleIsTheReportsAndTheKeysFitIntoTheWindow)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        EXPECT_EQ(clerk.Top().Title().Seen(), QStringLiteral("Deliveries"));
+        EXPECT_LE(clerk.Top().minimumSizeHint().width(), Look::ScreenWidth);
+        EXPECT_LE(clerk.Top().minimumSizeHint().height(), Look::ScreenHeight);
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("picPage"));
+    });
+}
+
+TEST_F(Preview, AReportWithATitleShowsItInPlaceOfItsName)
+{
+    WriteTemplate(QStringLiteral("<report name=\"Deliveries\" title=\"दूध संकलन रिपोर्ट\" paper=\"A4\">"
+                                 "<text>एक</text></report>"));
+    Show([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), QStringLiteral("दूध संकलन रिपोर्ट"));
+        WaitForLastPage(clerk);
+        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 1"));
+    });
+}
+
+TEST_F(Preview, PgDnAndPgUpHomeAndEndTurnThePagesThatAreWhollySeen)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        clerk.Type(QStringLiteral("{F6}"));
+        const std::pair<const char*, const char*> steps[] = {{"{PGUP}", "1 / 5"}, {"{PGDN}", "2 / 5"},
+            {"{PGDN}", "3 / 5"}, {"{PGUP}", "2 / 5"}, {"{END}", "5 / 5"}, {"{PGDN}", "5 / 5"},
+            {"{HOME}", "1 / 5"}};
+        for (const auto& [key, pages] : steps) {
+            clerk.Type(QLatin1String(key));
+            EXPECT_EQ(Pages(clerk), QLatin1String(pages)) << key;
+        }
+    });
+}
+
+TEST_F(Preview, AnArrowScrollsAPageThatIsLargerThanTheWindowAndTurnsItAtItsEdge)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        clerk.Type(QStringLiteral("{DOWN}"));
+        const int once = Scrolled(clerk);
+        EXPECT_GT(once, 0);
+        clerk.Type(QStringLiteral("{DOWN}{UP}"));
+        EXPECT_EQ(Scrolled(clerk), once);
+        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
+        for (int presses = 0; presses < 100 && Pages(clerk) == QStringLiteral("1 / 5"); ++presses)
+            clerk.Type(QStringLiteral("{DOWN}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
+        EXPECT_EQ(Scrolled(clerk), 0) << "the next page from its top";
+        clerk.Type(QStringLiteral("{UP}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
+        EXPECT_GT(Scrolled(clerk), once) << "the page before from its bottom";
+    });
+}
+
+TEST_F(Preview, PgDnAndPgUpScrollALargerPageByTheWindowAndTurnItAtItsEdge)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        clerk.Type(QStringLiteral("{F7}{PGDN}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
+        EXPECT_GT(Scrolled(clerk), View(clerk).Widget()->height() / 4);
+        EXPECT_LT(Scrolled(clerk), View(clerk).Widget()->height()) << "nothing is passed over";
+        for (int presses = 0; presses < 10 && Pages(clerk) == QStringLiteral("1 / 5"); ++presses)
+            clerk.Type(QStringLiteral("{PGDN}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
+        EXPECT_EQ(Scrolled(clerk), 0);
+        clerk.Type(QStringLiteral("{PGUP}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
+        EXPECT_GT(Scrolled(clerk), 0) << "the page before from its bottom";
+    });
+}
+
+TEST_F(Preview, ASlipIsWhollyAndLegiblySeenAtOnceAndCanBeScrolledWhenItIsEnlarged)
+{
+    for (const char* roll : {"58mm", "80mm"}) {
+        WriteTemplate(QStringLiteral("<report name=\"Deliveries\" paper=\"%1\" margin=\"4\"><text>एक</text>"
+                                     "<space h=\"80\"/><text>दोन</text></report>")
+                          .arg(QLatin1String(roll)));
+        Show([](Clerk& clerk) {
+            WaitForLastPage(clerk);
+            EXPECT_GE(View(clerk).Percent(), 100) << qPrintable(Zoom(clerk));
+            clerk.Type(QStringLiteral("{DOWN}"));
+            EXPECT_EQ(Scrolled(clerk), 0) << "all of it is seen";
+            for (int presses = 0; presses < 15; ++presses)
+                clerk.Type(QStringLiteral("{+}"));
+            EXPECT_EQ(Scrolled(clerk), 0);
+            clerk.Type(QStringLiteral("{DOWN}"));
+            const int once = Scrolled(clerk);
+            EXPECT_GT(once, 0);
+            clerk.Type(QStringLiteral("{PGDN}"));
+            EXPECT_GT(Scrolled(clerk), once);
+        });
+    }
+}
+
+TEST_F(Preview, APageThatWouldBeTooSmallAsAWholeIsShownInItsWidthAtFirst)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        const QString first = Zoom(clerk);
+        clerk.Type(QStringLiteral("{F5}"));
+        EXPECT_EQ(Zoom(clerk), first);
+        EXPECT_GE(View(clerk).Percent(), 75);
+    });
+}
+
+TEST_F(Preview, ThePageIsFittedToTheWidthToTheWindowOrShownInItsOwnSize)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        const QString wide = Zoom(clerk);
+        clerk.Type(QStringLiteral("{F6}"));
+        const QString whole = Zoom(clerk);
+        EXPECT_NE(whole, wide);
+        clerk.Type(QStringLiteral("{DOWN}"));
+        EXPECT_EQ(View(clerk).Text(), QStringLiteral("2")) << "there is nothing to scroll in a whole page";
+        clerk.Type(QStringLiteral("{F7}"));
+        EXPECT_EQ(Zoom(clerk), QStringLiteral("100 %"));
+        clerk.Type(QStringLiteral("{F5}"));
+        EXPECT_EQ(Zoom(clerk), wide);
+    });
+}
+
+TEST_F(Preview, PlusAndMinusGoThroughTheSizesAndStopAtTheLast)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{F7}{+}"));
+        EXPECT_EQ(Zoom(clerk), QStringLiteral("125 %"));
+        clerk.Type(QStringLiteral("--"));
+        EXPECT_EQ(Zoom(clerk), QStringLiteral("75 %"));
+        for (int presses = 0; presses < 15; ++presses)
+            clerk.Type(QStringLiteral("-"));
+        EXPECT_EQ(Zoom(clerk), QStringLiteral("25 %"));
+        for (int presses = 0; presses < 15; ++presses)
+            clerk.Type(QStringLiteral("{+}"));
+        EXPECT_EQ(Zoom(clerk), QStringLiteral("300 %"));
+        clerk.Type(QStringLiteral("{RIGHT}"));
+        const auto* area = static_cast<QAbstractScrollArea*>(View(clerk).Widget());
+        EXPECT_GT(area->horizontalScrollBar()->value(), 0);
+        clerk.Type(QStringLiteral("{LEFT}"));
+        EXPECT_EQ(area->horizontalScrollBar()->value(), 0);
+    });
+}
+
+TEST_F(Preview, ASearchGoesToThePageAndMarksTheHitAndF3GoesOn)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        Seek(clerk, QStringLiteral("कमल"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("picPage"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
+        EXPECT_FALSE(View(clerk).Marked().isEmpty());
+        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 2"));
+        const std::pair<const char*, const char*> steps[] = {
+            {"{F3}", "4 / 5"}, {"{F3}", "2 / 5"}, {"+{F3}", "4 / 5"}, {"+{F3}", "2 / 5"}};
+        for (const auto& [key, pages] : steps) {
+            clerk.Type(QLatin1String(key));
+            EXPECT_EQ(Pages(clerk), QLatin1String(pages)) << key;
+            EXPECT_FALSE(View(clerk).Marked().isEmpty()) << key;
+        }
+        clerk.Type(QStringLiteral("{END}{F3}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5")) << "behind the last it begins anew";
+        clerk.Type(QStringLiteral("{F6}{PGDN}{F3}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("4 / 5")) << "it goes on from the page that is looked at";
+    });
+}
+
+TEST_F(Preview, ASearchThatFindsNothingSaysSoAndLeavesThePage)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        clerk.Type(QStringLiteral("{F6}{PGDN}"));
+        Seek(clerk, QStringLiteral("गणपत"));
+        EXPECT_EQ(State(clerk), QStringLiteral("सापडले नाही"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
+        EXPECT_TRUE(View(clerk).Marked().isEmpty());
+        clerk.Type(QStringLiteral("{F3}"));
+        EXPECT_EQ(State(clerk), QStringLiteral("सापडले नाही"));
+    });
+}
+
+TEST_F(Preview, AnEmptySearchAsksForTheWords)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{F3}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtSearch"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtSearch"));
+        EXPECT_EQ(State(clerk), QString());
+    });
+}
+
+TEST_F(Preview, FiguresAndDatesAreFoundAsTheyAreTyped)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        clerk.Type(QStringLiteral("^f1.50{ENTER}"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("3 / 5"));
+        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 1"));
+        clerk.Type(QStringLiteral("^f05/04/2026{ENTER}"));
+        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 3 / 5"));
+    });
+}
+
+TEST_F(Preview, LatinLettersOnThePaperAreFoundAsTheyAreTyped)
+{
+    WriteTemplate(QStringLiteral("<report name=\"Deliveries\" paper=\"A4\"><text>SNF</text></report>"));
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        clerk.Type(QStringLiteral("^fSNF{ENTER}"));
+        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 1"));
+    });
+}
+
+TEST_F(Preview, BlanksAroundTheTypedWordsAreNoPartOfThem)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        clerk.Type(QStringLiteral("^f ") + Shivaji01::FromUnicode(QStringLiteral("पाटील"))
+            + QStringLiteral(" {ENTER}"));
+        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 2"));
+    });
+}
+
+TEST_F(Preview, ASearchBehindWhatIsLaidOutWaitsForTheRest)
+{
+    AddDeliveries(LongReport, [](int number) {
+        return number == LongReport - 1 ? QStringLiteral("कमल पाटील") : QStringLiteral("अशोक शिंदे");
+    });
+    WriteTableTemplate();
+    Show([](Clerk& clerk) {
+        TypeAtOnce(clerk, QStringLiteral("^f") + Shivaji01::FromUnicode(QStringLiteral("कमल")) + u"{ENTER}");
+        EXPECT_EQ(State(clerk), QStringLiteral("शोधत आहे …"));
+        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / …"));
+        WaitForLastPage(clerk);
+        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 1"));
+        EXPECT_GE(View(clerk).Text().toInt(), 300);
+        EXPECT_FALSE(View(clerk).Marked().isEmpty());
+    });
+}
+
+TEST_F(Preview, EscLeavesTheSearchFirstAndThenCloses)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("^f{ESC}"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("picPage"));
+        clerk.Type(QStringLiteral("{ESC}"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+}
+
+TEST_F(Preview, EscClosesAReportWhoseLastPageIsNotYetThereAndTheNextReadsTheBooksAnew)
+{
+    AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
+    WriteTableTemplate();
+    Show([](Clerk& clerk) { clerk.Type(QStringLiteral("{ESC}")); });
+    Run(QStringLiteral("delete * from MilkCollectionsTemp"));
+    AddDeliveries(1, [](int) { return QStringLiteral("कमल पाटील"); });
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 1"));
+    });
+}
+
+TEST_F(Preview, ThePageNumbersOnThePagesAreCompleteOnceTheyAreKnown)
+{
+    AddFivePages();
+    Show([](Clerk& clerk) {
+        WaitForLastPage(clerk);
+        clerk.Type(QStringLiteral("^f5{ENTER}"));
+        EXPECT_NE(State(clerk), QStringLiteral("सापडले नाही"));
+    });
+}

@@ -1,0 +1,246 @@
+#include "core/preview/ReportSubject.h"
+#include "tests/core/ScreenFace.h"
+#include "tests/core/preview/ReportPreviewTest.h"
+
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace {
+
+// A disk on which no file can grow beyond a size.
+class SmallDisk {
+public:
+    explicit SmallDisk(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit small{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SmallDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int);
+};
+
+const QString PdfKey = QStringLiteral("^s");
+const QString CsvKey = QStringLiteral("^e");
+
+class ReportSaving : public ReportPreviewTest {
+protected:
+    ReportSaving()
+    {
+        AddDeliveries(3, [](int number) {
+            return number == 2 ? QStringLiteral("कमल, पाटील") : QStringLiteral("क्षमा द्विवेदी");
+        });
+        WriteTableTemplate();
+    }
+
+    QStringList InFolder() const
+    {
+        return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
+
+    QByteArray Content(const QString& name) const
+    {
+        QFile file(Saved(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    void Put(const QString& name, const QByteArray& content) const
+    {
+        QFile file(Saved(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+};
+
+}
+
+TEST_F(ReportSaving, ThePdfReadsAsTheScreenDoes)
+{
+    Show([this](Clerk& clerk) {
+        SaveAs(clerk, PdfKey, QStringLiteral("april.pdf"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        EXPECT_EQ(State(clerk), QStringLiteral("जतन केले: ") + Saved(QStringLiteral("april.pdf")));
+    });
+    const QString text = PdfText(Saved(QStringLiteral("april.pdf")));
+    for (const char* piece : {"श्री गणेश दूध संस्था", "क्षमा द्विवेदी", "कमल, पाटील", "पान 1 / 1", "3.00"})
+        EXPECT_TRUE(text.contains(QString::fromUtf8(piece))) << piece << " in " << qPrintable(text);
+    EXPECT_EQ(InFolder(), QStringList(QStringLiteral("april.pdf")));
+}
+
+TEST_F(ReportSaving, TheCsvIsUnicodeWithItsMarkAndOneRowARecord)
+{
+    Show([this](Clerk& clerk) { SaveAs(clerk, CsvKey, QStringLiteral("april.csv")); });
+    EXPECT_EQ(Content(QStringLiteral("april.csv")).toStdString(),
+        "\xEF\xBB\xBF"
+        "क्र.,नाव,दिनांक,लिटर्स\r\n"
+        "1,क्षमा द्विवेदी,05/04/2026,0.50\r\n"
+        "2,\"कमल, पाटील\",05/04/2026,1.00\r\n"
+        "3,क्षमा द्विवेदी,05/04/2026,1.50\r\n");
+}
+
+TEST_F(ReportSaving, TheReportsNameAndTheDayAreProposedInTheClerksDocuments)
+{
+    Show([](Clerk& clerk) {
+        clerk.Type(PdfKey);
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")), QStringLiteral("Deliveries 15-04-2026.pdf"));
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtFolder")),
+            QDir(documents).exists() ? documents : QDir::homePath());
+        clerk.Type(QStringLiteral("{ESC}") + CsvKey);
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")), QStringLiteral("Deliveries 15-04-2026.csv"));
+    });
+}
+
+TEST_F(ReportSaving, ATitleIsProposedInPlaceOfTheNameWithoutSignsThatNoFileTakes)
+{
+    WriteTemplate(QStringLiteral("<report name=\"Deliveries\" title=\"दूध यादी : बँक\" paper=\"A4\">"
+                                 "<text>एक</text></report>"));
+    Show([](Clerk& clerk) {
+        clerk.Type(PdfKey);
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")), QStringLiteral("दूध यादी - बँक 15-04-2026.pdf"));
+    });
+}
+
+TEST_F(ReportSaving, TheNameCarriesWhatTheReportIsAbout)
+{
+    ReportControl control = Control();
+    control.SetSubject(
+        ReportSubject({QStringLiteral("saunaIta paTIla"), QString()}, QDate(2026, 4, 1), QDate(2026, 4, 10)));
+    TheClerk.Play([&] { control.Print(); },
+        [](Clerk& clerk) {
+            clerk.Type(CsvKey);
+            EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")),
+                QStringLiteral("Deliveries सुनीता पाटील 01-04-2026 ते 10-04-2026.csv"));
+        });
+}
+
+TEST_F(ReportSaving, OneDayIsNamedOnceAndWithoutAnyItIsToday)
+{
+    EXPECT_EQ(ReportSubject({QStringLiteral("gaaya")}, QDate(2026, 4, 1), QDate(2026, 4, 1)),
+        QStringLiteral("गाय 01-04-2026"));
+    EXPECT_EQ(ReportSubject({}, QDate(2026, 4, 1)), QStringLiteral("01-04-2026"));
+    EXPECT_EQ(ReportSubject({QStringLiteral("puNao")}), QStringLiteral("पुणे 15-04-2026"));
+}
+
+TEST_F(ReportSaving, ANameWithoutItsEndingGetsIt)
+{
+    Show([this](Clerk& clerk) { SaveAs(clerk, PdfKey, QStringLiteral("april.2026")); });
+    EXPECT_EQ(InFolder(), QStringList(QStringLiteral("april.2026.pdf")));
+}
+
+TEST_F(ReportSaving, EscAndTheExitButtonSaveNothing)
+{
+    Show([this](Clerk& clerk) {
+        clerk.Type(PdfKey + QStringLiteral("april{ENTER}") + m_folder.path() + QStringLiteral("{ESC}"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        clerk.Type(
+            PdfKey + QStringLiteral("april{ENTER}") + m_folder.path() + QStringLiteral("{ENTER}{TAB}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdExit"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        EXPECT_EQ(State(clerk), QString());
+    });
+    EXPECT_EQ(InFolder(), QStringList());
+}
+
+TEST_F(ReportSaving, AFileThatIsThereIsOnlyReplacedAfterAYes)
+{
+    Put(QStringLiteral("april.csv"), "old");
+    Show([this](Clerk& clerk) {
+        SaveAs(clerk, CsvKey, QStringLiteral("april.csv"));
+        EXPECT_EQ(clerk.Message(), QStringLiteral("या नावाची फाइल आधीच आहे. ती बदलायची का?"));
+        clerk.Type(QStringLiteral("%h"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+    });
+    EXPECT_TRUE(Content(QStringLiteral("april.csv")).contains("0.50"));
+}
+
+TEST_F(ReportSaving, ANoLeavesTheFileAndAsksForAnotherName)
+{
+    Put(QStringLiteral("april.csv"), "old");
+    Show([this](Clerk& clerk) {
+        SaveAs(clerk, CsvKey, QStringLiteral("april.csv"));
+        clerk.Type(QStringLiteral("{ENTER}")); // what replaces a file isn't done by an Enter too many
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportFile"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFile"));
+        EXPECT_EQ(Content(QStringLiteral("april.csv")).toStdString(), "old");
+        clerk.Type(QStringLiteral("may{ENTER}{ENTER}{ENTER}"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+    });
+    EXPECT_EQ(InFolder(), QStringList({QStringLiteral("april.csv"), QStringLiteral("may.csv")}));
+}
+
+TEST_F(ReportSaving, AMissingFolderIsToldAndAskedForAgain)
+{
+    const QString missing = Saved(QStringLiteral("nowhere"));
+    Show([&](Clerk& clerk) {
+        clerk.Type(PdfKey + QStringLiteral("{ENTER}") + missing + QStringLiteral("{ENTER}{ENTER}"));
+        ASSERT_EQ(TheBox.Shown.size(), 1);
+        EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("हा फोल्डर नाही")))
+            << qPrintable(TheBox.Shown.first());
+        EXPECT_TRUE(TheBox.Shown.first().contains(missing));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportFile"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFolder"));
+    });
+    EXPECT_FALSE(QDir(missing).exists());
+}
+
+TEST_F(ReportSaving, AnEmptyNameOrFolderIsAskedForAgain)
+{
+    Show([&](Clerk& clerk) {
+        clerk.Type(PdfKey + QStringLiteral("{DEL}{ENTER}{ENTER}{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFile"));
+        clerk.Type(QStringLiteral("april{ENTER}{DEL}{ENTER}{ENTER}"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFolder"));
+        EXPECT_EQ(TheBox.Shown.size(), 1);
+    });
+}
+
+TEST_F(ReportSaving, AFolderOfThatNameIsNotWrittenOver)
+{
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("april.pdf")));
+    Show([&](Clerk& clerk) {
+        SaveAs(clerk, PdfKey, QStringLiteral("april"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFile"));
+        ASSERT_EQ(TheBox.Shown.size(), 1);
+        EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("या नावाचा फोल्डर आहे")));
+    });
+}
+
+TEST_F(ReportSaving, AFullDiskIsToldAndLeavesTheOldFileAndNothingElse)
+{
+    for (const QString& ending : {QStringLiteral("pdf"), QStringLiteral("csv")}) {
+        const QString name = QStringLiteral("april.") + ending;
+        Put(name, "old");
+        TheBox.Shown.clear();
+        Show([&](Clerk& clerk) {
+            WaitForLastPage(clerk);
+            SaveAs(clerk, ending == u"pdf" ? PdfKey : CsvKey, name);
+            const SmallDisk full(40);
+            clerk.Type(QStringLiteral("%h"));
+            ASSERT_EQ(TheBox.Shown.size(), 1);
+            EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("फाइल लिहिता आली नाही")))
+                << qPrintable(TheBox.Shown.first());
+            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+            EXPECT_EQ(State(clerk), QString());
+        });
+        EXPECT_EQ(Content(name).toStdString(), "old");
+        EXPECT_EQ(InFolder(), QStringList(name));
+        QFile::remove(Saved(name));
+    }
+    EXPECT_EQ(One(QStringLiteral("select count(*) from MilkCollectionsTemp")), QStringLiteral("3"));
+}

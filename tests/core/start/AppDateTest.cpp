@@ -1,0 +1,123 @@
+#include "tests/support/SocietyTest.h"
+
+#include "core/start/AppDate.h"
+#include "tests/core/ScreenFace.h"
+
+namespace {
+
+class AppDate : public SocietyTest {
+protected:
+    AppDate() { gAppState.gAppDate = QDate(); }
+
+    void AddDelivery(const QString& date, int number)
+    {
+        Run(QStringLiteral("insert into MilkCollections(CompanyId,CollectionDate,CollectionTime,CollectionNo,"
+                           "MemberNo,MemberName,Animal,Liters,Fat,Rate,Amount,TranId,ActualCollectionTime) "
+                           "values(1,'%1','sakaL',%2,1,'A','gaaya',1,4,30,30,0,'6.05')")
+                .arg(date)
+                .arg(number));
+    }
+
+    const QString Mask = QStringLiteral("MaskAppDate");
+};
+
+}
+
+TEST_F(AppDate, WithoutCollectionsTheFirstOfAprilOfTheAccountingYearIsProposed)
+{
+    gAppState.gAccountingYear = QStringLiteral("2010-2011");
+    On<frmAppDate>([&](Clerk& clerk) { EXPECT_EQ(clerk.Reads(Mask), QStringLiteral("01/04/2010")); });
+}
+
+TEST_F(AppDate, TheLatestDayWithACollectionIsProposedThoughItLiesInThePast)
+{
+    AddDelivery(QStringLiteral("09/04/2026"), 1);
+    AddDelivery(QStringLiteral("30/03/2026"), 2);
+    On<frmAppDate>([&](Clerk& clerk) { EXPECT_EQ(clerk.Reads(Mask), QStringLiteral("09/04/2026")); });
+}
+
+TEST_F(AppDate, TheDateTypedOverTheProposalBecomesTheWorkingDay)
+{
+    On<frmAppDate>([&](Clerk& clerk) {
+        clerk.Type(QStringLiteral("15042026{ENTER}"));
+        EXPECT_EQ(gAppState.gAppDate, QDate(2026, 4, 15));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdExit"));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+}
+
+TEST_F(AppDate, AnyValidDatePassesAlsoOneOutsideTheAccountingYear)
+{
+    On<frmAppDate>([&](Clerk& clerk) {
+        clerk.Type(QStringLiteral("01011999{ENTER}"));
+        EXPECT_EQ(gAppState.gAppDate, QDate(1999, 1, 1));
+    });
+}
+
+TEST_F(AppDate, AnEmptyMaskRaisesTheNoticeAndFillsInTodaysDate)
+{
+    On<frmAppDate>([&](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{DEL}{ENTER}"));
+        EXPECT_EQ(clerk.Message(), QStringLiteral(" idnaaMk vyavaisqat Ta[-p kra."));
+        EXPECT_FALSE(gAppState.gAppDate.isValid());
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.Reads(Mask), QStringLiteral("15/04/2026"));
+        EXPECT_EQ(clerk.Focus(), Mask);
+        clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+    EXPECT_EQ(gAppState.gAppDate, QDate(2026, 4, 15));
+}
+
+TEST_F(AppDate, ADateThatIsNoneStopsWithTheRunTimeErrorBeforeTheNotice)
+{
+    for (const char* typed : {"31022026", "25132026", "13252026", "1"}) {
+        On<frmAppDate>([&](Clerk& clerk) {
+            clerk.Type(QLatin1String(typed) + QStringLiteral("{ENTER}"));
+            EXPECT_EQ(clerk.ScreenName(), QString());
+        });
+        ASSERT_TRUE(Failure) << typed;
+        EXPECT_EQ(Failure->Number(), RunTimeError::TypeMismatch);
+    }
+}
+
+TEST_F(AppDate, ClosedByItsCloseBoxBeforeTheFieldWasLeftTheWorkingDayStaysUnset)
+{
+    On<frmAppDate>([](Clerk& clerk) { clerk.CloseBox(); });
+    EXPECT_FALSE(gAppState.gAppDate.isValid());
+}
+
+TEST_F(AppDate, TheButtonDoesNotCloseOverAnEmptyMask)
+{
+    On<frmAppDate>([&](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{DEL}"));
+        clerk.Press(QStringLiteral("cmdExit"));
+        EXPECT_EQ(clerk.Message(), QStringLiteral(" idnaaMk vyavaisqat Ta[-p kra."));
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmAppDate"));
+    });
+}
+
+TEST_F(AppDate, FieldAndButtonWearTheDateColourWithoutTheFocus)
+{
+    const QColor plain(0xAF, 0xBF, 0xC9);
+    const QColor focus(0xFF, 0xC0, 0xC0);
+    On<frmAppDate>([&](Clerk& clerk) {
+        EXPECT_EQ(BackgroundOf(clerk, "MaskAppDate"), focus);
+        EXPECT_EQ(BackgroundOf(clerk, "cmdExit"), plain);
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(BackgroundOf(clerk, "MaskAppDate"), plain);
+        EXPECT_EQ(BackgroundOf(clerk, "cmdExit"), focus);
+    });
+}
+
+TEST_F(AppDate, ItsFaceNamesTheDateTwiceAndTheButtonPuzo)
+{
+    On<frmAppDate>([](Clerk& clerk) {
+        EXPECT_EQ(clerk.Top().Title().Text(), QStringLiteral(" idnaaMk "));
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(QStringLiteral(" idnaaMk ")));
+        EXPECT_EQ(LabelOf(clerk, "lblDate"), Seen(QStringLiteral("idnaaMk")));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("puZo"));
+    });
+}

@@ -1,0 +1,35 @@
+#include "core/start/BooksKeeper.h"
+#include "platform/database/Transaction.h"
+#include "tests/support/SocietyTest.h"
+
+namespace {
+
+// Nobody leaves a screen here and no second passes, so that only the length of the log can fold it.
+class BooksKeeperTest : public SocietyTest {
+protected:
+    void Write(qsizetype letters)
+    {
+        Transaction writing(gCn);
+        Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'%1')")
+                .arg(QString(letters, u'a')));
+        writing.Commit();
+    }
+
+    QString Written()
+    {
+        return One(QStringLiteral("select count(*) from CityMaster where CityName like 'aaa%'"));
+    }
+
+    BooksKeeper Keeper;
+};
+
+TEST_F(BooksKeeperTest, ALogAboveEightMegabytesIsFoldedOnTheWay)
+{
+    Write(7 * 1024 * 1024);
+    EXPECT_GT(gCn.LogSize(), 7 * 1024 * 1024);
+    Write(1024 * 1024);
+    EXPECT_EQ(gCn.LogSize(), 0);
+    EXPECT_EQ(Written(), QStringLiteral("2"));
+}
+
+}

@@ -1,0 +1,218 @@
+#include "tests/support/SocietyTest.h"
+
+#include "core/start/MdlAccounts.h"
+#include "platform/shell/AppFolder.h"
+#include "platform/text/PasswordItems.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QStringConverter>
+
+namespace {
+
+class StartUp : public SocietyTest {
+protected:
+    // Starts anew on the books as they stand now.
+    bool StartAgain()
+    {
+        gCn.Close();
+        return LoadAppState();
+    }
+
+    // The number of the run-time error that starting anew stops with; 0 if it gets through.
+    int ErrorOfStart()
+    {
+        try {
+            StartAgain();
+        } catch (const RunTimeError& error) {
+            return error.Number();
+        }
+        return 0;
+    }
+};
+
+// Disguises a password the way the installer does, one item a line.
+QStringList Disguised(const QString& password, QChar key)
+{
+    QStringList items;
+    for (QChar c : password)
+        items.append(QChar(c.unicode() + key.unicode()));
+    return items << QString(key);
+}
+
+}
+
+TEST_F(StartUp, TakesTheCompanyTheSettingsAndTheRightsFromTheBooks)
+{
+    Run(QStringLiteral("update AutoSettings set AutoFat=' haoya ',WeighScale=' MCS '"));
+    ASSERT_TRUE(StartAgain());
+    EXPECT_EQ(gAppState.gCompanyId, 1);
+    EXPECT_EQ(Seen(gAppState.gCompanyName), QStringLiteral("श्री गणेश दूध संस्था"));
+    EXPECT_EQ(gAppState.gAccountingYear.left(4), QStringLiteral("2026"));
+    EXPECT_EQ(gAppState.gFromDate, QDate(2026, 4, 1));
+    EXPECT_EQ(gAppState.gToDate, QDate(2027, 3, 31));
+    EXPECT_EQ(gAppState.gAutoFat, QStringLiteral("haoya"));
+    EXPECT_EQ(gAppState.gWeighScale, QStringLiteral("MCS"));
+    EXPECT_EQ(gAppState.gExtraRsPerLtr, QStringLiteral("0"));
+    EXPECT_EQ(gAppState.gCallerTag, QStringLiteral("N"));
+    EXPECT_EQ(gAppState.gAdminLoggedIn, QStringLiteral("NO"));
+    EXPECT_NE(gAppState.gAccessMaster, 0);
+    EXPECT_NE(gAppState.gAccessUtilities, 0);
+    EXPECT_FALSE(gAppState.gAppDate.isValid());
+}
+
+TEST_F(StartUp, AnEmptyCompanySelectedTurnsTheCompanyIntoZeroAndGoesOn)
+{
+    Run(QStringLiteral("delete * from CompanySelected"));
+    ASSERT_TRUE(StartAgain());
+    EXPECT_EQ(gAppState.gCompanyId, 0);
+    EXPECT_TRUE(gAppState.gCompanyName.isEmpty());
+    EXPECT_TRUE(gAppState.gAccountingYear.isEmpty());
+    EXPECT_TRUE(gAppState.gAutoFat.isEmpty()) << "no settings row has company 0";
+}
+
+TEST_F(StartUp, TheCompanyIs1BeforeItIsReadAndStays1WhenTheReadingStopsWithAnError)
+{
+    gCn.RunScript(QStringLiteral("drop table CompanySelected"));
+    gAppState.gCompanyId = 7;
+    EXPECT_EQ(ErrorOfStart(), RunTimeError::DatabaseFailure);
+    EXPECT_EQ(gAppState.gCompanyId, 1);
+    EXPECT_EQ(gAppState.gDbPassword, QStringLiteral("Doodh#26")) << "the steps before it are done";
+    EXPECT_TRUE(gAppState.gCompanyName.isEmpty());
+}
+
+TEST_F(StartUp, WithoutASettingsRowTheSettingsStayEmpty)
+{
+    Run(QStringLiteral("delete * from AutoSettings"));
+    ASSERT_TRUE(StartAgain());
+    EXPECT_TRUE(gAppState.gPaymentDuration.isEmpty());
+    EXPECT_TRUE(gAppState.gAutoLiters.isEmpty());
+    EXPECT_TRUE(gAppState.gExtraRsPerLtr.isEmpty());
+}
+
+TEST_F(StartUp, WithoutAnyRightTheMessageIsShownAndNoScreenComesUp)
+{
+    Run(QStringLiteral("delete * from MenuAccessTable"));
+    gCn.Close();
+    Failure =
+        TheClerk.Play([] { AppMain(); }, [](Clerk& clerk) { EXPECT_EQ(clerk.ScreenName(), QString()); });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("Contact Service provider for Technical Support")));
+}
+
+TEST_F(StartUp, RightsWithoutARowForMasterLeaveTheMasterListClosed)
+{
+    Run(QStringLiteral("delete * from MenuAccessTable where MenuName='Master'"));
+    Run(QStringLiteral("insert into MenuAccessTable(MenuName,AccessYesNo) values('Milk Master',1)"));
+    ASSERT_TRUE(StartAgain());
+    EXPECT_EQ(gAppState.gAccessMaster, 0);
+    EXPECT_NE(gAppState.gAccessStockVoucher, 0);
+}
+
+TEST_F(StartUp, EachMenuNameFillsItsOwnFlag)
+{
+    Run(QStringLiteral("delete * from MenuAccessTable"));
+    const QStringList names = {QStringLiteral("Master"), QStringLiteral("Account Voucher"),
+        QStringLiteral("Stock Voucher"), QStringLiteral("Account Report"), QStringLiteral("Stock Report"),
+        QStringLiteral("Statistical Report"), QStringLiteral("Utilities")};
+    for (int i = 0; i < names.size(); ++i)
+        Run(QStringLiteral("insert into MenuAccessTable(MenuName,AccessYesNo) values('%1',%2)")
+                .arg(names[i])
+                .arg(i + 1));
+    ASSERT_TRUE(StartAgain());
+    EXPECT_EQ(gAppState.gAccessMaster, 1);
+    EXPECT_EQ(gAppState.gAccessAccountVoucher, 2);
+    EXPECT_EQ(gAppState.gAccessStockVoucher, 3);
+    EXPECT_EQ(gAppState.gAccessAccountReport, 4);
+    EXPECT_EQ(gAppState.gAccessStockReport, 5);
+    EXPECT_EQ(gAppState.gAccessStatisticalReport, 6);
+    EXPECT_EQ(gAppState.gAccessUtilities, 7);
+}
+
+TEST_F(StartUp, TheBlanksAroundASettingAreNoPartOfIt)
+{
+    Run(QStringLiteral("update AutoSettings set PaymentDuration=' 7 idvasa ',AutoFat=' haoya ',"
+                       "AutoLiters=' haoya ',WeighScale=' MCS '"));
+    ASSERT_TRUE(StartAgain());
+    EXPECT_EQ(gAppState.gPaymentDuration, QStringLiteral("7 idvasa"));
+    EXPECT_EQ(gAppState.gAutoFat, QStringLiteral("haoya"));
+    EXPECT_EQ(gAppState.gAutoLiters, QStringLiteral("haoya"));
+    EXPECT_EQ(gAppState.gWeighScale, QStringLiteral("MCS"));
+}
+
+TEST_F(StartUp, ARightBeyond16BitsOverflowsAndOneOfAnUnknownNameIsIgnored)
+{
+    const QString set =
+        QStringLiteral("update MenuAccessTable set AccessYesNo=%1 where MenuName='Utilities'");
+    for (const char* beyond : {"32768", "-32769", "3000000000"}) {
+        Run(set.arg(QLatin1String(beyond)));
+        EXPECT_EQ(ErrorOfStart(), RunTimeError::Overflow) << beyond;
+    }
+    for (const int within : {32767, -32768}) {
+        Run(set.arg(within));
+        EXPECT_EQ(ErrorOfStart(), 0);
+        EXPECT_EQ(gAppState.gAccessUtilities, within);
+    }
+    Run(QStringLiteral("insert into MenuAccessTable(MenuName,AccessYesNo) values('Milk Master',99999)"));
+    EXPECT_EQ(ErrorOfStart(), 0);
+}
+
+TEST(PasswordItems, CommasAndLineEndsSeparateItemsAndQuotesKeepThemTogether)
+{
+    EXPECT_EQ(ItemsOf(QStringLiteral("a,b\r\nc\n\",\",\"d\"\r\n")),
+        QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral(","),
+            QStringLiteral("d")}));
+}
+
+TEST(PasswordItems, TheLastItemIsTheKeyThatEveryOtherIsShiftedUpBy)
+{
+    EXPECT_EQ(PasswordOfItems(Disguised(QStringLiteral("Doodh#26"), u'\x05')), QStringLiteral("Doodh#26"));
+    EXPECT_EQ(PasswordOfItems(Disguised(QStringLiteral("x"), u'!')), QStringLiteral("x"));
+    EXPECT_EQ(PasswordOfItems({QStringLiteral("k")}), QString()) << "a key alone hides no password";
+}
+
+TEST(PasswordItems, OnlyTheFirstCharacterOfAnItemCounts)
+{
+    QStringList items = Disguised(QStringLiteral("ab"), u'!');
+    items[0] += QStringLiteral("zzz");
+    EXPECT_EQ(PasswordOfItems(items), QStringLiteral("ab"));
+}
+
+TEST(PasswordItems, AByteOrderMarkInFrontIsNoCharacterOfThePassword)
+{
+    const QString text = QStringLiteral("\"\u00FC\"\r\n\"e\"\r\n\"!\"\r\n");
+    const QString password = QStringLiteral("\u00DBD");
+    QByteArray latin1 = text.toLatin1();
+    QBuffer unmarked(&latin1);
+    ASSERT_TRUE(unmarked.open(QIODevice::ReadOnly));
+    EXPECT_EQ(PasswordOfFile(unmarked), password);
+    for (const auto encoding :
+        {QStringConverter::Utf8, QStringConverter::Utf16LE, QStringConverter::Utf16BE}) {
+        QByteArray bytes = QStringEncoder(encoding, QStringConverter::Flag::WriteBom).encode(text);
+        ASSERT_TRUE(QStringConverter::encodingForData(bytes)) << "the mark stands in front";
+        QBuffer file(&bytes);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_EQ(PasswordOfFile(file), password) << QStringConverter::nameForEncoding(encoding);
+    }
+}
+
+TEST(PasswordItems, AFileTooLongForAPasswordIsRefusedAndNotReadOn)
+{
+    const QByteArray item("\"a\"\n");
+    QByteArray bytes = item.repeated(1'000'000 / item.size());
+    QBuffer file(&bytes);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+    EXPECT_THROW(PasswordOfFile(file), RunTimeError);
+    EXPECT_LE(file.pos(), 4097);
+    QByteArray fits = item.repeated(4096 / item.size());
+    QBuffer allowed(&fits);
+    ASSERT_TRUE(allowed.open(QIODevice::ReadOnly));
+    EXPECT_NO_THROW(PasswordOfFile(allowed));
+}
+
+TEST(PasswordItems, ADamagedFileIsARunTimeError)
+{
+    EXPECT_THROW(PasswordOfItems({}), RunTimeError);
+    EXPECT_THROW(PasswordOfItems({QStringLiteral("a"), QString()}), RunTimeError);
+    EXPECT_THROW(PasswordOfItems({QStringLiteral("!"), QStringLiteral("z")}), RunTimeError);
+}

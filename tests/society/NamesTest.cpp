@@ -1,0 +1,87 @@
+#include "tests/support/SocietyTest.h"
+
+#include "platform/database/Sql.h"
+#include "society/Names.h"
+
+#include <random>
+
+namespace {
+
+class Names : public SocietyTest {
+protected:
+    static double NumberOf(const QString& name)
+    {
+        const Recordset member = MemberOfName(name);
+        return member.Eof() ? 0 : member[u"MemberNo"].Number();
+    }
+};
+
+// Syllables that two spellings show alike, each the other's.
+constexpr std::pair<QStringView, QStringView> Syllables[] = {{u"$", u"ru"}, {u"É", u"rU"}, {u"Ì", u"kR"},
+    {u"Ëa", u"k`a"}, {u"Sa", u"Xa"}, {u"Ea", u"S`a"}, {u"kÜ", u"kao"}, {u"[-", u"š"}, {u"A^", u"A\u0945"},
+    {u"Ù", u"nna"}, {u"w", u"d\\Qa"}, {u"V", u"d\\ya"}, {u"~", u"%`a"}, {u">", u"@t"}, {u"&", u"jHa"},
+    {u"xa", u"@Ya"}, {u"Ÿ", u"ija"}};
+
+}
+
+TEST_F(Names, AMemberIsFoundByWhatIsRead)
+{
+    AddMember(3, QStringLiteral("maa$tI"));
+    AddMember(5, QStringView(u"A\u0945D. paaTIla").toString());
+    EXPECT_EQ(NumberOf(QStringLiteral("maarutI")), 3);
+    EXPECT_EQ(NumberOf(QStringLiteral(" maarutI ")), 3);
+    EXPECT_EQ(NumberOf(QStringLiteral("A^D. paaTIla")), 5) << "a letter stored in two pieces";
+    EXPECT_EQ(NumberOf(QStringLiteral("A^D.  paaTIla")), 5);
+    EXPECT_EQ(NumberOf(QStringLiteral("maartI")), 0);
+}
+
+TEST_F(Names, OfTwoThatReadTheSameTheOneThatIsSpelledSoIsFound)
+{
+    AddMember(1, QStringLiteral("maarutI"));
+    AddMember(2, QStringLiteral("maa$tI "));
+    EXPECT_EQ(NumberOf(QStringLiteral("maa$tI")), 2);
+    EXPECT_EQ(NumberOf(QStringLiteral("maarutI")), 1);
+}
+
+TEST_F(Names, ANameOfBlanksIsNobodys)
+{
+    Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo) values(1,9)"));
+    EXPECT_EQ(NumberOf(QString()), 0);
+    EXPECT_EQ(NumberOf(QStringLiteral("  ")), 0);
+    EXPECT_EQ(NumberOf(QString(QChar(0x200D))), 0);
+}
+
+TEST_F(Names, TheSpellingsOfANameAreItsOwnAndThoseThatReadTheSame)
+{
+    Run(QStringLiteral("delete * from CityMaster"));
+    for (const char* city : {"maa$tI", "kraD", "maarutI", "maa$tI"})
+        Run(Sql(u"insert into CityMaster(CompanyId,CityName) values(1,'", QString::fromLatin1(city), u"')"));
+    EXPECT_EQ(SpellingsOf(u"CityMaster", u"CityName", QStringLiteral("maarutI")),
+        QStringList({QStringLiteral("maarutI"), QStringLiteral("maa$tI")}));
+    EXPECT_EQ(SpellingsOf(u"CityMaster", u"CityName", QStringLiteral("gaava")),
+        QStringList(QStringLiteral("gaava")));
+}
+
+TEST_F(Names, AnyMemberIsFoundByAnySpellingOfHisName)
+{
+    std::mt19937 random(305);
+    std::uniform_int_distribution<std::size_t> any(0, std::size(Syllables) - 1);
+    std::bernoulli_distribution turned(0.5);
+    QStringList others;
+    for (int number = 1; number <= 120; ++number) {
+        QString name;
+        QString other;
+        for (std::size_t rest = number + 1, i = 0; i < 6; ++i) {
+            // The first syllables count the members, so that no two names read the same.
+            const std::size_t at = i < 3 ? rest % std::size(Syllables) : any(random);
+            rest /= std::size(Syllables);
+            const bool turn = turned(random);
+            name += turn ? Syllables[at].second : Syllables[at].first;
+            other += turn ? Syllables[at].first : Syllables[at].second;
+        }
+        AddMember(number, name);
+        others += other;
+    }
+    for (int number = 1; number <= others.size(); ++number)
+        EXPECT_EQ(NumberOf(others[number - 1]), number) << qPrintable(others[number - 1]);
+}

@@ -1,0 +1,102 @@
+#include "tests/support/SocietyTest.h"
+
+#include "core/menu/CommonKeys.h"
+#include "core/menu/Keys.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/NameCombo.h"
+#include "society/FieldRoutines.h"
+
+#include <QKeyEvent>
+
+namespace {
+
+class frmProbe final : public Screen {
+public:
+    frmProbe() : Screen("frmProbe")
+    {
+        MaskDate.LostFocus = [this] { CheckDateField(MaskDate, DateBad); };
+    }
+
+    NameCombo ComboName{this, "ComboName"};
+    DateField MaskDate{this, "MaskDate"};
+    NumberField txtNumber{this, "txtNumber", NumberField::Digits::Whole};
+    int DateBad = -1;
+
+    bool KeyDown(const QKeyEvent& key) override
+    {
+        return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
+    }
+};
+
+using SharedRoutines = SocietyTest;
+
+}
+
+TEST_F(SharedRoutines, FillComboTakesOneColumnInTheOrderOfTheQuery)
+{
+    Run(QStringLiteral("delete * from CityMaster"));
+    for (const char* city : {"vaa[-", "pauNao", "sataara"})
+        Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'%1')")
+                .arg(QLatin1String(city)));
+    On<frmProbe>([](Clerk& clerk) {
+        NameCombo& combo = clerk.On<frmProbe>().ComboName;
+        clerk.Do(
+            [&] { FillCombo(combo, u"CityMaster", u"CityName", u"where CompanyId=1 ORDER BY CityName"); });
+        EXPECT_EQ(combo.Items(),
+            QStringList({QStringLiteral("pauNao"), QStringLiteral("sataara"), QStringLiteral("vaa[-")}));
+        clerk.Do([&] { FillCombo(combo, u"CityMaster", u"CityName", u"where CompanyId=2"); });
+        EXPECT_TRUE(combo.Items().isEmpty()) << "the list is cleared first";
+    });
+}
+
+TEST_F(SharedRoutines, CheckDateFieldClearsABadDateAndHoldsTheFocusWithoutAMessage)
+{
+    On<frmProbe>([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{TAB}31022026{TAB}"));
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmProbe"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("MaskDate"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("MaskDate")), QStringLiteral("__/__/____"));
+        EXPECT_EQ(clerk.On<frmProbe>().DateBad, 1);
+        clerk.Type(QStringLiteral("28022026{TAB}"));
+        EXPECT_EQ(clerk.On<frmProbe>().DateBad, 0);
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtNumber"));
+    });
+}
+
+TEST_F(SharedRoutines, SelectFieldTextSelectsWhatTheFocusHoldsSoThatTypingReplacesIt)
+{
+    On<frmProbe>([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{TAB}01042026{TAB}123{END}"));
+        clerk.Do([] { SelectFieldText(); });
+        clerk.Type(QStringLiteral("9"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtNumber")), QStringLiteral("9"));
+    });
+}
+
+TEST_F(SharedRoutines, F2StartsTheCalculatorOfAppFolderMaximised)
+{
+    On<frmProbe>([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
+    EXPECT_EQ(
+        TheCalculator.Started, QStringList(QStringLiteral("C:\\Tarvel01\\Vetrolan\\calc.EXE maximised")));
+    EXPECT_TRUE(TheBox.Shown.isEmpty());
+}
+
+TEST_F(SharedRoutines, WithoutAnyCalculatorAPlainMessageSaysSo)
+{
+    TheCalculator.There = false;
+    On<frmProbe>([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
+    EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("या संगणकावर कॅलक्युलेटर सापडला नाही.")));
+}
+
+TEST_F(SharedRoutines, EveryScreenOfTheKeySheetHasKeysAndEveryKeyAnAction)
+{
+    EXPECT_FALSE(Keys::Sheets().empty());
+    for (const Keys::Sheet& sheet : Keys::Sheets()) {
+        EXPECT_FALSE(sheet.name.Seen().isEmpty());
+        EXPECT_FALSE(Keys::Of(sheet.screen).empty()) << qPrintable(sheet.screen);
+        for (const KeyHint& hint : Keys::Of(sheet.screen))
+            EXPECT_FALSE(hint.key.isEmpty() || hint.action.Seen().trimmed().isEmpty())
+                << qPrintable(sheet.screen);
+    }
+    EXPECT_TRUE(Keys::Of(QStringLiteral("frmNowhere")).empty());
+}
