@@ -1,6 +1,7 @@
 #include "Screens.h"
 #include "core/start/Program.h"
 #include "platform/forms/ModalStack.h"
+#include "platform/forms/ProgramWindow.h"
 #include "platform/shell/Privacy.h"
 #include "platform/text/FileRights.h"
 
@@ -10,5 +11,7 @@ int main(int argc, char* argv[])
     Privacy::ForbidCores();
     Application application(argc, argv);
     RegisterScreens();
-    return RunProgram();
+    const int exitCode = RunProgram();
+    ProgramWindow::Leave();
+    return exitCode;
 }

@@ -43,7 +43,6 @@ void CounterScreen::LayOut(QWidget* header, QLayout* below, QWidget* keys)
     body->addLayout(below, 1);
     Layout::Stack(*this, header, body, keys);
     body->setContentsMargins(20, 6, 20, 8);
-    setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
 }
 
 QWidget* CounterScreen::ShiftLine()

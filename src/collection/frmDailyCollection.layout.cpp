@@ -27,7 +27,6 @@ void frmDailyCollection::LayOut()
     Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
         Layout::KeyStrip(Keys::Of(Name())));
     body->setContentsMargins(20, 14, 20, 14);
-    setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
 }
 
 QLayout* frmDailyCollection::MemberLine()

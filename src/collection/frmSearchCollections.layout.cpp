@@ -34,7 +34,6 @@ void frmSearchCollections::LayOut()
     Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
         Layout::KeyStrip(Keys::Of(Name())));
     body->setContentsMargins(20, 10, 20, 12);
-    setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
 }
 
 // Whose slip, and of which shift.

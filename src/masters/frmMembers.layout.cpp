@@ -60,7 +60,6 @@ void frmMembers::LayOut()
     body->addLayout(Layout::ButtonRow({&cmdNew, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit}));
     Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
         Layout::KeyStrip(Keys::Of(Name())));
-    setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
 }
 
 QLayout* frmMembers::IdentityColumn()

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr int Height = 560;
 constexpr int RowSpacing = 18;
 
 }
@@ -37,5 +36,4 @@ void ReportLayout::Finish(
     body->addStretch(3); // room for the list of names that drops down
     body->addLayout(Layout::ButtonRow({&cmdReport, &cmdExit}));
     Layout::Stack(screen, header, body, Layout::KeyStrip(Keys::Of(screen.Name())));
-    screen.setFixedSize(Look::ScreenWidth, Height);
 }

@@ -124,7 +124,6 @@ void frmAutoSettings::LayOut()
     body->addLayout(Layout::ButtonRow({&CmdSave, &CmdCancel, &CmdExit}));
     Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
         Layout::KeyStrip(Keys::Of(Name())));
-    setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
 }
 
 QLayout* frmAutoSettings::CollectionPage()

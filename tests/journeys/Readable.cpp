@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -180,8 +181,10 @@ void LookBelow(const QWidget& parent, Faults& faults)
 std::string UnreadableOn(const Screen& screen)
 {
     Faults faults;
-    // One that grows with the machine's screen counts as small as it can be made.
-    const QSize least = screen.minimumSize().expandedTo(screen.minimumSizeHint());
+    // A screen grows with the window; what counts is how small it can be made at the width of the smallest desktop.
+    QSize least = screen.minimumSize().expandedTo(screen.minimumSizeHint());
+    if (screen.hasHeightForWidth())
+        least.setHeight(screen.layout()->minimumHeightForWidth(MostWidth));
     if (least.width() > MostWidth || least.height() > MostHeight)
         faults.Add(screen, QStringLiteral("is %1 x %2").arg(least.width()).arg(least.height()));
     if (!screen.isVisible())

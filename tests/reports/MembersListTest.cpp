@@ -5,6 +5,8 @@
 #include "platform/forms/NameCombo.h"
 #include "reports/frmReportMembersList.h"
 
+#include <QLabel>
+
 namespace {
 
 class MembersListTest : public ReportsTest {
@@ -133,7 +135,7 @@ TEST_F(MembersListTest, OnlyWhatBelongsToTheChosenListCanBeEntered)
 TEST_F(MembersListTest, TheAreasGuideSaysThatNoneMeansAll)
 {
     On<frmReportMembersList>([](Clerk& clerk) {
-        const auto guide = [&] { return clerk.Reads(QStringLiteral("lblGuide")); };
+        const auto guide = [&] { return clerk.Top().findChild<QLabel*>(QStringLiteral("lblGuide"))->text(); };
         EXPECT_EQ(guide(), QString());
         clerk.Type(QStringLiteral("%2{ENTER}"));
         EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboArea"));

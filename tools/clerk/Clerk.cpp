@@ -1,15 +1,18 @@
 #include "tools/clerk/Clerk.h"
 
 #include "platform/forms/ModalStack.h"
+#include "platform/forms/ProgramWindow.h"
 #include "platform/forms/TextField.h"
 #include "platform/shell/FreshKeys.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
+#include <QRadioButton>
 #include <QTimer>
 
 #include <algorithm>
@@ -18,6 +21,9 @@
 #include <thread>
 
 namespace {
+
+// The smallest desktop that a society's PC has.
+constexpr QRect Desktop(0, 0, 1024, 768);
 
 // The plain message box that is up; null if there is none.
 QWidget* PlainBox()
@@ -124,6 +130,7 @@ std::optional<RunTimeError> Clerk::Play(
 {
     ModalStack::Current().Reset();
     TextField::BeginWithKeys();
+    ProgramWindow::SetPlace(Desktop);
     std::optional<RunTimeError> failure;
     m_d->ended = false;
     std::thread hands([&] {
@@ -147,6 +154,7 @@ std::optional<RunTimeError> Clerk::Play(
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     hands.join();
     ModalStack::Current().Reset();
+    ProgramWindow::Leave();
     return failure;
 }
 
@@ -178,7 +186,9 @@ void Clerk::Press(const QString& control)
             return;
         QWidget* widget = found->Widget();
         QPointF at = widget->rect().center();
-        if (auto* list = qobject_cast<QAbstractItemView*>(widget)) {
+        if (qobject_cast<QCheckBox*>(widget) || qobject_cast<QRadioButton*>(widget)) {
+            at.setX(widget->height() / 2.0);
+        } else if (auto* list = qobject_cast<QAbstractItemView*>(widget)) {
             at = list->visualRect(list->currentIndex()).center();
             widget = list->viewport();
         }
@@ -193,7 +203,7 @@ void Clerk::Press(const QString& control)
 
 void Clerk::CloseBox()
 {
-    Do([this] { Top().close(); });
+    Do([] { ProgramWindow::Current().close(); });
 }
 
 Screen& Clerk::Top() const
@@ -238,16 +248,9 @@ QString Clerk::Message() const
 void Clerk::Picture(const QString& file)
 {
     Do([file] {
-        std::vector<QWidget*> windows(
-            ModalStack::Current().Open().begin(), ModalStack::Current().Open().end());
+        QPixmap picture = ProgramWindow::Current().grab();
         if (QWidget* box = PlainBox())
-            windows.push_back(box);
-        if (windows.empty())
-            return;
-        QPixmap picture = windows.front()->grab();
-        for (QWidget* window : windows)
-            if (window != windows.front())
-                picture = LaidOver(picture, window->grab());
+            picture = LaidOver(picture, box->grab());
         picture.save(file);
     });
 }

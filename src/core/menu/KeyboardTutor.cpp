@@ -24,7 +24,6 @@ frmKeyboardTutor::frmKeyboardTutor() : Screen("frmKeyboardTutor")
     body->addLayout(form.Grid());
     body->addWidget(new KeyboardMap, 1);
     Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(Name())));
-    setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
 }
 
 void frmKeyboardTutor::txtEnglish_Change()

@@ -49,6 +49,8 @@ const Table& TheTable()
             {Plain(u"संदेश किंवा प्रश्न"),
                 {{QStringLiteral("Enter"), Plain(u"रंगीत बटण")}, {QStringLiteral("Alt+H"), Shivaji(u"haoya")},
                     {QStringLiteral("Alt+N"), Shivaji(u"naahI")}}}},
+        {QStringLiteral("ProgramWindow"),
+            {Plain(u"कोणत्याही पडद्यावर"), {{QStringLiteral("F11"), Plain(u"पूर्ण स्क्रीन, किंवा परत खिडकीत")}}}},
         {QStringLiteral("NameCombo"),
             {Plain(u"नावांच्या यादीत, कोणत्याही पडद्यावर"), {{QStringLiteral("↓ ↑"), Plain(u"यादीतून निवडा")}}}},
         {QStringLiteral("NameCombo.list"),

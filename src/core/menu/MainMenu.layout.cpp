@@ -43,5 +43,4 @@ void MainMenuFrm::LayOut()
     body->addLayout(foot);
     Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
         Layout::KeyStrip(Keys::Of(Name())));
-    setFixedSize(Look::ScreenWidth, Look::ScreenHeight);
 }

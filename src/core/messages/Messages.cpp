@@ -2,6 +2,7 @@
 
 #include "platform/forms/Layout.h"
 #include "platform/forms/Look.h"
+#include "platform/forms/ModalStack.h"
 #include "platform/shell/World.h"
 
 #include <QLabel>
@@ -10,7 +11,7 @@
 int frmMessages::MessageAnswer = 0;
 
 frmMessages::frmMessages(Mode mode, const Caption& message, OnEnter onEnter)
-    : Screen("frmMessages")
+    : Screen("frmMessages", Shape::Card)
     , m_onEnter(onEnter)
 {
     When(cmdOkYes.Click, &frmMessages::cmdOkYes_Click);
@@ -39,6 +40,7 @@ frmMessages::frmMessages(Mode mode, const Caption& message, OnEnter onEnter)
 
 void frmMessages::Load()
 {
+    ModalStack::Current().ForgetTypedAhead();
     if (m_onEnter == OnEnter::No)
         cmdCancelNo.SetFocus();
 }
@@ -81,5 +83,6 @@ bool Ask(const Caption& question, OnEnter onEnter)
 
 void ShowPlain(const QString& text, const QString& title)
 {
+    ModalStack::Current().ForgetTypedAhead();
     World::Current().messageBox->Show(text, title);
 }

@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-frmNarrations::frmNarrations(const Caption& prompt) : Screen("frmNarrations")
+frmNarrations::frmNarrations(const Caption& prompt) : Screen("frmNarrations", Shape::Card)
 {
     When(txtNarration.LostFocus, &frmNarrations::txtNarration_LostFocus);
     When(cmdExit.Click, &frmNarrations::cmdExit_Click);

@@ -2,22 +2,10 @@
 #include "core/menu/Keys.h"
 #include "platform/forms/Look.h"
 
-#include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QScreen>
 #include <QVBoxLayout>
 
 namespace {
-
-constexpr QSize WindowFrame(16, 48); // what a window manager puts around a window
-
-// As much of the machine's screen as there is, and never less than an entry screen takes.
-QSize WindowSize()
-{
-    const QSize least(Look::ScreenWidth, Look::ScreenHeight);
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? least.expandedTo(screen->availableSize() - WindowFrame) : least;
-}
 
 // Two rows of keys: how to look at the report, and what can be done with it.
 QWidget* KeyRows(const QString& screen)
@@ -58,6 +46,4 @@ void frmReportPreview::BuildWindow()
     body->addWidget(picPage.Widget(), 1);
     Layout::Stack(*this, header, body, KeyRows(Name()));
     body->setContentsMargins(6, 6, 6, 6);
-    setMinimumSize(Look::ScreenWidth, Look::ScreenHeight);
-    resize(WindowSize());
 }

@@ -34,7 +34,7 @@ QString ProposedName(const QString& report, const QString& subject)
 }
 
 frmReportFile::frmReportFile(const QString& report, const QString& subject, const QString& ending)
-    : Screen("frmReportFile")
+    : Screen("frmReportFile", Shape::Card)
     , m_ending(u'.' + ending)
 {
     When(cmdSave.Click, &frmReportFile::cmdSave_Click);
@@ -56,7 +56,7 @@ void frmReportFile::BuildWindow()
     body->addLayout(form.Grid());
     body->addLayout(Layout::ButtonRow({&cmdSave, &cmdExit}));
     Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(Name())));
-    setFixedWidth(DialogWidth);
+    setMinimumWidth(DialogWidth);
 }
 
 // A path in place of the name counts as it is, whatever the folder says.
@@ -97,7 +97,7 @@ void frmReportFile::cmdExit_Click()
     Close();
 }
 
-frmReportPrinter::frmReportPrinter(const QStringList& printers) : Screen("frmReportPrinter")
+frmReportPrinter::frmReportPrinter(const QStringList& printers) : Screen("frmReportPrinter", Shape::Card)
 {
     When(lstPrinters.Chosen, &frmReportPrinter::lstPrinters_Chosen);
     SetTitleLabel(lblTitle);
@@ -113,7 +113,7 @@ frmReportPrinter::frmReportPrinter(const QStringList& printers) : Screen("frmRep
     auto* body = new QVBoxLayout;
     body->addWidget(lstPrinters.Widget());
     Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(Name())));
-    setFixedWidth(DialogWidth);
+    setMinimumWidth(DialogWidth);
 }
 
 void frmReportPrinter::lstPrinters_Chosen()

@@ -11,7 +11,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-frmAppDate::frmAppDate() : Screen("frmAppDate")
+frmAppDate::frmAppDate() : Screen("frmAppDate", Shape::Card)
 {
     When(MaskAppDate.GotFocus, &frmAppDate::MaskAppDate_GotFocus);
     When(MaskAppDate.LostFocus, &frmAppDate::MaskAppDate_LostFocus);
@@ -37,7 +37,7 @@ frmAppDate::frmAppDate() : Screen("frmAppDate")
     body->addStretch(1);
     body->addLayout(Layout::ButtonRow({&cmdExit}));
     Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(Name())));
-    setFixedSize(520, 320);
+    setMinimumSize(520, 320);
 }
 
 void frmAppDate::Load()

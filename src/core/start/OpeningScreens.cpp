@@ -33,7 +33,7 @@ QPixmap CautionSign()
 
 }
 
-frmAbout::frmAbout() : Screen("frmAbout")
+frmAbout::frmAbout() : Screen("frmAbout", Shape::Card)
 {
     When(cmdOK.Click, &frmAbout::cmdOK_Click);
     When(cmdExit.Click, &frmAbout::cmdExit_Click);
@@ -59,7 +59,7 @@ frmAbout::frmAbout() : Screen("frmAbout")
     body->addStretch(1);
     body->addLayout(Layout::ButtonRow({&cmdOK, &cmdExit}));
     Layout::Stack(*this, Layout::Header(lblTitle), body, nullptr);
-    setFixedSize(640, 400);
+    setMinimumSize(640, 400);
 }
 
 void frmAbout::cmdOK_Click()
@@ -73,7 +73,7 @@ void frmAbout::cmdExit_Click()
     Close();
 }
 
-frmTip::frmTip() : Screen("frmTip")
+frmTip::frmTip() : Screen("frmTip", Shape::Card)
 {
     When(cmdOk.Click, &frmTip::cmdOk_Click);
     When(Command1.Click, &frmTip::Command1_Click);
@@ -101,7 +101,7 @@ frmTip::frmTip() : Screen("frmTip")
     body->addLayout(notice, 1);
     body->addLayout(Layout::ButtonRow({&cmdOk, &Command1}));
     Layout::Stack(*this, Layout::Header(lblTitle), body, nullptr);
-    setFixedSize(760, 420);
+    setMinimumSize(760, 420);
 }
 
 void frmTip::cmdOk_Click()

@@ -7,23 +7,26 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <vector>
+
 namespace {
 
 constexpr int FieldHeight = 38;
 constexpr int StripMargin = 14;
 constexpr int StripSpacing = 14;
+constexpr int StripHeight = 40;
+constexpr int RowMargin = 4;
 
-QWidget* BandWidget(int height)
+void MakeBand(QWidget& band, int height)
 {
-    auto* band = new QWidget;
-    QPalette palette = band->palette();
+    QPalette palette = band.palette();
     palette.setColor(QPalette::Window, QColor(Look::Band));
     palette.setColor(QPalette::WindowText, QColor(Look::BandText));
-    band->setPalette(palette);
-    band->setAutoFillBackground(true);
-    band->setMinimumHeight(height);
-    band->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    return band;
+    band.setPalette(palette);
+    band.setAutoFillBackground(true);
+    band.setMinimumHeight(height);
+    band.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
 QLabel* PlainLabel(const QString& text)
@@ -76,9 +79,55 @@ QWidget* HintWidget(const KeyHint& hint)
     return piece;
 }
 
+// The keys beside one another, in as many rows as the width needs.
+class Strip final : public QWidget {
+public:
+    explicit Strip(const std::vector<KeyHint>& hints)
+    {
+        MakeBand(*this, StripHeight);
+        for (const KeyHint& hint : hints) {
+            m_pieces.push_back(HintWidget(hint));
+            m_pieces.back()->setParent(this);
+        }
+        QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        policy.setHeightForWidth(true);
+        setSizePolicy(policy);
+    }
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override { return Flow(width, false); }
+    QSize sizeHint() const override { return {0, heightForWidth(this->width())}; }
+
+protected:
+    void resizeEvent(QResizeEvent*) override { Flow(width(), true); }
+
+private:
+    // Returns the height that the rows take; if they are to, the pieces go to their places.
+    int Flow(int width, bool isPlaced) const
+    {
+        QPoint at(StripMargin, RowMargin);
+        int rowHeight = 0;
+        for (QWidget* piece : m_pieces) {
+            const QSize size = piece->sizeHint();
+            if (at.x() > StripMargin && at.x() + size.width() > width - StripMargin) {
+                at = QPoint(StripMargin, at.y() + rowHeight + RowMargin);
+                rowHeight = 0;
+            }
+            if (isPlaced)
+                piece->setGeometry(QRect(at, size));
+            at.rx() += size.width() + StripSpacing;
+            rowHeight = std::max(rowHeight, size.height());
+        }
+        return std::max(StripHeight, at.y() + rowHeight + RowMargin);
+    }
+
+    std::vector<QWidget*> m_pieces;
+};
+
 QWidget* HeaderBand(Label& title, std::initializer_list<Label*> society)
 {
-    QWidget* band = BandWidget(64);
+    auto* band = new QWidget;
+    MakeBand(*band, 64);
     auto* row = new QHBoxLayout(band);
     row->setContentsMargins(20, 4, 20, 4);
     PutOnBand(title, Look::Font(Look::Size::Title, true));
@@ -114,26 +163,7 @@ QWidget* Layout::Header(Label& title)
 
 QWidget* Layout::KeyStrip(const std::vector<KeyHint>& hints)
 {
-    QWidget* band = BandWidget(40);
-    auto* rows = new QVBoxLayout(band);
-    rows->setContentsMargins(StripMargin, 4, StripMargin, 4);
-    rows->setSpacing(4);
-    QHBoxLayout* row = nullptr;
-    int left = 0;
-    for (const KeyHint& hint : hints) {
-        QWidget* piece = HintWidget(hint);
-        const int needed = piece->sizeHint().width() + StripSpacing;
-        if (!row || needed > left) {
-            row = new QHBoxLayout;
-            row->setSpacing(StripSpacing);
-            row->addStretch(1);
-            rows->addLayout(row);
-            left = Look::ScreenWidth - 2 * StripMargin;
-        }
-        row->insertWidget(row->count() - 1, piece);
-        left -= needed;
-    }
-    return band;
+    return new Strip(hints);
 }
 
 void Layout::Stack(Screen& screen, QWidget* header, QLayout* body, QWidget* keys)

@@ -19,6 +19,8 @@ inline constexpr QRgb BandText = qRgb(0xFF, 0xFF, 0xFF);
 inline constexpr QRgb Ink = qRgb(0x12, 0x1C, 0x22); // text
 inline constexpr QRgb Quiet = qRgb(0xDC, 0xE4, 0xE8); // fields that can't be entered now
 inline constexpr QRgb DullColour = qRgb(0x6B, 0x7F, 0x8C); // a key that does nothing now
+inline constexpr QRgb Ground = qRgb(0xC6, 0xD2, 0xD9); // of the window, where no screen lies
+inline constexpr QRgb Shade = qRgba(0x12, 0x1C, 0x22, 0xB0); // over a screen that lies beneath a card
 inline constexpr QRgb GuideInk = qRgb(0x8A, 0x1C, 0x1C); // the guide line
 
 // The width and height of an entry screen; it fits a screen of 1024 x 768 with a window frame around it.

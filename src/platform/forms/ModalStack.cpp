@@ -19,6 +19,17 @@ void ModalStack::Send(const QString& keys)
         screen->TypeLater(ParseKeys(keys));
 }
 
+void ModalStack::Press(QKeyEvent& key)
+{
+    if (Screen* screen = Top())
+        screen->Press(key);
+}
+
+void ModalStack::ForgetTypedAhead()
+{
+    m_ahead.clear();
+}
+
 void ModalStack::Fail(const RunTimeError& error)
 {
     if (!m_failure)
@@ -30,6 +41,7 @@ void ModalStack::Fail(const RunTimeError& error)
 void ModalStack::Reset()
 {
     m_failure.reset();
+    m_ahead.clear();
 }
 
 bool Application::notify(QObject* receiver, QEvent* event)

@@ -5,10 +5,12 @@
 
 #include <QApplication>
 
+#include <deque>
 #include <functional>
 #include <optional>
 #include <vector>
 
+class QKeyEvent;
 class Screen;
 
 // The open screens, each opened by the one below it.
@@ -22,6 +24,12 @@ public:
 
     // See SendKeys. Without a screen there is nobody to type to.
     void Send(const QString& keys);
+
+    // Throws away what was typed ahead, as a box does when it comes up.
+    void ForgetTypedAhead();
+
+    // A key that reached no screen: the one on top answers it.
+    void Press(QKeyEvent& key);
 
     // A failure ends the program: every open screen is left at once, and nothing after its opening runs.
     void Fail(const RunTimeError& error);
@@ -39,6 +47,7 @@ private:
     std::vector<Screen*> m_open;
     std::function<void(const Screen&)> m_left;
     std::optional<RunTimeError> m_failure;
+    std::deque<KeyStroke> m_ahead; // typed while a screen was closing, for the one that is on top next
 };
 
 // An application whose slots may fail, too: a run-time error outside a screen's events ends the program

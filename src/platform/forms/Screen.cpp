@@ -4,7 +4,9 @@
 #include "platform/forms/Field.h"
 #include "platform/forms/Look.h"
 #include "platform/forms/ModalStack.h"
+#include "platform/forms/ProgramWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -23,13 +25,16 @@ bool IsCancel(const Control& control)
 
 }
 
-Screen::Screen(const char* name)
-    : QWidget(ModalStack::Current().Top(), Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowTitleHint)
+Screen::Screen(const char* name, Shape shape)
+    : QWidget(&ProgramWindow::Current())
     , m_focusColour(Look::FocusColour)
     , m_plainColour(Look::PlainColour)
+    , m_shape(shape)
 {
+    setVisible(false);
     setObjectName(QLatin1String(name));
-    setWindowModality(Qt::ApplicationModal);
+    setPalette(QApplication::palette()); // the window's own is that of its ground
+    setAutoFillBackground(true);
     setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -63,6 +68,7 @@ void Screen::ShowModal()
             screen.m_open = false;
             screen.hide();
             std::erase(open, &screen);
+            ProgramWindow::Current().Arrange();
             if (ModalStack::Current().m_left)
                 ModalStack::Current().m_left(screen);
             if (open.empty())
@@ -73,6 +79,8 @@ void Screen::ShowModal()
     } level(stack.m_open, *this);
 
     m_open = true;
+    if (parentWidget() != &ProgramWindow::Current())
+        setParent(&ProgramWindow::Current());
     if (m_holder)
         LetGo(*m_holder);
     m_holder = nullptr;
@@ -82,7 +90,9 @@ void Screen::ShowModal()
         Load();
         if (!m_open)
             return;
+        ProgramWindow::Current().Arrange();
         show();
+        ProgramWindow::Current().Appear();
         if (m_holder)
             GiveWidgetFocus();
         else
@@ -122,12 +132,13 @@ void Screen::Run(const Event& event)
 
 void Screen::RunWaiting()
 {
+    std::deque<KeyStroke>& ahead = ModalStack::Current().m_ahead;
     while (m_open) {
-        if (!m_keys.empty()) {
-            const KeyStroke stroke = m_keys.front();
-            m_keys.pop_front();
+        if (std::deque<KeyStroke>& keys = m_keys.empty() ? ahead : m_keys; !keys.empty()) {
+            const KeyStroke stroke = keys.front();
+            keys.pop_front();
             QKeyEvent press(QEvent::KeyPress, stroke.key, stroke.modifiers, stroke.text);
-            Press(press);
+            Take(press);
         } else if (!m_due.empty()) {
             const Event handler = m_due.front();
             m_due.pop_front();
@@ -181,6 +192,8 @@ void Screen::SetTitle(const Caption& title)
     setWindowTitle(title.Seen().trimmed());
     if (m_titleLabel)
         m_titleLabel->SetCaption(title);
+    if (m_open)
+        ProgramWindow::Current().Arrange();
 }
 
 void Screen::SetTitleLabel(Label& label)
@@ -338,7 +351,9 @@ void Screen::GiveWidgetFocus()
 {
     if (!isVisible())
         return;
-    if (ModalStack::Current().Top() == this && !isActiveWindow())
+    if (ModalStack::Current().Top() != this)
+        return;
+    if (!isActiveWindow())
         activateWindow();
     KeyTarget()->setFocus(Qt::OtherFocusReason);
 }
@@ -379,16 +394,37 @@ bool Screen::eventFilter(QObject* watched, QEvent* event)
     }
 }
 
+// A card that shows or hides something needs another size.
+bool Screen::event(QEvent* event)
+{
+    const bool answered = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest && IsCard() && m_open)
+        ProgramWindow::Current().Arrange();
+    return answered;
+}
+
 void Screen::keyPressEvent(QKeyEvent* event)
 {
     Press(*event);
 }
 
-// A key goes to the holder, whichever window the window system has sent it to, and no further.
+// A key that meets a screen that is closing, or that comes behind such a one, waits for the screen that is on
+// top then.
 void Screen::Press(QKeyEvent& key)
 {
-    if (!m_open)
+    std::deque<KeyStroke>& ahead = ModalStack::Current().m_ahead;
+    if (m_open && ahead.empty()) {
+        Take(key);
         return;
+    }
+    ahead.push_back({key.key(), key.modifiers(), key.text()});
+    if (m_open)
+        Run([] {});
+}
+
+// A key goes to the holder, whichever widget the window system has sent it to, and no further.
+void Screen::Take(QKeyEvent& key)
+{
     Run([&] {
         if (!Answer(key) && m_holder)
             static_cast<QObject*>(m_holder->Widget())->event(&key);
@@ -445,6 +481,9 @@ bool Screen::Answer(const QKeyEvent& key)
         return true;
     case Qt::Key_Backtab:
         MovePrevious();
+        return true;
+    case Qt::Key_F11:
+        ProgramWindow::Current().ToggleFullScreen();
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:

@@ -11,8 +11,9 @@
 class Button;
 class QInputMethodEvent;
 
-// A screen: one window with its fields, answering the clerk. It decides itself who holds the focus, runs
-// the handlers, and moves the window system's focus afterwards; so it works the same in an inactive window.
+// A screen: its fields in the window of the program, answering the clerk. It decides itself who holds the
+// focus, runs the handlers, and moves the window system's focus afterwards; so it works the same in an
+// inactive window.
 //
 // A move from A to B runs A's LostFocus, then B's GotFocus. SetFocus inside A's LostFocus replaces the
 // destination, and B sees neither event; if the destination is A itself, its GotFocus runs and its
@@ -20,8 +21,11 @@ class QInputMethodEvent;
 // is no move.
 class Screen : public QWidget {
 public:
+    // A full screen fills the window, a card is as large as it needs to be.
+    enum class Shape { Full, Card };
+
     // `name` is the screen's name in the system, such as "frmMembers".
-    explicit Screen(const char* name);
+    explicit Screen(const char* name, Shape shape = Shape::Full);
     ~Screen() override;
 
     // Opens the screen over the one before it and returns when it has closed.
@@ -31,6 +35,7 @@ public:
     void Close();
 
     QString Name() const { return objectName(); }
+    bool IsCard() const { return m_shape == Shape::Card; }
 
     // The control that holds the focus; null if none can.
     Control* FocusHolder() const { return m_holder; }
@@ -111,6 +116,7 @@ protected:
     void After(int milliseconds, const Event& handler);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool focusNextPrevChild(bool) override { return false; }
@@ -129,6 +135,7 @@ private:
     void TypeLater(const std::vector<KeyStroke>& keys);
 
     void Press(QKeyEvent& key);
+    void Take(QKeyEvent& key);
     bool Answer(const QKeyEvent& key);
     bool AnswerMnemonic(const QKeyEvent& key);
     bool PressedByMouse(Control& control);
@@ -163,5 +170,6 @@ private:
     std::deque<Event> m_due; // timers that have waited for the running event
     int m_running = 0; // events that are running, one inside the other
     QEventLoop m_loop;
+    Shape m_shape;
     bool m_open = false;
 };
