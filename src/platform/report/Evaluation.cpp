@@ -1,8 +1,6 @@
 #include "platform/report/Evaluation.h"
 
 #include "platform/report/ReportData.h"
-#include "platform/text/Dates.h"
-#include "platform/text/Numbers.h"
 
 #include <algorithm>
 #include <cmath>
@@ -89,6 +87,11 @@ bool IsNumber(const Expression& expression, const ReportTemplate& report)
     }
     case Operation::If:
         return IsNumber(expression.arguments[1], report) || IsNumber(expression.arguments[2], report);
+    case Operation::Formatted:
+        return expression.format.kind == PrintFormat::Kind::Number;
+    case Operation::Join:
+        return std::any_of(expression.arguments.begin(), expression.arguments.end(),
+            [&](const Expression& part) { return IsNumber(part, report); });
     case Operation::Aggregate:
         return (expression.aggregate != AggregateKind::Minimum
                    && expression.aggregate != AggregateKind::Maximum)
@@ -96,6 +99,18 @@ bool IsNumber(const Expression& expression, const ReportTemplate& report)
     default:
         return false;
     }
+}
+
+// Parts that have nothing to say leave no separator behind.
+QString EvaluateJoin(const Expression& join, ReportData& data)
+{
+    QStringList parts;
+    for (std::size_t i = 1; i < join.arguments.size(); ++i) {
+        const QString part = Evaluate(join.arguments[i], data).Text();
+        if (!QStringView(part).trimmed().isEmpty())
+            parts.append(part);
+    }
+    return parts.join(Evaluate(join.arguments.front(), data).Text());
 }
 
 // A total outside of a table: the source is walked through for it.
@@ -158,36 +173,41 @@ Value Evaluate(const Expression& expression, ReportData& data)
         return Value::OfTruth(EvaluateLogic(expression, data));
     case Operation::If:
         return Evaluate(expression.arguments[Evaluate(expression.arguments[0], data).Truth() ? 1 : 2], data);
+    case Operation::Formatted:
+        return Value::OfText(Printed(Evaluate(expression.arguments.front(), data), expression.format));
+    case Operation::Join:
+        return Value::OfText(EvaluateJoin(expression, data));
     case Operation::Aggregate:
         return EvaluateAggregate(expression, data);
     }
     return {};
 }
 
-QString Printed(const Value& value, const TextPiece& piece)
-{
-    if (piece.formatKind == FormatKind::Number
-        && (value.kind == Value::Kind::Number || (value.kind == Value::Kind::Text && IsNumeric(value.text))))
-        return Format(value.Number(), piece.format);
-    if (piece.formatKind == FormatKind::Date && value.kind == Value::Kind::Date)
-        return Format(value.date, piece.format);
-    return value.Text();
-}
-
 bool HoldsFigure(const TemplateText& text, const ReportTemplate& report)
 {
     return std::any_of(text.pieces.begin(), text.pieces.end(), [&](const TextPiece& piece) {
-        return piece.formatKind == FormatKind::Number
+        return piece.format.kind == PrintFormat::Kind::Number
             || (piece.expression && IsNumber(*piece.expression, report));
     });
 }
 
 QString Fill(const TemplateText& text, ReportData& data)
 {
-    if (text.IsOneExpression())
-        return Printed(Evaluate(*text.pieces.front().expression, data), text.pieces.front());
     QString filled;
     for (const TextPiece& piece : text.pieces)
-        filled += piece.expression ? Printed(Evaluate(*piece.expression, data), piece) : piece.characters;
+        filled +=
+            piece.expression ? Printed(Evaluate(*piece.expression, data), piece.format) : piece.characters;
     return filled;
+}
+
+QString FillForRecord(const TemplateText& text, const QString& filled, ReportData& data)
+{
+    const std::vector<TextPiece>& pieces = text.pieces;
+    if (std::none_of(
+            pieces.begin(), pieces.end(), [](const TextPiece& piece) { return piece.format.isGrouped; }))
+        return filled;
+    TemplateText plain = text;
+    for (TextPiece& piece : plain.pieces)
+        piece.format.isGrouped = false;
+    return Fill(plain, data);
 }

@@ -14,11 +14,12 @@ inline constexpr QChar PageCountMark = QChar(0xFDD0);
 // The value of a checked expression for the rows that are current.
 Value Evaluate(const Expression& expression, ReportData& data);
 
-// A value as it is printed: by the format, or else as it is. Null and a text have no format.
-QString Printed(const Value& value, const TextPiece& piece);
-
 // A text of a template with its expressions worked out.
 QString Fill(const TemplateText& text, ReportData& data);
+
+// The same for a spreadsheet, which reads a number only if its digits stand in one: `filled` is what Fill
+// gave.
+QString FillForRecord(const TemplateText& text, const QString& filled, ReportData& data);
 
 // Whether a number of a checked template stands in a text, alone or among words.
 bool HoldsFigure(const TemplateText& text, const ReportTemplate& report);

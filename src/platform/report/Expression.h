@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report/Value.h"
+#include "platform/report/PrintFormat.h"
 
 #include <optional>
 #include <vector>
@@ -28,6 +28,8 @@ enum class Operation : quint8 {
     Not,
     If, // three arguments
     Absolute, // one argument
+    Formatted, // one argument as it is printed by `format`
+    Join, // the texts of all arguments but the first, which stands between them
     Aggregate, // `aggregate` over one argument, or two for a weighted average
 };
 
@@ -42,6 +44,7 @@ struct Expression {
     double number = 0; // of a literal; of an aggregate: the decimals that its figures are rounded to first
     QString text;
     QString qualifier;
+    PrintFormat format; // of Formatted
     std::vector<Expression> arguments;
 
     // Found by the check.
@@ -66,7 +69,7 @@ inline constexpr int LongestExpression = 2000;
 // Reads an expression. Returns nothing, and sets the fault, if it can't be read or is too long.
 //   field, source.field, 'text', 12.5, #page, #pages, $society $year $from $to $date
 //   + - * /   = <> < > <= >=   and or not   ( )
-//   if(condition, then, else)  abs(x)  plain(field)
+//   if(condition, then, else)  abs(x)  plain(field)  format(x, 'pattern')  join('between', x, y, …)
 //   sum(x) count() average(x) average(x by weight) min(x) max(x) running(x) running(x by groupfield)
 std::optional<Expression> ReadExpression(QStringView text, ExpressionFault& fault);
 

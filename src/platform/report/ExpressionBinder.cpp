@@ -106,8 +106,11 @@ void ExpressionBinder::BindText(TemplateText& text, const Place& place)
         if (!piece.expression)
             continue;
         const ValueType type = Bind(*piece.expression, place);
-        CheckPiece(piece, type, place);
-        if (piece.formatKind == FormatKind::Number)
+        CheckPrinted(piece.format, type, place);
+        if (piece.expression->Uses(Operation::PageCount)
+            && piece.expression->operation != Operation::PageCount)
+            Fault(place.line, QStringLiteral("#pages stands alone in its braces"));
+        if (piece.format.kind == PrintFormat::Kind::Number)
             ReadAsStored(*piece.expression, type);
         NotePrinting(*piece.expression);
     }
@@ -116,9 +119,9 @@ void ExpressionBinder::BindText(TemplateText& text, const Place& place)
 // A text is printed as it is stored or as the eye sees it; both can be, in two places.
 void ExpressionBinder::NotePrinting(const Expression& expression)
 {
-    if (expression.operation == Operation::If) {
-        NotePrinting(expression.arguments[1]);
-        NotePrinting(expression.arguments[2]);
+    if (expression.operation == Operation::If || expression.operation == Operation::Join) {
+        for (std::size_t i = 1; i < expression.arguments.size(); ++i)
+            NotePrinting(expression.arguments[i]);
     }
     if (expression.operation != Operation::Field || expression.source < 0)
         return;
@@ -127,17 +130,14 @@ void ExpressionBinder::NotePrinting(const Expression& expression)
     (expression.isPlain ? column.isPrintedPlain : column.isPrintedSeen) = true;
 }
 
-void ExpressionBinder::CheckPiece(const TextPiece& piece, ValueType type, const Place& place)
+void ExpressionBinder::CheckPrinted(const PrintFormat& format, ValueType type, const Place& place)
 {
-    const Expression& expression = *piece.expression;
     if (type == ValueType::Truth)
         Fault(place.line, QStringLiteral("a condition can't be printed; use if(…)"));
-    if (piece.formatKind == FormatKind::Number && !CanBeNumber(type))
-        Fault(place.line, QStringLiteral("the format \"%1\" needs a number").arg(piece.format));
-    if (piece.formatKind == FormatKind::Date && type != ValueType::Date && type != ValueType::Unknown)
-        Fault(place.line, QStringLiteral("the format \"%1\" needs a date").arg(piece.format));
-    if (expression.Uses(Operation::PageCount) && expression.operation != Operation::PageCount)
-        Fault(place.line, QStringLiteral("#pages stands alone in its braces"));
+    if (format.kind == PrintFormat::Kind::Number && !CanBeNumber(type))
+        Fault(place.line, QStringLiteral("the format \"%1\" needs a number").arg(format.pattern));
+    if (format.kind == PrintFormat::Kind::Date && type != ValueType::Date && type != ValueType::Unknown)
+        Fault(place.line, QStringLiteral("the format \"%1\" needs a date").arg(format.pattern));
 }
 
 void ExpressionBinder::BindCondition(std::optional<Expression>& condition, const Place& place)
@@ -185,6 +185,10 @@ ValueType ExpressionBinder::Bind(Expression& expression, const Place& place)
         return BindLogic(expression, place);
     case Operation::If:
         return BindIf(expression, place);
+    case Operation::Formatted:
+        return BindFormatted(expression, place);
+    case Operation::Join:
+        return BindJoin(expression, place);
     case Operation::Aggregate:
         return BindAggregate(expression, place);
     }
@@ -310,6 +314,25 @@ ValueType ExpressionBinder::BindIf(Expression& expression, const Place& place)
         if (either(type))
             return type;
     return ValueType::Unknown;
+}
+
+ValueType ExpressionBinder::BindFormatted(Expression& expression, const Place& place)
+{
+    Expression& argument = expression.arguments.front();
+    const ValueType type = Bind(argument, place);
+    CheckPrinted(expression.format, type, place);
+    if (expression.format.kind == PrintFormat::Kind::Number)
+        ReadAsStored(argument, type);
+    return ValueType::Text;
+}
+
+ValueType ExpressionBinder::BindJoin(Expression& expression, const Place& place)
+{
+    for (Expression& argument : expression.arguments) {
+        if (Bind(argument, place) == ValueType::Truth)
+            Fault(place.line, QStringLiteral("a condition can't be printed; use if(…)"));
+    }
+    return ValueType::Text;
 }
 
 int ExpressionBinder::SourceOf(const Expression& expression, int line)

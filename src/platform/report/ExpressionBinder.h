@@ -50,6 +50,8 @@ private:
     ValueType BindComparison(Expression& expression, const Place& place);
     ValueType BindLogic(Expression& expression, const Place& place);
     ValueType BindIf(Expression& expression, const Place& place);
+    ValueType BindFormatted(Expression& expression, const Place& place);
+    ValueType BindJoin(Expression& expression, const Place& place);
     ValueType BindPage(const Expression& expression, const Place& place);
     ValueType BindAggregate(Expression& expression, const Place& place);
     void CheckTotalled(AggregateKind kind, ValueType type, int line);
@@ -57,7 +59,7 @@ private:
     bool IsAllowed(const Expression& aggregate, const Place& place);
     int SourceOf(const Expression& expression, int line);
     void NotePrinting(const Expression& expression);
-    void CheckPiece(const TextPiece& piece, ValueType type, const Place& place);
+    void CheckPrinted(const PrintFormat& format, ValueType type, const Place& place);
 
     ReportTemplate& m_report;
     Catalogue& m_catalogue;

@@ -66,6 +66,7 @@ private:
     Expression ReadPrimary();
     Expression ReadName(const QString& name);
     Expression ReadCall(const QString& name);
+    PrintFormat ReadFormat();
     Expression ReadAggregate(AggregateKind kind);
     static Expression Pair(Operation operation, Expression first, Expression second);
 
@@ -352,11 +353,30 @@ Expression Parser::ReadCall(const QString& name)
             Fail(QStringLiteral("plain() takes a field"));
         call = std::move(field);
         call.isPlain = true;
+    } else if (name == u"format") {
+        call.operation = Operation::Formatted;
+        Expect(u",");
+        call.format = ReadFormat();
+    } else if (name == u"join") {
+        call.operation = Operation::Join;
+        do {
+            Expect(u",");
+            call.arguments.push_back(ReadOr());
+        } while (IsSign(u","));
     } else {
         Fail(QStringLiteral("there is no function \"%1\"").arg(name));
     }
     Expect(u")");
     return call;
+}
+
+PrintFormat Parser::ReadFormat()
+{
+    const PrintFormat format = PrintFormat::Of(m_token.text);
+    if (m_token.kind != Token::Kind::Text || format.kind == PrintFormat::Kind::None)
+        Fail(QStringLiteral("\"%1\" is no format of a number or a date").arg(m_token.text));
+    Next();
+    return format;
 }
 
 Expression Parser::ReadAggregate(AggregateKind kind)

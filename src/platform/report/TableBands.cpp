@@ -44,12 +44,12 @@ QString TotalText(const TemplateColumn& column, const Value& total)
         return total.Text();
     if (figures > 1) {
         const auto formatted = std::find_if(pieces.begin(), pieces.end(),
-            [](const TextPiece& piece) { return piece.formatKind != FormatKind::None; });
-        return formatted == pieces.end() ? total.Text() : Printed(total, *formatted);
+            [](const TextPiece& piece) { return piece.format.kind != PrintFormat::Kind::None; });
+        return formatted == pieces.end() ? total.Text() : Printed(total, formatted->format);
     }
     QString text;
     for (const TextPiece& piece : pieces)
-        text += isFigure(piece) ? Printed(total, piece) : piece.characters;
+        text += isFigure(piece) ? Printed(total, piece.format) : piece.characters;
     return text;
 }
 
@@ -345,7 +345,7 @@ void TableStream::MakeRow()
     for (std::size_t i = 0; i < m_cells.size(); ++i) {
         const QString text = Fill(m_table.columns[i].cell, m_maker.Data);
         if (isRecorded && !m_table.columns[i].cell.IsEmpty())
-            band.record.append(text);
+            band.record.append(FillForRecord(m_table.columns[i].cell, text, m_maker.Data));
         AddCell(band, i, text, m_cells[i].look, m_cells[i].fit);
     }
     m_maker.Data.Totals = nullptr;

@@ -212,7 +212,7 @@ void Checker::CheckColumn(TemplateTable& table, TemplateColumn& column, Place pl
         const TextPiece& piece = column.cell.pieces.front();
         Expression sum;
         sum.operation = Operation::Aggregate;
-        sum.number = piece.decimals;
+        sum.number = piece.format.decimals;
         sum.arguments.push_back(*piece.expression);
         column.total = std::move(sum);
     }

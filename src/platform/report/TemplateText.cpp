@@ -1,7 +1,5 @@
 #include "platform/report/TemplateText.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 
 bool TemplateText::Uses(Operation wanted) const
@@ -25,16 +23,6 @@ qsizetype FindOutsideQuotes(QStringView text, QChar sign, qsizetype from)
     return -1;
 }
 
-FormatKind KindOfFormat(const QString& format)
-{
-    static const QRegularExpression number(QStringLiteral("^(?=.*[#0])#*0*(?:\\.0*#*)?$"));
-    static const QRegularExpression date(
-        QStringLiteral("^(?=.*[dMy])(?:dd|MMMM|MM|mm|yyyy|yy|[^\\p{L}\\p{N}#])+$"));
-    if (number.match(format).hasMatch())
-        return FormatKind::Number;
-    return date.match(format).hasMatch() ? FormatKind::Date : FormatKind::None;
-}
-
 void SetFormat(TextPiece& piece, const QString& format, QStringList& faults)
 {
     if (format == u"plain") {
@@ -44,12 +32,9 @@ void SetFormat(TextPiece& piece, const QString& format, QStringList& faults)
             faults.append(QStringLiteral("\"|plain\" stands behind a field only"));
         return;
     }
-    piece.format = format;
-    piece.formatKind = KindOfFormat(format);
-    if (piece.formatKind == FormatKind::None)
+    piece.format = PrintFormat::Of(format);
+    if (piece.format.kind == PrintFormat::Kind::None)
         faults.append(QStringLiteral("\"%1\" is no format of a number or a date").arg(format));
-    const qsizetype point = format.indexOf(u'.');
-    piece.decimals = point < 0 ? 0 : static_cast<int>(format.size() - point - 1);
 }
 
 TextPiece ReadPiece(QStringView inside, QStringList& faults)

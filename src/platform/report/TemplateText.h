@@ -4,15 +4,11 @@
 
 #include <QStringList>
 
-enum class FormatKind : quint8 { None, Number, Date };
-
 // A stretch of a text of a template: plain characters, or one {expression|format}.
 struct TextPiece {
     QString characters;
     std::optional<Expression> expression;
-    QString format;
-    FormatKind formatKind = FormatKind::None;
-    int decimals = 6; // of a number format: its places
+    PrintFormat format;
 };
 
 // A text with its {expressions}: "एकूण {sum(Liters)|0.000} लिटर".
@@ -31,6 +27,6 @@ struct TemplateText {
 // A text as a fault shows it: on one line, and only its beginning if it is long.
 QString ShownInFault(QStringView text);
 
-// Reads such a text. What can't be read is added to the faults and left out. A format is a pattern of '#',
-// '0' and one '.', or one of dd, MM, yy, yyyy, MMMM and signs, or the word "plain" behind a field.
+// Reads such a text. What can't be read is added to the faults and left out. A format is one of PrintFormat,
+// or the word "plain" behind a field.
 TemplateText ReadTemplateText(QStringView text, QStringList& faults);

@@ -24,7 +24,7 @@ QString Shown(double points)
 bool HoldsFigure(const TemplateText& text)
 {
     return std::any_of(text.pieces.begin(), text.pieces.end(),
-        [](const TextPiece& piece) { return piece.formatKind == FormatKind::Number; });
+        [](const TextPiece& piece) { return piece.format.kind == PrintFormat::Kind::Number; });
 }
 
 class WidthChecker {

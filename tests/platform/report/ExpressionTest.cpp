@@ -76,6 +76,48 @@ TEST_F(ExpressionTest, NumbersAndDatesTakeTheirFormats)
     EXPECT_EQ(Printed(QStringLiteral("{Liters} ली.")), QStringLiteral("12.5 ली."));
 }
 
+TEST_F(ExpressionTest, MoneyIsGroupedAsItIsInIndia)
+{
+    AddOne();
+    const std::pair<const char*, const char*> amounts[] = {{"0", "0.00"}, {"999.995", "1,000.00"},
+        {"1000", "1,000.00"}, {"99999", "99,999.00"}, {"100000", "1,00,000.00"}, {"123456.5", "1,23,456.50"},
+        {"12345678", "1,23,45,678.00"}, {"-100", "-100.00"}, {"-123456", "-1,23,456.00"}};
+    for (const auto& [amount, printed] : amounts)
+        EXPECT_EQ(
+            Printed(QStringLiteral("{%1|#,##,##0.00}").arg(QLatin1String(amount))), QLatin1String(printed));
+    EXPECT_EQ(Printed(QStringLiteral("{1234567|#,##0}")), QStringLiteral("12,34,567"));
+    for (const char* pattern : {"#,###,##0.00", "0,00", "#,##0.0,0", ",##0", "##,##,##"})
+        EXPECT_EQ(OnlyFault(QStringLiteral("<text>{Amount|%1}</text>").arg(QLatin1String(pattern))),
+            QStringLiteral("\"%1\" is no format of a number or a date").arg(QLatin1String(pattern)));
+}
+
+TEST_F(ExpressionTest, PartsOfATextAreJoinedAndEmptyOnesLeaveNoGap)
+{
+    AddOne();
+    EXPECT_EQ(Printed(QStringLiteral("{join(', ', MemberName, '', ' ', CollectionNo, CollectionDate)}")),
+        QStringLiteral("विठ्ठल शिंदे, 7, 05/04/2026"));
+    EXPECT_EQ(Printed(QStringLiteral("{if(Liters &gt; 12, join('', Liters, ' लि.'), '')}")),
+        QStringLiteral("12.5 लि."));
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{join(', ', Liters = 1)}</text>")),
+        QStringLiteral("a condition can't be printed; use if(…)"));
+}
+
+TEST_F(ExpressionTest, AFormatMakesATextThatCanBeJoinedAndCompared)
+{
+    AddOne();
+    EXPECT_EQ(Printed(QStringLiteral("{join(' ', format(Amount, '#,##0.00'), 'रुपये')}")),
+        QStringLiteral("437.50 रुपये"));
+    EXPECT_EQ(Printed(QStringLiteral("{if(format(CollectionDate, 'MM') = '04', 'होय', 'नाही')}")),
+        QStringLiteral("होय"));
+    EXPECT_EQ(Printed(QStringLiteral("{CollectionDate|dd MMMM yyyy}")), QStringLiteral("05 एप्रिल 2026"));
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{format(CollectionDate, '0.00')}</text>")),
+        QStringLiteral("the format \"0.00\" needs a number"));
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{format(Liters, 'MM')}</text>")),
+        QStringLiteral("the format \"MM\" needs a date"));
+    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{format(Liters, '0.0') + 1}</text>")),
+        QStringLiteral("texts can't be reckoned with; words stand before or behind the braces"));
+}
+
 TEST_F(ExpressionTest, AnEmptyColumnIsNothingAndCountsAsZero)
 {
     AddOne();
@@ -113,6 +155,8 @@ TEST(ExpressionReading, WhatCantBeReadIsToldAndNotGuessed)
         {u"x = 1 || y = 2", u"\"||\" isn't known; it is written \"or\""},
         {u"1 + * 2", u"a value is missing before \"*\""}, {u"(1 + )", u"a value is missing before \")\""},
         {u"sum(x by y)", u"\"by\" stands in average(x by weight) and in running(x by field)"},
+        {u"format(x, 'dm')", u"\"dm\" is no format of a number or a date"},
+        {u"format(x, y)", u"\"y\" is no format of a number or a date"}, {u"join('a')", u"\",\" is missing"},
         {u"plain(1)", u"plain() takes a field"}, {u"c.", u"a column's name is missing behind \"c.\""}};
     for (const auto& [text, expected] : faults) {
         ExpressionFault fault;

@@ -50,6 +50,15 @@ TEST_F(RecordsTest, ATextStandsThereAsOnPaper)
     EXPECT_FALSE(lines[1].contains(QStringLiteral("sakaaLa"))) << lines[1].toStdString();
 }
 
+TEST_F(RecordsTest, AFigureIsNotGrouped)
+{
+    AddDelivery(1, Morning, QStringLiteral("अशोक"), 1, 4, 123456);
+    EXPECT_EQ(
+        Lines(QStringLiteral("<table source=\"c\"><col w=\"40\" head=\"रु.\">रु. {Amount|#,##,##0.00}</col>"
+                             "</table>")),
+        QStringList({QStringLiteral("रु."), QStringLiteral("रु. 123456.00")}));
+}
+
 TEST_F(RecordsTest, ARowThatPrintsNothingIsThere)
 {
     AddMembers();

@@ -61,6 +61,19 @@ TEST_F(TotalsTest, ARunningSumGoesOnOrBeginsAnewWithItsGroup)
             QStringLiteral("1370.66"), QStringLiteral("840.01")}));
 }
 
+TEST_F(TotalsTest, RowsAreGroupedByTheirMonths)
+{
+    AddShifts();
+    Run(QStringLiteral("update MilkCollectionsTemp set CollectionDate='30/04/2026' where CollectionNo=2"));
+    Run(QStringLiteral("update MilkCollectionsTemp set CollectionDate='01/05/2026' where CollectionNo=3"));
+    const QString table = QStringLiteral(
+        "<table source=\"c\"><col>{MemberNo}</col><col total=\"sum\">{Amount|0.00}</col>"
+        "<group by=\"format(CollectionDate, 'MMMM yyyy')\" label=\"महिना\" head=\"{CollectionDate|MMMM}\" "
+        "foot=\"=\"/></table>");
+    EXPECT_EQ(AllTexts(Template(table)).join(u' '),
+        QStringLiteral("एप्रिल 1 350.55 2 180.10 = 530.65 मे 3 800.01 = 800.01"));
+}
+
 TEST_F(TotalsTest, NestedGroupsEndFromTheInnermost)
 {
     AddShifts();
