@@ -2,12 +2,12 @@
 
 #include "platform/report/ReportData.h"
 
-void Accumulator::Add(const Expression& aggregate, ReportData& data)
+void Accumulator::Add(const Expression& aggregate, const Value* arguments)
 {
     m_count += 1;
     if (aggregate.arguments.empty())
         return;
-    const Value value = Evaluate(aggregate.arguments[0], data);
+    const Value& value = arguments[0];
     switch (aggregate.aggregate) {
     case AggregateKind::Minimum:
     case AggregateKind::Maximum: {
@@ -19,7 +19,7 @@ void Accumulator::Add(const Expression& aggregate, ReportData& data)
     }
     case AggregateKind::Average:
         if (aggregate.arguments.size() > 1) {
-            const double weight = Evaluate(aggregate.arguments[1], data).Number();
+            const double weight = arguments[1].Number();
             m_sum.AddProduct(value.Number(), weight);
             m_weight.Add(weight);
             return;
@@ -59,11 +59,24 @@ Accumulators::Accumulators(const std::vector<Expression>& aggregates, std::size_
 {
 }
 
-void Accumulators::Add(ReportData& data)
+std::vector<Value> Accumulators::Shares(ReportData& data) const
+{
+    std::vector<Value> shares;
+    for (const Expression& aggregate : m_aggregates) {
+        for (const Expression& argument : aggregate.arguments)
+            shares.push_back(Evaluate(argument, data));
+    }
+    return shares;
+}
+
+void Accumulators::Add(const std::vector<Value>& shares)
 {
     for (std::vector<Accumulator>& level : m_levels) {
-        for (std::size_t i = 0; i < m_aggregates.size(); ++i)
-            level[i].Add(m_aggregates[i], data);
+        const Value* share = shares.data();
+        for (std::size_t i = 0; i < m_aggregates.size(); ++i) {
+            level[i].Add(m_aggregates[i], share);
+            share += m_aggregates[i].arguments.size();
+        }
     }
 }
 
@@ -77,4 +90,20 @@ Value Accumulators::Result(int slot, int level) const
 {
     const std::size_t at = static_cast<std::size_t>(slot);
     return m_levels[static_cast<std::size_t>(level)][at].Result(m_aggregates[at]);
+}
+
+TotalsInSight::TotalsInSight(
+    ReportData& data, const Accumulators& rows, const Accumulators& groups, int level)
+    : m_data(data)
+{
+    data.Totals = &rows;
+    data.GroupTotals = &groups;
+    data.TotalsLevel = level;
+}
+
+TotalsInSight::~TotalsInSight()
+{
+    m_data.Totals = nullptr;
+    m_data.GroupTotals = nullptr;
+    m_data.TotalsLevel = 0;
 }

@@ -8,6 +8,14 @@
 #include <memory>
 #include <vector>
 
+class PageTotals;
+
+// What a strip of a table adds to the totals of the page that it is placed on.
+struct PageShare {
+    std::vector<std::vector<Value>> rows; // of each row what its totals are made of
+    std::optional<std::vector<Value>> group; // the same of a row that stands for a group
+};
+
 // A strip across the page, placed as one piece where there is room for it. Its items lie at their places from
 // the left edge of the paper and from the strip's own upper edge.
 struct Band {
@@ -19,6 +27,9 @@ struct Band {
     std::vector<std::vector<Band>> lanes; // instead of items: strips side by side
     bool holdsRows = false; // of lanes: tables or parts that come once a row stand in them
     bool isPicture = false; // is never split; made lower where a page has too little room for it
+    std::shared_ptr<PageTotals> page; // of its table, if they are printed
+    PageShare share;
+    bool endsTable = false; // nothing of its table follows, so nothing is carried over
     QStringList record; // of a row that goes into a spreadsheet: its fields
 
     // Nothing is seen of it: it only carries a record.

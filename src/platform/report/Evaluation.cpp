@@ -116,16 +116,17 @@ QString EvaluateJoin(const Expression& join, ReportData& data)
 // A total outside of a table: the source is walked through for it.
 Value EvaluateOverSource(const Expression& aggregate, ReportData& data)
 {
-    Accumulator total;
+    const std::vector<Expression> one{aggregate};
+    Accumulators total(one, 0);
     RowWalk walk(data, aggregate.source);
     const Row* const before = data.Walked(aggregate.source);
     Row row;
     while (walk.Next(row)) {
         data.SetCurrent(aggregate.source, &row);
-        total.Add(aggregate, data);
+        total.Add(data);
     }
     data.SetCurrent(aggregate.source, before);
-    return total.Result(aggregate);
+    return total.Result(0, 0);
 }
 
 Value EvaluateAggregate(const Expression& aggregate, ReportData& data)
@@ -133,7 +134,8 @@ Value EvaluateAggregate(const Expression& aggregate, ReportData& data)
     if (aggregate.slot < 0)
         return EvaluateOverSource(aggregate, data);
     const int level = aggregate.aggregate == AggregateKind::Running ? aggregate.group + 1 : data.TotalsLevel;
-    return data.Totals ? data.Totals->Result(aggregate.slot, level) : Value();
+    const Accumulators* const totals = aggregate.isOfGroups ? data.GroupTotals : data.Totals;
+    return totals ? totals->Result(aggregate.slot, level) : Value();
 }
 
 }

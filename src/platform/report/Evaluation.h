@@ -27,8 +27,8 @@ bool HoldsFigure(const TemplateText& text, const ReportTemplate& report);
 // One total in the making.
 class Accumulator {
 public:
-    // Takes the current rows in.
-    void Add(const Expression& aggregate, ReportData& data);
+    // Takes in what the arguments of the aggregate come to in one row.
+    void Add(const Expression& aggregate, const Value* arguments);
     Value Result(const Expression& aggregate) const;
 
 private:
@@ -43,8 +43,10 @@ class Accumulators {
 public:
     Accumulators(const std::vector<Expression>& aggregates, std::size_t groups);
 
-    // Takes the current row of the table in.
-    void Add(ReportData& data);
+    // What the current row of the table adds to them, and the taking in of that.
+    std::vector<Value> Shares(ReportData& data) const;
+    void Add(const std::vector<Value>& shares);
+    void Add(ReportData& data) { Add(Shares(data)); }
 
     // A group begins, and with it all groups inside it.
     void Begin(std::size_t group);
@@ -55,4 +57,17 @@ public:
 private:
     const std::vector<Expression>& m_aggregates;
     std::vector<std::vector<Accumulator>> m_levels;
+};
+
+// As long as it lives, totals of a table are told: those of its rows, those of the rows that stand for
+// groups, both at one level.
+class TotalsInSight {
+public:
+    TotalsInSight(ReportData& data, const Accumulators& rows, const Accumulators& groups, int level);
+    ~TotalsInSight();
+    TotalsInSight(const TotalsInSight&) = delete;
+    TotalsInSight& operator=(const TotalsInSight&) = delete;
+
+private:
+    ReportData& m_data;
 };

@@ -41,6 +41,7 @@ struct Expression {
     Operation operation = Operation::Number;
     AggregateKind aggregate = AggregateKind::Sum;
     bool isPlain = false; // of a field: its text is no Marathi and is shown as it is stored
+    bool isOfGroups = false; // of an aggregate: over the rows that stand for groups
     double number = 0; // of a literal; of an aggregate: the decimals that its figures are rounded to first
     QString text;
     QString qualifier;

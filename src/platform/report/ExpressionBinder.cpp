@@ -232,6 +232,14 @@ void ExpressionBinder::NoteReading(int source)
     Use.readByFirstRow.insert(source);
 }
 
+// Whether its row goes by one that is being walked.
+bool ExpressionBinder::MovesOn(int source) const
+{
+    while (source >= 0 && std::find(Walked.begin(), Walked.end(), source) == Walked.end())
+        source = m_report.sources[static_cast<std::size_t>(source)].parent;
+    return source >= 0;
+}
+
 ValueType ExpressionBinder::BindField(Expression& field, const Place& place)
 {
     std::vector<int> candidates;
@@ -251,6 +259,9 @@ ValueType ExpressionBinder::BindField(Expression& field, const Place& place)
         field.source = source;
         field.column = column;
         NoteReading(source);
+        if (place.isPageEnd && MovesOn(source))
+            Fault(place.line,
+                QStringLiteral("\"%1\" is of a row, and a <page> knows totals only").arg(field.text));
         const SourceColumn& found =
             m_report.sources[static_cast<std::size_t>(source)].columns[static_cast<std::size_t>(column)];
         if (field.isPlain && found.type != ValueType::Text && found.type != ValueType::Unknown)
@@ -372,7 +383,8 @@ ValueType ExpressionBinder::BindAggregate(Expression& expression, const Place& p
     }
     const bool isOfTable = place.aggregates != Aggregates::OfSource;
     Place inside = place;
-    inside.aggregates = Aggregates::None;
+    inside.aggregates = expression.isOfGroups ? Aggregates::OfTable : Aggregates::None;
+    inside.isPageEnd = false;
     ValueType type = ValueType::Number;
     if (!isOfTable) {
         expression.source = SourceOf(expression, place.line);
@@ -414,9 +426,11 @@ void ExpressionBinder::BindToTable(Expression& expression, const Place& place)
         else
             expression.group = static_cast<int>(group - table.groups.begin());
     }
-    const auto known = std::find(table.aggregates.begin(), table.aggregates.end(), expression);
-    const int slot = static_cast<int>(known - table.aggregates.begin());
-    if (known == table.aggregates.end())
-        table.aggregates.push_back(expression);
+    std::vector<Expression>& all = expression.isOfGroups ? table.groupAggregates : table.aggregates;
+    expression.slot = -1; // it may have been bound before
+    const auto known = std::find(all.begin(), all.end(), expression);
+    const int slot = static_cast<int>(known - all.begin());
+    if (known == all.end())
+        all.push_back(expression);
     expression.slot = slot;
 }

@@ -13,6 +13,7 @@ public:
         int line = 0;
         Aggregates aggregates = Aggregates::OfSource;
         bool isPageEdge = false; // the page's number is known
+        bool isPageEnd = false; // of a table: its rows have moved on
         TemplateTable* table = nullptr;
     };
 
@@ -45,6 +46,7 @@ public:
 
 private:
     void NoteReading(int source);
+    bool MovesOn(int source) const;
     ValueType BindField(Expression& field, const Place& place);
     ValueType BindArithmetic(Expression& expression, const Place& place);
     ValueType BindComparison(Expression& expression, const Place& place);

@@ -53,6 +53,7 @@ public:
 
     int Page = 0;
     const Accumulators* Totals = nullptr; // of the table being filled
+    const Accumulators* GroupTotals = nullptr; // of its rows that stand for groups
     int TotalsLevel = 0; // 0: the whole table; n: its n-th group
 
 private:

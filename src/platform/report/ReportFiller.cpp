@@ -1,6 +1,7 @@
 #include "platform/report/ReportFiller.h"
 
 #include "platform/report/Evaluation.h"
+#include "platform/report/PageTotals.h"
 #include "platform/report/Room.h"
 #include "platform/text/RunTimeError.h"
 
@@ -29,6 +30,18 @@ bool HasContent(const Band& band)
 float HeightAtTop(const Band& band)
 {
     return band.repeated ? band.repeated->height : 0;
+}
+
+// What has to stand above a strip that begins a page.
+float HeightAbove(const Band& band)
+{
+    return HeightAtTop(band) + (band.page && band.page->HasBegun() ? band.page->HeadHeight() : 0);
+}
+
+// The room that has to be left below a strip, in case it is the last of its page.
+float HeightBelow(const Band& band)
+{
+    return band.page && !band.endsTable ? band.page->FootHeight() : 0;
 }
 
 // How many strips at the front of a lane stay together.
@@ -140,6 +153,7 @@ ReportFiller::Sheet ReportFiller::BeginSheet()
 
 void ReportFiller::EndSheet(Sheet& sheet)
 {
+    AddPageFoot(sheet);
     if (m_report.paper.isRoll) {
         sheet.page.height = sheet.y + HeightOf(sheet.footer) + static_cast<float>(m_report.paper.bottom);
     } else {
@@ -231,22 +245,25 @@ bool ReportFiller::PlaceChain(Sheet& sheet)
         return false;
     const std::size_t length = ChainLength();
     const float height = ChainHeight(length);
-    if (!sheet.isEmpty && sheet.y + height > sheet.end + Tolerance) {
+    const Band& front = m_waiting.front();
+    const float end = sheet.end - HeightBelow(m_waiting[length - 1]);
+    const bool isWhole = sheet.y + (sheet.isEmpty ? HeightAbove(front) : 0) + height <= end + Tolerance;
+    if (!sheet.isEmpty && !isWhole) {
         // What fills more than a page by itself begins where it is, if it can begin there at all.
-        const Band& front = m_waiting.front();
-        const bool isHopeless = height + HeightAtTop(front) > PageHeight();
-        if (!isHopeless || sheet.y + LeastHeight(front, PageHeight()) > sheet.end + Tolerance)
+        const bool isHopeless = HeightAbove(front) + height + sheet.end - end > PageHeight();
+        const float least = LeastHeight(front, PageHeight()) + HeightBelow(front);
+        if (!isHopeless || sheet.y + least > sheet.end + Tolerance)
             return false;
     }
     for (std::size_t i = 0; i < length; ++i) {
-        if (!PlaceNext(sheet))
+        if (!PlaceNext(sheet, isWhole ? end : sheet.end - HeightBelow(m_waiting.front())))
             return false;
     }
     return true;
 }
 
-// Places the first waiting strip; false if it, or a part of it, has to go on to the next page.
-bool ReportFiller::PlaceNext(Sheet& sheet)
+// Places the first waiting strip above `end`; false if it, or a part of it, has to go on to the next page.
+bool ReportFiller::PlaceNext(Sheet& sheet, float end)
 {
     Band& front = m_waiting.front();
     if (front.IsUnseen()) {
@@ -254,7 +271,7 @@ bool ReportFiller::PlaceNext(Sheet& sheet)
         m_waiting.pop_front();
         return true;
     }
-    const bool fits = sheet.y + front.height <= sheet.end + Tolerance;
+    const bool fits = sheet.y + front.height <= end + Tolerance;
     if (!fits && !front.lanes.empty()) {
         for (std::vector<Band>& lane : front.lanes)
             m_lanes.emplace_back(std::make_move_iterator(lane.begin()), std::make_move_iterator(lane.end()));
@@ -263,17 +280,40 @@ bool ReportFiller::PlaceNext(Sheet& sheet)
         return ContinueLanes(sheet);
     }
     if (sheet.isEmpty)
-        sheet.y = AddRepeated(sheet, front, sheet.y);
-    if (sheet.y + front.height > sheet.end + Tolerance) {
+        AddPageHead(sheet, front);
+    if (sheet.y + front.height > end + Tolerance) {
         if (!sheet.isEmpty)
             return false;
-        FitFront(m_waiting, sheet.end - sheet.y);
+        FitFront(m_waiting, end - sheet.y);
     }
     Band band = std::move(m_waiting.front());
     m_waiting.pop_front();
     sheet.isEmpty = false;
+    sheet.totals = band.endsTable ? nullptr : band.page;
     Place(sheet, band);
+    if (band.page)
+        band.page->Take(band.share);
     return true;
+}
+
+// Puts down what stands above a strip that begins a page: the heads of its table, and what is carried over.
+void ReportFiller::AddPageHead(Sheet& sheet, const Band& band)
+{
+    sheet.y = AddRepeated(sheet, band, sheet.y);
+    if (!band.page || !band.page->HasBegun())
+        return;
+    for (Band& line : band.page->Head())
+        Place(sheet, line);
+}
+
+// Puts down the totals of the page, if a table goes on over it.
+void ReportFiller::AddPageFoot(Sheet& sheet)
+{
+    if (!sheet.totals)
+        return;
+    for (Band& line : sheet.totals->Foot())
+        Place(sheet, line);
+    sheet.totals->EndPage();
 }
 
 // Puts down what stands above a strip that begins a page, if it leaves room; returns where the strip goes.
@@ -390,6 +430,9 @@ Band ReportFiller::Split(Band& whole, float room)
     Band rest;
     first.height = room;
     first.record = std::move(whole.record);
+    first.share = std::exchange(whole.share, {});
+    first.page = rest.page = whole.page;
+    rest.endsTable = whole.endsTable;
     rest.repeated = whole.repeated;
     rest.keepWithNext = whole.keepWithNext;
     bool goesOver = false; // the item before, or a part of it

@@ -26,6 +26,7 @@ private:
         float end = 0; // where the foot of the page begins
         bool isEmpty = true; // nothing but its head stands on it
         std::vector<Band> footer;
+        std::shared_ptr<PageTotals> totals; // of a table that goes on below what stands there
     };
     using Lanes = std::vector<std::deque<Band>>;
 
@@ -37,7 +38,7 @@ private:
     float ChainHeight(std::size_t length) const;
     float PageHeight() const;
     bool PlaceChain(Sheet& sheet);
-    bool PlaceNext(Sheet& sheet);
+    bool PlaceNext(Sheet& sheet, float end);
     void Place(Sheet& sheet, Band& band);
     void Put(Sheet& sheet, Band& band, float y, float& height);
     bool ContinueLanes(Sheet& sheet);
@@ -47,6 +48,8 @@ private:
     void SplitItem(PlacedItem item, float room, Band& first, Band& rest);
     void SplitLanes(Band& whole, float room, Band& first, Band& rest);
     float AddRepeated(Sheet& sheet, const Band& band, float y);
+    void AddPageHead(Sheet& sheet, const Band& band);
+    void AddPageFoot(Sheet& sheet);
     void BeginRecords();
     void Record(const QStringList& record);
 

@@ -83,6 +83,7 @@ struct TemplateLane {
 
 struct TemplateColumn {
     int line = 0;
+    std::optional<Expression> condition; // looked at once, before the table begins
     WidthRule width;
     TemplateText head, cell;
     TextLook look;
@@ -91,11 +92,19 @@ struct TemplateColumn {
     bool totalIsOwnSum = false; // total="sum": the sum of the figures as printed
 };
 
-// A cell above the column heads that stretches over several of them.
+// A cell that stretches over several columns: above their heads, or in a line of its own.
 struct TemplateSpan {
+    int line = 0;
     int columns = 1;
     TemplateText text;
     TextLook look;
+};
+
+// A line of a group's head or of a foot, with cells of its own in the columns of the table.
+struct TemplateLine {
+    int line = 0;
+    std::optional<Expression> condition;
+    std::vector<TemplateSpan> cells;
 };
 
 struct TemplateGroup {
@@ -104,8 +113,15 @@ struct TemplateGroup {
     QString name; // the text of `by`, as running(x by name) names it
     QString label; // what its values are called in a spreadsheet; empty: the name
     TemplateText head, foot;
+    std::vector<TemplateLine> headLines, footLines; // below those
     int keep = 1; // rows that stay with the head
     bool newPage = false;
+};
+
+// What stands where a table goes on over pages: the totals of the page, and of all so far.
+struct TemplatePageTotals {
+    int line = 0;
+    TemplateText foot, carry, head;
 };
 
 struct TemplateTable {
@@ -116,12 +132,16 @@ struct TemplateTable {
     std::vector<TemplateColumn> columns;
     std::vector<TemplateGroup> groups;
     std::optional<TemplateText> totalLabel;
+    std::vector<TemplateLine> totalLines; // below it
     int totalLine = 0;
+    std::optional<TemplatePageTotals> page;
+    bool isOfGroups = false; // a row for each of the innermost groups, none for those of the source
     bool hasHeads = false;
     bool hasLines = false; // a thin rule under each row
 
     // Found by the check.
     std::vector<Expression> aggregates; // those of the totals, each once
+    std::vector<Expression> groupAggregates; // those over the rows that stand for groups
 };
 
 struct TemplateSeries {

@@ -30,6 +30,9 @@ private:
     void CheckEach(TemplateElement& element, const Place& place);
     void CheckTable(TemplateTable& table, const Place& place);
     void CheckColumn(TemplateTable& table, TemplateColumn& column, Place place);
+    void BindOwnSum(const TemplateTable& table, TemplateColumn& column);
+    void CheckLines(std::vector<TemplateLine>& lines, Place place);
+    void CheckTotalLines(TemplateTable& table, Place place);
     void CheckGroup(TemplateTable& table, TemplateGroup& group, Place place);
     void CheckTotals(const TemplateTable& table, int line);
     void CheckChart(TemplateChart& chart, const Place& place);
@@ -176,6 +179,7 @@ void Checker::CheckTable(TemplateTable& table, const Place& place)
     for (TemplateColumn& column : table.columns) {
         Place head = place;
         head.line = column.line;
+        m_binder.BindCondition(column.condition, head);
         m_binder.BindText(column.head, head);
     }
     table.source = Enter(table.sourceName, place.line);
@@ -189,39 +193,78 @@ void Checker::CheckTable(TemplateTable& table, const Place& place)
         CheckGroup(table, group, inside);
     for (TemplateColumn& column : table.columns)
         CheckColumn(table, column, inside);
-    if (table.totalLabel) {
-        inside.aggregates = Aggregates::OfTable;
-        inside.line = table.totalLine;
-        m_binder.BindText(*table.totalLabel, inside);
-    }
+    CheckTotalLines(table, inside);
     CheckTotals(table, place.line);
     Leave();
+}
+
+void Checker::CheckTotalLines(TemplateTable& table, Place place)
+{
+    place.aggregates = Aggregates::OfTable;
+    if (table.totalLabel) {
+        place.line = table.totalLine;
+        m_binder.BindText(*table.totalLabel, place);
+        CheckLines(table.totalLines, place);
+    }
+    if (table.page) {
+        place.line = table.page->line;
+        place.isPageEnd = true;
+        for (TemplateText* text : {&table.page->foot, &table.page->carry, &table.page->head})
+            m_binder.BindText(*text, place);
+    }
+}
+
+void Checker::CheckLines(std::vector<TemplateLine>& lines, Place place)
+{
+    for (TemplateLine& line : lines) {
+        place.line = line.line;
+        m_binder.BindCondition(line.condition, place);
+        std::size_t columns = 0;
+        for (TemplateSpan& cell : line.cells) {
+            place.line = cell.line;
+            m_binder.BindText(cell.text, place);
+            columns += static_cast<std::size_t>(cell.columns);
+        }
+        if (columns > place.table->columns.size())
+            m_binder.Fault(line.line,
+                QStringLiteral("the cells span %1 columns, but there are %2")
+                    .arg(columns)
+                    .arg(place.table->columns.size()));
+    }
 }
 
 void Checker::CheckColumn(TemplateTable& table, TemplateColumn& column, Place place)
 {
     place.line = column.line;
-    place.table = &table;
-    place.aggregates = Aggregates::RunningOnly;
+    place.aggregates = table.isOfGroups ? Aggregates::OfTable : Aggregates::RunningOnly;
     m_binder.BindText(column.cell, place);
-    if (column.totalIsOwnSum) {
-        if (!column.cell.IsOneExpression() || column.cell.Uses(Operation::Aggregate)) {
-            m_binder.Fault(column.line, QStringLiteral("total=\"sum\" needs a column of one {expression}"));
-            return;
-        }
-        const TextPiece& piece = column.cell.pieces.front();
-        Expression sum;
-        sum.operation = Operation::Aggregate;
-        sum.number = piece.format.decimals;
-        sum.arguments.push_back(*piece.expression);
-        column.total = std::move(sum);
-    }
+    if (column.totalIsOwnSum)
+        BindOwnSum(table, column);
     if (!column.total)
         return;
     place.aggregates = Aggregates::OfTable;
+    place.isPageEnd = table.page.has_value();
+    const bool countsRows =
+        column.total->operation == Operation::Aggregate && column.total->arguments.empty();
+    column.total->isOfGroups = table.isOfGroups && (column.totalIsOwnSum || countsRows);
     const ValueType type = m_binder.Bind(*column.total, place);
     if (type == ValueType::Truth)
         m_binder.Fault(column.line, QStringLiteral("a condition can't be printed; use if(…)"));
+}
+
+// total="sum": the sum of the figures as they are printed.
+void Checker::BindOwnSum(const TemplateTable& table, TemplateColumn& column)
+{
+    if (!column.cell.IsOneExpression() || (!table.isOfGroups && column.cell.Uses(Operation::Aggregate))) {
+        m_binder.Fault(column.line, QStringLiteral("total=\"sum\" needs a column of one {expression}"));
+        return;
+    }
+    const TextPiece& piece = column.cell.pieces.front();
+    Expression sum;
+    sum.operation = Operation::Aggregate;
+    sum.number = piece.format.decimals;
+    sum.arguments.push_back(*piece.expression);
+    column.total = std::move(sum);
 }
 
 void Checker::CheckGroup(TemplateTable& table, TemplateGroup& group, Place place)
@@ -231,21 +274,28 @@ void Checker::CheckGroup(TemplateTable& table, TemplateGroup& group, Place place
     if (m_binder.Bind(group.by, place) == ValueType::Truth)
         m_binder.Fault(group.line, QStringLiteral("rows aren't grouped by a condition; use if(…)"));
     m_binder.BindText(group.head, place);
+    CheckLines(group.headLines, place);
+    place.line = group.line;
     place.aggregates = Aggregates::OfTable;
     m_binder.BindText(group.foot, place);
+    CheckLines(group.footLines, place);
 }
 
 void Checker::CheckTotals(const TemplateTable& table, int line)
 {
     const auto first = std::find_if(table.columns.begin(), table.columns.end(),
         [](const TemplateColumn& column) { return column.total.has_value(); });
-    const bool hasFoot = table.totalLabel
+    if (first == table.columns.end())
+        return;
+    const bool hasFoot = table.totalLabel || table.page
         || std::any_of(table.groups.begin(), table.groups.end(),
             [](const TemplateGroup& group) { return !group.foot.IsEmpty(); });
-    if (first != table.columns.end() && !hasFoot)
+    const bool hasRoom = std::any_of(
+        table.columns.begin(), first, [](const TemplateColumn& column) { return !column.condition; });
+    if (!hasFoot)
         m_binder.Fault(first->line,
             QStringLiteral("the total is never printed: there is no <total> and no group's foot"));
-    if (first == table.columns.begin() && hasFoot && first != table.columns.end())
+    else if (!hasRoom)
         m_binder.Fault(
             line, QStringLiteral("the first column has a total, so there is no room for its label"));
 }

@@ -6,19 +6,18 @@ namespace {
 
 constexpr double LargestLength = 1000;
 constexpr double HeaviestRule = 10;
-constexpr double MostRows = 100;
 constexpr int DeepestElement = 40;
 
-// An element with what all of them have; `only` is said of rows, `if` of the element itself.
-TemplateElement BeginElement(ElementKind kind, ElementAttributes& attributes, QStringView condition = u"if")
+}
+
+TemplateElement TemplateReader::BeginElement(
+    ElementKind kind, ElementAttributes& attributes, QStringView condition)
 {
     TemplateElement element;
     element.kind = kind;
     element.line = attributes.Line();
     element.condition = attributes.Condition(condition);
     return element;
-}
-
 }
 
 bool TemplateReader::NextChild(QStringView name)
@@ -180,105 +179,6 @@ TemplateElement TemplateReader::ReadEach(Place place)
     attributes.Finish();
     element.children = ReadElements(place);
     return element;
-}
-
-TemplateElement TemplateReader::ReadTable(Place place)
-{
-    ElementAttributes attributes(m_xml, *this);
-    TemplateElement element = BeginElement(ElementKind::Table, attributes);
-    element.look = attributes.Look();
-    element.table = std::make_unique<TemplateTable>();
-    TemplateTable& table = *element.table;
-    table.sourceName = attributes.Required(u"source");
-    table.only = attributes.Condition(u"only");
-    table.hasLines = attributes.Flag(u"lines");
-    attributes.Finish();
-    while (NextElement()) {
-        if (m_xml.name() == u"col")
-            ReadColumn(table);
-        else if (m_xml.name() == u"heads")
-            ReadSpans(table);
-        else if (m_xml.name() == u"group")
-            ReadGroup(table, place);
-        else if (m_xml.name() == u"total")
-            ReadTotal(table);
-        else
-            RefuseElement();
-    }
-    if (table.columns.empty())
-        Fault(element.line, QStringLiteral("<table> has no <col>"));
-    return element;
-}
-
-void TemplateReader::ReadSpans(TemplateTable& table)
-{
-    ElementAttributes attributes(m_xml, *this);
-    attributes.Finish();
-    while (NextChild(u"head")) {
-        ElementAttributes own(m_xml, *this);
-        TemplateSpan span;
-        span.columns = static_cast<int>(own.Number(u"span", 1, MostRows, 1));
-        span.look = own.Look();
-        own.Finish();
-        span.text = ReadContent(own.Line());
-        table.spans.push_back(std::move(span));
-    }
-}
-
-void TemplateReader::ReadColumn(TemplateTable& table)
-{
-    ElementAttributes attributes(m_xml, *this);
-    TemplateColumn column;
-    column.line = attributes.Line();
-    column.width = attributes.Width();
-    column.head = attributes.Template(u"head");
-    column.look = attributes.Look();
-    column.wraps = attributes.Flag(u"wrap");
-    const QString total = attributes.Text(u"total");
-    column.totalIsOwnSum = total == u"sum";
-    if (total == u"count") {
-        column.total.emplace();
-        column.total->operation = Operation::Aggregate;
-        column.total->aggregate = AggregateKind::Count;
-    } else if (!total.isEmpty() && !column.totalIsOwnSum) {
-        column.total = attributes.Condition(u"total");
-    }
-    attributes.Finish();
-    column.cell = ReadContent(column.line);
-    table.hasHeads = table.hasHeads || !column.head.IsEmpty();
-    table.columns.push_back(std::move(column));
-}
-
-void TemplateReader::ReadGroup(TemplateTable& table, Place place)
-{
-    ElementAttributes attributes(m_xml, *this);
-    TemplateGroup group;
-    group.line = attributes.Line();
-    group.name = attributes.Required(u"by");
-    const std::optional<Expression> by = group.name.isEmpty() ? std::nullopt : attributes.Condition(u"by");
-    group.label = attributes.Text(u"label");
-    group.head = attributes.Template(u"head");
-    group.foot = attributes.Template(u"foot");
-    group.keep = static_cast<int>(attributes.Number(u"keep", 1, MostRows, 1));
-    group.newPage = attributes.Flag(u"newpage");
-    RefuseNewPage(group.line, group.newPage, place);
-    attributes.Finish();
-    EndEmpty();
-    if (!by)
-        return;
-    group.by = *by;
-    table.groups.push_back(std::move(group));
-}
-
-void TemplateReader::ReadTotal(TemplateTable& table)
-{
-    ElementAttributes attributes(m_xml, *this);
-    if (table.totalLabel)
-        attributes.Fault(QStringLiteral("there is a second <total>"));
-    table.totalLine = attributes.Line();
-    table.totalLabel = attributes.Template(u"label");
-    attributes.Finish();
-    EndEmpty();
 }
 
 TemplateElement TemplateReader::ReadChart()

@@ -88,6 +88,10 @@ private:
     std::optional<TemplateElement> ReadElement(Place place);
     std::optional<TemplateElement> ReadLongElement(Place place);
     bool MayStand(Place place);
+
+    // An element with what all of them have; `only` is said of rows, `if` of the element itself.
+    static TemplateElement BeginElement(
+        ElementKind kind, ElementAttributes& attributes, QStringView condition = u"if");
     TemplateElement ReadSimple(ElementKind kind);
     TemplateElement ReadPairs();
     TemplateElement ReadLanes(Place place);
@@ -97,6 +101,9 @@ private:
     void ReadSpans(TemplateTable& table);
     void ReadColumn(TemplateTable& table);
     void ReadGroup(TemplateTable& table, Place place);
+    void ReadPageTotals(TemplateTable& table, Place place);
+    void ReadLine(std::vector<TemplateLine>& lines);
+    std::vector<TemplateSpan> ReadCells(QStringView name);
     void RefuseNewPage(int line, bool newPage, Place place);
     void ReadTotal(TemplateTable& table);
 

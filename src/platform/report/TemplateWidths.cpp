@@ -186,9 +186,29 @@ private:
         }
         CheckHeads(element, widths);
         CheckTotalLabel(element, widths);
+        for (const TemplateGroup& group : table.groups) {
+            CheckLines(element, group.headLines, widths);
+            CheckLines(element, group.footLines, widths);
+        }
+        CheckLines(element, table.totalLines, widths);
     }
 
-    // The heads come again on every page, with a row below them at least.
+    void CheckLines(const TemplateElement& element, const std::vector<TemplateLine>& lines,
+        const std::vector<double>& widths)
+    {
+        for (const TemplateLine& line : lines) {
+            std::size_t at = 0;
+            for (const TemplateSpan& cell : line.cells) {
+                double width = 0;
+                for (int i = 0; i < cell.columns && at < widths.size(); ++i)
+                    width += widths[at++];
+                const double size = m_heights.LetterSize(cell.look, element.look.size);
+                CheckLetters(cell.line, cell.text, size, std::max(width, SmallestShare));
+            }
+        }
+    }
+
+    // The heads come again on every page, with a row below them at least, and the totals of the page.
     void CheckHeads(const TemplateElement& element, const std::vector<double>& widths)
     {
         const TemplateTable& table = *element.table;
@@ -209,6 +229,12 @@ private:
             row = std::max(row, m_heights.Line(column.look, element.look.size));
         }
         const double edges = 2 * (Room::HeadRule + 2 * Room::RowPadding);
+        if (table.page) {
+            int lines = 0;
+            for (const TemplateText* text : {&table.page->foot, &table.page->carry, &table.page->head})
+                lines += text->IsEmpty() ? 0 : 1;
+            spans += lines * (row + 2 * Room::RowPadding);
+        }
         if (heads + spans > 0 && row <= m_pageHeight)
             CheckHeight(element.line, spans + heads + row + edges, "the head of the table with a row");
     }
@@ -216,15 +242,17 @@ private:
     void CheckTotalLabel(const TemplateElement& element, const std::vector<double>& widths)
     {
         const TemplateTable& table = *element.table;
-        const bool hasLabel = (table.totalLabel && !table.totalLabel->IsEmpty())
+        const bool hasLabel = (table.totalLabel && !table.totalLabel->IsEmpty()) || table.page
             || std::any_of(table.groups.begin(), table.groups.end(),
                 [](const TemplateGroup& group) { return !group.foot.IsEmpty(); });
         double room = 0;
         std::size_t first = 0;
-        while (first < widths.size() && !table.columns[first].total && !table.columns[first].totalIsOwnSum)
-            room += widths[first++];
+        while (first < widths.size() && !table.columns[first].total && !table.columns[first].totalIsOwnSum) {
+            room += table.columns[first].condition ? 0 : widths[first];
+            ++first;
+        }
         const double needed = LettersOfALabel * m_heights.LetterSize(element.look);
-        if (hasLabel && first > 0 && first < widths.size() && room < needed - Tolerance)
+        if (hasLabel && room > 0 && first < widths.size() && room < needed - Tolerance)
             m_fault(table.columns[first].line,
                 QStringLiteral("before the first total there are %1 mm for its label, which needs %2 mm")
                     .arg(Shown(room), Shown(needed)));

@@ -113,6 +113,23 @@ PlacedItem ReportTest::Item(const Page& page, const QString& text)
     return {};
 }
 
+void ReportTest::ExpectGolden(const Report& report, const QString& name)
+{
+    QStringList lines;
+    for (std::size_t i = 0; i < report.PageCount(); ++i)
+        lines += Describe(report.PageAt(i), report.Fonts());
+    const QString seen = lines.join(u'\n') + QStringLiteral("\n");
+    QFile golden(QStringLiteral(GOLDEN_FOLDER "/") + name);
+    if (qEnvironmentVariableIsSet("VETROLAN_RENEW")) {
+        ASSERT_TRUE(golden.open(QIODevice::WriteOnly));
+        golden.write(seen.toUtf8());
+    } else {
+        ASSERT_TRUE(golden.open(QIODevice::ReadOnly));
+        EXPECT_EQ(seen, QString::fromUtf8(golden.readAll()))
+            << "if the change is wanted: VETROLAN_RENEW=1 report_tests";
+    }
+}
+
 QString ReportTest::Write(const QString& name, const QString& text) const
 {
     QFile target(File(name));

@@ -53,6 +53,9 @@ protected:
     // The first item of a page that has this text; the test fails if there is none.
     static PlacedItem Item(const Page& page, const QString& text);
 
+    // Holds all items of all pages against the golden file of that name.
+    static void ExpectGolden(const Report& report, const QString& name);
+
     QString File(const QString& name) const { return folder.filePath(name); }
     QString Write(const QString& name, const QString& text) const;
 
