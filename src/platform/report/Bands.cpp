@@ -15,159 +15,6 @@ float ToPoints(double millimetres)
     return static_cast<float>(millimetres * PointsPerMillimetre);
 }
 
-// Side by side: each lane is laid out to its end, and the page decides how much of each it takes.
-class LanesStream final : public BandStream {
-public:
-    LanesStream(const TemplateElement& element, BandMaker& maker, Stretch stretch)
-    {
-        std::vector<WidthRule> rules;
-        for (const TemplateLane& lane : element.lanes)
-            rules.push_back(lane.width);
-        const double gap = element.size * PointsPerMillimetre;
-        const std::vector<double> widths = DivideWidth(rules, stretch.width, gap);
-        double x = stretch.x;
-        for (std::size_t i = 0; i < element.lanes.size(); ++i) {
-            const Stretch own{static_cast<float>(x), static_cast<float>(widths[i])};
-            AddLane(MakeFlow(element.lanes[i].elements, maker, own));
-            m_band.holdsRows = m_band.holdsRows || HoldsRows(element.lanes[i]);
-            x += widths[i] + gap;
-        }
-    }
-
-    bool Next(Band& band) override
-    {
-        if (m_isDone)
-            return false;
-        m_isDone = true;
-        band = std::move(m_band);
-        return true;
-    }
-
-private:
-    static bool HoldsRows(const TemplateLane& lane)
-    {
-        return std::any_of(lane.elements.begin(), lane.elements.end(), [](const TemplateElement& element) {
-            return element.kind == ElementKind::Table || element.kind == ElementKind::Each;
-        });
-    }
-
-    void AddLane(const std::unique_ptr<BandStream>& flow)
-    {
-        std::vector<Band>& lane = m_band.lanes.emplace_back();
-        float height = 0;
-        for (Band band; flow->Next(band); band = Band()) {
-            height += band.height;
-            lane.push_back(std::move(band));
-        }
-        m_band.height = std::max(m_band.height, height);
-    }
-
-    Band m_band;
-    bool m_isDone = false;
-};
-
-// The children once for each row of a source.
-class EachStream final : public BandStream {
-public:
-    EachStream(const TemplateElement& element, BandMaker& maker, Stretch stretch)
-        : m_element(element)
-        , m_maker(maker)
-        , m_stretch(stretch)
-        , m_walk(maker.Data, element.source)
-        , m_depth(maker.Records.DepthOf(element))
-    {
-    }
-
-    ~EachStream() override { m_maker.Data.SetCurrent(m_element.source, nullptr); }
-
-    bool Next(Band& band) override
-    {
-        for (;;) {
-            if (!m_kept.empty()) {
-                band = std::move(m_kept.front());
-                m_kept.pop_front();
-                return true;
-            }
-            if (m_children && m_children->Next(band)) {
-                Record(band);
-                return true;
-            }
-            if (m_children && RecordAlone(band))
-                return true;
-            if (!Advance())
-                return false;
-        }
-    }
-
-private:
-    bool Advance()
-    {
-        m_children.reset();
-        do {
-            m_maker.Data.SetCurrent(m_element.source, nullptr);
-            if (!m_walk.Next(m_row))
-                return false;
-            m_maker.Data.SetCurrent(m_element.source, &m_row);
-        } while (!m_maker.Holds(m_element.condition));
-        m_children = MakeFlow(m_element.children, m_maker, m_stretch);
-        m_waitsForRecord = m_maker.Records.each == &m_element;
-        m_countBefore = m_maker.RecordCount;
-        if (m_element.keep || m_element.newPage)
-            Collect();
-        return true;
-    }
-
-    // The first strip of a row takes its record along.
-    void Record(Band& band)
-    {
-        if (std::exchange(m_waitsForRecord, false))
-            MakeRecord(band);
-    }
-
-    // A row of which nothing went into the spreadsheet by now, such as one without rows inside, stands there
-    // by itself. It is laid out to its end when this is asked.
-    bool RecordAlone(Band& band)
-    {
-        if (m_depth == 0 || m_maker.RecordCount != m_countBefore)
-            return false;
-        MakeRecord(band);
-        return true;
-    }
-
-    void MakeRecord(Band& band)
-    {
-        band.record = FieldsAround(m_maker.Records, m_depth, m_maker.Data);
-        m_maker.RecordCount += 1;
-    }
-
-    // All strips of a row that stay together.
-    void Collect()
-    {
-        for (Band band; m_children->Next(band); band = Band()) {
-            Record(band);
-            band.keepWithNext = band.keepWithNext || m_element.keep;
-            m_kept.push_back(std::move(band));
-        }
-        if (!m_kept.empty()) {
-            m_kept.back().keepWithNext = false;
-            m_kept.front().newPage = m_element.newPage;
-        }
-        if (Band alone; RecordAlone(alone))
-            m_kept.push_back(std::move(alone));
-    }
-
-    const TemplateElement& m_element;
-    BandMaker& m_maker;
-    Stretch m_stretch;
-    RowWalk m_walk;
-    Row m_row;
-    std::size_t m_depth; // among the parts whose rows go into the spreadsheet, from 1; 0: it is none of them
-    int m_countBefore = 0; // of the records, when the row began
-    bool m_waitsForRecord = false;
-    std::unique_ptr<BandStream> m_children;
-    std::deque<Band> m_kept;
-};
-
 class FlowStream final : public BandStream {
 public:
     FlowStream(const std::vector<TemplateElement>& elements, BandMaker& maker, Stretch stretch)
@@ -204,7 +51,7 @@ private:
     void Begin(const TemplateElement& element)
     {
         if (element.kind == ElementKind::Each)
-            m_child = std::make_unique<EachStream>(element, m_maker, m_stretch);
+            m_child = MakeEach(element, m_maker, m_stretch);
         else if (m_maker.Holds(element.condition))
             BeginHolding(element);
     }
@@ -213,7 +60,7 @@ private:
     {
         switch (element.kind) {
         case ElementKind::Columns:
-            m_child = std::make_unique<LanesStream>(element, m_maker, m_stretch);
+            m_ready.push_back(MakeLanes(element, m_maker, m_stretch));
             break;
         case ElementKind::Table:
             m_child = MakeTable(element, m_maker, m_stretch);

@@ -10,6 +10,13 @@
 
 class PageTotals;
 
+// A frame of ruled lines around a strip or a part of it.
+struct Frame {
+    float weight = 0;
+    float x = 0, width = 0;
+    float inset = 0; // from the upper and the lower edge of the strip
+};
+
 // What a strip of a table adds to the totals of the page that it is placed on.
 struct PageShare {
     std::vector<std::vector<Value>> rows; // of each row what its totals are made of
@@ -25,6 +32,9 @@ struct Band {
     bool newPage = false; // begins a page
     std::shared_ptr<const Band> repeated; // stands above it when it begins a page: the heads of its table
     std::vector<std::vector<Band>> lanes; // instead of items: strips side by side
+    std::vector<Frame> frames; // around the lanes
+    bool isElastic = false; // nothing but the height that is left in a lane above what stands at its bottom
+    bool restartsPages = false; // the pages are numbered anew from the one that it begins
     bool holdsRows = false; // of lanes: tables or parts that come once a row stand in them
     bool isPicture = false; // is never split; made lower where a page has too little room for it
     std::shared_ptr<PageTotals> page; // of its table, if they are printed
@@ -71,6 +81,10 @@ private:
 // The strips of a chart: one.
 Band MakeChart(const TemplateElement& element, BandMaker& maker, Stretch stretch);
 
+// The strip of blocks side by side: each is laid out to its end, and the page decides how much of each it
+// takes.
+Band MakeLanes(const TemplateElement& element, BandMaker& maker, Stretch stretch);
+
 // A part of a template that gives its strips one after the other, reading rows as it goes.
 class BandStream {
 public:
@@ -83,6 +97,9 @@ public:
 // The elements of a template one under the other.
 std::unique_ptr<BandStream> MakeFlow(
     const std::vector<TemplateElement>& elements, BandMaker& maker, Stretch stretch);
+
+// Some elements once for each row of a source, or for each value that its rows have.
+std::unique_ptr<BandStream> MakeEach(const TemplateElement& element, BandMaker& maker, Stretch stretch);
 
 // The rows of a table with their heads, groups and totals.
 std::unique_ptr<BandStream> MakeTable(const TemplateElement& element, BandMaker& maker, Stretch stretch);

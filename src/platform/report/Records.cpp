@@ -77,7 +77,7 @@ QStringList RecordHeads(const RecordPlan& plan, ReportData& data)
 {
     QStringList heads;
     for (const TemplateElement* part : plan.around)
-        heads += FieldNames(part->source, data);
+        heads += part->by ? QStringList(part->byName) : FieldNames(part->source, data);
     if (plan.table)
         heads += TableHeads(*plan.table, data);
     return heads;
@@ -93,7 +93,8 @@ QStringList FieldsAround(const RecordPlan& plan, std::size_t parts, ReportData& 
 {
     QStringList fields;
     for (std::size_t i = 0; i < parts; ++i)
-        fields += Fields(plan.around[i]->source, data);
+        fields += plan.around[i]->by ? QStringList(Evaluate(*plan.around[i]->by, data).Text())
+                                     : Fields(plan.around[i]->source, data);
     return fields;
 }
 

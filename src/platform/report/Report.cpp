@@ -8,6 +8,8 @@
 
 #include <QTemporaryFile>
 
+#include <algorithm>
+
 Report::Report(ReportTemplate report, std::shared_ptr<Connection> connection, Selection selection)
     : m_template(std::move(report))
     , m_connection(std::move(connection))
@@ -29,17 +31,21 @@ bool Report::LayOutNext()
     }
     m_records = m_filler->Records();
     m_filler.reset();
-    FillInPageCount();
+    FillInPageCounts();
     return false;
 }
 
-void Report::FillInPageCount()
+void Report::FillInPageCounts()
 {
-    const QString count = QString::number(m_pages.size());
-    for (Page& page : m_pages) {
-        for (const quint32 item : page.waiting)
-            page.items[item].text.replace(PageCountMark, count);
-        page.waiting.clear();
+    for (auto first = m_pages.begin(); first != m_pages.end();) {
+        const auto end =
+            std::find_if(first + 1, m_pages.end(), [](const Page& page) { return page.restartsPages; });
+        const QString count = QString::number(end - first);
+        for (; first != end; ++first) {
+            for (const quint32 item : first->waiting)
+                first->items[item].text.replace(PageCountMark, count);
+            first->waiting.clear();
+        }
     }
 }
 

@@ -61,7 +61,7 @@ public:
 
 private:
     bool WritePdf(QIODevice& device);
-    void FillInPageCount();
+    void FillInPageCounts();
 
     ReportTemplate m_template;
     QString m_subject;

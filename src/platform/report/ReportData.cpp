@@ -64,6 +64,7 @@ ReportData::ReportData(const ReportTemplate& report, Connection& connection, Sel
     , m_selection(std::move(selection))
     , m_selected(FindSelected(report, m_selection))
     , m_current(report.sources.size(), nullptr)
+    , m_runs(report.sources.size(), nullptr)
     , m_linked(report.sources.size())
     , m_first(report.sources.size())
 {
@@ -202,7 +203,9 @@ QString ReportData::Seen(const QString& stored)
 
 RowWalk::RowWalk(ReportData& data, int source) : m_data(data), m_source(source)
 {
-    if (data.Template().sources[static_cast<std::size_t>(source)].parent >= 0)
+    if (data.Run(source))
+        m_linked = data.Run(source);
+    else if (data.Template().sources[static_cast<std::size_t>(source)].parent >= 0)
         m_linked = &data.LinkedRows(source);
     else
         m_rows = std::make_unique<Recordset>(data.Open(source));

@@ -32,6 +32,11 @@ public:
     void SetCurrent(int source, const Row* row) { m_current[static_cast<std::size_t>(source)] = row; }
     const Row* Walked(int source) const { return m_current[static_cast<std::size_t>(source)]; }
 
+    // The rows of a source that are walked where it is walked once more within an <each> of their value;
+    // nullptr where it isn't.
+    void SetRun(int source, const std::vector<Row>* rows) { m_runs[static_cast<std::size_t>(source)] = rows; }
+    const std::vector<Row>* Run(int source) const { return m_runs[static_cast<std::size_t>(source)]; }
+
     // $society and its like.
     Value Variable(const QString& name);
 
@@ -68,13 +73,15 @@ private:
     Selection m_selection;
     int m_selected = -1; // the source that the selection narrows
     std::vector<const Row*> m_current;
+    std::vector<const std::vector<Row>*> m_runs;
     std::vector<std::unique_ptr<RowsByKey>> m_linked;
     std::vector<std::unique_ptr<std::vector<Row>>> m_first; // one row, or none
     QHash<QString, Value> m_variables;
     QHash<QString, QString> m_seen;
 };
 
-// A walk through the rows of a source: all of it, or those that hang on the parent's current row.
+// A walk through the rows of a source: all of it, those that hang on the parent's current row, or a run of
+// them.
 class RowWalk {
 public:
     // Stands before the first row.

@@ -1,5 +1,6 @@
 #include "platform/report/ReportFiller.h"
 
+#include "platform/report/BandSplitter.h"
 #include "platform/report/Evaluation.h"
 #include "platform/report/PageTotals.h"
 #include "platform/report/Room.h"
@@ -12,20 +13,6 @@
 namespace {
 
 constexpr float Tolerance = 0.01F;
-
-float HeightOf(const std::vector<Band>& bands)
-{
-    float height = 0;
-    for (const Band& band : bands)
-        height += band.height;
-    return height;
-}
-
-bool HasContent(const Band& band)
-{
-    return !band.items.empty()
-        || std::any_of(band.lanes.begin(), band.lanes.end(), [](const auto& lane) { return !lane.empty(); });
-}
 
 float HeightAtTop(const Band& band)
 {
@@ -57,6 +44,8 @@ template <typename Lane> std::size_t ChainIn(const Lane& lane)
 // fill more than a page.
 template <typename Lane> float FirstPiece(const Lane& lane, float page)
 {
+    if (lane.front().isElastic)
+        return 0;
     float height = 0;
     for (std::size_t i = 0; i < ChainIn(lane); ++i)
         height += lane[i].height;
@@ -72,22 +61,6 @@ float LeastHeight(const Band& band, float page)
     for (const std::vector<Band>& lane : band.lanes)
         height = std::max(height, lane.empty() ? 0 : FirstPiece(lane, page));
     return height;
-}
-
-// Makes a picture stand in a height: its strokes lie closer, its texts keep their size.
-void Lower(Band& picture, float room)
-{
-    const float share = room / picture.height;
-    for (PlacedItem& item : picture.items) {
-        if (item.kind == PlacedItem::Kind::Text) {
-            const float middle = (item.y + item.height / 2) * share;
-            item.y = std::clamp(middle - item.height / 2, 0.0F, std::max(0.0F, room - item.height));
-        } else {
-            item.y *= share;
-            item.height *= share;
-        }
-    }
-    picture.height = room;
 }
 
 }
@@ -137,6 +110,10 @@ ReportFiller::Sheet ReportFiller::BeginSheet()
     sheet.page.height = static_cast<float>(paper.height);
     sheet.y = static_cast<float>(paper.top);
     m_data.Page += 1;
+    if (m_lanes.empty() && !m_waiting.empty() && std::exchange(m_waiting.front().restartsPages, false)) {
+        m_data.Page = 1;
+        sheet.page.restartsPages = true;
+    }
     std::vector<Band> header = MakeEdge(m_report.header);
     sheet.footer = MakeEdge(m_report.footer);
     sheet.end = static_cast<float>(paper.height - paper.bottom) - HeightOf(sheet.footer);
@@ -275,6 +252,7 @@ bool ReportFiller::PlaceNext(Sheet& sheet, float end)
     if (!fits && !front.lanes.empty()) {
         for (std::vector<Band>& lane : front.lanes)
             m_lanes.emplace_back(std::make_move_iterator(lane.begin()), std::make_move_iterator(lane.end()));
+        m_frames = std::move(front.frames);
         Record(front.record);
         m_waiting.pop_front();
         return ContinueLanes(sheet);
@@ -341,6 +319,7 @@ void ReportFiller::Put(Sheet& sheet, Band& band, float y, float& height)
         item.y += y;
         sheet.page.items.push_back(std::move(item));
     }
+    PutFrames(sheet, band.frames, y, y + band.height);
     for (std::vector<Band>& lane : band.lanes) {
         float laneY = y;
         for (Band& inside : lane) {
@@ -363,29 +342,85 @@ void ReportFiller::Record(const QStringList& record)
     m_records.push_back(whole);
 }
 
+void ReportFiller::PutFrames(Sheet& sheet, const std::vector<Frame>& frames, float top, float bottom)
+{
+    for (const Frame& frame : frames) {
+        const float height = bottom - top - 2 * frame.inset;
+        PlacedItem line;
+        line.kind = PlacedItem::Kind::Line;
+        line.weight = frame.weight;
+        const auto put = [&](float x, float y, float width, float length) {
+            line.x = x;
+            line.y = y;
+            line.width = width;
+            line.height = length;
+            sheet.page.items.push_back(line);
+        };
+        put(frame.x, top + frame.inset, frame.width, 0);
+        put(frame.x, bottom - frame.inset, frame.width, 0);
+        put(frame.x, top + frame.inset, 0, height);
+        put(frame.x + frame.width, top + frame.inset, 0, height);
+    }
+}
+
 // Goes on with strips side by side; true when nothing of them is left.
 bool ReportFiller::ContinueLanes(Sheet& sheet)
 {
     if (m_lanes.empty())
         return true;
     const float top = sheet.y;
-    float bottom = top;
-    bool isDone = true;
-    for (std::deque<Band>& lane : m_lanes)
-        isDone = FillLane(sheet, lane, top, bottom) && isDone;
-    sheet.y = bottom;
-    sheet.isEmpty = false;
+    std::vector<float> ends; // of what stands of each on this page
+    bool isAtBottom = true;
+    for (std::deque<Band>& lane : m_lanes) {
+        ends.push_back(FillLane(sheet, lane, top));
+        isAtBottom = isAtBottom && (lane.empty() || lane.front().isElastic);
+    }
+    const bool isDone = isAtBottom && PlaceBottoms(sheet, ends);
+    sheet.y = *std::max_element(ends.begin(), ends.end());
+    if (sheet.y > top)
+        PutFrames(sheet, m_frames, top, sheet.y);
+    sheet.isEmpty = sheet.isEmpty && sheet.y <= top;
     if (isDone)
         m_lanes.clear();
     return isDone;
 }
 
-bool ReportFiller::FillLane(Sheet& sheet, std::deque<Band>& lane, float top, float& bottom)
+// Places what stands at the bottom of the lanes, all of it ending at one height; false if it has no room. On
+// a page of its own it has as much as there is.
+bool ReportFiller::PlaceBottoms(Sheet& sheet, std::vector<float>& ends)
+{
+    std::vector<float> heights;
+    float end = *std::max_element(ends.begin(), ends.end());
+    const bool isFirst = sheet.isEmpty && end <= sheet.y;
+    for (std::size_t i = 0; i < m_lanes.size(); ++i) {
+        float height = 0;
+        for (const Band& band : m_lanes[i])
+            height += band.isElastic ? 0 : band.height;
+        heights.push_back(height);
+        end = std::max(end, ends[i] + height);
+    }
+    const bool fits = end <= sheet.end + Tolerance;
+    if (!fits && !isFirst)
+        return false;
+    bool isDone = true;
+    for (std::size_t i = 0; i < m_lanes.size(); ++i) {
+        if (m_lanes[i].empty())
+            continue;
+        m_lanes[i].pop_front(); // the room above it
+        ends[i] = FillLane(sheet, m_lanes[i], fits ? end - heights[i] : ends[i]);
+        isDone = isDone && m_lanes[i].empty();
+    }
+    return isDone;
+}
+
+// Fills one of the strips side by side from a height on, as far as it goes or down to what stands at its
+// bottom; returns where it ends.
+float ReportFiller::FillLane(Sheet& sheet, std::deque<Band>& lane, float top)
 {
     bool isFirst = sheet.isEmpty;
     float y = isFirst && !lane.empty() ? AddRepeated(sheet, lane.front(), top) : top;
     std::size_t chain = 0; // strips at the front that stay together and have begun
-    while (!lane.empty()) {
+    while (!lane.empty() && !lane.front().isElastic) {
         if (chain == 0) {
             chain = ChainIn(lane);
             if (!isFirst && y + FirstPiece(lane, PageHeight()) > sheet.end + Tolerance)
@@ -403,8 +438,7 @@ bool ReportFiller::FillLane(Sheet& sheet, std::deque<Band>& lane, float top, flo
         y += height;
         lane.pop_front();
     }
-    bottom = std::max(bottom, y);
-    return lane.empty();
+    return y;
 }
 
 // Makes the first strip, which is taller than the room of a whole page, stand in it: a picture is made lower,
@@ -414,79 +448,10 @@ void ReportFiller::FitFront(std::deque<Band>& bands, float room)
     Band& whole = bands.front();
     if (whole.isPicture)
         return Lower(whole, room);
-    Band rest = Split(whole, room);
+    Band rest = BandSplitter(m_measure, m_maker.Fonts).Split(whole, room);
     if (!HasContent(whole) && HasContent(rest))
         throw RunTimeError(RunTimeError::Overflow,
             QStringLiteral("A line of the report is taller than the page.\n%1").arg(m_report.file));
     if (HasContent(rest))
         bands.insert(bands.begin() + 1, std::move(rest));
-}
-
-// Leaves in a strip what stands in a height and returns the rest of it: texts are cut between two of their
-// lines, everything else goes to the side where it begins.
-Band ReportFiller::Split(Band& whole, float room)
-{
-    Band first;
-    Band rest;
-    first.height = room;
-    first.record = std::move(whole.record);
-    first.share = std::exchange(whole.share, {});
-    first.page = rest.page = whole.page;
-    rest.endsTable = whole.endsTable;
-    rest.repeated = whole.repeated;
-    rest.keepWithNext = whole.keepWithNext;
-    bool goesOver = false; // the item before, or a part of it
-    for (PlacedItem& item : whole.items) {
-        if (item.goesOn && goesOver)
-            item.y = room + rest.items.back().y + rest.items.back().height;
-        const std::size_t before = rest.items.size();
-        SplitItem(std::move(item), room, first, rest);
-        goesOver = rest.items.size() > before;
-    }
-    if (!whole.lanes.empty())
-        SplitLanes(whole, room, first, rest);
-    whole = std::move(first);
-    return rest;
-}
-
-void ReportFiller::SplitItem(PlacedItem item, float room, Band& first, Band& rest)
-{
-    if (item.y + item.height <= room + Tolerance)
-        return first.items.push_back(std::move(item));
-    const bool isText = item.kind == PlacedItem::Kind::Text && item.fit == Fit::Wrap;
-    PlacedItem next = item;
-    next.y = std::max(0.0F, item.y - room);
-    const FontSpec& font = m_maker.Fonts.At(item.font);
-    if (isText && item.y + m_measure.LineHeight(font) <= room + Tolerance) {
-        const qsizetype count = m_measure.Fitting(font, item.text, item.width, room - item.y);
-        next.text = item.text.mid(count);
-        next.height = m_measure.Height(font, next.text, item.width);
-        item.text.truncate(count);
-        item.height = room - item.y;
-        first.items.push_back(std::move(item));
-    }
-    if (isText && next.text.isEmpty())
-        return;
-    rest.height = std::max(rest.height, next.y + next.height);
-    rest.items.push_back(std::move(next));
-}
-
-void ReportFiller::SplitLanes(Band& whole, float room, Band& first, Band& rest)
-{
-    for (std::vector<Band>& lane : whole.lanes) {
-        float y = 0;
-        std::size_t at = 0;
-        while (at < lane.size() && y + lane[at].height <= room + Tolerance)
-            y += lane[at++].height;
-        std::vector<Band>& later = rest.lanes.emplace_back();
-        if (at < lane.size()) {
-            if (Band next = Split(lane[at], room - y); HasContent(next))
-                later.push_back(std::move(next));
-            const auto behind = lane.begin() + static_cast<std::ptrdiff_t>(at) + 1;
-            std::move(behind, lane.end(), std::back_inserter(later));
-            lane.resize(HasContent(lane[at]) ? at + 1 : at);
-        }
-        first.lanes.push_back(std::move(lane));
-        rest.height = std::max(rest.height, HeightOf(later));
-    }
 }

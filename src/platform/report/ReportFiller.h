@@ -42,11 +42,10 @@ private:
     void Place(Sheet& sheet, Band& band);
     void Put(Sheet& sheet, Band& band, float y, float& height);
     bool ContinueLanes(Sheet& sheet);
-    bool FillLane(Sheet& sheet, std::deque<Band>& lane, float top, float& bottom);
+    float FillLane(Sheet& sheet, std::deque<Band>& lane, float top);
+    bool PlaceBottoms(Sheet& sheet, std::vector<float>& ends);
+    static void PutFrames(Sheet& sheet, const std::vector<Frame>& frames, float top, float bottom);
     void FitFront(std::deque<Band>& bands, float room);
-    Band Split(Band& whole, float room);
-    void SplitItem(PlacedItem item, float room, Band& first, Band& rest);
-    void SplitLanes(Band& whole, float room, Band& first, Band& rest);
     float AddRepeated(Sheet& sheet, const Band& band, float y);
     void AddPageHead(Sheet& sheet, const Band& band);
     void AddPageFoot(Sheet& sheet);
@@ -60,6 +59,7 @@ private:
     std::unique_ptr<BandStream> m_flow;
     std::deque<Band> m_waiting; // strips that are made and not yet placed
     Lanes m_lanes; // what is left of strips side by side
+    std::vector<Frame> m_frames; // around them
     bool m_hasEnded = false; // the flow gives no more strips
     bool m_isDone = false;
     std::vector<QStringList> m_records;

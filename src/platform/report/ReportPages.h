@@ -37,6 +37,7 @@ struct PlacedItem {
 
 struct Page {
     float width = 0, height = 0;
+    bool restartsPages = false; // it is the first of pages that are numbered by themselves
     std::vector<PlacedItem> items;
     std::vector<quint32> waiting; // the items whose text waits for the number of pages
 };

@@ -79,6 +79,8 @@ struct TemplateLane {
     int line = 0;
     WidthRule width;
     std::vector<TemplateElement> elements;
+    std::vector<TemplateElement> bottom; // at its lower edge
+    double weight = 0; // of the frame around it, in points; 0: none
 };
 
 struct TemplateColumn {
@@ -172,6 +174,11 @@ struct TemplateElement {
     double size = 0; // Rule: points of its weight; Space: millimetres; Pairs: of the labels; Columns: the gap
     bool keep = false; // Text, Rule: stays with what follows; Each: stays on one page
     bool newPage = false; // Each: every row begins a page
+    bool ownPages = false; // Each: and is numbered by itself
+    std::optional<Expression> by; // Each: once for all rows that follow each other with this value
+    QString byName; // its text
+    double weight = 0; // Columns: of the frame around them, in points; 0: none
+    double height = 0; // Columns: at least, in millimetres
     std::vector<TemplatePair> pairs;
     std::vector<TemplateLane> lanes;
     int source = -1; // Each

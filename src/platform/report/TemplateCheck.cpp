@@ -4,6 +4,7 @@
 #include "platform/report/TemplateWidths.h"
 
 #include <algorithm>
+#include <set>
 
 namespace {
 
@@ -42,6 +43,7 @@ private:
     ReportTemplate& m_report;
     Catalogue m_catalogue;
     ExpressionBinder m_binder;
+    std::set<int> m_runs; // the sources of which a part is walked once more within
 };
 
 void Checker::CheckAll()
@@ -138,8 +140,10 @@ void Checker::CheckElement(TemplateElement& element, Place place)
         m_binder.BindText(pair.label, place);
         m_binder.BindText(pair.value, place);
     }
-    for (TemplateLane& lane : element.lanes)
+    for (TemplateLane& lane : element.lanes) {
         CheckElements(lane.elements, place);
+        CheckElements(lane.bottom, place);
+    }
     place.line = element.line;
     if (element.kind == ElementKind::Each)
         CheckEach(element, place);
@@ -155,7 +159,8 @@ int Checker::Enter(const QString& sourceName, int line)
     if (index >= 0) {
         const std::vector<int>& walked = m_binder.Walked;
         m_binder.RequireParent(index, line);
-        if (std::find(walked.begin(), walked.end(), index) != walked.end())
+        const bool isWalked = std::find(walked.begin(), walked.end(), index) != walked.end();
+        if (isWalked && m_runs.count(index) == 0)
             m_binder.Fault(line, QStringLiteral("\"%1\" is being walked already").arg(sourceName));
         m_binder.Walk(index);
     }
@@ -168,7 +173,18 @@ void Checker::CheckEach(TemplateElement& element, const Place& place)
     if (element.source < 0)
         return;
     m_binder.BindCondition(element.condition, place);
+    if (element.by && m_binder.Bind(*element.by, place) == ValueType::Truth)
+        m_binder.Fault(element.line, QStringLiteral("rows aren't grouped by a condition; use if(…)"));
+    const bool wasRun = m_runs.count(element.source) > 0;
+    if (element.by)
+        m_runs.insert(element.source);
+    else
+        m_runs.erase(element.source);
     CheckElements(element.children, place);
+    if (wasRun)
+        m_runs.insert(element.source);
+    else
+        m_runs.erase(element.source);
     Leave();
 }
 

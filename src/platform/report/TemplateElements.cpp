@@ -30,12 +30,18 @@ bool TemplateReader::NextChild(QStringView name)
     return false;
 }
 
-std::vector<TemplateElement> TemplateReader::ReadElements(Place place)
+// `bottom` is where what stands in a <bottom> goes, if there can be one: the last of the elements.
+std::vector<TemplateElement> TemplateReader::ReadElements(Place place, std::vector<TemplateElement>* bottom)
 {
     std::vector<TemplateElement> elements;
+    bool hasBottom = false;
     ++m_depth;
     while (NextElement()) {
-        if (m_depth > DeepestElement) {
+        if (std::exchange(hasBottom, hasBottom || (bottom && m_xml.name() == u"bottom")))
+            Fault(static_cast<int>(m_xml.lineNumber()), QStringLiteral("nothing stands behind a <bottom>"));
+        if (bottom && m_xml.name() == u"bottom") {
+            *bottom = ReadBottom(place);
+        } else if (m_depth > DeepestElement) {
             Fault(static_cast<int>(m_xml.lineNumber()),
                 QStringLiteral("there are more than %1 elements around this one").arg(DeepestElement));
             m_xml.skipCurrentElement();
@@ -45,6 +51,13 @@ std::vector<TemplateElement> TemplateReader::ReadElements(Place place)
     }
     --m_depth;
     return elements;
+}
+
+std::vector<TemplateElement> TemplateReader::ReadBottom(Place place)
+{
+    ElementAttributes none(m_xml, *this);
+    none.Finish();
+    return ReadElements(place == Place::PageEdge ? place : Place::InnerLane);
 }
 
 std::optional<TemplateElement> TemplateReader::ReadElement(Place place)
@@ -152,6 +165,8 @@ TemplateElement TemplateReader::ReadLanes(Place place)
     ElementAttributes attributes(m_xml, *this);
     TemplateElement element = BeginElement(ElementKind::Columns, attributes);
     element.size = attributes.Number(u"gap", 0, LargestLength, 3);
+    element.weight = attributes.Number(u"box", 0.1, HeaviestRule, 0);
+    element.height = attributes.Number(u"h", 1, LargestLength, 0);
     attributes.Finish();
     const Place inside = place == Place::Flow ? Place::Lane : place == Place::Lane ? Place::InnerLane : place;
     while (NextChild(u"column")) {
@@ -159,8 +174,9 @@ TemplateElement TemplateReader::ReadLanes(Place place)
         TemplateLane lane;
         lane.line = own.Line();
         lane.width = own.Width();
+        lane.weight = own.Number(u"box", 0.1, HeaviestRule, 0);
         own.Finish();
-        lane.elements = ReadElements(inside);
+        lane.elements = ReadElements(inside, &lane.bottom);
         element.lanes.push_back(std::move(lane));
     }
     if (element.lanes.empty())
@@ -175,6 +191,11 @@ TemplateElement TemplateReader::ReadEach(Place place)
     element.sourceName = attributes.Required(u"source");
     element.keep = attributes.Flag(u"keep");
     element.newPage = attributes.Flag(u"newpage");
+    element.ownPages = attributes.Flag(u"ownpages");
+    if (element.ownPages && !element.newPage)
+        attributes.Fault(QStringLiteral("ownpages=\"1\" needs newpage=\"1\""));
+    element.by = attributes.Condition(u"by");
+    element.byName = attributes.Text(u"by");
     RefuseNewPage(element.line, element.newPage, place);
     attributes.Finish();
     element.children = ReadElements(place);

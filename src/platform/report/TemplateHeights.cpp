@@ -81,10 +81,13 @@ LeastHeight HeightReckoner::OfPairs(const TemplateElement& element)
 
 LeastHeight HeightReckoner::OfLanes(const TemplateElement& element)
 {
-    LeastHeight tallest;
-    double most = 0;
+    LeastHeight tallest{element.height * PointsPerMillimetre};
+    double most = tallest.always;
     for (const TemplateLane& lane : element.lanes) {
-        const LeastHeight one = Of(lane.elements);
+        LeastHeight one = Of(lane.elements);
+        Add(one, Of(lane.bottom), false);
+        const double frames = (element.weight > 0 ? 1.0 : 0.0) + (lane.weight > 0 ? 1.0 : 0.0);
+        one.always += 2 * Room::BoxPadding * frames;
         tallest.always = std::max(tallest.always, one.always);
         most = std::max(most, one.Most());
     }

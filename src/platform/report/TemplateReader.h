@@ -84,7 +84,8 @@ private:
 
     void ReadReport(ReportTemplate& report);
     void ReadSource(ReportTemplate& report);
-    std::vector<TemplateElement> ReadElements(Place place);
+    std::vector<TemplateElement> ReadElements(Place place, std::vector<TemplateElement>* bottom = nullptr);
+    std::vector<TemplateElement> ReadBottom(Place place);
     std::optional<TemplateElement> ReadElement(Place place);
     std::optional<TemplateElement> ReadLongElement(Place place);
     bool MayStand(Place place);

@@ -144,11 +144,18 @@ private:
                 CheckShare(lane.width, lane.line);
         }
         const double gap = element.size * PointsPerMillimetre;
+        CheckHeight(element.line, element.height * PointsPerMillimetre, "the strip of columns");
+        if (element.weight > 0)
+            width -= 2 * Room::BoxPadding;
         CheckRules(rules, element.line, width, gap);
         const std::vector<double> widths = DivideWidth(rules, width, gap);
         for (std::size_t i = 0; i < element.lanes.size(); ++i) {
-            if (widths[i] >= SmallestShare - Tolerance)
-                CheckElements(element.lanes[i].elements, widths[i]);
+            const TemplateLane& lane = element.lanes[i];
+            const double own = widths[i] - (lane.weight > 0 ? 2 * Room::BoxPadding : 0);
+            if (widths[i] < SmallestShare - Tolerance)
+                continue;
+            CheckElements(lane.elements, own);
+            CheckElements(lane.bottom, own);
         }
     }
 

@@ -1,0 +1,115 @@
+#include "platform/report/BandSplitter.h"
+#include "platform/report/Room.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+float ToPoints(double millimetres)
+{
+    return static_cast<float>(millimetres * PointsPerMillimetre);
+}
+
+bool HoldsRows(const TemplateLane& lane)
+{
+    return std::any_of(lane.elements.begin(), lane.elements.end(), [](const TemplateElement& element) {
+        return element.kind == ElementKind::Table || element.kind == ElementKind::Each;
+    });
+}
+
+// Lays out one strip of blocks side by side.
+class LanesMaker {
+public:
+    LanesMaker(const TemplateElement& element, BandMaker& maker, Stretch stretch)
+        : m_element(element)
+        , m_maker(maker)
+    {
+        m_stretch = element.weight > 0 ? AddFrame(element.weight, stretch, 0) : stretch;
+        m_inset = element.weight > 0 ? Room::BoxPadding : 0;
+        const bool hasFrames = std::any_of(element.lanes.begin(), element.lanes.end(),
+            [](const TemplateLane& lane) { return lane.weight > 0; });
+        m_padding = m_inset + (hasFrames ? Room::BoxPadding : 0);
+    }
+
+    Band Make()
+    {
+        std::vector<WidthRule> rules;
+        for (const TemplateLane& lane : m_element.lanes)
+            rules.push_back(lane.width);
+        const double gap = m_element.size * PointsPerMillimetre;
+        const std::vector<double> widths = DivideWidth(rules, m_stretch.width, gap);
+        double x = m_stretch.x;
+        m_band.height = ToPoints(m_element.height);
+        for (std::size_t i = 0; i < m_element.lanes.size(); ++i) {
+            MakeLane(m_element.lanes[i], {static_cast<float>(x), static_cast<float>(widths[i])});
+            x += widths[i] + gap;
+        }
+        for (std::size_t i = 0; i < m_band.lanes.size(); ++i)
+            AddBottom(m_band.lanes[i], m_bottoms[i]);
+        m_band.holdsRows = m_band.holdsRows && m_band.frames.empty() && m_element.height <= 0;
+        return std::move(m_band);
+    }
+
+private:
+    // Draws a frame and returns the room in it.
+    Stretch AddFrame(double weight, Stretch around, float inset)
+    {
+        m_band.frames.push_back({static_cast<float>(weight), around.x, around.width, inset});
+        return {around.x + Room::BoxPadding, std::max(1.0F, around.width - 2 * Room::BoxPadding)};
+    }
+
+    void MakeLane(const TemplateLane& lane, Stretch stretch)
+    {
+        if (lane.weight > 0)
+            stretch = AddFrame(lane.weight, stretch, m_inset);
+        std::vector<Band>& bands = m_band.lanes.emplace_back();
+        std::vector<Band>& bottom = m_bottoms.emplace_back();
+        AddPadding(bands);
+        AddFlow(bands, lane.elements, stretch);
+        AddFlow(bottom, lane.bottom, stretch);
+        AddPadding(bottom);
+        m_band.height = std::max(m_band.height, HeightOf(bands) + HeightOf(bottom));
+        m_band.holdsRows = m_band.holdsRows || HoldsRows(lane);
+    }
+
+    void AddFlow(std::vector<Band>& bands, const std::vector<TemplateElement>& elements, Stretch stretch)
+    {
+        const std::unique_ptr<BandStream> flow = MakeFlow(elements, m_maker, stretch);
+        for (Band band; flow->Next(band); band = Band())
+            bands.push_back(std::move(band));
+    }
+
+    void AddPadding(std::vector<Band>& bands) const
+    {
+        if (m_padding > 0)
+            bands.emplace_back().height = m_padding;
+    }
+
+    void AddBottom(std::vector<Band>& bands, std::vector<Band>& bottom) const
+    {
+        if (bottom.empty())
+            return;
+        Band space;
+        space.isElastic = true;
+        space.height = m_band.height - HeightOf(bands) - HeightOf(bottom);
+        bands.push_back(std::move(space));
+        std::move(bottom.begin(), bottom.end(), std::back_inserter(bands));
+    }
+
+    const TemplateElement& m_element;
+    BandMaker& m_maker;
+    Stretch m_stretch;
+    float m_inset = 0; // of the lanes' frames from the edge of the strip
+    float m_padding =
+        0; // above and below what stands in the lanes, framed or not, so that their lines are level
+    Band m_band;
+    std::vector<std::vector<Band>> m_bottoms; // of each lane what stands at its bottom
+};
+
+}
+
+Band MakeLanes(const TemplateElement& element, BandMaker& maker, Stretch stretch)
+{
+    return LanesMaker(element, maker, stretch).Make();
+}
