@@ -1,35 +1,14 @@
 #include "platform/report/ExactSum.h"
-#include "platform/report/Expression.h"
+#include "platform/report/ExpressionTokens.h"
 
 #include <utility>
 
 namespace {
 
-struct Token {
-    enum class Kind { End, Number, Text, Name, Hash, Dollar, Sign };
-    Kind kind = Kind::End;
-    QString text;
-};
-
-bool IsNameStart(QChar c)
-{
-    return c.isLetter() || c == u'_';
-}
-
-bool IsNamePart(QChar c)
-{
-    return c.isLetterOrNumber() || c.isMark() || c == u'_';
-}
-
-bool IsDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
 // Reads by descent; the first fault ends the reading.
 class Parser {
 public:
-    explicit Parser(QStringView text) : m_text(text) { Next(); }
+    explicit Parser(QStringView text) : m_tokens(text) { Next(); }
 
     Expression ReadAll()
     {
@@ -44,12 +23,7 @@ public:
 private:
     [[noreturn]] static void Fail(const QString& text) { throw ExpressionFault{text}; }
 
-    void Next();
-    QString TakeWhile(bool (*belongs)(QChar));
-    void TakeNumber();
-    void TakeText();
-    void TakeSign();
-    void RefuseForeignSign() const;
+    void Next() { m_token = m_tokens.Next(); }
 
     bool IsSign(QStringView sign) const { return m_token.kind == Token::Kind::Sign && m_token.text == sign; }
     bool IsWord(QStringView word) const { return m_token.kind == Token::Kind::Name && m_token.text == word; }
@@ -82,88 +56,10 @@ private:
         int& m_depth;
     };
 
-    QStringView m_text;
-    qsizetype m_at = 0;
+    TokenReader m_tokens;
     int m_depth = 0;
     Token m_token;
 };
-
-void Parser::Next()
-{
-    while (m_at < m_text.size() && m_text[m_at].isSpace())
-        ++m_at;
-    m_token = {};
-    if (m_at == m_text.size())
-        return;
-    const QChar c = m_text[m_at];
-    if (IsDigit(c))
-        return TakeNumber();
-    if (c == u'\'')
-        return TakeText();
-    if (IsNameStart(c)) {
-        m_token = {Token::Kind::Name, TakeWhile(IsNamePart)};
-    } else if (c == u'#' || c == u'$') {
-        ++m_at;
-        m_token = {c == u'#' ? Token::Kind::Hash : Token::Kind::Dollar, TakeWhile(IsNamePart)};
-    } else {
-        TakeSign();
-    }
-}
-
-QString Parser::TakeWhile(bool (*belongs)(QChar))
-{
-    const qsizetype start = m_at;
-    while (m_at < m_text.size() && belongs(m_text[m_at]))
-        ++m_at;
-    return m_text.mid(start, m_at - start).toString();
-}
-
-void Parser::TakeNumber()
-{
-    QString digits = TakeWhile(IsDigit);
-    if (m_at < m_text.size() && m_text[m_at] == u'.') {
-        ++m_at;
-        digits += QChar(u'.') + TakeWhile(IsDigit);
-    }
-    m_token = {Token::Kind::Number, digits};
-}
-
-void Parser::TakeText()
-{
-    const qsizetype end = m_text.indexOf(u'\'', m_at + 1);
-    if (end < 0)
-        Fail(QStringLiteral("a text in quotes isn't closed"));
-    m_token = {Token::Kind::Text, m_text.mid(m_at + 1, end - m_at - 1).toString()};
-    m_at = end + 1;
-}
-
-void Parser::TakeSign()
-{
-    for (const QStringView two : {QStringView(u"<>"), QStringView(u"<="), QStringView(u">=")}) {
-        if (m_text.mid(m_at).startsWith(two)) {
-            m_at += 2;
-            m_token = {Token::Kind::Sign, two.toString()};
-            return;
-        }
-    }
-    RefuseForeignSign();
-    const QChar c = m_text[m_at++];
-    if (!QStringView(u"+-*/=<>(),.").contains(c))
-        Fail(QStringLiteral("\"%1\" has no meaning in an expression").arg(c));
-    m_token = {Token::Kind::Sign, QString(c)};
-}
-
-// Signs of programming languages that mean something here under another name.
-void Parser::RefuseForeignSign() const
-{
-    constexpr std::pair<QStringView, QStringView> Foreign[] = {
-        {u"==", u"="}, {u"!=", u"<>"}, {u"&&", u"and"}, {u"||", u"or"}};
-    for (const auto& [sign, own] : Foreign) {
-        if (m_text.mid(m_at).startsWith(sign))
-            Fail(QStringLiteral("\"%1\" isn't known; it is written \"%2\"")
-                     .arg(sign.toString(), own.toString()));
-    }
-}
 
 bool Parser::Accept(QStringView sign)
 {
