@@ -1,5 +1,6 @@
 #include "platform/report/ReportFiller.h"
 
+#include "platform/report/BandRoom.h"
 #include "platform/report/BandSplitter.h"
 #include "platform/report/Evaluation.h"
 #include "platform/report/PageTotals.h"
@@ -13,55 +14,6 @@
 namespace {
 
 constexpr float Tolerance = 0.01F;
-
-float HeightAtTop(const Band& band)
-{
-    return band.repeated ? band.repeated->height : 0;
-}
-
-// What has to stand above a strip that begins a page.
-float HeightAbove(const Band& band)
-{
-    return HeightAtTop(band) + (band.page && band.page->HasBegun() ? band.page->HeadHeight() : 0);
-}
-
-// The room that has to be left below a strip, in case it is the last of its page.
-float HeightBelow(const Band& band)
-{
-    return band.page && !band.endsTable ? band.page->FootHeight() : 0;
-}
-
-// How many strips at the front of a lane stay together.
-template <typename Lane> std::size_t ChainIn(const Lane& lane)
-{
-    std::size_t length = 1;
-    while (length < lane.size() && lane[length - 1].keepWithNext)
-        ++length;
-    return length;
-}
-
-// The height with which a lane begins: the strips that stay together, or the first of them if together they
-// fill more than a page.
-template <typename Lane> float FirstPiece(const Lane& lane, float page)
-{
-    if (lane.front().isElastic)
-        return 0;
-    float height = 0;
-    for (std::size_t i = 0; i < ChainIn(lane); ++i)
-        height += lane[i].height;
-    return height + HeightAtTop(lane.front()) > page ? lane.front().height : height;
-}
-
-// The room with which a strip can begin, if it may go on over the page.
-float LeastHeight(const Band& band, float page)
-{
-    if (band.lanes.empty())
-        return band.height;
-    float height = 0;
-    for (const std::vector<Band>& lane : band.lanes)
-        height = std::max(height, lane.empty() ? 0 : FirstPiece(lane, page));
-    return height;
-}
 
 }
 
