@@ -20,7 +20,11 @@ public:
     {
     }
 
-    ~EachStream() override { Leave(); }
+    ~EachStream() override
+    {
+        m_children.reset(); // what it walks within the current row goes back to that row
+        Leave();
+    }
 
     bool Next(Band& band) override
     {

@@ -150,6 +150,17 @@ TEST_F(BlocksTest, TheBottomsOfTablesThatGoOnOverPagesEndAtOneHeight)
     }
 }
 
+TEST_F(BlocksTest, ATextThatKeepsToABottomAsksForNoRoomBetween)
+{
+    AddRows(1, 8);
+    const QStringList pages = Pages(*Whole(QStringLiteral(
+        "<space h=\"40\"/><columns><column><table source=\"c\"><col>{CollectionNo}</col></table></column>"
+        "<column><text keep=\"1\">ब</text><bottom><text>एकूण</text></bottom></column></columns>")));
+    ASSERT_EQ(pages.size(), 2);
+    EXPECT_TRUE(pages[0].startsWith(QStringLiteral("1 2 3 "))) << pages[0].toStdString();
+    EXPECT_TRUE(pages[1].endsWith(QStringLiteral("8 एकूण"))) << pages[1].toStdString();
+}
+
 TEST_F(BlocksTest, ABottomIsTheLastOfItsColumnAndHoldsNoRows)
 {
     const auto fault = [this](const char* inside) {

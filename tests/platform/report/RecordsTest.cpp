@@ -50,6 +50,17 @@ TEST_F(RecordsTest, ATextStandsThereAsOnPaper)
     EXPECT_FALSE(lines[1].contains(QStringLiteral("sakaaLa"))) << lines[1].toStdString();
 }
 
+TEST_F(RecordsTest, APartForEachValueGivesThatValue)
+{
+    AddMembers();
+    Run(QStringLiteral("update MilkCollectionsTemp set Fat=5 where CollectionNo=3"));
+    EXPECT_EQ(
+        Lines(QStringLiteral("<each source=\"c\" by=\"Fat\"><text>{MemberName}</text><table source=\"c\">"
+                             "<col head=\"लि.\">{Liters|0}</col></table></each>")),
+        QStringList({QStringLiteral("Fat,लि."), QStringLiteral("4,1"), QStringLiteral("4,2"),
+            QStringLiteral("5,3")}));
+}
+
 TEST_F(RecordsTest, AFigureIsNotGrouped)
 {
     AddDelivery(1, Morning, QStringLiteral("अशोक"), 1, 4, 123456);
