@@ -33,7 +33,7 @@ double frmMembers::MemberNo() const
 // One more than the highest number of all companies.
 int frmMembers::NextMemberNo() const
 {
-    const Recordset last(gCn, QStringLiteral("SELECT max(MemberNo) as MaxMemberNo FROM MembersMaster"));
+    const Recordset last(gCn, u"SELECT max(MemberNo) as MaxMemberNo FROM MembersMaster");
     return ToInt16(last.Eof() ? 1 : last[u"MaxMemberNo"].Number() + 1);
 }
 
@@ -88,44 +88,42 @@ QString frmMembers::InsertStatement() const
                u"PaymentType,BankName,BankAccountNo,OpeningBalance, OpeningDorC,ClosingBalance,ClosingDorC,"
                u"CowOpeningThev,CowClosingThev,BuffOpeningThev,BuffClosingThev,OpeningUchal,ClosingUchal,"
                u"CowOpeningLits,CowClosingLits,BuffOpeningLits ,BuffClosingLits)values(",
-        gAppState.gCompanyId, u",", MemberNo(), u",'", Trimmed(ComboMemberName), u"',", AccountId, u",'",
-        Trimmed(txtAddress), u"','", Trimmed(ComboCity), u"','", Trimmed(txtAnimal), u"','",
-        Trimmed(txtPaymentType), u"','", Trimmed(ComboBankName), u"','", Trimmed(txtBankAccountNo), u"',",
-        Value(txtOpeningBalance), u",'", Direction::Letter(txtOpeningDorC.Text()), u"',",
-        Value(txtClosingBalance), u",'", Direction::Letter(txtClosingDorC.Text()), u"',",
-        Value(txtCowOpeningThev), u",", Value(txtCowClosingThev), u",", Value(txtBuffOpeningThev), u",",
-        Value(txtBuffClosingThev), u",", Value(txtOpeningUchal), u",", Value(txtClosingUchal), u",",
-        Value(txtCowOpeningLits), u",", Value(txtCowClosingLits), u",", Value(txtBuffOpeningLits), u",",
-        Value(txtBuffClosingLits), u")");
+        Values(gAppState.gCompanyId, MemberNo(), Trimmed(ComboMemberName), AccountId, Trimmed(txtAddress),
+            Trimmed(ComboCity), Trimmed(txtAnimal), Trimmed(txtPaymentType), Trimmed(ComboBankName),
+            Trimmed(txtBankAccountNo), Value(txtOpeningBalance), Direction::Letter(txtOpeningDorC.Text()),
+            Value(txtClosingBalance), Direction::Letter(txtClosingDorC.Text()), Value(txtCowOpeningThev),
+            Value(txtCowClosingThev), Value(txtBuffOpeningThev), Value(txtBuffClosingThev),
+            Value(txtOpeningUchal), Value(txtClosingUchal), Value(txtCowOpeningLits),
+            Value(txtCowClosingLits), Value(txtBuffOpeningLits), Value(txtBuffClosingLits)),
+        u")");
 }
 
 QString frmMembers::UpdateStatement() const
 {
-    return Sql(u"update MembersMaster set MemberName='", Trimmed(ComboMemberName), u"',Address='",
-        Trimmed(txtAddress), u"' ,City='", Trimmed(ComboCity), u"',Animal='", Trimmed(txtAnimal),
-        u"',PaymentType='", Trimmed(txtPaymentType), u"',BankName='", Trimmed(ComboBankName),
-        u"',BankAccountNo='", Trimmed(txtBankAccountNo), u"' ,OpeningBalance=", Value(txtOpeningBalance),
-        u",OpeningDorC='", Direction::Letter(txtOpeningDorC.Text()), u"',ClosingBalance=",
-        Value(txtClosingBalance), u" ,ClosingDorC='", Direction::Letter(txtClosingDorC.Text()),
-        u"',CowOpeningThev=", Value(txtCowOpeningThev), u",CowClosingThev=", Value(txtCowClosingThev),
-        u", BuffOpeningThev=", Value(txtBuffOpeningThev), u",BuffClosingThev=", Value(txtBuffClosingThev),
-        u",OpeningUchal=", Value(txtOpeningUchal), u",ClosingUchal=", Value(txtClosingUchal),
-        u", CowOpeningLits=", Value(txtCowOpeningLits), u", CowClosingLits=", Value(txtCowClosingLits),
-        u",BuffOpeningLits= ", Value(txtBuffOpeningLits), u",BuffClosingLits= ", Value(txtBuffClosingLits),
-        u" where CompanyId=", gAppState.gCompanyId, u" and MemberNo=", MemberNo());
+    return Sql(u"update MembersMaster set MemberName=", Quoted(Trimmed(ComboMemberName)), u",Address=",
+        Quoted(Trimmed(txtAddress)), u" ,City=", Quoted(Trimmed(ComboCity)), u",Animal=",
+        Quoted(Trimmed(txtAnimal)), u",PaymentType=", Quoted(Trimmed(txtPaymentType)), u",BankName=",
+        Quoted(Trimmed(ComboBankName)), u",BankAccountNo=", Quoted(Trimmed(txtBankAccountNo)),
+        u" ,OpeningBalance=", Value(txtOpeningBalance), u",OpeningDorC=",
+        Quoted(Direction::Letter(txtOpeningDorC.Text())), u",ClosingBalance=", Value(txtClosingBalance),
+        u" ,ClosingDorC=", Quoted(Direction::Letter(txtClosingDorC.Text())), u",CowOpeningThev=",
+        Value(txtCowOpeningThev), u",CowClosingThev=", Value(txtCowClosingThev), u", BuffOpeningThev=",
+        Value(txtBuffOpeningThev), u",BuffClosingThev=", Value(txtBuffClosingThev), u",OpeningUchal=",
+        Value(txtOpeningUchal), u",ClosingUchal=", Value(txtClosingUchal), u", CowOpeningLits=",
+        Value(txtCowOpeningLits), u", CowClosingLits=", Value(txtCowClosingLits), u",BuffOpeningLits= ",
+        Value(txtBuffOpeningLits), u",BuffClosingLits= ", Value(txtBuffClosingLits), u" where CompanyId=",
+        gAppState.gCompanyId, u" and MemberNo=", MemberNo());
 }
 
 // The other tables know a member by name, in every company.
 void frmMembers::RenameEverywhere()
 {
-    const QString name = Trimmed(ComboMemberName);
-    gCn.Execute(
-        Sql(u"update MilkCollections set MemberName='", name, u"' where MemberName='", OldName, u"'"));
-    gCn.Execute(Sql(u"Update MilkPayments Set MemberName='", name, u"' Where MemberName='", OldName, u"'"));
-    gCn.Execute(
-        Sql(u"Update TransactionsMaster Set DAccountName='", name, u"' Where DAccountName='", OldName, u"'"));
-    gCn.Execute(
-        Sql(u"Update TransactionsMaster Set CAccountName='", name, u"' Where CAccountName='", OldName, u"'"));
+    const SqlText name = Quoted(Trimmed(ComboMemberName));
+    const SqlText oldName = Quoted(OldName);
+    gCn.Execute(Sql(u"update MilkCollections set MemberName=", name, u" where MemberName=", oldName));
+    gCn.Execute(Sql(u"Update MilkPayments Set MemberName=", name, u" Where MemberName=", oldName));
+    gCn.Execute(Sql(u"Update TransactionsMaster Set DAccountName=", name, u" Where DAccountName=", oldName));
+    gCn.Execute(Sql(u"Update TransactionsMaster Set CAccountName=", name, u" Where CAccountName=", oldName));
 }
 
 void frmMembers::DeleteEverywhere()
@@ -135,8 +133,8 @@ void frmMembers::DeleteEverywhere()
     gCn.Execute(Sql(u"delete * from MembersMaster where CompanyId=", company, u" and MemberNo=", no));
     gCn.Execute(Sql(u"delete * from MilkCollections Where CompanyId=", company, u" and MemberNo=", no));
     gCn.Execute(Sql(u"Delete * From MilkPayments Where CompanyId=", company, u" and Memberno=", no));
-    gCn.Execute(Sql(u"Delete * From TransactionsMaster Where CompanyId=", company, u" And (DAccountName='",
-        OldName, u"' or CAccountName='", OldName, u"')"));
+    gCn.Execute(Sql(u"Delete * From TransactionsMaster Where CompanyId=", company, u" And (DAccountName=",
+        Quoted(OldName), u" or CAccountName=", Quoted(OldName), u")"));
     gCn.Execute(Sql(u"Delete * From TransactionsDetails Where CompanyId=", company, u" And MemberNo=", no));
     gCn.Execute(Sql(u"Delete * From AdvanceReceipt Where CompanyId=", company, u" And MemberNo=", no));
     gCn.Execute(Sql(u"Delete * From MilkPaymentsDetails Where CompanyId=", company, u" And MemberNo=", no));

@@ -11,7 +11,7 @@ namespace {
 QString ChartFor(const QDate& date)
 {
     QString table;
-    for (Recordset charts(gCn, QStringLiteral("select * from FatDates order by FromDate")); !charts.Eof();
+    for (Recordset charts(gCn, u"select * from FatDates order by FromDate"); !charts.Eof();
          charts.MoveNext()) {
         table = charts[u"FatFileName"].Text();
         if (charts[u"FromDate"].Date() == date)
@@ -34,7 +34,7 @@ FatRate LookupFatRate(const QDate& date, double fat, QStringView animal)
     if (table.isEmpty())
         return {FatRate::Outcome::NoChart, 0};
 
-    const Recordset row(gCn, Sql(u"select * from ", table, u" where Fat='", KeyOf(fat), u"'"));
+    const Recordset row(gCn, Sql(u"select * from ", table, u" where Fat=", Quoted(KeyOf(fat))));
     if (row.Eof())
         return {FatRate::Outcome::Priced, 0};
     if (animal == u"gaaya")

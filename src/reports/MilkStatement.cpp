@@ -97,9 +97,9 @@ private:
     {
         const Recordset row(gCn,
             Sql(u"select * from ", m_books.copy, u" where CompanyId=", gAppState.gCompanyId, u" and ",
-                m_books.date, u"=", SqlDay(m_day), u" and Animal='", m_animal, u"' and ", m_books.time, u"='",
-                shift, u"'", after ? Sql(u" and ", m_books.number, u">", *after) : QString(), u" order by ",
-                m_books.number));
+                m_books.date, u"=", SqlDay(m_day), u" and Animal=", Quoted(m_animal), u" and ", m_books.time,
+                u"=", Quoted(shift), after ? Sql(u" and ", m_books.number, u">", *after) : SqlText(),
+                u" order by ", m_books.number));
         const Entry found = row.Eof() ? Entry() : ReadEntry(row, m_books);
         // A number of more than fifteen digits goes rounded into the condition, and would be found again.
         return after && found.number <= *after ? Entry() : found;
@@ -109,11 +109,11 @@ private:
     {
         gCn.Execute(Sql(u"insert into MilkCollectionsME(CompanyId,CollectionDate,MemberNo,MemberName,Animal,"
                         u"LitersM,FatM,RateM,AmountM,LitersE,FatE,RateE,AmountE",
-            withSnf ? u",SNFM,SNFE" : u"", u") values(", gAppState.gCompanyId, u",'", DateText(m_day), u"',",
-            m_person.memberNo, u",'", m_person.name, u"','", m_animal, u"',", morning.liters, u",",
-            morning.fat, u",", morning.rate, u",", morning.amount, u",", evening.liters, u",", evening.fat,
-            u",", evening.rate, u",", evening.amount,
-            withSnf ? Sql(u",", morning.snf, u",", evening.snf) : QString(), u")"));
+            withSnf ? u",SNFM,SNFE" : u"", u") values(",
+            Values(gAppState.gCompanyId, m_day, m_person.memberNo, m_person.name, m_animal, morning.liters,
+                morning.fat, morning.rate, morning.amount, evening.liters, evening.fat, evening.rate,
+                evening.amount),
+            withSnf ? Sql(u",", Values(morning.snf, evening.snf)) : SqlText(), u")"));
     }
 
     const Books& m_books;
@@ -124,7 +124,7 @@ private:
 
 bool Repeats()
 {
-    const Recordset settings(gCn, QStringLiteral("select * from AutoSettings"));
+    const Recordset settings(gCn, u"select * from AutoSettings");
     return !settings.Eof() && settings[u"RepeatCollection"].Text().trimmed() == u"haoya";
 }
 
@@ -157,8 +157,8 @@ void LookUpCompany()
 double NumberOfMember(const QString& name)
 {
     const Recordset member(gCn,
-        Sql(u"select * from MembersMaster where CompanyId=", gAppState.gCompanyId, u" and trim(MemberName)='",
-            name, u"'"));
+        Sql(u"select * from MembersMaster where CompanyId=", gAppState.gCompanyId, u" and trim(MemberName)=",
+            Quoted(name)));
     return member.Eof() ? 0 : member[u"MemberNo"].Number();
 }
 
@@ -166,7 +166,7 @@ void FillCopy(const Books& books, const MilkStatement::Wanted& wanted)
 {
     gCn.Execute(Sql(u"insert into ", books.copy, u" select * from ", books.table, u" where CompanyId=",
         gAppState.gCompanyId, u" and ", books.date, u">=", SqlDay(wanted.from), u" and ", books.date, u"<=",
-        SqlDay(wanted.to), u" and trim(", books.name, u")='", wanted.name, u"'"));
+        SqlDay(wanted.to), u" and trim(", books.name, u")=", Quoted(wanted.name)));
 }
 
 }
@@ -182,11 +182,11 @@ void MilkStatement::Stage(const Wanted& wanted)
     Transaction staging(gCn);
     for (const QStringView statement : {u"delete * from MilkCollectionsTemp", u"delete * from MilkSalesTemp",
              u"delete * from MilkCollectionsME", u"Delete * From ReportDates"})
-        gCn.Execute(statement.toString());
+        gCn.Execute(statement);
     FillCopy(books, wanted);
     WriteLines(books, person, wanted.from, wanted.to, repeats);
     ReportRun::StageDates(DateText(wanted.from), DateText(wanted.to));
-    gCn.Execute(QStringLiteral("DELETE * FROM MilkCollectionsME WHERE CompanyId=0"));
+    gCn.Execute(u"DELETE * FROM MilkCollectionsME WHERE CompanyId=0");
     staging.Commit();
 }
 
@@ -194,7 +194,7 @@ void MilkStatement::StageCopy()
 {
     Person person;
     {
-        const Recordset row(gCn, QStringLiteral("select * from MilkCollectionsTemp"));
+        const Recordset row(gCn, u"select * from MilkCollectionsTemp");
         if (!row.Eof())
             person = {row[u"MemberNo"].Number(), row[u"MemberName"].Text()};
     }
@@ -202,11 +202,11 @@ void MilkStatement::StageCopy()
     const bool repeats = Repeats();
 
     Transaction staging(gCn);
-    gCn.Execute(QStringLiteral("delete * from MilkCollectionsME"));
+    gCn.Execute(u"delete * from MilkCollectionsME");
     if (!days.isEmpty()) {
         const auto [first, last] = std::minmax_element(days.begin(), days.end());
         WriteLines(Collections, person, *first, *last, repeats);
     }
-    gCn.Execute(QStringLiteral("DELETE * FROM MilkCollectionsME WHERE CompanyId=0"));
+    gCn.Execute(u"DELETE * FROM MilkCollectionsME WHERE CompanyId=0");
     staging.Commit();
 }

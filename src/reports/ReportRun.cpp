@@ -7,8 +7,8 @@
 
 void ReportRun::StageDates(const QString& from, const QString& to)
 {
-    gCn.Execute(Sql(u"insert into ReportDates(CompanyId,FromDate,ToDate) values(", gAppState.gCompanyId,
-        u",'", from, u"','", to, u"')"));
+    gCn.Execute(Sql(u"insert into ReportDates(CompanyId,FromDate,ToDate) values(",
+        Values(gAppState.gCompanyId, from, to), u")"));
 }
 
 void ReportRun::Tidy(QStringView table)

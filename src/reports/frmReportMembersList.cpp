@@ -19,9 +19,9 @@ void StageMember(const Recordset& member, QStringView crieteria, const QString& 
     gCn.Execute(
         Sql(u"insert into MembersListReport(CompanyId,Crieteria,CrieteriaValue,MemberNo,MemberName,City,"
             u"Animal) values(",
-            gAppState.gCompanyId, u",'", crieteria, u"','", crieteriaValue, u"',",
-            member[u"MemberNo"].Number(), u",'", member[u"MemberName"].Text(), u"','", member[u"City"].Text(),
-            u"','", member[u"Animal"].Text(), u"')"));
+            Values(gAppState.gCompanyId, crieteria, crieteriaValue, member[u"MemberNo"].Number(),
+                member[u"MemberName"].Text(), member[u"City"].Text(), member[u"Animal"].Text()),
+            u")"));
 }
 
 }
@@ -90,7 +90,7 @@ void frmReportMembersList::StageArea()
         return;
     }
     for (const QString& city : SpellingsOf(u"MembersMaster", u"City", area)) {
-        for (Recordset member(gCn, Sql(AllMembers, u" where City='", city, u"'")); !member.Eof();
+        for (Recordset member(gCn, Sql(AllMembers, u" where City=", Quoted(city))); !member.Eof();
              member.MoveNext())
             StageMember(member, u"Area", area);
     }
@@ -122,7 +122,7 @@ QString frmReportMembersList::Subject() const
 void frmReportMembersList::cmdReport_Click()
 {
     Transaction staging(gCn);
-    gCn.Execute(QStringLiteral("delete * from MembersListReport"));
+    gCn.Execute(u"delete * from MembersListReport");
     if (OptionList.Chosen())
         StageAll();
     else if (OptionArea.Chosen())

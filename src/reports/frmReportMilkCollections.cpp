@@ -80,16 +80,15 @@ bool frmReportMilkCollections::HoldAnimal()
 QString frmReportMilkCollections::Selection() const
 {
     SqlText statement =
-        Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where CStr(CollectionDate)='",
-            MaskUserDate.Text());
+        Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where CStr(CollectionDate)=",
+            Quoted(MaskUserDate.Text()));
     const bool oneShift = !OptionBoth.Chosen();
     if (oneShift)
-        statement =
-            Sql(statement, u"' and CollectionTime='", OptionMorning.Chosen() ? u"sakaL" : u"saMQyaakaL");
+        statement = Sql(
+            statement, u" and CollectionTime=", Quoted(OptionMorning.Chosen() ? u"sakaL" : u"saMQyaakaL"));
     if (ComboAnimal.Text() != BothAnimals)
-        statement = oneShift ? Sql(statement, u"' and  Animal='", ComboAnimal.Text())
-                             : Sql(statement, u"' and Animal='", ComboAnimal.Text());
-    return Sql(statement, u"'");
+        statement = Sql(statement, oneShift ? u" and  Animal=" : u" and Animal=", Quoted(ComboAnimal.Text()));
+    return statement;
 }
 
 QString frmReportMilkCollections::Subject() const
@@ -107,8 +106,8 @@ void frmReportMilkCollections::cmdReport_Click()
     if (!HoldDate() || !HoldAnimal())
         return;
     Transaction staging(gCn);
-    gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
-    gCn.Execute(QStringLiteral("delete * from ReportDates"));
+    gCn.Execute(u"delete * from MilkCollectionsTemp");
+    gCn.Execute(u"delete * from ReportDates");
     gCn.Execute(Selection());
     ReportRun::StageDates(MaskUserDate.Text(), MaskUserDate.Text());
     ReportRun::Tidy(u"MilkCollectionsTemp");

@@ -76,7 +76,7 @@ void frmAutoSettings::CmdSave_Click()
         return;
     }
     gCn.Execute(InsertStatement());
-    gCn.Execute(Sql(u"Update Autosettings Set FatRateType='", cmbFatRateType.Text(), u"'"));
+    gCn.Execute(Sql(u"Update Autosettings Set FatRateType=", Quoted(cmbFatRateType.Text())));
     present.Close();
     save.Commit();
     gAppState.gAutoLiters = ComboAutoLiters.Text();
@@ -107,31 +107,31 @@ QStringView frmAutoSettings::DecimalPaymentWord()
 
 QString frmAutoSettings::InsertStatement()
 {
-    constexpr char16_t next[] = u"','";
     return Sql(u"insert into AutoSettings(CompanyId,AutoLiters,AutoFat,PrintStatus,MSRPrintStatus,"
                u"CanLimitBuff,CanLimitCow,ReceiptType,RepeatCollection,PaymentDuration,PurchaseEntry,"
                u"UchalEntry,DecimalPayment,ThevKapatCow,ThevKapatBuff,SalesRateCow,SalesRateBuff,"
                u"SalesRateMix,WeighScale) Values(",
-        gAppState.gCompanyId, u",'", ComboAutoLiters.Text(), next, ComboAutoFat.Text(), next,
-        ComboPrintStatus.Text(), next, ComboMSRPrintStatus.Text(), next, txtBuffLimit.Text(), next,
-        txtCowLimit.Text(), next, ComboReceipt.Text(), next, WordOf(CheckRepeatCol, u"naahI", u"haoya"), next,
-        ComboPaymentDuration.Text(), next, WordOf(CheckCNP, u"Payment", u"Collection"), next,
-        WordOf(CheckSNU, u"Uchal", u"Sales"), next, DecimalPaymentWord(), u"',", txtCow.Text(), u",",
-        txtBuff.Text(), u",'", txtCowSaleRate.Text(), next, txtBuffSaleRate.Text(), next,
-        txtMixSaleRate.Text(), next, gAppState.gWeighScale, u"')");
+        Values(gAppState.gCompanyId, ComboAutoLiters.Text(), ComboAutoFat.Text(), ComboPrintStatus.Text(),
+            ComboMSRPrintStatus.Text(), txtBuffLimit.Text(), txtCowLimit.Text(), ComboReceipt.Text(),
+            WordOf(CheckRepeatCol, u"naahI", u"haoya"), ComboPaymentDuration.Text(),
+            WordOf(CheckCNP, u"Payment", u"Collection"), WordOf(CheckSNU, u"Uchal", u"Sales"),
+            DecimalPaymentWord()),
+        u",", txtCow.Text(), u",", txtBuff.Text(), u",",
+        Values(txtCowSaleRate.Text(), txtBuffSaleRate.Text(), txtMixSaleRate.Text(), gAppState.gWeighScale),
+        u")");
 }
 
 // Stages the sample bill and shows it in the chosen layout; one that isn't known keeps the layout before.
 void frmAutoSettings::cmdReceipt_Click()
 {
     Transaction staging(gCn);
-    gCn.Execute(QStringLiteral("delete * from MilkReceipt"));
-    gCn.Execute(QStringLiteral("delete * from MilkReceipt"));
-    gCn.Execute(QStringLiteral("insert into MilkReceipt select * from MRView"));
+    gCn.Execute(u"delete * from MilkReceipt");
+    gCn.Execute(u"delete * from MilkReceipt");
+    gCn.Execute(u"insert into MilkReceipt select * from MRView");
     gCn.Execute(Sql(u"update MilkReceipt set CompanyId=", gAppState.gCompanyId));
     if (const ReceiptLayout layout = ReceiptLayoutOf(ComboReceipt.Text()); !layout.type.isEmpty())
         CRMilkReceipt.SetReportFileName(AppFolder.toString() + layout.sampleTemplate);
-    gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
+    gCn.Execute(u"delete * from MilkReceipt where CompanyId=0");
     staging.Commit();
     if (CRMilkReceipt.ReportFileName().isEmpty()) {
         TellNoTemplate();

@@ -41,6 +41,7 @@ public:
 
     // Runs a statement that returns no rows. Returns the number of rows that it changed.
     int Execute(const QString& statement);
+    int Execute(QStringView statement) { return Execute(statement.toString()); }
 
     // Makes a new, empty, encrypted file and opens it. An existing file is an error.
     void Create(const QString& file, const QString& password);

@@ -41,6 +41,7 @@ private:
 class Recordset {
 public:
     Recordset(Connection& connection, const QString& query);
+    Recordset(Connection& connection, QStringView query) : Recordset(connection, query.toString()) { }
     ~Recordset();
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;

@@ -71,6 +71,53 @@ TEST_F(SqlTest, APieceWithABrokenValueBreaksTheWholeStatement)
     EXPECT_EQ(Cities(), QStringLiteral("2"));
 }
 
+TEST_F(SqlTest, AQuotedValueIsAPieceWithItsQuotes)
+{
+    const QString name = QStringLiteral("gaava");
+    EXPECT_EQ(QString(Sql(u"where CityName=", Quoted(name), u" and CompanyId=", 1)),
+        QStringLiteral("where CityName='gaava' and CompanyId=1"));
+    EXPECT_EQ(QString(Quoted(u"sakaL")), QStringLiteral("'sakaL'"));
+    EXPECT_EQ(QString(Quoted(QString())), QStringLiteral("''"));
+    EXPECT_EQ(QString(Quoted(QDate(2026, 4, 15))), QStringLiteral("'15/04/2026'"));
+    EXPECT_EQ(QString(Quoted(QDate())), QStringLiteral("''"));
+    EXPECT_EQ(QString(Quoted(4.50)), QStringLiteral("'4.5'"));
+}
+
+TEST_F(SqlTest, ValuesAreListedAsTheirKindWantsThem)
+{
+    const QString name = QStringLiteral("gaava");
+    EXPECT_EQ(
+        QString(Values(1, 0.1 + 0.2, 36.525F, name, QStringView(name), QDate(2026, 4, 5), u"raoK", -0.0)),
+        QStringLiteral("1,0.3,36.525,'gaava','gaava','05/04/2026','raoK',0"));
+    EXPECT_EQ(QString(Values(QString(), QDate(), 7)), QStringLiteral("'','',7"));
+    EXPECT_EQ(
+        connection.Execute(Sql(u"insert into CityMaster(CompanyId,CityName) values(", Values(3, name), u")")),
+        1);
+    EXPECT_EQ(One("select CityName from CityMaster where CompanyId=3"), name);
+}
+
+TEST_F(SqlTest, AnApostropheInAQuotedOrListedValueFailsTheStatement)
+{
+    const QString name = QStringLiteral("ga'ava");
+    EXPECT_EQ(Told(Sql(u"delete * from CityMaster where CityName=", Quoted(name))),
+        QStringLiteral("delete * from CityMaster where CityName='ga'ava'"));
+    EXPECT_EQ(Told(Sql(u"insert into CityMaster(CompanyId,CityName) values(", Values(1, name), u")")),
+        QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'ga'ava')"));
+    EXPECT_FALSE(Told(Sql(u"insert into CityMaster(CompanyId,CityName) values(", Values(1, u"ga''ava"), u")"))
+                     .isEmpty())
+        << "words written out in a list are a value";
+    EXPECT_EQ(Cities(), QStringLiteral("2"));
+}
+
+TEST_F(SqlTest, AStatementWithoutValuesIsRunAsItIsWrittenOut)
+{
+    constexpr QStringView query = u"select CityName from CityMaster order by CompanyId";
+    EXPECT_EQ(Recordset(connection, query).At(0).Text(), QStringLiteral("gaava"));
+    EXPECT_EQ(Recordset(connection, u"select count(*) from CityMaster").At(0).Number(), 2);
+    EXPECT_EQ(connection.Execute(u"delete * from CityMaster where CompanyId=1"), 1);
+    EXPECT_EQ(Recordset(connection, query).At(0).Text(), QStringLiteral("sahr"));
+}
+
 TEST_F(SqlTest, EveryOtherSignOfAValueIsCarried)
 {
     const QString name = QStringLiteral("a\" or \"1\"=\"1 # ; -- /* ? %_ [x] \\ ") + QChar(0x2019);
