@@ -1,5 +1,6 @@
 #include "platform/text/Numbers.h"
-#include "platform/text/RunTimeError.h"
+
+#include "platform/text/Overflow.h"
 
 #include <QVarLengthArray>
 
@@ -10,15 +11,6 @@
 #include <limits>
 
 namespace {
-
-constexpr qsizetype LongestNamed = 60;
-
-[[noreturn]] void ThrowOverflow(QStringView value)
-{
-    throw RunTimeError(RunTimeError::Overflow,
-        Sentences(u"हा आकडा फार मोठा आहे.",
-            QStringLiteral("Overflow: %1 is too large a number.").arg(value.left(LongestNamed))));
-}
 
 // ---- Reading ----
 

@@ -1,0 +1,84 @@
+#include "platform/text/Currency.h"
+
+#include "platform/text/Numbers.h"
+#include "platform/text/Overflow.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+using Limits = std::numeric_limits<std::int64_t>;
+
+constexpr int Decimals = 4;
+constexpr std::int64_t Scale = 10'000;
+
+bool FitsSum(std::int64_t first, std::int64_t second)
+{
+    return second > 0 ? first <= Limits::max() - second : first >= Limits::min() - second;
+}
+
+bool FitsDifference(std::int64_t first, std::int64_t second)
+{
+    return second > 0 ? first >= Limits::min() + second : first <= Limits::max() + second;
+}
+
+// Whether the digits left out make the last one that is kept go up; they end in no zeros.
+bool RoundsUp(QStringView leftOut, bool isOdd)
+{
+    return leftOut == u"5" ? isOdd : !leftOut.isEmpty() && leftOut.front() >= u'5';
+}
+
+}
+
+Currency::Currency(double rupees)
+{
+    const QString text = ShortestDecimal(rupees);
+    const qsizetype point = text.indexOf(u'.');
+    const QString decimals = point < 0 ? QString() : text.mid(point + 1);
+    const QString digits = text.left(point) + decimals.left(Decimals).leftJustified(Decimals, u'0');
+    bool fits = false;
+    m_tenThousandths = digits.toLongLong(&fits);
+    if (!fits)
+        ThrowOverflow(text);
+    // A value with so many decimals is far from the limits.
+    if (RoundsUp(QStringView(decimals).mid(std::min<qsizetype>(Decimals, decimals.size())),
+            m_tenThousandths % 2 != 0))
+        m_tenThousandths += text.startsWith(u'-') ? -1 : 1;
+}
+
+double Currency::Number() const
+{
+    return Val(Text());
+}
+
+QString Currency::Text() const
+{
+    // The smallest value has no positive counterpart, so its parts are made positive one by one.
+    const std::int64_t whole = m_tenThousandths / Scale;
+    const std::int64_t rest = m_tenThousandths % Scale;
+    QString text = m_tenThousandths < 0 ? QStringLiteral("-") : QString();
+    text += QString::number(whole < 0 ? -whole : whole);
+    if (rest == 0)
+        return text;
+    QString decimals = QString::number(rest < 0 ? -rest : rest).rightJustified(Decimals, u'0');
+    while (decimals.endsWith(u'0'))
+        decimals.chop(1);
+    return text + u'.' + decimals;
+}
+
+Currency& Currency::operator+=(Currency other)
+{
+    if (!FitsSum(m_tenThousandths, other.m_tenThousandths))
+        ThrowOverflow(QString(Text() + QStringLiteral(" + ") + other.Text()));
+    m_tenThousandths += other.m_tenThousandths;
+    return *this;
+}
+
+Currency& Currency::operator-=(Currency other)
+{
+    if (!FitsDifference(m_tenThousandths, other.m_tenThousandths))
+        ThrowOverflow(QString(Text() + QStringLiteral(" - ") + other.Text()));
+    m_tenThousandths -= other.m_tenThousandths;
+    return *this;
+}
