@@ -15,10 +15,16 @@ bool FakeCalculator::Start(const QString& program, bool maximised)
     return There;
 }
 
+QString FakeInputBox::Ask(const QString& prompt, const QString& proposed, const QString&)
+{
+    Asked.append(prompt + u'|' + proposed);
+    return Answers.isEmpty() ? QString() : Answers.takeFirst();
+}
+
 SocietyTest::SocietyTest()
 {
     SetDrivesRoot(m_drives.path());
-    World::Current() = {&TheClock, &TheCalculator, &TheBox};
+    World::Current() = {&TheClock, &TheCalculator, &TheBox, &TheInputBox, World::Real().fileSystem};
     const QString folder = LocalPath(AppFolder);
     QDir().mkpath(folder);
     SocietyPlan plan;

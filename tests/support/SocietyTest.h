@@ -33,7 +33,17 @@ public:
     void Show(const QString& text, const QString&) override { Shown.append(text); }
 };
 
+// Answers each prompt with the next of the answers put in, and keeps what it was asked; without one it is
+// left.
+class FakeInputBox final : public InputBox {
+public:
+    QStringList Answers;
+    QStringList Asked; // the prompt and what was proposed: "Enter Folder Name|Backup"
+    QString Ask(const QString& prompt, const QString& proposed, const QString&) override;
+};
+
 // A society made fresh for each test, its books open and its state loaded, with one clerk at the keyboard.
+// Its drives are a folder of its own, and the file system is the real one on them.
 // The delivered society has no member and no delivery; its first chart holds from the first of the year.
 class SocietyTest : public ::testing::Test {
 protected:
@@ -70,6 +80,7 @@ protected:
     FakeClock TheClock;
     FakeCalculator TheCalculator;
     FakeMessageBox TheBox;
+    FakeInputBox TheInputBox;
     KeptFailure Failure;
 
 private:

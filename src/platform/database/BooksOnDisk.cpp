@@ -38,6 +38,24 @@ bool BooksOnDisk::AreOpen(const QString& file)
     return !HeldFiles().value(KeyOf(file)).expired();
 }
 
+bool BooksOnDisk::AreReachedBy(const QString& path)
+{
+    const QString key = KeyOf(path);
+    const FileState reached = FileState::Of(key);
+    const auto isReached = [&](const QString& file) {
+        return key == file || (reached.number != 0 && reached.IsSameFileAs(FileState::Of(file)));
+    };
+    const Held& held = HeldFiles();
+    for (auto books = held.cbegin(); books != held.cend(); ++books) {
+        const QString& file = books.key();
+        if (!books->expired()
+            && (isReached(file) || isReached(WriteAheadLog::NameFor(file))
+                || isReached(WriteAheadLog::IndexNameFor(file))))
+            return true;
+    }
+    return false;
+}
+
 BooksOnDisk::BooksOnDisk(const QString& file)
     : m_path(file)
     , m_file(file)

@@ -23,6 +23,10 @@ public:
     // Whether this process has the file open.
     static bool AreOpen(const QString& file);
 
+    // Whether a path leads to books that this process has open, to their log or to their index, however it is
+    // spelled and whatever links are on the way.
+    static bool AreReachedBy(const QString& path);
+
     enum class Verdict {
         Untouched,
         FoldedByOthers, // another program has brought the log into the books, as it may

@@ -2,16 +2,21 @@
 
 #include "platform/shell/AppFolder.h"
 #include "platform/shell/FreshKeys.h"
+#include "platform/shell/MachineFileSystem.h"
 
 #include <QApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QFontMetrics>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -143,6 +148,41 @@ private:
     }
 };
 
+// A prompt over a line. Enter goes on with what stands there, Esc leaves.
+class PlatformInputBox final : public InputBox {
+public:
+    QString Ask(const QString& prompt, const QString& proposed, const QString& title) override
+    {
+        QDialog box(QApplication::activeWindow());
+        box.setWindowTitle(title.isEmpty() ? QStringLiteral("Vetrolan") : title);
+        box.setWindowModality(Qt::ApplicationModal);
+        box.setFont(ReadableFont());
+        auto* label = new QLabel;
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        label->setText(BreakableText(prompt));
+        auto* line = new QLineEdit(proposed);
+        line->selectAll();
+        line->setAccessibleName(prompt);
+        auto* buttons = new QDialogButtonBox;
+        auto* on = buttons->addButton(QStringLiteral("पुढे"), QDialogButtonBox::AcceptRole);
+        buttons->addButton(QStringLiteral("रद्द"), QDialogButtonBox::RejectRole);
+        on->setDefault(true);
+        QObject::connect(buttons, &QDialogButtonBox::accepted, &box, &QDialog::accept);
+        QObject::connect(buttons, &QDialogButtonBox::rejected, &box, &QDialog::reject);
+
+        constexpr int letters = 40; // that are seen of the line
+        line->setMinimumWidth(letters * QFontMetrics(box.font()).averageCharWidth());
+        auto* column = new QVBoxLayout(&box);
+        for (QWidget* part :
+            {static_cast<QWidget*>(label), static_cast<QWidget*>(line), static_cast<QWidget*>(buttons)})
+            column->addWidget(part);
+        line->setFocus();
+        const FreshKeys keys(box);
+        return box.exec() == QDialog::Accepted ? line->text().trimmed() : QString();
+    }
+};
+
 }
 
 World& World::Current()
@@ -156,5 +196,7 @@ World World::Real()
     static MachineClock clock;
     static DesktopCalculator calculator;
     static PlatformMessageBox messageBox;
-    return {&clock, &calculator, &messageBox};
+    static PlatformInputBox inputBox;
+    static MachineFileSystem fileSystem;
+    return {&clock, &calculator, &messageBox, &inputBox, &fileSystem};
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/shell/FileSystem.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -30,11 +32,23 @@ public:
     virtual void Show(const QString& text, const QString& title = {}) = 0;
 };
 
+// The plain one-line prompt of the platform. It takes only keys that were pressed after it was painted.
+class InputBox {
+public:
+    virtual ~InputBox() = default;
+
+    // Asks, with `proposed` in the line. Returns what the clerk has made of it, without blanks at the ends;
+    // an empty text if he has left without an answer. An empty title is the program's name.
+    virtual QString Ask(const QString& prompt, const QString& proposed = {}, const QString& title = {}) = 0;
+};
+
 // What the program asks of the machine around it. Whoever replaces a part (a test, the tour) owns it.
 struct World {
     Clock* clock;
     Calculator* calculator;
     MessageBox* messageBox;
+    InputBox* inputBox;
+    FileSystem* fileSystem;
 
     // The world of this process; it begins as the real one.
     static World& Current();

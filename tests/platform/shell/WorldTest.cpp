@@ -15,6 +15,8 @@ TEST(World, BeginsAsTheRealOne)
     EXPECT_EQ(World::Current().clock, real.clock);
     EXPECT_EQ(World::Current().calculator, real.calculator);
     EXPECT_EQ(World::Current().messageBox, real.messageBox);
+    EXPECT_EQ(World::Current().inputBox, real.inputBox);
+    EXPECT_EQ(World::Current().fileSystem, real.fileSystem);
 }
 
 TEST(World, TheRealClockShowsTheTimeOfTheMachine)
