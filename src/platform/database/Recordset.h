@@ -16,6 +16,7 @@ public:
     static FieldValue OfDate(QDate date);
 
     bool IsNull() const { return m_kind == Kind::Null; }
+    bool IsDate() const { return m_kind == Kind::Date; }
 
     // The text; a number in shortest form, a date as dd/MM/yyyy, Null as the empty text.
     QString Text() const;

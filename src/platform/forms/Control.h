@@ -71,6 +71,7 @@ public:
 
 protected:
     friend class Screen;
+    friend class DataGrid; // hands keys on to the field of the cell that is being edited
 
     // A key that the screen has no use for. Returns true if it is used up; false leaves it to the widget.
     virtual bool KeyPress(const QKeyEvent& key) = 0;

@@ -1,159 +1,15 @@
 #include "platform/forms/DataGrid.h"
 
-#include "platform/database/Connection.h"
+#include "platform/forms/DataGridEditor.h"
+#include "platform/forms/DataGridModel.h"
 #include "platform/forms/Look.h"
-#include "platform/text/Dates.h"
-#include "platform/text/Numbers.h"
-#include "platform/text/Shivaji01.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QTableView>
 
 #include <algorithm>
-#include <iterator>
-#include <limits>
 #include <utility>
-
-class DataGrid::Model final : public QAbstractTableModel {
-public:
-    explicit Model(std::vector<Column> columns) : m_columns(std::move(columns)) { }
-
-    void Bind(Connection& connection, const QString& query)
-    {
-        m_connection = &connection;
-        m_query = query;
-    }
-
-    void Read()
-    {
-        beginResetModel();
-        m_rows.clear();
-        m_names.clear();
-        m_hasMore = false;
-        if (m_connection) {
-            Recordset rows(*m_connection, m_query);
-            for (int i = 0; i < rows.Columns(); ++i)
-                m_names.push_back(rows.Name(i).toLower());
-            m_rows = Take(rows, FirstRows);
-            m_hasMore = !rows.Eof();
-        }
-        m_places.clear();
-        for (const Column& column : m_columns)
-            m_places.push_back(PlaceOf(column.field));
-        endResetModel();
-    }
-
-    // The rows behind those that were read with the query.
-    void ReadRest()
-    {
-        if (!std::exchange(m_hasMore, false))
-            return;
-        Recordset rows(*m_connection, m_query);
-        for (std::size_t read = 0; read < m_rows.size() && !rows.Eof(); ++read)
-            rows.MoveNext();
-        std::vector<Row> rest = Take(rows, std::numeric_limits<std::size_t>::max());
-        if (rest.empty())
-            return;
-        const int first = static_cast<int>(m_rows.size());
-        beginInsertRows({}, first, first + static_cast<int>(rest.size()) - 1);
-        std::move(rest.begin(), rest.end(), std::back_inserter(m_rows));
-        endInsertRows();
-    }
-
-    bool HasRead(int row) const { return row < rowCount() || !m_hasMore; }
-
-    bool canFetchMore(const QModelIndex& parent) const override { return !parent.isValid() && m_hasMore; }
-    void fetchMore(const QModelIndex&) override { ReadRest(); }
-
-    int rowCount(const QModelIndex& parent = {}) const override
-    {
-        return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-    }
-
-    int columnCount(const QModelIndex& parent = {}) const override
-    {
-        return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
-    }
-
-    QVariant data(const QModelIndex& index, int role) const override
-    {
-        if (role == Qt::DisplayRole)
-            return Shown(index.row(), index.column());
-        if (role == Qt::TextAlignmentRole)
-            return QVariant::fromValue(Alignment(index.column()));
-        return {};
-    }
-
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override
-    {
-        if (orientation != Qt::Horizontal)
-            return {};
-        if (role == Qt::DisplayRole)
-            return m_columns[section].caption.Seen().trimmed();
-        if (role == Qt::TextAlignmentRole)
-            return QVariant::fromValue(Alignment(section) | Qt::TextWordWrap);
-        return {};
-    }
-
-    QString Shown(int row, int at) const
-    {
-        const Column& column = m_columns[at];
-        if (m_places[at] < 0)
-            return {};
-        const FieldValue& value = m_rows[row][m_places[at]];
-        if (value.IsNull())
-            return {};
-        if (!column.format.isEmpty())
-            return column.format.contains(u'y') ? Format(value.Date(), column.format)
-                                                : Format(value.Number(), column.format);
-        return column.stored ? Shivaji01::ToUnicode(value.Text()) : value.Text();
-    }
-
-    FieldValue Value(int row, QStringView field) const
-    {
-        const int place = PlaceOf(field.toString());
-        return place < 0 || row < 0 || row >= rowCount() ? FieldValue() : m_rows[row][place];
-    }
-
-    const std::vector<Column>& Columns() const { return m_columns; }
-
-private:
-    using Row = std::vector<FieldValue>;
-    static constexpr std::size_t FirstRows = 40; // a screenful and some
-
-    // The next rows, at most so many.
-    static std::vector<Row> Take(Recordset& rows, std::size_t atMost)
-    {
-        std::vector<Row> taken;
-        for (; !rows.Eof() && taken.size() < atMost; rows.MoveNext()) {
-            Row& row = taken.emplace_back();
-            row.reserve(static_cast<std::size_t>(rows.Columns()));
-            for (int i = 0; i < rows.Columns(); ++i)
-                row.push_back(rows.At(i));
-        }
-        return taken;
-    }
-
-    int PlaceOf(const QString& field) const
-    {
-        const auto at = std::find(m_names.begin(), m_names.end(), field.toLower());
-        return at == m_names.end() ? -1 : static_cast<int>(at - m_names.begin());
-    }
-
-    Qt::Alignment Alignment(int at) const
-    {
-        return (m_columns[at].alignRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
-    }
-
-    std::vector<Column> m_columns;
-    Connection* m_connection = nullptr;
-    QString m_query;
-    std::vector<QString> m_names;
-    std::vector<int> m_places;
-    std::vector<Row> m_rows;
-    bool m_hasMore = false; // the query has rows that haven't been read
-};
 
 DataGrid::DataGrid(Screen* screen, const char* name, std::vector<Column> columns)
     : Control(screen, name, new QTableView)
@@ -162,6 +18,12 @@ DataGrid::DataGrid(Screen* screen, const char* name, std::vector<Column> columns
     View().setModel(m_model.get());
     LayOut();
     QObject::connect(&View(), &QTableView::pressed, &View(), [this] { m_isRowPressed = true; });
+    QObject::connect(&View(), &QTableView::doubleClicked, &View(), [this] {
+        if (m_editor)
+            m_editor->Open(true);
+        else if (DoubleClick)
+            RunEvent(DoubleClick);
+    });
     DataGrid::ShowFocus(false);
 }
 
@@ -202,9 +64,34 @@ void DataGrid::Bind(Connection& connection, const QString& query)
 
 void DataGrid::Refresh()
 {
+    if (m_editor)
+        m_editor->Close();
     m_model->Read();
     if (m_model->rowCount() > 0)
-        SetCurrentRow(0);
+        SetCurrentCell(0, 0);
+}
+
+void DataGrid::Edit(Editing editing)
+{
+    m_editor = std::make_unique<CellEditor>(*this, std::move(editing));
+    m_model->MakeEditable();
+    View().setSelectionBehavior(QAbstractItemView::SelectItems); // the cell is marked, not the row
+    LostFocus = [this] {
+        if (!FinishRow())
+            SetFocus();
+    };
+    Refresh();
+}
+
+bool DataGrid::FinishRow()
+{
+    return !m_editor || m_editor->FinishRow();
+}
+
+void DataGrid::SetSideways(bool sideways)
+{
+    m_isSideways = sideways;
+    View().setHorizontalScrollBarPolicy(sideways ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
 }
 
 void DataGrid::ReadAll()
@@ -215,7 +102,7 @@ void DataGrid::ReadAll()
 int DataGrid::Rows() const
 {
     m_model->ReadRest();
-    return m_model->rowCount();
+    return m_model->Rows();
 }
 
 int DataGrid::CurrentRow() const
@@ -225,8 +112,19 @@ int DataGrid::CurrentRow() const
 
 void DataGrid::SetCurrentRow(int row)
 {
+    SetCurrentCell(row, std::max(CurrentColumn(), 0));
+}
+
+int DataGrid::CurrentColumn() const
+{
+    return View().currentIndex().column();
+}
+
+void DataGrid::SetCurrentCell(int row, int column)
+{
     Reach(row);
-    View().selectRow(row);
+    if (const QModelIndex cell = m_model->index(row, column); cell.isValid())
+        View().setCurrentIndex(cell);
 }
 
 FieldValue DataGrid::Value(int row, QStringView field) const
@@ -259,38 +157,85 @@ void DataGrid::ShowFocus(bool held)
 
 void DataGrid::MouseDone()
 {
-    if (std::exchange(m_isRowPressed, false) && Click)
+    if (!std::exchange(m_isRowPressed, false))
+        return;
+    if (m_editor)
+        m_editor->FinishAllBut(CurrentRow(), CurrentColumn());
+    if (Click)
         Click();
+}
+
+bool DataGrid::KeyBeforeScreen(const QKeyEvent& key)
+{
+    return m_editor && m_editor->KeyBeforeScreen(key);
+}
+
+void DataGrid::Insert(const QString& text)
+{
+    if (m_editor)
+        m_editor->Insert(text);
+}
+
+void DataGrid::ShowComposition(const QString& text)
+{
+    if (m_editor)
+        m_editor->ShowComposition(text);
 }
 
 bool DataGrid::KeyPress(const QKeyEvent& key)
 {
-    const int page = std::max(1, View().viewport()->height() / View().verticalHeader()->defaultSectionSize());
-    int row = CurrentRow();
-    switch (key.key()) {
-    case Qt::Key_Up:
-        row -= 1;
-        break;
-    case Qt::Key_Down:
-        row += 1;
-        break;
-    case Qt::Key_PageUp:
-        row -= page;
-        break;
-    case Qt::Key_PageDown:
-        row += page;
-        break;
-    case Qt::Key_Home:
-        row = 0;
-        break;
-    case Qt::Key_End:
-        row = Rows() - 1; // reads them all
-        break;
-    default:
+    if (m_editor && m_editor->KeyPress(key))
         return true;
+    if (m_editor || m_isSideways) {
+        const int columns = m_model->columnCount();
+        if (key.key() == Qt::Key_Left || key.key() == Qt::Key_Right)
+            SetCurrentCell(CurrentRow(),
+                std::clamp(CurrentColumn() + (key.key() == Qt::Key_Left ? -1 : 1), 0, columns - 1));
     }
-    Reach(row);
+    const int wanted = RowFor(key.key());
+    if (wanted == CurrentRow() || !FinishRow())
+        return true;
+    Reach(wanted);
     if (const int rows = m_model->rowCount(); rows > 0)
-        SetCurrentRow(std::clamp(row, 0, rows - 1));
+        SetCurrentRow(std::clamp(wanted, 0, rows - 1));
     return true;
+}
+
+// The row that a key leads to, which may lie beyond the ends; that of any other key is the current one.
+int DataGrid::RowFor(int key) const
+{
+    const int page = std::max(1, View().viewport()->height() / View().verticalHeader()->defaultSectionSize());
+    switch (key) {
+    case Qt::Key_Up:
+        return CurrentRow() - 1;
+    case Qt::Key_Down:
+        return CurrentRow() + 1;
+    case Qt::Key_PageUp:
+        return CurrentRow() - page;
+    case Qt::Key_PageDown:
+        return CurrentRow() + page;
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return std::max(Rows() - 1, 0); // reads them all
+    default:
+        return CurrentRow();
+    }
+}
+
+FieldValue GridRow::Before(QStringView field) const
+{
+    const auto before = m_before.find(field.toString().toLower());
+    return before == m_before.end() ? FieldValue() : before->second;
+}
+
+QString GridRow::Text(QStringView field) const
+{
+    const auto typed = m_typed.find(field.toString().toLower());
+    return typed == m_typed.end() ? Before(field).Text() : typed->second;
+}
+
+double GridRow::Number(QStringView field) const
+{
+    return Val(Text(field));
 }

@@ -1,0 +1,228 @@
+#pragma once
+
+#include "platform/database/Connection.h"
+#include "platform/forms/DataGrid.h"
+#include "platform/text/Dates.h"
+#include "platform/text/Numbers.h"
+#include "platform/text/Shivaji01.h"
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+#include <utility>
+
+// The rows of a grid's query as the table view asks for them. For the grid's own files.
+class DataGrid::Model final : public QAbstractTableModel {
+public:
+    explicit Model(std::vector<Column> columns) : m_columns(std::move(columns)) { }
+
+    void Bind(Connection& connection, const QString& query)
+    {
+        m_connection = &connection;
+        m_query = query;
+    }
+
+    void Read()
+    {
+        beginResetModel();
+        m_rows.clear();
+        m_names.clear();
+        m_hasMore = false;
+        m_typedRow = -1;
+        m_typed.clear();
+        if (m_connection) {
+            Recordset rows(*m_connection, m_query);
+            for (int i = 0; i < rows.Columns(); ++i)
+                m_names.push_back(rows.Name(i).toLower());
+            m_rows = Take(rows, m_isEditable ? AllRows : FirstRows);
+            m_hasMore = !rows.Eof();
+        }
+        m_places.clear();
+        for (const Column& column : m_columns)
+            m_places.push_back(PlaceOf(column.field));
+        endResetModel();
+    }
+
+    // The rows behind those that were read with the query.
+    void ReadRest()
+    {
+        if (!std::exchange(m_hasMore, false))
+            return;
+        Recordset rows(*m_connection, m_query);
+        for (std::size_t read = 0; read < m_rows.size() && !rows.Eof(); ++read)
+            rows.MoveNext();
+        std::vector<Row> rest = Take(rows, AllRows);
+        if (rest.empty())
+            return;
+        const int first = static_cast<int>(m_rows.size());
+        beginInsertRows({}, first, first + static_cast<int>(rest.size()) - 1);
+        std::move(rest.begin(), rest.end(), std::back_inserter(m_rows));
+        endInsertRows();
+    }
+
+    bool HasRead(int row) const { return row < Rows() || !m_hasMore; }
+
+    bool canFetchMore(const QModelIndex& parent) const override { return !parent.isValid() && m_hasMore; }
+    void fetchMore(const QModelIndex&) override { ReadRest(); }
+
+    // A row more than was read in a grid to be edited.
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : Rows() + (m_isEditable ? 1 : 0);
+    }
+
+    int Rows() const { return static_cast<int>(m_rows.size()); }
+
+    int columnCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+    }
+
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        if (role == Qt::DisplayRole)
+            return Shown(index.row(), index.column());
+        if (role == Qt::TextAlignmentRole)
+            return QVariant::fromValue(Alignment(index.column()));
+        return {};
+    }
+
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        if (orientation != Qt::Horizontal)
+            return {};
+        if (role == Qt::DisplayRole)
+            return m_columns[section].caption.Seen().trimmed();
+        if (role == Qt::TextAlignmentRole)
+            return QVariant::fromValue(Alignment(section) | Qt::TextWordWrap);
+        return {};
+    }
+
+    QString Shown(int row, int at) const
+    {
+        const Column& column = m_columns[at];
+        if (const QString* typed = TypedAt(row, at))
+            return column.format.isEmpty() && column.stored ? Shivaji01::ToUnicode(*typed) : *typed;
+        const FieldValue value = ValueAt(row, at);
+        const bool isEncoded = column.format.isEmpty() && column.stored && !value.IsDate();
+        return isEncoded ? Shivaji01::ToUnicode(value.Text()) : Written(row, at);
+    }
+
+    // What stands in a cell, as the clerk would type it; a text as it is stored.
+    QString Written(int row, int at) const
+    {
+        if (const QString* typed = TypedAt(row, at))
+            return *typed;
+        const QString& format = m_columns[at].format;
+        const FieldValue value = ValueAt(row, at);
+        if (format.isEmpty() || value.IsNull())
+            return value.Text();
+        return IsDateFormat(format) ? Format(value.Date(), format) : Format(value.Number(), format);
+    }
+
+    static bool IsDateFormat(QStringView format) { return format.contains(u'y'); }
+
+    FieldValue Value(int row, QStringView field) const
+    {
+        const int place = PlaceOf(field.toString());
+        return place < 0 || row < 0 || row >= Rows() ? FieldValue() : m_rows[row][place];
+    }
+
+    const std::vector<Column>& Columns() const { return m_columns; }
+
+    // Editing: what was typed into the cells of one row, until it is written or given back.
+
+    void MakeEditable()
+    {
+        beginResetModel();
+        m_isEditable = true;
+        endResetModel();
+    }
+
+    Qt::ItemFlags flags(const QModelIndex& index) const override
+    {
+        return QAbstractTableModel::flags(index) | (m_isEditable ? Qt::ItemIsEditable : Qt::NoItemFlags);
+    }
+
+    void Type(int row, int at, const QString& text)
+    {
+        m_typedRow = row;
+        m_typed[at] = text;
+        Q_EMIT dataChanged(index(row, at), index(row, at));
+    }
+
+    void ForgetTyped()
+    {
+        const int row = std::exchange(m_typedRow, -1);
+        m_typed.clear();
+        if (row >= 0)
+            Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+    }
+
+    // The row that was typed into; -1 is none.
+    int TypedRow() const { return m_typedRow; }
+
+    GridRow RowAt(int row) const
+    {
+        GridRow made;
+        made.m_isNew = row >= Rows();
+        for (std::size_t place = 0; !made.m_isNew && place < m_names.size(); ++place)
+            made.m_before[m_names[place]] = m_rows[row][place];
+        if (row == m_typedRow)
+            for (const auto& [at, text] : m_typed)
+                made.m_typed[m_columns[at].field.toLower()] = text;
+        return made;
+    }
+
+private:
+    using Row = std::vector<FieldValue>;
+    static constexpr std::size_t FirstRows = 40; // a screenful and some
+    static constexpr std::size_t AllRows = std::numeric_limits<std::size_t>::max();
+
+    // The next rows, at most so many.
+    static std::vector<Row> Take(Recordset& rows, std::size_t atMost)
+    {
+        std::vector<Row> taken;
+        for (; !rows.Eof() && taken.size() < atMost; rows.MoveNext()) {
+            Row& row = taken.emplace_back();
+            row.reserve(static_cast<std::size_t>(rows.Columns()));
+            for (int i = 0; i < rows.Columns(); ++i)
+                row.push_back(rows.At(i));
+        }
+        return taken;
+    }
+
+    int PlaceOf(const QString& field) const
+    {
+        const auto at = std::find(m_names.begin(), m_names.end(), field.toLower());
+        return at == m_names.end() ? -1 : static_cast<int>(at - m_names.begin());
+    }
+
+    FieldValue ValueAt(int row, int at) const
+    {
+        return m_places[at] < 0 || row >= Rows() ? FieldValue() : m_rows[row][m_places[at]];
+    }
+
+    // Null where nothing was typed.
+    const QString* TypedAt(int row, int at) const
+    {
+        const auto typed = row == m_typedRow ? m_typed.find(at) : m_typed.end();
+        return typed == m_typed.end() ? nullptr : &typed->second;
+    }
+
+    Qt::Alignment Alignment(int at) const
+    {
+        return (m_columns[at].alignRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+    }
+
+    std::vector<Column> m_columns;
+    Connection* m_connection = nullptr;
+    QString m_query;
+    std::vector<QString> m_names;
+    std::vector<int> m_places;
+    std::vector<Row> m_rows;
+    bool m_hasMore = false; // the query has rows that haven't been read
+    bool m_isEditable = false;
+    int m_typedRow = -1;
+    std::map<int, QString> m_typed; // by column
+};
