@@ -72,6 +72,7 @@ public:
 protected:
     friend class Screen;
     friend class DataGrid; // hands keys on to the field of the cell that is being edited
+    friend class PopupMenu;
 
     // A key that the screen has no use for. Returns true if it is used up; false leaves it to the widget.
     virtual bool KeyPress(const QKeyEvent& key) = 0;

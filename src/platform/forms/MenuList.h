@@ -5,7 +5,7 @@
 #include <vector>
 
 // A list of entries to choose from, as the menu has them. The text of an entry is what decides.
-class MenuList final : public Control {
+class MenuList : public Control {
 public:
     MenuList(Screen* screen, const char* name);
 

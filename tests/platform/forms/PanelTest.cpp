@@ -1,0 +1,81 @@
+#include "platform/forms/Panel.h"
+#include "tests/platform/forms/FormsTest.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+// Two fields, the second of them and a label in a panel.
+class PanelScreen : public Screen {
+public:
+    PanelScreen() : Screen("PanelScreen")
+    {
+        auto* inside = new QVBoxLayout;
+        inside->addWidget(caption);
+        inside->addWidget(txtInside.Widget());
+        inside->addWidget(lblInside.Widget());
+        auto* column = new QVBoxLayout(this);
+        column->addWidget(txtBefore.Widget());
+        column->addWidget(Frame1.LaidOut(inside));
+        column->addWidget(txtBehind.Widget());
+    }
+
+    PlainField txtBefore{this, "txtBefore"};
+    PlainField txtInside{this, "txtInside"};
+    PlainField txtBehind{this, "txtBehind"};
+    Label lblInside{this, "lblInside"};
+    Panel Frame1{this, {&txtInside}, {&lblInside}};
+    QLabel* caption = new QLabel;
+};
+
+class PanelTest : public FormsTest {
+protected:
+    void AtPanel(const std::function<void(PanelScreen&)>& script)
+    {
+        Open<PanelScreen>([](PanelScreen& screen) { screen.Frame1.SetVisible(false); }, script);
+        EXPECT_FALSE(Failure);
+    }
+};
+
+TEST_F(PanelTest, WhatIsHiddenIsNoStop)
+{
+    AtPanel([&](PanelScreen& screen) {
+        EXPECT_FALSE(screen.Frame1.Visible());
+        EXPECT_FALSE(screen.caption->isVisible());
+        EXPECT_FALSE(screen.lblInside.Visible());
+        Type("{TAB}");
+        EXPECT_EQ(FocusName(), "txtBehind");
+        Do([&] { screen.txtInside.SetFocus(); });
+        EXPECT_EQ(FocusName(), "txtBehind");
+    });
+}
+
+TEST_F(PanelTest, WhatIsShownIsSeenAndEntered)
+{
+    AtPanel([&](PanelScreen& screen) {
+        Do([&] { screen.Frame1.SetVisible(true); });
+        EXPECT_TRUE(screen.Frame1.Visible());
+        EXPECT_TRUE(screen.caption->isVisible());
+        EXPECT_TRUE(screen.lblInside.Widget()->isVisible());
+        Type("{TAB}x");
+        EXPECT_EQ(FocusName(), "txtInside");
+        EXPECT_EQ(screen.txtInside.Text(), Q("x"));
+    });
+}
+
+TEST_F(PanelTest, APanelThatHidesPassesTheFocusOn)
+{
+    AtPanel([&](PanelScreen& screen) {
+        Do([&] { screen.Frame1.SetVisible(true); });
+        Type("{TAB}");
+        screen.txtInside.KeyDown = [&](const QKeyEvent&) {
+            screen.Frame1.SetVisible(false);
+            return true;
+        };
+        Type("x");
+        EXPECT_EQ(FocusName(), "txtBehind");
+    });
+}
+
+}
