@@ -1,6 +1,7 @@
 #include "tools/clerk/Clerk.h"
 
 #include "platform/forms/ModalStack.h"
+#include "platform/forms/Painting.h"
 #include "platform/forms/ProgramWindow.h"
 #include "platform/forms/TextField.h"
 #include "platform/shell/FreshKeys.h"
@@ -64,6 +65,13 @@ bool IsBusyLineUp()
     });
 }
 
+// Whether the program isn't ready for the clerk: a box takes no key yet, or a handler goes on while it
+// paints.
+bool IsBusy()
+{
+    return FreshKeys::Awaited() || IsBusyLineUp() || Painting::IsUnderWay();
+}
+
 // Lays a window over the middle of a picture, which grows if the window is larger.
 QPixmap LaidOver(const QPixmap& picture, const QPixmap& window)
 {
@@ -107,10 +115,8 @@ public:
     // box that has come up is waited for until it takes keys: the clerk presses what he sees.
     void TurnWhenAtRest()
     {
-        QTimer::singleShot(0, qApp, [this] {
-            QTimer::singleShot(
-                0, qApp, [this] { FreshKeys::Awaited() || IsBusyLineUp() ? TurnWhenAtRest() : Turn(); });
-        });
+        QTimer::singleShot(0, qApp,
+            [this] { QTimer::singleShot(0, qApp, [this] { IsBusy() ? TurnWhenAtRest() : Turn(); }); });
     }
 
     void Ask(std::function<void()> wanted)

@@ -1,0 +1,82 @@
+#include "core/messages/Progress.h"
+
+#include "platform/forms/Look.h"
+#include "platform/forms/Painting.h"
+#include "platform/forms/Screen.h"
+
+#include <QLabel>
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+namespace {
+
+void Fill(QLabel& label, QRgb colour)
+{
+    label.setAutoFillBackground(true);
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::Window, QColor(colour));
+    label.setPalette(palette);
+}
+
+}
+
+Progress::Progress(Screen* screen)
+    : lblBack(screen, "lblBack")
+    , lblProgress(screen, "lblProgress")
+    , lblPercent(screen, "lblPercent")
+{
+    constexpr int height = 32;
+    QLabel& back = *lblBack.Widget();
+    back.setFixedHeight(height);
+    back.setMinimumWidth(10 * height);
+    back.setFrameShape(QFrame::Box);
+    Fill(back, Look::Quiet);
+    Fill(*lblProgress.Widget(), Look::PlainColour);
+    lblPercent.Widget()->setAlignment(Qt::AlignCenter);
+    for (Label* part : {&lblProgress, &lblPercent})
+        part->Widget()->setParent(&back); // the figure lies over the filled part
+    QSizePolicy place = back.sizePolicy();
+    place.setRetainSizeWhenHidden(true);
+    back.setSizePolicy(place);
+    End();
+}
+
+void Progress::Begin(int rows)
+{
+    m_rows = rows;
+    m_done = 0;
+    m_percent = 0;
+    if (rows <= 0)
+        return;
+    for (Label* part : {&lblBack, &lblProgress, &lblPercent})
+        part->SetVisible(true);
+    Show();
+}
+
+// A run of ten thousand rows isn't held up by more paintings than the eye can tell apart.
+void Progress::Step()
+{
+    ++m_done;
+    const auto percent = static_cast<int>(std::int64_t{m_done} * 100 / std::max(m_rows, 1));
+    if (m_rows <= 0 || std::exchange(m_percent, percent) == percent)
+        return;
+    Show();
+}
+
+void Progress::Show()
+{
+    const QRect inside = lblBack.Widget()->contentsRect();
+    const auto filled = static_cast<int>(std::int64_t{inside.width()} * std::min(m_done, m_rows) / m_rows);
+    lblProgress.Widget()->setGeometry(inside.x(), inside.y(), std::max(filled, 1), inside.height());
+    lblPercent.Widget()->setGeometry(inside);
+    lblPercent.SetFigure(QStringLiteral("%1 %").arg(m_percent));
+    Painting::LetIn();
+}
+
+void Progress::End()
+{
+    for (Label* part : {&lblBack, &lblProgress, &lblPercent})
+        part->SetVisible(false);
+}

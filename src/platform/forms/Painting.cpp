@@ -1,0 +1,88 @@
+#include "platform/forms/Painting.h"
+
+#include "platform/forms/ModalStack.h"
+#include "platform/forms/Screen.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+int g_underWay = 0; // gates that are shut, and keys kept by one that are still to be typed
+
+// Types an event of the keyboard into the screen on top, behind whatever waits in the application's queue.
+void TypeLater(const std::shared_ptr<QEvent>& event)
+{
+    ++g_underWay;
+    QMetaObject::invokeMethod(
+        qApp,
+        [event] {
+            --g_underWay;
+            if (const Screen* screen = ModalStack::Current().Top())
+                QCoreApplication::sendEvent(screen->KeyTarget(), event.get());
+        },
+        Qt::QueuedConnection);
+}
+
+// Stands before the windows as long as they are painted. The window system keeps most of what the clerk does
+// back by itself; what comes by other ways, such as an input method's, is met here.
+class Gate final : public QObject {
+public:
+    Gate()
+    {
+        ++g_underWay;
+        qApp->installEventFilter(this);
+    }
+
+    ~Gate() override
+    {
+        --g_underWay;
+        for (const std::shared_ptr<QEvent>& event : m_kept)
+            TypeLater(event);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (!watched->isWidgetType())
+            return false;
+        switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::InputMethod:
+            m_kept.emplace_back(event->clone());
+            return true;
+        case QEvent::Close:
+            event->ignore();
+            return true;
+        case QEvent::ShortcutOverride:
+        case QEvent::KeyRelease:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseButtonRelease:
+        case QEvent::Wheel:
+            return true;
+        default:
+            return false;
+        }
+    }
+
+private:
+    std::vector<std::shared_ptr<QEvent>> m_kept;
+};
+
+}
+
+void Painting::LetIn()
+{
+    const Gate gate;
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+bool Painting::IsUnderWay()
+{
+    return g_underWay > 0;
+}
