@@ -62,8 +62,6 @@ bool PopupMenu::eventFilter(QObject*, QEvent* event)
 
 void PopupMenu::OpenAt(QPoint place)
 {
-    if (!m_control.CanTakeFocus())
-        return;
     m_control.RunEvent([this, place] {
         m_control.SetFocus();
         if (m_control.HasFocus())

@@ -117,7 +117,7 @@ TEST_F(FolderListTest, ADriveIsGoneToWithEnter)
 {
     AtFolders([&](FolderScreen& screen) {
         EXPECT_EQ(screen.Drive1.CurrentIndex(), 0);
-        Type("{Down}");
+        Type("{Down}{Up}{Down}");
         EXPECT_EQ(screen.Drive1.Drive(), Q("C:\\")) << "not before Enter";
         Type("{ENTER}");
         EXPECT_EQ(screen.Drive1.Drive(), Q("E:\\"));
