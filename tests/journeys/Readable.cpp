@@ -181,7 +181,8 @@ void LookBelow(const QWidget& parent, Faults& faults)
 std::string UnreadableOn(const Screen& screen)
 {
     Faults faults;
-    // A screen grows with the window; what counts is how small it can be made at the width of the smallest desktop.
+    // A screen grows with the window; what counts is how small it can be made at the width of the smallest
+    // desktop.
     QSize least = screen.minimumSize().expandedTo(screen.minimumSizeHint());
     if (screen.hasHeightForWidth())
         least.setHeight(screen.layout()->minimumHeightForWidth(MostWidth));
