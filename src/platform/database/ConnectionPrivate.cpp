@@ -171,34 +171,36 @@ void Connection::Private::RequireTransaction() const
 // Two looks at names cost nothing beside a save; saving into files that nobody will open again costs the day.
 void Connection::Private::RequireUntouchedFiles()
 {
-    if (!AreFilesOurs())
+    const BooksOnDisk::Verdict found = LookAtFiles();
+    if (found == BooksOnDisk::Verdict::Changed)
         DatabaseErrors::ThrowFilesChanged();
-    if (m_onDisk->Look() == BooksOnDisk::Verdict::LogGone)
+    if (found == BooksOnDisk::Verdict::LogGone)
         DatabaseErrors::ThrowLogGone(Fold());
 }
 
-// Whether books and log may be written, by whatever other program they were folded meanwhile.
-bool Connection::Private::AreFilesOurs()
+// Whether books and log may be written, by whatever other program they were folded meanwhile. Files that were
+// others once stay so: what was done to them in between isn't known.
+BooksOnDisk::Verdict Connection::Private::LookAtFiles()
 {
-    if (m_onDisk->isForeign)
-        return false;
-    switch (m_onDisk->Look()) {
-    case BooksOnDisk::Verdict::Untouched:
-    case BooksOnDisk::Verdict::LogGone:
-        return true;
-    case BooksOnDisk::Verdict::LogEmptied:
+    using Verdict = BooksOnDisk::Verdict;
+    const Verdict found = m_onDisk->isForeign ? Verdict::Changed : m_onDisk->Look();
+    switch (found) {
+    case Verdict::Untouched:
+    case Verdict::LogGone:
+        return found;
+    case Verdict::LogEmptied:
         if (!IsEmptiedByFold())
             break;
         m_onDisk->Remember();
         [[fallthrough]];
-    case BooksOnDisk::Verdict::FoldedByOthers:
+    case Verdict::FoldedByOthers:
         m_onDisk->round.BeginAnew();
-        return true;
-    case BooksOnDisk::Verdict::Changed:
+        return Verdict::Untouched;
+    case Verdict::Changed:
         break;
     }
     m_onDisk->isForeign = true;
-    return false;
+    return Verdict::Changed;
 }
 
 // An emptied log leaves the engine nothing but the file to read the mark from.
@@ -263,9 +265,12 @@ bool Connection::Private::SayThatFoldBegins()
 
 bool Connection::Private::Fold()
 {
-    if (m_depth > 0 || IsReading() || !AreFilesOurs())
+    if (m_depth > 0 || IsReading())
         return false;
-    const bool isLogGone = m_onDisk->Look() == BooksOnDisk::Verdict::LogGone;
+    const BooksOnDisk::Verdict found = LookAtFiles();
+    if (found == BooksOnDisk::Verdict::Changed)
+        return false;
+    const bool isLogGone = found == BooksOnDisk::Verdict::LogGone;
     if (!isLogGone)
         m_onDisk->RememberLog();
     if (m_onDisk->LogSize() == 0)

@@ -109,7 +109,7 @@ private:
     int RunOwn(const QByteArray& own);
     void MarkRound();
     bool SayThatFoldBegins();
-    bool AreFilesOurs();
+    BooksOnDisk::Verdict LookAtFiles();
     bool IsEmptiedByFold();
     bool IsReading() const;
 

@@ -214,6 +214,16 @@ TEST_F(BooksOnDiskTest, BooksThatAreGoneAreTold)
     EXPECT_FALSE(QFile::exists(file));
 }
 
+TEST_F(BooksOnDiskTest, BooksThatWereGoneAreNotTrustedWhenTheyComeBack)
+{
+    Add(1);
+    ASSERT_TRUE(QFile::rename(file, file + QStringLiteral(".away")));
+    EXPECT_NE(Refusal(), QString());
+    ASSERT_TRUE(QFile::rename(file + QStringLiteral(".away"), file));
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")))
+        << "nobody knows what was done to them meanwhile";
+}
+
 // The checkpoints that another program may run beside this one.
 class OtherFoldTest : public BooksOnDiskTest, public ::testing::WithParamInterface<const char*> { };
 

@@ -205,6 +205,20 @@ TEST_F(LogTest, ABackupOfTheVeryFilePutThereLaterIsTakenAsItIs)
     EXPECT_EQ(LogsAside(left).size(), 1);
 }
 
+TEST_F(LogTest, ALogThatIsInTheBooksAlreadyButWasNotEmptiedIsTheirs)
+{
+    Add("ek");
+    connection.Fold();
+    Add("dona");
+    const QString left = Left(QStringLiteral("left"));
+    connection.Fold();
+    Write(left, Bytes(file));
+    Age(left, 3600);
+    EXPECT_EQ(OpenAgain(left), QStringList());
+    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona"));
+    EXPECT_TRUE(IsSound(again));
+}
+
 TEST_F(LogTest, BooksWhoseClockWentBackAreTheirLogsAllTheSame)
 {
     Add("ek");

@@ -196,6 +196,7 @@ TEST_F(TransactionTest, AFailedCommitSaysThatItIsNotKnownWhetherTheEntryWasKept)
             EXPECT_TRUE(
                 error.Happened().contains(QStringLiteral("It is not known whether the last entry was kept")));
             EXPECT_TRUE(error.Happened().contains(QStringLiteral("ते माहीत नाही")));
+            EXPECT_TRUE(error.Happened().contains(QStringLiteral("The disk is full")));
             EXPECT_FALSE(error.Happened().contains(QStringLiteral("nothing was saved")));
         }
     }
