@@ -163,6 +163,18 @@ TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
         });
 }
 
+TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheTypedNumberStaysInWhateverCompany)
+{
+    AddMember(12, QStringLiteral("rama"), QStringLiteral("gaaya"));
+    Run(QStringLiteral("update MembersMaster set CompanyId=2 where MemberNo=12"));
+    InTheMorning([](Clerk& clerk) {
+        Type(clerk, "{ENTER}12{ENTER}5+{TAB}rama+{TAB}");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "12");
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheOneOfAStoredRowStays)
 {
     AddMember(12, QStringLiteral("rama"), QStringLiteral("gaaya"));
