@@ -365,14 +365,14 @@ TEST_F(DataGridEditTest, InAnEmptyListTheEmptyRowIsThere)
     });
 }
 
-// A grid that is wider than its screen.
+// A grid that is wider than its place.
 class WideScreen : public Screen {
 public:
     WideScreen() : Screen("WideScreen")
     {
         auto* column = new QVBoxLayout(this);
         column->addWidget(grid.Widget());
-        resize(300, 300);
+        grid.Widget()->setFixedSize(300, 300);
     }
     DataGrid grid{this, "DataGrid1",
         {{Q("MemberNo"), Plain(u"1"), 150, {}, true, false}, {Q("MemberName"), Plain(u"2"), 150},
