@@ -23,7 +23,7 @@ inline constexpr QRgb Ground = qRgb(0xC6, 0xD2, 0xD9); // of the window, where n
 inline constexpr QRgb Shade = qRgba(0x12, 0x1C, 0x22, 0xB0); // over a screen that lies beneath a card
 inline constexpr QRgb GuideInk = qRgb(0x8A, 0x1C, 0x1C); // the guide line
 
-// The width and height of an entry screen; it fits a screen of 1024 x 768 with a window frame around it.
+// The least room that a screen gets, and has to do with: that of a desktop of 1024 x 768, less its bars.
 inline constexpr int ScreenWidth = 1000;
 inline constexpr int ScreenHeight = 690;
 

@@ -58,7 +58,6 @@ ProgramWindow::ProgramWindow()
     dim.setColor(QPalette::Window, QColor::fromRgba(Look::Shade));
     m_shade.setPalette(dim);
     m_shade.hide();
-    // Asked for after the shade is there: setting a size lays out.
     const QScreen* screen = QGuiApplication::primaryScreen();
     setGeometry(Place().isValid() || !screen ? Place() : screen->availableGeometry());
 }

@@ -408,18 +408,13 @@ void Screen::keyPressEvent(QKeyEvent* event)
     Press(*event);
 }
 
-// A key that meets a screen that is closing, or that comes behind such a one, waits for the screen that is on
-// top then.
+// A key that meets a screen that is closing waits for the one that is on top then.
 void Screen::Press(QKeyEvent& key)
 {
-    std::deque<KeyStroke>& ahead = ModalStack::Current().m_ahead;
-    if (m_open && ahead.empty()) {
-        Take(key);
-        return;
-    }
-    ahead.push_back({key.key(), key.modifiers(), key.text()});
     if (m_open)
-        Run([] {});
+        Take(key);
+    else
+        ModalStack::Current().m_ahead.push_back({key.key(), key.modifiers(), key.text()});
 }
 
 // A key goes to the holder, whichever widget the window system has sent it to, and no further.

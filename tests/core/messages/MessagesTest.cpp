@@ -172,6 +172,37 @@ TEST_F(Messages, ThePromptKeepsWhatWasTypedOnLeavingAndOnPuzo)
     EXPECT_EQ(m_field, QStringLiteral("rama"));
 }
 
+TEST_F(Messages, WhatWasTypedBehindTheEndOfAPromptAnswersNoBoxThatComesUpThen)
+{
+    for (const bool isPlain : {false, true}) {
+        TheBox.Shown.clear();
+        Failure = TheClerk.Play(
+            [&] {
+                frmNarrations prompt(Plain(u"नाव"));
+                prompt.ShowModal();
+                if (isPlain)
+                    ShowPlain(QStringLiteral("text"));
+                else
+                    m_answer = Ask(Plain(u"प्रश्न"));
+                frmNarrations next(Plain(u"नाव"));
+                next.ShowModal();
+                m_field = next.Find(u"txtNarration")->Text();
+            },
+            [&](Clerk& clerk) {
+                clerk.TypeAhead(QStringLiteral("{ESC}%hrama"));
+                if (!isPlain) {
+                    EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMessages")) << "nothing has answered it";
+                    clerk.Type(QStringLiteral("%n"));
+                }
+                EXPECT_EQ(clerk.Reads(QStringLiteral("txtNarration")), QString());
+                clerk.CloseBox();
+            });
+        EXPECT_FALSE(m_answer);
+        EXPECT_EQ(m_field, QString());
+    }
+    EXPECT_EQ(TheBox.Shown.size(), 1);
+}
+
 TEST_F(Messages, EscClearsThePromptAndClosesItAndTheCloseBoxClosesWithoutClearing)
 {
     PromptOf([](Clerk& clerk) {
