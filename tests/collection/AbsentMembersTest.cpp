@@ -137,7 +137,7 @@ TEST_F(AbsentMembersTest, TheListHasItsCaptions)
 
 TEST_F(AbsentMembersTest, EscClosesWithoutClearing)
 {
-    TheClerk.Play(
+    Failure = TheClerk.Play(
         [] {
             frmAbsenseMemberCollection screen;
             screen.ShowModal();

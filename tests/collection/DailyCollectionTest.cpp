@@ -44,7 +44,7 @@ TEST_F(DailyCollectionTest, EscClosesInEveryState)
 
 TEST_F(DailyCollectionTest, EscClearsTheFieldsBeforeItCloses)
 {
-    TheClerk.Play(
+    Failure = TheClerk.Play(
         [] {
             frmDailyCollection screen;
             screen.ShowModal();

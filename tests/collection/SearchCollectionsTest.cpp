@@ -62,7 +62,7 @@ TEST_F(SearchCollectionsTest, CalculatorTutorAndEscAnswer)
 
 TEST_F(SearchCollectionsTest, EscClearsTheFieldsBeforeItCloses)
 {
-    TheClerk.Play(
+    Failure = TheClerk.Play(
         [] {
             frmSearchCollections screen;
             screen.ShowModal();

@@ -100,10 +100,12 @@ const std::vector<ScreenState>& EveryScreen()
 
 void PlayOn(Clerk& theClerk, const ScreenState& state, const std::function<void(Clerk&)>& script)
 {
-    theClerk.Play(state.open, [&](Clerk& clerk) {
+    const auto failure = theClerk.Play(state.open, [&](Clerk& clerk) {
         if (clerk.ScreenName() == u"frmSearchCollections")
             WaitForTheSearch(clerk);
         clerk.Type(state.keys);
         script(clerk);
     });
+    if (failure)
+        ADD_FAILURE() << failure->what();
 }

@@ -35,47 +35,47 @@ public:
     QDateTime Now() const override { return {QDate(2026, 4, 15), QTime(6, 5)}; }
 };
 
-int StartAndLeave()
+// Plays on the program; an error that it doesn't catch itself is told to whoever started this process.
+int PlayProgram(const std::function<void(Clerk&)>& script)
 {
     int exitCode = -1;
     Clerk clerk;
-    clerk.Play([&] { exitCode = RunProgram(); },
-        [](Clerk& hands) {
-            Say("screen", hands.ScreenName());
-            hands.Type(QStringLiteral("%x"));
-        });
+    if (const auto failure = clerk.Play([&] { exitCode = RunProgram(); }, script))
+        Say("uncaught", failure->Happened());
     return exitCode;
+}
+
+int StartAndLeave()
+{
+    return PlayProgram([](Clerk& hands) {
+        Say("screen", hands.ScreenName());
+        hands.Type(QStringLiteral("%x"));
+    });
 }
 
 // Whoever started it sees what it has saved, meddles with the books, or kills it between two lines.
 int TypeWhatIsSaid()
 {
-    int exitCode = -1;
-    Clerk clerk;
-    clerk.Play([&] { exitCode = RunProgram(); },
-        [](Clerk& hands) {
-            QTextStream lines(stdin);
-            for (QString keys = lines.readLine(); !keys.isNull(); keys = lines.readLine()) {
-                hands.Type(keys);
-                Say("screen", hands.ScreenName());
-            }
-        });
-    return exitCode;
+    return PlayProgram([](Clerk& hands) {
+        QTextStream lines(stdin);
+        for (QString keys = lines.readLine(); !keys.isNull(); keys = lines.readLine()) {
+            hands.Type(keys);
+            Say("screen", hands.ScreenName());
+        }
+    });
 }
 
 int DieAtWrite(const Action& action, int n)
 {
     FaultyDisk::Install();
-    Clerk clerk;
-    clerk.Play([] { RunProgram(); },
-        [&](Clerk& hands) {
-            hands.Type(OpeningKeys() + action.way);
-            FaultyDisk::Reset();
-            FaultyDisk::KillAt(n);
-            hands.Type(action.keys);
-            FaultyDisk::Reset();
-            Say("survived", hands.ScreenName());
-        });
+    PlayProgram([&](Clerk& hands) {
+        hands.Type(OpeningKeys() + action.way);
+        FaultyDisk::Reset();
+        FaultyDisk::KillAt(n);
+        hands.Type(action.keys);
+        FaultyDisk::Reset();
+        Say("survived", hands.ScreenName());
+    });
     return 0;
 }
 

@@ -194,7 +194,7 @@ TEST_F(ReadableTest, TheMessagesWithTheLongestTexts)
         QStringLiteral("maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ");
     for (const QString& text : {longest, QString(longest + u' ' + longest), QStringLiteral("idnaaMk")}) {
         for (const auto mode : {frmMessages::Mode::Notice, frmMessages::Mode::Question}) {
-            TheClerk.Play(
+            Failure = TheClerk.Play(
                 [&] {
                     frmMessages message(mode, Shivaji(text));
                     message.ShowModal();
@@ -206,7 +206,7 @@ TEST_F(ReadableTest, TheMessagesWithTheLongestTexts)
 
 TEST_F(ReadableTest, TheOneLinePrompt)
 {
-    TheClerk.Play(
+    Failure = TheClerk.Play(
         [] {
             frmNarrations prompt(Shivaji(u"maombarcao naaMva vyavaisqat Ta[-p kra"));
             prompt.ShowModal();

@@ -177,13 +177,13 @@ TEST_F(MembersModes, EscClearsTheFieldsAndTheCloseBoxLeavesThem)
 {
     frmMembers screen;
     const auto open = [&screen] { screen.ShowModal(); };
-    TheClerk.Play(open, [](Clerk& clerk) {
+    Failure = TheClerk.Play(open, [](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ENTER}7"));
         clerk.CloseBox();
         EXPECT_EQ(clerk.ScreenName(), QString());
     });
     EXPECT_EQ(screen.Find(u"txtMemberNo")->Text(), QStringLiteral("7"));
-    TheClerk.Play(open, [](Clerk& clerk) {
+    Failure = TheClerk.Play(open, [](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ENTER}8{ESC}"));
         EXPECT_EQ(clerk.ScreenName(), QString());
     });

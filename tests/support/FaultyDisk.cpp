@@ -14,6 +14,7 @@ constexpr int Never = std::numeric_limits<int>::max();
 
 int g_count = 0;
 int g_fullFrom = Never;
+int g_brokenFrom = Never;
 int g_killAt = Never;
 bool g_hasRoomForAnIndex = true;
 
@@ -36,6 +37,8 @@ public:
                 make(change.count / 2);
             Die();
         }
+        if (g_count >= g_brokenFrom)
+            return change.kind == DiskChange::Kind::Sync ? SQLITE_IOERR_FSYNC : SQLITE_IOERR_WRITE;
         return g_count >= g_fullFrom ? SQLITE_FULL : make(change.count);
     }
 
@@ -54,6 +57,7 @@ void FaultyDisk::Reset()
 {
     g_count = 0;
     g_fullFrom = Never;
+    g_brokenFrom = Never;
     g_killAt = Never;
     g_hasRoomForAnIndex = true;
 }
@@ -66,6 +70,11 @@ void FaultyDisk::NoRoomForAnIndex()
 void FaultyDisk::FullFrom(int n)
 {
     g_fullFrom = n;
+}
+
+void FaultyDisk::BrokenFrom(int n)
+{
+    g_brokenFrom = n;
 }
 
 void FaultyDisk::KillAt(int n)

@@ -13,6 +13,9 @@ void Reset();
 // Full from the n-th (from 1) write, sync or cutting on.
 void FullFrom(int n);
 
+// Broken from the n-th (from 1) write, sync or cutting on: the engine is told of an input/output error.
+void BrokenFrom(int n);
+
 // Has no room from now on for the index of a log.
 void NoRoomForAnIndex();
 

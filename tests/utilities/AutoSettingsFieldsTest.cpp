@@ -326,7 +326,7 @@ TEST_F(AutoSettingsFields, CancelByItsKeyReadsTheRowAgainFromAFieldThatRefuses)
 
 TEST_F(AutoSettingsFields, EscClearsTheFieldsBeforeItCloses)
 {
-    TheClerk.Play(
+    Failure = TheClerk.Play(
         [] {
             frmAutoSettings screen;
             screen.ShowModal();

@@ -21,7 +21,7 @@ public:
     // Runs `program`, which opens screens and returns when they have closed, while `script` plays on it.
     // Screens that are still open when the script ends are left as if the power had failed. Returns the
     // run-time error that ended the program, if one did.
-    std::optional<RunTimeError> Play(
+    [[nodiscard]] std::optional<RunTimeError> Play(
         const std::function<void()>& program, const std::function<void(Clerk&)>& script);
 
     // The rest is for the script.

@@ -7,11 +7,9 @@ struct sqlite3;
 // What ties a log to its books. The first page of a database has two numbers that are free for its owner:
 //
 // - user_version is the mark of the round: a new one with the first writing after each fold. In the file it
-// is
-//   that of the last round that was folded, in the log that of the round being written.
+//   is that of the last round that was folded, in the log that of the round being written.
 // - application_id says in the log what the round goes on from: the mark that the file had when the round
-// began,
-//   a trace of the file's size and time then, and whether a fold has begun to change the file.
+//   began, a trace of the file's size and time then, and whether a fold has begun to change the file.
 //
 // Each round begins with a first page, so it is told by the log alone whether it goes on from these books.
 struct LogMark {

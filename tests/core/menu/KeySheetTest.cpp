@@ -53,7 +53,7 @@ protected:
             const QString key = QStringLiteral("F%1").arg(number);
             TheBox.Shown.clear();
             TheCalculator.Started.clear();
-            TheClerk.Play(open, [&](Clerk& clerk) {
+            Failure = TheClerk.Play(open, [&](Clerk& clerk) {
                 clerk.Type(arrive);
                 ASSERT_EQ(clerk.ScreenName(), screen);
                 clerk.Type(QStringLiteral("{%1}").arg(key));
@@ -105,7 +105,7 @@ TEST_F(KeySheet, OfTheMenusKeysTheOneThatDoesNothingIsNotLit)
 {
     for (const KeyHint& hint : Keys::Of(QStringLiteral("MainMenuFrm")))
         EXPECT_EQ(hint.lit, hint.key != u"F9") << hint.key.toStdString();
-    TheClerk.Play(
+    Failure = TheClerk.Play(
         [] {
             MainMenuFrm menu;
             menu.ShowModal();

@@ -17,17 +17,18 @@ protected:
 
     void AskOf(const std::function<void(Clerk&)>& script)
     {
-        TheClerk.Play([this] { m_answer = Ask(Shivaji(u"roka^D- na@kI badlaayacao ka Æ")); }, script);
+        Failure =
+            TheClerk.Play([this] { m_answer = Ask(Shivaji(u"roka^D- na@kI badlaayacao ka Æ")); }, script);
     }
 
     void NoticeOf(const std::function<void(Clerk&)>& script)
     {
-        TheClerk.Play([] { ShowNotice(Shivaji(u"yaa naavaacao roka^D- Agaaodrca Aaho")); }, script);
+        Failure = TheClerk.Play([] { ShowNotice(Shivaji(u"yaa naavaacao roka^D- Agaaodrca Aaho")); }, script);
     }
 
     void PromptOf(const std::function<void(Clerk&)>& script)
     {
-        TheClerk.Play(
+        Failure = TheClerk.Play(
             [this] {
                 frmNarrations prompt(Plain(u"नाव"));
                 prompt.ShowModal();
@@ -69,7 +70,7 @@ TEST_F(Messages, AQuestionThatDestroysIsANoOnEnter)
 {
     frmMessages::MessageAnswer = 1;
     bool answer = true;
-    TheClerk.Play([&] { answer = Ask(Shivaji(u"roka^D- na@kI KaoDayacao ka Æ"), OnEnter::No); },
+    Failure = TheClerk.Play([&] { answer = Ask(Shivaji(u"roka^D- na@kI KaoDayacao ka Æ"), OnEnter::No); },
         [](Clerk& clerk) {
             EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdCancelNo"));
             clerk.Type(QStringLiteral("{ENTER}"));
@@ -81,12 +82,12 @@ TEST_F(Messages, AQuestionThatDestroysIsANoOnEnter)
 
 TEST_F(Messages, APlainQuestionIsReadAsItIsWrittenAndSoIsAPlainNotice)
 {
-    TheClerk.Play([] { Ask(Plain(u"Are You Sure to Save ?")); },
+    Failure = TheClerk.Play([] { Ask(Plain(u"Are You Sure to Save ?")); },
         [](Clerk& clerk) {
             EXPECT_EQ(LabelOf(clerk, "lblMessages"), QStringLiteral("Are You Sure to Save ?"));
             clerk.Type(QStringLiteral("{ENTER}"));
         });
-    TheClerk.Play([] { ShowNotice(Plain(u"Saved")); },
+    Failure = TheClerk.Play([] { ShowNotice(Plain(u"Saved")); },
         [](Clerk& clerk) {
             EXPECT_EQ(LabelOf(clerk, "lblMessages"), QStringLiteral("Saved"));
             clerk.Type(QStringLiteral("{ENTER}"));
@@ -97,7 +98,7 @@ TEST_F(Messages, KeysThatWereTypedAheadOfAQuestionOrANoticeAreThrownAway)
 {
     for (const char* keys : {"{ENTER}{ENTER}", "%h", "{ESC}", "{TAB}{ENTER}"}) {
         frmMessages::MessageAnswer = 0;
-        TheClerk.Play(
+        Failure = TheClerk.Play(
             [&] {
                 for (const KeyStroke& stroke : ParseKeys(QString::fromLatin1(keys)))
                     QMetaObject::invokeMethod(

@@ -24,7 +24,7 @@ protected:
         gCn.Close();
         int exitCode = -1;
         TheBox.Shown.clear();
-        TheClerk.Play([&] { exitCode = RunProgram(); },
+        Failure = TheClerk.Play([&] { exitCode = RunProgram(); },
             [&](Clerk& clerk) {
                 clerk.Do([&] { ReportControl(control).Print(); });
                 EXPECT_EQ(clerk.ScreenName(), QString());

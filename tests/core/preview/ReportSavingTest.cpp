@@ -120,7 +120,7 @@ TEST_F(ReportSaving, TheNameCarriesWhatTheReportIsAbout)
     ReportControl control = Control();
     control.SetSubject(
         ReportSubject({QStringLiteral("saunaIta paTIla"), QString()}, QDate(2026, 4, 1), QDate(2026, 4, 10)));
-    TheClerk.Play([&] { control.Print(); },
+    Failure = TheClerk.Play([&] { control.Print(); },
         [](Clerk& clerk) {
             clerk.Type(CsvKey);
             EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")),

@@ -1,4 +1,7 @@
 #include "core/start/BooksKeeper.h"
+
+#include "core/messages/Messages.h"
+#include "core/messages/Narrations.h"
 #include "platform/database/Transaction.h"
 #include "tests/support/SocietyTest.h"
 
@@ -30,6 +33,28 @@ TEST_F(BooksKeeperTest, ALogAboveEightMegabytesIsFoldedOnTheWay)
     Write(1024 * 1024);
     EXPECT_EQ(gCn.LogSize(), 0);
     EXPECT_EQ(Written(), QStringLiteral("2"));
+}
+
+TEST_F(BooksKeeperTest, LeavingAScreenFoldsWhatWasSaved)
+{
+    Write(5);
+    ASSERT_GT(gCn.LogSize(), 0);
+    Failure = TheClerk.Play(
+        [] {
+            frmNarrations prompt(Plain(u"नाव"));
+            prompt.ShowModal();
+        },
+        [](Clerk& clerk) { clerk.Type(QStringLiteral("a{ENTER}{ENTER}")); });
+    EXPECT_EQ(gCn.LogSize(), 0);
+}
+
+TEST_F(BooksKeeperTest, ABoxIsAnsweredInTheMidstOfAnotherScreensWorkAndFoldsNothing)
+{
+    Write(5);
+    const qint64 unfolded = gCn.LogSize();
+    Failure = TheClerk.Play([] { ShowNotice(Shivaji(u"yaa naavaacao roka^D- Agaaodrca Aaho")); },
+        [](Clerk& clerk) { clerk.Type(QStringLiteral("{ENTER}")); });
+    EXPECT_EQ(gCn.LogSize(), unfolded);
 }
 
 }

@@ -33,7 +33,7 @@ protected:
         const QMap<QString, QByteArray> before = Contents(LocalPath(AppFolder));
         TheBox.Shown.clear();
         int exitCode = -1;
-        TheClerk.Play([&] { exitCode = RunProgram(); }, [](Clerk&) {});
+        Failure = TheClerk.Play([&] { exitCode = RunProgram(); }, [](Clerk&) {});
         EXPECT_EQ(exitCode, 1);
         EXPECT_EQ(Contents(LocalPath(AppFolder)), before) << "a failed start leaves the folder as it was";
         return TheBox.Shown.size() == 1 ? TheBox.Shown.first()
@@ -169,7 +169,7 @@ TEST_F(ProgramFaults, ASecondCopySaysThatTheBooksAreOpenAndEnds)
 TEST_F(ProgramFaults, AnErrorInAHandlerIsShownInABoxAndEndsTheProgramWithOne)
 {
     int exitCode = -1;
-    TheClerk.Play([&] { exitCode = RunProgram(); },
+    Failure = TheClerk.Play([&] { exitCode = RunProgram(); },
         [](Clerk& clerk) {
             clerk.Type(QStringLiteral("{ENTER}{ENTER}")); // past the title and the caution
             EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmAppDate"));

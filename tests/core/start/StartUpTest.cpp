@@ -94,7 +94,7 @@ TEST_F(StartUp, WithoutAnyRightTheMessageIsShownAndNoScreenComesUp)
 {
     Run(QStringLiteral("delete * from MenuAccessTable"));
     gCn.Close();
-    Failure =
+    Failure = Failure =
         TheClerk.Play([] { AppMain(); }, [](Clerk& clerk) { EXPECT_EQ(clerk.ScreenName(), QString()); });
     EXPECT_FALSE(Failure);
     EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("Contact Service provider for Technical Support")));

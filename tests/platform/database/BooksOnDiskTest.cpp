@@ -46,6 +46,20 @@ protected:
         ASSERT_EQ(write.write(bytes), bytes.size());
     }
 
+    // A backup, and behind it two rounds of which one is folded. Books and backup are of one size, so that it
+    // isn't the size that tells them apart.
+    QByteArray BackupBehindTwoFolds()
+    {
+        Add(1);
+        connection.Fold();
+        const QByteArray backup = Bytes();
+        Add(2);
+        connection.Fold();
+        Add(3);
+        EXPECT_EQ(Bytes().size(), backup.size());
+        return backup;
+    }
+
     void FoldByAnother(const char* way = "restart") const
     {
         sqlite3* other = nullptr;
@@ -110,13 +124,7 @@ TEST_F(BooksOnDiskTest, BooksThatWereReplacedAreToldAndLeftAsTheyAre)
 
 TEST_F(BooksOnDiskTest, BooksThatWereOverwrittenAreToldAndLeftAsTheyAre)
 {
-    Add(1);
-    connection.Fold();
-    const QByteArray backup = Bytes();
-    Add(2);
-    connection.Fold();
-    Add(3);
-    ASSERT_EQ(Bytes().size(), backup.size()) << "so that it isn't the size that tells";
+    const QByteArray backup = BackupBehindTwoFolds();
     Overwrite(backup);
     EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
     connection.Close();
@@ -125,12 +133,7 @@ TEST_F(BooksOnDiskTest, BooksThatWereOverwrittenAreToldAndLeftAsTheyAre)
 
 TEST_F(BooksOnDiskTest, AFoldGoesIntoNoBooksThatWereOverwritten)
 {
-    Add(1);
-    connection.Fold();
-    const QByteArray backup = Bytes();
-    Add(2);
-    connection.Fold();
-    Add(3);
+    const QByteArray backup = BackupBehindTwoFolds();
     Overwrite(backup);
     EXPECT_FALSE(connection.Fold());
     connection.Close();
@@ -141,12 +144,7 @@ TEST_F(BooksOnDiskTest, NorDoesTheFoldOfTheConnectionThatReportsAreReadOn)
 {
     Connection reader;
     reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
-    Add(1);
-    connection.Fold();
-    const QByteArray backup = Bytes();
-    Add(2);
-    connection.Fold();
-    Add(3);
+    const QByteArray backup = BackupBehindTwoFolds();
     Overwrite(backup);
     EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
     reader.Close();

@@ -38,6 +38,16 @@ protected:
         return towns.join(u' ');
     }
 
+    // A fold that another connection's reading breaks off: the marks of its beginning are in the log, and of
+    // the pages some have come into the file.
+    void BreakOffAFold()
+    {
+        m_reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
+        m_reading.emplace(m_reader, QStringLiteral("select * from CityMaster"));
+        Add("tIna");
+        ASSERT_FALSE(connection.Fold());
+    }
+
     // A folder with file, log and index as a killed program or a power cut leaves them; the engine doesn't
     // get to see that they were copied.
     QString Left(const QString& name)
@@ -99,6 +109,10 @@ protected:
 
     const QString Name = QStringLiteral("/Morvelta.mdb");
     Connection again;
+
+private:
+    Connection m_reader;
+    std::optional<Recordset> m_reading;
 };
 
 constexpr int FrameSize = 24 + DatabaseFile::PageSize;
@@ -257,13 +271,7 @@ TEST_F(LogTest, AfterAFoldThatWasInterruptedTheLogIsStillTheBooks)
     connection.Fold();
     const QByteArray before = Bytes(file);
     Add("dona");
-    // The marks of the fold's beginning are in the log, and of the pages only some have come into the file.
-    Connection reader;
-    reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
-    std::optional<Recordset> rows;
-    rows.emplace(reader, QStringLiteral("select * from CityMaster"));
-    Add("tIna");
-    ASSERT_FALSE(connection.Fold());
+    BreakOffAFold();
     const QString left = Left(QStringLiteral("left"));
     const QByteArray after = Bytes(left);
     for (int page = 0; page * DatabaseFile::PageSize < after.size(); ++page) {
@@ -276,6 +284,57 @@ TEST_F(LogTest, AfterAFoldThatWasInterruptedTheLogIsStillTheBooks)
         EXPECT_EQ(OpenAgain(part), QStringList()) << "without page " << page + 1;
         EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona tIna"));
     }
+}
+
+TEST_F(LogTest, ABackupThatALogBeingFoldedGoesOnFromIsBroughtToItsEnd)
+{
+    Add("ek");
+    connection.Fold();
+    const QByteArray backup = Bytes(file);
+    Add("dona");
+    BreakOffAFold();
+    const QString left = Left(QStringLiteral("left"));
+    Write(left, backup);
+    Age(left, 3600);
+    EXPECT_EQ(OpenAgain(left), QStringList()) << "half folded books look the same, so nothing may be dropped";
+    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona tIna"));
+    EXPECT_TRUE(IsSound(again));
+}
+
+TEST_F(LogTest, AnOlderBackupIsTakenAsItIsThoughTheLogWasBeingFolded)
+{
+    Add("ek");
+    connection.Fold();
+    const QByteArray backup = Bytes(file);
+    Add("caar");
+    connection.Fold();
+    Add("dona");
+    BreakOffAFold();
+    const QString left = Left(QStringLiteral("left"));
+    Write(left, backup);
+    EXPECT_EQ(OpenAgain(left).size(), 1);
+    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
+    EXPECT_EQ(LogsAside(left).size(), 1);
+    EXPECT_TRUE(IsSound(again));
+}
+
+TEST_F(LogTest, ALogThatWasPutAsideIsToldThoughTheBooksTurnOutToBeDamaged)
+{
+    connection.Execute(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'%1')")
+                           .arg(QString(100 * DatabaseFile::PageSize, u'a')));
+    connection.Fold();
+    QByteArray backup = Bytes(file);
+    Add("dona");
+    connection.Fold();
+    Add("tIna");
+    const QString left = Left(QStringLiteral("left"));
+    const qsizetype at = backup.size() - 50 * DatabaseFile::PageSize;
+    backup[at] = static_cast<char>(backup[at] ^ 4);
+    Write(left, backup);
+    const QString told = Failure(left);
+    EXPECT_TRUE(told.contains(QStringLiteral("damaged"))) << told.toStdString();
+    ASSERT_EQ(LogsAside(left).size(), 1);
+    EXPECT_TRUE(told.contains(LogsAside(left).value(0))) << told.toStdString();
 }
 
 TEST_F(LogTest, ATornFirstPageIsMendedFromTheLog)

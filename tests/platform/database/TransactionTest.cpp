@@ -203,6 +203,28 @@ TEST_F(TransactionTest, AFailedCommitSaysThatItIsNotKnownWhetherTheEntryWasKept)
     FaultyDisk::Reset();
 }
 
+TEST_F(TransactionTest, ASyncThatFailsAtTheCommitSaysToCheckTheDiskAndToLookForTheEntry)
+{
+    Save(connection);
+    FaultyDisk::Reset();
+    Save(connection);
+    const int lastSync = FaultyDisk::Count();
+    for (int n = 1; n <= lastSync; ++n) {
+        FaultyDisk::Reset();
+        FaultyDisk::BrokenFrom(n);
+        try {
+            Save(connection);
+            ADD_FAILURE() << "broken from " << n;
+        } catch (const RunTimeError& error) {
+            const QString told = error.Happened();
+            EXPECT_TRUE(told.contains(QStringLiteral("The disk can't be written. It is not known"))) << n;
+            EXPECT_TRUE(told.contains(QStringLiteral("डिस्क तपासा"))) << n;
+            EXPECT_FALSE(told.contains(QStringLiteral("full"))) << n;
+        }
+    }
+    FaultyDisk::Reset();
+}
+
 TEST_F(TransactionTest, AFailureInsideLeavesNothingToCommit)
 {
     FaultyDisk::FullFrom(1);
