@@ -64,9 +64,10 @@ private:
     static void DrawStroke(cairo_t* cairo, const PlacedItem& item);
 };
 
+// The layouts aren't told of the scale that is drawn at: they would look for each font anew at every scale,
+// which the clerk feels at the first slip and whenever he zooms.
 void PagePainter::Private::Draw(cairo_t* cairo, const Page& page)
 {
-    pango_cairo_update_context(cairo, pool.Context());
     cairo_set_source_rgb(cairo, 0, 0, 0);
     for (const PlacedItem& item : page.items) {
         if (item.kind == PlacedItem::Kind::Text)
