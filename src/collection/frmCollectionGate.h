@@ -38,6 +38,5 @@ private:
     void Search(const SqlText& condition);
 
     QLayout* ListAndTotals();
-    QLayout* OrderLine();
-    QWidget* SearchBox(int width, int height);
+    QWidget* OrderBar();
 };

@@ -1,13 +1,10 @@
 #include "collection/frmCollectionGate.h"
 
 #include "collection/CounterPieces.h"
+#include "platform/forms/ColumnBar.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
-#include <QStyle>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 using namespace CounterPieces;
 
@@ -15,7 +12,7 @@ QLayout* frmCollectionGate::ListAndTotals()
 {
     auto* list = new QVBoxLayout;
     list->setSpacing(4);
-    list->addLayout(OrderLine());
+    list->addWidget(OrderBar());
     list->addWidget(List(DataGridInwards, 31), 1);
     DataGridInwards.SetAccessibleName(Shivaji(u"dUQa saMklana"));
     auto* buttons = new QHBoxLayout;
@@ -31,40 +28,29 @@ QLayout* frmCollectionGate::ListAndTotals()
     return row;
 }
 
-// The search box, no wider than its caption, over the columns before the first that sorts.
-QWidget* frmCollectionGate::SearchBox(int width, int height)
+// The search box over the columns before the first that sorts, and over each of the others the button that
+// sorts by it.
+QWidget* frmCollectionGate::OrderBar()
 {
-    auto* place = new QWidget;
-    place->setFixedWidth(width);
-    auto* row = new QHBoxLayout(place);
+    constexpr int height = 28;
+    auto* bar = new ColumnBar(DataGridInwards);
+    const std::vector<DataGrid::Column> columns = InwardsColumns(GateCounter);
+    int before = -1;
+    for (int at = 0; at < static_cast<int>(columns.size()); ++at) {
+        for (const auto& [button, field] : OrderButtons()) {
+            if (field != columns[at].field)
+                continue;
+            if (before < 0)
+                before = at;
+            bar->Put(*Sized(*button, 0, height, Look::Size::Normal, true), at, at);
+            button->SetAccessibleName(columns[at].caption);
+        }
+    }
+    auto* search = new QWidget; // so that the box is no wider than its caption
+    auto* row = new QHBoxLayout(search);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(Sized(chkSerachMode, 0, height, Look::Size::Normal));
     row->addStretch(1);
-    return place;
-}
-
-// The search box, and over each of the last four columns the button that sorts by it.
-QLayout* frmCollectionGate::OrderLine()
-{
-    constexpr int height = 28;
-    constexpr int edge = 1; // of the list
-    auto* line = new QHBoxLayout;
-    line->setSpacing(0);
-    int searchWidth = edge;
-    for (const DataGrid::Column& column : InwardsColumns(GateCounter)) {
-        const auto orders = OrderButtons();
-        const auto order = std::find_if(
-            orders.begin(), orders.end(), [&](const auto& one) { return one.second == column.field; });
-        if (order == orders.end()) {
-            searchWidth += column.width;
-            continue;
-        }
-        if (line->isEmpty())
-            line->addWidget(SearchBox(searchWidth, height));
-        line->addWidget(
-            Sized(*order->first, column.width, height, Look::Size::Normal, true), column.width > 0 ? 0 : 1);
-        order->first->SetAccessibleName(column.caption);
-    }
-    line->addSpacing(QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent) + edge);
-    return line;
+    bar->Put(*search, 0, before - 1);
+    return bar;
 }

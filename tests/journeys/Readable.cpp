@@ -1,5 +1,7 @@
 #include "tests/journeys/Readable.h"
 
+#include "platform/forms/Look.h"
+#include "platform/forms/ProgramWindow.h"
 #include "platform/forms/Screen.h"
 
 #include <QAbstractItemView>
@@ -19,10 +21,6 @@
 #include <optional>
 
 namespace {
-
-// A screen of 1024 x 768 less the frame of a window and the desktop's bar.
-constexpr int MostWidth = 1016;
-constexpr int MostHeight = 730;
 
 class Faults {
 public:
@@ -176,17 +174,25 @@ void LookBelow(const QWidget& parent, Faults& faults)
     }
 }
 
+// The window; of the smallest desktop less the frame of a window and the desktop's bar.
+QSize Room()
+{
+    const QSize bars(Look::DesktopWidth - Look::ScreenWidth, Look::DesktopHeight - Look::ScreenHeight);
+    const QSize window = ProgramWindow::Current().size();
+    return window == QSize(Look::DesktopWidth, Look::DesktopHeight) ? window - bars : window;
+}
+
 }
 
 std::string UnreadableOn(const Screen& screen)
 {
     Faults faults;
-    // A screen grows with the window; what counts is how small it can be made at the width of the smallest
-    // desktop.
+    // A screen grows with the window; what counts is how small it can be made.
+    const QSize most = Room();
     QSize least = screen.minimumSize().expandedTo(screen.minimumSizeHint());
     if (screen.hasHeightForWidth())
-        least.setHeight(screen.layout()->minimumHeightForWidth(MostWidth));
-    if (least.width() > MostWidth || least.height() > MostHeight)
+        least.setHeight(screen.layout()->minimumHeightForWidth(most.width()));
+    if (least.width() > most.width() || least.height() > most.height())
         faults.Add(screen, QStringLiteral("is %1 x %2").arg(least.width()).arg(least.height()));
     if (!screen.isVisible())
         faults.Add(screen, QStringLiteral("can't be seen"));

@@ -23,8 +23,14 @@
 
 namespace {
 
-// The smallest desktop that a society's PC has.
-constexpr QRect Desktop(0, 0, 1024, 768);
+// The desktop that VETROLAN_DESKTOP names, such as "1366x768"; without it the smallest that a society's PC
+// has.
+QRect Desktop()
+{
+    const QStringList sides =
+        qEnvironmentVariable("VETROLAN_DESKTOP", QStringLiteral("1024x768")).split(u'x');
+    return {0, 0, sides.value(0).toInt(), sides.value(1).toInt()};
+}
 
 // The plain message box that is up; null if there is none.
 QWidget* PlainBox()
@@ -136,7 +142,7 @@ std::optional<RunTimeError> Clerk::Play(
 {
     ModalStack::Current().Reset();
     TextField::BeginWithKeys();
-    ProgramWindow::SetPlace(Desktop);
+    ProgramWindow::SetPlace(Desktop());
     std::optional<RunTimeError> failure;
     m_d->ended = false;
     std::thread hands([&] {

@@ -38,13 +38,14 @@ void PaintKey(QPainter& painter, const QRectF& key, QChar plain, QChar shifted)
     painter.setPen(QPen(QColor(Look::PlainColour).darker(120), 1));
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(key.adjusted(2, 2, -2, -2), 5, 5);
-    const QRectF upper(key.left() + 7, key.top() + 3, key.width() - 14, key.height() / 2 - 3);
+    const int margin = Look::Pixels(7);
+    const QRectF upper(key.left() + margin, key.top() + 3, key.width() - 2 * margin, key.height() / 2 - 3);
     const QRectF lower = upper.translated(0, key.height() / 2 - 2);
     for (const auto& [area, latin] : {std::pair(upper, shifted), std::pair(lower, plain)}) {
-        painter.setFont(Look::Font(Look::Size::Small));
+        painter.setFont(Look::PaintedFont(Look::Size::Small));
         painter.setPen(QColor(Look::Ink).lighter(250));
         painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, latin);
-        painter.setFont(Look::Font(Look::Size::Normal, true));
+        painter.setFont(Look::PaintedFont(Look::Size::Normal, true));
         painter.setPen(QColor(Look::Ink));
         painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter, ShapeOf(latin.unicode()));
     }
@@ -54,7 +55,7 @@ void PaintAltNumbers(QPainter& painter, const QRectF& area)
 {
     constexpr int columns = 10;
     const double width = area.width() / columns;
-    const double height = 27;
+    const double height = Look::Pixels(27);
     int at = 0;
     for (const Shivaji01::Glyph& glyph : Shivaji01::Glyphs()) {
         const int number = Shivaji01::AltNumber(glyph.code);
@@ -62,13 +63,14 @@ void PaintAltNumbers(QPainter& painter, const QRectF& area)
             continue;
         const QRectF cell(
             area.left() + at % columns * width, area.top() + at / columns * height, width, height);
-        painter.setFont(Look::Font(Look::Size::Small));
+        painter.setFont(Look::PaintedFont(Look::Size::Small));
         painter.setPen(QColor(Look::Ink).lighter(250));
         painter.drawText(cell, Qt::AlignLeft | Qt::AlignVCenter,
             QStringLiteral("%1").arg(number, 4, 10, QLatin1Char('0')));
-        painter.setFont(Look::Font(Look::Size::Normal, true));
+        painter.setFont(Look::PaintedFont(Look::Size::Normal, true));
         painter.setPen(QColor(Look::Ink));
-        painter.drawText(cell.adjusted(44, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, ShapeOf(glyph.code));
+        painter.drawText(
+            cell.adjusted(Look::Pixels(44), 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, ShapeOf(glyph.code));
         ++at;
     }
 }
@@ -80,7 +82,7 @@ void KeyboardMap::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double side = width() / KeysAcross;
-    constexpr double keyHeight = 62;
+    const double keyHeight = Look::Pixels(62);
     double top = 0;
     for (const KeyRow& row : KeyRows) {
         for (qsizetype at = 0; at < row.plain.size(); ++at) {
@@ -89,9 +91,10 @@ void KeyboardMap::paintEvent(QPaintEvent*)
         }
         top += keyHeight;
     }
-    painter.setFont(Look::Font(Look::Size::Small, true));
+    painter.setFont(Look::PaintedFont(Look::Size::Small, true));
     painter.setPen(QColor(Look::GuideInk));
-    painter.drawText(
-        QRectF(0, top + 6, width(), 24), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Alt धरून आकडे :"));
-    PaintAltNumbers(painter, QRectF(0, top + 32, width(), height() - top - 32));
+    painter.drawText(QRectF(0, top + Look::Pixels(6), width(), Look::Pixels(24)),
+        Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Alt धरून आकडे :"));
+    top += Look::Pixels(32);
+    PaintAltNumbers(painter, QRectF(0, top, width(), height() - top));
 }

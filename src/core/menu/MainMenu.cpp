@@ -88,6 +88,7 @@ void MainMenuFrm::Shown()
 {
     frmAppDate appDate;
     appDate.ShowModal();
+    m_day.Show();
 }
 
 // The function keys ignore the access flags.
@@ -95,13 +96,13 @@ bool MainMenuFrm::KeyDown(const QKeyEvent& key)
 {
     switch (key.key()) {
     case Qt::Key_F4:
-        ScreenDirectory::Open(QStringLiteral("frmUchalVouchers"), Keys::Action(Name(), u"F4"));
+        OpenScreen(QStringLiteral("frmUchalVouchers"), Keys::Action(Name(), u"F4"));
         return true;
     case Qt::Key_F7:
-        ScreenDirectory::Open(QStringLiteral("frmAutoSettings"), Keys::Action(Name(), u"F7"));
+        OpenScreen(QStringLiteral("frmAutoSettings"), Keys::Action(Name(), u"F7"));
         return true;
     case Qt::Key_F8:
-        ScreenDirectory::Open(QStringLiteral("frmCollectionGate"), Keys::Action(Name(), u"F8"));
+        OpenScreen(QStringLiteral("frmCollectionGate"), Keys::Action(Name(), u"F8"));
         return true;
     default:
         return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
@@ -180,7 +181,7 @@ void MainMenuFrm::SubList_Chosen(MenuList& list)
         gAppState.gReportMode = entry->reportMode;
     if (entry->asksCaller)
         gAppState.gCallerTag = QStringLiteral("N");
-    ScreenDirectory::Open(
+    OpenScreen(
         entry->screen, Shivaji(entry->text), entry->title.isEmpty() ? Caption() : Shivaji(entry->title));
 }
 
@@ -195,7 +196,14 @@ void MainMenuFrm::LeaveSubList(MenuList& list)
 
 void MainMenuFrm::LeaveSystem()
 {
-    ScreenDirectory::Open(QStringLiteral("frmBackup"), Shivaji(u"ba^k Ap\\ fa[-lsa"));
+    OpenScreen(QStringLiteral("frmBackup"), Shivaji(u"ba^k Ap\\ fa[-lsa"));
     if (Ask(Shivaji(u"saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ")))
         Close();
+}
+
+// What the screen has done to the day's figures is seen when it is left.
+void MainMenuFrm::OpenScreen(const QString& screen, const Caption& name, const Caption& title)
+{
+    ScreenDirectory::Open(screen, name, title);
+    m_day.Show();
 }

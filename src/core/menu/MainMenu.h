@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/menu/DayAtAGlance.h"
 #include "platform/forms/MenuList.h"
 #include "platform/forms/Screen.h"
 
@@ -31,6 +32,8 @@ private:
     const std::array<MenuList*, 5> m_subLists{
         &ListMaster, &ListSVouchers, &ListMReports, &listYearlyReport, &ListUtilities};
 
+    DayAtAGlance m_day;
+
     void LayOut();
     void Load() override;
     void Shown() override;
@@ -46,4 +49,5 @@ private:
     void OpenSubList(MenuList& list, const std::int16_t* accessFlag);
     void LeaveSubList(MenuList& list);
     void LeaveSystem();
+    void OpenScreen(const QString& screen, const Caption& name, const Caption& title = {});
 };

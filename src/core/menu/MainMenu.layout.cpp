@@ -6,39 +6,47 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+namespace {
+
+constexpr int MainWidth = 400;
+constexpr int MainHeight = 246; // of the six entries
+
+}
+
 void MainMenuFrm::LayOut()
 {
     SetTitleLabel(lblTitle);
     SetTitle(Shivaji(u" dUQa saMklana saa^FTvaoAr"));
     ListMain.SetAccessibleName(lblMenu.Shown());
-    auto* head = new QHBoxLayout;
-    for (Label* label : {&lblSystem, &lblVersion})
-        head->addWidget(label->Widget());
-    lblVersion.Widget()->setFont(Look::Font(Look::Size::Small));
-    head->insertStretch(1, 1);
-
-    ListMain.Widget()->setFixedWidth(340);
     lblMenu.Widget()->setFont(Look::Font(Look::Size::Large, true));
+    ListMain.Widget()->setFont(Look::Font(Look::Size::Large));
+    ListMain.Widget()->setFixedSize(MainWidth, MainHeight);
+    m_day.setFixedWidth(MainWidth);
     auto* main = new QVBoxLayout;
+    main->setSpacing(12);
     main->addWidget(lblMenu.Widget());
-    main->addWidget(ListMain.Widget(), 1);
+    main->addWidget(ListMain.Widget());
+    main->addStretch(1);
+    main->addWidget(&m_day);
 
     auto* lists = new QHBoxLayout;
-    lists->setSpacing(20);
+    lists->setSpacing(24);
     lists->addLayout(main);
     for (MenuList* list : m_subLists)
-        lists->addWidget(list->Widget(), 4);
-    lists->addStretch(1);
+        lists->addWidget(list->Widget(), 1);
+    lists->addStretch();
 
     auto* foot = new QHBoxLayout;
-    foot->addWidget(lblTodayDate.Widget());
-    foot->addStretch(1);
-    lblVersionFoot.Widget()->setFont(Look::Font(Look::Size::Small));
-    foot->addWidget(lblVersionFoot.Widget());
+    foot->setSpacing(24);
+    for (Label* label : {&lblVersion, &lblVersionFoot})
+        label->Widget()->setFont(Look::Font(Look::Size::Small));
+    for (Label* label : {&lblTodayDate, &lblSystem, &lblVersion, &lblVersionFoot})
+        foot->addWidget(label->Widget());
+    foot->insertStretch(1, 1);
+    foot->insertStretch(foot->count() - 1, 1);
 
     auto* body = new QVBoxLayout;
     body->setSpacing(10);
-    body->addLayout(head);
     body->addLayout(lists, 1);
     body->addLayout(foot);
     Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,

@@ -13,13 +13,15 @@ namespace {
 constexpr QRgb AcceptColour = qRgb(0x00, 0xFF, 0x00);
 constexpr QRgb RejectColour = qRgb(0xFF, 0x00, 0x00);
 
-// The sign beside the caution.
-QPixmap CautionSign()
+// The sign beside the caution, in dots enough for a large window.
+QLabel* CautionSign()
 {
     constexpr int side = 96;
-    QPixmap picture(side, side);
+    constexpr int dots = 4; // for one of its length
+    QPixmap picture(side * dots, side * dots);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
+    painter.scale(dots, dots);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(Look::Ink), 4));
     painter.setBrush(QColor(0xF2, 0xC0, 0x37));
@@ -28,7 +30,11 @@ QPixmap CautionSign()
     font.setPixelSize(54);
     painter.setFont(font);
     painter.drawText(QRect(0, 16, side, side - 20), Qt::AlignCenter, QStringLiteral("!"));
-    return picture;
+    auto* sign = new QLabel;
+    sign->setPixmap(picture);
+    sign->setScaledContents(true);
+    sign->setFixedSize(side, side);
+    return sign;
 }
 
 }
@@ -90,12 +96,9 @@ frmTip::frmTip() : Screen("frmTip", Shape::Card)
               u"We (Developer) will not take any responsibility for the loss of data."));
     lblTip.Widget()->setWordWrap(true);
 
-    auto* sign = new QLabel;
-    sign->setPixmap(CautionSign());
-    sign->setAlignment(Qt::AlignTop);
     auto* notice = new QHBoxLayout;
     notice->setSpacing(20);
-    notice->addWidget(sign);
+    notice->addWidget(CautionSign(), 0, Qt::AlignTop);
     notice->addWidget(lblTip.Widget(), 1);
     auto* body = new QVBoxLayout;
     body->addLayout(notice, 1);

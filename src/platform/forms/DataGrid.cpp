@@ -3,6 +3,7 @@
 #include "platform/forms/DataGridEditor.h"
 #include "platform/forms/DataGridModel.h"
 #include "platform/forms/Look.h"
+#include "platform/forms/WholeRows.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -11,9 +12,68 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+constexpr int RowHeight = 30;
+constexpr int HeadHeight = 34;
+
+// A column that takes what is left is reckoned with so much when the others are given their share.
+constexpr int LeastOfTheRest = 120;
+
+}
+
+// Its rows grow with the type, and its columns with the window: where none of them takes what is left they
+// fill it together, so that in a wide window the figures of a row don't stand far from one another.
+class DataGrid::Table final : public WholeRows<QTableView> {
+public:
+    Table(const std::vector<Column>& columns, const bool& isSideways)
+        : m_columns(columns)
+        , m_isSideways(isSideways)
+    {
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        if (m_rowHeight == 0)
+            m_rowHeight = verticalHeader()->defaultSectionSize(); // as it was put together
+        verticalHeader()->setDefaultSectionSize(Look::Pixels(m_rowHeight));
+        const double share = Share();
+        for (int at = 0; at < static_cast<int>(m_columns.size()); ++at) {
+            if (m_columns[at].width > 0)
+                setColumnWidth(at, static_cast<int>(m_columns[at].width * share));
+        }
+        WholeRows::resizeEvent(event);
+    }
+
+private:
+    double Share() const
+    {
+        int widths = 0;
+        bool hasLongText = false;
+        for (const Column& column : m_columns) {
+            widths += column.width > 0 ? column.width : LeastOfTheRest;
+            hasLongText |= column.width == 0 && !column.alignRight;
+        }
+        const double fills = static_cast<double>(viewport()->width()) / widths;
+        const double grown = static_cast<double>(window()->width()) / Look::DesktopWidth;
+        return m_isSideways ? Look::Factor()
+                            : std::max(Look::Factor(), hasLongText ? std::min(grown, fills) : fills);
+    }
+
+    const std::vector<Column>& m_columns;
+    const bool& m_isSideways;
+    int m_rowHeight = 0;
+};
+
 DataGrid::DataGrid(Screen* screen, const char* name, std::vector<Column> columns)
-    : Control(screen, name, new QTableView)
-    , m_model(std::make_unique<Model>(std::move(columns)))
+    : DataGrid(screen, name, std::make_unique<Model>(std::move(columns)))
+{
+}
+
+DataGrid::DataGrid(Screen* screen, const char* name, std::unique_ptr<Model> model)
+    : Control(screen, name, new Table(model->Columns(), m_isSideways))
+    , m_model(std::move(model))
 {
     View().setModel(m_model.get());
     LayOut();
@@ -38,14 +98,14 @@ void DataGrid::LayOut()
 {
     QTableView& view = View();
     view.verticalHeader()->setVisible(false);
-    view.verticalHeader()->setDefaultSectionSize(30);
+    view.verticalHeader()->setDefaultSectionSize(RowHeight);
     view.setSelectionBehavior(QAbstractItemView::SelectRows);
     view.setSelectionMode(QAbstractItemView::SingleSelection);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QHeaderView& header = *view.horizontalHeader();
     header.setHighlightSections(false);
-    header.setMinimumHeight(34);
+    header.setMinimumHeight(HeadHeight);
     header.setSectionResizeMode(QHeaderView::Fixed); // no hand can draw a column away from its caption
     const std::vector<Column>& columns = m_model->Columns();
     for (int at = 0; at < static_cast<int>(columns.size()); ++at) {

@@ -109,7 +109,9 @@ protected:
 
 private:
     class Model;
+    class Table;
     class CellEditor;
+    DataGrid(Screen* screen, const char* name, std::unique_ptr<Model> model);
     QTableView& View() const;
     void LayOut();
     void Reach(int row) const;

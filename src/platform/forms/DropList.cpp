@@ -1,6 +1,7 @@
 #include "platform/forms/DropList.h"
 
 #include "platform/forms/Screen.h"
+#include "platform/forms/WholeRows.h"
 
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -39,7 +40,7 @@ private:
 DropList::DropList(Screen& screen, const std::function<void(int)>& picked)
     : m_screen(screen)
     , m_look(std::make_unique<RowLook>(m_marks))
-    , m_list(std::make_unique<QListView>(&screen))
+    , m_list(std::make_unique<WholeRows<QListView>>(&screen))
 {
     m_list->setModel(&m_rows);
     m_list->setItemDelegate(m_look.get());
@@ -97,9 +98,12 @@ void DropList::Place(const QWidget& field)
     const QPoint corner = field.mapTo(&m_screen, QPoint(0, 0));
     const int below = m_screen.height() - corner.y() - field.height();
     const int shown = std::min(m_rows.rowCount(), most);
-    const int wanted = m_list->sizeHintForRow(0) * shown + 2 * m_list->frameWidth();
+    const int row = m_list->sizeHintForRow(0);
+    const int frame = 2 * m_list->frameWidth();
+    const int wanted = row * shown + frame;
     const bool above = below < wanted && below < corner.y();
-    const int height = std::min(wanted, above ? corner.y() : below);
+    const int room = std::min(wanted, above ? corner.y() : below);
+    const int height = std::max(1, (room - frame) / row) * row + frame;
     const int top = above ? corner.y() - height : corner.y() + field.height();
     m_list->setGeometry(corner.x(), top, field.width(), height);
 }

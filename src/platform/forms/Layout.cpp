@@ -101,24 +101,35 @@ public:
 protected:
     void resizeEvent(QResizeEvent*) override { Flow(width(), true); }
 
+    // The type has grown or shrunk, and the pieces with it.
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() != QEvent::FontChange)
+            return;
+        updateGeometry();
+        Flow(width(), true);
+    }
+
 private:
     // Returns the height that the rows take; if they are to, the pieces go to their places.
     int Flow(int width, bool isPlaced) const
     {
-        QPoint at(StripMargin, RowMargin);
+        const int margin = Look::Pixels(StripMargin);
+        const int rowMargin = Look::Pixels(RowMargin);
+        QPoint at(margin, rowMargin);
         int rowHeight = 0;
         for (QWidget* piece : m_pieces) {
             const QSize size = piece->sizeHint();
-            if (at.x() > StripMargin && at.x() + size.width() > width - StripMargin) {
-                at = QPoint(StripMargin, at.y() + rowHeight + RowMargin);
+            if (at.x() > margin && at.x() + size.width() > width - margin) {
+                at = QPoint(margin, at.y() + rowHeight + rowMargin);
                 rowHeight = 0;
             }
             if (isPlaced)
                 piece->setGeometry(QRect(at, size));
-            at.rx() += size.width() + StripSpacing;
+            at.rx() += size.width() + Look::Pixels(StripSpacing);
             rowHeight = std::max(rowHeight, size.height());
         }
-        return std::max(StripHeight, at.y() + rowHeight + RowMargin);
+        return std::max(Look::Pixels(StripHeight), at.y() + rowHeight + rowMargin);
     }
 
     std::vector<QWidget*> m_pieces;

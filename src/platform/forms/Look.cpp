@@ -1,5 +1,7 @@
 #include "platform/forms/Look.h"
 
+#include "platform/forms/Scaling.h"
+
 #include <QApplication>
 #include <QPainter>
 #include <QPalette>
@@ -7,7 +9,11 @@
 #include <QStyleOption>
 #include <QWidget>
 
+#include <cmath>
+
 namespace {
+
+double g_factor = 1;
 
 QString& Family()
 {
@@ -24,12 +30,15 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
     {
         constexpr int mark = 22;
+        constexpr int bar = 18;
         switch (metric) {
         case PM_IndicatorWidth:
         case PM_IndicatorHeight:
         case PM_ExclusiveIndicatorWidth:
         case PM_ExclusiveIndicatorHeight:
-            return mark;
+            return Look::Pixels(mark);
+        case PM_ScrollBarExtent:
+            return Look::Pixels(bar);
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
         }
@@ -102,6 +111,28 @@ QFont Look::Font(Size size, bool bold)
     font.setPixelSize(PixelsOf(size));
     font.setBold(bold);
     return font;
+}
+
+QFont Look::PaintedFont(Size size, bool bold)
+{
+    QFont font = Font(size, bold);
+    font.setPixelSize(Scaling::FontPixels(font.pixelSize(), Factor()));
+    return font;
+}
+
+double Look::Factor()
+{
+    return g_factor;
+}
+
+void Look::SetFactor(double factor)
+{
+    g_factor = factor;
+}
+
+int Look::Pixels(int length)
+{
+    return static_cast<int>(std::floor(length * g_factor));
 }
 
 void Look::SetBackground(QWidget& widget, QColor colour)

@@ -23,9 +23,19 @@ inline constexpr QRgb Ground = qRgb(0xC6, 0xD2, 0xD9); // of the window, where n
 inline constexpr QRgb Shade = qRgba(0x12, 0x1C, 0x22, 0xB0); // over a screen that lies beneath a card
 inline constexpr QRgb GuideInk = qRgb(0x8A, 0x1C, 0x1C); // the guide line
 
-// The least room that a screen gets, and has to do with: that of a desktop of 1024 x 768, less its bars.
+// Screens are put together in the sizes of the smallest desktop; less its bars, so much room has to do. The
+// window gives them theirs.
 inline constexpr int ScreenWidth = 1000;
 inline constexpr int ScreenHeight = 690;
+inline constexpr int DesktopWidth = 1024;
+inline constexpr int DesktopHeight = 768;
+
+// How much larger the window is than that, as type and fields show it. 1 until the window is known.
+double Factor();
+void SetFactor(double factor);
+
+// A length of the base in the window as it is, for what is painted.
+int Pixels(int length);
 
 enum class Size { Small, Normal, Menu, Large, Title };
 
@@ -33,8 +43,9 @@ enum class Size { Small, Normal, Menu, Large, Title };
 // none.
 void Apply(QApplication& application, const QString& family);
 
-// The font of the screens in one of their sizes.
+// The font of the screens in one of their sizes, as they are put together; and as it is painted.
 QFont Font(Size size, bool bold = false);
+QFont PaintedFont(Size size, bool bold = false);
 
 // The background of a field or button.
 void SetBackground(QWidget& widget, QColor colour);

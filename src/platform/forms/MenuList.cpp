@@ -1,11 +1,44 @@
 #include "platform/forms/MenuList.h"
 
 #include "platform/forms/Look.h"
+#include "platform/forms/WholeRows.h"
 
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include <utility>
 
 namespace {
+
+// A little air around each entry, so that the eye keeps to its line.
+class RoomyEntry final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index)
+            + QSize(2 * Look::Pixels(Indent), Look::Pixels(Air));
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem entry = option;
+        initStyleOption(&entry, index);
+        const QString text = std::exchange(entry.text, QString());
+        entry.widget->style()->drawControl(QStyle::CE_ItemViewItem, &entry, painter, entry.widget);
+        const bool isCurrent = entry.state.testFlag(QStyle::State_Selected);
+        painter->setFont(entry.font);
+        painter->setPen(entry.palette.color(isCurrent ? QPalette::HighlightedText : QPalette::Text));
+        painter->drawText(entry.rect.adjusted(Look::Pixels(Indent), 0, 0, 0), Qt::AlignVCenter, text);
+    }
+
+private:
+    static constexpr int Indent = 10;
+    static constexpr int Air = 3;
+};
 
 QListWidget& ListOf(const Control& control)
 {
@@ -14,12 +47,13 @@ QListWidget& ListOf(const Control& control)
 
 }
 
-MenuList::MenuList(Screen* screen, const char* name) : Control(screen, name, new QListWidget)
+MenuList::MenuList(Screen* screen, const char* name) : Control(screen, name, new WholeRows<QListWidget>)
 {
     QListWidget& list = ListOf(*this);
     list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list.setFont(Look::Font(Look::Size::Menu));
     list.setSpacing(1);
+    list.setItemDelegate(new RoomyEntry(&list));
     QObject::connect(
         &list, &QListWidget::itemDoubleClicked, &list, [this] { RunEvent([this] { Choose(); }); });
     MenuList::ShowFocus(false);

@@ -2,6 +2,7 @@
 
 #include "platform/forms/Look.h"
 #include "platform/forms/ModalStack.h"
+#include "platform/forms/Scaling.h"
 #include "platform/forms/Screen.h"
 
 #include <QCloseEvent>
@@ -60,6 +61,7 @@ ProgramWindow::ProgramWindow()
     m_shade.hide();
     const QScreen* screen = QGuiApplication::primaryScreen();
     setGeometry(Place().isValid() || !screen ? Place() : screen->availableGeometry());
+    Look::SetFactor(Scaling::FactorFor(size()));
 }
 
 // A screen is its maker's, and may be opened again in the next window.
@@ -74,6 +76,7 @@ void ProgramWindow::Arrange()
 {
     const std::vector<Screen*>& open = ModalStack::Current().Open();
     for (Screen* screen : open) {
+        screen->FitType();
         screen->setGeometry(screen->IsCard() ? CardPlace(*screen) : rect());
         screen->raise();
     }
@@ -89,7 +92,7 @@ void ProgramWindow::Arrange()
 
 QRect ProgramWindow::CardPlace(const Screen& card) const
 {
-    constexpr int margin = 16;
+    const int margin = Look::Pixels(16);
     const QSize room(width() - 2 * margin, height() - 2 * margin);
     QSize size = card.sizeHint().expandedTo(card.minimumSize()).boundedTo(room);
     if (card.hasHeightForWidth())
@@ -118,6 +121,7 @@ void ProgramWindow::ToggleFullScreen()
 
 void ProgramWindow::resizeEvent(QResizeEvent*)
 {
+    Look::SetFactor(Scaling::FactorFor(size()));
     Arrange();
 }
 

@@ -5,6 +5,7 @@
 #include "platform/forms/Look.h"
 #include "platform/forms/ModalStack.h"
 #include "platform/forms/ProgramWindow.h"
+#include "platform/forms/Scaling.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -171,6 +172,14 @@ Control* Screen::Find(QStringView name) const
     const auto at = std::find_if(m_controls.begin(), m_controls.end(),
         [name](const Control* control) { return control->Name().compare(name, Qt::CaseInsensitive) == 0; });
     return at == m_controls.end() ? nullptr : *at;
+}
+
+void Screen::FitType()
+{
+    if (m_factor == Look::Factor())
+        return;
+    m_factor = Look::Factor();
+    Scaling::Apply(*this, m_factor);
 }
 
 QWidget* Screen::KeyTarget() const

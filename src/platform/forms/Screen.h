@@ -59,6 +59,9 @@ public:
     void SetTitle(const Caption& title);
     const Caption& Title() const { return m_title; }
 
+    // Gives type and fields the size that the window has now.
+    void FitType();
+
     // Where the window system sends keys for this screen.
     QWidget* KeyTarget() const;
 
@@ -171,5 +174,6 @@ private:
     int m_running = 0; // events that are running, one inside the other
     QEventLoop m_loop;
     Shape m_shape;
+    double m_factor = 1; // that type and fields are scaled by
     bool m_open = false;
 };

@@ -25,8 +25,8 @@ public:
     }
 
 protected:
-    QSize tabSizeHint(int) const override { return {TabWidth, TabHeight}; }
-    QSize minimumTabSizeHint(int) const override { return {TabWidth, TabHeight}; }
+    QSize tabSizeHint(int) const override { return {Look::Pixels(TabWidth), Look::Pixels(TabHeight)}; }
+    QSize minimumTabSizeHint(int tab) const override { return tabSizeHint(tab); }
 
     void paintEvent(QPaintEvent*) override
     {
@@ -41,7 +41,7 @@ protected:
                 const QColor inside = palette().color(QPalette::Active, QPalette::Button);
                 painter.fillRect(face.adjusted(LineHeight, LineHeight, -LineHeight, LineHeight), inside);
             }
-            painter.setFont(Look::Font(Look::Size::Normal, seen));
+            painter.setFont(Look::PaintedFont(Look::Size::Normal, seen));
             painter.setPen(QColor(Look::Ink));
             painter.drawText(face, Qt::AlignCenter, tabText(tab));
         }
