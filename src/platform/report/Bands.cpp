@@ -1,7 +1,7 @@
 #include "platform/report/Bands.h"
 
 #include "platform/report/Evaluation.h"
-#include "platform/report/Room.h"
+#include "platform/template/Spacing.h"
 
 #include <algorithm>
 #include <utility>
@@ -158,9 +158,9 @@ void BandMaker::MakeSimple(const TemplateElement& element, Stretch stretch, std:
         rule.kind = PlacedItem::Kind::Line;
         rule.weight = static_cast<float>(element.size);
         rule.x = stretch.x;
-        rule.y = Room::RuleGap + rule.weight / 2;
+        rule.y = Spacing::RuleGap + rule.weight / 2;
         rule.width = stretch.width;
-        band.height = 2 * Room::RuleGap + rule.weight;
+        band.height = 2 * Spacing::RuleGap + rule.weight;
         band.items.push_back(std::move(rule));
     }
     bands.push_back(std::move(band));
@@ -168,8 +168,8 @@ void BandMaker::MakeSimple(const TemplateElement& element, Stretch stretch, std:
 
 void BandMaker::MakePairs(const TemplateElement& element, Stretch stretch, std::deque<Band>& bands)
 {
-    const float labelWidth =
-        element.size > 0 ? ToPoints(element.size) : stretch.width * static_cast<float>(Room::PairLabelShare);
+    const float labelWidth = element.size > 0 ? ToPoints(element.size)
+                                              : stretch.width * static_cast<float>(Spacing::PairLabelShare);
     const Stretch labels{stretch.x, labelWidth - PairGap};
     const Stretch values{stretch.x + labelWidth, stretch.width - labelWidth};
     for (const TemplatePair& pair : element.pairs) {

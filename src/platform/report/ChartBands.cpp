@@ -1,7 +1,7 @@
 #include "platform/report/Bands.h"
 
 #include "platform/report/Evaluation.h"
-#include "platform/report/Room.h"
+#include "platform/template/Spacing.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -94,7 +94,7 @@ public:
         , m_scale(MakeScale(m_figures.least, m_figures.most))
     {
         band.height = static_cast<float>(m_chart.height * PointsPerMillimetre);
-        m_plot = QRectF(stretch.x + Room::ChartAxis, 0, stretch.width - Room::ChartAxis, band.height);
+        m_plot = QRectF(stretch.x + Spacing::ChartAxis, 0, stretch.width - Spacing::ChartAxis, band.height);
     }
 
     void Draw()
@@ -102,7 +102,7 @@ public:
         DrawTitle();
         DrawLegend();
         m_plot.setTop(m_plot.top() + m_lineHeight / 2);
-        m_plot.setBottom(m_plot.bottom() - m_lineHeight - Room::ChartGap);
+        m_plot.setBottom(m_plot.bottom() - m_lineHeight - Spacing::ChartGap);
         DrawScale();
         for (qsizetype i = 0; i < m_figures.labels.size(); ++i)
             DrawLabel(i);
@@ -162,8 +162,8 @@ private:
         for (std::size_t i = 0; i < m_chart.series.size(); ++i) {
             const QPointF corner(m_plot.left() + room * static_cast<double>(i), m_plot.top() + side / 2);
             AddStroke(PlacedItem::Kind::Box, corner, corner + QPointF(side, side), 0, Gray(i));
-            AddText(Fill(m_chart.series[i].label, m_maker.Data), corner.x() + side + Room::ChartGap,
-                m_plot.top(), room - side - 2 * Room::ChartGap, Align::Left);
+            AddText(Fill(m_chart.series[i].label, m_maker.Data), corner.x() + side + Spacing::ChartGap,
+                m_plot.top(), room - side - 2 * Spacing::ChartGap, Align::Left);
         }
         m_plot.setTop(m_plot.top() + m_lineHeight);
     }
@@ -175,7 +175,7 @@ private:
             const double value = m_scale.low + i * m_scale.step;
             const double y = HeightOf(value);
             AddText(ShortestDecimal(value), m_stretch.x, y - m_lineHeight / 2,
-                Room::ChartAxis - Room::ChartGap, Align::Right);
+                Spacing::ChartAxis - Spacing::ChartGap, Align::Right);
             AddStroke(PlacedItem::Kind::Line, {m_plot.left(), y}, {m_plot.right(), y}, ThinLine,
                 i == 0 ? 0 : PaleGray);
         }
@@ -186,13 +186,13 @@ private:
     {
         const double room = RoomOfLabel();
         const qsizetype every =
-            std::max<qsizetype>(1, static_cast<qsizetype>(std::ceil(Room::ChartLabel / room)));
+            std::max<qsizetype>(1, static_cast<qsizetype>(std::ceil(Spacing::ChartLabel / room)));
         if (index % every != 0)
             return;
         const double left = MiddleOf(index) - room * static_cast<double>(every) / 2;
         const double shown = std::min(room * static_cast<double>(every), m_plot.right() - left);
-        if (shown >= std::min(room, Room::ChartLabel))
-            AddText(m_figures.labels[index], left, m_plot.bottom() + Room::ChartGap, shown, Align::Center);
+        if (shown >= std::min(room, Spacing::ChartLabel))
+            AddText(m_figures.labels[index], left, m_plot.bottom() + Spacing::ChartGap, shown, Align::Center);
     }
 
     void DrawBars(std::size_t series)

@@ -1,5 +1,5 @@
-#include "platform/report/Paper.h"
 #include "platform/report/Printer.h"
+#include "platform/template/Paper.h"
 
 #include <cups/cups.h>
 

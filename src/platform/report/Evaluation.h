@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/report/ExactSum.h"
-#include "platform/report/TemplateText.h"
+#include "platform/template/ExactSum.h"
+#include "platform/template/TemplateText.h"
 
 #include <vector>
 

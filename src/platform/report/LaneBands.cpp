@@ -1,5 +1,6 @@
 #include "platform/report/BandSplitter.h"
-#include "platform/report/Room.h"
+#include "platform/template/Spacing.h"
+#include "platform/template/TemplateWidths.h"
 
 #include <algorithm>
 #include <iterator>
@@ -26,10 +27,10 @@ public:
         , m_maker(maker)
     {
         m_stretch = element.weight > 0 ? AddFrame(element.weight, stretch, 0) : stretch;
-        m_inset = element.weight > 0 ? Room::BoxPadding : 0;
+        m_inset = element.weight > 0 ? Spacing::BoxPadding : 0;
         const bool hasFrames = std::any_of(element.lanes.begin(), element.lanes.end(),
             [](const TemplateLane& lane) { return lane.weight > 0; });
-        m_padding = m_inset + (hasFrames ? Room::BoxPadding : 0);
+        m_padding = m_inset + (hasFrames ? Spacing::BoxPadding : 0);
     }
 
     Band Make()
@@ -56,7 +57,7 @@ private:
     Stretch AddFrame(double weight, Stretch around, float inset)
     {
         m_band.frames.push_back({static_cast<float>(weight), around.x, around.width, inset});
-        return {around.x + Room::BoxPadding, std::max(1.0F, around.width - 2 * Room::BoxPadding)};
+        return {around.x + Spacing::BoxPadding, std::max(1.0F, around.width - 2 * Spacing::BoxPadding)};
     }
 
     void MakeLane(const TemplateLane& lane, Stretch stretch)

@@ -1,6 +1,7 @@
 #include "platform/report/ReportControl.h"
 
 #include "platform/database/DataSource.h"
+#include "platform/report/LayoutCheck.h"
 #include "platform/text/RunTimeError.h"
 
 #include <QFileInfo>
@@ -99,7 +100,7 @@ std::shared_ptr<Report> ReportControl::Begin(const std::shared_ptr<Connection>& 
         throw RunTimeError(RunTimeError::FileNotFound,
             QStringLiteral("अहवालाचा नमुना सापडला नाही.\nThe report template isn't there."), m_file);
     TemplateFaults faults;
-    ReportTemplate report = ReportTemplate::ReadChecked(file, *connection, faults);
+    ReportTemplate report = ReadForLayout(file, *connection, faults);
     if (!faults.empty())
         ThrowFaults(m_file, faults);
     Selection selection = ReadSelectionFormula(m_formula, *connection);

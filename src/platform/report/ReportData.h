@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/database/Recordset.h"
-#include "platform/report/ReportTemplate.h"
 #include "platform/report/SelectionFormula.h"
+#include "platform/template/ReportTemplate.h"
 
 #include <QHash>
 

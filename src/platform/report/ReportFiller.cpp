@@ -4,7 +4,7 @@
 #include "platform/report/BandSplitter.h"
 #include "platform/report/Evaluation.h"
 #include "platform/report/PageTotals.h"
-#include "platform/report/Room.h"
+#include "platform/template/Spacing.h"
 #include "platform/text/RunTimeError.h"
 
 #include <algorithm>
@@ -69,7 +69,7 @@ ReportFiller::Sheet ReportFiller::BeginSheet()
     std::vector<Band> header = MakeEdge(m_report.header);
     sheet.footer = MakeEdge(m_report.footer);
     sheet.end = static_cast<float>(paper.height - paper.bottom) - HeightOf(sheet.footer);
-    if (sheet.y + HeightOf(header) + Room::SmallestBody > sheet.end)
+    if (sheet.y + HeightOf(header) + Spacing::SmallestBody > sheet.end)
         throw RunTimeError(RunTimeError::Overflow,
             QStringLiteral("The head and the foot of the page leave no room for the report.\n%1:%2")
                 .arg(m_report.file)

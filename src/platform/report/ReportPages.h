@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report/ReportTemplate.h"
+#include "platform/template/ReportTemplate.h"
 
 #include <QRectF>
 #include <QString>

@@ -1,16 +1,17 @@
 #include "platform/report/TableStrips.h"
 
 #include "platform/report/Evaluation.h"
-#include "platform/report/Room.h"
+#include "platform/template/Spacing.h"
+#include "platform/template/TemplateWidths.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace {
 
-using Room::CellPadding;
-using Room::HeadRule;
-using Room::RowPadding;
+using Spacing::CellPadding;
+using Spacing::HeadRule;
+using Spacing::RowPadding;
 
 constexpr float ThinRule = 0.4F;
 constexpr quint8 PaleGray = 170;

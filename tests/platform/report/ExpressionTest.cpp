@@ -1,8 +1,5 @@
 #include "tests/platform/report/ReportTest.h"
 
-#include "platform/report/ExactSum.h"
-#include "platform/report/Expression.h"
-
 namespace {
 
 class ExpressionTest : public ReportTest {
@@ -142,38 +139,6 @@ TEST_F(ExpressionTest, ATotalOutsideOfATableWalksThroughItsSource)
     EXPECT_EQ(Printed(QStringLiteral("{average(Fat)|0.00}")), QStringLiteral("3.85"));
 }
 
-TEST(ExpressionReading, WhatCantBeReadIsToldAndNotGuessed)
-{
-    const std::pair<const char16_t*, const char16_t*> faults[] = {{u"", u"the expression is empty"},
-        {u"1 +", u"the expression breaks off"}, {u"(1", u"\")\" is missing"},
-        {u"1 2", u"\"2\" isn't expected here"}, {u"'open", u"a text in quotes isn't closed"},
-        {u"hello(1)", u"there is no function \"hello\""}, {u"#paper", u"there is no #paper"},
-        {u"$town", u"there is no $town"}, {u"1 & 2", u"\"&\" has no meaning in an expression"},
-        {u"if(1=1, 2)", u"\",\" is missing"}, {u"x == 1", u"\"==\" isn't known; it is written \"=\""},
-        {u"x != 1", u"\"!=\" isn't known; it is written \"<>\""},
-        {u"x = 1 && y = 2", u"\"&&\" isn't known; it is written \"and\""},
-        {u"x = 1 || y = 2", u"\"||\" isn't known; it is written \"or\""},
-        {u"1 + * 2", u"a value is missing before \"*\""}, {u"(1 + )", u"a value is missing before \")\""},
-        {u"sum(x by y)", u"\"by\" stands in average(x by weight) and in running(x by field)"},
-        {u"format(x, 'dm')", u"\"dm\" is no format of a number or a date"},
-        {u"format(x, y)", u"\"y\" is no format of a number or a date"}, {u"join('a')", u"\",\" is missing"},
-        {u"plain(1)", u"plain() takes a field"}, {u"c.", u"a column's name is missing behind \"c.\""}};
-    for (const auto& [text, expected] : faults) {
-        ExpressionFault fault;
-        EXPECT_FALSE(ReadExpression(QStringView(text), fault).has_value());
-        EXPECT_EQ(fault.text, QString::fromUtf16(expected));
-    }
-}
-
-TEST(ExpressionReading, BracketsWithoutEndAreRefusedAndDontOverflow)
-{
-    ExpressionFault fault;
-    for (const char16_t sign : {u'(', u'-'}) {
-        EXPECT_FALSE(ReadExpression(QString(LongestExpression, sign), fault).has_value());
-        EXPECT_EQ(fault.text, QStringLiteral("the brackets are nested too deeply"));
-    }
-}
-
 TEST_F(ExpressionTest, AnExpressionHasALengthThatItsReckoningCanBear)
 {
     const QString longest = QString(QStringLiteral("0")) + QStringLiteral("+1").repeated(999);
@@ -184,43 +149,4 @@ TEST_F(ExpressionTest, AnExpressionHasALengthThatItsReckoningCanBear)
                             .arg(QStringLiteral("1=1 and ").repeated(1000) + QStringLiteral("1=1"))),
         QStringLiteral("if=\"%1…\": it is longer than 2000 characters")
             .arg(QStringLiteral("1=1 and ").repeated(5)));
-}
-
-TEST(ExactSums, StayExactWhereBinaryNumbersDrift)
-{
-    ExactSum sum;
-    for (int i = 0; i < 100000; ++i)
-        sum.Add(0.1);
-    EXPECT_EQ(sum.Number(), 10000.0);
-}
-
-TEST(ExactSums, AddWhatIsPrintedAndRoundHalvesAwayFromZero)
-{
-    ExactSum sum;
-    sum.Add(1.005, 2);
-    sum.Add(2.675, 2);
-    EXPECT_EQ(sum.Number(), 3.69);
-    ExactSum negative;
-    negative.Add(-1.005, 2);
-    negative.Add(-0.004, 2);
-    EXPECT_EQ(negative.Number(), -1.01);
-}
-
-TEST(ExactSums, AFigureJustBelowAHalfIsAddedAsItIsPrinted)
-{
-    ExactSum sum;
-    for (int i = 0; i < 100; ++i)
-        sum.Add(0.0049999996, 2);
-    EXPECT_TRUE(sum.IsZero());
-    sum.Add(0.0049999996);
-    EXPECT_EQ(sum.Number(), 0.005);
-}
-
-TEST(ExactSums, ATotalBeyondAllRangeIsAnErrorAndNotAWrongNumber)
-{
-    ExactSum sum;
-    sum.Add(9e12);
-    EXPECT_THROW(sum.Add(9e12), RunTimeError);
-    ExactSum other;
-    EXPECT_THROW(other.Add(1e13), RunTimeError);
 }

@@ -1,0 +1,35 @@
+#include "platform/template/Expression.h"
+
+#include <gtest/gtest.h>
+
+TEST(ExpressionReading, WhatCantBeReadIsToldAndNotGuessed)
+{
+    const std::pair<const char16_t*, const char16_t*> faults[] = {{u"", u"the expression is empty"},
+        {u"1 +", u"the expression breaks off"}, {u"(1", u"\")\" is missing"},
+        {u"1 2", u"\"2\" isn't expected here"}, {u"'open", u"a text in quotes isn't closed"},
+        {u"hello(1)", u"there is no function \"hello\""}, {u"#paper", u"there is no #paper"},
+        {u"$town", u"there is no $town"}, {u"1 & 2", u"\"&\" has no meaning in an expression"},
+        {u"if(1=1, 2)", u"\",\" is missing"}, {u"x == 1", u"\"==\" isn't known; it is written \"=\""},
+        {u"x != 1", u"\"!=\" isn't known; it is written \"<>\""},
+        {u"x = 1 && y = 2", u"\"&&\" isn't known; it is written \"and\""},
+        {u"x = 1 || y = 2", u"\"||\" isn't known; it is written \"or\""},
+        {u"1 + * 2", u"a value is missing before \"*\""}, {u"(1 + )", u"a value is missing before \")\""},
+        {u"sum(x by y)", u"\"by\" stands in average(x by weight) and in running(x by field)"},
+        {u"format(x, 'dm')", u"\"dm\" is no format of a number or a date"},
+        {u"format(x, y)", u"\"y\" is no format of a number or a date"}, {u"join('a')", u"\",\" is missing"},
+        {u"plain(1)", u"plain() takes a field"}, {u"c.", u"a column's name is missing behind \"c.\""}};
+    for (const auto& [text, expected] : faults) {
+        ExpressionFault fault;
+        EXPECT_FALSE(ReadExpression(QStringView(text), fault).has_value());
+        EXPECT_EQ(fault.text, QString::fromUtf16(expected));
+    }
+}
+
+TEST(ExpressionReading, BracketsWithoutEndAreRefusedAndDontOverflow)
+{
+    ExpressionFault fault;
+    for (const char16_t sign : {u'(', u'-'}) {
+        EXPECT_FALSE(ReadExpression(QString(LongestExpression, sign), fault).has_value());
+        EXPECT_EQ(fault.text, QStringLiteral("the brackets are nested too deeply"));
+    }
+}
