@@ -50,30 +50,24 @@ private:
 
     void Begin(const TemplateElement& element)
     {
-        if (element.kind == ElementKind::Each)
-            m_child = MakeEach(element, m_maker, m_stretch);
-        else if (m_maker.Holds(element.condition))
-            BeginHolding(element);
-    }
-
-    void BeginHolding(const TemplateElement& element)
-    {
-        switch (element.kind) {
-        case ElementKind::Columns:
-            m_ready.push_back(MakeLanes(element, m_maker, m_stretch));
-            break;
-        case ElementKind::Table:
-            m_child = MakeTable(element, m_maker, m_stretch);
-            break;
-        case ElementKind::Chart:
-            m_ready.push_back(MakeChart(element, m_maker, m_stretch));
-            break;
-        case ElementKind::PageBreak:
-            m_breaks = true;
-            break;
-        default:
-            m_maker.MakeSimple(element, m_stretch, m_ready);
-        }
+        if (!m_maker.Holds(element.condition))
+            return;
+        element.Visit(
+            [&](const TemplateParagraph& paragraph) {
+                if (std::optional<Band> band = m_maker.Make(paragraph, m_stretch))
+                    m_ready.push_back(std::move(*band));
+            },
+            [&](const TemplateRule& rule) { m_ready.push_back(BandMaker::Make(rule, m_stretch)); },
+            [&](const TemplateSpace& space) { m_ready.push_back(BandMaker::Make(space)); },
+            [&](const TemplatePageBreak&) { m_breaks = true; },
+            [&](const TemplatePairs& pairs) {
+                for (Band& band : m_maker.Make(pairs, m_stretch))
+                    m_ready.push_back(std::move(band));
+            },
+            [&](const TemplateLanes& lanes) { m_ready.push_back(MakeLanes(lanes, m_maker, m_stretch)); },
+            [&](const TemplateEach& each) { m_child = MakeEach(each, m_maker, m_stretch); },
+            [&](const TemplateTable& table) { m_child = MakeTable(table, m_maker, m_stretch); },
+            [&](const TemplateChart& chart) { m_ready.push_back(MakeChart(chart, m_maker, m_stretch)); });
     }
 
     const std::vector<TemplateElement>& m_elements;
@@ -141,48 +135,57 @@ void BandMaker::AddWrapped(Band& band, const QString& text, const TextLook& look
     band.height = std::max(band.height, item.y);
 }
 
-void BandMaker::MakeSimple(const TemplateElement& element, Stretch stretch, std::deque<Band>& bands)
+std::optional<Band> BandMaker::Make(const TemplateParagraph& paragraph, Stretch stretch)
 {
-    if (element.kind == ElementKind::Pairs)
-        return MakePairs(element, stretch, bands);
     Band band;
-    band.keepWithNext = element.keep;
-    if (element.kind == ElementKind::Text) {
-        AddWrapped(band, Fill(element.text, Data), element.look, stretch);
-        if (band.items.empty())
-            return;
-    } else if (element.kind == ElementKind::Space) {
-        band.height = ToPoints(element.size);
-    } else {
-        PlacedItem rule;
-        rule.kind = PlacedItem::Kind::Line;
-        rule.weight = static_cast<float>(element.size);
-        rule.x = stretch.x;
-        rule.y = Spacing::RuleGap + rule.weight / 2;
-        rule.width = stretch.width;
-        band.height = 2 * Spacing::RuleGap + rule.weight;
-        band.items.push_back(std::move(rule));
-    }
-    bands.push_back(std::move(band));
+    band.keepWithNext = paragraph.keep;
+    AddWrapped(band, Fill(paragraph.text, Data), paragraph.look, stretch);
+    if (band.items.empty())
+        return std::nullopt;
+    return band;
 }
 
-void BandMaker::MakePairs(const TemplateElement& element, Stretch stretch, std::deque<Band>& bands)
+Band BandMaker::Make(const TemplateRule& rule, Stretch stretch)
 {
-    const float labelWidth = element.size > 0 ? ToPoints(element.size)
-                                              : stretch.width * static_cast<float>(Spacing::PairLabelShare);
+    PlacedItem line;
+    line.kind = PlacedItem::Kind::Line;
+    line.weight = static_cast<float>(rule.weight);
+    line.x = stretch.x;
+    line.y = Spacing::RuleGap + line.weight / 2;
+    line.width = stretch.width;
+    Band band;
+    band.keepWithNext = rule.keep;
+    band.height = 2 * Spacing::RuleGap + line.weight;
+    band.items.push_back(std::move(line));
+    return band;
+}
+
+Band BandMaker::Make(const TemplateSpace& space)
+{
+    Band band;
+    band.height = ToPoints(space.height);
+    return band;
+}
+
+std::vector<Band> BandMaker::Make(const TemplatePairs& pairs, Stretch stretch)
+{
+    const float labelWidth = pairs.labelWidth > 0
+        ? ToPoints(pairs.labelWidth)
+        : stretch.width * static_cast<float>(Spacing::PairLabelShare);
     const Stretch labels{stretch.x, labelWidth - PairGap};
     const Stretch values{stretch.x + labelWidth, stretch.width - labelWidth};
-    for (const TemplatePair& pair : element.pairs) {
+    std::vector<Band> bands;
+    for (const TemplatePair& pair : pairs.pairs) {
         if (!Holds(pair.condition))
             continue;
-        TextLook look = Merge(element.look, pair.look);
-        Band band;
+        TextLook look = Merge(pairs.look, pair.look);
+        Band& band = bands.emplace_back();
         AddWrapped(band, Fill(pair.value, Data), look, values);
         look.align = Align::Left;
         AddWrapped(band, Fill(pair.label, Data), look, labels);
         band.height = std::max(band.height, Measure.LineHeight(Font(look)));
-        bands.push_back(std::move(band));
     }
+    return bands;
 }
 
 std::unique_ptr<BandStream> MakeFlow(

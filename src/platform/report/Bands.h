@@ -65,25 +65,27 @@ public:
     // A text that breaks into lines, at a height of the strip; the strip grows with it.
     void AddWrapped(Band& band, const QString& text, const TextLook& look, Stretch stretch);
 
-    // The strips of a text, a rule, a space or pairs.
-    void MakeSimple(const TemplateElement& element, Stretch stretch, std::deque<Band>& bands);
+    // The strip of a text, of a rule or of a space; nothing for an empty text.
+    std::optional<Band> Make(const TemplateParagraph& paragraph, Stretch stretch);
+    static Band Make(const TemplateRule& rule, Stretch stretch);
+    static Band Make(const TemplateSpace& space);
+
+    // Each pair is a strip.
+    std::vector<Band> Make(const TemplatePairs& pairs, Stretch stretch);
 
     ReportData& Data;
     TextMeasure& Measure;
     FontTable& Fonts;
     RecordPlan Records; // which rows are kept for a spreadsheet
     int RecordCount = 0; // of those that have been made
-
-private:
-    void MakePairs(const TemplateElement& element, Stretch stretch, std::deque<Band>& bands);
 };
 
 // The strips of a chart: one.
-Band MakeChart(const TemplateElement& element, BandMaker& maker, Stretch stretch);
+Band MakeChart(const TemplateChart& chart, BandMaker& maker, Stretch stretch);
 
 // The strip of blocks side by side: each is laid out to its end, and the page decides how much of each it
 // takes.
-Band MakeLanes(const TemplateElement& element, BandMaker& maker, Stretch stretch);
+Band MakeLanes(const TemplateLanes& lanes, BandMaker& maker, Stretch stretch);
 
 // A part of a template that gives its strips one after the other, reading rows as it goes.
 class BandStream {
@@ -99,10 +101,10 @@ std::unique_ptr<BandStream> MakeFlow(
     const std::vector<TemplateElement>& elements, BandMaker& maker, Stretch stretch);
 
 // Some elements once for each row of a source, or for each value that its rows have.
-std::unique_ptr<BandStream> MakeEach(const TemplateElement& element, BandMaker& maker, Stretch stretch);
+std::unique_ptr<BandStream> MakeEach(const TemplateEach& each, BandMaker& maker, Stretch stretch);
 
 // The rows of a table with their heads, groups and totals.
-std::unique_ptr<BandStream> MakeTable(const TemplateElement& element, BandMaker& maker, Stretch stretch);
+std::unique_ptr<BandStream> MakeTable(const TemplateTable& table, BandMaker& maker, Stretch stretch);
 
 // What is taken over from `inner`, and from `outer` where that says nothing.
 TextLook Merge(const TextLook& outer, const TextLook& inner);

@@ -83,10 +83,10 @@ Scale MakeScale(double least, double most)
 // Puts the parts of one chart into its strip.
 class ChartDrawer {
 public:
-    ChartDrawer(const TemplateElement& element, BandMaker& maker, Stretch stretch, Band& band)
-        : m_chart(*element.chart)
+    ChartDrawer(const TemplateChart& chart, BandMaker& maker, Stretch stretch, Band& band)
+        : m_chart(chart)
         , m_maker(maker)
-        , m_look(element.look)
+        , m_look(chart.look)
         , m_stretch(stretch)
         , m_band(band)
         , m_lineHeight(maker.Measure.LineHeight(maker.Font(m_look)))
@@ -254,10 +254,10 @@ private:
 
 }
 
-Band MakeChart(const TemplateElement& element, BandMaker& maker, Stretch stretch)
+Band MakeChart(const TemplateChart& chart, BandMaker& maker, Stretch stretch)
 {
     Band band;
     band.isPicture = true;
-    ChartDrawer(element, maker, stretch, band).Draw();
+    ChartDrawer(chart, maker, stretch, band).Draw();
     return band;
 }

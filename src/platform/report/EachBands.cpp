@@ -9,14 +9,14 @@ namespace {
 // The children once for each row of a source, or for each run of rows that have the same value.
 class EachStream final : public BandStream {
 public:
-    EachStream(const TemplateElement& element, BandMaker& maker, Stretch stretch)
-        : m_element(element)
+    EachStream(const TemplateEach& each, BandMaker& maker, Stretch stretch)
+        : m_each(each)
         , m_maker(maker)
         , m_stretch(stretch)
-        , m_before(maker.Data.Walked(element.source))
-        , m_runAround(maker.Data.Run(element.source))
-        , m_walk(maker.Data, element.source)
-        , m_depth(maker.Records.DepthOf(element))
+        , m_before(maker.Data.Walked(each.source))
+        , m_runAround(maker.Data.Run(each.source))
+        , m_walk(maker.Data, each.source)
+        , m_depth(maker.Records.DepthOf(each))
     {
     }
 
@@ -52,10 +52,10 @@ private:
         Leave();
         if (!ReadRun())
             return false;
-        m_children = MakeFlow(m_element.children, m_maker, m_stretch);
-        m_waitsForRecord = m_maker.Records.each == &m_element;
+        m_children = MakeFlow(m_each.elements, m_maker, m_stretch);
+        m_waitsForRecord = m_maker.Records.each == &m_each;
         m_countBefore = m_maker.RecordCount;
-        if (m_element.keep || m_element.newPage)
+        if (m_each.keep || m_each.newPage)
             Collect();
         return true;
     }
@@ -63,38 +63,38 @@ private:
     // What was current around it is so again.
     void Leave()
     {
-        m_maker.Data.SetCurrent(m_element.source, m_before);
-        m_maker.Data.SetRun(m_element.source, m_runAround);
+        m_maker.Data.SetCurrent(m_each.source, m_before);
+        m_maker.Data.SetRun(m_each.source, m_runAround);
     }
 
     bool ReadRow(Row& row)
     {
         do {
-            m_maker.Data.SetCurrent(m_element.source, m_before);
+            m_maker.Data.SetCurrent(m_each.source, m_before);
             if (!m_walk.Next(row))
                 return false;
-            m_maker.Data.SetCurrent(m_element.source, &row);
-        } while (!m_maker.Holds(m_element.condition));
+            m_maker.Data.SetCurrent(m_each.source, &row);
+        } while (!m_maker.Holds(m_each.only));
         return true;
     }
 
     // Makes the next row the current one, and all that have its value what is walked within it.
     bool ReadRun()
     {
-        if (!m_element.by)
+        if (!m_each.by)
             return ReadRow(m_row);
         if (!m_hasAhead && !ReadRow(m_ahead))
             return false;
         m_run.clear();
-        m_maker.Data.SetCurrent(m_element.source, &m_ahead);
-        const Value value = Evaluate(*m_element.by, m_maker.Data);
+        m_maker.Data.SetCurrent(m_each.source, &m_ahead);
+        const Value value = Evaluate(*m_each.by, m_maker.Data);
         do {
             m_run.push_back(m_ahead);
             m_hasAhead = ReadRow(m_ahead);
-        } while (m_hasAhead && Compare(Evaluate(*m_element.by, m_maker.Data), value) == 0);
+        } while (m_hasAhead && Compare(Evaluate(*m_each.by, m_maker.Data), value) == 0);
         m_row = m_run.front();
-        m_maker.Data.SetCurrent(m_element.source, &m_row);
-        m_maker.Data.SetRun(m_element.source, &m_run);
+        m_maker.Data.SetCurrent(m_each.source, &m_row);
+        m_maker.Data.SetRun(m_each.source, &m_run);
         return true;
     }
 
@@ -126,19 +126,19 @@ private:
     {
         for (Band band; m_children->Next(band); band = Band()) {
             Record(band);
-            band.keepWithNext = band.keepWithNext || m_element.keep;
+            band.keepWithNext = band.keepWithNext || m_each.keep;
             m_kept.push_back(std::move(band));
         }
         if (!m_kept.empty()) {
             m_kept.back().keepWithNext = false;
-            m_kept.front().newPage = m_element.newPage;
-            m_kept.front().restartsPages = m_element.ownPages;
+            m_kept.front().newPage = m_each.newPage;
+            m_kept.front().restartsPages = m_each.ownPages;
         }
         if (Band alone; RecordAlone(alone))
             m_kept.push_back(std::move(alone));
     }
 
-    const TemplateElement& m_element;
+    const TemplateEach& m_each;
     BandMaker& m_maker;
     Stretch m_stretch;
     const Row* m_before; // the row that was current around it
@@ -157,7 +157,7 @@ private:
 
 }
 
-std::unique_ptr<BandStream> MakeEach(const TemplateElement& element, BandMaker& maker, Stretch stretch)
+std::unique_ptr<BandStream> MakeEach(const TemplateEach& each, BandMaker& maker, Stretch stretch)
 {
-    return std::make_unique<EachStream>(element, maker, stretch);
+    return std::make_unique<EachStream>(each, maker, stretch);
 }

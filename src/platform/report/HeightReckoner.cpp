@@ -43,42 +43,35 @@ LeastHeight HeightReckoner::Of(const std::vector<TemplateElement>& elements)
 
 LeastHeight HeightReckoner::OfOne(const TemplateElement& element)
 {
-    switch (element.kind) {
-    case ElementKind::Text:
-        return {element.text.IsEmpty() ? 0 : Line(element.look)};
-    case ElementKind::Rule:
-        return {2 * Spacing::RuleGap + element.size};
-    case ElementKind::Space:
-        return {element.size * PointsPerMillimetre};
-    case ElementKind::Pairs:
-        return OfPairs(element);
-    case ElementKind::Columns:
-        return OfLanes(element);
-    case ElementKind::PageBreak:
-    case ElementKind::Each:
-    case ElementKind::Table:
-    case ElementKind::Chart:
-        break;
-    }
-    return {};
+    return element.Visit(
+        [&](const TemplateParagraph& paragraph) {
+            return LeastHeight{paragraph.text.IsEmpty() ? 0 : Line(paragraph.look)};
+        },
+        [](const TemplateRule& rule) { return LeastHeight{2 * Spacing::RuleGap + rule.weight}; },
+        [](const TemplateSpace& space) { return LeastHeight{space.height * PointsPerMillimetre}; },
+        [&](const TemplatePairs& pairs) { return OfPairs(pairs); },
+        [&](const TemplateLanes& lanes) { return OfLanes(lanes); },
+        [](const TemplatePageBreak&) { return LeastHeight(); },
+        [](const TemplateEach&) { return LeastHeight(); }, [](const TemplateTable&) { return LeastHeight(); },
+        [](const TemplateChart&) { return LeastHeight(); });
 }
 
-LeastHeight HeightReckoner::OfPairs(const TemplateElement& element)
+LeastHeight HeightReckoner::OfPairs(const TemplatePairs& pairs)
 {
     LeastHeight sum;
-    for (const TemplatePair& pair : element.pairs)
-        Add(sum, {Line(pair.look, element.look.size)}, pair.condition.has_value());
+    for (const TemplatePair& pair : pairs.pairs)
+        Add(sum, {Line(pair.look, pairs.look.size)}, pair.condition.has_value());
     return sum;
 }
 
-LeastHeight HeightReckoner::OfLanes(const TemplateElement& element)
+LeastHeight HeightReckoner::OfLanes(const TemplateLanes& lanes)
 {
-    LeastHeight tallest{element.height * PointsPerMillimetre};
+    LeastHeight tallest{lanes.height * PointsPerMillimetre};
     double most = tallest.always;
-    for (const TemplateLane& lane : element.lanes) {
+    for (const TemplateLane& lane : lanes.lanes) {
         LeastHeight one = Of(lane.elements);
         Add(one, Of(lane.bottom), false);
-        const double frames = (element.weight > 0 ? 1.0 : 0.0) + (lane.weight > 0 ? 1.0 : 0.0);
+        const double frames = (lanes.frame > 0 ? 1.0 : 0.0) + (lane.frame > 0 ? 1.0 : 0.0);
         one.always += 2 * Spacing::BoxPadding * frames;
         tallest.always = std::max(tallest.always, one.always);
         most = std::max(most, one.Most());

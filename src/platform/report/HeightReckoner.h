@@ -28,8 +28,8 @@ public:
 
 private:
     LeastHeight OfOne(const TemplateElement& element);
-    LeastHeight OfPairs(const TemplateElement& element);
-    LeastHeight OfLanes(const TemplateElement& element);
+    LeastHeight OfPairs(const TemplatePairs& pairs);
+    LeastHeight OfLanes(const TemplateLanes& lanes);
 
     const ReportTemplate& m_report;
     TextMeasure m_measure;

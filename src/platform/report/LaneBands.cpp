@@ -15,40 +15,38 @@ float ToPoints(double millimetres)
 bool HoldsRows(const TemplateLane& lane)
 {
     return std::any_of(lane.elements.begin(), lane.elements.end(), [](const TemplateElement& element) {
-        return element.kind == ElementKind::Table || element.kind == ElementKind::Each;
+        return element.As<TemplateTable>() || element.As<TemplateEach>();
     });
 }
 
 // Lays out one strip of blocks side by side.
 class LanesMaker {
 public:
-    LanesMaker(const TemplateElement& element, BandMaker& maker, Stretch stretch)
-        : m_element(element)
-        , m_maker(maker)
+    LanesMaker(const TemplateLanes& lanes, BandMaker& maker, Stretch stretch) : m_lanes(lanes), m_maker(maker)
     {
-        m_stretch = element.weight > 0 ? AddFrame(element.weight, stretch, 0) : stretch;
-        m_inset = element.weight > 0 ? Spacing::BoxPadding : 0;
-        const bool hasFrames = std::any_of(element.lanes.begin(), element.lanes.end(),
-            [](const TemplateLane& lane) { return lane.weight > 0; });
+        m_stretch = lanes.frame > 0 ? AddFrame(lanes.frame, stretch, 0) : stretch;
+        m_inset = lanes.frame > 0 ? Spacing::BoxPadding : 0;
+        const bool hasFrames = std::any_of(
+            lanes.lanes.begin(), lanes.lanes.end(), [](const TemplateLane& lane) { return lane.frame > 0; });
         m_padding = m_inset + (hasFrames ? Spacing::BoxPadding : 0);
     }
 
     Band Make()
     {
         std::vector<WidthRule> rules;
-        for (const TemplateLane& lane : m_element.lanes)
+        for (const TemplateLane& lane : m_lanes.lanes)
             rules.push_back(lane.width);
-        const double gap = m_element.size * PointsPerMillimetre;
+        const double gap = m_lanes.gap * PointsPerMillimetre;
         const std::vector<double> widths = DivideWidth(rules, m_stretch.width, gap);
         double x = m_stretch.x;
-        m_band.height = ToPoints(m_element.height);
-        for (std::size_t i = 0; i < m_element.lanes.size(); ++i) {
-            MakeLane(m_element.lanes[i], {static_cast<float>(x), static_cast<float>(widths[i])});
+        m_band.height = ToPoints(m_lanes.height);
+        for (std::size_t i = 0; i < m_lanes.lanes.size(); ++i) {
+            MakeLane(m_lanes.lanes[i], {static_cast<float>(x), static_cast<float>(widths[i])});
             x += widths[i] + gap;
         }
         for (std::size_t i = 0; i < m_band.lanes.size(); ++i)
             AddBottom(m_band.lanes[i], m_bottoms[i]);
-        m_band.holdsRows = m_band.holdsRows && m_band.frames.empty() && m_element.height <= 0;
+        m_band.holdsRows = m_band.holdsRows && m_band.frames.empty() && m_lanes.height <= 0;
         return std::move(m_band);
     }
 
@@ -62,8 +60,8 @@ private:
 
     void MakeLane(const TemplateLane& lane, Stretch stretch)
     {
-        if (lane.weight > 0)
-            stretch = AddFrame(lane.weight, stretch, m_inset);
+        if (lane.frame > 0)
+            stretch = AddFrame(lane.frame, stretch, m_inset);
         std::vector<Band>& bands = m_band.lanes.emplace_back();
         std::vector<Band>& bottom = m_bottoms.emplace_back();
         AddPadding(bands);
@@ -98,7 +96,7 @@ private:
         std::move(bottom.begin(), bottom.end(), std::back_inserter(bands));
     }
 
-    const TemplateElement& m_element;
+    const TemplateLanes& m_lanes;
     BandMaker& m_maker;
     Stretch m_stretch;
     float m_inset = 0; // of the lanes' frames from the edge of the strip
@@ -110,7 +108,7 @@ private:
 
 }
 
-Band MakeLanes(const TemplateElement& element, BandMaker& maker, Stretch stretch)
+Band MakeLanes(const TemplateLanes& lanes, BandMaker& maker, Stretch stretch)
 {
-    return LanesMaker(element, maker, stretch).Make();
+    return LanesMaker(lanes, maker, stretch).Make();
 }

@@ -79,25 +79,20 @@ private:
 
     void CheckElement(const TemplateElement& element, double width)
     {
-        switch (element.kind) {
-        case ElementKind::Columns:
-            return CheckLanes(element, width);
-        case ElementKind::Pairs:
-            return CheckPairs(element);
-        case ElementKind::Space:
-            return CheckHeight(element.line, element.size * PointsPerMillimetre, "the space");
-        case ElementKind::Text:
-            return CheckHeight(element.line, m_heights.Line(element.look), "a line of the text");
-        case ElementKind::Table:
-            return CheckTable(element, width);
-        case ElementKind::Chart:
-            return CheckChart(element, width);
-        case ElementKind::Each:
-            return CheckElements(element.children, width);
-        case ElementKind::Rule:
-        case ElementKind::PageBreak:
-            break;
-        }
+        const int line = element.line;
+        element.Visit(
+            [&](const TemplateParagraph& paragraph) {
+                CheckHeight(line, m_heights.Line(paragraph.look), "a line of the text");
+            },
+            [&](const TemplateSpace& space) {
+                CheckHeight(line, space.height * PointsPerMillimetre, "the space");
+            },
+            [&](const TemplatePairs& pairs) { CheckPairs(pairs); },
+            [&](const TemplateLanes& lanes) { CheckLanes(lanes, line, width); },
+            [&](const TemplateEach& each) { CheckElements(each.elements, width); },
+            [&](const TemplateTable& table) { CheckTable(table, line, width); },
+            [&](const TemplateChart& chart) { CheckChart(chart, line, width); }, [](const TemplateRule&) {},
+            [](const TemplatePageBreak&) {});
     }
 
     void CheckHeight(int line, double height, const char* what)
@@ -106,52 +101,51 @@ private:
             Fault(line, QStringLiteral("%1 is taller than the page").arg(QLatin1String(what)));
     }
 
-    void CheckPairs(const TemplateElement& element)
+    void CheckPairs(const TemplatePairs& pairs)
     {
-        for (const TemplatePair& pair : element.pairs)
-            CheckHeight(pair.line, m_heights.Line(pair.look, element.look.size), "a line of the pair");
+        for (const TemplatePair& pair : pairs.pairs)
+            CheckHeight(pair.line, m_heights.Line(pair.look, pairs.look.size), "a line of the pair");
     }
 
-    void CheckLanes(const TemplateElement& element, double width)
+    void CheckLanes(const TemplateLanes& lanes, int line, double width)
     {
-        CheckHeight(element.line, element.height * PointsPerMillimetre, "the strip of columns");
-        const std::vector<double> widths = LaneWidths(element, width);
+        CheckHeight(line, lanes.height * PointsPerMillimetre, "the strip of columns");
+        const std::vector<double> widths = LaneWidths(lanes, width);
         for (std::size_t i = 0; i < widths.size(); ++i) {
-            const TemplateLane& lane = element.lanes[i];
+            const TemplateLane& lane = lanes.lanes[i];
             if (widths[i] < Spacing::SmallestShare - Tolerance)
                 continue;
-            const double own = InFrame(lane.weight, widths[i]);
+            const double own = InFrame(lane.frame, widths[i]);
             CheckElements(lane.elements, own);
             CheckElements(lane.bottom, own);
         }
     }
 
-    void CheckTable(const TemplateElement& element, double width)
+    void CheckTable(const TemplateTable& table, int line, double width)
     {
-        for (const TemplateColumn& column : element.table->columns)
-            CheckHeight(column.line, m_heights.Line(column.look, element.look.size), "a line of the column");
-        CheckHeads(element, ColumnWidths(*element.table, width));
+        for (const TemplateColumn& column : table.columns)
+            CheckHeight(column.line, m_heights.Line(column.look, table.look.size), "a line of the column");
+        CheckHeads(table, line, ColumnWidths(table, width));
     }
 
     // The heads come again on every page, with a row below them at least, and the totals of the page.
-    void CheckHeads(const TemplateElement& element, const std::vector<double>& widths)
+    void CheckHeads(const TemplateTable& table, int line, const std::vector<double>& widths)
     {
-        const TemplateTable& table = *element.table;
         double spans = 0;
         std::size_t at = 0;
         for (const TemplateSpan& span : table.spans) {
             double width = -2 * Spacing::CellPadding;
             for (int i = 0; i < span.columns && at < widths.size(); ++i)
                 width += widths[at++];
-            spans = std::max(spans, m_heights.Written(span.text, span.look, element.look.size, width));
+            spans = std::max(spans, m_heights.Written(span.text, span.look, table.look.size, width));
         }
         double heads = 0;
         double row = 0;
         for (std::size_t i = 0; i < widths.size(); ++i) {
             const TemplateColumn& column = table.columns[i];
             const double width = std::max(1.0, widths[i] - 2 * Spacing::CellPadding);
-            heads = std::max(heads, m_heights.Written(column.head, column.look, element.look.size, width));
-            row = std::max(row, m_heights.Line(column.look, element.look.size));
+            heads = std::max(heads, m_heights.Written(column.head, column.look, table.look.size, width));
+            row = std::max(row, m_heights.Line(column.look, table.look.size));
         }
         const double edges = 2 * (Spacing::HeadRule + 2 * Spacing::RowPadding);
         if (table.page) {
@@ -161,25 +155,24 @@ private:
             spans += lines * (row + 2 * Spacing::RowPadding);
         }
         if (heads + spans > 0 && row <= m_pageHeight)
-            CheckHeight(element.line, spans + heads + row + edges, "the head of the table with a row");
+            CheckHeight(line, spans + heads + row + edges, "the head of the table with a row");
     }
 
-    void CheckChart(const TemplateElement& element, double width)
+    void CheckChart(const TemplateChart& chart, int line, double width)
     {
-        const TemplateChart& chart = *element.chart;
-        const double line = m_heights.Line(element.look);
+        const double letters = m_heights.Line(chart.look);
         const double series = static_cast<double>(std::max<std::size_t>(1, chart.series.size()));
-        const double wide = Spacing::ChartAxis + series * std::max(Spacing::ChartLabel, line);
+        const double wide = Spacing::ChartAxis + series * std::max(Spacing::ChartLabel, letters);
         if (width < wide - Tolerance)
-            Fault(element.line,
+            Fault(line,
                 QStringLiteral("the chart needs %1 mm, but there are %2 mm").arg(Shown(wide), Shown(width)));
         const double height = chart.height * PointsPerMillimetre;
-        const double high = (LinesOfAChart + (chart.title.IsEmpty() ? 0 : 1)) * line + Spacing::ChartGap;
+        const double high = (LinesOfAChart + (chart.title.IsEmpty() ? 0 : 1)) * letters + Spacing::ChartGap;
         if (height < high - Tolerance)
-            Fault(element.line,
+            Fault(line,
                 QStringLiteral("the chart needs a height of %1 mm, but has %2 mm")
                     .arg(Shown(high), Shown(height)));
-        CheckHeight(element.line, height, "the chart");
+        CheckHeight(line, height, "the chart");
     }
 
     ReportTemplate& m_report;

@@ -6,12 +6,11 @@
 // part that comes once a row; else the first row of its first source.
 struct RecordPlan {
     const TemplateTable* table = nullptr;
-    const TemplateElement* each = nullptr; // only without a table
-    std::vector<const TemplateElement*>
-        around; // the parts that it stands in, and `each`, the outermost first
+    const TemplateEach* each = nullptr; // only without a table
+    std::vector<const TemplateEach*> around; // the parts that it stands in, and `each`, the outermost first
 
     // Where a part stands among these, from 1; 0 if it is none of them.
-    std::size_t DepthOf(const TemplateElement& part) const;
+    std::size_t DepthOf(const TemplateEach& part) const;
 
     static RecordPlan Of(const std::vector<TemplateElement>& body);
 };

@@ -9,7 +9,7 @@ constexpr float GroupGap = 5; // above a group that isn't the first
 
 class TableStream final : public BandStream {
 public:
-    TableStream(const TemplateElement& element, BandMaker& maker, Stretch stretch);
+    TableStream(const TemplateTable& table, BandMaker& maker, Stretch stretch);
     ~TableStream() override { SetCurrent(m_before); }
 
     bool Next(Band& band) override;
@@ -55,12 +55,12 @@ private:
     std::deque<Band> m_ready;
 };
 
-TableStream::TableStream(const TemplateElement& element, BandMaker& maker, Stretch stretch)
-    : m_table(*element.table)
+TableStream::TableStream(const TemplateTable& table, BandMaker& maker, Stretch stretch)
+    : m_table(table)
     , m_maker(maker)
     , m_before(maker.Data.Walked(m_table.source))
     , m_walk(maker.Data, m_table.source)
-    , m_strips(std::make_shared<TableStrips>(element, maker, stretch))
+    , m_strips(std::make_shared<TableStrips>(table, maker, stretch))
     , m_totals(m_table.aggregates, m_table.groups.size())
     , m_groupTotals(m_table.groupAggregates, m_table.groups.size())
 {
@@ -262,7 +262,7 @@ void TableStream::PushFoot(const TemplateText* label, const std::vector<Template
 
 }
 
-std::unique_ptr<BandStream> MakeTable(const TemplateElement& element, BandMaker& maker, Stretch stretch)
+std::unique_ptr<BandStream> MakeTable(const TemplateTable& table, BandMaker& maker, Stretch stretch)
 {
-    return std::make_unique<TableStream>(element, maker, stretch);
+    return std::make_unique<TableStream>(table, maker, stretch);
 }

@@ -57,9 +57,8 @@ void MoveDown(Band& band, float by)
     band.height += by;
 }
 
-TableStrips::TableStrips(const TemplateElement& element, BandMaker& maker, Stretch stretch)
-    : m_element(element)
-    , m_table(*element.table)
+TableStrips::TableStrips(const TemplateTable& table, BandMaker& maker, Stretch stretch)
+    : m_table(table)
     , m_maker(maker)
     , m_stretch(stretch)
 {
@@ -87,7 +86,7 @@ void TableStrips::PlaceColumns()
         const TemplateColumn& column = m_table.columns[i];
         cell.stretch = {static_cast<float>(x) + CellPadding,
             std::max(1.0F, static_cast<float>(*width) - 2 * CellPadding)};
-        cell.look = Merge(m_element.look, column.look);
+        cell.look = Merge(m_table.look, column.look);
         cell.fit = column.wraps                                 ? Fit::Wrap
             : HoldsFigure(column.cell, m_maker.Data.Template()) ? Fit::Shrink
                                                                 : Fit::Cut;
@@ -159,7 +158,7 @@ void TableStrips::AddSpans(Band& head) const
         column += columns;
         if (!place)
             continue;
-        TextLook look = Merge(m_element.look, span.look);
+        TextLook look = Merge(m_table.look, span.look);
         look.isBold = span.look.isBold.value_or(true);
         look.align = span.look.align.value_or(Align::Center);
         m_maker.AddWrapped(head, Fill(span.text, m_maker.Data), look, *place);
@@ -208,7 +207,7 @@ std::optional<Band> TableStrips::Title(const TemplateText& text) const
     const QString filled = Fill(text, m_maker.Data);
     if (filled.isEmpty())
         return std::nullopt;
-    TextLook look = m_element.look;
+    TextLook look = m_table.look;
     look.isBold = true;
     Band title;
     m_maker.AddWrapped(title, filled, look, {m_stretch.x + CellPadding, m_stretch.width - 2 * CellPadding});
@@ -225,7 +224,7 @@ Band TableStrips::Line(const TemplateLine& line) const
         const std::size_t columns = static_cast<std::size_t>(cell.columns);
         const std::optional<Stretch> place = Across(column, columns);
         if (place) {
-            TextLook look = columns == 1 ? m_cells[column].look : m_element.look;
+            TextLook look = columns == 1 ? m_cells[column].look : m_table.look;
             look.isBold = true;
             look = Merge(look, cell.look);
             const bool isFigure = HoldsFigure(cell.text, m_maker.Data.Template());
@@ -251,7 +250,7 @@ std::optional<Band> TableStrips::Lines(const std::vector<TemplateLine>& lines) c
 
 Band TableStrips::TotalsLine(const TemplateText& label, Fit labelFit) const
 {
-    TextLook look = m_element.look;
+    TextLook look = m_table.look;
     look.isBold = true;
     look.align = Align::Left;
     Band band;

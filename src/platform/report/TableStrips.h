@@ -6,7 +6,7 @@
 class TableStrips {
 public:
     // Says once which columns are there. All must outlive it.
-    TableStrips(const TemplateElement& element, BandMaker& maker, Stretch stretch);
+    TableStrips(const TemplateTable& table, BandMaker& maker, Stretch stretch);
 
     // The heads of the columns, or nullptr.
     const std::shared_ptr<const Band>& Head() const { return m_head; }
@@ -50,7 +50,6 @@ private:
     void AddRule(Band& band, float y, float weight, quint8 gray) const;
     Band BetweenRules(Band band) const;
 
-    const TemplateElement& m_element;
     const TemplateTable& m_table;
     BandMaker& m_maker;
     Stretch m_stretch;

@@ -5,8 +5,9 @@
 
 #include <QStringList>
 
-#include <memory>
 #include <optional>
+#include <utility>
+#include <variant>
 #include <vector>
 
 class Connection;
@@ -69,23 +70,6 @@ struct TemplateSource {
     std::vector<int> linkColumns, parentColumns;
 };
 
-struct TemplateElement;
-
-struct TemplatePair {
-    int line = 0;
-    TemplateText label, value;
-    std::optional<Expression> condition;
-    TextLook look;
-};
-
-struct TemplateLane {
-    int line = 0;
-    WidthRule width;
-    std::vector<TemplateElement> elements;
-    std::vector<TemplateElement> bottom; // at its lower edge
-    double weight = 0; // of the frame around it, in points; 0: none
-};
-
 struct TemplateColumn {
     int line = 0;
     std::optional<Expression> condition; // looked at once, before the table begins
@@ -130,6 +114,7 @@ struct TemplatePageTotals {
 };
 
 struct TemplateTable {
+    TextLook look;
     int source = -1;
     QString sourceName;
     std::optional<Expression> only;
@@ -156,6 +141,7 @@ struct TemplateSeries {
 };
 
 struct TemplateChart {
+    TextLook look; // its size only
     int source = -1;
     QString sourceName;
     bool isLine = false; // else bars
@@ -165,30 +151,96 @@ struct TemplateChart {
     std::vector<TemplateSeries> series;
 };
 
-enum class ElementKind : quint8 { Text, Rule, Space, PageBreak, Pairs, Columns, Each, Table, Chart };
+struct TemplateElement;
 
-// One element of a template's flow; which members count goes by its kind.
-struct TemplateElement {
-    ElementKind kind = ElementKind::Text;
+// A paragraph; an empty one takes no room.
+struct TemplateParagraph {
+    TextLook look;
+    TemplateText text;
+    bool keep = false; // stays with what follows
+};
+
+// A line across.
+struct TemplateRule {
+    double weight = 0.5; // points
+    bool keep = false; // stays with what follows
+};
+
+struct TemplateSpace {
+    double height = 4; // millimetres
+};
+
+struct TemplatePageBreak { };
+
+// A label with its value beside it.
+struct TemplatePair {
     int line = 0;
+    TemplateText label, value;
     std::optional<Expression> condition;
     TextLook look;
-    TemplateText text; // Text
-    double size = 0; // Rule: points of its weight; Space: millimetres; Pairs: of the labels; Columns: the gap
-    bool keep = false; // Text, Rule: stays with what follows; Each: stays on one page
-    bool newPage = false; // Each: every row begins a page
-    bool ownPages = false; // Each: and is numbered by itself
-    std::optional<Expression> by; // Each: once for all rows that follow each other with this value
-    QString byName; // its text
-    double weight = 0; // Columns: of the frame around them, in points; 0: none
-    double height = 0; // Columns: at least, in millimetres
+};
+
+struct TemplatePairs {
+    TextLook look;
+    double labelWidth = 0; // millimetres; 0: a fixed share of the width
     std::vector<TemplatePair> pairs;
+};
+
+// One of some blocks side by side.
+struct TemplateLane {
+    int line = 0;
+    WidthRule width;
+    double frame = 0; // points of the ruled frame around it; 0: none
+    std::vector<TemplateElement> elements;
+    std::vector<TemplateElement> bottom; // at its lower edge
+};
+
+// Blocks side by side.
+struct TemplateLanes {
+    double gap = 3; // millimetres between two of them
+    double frame = 0; // points of the ruled frame around all of them; 0: none
+    double height = 0; // millimetres at least
     std::vector<TemplateLane> lanes;
-    int source = -1; // Each
+};
+
+// Elements that come once for each row of a source, or once for each value of `by`.
+struct TemplateEach {
+    int source = -1;
     QString sourceName;
-    std::vector<TemplateElement> children; // Each
-    std::unique_ptr<TemplateTable> table;
-    std::unique_ptr<TemplateChart> chart;
+    std::optional<Expression> only;
+    std::optional<Expression> by; // rows that follow each other with the same value come together
+    QString byName; // its text
+    bool keep = false; // each stays on one page
+    bool newPage = false; // each begins a page
+    bool ownPages = false; // and has its own page numbers
+    std::vector<TemplateElement> elements;
+};
+
+// One element of a template, as they stand below each other.
+struct TemplateElement {
+    int line = 0;
+    std::optional<Expression> condition;
+    std::variant<TemplateParagraph, TemplateRule, TemplateSpace, TemplatePageBreak, TemplatePairs,
+        TemplateLanes, TemplateEach, TemplateTable, TemplateChart>
+        what;
+
+    // Calls the case for what this element is. All of them have to be there.
+    template <typename... Cases> decltype(auto) Visit(Cases&&... cases) const
+    {
+        return std::visit(OneOf<Cases...>{std::forward<Cases>(cases)...}, what);
+    }
+    template <typename... Cases> decltype(auto) Visit(Cases&&... cases)
+    {
+        return std::visit(OneOf<Cases...>{std::forward<Cases>(cases)...}, what);
+    }
+
+    // The element as one of that kind; nullptr if it is another.
+    template <typename Kind> const Kind* As() const { return std::get_if<Kind>(&what); }
+
+private:
+    template <typename... Cases> struct OneOf : Cases... {
+        using Cases::operator()...;
+    };
 };
 
 // A whole template: the sheet, what it reads, and what it prints from top to bottom.

@@ -28,7 +28,9 @@ private:
     void CheckLink(int index);
     void CheckElements(std::vector<TemplateElement>& elements, const Place& place);
     void CheckElement(TemplateElement& element, Place place);
-    void CheckEach(TemplateElement& element, const Place& place);
+    void CheckPairs(TemplatePairs& pairs, Place place);
+    void CheckLanes(TemplateLanes& lanes, const Place& place);
+    void CheckEach(TemplateEach& each, const Place& place);
     void CheckTable(TemplateTable& table, const Place& place);
     void CheckColumn(TemplateTable& table, TemplateColumn& column, Place place);
     void BindOwnSum(const TemplateTable& table, TemplateColumn& column);
@@ -131,26 +133,32 @@ void Checker::CheckElements(std::vector<TemplateElement>& elements, const Place&
 void Checker::CheckElement(TemplateElement& element, Place place)
 {
     place.line = element.line;
-    if (element.kind != ElementKind::Each)
-        m_binder.BindCondition(element.condition, place);
-    m_binder.BindText(element.text, place);
-    for (TemplatePair& pair : element.pairs) {
+    m_binder.BindCondition(element.condition, place);
+    element.Visit([&](TemplateParagraph& paragraph) { m_binder.BindText(paragraph.text, place); },
+        [&](TemplatePairs& pairs) { CheckPairs(pairs, place); },
+        [&](TemplateLanes& lanes) { CheckLanes(lanes, place); },
+        [&](TemplateEach& each) { CheckEach(each, place); },
+        [&](TemplateTable& table) { CheckTable(table, place); },
+        [&](TemplateChart& chart) { CheckChart(chart, place); }, [](const TemplateRule&) {},
+        [](const TemplateSpace&) {}, [](const TemplatePageBreak&) {});
+}
+
+void Checker::CheckPairs(TemplatePairs& pairs, Place place)
+{
+    for (TemplatePair& pair : pairs.pairs) {
         place.line = pair.line;
         m_binder.BindCondition(pair.condition, place);
         m_binder.BindText(pair.label, place);
         m_binder.BindText(pair.value, place);
     }
-    for (TemplateLane& lane : element.lanes) {
+}
+
+void Checker::CheckLanes(TemplateLanes& lanes, const Place& place)
+{
+    for (TemplateLane& lane : lanes.lanes) {
         CheckElements(lane.elements, place);
         CheckElements(lane.bottom, place);
     }
-    place.line = element.line;
-    if (element.kind == ElementKind::Each)
-        CheckEach(element, place);
-    if (element.table)
-        CheckTable(*element.table, place);
-    if (element.chart)
-        CheckChart(*element.chart, place);
 }
 
 int Checker::Enter(const QString& sourceName, int line)
@@ -167,24 +175,24 @@ int Checker::Enter(const QString& sourceName, int line)
     return index;
 }
 
-void Checker::CheckEach(TemplateElement& element, const Place& place)
+void Checker::CheckEach(TemplateEach& each, const Place& place)
 {
-    element.source = Enter(element.sourceName, element.line);
-    if (element.source < 0)
+    each.source = Enter(each.sourceName, place.line);
+    if (each.source < 0)
         return;
-    m_binder.BindCondition(element.condition, place);
-    if (element.by && m_binder.Bind(*element.by, place) == ValueType::Truth)
-        m_binder.Fault(element.line, QStringLiteral("rows aren't grouped by a condition; use if(…)"));
-    const bool wasRun = m_runs.count(element.source) > 0;
-    if (element.by)
-        m_runs.insert(element.source);
+    m_binder.BindCondition(each.only, place);
+    if (each.by && m_binder.Bind(*each.by, place) == ValueType::Truth)
+        m_binder.Fault(place.line, QStringLiteral("rows aren't grouped by a condition; use if(…)"));
+    const bool wasRun = m_runs.count(each.source) > 0;
+    if (each.by)
+        m_runs.insert(each.source);
     else
-        m_runs.erase(element.source);
-    CheckElements(element.children, place);
+        m_runs.erase(each.source);
+    CheckElements(each.elements, place);
     if (wasRun)
-        m_runs.insert(element.source);
+        m_runs.insert(each.source);
     else
-        m_runs.erase(element.source);
+        m_runs.erase(each.source);
     Leave();
 }
 

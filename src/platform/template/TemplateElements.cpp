@@ -10,13 +10,11 @@ constexpr int DeepestElement = 40;
 
 }
 
-TemplateElement TemplateReader::BeginElement(
-    ElementKind kind, ElementAttributes& attributes, QStringView condition)
+TemplateElement TemplateReader::BeginElement(ElementAttributes& attributes)
 {
     TemplateElement element;
-    element.kind = kind;
     element.line = attributes.Line();
-    element.condition = attributes.Condition(condition);
+    element.condition = attributes.Condition(u"if");
     return element;
 }
 
@@ -62,13 +60,13 @@ std::vector<TemplateElement> TemplateReader::ReadBottom(Place place)
 
 std::optional<TemplateElement> TemplateReader::ReadElement(Place place)
 {
-    constexpr std::pair<QStringView, ElementKind> Simple[] = {
-        {u"text", ElementKind::Text}, {u"rule", ElementKind::Rule}, {u"space", ElementKind::Space}};
     const QStringView name = m_xml.name();
-    for (const auto& [word, kind] : Simple) {
-        if (name == word)
-            return ReadSimple(kind);
-    }
+    if (name == u"text")
+        return ReadParagraph();
+    if (name == u"rule")
+        return ReadRule();
+    if (name == u"space")
+        return ReadSpace();
     if (name == u"pairs")
         return ReadPairs();
     if (name == u"columns")
@@ -90,7 +88,7 @@ std::optional<TemplateElement> TemplateReader::ReadLongElement(Place place)
         return std::nullopt;
     }
     if (isPageBreak)
-        return ReadSimple(ElementKind::PageBreak);
+        return ReadPageBreak();
     if (name == u"each")
         return ReadEach(place);
     return name == u"table" ? ReadTable(place) : ReadChart();
@@ -118,33 +116,61 @@ void TemplateReader::RefuseNewPage(int line, bool newPage, Place place)
         Fault(line, QStringLiteral("no page can begin in a <column>"));
 }
 
-TemplateElement TemplateReader::ReadSimple(ElementKind kind)
+TemplateElement TemplateReader::ReadParagraph()
 {
     ElementAttributes attributes(m_xml, *this);
-    TemplateElement element = BeginElement(kind, attributes);
-    if (kind == ElementKind::Text) {
-        element.look = attributes.Look();
-        element.keep = attributes.Flag(u"keep");
-    } else if (kind == ElementKind::Rule) {
-        element.size = attributes.Number(u"weight", 0.1, HeaviestRule, 0.5);
-        element.keep = attributes.Flag(u"keep");
-    } else if (kind == ElementKind::Space) {
-        element.size = attributes.Number(u"h", 0, LargestLength, 4);
-    }
+    TemplateElement element = BeginElement(attributes);
+    TemplateParagraph paragraph;
+    paragraph.look = attributes.Look();
+    paragraph.keep = attributes.Flag(u"keep");
     attributes.Finish();
-    if (kind == ElementKind::Text)
-        element.text = ReadContent(element.line);
-    else
-        EndEmpty();
+    paragraph.text = ReadContent(element.line);
+    element.what = std::move(paragraph);
+    return element;
+}
+
+TemplateElement TemplateReader::ReadRule()
+{
+    ElementAttributes attributes(m_xml, *this);
+    TemplateElement element = BeginElement(attributes);
+    TemplateRule rule;
+    rule.weight = attributes.Number(u"weight", 0.1, HeaviestRule, rule.weight);
+    rule.keep = attributes.Flag(u"keep");
+    attributes.Finish();
+    EndEmpty();
+    element.what = rule;
+    return element;
+}
+
+TemplateElement TemplateReader::ReadSpace()
+{
+    ElementAttributes attributes(m_xml, *this);
+    TemplateElement element = BeginElement(attributes);
+    TemplateSpace space;
+    space.height = attributes.Number(u"h", 0, LargestLength, space.height);
+    attributes.Finish();
+    EndEmpty();
+    element.what = space;
+    return element;
+}
+
+TemplateElement TemplateReader::ReadPageBreak()
+{
+    ElementAttributes attributes(m_xml, *this);
+    TemplateElement element = BeginElement(attributes);
+    attributes.Finish();
+    EndEmpty();
+    element.what = TemplatePageBreak();
     return element;
 }
 
 TemplateElement TemplateReader::ReadPairs()
 {
     ElementAttributes attributes(m_xml, *this);
-    TemplateElement element = BeginElement(ElementKind::Pairs, attributes);
-    element.size = attributes.Number(u"labelw", 1, LargestLength, 0);
-    element.look = attributes.Look();
+    TemplateElement element = BeginElement(attributes);
+    TemplatePairs pairs;
+    pairs.labelWidth = attributes.Number(u"labelw", 1, LargestLength, 0);
+    pairs.look = attributes.Look();
     attributes.Finish();
     while (NextChild(u"pair")) {
         ElementAttributes own(m_xml, *this);
@@ -155,18 +181,20 @@ TemplateElement TemplateReader::ReadPairs()
         pair.look = own.Look();
         own.Finish();
         pair.value = ReadContent(pair.line);
-        element.pairs.push_back(std::move(pair));
+        pairs.pairs.push_back(std::move(pair));
     }
+    element.what = std::move(pairs);
     return element;
 }
 
 TemplateElement TemplateReader::ReadLanes(Place place)
 {
     ElementAttributes attributes(m_xml, *this);
-    TemplateElement element = BeginElement(ElementKind::Columns, attributes);
-    element.size = attributes.Number(u"gap", 0, LargestLength, 3);
-    element.weight = attributes.Number(u"box", 0.1, HeaviestRule, 0);
-    element.height = attributes.Number(u"h", 1, LargestLength, 0);
+    TemplateElement element = BeginElement(attributes);
+    TemplateLanes lanes;
+    lanes.gap = attributes.Number(u"gap", 0, LargestLength, lanes.gap);
+    lanes.frame = attributes.Number(u"box", 0.1, HeaviestRule, 0);
+    lanes.height = attributes.Number(u"h", 1, LargestLength, 0);
     attributes.Finish();
     const Place inside = place == Place::Flow ? Place::Lane : place == Place::Lane ? Place::InnerLane : place;
     while (NextChild(u"column")) {
@@ -174,41 +202,45 @@ TemplateElement TemplateReader::ReadLanes(Place place)
         TemplateLane lane;
         lane.line = own.Line();
         lane.width = own.Width();
-        lane.weight = own.Number(u"box", 0.1, HeaviestRule, 0);
+        lane.frame = own.Number(u"box", 0.1, HeaviestRule, 0);
         own.Finish();
         lane.elements = ReadElements(inside, &lane.bottom);
-        element.lanes.push_back(std::move(lane));
+        lanes.lanes.push_back(std::move(lane));
     }
-    if (element.lanes.empty())
+    if (lanes.lanes.empty())
         Fault(element.line, QStringLiteral("<columns> has no <column>"));
+    element.what = std::move(lanes);
     return element;
 }
 
 TemplateElement TemplateReader::ReadEach(Place place)
 {
     ElementAttributes attributes(m_xml, *this);
-    TemplateElement element = BeginElement(ElementKind::Each, attributes, u"only");
-    element.sourceName = attributes.Required(u"source");
-    element.keep = attributes.Flag(u"keep");
-    element.newPage = attributes.Flag(u"newpage");
-    element.ownPages = attributes.Flag(u"ownpages");
-    if (element.ownPages && !element.newPage)
+    TemplateElement element;
+    element.line = attributes.Line();
+    TemplateEach each;
+    each.only = attributes.Condition(u"only");
+    each.sourceName = attributes.Required(u"source");
+    each.keep = attributes.Flag(u"keep");
+    each.newPage = attributes.Flag(u"newpage");
+    each.ownPages = attributes.Flag(u"ownpages");
+    if (each.ownPages && !each.newPage)
         attributes.Fault(QStringLiteral("ownpages=\"1\" needs newpage=\"1\""));
-    element.by = attributes.Condition(u"by");
-    element.byName = attributes.Text(u"by");
-    RefuseNewPage(element.line, element.newPage, place);
+    each.by = attributes.Condition(u"by");
+    each.byName = attributes.Text(u"by");
+    RefuseNewPage(element.line, each.newPage, place);
     attributes.Finish();
-    element.children = ReadElements(place);
+    each.elements = ReadElements(place);
+    element.what = std::move(each);
     return element;
 }
 
 TemplateElement TemplateReader::ReadChart()
 {
     ElementAttributes attributes(m_xml, *this);
-    TemplateElement element = BeginElement(ElementKind::Chart, attributes);
-    element.look.size = attributes.LetterSize();
-    element.chart = std::make_unique<TemplateChart>();
-    TemplateChart& chart = *element.chart;
+    TemplateElement element = BeginElement(attributes);
+    TemplateChart chart;
+    chart.look.size = attributes.LetterSize();
     chart.sourceName = attributes.Required(u"source");
     const QString kind = attributes.Required(u"kind");
     chart.isLine = kind == u"line";
@@ -236,5 +268,6 @@ TemplateElement TemplateReader::ReadChart()
     }
     if (chart.series.empty())
         Fault(element.line, QStringLiteral("<chart> has no <series>"));
+    element.what = std::move(chart);
     return element;
 }

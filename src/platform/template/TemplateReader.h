@@ -90,10 +90,12 @@ private:
     std::optional<TemplateElement> ReadLongElement(Place place);
     bool MayStand(Place place);
 
-    // An element with what all of them have; `only` is said of rows, `if` of the element itself.
-    static TemplateElement BeginElement(
-        ElementKind kind, ElementAttributes& attributes, QStringView condition = u"if");
-    TemplateElement ReadSimple(ElementKind kind);
+    // An element with what all of them have.
+    static TemplateElement BeginElement(ElementAttributes& attributes);
+    TemplateElement ReadParagraph();
+    TemplateElement ReadRule();
+    TemplateElement ReadSpace();
+    TemplateElement ReadPageBreak();
     TemplateElement ReadPairs();
     TemplateElement ReadLanes(Place place);
     TemplateElement ReadEach(Place place);

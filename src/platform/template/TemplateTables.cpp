@@ -11,10 +11,9 @@ constexpr double MostRows = 100;
 TemplateElement TemplateReader::ReadTable(Place place)
 {
     ElementAttributes attributes(m_xml, *this);
-    TemplateElement element = BeginElement(ElementKind::Table, attributes);
-    element.look = attributes.Look();
-    element.table = std::make_unique<TemplateTable>();
-    TemplateTable& table = *element.table;
+    TemplateElement element = BeginElement(attributes);
+    TemplateTable table;
+    table.look = attributes.Look();
     table.sourceName = attributes.Required(u"source");
     table.only = attributes.Condition(u"only");
     table.hasLines = attributes.Flag(u"lines");
@@ -44,6 +43,7 @@ TemplateElement TemplateReader::ReadTable(Place place)
         Fault(element.line, QStringLiteral("every column has an \"if\", so there may be none"));
     if (table.isOfGroups && table.groups.empty())
         Fault(element.line, QStringLiteral("rows=\"groups\" needs a <group>"));
+    element.what = std::move(table);
     return element;
 }
 

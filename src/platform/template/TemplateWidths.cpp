@@ -22,12 +22,12 @@ std::vector<double> DivideWidth(const std::vector<WidthRule>& rules, double widt
     return widths;
 }
 
-std::vector<double> LaneWidths(const TemplateElement& lanes, double width)
+std::vector<double> LaneWidths(const TemplateLanes& lanes, double width)
 {
     std::vector<WidthRule> rules;
     for (const TemplateLane& lane : lanes.lanes)
         rules.push_back(lane.width);
-    return DivideWidth(rules, InFrame(lanes.weight, width), lanes.size * PointsPerMillimetre);
+    return DivideWidth(rules, InFrame(lanes.frame, width), lanes.gap * PointsPerMillimetre);
 }
 
 std::vector<double> ColumnWidths(const TemplateTable& table, double width)
@@ -38,7 +38,7 @@ std::vector<double> ColumnWidths(const TemplateTable& table, double width)
     return DivideWidth(rules, width, 0);
 }
 
-double InFrame(double weight, double width)
+double InFrame(double frame, double width)
 {
-    return weight > 0 ? width - 2 * Spacing::BoxPadding : width;
+    return frame > 0 ? width - 2 * Spacing::BoxPadding : width;
 }

@@ -8,8 +8,8 @@
 std::vector<double> DivideWidth(const std::vector<WidthRule>& rules, double width, double gap);
 
 // The widths of blocks side by side, and of the columns of a table if all of them are there.
-std::vector<double> LaneWidths(const TemplateElement& lanes, double width);
+std::vector<double> LaneWidths(const TemplateLanes& lanes, double width);
 std::vector<double> ColumnWidths(const TemplateTable& table, double width);
 
-// What a frame of a weight leaves of a width; all of it where there is none.
-double InFrame(double weight, double width);
+// What a frame leaves of a width; all of it where there is none.
+double InFrame(double frame, double width);

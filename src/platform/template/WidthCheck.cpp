@@ -51,23 +51,16 @@ private:
 
     void CheckElement(const TemplateElement& element, double width)
     {
-        switch (element.kind) {
-        case ElementKind::Columns:
-            return CheckLanes(element, width);
-        case ElementKind::Pairs:
-            return CheckPairs(element, width);
-        case ElementKind::Text:
-            return CheckLetters(element.line, element.text, m_report.LetterSize(element.look), width);
-        case ElementKind::Table:
-            return CheckTable(element, width);
-        case ElementKind::Each:
-            return CheckElements(element.children, width);
-        case ElementKind::Space:
-        case ElementKind::Chart: // needs as much as its letters take up
-        case ElementKind::Rule:
-        case ElementKind::PageBreak:
-            break;
-        }
+        element.Visit(
+            [&](const TemplateParagraph& paragraph) {
+                CheckLetters(element.line, paragraph.text, m_report.LetterSize(paragraph.look), width);
+            },
+            [&](const TemplatePairs& pairs) { CheckPairs(pairs, element.line, width); },
+            [&](const TemplateLanes& lanes) { CheckLanes(lanes, element.line, width); },
+            [&](const TemplateEach& each) { CheckElements(each.elements, width); },
+            [&](const TemplateTable& table) { CheckTable(table, element.line, width); },
+            [](const TemplateChart&) {}, // needs room for its letters, and those are measured
+            [](const TemplateRule&) {}, [](const TemplateSpace&) {}, [](const TemplatePageBreak&) {});
     }
 
     // At least one letter stands on a line.
@@ -80,91 +73,89 @@ private:
                     .arg(Shown(width)));
     }
 
-    void CheckPairs(const TemplateElement& element, double width)
+    void CheckPairs(const TemplatePairs& pairs, int line, double width)
     {
         const double labels =
-            element.size > 0 ? element.size * PointsPerMillimetre : width * Spacing::PairLabelShare;
+            pairs.labelWidth > 0 ? pairs.labelWidth * PointsPerMillimetre : width * Spacing::PairLabelShare;
         double needed = SmallestValue;
         bool hasLabel = false;
-        for (const TemplatePair& pair : element.pairs) {
+        for (const TemplatePair& pair : pairs.pairs) {
             hasLabel = hasLabel || !pair.label.IsEmpty();
-            const double size = m_report.LetterSize(pair.look, element.look.size);
+            const double size = m_report.LetterSize(pair.look, pairs.look.size);
             CheckLetters(pair.line, pair.label, size, std::max(labels, SmallestShare));
             CheckLetters(pair.line, pair.value, size, std::max(width - labels, SmallestValue));
             if (HoldsFigure(pair.value))
                 needed = std::max(needed, LettersOfAFigure * size);
         }
         if (width - labels < needed - Tolerance)
-            m_fault(element.line,
+            m_fault(line,
                 QStringLiteral("the labels leave %1 mm for their values, which need %2 mm")
                     .arg(Shown(width - labels), Shown(needed)));
         if (hasLabel && labels < SmallestShare - Tolerance)
-            m_fault(element.line,
+            m_fault(line,
                 QStringLiteral("the labels have %1 mm, but need %2 mm")
                     .arg(Shown(labels), Shown(SmallestShare)));
     }
 
-    void CheckLanes(const TemplateElement& element, double width)
+    void CheckLanes(const TemplateLanes& lanes, int line, double width)
     {
         std::vector<WidthRule> rules;
-        for (const TemplateLane& lane : element.lanes) {
+        for (const TemplateLane& lane : lanes.lanes) {
             rules.push_back(lane.width);
             if (!lane.elements.empty())
                 CheckShare(lane.width, lane.line);
         }
-        CheckRules(rules, element.line, InFrame(element.weight, width), element.size * PointsPerMillimetre);
-        const std::vector<double> widths = LaneWidths(element, width);
-        for (std::size_t i = 0; i < element.lanes.size(); ++i) {
-            const TemplateLane& lane = element.lanes[i];
+        CheckRules(rules, line, InFrame(lanes.frame, width), lanes.gap * PointsPerMillimetre);
+        const std::vector<double> widths = LaneWidths(lanes, width);
+        for (std::size_t i = 0; i < lanes.lanes.size(); ++i) {
+            const TemplateLane& lane = lanes.lanes[i];
             if (widths[i] < SmallestShare - Tolerance)
                 continue;
-            const double own = InFrame(lane.weight, widths[i]);
+            const double own = InFrame(lane.frame, widths[i]);
             CheckElements(lane.elements, own);
             CheckElements(lane.bottom, own);
         }
     }
 
-    void CheckTable(const TemplateElement& element, double width)
+    void CheckTable(const TemplateTable& table, int line, double width)
     {
-        const TemplateTable& table = *element.table;
         std::vector<WidthRule> rules;
         for (const TemplateColumn& column : table.columns) {
             rules.push_back(column.width);
             if (!column.cell.IsEmpty() || !column.head.IsEmpty() || column.total)
                 CheckShare(column.width, column.line);
         }
-        CheckRules(rules, element.line, width, 0);
-        CheckCells(element, ColumnWidths(table, width));
+        CheckRules(rules, line, width, 0);
+        CheckCells(table, ColumnWidths(table, width));
         std::size_t spanned = 0;
         for (const TemplateSpan& span : table.spans)
             spanned += static_cast<std::size_t>(span.columns);
         if (spanned > table.columns.size())
-            m_fault(element.line,
+            m_fault(line,
                 QStringLiteral("the heads span %1 columns, but there are %2")
                     .arg(spanned)
                     .arg(table.columns.size()));
     }
 
     // Columns that are too narrow for anything have been told already.
-    void CheckCells(const TemplateElement& element, const std::vector<double>& widths)
+    void CheckCells(const TemplateTable& table, const std::vector<double>& widths)
     {
-        const TemplateTable& table = *element.table;
         for (std::size_t i = 0; i < widths.size(); ++i) {
             const TemplateColumn& column = table.columns[i];
-            const double size = m_report.LetterSize(column.look, element.look.size);
+            const double size = m_report.LetterSize(column.look, table.look.size);
             const double width = std::max(widths[i], SmallestShare);
             CheckLetters(column.line, column.cell.IsEmpty() ? column.head : column.cell, size, width);
         }
-        CheckTotalLabel(element, widths);
+        CheckTotalLabel(table, widths);
         for (const TemplateGroup& group : table.groups) {
-            CheckLines(element, group.headLines, widths);
-            CheckLines(element, group.footLines, widths);
+            CheckLines(table, group.headLines, widths);
+            CheckLines(table, group.footLines, widths);
         }
-        CheckLines(element, table.totalLines, widths);
+        CheckLines(table, table.totalLines, widths);
     }
 
-    void CheckLines(const TemplateElement& element, const std::vector<TemplateLine>& lines,
-        const std::vector<double>& widths)
+    void CheckLines(
+        const TemplateTable& table, const std::vector<TemplateLine>& lines, const std::vector<double>& widths)
     {
         for (const TemplateLine& line : lines) {
             std::size_t at = 0;
@@ -172,15 +163,14 @@ private:
                 double width = 0;
                 for (int i = 0; i < cell.columns && at < widths.size(); ++i)
                     width += widths[at++];
-                const double size = m_report.LetterSize(cell.look, element.look.size);
+                const double size = m_report.LetterSize(cell.look, table.look.size);
                 CheckLetters(cell.line, cell.text, size, std::max(width, SmallestShare));
             }
         }
     }
 
-    void CheckTotalLabel(const TemplateElement& element, const std::vector<double>& widths)
+    void CheckTotalLabel(const TemplateTable& table, const std::vector<double>& widths)
     {
-        const TemplateTable& table = *element.table;
         const bool hasLabel = (table.totalLabel && !table.totalLabel->IsEmpty()) || table.page
             || std::any_of(table.groups.begin(), table.groups.end(),
                 [](const TemplateGroup& group) { return !group.foot.IsEmpty(); });
@@ -190,7 +180,7 @@ private:
             room += table.columns[first].condition ? 0 : widths[first];
             ++first;
         }
-        const double needed = LettersOfALabel * m_report.LetterSize(element.look);
+        const double needed = LettersOfALabel * m_report.LetterSize(table.look);
         if (hasLabel && room > 0 && first < widths.size() && room < needed - Tolerance)
             m_fault(table.columns[first].line,
                 QStringLiteral("before the first total there are %1 mm for its label, which needs %2 mm")
