@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report/Bands.h"
+#include "platform/report/Band.h"
 
 #include <algorithm>
 

@@ -1,6 +1,8 @@
-#include "platform/report/Bands.h"
+#include "platform/report/ChartBands.h"
 
 #include "platform/report/Evaluation.h"
+#include "platform/report/RowWalk.h"
+#include "platform/template/ExactSum.h"
 #include "platform/template/Spacing.h"
 #include "platform/text/Numbers.h"
 

@@ -1,7 +1,10 @@
-#include "platform/report/Bands.h"
+#include "platform/report/EachBands.h"
 
 #include "platform/report/Evaluation.h"
+#include "platform/report/FlowBands.h"
+#include "platform/report/RowWalk.h"
 
+#include <deque>
 #include <utility>
 
 namespace {

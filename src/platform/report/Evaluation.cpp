@@ -1,6 +1,8 @@
 #include "platform/report/Evaluation.h"
 
+#include "platform/report/Accumulators.h"
 #include "platform/report/ReportData.h"
+#include "platform/report/RowWalk.h"
 
 #include <algorithm>
 #include <cmath>

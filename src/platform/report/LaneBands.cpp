@@ -1,6 +1,8 @@
+#include "platform/report/LaneBands.h"
+
 #include "platform/report/BandSplitter.h"
+#include "platform/report/FlowBands.h"
 #include "platform/template/Spacing.h"
-#include "platform/template/TemplateWidths.h"
 
 #include <algorithm>
 #include <iterator>

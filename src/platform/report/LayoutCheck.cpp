@@ -3,6 +3,7 @@
 #include "platform/report/FontMap.h"
 #include "platform/report/HeightReckoner.h"
 #include "platform/template/Spacing.h"
+#include "platform/template/TemplateCheck.h"
 #include "platform/template/TemplateWidths.h"
 
 #include <algorithm>

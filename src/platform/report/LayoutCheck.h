@@ -2,6 +2,8 @@
 
 #include "platform/template/ReportTemplate.h"
 
+class Connection;
+
 // The whole check of a template: Check of the language, and what depends on the fonts of this machine. Takes
 // the first of its fonts that is installed, and tells of none, and of what is taller than the paper. Only a
 // template without faults can be laid out.

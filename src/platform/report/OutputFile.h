@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report/Printer.h"
+#include "platform/report/Outcome.h"
 
 #include <QIODevice>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report/Evaluation.h"
+#include "platform/report/Accumulators.h"
 #include "platform/report/TableStrips.h"
 
 // The totals of a table that goes on over pages: those of a page, and those carried to the next. They grow as

@@ -1,8 +1,8 @@
 #include "platform/report/Report.h"
 
-#include "platform/report/Drawing.h"
 #include "platform/report/Evaluation.h"
 #include "platform/report/OutputFile.h"
+#include "platform/report/PagePainter.h"
 #include "platform/report/PrintFiles.h"
 #include "platform/report/ReportFiller.h"
 

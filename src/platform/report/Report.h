@@ -1,9 +1,10 @@
 #pragma once
 
 #include "platform/database/Connection.h"
+#include "platform/report/Page.h"
 #include "platform/report/Printer.h"
-#include "platform/report/ReportPages.h"
 #include "platform/report/SelectionFormula.h"
+#include "platform/template/ReportTemplate.h"
 
 #include <QImage>
 

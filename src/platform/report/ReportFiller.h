@@ -1,6 +1,11 @@
 #pragma once
 
-#include "platform/report/Bands.h"
+#include "platform/report/BandMaker.h"
+#include "platform/report/BandStream.h"
+#include "platform/report/LaneFiller.h"
+#include "platform/report/ReportData.h"
+
+#include <deque>
 
 // Fills a checked template: reads rows as it goes and gives one page after the other.
 class ReportFiller {
@@ -19,17 +24,6 @@ public:
     const TextMeasure& Measure() const { return m_measure; }
 
 private:
-    // A page in the making.
-    struct Sheet {
-        Page page;
-        float y = 0; // where the next strip goes
-        float end = 0; // where the foot of the page begins
-        bool isEmpty = true; // nothing but its head stands on it
-        std::vector<Band> footer;
-        std::shared_ptr<PageTotals> totals; // of a table that goes on below what stands there
-    };
-    using Lanes = std::vector<std::deque<Band>>;
-
     Sheet BeginSheet();
     void EndSheet(Sheet& sheet);
     std::vector<Band> MakeEdge(const std::vector<TemplateElement>& elements);
@@ -39,27 +33,17 @@ private:
     float PageHeight() const;
     bool PlaceChain(Sheet& sheet);
     bool PlaceNext(Sheet& sheet, float end);
-    void Place(Sheet& sheet, Band& band);
-    void Put(Sheet& sheet, Band& band, float y, float& height);
-    bool ContinueLanes(Sheet& sheet);
-    float FillLane(Sheet& sheet, std::deque<Band>& lane, float top);
-    bool PlaceBottoms(Sheet& sheet, std::vector<float>& ends);
-    static void PutFrames(Sheet& sheet, const std::vector<Frame>& frames, float top, float bottom);
-    void FitFront(std::deque<Band>& bands, float room);
-    float AddRepeated(Sheet& sheet, const Band& band, float y);
-    void AddPageHead(Sheet& sheet, const Band& band);
-    void AddPageFoot(Sheet& sheet);
     void BeginRecords();
-    void Record(const QStringList& record);
+    void Record(QStringList record);
 
     const ReportTemplate& m_report;
     ReportData m_data;
     TextMeasure m_measure;
     BandMaker m_maker;
+    BandSplitter m_splitter;
     std::unique_ptr<BandStream> m_flow;
     std::deque<Band> m_waiting; // strips that are made and not yet placed
-    Lanes m_lanes; // what is left of strips side by side
-    std::vector<Frame> m_frames; // around them
+    LaneFiller m_lanes; // those that have begun
     bool m_hasEnded = false; // the flow gives no more strips
     bool m_isDone = false;
     std::vector<QStringList> m_records;

@@ -1,6 +1,11 @@
+#include "platform/report/TableBands.h"
+
+#include "platform/report/Evaluation.h"
 #include "platform/report/PageTotals.h"
+#include "platform/report/RowWalk.h"
 
 #include <algorithm>
+#include <deque>
 #include <utility>
 
 namespace {

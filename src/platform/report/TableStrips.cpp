@@ -2,7 +2,6 @@
 
 #include "platform/report/Evaluation.h"
 #include "platform/template/Spacing.h"
-#include "platform/template/TemplateWidths.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report/Bands.h"
+#include "platform/report/BandMaker.h"
 
 // The strips of one table: its columns at their places, and what stands in them.
 class TableStrips {

@@ -10,21 +10,6 @@ bool IsNothing(const Expression& expression)
     return expression.operation == Operation::Text && expression.text.isEmpty();
 }
 
-ValueType TypeOf(ColumnType type)
-{
-    switch (type) {
-    case ColumnType::Text:
-        return ValueType::Text;
-    case ColumnType::Number:
-        return ValueType::Number;
-    case ColumnType::Date:
-        return ValueType::Date;
-    case ColumnType::Unknown:
-        break;
-    }
-    return ValueType::Unknown;
-}
-
 // A stored text can hold a number that is printed by a format; a date and a truth can't.
 bool CanBeNumber(ValueType type)
 {
@@ -56,50 +41,6 @@ const Expression* FirstField(const Expression& expression)
 
 }
 
-ExpressionBinder::ExpressionBinder(ReportTemplate& report, Catalogue& catalogue, TemplateFaults& faults)
-    : m_report(report)
-    , m_catalogue(catalogue)
-    , m_faults(faults)
-{
-}
-
-void ExpressionBinder::Fault(int line, const QString& text)
-{
-    if (m_faults.size() <= MostFaults)
-        m_faults.push_back({m_report.file, line, text});
-}
-
-int ExpressionBinder::FindSource(const QString& name, int line)
-{
-    for (std::size_t i = 0; i < m_report.sources.size(); ++i) {
-        if (m_report.sources[i].name == name)
-            return static_cast<int>(i);
-    }
-    if (!name.isEmpty())
-        Fault(line, QStringLiteral("there is no source \"%1\"").arg(name));
-    return -1;
-}
-
-int ExpressionBinder::FindColumn(int source, const QString& name)
-{
-    TemplateSource& from = m_report.sources[static_cast<std::size_t>(source)];
-    for (std::size_t i = 0; i < from.columns.size(); ++i) {
-        if (from.columns[i].name.compare(name, Qt::CaseInsensitive) == 0)
-            return static_cast<int>(i);
-    }
-    SourceColumn column;
-    column.name = name;
-    if (const std::shared_ptr<const Table> table = m_catalogue.Find(from.table)) {
-        const Column* found = table->Find(name);
-        if (!found)
-            return -1;
-        column.name = found->name;
-        column.type = TypeOf(found->type);
-    }
-    from.columns.push_back(column);
-    return static_cast<int>(from.columns.size()) - 1;
-}
-
 void ExpressionBinder::BindText(TemplateText& text, const Place& place)
 {
     for (TextPiece& piece : text.pieces) {
@@ -109,7 +50,7 @@ void ExpressionBinder::BindText(TemplateText& text, const Place& place)
         CheckPrinted(piece.format, type, place);
         if (piece.expression->Uses(Operation::PageCount)
             && piece.expression->operation != Operation::PageCount)
-            Fault(place.line, QStringLiteral("#pages stands alone in its braces"));
+            m_sources.Fault(place.line, QStringLiteral("#pages stands alone in its braces"));
         if (piece.format.kind == PrintFormat::Kind::Number)
             ReadAsStored(*piece.expression, type);
         NotePrinting(*piece.expression);
@@ -133,11 +74,11 @@ void ExpressionBinder::NotePrinting(const Expression& expression)
 void ExpressionBinder::CheckPrinted(const PrintFormat& format, ValueType type, const Place& place)
 {
     if (type == ValueType::Truth)
-        Fault(place.line, QStringLiteral("a condition can't be printed; use if(…)"));
+        m_sources.Fault(place.line, QStringLiteral("a condition can't be printed; use if(…)"));
     if (format.kind == PrintFormat::Kind::Number && !CanBeNumber(type))
-        Fault(place.line, QStringLiteral("the format \"%1\" needs a number").arg(format.pattern));
+        m_sources.Fault(place.line, QStringLiteral("the format \"%1\" needs a number").arg(format.pattern));
     if (format.kind == PrintFormat::Kind::Date && type != ValueType::Date && type != ValueType::Unknown)
-        Fault(place.line, QStringLiteral("the format \"%1\" needs a date").arg(format.pattern));
+        m_sources.Fault(place.line, QStringLiteral("the format \"%1\" needs a date").arg(format.pattern));
 }
 
 void ExpressionBinder::BindCondition(std::optional<Expression>& condition, const Place& place)
@@ -146,9 +87,9 @@ void ExpressionBinder::BindCondition(std::optional<Expression>& condition, const
         return;
     const ValueType type = Bind(*condition, place);
     if (type != ValueType::Truth && type != ValueType::Unknown)
-        Fault(place.line, QStringLiteral("a condition is needed that holds or doesn't"));
+        m_sources.Fault(place.line, QStringLiteral("a condition is needed that holds or doesn't"));
     if (condition->Uses(Operation::PageCount))
-        Fault(place.line, QStringLiteral("#pages isn't known when a condition is looked at"));
+        m_sources.Fault(place.line, QStringLiteral("#pages isn't known when a condition is looked at"));
 }
 
 ValueType ExpressionBinder::Bind(Expression& expression, const Place& place)
@@ -198,80 +139,37 @@ ValueType ExpressionBinder::Bind(Expression& expression, const Place& place)
 ValueType ExpressionBinder::BindPage(const Expression& expression, const Place& place)
 {
     if (!place.isPageEdge)
-        Fault(place.line,
+        m_sources.Fault(place.line,
             QStringLiteral("#%1 stands in a pageheader or a pagefooter only").arg(expression.text));
     return ValueType::Number;
 }
 
-void ExpressionBinder::Walk(int source)
-{
-    Walked.push_back(source);
-    Use.walked.insert(source);
-}
-
-void ExpressionBinder::RequireParent(int source, int line)
-{
-    const TemplateSource& own = m_report.sources[static_cast<std::size_t>(source)];
-    if (own.parent >= 0 && std::find(Walked.begin(), Walked.end(), own.parent) == Walked.end())
-        Fault(line,
-            QStringLiteral("\"%1\" can only be walked within an <each> of \"%2\"")
-                .arg(own.name, own.parentName));
-}
-
-void ExpressionBinder::NoteReading(int source)
-{
-    const std::vector<TemplateSource>& sources = m_report.sources;
-    for (;;) {
-        if (std::find(Walked.begin(), Walked.end(), source) != Walked.end())
-            return;
-        const int parent = sources[static_cast<std::size_t>(source)].parent;
-        if (parent < 0)
-            break;
-        source = parent;
-    }
-    Use.readByFirstRow.insert(source);
-}
-
-// Whether its row goes by one that is being walked.
-bool ExpressionBinder::MovesOn(int source) const
-{
-    while (source >= 0 && std::find(Walked.begin(), Walked.end(), source) == Walked.end())
-        source = m_report.sources[static_cast<std::size_t>(source)].parent;
-    return source >= 0;
-}
-
 ValueType ExpressionBinder::BindField(Expression& field, const Place& place)
 {
-    std::vector<int> candidates;
-    if (!field.qualifier.isEmpty()) {
-        candidates.push_back(FindSource(field.qualifier, place.line));
-        if (candidates.front() < 0)
-            return ValueType::Unknown;
-    } else {
-        candidates.assign(Walked.rbegin(), Walked.rend());
-        if (candidates.empty() && !m_report.sources.empty())
-            candidates.push_back(0);
-    }
+    const std::vector<int> candidates = m_sources.Candidates(field.qualifier, place.line);
+    if (candidates.empty() && !field.qualifier.isEmpty())
+        return ValueType::Unknown;
     for (const int source : candidates) {
-        const int column = FindColumn(source, field.text);
+        const int column = m_sources.FindColumn(source, field.text);
         if (column < 0)
             continue;
         field.source = source;
         field.column = column;
-        NoteReading(source);
-        if (place.isPageEnd && MovesOn(source))
-            Fault(place.line,
+        m_sources.NoteReading(source);
+        if (place.isPageEnd && m_sources.MovesOn(source))
+            m_sources.Fault(place.line,
                 QStringLiteral("\"%1\" is of a row, and a <page> knows totals only").arg(field.text));
         const SourceColumn& found =
             m_report.sources[static_cast<std::size_t>(source)].columns[static_cast<std::size_t>(column)];
         if (field.isPlain && found.type != ValueType::Text && found.type != ValueType::Unknown)
-            Fault(place.line, QStringLiteral("\"%1\" is no text, so \"plain\" says nothing").arg(field.text));
+            m_sources.Fault(
+                place.line, QStringLiteral("\"%1\" is no text, so \"plain\" says nothing").arg(field.text));
         return found.type;
     }
     const QString where = candidates.empty()
         ? QString()
         : QStringLiteral(" in ") + m_report.sources[static_cast<std::size_t>(candidates.front())].table;
-    Fault(place.line, QStringLiteral("there is no column \"%1\"").arg(field.text) + where);
+    m_sources.Fault(place.line, QStringLiteral("there is no column \"%1\"").arg(field.text) + where);
     return ValueType::Unknown;
 }
 
@@ -280,10 +178,10 @@ ValueType ExpressionBinder::BindArithmetic(Expression& expression, const Place& 
     for (Expression& argument : expression.arguments) {
         const ValueType type = Bind(argument, place);
         if (type == ValueType::Text)
-            Fault(place.line,
+            m_sources.Fault(place.line,
                 QStringLiteral("texts can't be reckoned with; words stand before or behind the braces"));
         else if (!CanBeNumber(type))
-            Fault(place.line, QStringLiteral("dates and conditions can't be reckoned with"));
+            m_sources.Fault(place.line, QStringLiteral("dates and conditions can't be reckoned with"));
         ReadAsStored(argument, type);
     }
     return ValueType::Number;
@@ -294,7 +192,7 @@ ValueType ExpressionBinder::BindComparison(Expression& expression, const Place& 
     const ValueType first = Bind(expression.arguments[0], place);
     const ValueType second = Bind(expression.arguments[1], place);
     if (first != second && first != ValueType::Unknown && second != ValueType::Unknown)
-        Fault(place.line, QStringLiteral("things of different kinds are compared"));
+        m_sources.Fault(place.line, QStringLiteral("things of different kinds are compared"));
     return ValueType::Truth;
 }
 
@@ -303,7 +201,7 @@ ValueType ExpressionBinder::BindLogic(Expression& expression, const Place& place
     for (Expression& argument : expression.arguments) {
         const ValueType type = Bind(argument, place);
         if (type != ValueType::Truth && type != ValueType::Unknown)
-            Fault(place.line, QStringLiteral("and, or and not go between conditions"));
+            m_sources.Fault(place.line, QStringLiteral("and, or and not go between conditions"));
     }
     return ValueType::Truth;
 }
@@ -312,7 +210,7 @@ ValueType ExpressionBinder::BindIf(Expression& expression, const Place& place)
 {
     const ValueType condition = Bind(expression.arguments[0], place);
     if (condition != ValueType::Truth && condition != ValueType::Unknown)
-        Fault(place.line, QStringLiteral("if() needs a condition first"));
+        m_sources.Fault(place.line, QStringLiteral("if() needs a condition first"));
     const ValueType yes = Bind(expression.arguments[1], place);
     const ValueType no = Bind(expression.arguments[2], place);
     if (yes == no)
@@ -341,19 +239,16 @@ ValueType ExpressionBinder::BindJoin(Expression& expression, const Place& place)
 {
     for (Expression& argument : expression.arguments) {
         if (Bind(argument, place) == ValueType::Truth)
-            Fault(place.line, QStringLiteral("a condition can't be printed; use if(…)"));
+            m_sources.Fault(place.line, QStringLiteral("a condition can't be printed; use if(…)"));
     }
     return ValueType::Text;
 }
 
 int ExpressionBinder::SourceOf(const Expression& expression, int line)
 {
-    const Expression* field = FirstField(expression);
-    if (field && !field->qualifier.isEmpty())
-        return FindSource(field->qualifier, line);
-    if (!Walked.empty())
-        return Walked.back();
-    return m_report.sources.empty() ? -1 : 0;
+    const Expression* const field = FirstField(expression);
+    const std::vector<int> candidates = m_sources.Candidates(field ? field->qualifier : QString(), line);
+    return candidates.empty() ? -1 : candidates.front();
 }
 
 bool ExpressionBinder::IsAllowed(const Expression& aggregate, const Place& place)
@@ -375,7 +270,7 @@ bool ExpressionBinder::IsAllowed(const Expression& aggregate, const Place& place
 ValueType ExpressionBinder::BindAggregate(Expression& expression, const Place& place)
 {
     if (!IsAllowed(expression, place)) {
-        Fault(place.line,
+        m_sources.Fault(place.line,
             expression.aggregate == AggregateKind::Running
                 ? QStringLiteral("a running sum stands in a table's columns only")
                 : QStringLiteral("a total isn't known here"));
@@ -390,8 +285,8 @@ ValueType ExpressionBinder::BindAggregate(Expression& expression, const Place& p
         expression.source = SourceOf(expression, place.line);
         if (expression.source < 0)
             return type;
-        RequireParent(expression.source, place.line);
-        Walk(expression.source);
+        m_sources.RequireParent(expression.source, place.line);
+        m_sources.Walk(expression.source);
     }
     for (Expression& argument : expression.arguments) {
         type = Bind(argument, inside);
@@ -401,7 +296,7 @@ ValueType ExpressionBinder::BindAggregate(Expression& expression, const Place& p
     if (isOfTable)
         BindToTable(expression, place);
     else
-        Walked.pop_back();
+        m_sources.Leave();
     return IsExtreme(expression.aggregate) ? type : ValueType::Number;
 }
 
@@ -409,9 +304,9 @@ void ExpressionBinder::CheckTotalled(AggregateKind kind, ValueType type, int lin
 {
     if (IsExtreme(kind)) {
         if (type == ValueType::Text || type == ValueType::Truth)
-            Fault(line, QStringLiteral("min and max need numbers or dates"));
+            m_sources.Fault(line, QStringLiteral("min and max need numbers or dates"));
     } else if (kind != AggregateKind::Count && (type == ValueType::Text || !CanBeNumber(type))) {
-        Fault(line, QStringLiteral("a total needs numbers"));
+        m_sources.Fault(line, QStringLiteral("a total needs numbers"));
     }
 }
 
@@ -422,7 +317,8 @@ void ExpressionBinder::BindToTable(Expression& expression, const Place& place)
         const auto named = [&](const TemplateGroup& group) { return group.name == expression.text; };
         const auto group = std::find_if(table.groups.begin(), table.groups.end(), named);
         if (group == table.groups.end())
-            Fault(place.line, QStringLiteral("no group of this table is by \"%1\"").arg(expression.text));
+            m_sources.Fault(
+                place.line, QStringLiteral("no group of this table is by \"%1\"").arg(expression.text));
         else
             expression.group = static_cast<int>(group - table.groups.begin());
     }

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "platform/database/Catalogue.h"
-#include "platform/template/ReportTemplate.h"
-#include "platform/template/TemplateChoices.h"
+#include "platform/template/SourceFinder.h"
 
 // Finds the columns that the names of a template stand for, and the types of its expressions.
 class ExpressionBinder {
@@ -17,36 +15,14 @@ public:
         TemplateTable* table = nullptr;
     };
 
-    ExpressionBinder(ReportTemplate& report, Catalogue& catalogue, TemplateFaults& faults);
-
-    void Fault(int line, const QString& text);
-
-    // The source of a name; -1 and a fault if there is none.
-    int FindSource(const QString& name, int line);
-
-    // The position of a column among those that are read of a source; -1 if its table hasn't got it. A source
-    // whose table is unknown takes every name: that fault is told once.
-    int FindColumn(int source, const QString& name);
+    // Binds to the sources where the finder stands; both must outlive it.
+    ExpressionBinder(ReportTemplate& report, SourceFinder& sources) : m_report(report), m_sources(sources) { }
 
     void BindText(TemplateText& text, const Place& place);
     void BindCondition(std::optional<Expression>& condition, const Place& place);
     ValueType Bind(Expression& expression, const Place& place);
 
-    // The sources whose rows are being walked through, the innermost last.
-    std::vector<int> Walked;
-
-    // Tells of a source that hangs on another whose rows aren't being walked through.
-    void RequireParent(int source, int line);
-
-    // Begins to walk through a source; it is noted as walked somewhere in the template.
-    void Walk(int source);
-
-    // What has been bound so far.
-    SourceUse Use;
-
 private:
-    void NoteReading(int source);
-    bool MovesOn(int source) const;
     ValueType BindField(Expression& field, const Place& place);
     ValueType BindArithmetic(Expression& expression, const Place& place);
     ValueType BindComparison(Expression& expression, const Place& place);
@@ -64,6 +40,5 @@ private:
     void CheckPrinted(const PrintFormat& format, ValueType type, const Place& place);
 
     ReportTemplate& m_report;
-    Catalogue& m_catalogue;
-    TemplateFaults& m_faults;
+    SourceFinder& m_sources;
 };

@@ -1,3 +1,5 @@
+#include "platform/template/ExpressionParser.h"
+
 #include "platform/template/ExactSum.h"
 #include "platform/template/ExpressionTokens.h"
 

@@ -1,11 +1,16 @@
 #pragma once
 
-#include "platform/template/Expression.h"
+#include <QString>
 
 // A word of an expression.
 struct Token {
     enum class Kind { End, Number, Text, Name, Hash, Dollar, Sign };
     Kind kind = Kind::End;
+    QString text;
+};
+
+// What is wrong with an expression, said to whoever writes the template.
+struct ExpressionFault {
     QString text;
 };
 

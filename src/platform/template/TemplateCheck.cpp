@@ -1,6 +1,8 @@
+#include "platform/template/TemplateCheck.h"
+
 #include "platform/database/Connection.h"
+#include "platform/template/ChoiceCheck.h"
 #include "platform/template/ExpressionBinder.h"
-#include "platform/template/TemplateChoices.h"
 #include "platform/template/WidthCheck.h"
 
 #include <algorithm>
@@ -16,7 +18,8 @@ public:
     Checker(ReportTemplate& report, Connection& connection, TemplateFaults& faults)
         : m_report(report)
         , m_catalogue(connection.Handle())
-        , m_binder(report, m_catalogue, faults)
+        , m_sources(report, m_catalogue, faults)
+        , m_binder(report, m_sources)
     {
     }
 
@@ -40,10 +43,11 @@ private:
     void CheckTotals(const TemplateTable& table, int line);
     void CheckChart(TemplateChart& chart, const Place& place);
     int Enter(const QString& sourceName, int line);
-    void Leave() { m_binder.Walked.pop_back(); }
+    void Leave() { m_sources.Leave(); }
 
     ReportTemplate& m_report;
     Catalogue m_catalogue;
+    SourceFinder m_sources;
     ExpressionBinder m_binder;
     std::set<int> m_runs; // the sources of which a part is walked once more within
 };
@@ -59,8 +63,8 @@ void Checker::CheckAll()
     CheckElements(m_report.header, edge);
     CheckElements(m_report.footer, edge);
     CheckElements(m_report.body, Place());
-    const auto fault = [this](int line, const QString& text) { m_binder.Fault(line, text); };
-    CheckChoices(m_report, m_binder.Use, fault);
+    const auto fault = [this](int line, const QString& text) { m_sources.Fault(line, text); };
+    CheckChoices(m_report, m_sources.Use(), fault);
     CheckWidths(m_report, fault);
 }
 
@@ -70,9 +74,9 @@ void Checker::CheckSource(int index)
     const auto first = std::find_if(m_report.sources.begin(), m_report.sources.end(),
         [&](const TemplateSource& other) { return other.name == source.name; });
     if (first - m_report.sources.begin() != index)
-        m_binder.Fault(source.line, QStringLiteral("there is a second source \"%1\"").arg(source.name));
+        m_sources.Fault(source.line, QStringLiteral("there is a second source \"%1\"").arg(source.name));
     if (!source.table.isEmpty() && !m_catalogue.Find(source.table)) {
-        m_binder.Fault(source.line, QStringLiteral("there is no table \"%1\"").arg(source.table));
+        m_sources.Fault(source.line, QStringLiteral("there is no table \"%1\"").arg(source.table));
     } else {
         CheckOrder(index);
     }
@@ -81,9 +85,9 @@ void Checker::CheckSource(int index)
     Place place;
     place.line = source.line;
     place.aggregates = Aggregates::None;
-    m_binder.Walked.push_back(index);
+    m_sources.StandAt(index);
     m_binder.BindCondition(source.only, place);
-    m_binder.Walked.pop_back();
+    m_sources.Leave();
 }
 
 void Checker::CheckOrder(int index)
@@ -95,9 +99,9 @@ void Checker::CheckOrder(int index)
     for (const QString& part : source.order.split(u',')) {
         const QStringList words = part.simplified().split(u' ');
         if (words[0].isEmpty() || words.size() > 2 || (words.size() == 2 && words[1] != u"desc"))
-            m_binder.Fault(source.line, QStringLiteral("\"%1\" is no order").arg(part));
+            m_sources.Fault(source.line, QStringLiteral("\"%1\" is no order").arg(part));
         else if (table && !table->Find(words[0]))
-            m_binder.Fault(
+            m_sources.Fault(
                 source.line, QStringLiteral("there is no column \"%1\" in %2").arg(words[0], source.table));
     }
 }
@@ -105,19 +109,19 @@ void Checker::CheckOrder(int index)
 void Checker::CheckLink(int index)
 {
     TemplateSource& source = m_report.sources[static_cast<std::size_t>(index)];
-    source.parent = m_binder.FindSource(source.parentName, source.line);
+    source.parent = m_sources.FindSource(source.parentName, source.line);
     if (source.parent >= index) {
-        m_binder.Fault(
+        m_sources.Fault(
             source.line, QStringLiteral("\"%1\" stands before the source it hangs on").arg(source.name));
         source.parent = -1;
     }
     if (source.parent < 0)
         return;
     for (const QString& column : source.link) {
-        const int own = m_binder.FindColumn(index, column);
-        const int others = m_binder.FindColumn(source.parent, column);
+        const int own = m_sources.FindColumn(index, column);
+        const int others = m_sources.FindColumn(source.parent, column);
         if (own < 0 || others < 0)
-            m_binder.Fault(
+            m_sources.Fault(
                 source.line, QStringLiteral("the two sources don't share a column \"%1\"").arg(column));
         source.linkColumns.push_back(own);
         source.parentColumns.push_back(others);
@@ -163,14 +167,12 @@ void Checker::CheckLanes(TemplateLanes& lanes, const Place& place)
 
 int Checker::Enter(const QString& sourceName, int line)
 {
-    const int index = m_binder.FindSource(sourceName, line);
+    const int index = m_sources.FindSource(sourceName, line);
     if (index >= 0) {
-        const std::vector<int>& walked = m_binder.Walked;
-        m_binder.RequireParent(index, line);
-        const bool isWalked = std::find(walked.begin(), walked.end(), index) != walked.end();
-        if (isWalked && m_runs.count(index) == 0)
-            m_binder.Fault(line, QStringLiteral("\"%1\" is being walked already").arg(sourceName));
-        m_binder.Walk(index);
+        m_sources.RequireParent(index, line);
+        if (m_sources.IsWalked(index) && m_runs.count(index) == 0)
+            m_sources.Fault(line, QStringLiteral("\"%1\" is being walked already").arg(sourceName));
+        m_sources.Walk(index);
     }
     return index;
 }
@@ -182,7 +184,7 @@ void Checker::CheckEach(TemplateEach& each, const Place& place)
         return;
     m_binder.BindCondition(each.only, place);
     if (each.by && m_binder.Bind(*each.by, place) == ValueType::Truth)
-        m_binder.Fault(place.line, QStringLiteral("rows aren't grouped by a condition; use if(…)"));
+        m_sources.Fault(place.line, QStringLiteral("rows aren't grouped by a condition; use if(…)"));
     const bool wasRun = m_runs.count(each.source) > 0;
     if (each.by)
         m_runs.insert(each.source);
@@ -250,7 +252,7 @@ void Checker::CheckLines(std::vector<TemplateLine>& lines, Place place)
             columns += static_cast<std::size_t>(cell.columns);
         }
         if (columns > place.table->columns.size())
-            m_binder.Fault(line.line,
+            m_sources.Fault(line.line,
                 QStringLiteral("the cells span %1 columns, but there are %2")
                     .arg(columns)
                     .arg(place.table->columns.size()));
@@ -273,14 +275,14 @@ void Checker::CheckColumn(TemplateTable& table, TemplateColumn& column, Place pl
     column.total->isOfGroups = table.isOfGroups && (column.totalIsOwnSum || countsRows);
     const ValueType type = m_binder.Bind(*column.total, place);
     if (type == ValueType::Truth)
-        m_binder.Fault(column.line, QStringLiteral("a condition can't be printed; use if(…)"));
+        m_sources.Fault(column.line, QStringLiteral("a condition can't be printed; use if(…)"));
 }
 
 // total="sum": the sum of the figures as they are printed.
 void Checker::BindOwnSum(const TemplateTable& table, TemplateColumn& column)
 {
     if (!column.cell.IsOneExpression() || (!table.isOfGroups && column.cell.Uses(Operation::Aggregate))) {
-        m_binder.Fault(column.line, QStringLiteral("total=\"sum\" needs a column of one {expression}"));
+        m_sources.Fault(column.line, QStringLiteral("total=\"sum\" needs a column of one {expression}"));
         return;
     }
     const TextPiece& piece = column.cell.pieces.front();
@@ -296,7 +298,7 @@ void Checker::CheckGroup(TemplateTable& table, TemplateGroup& group, Place place
     place.line = group.line;
     place.table = &table;
     if (m_binder.Bind(group.by, place) == ValueType::Truth)
-        m_binder.Fault(group.line, QStringLiteral("rows aren't grouped by a condition; use if(…)"));
+        m_sources.Fault(group.line, QStringLiteral("rows aren't grouped by a condition; use if(…)"));
     m_binder.BindText(group.head, place);
     CheckLines(group.headLines, place);
     place.line = group.line;
@@ -317,10 +319,10 @@ void Checker::CheckTotals(const TemplateTable& table, int line)
     const bool hasRoom = std::any_of(
         table.columns.begin(), first, [](const TemplateColumn& column) { return !column.condition; });
     if (!hasFoot)
-        m_binder.Fault(first->line,
+        m_sources.Fault(first->line,
             QStringLiteral("the total is never printed: there is no <total> and no group's foot"));
     else if (!hasRoom)
-        m_binder.Fault(
+        m_sources.Fault(
             line, QStringLiteral("the first column has a total, so there is no room for its label"));
 }
 
@@ -339,7 +341,7 @@ void Checker::CheckChart(TemplateChart& chart, const Place& place)
         m_binder.BindText(series.label, place);
         const ValueType type = m_binder.Bind(series.value, inside);
         if (type == ValueType::Date || type == ValueType::Truth)
-            m_binder.Fault(series.line, QStringLiteral("a chart needs numbers"));
+            m_sources.Fault(series.line, QStringLiteral("a chart needs numbers"));
     }
     Leave();
 }

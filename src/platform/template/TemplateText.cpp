@@ -1,5 +1,7 @@
 #include "platform/template/TemplateText.h"
 
+#include "platform/template/ExpressionParser.h"
+
 #include <algorithm>
 
 bool TemplateText::Uses(Operation wanted) const

@@ -1,11 +1,8 @@
 #pragma once
 
-#include "platform/template/ReportTemplate.h"
+#include "platform/template/TemplateElement.h"
 
 // How widths are shared out, in points; the check and the filling of a template divide them alike.
-
-// Widths for rules of widths: the shares divide what is left.
-std::vector<double> DivideWidth(const std::vector<WidthRule>& rules, double width, double gap);
 
 // The widths of blocks side by side, and of the columns of a table if all of them are there.
 std::vector<double> LaneWidths(const TemplateLanes& lanes, double width);

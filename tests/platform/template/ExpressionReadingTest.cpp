@@ -1,4 +1,4 @@
-#include "platform/template/Expression.h"
+#include "platform/template/ExpressionParser.h"
 
 #include <gtest/gtest.h>
 

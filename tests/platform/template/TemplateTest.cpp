@@ -1,6 +1,7 @@
 #include "tests/platform/template/TemplateTest.h"
 
 #include "delivered/Delivered.h"
+#include "platform/template/TemplateCheck.h"
 
 #include <QFile>
 

@@ -1,6 +1,5 @@
-#include "platform/report/ReportPages.h"
+#include "platform/report/Page.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -39,15 +38,6 @@ QString DescribeStroke(const PlacedItem& item)
 QRectF PlacedItem::Rect() const
 {
     return QRectF(x, y, width, height).normalized();
-}
-
-quint16 FontTable::Add(const FontSpec& font)
-{
-    const auto known = std::find(m_fonts.begin(), m_fonts.end(), font);
-    const std::ptrdiff_t index = known - m_fonts.begin();
-    if (known == m_fonts.end())
-        m_fonts.push_back(font);
-    return static_cast<quint16>(index);
 }
 
 QStringList Describe(const Page& page, const FontTable& fonts)

@@ -1,4 +1,4 @@
-#include "platform/template/TemplateChoices.h"
+#include "platform/template/ChoiceCheck.h"
 
 namespace {
 

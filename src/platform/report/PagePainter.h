@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report/ReportPages.h"
+#include "platform/report/Page.h"
 
 #include <QIODevice>
 #include <QImage>

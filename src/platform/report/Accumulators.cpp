@@ -1,5 +1,6 @@
-#include "platform/report/Evaluation.h"
+#include "platform/report/Accumulators.h"
 
+#include "platform/report/Evaluation.h"
 #include "platform/report/ReportData.h"
 
 void Accumulator::Add(const Expression& aggregate, const Value* arguments)

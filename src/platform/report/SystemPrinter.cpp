@@ -1,4 +1,5 @@
-#include "platform/report/Printer.h"
+#include "platform/report/SystemPrinter.h"
+
 #include "platform/template/Paper.h"
 
 #include <cups/cups.h>

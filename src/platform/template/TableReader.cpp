@@ -1,4 +1,6 @@
-#include "platform/template/TemplateReader.h"
+#include "platform/template/TableReader.h"
+
+#include "platform/template/ElementAttributes.h"
 
 #include <algorithm>
 
@@ -8,10 +10,8 @@ constexpr double MostRows = 100;
 
 }
 
-TemplateElement TemplateReader::ReadTable(Place place)
+TemplateTable TableReader::Read(ElementAttributes& attributes, ElementPlace place)
 {
-    ElementAttributes attributes(m_xml, *this);
-    TemplateElement element = BeginElement(attributes);
     TemplateTable table;
     table.look = attributes.Look();
     table.sourceName = attributes.Required(u"source");
@@ -22,70 +22,69 @@ TemplateElement TemplateReader::ReadTable(Place place)
     if (!rows.isEmpty() && !table.isOfGroups)
         attributes.Fault(QStringLiteral("rows=\"%1\" isn't \"groups\"").arg(rows));
     attributes.Finish();
-    while (NextElement()) {
-        if (m_xml.name() == u"col")
+    while (m_xml.NextElement()) {
+        if (m_xml.Name() == u"col")
             ReadColumn(table);
-        else if (m_xml.name() == u"heads")
+        else if (m_xml.Name() == u"heads")
             ReadSpans(table);
-        else if (m_xml.name() == u"group")
+        else if (m_xml.Name() == u"group")
             ReadGroup(table, place);
-        else if (m_xml.name() == u"total")
+        else if (m_xml.Name() == u"total")
             ReadTotal(table);
-        else if (m_xml.name() == u"page")
+        else if (m_xml.Name() == u"page")
             ReadPageTotals(table, place);
         else
-            RefuseElement();
+            m_xml.RefuseElement();
     }
     if (table.columns.empty())
-        Fault(element.line, QStringLiteral("<table> has no <col>"));
+        m_xml.Fault(attributes.Line(), QStringLiteral("<table> has no <col>"));
     else if (std::all_of(table.columns.begin(), table.columns.end(),
                  [](const TemplateColumn& column) { return column.condition.has_value(); }))
-        Fault(element.line, QStringLiteral("every column has an \"if\", so there may be none"));
+        m_xml.Fault(attributes.Line(), QStringLiteral("every column has an \"if\", so there may be none"));
     if (table.isOfGroups && table.groups.empty())
-        Fault(element.line, QStringLiteral("rows=\"groups\" needs a <group>"));
-    element.what = std::move(table);
-    return element;
+        m_xml.Fault(attributes.Line(), QStringLiteral("rows=\"groups\" needs a <group>"));
+    return table;
 }
 
-void TemplateReader::ReadSpans(TemplateTable& table)
+void TableReader::ReadSpans(TemplateTable& table)
 {
-    ElementAttributes attributes(m_xml, *this);
+    ElementAttributes attributes(m_xml);
     attributes.Finish();
     table.spans = ReadCells(u"head");
 }
 
-std::vector<TemplateSpan> TemplateReader::ReadCells(QStringView name)
+std::vector<TemplateSpan> TableReader::ReadCells(QStringView name)
 {
     std::vector<TemplateSpan> cells;
-    while (NextChild(name)) {
-        ElementAttributes own(m_xml, *this);
+    while (m_xml.NextChild(name)) {
+        ElementAttributes own(m_xml);
         TemplateSpan cell;
         cell.line = own.Line();
         cell.columns = static_cast<int>(own.Number(u"span", 1, MostRows, 1));
         cell.look = own.Look();
         own.Finish();
-        cell.text = ReadContent(cell.line);
+        cell.text = m_xml.ReadContent(cell.line);
         cells.push_back(std::move(cell));
     }
     return cells;
 }
 
-void TemplateReader::ReadLine(std::vector<TemplateLine>& lines)
+void TableReader::ReadLine(std::vector<TemplateLine>& lines)
 {
-    ElementAttributes attributes(m_xml, *this);
+    ElementAttributes attributes(m_xml);
     TemplateLine line;
     line.line = attributes.Line();
     line.condition = attributes.Condition(u"if");
     attributes.Finish();
     line.cells = ReadCells(u"cell");
     if (line.cells.empty())
-        Fault(line.line, QStringLiteral("the line has no <cell>"));
+        m_xml.Fault(line.line, QStringLiteral("the line has no <cell>"));
     lines.push_back(std::move(line));
 }
 
-void TemplateReader::ReadColumn(TemplateTable& table)
+void TableReader::ReadColumn(TemplateTable& table)
 {
-    ElementAttributes attributes(m_xml, *this);
+    ElementAttributes attributes(m_xml);
     TemplateColumn column;
     column.line = attributes.Line();
     column.condition = attributes.Condition(u"if");
@@ -103,14 +102,14 @@ void TemplateReader::ReadColumn(TemplateTable& table)
         column.total = attributes.Condition(u"total");
     }
     attributes.Finish();
-    column.cell = ReadContent(column.line);
+    column.cell = m_xml.ReadContent(column.line);
     table.hasHeads = table.hasHeads || !column.head.IsEmpty();
     table.columns.push_back(std::move(column));
 }
 
-void TemplateReader::ReadGroup(TemplateTable& table, Place place)
+void TableReader::ReadGroup(TemplateTable& table, ElementPlace place)
 {
-    ElementAttributes attributes(m_xml, *this);
+    ElementAttributes attributes(m_xml);
     TemplateGroup group;
     group.line = attributes.Line();
     group.name = attributes.Required(u"by");
@@ -119,16 +118,15 @@ void TemplateReader::ReadGroup(TemplateTable& table, Place place)
     group.head = attributes.Template(u"head");
     group.foot = attributes.Template(u"foot");
     group.keep = static_cast<int>(attributes.Number(u"keep", 1, MostRows, 1));
-    group.newPage = attributes.Flag(u"newpage");
-    RefuseNewPage(group.line, group.newPage, place);
+    group.newPage = attributes.NewPage(place);
     attributes.Finish();
-    while (NextElement()) {
-        if (m_xml.name() == u"head")
+    while (m_xml.NextElement()) {
+        if (m_xml.Name() == u"head")
             ReadLine(group.headLines);
-        else if (m_xml.name() == u"foot")
+        else if (m_xml.Name() == u"foot")
             ReadLine(group.footLines);
         else
-            RefuseElement();
+            m_xml.RefuseElement();
     }
     if (!by)
         return;
@@ -136,24 +134,24 @@ void TemplateReader::ReadGroup(TemplateTable& table, Place place)
     table.groups.push_back(std::move(group));
 }
 
-void TemplateReader::ReadTotal(TemplateTable& table)
+void TableReader::ReadTotal(TemplateTable& table)
 {
-    ElementAttributes attributes(m_xml, *this);
+    ElementAttributes attributes(m_xml);
     if (table.totalLabel)
         attributes.Fault(QStringLiteral("there is a second <total>"));
     table.totalLine = attributes.Line();
     table.totalLabel = attributes.Template(u"label");
     attributes.Finish();
-    while (NextChild(u"foot"))
+    while (m_xml.NextChild(u"foot"))
         ReadLine(table.totalLines);
 }
 
-void TemplateReader::ReadPageTotals(TemplateTable& table, Place place)
+void TableReader::ReadPageTotals(TemplateTable& table, ElementPlace place)
 {
-    ElementAttributes attributes(m_xml, *this);
+    ElementAttributes attributes(m_xml);
     if (table.page)
         attributes.Fault(QStringLiteral("there is a second <page>"));
-    if (place != Place::Flow)
+    if (place != ElementPlace::Flow)
         attributes.Fault(QStringLiteral("the table of a <page> can't stand in a <column>"));
     TemplatePageTotals& page = table.page.emplace();
     page.line = attributes.Line();
@@ -163,5 +161,5 @@ void TemplateReader::ReadPageTotals(TemplateTable& table, Place place)
     if (page.foot.IsEmpty() && page.carry.IsEmpty() && page.head.IsEmpty())
         attributes.Fault(QStringLiteral("<page> needs \"foot\", \"carry\" or \"head\""));
     attributes.Finish();
-    EndEmpty();
+    m_xml.EndEmpty();
 }

@@ -1,19 +1,13 @@
 #pragma once
 
-#include "platform/template/ReportTemplate.h"
+#include "platform/report/FontTable.h"
+#include "platform/template/TextLook.h"
 
 #include <QRectF>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
-
-// A font of a report's pages.
-struct FontSpec {
-    QString family;
-    float size = 10; // points
-    bool isBold = false;
-    bool operator==(const FontSpec&) const = default;
-};
 
 // What a text does that is wider than its place: figures are never cut.
 enum class Fit : quint8 { Wrap, Cut, Shrink };
@@ -40,17 +34,6 @@ struct Page {
     bool restartsPages = false; // it is the first of pages that are numbered by themselves
     std::vector<PlacedItem> items;
     std::vector<quint32> waiting; // the items whose text waits for the number of pages
-};
-
-// The fonts of a report's pages, each once.
-class FontTable {
-public:
-    // The position of a font; it is put in if it isn't there.
-    quint16 Add(const FontSpec& font);
-    const FontSpec& At(quint16 index) const { return m_fonts[index]; }
-
-private:
-    std::vector<FontSpec> m_fonts;
 };
 
 // All items of a page as lines of text, for looking at by eye and in tests:

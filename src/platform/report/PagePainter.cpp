@@ -1,4 +1,4 @@
-#include "platform/report/Drawing.h"
+#include "platform/report/PagePainter.h"
 
 #include "platform/report/Evaluation.h"
 #include "platform/report/LayoutPool.h"
