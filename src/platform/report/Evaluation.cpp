@@ -149,6 +149,8 @@ Value Evaluate(const Expression& expression, ReportData& data)
         return Value::OfNumber(expression.number);
     case Operation::Text:
         return Value::OfText(expression.text);
+    case Operation::Date:
+        return Value::OfDate(QDate::fromString(expression.text, Qt::ISODate));
     case Operation::Field:
         return EvaluateField(expression, data);
     case Operation::Page:

@@ -12,9 +12,7 @@ struct Selection {
     QDate date = {}; // the one that a column has to have; none if there is no such day, or more than one
 };
 
-// Reads a selection formula such as
-//   {MilkPayments.PaymentDate} = DateTime (2026,4,1,00, 00, 00) and {MilkPayments.Liters} > 0
-// with = <> < > <= >=, numbers, texts in quotes, Date(y,m,d), DateTime(y,m,d,h,m,s), and, or, not and
-// brackets. All its fields are of one table. An empty formula selects everything. A formula that can't be
-// read, or that names a column which isn't there, is a run-time error that shows it.
+// Reads a selection formula (see ReadFormula): comparisons of a field with a number, a text or a day, joined
+// by and, or, not and brackets. All its fields are of one table. An empty formula selects everything. A
+// formula that can't be read, or that names a column which isn't there, is a run-time error that shows it.
 Selection ReadSelectionFormula(const QString& formula, Connection& connection);

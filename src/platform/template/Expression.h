@@ -8,6 +8,7 @@
 enum class Operation : quint8 {
     Number, // a literal: `number`
     Text, // a literal: `text`
+    Date, // a literal of a selection formula: `text` as yyyy-MM-dd
     Field, // `qualifier`.`text`
     Page, // #page
     PageCount, // #pages

@@ -99,6 +99,8 @@ ValueType ExpressionBinder::Bind(Expression& expression, const Place& place)
         return ValueType::Number;
     case Operation::Text:
         return ValueType::Text;
+    case Operation::Date:
+        return ValueType::Date;
     case Operation::Field:
         return BindField(expression, place);
     case Operation::Page:

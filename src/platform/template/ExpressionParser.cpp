@@ -1,8 +1,10 @@
 #include "platform/template/ExpressionParser.h"
 
 #include "platform/template/ExactSum.h"
-#include "platform/template/ExpressionTokens.h"
 
+#include <QDate>
+
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -10,7 +12,7 @@ namespace {
 // Reads by descent; the first fault ends the reading.
 class Parser {
 public:
-    explicit Parser(QStringView text) : m_tokens(text) { Next(); }
+    Parser(QStringView text, Grammar grammar) : m_tokens(text, grammar), m_grammar(grammar) { Next(); }
 
     Expression ReadAll()
     {
@@ -28,7 +30,12 @@ private:
     void Next() { m_token = m_tokens.Next(); }
 
     bool IsSign(QStringView sign) const { return m_token.kind == Token::Kind::Sign && m_token.text == sign; }
-    bool IsWord(QStringView word) const { return m_token.kind == Token::Kind::Name && m_token.text == word; }
+    bool IsFormula() const { return m_grammar == Grammar::Formula; }
+    bool IsWord(QStringView word) const
+    {
+        return m_token.kind == Token::Kind::Name
+            && word.compare(m_token.text, IsFormula() ? Qt::CaseInsensitive : Qt::CaseSensitive) == 0;
+    }
     bool Accept(QStringView sign);
     void Expect(QStringView sign);
 
@@ -41,7 +48,12 @@ private:
     Expression ReadSigned();
     Expression ReadPrimary();
     Expression ReadName(const QString& name);
+    Expression ReadField(const QString& name);
     Expression ReadCall(const QString& name);
+    Expression ReadFieldInBraces();
+    bool IsDate(const QString& name) const;
+    Expression ReadDate(const QString& name);
+    int ReadWhole();
     PrintFormat ReadFormat();
     Expression ReadAggregate(AggregateKind kind);
     static Expression Pair(Operation operation, Expression first, Expression second);
@@ -59,6 +71,7 @@ private:
     };
 
     TokenReader m_tokens;
+    Grammar m_grammar;
     int m_depth = 0;
     Token m_token;
 };
@@ -195,6 +208,8 @@ Expression Parser::ReadPrimary()
         Next();
         return ReadName(token.text);
     case Token::Kind::Sign:
+        if (IsFormula() && Accept(u"{"))
+            return ReadFieldInBraces();
         if (!Accept(u"("))
             Fail(QStringLiteral("a value is missing before \"%1\"").arg(token.text));
         whole = ReadOr();
@@ -210,7 +225,14 @@ Expression Parser::ReadPrimary()
 Expression Parser::ReadName(const QString& name)
 {
     if (IsSign(u"("))
-        return ReadCall(name);
+        return IsDate(name) ? ReadDate(name) : ReadCall(name);
+    if (IsFormula())
+        Fail(QStringLiteral("a field such as {Table.Column} is missing"));
+    return ReadField(name);
+}
+
+Expression Parser::ReadField(const QString& name)
+{
     Expression field;
     field.operation = Operation::Field;
     field.text = name;
@@ -222,6 +244,59 @@ Expression Parser::ReadName(const QString& name)
         Next();
     }
     return field;
+}
+
+Expression Parser::ReadFieldInBraces()
+{
+    const Token table = m_token;
+    Next();
+    if (table.kind != Token::Kind::Name || !IsSign(u"."))
+        Fail(QStringLiteral("a field such as {Table.Column} is missing"));
+    Expression field = ReadField(table.text);
+    Expect(u"}");
+    return field;
+}
+
+bool Parser::IsDate(const QString& name) const
+{
+    return IsFormula()
+        && (name.compare(u"Date", Qt::CaseInsensitive) == 0
+            || name.compare(u"DateTime", Qt::CaseInsensitive) == 0);
+}
+
+// Year, month and day, and for a DateTime the time, which is midnight.
+Expression Parser::ReadDate(const QString& name)
+{
+    Expect(u"(");
+    std::vector<int> parts{ReadWhole()};
+    while (Accept(u","))
+        parts.push_back(ReadWhole());
+    Expect(u")");
+    if (parts.size() != 3 && parts.size() != 6)
+        Fail(QStringLiteral("%1() takes year, month and day, and maybe a time").arg(name));
+    const QDate date(parts[0], parts[1], parts[2]);
+    if (!date.isValid())
+        Fail(QStringLiteral("\"%1(%2,%3,%4)\" is no date")
+                 .arg(name)
+                 .arg(parts[0])
+                 .arg(parts[1])
+                 .arg(parts[2]));
+    if (std::any_of(parts.begin() + 3, parts.end(), [](int part) { return part != 0; }))
+        Fail(QStringLiteral("the books hold dates without a time of day"));
+    Expression whole;
+    whole.operation = Operation::Date;
+    whole.text = date.toString(Qt::ISODate);
+    return whole;
+}
+
+int Parser::ReadWhole()
+{
+    bool isWhole = false;
+    const int number = m_token.text.toInt(&isWhole);
+    if (m_token.kind != Token::Kind::Number || !isWhole)
+        Fail(QStringLiteral("\"%1\" is no whole number").arg(m_token.text));
+    Next();
+    return number;
 }
 
 Expression Parser::ReadCall(const QString& name)
@@ -305,18 +380,28 @@ Expression Parser::ReadAggregate(AggregateKind kind)
     return call;
 }
 
-}
-
-std::optional<Expression> ReadExpression(QStringView text, ExpressionFault& fault)
+std::optional<Expression> Read(QStringView text, Grammar grammar, ExpressionFault& fault)
 {
     if (text.size() > LongestExpression) {
         fault.text = QStringLiteral("it is longer than %1 characters").arg(LongestExpression);
         return std::nullopt;
     }
     try {
-        return Parser(text).ReadAll();
+        return Parser(text, grammar).ReadAll();
     } catch (const ExpressionFault& found) {
         fault = found;
         return std::nullopt;
     }
+}
+
+}
+
+std::optional<Expression> ReadExpression(QStringView text, ExpressionFault& fault)
+{
+    return Read(text, Grammar::Template, fault);
+}
+
+std::optional<Expression> ReadFormula(QStringView text, ExpressionFault& fault)
+{
+    return Read(text, Grammar::Formula, fault);
 }

@@ -35,7 +35,7 @@ Token TokenReader::Next()
     const QChar c = m_text[m_at];
     if (IsDigit(c))
         return TakeNumber();
-    if (c == u'\'')
+    if (c == u'\'' || (c == u'"' && m_grammar == Grammar::Formula))
         return TakeText();
     if (IsNameStart(c))
         return {Token::Kind::Name, TakeWhile(IsNamePart)};
@@ -65,7 +65,7 @@ Token TokenReader::TakeNumber()
 
 Token TokenReader::TakeText()
 {
-    const qsizetype end = m_text.indexOf(u'\'', m_at + 1);
+    const qsizetype end = m_text.indexOf(m_text[m_at], m_at + 1);
     if (end < 0)
         Fail(QStringLiteral("a text in quotes isn't closed"));
     const QStringView inside = m_text.mid(m_at + 1, end - m_at - 1);
@@ -83,7 +83,8 @@ Token TokenReader::TakeSign()
     }
     RefuseForeignSign();
     const QChar c = m_text[m_at++];
-    if (!QStringView(u"+-*/=<>(),.").contains(c))
+    const bool isBrace = m_grammar == Grammar::Formula && (c == u'{' || c == u'}');
+    if (!isBrace && !QStringView(u"+-*/=<>(),.").contains(c))
         Fail(QStringLiteral("\"%1\" has no meaning in an expression").arg(c));
     return {Token::Kind::Sign, QString(c)};
 }

@@ -2,6 +2,10 @@
 
 #include <QString>
 
+// What an expression is written for. In a selection formula fields stand in braces, texts may stand in double
+// quotes, and words may be in capitals.
+enum class Grammar : quint8 { Template, Formula };
+
 // A word of an expression.
 struct Token {
     enum class Kind { End, Number, Text, Name, Hash, Dollar, Sign };
@@ -19,7 +23,7 @@ struct ExpressionFault {
 class TokenReader {
 public:
     // The text must outlive it.
-    explicit TokenReader(QStringView text) : m_text(text) { }
+    TokenReader(QStringView text, Grammar grammar) : m_text(text), m_grammar(grammar) { }
 
     // The next word; one of kind End behind the last.
     Token Next();
@@ -32,5 +36,6 @@ private:
     void RefuseForeignSign() const;
 
     QStringView m_text;
+    Grammar m_grammar;
     qsizetype m_at = 0;
 };

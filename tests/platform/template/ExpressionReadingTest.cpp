@@ -33,3 +33,37 @@ TEST(ExpressionReading, BracketsWithoutEndAreRefusedAndDontOverflow)
         EXPECT_EQ(fault.text, QStringLiteral("the brackets are nested too deeply"));
     }
 }
+
+TEST(ExpressionReading, WhatOnlyAFormulaKnowsIsNoneOfATemplate)
+{
+    const std::pair<const char16_t*, const char16_t*> faults[] = {
+        {u"{p.PaymentDate} = 1", u"\"{\" has no meaning in an expression"},
+        {u"x = \"a\"", u"\"\"\" has no meaning in an expression"},
+        {u"x = Date(2026,4,1)", u"there is no function \"Date\""},
+        {u"x = 1 AND y = 2", u"\"AND\" isn't expected here"}};
+    for (const auto& [text, expected] : faults) {
+        ExpressionFault fault;
+        EXPECT_FALSE(ReadExpression(QStringView(text), fault).has_value());
+        EXPECT_EQ(fault.text, QString::fromUtf16(expected));
+    }
+}
+
+TEST(ExpressionReading, AFormulaReadsItsFieldsAndDaysIntoTheSameTree)
+{
+    ExpressionFault fault;
+    const std::optional<Expression> formula =
+        ReadFormula(u"NOT ({p.PaymentDate} = DateTime (2026,4,1,00, 00, 00))", fault);
+    ASSERT_TRUE(formula) << fault.text.toStdString();
+    ASSERT_EQ(formula->operation, Operation::Not);
+    const Expression& comparison = formula->arguments.front();
+    ASSERT_EQ(comparison.operation, Operation::Equal);
+    EXPECT_EQ(comparison.arguments[0].operation, Operation::Field);
+    EXPECT_EQ(comparison.arguments[0].qualifier, QStringLiteral("p"));
+    EXPECT_EQ(comparison.arguments[0].text, QStringLiteral("PaymentDate"));
+    EXPECT_EQ(comparison.arguments[1].operation, Operation::Date);
+    EXPECT_EQ(comparison.arguments[1].text, QStringLiteral("2026-04-01"));
+    for (const char16_t* text :
+        {u"{p.Day} = Date(2026,4)", u"{p.Day} = Date(2026,4,1.5)", u"{p.Day = 1", u"{.Day} = 1"})
+        EXPECT_FALSE(ReadFormula(QStringView(text), fault).has_value())
+            << QString::fromUtf16(text).toStdString();
+}
