@@ -8,10 +8,10 @@
 
 class ReportData;
 
-// One total in the making.
+// One total while it is being added up.
 class Accumulator {
 public:
-    // Takes in what the arguments of the aggregate come to in one row.
+    // Adds one row: the values of the arguments of the aggregate in that row.
     void Add(const Expression& aggregate, const Value* arguments);
     Value Result(const Expression& aggregate) const;
 
@@ -22,20 +22,20 @@ private:
     Value m_extreme;
 };
 
-// The totals of a table: one line of them for the whole table, and one for each of its groups.
+// All totals of a table at each level: level 0 is the whole table, level n its n-th group.
 class Accumulators {
 public:
     Accumulators(const std::vector<Expression>& aggregates, std::size_t groups);
 
-    // What the current row of the table adds to them, and the taking in of that.
+    // Shares evaluates the arguments of all aggregates in the current row, and Add adds them.
     std::vector<Value> Shares(ReportData& data) const;
     void Add(const std::vector<Value>& shares);
     void Add(ReportData& data) { Add(Shares(data)); }
 
-    // A group begins, and with it all groups inside it.
+    // Starts a group anew, and all groups inside of it.
     void Begin(std::size_t group);
 
-    // What one of them comes to so far: at level 0 of the whole table, at level n of its n-th group.
+    // A total so far; slot is the index of its aggregate.
     Value Result(int slot, int level) const;
 
 private:
@@ -43,8 +43,8 @@ private:
     std::vector<std::vector<Accumulator>> m_levels;
 };
 
-// As long as it lives, totals of a table are told: those of its rows, those of the rows that stand for
-// groups, both at one level.
+// While it lives, expressions can use the totals of a table at one level: those over its rows, and those
+// over the printed rows of rows="groups".
 class TotalsInSight {
 public:
     TotalsInSight(ReportData& data, const Accumulators& rows, const Accumulators& groups, int level);

@@ -63,7 +63,7 @@ void BandMaker::AddWrapped(Band& band, const QString& text, const TextLook& look
         if (!item.text.isEmpty())
             band.items.push_back(item);
         else if (!band.items.empty())
-            band.items.back().height += item.height; // lines with nothing on them
+            band.items.back().height += item.height; // empty lines
         item.y += item.height;
         item.goesOn = true;
     }

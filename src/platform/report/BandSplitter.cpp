@@ -10,7 +10,7 @@ namespace {
 
 constexpr float Tolerance = 0.01F;
 
-// Makes a picture stand in a height: its strokes lie closer, its texts keep their size.
+// Squeezes a picture into a height. Its texts keep their size.
 void Lower(Band& picture, float room)
 {
     const float share = room / picture.height;
@@ -67,7 +67,7 @@ Band BandSplitter::Split(Band& whole, float room)
     first.frames = rest.frames = whole.frames;
     rest.repeated = whole.repeated;
     rest.keepWithNext = whole.keepWithNext;
-    bool goesOver = false; // the item before, or a part of it
+    bool goesOver = false; // the item before, or a part of it, went into the rest
     for (PlacedItem& item : whole.items) {
         if (item.goesOn && goesOver)
             item.y = room + rest.items.back().y + rest.items.back().height;

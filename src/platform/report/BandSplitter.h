@@ -5,16 +5,16 @@
 
 #include <deque>
 
-// How tall strips are together.
+// The height of several bands.
 float HeightOf(const std::vector<Band>& bands);
 
-// Whether there is anything in a strip.
+// True if there is anything in a band.
 bool HasContent(const Band& band);
 
-// Cuts strips that are taller than a page.
+// Splits bands that are taller than a page.
 class BandSplitter {
 public:
-    // `file` is the template's, for the error that a line of it is too tall. All must outlive it.
+    // `file` is the template's, named in the error if a single line is too tall. All must outlive it.
     BandSplitter(TextMeasure& measure, const FontTable& fonts, const QString& file)
         : m_measure(measure)
         , m_fonts(fonts)
@@ -22,13 +22,13 @@ public:
     {
     }
 
-    // Makes the first strip, which is taller than the room of a whole page, stand in it: a picture is made
-    // lower, anything else is cut into what has room and the rest of it.
+    // Makes the first band, which is too tall even for an empty page, fit into `room`: a picture is made
+    // lower; anything else is split, and the rest is put behind it.
     void FitFront(std::deque<Band>& bands, float room);
 
 private:
-    // Leaves in a strip what stands in a height and returns the rest of it: texts are cut between two of
-    // their lines, everything else goes to the side where it begins.
+    // Keeps in `whole` what fits into `room` and returns the rest. Texts are split between two lines,
+    // everything else goes where it begins.
     Band Split(Band& whole, float room);
     void SplitItem(PlacedItem item, float room, Band& first, Band& rest);
     void SplitLanes(Band& whole, float room, Band& first, Band& rest);

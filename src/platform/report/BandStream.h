@@ -2,11 +2,11 @@
 
 #include "platform/report/Band.h"
 
-// A part of a template that gives its strips one after the other, reading rows as it goes.
+// A part of a template that makes its bands one by one and reads rows as it needs them.
 class BandStream {
 public:
     virtual ~BandStream() = default;
 
-    // Puts the next strip into `band`, which is empty; false at the end.
+    // Puts the next band into `band`, which is empty; false at the end.
     virtual bool Next(Band& band) = 0;
 };

@@ -11,15 +11,15 @@
 
 namespace {
 
-constexpr double SpaceForBars = 0.7; // of a label's room
+constexpr double SpaceForBars = 0.7; // share of the room of a label that its bars fill
 constexpr float ThinLine = 0.4F;
 constexpr float ThickLine = 1.4F;
-constexpr double PointSide = 3.6; // of the mark at each point of a line
+constexpr double PointSide = 3.6; // size of the square at each point of a line
 constexpr int WantedTicks = 5;
 constexpr quint8 PaleGray = 210;
 constexpr quint8 Grays[] = {60, 170, 110, 205, 20};
 
-// The figures of a chart: rows that share a label are added together.
+// The numbers of a chart. Successive rows with the same label are added up.
 struct ChartFigures {
     QStringList labels;
     std::vector<std::vector<double>> series;
@@ -27,7 +27,7 @@ struct ChartFigures {
     double most = 0;
 };
 
-// The scale at the left: from `low` to `high` in steps that read well.
+// The scale at the left: from `low` to `high` in round steps.
 struct Scale {
     double low = 0;
     double high = 1;
@@ -71,7 +71,7 @@ Scale MakeScale(double least, double most)
     Scale scale;
     const double range = most > least ? most - least : 1;
     scale.step = std::pow(10, std::floor(std::log10(range / WantedTicks)));
-    for (const double factor : {2.0, 2.5, 2.0}) { // 1, 2, 5, 10
+    for (const double factor : {2.0, 2.5, 2.0}) { // the step becomes 1, 2, 5, 10 times a power of ten
         if (range / scale.step > WantedTicks)
             scale.step *= factor;
     }
@@ -82,7 +82,7 @@ Scale MakeScale(double least, double most)
     return scale;
 }
 
-// Puts the parts of one chart into its strip.
+// Draws the parts of one chart into its band.
 class ChartDrawer {
 public:
     ChartDrawer(const TemplateChart& chart, BandMaker& maker, Stretch stretch, Band& band)

@@ -2,5 +2,5 @@
 
 #include "platform/report/BandMaker.h"
 
-// The strips of a chart: one.
+// The band of a chart, as one picture.
 Band MakeChart(const TemplateChart& chart, BandMaker& maker, Stretch stretch);

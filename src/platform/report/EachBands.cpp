@@ -9,7 +9,7 @@
 
 namespace {
 
-// The children once for each row of a source, or for each run of rows that have the same value.
+// Repeats the elements for each row, or for each run of rows with the same value.
 class EachStream final : public BandStream {
 public:
     EachStream(const TemplateEach& each, BandMaker& maker, Stretch stretch)
@@ -25,7 +25,7 @@ public:
 
     ~EachStream() override
     {
-        m_children.reset(); // what it walks within the current row goes back to that row
+        m_children.reset(); // first, as their own walks give the current row back to this one
         Leave();
     }
 
@@ -63,7 +63,7 @@ private:
         return true;
     }
 
-    // What was current around it is so again.
+    // Gives back the row and the run that were current outside.
     void Leave()
     {
         m_maker.Data.SetCurrent(m_each.source, m_before);
@@ -81,7 +81,8 @@ private:
         return true;
     }
 
-    // Makes the next row the current one, and all that have its value what is walked within it.
+    // Makes the next row the current one. With `by`, all rows with its value are read, and walks inside go
+    // through these.
     bool ReadRun()
     {
         if (!m_each.by)
@@ -101,15 +102,15 @@ private:
         return true;
     }
 
-    // The first strip of a row takes its record along.
+    // The first band of a row carries its record.
     void Record(Band& band)
     {
         if (std::exchange(m_waitsForRecord, false))
             MakeRecord(band);
     }
 
-    // A row of which nothing went into the spreadsheet by now, such as one without rows inside, stands there
-    // by itself. It is laid out to its end when this is asked.
+    // A row whose inner rows gave no record, for instance because there are none, gets a record of its own.
+    // This is asked when all of the row has been laid out.
     bool RecordAlone(Band& band)
     {
         if (m_depth == 0 || m_maker.RecordCount != m_countBefore)
@@ -124,7 +125,7 @@ private:
         m_maker.RecordCount += 1;
     }
 
-    // All strips of a row that stay together.
+    // Makes all bands of a row that must stay together, or that begin a new page.
     void Collect()
     {
         for (Band band; m_children->Next(band); band = Band()) {
@@ -144,15 +145,15 @@ private:
     const TemplateEach& m_each;
     BandMaker& m_maker;
     Stretch m_stretch;
-    const Row* m_before; // the row that was current around it
+    const Row* m_before; // the row that is current outside
     const std::vector<Row>* m_runAround;
     RowWalk m_walk;
     Row m_row;
-    Row m_ahead; // behind the run, if there is one
+    Row m_ahead; // the row after the run, if there is one
     bool m_hasAhead = false;
-    std::vector<Row> m_run; // the rows that have the value of the current one
-    std::size_t m_depth; // among the parts whose rows go into the spreadsheet, from 1; 0: it is none of them
-    int m_countBefore = 0; // of the records, when the row began
+    std::vector<Row> m_run; // the rows with the same value as the current one
+    std::size_t m_depth; // how deep it is among the <each> that give records, from 1; 0: it gives none
+    int m_countBefore = 0; // number of records when the row began
     bool m_waitsForRecord = false;
     std::unique_ptr<BandStream> m_children;
     std::deque<Band> m_kept;

@@ -34,7 +34,7 @@ Value EvaluateArithmetic(const Expression& expression, ReportData& data)
     case Operation::Multiply:
         return Value::OfNumber(first * second);
     default:
-        // An average of nothing is nothing.
+        // Dividing by 0 gives 0, so that an average over nothing prints as 0.
         return Value::OfNumber(second == 0 ? 0 : first / second);
     }
 }
@@ -103,7 +103,7 @@ bool IsNumber(const Expression& expression, const ReportTemplate& report)
     }
 }
 
-// Parts that have nothing to say leave no separator behind.
+// Empty parts are left out together with their separator.
 QString EvaluateJoin(const Expression& join, ReportData& data)
 {
     QStringList parts;
@@ -115,7 +115,7 @@ QString EvaluateJoin(const Expression& join, ReportData& data)
     return parts.join(Evaluate(join.arguments.front(), data).Text());
 }
 
-// A total outside of a table: the source is walked through for it.
+// A total outside of a table reads through the whole source.
 Value EvaluateOverSource(const Expression& aggregate, ReportData& data)
 {
     const std::vector<Expression> one{aggregate};

@@ -5,18 +5,17 @@
 class ReportData;
 struct ReportTemplate;
 
-// Stands in a text for the number of pages until that is known.
+// Stands for the number of pages in a text until that number is known.
 inline constexpr QChar PageCountMark = QChar(0xFDD0);
 
-// The value of a checked expression for the rows that are current.
+// The value of a checked expression in the current rows.
 Value Evaluate(const Expression& expression, ReportData& data);
 
-// A text of a template with its expressions worked out.
+// A text with its expressions evaluated and printed.
 QString Fill(const TemplateText& text, ReportData& data);
 
-// The same for a spreadsheet, which reads a number only if its digits stand in one: `filled` is what Fill
-// gave.
+// The same for a spreadsheet, which wouldn't read a number with commas. `filled` is the result of Fill.
 QString FillForRecord(const TemplateText& text, const QString& filled, ReportData& data);
 
-// Whether a number of a checked template stands in a text, alone or among words.
+// True if a checked text contains a number, alone or among words.
 bool HoldsFigure(const TemplateText& text, const ReportTemplate& report);

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-// A font of a report's pages.
+// A font that a report uses.
 struct FontSpec {
     QString family;
     float size = 10; // points
@@ -12,10 +12,10 @@ struct FontSpec {
     bool operator==(const FontSpec&) const = default;
 };
 
-// The fonts of a report's pages, each once.
+// All fonts of a report, so that an item on a page needs only an index.
 class FontTable {
 public:
-    // The position of a font; it is put in if it isn't there.
+    // The index of a font, which is added if it is new.
     quint16 Add(const FontSpec& font);
     const FontSpec& At(quint16 index) const { return m_fonts[index]; }
 

@@ -3,27 +3,28 @@
 #include "platform/report/TextMeasure.h"
 #include "platform/template/ReportTemplate.h"
 
-// The least height of some elements, in points.
+// The least height that some elements take, in points.
 struct LeastHeight {
-    double always = 0; // of those that are always there
-    double atTimes = 0; // of the tallest one that has a condition
+    double always = 0; // of the elements without a condition
+    double atTimes = 0; // of the tallest element with a condition
 
     double Most() const { return always + atTimes; }
 };
 
-// Measures what the elements of a template need at least, before anything is filled in: texts and pairs one
-// line each, spaces and rules what they are.
+// Works out the least height of elements before a template is filled: one line for a text or a pair, and the
+// exact height of spaces and rules.
 class HeightReckoner {
 public:
     explicit HeightReckoner(const ReportTemplate& report) : m_report(report) { }
 
-    // The height of a line; letters that have no size are as large as those around, or as the template's.
+    // The height of a line of text; see ReportTemplate::LetterSize.
     double Line(const TextLook& look, double sizeAround = 0);
 
-    // The height of what is written in a bold text without its {expressions}, in a width.
+    // The height of the words of a text without its {expressions}, in bold and in this width.
     double Written(const TemplateText& text, const TextLook& look, double sizeAround, double width);
 
-    // Of elements below each other. Those that break over pages by themselves, such as tables, count nothing.
+    // The height of elements below each other. What can be split between pages, such as a table, counts as
+    // 0.
     LeastHeight Of(const std::vector<TemplateElement>& elements);
 
 private:

@@ -21,7 +21,7 @@ bool HoldsRows(const TemplateLane& lane)
     });
 }
 
-// Lays out one strip of blocks side by side.
+// Lays out blocks side by side as one band.
 class LanesMaker {
 public:
     LanesMaker(const TemplateLanes& lanes, BandMaker& maker, Stretch stretch) : m_lanes(lanes), m_maker(maker)
@@ -53,7 +53,7 @@ public:
     }
 
 private:
-    // Draws a frame and returns the room in it.
+    // Adds a frame and returns the room inside of it.
     Stretch AddFrame(double weight, Stretch around, float inset)
     {
         m_band.frames.push_back({static_cast<float>(weight), around.x, around.width, inset});
@@ -101,11 +101,11 @@ private:
     const TemplateLanes& m_lanes;
     BandMaker& m_maker;
     Stretch m_stretch;
-    float m_inset = 0; // of the lanes' frames from the edge of the strip
+    float m_inset = 0; // distance of the frames of the lanes from the edge of the band
     float m_padding =
         0; // above and below what stands in the lanes, framed or not, so that their lines are level
     Band m_band;
-    std::vector<std::vector<Band>> m_bottoms; // of each lane what stands at its bottom
+    std::vector<std::vector<Band>> m_bottoms; // the <bottom> of each lane
 };
 
 }

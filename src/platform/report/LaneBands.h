@@ -2,6 +2,6 @@
 
 #include "platform/report/BandMaker.h"
 
-// The strip of blocks side by side: each is laid out to its end, and the page decides how much of each it
-// takes.
+// The band of blocks side by side. All of each block is laid out now; how much of it a page takes is decided
+// when it is placed.
 Band MakeLanes(const TemplateLanes& lanes, BandMaker& maker, Stretch stretch);

@@ -18,7 +18,7 @@ bool LaneFiller::Continue(Sheet& sheet)
     if (m_lanes.empty())
         return true;
     const float top = sheet.y;
-    std::vector<float> ends; // of what stands of each on this page
+    std::vector<float> ends; // where each lane ends on this page
     bool isAtBottom = true;
     for (std::deque<Band>& lane : m_lanes) {
         ends.push_back(FillLane(sheet, lane, top));
@@ -34,8 +34,8 @@ bool LaneFiller::Continue(Sheet& sheet)
     return isDone;
 }
 
-// Places what stands at the bottom of the lanes, all of it ending at one height; false if it has no room. On
-// a page of its own it has as much as there is.
+// Places the <bottom> of each lane so that all of them end at the same height; false if there is no room. At
+// the top of a page they take the room there is.
 bool LaneFiller::PlaceBottoms(Sheet& sheet, std::vector<float>& ends)
 {
     std::vector<float> heights;
@@ -55,20 +55,19 @@ bool LaneFiller::PlaceBottoms(Sheet& sheet, std::vector<float>& ends)
     for (std::size_t i = 0; i < m_lanes.size(); ++i) {
         if (m_lanes[i].empty())
             continue;
-        m_lanes[i].pop_front(); // the room above it
+        m_lanes[i].pop_front(); // the elastic band above the bottom
         ends[i] = FillLane(sheet, m_lanes[i], fits ? end - heights[i] : ends[i]);
         isDone = isDone && m_lanes[i].empty();
     }
     return isDone;
 }
 
-// Fills one of the strips side by side from a height on, as far as it goes or down to what stands at its
-// bottom; returns where it ends.
+// Places a lane from `top` on until the page is full, or down to its <bottom>; returns where it ends.
 float LaneFiller::FillLane(Sheet& sheet, std::deque<Band>& lane, float top)
 {
     bool isFirst = sheet.isEmpty;
     float y = isFirst && !lane.empty() ? sheet.PutRepeated(lane.front(), top) : top;
-    std::size_t chain = 0; // strips at the front that stay together and have begun
+    std::size_t chain = 0; // how many of the bands that stay together are still to be placed
     while (!lane.empty() && !lane.front().isElastic) {
         if (chain == 0) {
             chain = ChainIn(lane);

@@ -5,18 +5,18 @@
 
 #include <deque>
 
-// Places strips that stand side by side, each as far as a page goes.
+// Places blocks that stand side by side, as much of each as the page takes.
 class LaneFiller {
 public:
-    // The splitter must outlive it; the height is that of a page between its margins.
+    // The splitter must outlive it. `pageHeight` is the height between the margins.
     LaneFiller(BandSplitter& splitter, float pageHeight) : m_splitter(splitter), m_pageHeight(pageHeight) { }
 
-    // Takes over the lanes of a strip.
+    // Takes the lanes and frames of a band.
     void Take(Band& band);
 
     bool IsEmpty() const { return m_lanes.empty(); }
 
-    // Goes on with what is left; true when nothing of it is.
+    // Places what is left of them; true if that was all.
     bool Continue(Sheet& sheet);
 
 private:
@@ -25,6 +25,6 @@ private:
 
     BandSplitter& m_splitter;
     float m_pageHeight;
-    std::vector<std::deque<Band>> m_lanes; // what is left of each
+    std::vector<std::deque<Band>> m_lanes; // the bands that are left of each
     std::vector<Frame> m_frames; // around them
 };

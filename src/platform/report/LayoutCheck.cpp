@@ -11,10 +11,10 @@
 
 namespace {
 
-constexpr double LinesOfAChart = 3; // the legend, the labels, and half a line at both ends of the scale
+constexpr double LinesOfAChart = 3; // the legend, the labels, and half a line at each end of the scale
 constexpr double Tolerance = 0.05;
 
-// Points as millimetres.
+// A length in points, shown in millimetres.
 QString Shown(double points)
 {
     return QString::number(std::max(points, 0.0) / PointsPerMillimetre, 'f', 1);
@@ -54,8 +54,8 @@ private:
             QStringLiteral("the font \"%1\" isn't installed").arg(m_report.fontNames.trimmed()));
     }
 
-    // What the head and the foot of a page leave of it. If they leave nothing, that is the fault, and what
-    // stands between them isn't looked at.
+    // The height that header and footer leave for the report. If that is too little, this is the only fault,
+    // and the body is checked as if there were room.
     double RoomForBody()
     {
         const double page = m_report.paper.BodyHeight();
@@ -129,7 +129,8 @@ private:
         CheckHeads(table, line, ColumnWidths(table, width));
     }
 
-    // The heads come again on every page, with a row below them at least, and the totals of the page.
+    // Each page of a table begins with its heads, and needs room for at least one row and the totals of the
+    // page.
     void CheckHeads(const TemplateTable& table, int line, const std::vector<double>& widths)
     {
         double spans = 0;

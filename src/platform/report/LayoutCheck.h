@@ -4,11 +4,10 @@
 
 class Connection;
 
-// The whole check of a template: Check of the language, and what depends on the fonts of this machine. Takes
-// the first of its fonts that is installed, and tells of none, and of what is taller than the paper. Only a
-// template without faults can be laid out.
+// The whole check of a template before it is laid out: Check, and what depends on the fonts of this machine.
+// Uses the first of the template's fonts that is installed. Reports if none is, and whatever is taller than
+// the paper.
 TemplateFaults CheckForLayout(ReportTemplate& report, Connection& connection);
 
-// Reads a template file and checks all of it. The faults come in the order of their lines; of very many only
-// the first, and that there are more.
+// Reads a template file and checks all of it. The faults are sorted and cut by SortAndCut.
 ReportTemplate ReadForLayout(const QString& file, Connection& connection, TemplateFaults& faults);

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-// How a task that the machine can refuse has ended. Nothing of the books hangs on it.
+// The result of something the machine may refuse to do, such as printing. The books don't depend on it.
 struct Outcome {
     QString fault; // a sentence for the clerk; empty if it was done
     bool Done() const { return fault.isEmpty(); }

@@ -117,7 +117,7 @@ void PagePainter::Private::DrawSingle(cairo_t* cairo, const PlacedItem& item, co
 {
     PangoLayout* const layout = pool.Single(fonts.At(item.font));
     double width = 0;
-    // Of a text that is cut, no more is laid out than can be seen.
+    // Of a text that is cut off, only as much is laid out as can be seen.
     for (qsizetype length = item.fit == Fit::Cut ? Portion : text.size();; length *= 2) {
         SetText(layout, text.left(length));
         width = WidthOf(layout);

@@ -8,19 +8,19 @@
 #include <functional>
 #include <memory>
 
-// Paints pages: the same strokes for the screen and for the paper.
+// Paints pages, on the screen exactly as on paper.
 class PagePainter {
 public:
-    // The fonts of the pages; they must outlive it.
+    // `fonts` are those of the pages and must outlive the painter.
     explicit PagePainter(const FontTable& fonts);
     ~PagePainter();
     PagePainter(const PagePainter&) = delete;
     PagePainter& operator=(const PagePainter&) = delete;
 
-    // The page as a picture on white; `scale` is dots a point.
+    // The page as an image on white; `scale` is pixels a point.
     QImage Image(const Page& page, double scale);
 
-    // Writes pages as a PDF with its fonts in it. Returns false if the device didn't take all of it.
+    // Writes pages as a PDF with its fonts embedded. Returns false if the device didn't take everything.
     bool WritePdf(QIODevice& device, const QString& title, std::size_t pages,
         const std::function<const Page&(std::size_t)>& page);
 

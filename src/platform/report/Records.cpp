@@ -8,7 +8,7 @@ namespace {
 
 using Elements = std::vector<TemplateElement>;
 
-// Whether something is found in one of the blocks of an element, the left one first.
+// Looks into the blocks of an element, from left to right; true if `find` returned true.
 template <typename Find> bool InLanes(const TemplateElement& element, const Find& find)
 {
     const TemplateLanes* const lanes = element.As<TemplateLanes>();
@@ -36,7 +36,7 @@ bool FindTable(const Elements& elements, RecordPlan& plan)
     return false;
 }
 
-// The innermost part that comes once a row.
+// Finds the first <each>, and the <each> inside of it down to the innermost.
 bool FindEach(const Elements& elements, RecordPlan& plan)
 {
     for (const TemplateElement& element : elements) {

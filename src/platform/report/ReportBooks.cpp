@@ -4,7 +4,7 @@
 
 namespace {
 
-// The file of the books that a logon names. A data source can be pointed to another file meanwhile.
+// The database file of a logon. The same data source can mean another file later.
 QString FileOf(const QString& logon)
 {
     const QString name = logon.section(u';', 0, 0).section(u'=', 1).trimmed();

@@ -5,25 +5,25 @@
 #include <memory>
 #include <vector>
 
-// The connection that reports read the books through. It is kept open, and so is the list of the reports that
-// still read through it.
+// The database connection that reports read through. It is kept open, and with it a list of the reports that
+// haven't read all their rows yet.
 class ReportBooks {
 public:
     static ReportBooks& Current();
 
-    // The connection for a logon, with no report reading on it any more: as long as one does, the connection
-    // goes on seeing the books of the moment when that report was begun. So those are laid out to their end
-    // first.
+    // The connection for a logon, after all reports that still read through it have been laid out to their
+    // end. They have to be: as long as one of them reads, the connection shows the books as they were when
+    // that report began.
     std::shared_ptr<Connection> Open(const QString& logon);
 
-    // The same without waiting for anybody: opens the books ahead of time. If they can't be opened,
-    // everything stays as it was.
+    // Opens the books ahead of time and doesn't wait for other reports. If they can't be opened, everything
+    // stays as it was.
     std::shared_ptr<Connection> Prepare(const QString& logon);
 
-    // A report that was begun reads on until it is complete.
+    // Adds a report that still has rows to read.
     void Add(const std::shared_ptr<Report>& report) { m_reading.push_back(report); }
 
-    // Lays out all that is being read, and closes the books.
+    // Lays out all reports that are still reading, and closes the books.
     void Close();
 
 private:

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double ScreenScale = 1.5; // dots a point, about as a slip is looked at
+constexpr double ScreenScale = 1.5; // pixels a point, about what the preview shows a slip at
 
 [[noreturn]] void ThrowFaults(const QString& path, const TemplateFaults& faults)
 {
@@ -59,7 +59,7 @@ void ReportControl::Prepare() const
 {
     try {
         Begin(ReportBooks::Current().Prepare(m_logon))->Image(0, ScreenScale);
-    } catch (const RunTimeError&) { // is told when the report is printed
+    } catch (const RunTimeError&) { // the clerk is told when the report is printed
     }
 }
 

@@ -12,7 +12,7 @@ namespace {
 constexpr qsizetype MostSeenTexts = 20000;
 constexpr qsizetype LongestSeenText = 200;
 
-// What two linked rows share, as one text.
+// The values that link two rows, as one text.
 QString KeyOf(const Row& row, const std::vector<int>& columns)
 {
     QString key;
@@ -36,7 +36,7 @@ int FindSelected(const ReportTemplate& report, const Selection& selection)
     return static_cast<int>(found - report.sources.begin());
 }
 
-// A column whose declaration says nothing comes with what is stored there, as the database tells it.
+// The type of a value in a column without a declared type, as the database names it.
 ValueType TypeOfStored(const FieldValue& told)
 {
     const QString type = told.Text();

@@ -38,7 +38,7 @@ void ReportFiller::BeginRecords()
     }
 }
 
-// A row that has fewer fields than there are heads is filled up with empty ones.
+// A record with fewer fields than there are heads is filled up with empty ones.
 void ReportFiller::Record(QStringList record)
 {
     if (record.isEmpty())
@@ -106,7 +106,7 @@ bool ReportFiller::NextPage(Page& page)
 {
     if (m_isDone)
         return false;
-    Fetch(); // the rows that the head of the page speaks of
+    Fetch(); // sets the current row, which the header of the page may print
     Sheet sheet = BeginSheet();
     bool isFull = !m_lanes.Continue(sheet);
     while (!isFull)
@@ -119,7 +119,7 @@ bool ReportFiller::NextPage(Page& page)
     return true;
 }
 
-// Makes sure that a strip is waiting, if there is one.
+// Makes the next band if none is waiting; false at the end.
 bool ReportFiller::Fetch()
 {
     if (!m_waiting.empty())
@@ -133,7 +133,7 @@ bool ReportFiller::Fetch()
     return true;
 }
 
-// How many of the waiting strips stay together; more are made as needed, but not more than fill a page.
+// How many of the waiting bands stay together. More bands are made for this, but no more than fill a page.
 std::size_t ReportFiller::ChainLength()
 {
     std::size_t length = 1;
@@ -160,8 +160,8 @@ float ReportFiller::PageHeight() const
     return static_cast<float>(m_report.paper.BodyHeight());
 }
 
-// What the strips that stay together take up. Blocks side by side that stand at their end may go on over the
-// page: those with rows in them, and those that no page can hold.
+// The height of bands that stay together. If the last is blocks side by side, it counts with the least it
+// can begin with, provided that it contains rows or no page can hold it.
 float ReportFiller::ChainHeight(std::size_t length) const
 {
     float height = 0;
@@ -172,7 +172,7 @@ float ReportFiller::ChainHeight(std::size_t length) const
     return height + (goesOn ? LeastHeight(last, PageHeight()) : last.height);
 }
 
-// Places the strips that stay together. False when the page is full or the report has ended.
+// Places the bands that stay together. False if the page is full or the report has ended.
 bool ReportFiller::PlaceChain(Sheet& sheet)
 {
     if (!Fetch())
@@ -186,7 +186,7 @@ bool ReportFiller::PlaceChain(Sheet& sheet)
     const bool isWhole =
         sheet.y + (sheet.isEmpty ? HeightAbove(front) : 0) + height <= end + Sheet::Tolerance;
     if (!sheet.isEmpty && !isWhole) {
-        // What fills more than a page by itself begins where it is, if it can begin there at all.
+        // If no page can hold them, they begin here as long as there is room for a beginning.
         const bool isHopeless = HeightAbove(front) + height + sheet.end - end > PageHeight();
         const float least = LeastHeight(front, PageHeight()) + HeightBelow(front);
         if (!isHopeless || sheet.y + least > sheet.end + Sheet::Tolerance)
@@ -199,7 +199,7 @@ bool ReportFiller::PlaceChain(Sheet& sheet)
     return true;
 }
 
-// Places the first waiting strip above `end`; false if it, or a part of it, has to go on to the next page.
+// Places the first waiting band above `end`; false if it, or a part of it, must go to the next page.
 bool ReportFiller::PlaceNext(Sheet& sheet, float end)
 {
     Band& front = m_waiting.front();

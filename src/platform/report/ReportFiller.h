@@ -7,20 +7,20 @@
 
 #include <deque>
 
-// Fills a checked template: reads rows as it goes and gives one page after the other.
+// Fills a checked template page by page and reads rows as it needs them.
 class ReportFiller {
 public:
-    // The template, the connection and the fonts must outlive it. New fonts are put in as they are met.
+    // Template, connection and fonts must outlive it. The fonts that the pages use are added to `fonts`.
     ReportFiller(const ReportTemplate& report, Connection& connection, Selection selection, FontTable& fonts);
     ~ReportFiller();
 
-    // Lays out the next page; false when there is none any more. A report without a row has one page.
+    // Lays out the next page; false if there are no more. A report without rows has one page.
     bool NextPage(Page& page);
 
-    // The rows that stand on the pages so far, for a spreadsheet (see RecordPlan). The heads come first.
+    // The records of the pages so far, for a spreadsheet (see RecordPlan). The heads come first.
     const std::vector<QStringList>& Records() const { return m_records; }
 
-    // What its texts are measured with.
+    // What texts are measured with.
     const TextMeasure& Measure() const { return m_measure; }
 
 private:
@@ -42,9 +42,9 @@ private:
     BandMaker m_maker;
     BandSplitter m_splitter;
     std::unique_ptr<BandStream> m_flow;
-    std::deque<Band> m_waiting; // strips that are made and not yet placed
-    LaneFiller m_lanes; // those that have begun
-    bool m_hasEnded = false; // the flow gives no more strips
+    std::deque<Band> m_waiting; // bands that are made but not placed yet
+    LaneFiller m_lanes; // blocks side by side that continue on the next page
+    bool m_hasEnded = false; // the flow has no more bands
     bool m_isDone = false;
     std::vector<QStringList> m_records;
 };

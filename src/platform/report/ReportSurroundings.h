@@ -4,25 +4,25 @@
 
 #include <functional>
 
-// Where a report is shown, and where the machine's refusals are told. Whoever installs one owns it.
+// Shows reports, and says why one couldn't be printed. It is owned by whoever installs it.
 class ReportWindow {
 public:
     virtual ~ReportWindow() = default;
 
-    // Shows a report whose first page has been laid out; the window lays out the rest when it has time, and
-    // keeps the report as long as it is looked at.
+    // Shows a report whose first page is laid out. The window lays out the rest when it has time, and keeps
+    // the report as long as it is shown.
     virtual void Show(std::shared_ptr<Report> report) = 0;
 
-    // Tells the clerk one sentence, such as why nothing was printed.
+    // Tells the clerk a sentence, such as why nothing was printed.
     virtual void Tell(const QString& sentence) = 0;
 };
 
-// What the report controls of the screens work with.
+// What the report controls of all screens work with.
 struct ReportSurroundings {
     ReportWindow* window = nullptr;
     Printer* printer = nullptr;
-    std::function<QString(const QString&)> localPath; // where a path of AppFolder lies on this machine
+    std::function<QString(const QString&)> localPath; // turns a path below AppFolder into one of this machine
 
-    // Those of the program; there is neither window nor printer until somebody puts one in.
+    // The ones of this program. Window and printer are null until they are installed.
     static ReportSurroundings& Current();
 };

@@ -4,14 +4,14 @@
 
 #include <memory>
 
-// A walk through the rows of a source: all of it, those that hang on the parent's current row, or a run of
-// them.
+// Goes through the rows of a source: all of them, those linked to the parent's current row, or those of one
+// value of an <each by>.
 class RowWalk {
 public:
-    // Stands before the first row.
+    // Begins before the first row.
     RowWalk(ReportData& data, int source);
 
-    // Puts the next row into `row`; false at the end.
+    // Reads the next row into `row`; false at the end.
     bool Next(Row& row);
 
 private:

@@ -13,13 +13,13 @@
 
 namespace {
 
-// One side of a comparison.
+// One side of a comparison, as SQL.
 struct Operand {
     ValueType type = ValueType::Number;
     QString sql;
 };
 
-// Words a formula that has been read as the condition of a statement.
+// Turns a formula into the condition of an SQL statement.
 class Translation {
 public:
     Translation(const QString& formula, Connection& connection)
@@ -57,8 +57,8 @@ private:
 
     const QString m_formula;
     QString m_table;
-    QList<QDate> m_dates; // that columns have to have, each once
-    bool m_isOneChain = true; // all comparisons have to hold: there is neither "or" nor "not"
+    QList<QDate> m_dates; // the days that a column is compared with by =, without duplicates
+    bool m_isOneChain = true; // there is no "or" and no "not", so all comparisons must hold
     Catalogue m_catalogue;
 };
 

@@ -6,8 +6,8 @@
 
 namespace {
 
-// A connection to the machine's print service. A service that is too slow to answer is given up, once and for
-// all, so that the clerk isn't kept waiting.
+// A connection to the print service. If the service doesn't answer in time, it is given up for good, so that
+// the clerk doesn't have to wait.
 class Service {
 public:
     explicit Service(std::chrono::milliseconds patience)
@@ -23,14 +23,14 @@ public:
     Service(const Service&) = delete;
     Service& operator=(const Service&) = delete;
 
-    // Whether it can still be asked.
+    // True if it can still be asked.
     bool IsThere() const { return m_http && !m_hasGivenUp; }
     bool HasGivenUp() const { return m_hasGivenUp; }
     http_t* Http() const { return m_http; }
 
 private:
-    // Handing over a job asks some questions on connections that have no limit: a service that is silent is
-    // to be known before.
+    // To hand over a job, CUPS opens connections of its own that have no time limit. So a silent service
+    // must be noticed before.
     void Greet() { ippDelete(cupsDoRequest(m_http, ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/")); }
 
     static int GiveUp(http_t* /*connection*/, void* service)
@@ -43,7 +43,7 @@ private:
     bool m_hasGivenUp = false;
 };
 
-// The printers that the print service knows; freed in the end.
+// The printers of the print service; freed at the end.
 class Destinations {
 public:
     explicit Destinations(const Service& service) : m_count(cupsGetDests2(service.Http(), &m_all)) { }
@@ -64,7 +64,7 @@ private:
     int m_count;
 };
 
-// The options of one job; freed in the end.
+// The options of a print job; freed at the end.
 class Options {
 public:
     ~Options() { cupsFreeOptions(m_count, m_all); }
@@ -84,7 +84,7 @@ private:
     cups_option_t* m_all = nullptr;
 };
 
-// The machine's own choice; empty if it has made none.
+// The default printer; empty if none is set.
 QString DefaultPrinter(const Service& service)
 {
     return service.IsThere() ? QString::fromUtf8(cupsGetDefault2(service.Http())) : QString();
@@ -123,7 +123,7 @@ public:
         const Service service(m_patience);
         QString printer = job.printer.isEmpty() ? DefaultPrinter(service) : job.printer;
         if (printer.isEmpty())
-            printer = NamesOf(service).value(0); // asks for all of them, which takes a while
+            printer = NamesOf(service).value(0); // asks for all printers, which takes longer
         if (service.HasGivenUp())
             return NoAnswer();
         if (printer.isEmpty())

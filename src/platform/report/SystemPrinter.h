@@ -5,6 +5,6 @@
 #include <chrono>
 #include <memory>
 
-// The printers of the system's print service. One that doesn't answer a question in time is given up, and the
-// clerk is told.
+// The printers of the system's print service. If it doesn't answer in time, it is given up, and the clerk is
+// told.
 std::unique_ptr<Printer> MakeSystemPrinter(std::chrono::milliseconds patience = std::chrono::seconds(5));

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr float GroupGap = 5; // above a group that isn't the first
+constexpr float GroupGap = 5; // points above each group but the first
 
 class TableStream final : public BandStream {
 public:
@@ -38,23 +38,23 @@ private:
     QStringList RecordOfRow();
     void SetCurrent(const Row* row) { m_maker.Data.SetCurrent(m_table.source, row); }
 
-    // The groups that rows stand in; those that rows="groups" prints as rows aren't among them.
+    // The number of groups that contain printed rows; with rows="groups" the innermost is itself a row.
     std::size_t GroupsAroundRows() const { return m_table.groups.size() - (m_table.isOfGroups ? 1 : 0); }
 
     const TemplateTable& m_table;
     BandMaker& m_maker;
-    const Row* m_before; // the row that was current around the table
+    const Row* m_before; // the row that is current outside of the table
     RowWalk m_walk;
     std::shared_ptr<const TableStrips> m_strips;
     std::shared_ptr<PageTotals> m_page;
-    PageShare m_share; // of the row in the making
+    PageShare m_share; // of the row that is being made
     Accumulators m_totals, m_groupTotals;
     bool m_hasStarted = false;
     bool m_hasRow = false;
     bool m_hasNext = false;
     bool m_breaks = false;
     int m_toKeep = 0;
-    std::size_t m_changed = 0; // the first group that ends with the current row
+    std::size_t m_changed = 0; // index of the first group that ends with the current row
     Row m_row, m_next;
     std::vector<Value> m_groupValues, m_nextValues;
     std::deque<Band> m_ready;
@@ -140,7 +140,7 @@ bool TableStream::Next(Band& band)
     return true;
 }
 
-// Makes the next row the current one, with the heads of the groups that begin with it.
+// Makes the next row the current one, and the heads of the groups that begin with it.
 void TableStream::BeginRow()
 {
     TakeRow();
@@ -160,7 +160,7 @@ void TableStream::TakeRow()
     SetCurrent(&m_row);
 }
 
-// Adds the current row, and finds out which groups end with it.
+// Adds the current row to the totals and reads the next one, to know which groups end here.
 void TableStream::LookAhead()
 {
     m_totals.Add(m_maker.Data);
@@ -230,7 +230,7 @@ void TableStream::MakeRow()
     Push(std::move(band));
 }
 
-// What ends with the current row stays with it.
+// Feet and totals that follow the current row stay on its page.
 void TableStream::EndRow()
 {
     const std::size_t row = m_ready.size() - 1;

@@ -3,5 +3,5 @@
 #include "platform/report/BandMaker.h"
 #include "platform/report/BandStream.h"
 
-// The rows of a table with their heads, groups and totals.
+// The bands of a table: its heads, rows, groups and totals.
 std::unique_ptr<BandStream> MakeTable(const TemplateTable& table, BandMaker& maker, Stretch stretch);

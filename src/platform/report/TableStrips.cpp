@@ -15,7 +15,7 @@ using Spacing::RowPadding;
 constexpr float ThinRule = 0.4F;
 constexpr quint8 PaleGray = 170;
 
-// Puts a strip below another.
+// Puts a band below another.
 void Stack(Band& above, Band below)
 {
     for (PlacedItem& item : below.items) {
@@ -25,8 +25,8 @@ void Stack(Band& above, Band below)
     above.height += below.height;
 }
 
-// A total in the place of the figures above it: by their format, and with the words around the only one of a
-// cell.
+// A total is printed in the format of its column, and with the words of the column's cell if there is only
+// one figure in that.
 QString TotalText(const TemplateColumn& column, const Value& total)
 {
     const bool isCount =
@@ -94,7 +94,7 @@ void TableStrips::PlaceColumns()
     }
 }
 
-// The place of some columns that stand side by side; nothing if all of them are left out.
+// The place of several columns side by side; nothing if all of them are left out.
 std::optional<Stretch> TableStrips::Across(std::size_t first, std::size_t columns) const
 {
     std::optional<Stretch> place;
@@ -213,7 +213,7 @@ std::optional<Band> TableStrips::Title(const TemplateText& text) const
     return title;
 }
 
-// A cell that stands in one column looks as that column does, but bold.
+// A cell in a single column looks like the column, but bold.
 Band TableStrips::Line(const TemplateLine& line) const
 {
     Band band;

@@ -6,7 +6,7 @@ class ChoiceChecker {
 public:
     ChoiceChecker(const ReportTemplate& report, const SourceUse& use) : m_report(report), m_use(use) { }
 
-    // The first field in what narrows a source that its rows can't be chosen by, or null.
+    // The first field in the `only` of a source that its rows can't be selected by, or null.
     const Expression* FindWrong(int source) const
     {
         const std::optional<Expression>& only = Of(source).only;
@@ -25,7 +25,8 @@ private:
         return nullptr;
     }
 
-    // What hangs on a row follows it; anything else stands still only as long as nobody walks it.
+    // A source that is linked to this one changes along with it. Any other stands still only if nothing in
+    // the template walks through it.
     bool IsWrong(int other, int source) const
     {
         for (int up = other; up >= 0; up = Of(up).parent) {

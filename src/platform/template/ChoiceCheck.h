@@ -5,13 +5,13 @@
 #include <functional>
 #include <set>
 
-// How the sources of a template are come by, as the check has seen it.
+// How a template uses its sources, as far as the check has seen.
 struct SourceUse {
-    std::set<int> walked; // row by row, somewhere in the template
-    std::set<int> readByFirstRow; // while they are not being walked
+    std::set<int> walked; // sources that some element goes through row by row
+    std::set<int> readByFirstRow; // sources whose first row is used outside of such a walk
 };
 
-// Tells of every source whose `only` goes by the row of a source that moves on, although its own rows are
-// chosen once and kept.
+// Reports each source whose `only` depends on the current row of another source, although the rows of the
+// source itself are selected just once and then kept.
 void CheckChoices(const ReportTemplate& report, const SourceUse& use,
     const std::function<void(int, const QString&)>& fault);

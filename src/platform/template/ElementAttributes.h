@@ -7,44 +7,44 @@
 
 #include <QStringList>
 
-// The attributes of one element, each asked for by name. What can't be read becomes a fault, and what it is
-// read as then is of no use.
+// The attributes of one XML element, asked for by name. A value that can't be read is reported as a fault;
+// what the call returns then is only good for reading on.
 class ElementAttributes {
 public:
     static constexpr double LargestLength = 1000; // millimetres
     static constexpr double SmallestFont = 4; // points
     static constexpr double LargestFont = 72;
 
-    // Of the element that the XML stands at; it must outlive them.
+    // The attributes of the element where the XML reader stands. The reader must outlive them.
     explicit ElementAttributes(TemplateXml& xml);
 
     int Line() const { return m_line; }
     void Fault(const QString& text);
 
-    // Tells of the attributes that nobody has asked for.
+    // Reports the attributes that nobody has asked for. To be called last.
     void Finish();
 
-    // A text as it stands; empty if it isn't there, which is a fault where it is required.
+    // The text of an attribute, empty if it is missing; for Required that is a fault.
     QString Text(QStringView name);
     QString Required(QStringView name);
 
-    // "1" or "0"; false if it isn't there.
+    // True for "1", false for "0" or if it is missing.
     bool Flag(QStringView name);
 
-    // The flag `newpage`, which is refused where no page can begin.
+    // The flag `newpage`; a fault where no page can begin.
     bool NewPage(ElementPlace place);
 
-    // A number from `least` to `most`, or `otherwise`.
+    // A number between `least` and `most`; `otherwise` if it is missing or wrong.
     double Number(QStringView name, double least, double most, double otherwise);
 
-    // The width in `w`: millimetres, or a share.
+    // The attribute `w`: millimetres, or * for a share.
     WidthRule Width();
 
-    // What align, bold and size say; of letters that stand where they must, only the size.
+    // The attributes align, bold and size, or size alone.
     TextLook Look();
     double LetterSize();
 
-    // An expression; nothing if it isn't there or can't be read.
+    // An expression; nothing if it is missing or can't be read.
     std::optional<Expression> Condition(QStringView name);
 
     // A text with {expressions}.

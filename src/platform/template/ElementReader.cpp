@@ -20,7 +20,6 @@ TemplateElement ElementReader::BeginElement(ElementAttributes& attributes)
     return element;
 }
 
-// `bottom` is where what stands in a <bottom> goes, if there can be one: the last of the elements.
 std::vector<TemplateElement> ElementReader::Read(ElementPlace place, std::vector<TemplateElement>* bottom)
 {
     std::vector<TemplateElement> elements;
@@ -66,7 +65,7 @@ std::optional<TemplateElement> ElementReader::ReadElement(ElementPlace place)
     return ReadLongElement(place);
 }
 
-// Those that go on over pages, or begin one.
+// The elements that can run over several pages or start a new one.
 std::optional<TemplateElement> ElementReader::ReadLongElement(ElementPlace place)
 {
     const QStringView name = m_xml.Name();
@@ -86,7 +85,7 @@ std::optional<TemplateElement> ElementReader::ReadLongElement(ElementPlace place
     return name == u"table" ? ReadTable(place) : ReadChart();
 }
 
-// Tells if what the reader stands at can't be there.
+// Reports a fault if the current XML element isn't allowed in this place.
 bool ElementReader::MayStand(ElementPlace place)
 {
     const QString name = m_xml.Name().toString();

@@ -6,16 +6,16 @@
 
 class ElementAttributes;
 
-// Reads the elements of a template, one within the other.
+// Reads the elements of a template, with the elements inside of them.
 class ElementReader {
 public:
     explicit ElementReader(TemplateXml& xml) : m_xml(xml) { }
 
-    // The elements up to the end of the one that the XML stands at. `bottom` is where those of a <bottom> go,
-    // if there can be one: the last of them.
+    // Reads the children of the current XML element. Where a <bottom> is allowed as the last of them, its
+    // elements go into `bottom`.
     std::vector<TemplateElement> Read(ElementPlace place, std::vector<TemplateElement>* bottom = nullptr);
 
-    // The element that the XML stands at; nothing, and a fault, if it can't stand there.
+    // Reads the current XML element; nothing, and a fault, if it isn't allowed here.
     std::optional<TemplateElement> ReadElement(ElementPlace place);
 
 private:
@@ -23,7 +23,7 @@ private:
     std::optional<TemplateElement> ReadLongElement(ElementPlace place);
     bool MayStand(ElementPlace place);
 
-    // An element with what all of them have.
+    // A new element with its line and its `if`.
     static TemplateElement BeginElement(ElementAttributes& attributes);
     TemplateElement ReadParagraph();
     TemplateElement ReadRule();
@@ -36,5 +36,5 @@ private:
     TemplateElement ReadChart();
 
     TemplateXml& m_xml;
-    int m_depth = 0; // of the elements around what is read
+    int m_depth = 0; // how many elements are open around the current one
 };

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::int64_t Units = 1000000; // of the last of the six places, in one
+constexpr std::int64_t Units = 1000000; // sums are kept in millionths
 
 [[noreturn]] void ThrowTooLarge()
 {
@@ -16,7 +16,7 @@ constexpr std::int64_t Units = 1000000; // of the last of the six places, in one
         RunTimeError::Overflow, QStringLiteral("Overflow: a total of the report is too large."));
 }
 
-// In units of the last place. The product is nearest to the decimal that the number was made from.
+// A product of two doubles is slightly off; rounding to millionths gives the decimal that was meant.
 std::int64_t ToUnits(long double number)
 {
     constexpr long double Limit = 9.2e18L;

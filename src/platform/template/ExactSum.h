@@ -2,14 +2,14 @@
 
 #include <cstdint>
 
-// A sum of decimal numbers that stays exact: up to six decimals, up to nine thousand milliards.
+// Adds decimal numbers without rounding errors: up to six decimals, up to nine million million.
 class ExactSum {
 public:
-    // Adds a number after rounding it half away from zero to `decimals` (0 to 6) places, so that a sum is
-    // that of the figures above it as they are printed. A sum that grows too large is an overflow error.
+    // Rounds a number to `decimals` (0 to 6) places, halves away from zero, and adds it. So a total is the
+    // sum of the printed figures above it. If the sum gets too large, that is an overflow error.
     void Add(double number, int decimals = Places);
 
-    // Adds the exact product of two numbers of at most six decimals together.
+    // Adds the product of two numbers, exact if they have at most six decimals together.
     void AddProduct(double first, double second);
 
     double Number() const;

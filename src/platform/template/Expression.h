@@ -36,29 +36,29 @@ enum class Operation : quint8 {
 
 enum class AggregateKind : quint8 { Sum, Count, Average, Minimum, Maximum, Running };
 
-// One expression of a template, as a tree. Reading leaves the names as they are written; the check finds the
-// columns that they stand for.
+// One expression of a template as a tree. The parser keeps names as they are written; the check finds the
+// columns they stand for.
 struct Expression {
     Operation operation = Operation::Number;
     AggregateKind aggregate = AggregateKind::Sum;
-    bool isPlain = false; // of a field: its text is no Marathi and is shown as it is stored
-    bool isOfGroups = false; // of an aggregate: over the rows that stand for groups
-    double number = 0; // of a literal; of an aggregate: the decimals that its figures are rounded to first
+    bool isPlain = false; // of a field: shown as it is stored, not turned into Devanagari
+    bool isOfGroups = false; // of an aggregate: over the printed rows of rows="groups"
+    double number = 0; // of a literal; of an aggregate: round to so many decimals before adding
     QString text;
     QString qualifier;
     PrintFormat format; // of Formatted
     std::vector<Expression> arguments;
 
     // Found by the check.
-    int source = -1; // of a field: its source; of an aggregate: the source that it runs over
-    int column = -1; // of a field: among the columns that are read of its source
-    int slot = -1; // of an aggregate in a table: among the table's aggregates
-    int group = -1; // of a running sum: the group that it begins anew with; -1: the whole table
+    int source = -1; // index of the field's source, or of the source that the aggregate adds up
+    int column = -1; // of a field: index in the columns of its source
+    int slot = -1; // of an aggregate in a table: index in the table's aggregates
+    int group = -1; // of a running sum: the group that resets it; -1: none does
 
-    // Whether it or a part of it is of that kind.
+    // True if the expression or any part of it is of that kind.
     bool Uses(Operation wanted) const;
     bool operator==(const Expression&) const = default;
 };
 
-// The variables of a template and what they hold; nothing for a name that is none.
+// The type of a variable such as $society; nothing if there is no such variable.
 std::optional<ValueType> VariableType(QStringView name);

@@ -4,13 +4,13 @@
 
 namespace {
 
-// An empty text prints nothing and counts as 0, so that it goes with values of any kind.
+// An empty text prints nothing and counts as 0, so it can be mixed with values of any type.
 bool IsNothing(const Expression& expression)
 {
     return expression.operation == Operation::Text && expression.text.isEmpty();
 }
 
-// A stored text can hold a number that is printed by a format; a date and a truth can't.
+// A stored text may hold a number and can be printed as one; dates and conditions can't.
 bool CanBeNumber(ValueType type)
 {
     return type == ValueType::Number || type == ValueType::Text || type == ValueType::Unknown;
@@ -21,7 +21,7 @@ bool IsExtreme(AggregateKind kind)
     return kind == AggregateKind::Minimum || kind == AggregateKind::Maximum;
 }
 
-// A number that a text holds is written in Western digits; the text must not be read as Marathi.
+// A number in a text column is stored in Western digits. Reading the text as Marathi would spoil them.
 void ReadAsStored(Expression& expression, ValueType type)
 {
     if (expression.operation == Operation::Field && (type == ValueType::Text || type == ValueType::Unknown))
@@ -57,7 +57,8 @@ void ExpressionBinder::BindText(TemplateText& text, const Place& place)
     }
 }
 
-// A text is printed as it is stored or as the eye sees it; both can be, in two places.
+// Notes for the spreadsheet whether a column is printed as it is stored or in Devanagari; a template can do
+// both.
 void ExpressionBinder::NotePrinting(const Expression& expression)
 {
     if (expression.operation == Operation::If || expression.operation == Operation::Join) {
@@ -325,7 +326,7 @@ void ExpressionBinder::BindToTable(Expression& expression, const Place& place)
             expression.group = static_cast<int>(group - table.groups.begin());
     }
     std::vector<Expression>& all = expression.isOfGroups ? table.groupAggregates : table.aggregates;
-    expression.slot = -1; // it may have been bound before
+    expression.slot = -1; // the list holds them unbound, and this one may have been bound before
     const auto known = std::find(all.begin(), all.end(), expression);
     const int slot = static_cast<int>(known - all.begin());
     if (known == all.end())

@@ -2,20 +2,20 @@
 
 #include "platform/template/SourceFinder.h"
 
-// Finds the columns that the names of a template stand for, and the types of its expressions.
+// Binds the expressions of a template to columns and totals, and checks the types of their values.
 class ExpressionBinder {
 public:
-    // What may stand where an expression stands.
+    // The surroundings of an expression: which totals it may use, and what else is known there.
     enum class Aggregates { None, RunningOnly, OfTable, OfSource };
     struct Place {
         int line = 0;
         Aggregates aggregates = Aggregates::OfSource;
-        bool isPageEdge = false; // the page's number is known
-        bool isPageEnd = false; // of a table: its rows have moved on
+        bool isPageEdge = false; // in a page header or footer, where the page number is known
+        bool isPageEnd = false; // in the totals of a page, printed when the table is already at a later row
         TemplateTable* table = nullptr;
     };
 
-    // Binds to the sources where the finder stands; both must outlive it.
+    // Both must outlive the binder.
     ExpressionBinder(ReportTemplate& report, SourceFinder& sources) : m_report(report), m_sources(sources) { }
 
     void BindText(TemplateText& text, const Place& place);

@@ -9,7 +9,7 @@
 
 namespace {
 
-// Reads by descent; the first fault ends the reading.
+// A recursive descent parser. It stops at the first fault.
 class Parser {
 public:
     Parser(QStringView text, Grammar grammar) : m_tokens(text, grammar), m_grammar(grammar) { Next(); }
@@ -58,7 +58,7 @@ private:
     Expression ReadAggregate(AggregateKind kind);
     static Expression Pair(Operation operation, Expression first, Expression second);
 
-    // Deeper brackets are a mistake, or mean ill.
+    // Nobody needs deeper brackets, and each level takes room on the stack.
     static constexpr int DeepestNesting = 100;
     struct Nesting {
         explicit Nesting(int& depth) : m_depth(depth)
@@ -264,7 +264,7 @@ bool Parser::IsDate(const QString& name) const
             || name.compare(u"DateTime", Qt::CaseInsensitive) == 0);
 }
 
-// Year, month and day, and for a DateTime the time, which is midnight.
+// Reads year, month and day, and for a DateTime the time, which must be midnight.
 Expression Parser::ReadDate(const QString& name)
 {
     Expect(u"(");

@@ -3,7 +3,8 @@
 #include "platform/template/Expression.h"
 #include "platform/template/ExpressionTokens.h"
 
-// In characters; each sign in it can be a level of its tree.
+// The longest expression, in characters. Each character can add a level to the tree, and evaluating it
+// recurses.
 inline constexpr int LongestExpression = 2000;
 
 // Reads an expression. Returns nothing, and sets the fault, if it can't be read or is too long.

@@ -89,7 +89,7 @@ Token TokenReader::TakeSign()
     return {Token::Kind::Sign, QString(c)};
 }
 
-// Signs of programming languages that mean something here under another name.
+// Helps those who write == or && as in a programming language.
 void TokenReader::RefuseForeignSign() const
 {
     constexpr std::pair<QStringView, QStringView> Foreign[] = {

@@ -2,30 +2,30 @@
 
 #include <QString>
 
-// What an expression is written for. In a selection formula fields stand in braces, texts may stand in double
+// The two ways to write an expression. In a selection formula fields are in braces, texts may be in double
 // quotes, and words may be in capitals.
 enum class Grammar : quint8 { Template, Formula };
 
-// A word of an expression.
+// A token of an expression.
 struct Token {
     enum class Kind { End, Number, Text, Name, Hash, Dollar, Sign };
     Kind kind = Kind::End;
     QString text;
 };
 
-// What is wrong with an expression, said to whoever writes the template.
+// What is wrong with an expression, in words for the author of the template.
 struct ExpressionFault {
     QString text;
 };
 
-// Takes an expression apart into its words, one after the other. What is no word of the language is thrown as
-// an ExpressionFault.
+// Splits an expression into tokens. A character that can't be in an expression is thrown as an
+// ExpressionFault.
 class TokenReader {
 public:
     // The text must outlive it.
     TokenReader(QStringView text, Grammar grammar) : m_text(text), m_grammar(grammar) { }
 
-    // The next word; one of kind End behind the last.
+    // The next token; after the last one, a token of kind End.
     Token Next();
 
 private:

@@ -28,7 +28,7 @@ std::optional<Paper> Sensible(const Paper& paper)
     return fits ? std::optional(paper) : std::nullopt;
 }
 
-// A side in millimetres and their tenths: "58", "93.4".
+// A length in millimetres with at most one decimal: "58", "93.4".
 QString SideInMillimetres(double points)
 {
     return QString::number(std::round(points / PointsPerMillimetre * 10) / 10);

@@ -10,7 +10,7 @@ namespace {
 constexpr QStringView MonthNames[] = {u"जानेवारी", u"फेब्रुवारी", u"मार्च", u"एप्रिल", u"मे", u"जून", u"जुलै", u"ऑगस्ट",
     u"सप्टेंबर", u"ऑक्टोबर", u"नोव्हेंबर", u"डिसेंबर"};
 
-// The last three digits before the point stand together, those before them in twos.
+// Commas stand before the last three digits of the whole number, then before every two.
 QString Grouped(QString number)
 {
     constexpr qsizetype LastGroup = 3;

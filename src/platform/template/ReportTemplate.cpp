@@ -10,7 +10,7 @@ namespace {
 
 constexpr qint64 LargestFile = 1024 * 1024;
 
-// The first line that isn't UTF-8, or 0. A sign never goes on into the next line, so each stands by itself.
+// The first line that isn't UTF-8, or 0. A character never spans two lines, so each line is decoded alone.
 int LineThatIsNoUtf8(const QByteArray& bytes)
 {
     int line = 0;

@@ -94,7 +94,7 @@ void SourceFinder::NoteReading(int source)
     m_use.readByFirstRow.insert(source);
 }
 
-// Whether its row goes by one that is being walked.
+// A linked source changes its row with the one it is linked to.
 bool SourceFinder::MovesOn(int source) const
 {
     while (source >= 0 && !IsWalked(source))

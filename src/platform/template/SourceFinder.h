@@ -4,42 +4,43 @@
 #include "platform/template/ChoiceCheck.h"
 #include "platform/template/ReportTemplate.h"
 
-// Finds the sources and columns that the names of a template stand for, and keeps account of the sources
-// whose rows are gone through where the check stands.
+// Finds the sources and columns that the names in a template stand for. It also knows which sources are
+// being walked, that is gone through row by row, at the place that is being checked.
 class SourceFinder {
 public:
     SourceFinder(ReportTemplate& report, Catalogue& catalogue, TemplateFaults& faults);
 
     void Fault(int line, const QString& text);
 
-    // The source of a name; -1 and a fault if there is none.
+    // The index of the source with that name; -1 and a fault if there is none.
     int FindSource(const QString& name, int line);
 
-    // The position of a column among those that are read of a source; -1 if its table hasn't got it. A source
-    // whose table is unknown takes every name: that fault is told once.
+    // The index of a column in the columns of a source, where it is added if need be; -1 if the table
+    // doesn't have it. If the table itself is unknown, that was reported already, and any name passes.
     int FindColumn(int source, const QString& name);
 
-    // The sources that a field may be of: the one that it names, or else those that are being walked, the
-    // innermost first, or else the first of all. None, and a fault, for a name that is no source's.
+    // Where a field is looked for: in the source that it names, or else in those that are being walked,
+    // innermost first, or else in the first one. Empty, with a fault, if it names a source that doesn't
+    // exist.
     std::vector<int> Candidates(const QString& name, int line);
 
-    // Begins to walk through the rows of a source, or only stands at one of its rows, to look whether it is
-    // to be taken. Leave ends the last of them.
+    // Walk begins a walk through a source. StandAt is for its `only`, which looks at one row and is no walk
+    // of the template's. Leave ends the last of them.
     void Walk(int source);
     void StandAt(int source) { m_walked.push_back(source); }
     void Leave() { m_walked.pop_back(); }
     bool IsWalked(int source) const;
 
-    // Tells of a source that hangs on another whose rows aren't being walked through.
+    // A fault if the source is linked to another one that isn't being walked.
     void RequireParent(int source, int line);
 
-    // A field of a source is read here.
+    // Notes that a field of the source is used here.
     void NoteReading(int source);
 
-    // Whether the row of a source goes by one that is being walked through.
+    // True if the current row of the source changes with one of the walks around.
     bool MovesOn(int source) const;
 
-    // How the sources have been come by so far.
+    // How the sources have been used so far.
     const SourceUse& Use() const { return m_use; }
 
 private:

@@ -11,7 +11,7 @@ class TableReader {
 public:
     explicit TableReader(TemplateXml& xml) : m_xml(xml) { }
 
-    // The table that the XML stands at; what all elements have has been taken from its attributes.
+    // Reads the <table> with these attributes, of which `if` has been read already.
     TemplateTable Read(ElementAttributes& attributes, ElementPlace place);
 
 private:

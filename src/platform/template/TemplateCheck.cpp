@@ -49,7 +49,7 @@ private:
     Catalogue m_catalogue;
     SourceFinder m_sources;
     ExpressionBinder m_binder;
-    std::set<int> m_runs; // the sources of which a part is walked once more within
+    std::set<int> m_runs; // sources inside an <each by>, which may be walked again for the rows of one value
 };
 
 void Checker::CheckAll()
@@ -58,7 +58,7 @@ void Checker::CheckAll()
         CheckSource(static_cast<int>(i));
     Place edge;
     edge.isPageEdge = true;
-    edge.aggregates = Aggregates::None; // a page is begun often, and would walk the source each time
+    edge.aggregates = Aggregates::None; // they would read the whole source again for each page
     edge.line = m_report.headerLine;
     CheckElements(m_report.header, edge);
     CheckElements(m_report.footer, edge);
@@ -278,7 +278,7 @@ void Checker::CheckColumn(TemplateTable& table, TemplateColumn& column, Place pl
         m_sources.Fault(column.line, QStringLiteral("a condition can't be printed; use if(…)"));
 }
 
-// total="sum": the sum of the figures as they are printed.
+// total="sum" adds the figures as they are printed.
 void Checker::BindOwnSum(const TemplateTable& table, TemplateColumn& column)
 {
     if (!column.cell.IsOneExpression() || (!table.isOfGroups && column.cell.Uses(Operation::Aggregate))) {

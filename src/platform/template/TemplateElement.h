@@ -14,10 +14,10 @@ struct TemplateSeries {
 };
 
 struct TemplateChart {
-    TextLook look; // its size only
+    TextLook look; // only the size is used
     int source = -1;
     QString sourceName;
-    bool isLine = false; // else bars
+    bool isLine = false; // otherwise bars
     double height = 60; // millimetres
     TemplateText title, x;
     std::optional<Expression> only;
@@ -26,14 +26,14 @@ struct TemplateChart {
 
 struct TemplateElement;
 
-// A paragraph; an empty one takes no room.
+// A paragraph; if its text is empty, it takes no room.
 struct TemplateParagraph {
     TextLook look;
     TemplateText text;
     bool keep = false; // stays with what follows
 };
 
-// A line across.
+// A line across the page.
 struct TemplateRule {
     double weight = 0.5; // points
     bool keep = false; // stays with what follows
@@ -59,37 +59,37 @@ struct TemplatePairs {
     std::vector<TemplatePair> pairs;
 };
 
-// One of some blocks side by side.
+// One of the blocks that stand side by side, a <column>.
 struct TemplateLane {
     int line = 0;
     WidthRule width;
-    double frame = 0; // points of the ruled frame around it; 0: none
+    double frame = 0; // line weight of the frame around it in points; 0: no frame
     std::vector<TemplateElement> elements;
-    std::vector<TemplateElement> bottom; // at its lower edge
+    std::vector<TemplateElement> bottom; // <bottom>: at the lower edge of the block
 };
 
-// Blocks side by side.
+// Blocks that stand side by side, a <columns>.
 struct TemplateLanes {
-    double gap = 3; // millimetres between two of them
-    double frame = 0; // points of the ruled frame around all of them; 0: none
-    double height = 0; // millimetres at least
+    double gap = 3; // millimetres between two blocks
+    double frame = 0; // line weight of the frame around all of them in points; 0: no frame
+    double height = 0; // least height in millimetres
     std::vector<TemplateLane> lanes;
 };
 
-// Elements that come once for each row of a source, or once for each value of `by`.
+// Elements that are repeated for each row of a source, or for each value of `by`.
 struct TemplateEach {
     int source = -1;
     QString sourceName;
     std::optional<Expression> only;
-    std::optional<Expression> by; // rows that follow each other with the same value come together
-    QString byName; // its text
-    bool keep = false; // each stays on one page
-    bool newPage = false; // each begins a page
-    bool ownPages = false; // and has its own page numbers
+    std::optional<Expression> by; // successive rows with the same value are one repetition
+    QString byName; // the text of `by`
+    bool keep = false; // each repetition stays on one page
+    bool newPage = false; // each begins a new page
+    bool ownPages = false; // and its pages are numbered from 1
     std::vector<TemplateElement> elements;
 };
 
-// One element of a template, as they stand below each other.
+// One element of a template. Elements are printed one below the other.
 struct TemplateElement {
     int line = 0;
     std::optional<Expression> condition;
@@ -97,7 +97,7 @@ struct TemplateElement {
         TemplateLanes, TemplateEach, TemplateTable, TemplateChart>
         what;
 
-    // Calls the case for what this element is. All of them have to be there.
+    // Calls the function that takes this kind of element. There must be one for each kind.
     template <typename... Cases> decltype(auto) Visit(Cases&&... cases) const
     {
         return std::visit(OneOf<Cases...>{std::forward<Cases>(cases)...}, what);
@@ -107,7 +107,7 @@ struct TemplateElement {
         return std::visit(OneOf<Cases...>{std::forward<Cases>(cases)...}, what);
     }
 
-    // The element as one of that kind; nullptr if it is another.
+    // The element if it is of that kind, or else nullptr.
     template <typename Kind> const Kind* As() const { return std::get_if<Kind>(&what); }
 
 private:

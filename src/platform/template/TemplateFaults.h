@@ -4,7 +4,7 @@
 
 #include <vector>
 
-// What is wrong with a template, and where.
+// A fault of a template, and its line.
 struct TemplateFault {
     QString file;
     int line = 0;
@@ -15,8 +15,8 @@ struct TemplateFault {
 };
 using TemplateFaults = std::vector<TemplateFault>;
 
-// A template with more faults than this isn't looked at to its end.
+// Beyond this number of faults no more are looked for.
 inline constexpr std::size_t MostFaults = 100;
 
-// Sorts faults by line. Of more than MostFaults the first are kept, with a last one that says so.
+// Sorts faults by line. If there are more than MostFaults, only those are kept, and one more that says so.
 void SortAndCut(TemplateFaults& faults);

@@ -29,7 +29,7 @@ Paper ReadSheet(ElementAttributes& attributes)
     return *paper;
 }
 
-// A font that can't be read leaves those that a template has by itself.
+// If the attribute is missing or wrong, the template keeps its default fonts.
 void ReadFont(ElementAttributes& attributes, ReportTemplate& report)
 {
     const QString font = attributes.Text(u"font");

@@ -3,17 +3,15 @@
 #include "platform/template/ElementReader.h"
 #include "platform/template/ReportTemplate.h"
 
-// Reads a whole template: its sheet, its sources and its elements. What isn't known becomes a fault and is
-// passed over.
+// Reads a template from its XML. What isn't known is reported as a fault and skipped.
 class TemplateReader {
 public:
-    // `file` names the template in its faults.
+    // `file` is named in the faults, which are added to `faults`.
     TemplateReader(const QString& text, QString file, TemplateFaults& faults)
         : m_xml(text, std::move(file), faults)
     {
     }
 
-    // Reads all of it. Whatever is wrong has been added to the faults.
     ReportTemplate Read();
 
 private:

@@ -7,28 +7,28 @@
 #include <optional>
 #include <vector>
 
-// A column that a source reads of its table.
+// A column of a source that the template uses.
 struct SourceColumn {
     QString name;
     ValueType type = ValueType::Unknown;
 
-    // Found by the check: how its texts stand on the paper.
+    // Found by the check: whether its texts are printed as stored, in Devanagari, or both.
     bool isPrintedPlain = false;
     bool isPrintedSeen = false;
 };
 
-// A table or view that a report reads.
+// A table or view that the report reads.
 struct TemplateSource {
     int line = 0;
     QString name;
     QString table;
     QString order;
-    QStringList link; // the columns that it shares with the source that it hangs on
+    QStringList link; // the columns that link it to the source in `to`
     QString parentName;
-    std::optional<Expression> only; // rows for which this doesn't hold are passed over
+    std::optional<Expression> only; // other rows are skipped
 
     // Found by the check.
     int parent = -1;
-    std::vector<SourceColumn> columns; // those that the template uses
+    std::vector<SourceColumn> columns; // the ones that the template uses
     std::vector<int> linkColumns, parentColumns;
 };

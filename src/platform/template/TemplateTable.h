@@ -9,16 +9,16 @@
 
 struct TemplateColumn {
     int line = 0;
-    std::optional<Expression> condition; // looked at once, before the table begins
+    std::optional<Expression> condition; // evaluated once, before the table begins
     WidthRule width;
     TemplateText head, cell;
     TextLook look;
     bool wraps = false;
-    std::optional<Expression> total; // what stands in the foot of a group and at the end
-    bool totalIsOwnSum = false; // total="sum": the sum of the figures as printed
+    std::optional<Expression> total; // printed in the foot of each group and at the end of the table
+    bool totalIsOwnSum = false; // total="sum": add the figures as they are printed
 };
 
-// A cell that stretches over several columns: above their heads, or in a line of its own.
+// A cell that spans columns: above their heads, or in a line of its own.
 struct TemplateSpan {
     int line = 0;
     int columns = 1;
@@ -26,7 +26,7 @@ struct TemplateSpan {
     TextLook look;
 };
 
-// A line of a group's head or of a foot, with cells of its own in the columns of the table.
+// An additional line in the head of a group or in a foot, with its own cells.
 struct TemplateLine {
     int line = 0;
     std::optional<Expression> condition;
@@ -36,15 +36,15 @@ struct TemplateLine {
 struct TemplateGroup {
     int line = 0;
     Expression by;
-    QString name; // the text of `by`, as running(x by name) names it
-    QString label; // what its values are called in a spreadsheet; empty: the name
+    QString name; // the text of `by`; running(x by name) refers to it
+    QString label; // head of its column in a spreadsheet; if empty, the name is used
     TemplateText head, foot;
-    std::vector<TemplateLine> headLines, footLines; // below those
-    int keep = 1; // rows that stay with the head
+    std::vector<TemplateLine> headLines, footLines; // printed below head and foot
+    int keep = 1; // how many rows stay on the page of the head
     bool newPage = false;
 };
 
-// What stands where a table goes on over pages: the totals of the page, and of all so far.
+// Printed where a table continues on the next page: the totals of the page, and the totals so far.
 struct TemplatePageTotals {
     int line = 0;
     TemplateText foot, carry, head;
@@ -59,14 +59,14 @@ struct TemplateTable {
     std::vector<TemplateColumn> columns;
     std::vector<TemplateGroup> groups;
     std::optional<TemplateText> totalLabel;
-    std::vector<TemplateLine> totalLines; // below it
+    std::vector<TemplateLine> totalLines; // printed below the total
     int totalLine = 0;
     std::optional<TemplatePageTotals> page;
-    bool isOfGroups = false; // a row for each of the innermost groups, none for those of the source
+    bool isOfGroups = false; // rows="groups": one row for each innermost group
     bool hasHeads = false;
     bool hasLines = false; // a thin rule under each row
 
     // Found by the check.
-    std::vector<Expression> aggregates; // those of the totals, each once
-    std::vector<Expression> groupAggregates; // those over the rows that stand for groups
+    std::vector<Expression> aggregates; // all totals over rows of the source, without duplicates
+    std::vector<Expression> groupAggregates; // all totals over the printed rows of rows="groups"
 };

@@ -12,7 +12,7 @@ bool TemplateText::Uses(Operation wanted) const
 
 namespace {
 
-// The position of a sign outside of quotes, or -1.
+// The index of a character outside of quotes, or -1.
 qsizetype FindOutsideQuotes(QStringView text, QChar sign, qsizetype from)
 {
     bool isQuoted = false;

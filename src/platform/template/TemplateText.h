@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-// A stretch of a text of a template: plain characters, or one {expression|format}.
+// A piece of a text: plain characters, or one {expression|format}.
 struct TextPiece {
     QString characters;
     std::optional<Expression> expression;
@@ -17,16 +17,16 @@ struct TemplateText {
 
     bool IsEmpty() const { return pieces.empty(); }
 
-    // Whether one of its expressions holds a part of that kind.
+    // True if one of its expressions contains that operation.
     bool Uses(Operation wanted) const;
 
-    // The text is one expression and nothing around it.
+    // True if it is one {expression} and nothing else.
     bool IsOneExpression() const { return pieces.size() == 1 && pieces.front().expression.has_value(); }
 };
 
-// A text as a fault shows it: on one line, and only its beginning if it is long.
+// A text as it is quoted in a fault: on one line, and only its beginning if it is long.
 QString ShownInFault(QStringView text);
 
-// Reads such a text. What can't be read is added to the faults and left out. A format is one of PrintFormat,
-// or the word "plain" behind a field.
+// Reads a text with {expressions}. An expression that can't be read is added to the faults and left out. A
+// format is a pattern of PrintFormat, or "plain" after a field.
 TemplateText ReadTemplateText(QStringView text, QStringList& faults);

@@ -2,11 +2,11 @@
 
 #include "platform/template/TemplateElement.h"
 
-// How widths are shared out, in points; the check and the filling of a template divide them alike.
+// Widths in points; the check and the layout must agree on them.
 
-// The widths of blocks side by side, and of the columns of a table if all of them are there.
+// The widths of blocks side by side, and of the columns of a table if none is left out by its `if`.
 std::vector<double> LaneWidths(const TemplateLanes& lanes, double width);
 std::vector<double> ColumnWidths(const TemplateTable& table, double width);
 
-// What a frame leaves of a width; all of it where there is none.
+// The width inside of a frame; without a frame, all of it.
 double InFrame(double frame, double width);

@@ -9,7 +9,6 @@ TemplateXml::TemplateXml(const QString& text, QString file, TemplateFaults& faul
 {
 }
 
-// What is read after the XML has broken off is not what stands there.
 void TemplateXml::Fault(int line, const QString& text)
 {
     if (m_xml.hasError())
@@ -25,7 +24,7 @@ void TemplateXml::Stop()
     m_xml.raiseError();
 }
 
-// Goes on to the outermost element. What is declared before it could stand for any amount of text.
+// A <!DOCTYPE> could declare entities that expand to any amount of text, so it is refused.
 bool TemplateXml::GoToRoot()
 {
     while (!m_xml.atEnd()) {

@@ -5,43 +5,43 @@
 
 #include <QXmlStreamReader>
 
-// The XML of a template, read from element to element, and where its readers put down what is wrong with it.
+// Reads the XML of a template element by element and collects its faults.
 class TemplateXml {
 public:
-    // `file` names the template in its faults.
+    // `file` is named in the faults, which are added to `faults`.
     TemplateXml(const QString& text, QString file, TemplateFaults& faults);
 
     const QString& File() const { return m_file; }
 
-    // The element that was come to last.
+    // The current element.
     QStringView Name() const { return m_xml.name(); }
     int Line() const { return static_cast<int>(m_xml.lineNumber()); }
     QXmlStreamAttributes Attributes() const { return m_xml.attributes(); }
 
-    // Puts down a fault. Nothing more is put down once the XML has broken off, and after MostFaults the
-    // reading stops.
+    // Adds a fault. After MostFaults reading stops, and after the XML has broken off nothing is added any
+    // more, since it would be about text that isn't there.
     void Fault(int line, const QString& text);
 
-    // Goes on to the outermost element; false if there is none.
+    // Moves to the outermost element; false if there is none.
     bool GoToRoot();
 
-    // Goes on to the next child, whatever its name, or of one name while others are refused; false at the end
-    // of the parent. Text between the children is refused.
+    // Moves to the next child, or to the next one with that name, and refuses others and any text between
+    // them. False at the end of the parent.
     bool NextElement();
     bool NextChild(QStringView name);
 
-    // Goes on to the end of an element that holds nothing.
+    // Moves to the end of the current element, which must be empty.
     void EndEmpty();
 
-    // Passes an element over; refusing it says that it isn't known here.
+    // Skips the current element; RefuseElement also reports it as unknown here.
     void SkipElement() { m_xml.skipCurrentElement(); }
     void RefuseElement();
 
-    // A text with {expressions}, and the same as the content of the element up to its end.
+    // Reads a text with {expressions}: a given one, or all that the current element contains.
     TemplateText ReadMixed(const QString& text, int line);
     TemplateText ReadContent(int line);
 
-    // Reads on to the end; false, with a fault, if the XML can't be read so far.
+    // Reads to the end. False, with a fault, if that fails.
     bool Finish();
 
 private:
@@ -49,7 +49,7 @@ private:
     void RefuseText();
 
     QXmlStreamReader m_xml;
-    bool m_hasStopped = false; // what is wrong with it as a whole has been told
+    bool m_hasStopped = false; // we stopped it ourselves and have said why
     QString m_file;
     TemplateFaults& m_faults;
 };

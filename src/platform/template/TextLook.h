@@ -6,9 +6,9 @@
 
 enum class Align : quint8 { Left, Center, Right };
 
-// How a text of a template looks; what isn't said is taken from what stands around it.
+// How a text looks. What isn't set is taken from the surroundings.
 struct TextLook {
     std::optional<Align> align;
     std::optional<bool> isBold;
-    double size = 0; // points; 0: as around it
+    double size = 0; // points; 0: not set
 };

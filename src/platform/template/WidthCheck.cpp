@@ -9,12 +9,12 @@ namespace {
 
 using Spacing::SmallestShare;
 
-constexpr double SmallestValue = 10 * PointsPerMillimetre; // beside a label
-constexpr double LettersOfAFigure = 4; // how many times its letters' size a figure such as 1234.50 is wide
-constexpr double LettersOfALabel = 4; // the same for what a total is called
+constexpr double SmallestValue = 10 * PointsPerMillimetre; // least width beside a label
+constexpr double LettersOfAFigure = 4; // width of a figure such as 1234.50, in times the font size
+constexpr double LettersOfALabel = 4; // the same for the label of a total
 constexpr double Tolerance = 0.05;
 
-// Points as millimetres.
+// A length in points, shown in millimetres.
 QString Shown(double points)
 {
     return QString::number(std::max(points, 0.0) / PointsPerMillimetre, 'f', 1);
@@ -59,11 +59,11 @@ private:
             [&](const TemplateLanes& lanes) { CheckLanes(lanes, element.line, width); },
             [&](const TemplateEach& each) { CheckElements(each.elements, width); },
             [&](const TemplateTable& table) { CheckTable(table, element.line, width); },
-            [](const TemplateChart&) {}, // needs room for its letters, and those are measured
+            [](const TemplateChart&) {}, // depends on the height of its letters; see CheckForLayout
             [](const TemplateRule&) {}, [](const TemplateSpace&) {}, [](const TemplatePageBreak&) {});
     }
 
-    // At least one letter stands on a line.
+    // A line must have room for at least one letter.
     void CheckLetters(int line, const TemplateText& text, double size, double width)
     {
         if (!text.IsEmpty() && width < size - Tolerance)
@@ -137,7 +137,7 @@ private:
                     .arg(table.columns.size()));
     }
 
-    // Columns that are too narrow for anything have been told already.
+    // Columns that are too narrow for anything have been reported already and are taken as wide enough here.
     void CheckCells(const TemplateTable& table, const std::vector<double>& widths)
     {
         for (std::size_t i = 0; i < widths.size(); ++i) {

@@ -4,5 +4,5 @@
 
 #include <functional>
 
-// Tells of everything that is wider than the paper of a template, or too narrow to be read.
+// Reports everything that is wider than the paper, or too narrow to be read.
 void CheckWidths(const ReportTemplate& report, const std::function<void(int, const QString&)>& fault);
