@@ -2,7 +2,7 @@
 
 namespace {
 
-class ExpressionTest : public ReportTest {
+class EvaluationTest : public ReportTest {
 protected:
     // What a text of a template prints over one delivery.
     QString Printed(const QString& text)
@@ -15,7 +15,7 @@ protected:
 
 }
 
-TEST_F(ExpressionTest, ArithmeticKeepsThePrecedenceOfItsSigns)
+TEST_F(EvaluationTest, ArithmeticKeepsThePrecedenceOfItsSigns)
 {
     AddOne();
     EXPECT_EQ(Printed(QStringLiteral("{1 + 2 * 3 - 8 / 4}")), QStringLiteral("5"));
@@ -26,13 +26,13 @@ TEST_F(ExpressionTest, ArithmeticKeepsThePrecedenceOfItsSigns)
     EXPECT_EQ(Printed(QStringLiteral("{abs(Liters - 20)|0.0}")), QStringLiteral("7.5"));
 }
 
-TEST_F(ExpressionTest, DividingByNothingGivesNothing)
+TEST_F(EvaluationTest, DividingByNothingGivesNothing)
 {
     AddOne();
     EXPECT_EQ(Printed(QStringLiteral("{Amount / (Liters - Liters)|0.00}")), QStringLiteral("0.00"));
 }
 
-TEST_F(ExpressionTest, AConditionChoosesBetweenTwoValues)
+TEST_F(EvaluationTest, AConditionChoosesBetweenTwoValues)
 {
     AddOne();
     EXPECT_EQ(Printed(QStringLiteral("{if(Liters &gt; 12, 'जास्त', 'कमी')}")), QStringLiteral("जास्त"));
@@ -45,14 +45,14 @@ TEST_F(ExpressionTest, AConditionChoosesBetweenTwoValues)
     EXPECT_EQ(Printed(QStringLiteral("[{if(Liters = 0, Liters, '')|0.000}]")), QStringLiteral("[]"));
 }
 
-TEST_F(ExpressionTest, AStoredTextIsSeenAndComparedInDevanagari)
+TEST_F(EvaluationTest, AStoredTextIsSeenAndComparedInDevanagari)
 {
     AddOne();
     EXPECT_EQ(Printed(QStringLiteral("{MemberName}")), QStringLiteral("विठ्ठल शिंदे"));
     EXPECT_EQ(Printed(QStringLiteral("{if(CollectionTime = 'सकाळ', 'होय', 'नाही')}")), QStringLiteral("होय"));
 }
 
-TEST_F(ExpressionTest, APlainFieldIsShownAsItIsStored)
+TEST_F(EvaluationTest, APlainFieldIsShownAsItIsStored)
 {
     Run(QStringLiteral("insert into MembersListReport(CompanyId,Crieteria,MemberNo) values(1,'Area',1)"));
     const QString text =
@@ -63,7 +63,7 @@ TEST_F(ExpressionTest, APlainFieldIsShownAsItIsStored)
     EXPECT_EQ(AllTexts(text), QStringList({QStringLiteral("Area"), QStringLiteral("विभागवार")}));
 }
 
-TEST_F(ExpressionTest, NumbersAndDatesTakeTheirFormats)
+TEST_F(EvaluationTest, NumbersAndDatesTakeTheirFormats)
 {
     AddOne();
     EXPECT_EQ(Printed(QStringLiteral("{Amount|######0.00}")), QStringLiteral("437.50"));
@@ -73,7 +73,7 @@ TEST_F(ExpressionTest, NumbersAndDatesTakeTheirFormats)
     EXPECT_EQ(Printed(QStringLiteral("{Liters} ली.")), QStringLiteral("12.5 ली."));
 }
 
-TEST_F(ExpressionTest, MoneyIsGroupedAsItIsInIndia)
+TEST_F(EvaluationTest, MoneyIsGroupedAsItIsInIndia)
 {
     AddOne();
     const std::pair<const char*, const char*> amounts[] = {{"0", "0.00"}, {"999.995", "1,000.00"},
@@ -88,7 +88,7 @@ TEST_F(ExpressionTest, MoneyIsGroupedAsItIsInIndia)
             QStringLiteral("\"%1\" is no format of a number or a date").arg(QLatin1String(pattern)));
 }
 
-TEST_F(ExpressionTest, PartsOfATextAreJoinedAndEmptyOnesLeaveNoGap)
+TEST_F(EvaluationTest, PartsOfATextAreJoinedAndEmptyOnesLeaveNoGap)
 {
     AddOne();
     EXPECT_EQ(Printed(QStringLiteral("{join(', ', MemberName, '', ' ', CollectionNo, CollectionDate)}")),
@@ -99,7 +99,7 @@ TEST_F(ExpressionTest, PartsOfATextAreJoinedAndEmptyOnesLeaveNoGap)
         QStringLiteral("a condition can't be printed; use if(…)"));
 }
 
-TEST_F(ExpressionTest, AFormatMakesATextThatCanBeJoinedAndCompared)
+TEST_F(EvaluationTest, AFormatMakesATextThatCanBeJoinedAndCompared)
 {
     AddOne();
     EXPECT_EQ(Printed(QStringLiteral("{join(' ', format(Amount, '#,##0.00'), 'रुपये')}")),
@@ -115,7 +115,7 @@ TEST_F(ExpressionTest, AFormatMakesATextThatCanBeJoinedAndCompared)
         QStringLiteral("texts can't be reckoned with; words stand before or behind the braces"));
 }
 
-TEST_F(ExpressionTest, AnEmptyColumnIsNothingAndCountsAsZero)
+TEST_F(EvaluationTest, AnEmptyColumnIsNothingAndCountsAsZero)
 {
     AddOne();
     EXPECT_EQ(Printed(QStringLiteral("[{SNF|0.0}]")), QStringLiteral("[]"));
@@ -123,14 +123,14 @@ TEST_F(ExpressionTest, AnEmptyColumnIsNothingAndCountsAsZero)
     EXPECT_EQ(Printed(QStringLiteral("{if(SNF = 0, 'रिकामे', 'भरले')}")), QStringLiteral("रिकामे"));
 }
 
-TEST_F(ExpressionTest, TheVariablesTellSocietyYearAndDates)
+TEST_F(EvaluationTest, TheVariablesTellSocietyYearAndDates)
 {
     EXPECT_EQ(
         Printed(QStringLiteral("{$society} {$year}")), QStringLiteral("श्री महालक्ष्मी दूध संस्था 2026-2027"));
     EXPECT_EQ(Printed(QStringLiteral("{$from} ते {$to|dd/MM}")), QStringLiteral("01/04/2026 ते 10/04"));
 }
 
-TEST_F(ExpressionTest, ATotalOutsideOfATableWalksThroughItsSource)
+TEST_F(EvaluationTest, ATotalOutsideOfATableWalksThroughItsSource)
 {
     AddOne();
     AddDelivery(8, QStringLiteral("सकाळ"), QStringLiteral("कमल"), 2.5, 3.5, 80.05);
@@ -139,7 +139,7 @@ TEST_F(ExpressionTest, ATotalOutsideOfATableWalksThroughItsSource)
     EXPECT_EQ(Printed(QStringLiteral("{average(Fat)|0.00}")), QStringLiteral("3.85"));
 }
 
-TEST_F(ExpressionTest, AnExpressionHasALengthThatItsReckoningCanBear)
+TEST_F(EvaluationTest, AnExpressionHasALengthThatItsReckoningCanBear)
 {
     const QString longest = QString(QStringLiteral("0")) + QStringLiteral("+1").repeated(999);
     EXPECT_EQ(Printed(QStringLiteral("{%1}").arg(longest)), QStringLiteral("999"));
