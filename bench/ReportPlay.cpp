@@ -2,6 +2,7 @@
 
 #include "bench/CounterPlay.h"
 #include "core/state/AppState.h"
+#include "platform/report/LayoutCheck.h"
 #include "platform/text/RunTimeError.h"
 
 namespace {
@@ -35,7 +36,7 @@ ReportTemplate Checked(const char* text, const char* file, Connection& books)
     TemplateFaults faults;
     ReportTemplate report =
         ReportTemplate::ReadText(QString::fromUtf8(text), QString::fromLatin1(file), faults);
-    for (const TemplateFault& fault : Check(report, books))
+    for (const TemplateFault& fault : CheckForLayout(report, books))
         faults.push_back(fault);
     if (!faults.empty())
         throw RunTimeError(-1, faults.front().Line());

@@ -7,6 +7,7 @@
 #include "core/start/Program.h"
 #include "delivered/Delivered.h"
 #include "platform/database/Sql.h"
+#include "platform/report/LayoutCheck.h"
 #include "platform/shell/AppFolder.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
@@ -164,7 +165,7 @@ TEST_F(ShippedTemplates, HaveNoFaultAgainstTheDeliveredTables)
     for (const Delivered::File& file : Delivered::Templates()) {
         TemplateFaults faults;
         ReportTemplate report = ReportTemplate::ReadText(QString::fromUtf8(file.content), file.name, faults);
-        const TemplateFaults more = Check(report, gCn);
+        const TemplateFaults more = CheckForLayout(report, gCn);
         faults.insert(faults.end(), more.begin(), more.end());
         for (const TemplateFault& fault : faults)
             ADD_FAILURE() << fault.Line().toStdString();

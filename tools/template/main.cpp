@@ -1,6 +1,6 @@
 #include "delivered/Delivered.h"
 #include "platform/database/Connection.h"
-#include "platform/report/ReportTemplate.h"
+#include "platform/report/LayoutCheck.h"
 #include "platform/text/RunTimeError.h"
 
 #include <QCommandLineParser>
@@ -28,7 +28,7 @@ int CheckFiles(const QStringList& files)
     bool isSound = true;
     for (const QString& file : files) {
         TemplateFaults faults;
-        ReportTemplate::ReadChecked(file, connection, faults);
+        ReadForLayout(file, connection, faults);
         isSound = isSound && faults.empty();
         for (const TemplateFault& fault : faults)
             out << fault.Line() << '\n';

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/report/Printer.h"
 #include "platform/report/ReportControl.h"
+#include "platform/report/SystemPrinter.h"
 
 // Gives the report controls of the screens what they work with, as long as it lives: the preview, a printer,
 // and the way to the templates of AppFolder, where what goes to the printer lies, too. When it goes, the

@@ -1,18 +1,19 @@
 #pragma once
 
-#include "platform/report/Bands.h"
+#include "platform/report/Band.h"
 
 #include <algorithm>
 
-// How much room strips need on a page, in points.
+// How much room bands need on a page, in points.
 
-// What has to stand above a strip that begins a page: the heads of its table, and what is carried over.
+// The height of what is repeated above a band that begins a page: the heads of its table, and the totals
+// brought forward.
 float HeightAbove(const Band& band);
 
-// The room that has to be left below a strip, in case it is the last of its page.
+// The room to leave below a band for the totals of the page, in case the page ends there.
 float HeightBelow(const Band& band);
 
-// How many strips at the front of a lane stay together.
+// How many bands at the front of a lane must stay together.
 template <typename Lane> std::size_t ChainIn(const Lane& lane)
 {
     std::size_t length = 1;
@@ -21,8 +22,8 @@ template <typename Lane> std::size_t ChainIn(const Lane& lane)
     return length;
 }
 
-// The height with which a lane begins: the strips that stay together, or the first of them if together they
-// fill more than a page.
+// The least height a lane can begin with: the bands that stay together, or only the first if together they
+// are more than a page.
 template <typename Lane> float FirstPiece(const Lane& lane, float page)
 {
     if (lane.front().isElastic)
@@ -34,5 +35,5 @@ template <typename Lane> float FirstPiece(const Lane& lane, float page)
     return height + heads > page ? lane.front().height : height;
 }
 
-// The room with which a strip can begin, if it may go on over the page.
+// The least room a band can begin with, if it may continue on the next page.
 float LeastHeight(const Band& band, float page);

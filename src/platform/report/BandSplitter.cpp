@@ -1,5 +1,7 @@
 #include "platform/report/BandSplitter.h"
 
+#include "platform/text/RunTimeError.h"
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -7,6 +9,22 @@
 namespace {
 
 constexpr float Tolerance = 0.01F;
+
+// Squeezes a picture into a height. Its texts keep their size.
+void Lower(Band& picture, float room)
+{
+    const float share = room / picture.height;
+    for (PlacedItem& item : picture.items) {
+        if (item.kind == PlacedItem::Kind::Text) {
+            const float middle = (item.y + item.height / 2) * share;
+            item.y = std::clamp(middle - item.height / 2, 0.0F, std::max(0.0F, room - item.height));
+        } else {
+            item.y *= share;
+            item.height *= share;
+        }
+    }
+    picture.height = room;
+}
 
 }
 
@@ -24,19 +42,17 @@ bool HasContent(const Band& band)
         || std::any_of(band.lanes.begin(), band.lanes.end(), [](const auto& lane) { return !lane.empty(); });
 }
 
-void Lower(Band& picture, float room)
+void BandSplitter::FitFront(std::deque<Band>& bands, float room)
 {
-    const float share = room / picture.height;
-    for (PlacedItem& item : picture.items) {
-        if (item.kind == PlacedItem::Kind::Text) {
-            const float middle = (item.y + item.height / 2) * share;
-            item.y = std::clamp(middle - item.height / 2, 0.0F, std::max(0.0F, room - item.height));
-        } else {
-            item.y *= share;
-            item.height *= share;
-        }
-    }
-    picture.height = room;
+    Band& whole = bands.front();
+    if (whole.isPicture)
+        return Lower(whole, room);
+    Band rest = Split(whole, room);
+    if (!HasContent(whole) && HasContent(rest))
+        throw RunTimeError(RunTimeError::Overflow,
+            QStringLiteral("A line of the report is taller than the page.\n%1").arg(m_file));
+    if (HasContent(rest))
+        bands.insert(bands.begin() + 1, std::move(rest));
 }
 
 Band BandSplitter::Split(Band& whole, float room)
@@ -51,7 +67,7 @@ Band BandSplitter::Split(Band& whole, float room)
     first.frames = rest.frames = whole.frames;
     rest.repeated = whole.repeated;
     rest.keepWithNext = whole.keepWithNext;
-    bool goesOver = false; // the item before, or a part of it
+    bool goesOver = false; // the item before, or a part of it, went into the rest
     for (PlacedItem& item : whole.items) {
         if (item.goesOn && goesOver)
             item.y = room + rest.items.back().y + rest.items.back().height;

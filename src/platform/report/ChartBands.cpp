@@ -1,7 +1,9 @@
-#include "platform/report/Bands.h"
+#include "platform/report/ChartBands.h"
 
 #include "platform/report/Evaluation.h"
-#include "platform/report/Room.h"
+#include "platform/report/RowWalk.h"
+#include "platform/template/ExactSum.h"
+#include "platform/template/Spacing.h"
 #include "platform/text/Numbers.h"
 
 #include <algorithm>
@@ -9,15 +11,15 @@
 
 namespace {
 
-constexpr double SpaceForBars = 0.7; // of a label's room
+constexpr double SpaceForBars = 0.7; // share of the room of a label that its bars fill
 constexpr float ThinLine = 0.4F;
 constexpr float ThickLine = 1.4F;
-constexpr double PointSide = 3.6; // of the mark at each point of a line
+constexpr double PointSide = 3.6; // size of the square at each point of a line
 constexpr int WantedTicks = 5;
 constexpr quint8 PaleGray = 210;
 constexpr quint8 Grays[] = {60, 170, 110, 205, 20};
 
-// The figures of a chart: rows that share a label are added together.
+// The numbers of a chart. Successive rows with the same label are added up.
 struct ChartFigures {
     QStringList labels;
     std::vector<std::vector<double>> series;
@@ -25,7 +27,7 @@ struct ChartFigures {
     double most = 0;
 };
 
-// The scale at the left: from `low` to `high` in steps that read well.
+// The scale at the left: from `low` to `high` in round steps.
 struct Scale {
     double low = 0;
     double high = 1;
@@ -69,7 +71,7 @@ Scale MakeScale(double least, double most)
     Scale scale;
     const double range = most > least ? most - least : 1;
     scale.step = std::pow(10, std::floor(std::log10(range / WantedTicks)));
-    for (const double factor : {2.0, 2.5, 2.0}) { // 1, 2, 5, 10
+    for (const double factor : {2.0, 2.5, 2.0}) { // the step becomes 1, 2, 5, 10 times a power of ten
         if (range / scale.step > WantedTicks)
             scale.step *= factor;
     }
@@ -80,13 +82,13 @@ Scale MakeScale(double least, double most)
     return scale;
 }
 
-// Puts the parts of one chart into its strip.
+// Draws the parts of one chart into its band.
 class ChartDrawer {
 public:
-    ChartDrawer(const TemplateElement& element, BandMaker& maker, Stretch stretch, Band& band)
-        : m_chart(*element.chart)
+    ChartDrawer(const TemplateChart& chart, BandMaker& maker, Stretch stretch, Band& band)
+        : m_chart(chart)
         , m_maker(maker)
-        , m_look(element.look)
+        , m_look(chart.look)
         , m_stretch(stretch)
         , m_band(band)
         , m_lineHeight(maker.Measure.LineHeight(maker.Font(m_look)))
@@ -94,7 +96,7 @@ public:
         , m_scale(MakeScale(m_figures.least, m_figures.most))
     {
         band.height = static_cast<float>(m_chart.height * PointsPerMillimetre);
-        m_plot = QRectF(stretch.x + Room::ChartAxis, 0, stretch.width - Room::ChartAxis, band.height);
+        m_plot = QRectF(stretch.x + Spacing::ChartAxis, 0, stretch.width - Spacing::ChartAxis, band.height);
     }
 
     void Draw()
@@ -102,7 +104,7 @@ public:
         DrawTitle();
         DrawLegend();
         m_plot.setTop(m_plot.top() + m_lineHeight / 2);
-        m_plot.setBottom(m_plot.bottom() - m_lineHeight - Room::ChartGap);
+        m_plot.setBottom(m_plot.bottom() - m_lineHeight - Spacing::ChartGap);
         DrawScale();
         for (qsizetype i = 0; i < m_figures.labels.size(); ++i)
             DrawLabel(i);
@@ -162,8 +164,8 @@ private:
         for (std::size_t i = 0; i < m_chart.series.size(); ++i) {
             const QPointF corner(m_plot.left() + room * static_cast<double>(i), m_plot.top() + side / 2);
             AddStroke(PlacedItem::Kind::Box, corner, corner + QPointF(side, side), 0, Gray(i));
-            AddText(Fill(m_chart.series[i].label, m_maker.Data), corner.x() + side + Room::ChartGap,
-                m_plot.top(), room - side - 2 * Room::ChartGap, Align::Left);
+            AddText(Fill(m_chart.series[i].label, m_maker.Data), corner.x() + side + Spacing::ChartGap,
+                m_plot.top(), room - side - 2 * Spacing::ChartGap, Align::Left);
         }
         m_plot.setTop(m_plot.top() + m_lineHeight);
     }
@@ -175,7 +177,7 @@ private:
             const double value = m_scale.low + i * m_scale.step;
             const double y = HeightOf(value);
             AddText(ShortestDecimal(value), m_stretch.x, y - m_lineHeight / 2,
-                Room::ChartAxis - Room::ChartGap, Align::Right);
+                Spacing::ChartAxis - Spacing::ChartGap, Align::Right);
             AddStroke(PlacedItem::Kind::Line, {m_plot.left(), y}, {m_plot.right(), y}, ThinLine,
                 i == 0 ? 0 : PaleGray);
         }
@@ -186,13 +188,13 @@ private:
     {
         const double room = RoomOfLabel();
         const qsizetype every =
-            std::max<qsizetype>(1, static_cast<qsizetype>(std::ceil(Room::ChartLabel / room)));
+            std::max<qsizetype>(1, static_cast<qsizetype>(std::ceil(Spacing::ChartLabel / room)));
         if (index % every != 0)
             return;
         const double left = MiddleOf(index) - room * static_cast<double>(every) / 2;
         const double shown = std::min(room * static_cast<double>(every), m_plot.right() - left);
-        if (shown >= std::min(room, Room::ChartLabel))
-            AddText(m_figures.labels[index], left, m_plot.bottom() + Room::ChartGap, shown, Align::Center);
+        if (shown >= std::min(room, Spacing::ChartLabel))
+            AddText(m_figures.labels[index], left, m_plot.bottom() + Spacing::ChartGap, shown, Align::Center);
     }
 
     void DrawBars(std::size_t series)
@@ -254,10 +256,10 @@ private:
 
 }
 
-Band MakeChart(const TemplateElement& element, BandMaker& maker, Stretch stretch)
+Band MakeChart(const TemplateChart& chart, BandMaker& maker, Stretch stretch)
 {
     Band band;
     band.isPicture = true;
-    ChartDrawer(element, maker, stretch, band).Draw();
+    ChartDrawer(chart, maker, stretch, band).Draw();
     return band;
 }

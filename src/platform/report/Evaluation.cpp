@@ -1,6 +1,8 @@
 #include "platform/report/Evaluation.h"
 
+#include "platform/report/Accumulators.h"
 #include "platform/report/ReportData.h"
+#include "platform/report/RowWalk.h"
 
 #include <algorithm>
 #include <cmath>
@@ -32,7 +34,7 @@ Value EvaluateArithmetic(const Expression& expression, ReportData& data)
     case Operation::Multiply:
         return Value::OfNumber(first * second);
     default:
-        // An average of nothing is nothing.
+        // Dividing by 0 gives 0, so that an average over nothing prints as 0.
         return Value::OfNumber(second == 0 ? 0 : first / second);
     }
 }
@@ -101,7 +103,7 @@ bool IsNumber(const Expression& expression, const ReportTemplate& report)
     }
 }
 
-// Parts that have nothing to say leave no separator behind.
+// Empty parts are left out together with their separator.
 QString EvaluateJoin(const Expression& join, ReportData& data)
 {
     QStringList parts;
@@ -113,7 +115,7 @@ QString EvaluateJoin(const Expression& join, ReportData& data)
     return parts.join(Evaluate(join.arguments.front(), data).Text());
 }
 
-// A total outside of a table: the source is walked through for it.
+// A total outside of a table reads through the whole source.
 Value EvaluateOverSource(const Expression& aggregate, ReportData& data)
 {
     const std::vector<Expression> one{aggregate};
@@ -147,6 +149,8 @@ Value Evaluate(const Expression& expression, ReportData& data)
         return Value::OfNumber(expression.number);
     case Operation::Text:
         return Value::OfText(expression.text);
+    case Operation::Date:
+        return Value::OfDate(QDate::fromString(expression.text, Qt::ISODate));
     case Operation::Field:
         return EvaluateField(expression, data);
     case Operation::Page:

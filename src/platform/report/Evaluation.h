@@ -1,73 +1,21 @@
 #pragma once
 
-#include "platform/report/ExactSum.h"
-#include "platform/report/TemplateText.h"
-
-#include <vector>
+#include "platform/template/TemplateText.h"
 
 class ReportData;
 struct ReportTemplate;
 
-// Stands in a text for the number of pages until that is known.
+// Stands for the number of pages in a text until that number is known.
 inline constexpr QChar PageCountMark = QChar(0xFDD0);
 
-// The value of a checked expression for the rows that are current.
+// The value of a checked expression in the current rows.
 Value Evaluate(const Expression& expression, ReportData& data);
 
-// A text of a template with its expressions worked out.
+// A text with its expressions evaluated and printed.
 QString Fill(const TemplateText& text, ReportData& data);
 
-// The same for a spreadsheet, which reads a number only if its digits stand in one: `filled` is what Fill
-// gave.
+// The same for a spreadsheet, which wouldn't read a number with commas. `filled` is the result of Fill.
 QString FillForRecord(const TemplateText& text, const QString& filled, ReportData& data);
 
-// Whether a number of a checked template stands in a text, alone or among words.
+// True if a checked text contains a number, alone or among words.
 bool HoldsFigure(const TemplateText& text, const ReportTemplate& report);
-
-// One total in the making.
-class Accumulator {
-public:
-    // Takes in what the arguments of the aggregate come to in one row.
-    void Add(const Expression& aggregate, const Value* arguments);
-    Value Result(const Expression& aggregate) const;
-
-private:
-    ExactSum m_sum;
-    ExactSum m_weight;
-    double m_count = 0;
-    Value m_extreme;
-};
-
-// The totals of a table: one line of them for the whole table, and one for each of its groups.
-class Accumulators {
-public:
-    Accumulators(const std::vector<Expression>& aggregates, std::size_t groups);
-
-    // What the current row of the table adds to them, and the taking in of that.
-    std::vector<Value> Shares(ReportData& data) const;
-    void Add(const std::vector<Value>& shares);
-    void Add(ReportData& data) { Add(Shares(data)); }
-
-    // A group begins, and with it all groups inside it.
-    void Begin(std::size_t group);
-
-    // What one of them comes to so far: at level 0 of the whole table, at level n of its n-th group.
-    Value Result(int slot, int level) const;
-
-private:
-    const std::vector<Expression>& m_aggregates;
-    std::vector<std::vector<Accumulator>> m_levels;
-};
-
-// As long as it lives, totals of a table are told: those of its rows, those of the rows that stand for
-// groups, both at one level.
-class TotalsInSight {
-public:
-    TotalsInSight(ReportData& data, const Accumulators& rows, const Accumulators& groups, int level);
-    ~TotalsInSight();
-    TotalsInSight(const TotalsInSight&) = delete;
-    TotalsInSight& operator=(const TotalsInSight&) = delete;
-
-private:
-    ReportData& m_data;
-};

@@ -14,7 +14,7 @@
 
 namespace {
 
-// How long a thread that has yet to take its own name is waited for.
+// How long to wait for a new thread to set its name.
 constexpr int PatienceMs = 1000;
 
 QByteArray NameOf(const QString& thread)
@@ -23,7 +23,7 @@ QByteArray NameOf(const QString& thread)
     return name.open(QFile::ReadOnly) ? name.readAll() : QByteArray();
 }
 
-// The engine lends nobody its threads, so that they can only be looked for among those of the process.
+// Pango gives nobody access to its threads, so they are looked for among all threads of the process.
 bool RunsThread(const QByteArray& name)
 {
     const QString own = QString::number(gettid());
@@ -35,7 +35,7 @@ bool RunsThread(const QByteArray& name)
     return false;
 }
 
-// A thread that has just begun still has the name of the one that began it.
+// A new thread has the name of the thread that started it, until it sets its own.
 void WaitForSearches()
 {
     const QByteArray own = NameOf(QString::number(gettid()));
@@ -50,14 +50,14 @@ FontMap::FontMap()
     : m_map(pango_cairo_font_map_new())
     , m_hasWindows(qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr)
 {
-    pango_fc_font_map_get_config(PANGO_FC_FONT_MAP(m_map)); // which waits until it is read
+    pango_fc_font_map_get_config(PANGO_FC_FONT_MAP(m_map)); // waits until the configuration has been read
 }
 
 FontMap::~FontMap()
 {
     WaitForSearches();
     g_object_unref(m_map);
-    if (!m_hasWindows) // Qt gives the list behind the map back with its last window
+    if (!m_hasWindows) // otherwise Qt frees it when the application ends
         FcConfigSetCurrent(nullptr);
 }
 

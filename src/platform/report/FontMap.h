@@ -6,9 +6,9 @@
 
 using PangoFontMap = struct _PangoFontMap;
 
-// The fonts of the machine, found once a process. The engine's own map of them would never be given back. It
-// looks for fonts in threads of its own; a program that ended before that was done would end under its feet.
-// The map goes with the application, or with the last that still holds it then.
+// The fonts of this machine, found once a process. Pango has a map of its own, but never frees it, and it
+// looks for fonts in background threads: a process that ends before they do crashes. This map goes with the
+// application, or with the last object that still uses it.
 class FontMap {
 public:
     FontMap();
@@ -20,7 +20,7 @@ public:
 
     PangoFontMap* Get() const { return m_map; }
 
-    // Whether fonts of that name are installed; another that would be taken instead doesn't count.
+    // True if a font of that name is installed, and not just a substitute for it.
     bool Has(const QString& family) const;
 
 private:

@@ -1,5 +1,8 @@
+#include "platform/report/LaneBands.h"
+
 #include "platform/report/BandSplitter.h"
-#include "platform/report/Room.h"
+#include "platform/report/FlowBands.h"
+#include "platform/template/Spacing.h"
 
 #include <algorithm>
 #include <iterator>
@@ -14,55 +17,53 @@ float ToPoints(double millimetres)
 bool HoldsRows(const TemplateLane& lane)
 {
     return std::any_of(lane.elements.begin(), lane.elements.end(), [](const TemplateElement& element) {
-        return element.kind == ElementKind::Table || element.kind == ElementKind::Each;
+        return element.As<TemplateTable>() || element.As<TemplateEach>();
     });
 }
 
-// Lays out one strip of blocks side by side.
+// Lays out blocks side by side as one band.
 class LanesMaker {
 public:
-    LanesMaker(const TemplateElement& element, BandMaker& maker, Stretch stretch)
-        : m_element(element)
-        , m_maker(maker)
+    LanesMaker(const TemplateLanes& lanes, BandMaker& maker, Stretch stretch) : m_lanes(lanes), m_maker(maker)
     {
-        m_stretch = element.weight > 0 ? AddFrame(element.weight, stretch, 0) : stretch;
-        m_inset = element.weight > 0 ? Room::BoxPadding : 0;
-        const bool hasFrames = std::any_of(element.lanes.begin(), element.lanes.end(),
-            [](const TemplateLane& lane) { return lane.weight > 0; });
-        m_padding = m_inset + (hasFrames ? Room::BoxPadding : 0);
+        m_stretch = lanes.frame > 0 ? AddFrame(lanes.frame, stretch, 0) : stretch;
+        m_inset = lanes.frame > 0 ? Spacing::BoxPadding : 0;
+        const bool hasFrames = std::any_of(
+            lanes.lanes.begin(), lanes.lanes.end(), [](const TemplateLane& lane) { return lane.frame > 0; });
+        m_padding = m_inset + (hasFrames ? Spacing::BoxPadding : 0);
     }
 
     Band Make()
     {
         std::vector<WidthRule> rules;
-        for (const TemplateLane& lane : m_element.lanes)
+        for (const TemplateLane& lane : m_lanes.lanes)
             rules.push_back(lane.width);
-        const double gap = m_element.size * PointsPerMillimetre;
+        const double gap = m_lanes.gap * PointsPerMillimetre;
         const std::vector<double> widths = DivideWidth(rules, m_stretch.width, gap);
         double x = m_stretch.x;
-        m_band.height = ToPoints(m_element.height);
-        for (std::size_t i = 0; i < m_element.lanes.size(); ++i) {
-            MakeLane(m_element.lanes[i], {static_cast<float>(x), static_cast<float>(widths[i])});
+        m_band.height = ToPoints(m_lanes.height);
+        for (std::size_t i = 0; i < m_lanes.lanes.size(); ++i) {
+            MakeLane(m_lanes.lanes[i], {static_cast<float>(x), static_cast<float>(widths[i])});
             x += widths[i] + gap;
         }
         for (std::size_t i = 0; i < m_band.lanes.size(); ++i)
             AddBottom(m_band.lanes[i], m_bottoms[i]);
-        m_band.holdsRows = m_band.holdsRows && m_band.frames.empty() && m_element.height <= 0;
+        m_band.holdsRows = m_band.holdsRows && m_band.frames.empty() && m_lanes.height <= 0;
         return std::move(m_band);
     }
 
 private:
-    // Draws a frame and returns the room in it.
+    // Adds a frame and returns the room inside of it.
     Stretch AddFrame(double weight, Stretch around, float inset)
     {
         m_band.frames.push_back({static_cast<float>(weight), around.x, around.width, inset});
-        return {around.x + Room::BoxPadding, std::max(1.0F, around.width - 2 * Room::BoxPadding)};
+        return {around.x + Spacing::BoxPadding, std::max(1.0F, around.width - 2 * Spacing::BoxPadding)};
     }
 
     void MakeLane(const TemplateLane& lane, Stretch stretch)
     {
-        if (lane.weight > 0)
-            stretch = AddFrame(lane.weight, stretch, m_inset);
+        if (lane.frame > 0)
+            stretch = AddFrame(lane.frame, stretch, m_inset);
         std::vector<Band>& bands = m_band.lanes.emplace_back();
         std::vector<Band>& bottom = m_bottoms.emplace_back();
         AddPadding(bands);
@@ -97,19 +98,19 @@ private:
         std::move(bottom.begin(), bottom.end(), std::back_inserter(bands));
     }
 
-    const TemplateElement& m_element;
+    const TemplateLanes& m_lanes;
     BandMaker& m_maker;
     Stretch m_stretch;
-    float m_inset = 0; // of the lanes' frames from the edge of the strip
+    float m_inset = 0; // distance of the frames of the lanes from the edge of the band
     float m_padding =
         0; // above and below what stands in the lanes, framed or not, so that their lines are level
     Band m_band;
-    std::vector<std::vector<Band>> m_bottoms; // of each lane what stands at its bottom
+    std::vector<std::vector<Band>> m_bottoms; // the <bottom> of each lane
 };
 
 }
 
-Band MakeLanes(const TemplateElement& element, BandMaker& maker, Stretch stretch)
+Band MakeLanes(const TemplateLanes& lanes, BandMaker& maker, Stretch stretch)
 {
-    return LanesMaker(element, maker, stretch).Make();
+    return LanesMaker(lanes, maker, stretch).Make();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report/ReportPages.h"
+#include "platform/report/FontTable.h"
 
 #include <QStringView>
 
@@ -12,9 +12,9 @@ class FontMap;
 using PangoLayout = struct _PangoLayout;
 using PangoContext = struct _PangoContext;
 
-// Layouts of the text engine, one a font, made when first needed. All measuring and all drawing is done with
-// these, without hinting of widths and without rounding to dots, so that lines break in the same place on
-// screen and on paper.
+// Pango layouts, one for each font, made when they are first needed. All measuring and drawing uses these,
+// without hinting and without rounding to pixels, so that lines break in the same places on screen and on
+// paper.
 class LayoutPool {
 public:
     LayoutPool();
@@ -24,20 +24,20 @@ public:
 
     PangoContext* Context() const { return m_context; }
 
-    // For texts of one line.
+    // For single lines.
     PangoLayout* Single(const FontSpec& font) { return Find(m_single, font, false); }
 
-    // For texts that break into lines; the width is to be set.
+    // For texts that are broken into lines; the caller sets the width.
     PangoLayout* Wrapping(const FontSpec& font) { return Find(m_wrapping, font, true); }
 
-    // How far a text is moved down, in points, so that letters and figures of a font stand on one line
-    // although they may come from different faces.
+    // How far to move a text down, in points, so that all texts of a font stand on one baseline, although
+    // letters and figures may come from different font files.
     double Drop(const FontSpec& font, PangoLayout* layout);
 
-    // The same for a text whose first line has its letters on a baseline, in units of the text engine.
+    // The same for a given baseline of the first line, in Pango units.
     double Drop(const FontSpec& font, int baseline);
 
-    // Its letters have signs above and below.
+    // Letters with signs above and below them.
     static constexpr QStringView TallText = u"क्ष्र्यूंङ्ळृEg";
 
 private:

@@ -8,7 +8,7 @@
 
 namespace {
 
-// The rights of a new file under the user's own mask. Qt has four bits for each of owner, group and others.
+// The rights a new file has under the user's umask. Qt uses four bits each for owner, group and others.
 QFileDevice::Permissions RightsOfTheUser()
 {
     const unsigned rights = 0666 & ~FileRights::OfTheUser();
@@ -37,11 +37,11 @@ QString Quoted(const QString& cell)
 
 Outcome WriteWhole(const QString& file, const std::function<bool(QIODevice&)>& write)
 {
-    const bool isNew = !QFileInfo::exists(file); // what was there before keeps its rights
+    const bool isNew = !QFileInfo::exists(file); // an existing file keeps its rights
     QSaveFile target(file);
     if (!target.open(QIODevice::WriteOnly))
         return Failed(file, target.errorString());
-    // What is still in the buffer has to meet the disk here: the commit doesn't notice its loss.
+    // Flush now: commit() doesn't notice if buffered data can't be written.
     if (!write(target) || !target.flush()) {
         const QString why = target.errorString();
         target.cancelWriting();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report/Printer.h"
+#include "platform/report/Outcome.h"
 
 #include <QIODevice>
 #include <QStringList>
@@ -8,11 +8,11 @@
 #include <functional>
 #include <vector>
 
-// Writes a file beside its place and puts it there when it is whole; a failure leaves what was there before
-// and nothing else. A new file has the rights that the user's own mask gives it, however private the process
-// keeps its files. `write` returns false if the device didn't take all of it.
+// Writes a file under a temporary name and puts it in place when it is complete; on failure, what was there
+// before is untouched. A new file gets the rights of the user's umask, however private the files of this
+// process are. `write` returns false if the device didn't take everything.
 Outcome WriteWhole(const QString& file, const std::function<bool(QIODevice&)>& write);
 
-// Rows as a table for a spreadsheet: UTF-8 with its mark in front, a comma between cells, a cell that holds
-// a comma, a quote or a line's end in quotes.
+// Writes rows as CSV for a spreadsheet: UTF-8 with a byte order mark, commas between cells, and quotes
+// around a cell with a comma, a quote or a line break.
 bool WriteCsv(QIODevice& device, const std::vector<QStringList>& rows);

@@ -1,24 +1,24 @@
 #pragma once
 
-#include "platform/report/Evaluation.h"
+#include "platform/report/Accumulators.h"
 #include "platform/report/TableStrips.h"
 
-// The totals of a table that goes on over pages: those of a page, and those carried to the next. They grow as
-// strips are placed, since nobody knows before on which page a strip will stand.
+// The totals of a table that continues over pages: those of the page, and those carried forward. They grow
+// while bands are placed, since before that nobody knows on which page a band will be.
 class PageTotals {
 public:
     PageTotals(std::shared_ptr<const TableStrips> strips, BandMaker& maker);
 
-    // A strip has been placed.
+    // Adds what a band contributes, once it is placed.
     void Take(const PageShare& share);
 
-    // The page has ended; the totals of the next begin.
+    // Begins the totals of the next page.
     void EndPage();
 
-    // Whether something of the table has been placed by now.
+    // True if something of the table has been placed.
     bool HasBegun() const { return m_hasBegun; }
 
-    // What stands below the last strip of a page, and above the first strip of the next.
+    // The lines below the last band of a page, and above the first band of the next, and their heights.
     std::vector<Band> Foot();
     std::vector<Band> Head();
     float FootHeight() const;
@@ -29,6 +29,6 @@ private:
 
     std::shared_ptr<const TableStrips> m_strips;
     BandMaker& m_maker;
-    Accumulators m_rows, m_groups; // level 0: all so far; level 1: the page
+    Accumulators m_rows, m_groups; // level 0: everything so far; level 1: the page
     bool m_hasBegun = false;
 };

@@ -2,17 +2,17 @@
 
 #include <QString>
 
-// Files on their way to the printer. They hold what is in the books, so they lie with the books and are for
-// their owner alone. One that a program left behind that was ended in the middle is removed at the next
-// start.
+// Files on their way to the printer. They contain data from the books, so they are kept beside them and only
+// the user can read them. If the program was killed while printing, the next start removes what it left
+// behind.
 namespace PrintFiles {
 
-// Removes what was left behind in a folder, and has the files lie there from now on. Nobody else may be
-// printing from that folder.
+// Sets the folder for these files, and removes what was left behind there. No other process may be printing
+// from that folder.
 void KeepIn(const QString& folder);
 
-// What the name of a new file is made from, as a temporary file takes it. Until a folder was given they lie
-// among the machine's temporary files.
+// The name pattern of a new file for QTemporaryFile. Before KeepIn it is in the temporary folder of the
+// system.
 QString Pattern();
 
 }

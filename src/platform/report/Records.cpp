@@ -8,38 +8,45 @@ namespace {
 
 using Elements = std::vector<TemplateElement>;
 
+// Looks into the blocks of an element, from left to right; true if `find` returned true.
+template <typename Find> bool InLanes(const TemplateElement& element, const Find& find)
+{
+    const TemplateLanes* const lanes = element.As<TemplateLanes>();
+    return lanes && std::any_of(lanes->lanes.begin(), lanes->lanes.end(), [&](const TemplateLane& lane) {
+        return find(lane.elements);
+    });
+}
+
 bool FindTable(const Elements& elements, RecordPlan& plan)
 {
     for (const TemplateElement& element : elements) {
-        if (element.table) {
-            plan.table = element.table.get();
+        if (const TemplateTable* const table = element.As<TemplateTable>()) {
+            plan.table = table;
             return true;
         }
-        if (element.kind == ElementKind::Each) {
-            plan.around.push_back(&element);
-            if (FindTable(element.children, plan))
+        if (const TemplateEach* const each = element.As<TemplateEach>()) {
+            plan.around.push_back(each);
+            if (FindTable(each->elements, plan))
                 return true;
             plan.around.pop_back();
         }
-        if (std::any_of(element.lanes.begin(), element.lanes.end(),
-                [&](const TemplateLane& lane) { return FindTable(lane.elements, plan); }))
+        if (InLanes(element, [&](const Elements& inside) { return FindTable(inside, plan); }))
             return true;
     }
     return false;
 }
 
-// The innermost part that comes once a row.
+// Finds the first <each>, and the <each> inside of it down to the innermost.
 bool FindEach(const Elements& elements, RecordPlan& plan)
 {
     for (const TemplateElement& element : elements) {
-        if (element.kind == ElementKind::Each) {
-            plan.around.push_back(&element);
-            plan.each = &element;
-            FindEach(element.children, plan);
+        if (const TemplateEach* const each = element.As<TemplateEach>()) {
+            plan.around.push_back(each);
+            plan.each = each;
+            FindEach(each->elements, plan);
             return true;
         }
-        if (std::any_of(element.lanes.begin(), element.lanes.end(),
-                [&](const TemplateLane& lane) { return FindEach(lane.elements, plan); }))
+        if (InLanes(element, [&](const Elements& inside) { return FindEach(inside, plan); }))
             return true;
     }
     return false;
@@ -76,14 +83,14 @@ RecordPlan RecordPlan::Of(const std::vector<TemplateElement>& body)
 QStringList RecordHeads(const RecordPlan& plan, ReportData& data)
 {
     QStringList heads;
-    for (const TemplateElement* part : plan.around)
+    for (const TemplateEach* part : plan.around)
         heads += part->by ? QStringList(part->byName) : FieldNames(part->source, data);
     if (plan.table)
         heads += TableHeads(*plan.table, data);
     return heads;
 }
 
-std::size_t RecordPlan::DepthOf(const TemplateElement& part) const
+std::size_t RecordPlan::DepthOf(const TemplateEach& part) const
 {
     const auto found = std::find(around.begin(), around.end(), &part);
     return found == around.end() ? 0 : static_cast<std::size_t>(found - around.begin()) + 1;

@@ -2,29 +2,26 @@
 
 #include "platform/report/ReportData.h"
 
-// Which rows of a report go into a spreadsheet: those of its first table; without a table, those of its first
-// part that comes once a row; else the first row of its first source.
+// Which rows of a report go into a spreadsheet, as records: those of its first table; without a table, those
+// of its first <each>; without either, only the first row of its first source.
 struct RecordPlan {
     const TemplateTable* table = nullptr;
-    const TemplateElement* each = nullptr; // only without a table
-    std::vector<const TemplateElement*>
-        around; // the parts that it stands in, and `each`, the outermost first
+    const TemplateEach* each = nullptr; // set only if there is no table
+    std::vector<const TemplateEach*> around; // all <each> around it, outermost first, and `each` itself
 
-    // Where a part stands among these, from 1; 0 if it is none of them.
-    std::size_t DepthOf(const TemplateElement& part) const;
+    // The position of an <each> in `around`, counted from 1; 0 if it isn't there.
+    std::size_t DepthOf(const TemplateEach& part) const;
 
     static RecordPlan Of(const std::vector<TemplateElement>& body);
 };
 
-// What stands above the records: the columns of the rows around them, then the groups of the table and its
-// columns that hold anything, each under the words that stand above it.
+// The heads of the records: the columns of the rows around, then the groups of the table, then its columns
+// that aren't empty, with the heads that span them.
 QStringList RecordHeads(const RecordPlan& plan, ReportData& data);
 
-// The fields of the rows around that are current now, in the order of the heads: those of so many parts, the
-// outermost first.
+// The fields of the current rows of the first `parts` <each> around, in the order of the heads.
 QStringList FieldsAround(const RecordPlan& plan, std::size_t parts, ReportData& data);
 
-// The columns that a template reads of a source, and what they hold in its current row, as it stands on
-// paper.
+// The columns of a source that the template uses, and their values in the current row as they are printed.
 QStringList FieldNames(int source, const ReportData& data);
 QStringList Fields(int source, ReportData& data);

@@ -1,8 +1,8 @@
 #include "platform/report/Report.h"
 
-#include "platform/report/Drawing.h"
 #include "platform/report/Evaluation.h"
 #include "platform/report/OutputFile.h"
+#include "platform/report/PagePainter.h"
 #include "platform/report/PrintFiles.h"
 #include "platform/report/ReportFiller.h"
 
@@ -94,7 +94,7 @@ Outcome Report::SaveCsv(const QString& file)
 Outcome Report::Print(Printer& printer, const QString& printerName)
 {
     Complete();
-    QTemporaryFile pdf(PrintFiles::Pattern()); // for its owner alone
+    QTemporaryFile pdf(PrintFiles::Pattern()); // only the user can read it
     if (!pdf.open() || !WritePdf(pdf) || !pdf.flush())
         return {QStringLiteral("छपाईसाठी तात्पुरती फाइल लिहिता आली नाही. डिस्कवर जागा आहे का ते पाहा.\n%1")
                     .arg(pdf.errorString())};

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "platform/database/Connection.h"
+#include "platform/report/Page.h"
 #include "platform/report/Printer.h"
-#include "platform/report/ReportPages.h"
 #include "platform/report/SelectionFormula.h"
+#include "platform/template/ReportTemplate.h"
 
 #include <QImage>
 
@@ -13,48 +14,49 @@
 class ReportFiller;
 class PagePainter;
 
-// One run of a report: its pages, and what can be done with them. The pages are laid out one by one, so that
-// the first can be looked at before the last is there.
+// One run of a report: its pages, and what can be done with them. Pages are laid out one by one, so that the
+// first can be shown before the last is ready.
 class Report {
 public:
-    // Starts a run of a checked template. The rows are those of the moment when the first page is laid out.
+    // Starts a run of a checked template. It shows the books as they are when the first page is laid out.
     Report(ReportTemplate report, std::shared_ptr<Connection> connection, Selection selection);
     ~Report();
     Report(const Report&) = delete;
     Report& operator=(const Report&) = delete;
 
-    // What the clerk knows the report by: its title, or its name if it has none.
+    // The title that the clerk knows; without one, the name.
     const QString& Title() const { return m_template.title.isEmpty() ? m_template.name : m_template.title; }
 
-    // What it is about beyond its title, such as a member and a period; empty if nobody has said.
+    // What the report is about, such as a member and a period; may be empty.
     const QString& Subject() const { return m_subject; }
     void SetSubject(const QString& subject) { m_subject = subject; }
 
-    // Lays out one more page. Returns false if there is none any more; the number of pages is known then.
+    // Lays out one more page. Returns false at the end, when the number of pages is known.
     bool LayOutNext();
 
-    // Lays out all that is left, and lets go of the books.
+    // Lays out all remaining pages and stops reading the books.
     void Complete();
     bool IsComplete() const { return m_filler == nullptr; }
 
-    // The pages that have been laid out so far, numbered from 0.
+    // The pages laid out so far, counted from 0.
     std::size_t PageCount() const { return m_pages.size(); }
     const Page& PageAt(std::size_t page) const { return m_pages.at(page); }
     const FontTable& Fonts() const { return m_fonts; }
 
-    // A page as a picture; `scale` is dots a point (1 shows it at 72 dots an inch).
+    // A page as an image; `scale` is pixels a point, so 1 shows it at 72 dpi.
     QImage Image(std::size_t page, double scale);
 
-    // A place where a text was found; the rectangle is in points of the page.
+    // A search result; the rectangle is in points on the page.
     struct Found {
         std::size_t page;
         QRectF rect;
     };
 
-    // All places of a text in the pages so far, from top to bottom; the case of letters doesn't matter.
+    // Finds a text in the pages so far, from top to bottom, ignoring upper and lower case.
     std::vector<Found> Search(const QString& text) const;
 
-    // The whole report as a PDF, as a table for a spreadsheet, or on paper. What is left is laid out first.
+    // Saves the whole report as a PDF or as CSV for a spreadsheet, or prints it. Remaining pages are laid
+    // out first.
     Outcome SavePdf(const QString& file);
     Outcome SaveCsv(const QString& file);
     Outcome Print(Printer& printer, const QString& printerName = {});

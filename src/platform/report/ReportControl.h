@@ -1,68 +1,43 @@
 #pragma once
 
-#include "platform/report/Report.h"
-
-#include <functional>
-
-// Where a report is shown, and where the machine's refusals are told. Whoever installs one owns it.
-class ReportWindow {
-public:
-    virtual ~ReportWindow() = default;
-
-    // Shows a report whose first page has been laid out; the window lays out the rest when it has time, and
-    // keeps the report as long as it is looked at.
-    virtual void Show(std::shared_ptr<Report> report) = 0;
-
-    // Tells the clerk one sentence, such as why nothing was printed.
-    virtual void Tell(const QString& sentence) = 0;
-};
-
-// What the report controls of the screens work with.
-struct ReportSurroundings {
-    ReportWindow* window = nullptr;
-    Printer* printer = nullptr;
-    std::function<QString(const QString&)> localPath; // where a path of AppFolder lies on this machine
-
-    // Those of the program; there is neither window nor printer until somebody puts one in.
-    static ReportSurroundings& Current();
-};
+#include "platform/report/ReportSurroundings.h"
 
 enum class ReportDestination { Window = 0, Printer = 1 };
 
-// The report control of a screen: it is told the template, the logon, the selection and the destination, and
+// The report control of a screen. The screen sets template, logon, selection and destination; the control
 // reads the staging tables itself.
 class ReportControl {
 public:
-    // The template's full path under AppFolder.
+    // Full path of the template below AppFolder.
     void SetReportFileName(const QString& path) { m_file = path; }
     const QString& ReportFileName() const { return m_file; }
 
-    // "dsn=VetrolanDSN;pwd=" and the password. The books are opened once for a logon and stay open for
+    // "dsn=VetrolanDSN;pwd=" and the password. The books are opened once for a logon and kept open for
     // reading.
     void SetLogon(const QString& logon) { m_logon = logon; }
 
-    // Narrows the first source of its table, as "{MilkPayments.PaymentDate} = DateTime (2026,4,1,00, 00,
-    // 00)".
+    // A condition for the first source of its table, such as "{MilkPayments.PaymentDate} = DateTime
+    // (2026,4,1,00, 00, 00)". Empty for all rows.
     void SetSelectionFormula(const QString& formula) { m_formula = formula; }
 
-    // What the run is about, as it is read: see Report::Subject.
+    // Sets Report::Subject of the next run.
     void SetSubject(const QString& subject) { m_subject = subject; }
 
-    // The window, unless it is set.
+    // The window, if nothing else is set.
     void SetDestination(ReportDestination destination) { m_destination = destination; }
 
-    // Runs the report and hands it over. A template that is missing or has faults, and a formula that can't
-    // be read, are run-time errors that show them all. A printer that refuses is told in the window, and
-    // false is returned.
+    // Runs the report and hands it to its destination. A missing or faulty template, and a formula that
+    // can't be read, are run-time errors that list all faults. If the printer refuses, the window shows why,
+    // and false is returned.
     bool Print();
 
-    // Opens the books for reading and paints the first page for nobody to see, so that the first slip needn't
-    // wait for its books, its template or its fonts. May be called at any time. What goes wrong is left for
-    // the printing to tell.
+    // Warms up: opens the books, reads the template and paints the first page without showing it, so that
+    // the first slip doesn't have to wait for that. Can be called at any time. Errors are ignored; Print
+    // will report them.
     void Prepare() const;
 
-    // Ends the reading of all reports and closes the books that were opened for them; they are opened again
-    // when needed. To be called before the database file is copied or replaced.
+    // Finishes all reports that are reading and closes the books, before the database file is copied or
+    // replaced. They are opened again when needed.
     static void CloseConnections();
 
 private:

@@ -1,6 +1,7 @@
 #include "platform/report/ReportData.h"
 
 #include "platform/report/Evaluation.h"
+#include "platform/report/RowWalk.h"
 #include "platform/text/RunTimeError.h"
 #include "platform/text/Shivaji01.h"
 
@@ -11,7 +12,7 @@ namespace {
 constexpr qsizetype MostSeenTexts = 20000;
 constexpr qsizetype LongestSeenText = 200;
 
-// What two linked rows share, as one text.
+// The values that link two rows, as one text.
 QString KeyOf(const Row& row, const std::vector<int>& columns)
 {
     QString key;
@@ -35,7 +36,7 @@ int FindSelected(const ReportTemplate& report, const Selection& selection)
     return static_cast<int>(found - report.sources.begin());
 }
 
-// A column whose declaration says nothing comes with what is stored there, as the database tells it.
+// The type of a value in a column without a declared type, as the database names it.
 ValueType TypeOfStored(const FieldValue& told)
 {
     const QString type = told.Text();
@@ -199,38 +200,4 @@ QString ReportData::Seen(const QString& stored)
     if (stored.size() <= LongestSeenText)
         m_seen.insert(stored, seen);
     return seen;
-}
-
-RowWalk::RowWalk(ReportData& data, int source) : m_data(data), m_source(source)
-{
-    if (data.Run(source))
-        m_linked = data.Run(source);
-    else if (data.Template().sources[static_cast<std::size_t>(source)].parent >= 0)
-        m_linked = &data.LinkedRows(source);
-    else
-        m_rows = std::make_unique<Recordset>(data.Open(source));
-}
-
-bool RowWalk::Next(Row& row)
-{
-    return m_linked ? NextLinked(row) : NextOwn(row);
-}
-
-bool RowWalk::NextLinked(Row& row)
-{
-    if (m_at == m_linked->size())
-        return false;
-    row = (*m_linked)[m_at++];
-    return true;
-}
-
-bool RowWalk::NextOwn(Row& row)
-{
-    while (!m_rows->Eof()) {
-        m_data.ReadRow(m_source, *m_rows, row);
-        m_rows->MoveNext();
-        if (m_data.Passes(m_source, row))
-            return true;
-    }
-    return false;
 }

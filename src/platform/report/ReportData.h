@@ -1,64 +1,64 @@
 #pragma once
 
 #include "platform/database/Recordset.h"
-#include "platform/report/ReportTemplate.h"
 #include "platform/report/SelectionFormula.h"
+#include "platform/template/ReportTemplate.h"
 
 #include <QHash>
 
 #include <memory>
 #include <vector>
 
-// One row of a source: the columns that the template uses, texts as they are stored.
+// One row of a source: the columns that the template uses, with texts as they are stored.
 using Row = std::vector<Value>;
 
 class Accumulators;
 
-// What the expressions of a template look at while it is filled: the rows that are being walked through, the
-// rows linked to them, the totals so far, and the number of the page.
+// The data that expressions are evaluated on while a template is filled: the current rows of all sources,
+// the totals so far, and the page number.
 class ReportData {
 public:
-    // Reads the tables of a checked template through an open connection, each when it is first needed.
+    // Reads through an open connection, each table of the checked template when it is first needed.
     ReportData(const ReportTemplate& report, Connection& connection, Selection selection);
     ~ReportData();
 
     const ReportTemplate& Template() const { return m_report; }
 
-    // The row that a field of a source stands for now: the one being walked through; else the first of those
-    // linked to the parent's row; else the source's first. nullptr if there is none.
+    // The row that fields of a source are taken from now: if the source is being walked, the current row;
+    // else the first row that is linked to the parent's current row, or the first of all if it has no
+    // parent. nullptr if there is none.
     const Row* CurrentRow(int source);
 
-    // Walking sets the row that is being walked through, and nullptr when it has ended.
+    // Sets the current row of a walk, and nullptr at its end.
     void SetCurrent(int source, const Row* row) { m_current[static_cast<std::size_t>(source)] = row; }
     const Row* Walked(int source) const { return m_current[static_cast<std::size_t>(source)]; }
 
-    // The rows of a source that are walked where it is walked once more within an <each> of their value;
-    // nullptr where it isn't.
+    // Inside an <each by>, a walk through the same source goes through the rows of one value only. These are
+    // the rows, or nullptr elsewhere.
     void SetRun(int source, const std::vector<Row>* rows) { m_runs[static_cast<std::size_t>(source)] = rows; }
     const std::vector<Row>* Run(int source) const { return m_runs[static_cast<std::size_t>(source)]; }
 
-    // $society and its like.
+    // The value of a variable such as $society.
     Value Variable(const QString& name);
 
-    // A stored text as the eye sees it.
+    // A stored text in Unicode.
     QString Seen(const QString& stored);
 
-    // The rows that hang on the parent's current row; the walk through a source without a parent reads its
-    // own.
+    // The rows of a linked source for the current row of its parent.
     const std::vector<Row>& LinkedRows(int source);
 
-    // Opens a source's rows, in its order.
+    // Opens the rows of a source in its order.
     Recordset Open(int source);
 
-    // Puts the row that the recordset stands at into `row`.
+    // Reads the current row of the recordset into `row`.
     void ReadRow(int source, const Recordset& rows, Row& row) const;
 
-    // Whether the source's own condition lets a row pass.
+    // True if the row passes the `only` of its source.
     bool Passes(int source, const Row& row);
 
     int Page = 0;
-    const Accumulators* Totals = nullptr; // of the table being filled
-    const Accumulators* GroupTotals = nullptr; // of its rows that stand for groups
+    const Accumulators* Totals = nullptr; // totals of the table that is being filled
+    const Accumulators* GroupTotals = nullptr; // its totals over the printed rows of rows="groups"
     int TotalsLevel = 0; // 0: the whole table; n: its n-th group
 
 private:
@@ -71,32 +71,11 @@ private:
     const ReportTemplate& m_report;
     Connection& m_connection;
     Selection m_selection;
-    int m_selected = -1; // the source that the selection narrows
+    int m_selected = -1; // index of the source that the selection applies to
     std::vector<const Row*> m_current;
     std::vector<const std::vector<Row>*> m_runs;
     std::vector<std::unique_ptr<RowsByKey>> m_linked;
-    std::vector<std::unique_ptr<std::vector<Row>>> m_first; // one row, or none
+    std::vector<std::unique_ptr<std::vector<Row>>> m_first; // first rows, read when needed
     QHash<QString, Value> m_variables;
     QHash<QString, QString> m_seen;
-};
-
-// A walk through the rows of a source: all of it, those that hang on the parent's current row, or a run of
-// them.
-class RowWalk {
-public:
-    // Stands before the first row.
-    RowWalk(ReportData& data, int source);
-
-    // Puts the next row into `row`; false at the end.
-    bool Next(Row& row);
-
-private:
-    bool NextOwn(Row& row);
-    bool NextLinked(Row& row);
-
-    ReportData& m_data;
-    int m_source;
-    std::unique_ptr<Recordset> m_rows;
-    const std::vector<Row>* m_linked = nullptr;
-    std::size_t m_at = 0;
 };

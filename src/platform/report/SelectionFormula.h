@@ -5,16 +5,14 @@
 
 class Connection;
 
-// Which rows of a table a report is to show.
+// Which rows of a table a report shows.
 struct Selection {
-    QString table; // empty: nothing is narrowed
-    QString condition; // in the words of a statement
-    QDate date = {}; // the one that a column has to have; none if there is no such day, or more than one
+    QString table; // empty: all rows of all tables
+    QString condition; // as an SQL condition
+    QDate date = {}; // the day that the condition asks for; invalid if it asks for none, or for several
 };
 
-// Reads a selection formula such as
-//   {MilkPayments.PaymentDate} = DateTime (2026,4,1,00, 00, 00) and {MilkPayments.Liters} > 0
-// with = <> < > <= >=, numbers, texts in quotes, Date(y,m,d), DateTime(y,m,d,h,m,s), and, or, not and
-// brackets. All its fields are of one table. An empty formula selects everything. A formula that can't be
-// read, or that names a column which isn't there, is a run-time error that shows it.
+// Reads a selection formula (see ReadFormula): comparisons of a field with a number, a text or a day, joined
+// by and, or, not and brackets. All fields must be of the same table. An empty formula selects everything. A
+// formula that can't be read, or that names an unknown column, is a run-time error that quotes it.
 Selection ReadSelectionFormula(const QString& formula, Connection& connection);

@@ -1,15 +1,20 @@
+#include "platform/report/TableBands.h"
+
+#include "platform/report/Evaluation.h"
 #include "platform/report/PageTotals.h"
+#include "platform/report/RowWalk.h"
 
 #include <algorithm>
+#include <deque>
 #include <utility>
 
 namespace {
 
-constexpr float GroupGap = 5; // above a group that isn't the first
+constexpr float GroupGap = 5; // points above each group but the first
 
 class TableStream final : public BandStream {
 public:
-    TableStream(const TemplateElement& element, BandMaker& maker, Stretch stretch);
+    TableStream(const TemplateTable& table, BandMaker& maker, Stretch stretch);
     ~TableStream() override { SetCurrent(m_before); }
 
     bool Next(Band& band) override;
@@ -33,34 +38,34 @@ private:
     QStringList RecordOfRow();
     void SetCurrent(const Row* row) { m_maker.Data.SetCurrent(m_table.source, row); }
 
-    // The groups that rows stand in; those that rows="groups" prints as rows aren't among them.
+    // The number of groups that contain printed rows; with rows="groups" the innermost is itself a row.
     std::size_t GroupsAroundRows() const { return m_table.groups.size() - (m_table.isOfGroups ? 1 : 0); }
 
     const TemplateTable& m_table;
     BandMaker& m_maker;
-    const Row* m_before; // the row that was current around the table
+    const Row* m_before; // the row that is current outside of the table
     RowWalk m_walk;
     std::shared_ptr<const TableStrips> m_strips;
     std::shared_ptr<PageTotals> m_page;
-    PageShare m_share; // of the row in the making
+    PageShare m_share; // of the row that is being made
     Accumulators m_totals, m_groupTotals;
     bool m_hasStarted = false;
     bool m_hasRow = false;
     bool m_hasNext = false;
     bool m_breaks = false;
     int m_toKeep = 0;
-    std::size_t m_changed = 0; // the first group that ends with the current row
+    std::size_t m_changed = 0; // index of the first group that ends with the current row
     Row m_row, m_next;
     std::vector<Value> m_groupValues, m_nextValues;
     std::deque<Band> m_ready;
 };
 
-TableStream::TableStream(const TemplateElement& element, BandMaker& maker, Stretch stretch)
-    : m_table(*element.table)
+TableStream::TableStream(const TemplateTable& table, BandMaker& maker, Stretch stretch)
+    : m_table(table)
     , m_maker(maker)
     , m_before(maker.Data.Walked(m_table.source))
     , m_walk(maker.Data, m_table.source)
-    , m_strips(std::make_shared<TableStrips>(element, maker, stretch))
+    , m_strips(std::make_shared<TableStrips>(table, maker, stretch))
     , m_totals(m_table.aggregates, m_table.groups.size())
     , m_groupTotals(m_table.groupAggregates, m_table.groups.size())
 {
@@ -135,7 +140,7 @@ bool TableStream::Next(Band& band)
     return true;
 }
 
-// Makes the next row the current one, with the heads of the groups that begin with it.
+// Makes the next row the current one, and the heads of the groups that begin with it.
 void TableStream::BeginRow()
 {
     TakeRow();
@@ -155,7 +160,7 @@ void TableStream::TakeRow()
     SetCurrent(&m_row);
 }
 
-// Adds the current row, and finds out which groups end with it.
+// Adds the current row to the totals and reads the next one, to know which groups end here.
 void TableStream::LookAhead()
 {
     m_totals.Add(m_maker.Data);
@@ -225,7 +230,7 @@ void TableStream::MakeRow()
     Push(std::move(band));
 }
 
-// What ends with the current row stays with it.
+// Feet and totals that follow the current row stay on its page.
 void TableStream::EndRow()
 {
     const std::size_t row = m_ready.size() - 1;
@@ -262,7 +267,7 @@ void TableStream::PushFoot(const TemplateText* label, const std::vector<Template
 
 }
 
-std::unique_ptr<BandStream> MakeTable(const TemplateElement& element, BandMaker& maker, Stretch stretch)
+std::unique_ptr<BandStream> MakeTable(const TemplateTable& table, BandMaker& maker, Stretch stretch)
 {
-    return std::make_unique<TableStream>(element, maker, stretch);
+    return std::make_unique<TableStream>(table, maker, stretch);
 }

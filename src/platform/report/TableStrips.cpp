@@ -1,21 +1,21 @@
 #include "platform/report/TableStrips.h"
 
 #include "platform/report/Evaluation.h"
-#include "platform/report/Room.h"
+#include "platform/template/Spacing.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace {
 
-using Room::CellPadding;
-using Room::HeadRule;
-using Room::RowPadding;
+using Spacing::CellPadding;
+using Spacing::HeadRule;
+using Spacing::RowPadding;
 
 constexpr float ThinRule = 0.4F;
 constexpr quint8 PaleGray = 170;
 
-// Puts a strip below another.
+// Puts a band below another.
 void Stack(Band& above, Band below)
 {
     for (PlacedItem& item : below.items) {
@@ -25,8 +25,8 @@ void Stack(Band& above, Band below)
     above.height += below.height;
 }
 
-// A total in the place of the figures above it: by their format, and with the words around the only one of a
-// cell.
+// A total is printed in the format of its column, and with the words of the column's cell if there is only
+// one figure in that.
 QString TotalText(const TemplateColumn& column, const Value& total)
 {
     const bool isCount =
@@ -56,9 +56,8 @@ void MoveDown(Band& band, float by)
     band.height += by;
 }
 
-TableStrips::TableStrips(const TemplateElement& element, BandMaker& maker, Stretch stretch)
-    : m_element(element)
-    , m_table(*element.table)
+TableStrips::TableStrips(const TemplateTable& table, BandMaker& maker, Stretch stretch)
+    : m_table(table)
     , m_maker(maker)
     , m_stretch(stretch)
 {
@@ -86,7 +85,7 @@ void TableStrips::PlaceColumns()
         const TemplateColumn& column = m_table.columns[i];
         cell.stretch = {static_cast<float>(x) + CellPadding,
             std::max(1.0F, static_cast<float>(*width) - 2 * CellPadding)};
-        cell.look = Merge(m_element.look, column.look);
+        cell.look = Merge(m_table.look, column.look);
         cell.fit = column.wraps                                 ? Fit::Wrap
             : HoldsFigure(column.cell, m_maker.Data.Template()) ? Fit::Shrink
                                                                 : Fit::Cut;
@@ -95,7 +94,7 @@ void TableStrips::PlaceColumns()
     }
 }
 
-// The place of some columns that stand side by side; nothing if all of them are left out.
+// The place of several columns side by side; nothing if all of them are left out.
 std::optional<Stretch> TableStrips::Across(std::size_t first, std::size_t columns) const
 {
     std::optional<Stretch> place;
@@ -158,7 +157,7 @@ void TableStrips::AddSpans(Band& head) const
         column += columns;
         if (!place)
             continue;
-        TextLook look = Merge(m_element.look, span.look);
+        TextLook look = Merge(m_table.look, span.look);
         look.isBold = span.look.isBold.value_or(true);
         look.align = span.look.align.value_or(Align::Center);
         m_maker.AddWrapped(head, Fill(span.text, m_maker.Data), look, *place);
@@ -207,14 +206,14 @@ std::optional<Band> TableStrips::Title(const TemplateText& text) const
     const QString filled = Fill(text, m_maker.Data);
     if (filled.isEmpty())
         return std::nullopt;
-    TextLook look = m_element.look;
+    TextLook look = m_table.look;
     look.isBold = true;
     Band title;
     m_maker.AddWrapped(title, filled, look, {m_stretch.x + CellPadding, m_stretch.width - 2 * CellPadding});
     return title;
 }
 
-// A cell that stands in one column looks as that column does, but bold.
+// A cell in a single column looks like the column, but bold.
 Band TableStrips::Line(const TemplateLine& line) const
 {
     Band band;
@@ -224,7 +223,7 @@ Band TableStrips::Line(const TemplateLine& line) const
         const std::size_t columns = static_cast<std::size_t>(cell.columns);
         const std::optional<Stretch> place = Across(column, columns);
         if (place) {
-            TextLook look = columns == 1 ? m_cells[column].look : m_element.look;
+            TextLook look = columns == 1 ? m_cells[column].look : m_table.look;
             look.isBold = true;
             look = Merge(look, cell.look);
             const bool isFigure = HoldsFigure(cell.text, m_maker.Data.Template());
@@ -250,7 +249,7 @@ std::optional<Band> TableStrips::Lines(const std::vector<TemplateLine>& lines) c
 
 Band TableStrips::TotalsLine(const TemplateText& label, Fit labelFit) const
 {
-    TextLook look = m_element.look;
+    TextLook look = m_table.look;
     look.isBold = true;
     look.align = Align::Left;
     Band band;

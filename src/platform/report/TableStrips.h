@@ -1,37 +1,37 @@
 #pragma once
 
-#include "platform/report/Bands.h"
+#include "platform/report/BandMaker.h"
 
-// The strips of one table: its columns at their places, and what stands in them.
+// Makes the bands of one table: places its columns and fills their cells.
 class TableStrips {
 public:
-    // Says once which columns are there. All must outlive it.
-    TableStrips(const TemplateElement& element, BandMaker& maker, Stretch stretch);
+    // Evaluates which columns are there. All must outlive it.
+    TableStrips(const TemplateTable& table, BandMaker& maker, Stretch stretch);
 
-    // The heads of the columns, or nullptr.
+    // The heads of the columns; nullptr if there are none.
     const std::shared_ptr<const Band>& Head() const { return m_head; }
 
-    // The current row; its fields are added to the record, if there is one.
+    // The band of the current row. Its fields are added to the record, if there is one.
     Band Row(QStringList* record) const;
 
     // The head of a group as one text across the table; nothing if it is empty.
     std::optional<Band> Title(const TemplateText& text) const;
 
-    // Lines with cells of their own, one below the other; nothing if there is none.
+    // Lines with cells of their own, one below the other; nothing if none is printed.
     std::optional<Band> Lines(const std::vector<TemplateLine>& lines) const;
 
-    // The totals of the columns behind a label, and the lines below them, between two rules; nothing if there
-    // is neither. The totals are those that the data tell of now.
+    // A foot between two rules: the totals with their label, and lines below them; nothing if there is
+    // neither. The totals are those that `maker.Data` has now (see TotalsInSight).
     std::optional<Band> Foot(const TemplateText* label, const std::vector<TemplateLine>& lines) const;
 
-    // A foot of one line, and its height, which is always the same.
+    // A foot of a single line, and its height, which is always the same.
     Band ShortFoot(const TemplateText& label) const;
     float ShortFootHeight() const;
 
     const TemplateTable& Table() const { return m_table; }
 
 private:
-    // A column as it stands on the paper.
+    // A column on the paper.
     struct Cell {
         bool isThere = true;
         Stretch stretch;
@@ -50,14 +50,13 @@ private:
     void AddRule(Band& band, float y, float weight, quint8 gray) const;
     Band BetweenRules(Band band) const;
 
-    const TemplateElement& m_element;
     const TemplateTable& m_table;
     BandMaker& m_maker;
     Stretch m_stretch;
-    std::vector<Cell> m_cells; // of all columns
+    std::vector<Cell> m_cells; // one for each column
     std::shared_ptr<const Band> m_head;
     float m_rowHeight = 0;
 };
 
-// Moves what a strip holds down, and makes it taller by that.
+// Moves the content of a band down and makes it taller by that.
 void MoveDown(Band& band, float by);

@@ -14,14 +14,14 @@ constexpr qsizetype MostKept = 20000;
 constexpr qsizetype LongestKept = 200;
 constexpr float Tolerance = 0.01F;
 
-// The text engine looks at all that is left of a paragraph for each of its lines, so that it is never given
-// more than this at once; and a piece of more lines would be looked at again for too many pages.
+// For each line Pango looks at all that is left of the paragraph, so it is given long texts in portions. A
+// piece has no more than MostLines lines, since a split at the end of a page lays out the whole piece again.
 constexpr qsizetype Portion = 4000;
 constexpr std::size_t MostLines = 100;
 
-// A line of a laid out text, in units of the text engine.
+// A line of a text that is laid out, in Pango units.
 struct Line {
-    qsizetype start = 0; // the character that it begins with
+    qsizetype start = 0; // index of its first character
     int top = 0;
     int bottom = 0;
     int baseline = 0;
@@ -32,7 +32,7 @@ float ToPoints(int units)
     return static_cast<float>(units) / PANGO_SCALE;
 }
 
-// Without the end of the line that it ends with.
+// Removes the line break at the end.
 QString WithoutLineEnd(QString text)
 {
     if (text.endsWith(u'\n') || text.endsWith(QChar::ParagraphSeparator))
@@ -42,7 +42,7 @@ QString WithoutLineEnd(QString text)
     return text;
 }
 
-// Some characters of a text; the two signs that end a line in some files stay together.
+// A portion of a text that doesn't separate a carriage return from its line feed.
 QString PortionOf(const QString& text, qsizetype from, qsizetype length)
 {
     const bool cutsLineEnd = from + length < text.size() && text[from + length - 1] == u'\r';
@@ -92,7 +92,7 @@ std::vector<Line> TextMeasure::Private::LinesOf(const FontSpec& font, const QStr
     return lines;
 }
 
-// Of lines that stand by themselves.
+// The height of these lines if they stand by themselves.
 float TextMeasure::Private::HeightOf(const FontSpec& font, const Line& first, const Line& last)
 {
     return ToPoints(last.bottom - first.top)
@@ -159,7 +159,7 @@ std::vector<MeasuredText> TextMeasure::Divide(const FontSpec& font, const QStrin
         const QString portion = PortionOf(text, at, length);
         const bool isEnd = at + portion.size() == text.size();
         const std::vector<Line> lines = m_d->LinesOf(font, portion, width);
-        // The last line goes on behind the portion, so it is left to the next one.
+        // The last line may continue in the next portion, so it is laid out there again.
         const std::size_t whole = isEnd ? lines.size() : lines.size() - 1;
         const auto startOf = [&](std::size_t line) {
             return line < lines.size() ? lines[line].start : portion.size();
@@ -172,7 +172,7 @@ std::vector<MeasuredText> TextMeasure::Divide(const FontSpec& font, const QStrin
                 {isLast ? piece : WithoutLineEnd(piece), m_d->HeightOf(font, lines[first], lines[next - 1])});
         }
         at += startOf(whole);
-        length = whole == 0 ? 2 * length : Portion; // one line can be longer than a portion
+        length = whole == 0 ? 2 * length : Portion; // a single line was longer than the portion
     }
     return pieces;
 }

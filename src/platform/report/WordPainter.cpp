@@ -17,7 +17,7 @@ double ToPoints(int units)
     return static_cast<double>(units) / PANGO_SCALE;
 }
 
-// Letters and figures that each stand for one byte need no help.
+// Plain ASCII text is copied right from a PDF without our help.
 bool IsPlain(PangoLayout* layout, const char* text)
 {
     return pango_layout_get_character_count(layout) == static_cast<int>(std::strlen(text))
@@ -49,8 +49,8 @@ private:
     void DivideIntoWords(const PangoGlyphString& glyphs, std::string_view text);
 
     bool m_isSqueezed = false;
-    std::vector<cairo_glyph_t> m_glyphs; // of one run: those with ink
-    std::vector<cairo_text_cluster_t> m_clusters; // which bytes of its text which glyphs stand for
+    std::vector<cairo_glyph_t> m_glyphs; // the visible glyphs of one run
+    std::vector<cairo_text_cluster_t> m_clusters; // which glyphs stand for which bytes of its text
 };
 
 WordPainter::WordPainter() : m_d(std::make_unique<Private>()) { }
@@ -83,7 +83,7 @@ void WordPainter::Private::Show(cairo_t* cairo, PangoLayout* layout, double x, d
     pango_layout_iter_free(lines);
 }
 
-// Draws the glyphs of one font; returns how wide they are.
+// Draws a run of glyphs of one font and returns its width.
 double WordPainter::Private::ShowRun(
     cairo_t* cairo, const char* text, PangoGlyphItem* run, double x, double baseline)
 {
@@ -99,7 +99,7 @@ double WordPainter::Private::ShowRun(
     m_clusters.clear();
     std::string_view shown(text + item.offset, static_cast<std::size_t>(item.length));
     if ((item.analysis.flags & PANGO_ANALYSIS_FLAG_IS_ELLIPSIS) != 0) {
-        // It stands for what was left out; the reader is to find what the eye sees.
+        // The dots stand for the text that was cut off; in the PDF they are to be dots as well.
         shown = Ellipsis;
         m_clusters.push_back({static_cast<int>(shown.size()), static_cast<int>(m_glyphs.size())});
     } else {
@@ -112,7 +112,7 @@ double WordPainter::Private::ShowRun(
     return WidthOf(glyphs);
 }
 
-// False if a glyph isn't one of the font: the text engine draws a sign of its own for it.
+// False if the font lacks a glyph; Pango then draws a box with its code instead.
 bool WordPainter::Private::PlaceGlyphs(const PangoGlyphString& glyphs, double x, double baseline)
 {
     m_glyphs.clear();
@@ -129,7 +129,7 @@ bool WordPainter::Private::PlaceGlyphs(const PangoGlyphString& glyphs, double x,
     return true;
 }
 
-// A word with letters beyond ASCII is one piece; all else goes glyph by glyph.
+// A word with letters beyond ASCII becomes one cluster; everything else goes glyph by glyph.
 void WordPainter::Private::DivideIntoWords(const PangoGlyphString& glyphs, std::string_view text)
 {
     const auto startOf = [&](int glyph) {

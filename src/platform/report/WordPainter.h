@@ -5,8 +5,8 @@
 using cairo_t = struct _cairo;
 using PangoLayout = struct _PangoLayout;
 
-// Draws laid out texts so that a PDF knows each Marathi word as one piece. The text engine itself hands its
-// texts on syllable by syllable, and whoever reads the PDF then finds gaps inside of words.
+// Draws text layouts so that each Marathi word is one piece of text in a PDF. Pango writes syllable by
+// syllable, and whoever copies text from such a PDF gets gaps inside of words.
 class WordPainter {
 public:
     WordPainter();
@@ -14,8 +14,8 @@ public:
     WordPainter(const WordPainter&) = delete;
     WordPainter& operator=(const WordPainter&) = delete;
 
-    // Draws a layout; the point is its upper left corner. What is drawn narrower than its letters are is one
-    // piece with its blanks, which are too narrow then to be found as such.
+    // Draws a layout with its upper left corner at (x, y). A squeezed layout is written as one piece with
+    // its blanks, since those are then too narrow for a PDF reader to recognise.
     void Show(cairo_t* cairo, PangoLayout* layout, double x, double y, bool isSqueezed = false);
 
 private:

@@ -101,21 +101,46 @@ TEST_F(FormulaTest, AnEmptyFormulaSelectsEverything)
 TEST_F(FormulaTest, AFormulaThatCantBeReadIsAnErrorThatShowsIt)
 {
     EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.PaymentDate} =")),
-        QStringLiteral("a number, a text or a date is missing."));
+        QStringLiteral("the expression breaks off."));
     EXPECT_EQ(Refused(QStringLiteral("PaymentDate = 1")),
         QStringLiteral("a field such as {Table.Column} is missing."));
     EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.Surname} = 1")),
         QStringLiteral("there is no field {MilkPayments.Surname}."));
     EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.PaymentDate} = DateTime (2026,2,30,00,00,00)")),
-        QStringLiteral("\"DateTime (2026,2,30,00,00,00)\" is no date."));
+        QStringLiteral("\"DateTime(2026,2,30)\" is no date."));
     EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.PaymentDate} = DateTime (2026,2,3,10,00,00)")),
         QStringLiteral("the books hold dates without a time of day."));
     EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.PaymentDate} = 5")),
         QStringLiteral("PaymentDate is compared with a value of another kind."));
-    EXPECT_EQ(Refused(QStringLiteral("({MilkPayments.MemberNo} = 5")), QStringLiteral("a \")\" is missing."));
+    EXPECT_EQ(Refused(QStringLiteral("({MilkPayments.MemberNo} = 5")), QStringLiteral("\")\" is missing."));
     EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.MemberNo} = 5; delete * from MilkPayments")),
-        QStringLiteral("\"; delete * from MilkPayments\" isn't expected."));
+        QStringLiteral("\";\" has no meaning in an expression."));
     EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.MemberNo} = 5 and {MembersMaster.MemberNo} = 5")),
         QStringLiteral("its fields are of more than one table."));
-    EXPECT_EQ(Refused(QString(1000, u'(')), QStringLiteral("its brackets are nested too deeply."));
+    EXPECT_EQ(Refused(QString(1000, u'(')), QStringLiteral("the brackets are nested too deeply."));
+}
+
+TEST_F(FormulaTest, WordsMayStandInCapitals)
+{
+    EXPECT_EQ(
+        Selected(QStringLiteral("{MilkPayments.MemberNo} = 1 OR NOT {MilkPayments.NetAmount} < 250.5 And "
+                                "{MilkPayments.PaymentDate} > DATE(2026,4,1)")),
+        QStringLiteral("1,3"));
+}
+
+TEST_F(FormulaTest, OnlyAFieldIsComparedAndOnlyWithAValue)
+{
+    const QString noValue = QStringLiteral("a number, a text or a date is missing.");
+    const QString noField = QStringLiteral("a field such as {Table.Column} is missing.");
+    const QString noComparison = QStringLiteral("a comparison is missing.");
+    const std::pair<const char*, QString> refused[] = {
+        {"{MilkPayments.MemberNo} = {MilkPayments.NetAmount}", noValue},
+        {"{MilkPayments.MemberNo} = 1 + 1", noValue}, {"{MilkPayments.MemberNo} = $year", noValue},
+        {"{MilkPayments.MemberNo} = --1", noValue}, {"1 = {MilkPayments.MemberNo}", noField},
+        {"{MilkPayments.MemberNo} + 1 = 2", noField}, {"sum({MilkPayments.MemberNo}) = 2", noField},
+        {"{MemberNo} = 2", noField}, {"{MilkPayments.MemberNo}", noComparison},
+        {"not {MilkPayments.MemberNo}", noComparison}};
+    for (const auto& [formula, fault] : refused)
+        EXPECT_EQ(Refused(QString::fromLatin1(formula)), fault) << formula;
+    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberNo} > -1")), QStringLiteral("1,2,3"));
 }

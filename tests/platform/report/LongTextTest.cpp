@@ -1,6 +1,7 @@
 // Texts of many pages in one field: nothing is lost or moved, and the work grows with the text.
 
 #include "platform/database/Sql.h"
+#include "platform/report/LayoutCheck.h"
 #include "platform/report/ReportFiller.h"
 #include "tests/platform/report/ReportTest.h"
 
@@ -31,7 +32,7 @@ protected:
     {
         TemplateFaults faults;
         ReportTemplate report = ReportTemplate::ReadText(text, QStringLiteral("test.rpt"), faults);
-        EXPECT_TRUE(Check(report, *connection).empty() && faults.empty());
+        EXPECT_TRUE(CheckForLayout(report, *connection).empty() && faults.empty());
         FontTable fonts;
         ReportFiller filler(report, *connection, {}, fonts);
         for (Page page; filler.NextPage(page); page = Page()) { }

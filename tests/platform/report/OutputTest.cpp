@@ -1,4 +1,4 @@
-#include "platform/report/Drawing.h"
+#include "platform/report/PagePainter.h"
 #include "platform/report/PrintFiles.h"
 #include "platform/text/FileRights.h"
 #include "tests/platform/report/ReportTest.h"

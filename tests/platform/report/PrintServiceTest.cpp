@@ -1,4 +1,4 @@
-#include "platform/report/Printer.h"
+#include "platform/report/SystemPrinter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+#include "platform/report/SystemPrinter.h"
 #include "tests/platform/report/ReportTest.h"
 #include "tests/support/FakePrinter.h"
 #include "tests/support/FakeReportWindow.h"

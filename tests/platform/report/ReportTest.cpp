@@ -1,27 +1,15 @@
 #include "tests/platform/report/ReportTest.h"
 
-#include "delivered/Delivered.h"
 #include "platform/database/Sql.h"
+#include "platform/report/LayoutCheck.h"
 #include "platform/text/Shivaji01.h"
 
 #include <QFile>
 
 #include <algorithm>
 
-void PrintTo(const QString& text, std::ostream* out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
-
-void PrintTo(const QStringList& texts, std::ostream* out)
-{
-    *out << texts.join(u'\n').toStdString();
-}
-
 ReportTest::ReportTest()
 {
-    connection->Create(File(QStringLiteral("books.mdb")), QStringLiteral("secret"));
-    connection->RunScript(Delivered::Schema());
     DataSource::Register(QStringLiteral("VetrolanDSN"), File(QStringLiteral("books.mdb")));
     RunSeen(
         QStringLiteral("insert into CompanySelected(CompanyId,CompanyName,AccountingYear,FromDate,ToDate) "
@@ -50,33 +38,18 @@ void ReportTest::AddDelivery(
         shift, u"]',", number, u",", number, u",'[", name, u"]',", liters, u",", fat, u",", amount, u")"));
 }
 
-QStringList ReportTest::Faults(const QString& text, const QString& name)
-{
-    return FaultsOfFile(Write(name + QStringLiteral(".rpt"), text));
-}
-
-QStringList ReportTest::FaultsOfFile(const QString& file)
+TemplateFaults ReportTest::CheckFile(const QString& file)
 {
     TemplateFaults faults;
-    ReportTemplate::ReadChecked(file, *connection, faults);
-    QStringList lines;
-    for (const TemplateFault& fault : faults)
-        lines.append(QString::number(fault.line) + QStringLiteral(": ") + fault.text);
-    return lines;
-}
-
-QString ReportTest::OnlyFault(const QString& elements)
-{
-    const QStringList faults = Faults(Template(elements));
-    EXPECT_EQ(faults.size(), 1) << faults.join(u'\n').toStdString();
-    return faults.value(0).section(QStringLiteral(": "), 1);
+    ReadForLayout(file, *connection, faults);
+    return faults;
 }
 
 std::unique_ptr<Report> ReportTest::Make(const QString& text, const Selection& selection)
 {
     TemplateFaults faults;
     ReportTemplate report = ReportTemplate::ReadText(text, QStringLiteral("test.rpt"), faults);
-    const TemplateFaults more = Check(report, *connection);
+    const TemplateFaults more = CheckForLayout(report, *connection);
     faults.insert(faults.end(), more.begin(), more.end());
     for (const TemplateFault& fault : faults)
         ADD_FAILURE() << fault.Line().toStdString();
@@ -128,19 +101,4 @@ void ReportTest::ExpectGolden(const Report& report, const QString& name)
         EXPECT_EQ(seen, QString::fromUtf8(golden.readAll()))
             << "if the change is wanted: VETROLAN_RENEW=1 report_tests";
     }
-}
-
-QString ReportTest::Write(const QString& name, const QString& text) const
-{
-    QFile target(File(name));
-    EXPECT_TRUE(target.open(QIODevice::WriteOnly));
-    target.write(text.toUtf8());
-    return target.fileName();
-}
-
-QString Template(const QString& elements, const QString& attributes)
-{
-    return QStringLiteral("<report name=\"Test\" ") + attributes
-        + QStringLiteral(">\n<source name=\"c\" table=\"MilkCollectionsTemp\" order=\"CollectionNo\"/>\n")
-        + elements + QStringLiteral("\n</report>");
 }

@@ -1,0 +1,7 @@
+#include "platform/report/ReportSurroundings.h"
+
+ReportSurroundings& ReportSurroundings::Current()
+{
+    static ReportSurroundings surroundings;
+    return surroundings;
+}
