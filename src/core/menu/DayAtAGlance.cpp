@@ -7,7 +7,6 @@
 #include "platform/forms/Look.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
-#include "platform/text/Shivaji01.h"
 
 #include <QFileInfo>
 #include <QGridLayout>
@@ -39,10 +38,7 @@ QLabel* Text(const QString& text, Qt::Alignment align, bool bold = false)
 
 }
 
-DayAtAGlance::DayAtAGlance()
-    : m_society(Text({}, Qt::AlignLeft, true))
-    , m_day(Text({}, Qt::AlignLeft, true))
-    , m_backup(Text({}, Qt::AlignLeft))
+DayAtAGlance::DayAtAGlance() : m_day(Text({}, Qt::AlignLeft, true)), m_backup(Text({}, Qt::AlignLeft))
 {
     setFrameShape(QFrame::NoFrame);
     setAutoFillBackground(true);
@@ -50,8 +46,6 @@ DayAtAGlance::DayAtAGlance()
     paper.setColor(QPalette::Window, QColor(Look::Quiet));
     setPalette(paper);
 
-    m_society->setWordWrap(true);
-    m_society->setObjectName(QStringLiteral("lblSociety"));
     m_day->setObjectName(QStringLiteral("lblWorkingDay"));
     m_backup->setObjectName(QStringLiteral("lblLastBackup"));
 
@@ -62,7 +56,6 @@ DayAtAGlance::DayAtAGlance()
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(2, 1);
     int row = 0;
-    grid->addWidget(m_society, row++, 0, 1, 3);
     grid->addWidget(m_day, row++, 0, 1, 3);
     grid->addWidget(Text(QStringLiteral("लिटर"), Qt::AlignRight), row, 1);
     grid->addWidget(Text(QStringLiteral("रुपये"), Qt::AlignRight), row++, 2);
@@ -83,16 +76,8 @@ void DayAtAGlance::Show()
     m_day->setText(gAppState.gAppDate.isValid()
             ? QStringLiteral("कामाचा दिवस  ") + DateText(gAppState.gAppDate)
             : QString());
-    ShowSociety();
     ShowShifts();
     ShowBackup();
-}
-
-void DayAtAGlance::ShowSociety()
-{
-    const Recordset company(gCn, QStringLiteral("SELECT * FROM CompanySelected"));
-    m_society->setText(
-        company.Eof() ? QString() : Shivaji01::ToUnicode(company[u"CompanyName"].Text()).trimmed());
 }
 
 void DayAtAGlance::ShowShifts()

@@ -4,7 +4,7 @@
 
 class QLabel;
 
-// What the clerk wants to know before he begins: whose books these are, the working day, what its two shifts
+// What the clerk wants to know before he begins: the working day, what its two shifts
 // have brought so far, and when the books were last copied. Read from the books and from the folder of the
 // copies when it is shown.
 class DayAtAGlance final : public QFrame {
@@ -15,11 +15,9 @@ public:
     void Show();
 
 private:
-    void ShowSociety();
     void ShowShifts();
     void ShowBackup();
 
-    QLabel* m_society;
     QLabel* m_day;
     QLabel* m_litres[2]; // morning, evening
     QLabel* m_amount[2];

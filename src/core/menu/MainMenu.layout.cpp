@@ -49,6 +49,7 @@ void MainMenuFrm::LayOut()
     body->setSpacing(10);
     body->addLayout(lists, 1);
     body->addLayout(foot);
-    Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
-        Layout::KeyStrip(Keys::Of(Name())));
+    QWidget* const head = Layout::Header(lblTitle, lblCompanyTitle, lblAcYear);
+    lblCompanyTitle.Widget()->setFont(Look::Font(Look::Size::Normal, true));
+    Layout::Stack(*this, head, body, Layout::KeyStrip(Keys::Of(Name())));
 }

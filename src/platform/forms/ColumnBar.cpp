@@ -11,7 +11,9 @@
 ColumnBar::ColumnBar(const DataGrid& grid) : m_table(*static_cast<const QTableView*>(grid.Widget()))
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    connect(m_table.horizontalHeader(), &QHeaderView::sectionResized, this, [this] { Place(); });
+    // Once all of them have their widths, which comes before anything is painted.
+    connect(m_table.horizontalHeader(), &QHeaderView::sectionResized, this, &ColumnBar::Place,
+        Qt::QueuedConnection);
 }
 
 void ColumnBar::Put(QWidget& part, int first, int last)

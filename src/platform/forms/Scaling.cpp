@@ -39,6 +39,9 @@ constexpr const char* Kept = "baseSizes";
 // How much of a window's growth goes to type.
 constexpr double Share = 0.85;
 
+// In a small window lines of text are a little higher than their share: the engine rounds them up to whole dots.
+constexpr double Slack = 0.97;
+
 // Rounded down, so that what fits together at the factor 1 fits at any.
 int Scaled(int length, double factor)
 {
@@ -146,7 +149,7 @@ double Scaling::FactorFor(const QSize& window)
     const double fits = std::min(static_cast<double>(window.width()) / Look::ScreenWidth,
         static_cast<double>(window.height()) / Look::ScreenHeight);
     if (fits < 1)
-        return fits;
+        return fits * Slack;
     const double growth = std::min(static_cast<double>(window.width()) / Look::DesktopWidth,
         static_cast<double>(window.height()) / Look::DesktopHeight);
     return std::max(1.0, 1 + Share * (growth - 1));

@@ -1,0 +1,92 @@
+#include "tests/core/ScreenFace.h"
+#include "tests/core/menu/MenuTest.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+class DayAtAGlanceTest : public MenuTest {
+protected:
+    void AddDelivery(
+        const char* day, const char* time, const char* litres, const char* amount, int company = 1)
+    {
+        Run(QStringLiteral("insert into MilkCollections(CompanyId,CollectionDate,CollectionTime,CollectionNo,"
+                           "MemberNo,MemberName,Animal,Liters,Fat,Rate,Amount) "
+                           "values(%1,'%2','%3',%4,1,'rama','gaaya',%5,4,35,%6)")
+                .arg(company)
+                .arg(QLatin1String(day), QLatin1String(time))
+                .arg(++m_number)
+                .arg(QLatin1String(litres), QLatin1String(amount)));
+    }
+
+    // "litres amount" of the morning and of the evening.
+    static std::string Shifts(Clerk& clerk)
+    {
+        QStringList figures;
+        for (const char* label :
+            {"lblMorningLiters", "lblMorningAmount", "lblEveningLiters", "lblEveningAmount"})
+            figures.append(LabelOf(clerk, label));
+        return figures.join(u' ').toStdString();
+    }
+
+    void KeepCopy(const char* name, const QDateTime& time)
+    {
+        const QString folder = FolderFile(QStringLiteral("Backup"));
+        QDir().mkpath(folder);
+        QFile copy(folder + u'/' + QLatin1String(name));
+        ASSERT_TRUE(copy.open(QIODevice::WriteOnly));
+        ASSERT_TRUE(copy.setFileTime(time, QFileDevice::FileModificationTime));
+    }
+
+private:
+    int m_number = 0;
+};
+
+TEST_F(DayAtAGlanceTest, TheShiftsOfTheWorkingDayAreSummed)
+{
+    AddDelivery("14/04/2026", "sakaL", "5.125", "180.55");
+    AddDelivery("15/04/2026", "sakaL", "5.125", "180.55");
+    AddDelivery("15/04/2026", "sakaL", "1.500", "52.50");
+    AddDelivery("15/04/2026", "saMQyaakaL", "7.250", "300.10");
+    AddDelivery("15/04/2026", "saMQyaakaL", "9.000", "400.00", 2);
+    Menu([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblWorkingDay"), QStringLiteral("कामाचा दिवस  15/04/2026"));
+        EXPECT_EQ(Shifts(clerk), "6.625 233.05 7.250 300.10");
+    });
+}
+
+TEST_F(DayAtAGlanceTest, AShiftWithoutMilkHasZeros)
+{
+    Menu([](Clerk& clerk) { EXPECT_EQ(Shifts(clerk), "0.000 0.00 0.000 0.00"); });
+}
+
+TEST_F(DayAtAGlanceTest, WhatAScreenHasSavedIsSeenWhenItIsLeft)
+{
+    Menu([&](Clerk& clerk) {
+        const QString day = LabelOf(clerk, "lblWorkingDay").right(10);
+        AddDelivery(qPrintable(day), "sakaL", "5.125", "180.55");
+        EXPECT_EQ(Shifts(clerk), "0.000 0.00 0.000 0.00");
+        clerk.Type(QStringLiteral("{F7}"));
+        EXPECT_EQ(Shifts(clerk), "5.125 180.55 0.000 0.00");
+    });
+}
+
+TEST_F(DayAtAGlanceTest, TheNewestCopyOfTheBooksTellsTheLastBackup)
+{
+    KeepCopy("first.mdb", QDateTime(QDate(2026, 4, 1), QTime(18, 0)));
+    KeepCopy("second.mdb", QDateTime(QDate(2026, 4, 9), QTime(18, 0)));
+    KeepCopy("note.txt", QDateTime(QDate(2026, 4, 12), QTime(18, 0)));
+    Menu([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblLastBackup"), QStringLiteral("शेवटचा बॅकअप  09/04/2026"));
+    });
+}
+
+TEST_F(DayAtAGlanceTest, WithoutACopyItIsSaid)
+{
+    Menu([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblLastBackup"), QStringLiteral("बॅकअप अजून घेतलेला नाही"));
+    });
+}
+
+}
