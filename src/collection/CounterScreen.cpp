@@ -18,6 +18,54 @@
 
 using namespace Counter;
 
+// The amount takes what is left, which is more than its 1300 twips: a can paid by the lakh is not cut off.
+std::vector<DataGrid::Column> CounterScreen::InwardsColumns(const CounterKind& kind)
+{
+    return {
+        {QStringLiteral("CollectionNo"), Shivaji(u"saMklana Ë."), Twips(900), {}, false, false},
+        {QStringLiteral("MemberNo"), Shivaji(u"maombar naMbar"), Twips(1000), {}, false, false},
+        {QStringLiteral("MemberName"), Shivaji(u"maombarcao naaMva"), Twips(3100)},
+        {QStringLiteral("Animal"), Shivaji(u"dUQa"), Twips(700)},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), kind.liters.grid.toString(), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), kind.gridFatFormat.toString(), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 0, QStringLiteral("#####0.00"), true},
+    };
+}
+
+CounterScreen::CounterScreen(const CounterKind& kind)
+    : Screen(kind.screen)
+    , DataGridInwards(this, "DataGridInwards", InwardsColumns(kind))
+    , m_kind(kind)
+{
+    When(maskDate.GotFocus, &CounterScreen::maskDate_GotFocus);
+    When(txtTime.GotFocus, &CounterScreen::txtTime_GotFocus);
+    When(txtCollectionNo.GotFocus, &CounterScreen::txtCollectionNo_GotFocus);
+    When(txtMemberNo.GotFocus, &CounterScreen::txtMemberNo_GotFocus);
+    txtMemberNo.TextChanged = [this] { txtMemberNo_Change(); };
+    When(ComboMemberName.GotFocus, &CounterScreen::ComboMemberName_GotFocus);
+    When(txtAnimal.GotFocus, &CounterScreen::txtAnimal_GotFocus);
+    When(txtLiters.GotFocus, &CounterScreen::txtLiters_GotFocus);
+    When(txtFat.GotFocus, &CounterScreen::txtFat_GotFocus);
+    When(cmdGo.LostFocus, &CounterScreen::cmdGo_LostFocus);
+    for (Button* device : {&cmdAutoLiter, &cmdAutoFat})
+        When(device->LostFocus, &CounterScreen::DeviceSwitch_LostFocus);
+    txtCollectionNo.KeyDown = [this](const QKeyEvent& key) { return txtCollectionNo_KeyDown(key); };
+    txtMemberNo.KeyDown = [this](const QKeyEvent& key) { return txtMemberNo_KeyDown(key); };
+    NameMemberKeys();
+    maskDate.SetGuide(Keys::Guide(Name() + QStringLiteral(".maskDate")));
+    txtCollectionNo.SetGuide(Keys::Guide(Name() + QStringLiteral(".txtCollectionNo")));
+    txtTime.SetLocked(true);
+    txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
+    txtAnimal.SetLocked(true);
+    txtAnimal.SetGuide(Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
+    ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
+    ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
+    txtLiters.SetMaxLength(9);
+    txtAmount.SetEnabled(false);
+    EnableEntry(false);
+}
+
 void CounterScreen::Load()
 {
     DataGridInwards.Bind(gCn, ShiftQuery.toString());

@@ -55,23 +55,29 @@ protected:
     Label lblAvgCowFat{this, "lblAvgCowFat"};
     Label lblAvgBuffFat{this, "lblAvgBuffFat"};
 
-    DateField maskDate{this, "maskDate"};
-    ChoiceField txtTime{
-        this, "txtTime", {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}}};
-    NumberField txtCollectionNo{this, "txtCollectionNo", NumberField::Digits::Whole};
-    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
-    NameCombo ComboMemberName{this, "ComboMemberName"};
-    ChoiceField txtAnimal{
-        this, "txtAnimal", {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}}};
-    NumberField txtLiters{this, "txtLiters", NumberField::Digits::Decimals};
-    NumberField txtFat{this, "txtFat", NumberField::Digits::Decimals};
-    NumberField txtRate{this, "txtRate", NumberField::Digits::Decimals};
+    DateField maskDate{this, "maskDate", &CounterScreen::maskDate_LostFocus};
+    ChoiceField txtTime{this, "txtTime",
+        {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}},
+        &CounterScreen::txtTime_LostFocus};
+    NumberField txtCollectionNo{
+        this, "txtCollectionNo", NumberField::Digits::Whole, &CounterScreen::txtCollectionNo_LostFocus};
+    NumberField txtMemberNo{
+        this, "txtMemberNo", NumberField::Digits::Whole, &CounterScreen::txtMemberNo_LostFocus};
+    NameCombo ComboMemberName{this, "ComboMemberName", &CounterScreen::ComboMemberName_LostFocus};
+    ChoiceField txtAnimal{this, "txtAnimal",
+        {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}},
+        &CounterScreen::txtAnimal_LostFocus};
+    NumberField txtLiters{
+        this, "txtLiters", NumberField::Digits::Decimals, &CounterScreen::txtLiters_LostFocus};
+    NumberField txtFat{this, "txtFat", NumberField::Digits::Decimals, &CounterScreen::txtFat_LostFocus};
+    NumberField txtRate{this, "txtRate", NumberField::Digits::Decimals, &CounterScreen::txtRate_LostFocus};
     NumberField txtAmount{this, "txtAmount", NumberField::Digits::Decimals};
-    Button cmdGo{this, "cmdGo", Plain(u" >")};
+    Button cmdGo{this, "cmdGo", Plain(u" >"), &CounterScreen::cmdGo_Click};
     DataGrid DataGridInwards;
-    Button cmdAutoLiter{this, "cmdAutoLiter", {}};
-    Button cmdAutoFat{this, "cmdAutoFat", {}};
-    Button cmdPrinterOnOff{this, "cmdPrinterOnOff", Shivaji(MilkReceipt::PrinterOn)};
+    Button cmdAutoLiter{this, "cmdAutoLiter", {}, &CounterScreen::cmdAutoLiter_Click};
+    Button cmdAutoFat{this, "cmdAutoFat", {}, &CounterScreen::cmdAutoFat_Click};
+    Button cmdPrinterOnOff{
+        this, "cmdPrinterOnOff", Shivaji(MilkReceipt::PrinterOn), &CounterScreen::cmdPrinterOnOff_Click};
 
     bool SkipMemberChecks = false; // the member's number is left for the frame, and isn't to be checked
 
@@ -135,7 +141,6 @@ private:
     void ShiftLitersTotal();
     void ShiftAverageFat();
 
-    void WireHandlers();
     void NameMemberKeys();
     std::array<std::pair<Label*, Label*>, 3> MemberKeyLabels(); // each key and what it does
     void EnableEntry(bool enabled);

@@ -49,9 +49,6 @@ frmAbsenseMemberCollection::frmAbsenseMemberCollection()
     , DataGridMembers(this, "DataGridMembers", MemberColumns())
 {
     When(MaskDate.GotFocus, &frmAbsenseMemberCollection::MaskDate_GotFocus);
-    When(MaskDate.LostFocus, &frmAbsenseMemberCollection::MaskDate_LostFocus);
-    When(txtTime.LostFocus, &frmAbsenseMemberCollection::txtTime_LostFocus);
-    When(Command1.Click, &frmAbsenseMemberCollection::Command1_Click);
     txtTime.SetLocked(true);
     txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     Command1.SetGuide(Plain(u"Enter : यादी"));

@@ -18,10 +18,11 @@ private:
     Label lblFooter{this, "lblFooter"};
     Label Label28{this, "Label28", Shivaji(u"Aaja dUQa saMklana nasaNaaáyaaMcaI naavao")};
 
-    DateField MaskDate{this, "MaskDate"};
-    ChoiceField txtTime{
-        this, "txtTime", {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}}};
-    Button Command1{this, "Command1", Plain(u">>")};
+    DateField MaskDate{this, "MaskDate", &frmAbsenseMemberCollection::MaskDate_LostFocus};
+    ChoiceField txtTime{this, "txtTime",
+        {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}},
+        &frmAbsenseMemberCollection::txtTime_LostFocus};
+    Button Command1{this, "Command1", Plain(u">>"), &frmAbsenseMemberCollection::Command1_Click};
     DataGrid DataGridMembers;
 
     void Load() override;

@@ -16,8 +16,6 @@ frmCollectionGate::frmCollectionGate() : CounterScreen(GateCounter)
     When(cmdGo.GotFocus, &frmCollectionGate::cmdGo_GotFocus);
     for (const auto& [button, column] : OrderButtons())
         button->Click = [this, button = button, column = column] { ToggleOrder(*button, column); };
-    When(Command1.Click, &frmCollectionGate::Command1_Click);
-    When(Command3.Click, &frmCollectionGate::Command3_Click);
     for (const auto& [field, column] : std::initializer_list<std::pair<Field*, QStringView>>{
              {&txtLiters, u"Liters"}, {&txtFat, u"Fat"}, {&txtRate, u"Rate"}})
         field->TextChanged = [this, field = field, column = column] { SearchNumber(*field, column); };

@@ -17,8 +17,9 @@ private:
     Button cmdFatOrder{this, "cmdFatOrder", Ascending()};
     Button cmdRateOrder{this, "cmdRateOrder", Ascending()};
     Button cmdAmtOrder{this, "cmdAmtOrder", Ascending()};
-    Button Command3{this, "Command3", Shivaji(u" dUQa saMklana nasaNaaro saBaasad")};
-    Button Command1{this, "Command1", Shivaji(u"&baahor")};
+    Button Command3{
+        this, "Command3", Shivaji(u" dUQa saMklana nasaNaaro saBaasad"), &frmCollectionGate::Command3_Click};
+    Button Command1{this, "Command1", Shivaji(u"&baahor"), &frmCollectionGate::Command1_Click};
     CheckBox chkSerachMode{this, "chkSerachMode", Shivaji(u"A^DvhansD saca-")};
 
     void Load() override;

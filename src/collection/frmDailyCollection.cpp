@@ -2,6 +2,7 @@
 
 #include "collection/Counter.h"
 #include "core/menu/CommonKeys.h"
+#include "core/menu/Keys.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
@@ -19,6 +20,20 @@ namespace {
 
 constexpr QStringView IdleTitle = u"  raojacao saBaasadanausaar duQa saMklana";
 
+std::vector<DataGrid::Column> ListColumns()
+{
+    return {
+        {QStringLiteral("CollectionDate"), Shivaji(u"idnaaMk"), 130, {}, false, false},
+        {QStringLiteral("CollectionTime"), Shivaji(u"vaoL"), 0},
+        {QStringLiteral("CollectionNo"), Shivaji(u"saMklana k`M"), 120, {}, false, false},
+        {QStringLiteral("Animal"), Shivaji(u"dUQa p`kar"), 110},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 110, QStringLiteral("####0.000"), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), 80, QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), 100, QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 130, QStringLiteral("#####0.00"), true},
+    };
+}
+
 // One action is one statement here.
 void Write(const QString& statement)
 {
@@ -27,6 +42,28 @@ void Write(const QString& statement)
     writing.Commit();
 }
 
+}
+
+frmDailyCollection::frmDailyCollection()
+    : Screen("frmDailyCollection")
+    , DataGrid1(this, "DataGrid1", ListColumns())
+{
+    When(txtMemberNo.TextChanged, &frmDailyCollection::txtMemberNo_Change);
+    for (Field* key : std::initializer_list<Field*>{&MasKCollectionDate, &cmbCollectionTime})
+        When(key->TextChanged, &frmDailyCollection::ForgetRow);
+    When(txtCollectionNo.TextChanged, &frmDailyCollection::txtCollectionNo_Change);
+    When(txtAmount.TextChanged, &frmDailyCollection::txtAmount_Change);
+    When(DataGrid1.Click, &frmDailyCollection::DataGrid1_Click);
+    txtMemberNo.KeyDown = [this](const QKeyEvent& key) { return txtMemberNo_KeyDown(key); };
+    cmbCollectionTime.KeyDown = [this](const QKeyEvent& key) { return cmbCollectionTime_KeyDown(key); };
+    DataGrid1.KeyDown = [this](const QKeyEvent& key) { return DataGrid1_KeyDown(key); };
+    txtAnimal.SetLocked(true);
+    cmbCollectionTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
+    cmbMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
+    DataGrid1.SetGuide(Plain(u"Enter : ही नोंद    F5 : यादी बंद"));
+    cmbMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
+    cmdCancel.SetCancels(true);
+    LayOut();
 }
 
 void frmDailyCollection::Load()

@@ -2,7 +2,6 @@
 
 #include "collection/frmDailyCollection.h"
 #include "collection/Counter.h"
-#include "core/menu/Keys.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
@@ -19,20 +18,6 @@
 using namespace Counter;
 
 namespace {
-
-std::vector<DataGrid::Column> ListColumns()
-{
-    return {
-        {QStringLiteral("CollectionDate"), Shivaji(u"idnaaMk"), 130, {}, false, false},
-        {QStringLiteral("CollectionTime"), Shivaji(u"vaoL"), 0},
-        {QStringLiteral("CollectionNo"), Shivaji(u"saMklana k`M"), 120, {}, false, false},
-        {QStringLiteral("Animal"), Shivaji(u"dUQa p`kar"), 110},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 110, QStringLiteral("####0.000"), true},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), 80, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), 100, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 130, QStringLiteral("#####0.00"), true},
-    };
-}
 
 // The counters keep a number in 16 bits, and so the one after it.
 constexpr double HighestNumber = 32766;
@@ -60,48 +45,6 @@ void MendNumber(Field& field)
         field.SetText(QStringLiteral("0"));
 }
 
-}
-
-frmDailyCollection::frmDailyCollection()
-    : Screen("frmDailyCollection")
-    , DataGrid1(this, "DataGrid1", ListColumns())
-{
-    WireHandlers();
-    txtAnimal.SetLocked(true);
-    cmbCollectionTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
-    cmbMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
-    DataGrid1.SetGuide(Plain(u"Enter : ही नोंद    F5 : यादी बंद"));
-    cmbMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
-    cmdCancel.SetCancels(true);
-    LayOut();
-}
-
-void frmDailyCollection::WireHandlers()
-{
-    When(txtMemberNo.TextChanged, &frmDailyCollection::txtMemberNo_Change);
-    for (Field* key : std::initializer_list<Field*>{&MasKCollectionDate, &cmbCollectionTime})
-        When(key->TextChanged, &frmDailyCollection::ForgetRow);
-    When(txtCollectionNo.TextChanged, &frmDailyCollection::txtCollectionNo_Change);
-    When(txtAmount.TextChanged, &frmDailyCollection::txtAmount_Change);
-    When(txtMemberNo.LostFocus, &frmDailyCollection::txtMemberNo_LostFocus);
-    When(cmbMemberName.LostFocus, &frmDailyCollection::cmbMemberName_LostFocus);
-    When(MasKCollectionDate.LostFocus, &frmDailyCollection::MasKCollectionDate_LostFocus);
-    When(cmbCollectionTime.LostFocus, &frmDailyCollection::cmbCollectionTime_LostFocus);
-    When(txtCollectionNo.LostFocus, &frmDailyCollection::txtCollectionNo_LostFocus);
-    When(txtAnimal.LostFocus, &frmDailyCollection::txtAnimal_LostFocus);
-    When(txtLiters.LostFocus, &frmDailyCollection::txtLiters_LostFocus);
-    When(txtFat.LostFocus, &frmDailyCollection::txtFat_LostFocus);
-    When(txtRate.LostFocus, &frmDailyCollection::txtRate_LostFocus);
-    When(txtAmount.LostFocus, &frmDailyCollection::txtAmount_LostFocus);
-    When(cmdAdd.Click, &frmDailyCollection::cmdAdd_Click);
-    When(cmdModify.Click, &frmDailyCollection::cmdModify_Click);
-    When(cmdDelete.Click, &frmDailyCollection::cmdDelete_Click);
-    When(cmdCancel.Click, &frmDailyCollection::cmdCancel_Click);
-    When(cmdExit.Click, &frmDailyCollection::cmdExit_Click);
-    When(DataGrid1.Click, &frmDailyCollection::DataGrid1_Click);
-    txtMemberNo.KeyDown = [this](const QKeyEvent& key) { return txtMemberNo_KeyDown(key); };
-    cmbCollectionTime.KeyDown = [this](const QKeyEvent& key) { return cmbCollectionTime_KeyDown(key); };
-    DataGrid1.KeyDown = [this](const QKeyEvent& key) { return DataGrid1_KeyDown(key); };
 }
 
 std::vector<Field*> frmDailyCollection::Fields()

@@ -20,22 +20,29 @@ private:
     Label lblAcYear{this, "lblAcYear"};
     Label lblGuide{this, "lblGuide"};
 
-    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
-    NameCombo cmbMemberName{this, "cmbMemberName"};
-    DateField MasKCollectionDate{this, "MasKCollectionDate"};
-    NameCombo cmbCollectionTime{this, "cmbCollectionTime"};
-    NumberField txtCollectionNo{this, "txtCollectionNo", NumberField::Digits::Whole};
-    ChoiceField txtAnimal{
-        this, "txtAnimal", {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}}};
-    NumberField txtLiters{this, "txtLiters", NumberField::Digits::Decimals};
-    NumberField txtFat{this, "txtFat", NumberField::Digits::Decimals};
-    NumberField txtRate{this, "txtRate", NumberField::Digits::Decimals};
-    NumberField txtAmount{this, "txtAmount", NumberField::Digits::Decimals};
-    Button cmdAdd{this, "cmdAdd", Shivaji(u"&navaIna")};
-    Button cmdModify{this, "cmdModify", Shivaji(u"ba&dla")};
-    Button cmdDelete{this, "cmdDelete", Shivaji(u"&KaoDNao...")};
-    Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+    NumberField txtMemberNo{
+        this, "txtMemberNo", NumberField::Digits::Whole, &frmDailyCollection::txtMemberNo_LostFocus};
+    NameCombo cmbMemberName{this, "cmbMemberName", &frmDailyCollection::cmbMemberName_LostFocus};
+    DateField MasKCollectionDate{
+        this, "MasKCollectionDate", &frmDailyCollection::MasKCollectionDate_LostFocus};
+    NameCombo cmbCollectionTime{this, "cmbCollectionTime", &frmDailyCollection::cmbCollectionTime_LostFocus};
+    NumberField txtCollectionNo{
+        this, "txtCollectionNo", NumberField::Digits::Whole, &frmDailyCollection::txtCollectionNo_LostFocus};
+    ChoiceField txtAnimal{this, "txtAnimal",
+        {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}},
+        &frmDailyCollection::txtAnimal_LostFocus};
+    NumberField txtLiters{
+        this, "txtLiters", NumberField::Digits::Decimals, &frmDailyCollection::txtLiters_LostFocus};
+    NumberField txtFat{this, "txtFat", NumberField::Digits::Decimals, &frmDailyCollection::txtFat_LostFocus};
+    NumberField txtRate{
+        this, "txtRate", NumberField::Digits::Decimals, &frmDailyCollection::txtRate_LostFocus};
+    NumberField txtAmount{
+        this, "txtAmount", NumberField::Digits::Decimals, &frmDailyCollection::txtAmount_LostFocus};
+    Button cmdAdd{this, "cmdAdd", Shivaji(u"&navaIna"), &frmDailyCollection::cmdAdd_Click};
+    Button cmdModify{this, "cmdModify", Shivaji(u"ba&dla"), &frmDailyCollection::cmdModify_Click};
+    Button cmdDelete{this, "cmdDelete", Shivaji(u"&KaoDNao..."), &frmDailyCollection::cmdDelete_Click};
+    Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_"), &frmDailyCollection::cmdCancel_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmDailyCollection::cmdExit_Click};
     DataGrid DataGrid1;
 
     QWidget* Frame1 = nullptr; // holds DataGrid1
@@ -110,7 +117,6 @@ private:
     void OpenList();
     void ShowList(bool shown);
 
-    void WireHandlers();
     void LayOut();
     QLayout* MemberLine();
     QLayout* DayLine();

@@ -31,15 +31,7 @@ frmMilkCollections::frmMilkCollections()
     : CounterScreen(MainCounter)
     , DataGridMilk(this, "DataGridMilk", MilkColumns())
 {
-    When(maskFromDate.LostFocus, &frmMilkCollections::maskFromDate_LostFocus);
-    When(maskToDate.LostFocus, &frmMilkCollections::maskToDate_LostFocus);
-    When(txtAccountId.LostFocus, &frmMilkCollections::txtAccountId_LostFocus);
     When(cmbAccountName.GotFocus, &frmMilkCollections::cmbAccountName_GotFocus);
-    When(cmbAccountName.LostFocus, &frmMilkCollections::cmbAccountName_LostFocus);
-    When(cmdGoOn.Click, &frmMilkCollections::cmdGoOn_Click);
-    When(Command1.Click, &frmMilkCollections::Command1_Click);
-    When(Command2.Click, &frmMilkCollections::Command2_Click);
-    When(Command3.Click, &frmMilkCollections::Command3_Click);
     cmbAccountName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     cmbAccountName.Accepts = ComboMemberName.Accepts;
     Command2.SetCancels(true); // the frame is left whatever stands in its dates

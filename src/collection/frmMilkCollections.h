@@ -35,14 +35,16 @@ private:
     Label lblBuffAvgFatE{this, "lblBuffAvgFatE"};
     Label lblBuffTotalAvgFat{this, "lblBuffTotalAvgFat"};
 
-    DateField maskFromDate{this, "maskFromDate"};
-    DateField maskToDate{this, "maskToDate"};
-    NumberField txtAccountId{this, "txtAccountId", NumberField::Digits::Whole};
-    NameCombo cmbAccountName{this, "cmbAccountName"};
-    Button cmdGoOn{this, "cmdGoOn", Plain(u">>")};
-    Button Command1{this, "Command1", Shivaji(u"&irpaoT-")};
-    Button Command2{this, "Command2", Shivaji(u"&baahor")};
-    Button Command3{this, "Command3", Shivaji(u"dUQa saMklana nasaNaaro saBaasad")};
+    DateField maskFromDate{this, "maskFromDate", &frmMilkCollections::maskFromDate_LostFocus};
+    DateField maskToDate{this, "maskToDate", &frmMilkCollections::maskToDate_LostFocus};
+    NumberField txtAccountId{
+        this, "txtAccountId", NumberField::Digits::Whole, &frmMilkCollections::txtAccountId_LostFocus};
+    NameCombo cmbAccountName{this, "cmbAccountName", &frmMilkCollections::cmbAccountName_LostFocus};
+    Button cmdGoOn{this, "cmdGoOn", Plain(u">>"), &frmMilkCollections::cmdGoOn_Click};
+    Button Command1{this, "Command1", Shivaji(u"&irpaoT-"), &frmMilkCollections::Command1_Click};
+    Button Command2{this, "Command2", Shivaji(u"&baahor"), &frmMilkCollections::Command2_Click};
+    Button Command3{
+        this, "Command3", Shivaji(u"dUQa saMklana nasaNaaro saBaasad"), &frmMilkCollections::Command3_Click};
     DataGrid DataGridMilk;
 
     CounterReport CRMilkPayments;

@@ -61,7 +61,11 @@ frmSearchCollections::frmSearchCollections()
     : Screen("frmSearchCollections")
     , DataGridInwards(this, "DataGridInwards", FoundColumns())
 {
-    WireHandlers();
+    When(maskDate.GotFocus, &frmSearchCollections::maskDate_GotFocus);
+    When(txtTime.GotFocus, &frmSearchCollections::txtTime_GotFocus);
+    When(ComboMemberName.GotFocus, &frmSearchCollections::ComboMemberName_GotFocus);
+    for (Field* field : std::initializer_list<Field*>{&maskDate, &txtTime, &txtMemberNo, &ComboMemberName})
+        When(field->TextChanged, &frmSearchCollections::ForgetFound);
     txtTime.SetLocked(true);
     txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     DataGridInwards.SetGuide(Plain(u"↑ ↓ : पावतीची नोंद निवडा"));
@@ -69,20 +73,6 @@ frmSearchCollections::frmSearchCollections()
     ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
     EnableFound(false);
     LayOut();
-}
-
-void frmSearchCollections::WireHandlers()
-{
-    When(maskDate.GotFocus, &frmSearchCollections::maskDate_GotFocus);
-    When(maskDate.LostFocus, &frmSearchCollections::maskDate_LostFocus);
-    When(txtTime.GotFocus, &frmSearchCollections::txtTime_GotFocus);
-    When(txtTime.LostFocus, &frmSearchCollections::txtTime_LostFocus);
-    When(txtMemberNo.LostFocus, &frmSearchCollections::txtMemberNo_LostFocus);
-    When(ComboMemberName.GotFocus, &frmSearchCollections::ComboMemberName_GotFocus);
-    When(ComboMemberName.LostFocus, &frmSearchCollections::ComboMemberName_LostFocus);
-    When(cmdGo.Click, &frmSearchCollections::cmdGo_Click);
-    for (Field* field : std::initializer_list<Field*>{&maskDate, &txtTime, &txtMemberNo, &ComboMemberName})
-        When(field->TextChanged, &frmSearchCollections::ForgetFound);
 }
 
 void frmSearchCollections::Load()

@@ -22,13 +22,15 @@ private:
     Label lblAcYear{this, "lblAcYear"};
     Label lblFooter{this, "lblFooter"};
 
-    DateField maskDate{this, "maskDate"};
-    ChoiceField txtTime{
-        this, "txtTime", {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}}};
-    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
-    NameCombo ComboMemberName{this, "ComboMemberName"};
+    DateField maskDate{this, "maskDate", &frmSearchCollections::maskDate_LostFocus};
+    ChoiceField txtTime{this, "txtTime",
+        {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}},
+        &frmSearchCollections::txtTime_LostFocus};
+    NumberField txtMemberNo{
+        this, "txtMemberNo", NumberField::Digits::Whole, &frmSearchCollections::txtMemberNo_LostFocus};
+    NameCombo ComboMemberName{this, "ComboMemberName", &frmSearchCollections::ComboMemberName_LostFocus};
     DataGrid DataGridInwards;
-    Button cmdGo{this, "cmdGo", Plain(u"&Print")};
+    Button cmdGo{this, "cmdGo", Plain(u"&Print"), &frmSearchCollections::cmdGo_Click};
 
     CounterReport CRMilkReceipt;
 
@@ -46,7 +48,6 @@ private:
     void ComboMemberName_LostFocus();
     void cmdGo_Click();
 
-    void WireHandlers();
     void LayOut();
     QWidget* Question();
 

@@ -19,39 +19,17 @@ frmMembers::frmMembers()
     : Screen("frmMembers")
     , txtAnimal(this, "txtAnimal",
           {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")},
-              {u'3', QStringLiteral("daonhI")}})
-    , txtPaymentType(
-          this, "txtPaymentType", {{u'1', QStringLiteral("raoK")}, {u'2', QStringLiteral("ba^nk")}})
-    , txtOpeningDorC(
-          this, "txtOpeningDorC", {{u'1', Direction::Payable.toString()}, {u'2', Direction::Due.toString()}})
+              {u'3', QStringLiteral("daonhI")}},
+          &frmMembers::txtAnimal_LostFocus)
+    , txtPaymentType(this, "txtPaymentType",
+          {{u'1', QStringLiteral("raoK")}, {u'2', QStringLiteral("ba^nk")}},
+          &frmMembers::txtPaymentType_LostFocus)
+    , txtOpeningDorC(this, "txtOpeningDorC",
+          {{u'1', Direction::Payable.toString()}, {u'2', Direction::Due.toString()}},
+          &frmMembers::txtOpeningDorC_LostFocus)
 {
-    Wire();
-    LayOut();
-}
-
-void frmMembers::Wire()
-{
-    When(txtMemberNo.LostFocus, &frmMembers::txtMemberNo_LostFocus);
-    When(ComboMemberName.LostFocus, &frmMembers::ComboMemberName_LostFocus);
-    When(ComboCity.LostFocus, &frmMembers::ComboCity_LostFocus);
-    When(txtAnimal.LostFocus, &frmMembers::txtAnimal_LostFocus);
-    When(txtPaymentType.LostFocus, &frmMembers::txtPaymentType_LostFocus);
-    When(ComboBankName.LostFocus, &frmMembers::ComboBankName_LostFocus);
-    When(txtBankAccountNo.LostFocus, &frmMembers::txtBankAccountNo_LostFocus);
-    When(txtOpeningBalance.LostFocus, &frmMembers::txtOpeningBalance_LostFocus);
-    When(txtOpeningDorC.LostFocus, &frmMembers::txtOpeningDorC_LostFocus);
-    When(txtCowOpeningLits.LostFocus, &frmMembers::txtCowOpeningLits_LostFocus);
-    When(txtBuffOpeningLits.LostFocus, &frmMembers::txtBuffOpeningLits_LostFocus);
-    When(txtOpeningUchal.LostFocus, &frmMembers::txtOpeningUchal_LostFocus);
-    When(txtCowOpeningThev.LostFocus, &frmMembers::txtCowOpeningThev_LostFocus);
-    When(txtBuffOpeningThev.LostFocus, &frmMembers::txtBuffOpeningThev_LostFocus);
-
-    When(cmdNew.Click, &frmMembers::cmdNew_Click);
-    When(cmdModify.Click, &frmMembers::cmdModify_Click);
-    When(cmdDelete.Click, &frmMembers::cmdDelete_Click);
-    When(cmdCancel.Click, &frmMembers::cmdCancel_Click);
-    When(cmdExit.Click, &frmMembers::cmdExit_Click);
     cmdCancel.SetCancels(true);
+    LayOut();
 }
 
 void frmMembers::Load()

@@ -26,21 +26,28 @@ private:
     Label lblBankAccountNo{this, "lblBankAccountNo", Shivaji(u"ba^nk Kato naMbar")};
     Label lblGuide{this, "lblGuide"};
 
-    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
-    NameCombo ComboMemberName{this, "ComboMemberName"};
+    NumberField txtMemberNo{
+        this, "txtMemberNo", NumberField::Digits::Whole, &frmMembers::txtMemberNo_LostFocus};
+    NameCombo ComboMemberName{this, "ComboMemberName", &frmMembers::ComboMemberName_LostFocus};
     TextField txtAddress{this, "txtAddress"};
-    NameCombo ComboCity{this, "ComboCity"};
+    NameCombo ComboCity{this, "ComboCity", &frmMembers::ComboCity_LostFocus};
     ChoiceField txtAnimal;
     ChoiceField txtPaymentType;
-    NameCombo ComboBankName{this, "ComboBankName"};
-    TextField txtBankAccountNo{this, "txtBankAccountNo"};
-    NumberField txtOpeningBalance{this, "txtOpeningBalance", NumberField::Digits::Decimals};
+    NameCombo ComboBankName{this, "ComboBankName", &frmMembers::ComboBankName_LostFocus};
+    TextField txtBankAccountNo{this, "txtBankAccountNo", &frmMembers::txtBankAccountNo_LostFocus};
+    NumberField txtOpeningBalance{
+        this, "txtOpeningBalance", NumberField::Digits::Decimals, &frmMembers::txtOpeningBalance_LostFocus};
     ChoiceField txtOpeningDorC;
-    NumberField txtCowOpeningLits{this, "txtCowOpeningLits", NumberField::Digits::Decimals};
-    NumberField txtBuffOpeningLits{this, "txtBuffOpeningLits", NumberField::Digits::Decimals};
-    NumberField txtOpeningUchal{this, "txtOpeningUchal", NumberField::Digits::Decimals};
-    NumberField txtCowOpeningThev{this, "txtCowOpeningThev", NumberField::Digits::Decimals};
-    NumberField txtBuffOpeningThev{this, "txtBuffOpeningThev", NumberField::Digits::Decimals};
+    NumberField txtCowOpeningLits{
+        this, "txtCowOpeningLits", NumberField::Digits::Decimals, &frmMembers::txtCowOpeningLits_LostFocus};
+    NumberField txtBuffOpeningLits{
+        this, "txtBuffOpeningLits", NumberField::Digits::Decimals, &frmMembers::txtBuffOpeningLits_LostFocus};
+    NumberField txtOpeningUchal{
+        this, "txtOpeningUchal", NumberField::Digits::Decimals, &frmMembers::txtOpeningUchal_LostFocus};
+    NumberField txtCowOpeningThev{
+        this, "txtCowOpeningThev", NumberField::Digits::Decimals, &frmMembers::txtCowOpeningThev_LostFocus};
+    NumberField txtBuffOpeningThev{
+        this, "txtBuffOpeningThev", NumberField::Digits::Decimals, &frmMembers::txtBuffOpeningThev_LostFocus};
 
     // Shown, never entered.
     NumberField txtClosingBalance{this, "txtClosingBalance", NumberField::Digits::Decimals};
@@ -51,11 +58,11 @@ private:
     NumberField txtCowClosingThev{this, "txtCowClosingThev", NumberField::Digits::Decimals};
     NumberField txtBuffClosingThev{this, "txtBuffClosingThev", NumberField::Digits::Decimals};
 
-    Button cmdNew{this, "cmdNew", Shivaji(u"&navaIna")};
-    Button cmdModify{this, "cmdModify", Shivaji(u"ba&dla")};
-    Button cmdDelete{this, "cmdDelete", Shivaji(u"&KaoDNao")};
-    Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+    Button cmdNew{this, "cmdNew", Shivaji(u"&navaIna"), &frmMembers::cmdNew_Click};
+    Button cmdModify{this, "cmdModify", Shivaji(u"ba&dla"), &frmMembers::cmdModify_Click};
+    Button cmdDelete{this, "cmdDelete", Shivaji(u"&KaoDNao"), &frmMembers::cmdDelete_Click};
+    Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_"), &frmMembers::cmdCancel_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmMembers::cmdExit_Click};
 
     // The last record read. A new member is written with the account of the last one.
     double AccountId = 0;
@@ -65,7 +72,6 @@ private:
     double BuffOpeningLoaded = 0;
     double BuffClosingLoaded = 0;
 
-    void Wire();
     void LayOut();
     QLayout* IdentityColumn();
     QLayout* FiguresColumn();

@@ -28,12 +28,7 @@ void StageMember(const Recordset& member, QStringView crieteria, const QString& 
 
 frmReportMembersList::frmReportMembersList() : Screen("frmReportMembersList")
 {
-    for (OptionButton* option : {&OptionList, &OptionArea, &OptionMilk})
-        When(option->Click, &frmReportMembersList::Option_Click);
     When(ComboArea.GotFocus, &frmReportMembersList::ComboArea_GotFocus);
-    When(ComboArea.LostFocus, &frmReportMembersList::ComboArea_LostFocus);
-    When(cmdReport.Click, &frmReportMembersList::cmdReport_Click);
-    When(cmdExit.Click, &frmReportMembersList::cmdExit_Click);
     SetTitle(Shivaji(u" maombar yaadI"));
     ComboArea.SetGuide(Plain(u"रिकामे ठेवल्यास सर्व विभाग"));
     ComboArea.Accepts = [](QChar c) { return c != u'\''; };

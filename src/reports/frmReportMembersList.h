@@ -14,18 +14,20 @@ private:
     Label lblTitle{this, "lblTitle"};
     Label lblCompanyTitle{this, "lblCompanyTitle"};
     Label lblAcYear{this, "lblAcYear"};
-    OptionButton OptionList{this, "OptionList", Shivaji(u"  &1 pUNa- yaadI")};
-    OptionButton OptionArea{this, "OptionArea", Shivaji(u"  &2 ivaBaaga")};
-    OptionButton OptionMilk{this, "OptionMilk", Shivaji(u"  &3 dUQa")};
+    OptionButton OptionList{
+        this, "OptionList", Shivaji(u"  &1 pUNa- yaadI"), &frmReportMembersList::Option_Click};
+    OptionButton OptionArea{
+        this, "OptionArea", Shivaji(u"  &2 ivaBaaga"), &frmReportMembersList::Option_Click};
+    OptionButton OptionMilk{this, "OptionMilk", Shivaji(u"  &3 dUQa"), &frmReportMembersList::Option_Click};
     OptionGroup list{&OptionList, &OptionArea, &OptionMilk};
-    NameCombo ComboArea{this, "ComboArea"};
+    NameCombo ComboArea{this, "ComboArea", &frmReportMembersList::ComboArea_LostFocus};
     OptionButton OptionCow{this, "OptionCow", Shivaji(u"gaaya")};
     OptionButton OptionBuff{this, "OptionBuff", Shivaji(u"mhOsa")};
     OptionButton OptionBoth{this, "OptionBoth", Shivaji(u"daonhI")};
     OptionGroup milk{&OptionCow, &OptionBuff, &OptionBoth};
     Label lblGuide{this, "lblGuide"};
-    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-"), &frmReportMembersList::cmdReport_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmReportMembersList::cmdExit_Click};
 
     void Load() override;
     void Escape() override;

@@ -17,11 +17,7 @@ constexpr QStringView BothAnimals = u"daonhI";
 
 frmReportMilkCollections::frmReportMilkCollections() : Screen("frmReportMilkCollections")
 {
-    When(MaskUserDate.LostFocus, &frmReportMilkCollections::MaskUserDate_LostFocus);
     When(ComboAnimal.GotFocus, &frmReportMilkCollections::ComboAnimal_GotFocus);
-    When(ComboAnimal.LostFocus, &frmReportMilkCollections::ComboAnimal_LostFocus);
-    When(cmdReport.Click, &frmReportMilkCollections::cmdReport_Click);
-    When(cmdExit.Click, &frmReportMilkCollections::cmdExit_Click);
     SetTitle(Shivaji(u" dUQa saMklana irpaoT-"));
     ComboAnimal.SetItems({QStringLiteral("gaaya"), QStringLiteral("mhOsa"), BothAnimals.toString()});
     LayOut();

@@ -16,14 +16,14 @@ private:
     Label lblCompanyTitle{this, "lblCompanyTitle"};
     Label lblAcYear{this, "lblAcYear"};
     Label lblGuide{this, "lblGuide"};
-    DateField MaskUserDate{this, "MaskUserDate"};
-    NameCombo ComboAnimal{this, "ComboAnimal"};
+    DateField MaskUserDate{this, "MaskUserDate", &frmReportMilkCollections::MaskUserDate_LostFocus};
+    NameCombo ComboAnimal{this, "ComboAnimal", &frmReportMilkCollections::ComboAnimal_LostFocus};
     OptionButton OptionMorning{this, "OptionMorning", Shivaji(u"&sakaL")};
     OptionButton OptionEvening{this, "OptionEvening", Shivaji(u"saMQyaa&kaL")};
     OptionButton OptionBoth{this, "OptionBoth", Shivaji(u"&daonhI")};
     OptionGroup shift{&OptionMorning, &OptionEvening, &OptionBoth};
-    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-"), &frmReportMilkCollections::cmdReport_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmReportMilkCollections::cmdExit_Click};
 
     void Load() override;
     void Escape() override;

@@ -11,14 +11,7 @@
 
 frmReportMilkPS::frmReportMilkPS() : Screen("frmReportMilkPS")
 {
-    When(maskFromDate.LostFocus, &frmReportMilkPS::maskFromDate_LostFocus);
-    When(maskToDate.LostFocus, &frmReportMilkPS::maskToDate_LostFocus);
-    When(OptionCollections.Click, &frmReportMilkPS::Option_Click);
-    When(OptionSales.Click, &frmReportMilkPS::Option_Click);
     When(ComboAccountName.GotFocus, &frmReportMilkPS::ComboAccountName_GotFocus);
-    When(ComboAccountName.LostFocus, &frmReportMilkPS::ComboAccountName_LostFocus);
-    When(cmdReport.Click, &frmReportMilkPS::cmdReport_Click);
-    When(cmdExit.Click, &frmReportMilkPS::cmdExit_Click);
     SetTitle(Shivaji(u" dUQa saMklana À ivaËI irpaoT-"));
     LayOut();
 }

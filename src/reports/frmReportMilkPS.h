@@ -18,14 +18,15 @@ private:
     Label lblCompanyTitle{this, "lblCompanyTitle"};
     Label lblAcYear{this, "lblAcYear"};
     Label lblGuide{this, "lblGuide"};
-    DateField maskFromDate{this, "maskFromDate"};
-    DateField maskToDate{this, "maskToDate"};
-    OptionButton OptionCollections{this, "OptionCollections", Shivaji(u" saMklana")};
-    OptionButton OptionSales{this, "OptionSales", Shivaji(u" ivaËI")};
+    DateField maskFromDate{this, "maskFromDate", &frmReportMilkPS::maskFromDate_LostFocus};
+    DateField maskToDate{this, "maskToDate", &frmReportMilkPS::maskToDate_LostFocus};
+    OptionButton OptionCollections{
+        this, "OptionCollections", Shivaji(u" saMklana"), &frmReportMilkPS::Option_Click};
+    OptionButton OptionSales{this, "OptionSales", Shivaji(u" ivaËI"), &frmReportMilkPS::Option_Click};
     OptionGroup kind{&OptionCollections, &OptionSales};
-    NameCombo ComboAccountName{this, "ComboAccountName"};
-    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+    NameCombo ComboAccountName{this, "ComboAccountName", &frmReportMilkPS::ComboAccountName_LostFocus};
+    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-"), &frmReportMilkPS::cmdReport_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmReportMilkPS::cmdExit_Click};
 
     void Load() override;
     void Escape() override;

@@ -20,9 +20,6 @@ QString Part(QString text)
 
 frmReportPaymentList::frmReportPaymentList() : Screen("frmReportPaymentList")
 {
-    When(MaskFromDate.LostFocus, &frmReportPaymentList::MaskFromDate_LostFocus);
-    When(cmdReport.Click, &frmReportPaymentList::cmdReport_Click);
-    When(cmdExit.Click, &frmReportPaymentList::cmdExit_Click);
     SetTitle(Shivaji(u" dUQa pomaoMT ilasT"));
     LayOut();
 }

@@ -18,12 +18,12 @@ private:
     Label lblCompanyTitle{this, "lblCompanyTitle"};
     Label lblAcYear{this, "lblAcYear"};
     Label lblGuide{this, "lblGuide"};
-    DateField MaskFromDate{this, "MaskFromDate"};
+    DateField MaskFromDate{this, "MaskFromDate", &frmReportPaymentList::MaskFromDate_LostFocus};
     OptionButton Option1{this, "Option1", Shivaji(u"raoK")};
     OptionButton Option2{this, "Option2", Shivaji(u"baÐMk")};
     OptionGroup way{&Option1, &Option2};
-    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-"), &frmReportPaymentList::cmdReport_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmReportPaymentList::cmdExit_Click};
 
     void Load() override;
     void Escape() override;

@@ -25,17 +25,21 @@ QStringList ReceiptTypes()
 
 frmAutoSettings::frmAutoSettings()
     : Screen("frmAutoSettings")
-    , SSTab(this, "SSTab", {Plain(u"संकलन"), Plain(u"पेमेंट"), Shivaji(u"dUQa ivaËI")})
-    , ComboAutoLiters(this, "ComboAutoLiters", YesNo())
-    , ComboAutoFat(this, "ComboAutoFat", YesNo())
+    , SSTab(this, "SSTab", {Plain(u"संकलन"), Plain(u"पेमेंट"), Shivaji(u"dUQa ivaËI")},
+          &frmAutoSettings::SSTab_Click)
+    , ComboAutoLiters(this, "ComboAutoLiters", YesNo(), &frmAutoSettings::ComboAutoLiters_LostFocus)
+    , ComboAutoFat(this, "ComboAutoFat", YesNo(), &frmAutoSettings::ComboAutoFat_LostFocus)
     , ComboPrintStatus(this, "ComboPrintStatus",
-          {QStringLiteral("naahI"), QStringLiteral("f@t sËIna"), QStringLiteral("haoya")})
-    , ComboReceipt(this, "ComboReceipt", ReceiptTypes())
+          {QStringLiteral("naahI"), QStringLiteral("f@t sËIna"), QStringLiteral("haoya")},
+          &frmAutoSettings::ComboPrintStatus_LostFocus)
+    , ComboReceipt(this, "ComboReceipt", ReceiptTypes(), &frmAutoSettings::ComboReceipt_LostFocus)
     , ComboPaymentDuration(this, "ComboPaymentDuration",
           {QStringLiteral("1 idvasa"), QStringLiteral("7 idvasa"), QStringLiteral("10 idvasa"),
-              QStringLiteral("15 idvasa"), QStringLiteral("1 maihnaa")})
+              QStringLiteral("15 idvasa"), QStringLiteral("1 maihnaa")},
+          &frmAutoSettings::ComboPaymentDuration_LostFocus)
     , ComboMSRPrintStatus(this, "ComboMSRPrintStatus",
-          {QStringLiteral("saovh"), QStringLiteral("saovh va sËIna"), QStringLiteral("saovh va ip`MT")})
+          {QStringLiteral("saovh"), QStringLiteral("saovh va sËIna"), QStringLiteral("saovh va ip`MT")},
+          &frmAutoSettings::ComboMSRPrintStatus_LostFocus)
 {
     // These two offer more than their digits reach; the rest is picked from the list.
     ComboReceipt.SetDigits(6);
@@ -43,37 +47,11 @@ frmAutoSettings::frmAutoSettings()
     cmbFatRateType.SetMouseOnly(true);
     ComboPrintStatus.SetText(QStringLiteral("haoya"));
     CmdCancel.SetCancels(true);
+    When(CheckRepeatCol.LostFocus, &frmAutoSettings::CheckRepeatCol_LostFocus);
     CmdExit.SetCancels(true); // nothing is saved by it, so no field need be right
     SetTitle(Shivaji(u"Aa^Tao saoTIMgja"));
-    Wire();
     SetGuides();
     LayOut();
-}
-
-void frmAutoSettings::Wire()
-{
-    When(SSTab.Click, &frmAutoSettings::SSTab_Click);
-    When(CheckCNP.Click, &frmAutoSettings::CheckCNP_Click);
-    When(CmdSave.Click, &frmAutoSettings::CmdSave_Click);
-    When(CmdCancel.Click, &frmAutoSettings::CmdCancel_Click);
-    When(cmdReceipt.Click, &frmAutoSettings::cmdReceipt_Click);
-    When(CmdExit.Click, &frmAutoSettings::CmdExit_Click);
-
-    When(ComboAutoLiters.LostFocus, &frmAutoSettings::ComboAutoLiters_LostFocus);
-    When(ComboAutoFat.LostFocus, &frmAutoSettings::ComboAutoFat_LostFocus);
-    When(ComboPrintStatus.LostFocus, &frmAutoSettings::ComboPrintStatus_LostFocus);
-    When(txtCowLimit.LostFocus, &frmAutoSettings::txtCowLimit_LostFocus);
-    When(txtBuffLimit.LostFocus, &frmAutoSettings::txtBuffLimit_LostFocus);
-    When(ComboReceipt.LostFocus, &frmAutoSettings::ComboReceipt_LostFocus);
-    When(CheckRepeatCol.LostFocus, &frmAutoSettings::CheckRepeatCol_LostFocus);
-    When(ComboPaymentDuration.LostFocus, &frmAutoSettings::ComboPaymentDuration_LostFocus);
-    When(txtCow.LostFocus, &frmAutoSettings::txtCow_LostFocus);
-    When(txtBuff.LostFocus, &frmAutoSettings::txtBuff_LostFocus);
-    When(cmbFatRateType.LostFocus, &frmAutoSettings::cmbFatRateType_LostFocus);
-    When(txtCowSaleRate.LostFocus, &frmAutoSettings::txtCowSaleRate_LostFocus);
-    When(txtBuffSaleRate.LostFocus, &frmAutoSettings::txtBuffSaleRate_LostFocus);
-    When(txtMixSaleRate.LostFocus, &frmAutoSettings::txtMixSaleRate_LostFocus);
-    When(ComboMSRPrintStatus.LostFocus, &frmAutoSettings::ComboMSRPrintStatus_LostFocus);
 }
 
 void frmAutoSettings::Load()

@@ -37,19 +37,21 @@ private:
     ChoiceCombo ComboAutoLiters;
     ChoiceCombo ComboAutoFat;
     ChoiceCombo ComboPrintStatus;
-    NumberField txtCowLimit{this, "txtCowLimit", NumberField::Digits::Decimals};
-    NumberField txtBuffLimit{this, "txtBuffLimit", NumberField::Digits::Decimals};
+    NumberField txtCowLimit{
+        this, "txtCowLimit", NumberField::Digits::Decimals, &frmAutoSettings::txtCowLimit_LostFocus};
+    NumberField txtBuffLimit{
+        this, "txtBuffLimit", NumberField::Digits::Decimals, &frmAutoSettings::txtBuffLimit_LostFocus};
     ChoiceCombo ComboReceipt;
     CheckBox CheckRepeatCol{this, "CheckRepeatCol",
         Shivaji(u"eka maombarcaI eka vaoLI ekapoxaa jaast vaoLa dUQa saMklana naaoMd kÉ VayacaI ka Æ")};
 
     // Payment
     ChoiceCombo ComboPaymentDuration;
-    NumberField txtCow{this, "txtCow", NumberField::Digits::Decimals};
-    NumberField txtBuff{this, "txtBuff", NumberField::Digits::Decimals};
-    ChoiceCombo cmbFatRateType{this, "cmbFatRateType"};
-    CheckBox CheckCNP{
-        this, "CheckCNP", Shivaji(u"dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kravaI ka Æ")};
+    NumberField txtCow{this, "txtCow", NumberField::Digits::Decimals, &frmAutoSettings::txtCow_LostFocus};
+    NumberField txtBuff{this, "txtBuff", NumberField::Digits::Decimals, &frmAutoSettings::txtBuff_LostFocus};
+    ChoiceCombo cmbFatRateType{this, "cmbFatRateType", {}, &frmAutoSettings::cmbFatRateType_LostFocus};
+    CheckBox CheckCNP{this, "CheckCNP", Shivaji(u"dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kravaI ka Æ"),
+        &frmAutoSettings::CheckCNP_Click};
     CheckBox CheckSNU{this, "CheckSNU",
         Shivaji(
             u"maombarlaa kolaolaI ]Qaar ivaËI dUQa pomaonT krtovaoLI ]cala mhNaUna ivacaarat GyaavaI ka Æ")};
@@ -60,21 +62,23 @@ private:
     OptionGroup DecimalPayment{{&OptionAddThev, &OptionPayable, &OptionPayIt, &OptionDiscount}};
 
     // Milk sale
-    NumberField txtCowSaleRate{this, "txtCowSaleRate", NumberField::Digits::Decimals};
-    NumberField txtBuffSaleRate{this, "txtBuffSaleRate", NumberField::Digits::Decimals};
-    NumberField txtMixSaleRate{this, "txtMixSaleRate", NumberField::Digits::Decimals};
+    NumberField txtCowSaleRate{
+        this, "txtCowSaleRate", NumberField::Digits::Decimals, &frmAutoSettings::txtCowSaleRate_LostFocus};
+    NumberField txtBuffSaleRate{
+        this, "txtBuffSaleRate", NumberField::Digits::Decimals, &frmAutoSettings::txtBuffSaleRate_LostFocus};
+    NumberField txtMixSaleRate{
+        this, "txtMixSaleRate", NumberField::Digits::Decimals, &frmAutoSettings::txtMixSaleRate_LostFocus};
     ChoiceCombo ComboMSRPrintStatus;
 
-    Button CmdSave{this, "CmdSave", Shivaji(u"&saovh")};
-    Button CmdCancel{this, "CmdCancel", Shivaji(u"&r_")};
-    Button CmdExit{this, "CmdExit", Shivaji(u"&baahor")};
+    Button CmdSave{this, "CmdSave", Shivaji(u"&saovh"), &frmAutoSettings::CmdSave_Click};
+    Button CmdCancel{this, "CmdCancel", Shivaji(u"&r_"), &frmAutoSettings::CmdCancel_Click};
+    Button CmdExit{this, "CmdExit", Shivaji(u"&baahor"), &frmAutoSettings::CmdExit_Click};
 
     // It stands beside ComboReceipt, and last in the tab order: Enter behind the choice of a layout goes on.
-    Button cmdReceipt{this, "cmdReceipt", Shivaji(u"pavatI p`kar")};
+    Button cmdReceipt{this, "cmdReceipt", Shivaji(u"pavatI p`kar"), &frmAutoSettings::cmdReceipt_Click};
 
     ReportControl CRMilkReceipt;
 
-    void Wire();
     void LayOut();
     QLayout* CollectionPage();
     QLayout* PaymentPage();

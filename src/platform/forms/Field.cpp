@@ -9,8 +9,10 @@
 
 #include <utility>
 
-Field::Field(Screen* screen, const char* name) : Control(screen, name, new QLineEdit)
+Field::Field(Screen* screen, const char* name, const Handler& lostFocus)
+    : Control(screen, name, new QLineEdit)
 {
+    LostFocus = lostFocus.On(*screen);
     Line().setTextMargins(4, 0, 4, 0);
     Line().setContextMenuPolicy(Qt::NoContextMenu);
     Line().setDragEnabled(false);
@@ -115,8 +117,8 @@ QString FigureOf(const QString& text, bool keypad)
 
 }
 
-NumberField::NumberField(Screen* screen, const char* name, Digits digits)
-    : Field(screen, name)
+NumberField::NumberField(Screen* screen, const char* name, Digits digits, const Handler& lostFocus)
+    : Field(screen, name, lostFocus)
     , m_digits(digits)
 {
     SetAlignRight();
@@ -163,8 +165,9 @@ void NumberField::Insert(const QString& text)
         Line().insert(figures);
 }
 
-ChoiceField::ChoiceField(Screen* screen, const char* name, std::vector<Choice> choices)
-    : Field(screen, name)
+ChoiceField::ChoiceField(
+    Screen* screen, const char* name, std::vector<Choice> choices, const Handler& lostFocus)
+    : Field(screen, name, lostFocus)
     , m_choices(std::move(choices))
 {
     Line().setReadOnly(true);

@@ -7,7 +7,7 @@ class QLineEdit;
 // A one-line entry field. On taking the focus it selects its whole text, whether by key or by mouse.
 class Field : public Control {
 public:
-    Field(Screen* screen, const char* name);
+    Field(Screen* screen, const char* name, const Handler& lostFocus = {});
 
     // The text has changed, by a key of the clerk or by the screen.
     Event TextChanged;
@@ -52,7 +52,7 @@ class NumberField final : public Field {
 public:
     enum class Digits { Whole, Decimals };
 
-    NumberField(Screen* screen, const char* name, Digits digits);
+    NumberField(Screen* screen, const char* name, Digits digits, const Handler& lostFocus = {});
 
     QString Text() const override;
     void SetText(const QString& text) override;
@@ -74,7 +74,7 @@ public:
         QString word; // as the system spells it
     };
 
-    ChoiceField(Screen* screen, const char* name, std::vector<Choice> choices);
+    ChoiceField(Screen* screen, const char* name, std::vector<Choice> choices, const Handler& lostFocus = {});
 
     // A locked field is never emptied by a key.
     void SetLocked(bool locked) { m_locked = locked; }
