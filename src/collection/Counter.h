@@ -9,8 +9,6 @@
 // What the counters of the society have in common.
 namespace Counter {
 
-inline constexpr QStringView FatFormat = u"#########0.0";
-inline constexpr QStringView MoneyFormat = u"#########0.00";
 inline constexpr QStringView AverageFatFormat = u"#######0.0";
 inline constexpr double HighestFat = 30.0;
 inline constexpr double HighestRate = 60.0;
@@ -25,12 +23,6 @@ constexpr int Twips(int twips)
 inline bool IsShift(QStringView time)
 {
     return time == u"sakaL" || time == u"saMQyaakaL";
-}
-
-// The number that a field reads.
-inline double Value(const Field& field)
-{
-    return Val(field.Text());
 }
 
 // The names of all members with their numbers, in the order of the books.

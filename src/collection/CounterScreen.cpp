@@ -61,6 +61,7 @@ CounterScreen::CounterScreen(const CounterKind& kind)
     txtAnimal.SetGuide(Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
     ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
+    txtLiters.SetPattern(kind.liters.field);
     txtLiters.SetMaxLength(9);
     txtAmount.SetEnabled(false);
     EnableEntry(false);
@@ -154,11 +155,11 @@ void CounterScreen::txtCollectionNo_GotFocus()
 
 bool CounterScreen::txtCollectionNo_KeyDown(const QKeyEvent& key)
 {
-    const double number = Value(txtCollectionNo);
+    const double number = txtCollectionNo.Value();
     if (key.key() == Qt::Key_Up && number > 1)
-        txtCollectionNo.SetText(ShortestDecimal(number - 1));
+        txtCollectionNo.Show(number - 1);
     else if (key.key() == Qt::Key_Down)
-        txtCollectionNo.SetText(ShortestDecimal(number + 1));
+        txtCollectionNo.Show(number + 1);
     else
         return false;
     txtCollectionNo.SelectAll();
@@ -170,7 +171,7 @@ void CounterScreen::txtCollectionNo_LostFocus()
     if (IsSentBack())
         return;
     RefreshActualTime();
-    const double number = Value(txtCollectionNo);
+    const double number = txtCollectionNo.Value();
     if (number == 0) {
         ClearEntryFields();
         ShowNumber(NextCollectionNo);
@@ -225,7 +226,7 @@ void CounterScreen::txtMemberNo_LostFocus()
     if (std::exchange(SkipMemberChecks, false))
         return;
     ShowMemberKeys(false);
-    const double number = Value(txtMemberNo);
+    const double number = txtMemberNo.Value();
     if (number == 0) {
         txtMemberNo.Clear();
         return;
@@ -277,7 +278,7 @@ void CounterScreen::ComboMemberName_LostFocus()
         return;
     }
     const bool asks = txtMemberNo.IsEmpty();
-    const Recordset member = MemberOfName(ComboMemberName, Value(txtMemberNo));
+    const Recordset member = MemberOfName(ComboMemberName, txtMemberNo.Value());
     if (member.Eof()) {
         if (asks)
             ComboMemberName.SetFocus(Wanted::Name());

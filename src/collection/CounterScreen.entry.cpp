@@ -18,7 +18,7 @@ void CounterScreen::txtAnimal_GotFocus()
 {
     if (ComboMemberName.IsEmpty())
         ComboMemberName.SetEnabled(true);
-    if (Value(txtMemberNo) == 0)
+    if (txtMemberNo.Value() == 0)
         SendBack(txtMemberNo, Plain(u"मेम्बर नंबर टाका    Enter : नावाने"));
 }
 
@@ -42,7 +42,7 @@ void CounterScreen::txtLiters_GotFocus()
     if (txtLiters.IsEmpty())
         txtLiters.SetText(QStringLiteral("0"));
     txtLiters.SelectAll();
-    if (Value(txtLiters) > 0)
+    if (txtLiters.Value() > 0)
         SendKeys(QStringLiteral("{TAB}"));
 }
 
@@ -54,9 +54,7 @@ void CounterScreen::txtLiters_LostFocus()
     }
     if (txtAnimal.Text() != u"gaaya" && txtAnimal.Text() != u"mhOsa")
         return;
-    const double liters = Value(txtLiters);
-    txtLiters.SetText(Format(liters, m_kind.liters.field));
-    if (liters == 0 && !IsSwitchingOff(cmdAutoLiter, gAppState.gAutoLiters, txtLiters))
+    if (txtLiters.Reformat() == 0 && !IsSwitchingOff(cmdAutoLiter, gAppState.gAutoLiters, txtLiters))
         txtLiters.SetFocus(Plain(u"लिटर टाका    Esc : बाहेर"));
 }
 
@@ -78,10 +76,10 @@ void CounterScreen::OfferLastFat()
     const Recordset last(gCn,
         Sql(u"select * from MilkCollections where CollectionDate<=", TheShift().Day(),
             u" and CollectionTime='", txtTime.Text(), u"' and Animal='", txtAnimal.Text(), u"' and MemberNo=",
-            Value(txtMemberNo), u" and MemberName='", ComboMemberName.Text(),
+            txtMemberNo.Value(), u" and MemberName='", ComboMemberName.Text(),
             u"' order by CollectionDate desc,CollectionNo desc"));
     if (!last.Eof())
-        txtFat.SetText(Format(last[u"Fat"].Number(), u"#####0.0"));
+        txtFat.Show(last[u"Fat"].Number());
 }
 
 // Some testers give the litres a second time, and one gives nothing else.
@@ -115,7 +113,7 @@ void CounterScreen::DeviceSwitch_LostFocus()
 // back.
 void CounterScreen::txtFat_LostFocus()
 {
-    if (DeviceSwitch::IsOn(gAppState.gAutoFat) && Value(txtFat) <= 0) {
+    if (DeviceSwitch::IsOn(gAppState.gAutoFat) && txtFat.Value() <= 0) {
         if (IsSwitchingOff(cmdAutoFat, gAppState.gAutoFat, txtFat))
             return;
         if (const std::optional<QString> read = m_devices.RepeatFat())
@@ -124,14 +122,13 @@ void CounterScreen::txtFat_LostFocus()
         txtFat.SetFocus(Plain(u"फॅट टाका    Enter : मशीनवरून पुन्हा    Esc : बाहेर"));
         return;
     }
-    const double fat = Value(txtFat);
-    txtFat.SetText(Format(fat, FatFormat));
+    const double fat = txtFat.Reformat();
     if (fat == 0 || fat > HighestFat) {
         FatRefused = true; // the clerk is to see what was refused, not another offer
         txtFat.SetFocus(Plain(u"फॅट टाका : 0.1 ते 30.0    Esc : बाहेर"));
         return;
     }
-    const FatRate found = LookupFatRate(maskDate.Date(), Value(txtFat), txtAnimal.Text());
+    const FatRate found = LookupFatRate(maskDate.Date(), txtFat.Value(), txtAnimal.Text());
     if (found.outcome == FatRate::Outcome::NoChart) {
         ClearEntryFields();
         maskDate.SetFocus();
@@ -139,15 +136,14 @@ void CounterScreen::txtFat_LostFocus()
         return;
     }
     if (found.outcome == FatRate::Outcome::Priced)
-        txtRate.SetText(Format(found.rate, MoneyFormat));
+        txtRate.Show(found.rate);
     ShowAmount();
 }
 
 void CounterScreen::txtRate_LostFocus()
 {
-    if (Value(txtFat) != 0) {
-        const double rate = Value(txtRate);
-        txtRate.SetText(Format(rate, MoneyFormat));
+    if (txtFat.Value() != 0) {
+        const double rate = txtRate.Reformat();
         if (rate == 0)
             txtRate.SetFocus(Plain(u"तक्त्यात या फॅटचा दर नाही : दर टाका    Esc : बाहेर"));
         else if (rate > HighestRate)
@@ -159,7 +155,7 @@ void CounterScreen::txtRate_LostFocus()
 // The amount goes by what the fields show, so that the slip can be checked by hand.
 void CounterScreen::ShowAmount()
 {
-    txtAmount.SetText(Format(Value(txtLiters) * Value(txtRate), MoneyFormat));
+    txtAmount.Show(txtLiters.Value() * txtRate.Value());
 }
 
 void CounterScreen::cmdGo_LostFocus()

@@ -9,6 +9,7 @@
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
 #include "platform/forms/Screen.h"
+#include "society/Fields.h"
 
 #include <array>
 #include <utility>
@@ -59,19 +60,16 @@ protected:
     ChoiceField txtTime{this, "txtTime",
         {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}},
         &CounterScreen::txtTime_LostFocus};
-    NumberField txtCollectionNo{
-        this, "txtCollectionNo", NumberField::Digits::Whole, &CounterScreen::txtCollectionNo_LostFocus};
-    NumberField txtMemberNo{
-        this, "txtMemberNo", NumberField::Digits::Whole, &CounterScreen::txtMemberNo_LostFocus};
+    WholeField txtCollectionNo{this, "txtCollectionNo", &CounterScreen::txtCollectionNo_LostFocus};
+    WholeField txtMemberNo{this, "txtMemberNo", &CounterScreen::txtMemberNo_LostFocus};
     NameCombo ComboMemberName{this, "ComboMemberName", &CounterScreen::ComboMemberName_LostFocus};
     ChoiceField txtAnimal{this, "txtAnimal",
         {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}},
         &CounterScreen::txtAnimal_LostFocus};
-    NumberField txtLiters{
-        this, "txtLiters", NumberField::Digits::Decimals, &CounterScreen::txtLiters_LostFocus};
-    NumberField txtFat{this, "txtFat", NumberField::Digits::Decimals, &CounterScreen::txtFat_LostFocus};
-    NumberField txtRate{this, "txtRate", NumberField::Digits::Decimals, &CounterScreen::txtRate_LostFocus};
-    NumberField txtAmount{this, "txtAmount", NumberField::Digits::Decimals};
+    LitresField txtLiters{this, "txtLiters", &CounterScreen::txtLiters_LostFocus};
+    FatField txtFat{this, "txtFat", &CounterScreen::txtFat_LostFocus};
+    RateField txtRate{this, "txtRate", &CounterScreen::txtRate_LostFocus};
+    MoneyField txtAmount{this, "txtAmount"};
     Button cmdGo{this, "cmdGo", Plain(u" >"), &CounterScreen::cmdGo_Click};
     DataGrid DataGridInwards;
     Button cmdAutoLiter{this, "cmdAutoLiter", {}, &CounterScreen::cmdAutoLiter_Click};

@@ -55,7 +55,7 @@ void CounterScreen::ShowMemberKeys(bool shown)
 void CounterScreen::LightMemberKeys()
 {
     const bool isHere = txtMemberNo.HasFocus();
-    const bool hasRow = isHere && Value(txtMemberNo) != 0 && Finds(RowsOfMember());
+    const bool hasRow = isHere && txtMemberNo.Value() != 0 && Finds(RowsOfMember());
     for (Label* label : {&lblF9, &lblSearch})
         label->Widget()->setEnabled(hasRow);
     for (Label* label : {&lblF7, &lblMilk})
@@ -101,8 +101,8 @@ Shift CounterScreen::TheShift() const
 
 Delivery CounterScreen::TheDelivery() const
 {
-    return {TheShift(), Value(txtCollectionNo), Value(txtMemberNo), ComboMemberName.Text(), txtAnimal.Text(),
-        Value(txtLiters), Value(txtFat), Value(txtRate), Value(txtAmount),
+    return {TheShift(), txtCollectionNo.Value(), txtMemberNo.Value(), ComboMemberName.Text(),
+        txtAnimal.Text(), txtLiters.Value(), txtFat.Value(), txtRate.Value(), txtAmount.Value(),
         lblActualCollectionTime.Shown().Text()};
 }
 
@@ -110,7 +110,7 @@ Delivery CounterScreen::TheDelivery() const
 void CounterScreen::ShowNumber(std::int16_t number)
 {
     NextCollectionNo = number;
-    txtCollectionNo.SetText(QString::number(number));
+    txtCollectionNo.Show(number);
 }
 
 // A stored row's member by name, its animal and its figures.
@@ -118,10 +118,10 @@ void CounterScreen::ShowRow(const Recordset& row)
 {
     ShowMember(ComboMemberName, row);
     txtAnimal.SetText(row[u"Animal"].Text());
-    txtLiters.SetText(Format(row[u"Liters"].Number(), m_kind.liters.field));
-    txtFat.SetText(Format(row[u"Fat"].Number(), FatFormat));
-    txtRate.SetText(Format(row[u"Rate"].Number(), MoneyFormat));
-    txtAmount.SetText(Format(row[u"Amount"].Number(), MoneyFormat));
+    txtLiters.Show(row[u"Liters"].Number());
+    txtFat.Show(row[u"Fat"].Number());
+    txtRate.Show(row[u"Rate"].Number());
+    txtAmount.Show(row[u"Amount"].Number());
 }
 
 // The buttons at its side

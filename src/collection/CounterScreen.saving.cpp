@@ -16,9 +16,9 @@ using namespace Counter;
 
 void CounterScreen::cmdGo_Click()
 {
-    if (Value(txtMemberNo) != 0)
+    if (txtMemberNo.Value() != 0)
         ShowAmount(); // pressed by the mouse it comes straight from the litres, which make none
-    if (Value(txtMemberNo) == 0 || Value(txtAmount) == 0) {
+    if (txtMemberNo.Value() == 0 || txtAmount.Value() == 0) {
         txtCollectionNo.SetFocus(Plain(u"रक्कम किंवा मेम्बर नाही : काहीही सेव्ह झाले नाही"));
         return;
     }
@@ -31,7 +31,7 @@ void CounterScreen::cmdGo_Click()
     }
     const Shift shift = TheShift();
     const bool isThere = Finds(Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
-        u" and CollectionTime='", shift.time, u"' and CollectionNo=", Value(txtCollectionNo)));
+        u" and CollectionTime='", shift.time, u"' and CollectionNo=", txtCollectionNo.Value()));
     RefreshActualTime();
     const Delivery delivery = TheDelivery();
 
@@ -68,8 +68,8 @@ bool CounterScreen::IsSecondDelivery() const
 {
     const Shift shift = TheShift();
     return Finds(Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
-        u" and CollectionTime='", shift.time, u"' and CollectionNo<>", Value(txtCollectionNo),
-        u" and MemberNo=", Value(txtMemberNo), u" and trim(Animal)='", txtAnimal.Text(), u"'"));
+        u" and CollectionTime='", shift.time, u"' and CollectionNo<>", txtCollectionNo.Value(),
+        u" and MemberNo=", txtMemberNo.Value(), u" and trim(Animal)='", txtAnimal.Text(), u"'"));
 }
 
 void CounterScreen::StoreNew(const Delivery& delivery)
@@ -87,8 +87,8 @@ void CounterScreen::StoreNew(const Delivery& delivery)
 void CounterScreen::DeleteRow()
 {
     const Shift shift = TheShift();
-    const double number = Value(txtCollectionNo);
-    const double memberNo = Value(txtMemberNo);
+    const double number = txtCollectionNo.Value();
+    const double memberNo = txtMemberNo.Value();
     if (Finds(Sql(u"select * from MilkPayments where CompanyId=", gAppState.gCompanyId, u" and FromDate>=",
             shift.Day(), u" and ToDate<=", shift.Day(), u" and MemberNo=", memberNo))) {
         ShowPlain(QStringLiteral("Milk Payment Already Done, You Cannot Delete this Collection"));
@@ -114,7 +114,7 @@ QString CounterScreen::RowsOfMember() const
 {
     const Shift shift = TheShift();
     return Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
-        u" and CollectionTime='", shift.time, u"' AND MemberNo=", Value(txtMemberNo));
+        u" and CollectionTime='", shift.time, u"' AND MemberNo=", txtMemberNo.Value());
 }
 
 void CounterScreen::SearchMember()

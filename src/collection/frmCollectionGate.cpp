@@ -16,7 +16,7 @@ frmCollectionGate::frmCollectionGate() : CounterScreen(GateCounter)
     When(cmdGo.GotFocus, &frmCollectionGate::cmdGo_GotFocus);
     for (const auto& [button, column] : OrderButtons())
         button->Click = [this, button = button, column = column] { ToggleOrder(*button, column); };
-    for (const auto& [field, column] : std::initializer_list<std::pair<Field*, QStringView>>{
+    for (const auto& [field, column] : std::initializer_list<std::pair<NumberField*, QStringView>>{
              {&txtLiters, u"Liters"}, {&txtFat, u"Fat"}, {&txtRate, u"Rate"}})
         field->TextChanged = [this, field = field, column = column] { SearchNumber(*field, column); };
     When(txtAnimal.TextChanged, &frmCollectionGate::txtAnimal_Change);
@@ -94,9 +94,9 @@ QString frmCollectionGate::OrReadsLike(const QString& beginning) const
 }
 
 // A field that was just emptied shows the whole shift.
-void frmCollectionGate::SearchNumber(const Field& field, QStringView column)
+void frmCollectionGate::SearchNumber(const NumberField& field, QStringView column)
 {
-    Search(IsNumeric(field.Text()) ? Sql(u" WHERE ", column, u"=", Value(field)) : SqlText());
+    Search(field.HoldsNumber() ? Sql(u" WHERE ", column, u"=", field.Value()) : SqlText());
 }
 
 void frmCollectionGate::Search(const SqlText& condition)

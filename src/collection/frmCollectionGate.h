@@ -35,7 +35,7 @@ private:
     static Caption Descending() { return Plain(u"↓"); }
     std::array<std::pair<Button*, QStringView>, 4> OrderButtons(); // each button and its column
     void ToggleOrder(Button& button, QStringView column);
-    void SearchNumber(const Field& field, QStringView column);
+    void SearchNumber(const NumberField& field, QStringView column);
     void Search(const SqlText& condition);
 
     QLayout* ListAndTotals();

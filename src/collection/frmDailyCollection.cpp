@@ -135,7 +135,7 @@ void frmDailyCollection::ClearFields()
 {
     for (Field* field : Fields())
         field->Clear();
-    for (Field* figure : {&txtLiters, &txtFat, &txtRate, &txtAmount})
+    for (Field* figure : std::initializer_list<Field*>{&txtLiters, &txtFat, &txtRate, &txtAmount})
         figure->SetText(QStringLiteral("0"));
     IsPicked = false;
     ProposedNo.clear();
@@ -172,7 +172,8 @@ void frmDailyCollection::cmdAdd_Click()
     Write(InsertStatement());
     if (IsListShown())
         DataGrid1.Refresh();
-    for (Field* field : {&txtCollectionNo, &txtLiters, &txtFat, &txtRate, &txtAmount})
+    for (Field* field :
+        std::initializer_list<Field*>{&txtCollectionNo, &txtLiters, &txtFat, &txtRate, &txtAmount})
         field->Clear();
     MasKCollectionDate.SetDate(MasKCollectionDate.Date().addDays(1));
     ShowNextNumber();
@@ -217,9 +218,9 @@ void frmDailyCollection::cmdModify_Click()
 
 QString frmDailyCollection::UpdateStatement() const
 {
-    return Sql(u"UPDATE MilkCollections SET Liters=", Value(txtLiters), u",Fat=", Value(txtFat), u",Rate=",
-        Value(txtRate), u",Amount=", Value(txtAmount), u" WHERE CollectionNo=", Value(txtCollectionNo),
-        u" AND CollectionDate=", Day(), u" AND MemberNo=", Value(txtMemberNo), u" AND CollectionTime ='",
+    return Sql(u"UPDATE MilkCollections SET Liters=", txtLiters.Value(), u",Fat=", txtFat.Value(), u",Rate=",
+        txtRate.Value(), u",Amount=", txtAmount.Value(), u" WHERE CollectionNo=", txtCollectionNo.Value(),
+        u" AND CollectionDate=", Day(), u" AND MemberNo=", txtMemberNo.Value(), u" AND CollectionTime ='",
         cmbCollectionTime.Text(), u"'AND Animal='", txtAnimal.Text(), u"'");
 }
 
@@ -242,7 +243,7 @@ void frmDailyCollection::cmdDelete_Click()
 QString frmDailyCollection::DeleteStatement() const
 {
     return Sql(u" DELETE * FROM MilkCollections WHERE CompanyId= ", gAppState.gCompanyId,
-        u" AND CollectionNo= ", Value(txtCollectionNo), u" AND MemberNo=", Value(txtMemberNo),
+        u" AND CollectionNo= ", txtCollectionNo.Value(), u" AND MemberNo=", txtMemberNo.Value(),
         u" AND CollectionTime='", cmbCollectionTime.Text(), u"'");
 }
 
@@ -251,7 +252,7 @@ QString frmDailyCollection::DeleteStatement() const
 void frmDailyCollection::OpenList()
 {
     Write(QStringLiteral("DELETE * FROM MilkCollections WHERE CompanyId=999"));
-    DataGrid1.Bind(gCn, Sql(u"SELECT * FROM MilkCollections WHERE MemberNo=", Value(txtMemberNo)));
+    DataGrid1.Bind(gCn, Sql(u"SELECT * FROM MilkCollections WHERE MemberNo=", txtMemberNo.Value()));
     ShowList(true);
     if (DataGrid1.CurrentRow() >= 0)
         DataGrid1.SetFocus();

@@ -39,9 +39,9 @@ Caption FatWanted()
 }
 
 // A field that must hold a number, whatever was typed.
-void MendNumber(Field& field)
+void MendNumber(NumberField& field)
 {
-    if (!IsNumeric(field.Text()))
+    if (!field.HoldsNumber())
         field.SetText(QStringLiteral("0"));
 }
 
@@ -65,7 +65,7 @@ bool frmDailyCollection::HasMissing()
 
 frmDailyCollection::Missing frmDailyCollection::Unfinished()
 {
-    if (!IsNumeric(txtMemberNo.Text()))
+    if (!txtMemberNo.HoldsNumber())
         return {&txtMemberNo, WithWayOut(u"मेम्बर नंबर टाका")};
     if (IsAdding() && cmbMemberName.IsEmpty())
         return {&cmbMemberName, WithWayOut(u"नाव टाका, किंवा ↓ ने यादीतून निवडा")};
@@ -91,11 +91,11 @@ frmDailyCollection::Missing frmDailyCollection::UnfinishedNumber()
 {
     if (IsAdding() && DayAndShift() != NumberedFor)
         return {&cmbCollectionTime, Plain(u"दिनांक किंवा वेळ बदलली : Enter ने नवा क्रमांक, मग सेव्ह")};
-    if (!IsNumeric(txtCollectionNo.Text()))
+    if (!txtCollectionNo.HoldsNumber())
         return {&txtCollectionNo, WithWayOut(u"संकलन क्रमांक टाका")};
     if (!IsAdding())
         return IsRowShown ? Missing() : Missing{&txtCollectionNo, Plain(u"Enter ने नोंद पाहा, मग पुढे")};
-    const double number = Value(txtCollectionNo);
+    const double number = txtCollectionNo.Value();
     const bool isOfASeries = number >= 1 && number <= HighestNumber && number == std::trunc(number);
     if (isOfASeries || txtCollectionNo.Text() == ProposedNo)
         return {};
@@ -104,11 +104,11 @@ frmDailyCollection::Missing frmDailyCollection::UnfinishedNumber()
 
 frmDailyCollection::Missing frmDailyCollection::UnfinishedFigure()
 {
-    if (!IsNumeric(txtLiters.Text()) || Value(txtLiters) <= 0)
+    if (!txtLiters.HoldsNumber() || txtLiters.Value() <= 0)
         return {&txtLiters, LitersWanted()};
-    if (!IsNumeric(txtFat.Text()) || Value(txtFat) <= 0 || Value(txtFat) > HighestFat)
+    if (!txtFat.HoldsNumber() || txtFat.Value() <= 0 || txtFat.Value() > HighestFat)
         return {&txtFat, FatWanted()};
-    if (!IsNumeric(txtRate.Text()))
+    if (!txtRate.HoldsNumber())
         return {&txtRate, WithWayOut(u"दर टाका")};
     return IsNumeric(txtAmount.Text()) ? Missing() : Missing{&txtAmount, WithWayOut(u"रक्कम टाका")};
 }
@@ -147,12 +147,12 @@ void frmDailyCollection::ForgetRow()
 
 void frmDailyCollection::txtMemberNo_LostFocus()
 {
-    if (!IsNumeric(txtMemberNo.Text())) {
+    if (!txtMemberNo.HoldsNumber()) {
         txtMemberNo.Clear();
         return;
     }
     const Recordset member(
-        gCn, Sql(u"SELECT MemberName,Animal FROM MembersMaster WHERE  MemberNo=", Value(txtMemberNo)));
+        gCn, Sql(u"SELECT MemberName,Animal FROM MembersMaster WHERE  MemberNo=", txtMemberNo.Value()));
     if (member.Eof())
         cmbMemberName.Clear(); // a name stands there only beside its own number
     else
@@ -162,7 +162,7 @@ void frmDailyCollection::txtMemberNo_LostFocus()
 // A member of both kinds leaves the animal to the clerk.
 void frmDailyCollection::TakeMember(const Recordset& member)
 {
-    cmbMemberName.SetEntry({member[u"MemberName"].Text(), ShortestDecimal(Value(txtMemberNo))});
+    cmbMemberName.SetEntry({member[u"MemberName"].Text(), ShortestDecimal(txtMemberNo.Value())});
     if (const QString animal = member[u"Animal"].Text(); animal != u"daonhI")
         txtAnimal.SetText(animal);
 }
@@ -170,7 +170,7 @@ void frmDailyCollection::TakeMember(const Recordset& member)
 // A member can be told by name as well; a name that is nobody's gives way to that of the number.
 void frmDailyCollection::cmbMemberName_LostFocus()
 {
-    if (IsNameOf(cmbMemberName, Value(txtMemberNo)))
+    if (IsNameOf(cmbMemberName, txtMemberNo.Value()))
         return;
     if (const Recordset member = MemberOfName(cmbMemberName); !member.Eof()) {
         txtMemberNo.SetText(member[u"MemberNo"].Text());
@@ -231,8 +231,8 @@ void frmDailyCollection::txtCollectionNo_LostFocus()
     if ((IsAdding() && !isPicked) || !MasKCollectionDate.InsistOnDate(Wanted::Date()))
         return;
     const Recordset row(gCn,
-        Sql(u"SELECT * FROM MilkCollections WHERE CollectionNo=", Value(txtCollectionNo), u" AND MemberNo=",
-            Value(txtMemberNo), u" AND CollectionDate=", Day()));
+        Sql(u"SELECT * FROM MilkCollections WHERE CollectionNo=", txtCollectionNo.Value(), u" AND MemberNo=",
+            txtMemberNo.Value(), u" AND CollectionDate=", Day()));
     if (!row.Eof()) {
         ShowRow(row);
         if (!isSeen && (GoingTo() == &cmdModify || GoingTo() == &cmdDelete))
@@ -253,8 +253,8 @@ void frmDailyCollection::ShowRow(const Recordset& row)
     cmbCollectionTime.SetText(row[u"CollectionTime"].Text());
     txtCollectionNo.SetText(row[u"CollectionNo"].Text());
     txtAnimal.SetText(row[u"Animal"].Text());
-    for (const auto& [field, column] : {std::pair(&txtLiters, u"Liters"), std::pair(&txtFat, u"Fat"),
-             std::pair(&txtRate, u"Rate"), std::pair(&txtAmount, u"Amount")}) {
+    for (const auto& [field, column] : std::initializer_list<std::pair<NumberField*, QStringView>>{
+             {&txtLiters, u"Liters"}, {&txtFat, u"Fat"}, {&txtRate, u"Rate"}, {&txtAmount, u"Amount"}}) {
         field->SetText(row[column].Text());
         MendNumber(*field);
     }
@@ -275,35 +275,33 @@ void frmDailyCollection::txtLiters_LostFocus()
 {
     if (txtAnimal.IsEmpty())
         txtAnimal.SetFocus(Wanted::Animal());
-    else if (Value(txtLiters) <= 0)
+    else if (txtLiters.Value() <= 0)
         txtLiters.SetFocus(LitersWanted());
 }
 
 void frmDailyCollection::txtFat_LostFocus()
 {
-    for (Field* field : {&txtLiters, &txtFat}) {
-        if (IsNumeric(field->Text()) && Value(*field) > 0)
+    for (NumberField* field : std::initializer_list<NumberField*>{&txtLiters, &txtFat}) {
+        if (field->HoldsNumber() && field->Value() > 0)
             continue;
         field->SetText(QStringLiteral("0"));
         field->SetFocus(field == &txtFat ? FatWanted() : LitersWanted());
         return;
     }
-    const double fat = Value(txtFat);
-    txtFat.SetText(Format(fat, FatFormat));
-    if (fat > HighestFat) {
+    if (txtFat.Reformat() > HighestFat) {
         txtFat.SetFocus(FatWanted());
         return;
     }
     if (!MasKCollectionDate.InsistOnDate(Wanted::Date()))
         return;
-    const FatRate found = LookupFatRate(MasKCollectionDate.Date(), Value(txtFat), txtAnimal.Text());
+    const FatRate found = LookupFatRate(MasKCollectionDate.Date(), txtFat.Value(), txtAnimal.Text());
     if (found.outcome == FatRate::Outcome::NoChart) {
         gAppState.gCallerTag = QStringLiteral("1");
         txtFat.SetFocus(WithWayOut(u"फॅट दराचा तक्ता नाही"));
         return;
     }
     if (found.outcome == FatRate::Outcome::Priced)
-        txtRate.SetText(Format(found.rate, MoneyFormat));
+        txtRate.Show(found.rate);
     ShowAmount();
     if (!IsSteppingBack())
         cmdAdd.SetFocus(); // a new row is done; a change goes on to the rate
@@ -311,7 +309,7 @@ void frmDailyCollection::txtFat_LostFocus()
 
 void frmDailyCollection::ShowAmount()
 {
-    txtAmount.SetText(Format(Value(txtLiters) * Value(txtRate), MoneyFormat));
+    txtAmount.Show(txtLiters.Value() * txtRate.Value());
     PricedFor = Priced();
 }
 

@@ -6,6 +6,7 @@
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
 #include "platform/forms/Screen.h"
+#include "society/Fields.h"
 
 // The deliveries of one member, day after day: for keying a paper register, and for mending a row. It writes
 // the books and nothing beside them: no slip, no balance and no copy of the shift. The captions of the
@@ -20,24 +21,19 @@ private:
     Label lblAcYear{this, "lblAcYear"};
     Label lblGuide{this, "lblGuide"};
 
-    NumberField txtMemberNo{
-        this, "txtMemberNo", NumberField::Digits::Whole, &frmDailyCollection::txtMemberNo_LostFocus};
+    WholeField txtMemberNo{this, "txtMemberNo", &frmDailyCollection::txtMemberNo_LostFocus};
     NameCombo cmbMemberName{this, "cmbMemberName", &frmDailyCollection::cmbMemberName_LostFocus};
     DateField MasKCollectionDate{
         this, "MasKCollectionDate", &frmDailyCollection::MasKCollectionDate_LostFocus};
     NameCombo cmbCollectionTime{this, "cmbCollectionTime", &frmDailyCollection::cmbCollectionTime_LostFocus};
-    NumberField txtCollectionNo{
-        this, "txtCollectionNo", NumberField::Digits::Whole, &frmDailyCollection::txtCollectionNo_LostFocus};
+    WholeField txtCollectionNo{this, "txtCollectionNo", &frmDailyCollection::txtCollectionNo_LostFocus};
     ChoiceField txtAnimal{this, "txtAnimal",
         {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}},
         &frmDailyCollection::txtAnimal_LostFocus};
-    NumberField txtLiters{
-        this, "txtLiters", NumberField::Digits::Decimals, &frmDailyCollection::txtLiters_LostFocus};
-    NumberField txtFat{this, "txtFat", NumberField::Digits::Decimals, &frmDailyCollection::txtFat_LostFocus};
-    NumberField txtRate{
-        this, "txtRate", NumberField::Digits::Decimals, &frmDailyCollection::txtRate_LostFocus};
-    NumberField txtAmount{
-        this, "txtAmount", NumberField::Digits::Decimals, &frmDailyCollection::txtAmount_LostFocus};
+    LitresField txtLiters{this, "txtLiters", &frmDailyCollection::txtLiters_LostFocus};
+    FatField txtFat{this, "txtFat", &frmDailyCollection::txtFat_LostFocus};
+    RateField txtRate{this, "txtRate", &frmDailyCollection::txtRate_LostFocus};
+    MoneyField txtAmount{this, "txtAmount", &frmDailyCollection::txtAmount_LostFocus};
     Button cmdAdd{this, "cmdAdd", Shivaji(u"&navaIna"), &frmDailyCollection::cmdAdd_Click};
     Button cmdModify{this, "cmdModify", Shivaji(u"ba&dla"), &frmDailyCollection::cmdModify_Click};
     Button cmdDelete{this, "cmdDelete", Shivaji(u"&KaoDNao..."), &frmDailyCollection::cmdDelete_Click};

@@ -64,7 +64,7 @@ bool frmMilkCollections::HoldPeriod()
 
 void frmMilkCollections::txtAccountId_LostFocus()
 {
-    const Recordset member(gCn, Sql(u"Select * from MembersMaster Where MemberNo=", Value(txtAccountId)));
+    const Recordset member(gCn, Sql(u"Select * from MembersMaster Where MemberNo=", txtAccountId.Value()));
     if (!member.Eof())
         ShowAccount(member);
 }
@@ -78,7 +78,7 @@ void frmMilkCollections::cmbAccountName_GotFocus()
 
 void frmMilkCollections::cmbAccountName_LostFocus()
 {
-    if (IsNameOf(cmbAccountName, Value(txtAccountId)))
+    if (IsNameOf(cmbAccountName, txtAccountId.Value()))
         return;
     Recordset member(
         gCn, Sql(u"Select * from MembersMaster Where MemberName='", cmbAccountName.Text(), u"'"));
@@ -100,7 +100,7 @@ void frmMilkCollections::ShowAccount(const Recordset& member)
 QString frmMilkCollections::InPeriod() const
 {
     return Sql(u" from MilkCollections where CollectionDate>=", SqlDay(maskFromDate.Date()),
-        u" and CollectionDate<=", SqlDay(maskToDate.Date()), u" And MemberNo = ", Value(txtAccountId),
+        u" and CollectionDate<=", SqlDay(maskToDate.Date()), u" And MemberNo = ", txtAccountId.Value(),
         u" and companyid=", gAppState.gCompanyId);
 }
 
@@ -174,7 +174,7 @@ void frmMilkCollections::MemberAverageFat()
 // The statement of what lies in the copy.
 void frmMilkCollections::Command1_Click()
 {
-    if (Value(txtAccountId) == 0) {
+    if (txtAccountId.Value() == 0) {
         txtAccountId.SetFocus(Plain(u"मेम्बर नंबर टाका"));
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "collection/CounterReport.h"
 #include "collection/CounterScreen.h"
+#include "society/Fields.h"
 
 class QStackedLayout;
 
@@ -37,8 +38,7 @@ private:
 
     DateField maskFromDate{this, "maskFromDate", &frmMilkCollections::maskFromDate_LostFocus};
     DateField maskToDate{this, "maskToDate", &frmMilkCollections::maskToDate_LostFocus};
-    NumberField txtAccountId{
-        this, "txtAccountId", NumberField::Digits::Whole, &frmMilkCollections::txtAccountId_LostFocus};
+    WholeField txtAccountId{this, "txtAccountId", &frmMilkCollections::txtAccountId_LostFocus};
     NameCombo cmbAccountName{this, "cmbAccountName", &frmMilkCollections::cmbAccountName_LostFocus};
     Button cmdGoOn{this, "cmdGoOn", Plain(u">>"), &frmMilkCollections::cmdGoOn_Click};
     Button Command1{this, "Command1", Shivaji(u"&irpaoT-"), &frmMilkCollections::Command1_Click};

@@ -110,7 +110,7 @@ void frmSearchCollections::TimerStart_Timer()
     maskDate.SetDate(shift.date);
     txtTime.SetText(shift.time);
     txtMemberNo.SetText(counter->MemberNo());
-    ComboMemberName.SetEntry({counter->MemberName(), ShortestDecimal(Value(txtMemberNo))});
+    ComboMemberName.SetEntry({counter->MemberName(), ShortestDecimal(txtMemberNo.Value())});
     EnableMember(true);
     ComboMemberName.SetFocus();
 }
@@ -151,7 +151,7 @@ Shift frmSearchCollections::TheShift() const
 
 void frmSearchCollections::txtMemberNo_LostFocus()
 {
-    const double number = Value(txtMemberNo);
+    const double number = txtMemberNo.Value();
     const Recordset member(gCn, Sql(u"SELECT * FROM MembersMaster where MemberNo=", number));
     if (number == 0 || member.Eof())
         txtMemberNo.Clear();
@@ -175,7 +175,7 @@ void frmSearchCollections::ComboMemberName_LostFocus()
         ComboMemberName.SetFocus(Wanted::Name());
         return;
     }
-    if (const Recordset member = MemberOfName(ComboMemberName, Value(txtMemberNo)); !member.Eof()) {
+    if (const Recordset member = MemberOfName(ComboMemberName, txtMemberNo.Value()); !member.Eof()) {
         txtMemberNo.SetText(member[u"MemberNo"].Text());
         ShowMember(ComboMemberName, member);
         Search();
@@ -206,7 +206,7 @@ void frmSearchCollections::Search()
     gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
     gCn.Execute(
         Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where cstr(CollectionDate)=",
-            shift.Day(), u" and CollectionTime='", shift.time, u"' and MemberNo=", Value(txtMemberNo)));
+            shift.Day(), u" and CollectionTime='", shift.time, u"' and MemberNo=", txtMemberNo.Value()));
     TidyShiftCopy();
     finding.Commit();
     DataGridInwards.Refresh();
@@ -259,7 +259,7 @@ bool frmSearchCollections::StageReprint(double number)
     gCn.Execute(Sql(u"insert into MilkReceipt(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
                     u"MemberName,Animal,Liters,Fat,Rate,Amount) values(",
         gAppState.gCompanyId, u",'", maskDate.Text(), u"','", txtTime.Text(), u"',", number, u",",
-        Value(txtMemberNo), u",'", ComboMemberName.Text(), u"','", row[u"Animal"].Text(), u"',",
+        txtMemberNo.Value(), u",'", ComboMemberName.Text(), u"','", row[u"Animal"].Text(), u"',",
         row[u"Liters"].Number(), u",", row[u"Fat"].Number(), u",", row[u"Rate"].Number(), u",",
         row[u"Amount"].Number(), u")"));
     return true;

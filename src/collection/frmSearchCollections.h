@@ -7,6 +7,7 @@
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
 #include "platform/forms/Screen.h"
+#include "society/Fields.h"
 
 // Finds a member's deliveries in a shift and prints the slip of one of them again. A search puts the copy of
 // the shift aside: what was found lies there instead, and stays for the counter that has opened this screen.
@@ -26,8 +27,7 @@ private:
     ChoiceField txtTime{this, "txtTime",
         {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}},
         &frmSearchCollections::txtTime_LostFocus};
-    NumberField txtMemberNo{
-        this, "txtMemberNo", NumberField::Digits::Whole, &frmSearchCollections::txtMemberNo_LostFocus};
+    WholeField txtMemberNo{this, "txtMemberNo", &frmSearchCollections::txtMemberNo_LostFocus};
     NameCombo ComboMemberName{this, "ComboMemberName", &frmSearchCollections::ComboMemberName_LostFocus};
     DataGrid DataGridInwards;
     Button cmdGo{this, "cmdGo", Plain(u"&Print"), &frmSearchCollections::cmdGo_Click};

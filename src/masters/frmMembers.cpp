@@ -104,12 +104,12 @@ void frmMembers::ClearFields()
     for (Field* field : std::initializer_list<Field*>{&txtMemberNo, &ComboMemberName, &txtAddress, &ComboCity,
              &txtAnimal, &txtPaymentType, &ComboBankName, &txtBankAccountNo, &txtClosingDorC})
         field->Clear();
-    for (NumberField* money : {&txtOpeningBalance, &txtClosingBalance, &txtOpeningUchal, &txtClosingUchal,
+    for (MoneyField* money : {&txtOpeningBalance, &txtClosingBalance, &txtOpeningUchal, &txtClosingUchal,
              &txtCowOpeningThev, &txtCowClosingThev, &txtBuffOpeningThev, &txtBuffClosingThev})
-        money->SetText(QStringLiteral("0.00"));
-    for (NumberField* litres :
+        money->Show(0);
+    for (LitresField* litres :
         {&txtCowOpeningLits, &txtCowClosingLits, &txtBuffOpeningLits, &txtBuffClosingLits})
-        litres->SetText(QStringLiteral("0.000"));
+        litres->Show(0);
     txtOpeningDorC.SetText(Direction::Payable.toString());
     OldName.clear();
     CowOpeningLoaded = CowClosingLoaded = BuffOpeningLoaded = BuffClosingLoaded = 0;
@@ -128,7 +128,7 @@ void frmMembers::StartNew()
 {
     const int next = NextMemberNo();
     EnterMode(cmdNew, Shivaji(u"&saovh"), ModeTitles::New);
-    txtMemberNo.SetText(QString::number(next));
+    txtMemberNo.Show(next);
     txtMemberNo.SetFocus();
 }
 

@@ -21,14 +21,6 @@ Recordset MemberOfNumber(double number)
     return members;
 }
 
-// Writes the number of a field back in its pattern, and returns it.
-double Reformat(NumberField& field, QStringView pattern)
-{
-    const double value = Val(field.Text());
-    field.SetText(Format(value, pattern));
-    return value;
-}
-
 }
 
 void frmMembers::Refuse(Field& field, QStringView message)
@@ -45,7 +37,7 @@ void frmMembers::Hold(Field& field)
 
 void frmMembers::txtMemberNo_LostFocus()
 {
-    if (IsNew() && !IsNumeric(txtMemberNo.Text())) {
+    if (IsNew() && !txtMemberNo.HoldsNumber()) {
         Refuse(txtMemberNo, u"maombar naMbar vyavaisqat Ta[-p kra");
         return;
     }
@@ -130,9 +122,9 @@ void frmMembers::EnableFiguresOfAnimal()
 {
     const bool cow = txtAnimal.Text() != u"mhOsa";
     const bool buffalo = txtAnimal.Text() != u"gaaya";
-    for (NumberField* field : {&txtCowOpeningLits, &txtCowOpeningThev})
+    for (NumberField* field : std::initializer_list<NumberField*>{&txtCowOpeningLits, &txtCowOpeningThev})
         field->SetEnabled(cow);
-    for (NumberField* field : {&txtBuffOpeningLits, &txtBuffOpeningThev})
+    for (NumberField* field : std::initializer_list<NumberField*>{&txtBuffOpeningLits, &txtBuffOpeningThev})
         field->SetEnabled(buffalo);
 }
 
@@ -170,7 +162,7 @@ void frmMembers::txtBankAccountNo_LostFocus()
 
 void frmMembers::txtOpeningBalance_LostFocus()
 {
-    Reformat(txtOpeningBalance, u"#######0.00");
+    txtOpeningBalance.Reformat();
     if (IsAccountNoMissing())
         Hold(txtBankAccountNo);
 }
@@ -185,44 +177,41 @@ void frmMembers::txtOpeningDorC_LostFocus()
 void frmMembers::ComputeClosingBalance()
 {
     const MemberClosing::Balance closing =
-        MemberClosing::BalanceOf(MemberNo(), Val(txtOpeningBalance.Text()), txtOpeningDorC.Text());
-    txtClosingBalance.SetText(Format(closing.amount, u"#####0.00"));
+        MemberClosing::BalanceOf(MemberNo(), txtOpeningBalance.Value(), txtOpeningDorC.Text());
+    txtClosingBalance.Show(closing.amount);
     txtClosingDorC.SetText(closing.word.toString());
 }
 
 void frmMembers::txtCowOpeningLits_LostFocus()
 {
-    const double opening = Reformat(txtCowOpeningLits, u"#####0.000");
-    txtCowClosingLits.SetText(Format(std::abs(CowClosingLoaded) - CowOpeningLoaded + opening, u"#####0.000"));
+    const double opening = txtCowOpeningLits.Reformat();
+    txtCowClosingLits.Show(std::abs(CowClosingLoaded) - CowOpeningLoaded + opening);
 }
 
 void frmMembers::txtBuffOpeningLits_LostFocus()
 {
-    const double opening = Reformat(txtBuffOpeningLits, u"#####0.000");
-    txtBuffClosingLits.SetText(
-        Format(std::abs(BuffClosingLoaded) - BuffOpeningLoaded + opening, u"#####0.000"));
+    const double opening = txtBuffOpeningLits.Reformat();
+    txtBuffClosingLits.Show(std::abs(BuffClosingLoaded) - BuffOpeningLoaded + opening);
 }
 
 void frmMembers::txtOpeningUchal_LostFocus()
 {
-    const double opening = Reformat(txtOpeningUchal, u"#####0.00");
-    txtClosingUchal.SetText(Format(MemberClosing::UchalOf(MemberNo(), opening), u"########0.00"));
+    const double opening = txtOpeningUchal.Reformat();
+    txtClosingUchal.Show(MemberClosing::UchalOf(MemberNo(), opening));
 }
 
 void frmMembers::txtCowOpeningThev_LostFocus()
 {
-    const double opening = Reformat(txtCowOpeningThev, u"#####0.00");
-    txtCowClosingThev.SetText(
-        Format(MemberClosing::ThevOf(MemberNo(), opening, u"gaaya zova"), u"######0.00"));
+    const double opening = txtCowOpeningThev.Reformat();
+    txtCowClosingThev.Show(MemberClosing::ThevOf(MemberNo(), opening, u"gaaya zova"));
     if (!txtBuffOpeningThev.Enabled())
         ToSaveButton();
 }
 
 void frmMembers::txtBuffOpeningThev_LostFocus()
 {
-    const double opening = Reformat(txtBuffOpeningThev, u"#####0.00");
-    txtBuffClosingThev.SetText(
-        Format(MemberClosing::ThevOf(MemberNo(), opening, u"mhOsa zova"), u"######0.00"));
+    const double opening = txtBuffOpeningThev.Reformat();
+    txtBuffClosingThev.Show(MemberClosing::ThevOf(MemberNo(), opening, u"mhOsa zova"));
     ToSaveButton();
 }
 

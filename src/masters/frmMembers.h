@@ -4,6 +4,7 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/NameCombo.h"
 #include "platform/forms/Screen.h"
+#include "society/Fields.h"
 
 #include <vector>
 
@@ -26,8 +27,7 @@ private:
     Label lblBankAccountNo{this, "lblBankAccountNo", Shivaji(u"ba^nk Kato naMbar")};
     Label lblGuide{this, "lblGuide"};
 
-    NumberField txtMemberNo{
-        this, "txtMemberNo", NumberField::Digits::Whole, &frmMembers::txtMemberNo_LostFocus};
+    WholeField txtMemberNo{this, "txtMemberNo", &frmMembers::txtMemberNo_LostFocus};
     NameCombo ComboMemberName{this, "ComboMemberName", &frmMembers::ComboMemberName_LostFocus};
     TextField txtAddress{this, "txtAddress"};
     NameCombo ComboCity{this, "ComboCity", &frmMembers::ComboCity_LostFocus};
@@ -35,28 +35,22 @@ private:
     ChoiceField txtPaymentType;
     NameCombo ComboBankName{this, "ComboBankName", &frmMembers::ComboBankName_LostFocus};
     TextField txtBankAccountNo{this, "txtBankAccountNo", &frmMembers::txtBankAccountNo_LostFocus};
-    NumberField txtOpeningBalance{
-        this, "txtOpeningBalance", NumberField::Digits::Decimals, &frmMembers::txtOpeningBalance_LostFocus};
+    MoneyField txtOpeningBalance{this, "txtOpeningBalance", &frmMembers::txtOpeningBalance_LostFocus};
     ChoiceField txtOpeningDorC;
-    NumberField txtCowOpeningLits{
-        this, "txtCowOpeningLits", NumberField::Digits::Decimals, &frmMembers::txtCowOpeningLits_LostFocus};
-    NumberField txtBuffOpeningLits{
-        this, "txtBuffOpeningLits", NumberField::Digits::Decimals, &frmMembers::txtBuffOpeningLits_LostFocus};
-    NumberField txtOpeningUchal{
-        this, "txtOpeningUchal", NumberField::Digits::Decimals, &frmMembers::txtOpeningUchal_LostFocus};
-    NumberField txtCowOpeningThev{
-        this, "txtCowOpeningThev", NumberField::Digits::Decimals, &frmMembers::txtCowOpeningThev_LostFocus};
-    NumberField txtBuffOpeningThev{
-        this, "txtBuffOpeningThev", NumberField::Digits::Decimals, &frmMembers::txtBuffOpeningThev_LostFocus};
+    LitresField txtCowOpeningLits{this, "txtCowOpeningLits", &frmMembers::txtCowOpeningLits_LostFocus};
+    LitresField txtBuffOpeningLits{this, "txtBuffOpeningLits", &frmMembers::txtBuffOpeningLits_LostFocus};
+    MoneyField txtOpeningUchal{this, "txtOpeningUchal", &frmMembers::txtOpeningUchal_LostFocus};
+    MoneyField txtCowOpeningThev{this, "txtCowOpeningThev", &frmMembers::txtCowOpeningThev_LostFocus};
+    MoneyField txtBuffOpeningThev{this, "txtBuffOpeningThev", &frmMembers::txtBuffOpeningThev_LostFocus};
 
     // Shown, never entered.
-    NumberField txtClosingBalance{this, "txtClosingBalance", NumberField::Digits::Decimals};
+    MoneyField txtClosingBalance{this, "txtClosingBalance"};
     TextField txtClosingDorC{this, "txtClosingDorC"};
-    NumberField txtCowClosingLits{this, "txtCowClosingLits", NumberField::Digits::Decimals};
-    NumberField txtBuffClosingLits{this, "txtBuffClosingLits", NumberField::Digits::Decimals};
-    NumberField txtClosingUchal{this, "txtClosingUchal", NumberField::Digits::Decimals};
-    NumberField txtCowClosingThev{this, "txtCowClosingThev", NumberField::Digits::Decimals};
-    NumberField txtBuffClosingThev{this, "txtBuffClosingThev", NumberField::Digits::Decimals};
+    LitresField txtCowClosingLits{this, "txtCowClosingLits"};
+    LitresField txtBuffClosingLits{this, "txtBuffClosingLits"};
+    MoneyField txtClosingUchal{this, "txtClosingUchal"};
+    MoneyField txtCowClosingThev{this, "txtCowClosingThev"};
+    MoneyField txtBuffClosingThev{this, "txtBuffClosingThev"};
 
     Button cmdNew{this, "cmdNew", Shivaji(u"&navaIna"), &frmMembers::cmdNew_Click};
     Button cmdModify{this, "cmdModify", Shivaji(u"ba&dla"), &frmMembers::cmdModify_Click};

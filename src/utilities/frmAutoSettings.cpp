@@ -124,11 +124,9 @@ bool frmAutoSettings::CheckChoice(ChoiceCombo& combo)
     return false;
 }
 
-bool frmAutoSettings::CheckNotZero(NumberField& field, QStringView pattern)
+bool frmAutoSettings::CheckNotZero(NumberField& field)
 {
-    const double value = Val(field.Text());
-    field.SetText(Format(value, pattern));
-    if (value != 0)
+    if (field.Reformat() != 0)
         return true;
     field.SetFocus(Plain(u"0 पेक्षा जास्त टाका    Alt+R : रद्द"));
     return false;
@@ -136,8 +134,7 @@ bool frmAutoSettings::CheckNotZero(NumberField& field, QStringView pattern)
 
 bool frmAutoSettings::CheckKapat(NumberField& field)
 {
-    const double value = Val(field.Text());
-    field.SetText(Format(value, u"######0.00"));
+    const double value = field.Reformat();
     if (value > 0 || (value == 0 && ComboPaymentDuration.IsEmpty()))
         return true;
     field.SetFocus(Plain(u"0 पेक्षा जास्त टाका    Alt+R : रद्द"));
@@ -164,13 +161,13 @@ void frmAutoSettings::ComboPrintStatus_LostFocus()
 void frmAutoSettings::txtCowLimit_LostFocus()
 {
     if (!ComboPrintStatus.IsEmpty())
-        CheckNotZero(txtCowLimit, u"######0.000");
+        CheckNotZero(txtCowLimit);
 }
 
 void frmAutoSettings::txtBuffLimit_LostFocus()
 {
     if (!txtCowLimit.IsEmpty())
-        CheckNotZero(txtBuffLimit, u"######0.000");
+        CheckNotZero(txtBuffLimit);
 }
 
 void frmAutoSettings::ComboReceipt_LostFocus()
@@ -218,18 +215,18 @@ void frmAutoSettings::cmbFatRateType_LostFocus()
 
 void frmAutoSettings::txtCowSaleRate_LostFocus()
 {
-    CheckNotZero(txtCowSaleRate, u"#####0.00");
+    CheckNotZero(txtCowSaleRate);
 }
 
 void frmAutoSettings::txtBuffSaleRate_LostFocus()
 {
     if (!txtCowSaleRate.IsEmpty())
-        CheckNotZero(txtBuffSaleRate, u"######0.00");
+        CheckNotZero(txtBuffSaleRate);
 }
 
 void frmAutoSettings::txtMixSaleRate_LostFocus()
 {
-    if (!txtBuffSaleRate.IsEmpty() && !CheckNotZero(txtMixSaleRate, u"#####0.00"))
+    if (!txtBuffSaleRate.IsEmpty() && !CheckNotZero(txtMixSaleRate))
         return;
     if (!LeadsOn())
         return;

@@ -8,6 +8,7 @@
 #include "platform/forms/Screen.h"
 #include "platform/forms/TabPages.h"
 #include "platform/report/ReportControl.h"
+#include "society/Fields.h"
 
 #include <array>
 #include <utility>
@@ -37,18 +38,16 @@ private:
     ChoiceCombo ComboAutoLiters;
     ChoiceCombo ComboAutoFat;
     ChoiceCombo ComboPrintStatus;
-    NumberField txtCowLimit{
-        this, "txtCowLimit", NumberField::Digits::Decimals, &frmAutoSettings::txtCowLimit_LostFocus};
-    NumberField txtBuffLimit{
-        this, "txtBuffLimit", NumberField::Digits::Decimals, &frmAutoSettings::txtBuffLimit_LostFocus};
+    LitresField txtCowLimit{this, "txtCowLimit", &frmAutoSettings::txtCowLimit_LostFocus};
+    LitresField txtBuffLimit{this, "txtBuffLimit", &frmAutoSettings::txtBuffLimit_LostFocus};
     ChoiceCombo ComboReceipt;
     CheckBox CheckRepeatCol{this, "CheckRepeatCol",
         Shivaji(u"eka maombarcaI eka vaoLI ekapoxaa jaast vaoLa dUQa saMklana naaoMd kÉ VayacaI ka Æ")};
 
     // Payment
     ChoiceCombo ComboPaymentDuration;
-    NumberField txtCow{this, "txtCow", NumberField::Digits::Decimals, &frmAutoSettings::txtCow_LostFocus};
-    NumberField txtBuff{this, "txtBuff", NumberField::Digits::Decimals, &frmAutoSettings::txtBuff_LostFocus};
+    MoneyField txtCow{this, "txtCow", &frmAutoSettings::txtCow_LostFocus};
+    MoneyField txtBuff{this, "txtBuff", &frmAutoSettings::txtBuff_LostFocus};
     ChoiceCombo cmbFatRateType{this, "cmbFatRateType", {}, &frmAutoSettings::cmbFatRateType_LostFocus};
     CheckBox CheckCNP{this, "CheckCNP", Shivaji(u"dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kravaI ka Æ"),
         &frmAutoSettings::CheckCNP_Click};
@@ -62,12 +61,9 @@ private:
     OptionGroup DecimalPayment{{&OptionAddThev, &OptionPayable, &OptionPayIt, &OptionDiscount}};
 
     // Milk sale
-    NumberField txtCowSaleRate{
-        this, "txtCowSaleRate", NumberField::Digits::Decimals, &frmAutoSettings::txtCowSaleRate_LostFocus};
-    NumberField txtBuffSaleRate{
-        this, "txtBuffSaleRate", NumberField::Digits::Decimals, &frmAutoSettings::txtBuffSaleRate_LostFocus};
-    NumberField txtMixSaleRate{
-        this, "txtMixSaleRate", NumberField::Digits::Decimals, &frmAutoSettings::txtMixSaleRate_LostFocus};
+    RateField txtCowSaleRate{this, "txtCowSaleRate", &frmAutoSettings::txtCowSaleRate_LostFocus};
+    RateField txtBuffSaleRate{this, "txtBuffSaleRate", &frmAutoSettings::txtBuffSaleRate_LostFocus};
+    RateField txtMixSaleRate{this, "txtMixSaleRate", &frmAutoSettings::txtMixSaleRate_LostFocus};
     ChoiceCombo ComboMSRPrintStatus;
 
     Button CmdSave{this, "CmdSave", Shivaji(u"&saovh"), &frmAutoSettings::CmdSave_Click};
@@ -117,7 +113,7 @@ private:
 
     // These return whether the field may be left.
     bool CheckChoice(ChoiceCombo& combo);
-    bool CheckNotZero(NumberField& field, QStringView pattern);
+    bool CheckNotZero(NumberField& field);
     bool CheckKapat(NumberField& field);
 
     // The row behind the screen

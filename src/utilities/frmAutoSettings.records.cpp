@@ -14,9 +14,12 @@ QString SettingsQuery()
 }
 
 // A column that holds nothing leaves its field empty.
-QString Figure(const FieldValue& value, QStringView pattern)
+void ShowFigure(NumberField& field, const FieldValue& value)
 {
-    return value.Text().isEmpty() ? QString() : Format(value.Number(), pattern);
+    if (value.Text().isEmpty())
+        field.Clear();
+    else
+        field.Show(value.Number());
 }
 
 QStringView WordOf(const CheckBox& box, QStringView unchecked, QStringView checked)
@@ -41,14 +44,14 @@ void frmAutoSettings::ShowSettings(const Recordset& settings)
     ComboAutoLiters.SetText(settings[u"AutoLiters"].Text());
     ComboAutoFat.SetText(settings[u"AutoFat"].Text());
     ComboPrintStatus.SetText(settings[u"PrintStatus"].Text());
-    txtCowLimit.SetText(Figure(settings[u"CanLimitCow"], u"######0.000"));
-    txtBuffLimit.SetText(Figure(settings[u"CanLimitBuff"], u"#####0.000"));
+    ShowFigure(txtCowLimit, settings[u"CanLimitCow"]);
+    ShowFigure(txtBuffLimit, settings[u"CanLimitBuff"]);
     ComboReceipt.SetText(settings[u"ReceiptType"].Text());
     CheckRepeatCol.SetChecked(settings[u"RepeatCollection"].Text() == u"haoya");
 
     ComboPaymentDuration.SetText(settings[u"PaymentDuration"].Text());
-    txtCow.SetText(Figure(settings[u"ThevKapatCow"], u"#######0.00"));
-    txtBuff.SetText(Figure(settings[u"ThevKapatBuff"], u"#######0.00"));
+    ShowFigure(txtCow, settings[u"ThevKapatCow"]);
+    ShowFigure(txtBuff, settings[u"ThevKapatBuff"]);
     const FieldValue fatRateType = settings[u"FatRatetype"];
     cmbFatRateType.SetText(fatRateType.IsNull() ? ByFat.toString() : fatRateType.Text());
     CheckCNP.SetChecked(settings[u"PurchaseEntry"].Text() == u"Collection");
@@ -58,9 +61,9 @@ void frmAutoSettings::ShowSettings(const Recordset& settings)
         if (settings[u"DecimalPayment"].Text() == word)
             option->Choose();
 
-    txtCowSaleRate.SetText(Figure(settings[u"SalesRateCow"], u"#####0.00"));
-    txtBuffSaleRate.SetText(Figure(settings[u"SalesRateBuff"], u"#####0.00"));
-    txtMixSaleRate.SetText(Figure(settings[u"SalesRateMix"], u"#######0.00"));
+    ShowFigure(txtCowSaleRate, settings[u"SalesRateCow"]);
+    ShowFigure(txtBuffSaleRate, settings[u"SalesRateBuff"]);
+    ShowFigure(txtMixSaleRate, settings[u"SalesRateMix"]);
     ComboMSRPrintStatus.SetText(settings[u"MSRPrintStatus"].Text());
 }
 

@@ -1,5 +1,6 @@
 #include "platform/forms/Field.h"
 
+#include "platform/text/Numbers.h"
 #include "platform/text/Shivaji01.h"
 
 #include <QClipboard>
@@ -127,6 +128,34 @@ NumberField::NumberField(Screen* screen, const char* name, Digits digits, const 
         if (TextChanged)
             RunEvent(TextChanged);
     });
+}
+
+NumberField::NumberField(Screen* screen, const char* name, QStringView pattern, const Handler& lostFocus)
+    : NumberField(screen, name, Digits::Decimals, lostFocus)
+{
+    SetPattern(pattern);
+}
+
+double NumberField::Value() const
+{
+    return Val(Text());
+}
+
+bool NumberField::HoldsNumber() const
+{
+    return IsNumeric(Text());
+}
+
+void NumberField::Show(double value)
+{
+    SetText(m_pattern.isEmpty() ? ShortestDecimal(value) : Format(value, m_pattern));
+}
+
+double NumberField::Reformat()
+{
+    const double value = Value();
+    Show(value);
+    return value;
 }
 
 QString NumberField::Text() const

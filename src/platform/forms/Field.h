@@ -48,14 +48,33 @@ private:
 };
 
 // A number as the clerk types it: digits, and where it has decimals a point. All other keys are dropped.
-class NumberField final : public Field {
+class NumberField : public Field {
 public:
     enum class Digits { Whole, Decimals };
 
+    // With a pattern of Format, such as u"#####0.000", in which the field shows its number. The # before the
+    // point set no limit.
+    NumberField(Screen* screen, const char* name, QStringView pattern, const Handler& lostFocus = {});
+
+    // Without one: it shows a number in its shortest form.
     NumberField(Screen* screen, const char* name, Digits digits, const Handler& lostFocus = {});
 
     QString Text() const override;
     void SetText(const QString& text) override;
+
+    void SetPattern(QStringView pattern) { m_pattern = pattern.toString(); }
+
+    // The number that the text begins with; 0 if it begins with none.
+    double Value() const;
+
+    // Whether the text is a number and nothing else.
+    bool HoldsNumber() const;
+
+    // Shows a number in the pattern.
+    void Show(double value);
+
+    // Writes what was typed in the pattern. Returns the number as it was typed.
+    double Reformat();
 
 protected:
     bool KeyPress(const QKeyEvent& key) override;
@@ -63,6 +82,16 @@ protected:
 
 private:
     Digits m_digits;
+    QString m_pattern;
+};
+
+// A number without decimals, such as that of a member.
+class WholeField final : public NumberField {
+public:
+    WholeField(Screen* screen, const char* name, const Handler& lostFocus = {})
+        : NumberField(screen, name, Digits::Whole, lostFocus)
+    {
+    }
 };
 
 // A field with a few fixed words. A digit puts its word in place; Backspace empties the field unless it is
