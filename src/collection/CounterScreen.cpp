@@ -34,7 +34,7 @@ std::vector<DataGrid::Column> CounterScreen::InwardsColumns(const CounterKind& k
 }
 
 CounterScreen::CounterScreen(const CounterKind& kind)
-    : Screen(kind.screen)
+    : SocietyScreen(kind.screen, Shivaji(kind.title), {.guide = "lblFooter", .company = kind.company})
     , DataGridInwards(this, "DataGridInwards", InwardsColumns(kind))
     , m_kind(kind)
 {

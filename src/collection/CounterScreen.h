@@ -8,8 +8,8 @@
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
-#include "platform/forms/Screen.h"
 #include "society/Fields.h"
+#include "society/SocietyScreen.h"
 
 #include <array>
 #include <utility>
@@ -18,7 +18,7 @@ class Recordset;
 
 // A counter: one line of fields for one can of milk, walked with Enter; the last of them saves it. Below it
 // stand the deliveries of the shift and their totals, as the copy of the shift has them.
-class CounterScreen : public Screen {
+class CounterScreen : public SocietyScreen {
 public:
     // Litres of the new rows saved since the screen was opened. They are only added to.
     double CowLitersTaken = 0;
@@ -38,9 +38,7 @@ protected:
     // The columns of the list of the shift.
     static std::vector<DataGrid::Column> InwardsColumns(const CounterKind& kind);
 
-    Label lblTitle{this, "lblTitle"};
     Label lblActualCollectionTime{this, "lblActualCollectionTime"};
-    Label lblFooter{this, "lblFooter"};
     Label lblF9{this, "lblF9", Plain(u"F9")};
     Label lblSearch{this, "lblSearch"};
     Label lblF7{this, "lblF7", Plain(u"F7")};
@@ -93,9 +91,8 @@ protected:
     void ShowMemberKeys(bool shown);
     void LightMemberKeys();
 
-    // Puts the window together: the band, what stands under the entry line, and the strip of keys are the
-    // counter's own.
-    void LayOut(QWidget* header, QLayout* below, QWidget* keys);
+    // Puts the window together: what stands under the entry line and the strip of keys are the counter's own.
+    void LayOut(QLayout* below, QWidget* keys);
     QWidget* Totals();
 
 private:

@@ -29,20 +29,16 @@ QLayout* Switch(QStringView device, Button& button)
 
 }
 
-void CounterScreen::LayOut(QWidget* header, QLayout* below, QWidget* keys)
+void CounterScreen::LayOut(QLayout* below, QWidget* keys)
 {
     SetColours(QColor(Look::FocusColour), QColor(m_kind.fieldColour));
-    SetTitleLabel(lblTitle);
-    SetTitle(Shivaji(m_kind.title));
-    SetGuideLabel(lblFooter);
 
     auto* body = new QVBoxLayout;
     body->setSpacing(8);
     body->addWidget(ShiftLine());
     body->addWidget(EntryPanel());
     body->addLayout(below, 1);
-    Layout::Stack(*this, header, body, keys);
-    body->setContentsMargins(20, 6, 20, 8);
+    Stack(body, keys, {20, 6, 20, 8});
 }
 
 QWidget* CounterScreen::ShiftLine()
@@ -121,9 +117,8 @@ QWidget* CounterScreen::MemberKeys()
         row->addWidget(action->Widget());
         row->addSpacing(12);
     }
-    Layout::MakeGuide(lblFooter);
-    lblFooter.Widget()->setMinimumHeight(0);
-    row->addWidget(lblFooter.Widget(), 1);
+    lblGuide.Widget()->setMinimumHeight(0);
+    row->addWidget(lblGuide.Widget(), 1);
     ShowMemberKeys(false);
     return line;
 }

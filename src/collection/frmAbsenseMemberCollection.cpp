@@ -2,15 +2,12 @@
 
 #include "collection/Counter.h"
 #include "collection/CounterPieces.h"
-#include "core/menu/CommonKeys.h"
-#include "core/menu/Keys.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "platform/forms/Layout.h"
 #include "platform/forms/ModalStack.h"
-#include "society/CompanyTitle.h"
 #include "society/Queries.h"
 #include "society/Wanted.h"
 
@@ -45,7 +42,8 @@ SqlText Deliverers(const Shift& shift)
 }
 
 frmAbsenseMemberCollection::frmAbsenseMemberCollection()
-    : Screen("frmAbsenseMemberCollection")
+    : SocietyScreen(
+        "frmAbsenseMemberCollection", Shivaji(u"dUQa saMklana nasaNaaro saBaasad"), {.guide = "lblFooter"})
     , DataGridMembers(this, "DataGridMembers", MemberColumns())
 {
     When(MaskDate.GotFocus, &frmAbsenseMemberCollection::MaskDate_GotFocus);
@@ -63,12 +61,6 @@ void frmAbsenseMemberCollection::Load()
     gCn.Execute(QStringLiteral("Delete * From ShortMemberList"));
     emptying.Commit();
     DataGridMembers.Refresh();
-    ShowCompany(lblCompanyTitle, lblAcYear);
-}
-
-bool frmAbsenseMemberCollection::KeyDown(const QKeyEvent& key)
-{
-    return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
 }
 
 void frmAbsenseMemberCollection::MaskDate_GotFocus()
@@ -105,7 +97,7 @@ void frmAbsenseMemberCollection::Command1_Click()
         return;
     ListAbsent({MaskDate.Date(), txtTime.Text()});
     DataGridMembers.Bind(gCn, MembersQuery.toString());
-    lblFooter.SetCaption(
+    lblGuide.SetCaption(
         DataGridMembers.CurrentRow() < 0 ? Plain(u"कालच्या या वेळेतील कोणीही गैरहजर नाही") : Command1.Guide());
 }
 
@@ -128,11 +120,6 @@ void frmAbsenseMemberCollection::ListAbsent(const Shift& today)
 
 void frmAbsenseMemberCollection::LayOut()
 {
-    SetTitleLabel(lblTitle);
-    SetTitle(Shivaji(u"dUQa saMklana nasaNaaro saBaasad"));
-    SetGuideLabel(lblFooter);
-    Layout::MakeGuide(lblFooter);
-
     QWidget* question = Panel();
     auto* row = new QHBoxLayout(question);
     row->setContentsMargins(16, 6, 16, 10);
@@ -148,10 +135,8 @@ void frmAbsenseMemberCollection::LayOut()
     auto* body = new QVBoxLayout;
     body->setSpacing(6);
     body->addWidget(question);
-    body->addWidget(lblFooter.Widget());
+    body->addWidget(lblGuide.Widget());
     body->addWidget(Label28.Widget());
     body->addWidget(List(DataGridMembers, ListRow, Look::Size::Large), 1);
-    Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
-        Layout::KeyStrip(Keys::Of(Name())));
-    body->setContentsMargins(20, 10, 20, 12);
+    Stack(body, {20, 10, 20, 12});
 }

@@ -25,12 +25,13 @@ frmCollectionGate::frmCollectionGate() : CounterScreen(GateCounter)
     chkSerachMode.SetGuide(Keys::Guide(QStringLiteral("CheckBox")));
     Command1.SetCancels(true); // the gate is left whatever stands in its fields
 
-    LayOut(Layout::Header(lblTitle, lblCompanyName), ListAndTotals(), Layout::KeyStrip(Keys::Of(Name())));
+    lblAcYear.SetVisible(false); // there is one line in its band
+    LayOut(ListAndTotals(), Layout::KeyStrip(Keys::Of(Name())));
 }
 
 void frmCollectionGate::Load()
 {
-    lblCompanyName.SetText(gAppState.gCompanyName);
+    lblCompanyTitle.SetText(gAppState.gCompanyName);
     CounterScreen::Load();
 }
 

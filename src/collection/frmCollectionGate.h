@@ -11,8 +11,6 @@ public:
     frmCollectionGate();
 
 private:
-    Label lblCompanyName{this, "lblCompanyName"};
-
     Button cmdLtrOrder{this, "cmdLtrOrder", Ascending()};
     Button cmdFatOrder{this, "cmdFatOrder", Ascending()};
     Button cmdRateOrder{this, "cmdRateOrder", Ascending()};

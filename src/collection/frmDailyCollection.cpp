@@ -1,13 +1,11 @@
 #include "collection/frmDailyCollection.h"
 
 #include "collection/Counter.h"
-#include "core/menu/CommonKeys.h"
 #include "core/menu/Keys.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
-#include "society/CompanyTitle.h"
 #include "society/FieldRoutines.h"
 #include "society/ModeTitles.h"
 #include "society/Queries.h"
@@ -45,7 +43,7 @@ void Write(const QString& statement)
 }
 
 frmDailyCollection::frmDailyCollection()
-    : Screen("frmDailyCollection")
+    : SocietyScreen("frmDailyCollection", Shivaji(IdleTitle))
     , DataGrid1(this, "DataGrid1", ListColumns())
 {
     When(txtMemberNo.TextChanged, &frmDailyCollection::txtMemberNo_Change);
@@ -69,15 +67,9 @@ frmDailyCollection::frmDailyCollection()
 void frmDailyCollection::Load()
 {
     DataGrid1.Bind(gCn, QStringLiteral("SELECT * FROM MilkCollections WHERE CompanyId=0"));
-    ShowCompany(lblCompanyTitle, lblAcYear);
     FillCombo(cmbMemberName, u"MembersMaster", u"MemberName", u"ORDER BY MemberName");
     cmbCollectionTime.SetItems({QStringLiteral("sakaL"), QStringLiteral("saMQyaakaL")});
     ShowIdle();
-}
-
-bool frmDailyCollection::KeyDown(const QKeyEvent& key)
-{
-    return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
 }
 
 void frmDailyCollection::Escape()
@@ -146,11 +138,6 @@ void frmDailyCollection::cmdCancel_Click()
 {
     ShowIdle();
     cmdAdd.SetFocus();
-}
-
-void frmDailyCollection::cmdExit_Click()
-{
-    Close();
 }
 
 // Adding

@@ -5,22 +5,17 @@
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
-#include "platform/forms/Screen.h"
 #include "society/Fields.h"
+#include "society/SocietyScreen.h"
 
 // The deliveries of one member, day after day: for keying a paper register, and for mending a row. It writes
 // the books and nothing beside them: no slip, no balance and no copy of the shift. The captions of the
 // buttons tell what it is doing.
-class frmDailyCollection final : public Screen {
+class frmDailyCollection final : public SocietyScreen {
 public:
     frmDailyCollection();
 
 private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
-    Label lblGuide{this, "lblGuide"};
-
     WholeField txtMemberNo{this, "txtMemberNo", &frmDailyCollection::txtMemberNo_LostFocus};
     NameCombo cmbMemberName{this, "cmbMemberName", &frmDailyCollection::cmbMemberName_LostFocus};
     DateField MasKCollectionDate{
@@ -49,7 +44,6 @@ private:
     QStringList PricedFor; // what the amount that is shown was made for
 
     void Load() override;
-    bool KeyDown(const QKeyEvent& key) override;
     void Escape() override;
 
     bool txtMemberNo_KeyDown(const QKeyEvent& key);
@@ -71,7 +65,6 @@ private:
     void cmdModify_Click();
     void cmdDelete_Click();
     void cmdCancel_Click();
-    void cmdExit_Click();
     bool DataGrid1_KeyDown(const QKeyEvent& key);
     void DataGrid1_Click();
 

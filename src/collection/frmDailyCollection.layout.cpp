@@ -1,7 +1,6 @@
 #include "collection/frmDailyCollection.h"
 
 #include "collection/CounterPieces.h"
-#include "core/menu/Keys.h"
 #include "platform/forms/Layout.h"
 
 #include <QFrame>
@@ -12,10 +11,6 @@ using namespace CounterPieces;
 
 void frmDailyCollection::LayOut()
 {
-    SetTitleLabel(lblTitle);
-    SetGuideLabel(lblGuide);
-    Layout::MakeGuide(lblGuide);
-
     auto* body = new QVBoxLayout;
     body->setSpacing(12);
     body->addLayout(MemberLine());
@@ -24,9 +19,7 @@ void frmDailyCollection::LayOut()
     body->addWidget(lblGuide.Widget());
     body->addWidget(ListFrame(), 1);
     body->addLayout(Layout::ButtonRow({&cmdAdd, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit}));
-    Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
-        Layout::KeyStrip(Keys::Of(Name())));
-    body->setContentsMargins(20, 14, 20, 14);
+    Stack(body, {20, 14, 20, 14});
 }
 
 QLayout* frmDailyCollection::MemberLine()

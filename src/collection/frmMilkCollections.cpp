@@ -4,8 +4,6 @@
 #include "core/menu/Keys.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
-#include "platform/forms/Layout.h"
-#include "society/CompanyTitle.h"
 
 using namespace Counter;
 
@@ -36,7 +34,7 @@ frmMilkCollections::frmMilkCollections()
     cmbAccountName.Accepts = ComboMemberName.Accepts;
     Command2.SetCancels(true); // the frame is left whatever stands in its dates
 
-    LayOut(Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), Views(), KeyStrips());
+    LayOut(Views(), KeyStrips());
     ShowFrame(false);
 }
 
@@ -46,7 +44,6 @@ void frmMilkCollections::Load()
         QStringLiteral("select CompanyId,CollectionNo,CollectionDate,CollectionTime,MemberNo,MemberName,"
                        "Animal,Liters,Fat,Rate,Amount,TranId,ActualCollectionTime from MilkCollectionsTemp "
                        "order by CollectionNo"));
-    ShowCompany(lblCompanyTitle, lblAcYear);
     CounterScreen::Load();
     ShowMemberGrid();
     MemberLitersAndAmounts();

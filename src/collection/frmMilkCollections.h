@@ -13,8 +13,6 @@ public:
     frmMilkCollections();
 
 private:
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
     Label Label28{this, "Label28", Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana")};
 
     Label lblCowLitM{this, "lblCowLitM"};

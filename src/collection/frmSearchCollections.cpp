@@ -3,7 +3,6 @@
 #include "collection/Counter.h"
 #include "collection/CounterScreen.h"
 #include "collection/MilkReceipt.h"
-#include "core/menu/CommonKeys.h"
 #include "core/menu/Keys.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
@@ -12,7 +11,6 @@
 #include "platform/database/Transaction.h"
 #include "platform/forms/ModalStack.h"
 #include "platform/shell/AppFolder.h"
-#include "society/CompanyTitle.h"
 #include "society/Names.h"
 #include "society/Queries.h"
 #include "society/ReceiptLayouts.h"
@@ -58,7 +56,7 @@ QString ReprintTemplate(QStringView receiptType)
 }
 
 frmSearchCollections::frmSearchCollections()
-    : Screen("frmSearchCollections")
+    : SocietyScreen("frmSearchCollections", Shivaji(u"dUQa saMklana pavatI"), {.guide = "lblFooter"})
     , DataGridInwards(this, "DataGridInwards", FoundColumns())
 {
     When(maskDate.GotFocus, &frmSearchCollections::maskDate_GotFocus);
@@ -80,22 +78,10 @@ void frmSearchCollections::Load()
     DataGridInwards.Bind(gCn, QStringLiteral("select * from MilkCollectionsTemp order by CollectionNo desc"));
     EmptyShiftCopy();
     DataGridInwards.Refresh();
-    ShowCompany(lblCompanyTitle, lblAcYear);
     maskDate.SetDate(gAppState.gAppDate);
     LoadMemberNames();
     TimerStart = true;
     After(50, [this] { TimerStart_Timer(); });
-}
-
-bool frmSearchCollections::KeyDown(const QKeyEvent& key)
-{
-    return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
-}
-
-void frmSearchCollections::Escape()
-{
-    EmptyFields();
-    Close();
 }
 
 // From a counter it goes on with the member in the line there. From the menu the clerk is at the date

@@ -6,23 +6,18 @@
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
-#include "platform/forms/Screen.h"
 #include "society/Fields.h"
+#include "society/SocietyScreen.h"
 
 // Finds a member's deliveries in a shift and prints the slip of one of them again. A search puts the copy of
 // the shift aside: what was found lies there instead, and stays for the counter that has opened this screen.
-class frmSearchCollections final : public Screen {
+class frmSearchCollections final : public SocietyScreen {
 public:
     frmSearchCollections();
 
     bool TimerStart = false; // the timer of the opening has yet to tick
 
 private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
-    Label lblFooter{this, "lblFooter"};
-
     DateField maskDate{this, "maskDate", &frmSearchCollections::maskDate_LostFocus};
     ChoiceField txtTime{this, "txtTime",
         {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}},
@@ -35,8 +30,6 @@ private:
     CounterReport CRMilkReceipt;
 
     void Load() override;
-    bool KeyDown(const QKeyEvent& key) override;
-    void Escape() override;
 
     void TimerStart_Timer();
     void maskDate_GotFocus();

@@ -1,12 +1,10 @@
 #include "masters/frmMembers.h"
 
-#include "core/menu/CommonKeys.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
 #include "masters/MemberClosing.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
-#include "society/CompanyTitle.h"
 #include "society/ModeTitles.h"
 
 namespace {
@@ -16,7 +14,7 @@ constexpr QStringView IdleTitle = u" ]%padkacao maasTr";
 }
 
 frmMembers::frmMembers()
-    : Screen("frmMembers")
+    : SocietyScreen("frmMembers", Shivaji(IdleTitle))
     , txtAnimal(this, "txtAnimal",
           {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")},
               {u'3', QStringLiteral("daonhI")}},
@@ -34,15 +32,9 @@ frmMembers::frmMembers()
 
 void frmMembers::Load()
 {
-    ShowCompany(lblCompanyTitle, lblAcYear);
     SetGuides();
     LoadLists();
     ShowIdle();
-}
-
-bool frmMembers::KeyDown(const QKeyEvent& key)
-{
-    return CommonKeys::Tutor(key);
 }
 
 void frmMembers::Escape()
@@ -203,11 +195,6 @@ void frmMembers::DeleteFound()
 void frmMembers::cmdCancel_Click()
 {
     ReturnToIdle();
-}
-
-void frmMembers::cmdExit_Click()
-{
-    Close();
 }
 
 bool frmMembers::AreRequiredFieldsFilled()

@@ -3,29 +3,24 @@
 #include "platform/database/Recordset.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/NameCombo.h"
-#include "platform/forms/Screen.h"
 #include "society/Fields.h"
+#include "society/SocietyScreen.h"
 
 #include <vector>
 
 // The members of the society: who they are, how they are paid, and their figures at the opening and now.
 // The caption of the New, Modify or Delete button tells the mode; without one the fields are closed.
-class frmMembers final : public Screen {
+class frmMembers final : public SocietyScreen {
 public:
     frmMembers();
 
 protected:
     void Load() override;
-    bool KeyDown(const QKeyEvent& key) override;
     void Escape() override;
 
 private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
     Label lblBankName{this, "lblBankName", Shivaji(u"ba^nkocao naava")};
     Label lblBankAccountNo{this, "lblBankAccountNo", Shivaji(u"ba^nk Kato naMbar")};
-    Label lblGuide{this, "lblGuide"};
 
     WholeField txtMemberNo{this, "txtMemberNo", &frmMembers::txtMemberNo_LostFocus};
     NameCombo ComboMemberName{this, "ComboMemberName", &frmMembers::ComboMemberName_LostFocus};
@@ -85,7 +80,6 @@ private:
     void cmdModify_Click();
     void cmdDelete_Click();
     void cmdCancel_Click();
-    void cmdExit_Click();
 
     void StartNew();
     void SaveNew();

@@ -6,7 +6,6 @@
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "reports/ReportRun.h"
-#include "society/CompanyTitle.h"
 #include "society/FieldRoutines.h"
 #include "society/Names.h"
 
@@ -26,10 +25,10 @@ void StageMember(const Recordset& member, QStringView crieteria, const QString& 
 
 }
 
-frmReportMembersList::frmReportMembersList() : Screen("frmReportMembersList")
+frmReportMembersList::frmReportMembersList()
+    : SocietyScreen("frmReportMembersList", Shivaji(u" maombar yaadI"))
 {
     When(ComboArea.GotFocus, &frmReportMembersList::ComboArea_GotFocus);
-    SetTitle(Shivaji(u" maombar yaadI"));
     ComboArea.SetGuide(Plain(u"रिकामे ठेवल्यास सर्व विभाग"));
     ComboArea.Accepts = [](QChar c) { return c != u'\''; };
     LayOut();
@@ -37,18 +36,11 @@ frmReportMembersList::frmReportMembersList() : Screen("frmReportMembersList")
 
 void frmReportMembersList::Load()
 {
-    ShowCompany(lblCompanyTitle, lblAcYear);
     OptionList.Choose();
     OptionCow.Choose();
     FillCombo(ComboArea, u"CityMaster", u"CityName",
         Sql(u"where CompanyId=", gAppState.gCompanyId, u" ORDER BY CityName"));
     Option_Click();
-}
-
-void frmReportMembersList::Escape()
-{
-    EmptyFields();
-    Close();
 }
 
 // Only what belongs to the chosen list can be entered.
@@ -127,9 +119,4 @@ void frmReportMembersList::cmdReport_Click()
     ReportRun::Tidy(u"MembersListReport");
     staging.Commit();
     ReportRun::Show(u"ReportListMembers.rpt", Subject());
-}
-
-void frmReportMembersList::cmdExit_Click()
-{
-    Close();
 }

@@ -3,17 +3,14 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/NameCombo.h"
 #include "platform/forms/OptionButton.h"
-#include "platform/forms/Screen.h"
+#include "society/SocietyScreen.h"
 
 // The list of the members: all of them, those of an area, or those of an animal.
-class frmReportMembersList final : public Screen {
+class frmReportMembersList final : public SocietyScreen {
 public:
     frmReportMembersList();
 
 private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
     OptionButton OptionList{
         this, "OptionList", Shivaji(u"  &1 pUNa- yaadI"), &frmReportMembersList::Option_Click};
     OptionButton OptionArea{
@@ -25,18 +22,15 @@ private:
     OptionButton OptionBuff{this, "OptionBuff", Shivaji(u"mhOsa")};
     OptionButton OptionBoth{this, "OptionBoth", Shivaji(u"daonhI")};
     OptionGroup milk{&OptionCow, &OptionBuff, &OptionBoth};
-    Label lblGuide{this, "lblGuide"};
     Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-"), &frmReportMembersList::cmdReport_Click};
     Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmReportMembersList::cmdExit_Click};
 
     void Load() override;
-    void Escape() override;
 
     void Option_Click();
     void ComboArea_GotFocus();
     void ComboArea_LostFocus();
     void cmdReport_Click();
-    void cmdExit_Click();
 
     void StageAll();
     void StageArea();

@@ -6,7 +6,6 @@
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "reports/ReportRun.h"
-#include "society/CompanyTitle.h"
 #include "society/Wanted.h"
 
 namespace {
@@ -15,24 +14,17 @@ constexpr QStringView BothAnimals = u"daonhI";
 
 }
 
-frmReportMilkCollections::frmReportMilkCollections() : Screen("frmReportMilkCollections")
+frmReportMilkCollections::frmReportMilkCollections()
+    : SocietyScreen("frmReportMilkCollections", Shivaji(u" dUQa saMklana irpaoT-"))
 {
     When(ComboAnimal.GotFocus, &frmReportMilkCollections::ComboAnimal_GotFocus);
-    SetTitle(Shivaji(u" dUQa saMklana irpaoT-"));
     ComboAnimal.SetItems({QStringLiteral("gaaya"), QStringLiteral("mhOsa"), BothAnimals.toString()});
     LayOut();
 }
 
 void frmReportMilkCollections::Load()
 {
-    ShowCompany(lblCompanyTitle, lblAcYear);
     OptionBoth.Choose();
-}
-
-void frmReportMilkCollections::Escape()
-{
-    EmptyFields();
-    Close();
 }
 
 void frmReportMilkCollections::MaskUserDate_LostFocus()
@@ -109,9 +101,4 @@ void frmReportMilkCollections::cmdReport_Click()
     ReportRun::Tidy(u"MilkCollectionsTemp");
     staging.Commit();
     ReportRun::Show(u"MilkCollectionsReport.rpt", Subject());
-}
-
-void frmReportMilkCollections::cmdExit_Click()
-{
-    Close();
 }

@@ -5,14 +5,13 @@
 #include "platform/database/Sql.h"
 #include "reports/MilkStatement.h"
 #include "reports/ReportRun.h"
-#include "society/CompanyTitle.h"
 #include "society/FieldRoutines.h"
 #include "society/Wanted.h"
 
-frmReportMilkPS::frmReportMilkPS() : Screen("frmReportMilkPS")
+frmReportMilkPS::frmReportMilkPS()
+    : SocietyScreen("frmReportMilkPS", Shivaji(u" dUQa saMklana À ivaËI irpaoT-"))
 {
     When(ComboAccountName.GotFocus, &frmReportMilkPS::ComboAccountName_GotFocus);
-    SetTitle(Shivaji(u" dUQa saMklana À ivaËI irpaoT-"));
     LayOut();
 }
 
@@ -25,15 +24,8 @@ void frmReportMilkPS::Load()
         SendKeys(QStringLiteral("{ESC}"));
         return;
     }
-    ShowCompany(lblCompanyTitle, lblAcYear);
     OptionCollections.Choose();
     ListAccounts();
-}
-
-void frmReportMilkPS::Escape()
-{
-    EmptyFields();
-    Close();
 }
 
 void frmReportMilkPS::maskFromDate_LostFocus()
@@ -81,9 +73,4 @@ void frmReportMilkPS::cmdReport_Click()
             ComboAccountName.Text().trimmed(), maskFromDate.Date(), maskToDate.Date()});
     ReportRun::Show(u"MilkPSReport.rpt",
         ReportSubject({ComboAccountName.Text()}, maskFromDate.Date(), maskToDate.Date()));
-}
-
-void frmReportMilkPS::cmdExit_Click()
-{
-    Close();
 }

@@ -3,7 +3,6 @@
 #include "core/preview/ReportSubject.h"
 #include "platform/database/Sql.h"
 #include "reports/ReportRun.h"
-#include "society/CompanyTitle.h"
 #include "society/Wanted.h"
 
 namespace {
@@ -18,22 +17,15 @@ QString Part(QString text)
 
 }
 
-frmReportPaymentList::frmReportPaymentList() : Screen("frmReportPaymentList")
+frmReportPaymentList::frmReportPaymentList()
+    : SocietyScreen("frmReportPaymentList", Shivaji(u" dUQa pomaoMT ilasT"))
 {
-    SetTitle(Shivaji(u" dUQa pomaoMT ilasT"));
     LayOut();
 }
 
 void frmReportPaymentList::Load()
 {
-    ShowCompany(lblCompanyTitle, lblAcYear);
     Option1.Choose();
-}
-
-void frmReportPaymentList::Escape()
-{
-    EmptyFields();
-    Close();
 }
 
 void frmReportPaymentList::MaskFromDate_LostFocus()
@@ -52,9 +44,4 @@ void frmReportPaymentList::cmdReport_Click()
     if (MaskFromDate.InsistOnDate(Wanted::Date()))
         ReportRun::Show(Option1.Chosen() ? u"CashMilkPayment.rpt" : u"BankMilkPayment.rpt",
             ReportSubject({}, MaskFromDate.Date()), SelectionFormula(MaskFromDate.Text()));
-}
-
-void frmReportPaymentList::cmdExit_Click()
-{
-    Close();
 }

@@ -2,7 +2,6 @@
 
 #include "core/messages/Messages.h"
 #include "platform/text/Numbers.h"
-#include "society/CompanyTitle.h"
 
 #include <QKeyEvent>
 
@@ -24,7 +23,7 @@ QStringList ReceiptTypes()
 }
 
 frmAutoSettings::frmAutoSettings()
-    : Screen("frmAutoSettings")
+    : SocietyScreen("frmAutoSettings", Shivaji(u"Aa^Tao saoTIMgja"), {.guide = "lblMessage"})
     , SSTab(this, "SSTab", {Plain(u"संकलन"), Plain(u"पेमेंट"), Shivaji(u"dUQa ivaËI")},
           &frmAutoSettings::SSTab_Click)
     , ComboAutoLiters(this, "ComboAutoLiters", YesNo(), &frmAutoSettings::ComboAutoLiters_LostFocus)
@@ -49,14 +48,12 @@ frmAutoSettings::frmAutoSettings()
     CmdCancel.SetCancels(true);
     When(CheckRepeatCol.LostFocus, &frmAutoSettings::CheckRepeatCol_LostFocus);
     CmdExit.SetCancels(true); // nothing is saved by it, so no field need be right
-    SetTitle(Shivaji(u"Aa^Tao saoTIMgja"));
     SetGuides();
     LayOut();
 }
 
 void frmAutoSettings::Load()
 {
-    ShowCompany(lblCompanyTitle, lblAcYear);
     LoadSettings();
 }
 
@@ -80,12 +77,6 @@ bool frmAutoSettings::GoBeyondThePageTurn(const QKeyEvent& key)
     return true;
 }
 
-void frmAutoSettings::Escape()
-{
-    EmptyFields();
-    Close();
-}
-
 void frmAutoSettings::SSTab_Click()
 {
     ShowTabGuide();
@@ -97,7 +88,7 @@ void frmAutoSettings::SSTab_Click()
 
 void frmAutoSettings::CheckCNP_Click()
 {
-    lblMessage.SetCaption(CheckCNP.Checked()
+    lblGuide.SetCaption(CheckCNP.Checked()
             ? Shivaji(u"dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kolaI jaa[-la")
             : Shivaji(u"dUQa KrodIcaI enT/I dUQa pomaonT krtovaoLIca kolaI jaa[-la"));
 }
@@ -105,11 +96,6 @@ void frmAutoSettings::CheckCNP_Click()
 void frmAutoSettings::CmdCancel_Click()
 {
     LoadSettings();
-}
-
-void frmAutoSettings::CmdExit_Click()
-{
-    Close();
 }
 
 // Leaving the fields. Each is checked only where the one before it isn't empty, so that a step back to an

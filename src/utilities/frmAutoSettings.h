@@ -5,10 +5,10 @@
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/ChoiceCombo.h"
 #include "platform/forms/OptionButton.h"
-#include "platform/forms/Screen.h"
 #include "platform/forms/TabPages.h"
 #include "platform/report/ReportControl.h"
 #include "society/Fields.h"
+#include "society/SocietyScreen.h"
 
 #include <array>
 #include <utility>
@@ -16,21 +16,15 @@
 // How the society wants the system to behave: the one row of AutoSettings of its company, on three tabs.
 // A save replaces the row. The columns that no tab has are lost with it, and if a required field is empty
 // the row is not written again.
-class frmAutoSettings final : public Screen {
+class frmAutoSettings final : public SocietyScreen {
 public:
     frmAutoSettings();
 
 protected:
     void Load() override;
     bool KeyDown(const QKeyEvent& key) override;
-    void Escape() override;
 
 private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
-    Label lblMessage{this, "lblMessage"};
-
     enum Pages { Collection, Payment, Sale };
     TabPages SSTab;
 
@@ -68,7 +62,7 @@ private:
 
     Button CmdSave{this, "CmdSave", Shivaji(u"&saovh"), &frmAutoSettings::CmdSave_Click};
     Button CmdCancel{this, "CmdCancel", Shivaji(u"&r_"), &frmAutoSettings::CmdCancel_Click};
-    Button CmdExit{this, "CmdExit", Shivaji(u"&baahor"), &frmAutoSettings::CmdExit_Click};
+    Button CmdExit{this, "CmdExit", Shivaji(u"&baahor"), &frmAutoSettings::cmdExit_Click};
 
     // It stands beside ComboReceipt, and last in the tab order: Enter behind the choice of a layout goes on.
     Button cmdReceipt{this, "cmdReceipt", Shivaji(u"pavatI p`kar"), &frmAutoSettings::cmdReceipt_Click};
@@ -88,7 +82,6 @@ private:
     void CmdSave_Click();
     void CmdCancel_Click();
     void cmdReceipt_Click();
-    void CmdExit_Click();
 
     // Leaving the fields
     void ComboAutoLiters_LostFocus();
