@@ -12,8 +12,6 @@
 #include "society/Names.h"
 #include "society/Wanted.h"
 
-#include <QKeyEvent>
-
 #include <utility>
 
 using namespace Counter;
@@ -33,8 +31,8 @@ std::vector<DataGrid::Column> CounterScreen::InwardsColumns(const CounterKind& k
     };
 }
 
-CounterScreen::CounterScreen(const CounterKind& kind)
-    : SocietyScreen(kind.screen, Shivaji(kind.title), {.guide = "lblFooter", .company = kind.company})
+CounterScreen::CounterScreen(const CounterKind& kind, const Keys::Places& keys)
+    : SocietyScreen(keys, Shivaji(kind.title), {.guide = "lblFooter", .company = kind.company})
     , DataGridInwards(this, "DataGridInwards", InwardsColumns(kind))
     , m_kind(kind)
 {
@@ -50,11 +48,9 @@ CounterScreen::CounterScreen(const CounterKind& kind)
     When(cmdGo.LostFocus, &CounterScreen::cmdGo_LostFocus);
     for (Button* device : {&cmdAutoLiter, &cmdAutoFat})
         When(device->LostFocus, &CounterScreen::DeviceSwitch_LostFocus);
-    txtCollectionNo.KeyDown = [this](const QKeyEvent& key) { return txtCollectionNo_KeyDown(key); };
-    txtMemberNo.KeyDown = [this](const QKeyEvent& key) { return txtMemberNo_KeyDown(key); };
     NameMemberKeys();
-    maskDate.SetGuide(Keys::Guide(Name() + QStringLiteral(".maskDate")));
-    txtCollectionNo.SetGuide(Keys::Guide(Name() + QStringLiteral(".txtCollectionNo")));
+    maskDate.SetGuide(KeyGuide(maskDate));
+    txtCollectionNo.SetGuide(KeyGuide(txtCollectionNo));
     txtTime.SetLocked(true);
     txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     txtAnimal.SetLocked(true);
@@ -83,21 +79,53 @@ void CounterScreen::Load()
     MilkReceipt::Prepare();
 }
 
-bool CounterScreen::KeyDown(const QKeyEvent& key)
+// Keys
+
+KeyHint CounterScreen::CalculatorKey()
 {
-    if (CommonKeys::Calculator(key, false) || CommonKeys::Tutor(key))
-        return true;
-    switch (key.key()) {
-    case Qt::Key_F3:
-        ScreenDirectory::Open(QStringLiteral("frmMembers"), Keys::Action(Name(), u"F3"));
-        MembersShown();
-        return true;
-    case Qt::Key_F6:
-        ScreenDirectory::Open(QStringLiteral("frmUchalVouchers"), Keys::Action(Name(), u"F6"));
-        return true;
-    default:
-        return false;
-    }
+    return {QStringLiteral("F2"), SocietyScreen::CalculatorKey().action, &CounterScreen::StartCalculator};
+}
+
+KeyHint CounterScreen::MembersKey()
+{
+    return {QStringLiteral("F3"), Shivaji(u"]%padkacao rijasTr"), &CounterScreen::ShowMembers};
+}
+
+KeyHint CounterScreen::AdvanceKey()
+{
+    return {QStringLiteral("F6"), Shivaji(u"]cala naaoMd"), &CounterScreen::ShowAdvances};
+}
+
+KeyHint CounterScreen::SearchKey()
+{
+    return {QStringLiteral("F9"), Shivaji(u"dUQa saMklana pavatI"), &CounterScreen::SearchMember};
+}
+
+KeyHint CounterScreen::DeleteKey()
+{
+    return {QStringLiteral("F10"), Shivaji(u"KaoDNao"), &CounterScreen::DeleteRow};
+}
+
+std::vector<KeyHint> CounterScreen::NumberKeys()
+{
+    return {{QStringLiteral("↑"), Plain(u"आधीची नोंद"), &CounterScreen::PreviousNumber},
+        {QStringLiteral("↓"), Plain(u"पुढची नोंद"), &CounterScreen::NextNumber}};
+}
+
+void CounterScreen::StartCalculator()
+{
+    CommonKeys::Calculator(false);
+}
+
+void CounterScreen::ShowMembers()
+{
+    ScreenDirectory::Open(QStringLiteral("frmMembers"), KeyAction(u"F3"));
+    MembersShown();
+}
+
+void CounterScreen::ShowAdvances()
+{
+    ScreenDirectory::Open(QStringLiteral("frmUchalVouchers"), KeyAction(u"F6"));
 }
 
 void CounterScreen::Escape()
@@ -153,17 +181,21 @@ void CounterScreen::txtCollectionNo_GotFocus()
         SendBack(txtTime, Wanted::Shift());
 }
 
-bool CounterScreen::txtCollectionNo_KeyDown(const QKeyEvent& key)
+void CounterScreen::PreviousNumber()
 {
-    const double number = txtCollectionNo.Value();
-    if (key.key() == Qt::Key_Up && number > 1)
-        txtCollectionNo.Show(number - 1);
-    else if (key.key() == Qt::Key_Down)
-        txtCollectionNo.Show(number + 1);
-    else
-        return false;
+    if (txtCollectionNo.Value() > 1)
+        ShowNumberToGoTo(txtCollectionNo.Value() - 1);
+}
+
+void CounterScreen::NextNumber()
+{
+    ShowNumberToGoTo(txtCollectionNo.Value() + 1);
+}
+
+void CounterScreen::ShowNumberToGoTo(double number)
+{
+    txtCollectionNo.Show(number);
     txtCollectionNo.SelectAll();
-    return true;
 }
 
 void CounterScreen::txtCollectionNo_LostFocus()
@@ -202,23 +234,6 @@ void CounterScreen::txtMemberNo_Change()
 {
     if (txtMemberNo.HasFocus())
         LightMemberKeys();
-}
-
-bool CounterScreen::txtMemberNo_KeyDown(const QKeyEvent& key)
-{
-    switch (key.key()) {
-    case Qt::Key_F7:
-        ShowMemberFrame();
-        return true;
-    case Qt::Key_F9:
-        SearchMember();
-        return true;
-    case Qt::Key_F10:
-        DeleteRow();
-        return true;
-    default:
-        return false;
-    }
 }
 
 void CounterScreen::txtMemberNo_LostFocus()

@@ -33,7 +33,15 @@ protected:
     // The query that the list of the shift is bound to.
     static constexpr QStringView ShiftQuery = u"select * from MilkCollectionsTemp order by CollectionNo desc";
 
-    explicit CounterScreen(const CounterKind& kind);
+    CounterScreen(const CounterKind& kind, const Keys::Places& keys);
+
+    // The keys of both counters. The calculator stands in a window beside the counter.
+    static KeyHint CalculatorKey();
+    static KeyHint MembersKey();
+    static KeyHint AdvanceKey();
+    static KeyHint SearchKey();
+    static KeyHint DeleteKey();
+    static std::vector<KeyHint> NumberKeys();
 
     // The columns of the list of the shift.
     static std::vector<DataGrid::Column> InwardsColumns(const CounterKind& kind);
@@ -78,11 +86,9 @@ protected:
     bool SkipMemberChecks = false; // the member's number is left for the frame, and isn't to be checked
 
     void Load() override;
-    bool KeyDown(const QKeyEvent& key) override;
     void Escape() override;
 
     virtual void LoadMemberNames();
-    virtual void ShowMemberFrame() { } // F7
     virtual void MembersShown() { } // frmMembers has closed
     virtual void txtMemberNo_Change();
 
@@ -111,10 +117,8 @@ private:
     void txtTime_GotFocus();
     void txtTime_LostFocus();
     void txtCollectionNo_GotFocus();
-    bool txtCollectionNo_KeyDown(const QKeyEvent& key);
     void txtCollectionNo_LostFocus();
     void txtMemberNo_GotFocus();
-    bool txtMemberNo_KeyDown(const QKeyEvent& key);
     void txtMemberNo_LostFocus();
     void ComboMemberName_GotFocus();
     void ComboMemberName_LostFocus();
@@ -131,6 +135,13 @@ private:
     void cmdAutoFat_Click();
     void cmdPrinterOnOff_Click();
     void DeviceSwitch_LostFocus();
+
+    void StartCalculator();
+    void ShowMembers();
+    void ShowAdvances();
+    void PreviousNumber();
+    void NextNumber();
+    void ShowNumberToGoTo(double number);
 
     void RefreshActualTime();
     void ShiftLitersTotal();

@@ -3,7 +3,6 @@
 #include "collection/CounterScreen.h"
 #include "collection/ActualTime.h"
 #include "collection/Counter.h"
-#include "core/menu/Keys.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "society/Names.h"
@@ -28,9 +27,8 @@ void ShowSwitch(Button& button, QStringView device, const QString& setting)
 // The keys of the member's number, as the list of keys says what each does.
 void CounterScreen::NameMemberKeys()
 {
-    const QString field = Name() + QStringLiteral(".txtMemberNo");
     for (const auto& [key, action] : MemberKeyLabels())
-        action->SetCaption(Keys::Action(field, key->Shown().Text()));
+        action->SetCaption(KeyAction(txtMemberNo, key->Shown().Text()));
 }
 
 std::array<std::pair<Label*, Label*>, 3> CounterScreen::MemberKeyLabels()

@@ -41,9 +41,17 @@ SqlText Deliverers(const Shift& shift)
 
 }
 
+Keys::Places frmAbsenseMemberCollection::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmAbsenseMemberCollection"), Shivaji(u"dUQa saMklana nasaNaaro saBaasad"),
+            {Next, Back, Leave, CalculatorKey(), TutorKey(), OneOfTwo}},
+    };
+}
+
 frmAbsenseMemberCollection::frmAbsenseMemberCollection()
-    : SocietyScreen(
-        "frmAbsenseMemberCollection", Shivaji(u"dUQa saMklana nasaNaaro saBaasad"), {.guide = "lblFooter"})
+    : SocietyScreen(KeyPlaces(), Shivaji(u"dUQa saMklana nasaNaaro saBaasad"), {.guide = "lblFooter"})
     , DataGridMembers(this, "DataGridMembers", MemberColumns())
 {
     When(MaskDate.GotFocus, &frmAbsenseMemberCollection::MaskDate_GotFocus);

@@ -11,6 +11,8 @@ class frmAbsenseMemberCollection final : public SocietyScreen {
 public:
     frmAbsenseMemberCollection();
 
+    static Keys::Places KeyPlaces();
+
 private:
     Label Label28{this, "Label28", Shivaji(u"Aaja dUQa saMklana nasaNaaáyaaMcaI naavao")};
 

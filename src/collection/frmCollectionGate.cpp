@@ -6,12 +6,29 @@
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
-#include "platform/forms/Layout.h"
 #include "platform/text/Shivaji01.h"
 
 using namespace Counter;
 
-frmCollectionGate::frmCollectionGate() : CounterScreen(GateCounter)
+Keys::Places frmCollectionGate::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmCollectionGate"), Shivaji(u"dUQa saMklana 2"),
+            {Next, Back, Leave, CalculatorKey(), MembersKey(), AdvanceKey(), TutorKey(),
+                {QStringLiteral("Alt+B"), Shivaji(u"baahor")}}},
+        {QStringLiteral("frmCollectionGate.fields"), Plain(u"दूध संकलन २, वेळ, नाव, दूध व शोधात"),
+            {OneOfTwo, ListOfNames, Tick}},
+        {QStringLiteral("frmCollectionGate.maskDate"), Plain(u"दूध संकलन २, दिनांकात"),
+            {{QStringLiteral("Shift+Tab"), Plain(u"शोध, क्रम, वजन काटा, फॅट मशीन, प्रिंटर")}}},
+        {QStringLiteral("frmCollectionGate.txtCollectionNo"), Plain(u"दूध संकलन २, संकलन क्रमांकात"),
+            NumberKeys()},
+        {QStringLiteral("frmCollectionGate.txtMemberNo"), Plain(u"दूध संकलन २, मेम्बर नंबरात"),
+            {SearchKey(), DeleteKey()}},
+    };
+}
+
+frmCollectionGate::frmCollectionGate() : CounterScreen(GateCounter, KeyPlaces())
 {
     When(cmdGo.GotFocus, &frmCollectionGate::cmdGo_GotFocus);
     for (const auto& [button, column] : OrderButtons())
@@ -26,7 +43,7 @@ frmCollectionGate::frmCollectionGate() : CounterScreen(GateCounter)
     Command1.SetCancels(true); // the gate is left whatever stands in its fields
 
     lblAcYear.SetVisible(false); // there is one line in its band
-    LayOut(ListAndTotals(), Layout::KeyStrip(Keys::Of(Name())));
+    LayOut(ListAndTotals(), KeyStrip(Name()));
 }
 
 void frmCollectionGate::Load()

@@ -10,6 +10,8 @@ class frmCollectionGate final : public CounterScreen {
 public:
     frmCollectionGate();
 
+    static Keys::Places KeyPlaces();
+
 private:
     Button cmdLtrOrder{this, "cmdLtrOrder", Ascending()};
     Button cmdFatOrder{this, "cmdFatOrder", Ascending()};

@@ -42,8 +42,23 @@ void Write(const QString& statement)
 
 }
 
+Keys::Places frmDailyCollection::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmDailyCollection"), Shivaji(u"dUQa saMklana 3"),
+            {Next, Back, Leave, CalculatorKey(), TutorKey(), New, Modify, Delete, Save, Cancel, ExitButton,
+                OneOfTwo, ListOfNames}},
+        {QStringLiteral("frmDailyCollection.txtMemberNo"), Plain(u"दूध संकलन ३, नवीन नोंदीच्या मेम्बर नंबरात"),
+            {{QStringLiteral("F5"), Plain(u"मेम्बरचे आतापर्यंतचे संकलन"), &frmDailyCollection::ShowOrHideList}}},
+        {QStringLiteral("frmDailyCollection.DataGrid1"), Plain(u"दूध संकलन ३, मेम्बरच्या यादीत"),
+            {{QStringLiteral("Enter"), Plain(u"ही नोंद"), &frmDailyCollection::DataGrid1_Click},
+                {QStringLiteral("F5"), Plain(u"यादी बंद"), &frmDailyCollection::CloseList}}},
+    };
+}
+
 frmDailyCollection::frmDailyCollection()
-    : SocietyScreen("frmDailyCollection", Shivaji(IdleTitle))
+    : SocietyScreen(KeyPlaces(), Shivaji(IdleTitle))
     , DataGrid1(this, "DataGrid1", ListColumns())
 {
     When(txtMemberNo.TextChanged, &frmDailyCollection::txtMemberNo_Change);
@@ -52,9 +67,7 @@ frmDailyCollection::frmDailyCollection()
     When(txtCollectionNo.TextChanged, &frmDailyCollection::txtCollectionNo_Change);
     When(txtAmount.TextChanged, &frmDailyCollection::txtAmount_Change);
     When(DataGrid1.Click, &frmDailyCollection::DataGrid1_Click);
-    txtMemberNo.KeyDown = [this](const QKeyEvent& key) { return txtMemberNo_KeyDown(key); };
     cmbCollectionTime.KeyDown = [this](const QKeyEvent& key) { return cmbCollectionTime_KeyDown(key); };
-    DataGrid1.KeyDown = [this](const QKeyEvent& key) { return DataGrid1_KeyDown(key); };
     txtAnimal.SetLocked(true);
     cmbCollectionTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     cmbMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
@@ -251,20 +264,10 @@ void frmDailyCollection::ShowList(bool shown)
     Frame1->setVisible(shown);
 }
 
-bool frmDailyCollection::DataGrid1_KeyDown(const QKeyEvent& key)
+void frmDailyCollection::CloseList()
 {
-    switch (key.key()) {
-    case Qt::Key_F5:
-        txtMemberNo.SetFocus();
-        ShowList(false);
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        DataGrid1_Click();
-        return true;
-    default:
-        return false;
-    }
+    txtMemberNo.SetFocus();
+    ShowList(false);
 }
 
 void frmDailyCollection::DataGrid1_Click()

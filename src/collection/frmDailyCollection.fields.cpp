@@ -121,15 +121,12 @@ QStringList frmDailyCollection::Priced() const
 
 // Member
 
-bool frmDailyCollection::txtMemberNo_KeyDown(const QKeyEvent& key)
+void frmDailyCollection::ShowOrHideList()
 {
-    if (key.key() != Qt::Key_F5 || !IsAdding())
-        return false;
     if (IsListShown())
         ShowList(false);
-    else
+    else if (IsAdding())
         OpenList();
-    return true;
 }
 
 void frmDailyCollection::txtMemberNo_Change()

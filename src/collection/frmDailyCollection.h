@@ -15,6 +15,8 @@ class frmDailyCollection final : public SocietyScreen {
 public:
     frmDailyCollection();
 
+    static Keys::Places KeyPlaces();
+
 private:
     WholeField txtMemberNo{this, "txtMemberNo", &frmDailyCollection::txtMemberNo_LostFocus};
     NameCombo cmbMemberName{this, "cmbMemberName", &frmDailyCollection::cmbMemberName_LostFocus};
@@ -46,7 +48,6 @@ private:
     void Load() override;
     void Escape() override;
 
-    bool txtMemberNo_KeyDown(const QKeyEvent& key);
     void txtMemberNo_Change();
     void txtMemberNo_LostFocus();
     void cmbMemberName_LostFocus();
@@ -65,7 +66,6 @@ private:
     void cmdModify_Click();
     void cmdDelete_Click();
     void cmdCancel_Click();
-    bool DataGrid1_KeyDown(const QKeyEvent& key);
     void DataGrid1_Click();
 
     // States
@@ -104,6 +104,8 @@ private:
     // The member's list
     bool IsListShown() const { return DataGrid1.Visible(); }
     void OpenList();
+    void CloseList();
+    void ShowOrHideList();
     void ShowList(bool shown);
 
     void LayOut();

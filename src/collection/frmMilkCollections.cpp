@@ -25,8 +25,30 @@ std::vector<DataGrid::Column> MilkColumns()
 
 }
 
+Keys::Places frmMilkCollections::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmMilkCollections"), Shivaji(u"dUQa saMklana 1"),
+            {Next, Back, Leave, CalculatorKey(), MembersKey(), AdvanceKey(), TutorKey(), OneOfTwo,
+                ListOfNames}},
+        {QStringLiteral("frmMilkCollections.maskDate"), Plain(u"दूध संकलन १, दिनांकात"),
+            {{QStringLiteral("Shift+Tab"), Plain(u"वजन काटा, फॅट मशीन, प्रिंटर")}}},
+        {QStringLiteral("frmMilkCollections.txtCollectionNo"), Plain(u"दूध संकलन १, संकलन क्रमांकात"),
+            NumberKeys()},
+        {QStringLiteral("frmMilkCollections.txtMemberNo"), Plain(u"दूध संकलन १, मेम्बर नंबरात"),
+            {{QStringLiteral("F7"), Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana"),
+                 &frmMilkCollections::ShowMemberFrame},
+                SearchKey(), DeleteKey()}},
+        {QStringLiteral("FrameMilkCollection"), Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana"),
+            {Next, Back, Leave, {QStringLiteral("Alt+I"), Shivaji(u"irpaoT-")},
+                {QStringLiteral("Alt+B"), Shivaji(u"baahor")}, CalculatorKey(), MembersKey(), AdvanceKey(),
+                TutorKey()}},
+    };
+}
+
 frmMilkCollections::frmMilkCollections()
-    : CounterScreen(MainCounter)
+    : CounterScreen(MainCounter, KeyPlaces())
     , DataGridMilk(this, "DataGridMilk", MilkColumns())
 {
     When(cmbAccountName.GotFocus, &frmMilkCollections::cmbAccountName_GotFocus);

@@ -12,6 +12,8 @@ class frmMilkCollections final : public CounterScreen {
 public:
     frmMilkCollections();
 
+    static Keys::Places KeyPlaces();
+
 private:
     Label Label28{this, "Label28", Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana")};
 
@@ -55,7 +57,6 @@ private:
     void Escape() override;
     void LoadMemberNames() override;
     void MembersShown() override;
-    void ShowMemberFrame() override;
 
     void maskFromDate_LostFocus();
     void maskToDate_LostFocus();
@@ -73,6 +74,7 @@ private:
     void RenumberTemp();
     void ResetMemberFrame();
 
+    void ShowMemberFrame();
     std::vector<Control*> FrameControls();
     void ShowFrame(bool shown);
     bool HoldPeriod();

@@ -1,8 +1,6 @@
 #include "collection/frmMilkCollections.h"
 
 #include "collection/CounterPieces.h"
-#include "core/menu/Keys.h"
-#include "platform/forms/Layout.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -58,7 +56,7 @@ QWidget* frmMilkCollections::KeyStrips()
     auto* strips = new QWidget;
     m_keys = new QStackedLayout(strips);
     for (const QString& keys : {Name(), QStringLiteral("FrameMilkCollection")})
-        m_keys->addWidget(Layout::KeyStrip(Keys::Of(keys)));
+        m_keys->addWidget(KeyStrip(keys));
     return strips;
 }
 

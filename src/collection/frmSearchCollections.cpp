@@ -55,8 +55,18 @@ QString ReprintTemplate(QStringView receiptType)
 
 }
 
+Keys::Places frmSearchCollections::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmSearchCollections"), Shivaji(u"dUQa saMklana pavatI"),
+            {Next, Back, {QStringLiteral("Alt+P"), Plain(u"पावती पुन्हा दाखवा")}, Leave, CalculatorKey(),
+                TutorKey(), OneOfTwo, ListOfNames}},
+    };
+}
+
 frmSearchCollections::frmSearchCollections()
-    : SocietyScreen("frmSearchCollections", Shivaji(u"dUQa saMklana pavatI"), {.guide = "lblFooter"})
+    : SocietyScreen(KeyPlaces(), Shivaji(u"dUQa saMklana pavatI"), {.guide = "lblFooter"})
     , DataGridInwards(this, "DataGridInwards", FoundColumns())
 {
     When(maskDate.GotFocus, &frmSearchCollections::maskDate_GotFocus);

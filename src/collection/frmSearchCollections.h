@@ -15,6 +15,8 @@ class frmSearchCollections final : public SocietyScreen {
 public:
     frmSearchCollections();
 
+    static Keys::Places KeyPlaces();
+
     bool TimerStart = false; // the timer of the opening has yet to tick
 
 private:

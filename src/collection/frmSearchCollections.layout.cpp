@@ -1,7 +1,6 @@
 #include "collection/frmSearchCollections.h"
 
 #include "collection/CounterPieces.h"
-#include "core/menu/Keys.h"
 #include "platform/forms/Layout.h"
 
 #include <QFrame>
@@ -24,7 +23,7 @@ void frmSearchCollections::LayOut()
     body->addWidget(lblGuide.Widget());
     body->addWidget(List(DataGridInwards, ListRow, Look::Size::Large), 1);
     DataGridInwards.SetAccessibleName(Shivaji(u"dUQa saMklana"));
-    cmdGo.SetAccessibleName(Keys::Action(Name(), u"Alt+P"));
+    cmdGo.SetAccessibleName(KeyAction(u"Alt+P"));
     body->addLayout(Layout::ButtonRow({&cmdGo}));
     Stack(body, {20, 10, 20, 12});
 }

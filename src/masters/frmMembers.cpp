@@ -13,8 +13,18 @@ constexpr QStringView IdleTitle = u" ]%padkacao maasTr";
 
 }
 
+Keys::Places frmMembers::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmMembers"), Shivaji(u"]%padkacao rijasTr"),
+            {Next, Back, Leave, TutorKey(), New, Modify, Delete, Save, Cancel, ExitButton, OneOfThree,
+                ListOfNames}},
+    };
+}
+
 frmMembers::frmMembers()
-    : SocietyScreen("frmMembers", Shivaji(IdleTitle))
+    : SocietyScreen(KeyPlaces(), Shivaji(IdleTitle))
     , txtAnimal(this, "txtAnimal",
           {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")},
               {u'3', QStringLiteral("daonhI")}},

@@ -14,6 +14,8 @@ class frmMembers final : public SocietyScreen {
 public:
     frmMembers();
 
+    static Keys::Places KeyPlaces();
+
 protected:
     void Load() override;
     void Escape() override;

@@ -25,8 +25,18 @@ void StageMember(const Recordset& member, QStringView crieteria, const QString& 
 
 }
 
-frmReportMembersList::frmReportMembersList()
-    : SocietyScreen("frmReportMembersList", Shivaji(u" maombar yaadI"))
+Keys::Places frmReportMembersList::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmReportMembersList"), Shivaji(u"saBaasadaMcaI yaadI"),
+            {Next, Back, Leave, {QStringLiteral("Alt+1"), Shivaji(u"pUNa- yaadI")},
+                {QStringLiteral("Alt+2"), Shivaji(u"ivaBaaga")}, {QStringLiteral("Alt+3"), Shivaji(u"dUQa")},
+                ListOfNames, PrintReport, ExitButton}},
+    };
+}
+
+frmReportMembersList::frmReportMembersList() : SocietyScreen(KeyPlaces(), Shivaji(u" maombar yaadI"))
 {
     When(ComboArea.GotFocus, &frmReportMembersList::ComboArea_GotFocus);
     ComboArea.SetGuide(Plain(u"रिकामे ठेवल्यास सर्व विभाग"));

@@ -10,6 +10,8 @@ class frmReportMembersList final : public SocietyScreen {
 public:
     frmReportMembersList();
 
+    static Keys::Places KeyPlaces();
+
 private:
     OptionButton OptionList{
         this, "OptionList", Shivaji(u"  &1 pUNa- yaadI"), &frmReportMembersList::Option_Click};

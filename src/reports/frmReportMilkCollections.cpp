@@ -14,8 +14,19 @@ constexpr QStringView BothAnimals = u"daonhI";
 
 }
 
+Keys::Places frmReportMilkCollections::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmReportMilkCollections"), Shivaji(u"dUQa saMklana irpaoT-"),
+            {Next, Back, Leave, {QStringLiteral("Alt+S"), Shivaji(u"sakaL")},
+                {QStringLiteral("Alt+K"), Shivaji(u"saMQyaakaL")},
+                {QStringLiteral("Alt+D"), Shivaji(u"daonhI")}, ListOfNames, PrintReport, ExitButton}},
+    };
+}
+
 frmReportMilkCollections::frmReportMilkCollections()
-    : SocietyScreen("frmReportMilkCollections", Shivaji(u" dUQa saMklana irpaoT-"))
+    : SocietyScreen(KeyPlaces(), Shivaji(u" dUQa saMklana irpaoT-"))
 {
     When(ComboAnimal.GotFocus, &frmReportMilkCollections::ComboAnimal_GotFocus);
     ComboAnimal.SetItems({QStringLiteral("gaaya"), QStringLiteral("mhOsa"), BothAnimals.toString()});

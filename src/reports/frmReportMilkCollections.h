@@ -11,6 +11,8 @@ class frmReportMilkCollections final : public SocietyScreen {
 public:
     frmReportMilkCollections();
 
+    static Keys::Places KeyPlaces();
+
 private:
     DateField MaskUserDate{this, "MaskUserDate", &frmReportMilkCollections::MaskUserDate_LostFocus};
     NameCombo ComboAnimal{this, "ComboAnimal", &frmReportMilkCollections::ComboAnimal_LostFocus};

@@ -8,8 +8,16 @@
 #include "society/FieldRoutines.h"
 #include "society/Wanted.h"
 
-frmReportMilkPS::frmReportMilkPS()
-    : SocietyScreen("frmReportMilkPS", Shivaji(u" dUQa saMklana À ivaËI irpaoT-"))
+Keys::Places frmReportMilkPS::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmReportMilkPS"), Shivaji(u"dUQa saMklana À ivaËI irpaoT-"),
+            {Next, Back, Leave, ChooseOption, ListOfNames, PrintReport, ExitButton}},
+    };
+}
+
+frmReportMilkPS::frmReportMilkPS() : SocietyScreen(KeyPlaces(), Shivaji(u" dUQa saMklana À ivaËI irpaoT-"))
 {
     When(ComboAccountName.GotFocus, &frmReportMilkPS::ComboAccountName_GotFocus);
     LayOut();

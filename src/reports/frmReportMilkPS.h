@@ -13,6 +13,8 @@ class frmReportMilkPS final : public SocietyScreen {
 public:
     frmReportMilkPS();
 
+    static Keys::Places KeyPlaces();
+
 private:
     DateField maskFromDate{this, "maskFromDate", &frmReportMilkPS::maskFromDate_LostFocus};
     DateField maskToDate{this, "maskToDate", &frmReportMilkPS::maskToDate_LostFocus};

@@ -17,8 +17,16 @@ QString Part(QString text)
 
 }
 
-frmReportPaymentList::frmReportPaymentList()
-    : SocietyScreen("frmReportPaymentList", Shivaji(u" dUQa pomaoMT ilasT"))
+Keys::Places frmReportPaymentList::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmReportPaymentList"), Shivaji(u"dUQa pomaonT ilasT"),
+            {Next, Back, Leave, ChooseOption, PrintReport, ExitButton}},
+    };
+}
+
+frmReportPaymentList::frmReportPaymentList() : SocietyScreen(KeyPlaces(), Shivaji(u" dUQa pomaoMT ilasT"))
 {
     LayOut();
 }

@@ -10,6 +10,8 @@ class frmReportPaymentList final : public SocietyScreen {
 public:
     frmReportPaymentList();
 
+    static Keys::Places KeyPlaces();
+
     // The payments of a date dd/MM/yyyy, in the words of the report control.
     static QString SelectionFormula(const QString& date);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/menu/Keys.h"
 #include "platform/forms/Screen.h"
 
 #include <QMargins>
@@ -16,9 +17,12 @@ protected:
         const char* company = "lblCompanyTitle";
     };
 
-    // `name` is the screen's name in the system; under it stand its keys.
-    SocietyScreen(const char* name, const Caption& title, const LabelNames& labels);
-    SocietyScreen(const char* name, const Caption& title) : SocietyScreen(name, title, LabelNames()) { }
+    // `keys` are those of the screen and of its fields; the first place bears the screen's name in the
+    // system.
+    SocietyScreen(const Keys::Places& keys, const Caption& title, const LabelNames& labels);
+    SocietyScreen(const Keys::Places& keys, const Caption& title) : SocietyScreen(keys, title, LabelNames())
+    {
+    }
 
     Label lblTitle{this, "lblTitle"};
     Label lblCompanyTitle;
@@ -28,9 +32,21 @@ protected:
     // Puts the screen together: the band, the body, and the strip of keys. The guide line has its place in
     // the body.
     void Stack(QLayout* body, const QMargins& margins = {24, 16, 24, 16});
-    void Stack(QLayout* body, QWidget* keys, const QMargins& margins);
+    void Stack(QLayout* body, QWidget* strip, const QMargins& margins);
 
-    // The keys that many screens have: F2 and F12 where the strip names them.
+    // The strip of a place of the screen.
+    QWidget* KeyStrip(const QString& place) const;
+
+    // What the strip says of a key, what a key does in a field, and all keys of a field in one line.
+    Caption KeyAction(QStringView key) const;
+    Caption KeyAction(const Control& field, QStringView key) const;
+    Caption KeyGuide(const Control& field) const;
+
+    // F2, the calculator, and F12, the keyboard tutor, for the screens that have them.
+    static KeyHint CalculatorKey();
+    static KeyHint TutorKey();
+
+    // Answers the keys of the field in focus, and then those of the screen.
     bool KeyDown(const QKeyEvent& key) override;
 
     // Esc: empties the fields and closes.
@@ -41,4 +57,9 @@ protected:
 
 private:
     void ShowCompany();
+    void StartCalculator();
+    void ShowTutor();
+    QString PlaceOf(const Control& field) const;
+
+    Keys::Places m_keys;
 };

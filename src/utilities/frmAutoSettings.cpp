@@ -22,8 +22,27 @@ QStringList ReceiptTypes()
 
 }
 
+Keys::Places frmAutoSettings::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmAutoSettings"), Shivaji(u"Aa^Tao saoTIMgja"),
+            {Next, Back, {QStringLiteral("Ctrl+PgDn"), Plain(u"पुढचे पान")},
+                {QStringLiteral("Ctrl+PgUp"), Plain(u"मागचे पान")}, {QStringLiteral("Alt+↓"), Plain(u"यादी")},
+                {QStringLiteral("1 2 3 …"), Plain(u"निवडा")}, Tick, ChooseOption, Save, Cancel, ExitButton,
+                Leave}},
+        {QStringLiteral("frmAutoSettings.cmdReceipt"), Plain(u"ऑटो सेटींग्ज, संकलनाच्या पानावर"),
+            {{QStringLiteral("Shift+Tab"), Plain(u"पहिल्या प्रश्नावरून पावती प्रकाराच्या बटणावर")},
+                {QStringLiteral("Enter"), Plain(u"बटणावर : नमुना पावती")}}},
+        {QStringLiteral("frmAutoSettings.Payment"), Plain(u"ऑटो सेटींग्ज, पेमेंटच्या पानावर, ठेव कपातीत"),
+            {{QStringLiteral("↓"), Plain(u"दराचा प्रकार व पुढील प्रश्न")}}},
+        {QStringLiteral("frmAutoSettings.Sale"), Plain(u"ऑटो सेटींग्ज, दूध विक्रीच्या पानावर"),
+            {{QStringLiteral("↓"), Shivaji(u"ivaËI pavatIÀip`MT")}}},
+    };
+}
+
 frmAutoSettings::frmAutoSettings()
-    : SocietyScreen("frmAutoSettings", Shivaji(u"Aa^Tao saoTIMgja"), {.guide = "lblMessage"})
+    : SocietyScreen(KeyPlaces(), Shivaji(u"Aa^Tao saoTIMgja"), {.guide = "lblMessage"})
     , SSTab(this, "SSTab", {Plain(u"संकलन"), Plain(u"पेमेंट"), Shivaji(u"dUQa ivaËI")},
           &frmAutoSettings::SSTab_Click)
     , ComboAutoLiters(this, "ComboAutoLiters", YesNo(), &frmAutoSettings::ComboAutoLiters_LostFocus)

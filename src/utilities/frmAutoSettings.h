@@ -20,6 +20,8 @@ class frmAutoSettings final : public SocietyScreen {
 public:
     frmAutoSettings();
 
+    static Keys::Places KeyPlaces();
+
 protected:
     void Load() override;
     bool KeyDown(const QKeyEvent& key) override;

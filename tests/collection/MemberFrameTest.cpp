@@ -243,7 +243,7 @@ TEST_F(MemberFrameTest, ItShowsItsOwnKeysInPlaceOfTheCounters)
         return std::any_of(labels.begin(), labels.end(),
             [&](const QLabel* label) { return label->isVisible() && label->text() == action; });
     };
-    const QString report = Keys::Action(QStringLiteral("FrameMilkCollection"), u"Alt+I").Seen();
+    const QString report = Seen(QStringLiteral("irpaoT-"));
     InTheMorning([&](Clerk& clerk) {
         Type(clerk, "{ENTER}");
         EXPECT_FALSE(shown(clerk, report));

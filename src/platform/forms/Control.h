@@ -28,6 +28,11 @@ public:
     {
     }
 
+    explicit operator bool() const { return static_cast<bool>(m_run); }
+
+    // Runs the function that was named.
+    void Run(Screen& screen) const { m_run(screen); }
+
     // The event for a control of this screen; empty if no function was named.
     Event On(Screen& screen) const;
 
