@@ -7,7 +7,6 @@
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "society/FieldRoutines.h"
-#include "society/ModeTitles.h"
 #include "society/Queries.h"
 
 #include <QKeyEvent>
@@ -60,7 +59,10 @@ Keys::Places frmDailyCollection::KeyPlaces()
 frmDailyCollection::frmDailyCollection()
     : SocietyScreen(KeyPlaces(), Shivaji(IdleTitle))
     , DataGrid1(this, "DataGrid1", ListColumns())
+    , Modes(*this, IdleTitle, {cmdAdd, cmdModify, cmdDelete, cmdCancel, cmdExit})
 {
+    Modes.SetFields({&txtMemberNo, &cmbMemberName, &MasKCollectionDate, &cmbCollectionTime, &txtCollectionNo},
+        {&txtAnimal, &txtLiters, &txtFat, &txtRate, &txtAmount});
     When(txtMemberNo.TextChanged, &frmDailyCollection::txtMemberNo_Change);
     for (Field* key : std::initializer_list<Field*>{&MasKCollectionDate, &cmbCollectionTime})
         When(key->TextChanged, &frmDailyCollection::ForgetRow);
@@ -73,7 +75,6 @@ frmDailyCollection::frmDailyCollection()
     cmbMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     DataGrid1.SetGuide(Plain(u"Enter : ही नोंद    F5 : यादी बंद"));
     cmbMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
-    cmdCancel.SetCancels(true);
     LayOut();
 }
 
@@ -93,19 +94,8 @@ void frmDailyCollection::Escape()
 
 // States
 
-void frmDailyCollection::EnterState(Button& button, QStringView caption, QStringView title)
+void frmDailyCollection::BeginState()
 {
-    button.SetCaption(Shivaji(caption));
-    SetTitle(Shivaji(QString(IdleTitle % title)));
-    for (Button* other : {&cmdAdd, &cmdModify, &cmdDelete})
-        other->SetEnabled(other == &button);
-    cmdExit.SetEnabled(false);
-    for (Field* field : Fields())
-        field->SetEnabled(true);
-    if (IsDeleting())
-        for (Field* field :
-            std::initializer_list<Field*>{&txtAnimal, &txtLiters, &txtFat, &txtRate, &txtAmount})
-            field->SetEnabled(false);
     SetGuides();
     txtMemberNo.SetFocus();
 }
@@ -113,24 +103,17 @@ void frmDailyCollection::EnterState(Button& button, QStringView caption, QString
 // A row that is to be changed is looked up first, and saved under its own animal only.
 void frmDailyCollection::SetGuides()
 {
-    txtMemberNo.SetGuide(
-        IsAdding() ? Plain(u"F5 : मेम्बरचे आतापर्यंतचे संकलन") : Plain(u"नोंद शोधा : मेम्बर, दिनांक, वेळ, संकलन क्रमांक"));
-    txtCollectionNo.SetGuide(IsAdding() ? Plain(u"1 ते 32766") : Plain(u"Enter : ही नोंद"));
-    txtAnimal.SetGuide(IsModifying() ? Plain(u"दूध प्रकार नोंदीचाच ठेवा : दुसरा सेव्ह होत नाही")
-                                     : Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
-    cmdDelete.SetGuide(IsDeleting() ? Plain(u"हा क्रमांक या वेळेच्या सर्व दिवसांतून खोडला जाईल") : Caption());
+    txtMemberNo.SetGuide(Modes.IsNew() ? Plain(u"F5 : मेम्बरचे आतापर्यंतचे संकलन")
+                                       : Plain(u"नोंद शोधा : मेम्बर, दिनांक, वेळ, संकलन क्रमांक"));
+    txtCollectionNo.SetGuide(Modes.IsNew() ? Plain(u"1 ते 32766") : Plain(u"Enter : ही नोंद"));
+    txtAnimal.SetGuide(Modes.IsModify() ? Plain(u"दूध प्रकार नोंदीचाच ठेवा : दुसरा सेव्ह होत नाही")
+                                        : Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
+    cmdDelete.SetGuide(Modes.IsDelete() ? Plain(u"हा क्रमांक या वेळेच्या सर्व दिवसांतून खोडला जाईल") : Caption());
 }
 
 void frmDailyCollection::ShowIdle()
 {
-    cmdAdd.SetCaption(Shivaji(u"&navaIna"));
-    cmdModify.SetCaption(Shivaji(u"ba&dla"));
-    cmdDelete.SetCaption(Shivaji(u"&KaoDNao..."));
-    SetTitle(Shivaji(IdleTitle));
-    for (Button* button : {&cmdAdd, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit})
-        button->SetEnabled(true);
-    for (Field* field : Fields())
-        field->SetEnabled(false);
+    Modes.Rest();
     cmdDelete.SetGuide({});
     ShowList(false);
     ClearFields();
@@ -157,8 +140,9 @@ void frmDailyCollection::cmdCancel_Click()
 
 void frmDailyCollection::cmdAdd_Click()
 {
-    if (!IsAdding()) {
-        EnterState(cmdAdd, u"&saovh", ModeTitles::New);
+    if (!Modes.IsNew()) {
+        Modes.EnterNew();
+        BeginState();
         return;
     }
     if (HasMissing())
@@ -205,8 +189,9 @@ void frmDailyCollection::ShowNextNumber()
 
 void frmDailyCollection::cmdModify_Click()
 {
-    if (!IsModifying()) {
-        EnterState(cmdModify, u"&saovh", ModeTitles::Modify);
+    if (!Modes.IsModify()) {
+        Modes.EnterModify();
+        BeginState();
         return;
     }
     if (HasMissing())
@@ -228,8 +213,9 @@ QString frmDailyCollection::UpdateStatement() const
 
 void frmDailyCollection::cmdDelete_Click()
 {
-    if (!IsDeleting()) {
-        EnterState(cmdDelete, u"&KaoDa", ModeTitles::Delete);
+    if (!Modes.IsDelete()) {
+        Modes.EnterDelete();
+        BeginState();
         return;
     }
     if (HasMissing())

@@ -67,7 +67,7 @@ frmDailyCollection::Missing frmDailyCollection::Unfinished()
 {
     if (!txtMemberNo.HoldsNumber())
         return {&txtMemberNo, WithWayOut(u"मेम्बर नंबर टाका")};
-    if (IsAdding() && cmbMemberName.IsEmpty())
+    if (Modes.IsNew() && cmbMemberName.IsEmpty())
         return {&cmbMemberName, WithWayOut(u"नाव टाका, किंवा ↓ ने यादीतून निवडा")};
     if (!MasKCollectionDate.HoldsDate())
         return {&MasKCollectionDate, Wanted::Date()};
@@ -75,11 +75,11 @@ frmDailyCollection::Missing frmDailyCollection::Unfinished()
         return {&cmbCollectionTime, Wanted::Shift()};
     if (const Missing number = UnfinishedNumber(); number.field)
         return number;
-    if (IsDeleting())
+    if (Modes.IsDelete())
         return {};
     if (txtAnimal.IsEmpty())
         return {&txtAnimal, Wanted::Animal()};
-    if (const Missing figure = IsAdding() ? UnfinishedFigure() : Missing(); figure.field)
+    if (const Missing figure = Modes.IsNew() ? UnfinishedFigure() : Missing(); figure.field)
         return figure;
     if (Priced() == PricedFor)
         return {};
@@ -89,11 +89,11 @@ frmDailyCollection::Missing frmDailyCollection::Unfinished()
 // A new row has a number of its own day and shift: leaving the shift shows it.
 frmDailyCollection::Missing frmDailyCollection::UnfinishedNumber()
 {
-    if (IsAdding() && DayAndShift() != NumberedFor)
+    if (Modes.IsNew() && DayAndShift() != NumberedFor)
         return {&cmbCollectionTime, Plain(u"दिनांक किंवा वेळ बदलली : Enter ने नवा क्रमांक, मग सेव्ह")};
     if (!txtCollectionNo.HoldsNumber())
         return {&txtCollectionNo, WithWayOut(u"संकलन क्रमांक टाका")};
-    if (!IsAdding())
+    if (!Modes.IsNew())
         return IsRowShown ? Missing() : Missing{&txtCollectionNo, Plain(u"Enter ने नोंद पाहा, मग पुढे")};
     const double number = txtCollectionNo.Value();
     const bool isOfASeries = number >= 1 && number <= HighestNumber && number == std::trunc(number);
@@ -125,7 +125,7 @@ void frmDailyCollection::ShowOrHideList()
 {
     if (IsListShown())
         ShowList(false);
-    else if (IsAdding())
+    else if (Modes.IsNew())
         OpenList();
 }
 
@@ -210,7 +210,7 @@ void frmDailyCollection::cmbCollectionTime_LostFocus()
 {
     if (!IsShift(cmbCollectionTime.Text()))
         cmbCollectionTime.SetFocus(Wanted::Shift());
-    else if (IsAdding() && MasKCollectionDate.InsistOnDate(Wanted::Date()))
+    else if (Modes.IsNew() && MasKCollectionDate.InsistOnDate(Wanted::Date()))
         ShowNextNumber();
 }
 
@@ -225,7 +225,7 @@ void frmDailyCollection::txtCollectionNo_LostFocus()
 {
     const bool isPicked = std::exchange(IsPicked, false);
     const bool isSeen = IsRowShown;
-    if ((IsAdding() && !isPicked) || !MasKCollectionDate.InsistOnDate(Wanted::Date()))
+    if ((Modes.IsNew() && !isPicked) || !MasKCollectionDate.InsistOnDate(Wanted::Date()))
         return;
     const Recordset row(gCn,
         Sql(u"SELECT * FROM MilkCollections WHERE CollectionNo=", txtCollectionNo.Value(), u" AND MemberNo=",
@@ -234,9 +234,9 @@ void frmDailyCollection::txtCollectionNo_LostFocus()
         ShowRow(row);
         if (!isSeen && (GoingTo() == &cmdModify || GoingTo() == &cmdDelete))
             txtCollectionNo.SetFocus(Plain(u"नोंद पाहा, मग पुन्हा दाबा")); // one look before it is written
-        else if (IsDeleting() && !IsSteppingBack())
+        else if (Modes.IsDelete() && !IsSteppingBack())
             cmdDelete.SetFocus();
-    } else if (!IsAdding()) {
+    } else if (!Modes.IsNew()) {
         ShowNotice(Shivaji(u"saMklana naM tpasaa."));
         cmdCancel_Click();
     }

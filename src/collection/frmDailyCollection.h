@@ -6,6 +6,7 @@
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
 #include "society/Fields.h"
+#include "society/RecordModes.h"
 #include "society/SocietyScreen.h"
 
 // The deliveries of one member, day after day: for keying a paper register, and for mending a row. It writes
@@ -38,6 +39,8 @@ private:
     Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmDailyCollection::cmdExit_Click};
     DataGrid DataGrid1;
 
+    RecordModes Modes;
+
     QWidget* Frame1 = nullptr; // holds DataGrid1
     bool IsRowShown = false; // the fields show a row of the books
     bool IsPicked = false; // the number comes from the member's list, and its row is to be shown
@@ -69,10 +72,7 @@ private:
     void DataGrid1_Click();
 
     // States
-    bool IsAdding() const { return cmdAdd.Reads(u"&saovh"); }
-    bool IsModifying() const { return cmdModify.Reads(u"&saovh"); }
-    bool IsDeleting() const { return cmdDelete.Reads(u"&KaoDa"); }
-    void EnterState(Button& button, QStringView caption, QStringView title);
+    void BeginState();
     void SetGuides();
     void ShowIdle();
     void ClearFields();

@@ -5,7 +5,7 @@
 #include "masters/MemberClosing.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
-#include "society/ModeTitles.h"
+#include "society/Queries.h"
 
 namespace {
 
@@ -35,8 +35,12 @@ frmMembers::frmMembers()
     , txtOpeningDorC(this, "txtOpeningDorC",
           {{u'1', Direction::Payable.toString()}, {u'2', Direction::Due.toString()}},
           &frmMembers::txtOpeningDorC_LostFocus)
+    , Modes(*this, IdleTitle, {cmdNew, cmdModify, cmdDelete, cmdCancel, cmdExit})
 {
-    cmdCancel.SetCancels(true);
+    Modes.SetFields({&txtMemberNo, &ComboMemberName},
+        {&txtAddress, &ComboCity, &txtAnimal, &txtPaymentType, &ComboBankName, &txtBankAccountNo,
+            &txtOpeningBalance, &txtOpeningDorC, &txtCowOpeningLits, &txtBuffOpeningLits, &txtOpeningUchal,
+            &txtCowOpeningThev, &txtBuffOpeningThev});
     LayOut();
 }
 
@@ -55,50 +59,24 @@ void frmMembers::Escape()
 
 // Modes
 
-void frmMembers::EnterMode(Button& mode, const Caption& caption, QStringView title)
-{
-    mode.SetCaption(caption);
-    SetTitle(Shivaji(QString(IdleTitle % title)));
-    for (Button* button : {&cmdNew, &cmdModify, &cmdDelete, &cmdExit})
-        button->SetEnabled(button == &mode);
-    cmdCancel.SetEnabled(true);
-    ClearFields();
-    for (Control* field : EntryFields())
-        field->SetEnabled(&mode != &cmdDelete || field == &txtMemberNo || field == &ComboMemberName);
-}
-
+// Cancel has nothing to cancel at rest, and without a member there is nothing to change or delete.
 void frmMembers::ShowIdle()
 {
-    cmdNew.SetCaption(Shivaji(u"&navaIna"));
-    cmdModify.SetCaption(Shivaji(u"ba&dla"));
-    cmdDelete.SetCaption(Shivaji(u"&KaoDNao"));
-    SetTitle(Shivaji(IdleTitle));
-
-    const bool hasMembers = !Recordset(gCn, QStringLiteral("SELECT * FROM MembersMaster")).Eof();
+    Modes.Rest();
+    cmdCancel.SetEnabled(false);
+    const bool hasMembers = Finds(QStringLiteral("SELECT * FROM MembersMaster"));
     for (Button* button : {&cmdModify, &cmdDelete})
         button->SetEnabled(hasMembers);
-    for (Button* button : {&cmdNew, &cmdExit})
-        button->SetEnabled(true);
-    cmdCancel.SetEnabled(false);
-    for (Control* field : EntryFields())
-        field->SetEnabled(false);
     ClearFields();
 }
 
 // The focus waits on the button of the mode that was left, so that Enter begins the next record.
 void frmMembers::ReturnToIdle()
 {
-    Button& mode = IsModify() ? cmdModify : IsDelete() ? cmdDelete : cmdNew;
+    Button& mode = Modes.Open();
     ShowIdle();
     LoadLists();
     (mode.CanTakeFocus() ? mode : cmdNew).SetFocus();
-}
-
-std::vector<Control*> frmMembers::EntryFields()
-{
-    return {&txtMemberNo, &ComboMemberName, &txtAddress, &ComboCity, &txtAnimal, &txtPaymentType,
-        &ComboBankName, &txtBankAccountNo, &txtOpeningBalance, &txtOpeningDorC, &txtCowOpeningLits,
-        &txtBuffOpeningLits, &txtOpeningUchal, &txtCowOpeningThev, &txtBuffOpeningThev};
 }
 
 void frmMembers::ClearFields()
@@ -120,16 +98,13 @@ void frmMembers::ClearFields()
 
 void frmMembers::cmdNew_Click()
 {
-    if (IsNew())
+    if (Modes.IsNew()) {
         SaveNew();
-    else
-        StartNew();
-}
-
-void frmMembers::StartNew()
-{
+        return;
+    }
     const int next = NextMemberNo();
-    EnterMode(cmdNew, Shivaji(u"&saovh"), ModeTitles::New);
+    Modes.EnterNew();
+    ClearFields();
     txtMemberNo.Show(next);
     txtMemberNo.SetFocus();
 }
@@ -147,15 +122,12 @@ void frmMembers::SaveNew()
 
 void frmMembers::cmdModify_Click()
 {
-    if (IsModify())
+    if (Modes.IsModify()) {
         SaveModified();
-    else
-        StartModify();
-}
-
-void frmMembers::StartModify()
-{
-    EnterMode(cmdModify, Shivaji(u"&saovh"), ModeTitles::Modify);
+        return;
+    }
+    Modes.EnterModify();
+    ClearFields();
     txtMemberNo.SetFocus();
 }
 
@@ -175,15 +147,12 @@ void frmMembers::SaveModified()
 
 void frmMembers::cmdDelete_Click()
 {
-    if (IsDelete())
+    if (Modes.IsDelete()) {
         DeleteFound();
-    else
-        StartDelete();
-}
-
-void frmMembers::StartDelete()
-{
-    EnterMode(cmdDelete, Shivaji(u"&KaoDa"), ModeTitles::Delete);
+        return;
+    }
+    Modes.EnterDelete();
+    ClearFields();
     txtMemberNo.SetFocus();
 }
 

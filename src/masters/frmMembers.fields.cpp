@@ -37,21 +37,21 @@ void frmMembers::Hold(Field& field)
 
 void frmMembers::txtMemberNo_LostFocus()
 {
-    if (IsNew() && !txtMemberNo.HoldsNumber()) {
+    if (Modes.IsNew() && !txtMemberNo.HoldsNumber()) {
         Refuse(txtMemberNo, u"maombar naMbar vyavaisqat Ta[-p kra");
         return;
     }
     if (txtMemberNo.IsEmpty())
         return; // the name will tell the member
     const Recordset member = MemberOfNumber(MemberNo());
-    if (IsNew()) {
+    if (Modes.IsNew()) {
         if (!member.Eof())
             Refuse(txtMemberNo, u"yaa maombar naMbarcao roka^D- Agaaodrca Aaho");
     } else if (member.Eof()) {
         Refuse(txtMemberNo, u"yaa maombar naMbarcao roka^D- ]plabQa naahI");
     } else {
         LoadRecord(member);
-        if (IsDelete() && !IsSteppingBack())
+        if (Modes.IsDelete() && !IsSteppingBack())
             cmdDelete.SetFocus();
     }
 }
@@ -64,13 +64,13 @@ void frmMembers::ComboMemberName_LostFocus()
         return;
     }
     const Recordset member =
-        IsNew() ? MemberOfName(ComboMemberName) : MemberOfName(ComboMemberName, MemberNo());
+        Modes.IsNew() ? MemberOfName(ComboMemberName) : MemberOfName(ComboMemberName, MemberNo());
     if (member.Eof()) {
-        if (!IsNew() && txtMemberNo.IsEmpty())
+        if (!Modes.IsNew() && txtMemberNo.IsEmpty())
             Hold(ComboMemberName);
-    } else if (IsNew()) {
+    } else if (Modes.IsNew()) {
         Refuse(ComboMemberName, u"yaa naavaacao roka^D- Agaaodrca Aaho");
-    } else if (IsDelete()) {
+    } else if (Modes.IsDelete()) {
         LoadRecord(member);
         if (!IsSteppingBack())
             cmdDelete.SetFocus();
@@ -218,5 +218,5 @@ void frmMembers::txtBuffOpeningThev_LostFocus()
 void frmMembers::ToSaveButton()
 {
     if (!IsSteppingBack())
-        (IsNew() ? cmdNew : cmdModify).SetFocus();
+        (Modes.IsNew() ? cmdNew : cmdModify).SetFocus();
 }

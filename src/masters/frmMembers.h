@@ -4,6 +4,7 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/NameCombo.h"
 #include "society/Fields.h"
+#include "society/RecordModes.h"
 #include "society/SocietyScreen.h"
 
 #include <vector>
@@ -55,6 +56,8 @@ private:
     Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_"), &frmMembers::cmdCancel_Click};
     Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmMembers::cmdExit_Click};
 
+    RecordModes Modes;
+
     // The last record read. A new member is written with the account of the last one.
     double AccountId = 0;
     QString OldName;
@@ -69,13 +72,8 @@ private:
     void SetGuides();
 
     // Modes
-    bool IsNew() const { return cmdNew.Reads(u"&saovh"); }
-    bool IsModify() const { return cmdModify.Reads(u"&saovh"); }
-    bool IsDelete() const { return cmdDelete.Reads(u"&KaoDa"); }
-    void EnterMode(Button& mode, const Caption& caption, QStringView title);
     void ShowIdle();
     void ReturnToIdle();
-    std::vector<Control*> EntryFields();
     void ClearFields();
 
     void cmdNew_Click();
@@ -83,11 +81,8 @@ private:
     void cmdDelete_Click();
     void cmdCancel_Click();
 
-    void StartNew();
     void SaveNew();
-    void StartModify();
     void SaveModified();
-    void StartDelete();
     void DeleteFound();
 
     // Leaving the fields

@@ -68,7 +68,7 @@ void frmMembers::LoadRecord(const Recordset& member)
     CowClosingLoaded = member[u"CowClosingLits"].Number();
     BuffOpeningLoaded = member[u"BuffOpeningLits"].Number();
     BuffClosingLoaded = member[u"BuffClosingLits"].Number();
-    if (IsModify())
+    if (Modes.IsModify())
         EnableFiguresOfAnimal();
 }
 
