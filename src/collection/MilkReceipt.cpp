@@ -32,8 +32,8 @@ void MilkReceipt::Prepare()
 {
     if (Setting(u"PrintStatus") == u"naahI")
         return;
-    CounterReport slip;
-    slip.SetReportFileName(ReceiptLayoutOf(Setting(u"ReceiptType")).counterTemplate);
+    TemplateReport slip;
+    slip.SetTemplate(ReceiptLayoutOf(Setting(u"ReceiptType")).counterTemplate);
     slip.Prepare();
 }
 
@@ -45,11 +45,11 @@ void MilkReceipt::PrintReceipt(QStringView printerButton)
     // An unknown type leaves the template of the slip before.
     const ReceiptLayout layout = ReceiptLayoutOf(Setting(u"ReceiptType"));
     if (!layout.counterTemplate.isEmpty())
-        CRMilkReceipt.SetReportFileName(layout.counterTemplate);
+        CRMilkReceipt.SetTemplate(layout.counterTemplate);
     if (printStatus == u"f@t sËIna")
-        CRMilkReceipt.SetDestination(CounterReport::Destination::Window);
+        CRMilkReceipt.SetDestination(ReportDestination::Window);
     else if (printStatus == u"haoya")
-        CRMilkReceipt.SetDestination(CounterReport::Destination::Printer);
+        CRMilkReceipt.SetDestination(ReportDestination::Printer);
     gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
     CRMilkReceipt.SetSubject(Subject());
     CRMilkReceipt.Print();

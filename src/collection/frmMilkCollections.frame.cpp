@@ -190,7 +190,7 @@ void frmMilkCollections::Command1_Click()
     gCn.Execute(QStringLiteral("Delete * From MilkCollectionsTemp where companyId=0"));
     gCn.Execute(QStringLiteral("Delete * From ReportDates Where CompanyId=0"));
     staging.Commit();
-    CRMilkPayments.SetReportFileName(u"MilkPSReport.rpt");
+    CRMilkPayments.SetTemplate(u"MilkPSReport.rpt");
     CRMilkPayments.SetSubject(ReportSubject({cmbAccountName.Text()}, maskFromDate.Date(), maskToDate.Date()));
     CRMilkPayments.Print();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "collection/CounterReport.h"
 #include "collection/CounterScreen.h"
+#include "core/preview/TemplateReport.h"
 #include "society/Fields.h"
 
 class QStackedLayout;
@@ -47,7 +47,7 @@ private:
         this, "Command3", Shivaji(u"dUQa saMklana nasaNaaro saBaasad"), &frmMilkCollections::Command3_Click};
     DataGrid DataGridMilk;
 
-    CounterReport CRMilkPayments;
+    TemplateReport CRMilkPayments;
     QStackedLayout* m_views; // the list of the shift, and FrameMilkCollection over it
     QStackedLayout* m_keys; // the strips of keys of both
     bool IsFrameOpen = false;

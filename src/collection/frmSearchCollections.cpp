@@ -233,7 +233,7 @@ void frmSearchCollections::cmdGo_Click()
     if (!StageReprint(number))
         return;
     ChooseTemplate();
-    CRMilkReceipt.SetDestination(CounterReport::Destination::Window);
+    CRMilkReceipt.SetDestination(ReportDestination::Window);
     gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
     staging.Commit();
     CRMilkReceipt.SetSubject(MilkReceipt::Subject());
@@ -265,5 +265,5 @@ bool frmSearchCollections::StageReprint(double number)
 void frmSearchCollections::ChooseTemplate()
 {
     if (const QString path = ReprintTemplate(Setting(u"ReceiptType")); !path.isEmpty())
-        CRMilkReceipt.SetReportPath(path);
+        CRMilkReceipt.SetTemplatePath(path);
 }

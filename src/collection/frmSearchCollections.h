@@ -1,7 +1,7 @@
 #pragma once
 
-#include "collection/CounterReport.h"
 #include "collection/Deliveries.h"
+#include "core/preview/TemplateReport.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
@@ -29,7 +29,7 @@ private:
     DataGrid DataGridInwards;
     Button cmdGo{this, "cmdGo", Plain(u"&Print"), &frmSearchCollections::cmdGo_Click};
 
-    CounterReport CRMilkReceipt;
+    TemplateReport CRMilkReceipt;
 
     void Load() override;
 

@@ -1,6 +1,7 @@
 #include "reports/frmReportMembersList.h"
 
 #include "core/preview/ReportSubject.h"
+#include "core/preview/TemplateReport.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
@@ -128,5 +129,7 @@ void frmReportMembersList::cmdReport_Click()
         StageMilk();
     ReportRun::Tidy(u"MembersListReport");
     staging.Commit();
-    ReportRun::Show(u"ReportListMembers.rpt", Subject());
+    TemplateReport report(u"ReportListMembers.rpt");
+    report.SetSubject(Subject());
+    report.Print();
 }

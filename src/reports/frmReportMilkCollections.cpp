@@ -2,6 +2,7 @@
 
 #include "core/messages/Messages.h"
 #include "core/preview/ReportSubject.h"
+#include "core/preview/TemplateReport.h"
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
@@ -111,5 +112,7 @@ void frmReportMilkCollections::cmdReport_Click()
     ReportRun::StageDates(MaskUserDate.Text(), MaskUserDate.Text());
     ReportRun::Tidy(u"MilkCollectionsTemp");
     staging.Commit();
-    ReportRun::Show(u"MilkCollectionsReport.rpt", Subject());
+    TemplateReport report(u"MilkCollectionsReport.rpt");
+    report.SetSubject(Subject());
+    report.Print();
 }

@@ -1,10 +1,10 @@
 #include "reports/frmReportMilkPS.h"
 
 #include "core/preview/ReportSubject.h"
+#include "core/preview/TemplateReport.h"
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
 #include "reports/MilkStatement.h"
-#include "reports/ReportRun.h"
 #include "society/FieldRoutines.h"
 #include "society/Wanted.h"
 
@@ -79,6 +79,7 @@ void frmReportMilkPS::cmdReport_Click()
     MilkStatement::Stage(
         {OptionSales.Chosen() ? MilkStatement::Kind::Sales : MilkStatement::Kind::Collections,
             ComboAccountName.Text().trimmed(), maskFromDate.Date(), maskToDate.Date()});
-    ReportRun::Show(u"MilkPSReport.rpt",
-        ReportSubject({ComboAccountName.Text()}, maskFromDate.Date(), maskToDate.Date()));
+    TemplateReport report(u"MilkPSReport.rpt");
+    report.SetSubject(ReportSubject({ComboAccountName.Text()}, maskFromDate.Date(), maskToDate.Date()));
+    report.Print();
 }

@@ -1,8 +1,8 @@
 #include "reports/frmReportPaymentList.h"
 
 #include "core/preview/ReportSubject.h"
+#include "core/preview/TemplateReport.h"
 #include "platform/database/Sql.h"
-#include "reports/ReportRun.h"
 #include "society/Wanted.h"
 
 namespace {
@@ -49,7 +49,10 @@ QString frmReportPaymentList::SelectionFormula(const QString& date)
 
 void frmReportPaymentList::cmdReport_Click()
 {
-    if (MaskFromDate.InsistOnDate(Wanted::Date()))
-        ReportRun::Show(Option1.Chosen() ? u"CashMilkPayment.rpt" : u"BankMilkPayment.rpt",
-            ReportSubject({}, MaskFromDate.Date()), SelectionFormula(MaskFromDate.Text()));
+    if (!MaskFromDate.InsistOnDate(Wanted::Date()))
+        return;
+    TemplateReport report(Option1.Chosen() ? u"CashMilkPayment.rpt" : u"BankMilkPayment.rpt");
+    report.SetSubject(ReportSubject({}, MaskFromDate.Date()));
+    report.SetSelectionFormula(SelectionFormula(MaskFromDate.Text()));
+    report.Print();
 }

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "core/preview/TemplateReport.h"
 #include "platform/database/Recordset.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/ChoiceCombo.h"
 #include "platform/forms/OptionButton.h"
 #include "platform/forms/TabPages.h"
-#include "platform/report/ReportControl.h"
 #include "society/Fields.h"
 #include "society/SocietyScreen.h"
 
@@ -69,7 +69,7 @@ private:
     // It stands beside ComboReceipt, and last in the tab order: Enter behind the choice of a layout goes on.
     Button cmdReceipt{this, "cmdReceipt", Shivaji(u"pavatI p`kar"), &frmAutoSettings::cmdReceipt_Click};
 
-    ReportControl CRMilkReceipt;
+    TemplateReport CRMilkReceipt;
 
     void LayOut();
     QLayout* CollectionPage();

@@ -2,7 +2,6 @@
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
-#include "platform/shell/AppFolder.h"
 #include "platform/text/Numbers.h"
 #include "society/ReceiptLayouts.h"
 
@@ -133,13 +132,8 @@ void frmAutoSettings::cmdReceipt_Click()
     gCn.Execute(u"insert into MilkReceipt select * from MRView");
     gCn.Execute(Sql(u"update MilkReceipt set CompanyId=", gAppState.gCompanyId));
     if (const ReceiptLayout layout = ReceiptLayoutOf(ComboReceipt.Text()); !layout.type.isEmpty())
-        CRMilkReceipt.SetReportFileName(AppFolder.toString() + layout.sampleTemplate);
+        CRMilkReceipt.SetTemplate(layout.sampleTemplate);
     gCn.Execute(u"delete * from MilkReceipt where CompanyId=0");
     staging.Commit();
-    if (CRMilkReceipt.ReportFileName().isEmpty()) {
-        TellNoTemplate();
-        return;
-    }
-    CRMilkReceipt.SetLogon(Logon());
     CRMilkReceipt.Print();
 }
