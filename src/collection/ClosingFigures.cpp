@@ -3,6 +3,7 @@
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
+#include "society/Words.h"
 
 void PostClosingBalance(QStringView name, double amount, PostAction action)
 {
@@ -48,8 +49,8 @@ void RefreshClosingLitres(double memberNo)
             buff = static_cast<float>(opening[u"BuffOpeningLits"].Number());
         }
     }
-    cow += SumOfLitres(u"CowLiters", u"gaaya", memberNo);
-    buff += SumOfLitres(u"BuffLiters", u"mhOsa", memberNo);
+    cow += SumOfLitres(u"CowLiters", Word::Cow, memberNo);
+    buff += SumOfLitres(u"BuffLiters", Word::Buffalo, memberNo);
     gCn.Execute(Sql(u"Update MembersMaster Set CowClosingLits=", cow, u",BuffClosingLits=", buff,
         u" where CompanyId=", company, u" And Memberno=", memberNo));
 }

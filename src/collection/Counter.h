@@ -1,10 +1,6 @@
 #pragma once
 
-#include "platform/forms/Field.h"
-#include "platform/forms/NameCombo.h"
-#include "platform/text/Numbers.h"
-
-#include <vector>
+#include <QStringView>
 
 // What the counters of the society have in common.
 namespace Counter {
@@ -18,14 +14,5 @@ constexpr int Twips(int twips)
 {
     return twips / 15;
 }
-
-// Whether a text is one of the two shifts of a day.
-inline bool IsShift(QStringView time)
-{
-    return time == u"sakaL" || time == u"saMQyaakaL";
-}
-
-// The names of all members with their numbers, in the order of the books.
-std::vector<NameCombo::Entry> MemberNames();
 
 }

@@ -11,6 +11,7 @@
 #include "platform/forms/ModalStack.h"
 #include "society/Names.h"
 #include "society/Wanted.h"
+#include "society/Words.h"
 
 #include <utility>
 
@@ -51,10 +52,6 @@ CounterScreen::CounterScreen(const CounterKind& kind, const Keys::Places& keys)
     NameMemberKeys();
     maskDate.SetGuide(KeyGuide(maskDate));
     txtCollectionNo.SetGuide(KeyGuide(txtCollectionNo));
-    txtTime.SetLocked(true);
-    txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
-    txtAnimal.SetLocked(true);
-    txtAnimal.SetGuide(Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
     ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
     txtLiters.SetPattern(kind.liters.field);
@@ -158,7 +155,7 @@ void CounterScreen::txtTime_LostFocus()
 {
     if (!maskDate.InsistOnDate(Wanted::Date()))
         return;
-    if (!IsShift(txtTime.Text())) {
+    if (!txtTime.HoldsShift()) {
         txtTime.SetFocus(Wanted::Shift());
         return;
     }
@@ -267,7 +264,7 @@ void CounterScreen::txtMemberNo_LostFocus()
 void CounterScreen::TakeAnimalOf(const Recordset& member)
 {
     const QString animal = member[u"Animal"].Text();
-    const bool both = animal == u"daonhI";
+    const bool both = animal == Word::Both;
     if (!both)
         txtAnimal.SetText(animal);
     txtAnimal.SetEnabled(both);

@@ -9,6 +9,7 @@
 #include "rates/LookupFatRate.h"
 #include "society/Queries.h"
 #include "society/Wanted.h"
+#include "society/Words.h"
 
 #include <utility>
 
@@ -52,7 +53,7 @@ void CounterScreen::txtLiters_LostFocus()
         ComboMemberName.SetFocus(Wanted::Name());
         return;
     }
-    if (txtAnimal.Text() != u"gaaya" && txtAnimal.Text() != u"mhOsa")
+    if (!IsAnimal(txtAnimal.Text()))
         return;
     if (txtLiters.Reformat() == 0 && !IsSwitchingOff(cmdAutoLiter, gAppState.gAutoLiters, txtLiters))
         txtLiters.SetFocus(Plain(u"लिटर टाका    Esc : बाहेर"));
@@ -61,7 +62,7 @@ void CounterScreen::txtLiters_LostFocus()
 void CounterScreen::txtFat_GotFocus()
 {
     const bool refused = std::exchange(FatRefused, false);
-    if (Setting(u"AutoFat") == u"naahI" && !IsExistingRow && !refused)
+    if (Setting(u"AutoFat") == Word::No && !IsExistingRow && !refused)
         OfferLastFat();
     if (DeviceSwitch::IsOn(gAppState.gAutoFat))
         ReadFat();

@@ -63,15 +63,11 @@ protected:
     Label lblAvgBuffFat{this, "lblAvgBuffFat"};
 
     DateField maskDate{this, "maskDate", &CounterScreen::maskDate_LostFocus};
-    ChoiceField txtTime{this, "txtTime",
-        {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}},
-        &CounterScreen::txtTime_LostFocus};
+    ShiftField txtTime{this, "txtTime", &CounterScreen::txtTime_LostFocus};
     WholeField txtCollectionNo{this, "txtCollectionNo", &CounterScreen::txtCollectionNo_LostFocus};
     WholeField txtMemberNo{this, "txtMemberNo", &CounterScreen::txtMemberNo_LostFocus};
     NameCombo ComboMemberName{this, "ComboMemberName", &CounterScreen::ComboMemberName_LostFocus};
-    ChoiceField txtAnimal{this, "txtAnimal",
-        {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}},
-        &CounterScreen::txtAnimal_LostFocus};
+    AnimalField txtAnimal{this, "txtAnimal", &CounterScreen::txtAnimal_LostFocus};
     LitresField txtLiters{this, "txtLiters", &CounterScreen::txtLiters_LostFocus};
     FatField txtFat{this, "txtFat", &CounterScreen::txtFat_LostFocus};
     RateField txtRate{this, "txtRate", &CounterScreen::txtRate_LostFocus};

@@ -2,15 +2,12 @@
 
 #include "collection/CounterScreen.h"
 #include "collection/ActualTime.h"
-#include "collection/Counter.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "society/Names.h"
 #include "society/Queries.h"
 
 #include <utility>
-
-using namespace Counter;
 
 namespace {
 

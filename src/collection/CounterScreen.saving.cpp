@@ -2,7 +2,6 @@
 
 #include "collection/CounterScreen.h"
 #include "collection/ClosingFigures.h"
-#include "collection/Counter.h"
 #include "core/menu/ScreenDirectory.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
@@ -11,8 +10,7 @@
 #include "platform/database/Transaction.h"
 #include "platform/forms/ModalStack.h"
 #include "society/Queries.h"
-
-using namespace Counter;
+#include "society/Words.h"
 
 void CounterScreen::cmdGo_Click()
 {
@@ -22,7 +20,7 @@ void CounterScreen::cmdGo_Click()
         txtCollectionNo.SetFocus(Plain(u"रक्कम किंवा मेम्बर नाही : काहीही सेव्ह झाले नाही"));
         return;
     }
-    if (Setting(u"RepeatCollection") == u"naahI" && IsSecondDelivery()) {
+    if (Setting(u"RepeatCollection") == Word::No && IsSecondDelivery()) {
         txtAnimal.SetEnabled(true);
         ShowPlain(QStringLiteral("Duplicate Record"));
         txtCollectionNo.SetFocus();
@@ -75,9 +73,9 @@ bool CounterScreen::IsSecondDelivery() const
 void CounterScreen::StoreNew(const Delivery& delivery)
 {
     InsertDelivery(delivery);
-    if (delivery.animal == u"gaaya")
+    if (delivery.animal == Word::Cow)
         CowLitersTaken += delivery.liters;
-    else if (delivery.animal == u"mhOsa")
+    else if (delivery.animal == Word::Buffalo)
         BuffLitersTaken += delivery.liters;
     if (Setting(u"PurchaseEntry") == u"Collection")
         PostClosingBalance(delivery.memberName, delivery.amount, PostAction::Add);

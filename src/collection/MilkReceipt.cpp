@@ -7,6 +7,7 @@
 #include "platform/text/Dates.h"
 #include "society/Queries.h"
 #include "society/ReceiptLayouts.h"
+#include "society/Words.h"
 
 void MilkReceipt::StageReceipt(const Delivery& d)
 {
@@ -30,7 +31,7 @@ QString MilkReceipt::Subject()
 
 void MilkReceipt::Prepare()
 {
-    if (Setting(u"PrintStatus") == u"naahI")
+    if (Setting(u"PrintStatus") == Word::No)
         return;
     TemplateReport slip;
     slip.SetTemplate(ReceiptLayoutOf(Setting(u"ReceiptType")).counterTemplate);
@@ -40,7 +41,7 @@ void MilkReceipt::Prepare()
 void MilkReceipt::PrintReceipt(QStringView printerButton)
 {
     const QString printStatus = Setting(u"PrintStatus");
-    if (printStatus == u"naahI" || printerButton != PrinterOn)
+    if (printStatus == Word::No || printerButton != PrinterOn)
         return;
     // An unknown type leaves the template of the slip before.
     const ReceiptLayout layout = ReceiptLayoutOf(Setting(u"ReceiptType"));
@@ -48,7 +49,7 @@ void MilkReceipt::PrintReceipt(QStringView printerButton)
         CRMilkReceipt.SetTemplate(layout.counterTemplate);
     if (printStatus == u"f@t sËIna")
         CRMilkReceipt.SetDestination(ReportDestination::Window);
-    else if (printStatus == u"haoya")
+    else if (printStatus == Word::Yes)
         CRMilkReceipt.SetDestination(ReportDestination::Printer);
     gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
     CRMilkReceipt.SetSubject(Subject());

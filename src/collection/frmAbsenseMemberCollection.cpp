@@ -1,6 +1,5 @@
 #include "collection/frmAbsenseMemberCollection.h"
 
-#include "collection/Counter.h"
 #include "collection/CounterPieces.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
@@ -15,7 +14,6 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-using namespace Counter;
 using namespace CounterPieces;
 
 namespace {
@@ -55,8 +53,6 @@ frmAbsenseMemberCollection::frmAbsenseMemberCollection()
     , DataGridMembers(this, "DataGridMembers", MemberColumns())
 {
     When(MaskDate.GotFocus, &frmAbsenseMemberCollection::MaskDate_GotFocus);
-    txtTime.SetLocked(true);
-    txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     Command1.SetGuide(Plain(u"Enter : यादी"));
     LayOut();
 }
@@ -93,7 +89,7 @@ bool frmAbsenseMemberCollection::HoldShift()
 {
     if (!MaskDate.InsistOnDate(Wanted::Date()))
         return false;
-    const bool isShift = IsShift(txtTime.Text());
+    const bool isShift = txtTime.HoldsShift();
     if (!isShift)
         txtTime.SetFocus(Wanted::Shift());
     return isShift;

@@ -4,6 +4,7 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
+#include "society/Fields.h"
 #include "society/SocietyScreen.h"
 
 // The members who brought milk to a shift the day before and none to it today.
@@ -17,9 +18,7 @@ private:
     Label Label28{this, "Label28", Shivaji(u"Aaja dUQa saMklana nasaNaaáyaaMcaI naavao")};
 
     DateField MaskDate{this, "MaskDate", &frmAbsenseMemberCollection::MaskDate_LostFocus};
-    ChoiceField txtTime{this, "txtTime",
-        {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}},
-        &frmAbsenseMemberCollection::txtTime_LostFocus};
+    ShiftField txtTime{this, "txtTime", &frmAbsenseMemberCollection::txtTime_LostFocus};
     Button Command1{this, "Command1", Plain(u">>"), &frmAbsenseMemberCollection::Command1_Click};
     DataGrid DataGridMembers;
 

@@ -1,14 +1,11 @@
 #include "collection/frmCollectionGate.h"
 
-#include "collection/Counter.h"
 #include "core/menu/Keys.h"
 #include "core/menu/ScreenDirectory.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/text/Shivaji01.h"
-
-using namespace Counter;
 
 Keys::Places frmCollectionGate::KeyPlaces()
 {

@@ -1,6 +1,5 @@
 #include "collection/frmDailyCollection.h"
 
-#include "collection/Counter.h"
 #include "core/menu/Keys.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
@@ -8,10 +7,9 @@
 #include "platform/database/Transaction.h"
 #include "society/FieldRoutines.h"
 #include "society/Queries.h"
+#include "society/Words.h"
 
 #include <QKeyEvent>
-
-using namespace Counter;
 
 namespace {
 
@@ -70,7 +68,6 @@ frmDailyCollection::frmDailyCollection()
     When(txtAmount.TextChanged, &frmDailyCollection::txtAmount_Change);
     When(DataGrid1.Click, &frmDailyCollection::DataGrid1_Click);
     cmbCollectionTime.KeyDown = [this](const QKeyEvent& key) { return cmbCollectionTime_KeyDown(key); };
-    txtAnimal.SetLocked(true);
     cmbCollectionTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     cmbMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     DataGrid1.SetGuide(Plain(u"Enter : ही नोंद    F5 : यादी बंद"));
@@ -82,7 +79,7 @@ void frmDailyCollection::Load()
 {
     DataGrid1.Bind(gCn, QStringLiteral("SELECT * FROM MilkCollections WHERE CompanyId=0"));
     FillCombo(cmbMemberName, u"MembersMaster", u"MemberName", u"ORDER BY MemberName");
-    cmbCollectionTime.SetItems({QStringLiteral("sakaL"), QStringLiteral("saMQyaakaL")});
+    cmbCollectionTime.SetItems({Word::Morning.toString(), Word::Evening.toString()});
     ShowIdle();
 }
 
@@ -106,8 +103,8 @@ void frmDailyCollection::SetGuides()
     txtMemberNo.SetGuide(Modes.IsNew() ? Plain(u"F5 : मेम्बरचे आतापर्यंतचे संकलन")
                                        : Plain(u"नोंद शोधा : मेम्बर, दिनांक, वेळ, संकलन क्रमांक"));
     txtCollectionNo.SetGuide(Modes.IsNew() ? Plain(u"1 ते 32766") : Plain(u"Enter : ही नोंद"));
-    txtAnimal.SetGuide(Modes.IsModify() ? Plain(u"दूध प्रकार नोंदीचाच ठेवा : दुसरा सेव्ह होत नाही")
-                                        : Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
+    txtAnimal.SetGuide(
+        Modes.IsModify() ? Plain(u"दूध प्रकार नोंदीचाच ठेवा : दुसरा सेव्ह होत नाही") : AnimalField::UsualGuide());
     cmdDelete.SetGuide(Modes.IsDelete() ? Plain(u"हा क्रमांक या वेळेच्या सर्व दिवसांतून खोडला जाईल") : Caption());
 }
 

@@ -9,6 +9,7 @@
 #include "rates/LookupFatRate.h"
 #include "society/Names.h"
 #include "society/Wanted.h"
+#include "society/Words.h"
 
 #include <QKeyEvent>
 
@@ -160,7 +161,7 @@ void frmDailyCollection::txtMemberNo_LostFocus()
 void frmDailyCollection::TakeMember(const Recordset& member)
 {
     cmbMemberName.SetEntry({member[u"MemberName"].Text(), ShortestDecimal(txtMemberNo.Value())});
-    if (const QString animal = member[u"Animal"].Text(); animal != u"daonhI")
+    if (const QString animal = member[u"Animal"].Text(); animal != Word::Both)
         txtAnimal.SetText(animal);
 }
 
@@ -200,8 +201,7 @@ bool frmDailyCollection::cmbCollectionTime_KeyDown(const QKeyEvent& key)
 {
     if (key.modifiers().testFlag(Qt::AltModifier) || (key.key() != Qt::Key_1 && key.key() != Qt::Key_2))
         return false;
-    cmbCollectionTime.SetText(
-        key.key() == Qt::Key_1 ? QStringLiteral("sakaL") : QStringLiteral("saMQyaakaL"));
+    cmbCollectionTime.SetText(key.key() == Qt::Key_1 ? Word::Morning.toString() : Word::Evening.toString());
     cmbCollectionTime.SelectAll();
     return true;
 }

@@ -25,9 +25,7 @@ private:
         this, "MasKCollectionDate", &frmDailyCollection::MasKCollectionDate_LostFocus};
     NameCombo cmbCollectionTime{this, "cmbCollectionTime", &frmDailyCollection::cmbCollectionTime_LostFocus};
     WholeField txtCollectionNo{this, "txtCollectionNo", &frmDailyCollection::txtCollectionNo_LostFocus};
-    ChoiceField txtAnimal{this, "txtAnimal",
-        {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}},
-        &frmDailyCollection::txtAnimal_LostFocus};
+    AnimalField txtAnimal{this, "txtAnimal", &frmDailyCollection::txtAnimal_LostFocus};
     LitresField txtLiters{this, "txtLiters", &frmDailyCollection::txtLiters_LostFocus};
     FatField txtFat{this, "txtFat", &frmDailyCollection::txtFat_LostFocus};
     RateField txtRate{this, "txtRate", &frmDailyCollection::txtRate_LostFocus};

@@ -1,6 +1,5 @@
 #include "collection/frmSearchCollections.h"
 
-#include "collection/Counter.h"
 #include "collection/CounterScreen.h"
 #include "collection/MilkReceipt.h"
 #include "core/menu/Keys.h"
@@ -15,8 +14,6 @@
 #include "society/Queries.h"
 #include "society/ReceiptLayouts.h"
 #include "society/Wanted.h"
-
-using namespace Counter;
 
 namespace {
 
@@ -74,8 +71,6 @@ frmSearchCollections::frmSearchCollections()
     When(ComboMemberName.GotFocus, &frmSearchCollections::ComboMemberName_GotFocus);
     for (Field* field : std::initializer_list<Field*>{&maskDate, &txtTime, &txtMemberNo, &ComboMemberName})
         When(field->TextChanged, &frmSearchCollections::ForgetFound);
-    txtTime.SetLocked(true);
-    txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     DataGridInwards.SetGuide(Plain(u"↑ ↓ : पावतीची नोंद निवडा"));
     ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
@@ -134,7 +129,7 @@ void frmSearchCollections::txtTime_GotFocus()
 
 void frmSearchCollections::txtTime_LostFocus()
 {
-    if (maskDate.InsistOnDate(Wanted::Date()) && !IsShift(txtTime.Text()))
+    if (maskDate.InsistOnDate(Wanted::Date()) && !txtTime.HoldsShift())
         txtTime.SetFocus(Wanted::Shift());
 }
 

@@ -21,9 +21,7 @@ public:
 
 private:
     DateField maskDate{this, "maskDate", &frmSearchCollections::maskDate_LostFocus};
-    ChoiceField txtTime{this, "txtTime",
-        {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}},
-        &frmSearchCollections::txtTime_LostFocus};
+    ShiftField txtTime{this, "txtTime", &frmSearchCollections::txtTime_LostFocus};
     WholeField txtMemberNo{this, "txtMemberNo", &frmSearchCollections::txtMemberNo_LostFocus};
     NameCombo ComboMemberName{this, "ComboMemberName", &frmSearchCollections::ComboMemberName_LostFocus};
     DataGrid DataGridInwards;

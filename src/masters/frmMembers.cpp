@@ -6,6 +6,7 @@
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "society/Queries.h"
+#include "society/Words.h"
 
 namespace {
 
@@ -25,15 +26,11 @@ Keys::Places frmMembers::KeyPlaces()
 
 frmMembers::frmMembers()
     : SocietyScreen(KeyPlaces(), Shivaji(IdleTitle))
-    , txtAnimal(this, "txtAnimal",
-          {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")},
-              {u'3', QStringLiteral("daonhI")}},
+    , txtAnimal(this, "txtAnimal", ChoicesOf({Word::Cow, Word::Buffalo, Word::Both}),
           &frmMembers::txtAnimal_LostFocus)
-    , txtPaymentType(this, "txtPaymentType",
-          {{u'1', QStringLiteral("raoK")}, {u'2', QStringLiteral("ba^nk")}},
-          &frmMembers::txtPaymentType_LostFocus)
-    , txtOpeningDorC(this, "txtOpeningDorC",
-          {{u'1', Direction::Payable.toString()}, {u'2', Direction::Due.toString()}},
+    , txtPaymentType(
+          this, "txtPaymentType", ChoicesOf({Word::Cash, Word::Bank}), &frmMembers::txtPaymentType_LostFocus)
+    , txtOpeningDorC(this, "txtOpeningDorC", ChoicesOf({Direction::Payable, Direction::Due}),
           &frmMembers::txtOpeningDorC_LostFocus)
     , Modes(*this, IdleTitle, {cmdNew, cmdModify, cmdDelete, cmdCancel, cmdExit})
 {

@@ -7,6 +7,7 @@
 #include "platform/database/Transaction.h"
 #include "society/Names.h"
 #include "society/Queries.h"
+#include "society/Words.h"
 
 #include <cmath>
 
@@ -120,8 +121,8 @@ void frmMembers::txtAnimal_LostFocus()
 
 void frmMembers::EnableFiguresOfAnimal()
 {
-    const bool cow = txtAnimal.Text() != u"mhOsa";
-    const bool buffalo = txtAnimal.Text() != u"gaaya";
+    const bool cow = txtAnimal.Text() != Word::Buffalo;
+    const bool buffalo = txtAnimal.Text() != Word::Cow;
     for (NumberField* field : std::initializer_list<NumberField*>{&txtCowOpeningLits, &txtCowOpeningThev})
         field->SetEnabled(cow);
     for (NumberField* field : std::initializer_list<NumberField*>{&txtBuffOpeningLits, &txtBuffOpeningThev})
@@ -130,7 +131,7 @@ void frmMembers::EnableFiguresOfAnimal()
 
 void frmMembers::txtPaymentType_LostFocus()
 {
-    const bool bank = txtPaymentType.Text() == u"ba^nk";
+    const bool bank = txtPaymentType.Text() == Word::Bank;
     if (txtPaymentType.IsEmpty())
         Hold(txtPaymentType);
     else

@@ -5,6 +5,7 @@
 #include "platform/database/Sql.h"
 #include "society/FieldRoutines.h"
 #include "society/Names.h"
+#include "society/Words.h"
 
 namespace {
 
@@ -43,7 +44,7 @@ void frmMembers::LoadRecord(const Recordset& member)
     ComboCity.SetText(member[u"City"].Text());
     txtAnimal.SetText(member[u"Animal"].Text());
     txtPaymentType.SetText(member[u"PaymentType"].Text());
-    ShowBankFields(txtPaymentType.Text() == u"ba^nk");
+    ShowBankFields(txtPaymentType.Text() == Word::Bank);
     ComboBankName.SetText(member[u"BankName"].Text());
     txtBankAccountNo.SetText(member[u"BankAccountNo"].Text());
 

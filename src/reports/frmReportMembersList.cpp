@@ -9,6 +9,7 @@
 #include "reports/ReportRun.h"
 #include "society/FieldRoutines.h"
 #include "society/Names.h"
+#include "society/Words.h"
 
 namespace {
 
@@ -106,8 +107,8 @@ void frmReportMembersList::StageMilk()
 QString frmReportMembersList::ChosenAnimal() const
 {
     if (OptionCow.Chosen())
-        return QStringLiteral("gaaya");
-    return OptionBuff.Chosen() ? QStringLiteral("mhOsa") : QStringLiteral("daonhI");
+        return Word::Cow.toString();
+    return OptionBuff.Chosen() ? Word::Buffalo.toString() : Word::Both.toString();
 }
 
 QString frmReportMembersList::Subject() const

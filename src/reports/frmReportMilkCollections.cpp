@@ -8,12 +8,7 @@
 #include "platform/database/Transaction.h"
 #include "reports/ReportRun.h"
 #include "society/Wanted.h"
-
-namespace {
-
-constexpr QStringView BothAnimals = u"daonhI";
-
-}
+#include "society/Words.h"
 
 Keys::Places frmReportMilkCollections::KeyPlaces()
 {
@@ -30,7 +25,7 @@ frmReportMilkCollections::frmReportMilkCollections()
     : SocietyScreen(KeyPlaces(), Shivaji(u" dUQa saMklana irpaoT-"))
 {
     When(ComboAnimal.GotFocus, &frmReportMilkCollections::ComboAnimal_GotFocus);
-    ComboAnimal.SetItems({QStringLiteral("gaaya"), QStringLiteral("mhOsa"), BothAnimals.toString()});
+    ComboAnimal.SetItems({Word::Cow.toString(), Word::Buffalo.toString(), Word::Both.toString()});
     LayOut();
 }
 
@@ -67,7 +62,7 @@ void frmReportMilkCollections::ComboAnimal_LostFocus()
 bool frmReportMilkCollections::HoldAnimal()
 {
     if (ComboAnimal.IsEmpty())
-        ComboAnimal.SetText(BothAnimals.toString());
+        ComboAnimal.SetText(Word::Both.toString());
     ComboAnimal.TakeMatch();
     if (ComboAnimal.Items().contains(ComboAnimal.Text()))
         return true;
@@ -84,9 +79,9 @@ QString frmReportMilkCollections::Selection() const
             Quoted(MaskUserDate.Text()));
     const bool oneShift = !OptionBoth.Chosen();
     if (oneShift)
-        statement = Sql(
-            statement, u" and CollectionTime=", Quoted(OptionMorning.Chosen() ? u"sakaL" : u"saMQyaakaL"));
-    if (ComboAnimal.Text() != BothAnimals)
+        statement = Sql(statement, u" and CollectionTime=",
+            Quoted(OptionMorning.Chosen() ? Word::Morning : Word::Evening));
+    if (ComboAnimal.Text() != Word::Both)
         statement = Sql(statement, oneShift ? u" and  Animal=" : u" and Animal=", Quoted(ComboAnimal.Text()));
     return statement;
 }
@@ -94,10 +89,10 @@ QString frmReportMilkCollections::Selection() const
 QString frmReportMilkCollections::Subject() const
 {
     QStringList choices;
-    if (ComboAnimal.Text() != BothAnimals)
+    if (ComboAnimal.Text() != Word::Both)
         choices.append(ComboAnimal.Text());
     if (!OptionBoth.Chosen())
-        choices.append(OptionMorning.Chosen() ? QStringLiteral("sakaL") : QStringLiteral("saMQyaakaL"));
+        choices.append(OptionMorning.Chosen() ? Word::Morning.toString() : Word::Evening.toString());
     return ReportSubject(choices, MaskUserDate.Date());
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/messages/Messages.h"
 #include "platform/text/Numbers.h"
+#include "society/Words.h"
 
 #include <QKeyEvent>
 
@@ -9,7 +10,7 @@ namespace {
 
 QStringList YesNo()
 {
-    return {QStringLiteral("haoya"), QStringLiteral("naahI")};
+    return {Word::Yes.toString(), Word::No.toString()};
 }
 
 QStringList ReceiptTypes()
@@ -48,7 +49,7 @@ frmAutoSettings::frmAutoSettings()
     , ComboAutoLiters(this, "ComboAutoLiters", YesNo(), &frmAutoSettings::ComboAutoLiters_LostFocus)
     , ComboAutoFat(this, "ComboAutoFat", YesNo(), &frmAutoSettings::ComboAutoFat_LostFocus)
     , ComboPrintStatus(this, "ComboPrintStatus",
-          {QStringLiteral("naahI"), QStringLiteral("f@t sËIna"), QStringLiteral("haoya")},
+          {Word::No.toString(), QStringLiteral("f@t sËIna"), Word::Yes.toString()},
           &frmAutoSettings::ComboPrintStatus_LostFocus)
     , ComboReceipt(this, "ComboReceipt", ReceiptTypes(), &frmAutoSettings::ComboReceipt_LostFocus)
     , ComboPaymentDuration(this, "ComboPaymentDuration",
@@ -63,7 +64,7 @@ frmAutoSettings::frmAutoSettings()
     ComboReceipt.SetDigits(6);
     ComboPaymentDuration.SetDigits(4);
     cmbFatRateType.SetMouseOnly(true);
-    ComboPrintStatus.SetText(QStringLiteral("haoya"));
+    ComboPrintStatus.SetText(Word::Yes.toString());
     CmdCancel.SetCancels(true);
     When(CheckRepeatCol.LostFocus, &frmAutoSettings::CheckRepeatCol_LostFocus);
     CmdExit.SetCancels(true); // nothing is saved by it, so no field need be right

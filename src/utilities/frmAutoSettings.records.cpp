@@ -4,6 +4,7 @@
 #include "platform/database/Transaction.h"
 #include "platform/text/Numbers.h"
 #include "society/ReceiptLayouts.h"
+#include "society/Words.h"
 
 namespace {
 
@@ -46,7 +47,7 @@ void frmAutoSettings::ShowSettings(const Recordset& settings)
     ShowFigure(txtCowLimit, settings[u"CanLimitCow"]);
     ShowFigure(txtBuffLimit, settings[u"CanLimitBuff"]);
     ComboReceipt.SetText(settings[u"ReceiptType"].Text());
-    CheckRepeatCol.SetChecked(settings[u"RepeatCollection"].Text() == u"haoya");
+    CheckRepeatCol.SetChecked(settings[u"RepeatCollection"].Text() == Word::Yes);
 
     ComboPaymentDuration.SetText(settings[u"PaymentDuration"].Text());
     ShowFigure(txtCow, settings[u"ThevKapatCow"]);
@@ -115,7 +116,7 @@ QString frmAutoSettings::InsertStatement()
                u"SalesRateMix,WeighScale) Values(",
         Values(gAppState.gCompanyId, ComboAutoLiters.Text(), ComboAutoFat.Text(), ComboPrintStatus.Text(),
             ComboMSRPrintStatus.Text(), txtBuffLimit.Text(), txtCowLimit.Text(), ComboReceipt.Text(),
-            WordOf(CheckRepeatCol, u"naahI", u"haoya"), ComboPaymentDuration.Text(),
+            WordOf(CheckRepeatCol, Word::No, Word::Yes), ComboPaymentDuration.Text(),
             WordOf(CheckCNP, u"Payment", u"Collection"), WordOf(CheckSNU, u"Uchal", u"Sales"),
             DecimalPaymentWord()),
         u",", txtCow.Text(), u",", txtBuff.Text(), u",",

@@ -96,7 +96,7 @@ public:
 
 // A field with a few fixed words. A digit puts its word in place; Backspace empties the field unless it is
 // locked; all other keys are dropped.
-class ChoiceField final : public Field {
+class ChoiceField : public Field {
 public:
     struct Choice {
         QChar digit;
