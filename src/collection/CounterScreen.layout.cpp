@@ -1,13 +1,13 @@
 #include "collection/CounterScreen.h"
 
-#include "collection/CounterPieces.h"
 #include "platform/forms/Layout.h"
+#include "platform/forms/Pieces.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-using namespace CounterPieces;
+using namespace Pieces;
 
 namespace {
 
@@ -83,7 +83,7 @@ QWidget* CounterScreen::EntryPanel()
     money->addWidget(Sized(cmdGo, 80, TallField, Look::Size::Title, true), 0, Qt::AlignBottom);
     MakeResult(txtAmount);
 
-    auto* panel = Panel();
+    auto* panel = Sheet();
     auto* stack = new QVBoxLayout(panel);
     stack->setContentsMargins(16, 6, 16, 8);
     stack->setSpacing(2);
@@ -142,7 +142,7 @@ QWidget* CounterScreen::Totals()
     sums->addWidget(Heading(lblTotalLitersB.Shown()), 5, 0);
     sums->addWidget(Figure(lblAvgBuffFat, Look::Size::Large), 5, 1);
 
-    auto* panel = Panel();
+    auto* panel = Sheet();
     panel->setFixedWidth(width);
     auto* stack = new QVBoxLayout(panel);
     stack->setContentsMargins(10, 4, 10, 8);

@@ -1,12 +1,12 @@
 #include "collection/frmAbsenseMemberCollection.h"
 
-#include "collection/CounterPieces.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "platform/forms/Layout.h"
 #include "platform/forms/ModalStack.h"
+#include "platform/forms/Pieces.h"
 #include "society/Queries.h"
 #include "society/Wanted.h"
 
@@ -14,7 +14,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-using namespace CounterPieces;
+using namespace Pieces;
 
 namespace {
 
@@ -124,7 +124,7 @@ void frmAbsenseMemberCollection::ListAbsent(const Shift& today)
 
 void frmAbsenseMemberCollection::LayOut()
 {
-    QWidget* question = Panel();
+    QWidget* question = Sheet();
     auto* row = new QHBoxLayout(question);
     row->setContentsMargins(16, 6, 16, 10);
     row->setSpacing(16);

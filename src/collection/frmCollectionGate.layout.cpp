@@ -1,6 +1,6 @@
 #include "collection/frmCollectionGate.h"
 
-#include "collection/CounterPieces.h"
+#include "platform/forms/Pieces.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-using namespace CounterPieces;
+using namespace Pieces;
 
 QLayout* frmCollectionGate::ListAndTotals()
 {

@@ -1,13 +1,13 @@
 #include "collection/frmDailyCollection.h"
 
-#include "collection/CounterPieces.h"
 #include "platform/forms/Layout.h"
+#include "platform/forms/Pieces.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-using namespace CounterPieces;
+using namespace Pieces;
 
 void frmDailyCollection::LayOut()
 {
@@ -47,7 +47,7 @@ QLayout* frmDailyCollection::DayLine()
 
 QWidget* frmDailyCollection::MilkPanel()
 {
-    auto* panel = Panel();
+    auto* panel = Sheet();
     auto* milk = new QHBoxLayout(panel);
     milk->setContentsMargins(16, 6, 16, 10);
     milk->setSpacing(10);
@@ -64,7 +64,7 @@ QWidget* frmDailyCollection::MilkPanel()
 // The frame keeps its place while it is hidden, so that nothing moves when it comes.
 QWidget* frmDailyCollection::ListFrame()
 {
-    Frame1 = Panel();
+    Frame1 = Sheet();
     Frame1->setObjectName(QStringLiteral("Frame1"));
     auto* inside = new QVBoxLayout(Frame1);
     inside->setContentsMargins(1, 1, 1, 1);

@@ -1,13 +1,13 @@
 #include "collection/frmMilkCollections.h"
 
-#include "collection/CounterPieces.h"
+#include "platform/forms/Pieces.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
-using namespace CounterPieces;
+using namespace Pieces;
 
 namespace {
 
@@ -74,7 +74,7 @@ QWidget* frmMilkCollections::ShiftView()
 
 QWidget* frmMilkCollections::FrameMilkCollection()
 {
-    auto* frame = Panel();
+    auto* frame = Sheet();
     frame->setObjectName(QStringLiteral("FrameMilkCollection"));
     auto* below = new QHBoxLayout;
     below->setSpacing(8);

@@ -1,13 +1,13 @@
 #include "collection/frmSearchCollections.h"
 
-#include "collection/CounterPieces.h"
 #include "platform/forms/Layout.h"
+#include "platform/forms/Pieces.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-using namespace CounterPieces;
+using namespace Pieces;
 
 namespace {
 
@@ -31,7 +31,7 @@ void frmSearchCollections::LayOut()
 // Whose slip, and of which shift.
 QWidget* frmSearchCollections::Question()
 {
-    auto* panel = Panel();
+    auto* panel = Sheet();
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins(16, 6, 16, 10);
     row->setSpacing(16);
