@@ -9,8 +9,8 @@ void PostClosingBalance(QStringView name, double amount, PostAction action)
 {
     const int company = gAppState.gCompanyId;
     Recordset member(gCn,
-        Sql(u"SELECT * FROM MembersMaster WHERE CompanyId=", company, u" and trim(MemberName)='", name,
-            u"'"));
+        Sql(u"SELECT * FROM MembersMaster WHERE CompanyId=", company, u" and trim(MemberName)=",
+            Quoted(name)));
     if (member.Eof())
         return;
     const FieldValue closing = member[u"ClosingBalance"];
@@ -19,8 +19,9 @@ void PostClosingBalance(QStringView name, double amount, PostAction action)
         balance = action == PostAction::Add ? closing.Number() + amount : closing.Number() - amount;
     member.Close();
 
-    gCn.Execute(Sql(u"update MembersMaster set ClosingBalance=", balance, u",ClosingDorC='",
-        balance <= 0 ? u"D" : u"C", u"' where CompanyId=", company, u" and trim(MemberName)='", name, u"'"));
+    gCn.Execute(Sql(u"update MembersMaster set ClosingBalance=", balance, u",ClosingDorC=",
+        Quoted(balance <= 0 ? u"D" : u"C"), u" where CompanyId=", company, u" and trim(MemberName)=",
+        Quoted(name)));
 }
 
 namespace {
@@ -29,7 +30,7 @@ float SumOfLitres(QStringView column, QStringView animal, double memberNo)
 {
     const Recordset sum(gCn,
         Sql(u"Select sum(Liters) as ", column, u" from MilkCollections Where CompanyId=",
-            gAppState.gCompanyId, u" And Animal='", animal, u"' And MemberNo=", memberNo));
+            gAppState.gCompanyId, u" And Animal=", Quoted(animal), u" And MemberNo=", memberNo));
     return static_cast<float>(sum[column].Number());
 }
 

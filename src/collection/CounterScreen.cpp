@@ -210,7 +210,7 @@ void CounterScreen::txtCollectionNo_LostFocus()
     const Shift shift = TheShift();
     const Recordset row(gCn,
         Sql(u"SELECT * FROM MilkCollectionsTemp where cstr(CollectionDate)=", shift.Day(),
-            u" and CollectionTime='", shift.time, u"' AND CollectionNo=", number));
+            u" and CollectionTime=", Quoted(shift.time), u" AND CollectionNo=", number));
     IsExistingRow = !row.Eof();
     if (IsExistingRow) {
         txtMemberNo.SetText(row[u"MemberNo"].Text());

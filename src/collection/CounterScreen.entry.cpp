@@ -76,9 +76,9 @@ void CounterScreen::OfferLastFat()
 {
     const Recordset last(gCn,
         Sql(u"select * from MilkCollections where CollectionDate<=", TheShift().Day(),
-            u" and CollectionTime='", txtTime.Text(), u"' and Animal='", txtAnimal.Text(), u"' and MemberNo=",
-            txtMemberNo.Value(), u" and MemberName='", ComboMemberName.Text(),
-            u"' order by CollectionDate desc,CollectionNo desc"));
+            u" and CollectionTime=", Quoted(txtTime.Text()), u" and Animal=", Quoted(txtAnimal.Text()),
+            u" and MemberNo=", txtMemberNo.Value(), u" and MemberName=", Quoted(ComboMemberName.Text()),
+            u" order by CollectionDate desc,CollectionNo desc"));
     if (!last.Eof())
         txtFat.Show(last[u"Fat"].Number());
 }

@@ -29,7 +29,7 @@ void CounterScreen::cmdGo_Click()
     }
     const Shift shift = TheShift();
     const bool isThere = Finds(Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
-        u" and CollectionTime='", shift.time, u"' and CollectionNo=", txtCollectionNo.Value()));
+        u" and CollectionTime=", Quoted(shift.time), u" and CollectionNo=", txtCollectionNo.Value()));
     RefreshActualTime();
     const Delivery delivery = TheDelivery();
 
@@ -66,8 +66,8 @@ bool CounterScreen::IsSecondDelivery() const
 {
     const Shift shift = TheShift();
     return Finds(Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
-        u" and CollectionTime='", shift.time, u"' and CollectionNo<>", txtCollectionNo.Value(),
-        u" and MemberNo=", txtMemberNo.Value(), u" and trim(Animal)='", txtAnimal.Text(), u"'"));
+        u" and CollectionTime=", Quoted(shift.time), u" and CollectionNo<>", txtCollectionNo.Value(),
+        u" and MemberNo=", txtMemberNo.Value(), u" and trim(Animal)=", Quoted(txtAnimal.Text())));
 }
 
 void CounterScreen::StoreNew(const Delivery& delivery)
@@ -93,7 +93,7 @@ void CounterScreen::DeleteRow()
         return;
     }
     if (Finds(Sql(u"select * from MilkCollections where CollectionDate=", shift.Day(),
-            u" and CollectionTime='", shift.time, u"' and CollectionNo=", number))) {
+            u" and CollectionTime=", Quoted(shift.time), u" and CollectionNo=", number))) {
         Transaction deleting(gCn);
         DeleteDelivery(shift, number);
         TidyShiftCopy();
@@ -112,7 +112,7 @@ QString CounterScreen::RowsOfMember() const
 {
     const Shift shift = TheShift();
     return Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
-        u" and CollectionTime='", shift.time, u"' AND MemberNo=", txtMemberNo.Value());
+        u" and CollectionTime=", Quoted(shift.time), u" AND MemberNo=", txtMemberNo.Value());
 }
 
 void CounterScreen::SearchMember()

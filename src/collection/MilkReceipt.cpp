@@ -4,7 +4,6 @@
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
-#include "platform/text/Dates.h"
 #include "society/Queries.h"
 #include "society/ReceiptLayouts.h"
 #include "society/Words.h"
@@ -15,9 +14,9 @@ void MilkReceipt::StageReceipt(const Delivery& d)
     gCn.Execute(QStringLiteral("delete * from MilkReceipt"));
     gCn.Execute(Sql(u"insert into MilkReceipt(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
                     u"MemberName,Animal,Liters,Fat,Rate,Amount,ActualCollectionTime) values(",
-        gAppState.gCompanyId, u",'", DateText(d.shift.date), u"','", d.shift.time, u"',", d.number, u",",
-        d.memberNo, u",'", d.memberName, u"','", d.animal, u"',", d.liters, u",", d.fat, u",", d.rate, u",",
-        d.amount, u",'", d.actualTime, u"')"));
+        Values(gAppState.gCompanyId, d.shift.date, d.shift.time, d.number, d.memberNo, d.memberName, d.animal,
+            d.liters, d.fat, d.rate, d.amount, d.actualTime),
+        u")"));
 }
 
 QString MilkReceipt::Subject()

@@ -34,7 +34,7 @@ std::vector<DataGrid::Column> MemberColumns()
 SqlText Deliverers(const Shift& shift)
 {
     return Sql(u"SELECT MemberNo,MemberName FROM MilkCollections WHERE CollectionDate=", shift.Day(),
-        u" AND CollectionTime='", shift.time, u"'");
+        u" AND CollectionTime=", Quoted(shift.time));
 }
 
 }
@@ -116,7 +116,7 @@ void frmAbsenseMemberCollection::ListAbsent(const Shift& today)
         if (Finds(Sql(Deliverers(today), u" AND MemberNo=", memberNo)))
             continue;
         gCn.Execute(Sql(u"INSERT INTO ShortMemberList(CompanyId,MemberNo,MemberName) VALUES(",
-            gAppState.gCompanyId, u", ", memberNo, u", '", row[u"MemberName"].Text(), u"')"));
+            Values(gAppState.gCompanyId, memberNo, row[u"MemberName"].Text()), u")"));
     }
     gCn.Execute(QStringLiteral("Delete * From ShortMemberList Where CompanyId=0"));
     listing.Commit();

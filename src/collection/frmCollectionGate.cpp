@@ -83,13 +83,13 @@ void frmCollectionGate::txtMemberNo_Change()
 
 void frmCollectionGate::txtAnimal_Change()
 {
-    Search(Sql(u" WHERE Animal='", txtAnimal.Text().trimmed(), u"'"));
+    Search(Sql(u" WHERE Animal=", Quoted(txtAnimal.Text().trimmed())));
 }
 
 void frmCollectionGate::ComboMemberName_Change()
 {
     const QString name = ComboMemberName.Text().trimmed();
-    Search(Sql(u" WHERE left(MemberName,", name.size(), u")='", name, u"'", OrReadsLike(name)));
+    Search(Sql(u" WHERE left(MemberName,", name.size(), u")=", Quoted(name), OrReadsLike(name)));
 }
 
 // The deliveries of members whose name begins with what is read, in another spelling.

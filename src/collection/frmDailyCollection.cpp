@@ -145,8 +145,8 @@ void frmDailyCollection::cmdAdd_Click()
     if (HasMissing())
         return;
     if (Finds(Sql(u"SELECT * FROM MilkCollections WHERE CompanyId=", gAppState.gCompanyId, u" AND MemberNo=",
-            txtMemberNo.Text(), u" AND CollectionDate=", Day(), u" AND CollectionTime='",
-            cmbCollectionTime.Text(), u"' AND Animal='", txtAnimal.Text(), u"'"))) {
+            txtMemberNo.Text(), u" AND CollectionDate=", Day(), u" AND CollectionTime=",
+            Quoted(cmbCollectionTime.Text()), u" AND Animal=", Quoted(txtAnimal.Text())))) {
         ShowPlain(QStringLiteral("Duplicate record not allowed"));
         return;
     }
@@ -166,9 +166,10 @@ QString frmDailyCollection::InsertStatement() const
     return Sql(
         u"INSERT INTO MilkCollections (CompanyId,MemberNo,MemberName,Animal,CollectionDate,CollectionTime,"
         u"CollectionNo,Liters,Fat,Rate,Amount) VALUES (",
-        gAppState.gCompanyId, u",", txtMemberNo.Text(), u",'", cmbMemberName.Text(), u"','", txtAnimal.Text(),
-        u"','", MasKCollectionDate.Text(), u"','", cmbCollectionTime.Text(), u"',", txtCollectionNo.Text(),
-        u",", txtLiters.Text(), u",", txtFat.Text(), u",", txtRate.Text(), u",", txtAmount.Text(), u")");
+        gAppState.gCompanyId, u",", txtMemberNo.Text(), u",", Quoted(cmbMemberName.Text()), u",",
+        Quoted(txtAnimal.Text()), u",", Quoted(MasKCollectionDate.Text()), u",",
+        Quoted(cmbCollectionTime.Text()), u",", txtCollectionNo.Text(), u",", txtLiters.Text(), u",",
+        txtFat.Text(), u",", txtRate.Text(), u",", txtAmount.Text(), u")");
 }
 
 // The series of a day runs over both its shifts here.
@@ -202,8 +203,8 @@ QString frmDailyCollection::UpdateStatement() const
 {
     return Sql(u"UPDATE MilkCollections SET Liters=", txtLiters.Value(), u",Fat=", txtFat.Value(), u",Rate=",
         txtRate.Value(), u",Amount=", txtAmount.Value(), u" WHERE CollectionNo=", txtCollectionNo.Value(),
-        u" AND CollectionDate=", Day(), u" AND MemberNo=", txtMemberNo.Value(), u" AND CollectionTime ='",
-        cmbCollectionTime.Text(), u"'AND Animal='", txtAnimal.Text(), u"'");
+        u" AND CollectionDate=", Day(), u" AND MemberNo=", txtMemberNo.Value(), u" AND CollectionTime =",
+        Quoted(cmbCollectionTime.Text()), u"AND Animal=", Quoted(txtAnimal.Text()));
 }
 
 // Deleting
@@ -227,7 +228,7 @@ QString frmDailyCollection::DeleteStatement() const
 {
     return Sql(u" DELETE * FROM MilkCollections WHERE CompanyId= ", gAppState.gCompanyId,
         u" AND CollectionNo= ", txtCollectionNo.Value(), u" AND MemberNo=", txtMemberNo.Value(),
-        u" AND CollectionTime='", cmbCollectionTime.Text(), u"'");
+        u" AND CollectionTime=", Quoted(cmbCollectionTime.Text()));
 }
 
 // The member's list

@@ -195,9 +195,9 @@ void frmSearchCollections::Search()
     const Shift shift = TheShift();
     Transaction finding(gCn);
     gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
-    gCn.Execute(
-        Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where cstr(CollectionDate)=",
-            shift.Day(), u" and CollectionTime='", shift.time, u"' and MemberNo=", txtMemberNo.Value()));
+    gCn.Execute(Sql(
+        u"insert into MilkCollectionsTemp select * from MilkCollections where cstr(CollectionDate)=",
+        shift.Day(), u" and CollectionTime=", Quoted(shift.time), u" and MemberNo=", txtMemberNo.Value()));
     TidyShiftCopy();
     finding.Commit();
     DataGridInwards.Refresh();
@@ -249,10 +249,10 @@ bool frmSearchCollections::StageReprint(double number)
         return false;
     gCn.Execute(Sql(u"insert into MilkReceipt(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
                     u"MemberName,Animal,Liters,Fat,Rate,Amount) values(",
-        gAppState.gCompanyId, u",'", maskDate.Text(), u"','", txtTime.Text(), u"',", number, u",",
-        txtMemberNo.Value(), u",'", ComboMemberName.Text(), u"','", row[u"Animal"].Text(), u"',",
-        row[u"Liters"].Number(), u",", row[u"Fat"].Number(), u",", row[u"Rate"].Number(), u",",
-        row[u"Amount"].Number(), u")"));
+        Values(gAppState.gCompanyId, maskDate.Text(), txtTime.Text(), number, txtMemberNo.Value(),
+            ComboMemberName.Text(), row[u"Animal"].Text(), row[u"Liters"].Number(), row[u"Fat"].Number(),
+            row[u"Rate"].Number(), row[u"Amount"].Number()),
+        u")"));
     return true;
 }
 

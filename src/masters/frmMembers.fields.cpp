@@ -97,7 +97,7 @@ void frmMembers::OfferToAdd(NameCombo& combo, QStringView table, QStringView col
         return;
     const QString ofCompany =
         Sql(u"SELECT ", column, u" FROM ", table, u" WHERE CompanyId=", gAppState.gCompanyId);
-    if (Finds(Sql(ofCompany, u" and trim(", column, u")='", name, u"'"))
+    if (Finds(Sql(ofCompany, u" and trim(", column, u")=", Quoted(name)))
         || !RowOfName(ofCompany, column, name).Eof())
         return;
     if (!Ask(Shivaji(question))) {
@@ -105,8 +105,8 @@ void frmMembers::OfferToAdd(NameCombo& combo, QStringView table, QStringView col
         return;
     }
     Transaction adding(gCn);
-    gCn.Execute(Sql(u"INSERT INTO ", table, u"(CompanyId,", column, u") VALUES(", gAppState.gCompanyId, u",'",
-        name, u"')"));
+    gCn.Execute(Sql(u"INSERT INTO ", table, u"(CompanyId,", column, u") VALUES(",
+        Values(gAppState.gCompanyId, name), u")"));
     adding.Commit();
     LoadLists();
 }
