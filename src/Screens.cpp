@@ -5,6 +5,7 @@
 #include "collection/frmDailyCollection.h"
 #include "collection/frmMilkCollections.h"
 #include "collection/frmSearchCollections.h"
+#include "core/menu/Keys.h"
 #include "core/menu/ScreenDirectory.h"
 #include "masters/frmMembers.h"
 #include "reports/frmReportMembersList.h"
@@ -15,24 +16,28 @@
 
 namespace {
 
-template <class S> void Register(const QString& name)
+template <class S> void Register()
 {
-    ScreenDirectory::Add(name, [] { return std::make_unique<S>(); });
+    const Keys::Places keys = S::KeyPlaces();
+    ScreenDirectory::Add(keys.front().name, [] { return std::make_unique<S>(); });
+    Keys::Add(keys);
 }
 
 }
 
+// The order is that of the key sheet.
 void RegisterScreens()
 {
-    Register<frmMembers>(QStringLiteral("frmMembers"));
-    Register<frmCollectionGate>(QStringLiteral("frmCollectionGate"));
-    Register<frmMilkCollections>(QStringLiteral("frmMilkCollections"));
-    Register<frmDailyCollection>(QStringLiteral("frmDailyCollection"));
-    Register<frmSearchCollections>(QStringLiteral("frmSearchCollections"));
-    Register<frmAbsenseMemberCollection>(QStringLiteral("frmAbsenseMemberCollection"));
-    Register<frmAutoSettings>(QStringLiteral("frmAutoSettings"));
-    Register<frmReportMilkPS>(QStringLiteral("frmReportMilkPS"));
-    Register<frmReportMilkCollections>(QStringLiteral("frmReportMilkCollections"));
-    Register<frmReportMembersList>(QStringLiteral("frmReportMembersList"));
-    Register<frmReportPaymentList>(QStringLiteral("frmReportPaymentList"));
+    Register<frmMembers>();
+    Register<frmMilkCollections>();
+    Register<frmCollectionGate>();
+    Register<frmDailyCollection>();
+    Register<frmSearchCollections>();
+    Register<frmAbsenseMemberCollection>();
+    Keys::Add(Keys::OfPreview());
+    Register<frmReportMilkPS>();
+    Register<frmReportMilkCollections>();
+    Register<frmReportMembersList>();
+    Register<frmReportPaymentList>();
+    Register<frmAutoSettings>();
 }

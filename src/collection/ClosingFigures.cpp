@@ -3,13 +3,14 @@
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
+#include "society/Words.h"
 
 void PostClosingBalance(QStringView name, double amount, PostAction action)
 {
     const int company = gAppState.gCompanyId;
     Recordset member(gCn,
-        Sql(u"SELECT * FROM MembersMaster WHERE CompanyId=", company, u" and trim(MemberName)='", name,
-            u"'"));
+        Sql(u"SELECT * FROM MembersMaster WHERE CompanyId=", company, u" and trim(MemberName)=",
+            Quoted(name)));
     if (member.Eof())
         return;
     const FieldValue closing = member[u"ClosingBalance"];
@@ -18,8 +19,9 @@ void PostClosingBalance(QStringView name, double amount, PostAction action)
         balance = action == PostAction::Add ? closing.Number() + amount : closing.Number() - amount;
     member.Close();
 
-    gCn.Execute(Sql(u"update MembersMaster set ClosingBalance=", balance, u",ClosingDorC='",
-        balance <= 0 ? u"D" : u"C", u"' where CompanyId=", company, u" and trim(MemberName)='", name, u"'"));
+    gCn.Execute(Sql(u"update MembersMaster set ClosingBalance=", balance, u",ClosingDorC=",
+        Quoted(balance <= 0 ? u"D" : u"C"), u" where CompanyId=", company, u" and trim(MemberName)=",
+        Quoted(name)));
 }
 
 namespace {
@@ -28,7 +30,7 @@ float SumOfLitres(QStringView column, QStringView animal, double memberNo)
 {
     const Recordset sum(gCn,
         Sql(u"Select sum(Liters) as ", column, u" from MilkCollections Where CompanyId=",
-            gAppState.gCompanyId, u" And Animal='", animal, u"' And MemberNo=", memberNo));
+            gAppState.gCompanyId, u" And Animal=", Quoted(animal), u" And MemberNo=", memberNo));
     return static_cast<float>(sum[column].Number());
 }
 
@@ -48,8 +50,8 @@ void RefreshClosingLitres(double memberNo)
             buff = static_cast<float>(opening[u"BuffOpeningLits"].Number());
         }
     }
-    cow += SumOfLitres(u"CowLiters", u"gaaya", memberNo);
-    buff += SumOfLitres(u"BuffLiters", u"mhOsa", memberNo);
+    cow += SumOfLitres(u"CowLiters", Word::Cow, memberNo);
+    buff += SumOfLitres(u"BuffLiters", Word::Buffalo, memberNo);
     gCn.Execute(Sql(u"Update MembersMaster Set CowClosingLits=", cow, u",BuffClosingLits=", buff,
         u" where CompanyId=", company, u" And Memberno=", memberNo));
 }

@@ -1,9 +1,9 @@
 #include "collection/CopySums.h"
 
-#include "collection/Counter.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
+#include "society/Words.h"
 
 double MilkSums::AverageFat() const
 {
@@ -23,10 +23,10 @@ CopySums WalkCopy()
          !row.Eof(); row.MoveNext()) {
         const QString time = row[u"CollectionTime"].Text(); // in the table's order, which finds names sooner
         const QString animal = row[u"Animal"].Text();
-        if ((animal != u"gaaya" && animal != u"mhOsa") || !Counter::IsShift(time))
+        if (!IsAnimal(animal) || !IsShift(time))
             continue;
-        HalfDaySums& ofAnimal = animal == u"gaaya" ? sums.cow : sums.buff;
-        MilkSums& sum = time == u"sakaL" ? ofAnimal.morning : ofAnimal.evening;
+        HalfDaySums& ofAnimal = animal == Word::Cow ? sums.cow : sums.buff;
+        MilkSums& sum = time == Word::Morning ? ofAnimal.morning : ofAnimal.evening;
         const double liters = row[u"Liters"].Number();
         sum.liters += liters;
         sum.litersByFat += liters * row[u"Fat"].Number();

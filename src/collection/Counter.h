@@ -1,16 +1,10 @@
 #pragma once
 
-#include "platform/forms/Field.h"
-#include "platform/forms/NameCombo.h"
-#include "platform/text/Numbers.h"
-
-#include <vector>
+#include <QStringView>
 
 // What the counters of the society have in common.
 namespace Counter {
 
-inline constexpr QStringView FatFormat = u"#########0.0";
-inline constexpr QStringView MoneyFormat = u"#########0.00";
 inline constexpr QStringView AverageFatFormat = u"#######0.0";
 inline constexpr double HighestFat = 30.0;
 inline constexpr double HighestRate = 60.0;
@@ -20,20 +14,5 @@ constexpr int Twips(int twips)
 {
     return twips / 15;
 }
-
-// Whether a text is one of the two shifts of a day.
-inline bool IsShift(QStringView time)
-{
-    return time == u"sakaL" || time == u"saMQyaakaL";
-}
-
-// The number that a field reads.
-inline double Value(const Field& field)
-{
-    return Val(field.Text());
-}
-
-// The names of all members with their numbers, in the order of the books.
-std::vector<NameCombo::Entry> MemberNames();
 
 }

@@ -19,8 +19,8 @@ inline constexpr LitersFormats LitersInHundredths{u"########0.00", u"####0.00", 
 // All that one counter of the society has otherwise than another; what only one of them has is in its own
 // class.
 struct CounterKind {
-    const char* screen; // its name in the system
     QStringView title; // as the system spells it
+    const char* company; // the name of the label that shows the society
     const LitersFormats& liters;
     QStringView gridFatFormat;
     QRgb fieldColour; // of a field without the focus
@@ -29,11 +29,11 @@ struct CounterKind {
 
 // The first counter, with the member's frame.
 inline constexpr CounterKind MainCounter{
-    "frmMilkCollections", u"dUQa saMklana 1", LitersInThousandths, u"#####0.00", Look::DateColour, true};
+    u"dUQa saMklana 1", "lblCompanyTitle", LitersInThousandths, u"#####0.00", Look::DateColour, true};
 
 // The counter at the gate, with sorting and search.
 inline constexpr CounterKind GateCounter{
-    "frmCollectionGate", u"dUQa saMklana 2", LitersInHundredths, u"#####0.0", Look::BandText, false};
+    u"dUQa saMklana 2", "lblCompanyName", LitersInHundredths, u"#####0.0", Look::BandText, false};
 
 // The devices of a counter, as their switches are marked.
 inline constexpr QStringView ScaleName = u"वजन काटा";

@@ -11,12 +11,54 @@
 #include "platform/forms/ModalStack.h"
 #include "society/Names.h"
 #include "society/Wanted.h"
-
-#include <QKeyEvent>
+#include "society/Words.h"
 
 #include <utility>
 
 using namespace Counter;
+
+// The amount takes what is left, which is more than its 1300 twips: a can paid by the lakh is not cut off.
+std::vector<DataGrid::Column> CounterScreen::InwardsColumns(const CounterKind& kind)
+{
+    return {
+        {QStringLiteral("CollectionNo"), Shivaji(u"saMklana Ë."), Twips(900), {}, false, false},
+        {QStringLiteral("MemberNo"), Shivaji(u"maombar naMbar"), Twips(1000), {}, false, false},
+        {QStringLiteral("MemberName"), Shivaji(u"maombarcao naaMva"), Twips(3100)},
+        {QStringLiteral("Animal"), Shivaji(u"dUQa"), Twips(700)},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), kind.liters.grid.toString(), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), kind.gridFatFormat.toString(), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 0, QStringLiteral("#####0.00"), true},
+    };
+}
+
+CounterScreen::CounterScreen(const CounterKind& kind, const Keys::Places& keys)
+    : SocietyScreen(keys, Shivaji(kind.title), {.guide = "lblFooter", .company = kind.company})
+    , DataGridInwards(this, "DataGridInwards", InwardsColumns(kind))
+    , m_kind(kind)
+{
+    When(maskDate.GotFocus, &CounterScreen::maskDate_GotFocus);
+    When(txtTime.GotFocus, &CounterScreen::txtTime_GotFocus);
+    When(txtCollectionNo.GotFocus, &CounterScreen::txtCollectionNo_GotFocus);
+    When(txtMemberNo.GotFocus, &CounterScreen::txtMemberNo_GotFocus);
+    txtMemberNo.TextChanged = [this] { txtMemberNo_Change(); };
+    When(ComboMemberName.GotFocus, &CounterScreen::ComboMemberName_GotFocus);
+    When(txtAnimal.GotFocus, &CounterScreen::txtAnimal_GotFocus);
+    When(txtLiters.GotFocus, &CounterScreen::txtLiters_GotFocus);
+    When(txtFat.GotFocus, &CounterScreen::txtFat_GotFocus);
+    When(cmdGo.LostFocus, &CounterScreen::cmdGo_LostFocus);
+    for (Button* device : {&cmdAutoLiter, &cmdAutoFat})
+        When(device->LostFocus, &CounterScreen::DeviceSwitch_LostFocus);
+    NameMemberKeys();
+    maskDate.SetGuide(KeyGuide(maskDate));
+    txtCollectionNo.SetGuide(KeyGuide(txtCollectionNo));
+    ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
+    ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
+    txtLiters.SetPattern(kind.liters.field);
+    txtLiters.SetMaxLength(9);
+    txtAmount.SetEnabled(false);
+    EnableEntry(false);
+}
 
 void CounterScreen::Load()
 {
@@ -34,21 +76,53 @@ void CounterScreen::Load()
     MilkReceipt::Prepare();
 }
 
-bool CounterScreen::KeyDown(const QKeyEvent& key)
+// Keys
+
+KeyHint CounterScreen::CalculatorKey()
 {
-    if (CommonKeys::Calculator(key, false) || CommonKeys::Tutor(key))
-        return true;
-    switch (key.key()) {
-    case Qt::Key_F3:
-        ScreenDirectory::Open(QStringLiteral("frmMembers"), Keys::Action(Name(), u"F3"));
-        MembersShown();
-        return true;
-    case Qt::Key_F6:
-        ScreenDirectory::Open(QStringLiteral("frmUchalVouchers"), Keys::Action(Name(), u"F6"));
-        return true;
-    default:
-        return false;
-    }
+    return {QStringLiteral("F2"), SocietyScreen::CalculatorKey().action, &CounterScreen::StartCalculator};
+}
+
+KeyHint CounterScreen::MembersKey()
+{
+    return {QStringLiteral("F3"), Shivaji(u"]%padkacao rijasTr"), &CounterScreen::ShowMembers};
+}
+
+KeyHint CounterScreen::AdvanceKey()
+{
+    return {QStringLiteral("F6"), Shivaji(u"]cala naaoMd"), &CounterScreen::ShowAdvances};
+}
+
+KeyHint CounterScreen::SearchKey()
+{
+    return {QStringLiteral("F9"), Shivaji(u"dUQa saMklana pavatI"), &CounterScreen::SearchMember};
+}
+
+KeyHint CounterScreen::DeleteKey()
+{
+    return {QStringLiteral("F10"), Shivaji(u"KaoDNao"), &CounterScreen::DeleteRow};
+}
+
+std::vector<KeyHint> CounterScreen::NumberKeys()
+{
+    return {{QStringLiteral("↑"), Plain(u"आधीची नोंद"), &CounterScreen::PreviousNumber},
+        {QStringLiteral("↓"), Plain(u"पुढची नोंद"), &CounterScreen::NextNumber}};
+}
+
+void CounterScreen::StartCalculator()
+{
+    CommonKeys::Calculator(false);
+}
+
+void CounterScreen::ShowMembers()
+{
+    ScreenDirectory::Open(QStringLiteral("frmMembers"), KeyAction(u"F3"));
+    MembersShown();
+}
+
+void CounterScreen::ShowAdvances()
+{
+    ScreenDirectory::Open(QStringLiteral("frmUchalVouchers"), KeyAction(u"F6"));
 }
 
 void CounterScreen::Escape()
@@ -81,7 +155,7 @@ void CounterScreen::txtTime_LostFocus()
 {
     if (!maskDate.InsistOnDate(Wanted::Date()))
         return;
-    if (!IsShift(txtTime.Text())) {
+    if (!txtTime.HoldsShift()) {
         txtTime.SetFocus(Wanted::Shift());
         return;
     }
@@ -104,17 +178,21 @@ void CounterScreen::txtCollectionNo_GotFocus()
         SendBack(txtTime, Wanted::Shift());
 }
 
-bool CounterScreen::txtCollectionNo_KeyDown(const QKeyEvent& key)
+void CounterScreen::PreviousNumber()
 {
-    const double number = Value(txtCollectionNo);
-    if (key.key() == Qt::Key_Up && number > 1)
-        txtCollectionNo.SetText(ShortestDecimal(number - 1));
-    else if (key.key() == Qt::Key_Down)
-        txtCollectionNo.SetText(ShortestDecimal(number + 1));
-    else
-        return false;
+    if (txtCollectionNo.Value() > 1)
+        ShowNumberToGoTo(txtCollectionNo.Value() - 1);
+}
+
+void CounterScreen::NextNumber()
+{
+    ShowNumberToGoTo(txtCollectionNo.Value() + 1);
+}
+
+void CounterScreen::ShowNumberToGoTo(double number)
+{
+    txtCollectionNo.Show(number);
     txtCollectionNo.SelectAll();
-    return true;
 }
 
 void CounterScreen::txtCollectionNo_LostFocus()
@@ -122,7 +200,7 @@ void CounterScreen::txtCollectionNo_LostFocus()
     if (IsSentBack())
         return;
     RefreshActualTime();
-    const double number = Value(txtCollectionNo);
+    const double number = txtCollectionNo.Value();
     if (number == 0) {
         ClearEntryFields();
         ShowNumber(NextCollectionNo);
@@ -132,7 +210,7 @@ void CounterScreen::txtCollectionNo_LostFocus()
     const Shift shift = TheShift();
     const Recordset row(gCn,
         Sql(u"SELECT * FROM MilkCollectionsTemp where cstr(CollectionDate)=", shift.Day(),
-            u" and CollectionTime='", shift.time, u"' AND CollectionNo=", number));
+            u" and CollectionTime=", Quoted(shift.time), u" AND CollectionNo=", number));
     IsExistingRow = !row.Eof();
     if (IsExistingRow) {
         txtMemberNo.SetText(row[u"MemberNo"].Text());
@@ -155,29 +233,12 @@ void CounterScreen::txtMemberNo_Change()
         LightMemberKeys();
 }
 
-bool CounterScreen::txtMemberNo_KeyDown(const QKeyEvent& key)
-{
-    switch (key.key()) {
-    case Qt::Key_F7:
-        ShowMemberFrame();
-        return true;
-    case Qt::Key_F9:
-        SearchMember();
-        return true;
-    case Qt::Key_F10:
-        DeleteRow();
-        return true;
-    default:
-        return false;
-    }
-}
-
 void CounterScreen::txtMemberNo_LostFocus()
 {
     if (std::exchange(SkipMemberChecks, false))
         return;
     ShowMemberKeys(false);
-    const double number = Value(txtMemberNo);
+    const double number = txtMemberNo.Value();
     if (number == 0) {
         txtMemberNo.Clear();
         return;
@@ -203,7 +264,7 @@ void CounterScreen::txtMemberNo_LostFocus()
 void CounterScreen::TakeAnimalOf(const Recordset& member)
 {
     const QString animal = member[u"Animal"].Text();
-    const bool both = animal == u"daonhI";
+    const bool both = animal == Word::Both;
     if (!both)
         txtAnimal.SetText(animal);
     txtAnimal.SetEnabled(both);
@@ -229,7 +290,7 @@ void CounterScreen::ComboMemberName_LostFocus()
         return;
     }
     const bool asks = txtMemberNo.IsEmpty();
-    const Recordset member = MemberOfName(ComboMemberName, Value(txtMemberNo));
+    const Recordset member = MemberOfName(ComboMemberName, txtMemberNo.Value());
     if (member.Eof()) {
         if (asks)
             ComboMemberName.SetFocus(Wanted::Name());

@@ -9,6 +9,7 @@
 #include "rates/LookupFatRate.h"
 #include "society/Queries.h"
 #include "society/Wanted.h"
+#include "society/Words.h"
 
 #include <utility>
 
@@ -18,7 +19,7 @@ void CounterScreen::txtAnimal_GotFocus()
 {
     if (ComboMemberName.IsEmpty())
         ComboMemberName.SetEnabled(true);
-    if (Value(txtMemberNo) == 0)
+    if (txtMemberNo.Value() == 0)
         SendBack(txtMemberNo, Plain(u"मेम्बर नंबर टाका    Enter : नावाने"));
 }
 
@@ -42,7 +43,7 @@ void CounterScreen::txtLiters_GotFocus()
     if (txtLiters.IsEmpty())
         txtLiters.SetText(QStringLiteral("0"));
     txtLiters.SelectAll();
-    if (Value(txtLiters) > 0)
+    if (txtLiters.Value() > 0)
         SendKeys(QStringLiteral("{TAB}"));
 }
 
@@ -52,18 +53,16 @@ void CounterScreen::txtLiters_LostFocus()
         ComboMemberName.SetFocus(Wanted::Name());
         return;
     }
-    if (txtAnimal.Text() != u"gaaya" && txtAnimal.Text() != u"mhOsa")
+    if (!IsAnimal(txtAnimal.Text()))
         return;
-    const double liters = Value(txtLiters);
-    txtLiters.SetText(Format(liters, m_kind.liters.field));
-    if (liters == 0 && !IsSwitchingOff(cmdAutoLiter, gAppState.gAutoLiters, txtLiters))
+    if (txtLiters.Reformat() == 0 && !IsSwitchingOff(cmdAutoLiter, gAppState.gAutoLiters, txtLiters))
         txtLiters.SetFocus(Plain(u"लिटर टाका    Esc : बाहेर"));
 }
 
 void CounterScreen::txtFat_GotFocus()
 {
     const bool refused = std::exchange(FatRefused, false);
-    if (Setting(u"AutoFat") == u"naahI" && !IsExistingRow && !refused)
+    if (Setting(u"AutoFat") == Word::No && !IsExistingRow && !refused)
         OfferLastFat();
     if (DeviceSwitch::IsOn(gAppState.gAutoFat))
         ReadFat();
@@ -77,11 +76,11 @@ void CounterScreen::OfferLastFat()
 {
     const Recordset last(gCn,
         Sql(u"select * from MilkCollections where CollectionDate<=", TheShift().Day(),
-            u" and CollectionTime='", txtTime.Text(), u"' and Animal='", txtAnimal.Text(), u"' and MemberNo=",
-            Value(txtMemberNo), u" and MemberName='", ComboMemberName.Text(),
-            u"' order by CollectionDate desc,CollectionNo desc"));
+            u" and CollectionTime=", Quoted(txtTime.Text()), u" and Animal=", Quoted(txtAnimal.Text()),
+            u" and MemberNo=", txtMemberNo.Value(), u" and MemberName=", Quoted(ComboMemberName.Text()),
+            u" order by CollectionDate desc,CollectionNo desc"));
     if (!last.Eof())
-        txtFat.SetText(Format(last[u"Fat"].Number(), u"#####0.0"));
+        txtFat.Show(last[u"Fat"].Number());
 }
 
 // Some testers give the litres a second time, and one gives nothing else.
@@ -115,7 +114,7 @@ void CounterScreen::DeviceSwitch_LostFocus()
 // back.
 void CounterScreen::txtFat_LostFocus()
 {
-    if (DeviceSwitch::IsOn(gAppState.gAutoFat) && Value(txtFat) <= 0) {
+    if (DeviceSwitch::IsOn(gAppState.gAutoFat) && txtFat.Value() <= 0) {
         if (IsSwitchingOff(cmdAutoFat, gAppState.gAutoFat, txtFat))
             return;
         if (const std::optional<QString> read = m_devices.RepeatFat())
@@ -124,14 +123,13 @@ void CounterScreen::txtFat_LostFocus()
         txtFat.SetFocus(Plain(u"फॅट टाका    Enter : मशीनवरून पुन्हा    Esc : बाहेर"));
         return;
     }
-    const double fat = Value(txtFat);
-    txtFat.SetText(Format(fat, FatFormat));
+    const double fat = txtFat.Reformat();
     if (fat == 0 || fat > HighestFat) {
         FatRefused = true; // the clerk is to see what was refused, not another offer
         txtFat.SetFocus(Plain(u"फॅट टाका : 0.1 ते 30.0    Esc : बाहेर"));
         return;
     }
-    const FatRate found = LookupFatRate(maskDate.Date(), Value(txtFat), txtAnimal.Text());
+    const FatRate found = LookupFatRate(maskDate.Date(), txtFat.Value(), txtAnimal.Text());
     if (found.outcome == FatRate::Outcome::NoChart) {
         ClearEntryFields();
         maskDate.SetFocus();
@@ -139,15 +137,14 @@ void CounterScreen::txtFat_LostFocus()
         return;
     }
     if (found.outcome == FatRate::Outcome::Priced)
-        txtRate.SetText(Format(found.rate, MoneyFormat));
+        txtRate.Show(found.rate);
     ShowAmount();
 }
 
 void CounterScreen::txtRate_LostFocus()
 {
-    if (Value(txtFat) != 0) {
-        const double rate = Value(txtRate);
-        txtRate.SetText(Format(rate, MoneyFormat));
+    if (txtFat.Value() != 0) {
+        const double rate = txtRate.Reformat();
         if (rate == 0)
             txtRate.SetFocus(Plain(u"तक्त्यात या फॅटचा दर नाही : दर टाका    Esc : बाहेर"));
         else if (rate > HighestRate)
@@ -159,7 +156,7 @@ void CounterScreen::txtRate_LostFocus()
 // The amount goes by what the fields show, so that the slip can be checked by hand.
 void CounterScreen::ShowAmount()
 {
-    txtAmount.SetText(Format(Value(txtLiters) * Value(txtRate), MoneyFormat));
+    txtAmount.Show(txtLiters.Value() * txtRate.Value());
 }
 
 void CounterScreen::cmdGo_LostFocus()

@@ -8,7 +8,8 @@
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
-#include "platform/forms/Screen.h"
+#include "society/Fields.h"
+#include "society/SocietyScreen.h"
 
 #include <array>
 #include <utility>
@@ -17,29 +18,30 @@ class Recordset;
 
 // A counter: one line of fields for one can of milk, walked with Enter; the last of them saves it. Below it
 // stand the deliveries of the shift and their totals, as the copy of the shift has them.
-class CounterScreen : public Screen {
+class CounterScreen : public SocietyScreen {
 public:
     // Litres of the new rows saved since the screen was opened. They are only added to.
     double CowLitersTaken = 0;
     double BuffLitersTaken = 0;
 
-    // What a screen opened from here goes on from.
-    Shift TheShift() const;
-    QString MemberNo() const { return txtMemberNo.Text(); }
-    QString MemberName() const { return ComboMemberName.Text(); }
-
 protected:
     // The query that the list of the shift is bound to.
     static constexpr QStringView ShiftQuery = u"select * from MilkCollectionsTemp order by CollectionNo desc";
 
-    explicit CounterScreen(const CounterKind& kind);
+    CounterScreen(const CounterKind& kind, const Keys::Places& keys);
+
+    // The keys of both counters. The calculator stands in a window beside the counter.
+    static KeyHint CalculatorKey();
+    static KeyHint MembersKey();
+    static KeyHint AdvanceKey();
+    static KeyHint SearchKey();
+    static KeyHint DeleteKey();
+    static std::vector<KeyHint> NumberKeys();
 
     // The columns of the list of the shift.
     static std::vector<DataGrid::Column> InwardsColumns(const CounterKind& kind);
 
-    Label lblTitle{this, "lblTitle"};
     Label lblActualCollectionTime{this, "lblActualCollectionTime"};
-    Label lblFooter{this, "lblFooter"};
     Label lblF9{this, "lblF9", Plain(u"F9")};
     Label lblSearch{this, "lblSearch"};
     Label lblF7{this, "lblF7", Plain(u"F7")};
@@ -55,43 +57,40 @@ protected:
     Label lblAvgCowFat{this, "lblAvgCowFat"};
     Label lblAvgBuffFat{this, "lblAvgBuffFat"};
 
-    DateField maskDate{this, "maskDate"};
-    ChoiceField txtTime{
-        this, "txtTime", {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}}};
-    NumberField txtCollectionNo{this, "txtCollectionNo", NumberField::Digits::Whole};
-    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
-    NameCombo ComboMemberName{this, "ComboMemberName"};
-    ChoiceField txtAnimal{
-        this, "txtAnimal", {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}}};
-    NumberField txtLiters{this, "txtLiters", NumberField::Digits::Decimals};
-    NumberField txtFat{this, "txtFat", NumberField::Digits::Decimals};
-    NumberField txtRate{this, "txtRate", NumberField::Digits::Decimals};
-    NumberField txtAmount{this, "txtAmount", NumberField::Digits::Decimals};
-    Button cmdGo{this, "cmdGo", Plain(u" >")};
+    DateField maskDate{this, "maskDate", &CounterScreen::maskDate_LostFocus};
+    ShiftField txtTime{this, "txtTime", &CounterScreen::txtTime_LostFocus};
+    WholeField txtCollectionNo{this, "txtCollectionNo", &CounterScreen::txtCollectionNo_LostFocus};
+    WholeField txtMemberNo{this, "txtMemberNo", &CounterScreen::txtMemberNo_LostFocus};
+    NameCombo ComboMemberName{this, "ComboMemberName", &CounterScreen::ComboMemberName_LostFocus};
+    AnimalField txtAnimal{this, "txtAnimal", &CounterScreen::txtAnimal_LostFocus};
+    LitresField txtLiters{this, "txtLiters", &CounterScreen::txtLiters_LostFocus};
+    FatField txtFat{this, "txtFat", &CounterScreen::txtFat_LostFocus};
+    RateField txtRate{this, "txtRate", &CounterScreen::txtRate_LostFocus};
+    MoneyField txtAmount{this, "txtAmount"};
+    Button cmdGo{this, "cmdGo", Plain(u" >"), &CounterScreen::cmdGo_Click};
     DataGrid DataGridInwards;
-    Button cmdAutoLiter{this, "cmdAutoLiter", {}};
-    Button cmdAutoFat{this, "cmdAutoFat", {}};
-    Button cmdPrinterOnOff{this, "cmdPrinterOnOff", Shivaji(MilkReceipt::PrinterOn)};
+    Button cmdAutoLiter{this, "cmdAutoLiter", {}, &CounterScreen::cmdAutoLiter_Click};
+    Button cmdAutoFat{this, "cmdAutoFat", {}, &CounterScreen::cmdAutoFat_Click};
+    Button cmdPrinterOnOff{
+        this, "cmdPrinterOnOff", Shivaji(MilkReceipt::PrinterOn), &CounterScreen::cmdPrinterOnOff_Click};
 
     bool SkipMemberChecks = false; // the member's number is left for the frame, and isn't to be checked
 
     void Load() override;
-    bool KeyDown(const QKeyEvent& key) override;
     void Escape() override;
 
     virtual void LoadMemberNames();
-    virtual void ShowMemberFrame() { } // F7
     virtual void MembersShown() { } // frmMembers has closed
     virtual void txtMemberNo_Change();
 
+    Shift TheShift() const;
     void ClearEntryFields();
     void ShowInwardsGrid();
     void ShowMemberKeys(bool shown);
     void LightMemberKeys();
 
-    // Puts the window together: the band, what stands under the entry line, and the strip of keys are the
-    // counter's own.
-    void LayOut(QWidget* header, QLayout* below, QWidget* keys);
+    // Puts the window together: what stands under the entry line and the strip of keys are the counter's own.
+    void LayOut(QLayout* below, QWidget* keys);
     QWidget* Totals();
 
 private:
@@ -110,10 +109,8 @@ private:
     void txtTime_GotFocus();
     void txtTime_LostFocus();
     void txtCollectionNo_GotFocus();
-    bool txtCollectionNo_KeyDown(const QKeyEvent& key);
     void txtCollectionNo_LostFocus();
     void txtMemberNo_GotFocus();
-    bool txtMemberNo_KeyDown(const QKeyEvent& key);
     void txtMemberNo_LostFocus();
     void ComboMemberName_GotFocus();
     void ComboMemberName_LostFocus();
@@ -131,11 +128,17 @@ private:
     void cmdPrinterOnOff_Click();
     void DeviceSwitch_LostFocus();
 
+    void StartCalculator();
+    void ShowMembers();
+    void ShowAdvances();
+    void PreviousNumber();
+    void NextNumber();
+    void ShowNumberToGoTo(double number);
+
     void RefreshActualTime();
     void ShiftLitersTotal();
     void ShiftAverageFat();
 
-    void WireHandlers();
     void NameMemberKeys();
     std::array<std::pair<Label*, Label*>, 3> MemberKeyLabels(); // each key and what it does
     void EnableEntry(bool enabled);

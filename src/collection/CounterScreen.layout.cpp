@@ -1,13 +1,13 @@
 #include "collection/CounterScreen.h"
 
-#include "collection/CounterPieces.h"
 #include "platform/forms/Layout.h"
+#include "platform/forms/Pieces.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-using namespace CounterPieces;
+using namespace Pieces;
 
 namespace {
 
@@ -29,20 +29,16 @@ QLayout* Switch(QStringView device, Button& button)
 
 }
 
-void CounterScreen::LayOut(QWidget* header, QLayout* below, QWidget* keys)
+void CounterScreen::LayOut(QLayout* below, QWidget* keys)
 {
     SetColours(QColor(Look::FocusColour), QColor(m_kind.fieldColour));
-    SetTitleLabel(lblTitle);
-    SetTitle(Shivaji(m_kind.title));
-    SetGuideLabel(lblFooter);
 
     auto* body = new QVBoxLayout;
     body->setSpacing(8);
     body->addWidget(ShiftLine());
     body->addWidget(EntryPanel());
     body->addLayout(below, 1);
-    Layout::Stack(*this, header, body, keys);
-    body->setContentsMargins(20, 6, 20, 8);
+    Stack(body, keys, {20, 6, 20, 8});
 }
 
 QWidget* CounterScreen::ShiftLine()
@@ -87,7 +83,7 @@ QWidget* CounterScreen::EntryPanel()
     money->addWidget(Sized(cmdGo, 80, TallField, Look::Size::Title, true), 0, Qt::AlignBottom);
     MakeResult(txtAmount);
 
-    auto* panel = Panel();
+    auto* panel = Sheet();
     auto* stack = new QVBoxLayout(panel);
     stack->setContentsMargins(16, 6, 16, 8);
     stack->setSpacing(2);
@@ -121,9 +117,8 @@ QWidget* CounterScreen::MemberKeys()
         row->addWidget(action->Widget());
         row->addSpacing(12);
     }
-    Layout::MakeGuide(lblFooter);
-    lblFooter.Widget()->setMinimumHeight(0);
-    row->addWidget(lblFooter.Widget(), 1);
+    lblGuide.Widget()->setMinimumHeight(0);
+    row->addWidget(lblGuide.Widget(), 1);
     ShowMemberKeys(false);
     return line;
 }
@@ -147,7 +142,7 @@ QWidget* CounterScreen::Totals()
     sums->addWidget(Heading(lblTotalLitersB.Shown()), 5, 0);
     sums->addWidget(Figure(lblAvgBuffFat, Look::Size::Large), 5, 1);
 
-    auto* panel = Panel();
+    auto* panel = Sheet();
     panel->setFixedWidth(width);
     auto* stack = new QVBoxLayout(panel);
     stack->setContentsMargins(10, 4, 10, 8);

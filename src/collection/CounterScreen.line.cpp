@@ -2,16 +2,12 @@
 
 #include "collection/CounterScreen.h"
 #include "collection/ActualTime.h"
-#include "collection/Counter.h"
-#include "core/menu/Keys.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "society/Names.h"
 #include "society/Queries.h"
 
 #include <utility>
-
-using namespace Counter;
 
 namespace {
 
@@ -25,78 +21,11 @@ void ShowSwitch(Button& button, QStringView device, const QString& setting)
 
 }
 
-// The amount takes what is left, which is more than its 1300 twips: a can paid by the lakh is not cut off.
-std::vector<DataGrid::Column> CounterScreen::InwardsColumns(const CounterKind& kind)
-{
-    return {
-        {QStringLiteral("CollectionNo"), Shivaji(u"saMklana Ë."), Twips(900), {}, false, false},
-        {QStringLiteral("MemberNo"), Shivaji(u"maombar naMbar"), Twips(1000), {}, false, false},
-        {QStringLiteral("MemberName"), Shivaji(u"maombarcao naaMva"), Twips(3100)},
-        {QStringLiteral("Animal"), Shivaji(u"dUQa"), Twips(700)},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), kind.liters.grid.toString(), true},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), kind.gridFatFormat.toString(), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 0, QStringLiteral("#####0.00"), true},
-    };
-}
-
-CounterScreen::CounterScreen(const CounterKind& kind)
-    : Screen(kind.screen)
-    , DataGridInwards(this, "DataGridInwards", InwardsColumns(kind))
-    , m_kind(kind)
-{
-    WireHandlers();
-    NameMemberKeys();
-    maskDate.SetGuide(Keys::Guide(Name() + QStringLiteral(".maskDate")));
-    txtCollectionNo.SetGuide(Keys::Guide(Name() + QStringLiteral(".txtCollectionNo")));
-    txtTime.SetLocked(true);
-    txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
-    txtAnimal.SetLocked(true);
-    txtAnimal.SetGuide(Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa"));
-    ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
-    ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
-    txtLiters.SetMaxLength(9);
-    txtAmount.SetEnabled(false);
-    EnableEntry(false);
-}
-
-void CounterScreen::WireHandlers()
-{
-    When(maskDate.GotFocus, &CounterScreen::maskDate_GotFocus);
-    When(maskDate.LostFocus, &CounterScreen::maskDate_LostFocus);
-    When(txtTime.GotFocus, &CounterScreen::txtTime_GotFocus);
-    When(txtTime.LostFocus, &CounterScreen::txtTime_LostFocus);
-    When(txtCollectionNo.GotFocus, &CounterScreen::txtCollectionNo_GotFocus);
-    When(txtCollectionNo.LostFocus, &CounterScreen::txtCollectionNo_LostFocus);
-    When(txtMemberNo.GotFocus, &CounterScreen::txtMemberNo_GotFocus);
-    txtMemberNo.TextChanged = [this] { txtMemberNo_Change(); };
-    When(txtMemberNo.LostFocus, &CounterScreen::txtMemberNo_LostFocus);
-    When(ComboMemberName.GotFocus, &CounterScreen::ComboMemberName_GotFocus);
-    When(ComboMemberName.LostFocus, &CounterScreen::ComboMemberName_LostFocus);
-    When(txtAnimal.GotFocus, &CounterScreen::txtAnimal_GotFocus);
-    When(txtAnimal.LostFocus, &CounterScreen::txtAnimal_LostFocus);
-    When(txtLiters.GotFocus, &CounterScreen::txtLiters_GotFocus);
-    When(txtLiters.LostFocus, &CounterScreen::txtLiters_LostFocus);
-    When(txtFat.GotFocus, &CounterScreen::txtFat_GotFocus);
-    When(txtFat.LostFocus, &CounterScreen::txtFat_LostFocus);
-    When(txtRate.LostFocus, &CounterScreen::txtRate_LostFocus);
-    When(cmdGo.Click, &CounterScreen::cmdGo_Click);
-    When(cmdGo.LostFocus, &CounterScreen::cmdGo_LostFocus);
-    for (Button* device : {&cmdAutoLiter, &cmdAutoFat})
-        When(device->LostFocus, &CounterScreen::DeviceSwitch_LostFocus);
-    When(cmdAutoLiter.Click, &CounterScreen::cmdAutoLiter_Click);
-    When(cmdAutoFat.Click, &CounterScreen::cmdAutoFat_Click);
-    When(cmdPrinterOnOff.Click, &CounterScreen::cmdPrinterOnOff_Click);
-    txtCollectionNo.KeyDown = [this](const QKeyEvent& key) { return txtCollectionNo_KeyDown(key); };
-    txtMemberNo.KeyDown = [this](const QKeyEvent& key) { return txtMemberNo_KeyDown(key); };
-}
-
 // The keys of the member's number, as the list of keys says what each does.
 void CounterScreen::NameMemberKeys()
 {
-    const QString field = Name() + QStringLiteral(".txtMemberNo");
     for (const auto& [key, action] : MemberKeyLabels())
-        action->SetCaption(Keys::Action(field, key->Shown().Text()));
+        action->SetCaption(KeyAction(txtMemberNo, key->Shown().Text()));
 }
 
 std::array<std::pair<Label*, Label*>, 3> CounterScreen::MemberKeyLabels()
@@ -121,7 +50,7 @@ void CounterScreen::ShowMemberKeys(bool shown)
 void CounterScreen::LightMemberKeys()
 {
     const bool isHere = txtMemberNo.HasFocus();
-    const bool hasRow = isHere && Value(txtMemberNo) != 0 && Finds(RowsOfMember());
+    const bool hasRow = isHere && txtMemberNo.Value() != 0 && Finds(RowsOfMember());
     for (Label* label : {&lblF9, &lblSearch})
         label->Widget()->setEnabled(hasRow);
     for (Label* label : {&lblF7, &lblMilk})
@@ -167,8 +96,8 @@ Shift CounterScreen::TheShift() const
 
 Delivery CounterScreen::TheDelivery() const
 {
-    return {TheShift(), Value(txtCollectionNo), Value(txtMemberNo), ComboMemberName.Text(), txtAnimal.Text(),
-        Value(txtLiters), Value(txtFat), Value(txtRate), Value(txtAmount),
+    return {TheShift(), txtCollectionNo.Value(), txtMemberNo.Value(), ComboMemberName.Text(),
+        txtAnimal.Text(), txtLiters.Value(), txtFat.Value(), txtRate.Value(), txtAmount.Value(),
         lblActualCollectionTime.Shown().Text()};
 }
 
@@ -176,7 +105,7 @@ Delivery CounterScreen::TheDelivery() const
 void CounterScreen::ShowNumber(std::int16_t number)
 {
     NextCollectionNo = number;
-    txtCollectionNo.SetText(QString::number(number));
+    txtCollectionNo.Show(number);
 }
 
 // A stored row's member by name, its animal and its figures.
@@ -184,10 +113,10 @@ void CounterScreen::ShowRow(const Recordset& row)
 {
     ShowMember(ComboMemberName, row);
     txtAnimal.SetText(row[u"Animal"].Text());
-    txtLiters.SetText(Format(row[u"Liters"].Number(), m_kind.liters.field));
-    txtFat.SetText(Format(row[u"Fat"].Number(), FatFormat));
-    txtRate.SetText(Format(row[u"Rate"].Number(), MoneyFormat));
-    txtAmount.SetText(Format(row[u"Amount"].Number(), MoneyFormat));
+    txtLiters.Show(row[u"Liters"].Number());
+    txtFat.Show(row[u"Fat"].Number());
+    txtRate.Show(row[u"Rate"].Number());
+    txtAmount.Show(row[u"Amount"].Number());
 }
 
 // The buttons at its side

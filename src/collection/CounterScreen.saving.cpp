@@ -2,8 +2,7 @@
 
 #include "collection/CounterScreen.h"
 #include "collection/ClosingFigures.h"
-#include "collection/Counter.h"
-#include "core/menu/ScreenDirectory.h"
+#include "collection/frmSearchCollections.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
@@ -11,18 +10,17 @@
 #include "platform/database/Transaction.h"
 #include "platform/forms/ModalStack.h"
 #include "society/Queries.h"
-
-using namespace Counter;
+#include "society/Words.h"
 
 void CounterScreen::cmdGo_Click()
 {
-    if (Value(txtMemberNo) != 0)
+    if (txtMemberNo.Value() != 0)
         ShowAmount(); // pressed by the mouse it comes straight from the litres, which make none
-    if (Value(txtMemberNo) == 0 || Value(txtAmount) == 0) {
+    if (txtMemberNo.Value() == 0 || txtAmount.Value() == 0) {
         txtCollectionNo.SetFocus(Plain(u"रक्कम किंवा मेम्बर नाही : काहीही सेव्ह झाले नाही"));
         return;
     }
-    if (Setting(u"RepeatCollection") == u"naahI" && IsSecondDelivery()) {
+    if (Setting(u"RepeatCollection") == Word::No && IsSecondDelivery()) {
         txtAnimal.SetEnabled(true);
         ShowPlain(QStringLiteral("Duplicate Record"));
         txtCollectionNo.SetFocus();
@@ -31,7 +29,7 @@ void CounterScreen::cmdGo_Click()
     }
     const Shift shift = TheShift();
     const bool isThere = Finds(Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
-        u" and CollectionTime='", shift.time, u"' and CollectionNo=", Value(txtCollectionNo)));
+        u" and CollectionTime=", Quoted(shift.time), u" and CollectionNo=", txtCollectionNo.Value()));
     RefreshActualTime();
     const Delivery delivery = TheDelivery();
 
@@ -68,16 +66,16 @@ bool CounterScreen::IsSecondDelivery() const
 {
     const Shift shift = TheShift();
     return Finds(Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
-        u" and CollectionTime='", shift.time, u"' and CollectionNo<>", Value(txtCollectionNo),
-        u" and MemberNo=", Value(txtMemberNo), u" and trim(Animal)='", txtAnimal.Text(), u"'"));
+        u" and CollectionTime=", Quoted(shift.time), u" and CollectionNo<>", txtCollectionNo.Value(),
+        u" and MemberNo=", txtMemberNo.Value(), u" and trim(Animal)=", Quoted(txtAnimal.Text())));
 }
 
 void CounterScreen::StoreNew(const Delivery& delivery)
 {
     InsertDelivery(delivery);
-    if (delivery.animal == u"gaaya")
+    if (delivery.animal == Word::Cow)
         CowLitersTaken += delivery.liters;
-    else if (delivery.animal == u"mhOsa")
+    else if (delivery.animal == Word::Buffalo)
         BuffLitersTaken += delivery.liters;
     if (Setting(u"PurchaseEntry") == u"Collection")
         PostClosingBalance(delivery.memberName, delivery.amount, PostAction::Add);
@@ -87,15 +85,15 @@ void CounterScreen::StoreNew(const Delivery& delivery)
 void CounterScreen::DeleteRow()
 {
     const Shift shift = TheShift();
-    const double number = Value(txtCollectionNo);
-    const double memberNo = Value(txtMemberNo);
+    const double number = txtCollectionNo.Value();
+    const double memberNo = txtMemberNo.Value();
     if (Finds(Sql(u"select * from MilkPayments where CompanyId=", gAppState.gCompanyId, u" and FromDate>=",
             shift.Day(), u" and ToDate<=", shift.Day(), u" and MemberNo=", memberNo))) {
         ShowPlain(QStringLiteral("Milk Payment Already Done, You Cannot Delete this Collection"));
         return;
     }
     if (Finds(Sql(u"select * from MilkCollections where CollectionDate=", shift.Day(),
-            u" and CollectionTime='", shift.time, u"' and CollectionNo=", number))) {
+            u" and CollectionTime=", Quoted(shift.time), u" and CollectionNo=", number))) {
         Transaction deleting(gCn);
         DeleteDelivery(shift, number);
         TidyShiftCopy();
@@ -114,7 +112,7 @@ QString CounterScreen::RowsOfMember() const
 {
     const Shift shift = TheShift();
     return Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
-        u" and CollectionTime='", shift.time, u"' AND MemberNo=", Value(txtMemberNo));
+        u" and CollectionTime=", Quoted(shift.time), u" AND MemberNo=", txtMemberNo.Value());
 }
 
 void CounterScreen::SearchMember()
@@ -128,6 +126,8 @@ void CounterScreen::SearchMember()
     }
     DataGridInwards.ReadAll(); // the search puts other rows into the copy
     gAppState.gCallerTag = QStringLiteral("MC");
-    ScreenDirectory::Open(QStringLiteral("frmSearchCollections"), lblSearch.Shown());
+    frmSearchCollections search(
+        frmSearchCollections::Handover{TheShift(), txtMemberNo.Text(), ComboMemberName.Text()});
+    search.ShowModal();
     LightMemberKeys();
 }

@@ -3,6 +3,7 @@
 #include "collection/CounterScreen.h"
 #include "collection/CopySums.h"
 #include "collection/Counter.h"
+#include "platform/text/Numbers.h"
 
 using namespace Counter;
 

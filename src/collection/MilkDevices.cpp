@@ -5,6 +5,7 @@
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/serial/SerialLine.h"
+#include "society/Words.h"
 
 #include <algorithm>
 #include <array>
@@ -231,7 +232,7 @@ std::optional<double> MilkDevices::ReadFrame(char mark)
 
 bool DeviceSwitch::IsOn(QStringView setting)
 {
-    return setting == u"haoya";
+    return setting == Word::Yes;
 }
 
 QString DeviceSwitch::Caption(QStringView setting)
@@ -241,5 +242,5 @@ QString DeviceSwitch::Caption(QStringView setting)
 
 QString DeviceSwitch::SettingAfterClick(QStringView caption)
 {
-    return caption == u"sau$" ? QStringLiteral("naahI") : QStringLiteral("haoya");
+    return caption == u"sau$" ? Word::No.toString() : Word::Yes.toString();
 }

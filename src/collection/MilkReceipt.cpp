@@ -4,9 +4,9 @@
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
-#include "platform/text/Dates.h"
 #include "society/Queries.h"
 #include "society/ReceiptLayouts.h"
+#include "society/Words.h"
 
 void MilkReceipt::StageReceipt(const Delivery& d)
 {
@@ -14,9 +14,9 @@ void MilkReceipt::StageReceipt(const Delivery& d)
     gCn.Execute(QStringLiteral("delete * from MilkReceipt"));
     gCn.Execute(Sql(u"insert into MilkReceipt(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
                     u"MemberName,Animal,Liters,Fat,Rate,Amount,ActualCollectionTime) values(",
-        gAppState.gCompanyId, u",'", DateText(d.shift.date), u"','", d.shift.time, u"',", d.number, u",",
-        d.memberNo, u",'", d.memberName, u"','", d.animal, u"',", d.liters, u",", d.fat, u",", d.rate, u",",
-        d.amount, u",'", d.actualTime, u"')"));
+        Values(gAppState.gCompanyId, d.shift.date, d.shift.time, d.number, d.memberNo, d.memberName, d.animal,
+            d.liters, d.fat, d.rate, d.amount, d.actualTime),
+        u")"));
 }
 
 QString MilkReceipt::Subject()
@@ -30,26 +30,26 @@ QString MilkReceipt::Subject()
 
 void MilkReceipt::Prepare()
 {
-    if (Setting(u"PrintStatus") == u"naahI")
+    if (Setting(u"PrintStatus") == Word::No)
         return;
-    CounterReport slip;
-    slip.SetReportFileName(ReceiptLayoutOf(Setting(u"ReceiptType")).counterTemplate);
+    TemplateReport slip;
+    slip.SetTemplate(ReceiptLayoutOf(Setting(u"ReceiptType")).counterTemplate);
     slip.Prepare();
 }
 
 void MilkReceipt::PrintReceipt(QStringView printerButton)
 {
     const QString printStatus = Setting(u"PrintStatus");
-    if (printStatus == u"naahI" || printerButton != PrinterOn)
+    if (printStatus == Word::No || printerButton != PrinterOn)
         return;
     // An unknown type leaves the template of the slip before.
     const ReceiptLayout layout = ReceiptLayoutOf(Setting(u"ReceiptType"));
     if (!layout.counterTemplate.isEmpty())
-        CRMilkReceipt.SetReportFileName(layout.counterTemplate);
+        CRMilkReceipt.SetTemplate(layout.counterTemplate);
     if (printStatus == u"f@t sËIna")
-        CRMilkReceipt.SetDestination(CounterReport::Destination::Window);
-    else if (printStatus == u"haoya")
-        CRMilkReceipt.SetDestination(CounterReport::Destination::Printer);
+        CRMilkReceipt.SetDestination(ReportDestination::Window);
+    else if (printStatus == Word::Yes)
+        CRMilkReceipt.SetDestination(ReportDestination::Printer);
     gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
     CRMilkReceipt.SetSubject(Subject());
     CRMilkReceipt.Print();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "collection/CounterReport.h"
 #include "collection/Deliveries.h"
+#include "core/preview/TemplateReport.h"
 
 // The slip that a member takes home: one delivery, staged in MilkReceipt and printed from there.
 class MilkReceipt {
@@ -25,5 +25,5 @@ public:
     void PrintReceipt(QStringView printerButton);
 
 private:
-    CounterReport CRMilkReceipt;
+    TemplateReport CRMilkReceipt;
 };

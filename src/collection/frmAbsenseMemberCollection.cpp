@@ -1,16 +1,12 @@
 #include "collection/frmAbsenseMemberCollection.h"
 
-#include "collection/Counter.h"
-#include "collection/CounterPieces.h"
-#include "core/menu/CommonKeys.h"
-#include "core/menu/Keys.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "platform/forms/Layout.h"
 #include "platform/forms/ModalStack.h"
-#include "society/CompanyTitle.h"
+#include "platform/forms/Pieces.h"
 #include "society/Queries.h"
 #include "society/Wanted.h"
 
@@ -18,8 +14,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-using namespace Counter;
-using namespace CounterPieces;
+using namespace Pieces;
 
 namespace {
 
@@ -39,21 +34,25 @@ std::vector<DataGrid::Column> MemberColumns()
 SqlText Deliverers(const Shift& shift)
 {
     return Sql(u"SELECT MemberNo,MemberName FROM MilkCollections WHERE CollectionDate=", shift.Day(),
-        u" AND CollectionTime='", shift.time, u"'");
+        u" AND CollectionTime=", Quoted(shift.time));
 }
 
+}
+
+Keys::Places frmAbsenseMemberCollection::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmAbsenseMemberCollection"), Shivaji(u"dUQa saMklana nasaNaaro saBaasad"),
+            {Next, Back, Leave, CalculatorKey(), TutorKey(), OneOfTwo}},
+    };
 }
 
 frmAbsenseMemberCollection::frmAbsenseMemberCollection()
-    : Screen("frmAbsenseMemberCollection")
+    : SocietyScreen(KeyPlaces(), Shivaji(u"dUQa saMklana nasaNaaro saBaasad"), {.guide = "lblFooter"})
     , DataGridMembers(this, "DataGridMembers", MemberColumns())
 {
     When(MaskDate.GotFocus, &frmAbsenseMemberCollection::MaskDate_GotFocus);
-    When(MaskDate.LostFocus, &frmAbsenseMemberCollection::MaskDate_LostFocus);
-    When(txtTime.LostFocus, &frmAbsenseMemberCollection::txtTime_LostFocus);
-    When(Command1.Click, &frmAbsenseMemberCollection::Command1_Click);
-    txtTime.SetLocked(true);
-    txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     Command1.SetGuide(Plain(u"Enter : यादी"));
     LayOut();
 }
@@ -66,12 +65,6 @@ void frmAbsenseMemberCollection::Load()
     gCn.Execute(QStringLiteral("Delete * From ShortMemberList"));
     emptying.Commit();
     DataGridMembers.Refresh();
-    ShowCompany(lblCompanyTitle, lblAcYear);
-}
-
-bool frmAbsenseMemberCollection::KeyDown(const QKeyEvent& key)
-{
-    return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
 }
 
 void frmAbsenseMemberCollection::MaskDate_GotFocus()
@@ -96,7 +89,7 @@ bool frmAbsenseMemberCollection::HoldShift()
 {
     if (!MaskDate.InsistOnDate(Wanted::Date()))
         return false;
-    const bool isShift = IsShift(txtTime.Text());
+    const bool isShift = txtTime.HoldsShift();
     if (!isShift)
         txtTime.SetFocus(Wanted::Shift());
     return isShift;
@@ -108,7 +101,7 @@ void frmAbsenseMemberCollection::Command1_Click()
         return;
     ListAbsent({MaskDate.Date(), txtTime.Text()});
     DataGridMembers.Bind(gCn, MembersQuery.toString());
-    lblFooter.SetCaption(
+    lblGuide.SetCaption(
         DataGridMembers.CurrentRow() < 0 ? Plain(u"कालच्या या वेळेतील कोणीही गैरहजर नाही") : Command1.Guide());
 }
 
@@ -123,7 +116,7 @@ void frmAbsenseMemberCollection::ListAbsent(const Shift& today)
         if (Finds(Sql(Deliverers(today), u" AND MemberNo=", memberNo)))
             continue;
         gCn.Execute(Sql(u"INSERT INTO ShortMemberList(CompanyId,MemberNo,MemberName) VALUES(",
-            gAppState.gCompanyId, u", ", memberNo, u", '", row[u"MemberName"].Text(), u"')"));
+            Values(gAppState.gCompanyId, memberNo, row[u"MemberName"].Text()), u")"));
     }
     gCn.Execute(QStringLiteral("Delete * From ShortMemberList Where CompanyId=0"));
     listing.Commit();
@@ -131,12 +124,7 @@ void frmAbsenseMemberCollection::ListAbsent(const Shift& today)
 
 void frmAbsenseMemberCollection::LayOut()
 {
-    SetTitleLabel(lblTitle);
-    SetTitle(Shivaji(u"dUQa saMklana nasaNaaro saBaasad"));
-    SetGuideLabel(lblFooter);
-    Layout::MakeGuide(lblFooter);
-
-    QWidget* question = Panel();
+    QWidget* question = Sheet();
     auto* row = new QHBoxLayout(question);
     row->setContentsMargins(16, 6, 16, 10);
     row->setSpacing(16);
@@ -151,10 +139,8 @@ void frmAbsenseMemberCollection::LayOut()
     auto* body = new QVBoxLayout;
     body->setSpacing(6);
     body->addWidget(question);
-    body->addWidget(lblFooter.Widget());
+    body->addWidget(lblGuide.Widget());
     body->addWidget(Label28.Widget());
     body->addWidget(List(DataGridMembers, ListRow, Look::Size::Large), 1);
-    Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
-        Layout::KeyStrip(Keys::Of(Name())));
-    body->setContentsMargins(20, 10, 20, 12);
+    Stack(body, {20, 10, 20, 12});
 }

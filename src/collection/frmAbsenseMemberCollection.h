@@ -4,28 +4,26 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
-#include "platform/forms/Screen.h"
+#include "society/Fields.h"
+#include "society/SocietyScreen.h"
 
 // The members who brought milk to a shift the day before and none to it today.
-class frmAbsenseMemberCollection final : public Screen {
+class frmAbsenseMemberCollection final : public SocietyScreen {
 public:
     frmAbsenseMemberCollection();
 
+    static Keys::Places KeyPlaces();
+
 private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
-    Label lblFooter{this, "lblFooter"};
     Label Label28{this, "Label28", Shivaji(u"Aaja dUQa saMklana nasaNaaáyaaMcaI naavao")};
 
-    DateField MaskDate{this, "MaskDate"};
-    ChoiceField txtTime{
-        this, "txtTime", {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}}};
-    Button Command1{this, "Command1", Plain(u">>")};
+    DateField MaskDate{this, "MaskDate", &frmAbsenseMemberCollection::MaskDate_LostFocus};
+    ShiftField txtTime{this, "txtTime", &frmAbsenseMemberCollection::txtTime_LostFocus};
+    Button Command1{this, "Command1", Plain(u">>"), &frmAbsenseMemberCollection::Command1_Click};
     DataGrid DataGridMembers;
 
     void Load() override;
-    bool KeyDown(const QKeyEvent& key) override;
+    void Escape() override { Close(); } // nothing is cleared here
 
     void MaskDate_GotFocus();
     void MaskDate_LostFocus();

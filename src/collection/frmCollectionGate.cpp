@@ -1,24 +1,36 @@
 #include "collection/frmCollectionGate.h"
 
-#include "collection/Counter.h"
 #include "core/menu/Keys.h"
 #include "core/menu/ScreenDirectory.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
-#include "platform/forms/Layout.h"
 #include "platform/text/Shivaji01.h"
 
-using namespace Counter;
+Keys::Places frmCollectionGate::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmCollectionGate"), Shivaji(u"dUQa saMklana 2"),
+            {Next, Back, Leave, CalculatorKey(), MembersKey(), AdvanceKey(), TutorKey(),
+                {QStringLiteral("Alt+B"), Shivaji(u"baahor")}}},
+        {QStringLiteral("frmCollectionGate.fields"), Plain(u"दूध संकलन २, वेळ, नाव, दूध व शोधात"),
+            {OneOfTwo, ListOfNames, Tick}},
+        {QStringLiteral("frmCollectionGate.maskDate"), Plain(u"दूध संकलन २, दिनांकात"),
+            {{QStringLiteral("Shift+Tab"), Plain(u"शोध, क्रम, वजन काटा, फॅट मशीन, प्रिंटर")}}},
+        {QStringLiteral("frmCollectionGate.txtCollectionNo"), Plain(u"दूध संकलन २, संकलन क्रमांकात"),
+            NumberKeys()},
+        {QStringLiteral("frmCollectionGate.txtMemberNo"), Plain(u"दूध संकलन २, मेम्बर नंबरात"),
+            {SearchKey(), DeleteKey()}},
+    };
+}
 
-frmCollectionGate::frmCollectionGate() : CounterScreen(GateCounter)
+frmCollectionGate::frmCollectionGate() : CounterScreen(GateCounter, KeyPlaces())
 {
     When(cmdGo.GotFocus, &frmCollectionGate::cmdGo_GotFocus);
     for (const auto& [button, column] : OrderButtons())
         button->Click = [this, button = button, column = column] { ToggleOrder(*button, column); };
-    When(Command1.Click, &frmCollectionGate::Command1_Click);
-    When(Command3.Click, &frmCollectionGate::Command3_Click);
-    for (const auto& [field, column] : std::initializer_list<std::pair<Field*, QStringView>>{
+    for (const auto& [field, column] : std::initializer_list<std::pair<NumberField*, QStringView>>{
              {&txtLiters, u"Liters"}, {&txtFat, u"Fat"}, {&txtRate, u"Rate"}})
         field->TextChanged = [this, field = field, column = column] { SearchNumber(*field, column); };
     When(txtAnimal.TextChanged, &frmCollectionGate::txtAnimal_Change);
@@ -27,12 +39,13 @@ frmCollectionGate::frmCollectionGate() : CounterScreen(GateCounter)
     chkSerachMode.SetGuide(Keys::Guide(QStringLiteral("CheckBox")));
     Command1.SetCancels(true); // the gate is left whatever stands in its fields
 
-    LayOut(Layout::Header(lblTitle, lblCompanyName), ListAndTotals(), Layout::KeyStrip(Keys::Of(Name())));
+    lblAcYear.SetVisible(false); // there is one line in its band
+    LayOut(ListAndTotals(), KeyStrip(Name()));
 }
 
 void frmCollectionGate::Load()
 {
-    lblCompanyName.SetText(gAppState.gCompanyName);
+    lblCompanyTitle.SetText(gAppState.gCompanyName);
     CounterScreen::Load();
 }
 
@@ -70,13 +83,13 @@ void frmCollectionGate::txtMemberNo_Change()
 
 void frmCollectionGate::txtAnimal_Change()
 {
-    Search(Sql(u" WHERE Animal='", txtAnimal.Text().trimmed(), u"'"));
+    Search(Sql(u" WHERE Animal=", Quoted(txtAnimal.Text().trimmed())));
 }
 
 void frmCollectionGate::ComboMemberName_Change()
 {
     const QString name = ComboMemberName.Text().trimmed();
-    Search(Sql(u" WHERE left(MemberName,", name.size(), u")='", name, u"'", OrReadsLike(name)));
+    Search(Sql(u" WHERE left(MemberName,", name.size(), u")=", Quoted(name), OrReadsLike(name)));
 }
 
 // The deliveries of members whose name begins with what is read, in another spelling.
@@ -96,9 +109,9 @@ QString frmCollectionGate::OrReadsLike(const QString& beginning) const
 }
 
 // A field that was just emptied shows the whole shift.
-void frmCollectionGate::SearchNumber(const Field& field, QStringView column)
+void frmCollectionGate::SearchNumber(const NumberField& field, QStringView column)
 {
-    Search(IsNumeric(field.Text()) ? Sql(u" WHERE ", column, u"=", Value(field)) : SqlText());
+    Search(field.HoldsNumber() ? Sql(u" WHERE ", column, u"=", field.Value()) : SqlText());
 }
 
 void frmCollectionGate::Search(const SqlText& condition)

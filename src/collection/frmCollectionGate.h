@@ -10,15 +10,16 @@ class frmCollectionGate final : public CounterScreen {
 public:
     frmCollectionGate();
 
-private:
-    Label lblCompanyName{this, "lblCompanyName"};
+    static Keys::Places KeyPlaces();
 
+private:
     Button cmdLtrOrder{this, "cmdLtrOrder", Ascending()};
     Button cmdFatOrder{this, "cmdFatOrder", Ascending()};
     Button cmdRateOrder{this, "cmdRateOrder", Ascending()};
     Button cmdAmtOrder{this, "cmdAmtOrder", Ascending()};
-    Button Command3{this, "Command3", Shivaji(u" dUQa saMklana nasaNaaro saBaasad")};
-    Button Command1{this, "Command1", Shivaji(u"&baahor")};
+    Button Command3{
+        this, "Command3", Shivaji(u" dUQa saMklana nasaNaaro saBaasad"), &frmCollectionGate::Command3_Click};
+    Button Command1{this, "Command1", Shivaji(u"&baahor"), &frmCollectionGate::Command1_Click};
     CheckBox chkSerachMode{this, "chkSerachMode", Shivaji(u"A^DvhansD saca-")};
 
     void Load() override;
@@ -34,7 +35,7 @@ private:
     static Caption Descending() { return Plain(u"↓"); }
     std::array<std::pair<Button*, QStringView>, 4> OrderButtons(); // each button and its column
     void ToggleOrder(Button& button, QStringView column);
-    void SearchNumber(const Field& field, QStringView column);
+    void SearchNumber(const NumberField& field, QStringView column);
     void Search(const SqlText& condition);
 
     QLayout* ListAndTotals();

@@ -1,12 +1,12 @@
 #include "collection/frmCollectionGate.h"
 
-#include "collection/CounterPieces.h"
 #include "platform/forms/ColumnBar.h"
+#include "platform/forms/Pieces.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-using namespace CounterPieces;
+using namespace Pieces;
 
 QLayout* frmCollectionGate::ListAndTotals()
 {

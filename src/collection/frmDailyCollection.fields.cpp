@@ -2,7 +2,6 @@
 
 #include "collection/frmDailyCollection.h"
 #include "collection/Counter.h"
-#include "core/menu/Keys.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
@@ -10,6 +9,7 @@
 #include "rates/LookupFatRate.h"
 #include "society/Names.h"
 #include "society/Wanted.h"
+#include "society/Words.h"
 
 #include <QKeyEvent>
 
@@ -19,20 +19,6 @@
 using namespace Counter;
 
 namespace {
-
-std::vector<DataGrid::Column> ListColumns()
-{
-    return {
-        {QStringLiteral("CollectionDate"), Shivaji(u"idnaaMk"), 130, {}, false, false},
-        {QStringLiteral("CollectionTime"), Shivaji(u"vaoL"), 0},
-        {QStringLiteral("CollectionNo"), Shivaji(u"saMklana k`M"), 120, {}, false, false},
-        {QStringLiteral("Animal"), Shivaji(u"dUQa p`kar"), 110},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 110, QStringLiteral("####0.000"), true},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), 80, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), 100, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 130, QStringLiteral("#####0.00"), true},
-    };
-}
 
 // The counters keep a number in 16 bits, and so the one after it.
 constexpr double HighestNumber = 32766;
@@ -54,54 +40,12 @@ Caption FatWanted()
 }
 
 // A field that must hold a number, whatever was typed.
-void MendNumber(Field& field)
+void MendNumber(NumberField& field)
 {
-    if (!IsNumeric(field.Text()))
+    if (!field.HoldsNumber())
         field.SetText(QStringLiteral("0"));
 }
 
-}
-
-frmDailyCollection::frmDailyCollection()
-    : Screen("frmDailyCollection")
-    , DataGrid1(this, "DataGrid1", ListColumns())
-{
-    WireHandlers();
-    txtAnimal.SetLocked(true);
-    cmbCollectionTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
-    cmbMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
-    DataGrid1.SetGuide(Plain(u"Enter : ही नोंद    F5 : यादी बंद"));
-    cmbMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
-    cmdCancel.SetCancels(true);
-    LayOut();
-}
-
-void frmDailyCollection::WireHandlers()
-{
-    When(txtMemberNo.TextChanged, &frmDailyCollection::txtMemberNo_Change);
-    for (Field* key : std::initializer_list<Field*>{&MasKCollectionDate, &cmbCollectionTime})
-        When(key->TextChanged, &frmDailyCollection::ForgetRow);
-    When(txtCollectionNo.TextChanged, &frmDailyCollection::txtCollectionNo_Change);
-    When(txtAmount.TextChanged, &frmDailyCollection::txtAmount_Change);
-    When(txtMemberNo.LostFocus, &frmDailyCollection::txtMemberNo_LostFocus);
-    When(cmbMemberName.LostFocus, &frmDailyCollection::cmbMemberName_LostFocus);
-    When(MasKCollectionDate.LostFocus, &frmDailyCollection::MasKCollectionDate_LostFocus);
-    When(cmbCollectionTime.LostFocus, &frmDailyCollection::cmbCollectionTime_LostFocus);
-    When(txtCollectionNo.LostFocus, &frmDailyCollection::txtCollectionNo_LostFocus);
-    When(txtAnimal.LostFocus, &frmDailyCollection::txtAnimal_LostFocus);
-    When(txtLiters.LostFocus, &frmDailyCollection::txtLiters_LostFocus);
-    When(txtFat.LostFocus, &frmDailyCollection::txtFat_LostFocus);
-    When(txtRate.LostFocus, &frmDailyCollection::txtRate_LostFocus);
-    When(txtAmount.LostFocus, &frmDailyCollection::txtAmount_LostFocus);
-    When(cmdAdd.Click, &frmDailyCollection::cmdAdd_Click);
-    When(cmdModify.Click, &frmDailyCollection::cmdModify_Click);
-    When(cmdDelete.Click, &frmDailyCollection::cmdDelete_Click);
-    When(cmdCancel.Click, &frmDailyCollection::cmdCancel_Click);
-    When(cmdExit.Click, &frmDailyCollection::cmdExit_Click);
-    When(DataGrid1.Click, &frmDailyCollection::DataGrid1_Click);
-    txtMemberNo.KeyDown = [this](const QKeyEvent& key) { return txtMemberNo_KeyDown(key); };
-    cmbCollectionTime.KeyDown = [this](const QKeyEvent& key) { return cmbCollectionTime_KeyDown(key); };
-    DataGrid1.KeyDown = [this](const QKeyEvent& key) { return DataGrid1_KeyDown(key); };
 }
 
 std::vector<Field*> frmDailyCollection::Fields()
@@ -122,9 +66,9 @@ bool frmDailyCollection::HasMissing()
 
 frmDailyCollection::Missing frmDailyCollection::Unfinished()
 {
-    if (!IsNumeric(txtMemberNo.Text()))
+    if (!txtMemberNo.HoldsNumber())
         return {&txtMemberNo, WithWayOut(u"मेम्बर नंबर टाका")};
-    if (IsAdding() && cmbMemberName.IsEmpty())
+    if (Modes.IsNew() && cmbMemberName.IsEmpty())
         return {&cmbMemberName, WithWayOut(u"नाव टाका, किंवा ↓ ने यादीतून निवडा")};
     if (!MasKCollectionDate.HoldsDate())
         return {&MasKCollectionDate, Wanted::Date()};
@@ -132,11 +76,11 @@ frmDailyCollection::Missing frmDailyCollection::Unfinished()
         return {&cmbCollectionTime, Wanted::Shift()};
     if (const Missing number = UnfinishedNumber(); number.field)
         return number;
-    if (IsDeleting())
+    if (Modes.IsDelete())
         return {};
     if (txtAnimal.IsEmpty())
         return {&txtAnimal, Wanted::Animal()};
-    if (const Missing figure = IsAdding() ? UnfinishedFigure() : Missing(); figure.field)
+    if (const Missing figure = Modes.IsNew() ? UnfinishedFigure() : Missing(); figure.field)
         return figure;
     if (Priced() == PricedFor)
         return {};
@@ -146,13 +90,13 @@ frmDailyCollection::Missing frmDailyCollection::Unfinished()
 // A new row has a number of its own day and shift: leaving the shift shows it.
 frmDailyCollection::Missing frmDailyCollection::UnfinishedNumber()
 {
-    if (IsAdding() && DayAndShift() != NumberedFor)
+    if (Modes.IsNew() && DayAndShift() != NumberedFor)
         return {&cmbCollectionTime, Plain(u"दिनांक किंवा वेळ बदलली : Enter ने नवा क्रमांक, मग सेव्ह")};
-    if (!IsNumeric(txtCollectionNo.Text()))
+    if (!txtCollectionNo.HoldsNumber())
         return {&txtCollectionNo, WithWayOut(u"संकलन क्रमांक टाका")};
-    if (!IsAdding())
+    if (!Modes.IsNew())
         return IsRowShown ? Missing() : Missing{&txtCollectionNo, Plain(u"Enter ने नोंद पाहा, मग पुढे")};
-    const double number = Value(txtCollectionNo);
+    const double number = txtCollectionNo.Value();
     const bool isOfASeries = number >= 1 && number <= HighestNumber && number == std::trunc(number);
     if (isOfASeries || txtCollectionNo.Text() == ProposedNo)
         return {};
@@ -161,11 +105,11 @@ frmDailyCollection::Missing frmDailyCollection::UnfinishedNumber()
 
 frmDailyCollection::Missing frmDailyCollection::UnfinishedFigure()
 {
-    if (!IsNumeric(txtLiters.Text()) || Value(txtLiters) <= 0)
+    if (!txtLiters.HoldsNumber() || txtLiters.Value() <= 0)
         return {&txtLiters, LitersWanted()};
-    if (!IsNumeric(txtFat.Text()) || Value(txtFat) <= 0 || Value(txtFat) > HighestFat)
+    if (!txtFat.HoldsNumber() || txtFat.Value() <= 0 || txtFat.Value() > HighestFat)
         return {&txtFat, FatWanted()};
-    if (!IsNumeric(txtRate.Text()))
+    if (!txtRate.HoldsNumber())
         return {&txtRate, WithWayOut(u"दर टाका")};
     return IsNumeric(txtAmount.Text()) ? Missing() : Missing{&txtAmount, WithWayOut(u"रक्कम टाका")};
 }
@@ -178,15 +122,12 @@ QStringList frmDailyCollection::Priced() const
 
 // Member
 
-bool frmDailyCollection::txtMemberNo_KeyDown(const QKeyEvent& key)
+void frmDailyCollection::ShowOrHideList()
 {
-    if (key.key() != Qt::Key_F5 || !IsAdding())
-        return false;
     if (IsListShown())
         ShowList(false);
-    else
+    else if (Modes.IsNew())
         OpenList();
-    return true;
 }
 
 void frmDailyCollection::txtMemberNo_Change()
@@ -204,12 +145,12 @@ void frmDailyCollection::ForgetRow()
 
 void frmDailyCollection::txtMemberNo_LostFocus()
 {
-    if (!IsNumeric(txtMemberNo.Text())) {
+    if (!txtMemberNo.HoldsNumber()) {
         txtMemberNo.Clear();
         return;
     }
     const Recordset member(
-        gCn, Sql(u"SELECT MemberName,Animal FROM MembersMaster WHERE  MemberNo=", Value(txtMemberNo)));
+        gCn, Sql(u"SELECT MemberName,Animal FROM MembersMaster WHERE  MemberNo=", txtMemberNo.Value()));
     if (member.Eof())
         cmbMemberName.Clear(); // a name stands there only beside its own number
     else
@@ -219,15 +160,15 @@ void frmDailyCollection::txtMemberNo_LostFocus()
 // A member of both kinds leaves the animal to the clerk.
 void frmDailyCollection::TakeMember(const Recordset& member)
 {
-    cmbMemberName.SetEntry({member[u"MemberName"].Text(), ShortestDecimal(Value(txtMemberNo))});
-    if (const QString animal = member[u"Animal"].Text(); animal != u"daonhI")
+    cmbMemberName.SetEntry({member[u"MemberName"].Text(), ShortestDecimal(txtMemberNo.Value())});
+    if (const QString animal = member[u"Animal"].Text(); animal != Word::Both)
         txtAnimal.SetText(animal);
 }
 
 // A member can be told by name as well; a name that is nobody's gives way to that of the number.
 void frmDailyCollection::cmbMemberName_LostFocus()
 {
-    if (IsNameOf(cmbMemberName, Value(txtMemberNo)))
+    if (IsNameOf(cmbMemberName, txtMemberNo.Value()))
         return;
     if (const Recordset member = MemberOfName(cmbMemberName); !member.Eof()) {
         txtMemberNo.SetText(member[u"MemberNo"].Text());
@@ -260,8 +201,7 @@ bool frmDailyCollection::cmbCollectionTime_KeyDown(const QKeyEvent& key)
 {
     if (key.modifiers().testFlag(Qt::AltModifier) || (key.key() != Qt::Key_1 && key.key() != Qt::Key_2))
         return false;
-    cmbCollectionTime.SetText(
-        key.key() == Qt::Key_1 ? QStringLiteral("sakaL") : QStringLiteral("saMQyaakaL"));
+    cmbCollectionTime.SetText(key.key() == Qt::Key_1 ? Word::Morning.toString() : Word::Evening.toString());
     cmbCollectionTime.SelectAll();
     return true;
 }
@@ -270,7 +210,7 @@ void frmDailyCollection::cmbCollectionTime_LostFocus()
 {
     if (!IsShift(cmbCollectionTime.Text()))
         cmbCollectionTime.SetFocus(Wanted::Shift());
-    else if (IsAdding() && MasKCollectionDate.InsistOnDate(Wanted::Date()))
+    else if (Modes.IsNew() && MasKCollectionDate.InsistOnDate(Wanted::Date()))
         ShowNextNumber();
 }
 
@@ -285,18 +225,18 @@ void frmDailyCollection::txtCollectionNo_LostFocus()
 {
     const bool isPicked = std::exchange(IsPicked, false);
     const bool isSeen = IsRowShown;
-    if ((IsAdding() && !isPicked) || !MasKCollectionDate.InsistOnDate(Wanted::Date()))
+    if ((Modes.IsNew() && !isPicked) || !MasKCollectionDate.InsistOnDate(Wanted::Date()))
         return;
     const Recordset row(gCn,
-        Sql(u"SELECT * FROM MilkCollections WHERE CollectionNo=", Value(txtCollectionNo), u" AND MemberNo=",
-            Value(txtMemberNo), u" AND CollectionDate=", Day()));
+        Sql(u"SELECT * FROM MilkCollections WHERE CollectionNo=", txtCollectionNo.Value(), u" AND MemberNo=",
+            txtMemberNo.Value(), u" AND CollectionDate=", Day()));
     if (!row.Eof()) {
         ShowRow(row);
         if (!isSeen && (GoingTo() == &cmdModify || GoingTo() == &cmdDelete))
             txtCollectionNo.SetFocus(Plain(u"नोंद पाहा, मग पुन्हा दाबा")); // one look before it is written
-        else if (IsDeleting() && !IsSteppingBack())
+        else if (Modes.IsDelete() && !IsSteppingBack())
             cmdDelete.SetFocus();
-    } else if (!IsAdding()) {
+    } else if (!Modes.IsNew()) {
         ShowNotice(Shivaji(u"saMklana naM tpasaa."));
         cmdCancel_Click();
     }
@@ -310,8 +250,8 @@ void frmDailyCollection::ShowRow(const Recordset& row)
     cmbCollectionTime.SetText(row[u"CollectionTime"].Text());
     txtCollectionNo.SetText(row[u"CollectionNo"].Text());
     txtAnimal.SetText(row[u"Animal"].Text());
-    for (const auto& [field, column] : {std::pair(&txtLiters, u"Liters"), std::pair(&txtFat, u"Fat"),
-             std::pair(&txtRate, u"Rate"), std::pair(&txtAmount, u"Amount")}) {
+    for (const auto& [field, column] : std::initializer_list<std::pair<NumberField*, QStringView>>{
+             {&txtLiters, u"Liters"}, {&txtFat, u"Fat"}, {&txtRate, u"Rate"}, {&txtAmount, u"Amount"}}) {
         field->SetText(row[column].Text());
         MendNumber(*field);
     }
@@ -332,35 +272,33 @@ void frmDailyCollection::txtLiters_LostFocus()
 {
     if (txtAnimal.IsEmpty())
         txtAnimal.SetFocus(Wanted::Animal());
-    else if (Value(txtLiters) <= 0)
+    else if (txtLiters.Value() <= 0)
         txtLiters.SetFocus(LitersWanted());
 }
 
 void frmDailyCollection::txtFat_LostFocus()
 {
-    for (Field* field : {&txtLiters, &txtFat}) {
-        if (IsNumeric(field->Text()) && Value(*field) > 0)
+    for (NumberField* field : std::initializer_list<NumberField*>{&txtLiters, &txtFat}) {
+        if (field->HoldsNumber() && field->Value() > 0)
             continue;
         field->SetText(QStringLiteral("0"));
         field->SetFocus(field == &txtFat ? FatWanted() : LitersWanted());
         return;
     }
-    const double fat = Value(txtFat);
-    txtFat.SetText(Format(fat, FatFormat));
-    if (fat > HighestFat) {
+    if (txtFat.Reformat() > HighestFat) {
         txtFat.SetFocus(FatWanted());
         return;
     }
     if (!MasKCollectionDate.InsistOnDate(Wanted::Date()))
         return;
-    const FatRate found = LookupFatRate(MasKCollectionDate.Date(), Value(txtFat), txtAnimal.Text());
+    const FatRate found = LookupFatRate(MasKCollectionDate.Date(), txtFat.Value(), txtAnimal.Text());
     if (found.outcome == FatRate::Outcome::NoChart) {
         gAppState.gCallerTag = QStringLiteral("1");
         txtFat.SetFocus(WithWayOut(u"फॅट दराचा तक्ता नाही"));
         return;
     }
     if (found.outcome == FatRate::Outcome::Priced)
-        txtRate.SetText(Format(found.rate, MoneyFormat));
+        txtRate.Show(found.rate);
     ShowAmount();
     if (!IsSteppingBack())
         cmdAdd.SetFocus(); // a new row is done; a change goes on to the rate
@@ -368,7 +306,7 @@ void frmDailyCollection::txtFat_LostFocus()
 
 void frmDailyCollection::ShowAmount()
 {
-    txtAmount.SetText(Format(Value(txtLiters) * Value(txtRate), MoneyFormat));
+    txtAmount.Show(txtLiters.Value() * txtRate.Value());
     PricedFor = Priced();
 }
 

@@ -5,38 +5,39 @@
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
-#include "platform/forms/Screen.h"
+#include "society/Fields.h"
+#include "society/RecordModes.h"
+#include "society/SocietyScreen.h"
 
 // The deliveries of one member, day after day: for keying a paper register, and for mending a row. It writes
 // the books and nothing beside them: no slip, no balance and no copy of the shift. The captions of the
 // buttons tell what it is doing.
-class frmDailyCollection final : public Screen {
+class frmDailyCollection final : public SocietyScreen {
 public:
     frmDailyCollection();
 
-private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
-    Label lblGuide{this, "lblGuide"};
+    static Keys::Places KeyPlaces();
 
-    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
-    NameCombo cmbMemberName{this, "cmbMemberName"};
-    DateField MasKCollectionDate{this, "MasKCollectionDate"};
-    NameCombo cmbCollectionTime{this, "cmbCollectionTime"};
-    NumberField txtCollectionNo{this, "txtCollectionNo", NumberField::Digits::Whole};
-    ChoiceField txtAnimal{
-        this, "txtAnimal", {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}}};
-    NumberField txtLiters{this, "txtLiters", NumberField::Digits::Decimals};
-    NumberField txtFat{this, "txtFat", NumberField::Digits::Decimals};
-    NumberField txtRate{this, "txtRate", NumberField::Digits::Decimals};
-    NumberField txtAmount{this, "txtAmount", NumberField::Digits::Decimals};
-    Button cmdAdd{this, "cmdAdd", Shivaji(u"&navaIna")};
-    Button cmdModify{this, "cmdModify", Shivaji(u"ba&dla")};
-    Button cmdDelete{this, "cmdDelete", Shivaji(u"&KaoDNao...")};
-    Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+private:
+    WholeField txtMemberNo{this, "txtMemberNo", &frmDailyCollection::txtMemberNo_LostFocus};
+    NameCombo cmbMemberName{this, "cmbMemberName", &frmDailyCollection::cmbMemberName_LostFocus};
+    DateField MasKCollectionDate{
+        this, "MasKCollectionDate", &frmDailyCollection::MasKCollectionDate_LostFocus};
+    NameCombo cmbCollectionTime{this, "cmbCollectionTime", &frmDailyCollection::cmbCollectionTime_LostFocus};
+    WholeField txtCollectionNo{this, "txtCollectionNo", &frmDailyCollection::txtCollectionNo_LostFocus};
+    AnimalField txtAnimal{this, "txtAnimal", &frmDailyCollection::txtAnimal_LostFocus};
+    LitresField txtLiters{this, "txtLiters", &frmDailyCollection::txtLiters_LostFocus};
+    FatField txtFat{this, "txtFat", &frmDailyCollection::txtFat_LostFocus};
+    RateField txtRate{this, "txtRate", &frmDailyCollection::txtRate_LostFocus};
+    MoneyField txtAmount{this, "txtAmount", &frmDailyCollection::txtAmount_LostFocus};
+    Button cmdAdd{this, "cmdAdd", Shivaji(u"&navaIna"), &frmDailyCollection::cmdAdd_Click};
+    Button cmdModify{this, "cmdModify", Shivaji(u"ba&dla"), &frmDailyCollection::cmdModify_Click};
+    Button cmdDelete{this, "cmdDelete", Shivaji(u"&KaoDNao..."), &frmDailyCollection::cmdDelete_Click};
+    Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_"), &frmDailyCollection::cmdCancel_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmDailyCollection::cmdExit_Click};
     DataGrid DataGrid1;
+
+    RecordModes Modes;
 
     QWidget* Frame1 = nullptr; // holds DataGrid1
     bool IsRowShown = false; // the fields show a row of the books
@@ -46,10 +47,8 @@ private:
     QStringList PricedFor; // what the amount that is shown was made for
 
     void Load() override;
-    bool KeyDown(const QKeyEvent& key) override;
     void Escape() override;
 
-    bool txtMemberNo_KeyDown(const QKeyEvent& key);
     void txtMemberNo_Change();
     void txtMemberNo_LostFocus();
     void cmbMemberName_LostFocus();
@@ -68,15 +67,10 @@ private:
     void cmdModify_Click();
     void cmdDelete_Click();
     void cmdCancel_Click();
-    void cmdExit_Click();
-    bool DataGrid1_KeyDown(const QKeyEvent& key);
     void DataGrid1_Click();
 
     // States
-    bool IsAdding() const { return cmdAdd.Reads(u"&saovh"); }
-    bool IsModifying() const { return cmdModify.Reads(u"&saovh"); }
-    bool IsDeleting() const { return cmdDelete.Reads(u"&KaoDa"); }
-    void EnterState(Button& button, QStringView caption, QStringView title);
+    void BeginState();
     void SetGuides();
     void ShowIdle();
     void ClearFields();
@@ -108,9 +102,10 @@ private:
     // The member's list
     bool IsListShown() const { return DataGrid1.Visible(); }
     void OpenList();
+    void CloseList();
+    void ShowOrHideList();
     void ShowList(bool shown);
 
-    void WireHandlers();
     void LayOut();
     QLayout* MemberLine();
     QLayout* DayLine();

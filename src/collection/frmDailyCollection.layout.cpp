@@ -1,21 +1,16 @@
 #include "collection/frmDailyCollection.h"
 
-#include "collection/CounterPieces.h"
-#include "core/menu/Keys.h"
 #include "platform/forms/Layout.h"
+#include "platform/forms/Pieces.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-using namespace CounterPieces;
+using namespace Pieces;
 
 void frmDailyCollection::LayOut()
 {
-    SetTitleLabel(lblTitle);
-    SetGuideLabel(lblGuide);
-    Layout::MakeGuide(lblGuide);
-
     auto* body = new QVBoxLayout;
     body->setSpacing(12);
     body->addLayout(MemberLine());
@@ -24,9 +19,7 @@ void frmDailyCollection::LayOut()
     body->addWidget(lblGuide.Widget());
     body->addWidget(ListFrame(), 1);
     body->addLayout(Layout::ButtonRow({&cmdAdd, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit}));
-    Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
-        Layout::KeyStrip(Keys::Of(Name())));
-    body->setContentsMargins(20, 14, 20, 14);
+    Stack(body, {20, 14, 20, 14});
 }
 
 QLayout* frmDailyCollection::MemberLine()
@@ -54,7 +47,7 @@ QLayout* frmDailyCollection::DayLine()
 
 QWidget* frmDailyCollection::MilkPanel()
 {
-    auto* panel = Panel();
+    auto* panel = Sheet();
     auto* milk = new QHBoxLayout(panel);
     milk->setContentsMargins(16, 6, 16, 10);
     milk->setSpacing(10);
@@ -71,7 +64,7 @@ QWidget* frmDailyCollection::MilkPanel()
 // The frame keeps its place while it is hidden, so that nothing moves when it comes.
 QWidget* frmDailyCollection::ListFrame()
 {
-    Frame1 = Panel();
+    Frame1 = Sheet();
     Frame1->setObjectName(QStringLiteral("Frame1"));
     auto* inside = new QVBoxLayout(Frame1);
     inside->setContentsMargins(1, 1, 1, 1);

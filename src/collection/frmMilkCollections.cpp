@@ -4,8 +4,6 @@
 #include "core/menu/Keys.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
-#include "platform/forms/Layout.h"
-#include "society/CompanyTitle.h"
 
 using namespace Counter;
 
@@ -27,24 +25,38 @@ std::vector<DataGrid::Column> MilkColumns()
 
 }
 
+Keys::Places frmMilkCollections::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmMilkCollections"), Shivaji(u"dUQa saMklana 1"),
+            {Next, Back, Leave, CalculatorKey(), MembersKey(), AdvanceKey(), TutorKey(), OneOfTwo,
+                ListOfNames}},
+        {QStringLiteral("frmMilkCollections.maskDate"), Plain(u"दूध संकलन १, दिनांकात"),
+            {{QStringLiteral("Shift+Tab"), Plain(u"वजन काटा, फॅट मशीन, प्रिंटर")}}},
+        {QStringLiteral("frmMilkCollections.txtCollectionNo"), Plain(u"दूध संकलन १, संकलन क्रमांकात"),
+            NumberKeys()},
+        {QStringLiteral("frmMilkCollections.txtMemberNo"), Plain(u"दूध संकलन १, मेम्बर नंबरात"),
+            {{QStringLiteral("F7"), Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana"),
+                 &frmMilkCollections::ShowMemberFrame},
+                SearchKey(), DeleteKey()}},
+        {QStringLiteral("FrameMilkCollection"), Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana"),
+            {Next, Back, Leave, {QStringLiteral("Alt+I"), Shivaji(u"irpaoT-")},
+                {QStringLiteral("Alt+B"), Shivaji(u"baahor")}, CalculatorKey(), MembersKey(), AdvanceKey(),
+                TutorKey()}},
+    };
+}
+
 frmMilkCollections::frmMilkCollections()
-    : CounterScreen(MainCounter)
+    : CounterScreen(MainCounter, KeyPlaces())
     , DataGridMilk(this, "DataGridMilk", MilkColumns())
 {
-    When(maskFromDate.LostFocus, &frmMilkCollections::maskFromDate_LostFocus);
-    When(maskToDate.LostFocus, &frmMilkCollections::maskToDate_LostFocus);
-    When(txtAccountId.LostFocus, &frmMilkCollections::txtAccountId_LostFocus);
     When(cmbAccountName.GotFocus, &frmMilkCollections::cmbAccountName_GotFocus);
-    When(cmbAccountName.LostFocus, &frmMilkCollections::cmbAccountName_LostFocus);
-    When(cmdGoOn.Click, &frmMilkCollections::cmdGoOn_Click);
-    When(Command1.Click, &frmMilkCollections::Command1_Click);
-    When(Command2.Click, &frmMilkCollections::Command2_Click);
-    When(Command3.Click, &frmMilkCollections::Command3_Click);
     cmbAccountName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     cmbAccountName.Accepts = ComboMemberName.Accepts;
     Command2.SetCancels(true); // the frame is left whatever stands in its dates
 
-    LayOut(Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), Views(), KeyStrips());
+    LayOut(Views(), KeyStrips());
     ShowFrame(false);
 }
 
@@ -54,7 +66,6 @@ void frmMilkCollections::Load()
         QStringLiteral("select CompanyId,CollectionNo,CollectionDate,CollectionTime,MemberNo,MemberName,"
                        "Animal,Liters,Fat,Rate,Amount,TranId,ActualCollectionTime from MilkCollectionsTemp "
                        "order by CollectionNo"));
-    ShowCompany(lblCompanyTitle, lblAcYear);
     CounterScreen::Load();
     ShowMemberGrid();
     MemberLitersAndAmounts();

@@ -64,7 +64,7 @@ bool frmMilkCollections::HoldPeriod()
 
 void frmMilkCollections::txtAccountId_LostFocus()
 {
-    const Recordset member(gCn, Sql(u"Select * from MembersMaster Where MemberNo=", Value(txtAccountId)));
+    const Recordset member(gCn, Sql(u"Select * from MembersMaster Where MemberNo=", txtAccountId.Value()));
     if (!member.Eof())
         ShowAccount(member);
 }
@@ -78,10 +78,10 @@ void frmMilkCollections::cmbAccountName_GotFocus()
 
 void frmMilkCollections::cmbAccountName_LostFocus()
 {
-    if (IsNameOf(cmbAccountName, Value(txtAccountId)))
+    if (IsNameOf(cmbAccountName, txtAccountId.Value()))
         return;
     Recordset member(
-        gCn, Sql(u"Select * from MembersMaster Where MemberName='", cmbAccountName.Text(), u"'"));
+        gCn, Sql(u"Select * from MembersMaster Where MemberName=", Quoted(cmbAccountName.Text())));
     while (!member.Eof() && !cmbAccountName.MayMean(member[u"MemberNo"].Text()))
         member.MoveNext();
     if (member.Eof())
@@ -100,7 +100,7 @@ void frmMilkCollections::ShowAccount(const Recordset& member)
 QString frmMilkCollections::InPeriod() const
 {
     return Sql(u" from MilkCollections where CollectionDate>=", SqlDay(maskFromDate.Date()),
-        u" and CollectionDate<=", SqlDay(maskToDate.Date()), u" And MemberNo = ", Value(txtAccountId),
+        u" and CollectionDate<=", SqlDay(maskToDate.Date()), u" And MemberNo = ", txtAccountId.Value(),
         u" and companyid=", gAppState.gCompanyId);
 }
 
@@ -134,8 +134,8 @@ void frmMilkCollections::RenumberTemp()
                  "Select * From MilkCollectionsTemp Order By CollectionDate,CollectionTime,CollectionNo"));
          !row.Eof(); row.MoveNext()) {
         gCn.Execute(Sql(u"Update MilkCollectionsTemp Set CollectionNo=", k, u" Where CollectionDate=",
-            SqlDay(row[u"CollectionDate"].Date()), u" And CollectionTime='", row[u"CollectionTime"].Text(),
-            u"' And CollectionNo=", row[u"CollectionNo"].Number()));
+            SqlDay(row[u"CollectionDate"].Date()), u" And CollectionTime=",
+            Quoted(row[u"CollectionTime"].Text()), u" And CollectionNo=", row[u"CollectionNo"].Number()));
         k = ToInt16(k + 1);
     }
 }
@@ -174,7 +174,7 @@ void frmMilkCollections::MemberAverageFat()
 // The statement of what lies in the copy.
 void frmMilkCollections::Command1_Click()
 {
-    if (Value(txtAccountId) == 0) {
+    if (txtAccountId.Value() == 0) {
         txtAccountId.SetFocus(Plain(u"मेम्बर नंबर टाका"));
         return;
     }
@@ -185,12 +185,12 @@ void frmMilkCollections::Command1_Click()
     ScreenDirectory::Open(QStringLiteral("frmReportMilkPS"), Shivaji(u"dUQa saMklana À ivaËI irpaoT-"));
     Transaction staging(gCn);
     gCn.Execute(QStringLiteral("Delete * From ReportDates"));
-    gCn.Execute(Sql(u"Insert Into ReportDates(CompanyId,FromDate,Todate) Values(", gAppState.gCompanyId,
-        u",'", maskFromDate.Text(), u"','", maskToDate.Text(), u"')"));
+    gCn.Execute(Sql(u"Insert Into ReportDates(CompanyId,FromDate,Todate) Values(",
+        Values(gAppState.gCompanyId, maskFromDate.Text(), maskToDate.Text()), u")"));
     gCn.Execute(QStringLiteral("Delete * From MilkCollectionsTemp where companyId=0"));
     gCn.Execute(QStringLiteral("Delete * From ReportDates Where CompanyId=0"));
     staging.Commit();
-    CRMilkPayments.SetReportFileName(u"MilkPSReport.rpt");
+    CRMilkPayments.SetTemplate(u"MilkPSReport.rpt");
     CRMilkPayments.SetSubject(ReportSubject({cmbAccountName.Text()}, maskFromDate.Date(), maskToDate.Date()));
     CRMilkPayments.Print();
 }
@@ -223,8 +223,8 @@ void frmMilkCollections::ResetMemberFrame()
     MemberAverageFat();
     gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
     gCn.Execute(Sql(u"Insert Into MilkCollectionsTemp Select * From MilkCollections Where CompanyId=",
-        gAppState.gCompanyId, u" And CollectionDate=", shift.Day(), u" And CollectionTime='", shift.time,
-        u"'"));
+        gAppState.gCompanyId, u" And CollectionDate=", shift.Day(), u" And CollectionTime=",
+        Quoted(shift.time)));
     TidyFilledCopy();
     reload.Commit();
     ShowInwardsGrid();

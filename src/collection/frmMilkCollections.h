@@ -1,7 +1,8 @@
 #pragma once
 
-#include "collection/CounterReport.h"
 #include "collection/CounterScreen.h"
+#include "core/preview/TemplateReport.h"
+#include "society/Fields.h"
 
 class QStackedLayout;
 
@@ -11,9 +12,9 @@ class frmMilkCollections final : public CounterScreen {
 public:
     frmMilkCollections();
 
+    static Keys::Places KeyPlaces();
+
 private:
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
     Label Label28{this, "Label28", Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana")};
 
     Label lblCowLitM{this, "lblCowLitM"};
@@ -35,17 +36,18 @@ private:
     Label lblBuffAvgFatE{this, "lblBuffAvgFatE"};
     Label lblBuffTotalAvgFat{this, "lblBuffTotalAvgFat"};
 
-    DateField maskFromDate{this, "maskFromDate"};
-    DateField maskToDate{this, "maskToDate"};
-    NumberField txtAccountId{this, "txtAccountId", NumberField::Digits::Whole};
-    NameCombo cmbAccountName{this, "cmbAccountName"};
-    Button cmdGoOn{this, "cmdGoOn", Plain(u">>")};
-    Button Command1{this, "Command1", Shivaji(u"&irpaoT-")};
-    Button Command2{this, "Command2", Shivaji(u"&baahor")};
-    Button Command3{this, "Command3", Shivaji(u"dUQa saMklana nasaNaaro saBaasad")};
+    DateField maskFromDate{this, "maskFromDate", &frmMilkCollections::maskFromDate_LostFocus};
+    DateField maskToDate{this, "maskToDate", &frmMilkCollections::maskToDate_LostFocus};
+    WholeField txtAccountId{this, "txtAccountId", &frmMilkCollections::txtAccountId_LostFocus};
+    NameCombo cmbAccountName{this, "cmbAccountName", &frmMilkCollections::cmbAccountName_LostFocus};
+    Button cmdGoOn{this, "cmdGoOn", Plain(u">>"), &frmMilkCollections::cmdGoOn_Click};
+    Button Command1{this, "Command1", Shivaji(u"&irpaoT-"), &frmMilkCollections::Command1_Click};
+    Button Command2{this, "Command2", Shivaji(u"&baahor"), &frmMilkCollections::Command2_Click};
+    Button Command3{
+        this, "Command3", Shivaji(u"dUQa saMklana nasaNaaro saBaasad"), &frmMilkCollections::Command3_Click};
     DataGrid DataGridMilk;
 
-    CounterReport CRMilkPayments;
+    TemplateReport CRMilkPayments;
     QStackedLayout* m_views; // the list of the shift, and FrameMilkCollection over it
     QStackedLayout* m_keys; // the strips of keys of both
     bool IsFrameOpen = false;
@@ -55,7 +57,6 @@ private:
     void Escape() override;
     void LoadMemberNames() override;
     void MembersShown() override;
-    void ShowMemberFrame() override;
 
     void maskFromDate_LostFocus();
     void maskToDate_LostFocus();
@@ -73,6 +74,7 @@ private:
     void RenumberTemp();
     void ResetMemberFrame();
 
+    void ShowMemberFrame();
     std::vector<Control*> FrameControls();
     void ShowFrame(bool shown);
     bool HoldPeriod();

@@ -1,15 +1,13 @@
 #include "collection/frmMilkCollections.h"
 
-#include "collection/CounterPieces.h"
-#include "core/menu/Keys.h"
-#include "platform/forms/Layout.h"
+#include "platform/forms/Pieces.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
-using namespace CounterPieces;
+using namespace Pieces;
 
 namespace {
 
@@ -58,7 +56,7 @@ QWidget* frmMilkCollections::KeyStrips()
     auto* strips = new QWidget;
     m_keys = new QStackedLayout(strips);
     for (const QString& keys : {Name(), QStringLiteral("FrameMilkCollection")})
-        m_keys->addWidget(Layout::KeyStrip(Keys::Of(keys)));
+        m_keys->addWidget(KeyStrip(keys));
     return strips;
 }
 
@@ -76,7 +74,7 @@ QWidget* frmMilkCollections::ShiftView()
 
 QWidget* frmMilkCollections::FrameMilkCollection()
 {
-    auto* frame = Panel();
+    auto* frame = Sheet();
     frame->setObjectName(QStringLiteral("FrameMilkCollection"));
     auto* below = new QHBoxLayout;
     below->setSpacing(8);

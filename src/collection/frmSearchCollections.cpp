@@ -1,9 +1,6 @@
 #include "collection/frmSearchCollections.h"
 
-#include "collection/Counter.h"
-#include "collection/CounterScreen.h"
 #include "collection/MilkReceipt.h"
-#include "core/menu/CommonKeys.h"
 #include "core/menu/Keys.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
@@ -12,13 +9,10 @@
 #include "platform/database/Transaction.h"
 #include "platform/forms/ModalStack.h"
 #include "platform/shell/AppFolder.h"
-#include "society/CompanyTitle.h"
 #include "society/Names.h"
 #include "society/Queries.h"
 #include "society/ReceiptLayouts.h"
 #include "society/Wanted.h"
-
-using namespace Counter;
 
 namespace {
 
@@ -37,13 +31,6 @@ std::vector<DataGrid::Column> FoundColumns()
     };
 }
 
-// The counter that has opened the screen on top; null if it was opened from elsewhere.
-const CounterScreen* OpeningCounter()
-{
-    const std::vector<Screen*>& open = ModalStack::Current().Open();
-    return open.size() < 2 ? nullptr : dynamic_cast<const CounterScreen*>(open[open.size() - 2]);
-}
-
 // The template of a slip that is printed again. Two layouts have one of their own here, and the last two
 // none.
 QString ReprintTemplate(QStringView receiptType)
@@ -57,13 +44,26 @@ QString ReprintTemplate(QStringView receiptType)
 
 }
 
-frmSearchCollections::frmSearchCollections()
-    : Screen("frmSearchCollections")
-    , DataGridInwards(this, "DataGridInwards", FoundColumns())
+Keys::Places frmSearchCollections::KeyPlaces()
 {
-    WireHandlers();
-    txtTime.SetLocked(true);
-    txtTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmSearchCollections"), Shivaji(u"dUQa saMklana pavatI"),
+            {Next, Back, {QStringLiteral("Alt+P"), Plain(u"पावती पुन्हा दाखवा")}, Leave, CalculatorKey(),
+                TutorKey(), OneOfTwo, ListOfNames}},
+    };
+}
+
+frmSearchCollections::frmSearchCollections(std::optional<Handover> handover)
+    : SocietyScreen(KeyPlaces(), Shivaji(u"dUQa saMklana pavatI"), {.guide = "lblFooter"})
+    , DataGridInwards(this, "DataGridInwards", FoundColumns())
+    , m_handover(std::move(handover))
+{
+    When(maskDate.GotFocus, &frmSearchCollections::maskDate_GotFocus);
+    When(txtTime.GotFocus, &frmSearchCollections::txtTime_GotFocus);
+    When(ComboMemberName.GotFocus, &frmSearchCollections::ComboMemberName_GotFocus);
+    for (Field* field : std::initializer_list<Field*>{&maskDate, &txtTime, &txtMemberNo, &ComboMemberName})
+        When(field->TextChanged, &frmSearchCollections::ForgetFound);
     DataGridInwards.SetGuide(Plain(u"↑ ↓ : पावतीची नोंद निवडा"));
     ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
@@ -71,41 +71,15 @@ frmSearchCollections::frmSearchCollections()
     LayOut();
 }
 
-void frmSearchCollections::WireHandlers()
-{
-    When(maskDate.GotFocus, &frmSearchCollections::maskDate_GotFocus);
-    When(maskDate.LostFocus, &frmSearchCollections::maskDate_LostFocus);
-    When(txtTime.GotFocus, &frmSearchCollections::txtTime_GotFocus);
-    When(txtTime.LostFocus, &frmSearchCollections::txtTime_LostFocus);
-    When(txtMemberNo.LostFocus, &frmSearchCollections::txtMemberNo_LostFocus);
-    When(ComboMemberName.GotFocus, &frmSearchCollections::ComboMemberName_GotFocus);
-    When(ComboMemberName.LostFocus, &frmSearchCollections::ComboMemberName_LostFocus);
-    When(cmdGo.Click, &frmSearchCollections::cmdGo_Click);
-    for (Field* field : std::initializer_list<Field*>{&maskDate, &txtTime, &txtMemberNo, &ComboMemberName})
-        When(field->TextChanged, &frmSearchCollections::ForgetFound);
-}
-
 void frmSearchCollections::Load()
 {
     DataGridInwards.Bind(gCn, QStringLiteral("select * from MilkCollectionsTemp order by CollectionNo desc"));
     EmptyShiftCopy();
     DataGridInwards.Refresh();
-    ShowCompany(lblCompanyTitle, lblAcYear);
     maskDate.SetDate(gAppState.gAppDate);
     LoadMemberNames();
     TimerStart = true;
     After(50, [this] { TimerStart_Timer(); });
-}
-
-bool frmSearchCollections::KeyDown(const QKeyEvent& key)
-{
-    return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
-}
-
-void frmSearchCollections::Escape()
-{
-    EmptyFields();
-    Close();
 }
 
 // From a counter it goes on with the member in the line there. From the menu the clerk is at the date
@@ -113,14 +87,13 @@ void frmSearchCollections::Escape()
 void frmSearchCollections::TimerStart_Timer()
 {
     TimerStart = false;
-    const CounterScreen* counter = gAppState.gCallerTag == u"MC" ? OpeningCounter() : nullptr;
-    if (!counter)
+    if (!m_handover)
         return;
-    const Shift shift = counter->TheShift();
+    const auto& [shift, memberNo, memberName] = *m_handover;
     maskDate.SetDate(shift.date);
     txtTime.SetText(shift.time);
-    txtMemberNo.SetText(counter->MemberNo());
-    ComboMemberName.SetEntry({counter->MemberName(), ShortestDecimal(Value(txtMemberNo))});
+    txtMemberNo.SetText(memberNo);
+    ComboMemberName.SetEntry({memberName, ShortestDecimal(txtMemberNo.Value())});
     EnableMember(true);
     ComboMemberName.SetFocus();
 }
@@ -148,7 +121,7 @@ void frmSearchCollections::txtTime_GotFocus()
 
 void frmSearchCollections::txtTime_LostFocus()
 {
-    if (maskDate.InsistOnDate(Wanted::Date()) && !IsShift(txtTime.Text()))
+    if (maskDate.InsistOnDate(Wanted::Date()) && !txtTime.HoldsShift())
         txtTime.SetFocus(Wanted::Shift());
 }
 
@@ -161,7 +134,7 @@ Shift frmSearchCollections::TheShift() const
 
 void frmSearchCollections::txtMemberNo_LostFocus()
 {
-    const double number = Value(txtMemberNo);
+    const double number = txtMemberNo.Value();
     const Recordset member(gCn, Sql(u"SELECT * FROM MembersMaster where MemberNo=", number));
     if (number == 0 || member.Eof())
         txtMemberNo.Clear();
@@ -185,7 +158,7 @@ void frmSearchCollections::ComboMemberName_LostFocus()
         ComboMemberName.SetFocus(Wanted::Name());
         return;
     }
-    if (const Recordset member = MemberOfName(ComboMemberName, Value(txtMemberNo)); !member.Eof()) {
+    if (const Recordset member = MemberOfName(ComboMemberName, txtMemberNo.Value()); !member.Eof()) {
         txtMemberNo.SetText(member[u"MemberNo"].Text());
         ShowMember(ComboMemberName, member);
         Search();
@@ -214,9 +187,9 @@ void frmSearchCollections::Search()
     const Shift shift = TheShift();
     Transaction finding(gCn);
     gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
-    gCn.Execute(
-        Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where cstr(CollectionDate)=",
-            shift.Day(), u" and CollectionTime='", shift.time, u"' and MemberNo=", Value(txtMemberNo)));
+    gCn.Execute(Sql(
+        u"insert into MilkCollectionsTemp select * from MilkCollections where cstr(CollectionDate)=",
+        shift.Day(), u" and CollectionTime=", Quoted(shift.time), u" and MemberNo=", txtMemberNo.Value()));
     TidyShiftCopy();
     finding.Commit();
     DataGridInwards.Refresh();
@@ -247,7 +220,7 @@ void frmSearchCollections::cmdGo_Click()
     if (!StageReprint(number))
         return;
     ChooseTemplate();
-    CRMilkReceipt.SetDestination(CounterReport::Destination::Window);
+    CRMilkReceipt.SetDestination(ReportDestination::Window);
     gCn.Execute(QStringLiteral("delete * from MilkReceipt where CompanyId=0"));
     staging.Commit();
     CRMilkReceipt.SetSubject(MilkReceipt::Subject());
@@ -268,10 +241,10 @@ bool frmSearchCollections::StageReprint(double number)
         return false;
     gCn.Execute(Sql(u"insert into MilkReceipt(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
                     u"MemberName,Animal,Liters,Fat,Rate,Amount) values(",
-        gAppState.gCompanyId, u",'", maskDate.Text(), u"','", txtTime.Text(), u"',", number, u",",
-        Value(txtMemberNo), u",'", ComboMemberName.Text(), u"','", row[u"Animal"].Text(), u"',",
-        row[u"Liters"].Number(), u",", row[u"Fat"].Number(), u",", row[u"Rate"].Number(), u",",
-        row[u"Amount"].Number(), u")"));
+        Values(gAppState.gCompanyId, maskDate.Text(), txtTime.Text(), number, txtMemberNo.Value(),
+            ComboMemberName.Text(), row[u"Animal"].Text(), row[u"Liters"].Number(), row[u"Fat"].Number(),
+            row[u"Rate"].Number(), row[u"Amount"].Number()),
+        u")"));
     return true;
 }
 
@@ -279,5 +252,5 @@ bool frmSearchCollections::StageReprint(double number)
 void frmSearchCollections::ChooseTemplate()
 {
     if (const QString path = ReprintTemplate(Setting(u"ReceiptType")); !path.isEmpty())
-        CRMilkReceipt.SetReportPath(path);
+        CRMilkReceipt.SetTemplatePath(path);
 }

@@ -1,40 +1,46 @@
 #pragma once
 
-#include "collection/CounterReport.h"
 #include "collection/Deliveries.h"
+#include "core/preview/TemplateReport.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
-#include "platform/forms/Screen.h"
+#include "society/Fields.h"
+#include "society/SocietyScreen.h"
+
+#include <optional>
 
 // Finds a member's deliveries in a shift and prints the slip of one of them again. A search puts the copy of
 // the shift aside: what was found lies there instead, and stays for the counter that has opened this screen.
-class frmSearchCollections final : public Screen {
+class frmSearchCollections final : public SocietyScreen {
 public:
-    frmSearchCollections();
+    // What a counter hands over: the member in its line, and the shift.
+    struct Handover {
+        Shift shift;
+        QString memberNo;
+        QString memberName;
+    };
+
+    // As the menu opens it, or a counter.
+    explicit frmSearchCollections(std::optional<Handover> handover = {});
+
+    static Keys::Places KeyPlaces();
 
     bool TimerStart = false; // the timer of the opening has yet to tick
 
 private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
-    Label lblFooter{this, "lblFooter"};
-
-    DateField maskDate{this, "maskDate"};
-    ChoiceField txtTime{
-        this, "txtTime", {{u'1', QStringLiteral("sakaL")}, {u'2', QStringLiteral("saMQyaakaL")}}};
-    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
-    NameCombo ComboMemberName{this, "ComboMemberName"};
+    DateField maskDate{this, "maskDate", &frmSearchCollections::maskDate_LostFocus};
+    ShiftField txtTime{this, "txtTime", &frmSearchCollections::txtTime_LostFocus};
+    WholeField txtMemberNo{this, "txtMemberNo", &frmSearchCollections::txtMemberNo_LostFocus};
+    NameCombo ComboMemberName{this, "ComboMemberName", &frmSearchCollections::ComboMemberName_LostFocus};
     DataGrid DataGridInwards;
-    Button cmdGo{this, "cmdGo", Plain(u"&Print")};
+    Button cmdGo{this, "cmdGo", Plain(u"&Print"), &frmSearchCollections::cmdGo_Click};
 
-    CounterReport CRMilkReceipt;
+    std::optional<Handover> m_handover;
+    TemplateReport CRMilkReceipt;
 
     void Load() override;
-    bool KeyDown(const QKeyEvent& key) override;
-    void Escape() override;
 
     void TimerStart_Timer();
     void maskDate_GotFocus();
@@ -46,7 +52,6 @@ private:
     void ComboMemberName_LostFocus();
     void cmdGo_Click();
 
-    void WireHandlers();
     void LayOut();
     QWidget* Question();
 

@@ -1,14 +1,13 @@
 #include "collection/frmSearchCollections.h"
 
-#include "collection/CounterPieces.h"
-#include "core/menu/Keys.h"
 #include "platform/forms/Layout.h"
+#include "platform/forms/Pieces.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-using namespace CounterPieces;
+using namespace Pieces;
 
 namespace {
 
@@ -18,28 +17,21 @@ constexpr int ListRow = 38;
 
 void frmSearchCollections::LayOut()
 {
-    SetTitleLabel(lblTitle);
-    SetTitle(Shivaji(u"dUQa saMklana pavatI"));
-    SetGuideLabel(lblFooter);
-    Layout::MakeGuide(lblFooter);
-
     auto* body = new QVBoxLayout;
     body->setSpacing(8);
     body->addWidget(Question());
-    body->addWidget(lblFooter.Widget());
+    body->addWidget(lblGuide.Widget());
     body->addWidget(List(DataGridInwards, ListRow, Look::Size::Large), 1);
     DataGridInwards.SetAccessibleName(Shivaji(u"dUQa saMklana"));
-    cmdGo.SetAccessibleName(Keys::Action(Name(), u"Alt+P"));
+    cmdGo.SetAccessibleName(KeyAction(u"Alt+P"));
     body->addLayout(Layout::ButtonRow({&cmdGo}));
-    Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
-        Layout::KeyStrip(Keys::Of(Name())));
-    body->setContentsMargins(20, 10, 20, 12);
+    Stack(body, {20, 10, 20, 12});
 }
 
 // Whose slip, and of which shift.
 QWidget* frmSearchCollections::Question()
 {
-    auto* panel = Panel();
+    auto* panel = Sheet();
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins(16, 6, 16, 10);
     row->setSpacing(16);

@@ -76,5 +76,5 @@ double MemberClosing::ThevOf(double memberNo, double opening, QStringView advanc
 {
     return opening
         + Sum(Sql(u"Select Sum(Amount) as ThevAmount From MilkPaymentsDetails Where CompanyId=",
-            gAppState.gCompanyId, u" And MemberNo=", memberNo, u" And AdvanceType='", advanceType, u"'"));
+            gAppState.gCompanyId, u" And MemberNo=", memberNo, u" And AdvanceType=", Quoted(advanceType)));
 }

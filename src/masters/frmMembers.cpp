@@ -1,13 +1,12 @@
 #include "masters/frmMembers.h"
 
-#include "core/menu/CommonKeys.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
 #include "masters/MemberClosing.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
-#include "society/CompanyTitle.h"
-#include "society/ModeTitles.h"
+#include "society/Queries.h"
+#include "society/Words.h"
 
 namespace {
 
@@ -15,56 +14,38 @@ constexpr QStringView IdleTitle = u" ]%padkacao maasTr";
 
 }
 
-frmMembers::frmMembers()
-    : Screen("frmMembers")
-    , txtAnimal(this, "txtAnimal",
-          {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")},
-              {u'3', QStringLiteral("daonhI")}})
-    , txtPaymentType(
-          this, "txtPaymentType", {{u'1', QStringLiteral("raoK")}, {u'2', QStringLiteral("ba^nk")}})
-    , txtOpeningDorC(
-          this, "txtOpeningDorC", {{u'1', Direction::Payable.toString()}, {u'2', Direction::Due.toString()}})
+Keys::Places frmMembers::KeyPlaces()
 {
-    Wire();
-    LayOut();
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmMembers"), Shivaji(u"]%padkacao rijasTr"),
+            {Next, Back, Leave, TutorKey(), New, Modify, Delete, Save, Cancel, ExitButton, OneOfThree,
+                ListOfNames}},
+    };
 }
 
-void frmMembers::Wire()
+frmMembers::frmMembers()
+    : SocietyScreen(KeyPlaces(), Shivaji(IdleTitle))
+    , txtAnimal(this, "txtAnimal", ChoicesOf({Word::Cow, Word::Buffalo, Word::Both}),
+          &frmMembers::txtAnimal_LostFocus)
+    , txtPaymentType(
+          this, "txtPaymentType", ChoicesOf({Word::Cash, Word::Bank}), &frmMembers::txtPaymentType_LostFocus)
+    , txtOpeningDorC(this, "txtOpeningDorC", ChoicesOf({Direction::Payable, Direction::Due}),
+          &frmMembers::txtOpeningDorC_LostFocus)
+    , Modes(*this, IdleTitle, {cmdNew, cmdModify, cmdDelete, cmdCancel, cmdExit})
 {
-    When(txtMemberNo.LostFocus, &frmMembers::txtMemberNo_LostFocus);
-    When(ComboMemberName.LostFocus, &frmMembers::ComboMemberName_LostFocus);
-    When(ComboCity.LostFocus, &frmMembers::ComboCity_LostFocus);
-    When(txtAnimal.LostFocus, &frmMembers::txtAnimal_LostFocus);
-    When(txtPaymentType.LostFocus, &frmMembers::txtPaymentType_LostFocus);
-    When(ComboBankName.LostFocus, &frmMembers::ComboBankName_LostFocus);
-    When(txtBankAccountNo.LostFocus, &frmMembers::txtBankAccountNo_LostFocus);
-    When(txtOpeningBalance.LostFocus, &frmMembers::txtOpeningBalance_LostFocus);
-    When(txtOpeningDorC.LostFocus, &frmMembers::txtOpeningDorC_LostFocus);
-    When(txtCowOpeningLits.LostFocus, &frmMembers::txtCowOpeningLits_LostFocus);
-    When(txtBuffOpeningLits.LostFocus, &frmMembers::txtBuffOpeningLits_LostFocus);
-    When(txtOpeningUchal.LostFocus, &frmMembers::txtOpeningUchal_LostFocus);
-    When(txtCowOpeningThev.LostFocus, &frmMembers::txtCowOpeningThev_LostFocus);
-    When(txtBuffOpeningThev.LostFocus, &frmMembers::txtBuffOpeningThev_LostFocus);
-
-    When(cmdNew.Click, &frmMembers::cmdNew_Click);
-    When(cmdModify.Click, &frmMembers::cmdModify_Click);
-    When(cmdDelete.Click, &frmMembers::cmdDelete_Click);
-    When(cmdCancel.Click, &frmMembers::cmdCancel_Click);
-    When(cmdExit.Click, &frmMembers::cmdExit_Click);
-    cmdCancel.SetCancels(true);
+    Modes.SetFields({&txtMemberNo, &ComboMemberName},
+        {&txtAddress, &ComboCity, &txtAnimal, &txtPaymentType, &ComboBankName, &txtBankAccountNo,
+            &txtOpeningBalance, &txtOpeningDorC, &txtCowOpeningLits, &txtBuffOpeningLits, &txtOpeningUchal,
+            &txtCowOpeningThev, &txtBuffOpeningThev});
+    LayOut();
 }
 
 void frmMembers::Load()
 {
-    ShowCompany(lblCompanyTitle, lblAcYear);
     SetGuides();
     LoadLists();
     ShowIdle();
-}
-
-bool frmMembers::KeyDown(const QKeyEvent& key)
-{
-    return CommonKeys::Tutor(key);
 }
 
 void frmMembers::Escape()
@@ -75,50 +56,24 @@ void frmMembers::Escape()
 
 // Modes
 
-void frmMembers::EnterMode(Button& mode, const Caption& caption, QStringView title)
-{
-    mode.SetCaption(caption);
-    SetTitle(Shivaji(QString(IdleTitle % title)));
-    for (Button* button : {&cmdNew, &cmdModify, &cmdDelete, &cmdExit})
-        button->SetEnabled(button == &mode);
-    cmdCancel.SetEnabled(true);
-    ClearFields();
-    for (Control* field : EntryFields())
-        field->SetEnabled(&mode != &cmdDelete || field == &txtMemberNo || field == &ComboMemberName);
-}
-
+// Cancel has nothing to cancel at rest, and without a member there is nothing to change or delete.
 void frmMembers::ShowIdle()
 {
-    cmdNew.SetCaption(Shivaji(u"&navaIna"));
-    cmdModify.SetCaption(Shivaji(u"ba&dla"));
-    cmdDelete.SetCaption(Shivaji(u"&KaoDNao"));
-    SetTitle(Shivaji(IdleTitle));
-
-    const bool hasMembers = !Recordset(gCn, QStringLiteral("SELECT * FROM MembersMaster")).Eof();
+    Modes.Rest();
+    cmdCancel.SetEnabled(false);
+    const bool hasMembers = Finds(QStringLiteral("SELECT * FROM MembersMaster"));
     for (Button* button : {&cmdModify, &cmdDelete})
         button->SetEnabled(hasMembers);
-    for (Button* button : {&cmdNew, &cmdExit})
-        button->SetEnabled(true);
-    cmdCancel.SetEnabled(false);
-    for (Control* field : EntryFields())
-        field->SetEnabled(false);
     ClearFields();
 }
 
 // The focus waits on the button of the mode that was left, so that Enter begins the next record.
 void frmMembers::ReturnToIdle()
 {
-    Button& mode = IsModify() ? cmdModify : IsDelete() ? cmdDelete : cmdNew;
+    Button& mode = Modes.Open();
     ShowIdle();
     LoadLists();
     (mode.CanTakeFocus() ? mode : cmdNew).SetFocus();
-}
-
-std::vector<Control*> frmMembers::EntryFields()
-{
-    return {&txtMemberNo, &ComboMemberName, &txtAddress, &ComboCity, &txtAnimal, &txtPaymentType,
-        &ComboBankName, &txtBankAccountNo, &txtOpeningBalance, &txtOpeningDorC, &txtCowOpeningLits,
-        &txtBuffOpeningLits, &txtOpeningUchal, &txtCowOpeningThev, &txtBuffOpeningThev};
 }
 
 void frmMembers::ClearFields()
@@ -126,12 +81,12 @@ void frmMembers::ClearFields()
     for (Field* field : std::initializer_list<Field*>{&txtMemberNo, &ComboMemberName, &txtAddress, &ComboCity,
              &txtAnimal, &txtPaymentType, &ComboBankName, &txtBankAccountNo, &txtClosingDorC})
         field->Clear();
-    for (NumberField* money : {&txtOpeningBalance, &txtClosingBalance, &txtOpeningUchal, &txtClosingUchal,
+    for (MoneyField* money : {&txtOpeningBalance, &txtClosingBalance, &txtOpeningUchal, &txtClosingUchal,
              &txtCowOpeningThev, &txtCowClosingThev, &txtBuffOpeningThev, &txtBuffClosingThev})
-        money->SetText(QStringLiteral("0.00"));
-    for (NumberField* litres :
+        money->Show(0);
+    for (LitresField* litres :
         {&txtCowOpeningLits, &txtCowClosingLits, &txtBuffOpeningLits, &txtBuffClosingLits})
-        litres->SetText(QStringLiteral("0.000"));
+        litres->Show(0);
     txtOpeningDorC.SetText(Direction::Payable.toString());
     OldName.clear();
     CowOpeningLoaded = CowClosingLoaded = BuffOpeningLoaded = BuffClosingLoaded = 0;
@@ -140,17 +95,14 @@ void frmMembers::ClearFields()
 
 void frmMembers::cmdNew_Click()
 {
-    if (IsNew())
+    if (Modes.IsNew()) {
         SaveNew();
-    else
-        StartNew();
-}
-
-void frmMembers::StartNew()
-{
+        return;
+    }
     const int next = NextMemberNo();
-    EnterMode(cmdNew, Shivaji(u"&saovh"), ModeTitles::New);
-    txtMemberNo.SetText(QString::number(next));
+    Modes.EnterNew();
+    ClearFields();
+    txtMemberNo.Show(next);
     txtMemberNo.SetFocus();
 }
 
@@ -167,15 +119,12 @@ void frmMembers::SaveNew()
 
 void frmMembers::cmdModify_Click()
 {
-    if (IsModify())
+    if (Modes.IsModify()) {
         SaveModified();
-    else
-        StartModify();
-}
-
-void frmMembers::StartModify()
-{
-    EnterMode(cmdModify, Shivaji(u"&saovh"), ModeTitles::Modify);
+        return;
+    }
+    Modes.EnterModify();
+    ClearFields();
     txtMemberNo.SetFocus();
 }
 
@@ -195,15 +144,12 @@ void frmMembers::SaveModified()
 
 void frmMembers::cmdDelete_Click()
 {
-    if (IsDelete())
+    if (Modes.IsDelete()) {
         DeleteFound();
-    else
-        StartDelete();
-}
-
-void frmMembers::StartDelete()
-{
-    EnterMode(cmdDelete, Shivaji(u"&KaoDa"), ModeTitles::Delete);
+        return;
+    }
+    Modes.EnterDelete();
+    ClearFields();
     txtMemberNo.SetFocus();
 }
 
@@ -225,11 +171,6 @@ void frmMembers::DeleteFound()
 void frmMembers::cmdCancel_Click()
 {
     ReturnToIdle();
-}
-
-void frmMembers::cmdExit_Click()
-{
-    Close();
 }
 
 bool frmMembers::AreRequiredFieldsFilled()

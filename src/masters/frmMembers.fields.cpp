@@ -7,6 +7,7 @@
 #include "platform/database/Transaction.h"
 #include "society/Names.h"
 #include "society/Queries.h"
+#include "society/Words.h"
 
 #include <cmath>
 
@@ -19,14 +20,6 @@ Recordset MemberOfNumber(double number)
     while (!members.Eof() && members[u"MemberNo"].Number() != number)
         members.MoveNext();
     return members;
-}
-
-// Writes the number of a field back in its pattern, and returns it.
-double Reformat(NumberField& field, QStringView pattern)
-{
-    const double value = Val(field.Text());
-    field.SetText(Format(value, pattern));
-    return value;
 }
 
 }
@@ -45,21 +38,21 @@ void frmMembers::Hold(Field& field)
 
 void frmMembers::txtMemberNo_LostFocus()
 {
-    if (IsNew() && !IsNumeric(txtMemberNo.Text())) {
+    if (Modes.IsNew() && !txtMemberNo.HoldsNumber()) {
         Refuse(txtMemberNo, u"maombar naMbar vyavaisqat Ta[-p kra");
         return;
     }
     if (txtMemberNo.IsEmpty())
         return; // the name will tell the member
     const Recordset member = MemberOfNumber(MemberNo());
-    if (IsNew()) {
+    if (Modes.IsNew()) {
         if (!member.Eof())
             Refuse(txtMemberNo, u"yaa maombar naMbarcao roka^D- Agaaodrca Aaho");
     } else if (member.Eof()) {
         Refuse(txtMemberNo, u"yaa maombar naMbarcao roka^D- ]plabQa naahI");
     } else {
         LoadRecord(member);
-        if (IsDelete() && !IsSteppingBack())
+        if (Modes.IsDelete() && !IsSteppingBack())
             cmdDelete.SetFocus();
     }
 }
@@ -72,13 +65,13 @@ void frmMembers::ComboMemberName_LostFocus()
         return;
     }
     const Recordset member =
-        IsNew() ? MemberOfName(ComboMemberName) : MemberOfName(ComboMemberName, MemberNo());
+        Modes.IsNew() ? MemberOfName(ComboMemberName) : MemberOfName(ComboMemberName, MemberNo());
     if (member.Eof()) {
-        if (!IsNew() && txtMemberNo.IsEmpty())
+        if (!Modes.IsNew() && txtMemberNo.IsEmpty())
             Hold(ComboMemberName);
-    } else if (IsNew()) {
+    } else if (Modes.IsNew()) {
         Refuse(ComboMemberName, u"yaa naavaacao roka^D- Agaaodrca Aaho");
-    } else if (IsDelete()) {
+    } else if (Modes.IsDelete()) {
         LoadRecord(member);
         if (!IsSteppingBack())
             cmdDelete.SetFocus();
@@ -104,7 +97,7 @@ void frmMembers::OfferToAdd(NameCombo& combo, QStringView table, QStringView col
         return;
     const QString ofCompany =
         Sql(u"SELECT ", column, u" FROM ", table, u" WHERE CompanyId=", gAppState.gCompanyId);
-    if (Finds(Sql(ofCompany, u" and trim(", column, u")='", name, u"'"))
+    if (Finds(Sql(ofCompany, u" and trim(", column, u")=", Quoted(name)))
         || !RowOfName(ofCompany, column, name).Eof())
         return;
     if (!Ask(Shivaji(question))) {
@@ -112,8 +105,8 @@ void frmMembers::OfferToAdd(NameCombo& combo, QStringView table, QStringView col
         return;
     }
     Transaction adding(gCn);
-    gCn.Execute(Sql(u"INSERT INTO ", table, u"(CompanyId,", column, u") VALUES(", gAppState.gCompanyId, u",'",
-        name, u"')"));
+    gCn.Execute(Sql(u"INSERT INTO ", table, u"(CompanyId,", column, u") VALUES(",
+        Values(gAppState.gCompanyId, name), u")"));
     adding.Commit();
     LoadLists();
 }
@@ -128,17 +121,17 @@ void frmMembers::txtAnimal_LostFocus()
 
 void frmMembers::EnableFiguresOfAnimal()
 {
-    const bool cow = txtAnimal.Text() != u"mhOsa";
-    const bool buffalo = txtAnimal.Text() != u"gaaya";
-    for (NumberField* field : {&txtCowOpeningLits, &txtCowOpeningThev})
+    const bool cow = txtAnimal.Text() != Word::Buffalo;
+    const bool buffalo = txtAnimal.Text() != Word::Cow;
+    for (NumberField* field : std::initializer_list<NumberField*>{&txtCowOpeningLits, &txtCowOpeningThev})
         field->SetEnabled(cow);
-    for (NumberField* field : {&txtBuffOpeningLits, &txtBuffOpeningThev})
+    for (NumberField* field : std::initializer_list<NumberField*>{&txtBuffOpeningLits, &txtBuffOpeningThev})
         field->SetEnabled(buffalo);
 }
 
 void frmMembers::txtPaymentType_LostFocus()
 {
-    const bool bank = txtPaymentType.Text() == u"ba^nk";
+    const bool bank = txtPaymentType.Text() == Word::Bank;
     if (txtPaymentType.IsEmpty())
         Hold(txtPaymentType);
     else
@@ -170,7 +163,7 @@ void frmMembers::txtBankAccountNo_LostFocus()
 
 void frmMembers::txtOpeningBalance_LostFocus()
 {
-    Reformat(txtOpeningBalance, u"#######0.00");
+    txtOpeningBalance.Reformat();
     if (IsAccountNoMissing())
         Hold(txtBankAccountNo);
 }
@@ -185,49 +178,46 @@ void frmMembers::txtOpeningDorC_LostFocus()
 void frmMembers::ComputeClosingBalance()
 {
     const MemberClosing::Balance closing =
-        MemberClosing::BalanceOf(MemberNo(), Val(txtOpeningBalance.Text()), txtOpeningDorC.Text());
-    txtClosingBalance.SetText(Format(closing.amount, u"#####0.00"));
+        MemberClosing::BalanceOf(MemberNo(), txtOpeningBalance.Value(), txtOpeningDorC.Text());
+    txtClosingBalance.Show(closing.amount);
     txtClosingDorC.SetText(closing.word.toString());
 }
 
 void frmMembers::txtCowOpeningLits_LostFocus()
 {
-    const double opening = Reformat(txtCowOpeningLits, u"#####0.000");
-    txtCowClosingLits.SetText(Format(std::abs(CowClosingLoaded) - CowOpeningLoaded + opening, u"#####0.000"));
+    const double opening = txtCowOpeningLits.Reformat();
+    txtCowClosingLits.Show(std::abs(CowClosingLoaded) - CowOpeningLoaded + opening);
 }
 
 void frmMembers::txtBuffOpeningLits_LostFocus()
 {
-    const double opening = Reformat(txtBuffOpeningLits, u"#####0.000");
-    txtBuffClosingLits.SetText(
-        Format(std::abs(BuffClosingLoaded) - BuffOpeningLoaded + opening, u"#####0.000"));
+    const double opening = txtBuffOpeningLits.Reformat();
+    txtBuffClosingLits.Show(std::abs(BuffClosingLoaded) - BuffOpeningLoaded + opening);
 }
 
 void frmMembers::txtOpeningUchal_LostFocus()
 {
-    const double opening = Reformat(txtOpeningUchal, u"#####0.00");
-    txtClosingUchal.SetText(Format(MemberClosing::UchalOf(MemberNo(), opening), u"########0.00"));
+    const double opening = txtOpeningUchal.Reformat();
+    txtClosingUchal.Show(MemberClosing::UchalOf(MemberNo(), opening));
 }
 
 void frmMembers::txtCowOpeningThev_LostFocus()
 {
-    const double opening = Reformat(txtCowOpeningThev, u"#####0.00");
-    txtCowClosingThev.SetText(
-        Format(MemberClosing::ThevOf(MemberNo(), opening, u"gaaya zova"), u"######0.00"));
+    const double opening = txtCowOpeningThev.Reformat();
+    txtCowClosingThev.Show(MemberClosing::ThevOf(MemberNo(), opening, u"gaaya zova"));
     if (!txtBuffOpeningThev.Enabled())
         ToSaveButton();
 }
 
 void frmMembers::txtBuffOpeningThev_LostFocus()
 {
-    const double opening = Reformat(txtBuffOpeningThev, u"#####0.00");
-    txtBuffClosingThev.SetText(
-        Format(MemberClosing::ThevOf(MemberNo(), opening, u"mhOsa zova"), u"######0.00"));
+    const double opening = txtBuffOpeningThev.Reformat();
+    txtBuffClosingThev.Show(MemberClosing::ThevOf(MemberNo(), opening, u"mhOsa zova"));
     ToSaveButton();
 }
 
 void frmMembers::ToSaveButton()
 {
     if (!IsSteppingBack())
-        (IsNew() ? cmdNew : cmdModify).SetFocus();
+        (Modes.IsNew() ? cmdNew : cmdModify).SetFocus();
 }

@@ -3,59 +3,60 @@
 #include "platform/database/Recordset.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/NameCombo.h"
-#include "platform/forms/Screen.h"
+#include "society/Fields.h"
+#include "society/RecordModes.h"
+#include "society/SocietyScreen.h"
 
 #include <vector>
 
 // The members of the society: who they are, how they are paid, and their figures at the opening and now.
 // The caption of the New, Modify or Delete button tells the mode; without one the fields are closed.
-class frmMembers final : public Screen {
+class frmMembers final : public SocietyScreen {
 public:
     frmMembers();
 
+    static Keys::Places KeyPlaces();
+
 protected:
     void Load() override;
-    bool KeyDown(const QKeyEvent& key) override;
     void Escape() override;
 
 private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
     Label lblBankName{this, "lblBankName", Shivaji(u"ba^nkocao naava")};
     Label lblBankAccountNo{this, "lblBankAccountNo", Shivaji(u"ba^nk Kato naMbar")};
-    Label lblGuide{this, "lblGuide"};
 
-    NumberField txtMemberNo{this, "txtMemberNo", NumberField::Digits::Whole};
-    NameCombo ComboMemberName{this, "ComboMemberName"};
+    WholeField txtMemberNo{this, "txtMemberNo", &frmMembers::txtMemberNo_LostFocus};
+    NameCombo ComboMemberName{this, "ComboMemberName", &frmMembers::ComboMemberName_LostFocus};
     TextField txtAddress{this, "txtAddress"};
-    NameCombo ComboCity{this, "ComboCity"};
+    NameCombo ComboCity{this, "ComboCity", &frmMembers::ComboCity_LostFocus};
     ChoiceField txtAnimal;
     ChoiceField txtPaymentType;
-    NameCombo ComboBankName{this, "ComboBankName"};
-    TextField txtBankAccountNo{this, "txtBankAccountNo"};
-    NumberField txtOpeningBalance{this, "txtOpeningBalance", NumberField::Digits::Decimals};
+    NameCombo ComboBankName{this, "ComboBankName", &frmMembers::ComboBankName_LostFocus};
+    TextField txtBankAccountNo{this, "txtBankAccountNo", &frmMembers::txtBankAccountNo_LostFocus};
+    MoneyField txtOpeningBalance{this, "txtOpeningBalance", &frmMembers::txtOpeningBalance_LostFocus};
     ChoiceField txtOpeningDorC;
-    NumberField txtCowOpeningLits{this, "txtCowOpeningLits", NumberField::Digits::Decimals};
-    NumberField txtBuffOpeningLits{this, "txtBuffOpeningLits", NumberField::Digits::Decimals};
-    NumberField txtOpeningUchal{this, "txtOpeningUchal", NumberField::Digits::Decimals};
-    NumberField txtCowOpeningThev{this, "txtCowOpeningThev", NumberField::Digits::Decimals};
-    NumberField txtBuffOpeningThev{this, "txtBuffOpeningThev", NumberField::Digits::Decimals};
+    LitresField txtCowOpeningLits{this, "txtCowOpeningLits", &frmMembers::txtCowOpeningLits_LostFocus};
+    LitresField txtBuffOpeningLits{this, "txtBuffOpeningLits", &frmMembers::txtBuffOpeningLits_LostFocus};
+    MoneyField txtOpeningUchal{this, "txtOpeningUchal", &frmMembers::txtOpeningUchal_LostFocus};
+    MoneyField txtCowOpeningThev{this, "txtCowOpeningThev", &frmMembers::txtCowOpeningThev_LostFocus};
+    MoneyField txtBuffOpeningThev{this, "txtBuffOpeningThev", &frmMembers::txtBuffOpeningThev_LostFocus};
 
     // Shown, never entered.
-    NumberField txtClosingBalance{this, "txtClosingBalance", NumberField::Digits::Decimals};
+    MoneyField txtClosingBalance{this, "txtClosingBalance"};
     TextField txtClosingDorC{this, "txtClosingDorC"};
-    NumberField txtCowClosingLits{this, "txtCowClosingLits", NumberField::Digits::Decimals};
-    NumberField txtBuffClosingLits{this, "txtBuffClosingLits", NumberField::Digits::Decimals};
-    NumberField txtClosingUchal{this, "txtClosingUchal", NumberField::Digits::Decimals};
-    NumberField txtCowClosingThev{this, "txtCowClosingThev", NumberField::Digits::Decimals};
-    NumberField txtBuffClosingThev{this, "txtBuffClosingThev", NumberField::Digits::Decimals};
+    LitresField txtCowClosingLits{this, "txtCowClosingLits"};
+    LitresField txtBuffClosingLits{this, "txtBuffClosingLits"};
+    MoneyField txtClosingUchal{this, "txtClosingUchal"};
+    MoneyField txtCowClosingThev{this, "txtCowClosingThev"};
+    MoneyField txtBuffClosingThev{this, "txtBuffClosingThev"};
 
-    Button cmdNew{this, "cmdNew", Shivaji(u"&navaIna")};
-    Button cmdModify{this, "cmdModify", Shivaji(u"ba&dla")};
-    Button cmdDelete{this, "cmdDelete", Shivaji(u"&KaoDNao")};
-    Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+    Button cmdNew{this, "cmdNew", Shivaji(u"&navaIna"), &frmMembers::cmdNew_Click};
+    Button cmdModify{this, "cmdModify", Shivaji(u"ba&dla"), &frmMembers::cmdModify_Click};
+    Button cmdDelete{this, "cmdDelete", Shivaji(u"&KaoDNao"), &frmMembers::cmdDelete_Click};
+    Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_"), &frmMembers::cmdCancel_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmMembers::cmdExit_Click};
+
+    RecordModes Modes;
 
     // The last record read. A new member is written with the account of the last one.
     double AccountId = 0;
@@ -65,33 +66,23 @@ private:
     double BuffOpeningLoaded = 0;
     double BuffClosingLoaded = 0;
 
-    void Wire();
     void LayOut();
     QLayout* IdentityColumn();
     QLayout* FiguresColumn();
     void SetGuides();
 
     // Modes
-    bool IsNew() const { return cmdNew.Reads(u"&saovh"); }
-    bool IsModify() const { return cmdModify.Reads(u"&saovh"); }
-    bool IsDelete() const { return cmdDelete.Reads(u"&KaoDa"); }
-    void EnterMode(Button& mode, const Caption& caption, QStringView title);
     void ShowIdle();
     void ReturnToIdle();
-    std::vector<Control*> EntryFields();
     void ClearFields();
 
     void cmdNew_Click();
     void cmdModify_Click();
     void cmdDelete_Click();
     void cmdCancel_Click();
-    void cmdExit_Click();
 
-    void StartNew();
     void SaveNew();
-    void StartModify();
     void SaveModified();
-    void StartDelete();
     void DeleteFound();
 
     // Leaving the fields

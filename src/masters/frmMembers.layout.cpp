@@ -1,6 +1,5 @@
 #include "masters/frmMembers.h"
 
-#include "core/menu/Keys.h"
 #include "core/state/AppState.h"
 #include "platform/forms/Layout.h"
 #include "platform/forms/Look.h"
@@ -43,10 +42,6 @@ void NameBoth(const FigureLine& line, Field& opening, Field& closing)
 
 void frmMembers::LayOut()
 {
-    SetTitleLabel(lblTitle);
-    SetGuideLabel(lblGuide);
-    Layout::MakeGuide(lblGuide);
-
     auto* columns = new QHBoxLayout;
     columns->setSpacing(34);
     columns->addLayout(IdentityColumn(), 1);
@@ -58,8 +53,7 @@ void frmMembers::LayOut()
     body->addStretch(1);
     body->addWidget(lblGuide.Widget());
     body->addLayout(Layout::ButtonRow({&cmdNew, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit}));
-    Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
-        Layout::KeyStrip(Keys::Of(Name())));
+    Stack(body);
 }
 
 QLayout* frmMembers::IdentityColumn()

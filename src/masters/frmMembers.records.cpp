@@ -5,6 +5,7 @@
 #include "platform/database/Sql.h"
 #include "society/FieldRoutines.h"
 #include "society/Names.h"
+#include "society/Words.h"
 
 namespace {
 
@@ -13,21 +14,11 @@ QString Trimmed(const Field& field)
     return field.Text().trimmed();
 }
 
-double Value(const NumberField& field)
-{
-    return Val(field.Text());
-}
-
-void Show(NumberField& field, const FieldValue& value, QStringView pattern)
-{
-    field.SetText(Format(value.Number(), pattern));
-}
-
 }
 
 double frmMembers::MemberNo() const
 {
-    return Value(txtMemberNo);
+    return txtMemberNo.Value();
 }
 
 // One more than the highest number of all companies.
@@ -53,24 +44,24 @@ void frmMembers::LoadRecord(const Recordset& member)
     ComboCity.SetText(member[u"City"].Text());
     txtAnimal.SetText(member[u"Animal"].Text());
     txtPaymentType.SetText(member[u"PaymentType"].Text());
-    ShowBankFields(txtPaymentType.Text() == u"ba^nk");
+    ShowBankFields(txtPaymentType.Text() == Word::Bank);
     ComboBankName.SetText(member[u"BankName"].Text());
     txtBankAccountNo.SetText(member[u"BankAccountNo"].Text());
 
-    Show(txtOpeningBalance, member[u"OpeningBalance"], u"#######0.00");
+    txtOpeningBalance.Show(member[u"OpeningBalance"].Number());
     txtOpeningDorC.SetText(Direction::Word(member[u"OpeningDorC"].Text()).toString());
-    Show(txtClosingBalance, member[u"ClosingBalance"], u"#####0.00");
+    txtClosingBalance.Show(member[u"ClosingBalance"].Number());
     txtClosingDorC.SetText(Direction::Word(member[u"ClosingDorC"].Text()).toString());
-    Show(txtCowOpeningThev, member[u"CowOpeningThev"], u"######0.00");
-    Show(txtCowClosingThev, member[u"CowClosingThev"], u"######0.00");
-    Show(txtBuffOpeningThev, member[u"BuffOpeningThev"], u"######0.00");
-    Show(txtBuffClosingThev, member[u"BuffClosingThev"], u"######0.00");
-    Show(txtOpeningUchal, member[u"OpeningUchal"], u"########0.00");
-    Show(txtClosingUchal, member[u"ClosingUchal"], u"########0.00");
-    Show(txtCowOpeningLits, member[u"CowOpeningLits"], u"#####0.000");
-    Show(txtCowClosingLits, member[u"CowClosingLits"], u"#####0.000");
-    Show(txtBuffOpeningLits, member[u"BuffOpeningLits"], u"#####0.000");
-    Show(txtBuffClosingLits, member[u"BuffClosingLits"], u"#####0.000");
+    txtCowOpeningThev.Show(member[u"CowOpeningThev"].Number());
+    txtCowClosingThev.Show(member[u"CowClosingThev"].Number());
+    txtBuffOpeningThev.Show(member[u"BuffOpeningThev"].Number());
+    txtBuffClosingThev.Show(member[u"BuffClosingThev"].Number());
+    txtOpeningUchal.Show(member[u"OpeningUchal"].Number());
+    txtClosingUchal.Show(member[u"ClosingUchal"].Number());
+    txtCowOpeningLits.Show(member[u"CowOpeningLits"].Number());
+    txtCowClosingLits.Show(member[u"CowClosingLits"].Number());
+    txtBuffOpeningLits.Show(member[u"BuffOpeningLits"].Number());
+    txtBuffClosingLits.Show(member[u"BuffClosingLits"].Number());
 
     AccountId = member[u"AccountId"].Number();
     OldName = member[u"MemberName"].Text();
@@ -78,7 +69,7 @@ void frmMembers::LoadRecord(const Recordset& member)
     CowClosingLoaded = member[u"CowClosingLits"].Number();
     BuffOpeningLoaded = member[u"BuffOpeningLits"].Number();
     BuffClosingLoaded = member[u"BuffClosingLits"].Number();
-    if (IsModify())
+    if (Modes.IsModify())
         EnableFiguresOfAnimal();
 }
 
@@ -90,11 +81,11 @@ QString frmMembers::InsertStatement() const
                u"CowOpeningLits,CowClosingLits,BuffOpeningLits ,BuffClosingLits)values(",
         Values(gAppState.gCompanyId, MemberNo(), Trimmed(ComboMemberName), AccountId, Trimmed(txtAddress),
             Trimmed(ComboCity), Trimmed(txtAnimal), Trimmed(txtPaymentType), Trimmed(ComboBankName),
-            Trimmed(txtBankAccountNo), Value(txtOpeningBalance), Direction::Letter(txtOpeningDorC.Text()),
-            Value(txtClosingBalance), Direction::Letter(txtClosingDorC.Text()), Value(txtCowOpeningThev),
-            Value(txtCowClosingThev), Value(txtBuffOpeningThev), Value(txtBuffClosingThev),
-            Value(txtOpeningUchal), Value(txtClosingUchal), Value(txtCowOpeningLits),
-            Value(txtCowClosingLits), Value(txtBuffOpeningLits), Value(txtBuffClosingLits)),
+            Trimmed(txtBankAccountNo), txtOpeningBalance.Value(), Direction::Letter(txtOpeningDorC.Text()),
+            txtClosingBalance.Value(), Direction::Letter(txtClosingDorC.Text()), txtCowOpeningThev.Value(),
+            txtCowClosingThev.Value(), txtBuffOpeningThev.Value(), txtBuffClosingThev.Value(),
+            txtOpeningUchal.Value(), txtClosingUchal.Value(), txtCowOpeningLits.Value(),
+            txtCowClosingLits.Value(), txtBuffOpeningLits.Value(), txtBuffClosingLits.Value()),
         u")");
 }
 
@@ -104,14 +95,14 @@ QString frmMembers::UpdateStatement() const
         Quoted(Trimmed(txtAddress)), u" ,City=", Quoted(Trimmed(ComboCity)), u",Animal=",
         Quoted(Trimmed(txtAnimal)), u",PaymentType=", Quoted(Trimmed(txtPaymentType)), u",BankName=",
         Quoted(Trimmed(ComboBankName)), u",BankAccountNo=", Quoted(Trimmed(txtBankAccountNo)),
-        u" ,OpeningBalance=", Value(txtOpeningBalance), u",OpeningDorC=",
-        Quoted(Direction::Letter(txtOpeningDorC.Text())), u",ClosingBalance=", Value(txtClosingBalance),
+        u" ,OpeningBalance=", txtOpeningBalance.Value(), u",OpeningDorC=",
+        Quoted(Direction::Letter(txtOpeningDorC.Text())), u",ClosingBalance=", txtClosingBalance.Value(),
         u" ,ClosingDorC=", Quoted(Direction::Letter(txtClosingDorC.Text())), u",CowOpeningThev=",
-        Value(txtCowOpeningThev), u",CowClosingThev=", Value(txtCowClosingThev), u", BuffOpeningThev=",
-        Value(txtBuffOpeningThev), u",BuffClosingThev=", Value(txtBuffClosingThev), u",OpeningUchal=",
-        Value(txtOpeningUchal), u",ClosingUchal=", Value(txtClosingUchal), u", CowOpeningLits=",
-        Value(txtCowOpeningLits), u", CowClosingLits=", Value(txtCowClosingLits), u",BuffOpeningLits= ",
-        Value(txtBuffOpeningLits), u",BuffClosingLits= ", Value(txtBuffClosingLits), u" where CompanyId=",
+        txtCowOpeningThev.Value(), u",CowClosingThev=", txtCowClosingThev.Value(), u", BuffOpeningThev=",
+        txtBuffOpeningThev.Value(), u",BuffClosingThev=", txtBuffClosingThev.Value(), u",OpeningUchal=",
+        txtOpeningUchal.Value(), u",ClosingUchal=", txtClosingUchal.Value(), u", CowOpeningLits=",
+        txtCowOpeningLits.Value(), u", CowClosingLits=", txtCowClosingLits.Value(), u",BuffOpeningLits= ",
+        txtBuffOpeningLits.Value(), u",BuffClosingLits= ", txtBuffClosingLits.Value(), u" where CompanyId=",
         gAppState.gCompanyId, u" and MemberNo=", MemberNo());
 }
 

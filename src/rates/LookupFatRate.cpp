@@ -4,6 +4,7 @@
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/text/Numbers.h"
+#include "society/Words.h"
 
 namespace {
 
@@ -37,9 +38,9 @@ FatRate LookupFatRate(const QDate& date, double fat, QStringView animal)
     const Recordset row(gCn, Sql(u"select * from ", table, u" where Fat=", Quoted(KeyOf(fat))));
     if (row.Eof())
         return {FatRate::Outcome::Priced, 0};
-    if (animal == u"gaaya")
+    if (animal == Word::Cow)
         return {FatRate::Outcome::Priced, row[u"CowRate"].Number()};
-    if (animal == u"mhOsa")
+    if (animal == Word::Buffalo)
         return {FatRate::Outcome::Priced, row[u"BuffRate"].Number()};
     return {FatRate::Outcome::Unchanged, 0};
 }

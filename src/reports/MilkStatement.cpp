@@ -6,6 +6,7 @@
 #include "platform/database/Transaction.h"
 #include "platform/text/Dates.h"
 #include "reports/ReportRun.h"
+#include "society/Words.h"
 
 #include <QSet>
 
@@ -15,9 +16,7 @@
 
 namespace {
 
-constexpr QStringView Animals[] = {u"gaaya", u"mhOsa"};
-constexpr QStringView Morning = u"sakaL";
-constexpr QStringView Evening = u"saMQyaakaL";
+constexpr QStringView Animals[] = {Word::Cow, Word::Buffalo};
 
 // What tells the two kinds of milk apart: where it is kept and how its columns are called.
 struct Books {
@@ -73,16 +72,16 @@ public:
 
     void Write(bool repeats)
     {
-        Entry morning = Find(Morning, {});
-        Entry evening = Find(Evening, {});
+        Entry morning = Find(Word::Morning, {});
+        Entry evening = Find(Word::Evening, {});
         if (!morning.isThere && !evening.isThere)
             return;
         WriteLine(morning, evening, true);
         double lastMorning = morning.number;
         double lastEvening = evening.number;
         while (repeats) {
-            morning = Find(Morning, lastMorning);
-            evening = Find(Evening, lastEvening);
+            morning = Find(Word::Morning, lastMorning);
+            evening = Find(Word::Evening, lastEvening);
             if (!morning.isThere && !evening.isThere)
                 return;
             WriteLine(morning, evening, false);
@@ -125,7 +124,7 @@ private:
 bool Repeats()
 {
     const Recordset settings(gCn, u"select * from AutoSettings");
-    return !settings.Eof() && settings[u"RepeatCollection"].Text().trimmed() == u"haoya";
+    return !settings.Eof() && settings[u"RepeatCollection"].Text().trimmed() == Word::Yes;
 }
 
 // A day without a row in the copy has no line, so it isn't asked for.

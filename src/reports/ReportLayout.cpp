@@ -1,9 +1,6 @@
 #include "reports/ReportLayout.h"
 
-#include "core/menu/Keys.h"
 #include "platform/forms/Button.h"
-#include "platform/forms/Look.h"
-#include "platform/forms/Screen.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -15,14 +12,7 @@ constexpr int RowSpacing = 18;
 
 }
 
-void ReportLayout::AddGuide(Layout::Form& form, Label& guide)
-{
-    Layout::MakeGuide(guide);
-    form.Row(guide);
-}
-
-void ReportLayout::Finish(
-    Screen& screen, QWidget* header, const Layout::Form& form, Button& cmdReport, Button& cmdExit)
+QLayout* ReportLayout::Body(const Layout::Form& form, Button& cmdReport, Button& cmdExit)
 {
     cmdExit.SetCancels(true); // by mouse the screen is left whatever stands in its dates
     form.Grid()->setVerticalSpacing(RowSpacing);
@@ -35,5 +25,5 @@ void ReportLayout::Finish(
     body->addLayout(middle);
     body->addStretch(3); // room for the list of names that drops down
     body->addLayout(Layout::ButtonRow({&cmdReport, &cmdExit}));
-    Layout::Stack(screen, header, body, Layout::KeyStrip(Keys::Of(screen.Name())));
+    return body;
 }

@@ -1,14 +1,15 @@
 #include "reports/frmReportMembersList.h"
 
 #include "core/preview/ReportSubject.h"
+#include "core/preview/TemplateReport.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "reports/ReportRun.h"
-#include "society/CompanyTitle.h"
 #include "society/FieldRoutines.h"
 #include "society/Names.h"
+#include "society/Words.h"
 
 namespace {
 
@@ -26,15 +27,20 @@ void StageMember(const Recordset& member, QStringView crieteria, const QString& 
 
 }
 
-frmReportMembersList::frmReportMembersList() : Screen("frmReportMembersList")
+Keys::Places frmReportMembersList::KeyPlaces()
 {
-    for (OptionButton* option : {&OptionList, &OptionArea, &OptionMilk})
-        When(option->Click, &frmReportMembersList::Option_Click);
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmReportMembersList"), Shivaji(u"saBaasadaMcaI yaadI"),
+            {Next, Back, Leave, {QStringLiteral("Alt+1"), Shivaji(u"pUNa- yaadI")},
+                {QStringLiteral("Alt+2"), Shivaji(u"ivaBaaga")}, {QStringLiteral("Alt+3"), Shivaji(u"dUQa")},
+                ListOfNames, PrintReport, ExitButton}},
+    };
+}
+
+frmReportMembersList::frmReportMembersList() : SocietyScreen(KeyPlaces(), Shivaji(u" maombar yaadI"))
+{
     When(ComboArea.GotFocus, &frmReportMembersList::ComboArea_GotFocus);
-    When(ComboArea.LostFocus, &frmReportMembersList::ComboArea_LostFocus);
-    When(cmdReport.Click, &frmReportMembersList::cmdReport_Click);
-    When(cmdExit.Click, &frmReportMembersList::cmdExit_Click);
-    SetTitle(Shivaji(u" maombar yaadI"));
     ComboArea.SetGuide(Plain(u"रिकामे ठेवल्यास सर्व विभाग"));
     ComboArea.Accepts = [](QChar c) { return c != u'\''; };
     LayOut();
@@ -42,18 +48,11 @@ frmReportMembersList::frmReportMembersList() : Screen("frmReportMembersList")
 
 void frmReportMembersList::Load()
 {
-    ShowCompany(lblCompanyTitle, lblAcYear);
     OptionList.Choose();
     OptionCow.Choose();
     FillCombo(ComboArea, u"CityMaster", u"CityName",
         Sql(u"where CompanyId=", gAppState.gCompanyId, u" ORDER BY CityName"));
     Option_Click();
-}
-
-void frmReportMembersList::Escape()
-{
-    EmptyFields();
-    Close();
 }
 
 // Only what belongs to the chosen list can be entered.
@@ -108,8 +107,8 @@ void frmReportMembersList::StageMilk()
 QString frmReportMembersList::ChosenAnimal() const
 {
     if (OptionCow.Chosen())
-        return QStringLiteral("gaaya");
-    return OptionBuff.Chosen() ? QStringLiteral("mhOsa") : QStringLiteral("daonhI");
+        return Word::Cow.toString();
+    return OptionBuff.Chosen() ? Word::Buffalo.toString() : Word::Both.toString();
 }
 
 QString frmReportMembersList::Subject() const
@@ -131,10 +130,7 @@ void frmReportMembersList::cmdReport_Click()
         StageMilk();
     ReportRun::Tidy(u"MembersListReport");
     staging.Commit();
-    ReportRun::Show(u"ReportListMembers.rpt", Subject());
-}
-
-void frmReportMembersList::cmdExit_Click()
-{
-    Close();
+    TemplateReport report(u"ReportListMembers.rpt");
+    report.SetSubject(Subject());
+    report.Print();
 }

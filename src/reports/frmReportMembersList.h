@@ -3,38 +3,36 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/NameCombo.h"
 #include "platform/forms/OptionButton.h"
-#include "platform/forms/Screen.h"
+#include "society/SocietyScreen.h"
 
 // The list of the members: all of them, those of an area, or those of an animal.
-class frmReportMembersList final : public Screen {
+class frmReportMembersList final : public SocietyScreen {
 public:
     frmReportMembersList();
 
+    static Keys::Places KeyPlaces();
+
 private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
-    OptionButton OptionList{this, "OptionList", Shivaji(u"  &1 pUNa- yaadI")};
-    OptionButton OptionArea{this, "OptionArea", Shivaji(u"  &2 ivaBaaga")};
-    OptionButton OptionMilk{this, "OptionMilk", Shivaji(u"  &3 dUQa")};
+    OptionButton OptionList{
+        this, "OptionList", Shivaji(u"  &1 pUNa- yaadI"), &frmReportMembersList::Option_Click};
+    OptionButton OptionArea{
+        this, "OptionArea", Shivaji(u"  &2 ivaBaaga"), &frmReportMembersList::Option_Click};
+    OptionButton OptionMilk{this, "OptionMilk", Shivaji(u"  &3 dUQa"), &frmReportMembersList::Option_Click};
     OptionGroup list{&OptionList, &OptionArea, &OptionMilk};
-    NameCombo ComboArea{this, "ComboArea"};
+    NameCombo ComboArea{this, "ComboArea", &frmReportMembersList::ComboArea_LostFocus};
     OptionButton OptionCow{this, "OptionCow", Shivaji(u"gaaya")};
     OptionButton OptionBuff{this, "OptionBuff", Shivaji(u"mhOsa")};
     OptionButton OptionBoth{this, "OptionBoth", Shivaji(u"daonhI")};
     OptionGroup milk{&OptionCow, &OptionBuff, &OptionBoth};
-    Label lblGuide{this, "lblGuide"};
-    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-"), &frmReportMembersList::cmdReport_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmReportMembersList::cmdExit_Click};
 
     void Load() override;
-    void Escape() override;
 
     void Option_Click();
     void ComboArea_GotFocus();
     void ComboArea_LostFocus();
     void cmdReport_Click();
-    void cmdExit_Click();
 
     void StageAll();
     void StageArea();

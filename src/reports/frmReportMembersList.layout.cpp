@@ -17,7 +17,6 @@ void AddOption(QGridLayout& grid, int row, OptionButton& option)
 
 void frmReportMembersList::LayOut()
 {
-    SetTitleLabel(lblTitle);
     Layout::SizeField(ComboArea, ReportLayout::NameWidth);
     ComboArea.SetAccessibleName(OptionArea.Shown());
     auto* animals = new QHBoxLayout;
@@ -30,14 +29,11 @@ void frmReportMembersList::LayOut()
     Layout::Form form;
     QGridLayout& grid = *form.Grid();
     grid.setHorizontalSpacing(24);
-    SetGuideLabel(lblGuide);
-    Layout::MakeGuide(lblGuide);
     grid.addWidget(lblGuide.Widget(), 0, 1); // above the list of areas, which drops down
     AddOption(grid, 1, OptionList);
     AddOption(grid, 2, OptionArea);
     grid.addWidget(ComboArea.Widget(), 2, 1);
     AddOption(grid, 3, OptionMilk);
     grid.addLayout(animals, 3, 1);
-    ReportLayout::Finish(
-        *this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), form, cmdReport, cmdExit);
+    Stack(ReportLayout::Body(form, cmdReport, cmdExit));
 }

@@ -2,41 +2,36 @@
 
 #include "core/messages/Messages.h"
 #include "core/preview/ReportSubject.h"
+#include "core/preview/TemplateReport.h"
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "reports/ReportRun.h"
-#include "society/CompanyTitle.h"
 #include "society/Wanted.h"
+#include "society/Words.h"
 
-namespace {
-
-constexpr QStringView BothAnimals = u"daonhI";
-
+Keys::Places frmReportMilkCollections::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmReportMilkCollections"), Shivaji(u"dUQa saMklana irpaoT-"),
+            {Next, Back, Leave, {QStringLiteral("Alt+S"), Shivaji(u"sakaL")},
+                {QStringLiteral("Alt+K"), Shivaji(u"saMQyaakaL")},
+                {QStringLiteral("Alt+D"), Shivaji(u"daonhI")}, ListOfNames, PrintReport, ExitButton}},
+    };
 }
 
-frmReportMilkCollections::frmReportMilkCollections() : Screen("frmReportMilkCollections")
+frmReportMilkCollections::frmReportMilkCollections()
+    : SocietyScreen(KeyPlaces(), Shivaji(u" dUQa saMklana irpaoT-"))
 {
-    When(MaskUserDate.LostFocus, &frmReportMilkCollections::MaskUserDate_LostFocus);
     When(ComboAnimal.GotFocus, &frmReportMilkCollections::ComboAnimal_GotFocus);
-    When(ComboAnimal.LostFocus, &frmReportMilkCollections::ComboAnimal_LostFocus);
-    When(cmdReport.Click, &frmReportMilkCollections::cmdReport_Click);
-    When(cmdExit.Click, &frmReportMilkCollections::cmdExit_Click);
-    SetTitle(Shivaji(u" dUQa saMklana irpaoT-"));
-    ComboAnimal.SetItems({QStringLiteral("gaaya"), QStringLiteral("mhOsa"), BothAnimals.toString()});
+    ComboAnimal.SetItems({Word::Cow.toString(), Word::Buffalo.toString(), Word::Both.toString()});
     LayOut();
 }
 
 void frmReportMilkCollections::Load()
 {
-    ShowCompany(lblCompanyTitle, lblAcYear);
     OptionBoth.Choose();
-}
-
-void frmReportMilkCollections::Escape()
-{
-    EmptyFields();
-    Close();
 }
 
 void frmReportMilkCollections::MaskUserDate_LostFocus()
@@ -67,7 +62,7 @@ void frmReportMilkCollections::ComboAnimal_LostFocus()
 bool frmReportMilkCollections::HoldAnimal()
 {
     if (ComboAnimal.IsEmpty())
-        ComboAnimal.SetText(BothAnimals.toString());
+        ComboAnimal.SetText(Word::Both.toString());
     ComboAnimal.TakeMatch();
     if (ComboAnimal.Items().contains(ComboAnimal.Text()))
         return true;
@@ -84,9 +79,9 @@ QString frmReportMilkCollections::Selection() const
             Quoted(MaskUserDate.Text()));
     const bool oneShift = !OptionBoth.Chosen();
     if (oneShift)
-        statement = Sql(
-            statement, u" and CollectionTime=", Quoted(OptionMorning.Chosen() ? u"sakaL" : u"saMQyaakaL"));
-    if (ComboAnimal.Text() != BothAnimals)
+        statement = Sql(statement, u" and CollectionTime=",
+            Quoted(OptionMorning.Chosen() ? Word::Morning : Word::Evening));
+    if (ComboAnimal.Text() != Word::Both)
         statement = Sql(statement, oneShift ? u" and  Animal=" : u" and Animal=", Quoted(ComboAnimal.Text()));
     return statement;
 }
@@ -94,10 +89,10 @@ QString frmReportMilkCollections::Selection() const
 QString frmReportMilkCollections::Subject() const
 {
     QStringList choices;
-    if (ComboAnimal.Text() != BothAnimals)
+    if (ComboAnimal.Text() != Word::Both)
         choices.append(ComboAnimal.Text());
     if (!OptionBoth.Chosen())
-        choices.append(OptionMorning.Chosen() ? QStringLiteral("sakaL") : QStringLiteral("saMQyaakaL"));
+        choices.append(OptionMorning.Chosen() ? Word::Morning.toString() : Word::Evening.toString());
     return ReportSubject(choices, MaskUserDate.Date());
 }
 
@@ -112,10 +107,7 @@ void frmReportMilkCollections::cmdReport_Click()
     ReportRun::StageDates(MaskUserDate.Text(), MaskUserDate.Text());
     ReportRun::Tidy(u"MilkCollectionsTemp");
     staging.Commit();
-    ReportRun::Show(u"MilkCollectionsReport.rpt", Subject());
-}
-
-void frmReportMilkCollections::cmdExit_Click()
-{
-    Close();
+    TemplateReport report(u"MilkCollectionsReport.rpt");
+    report.SetSubject(Subject());
+    report.Print();
 }

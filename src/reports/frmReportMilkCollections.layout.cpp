@@ -3,16 +3,13 @@
 
 void frmReportMilkCollections::LayOut()
 {
-    SetTitleLabel(lblTitle);
-    SetGuideLabel(lblGuide);
     Layout::Form form;
-    ReportLayout::AddGuide(form, lblGuide);
+    form.Row(lblGuide); // above what is asked for: the list of names drops down over what is below
     form.Row(Shivaji(u"idnaaMk"), MaskUserDate, ReportLayout::DateWidth);
     form.Row(Plain(u"जनावर"), ComboAnimal, ReportLayout::DateWidth);
     form.Row(Plain(u"वेळ"),
         {{&OptionMorning, OptionMorning.Shown()}, {&OptionEvening, OptionEvening.Shown()},
             {&OptionBoth, OptionBoth.Shown()}},
         0);
-    ReportLayout::Finish(
-        *this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), form, cmdReport, cmdExit);
+    Stack(ReportLayout::Body(form, cmdReport, cmdExit));
 }

@@ -1,25 +1,25 @@
 #include "reports/frmReportMilkPS.h"
 
 #include "core/preview/ReportSubject.h"
+#include "core/preview/TemplateReport.h"
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
 #include "reports/MilkStatement.h"
-#include "reports/ReportRun.h"
-#include "society/CompanyTitle.h"
 #include "society/FieldRoutines.h"
 #include "society/Wanted.h"
 
-frmReportMilkPS::frmReportMilkPS() : Screen("frmReportMilkPS")
+Keys::Places frmReportMilkPS::KeyPlaces()
 {
-    When(maskFromDate.LostFocus, &frmReportMilkPS::maskFromDate_LostFocus);
-    When(maskToDate.LostFocus, &frmReportMilkPS::maskToDate_LostFocus);
-    When(OptionCollections.Click, &frmReportMilkPS::Option_Click);
-    When(OptionSales.Click, &frmReportMilkPS::Option_Click);
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmReportMilkPS"), Shivaji(u"dUQa saMklana À ivaËI irpaoT-"),
+            {Next, Back, Leave, ChooseOption, ListOfNames, PrintReport, ExitButton}},
+    };
+}
+
+frmReportMilkPS::frmReportMilkPS() : SocietyScreen(KeyPlaces(), Shivaji(u" dUQa saMklana À ivaËI irpaoT-"))
+{
     When(ComboAccountName.GotFocus, &frmReportMilkPS::ComboAccountName_GotFocus);
-    When(ComboAccountName.LostFocus, &frmReportMilkPS::ComboAccountName_LostFocus);
-    When(cmdReport.Click, &frmReportMilkPS::cmdReport_Click);
-    When(cmdExit.Click, &frmReportMilkPS::cmdExit_Click);
-    SetTitle(Shivaji(u" dUQa saMklana À ivaËI irpaoT-"));
     LayOut();
 }
 
@@ -32,15 +32,8 @@ void frmReportMilkPS::Load()
         SendKeys(QStringLiteral("{ESC}"));
         return;
     }
-    ShowCompany(lblCompanyTitle, lblAcYear);
     OptionCollections.Choose();
     ListAccounts();
-}
-
-void frmReportMilkPS::Escape()
-{
-    EmptyFields();
-    Close();
 }
 
 void frmReportMilkPS::maskFromDate_LostFocus()
@@ -86,11 +79,7 @@ void frmReportMilkPS::cmdReport_Click()
     MilkStatement::Stage(
         {OptionSales.Chosen() ? MilkStatement::Kind::Sales : MilkStatement::Kind::Collections,
             ComboAccountName.Text().trimmed(), maskFromDate.Date(), maskToDate.Date()});
-    ReportRun::Show(u"MilkPSReport.rpt",
-        ReportSubject({ComboAccountName.Text()}, maskFromDate.Date(), maskToDate.Date()));
-}
-
-void frmReportMilkPS::cmdExit_Click()
-{
-    Close();
+    TemplateReport report(u"MilkPSReport.rpt");
+    report.SetSubject(ReportSubject({ComboAccountName.Text()}, maskFromDate.Date(), maskToDate.Date()));
+    report.Print();
 }

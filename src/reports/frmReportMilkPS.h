@@ -4,31 +4,29 @@
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
 #include "platform/forms/OptionButton.h"
-#include "platform/forms/Screen.h"
+#include "society/SocietyScreen.h"
 
 // The statement of one member's deliveries or of one customer's purchases over a range of days. A counter
 // opens it with gReportMode "ShowMilkCollection": it then stages what lies in MilkCollectionsTemp and leaves
 // the printing to the counter.
-class frmReportMilkPS final : public Screen {
+class frmReportMilkPS final : public SocietyScreen {
 public:
     frmReportMilkPS();
 
+    static Keys::Places KeyPlaces();
+
 private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
-    Label lblGuide{this, "lblGuide"};
-    DateField maskFromDate{this, "maskFromDate"};
-    DateField maskToDate{this, "maskToDate"};
-    OptionButton OptionCollections{this, "OptionCollections", Shivaji(u" saMklana")};
-    OptionButton OptionSales{this, "OptionSales", Shivaji(u" ivaËI")};
+    DateField maskFromDate{this, "maskFromDate", &frmReportMilkPS::maskFromDate_LostFocus};
+    DateField maskToDate{this, "maskToDate", &frmReportMilkPS::maskToDate_LostFocus};
+    OptionButton OptionCollections{
+        this, "OptionCollections", Shivaji(u" saMklana"), &frmReportMilkPS::Option_Click};
+    OptionButton OptionSales{this, "OptionSales", Shivaji(u" ivaËI"), &frmReportMilkPS::Option_Click};
     OptionGroup kind{&OptionCollections, &OptionSales};
-    NameCombo ComboAccountName{this, "ComboAccountName"};
-    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+    NameCombo ComboAccountName{this, "ComboAccountName", &frmReportMilkPS::ComboAccountName_LostFocus};
+    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-"), &frmReportMilkPS::cmdReport_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmReportMilkPS::cmdExit_Click};
 
     void Load() override;
-    void Escape() override;
 
     void maskFromDate_LostFocus();
     void maskToDate_LostFocus();
@@ -36,7 +34,6 @@ private:
     void ComboAccountName_GotFocus();
     void ComboAccountName_LostFocus();
     void cmdReport_Click();
-    void cmdExit_Click();
 
     void ListAccounts();
     void LayOut();

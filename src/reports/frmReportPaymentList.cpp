@@ -1,9 +1,8 @@
 #include "reports/frmReportPaymentList.h"
 
 #include "core/preview/ReportSubject.h"
+#include "core/preview/TemplateReport.h"
 #include "platform/database/Sql.h"
-#include "reports/ReportRun.h"
-#include "society/CompanyTitle.h"
 #include "society/Wanted.h"
 
 namespace {
@@ -18,25 +17,23 @@ QString Part(QString text)
 
 }
 
-frmReportPaymentList::frmReportPaymentList() : Screen("frmReportPaymentList")
+Keys::Places frmReportPaymentList::KeyPlaces()
 {
-    When(MaskFromDate.LostFocus, &frmReportPaymentList::MaskFromDate_LostFocus);
-    When(cmdReport.Click, &frmReportPaymentList::cmdReport_Click);
-    When(cmdExit.Click, &frmReportPaymentList::cmdExit_Click);
-    SetTitle(Shivaji(u" dUQa pomaoMT ilasT"));
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmReportPaymentList"), Shivaji(u"dUQa pomaonT ilasT"),
+            {Next, Back, Leave, ChooseOption, PrintReport, ExitButton}},
+    };
+}
+
+frmReportPaymentList::frmReportPaymentList() : SocietyScreen(KeyPlaces(), Shivaji(u" dUQa pomaoMT ilasT"))
+{
     LayOut();
 }
 
 void frmReportPaymentList::Load()
 {
-    ShowCompany(lblCompanyTitle, lblAcYear);
     Option1.Choose();
-}
-
-void frmReportPaymentList::Escape()
-{
-    EmptyFields();
-    Close();
 }
 
 void frmReportPaymentList::MaskFromDate_LostFocus()
@@ -52,12 +49,10 @@ QString frmReportPaymentList::SelectionFormula(const QString& date)
 
 void frmReportPaymentList::cmdReport_Click()
 {
-    if (MaskFromDate.InsistOnDate(Wanted::Date()))
-        ReportRun::Show(Option1.Chosen() ? u"CashMilkPayment.rpt" : u"BankMilkPayment.rpt",
-            ReportSubject({}, MaskFromDate.Date()), SelectionFormula(MaskFromDate.Text()));
-}
-
-void frmReportPaymentList::cmdExit_Click()
-{
-    Close();
+    if (!MaskFromDate.InsistOnDate(Wanted::Date()))
+        return;
+    TemplateReport report(Option1.Chosen() ? u"CashMilkPayment.rpt" : u"BankMilkPayment.rpt");
+    report.SetSubject(ReportSubject({}, MaskFromDate.Date()));
+    report.SetSelectionFormula(SelectionFormula(MaskFromDate.Text()));
+    report.Print();
 }

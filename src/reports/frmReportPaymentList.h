@@ -3,34 +3,30 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/DateField.h"
 #include "platform/forms/OptionButton.h"
-#include "platform/forms/Screen.h"
+#include "society/SocietyScreen.h"
 
 // The list of the payments of a date: to be paid out in cash, or through the bank.
-class frmReportPaymentList final : public Screen {
+class frmReportPaymentList final : public SocietyScreen {
 public:
     frmReportPaymentList();
+
+    static Keys::Places KeyPlaces();
 
     // The payments of a date dd/MM/yyyy, in the words of the report control.
     static QString SelectionFormula(const QString& date);
 
 private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
-    Label lblGuide{this, "lblGuide"};
-    DateField MaskFromDate{this, "MaskFromDate"};
+    DateField MaskFromDate{this, "MaskFromDate", &frmReportPaymentList::MaskFromDate_LostFocus};
     OptionButton Option1{this, "Option1", Shivaji(u"raoK")};
     OptionButton Option2{this, "Option2", Shivaji(u"baÐMk")};
     OptionGroup way{&Option1, &Option2};
-    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
+    Button cmdReport{this, "cmdReport", Shivaji(u"&irpaoT-"), &frmReportPaymentList::cmdReport_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmReportPaymentList::cmdExit_Click};
 
     void Load() override;
-    void Escape() override;
 
     void MaskFromDate_LostFocus();
     void cmdReport_Click();
-    void cmdExit_Click();
 
     void LayOut();
 };

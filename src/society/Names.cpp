@@ -2,8 +2,9 @@
 
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
-#include "platform/forms/NameCombo.h"
 #include "platform/text/Shivaji01.h"
+
+#include <QHash>
 
 #include <utility>
 
@@ -81,4 +82,22 @@ QStringList SpellingsOf(QStringView table, QStringView column, const QString& na
             spellings.append(text);
     }
     return spellings;
+}
+
+// The names are read as they always were; the numbers beside them are read apart.
+std::vector<NameCombo::Entry> MemberNames()
+{
+    QHash<QString, QStringList> numbers; // of a name, the lowest last
+    for (Recordset member(
+             gCn, QStringLiteral("SELECT MemberNo,MemberName FROM MembersMaster order by MemberNo desc"));
+         !member.Eof(); member.MoveNext())
+        numbers[member[u"MemberName"].Text()].append(member[u"MemberNo"].Text());
+    std::vector<NameCombo::Entry> names;
+    for (Recordset member(gCn, QStringLiteral("SELECT MemberName FROM MembersMaster order by MemberName"));
+         !member.Eof(); member.MoveNext()) {
+        const QString name = member[u"MemberName"].Text();
+        QStringList& left = numbers[name];
+        names.push_back({name, left.isEmpty() ? QString() : left.takeLast()});
+    }
+    return names;
 }

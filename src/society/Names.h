@@ -1,10 +1,9 @@
 #pragma once
 
 #include "platform/database/Recordset.h"
+#include "platform/forms/NameCombo.h"
 
 #include <functional>
-
-class NameCombo;
 
 // Looks up what the clerk knows by name. Two spellings that read the same are one name to him; the text that
 // is stored is the one to put into statements.
@@ -34,3 +33,6 @@ void ShowMember(NameCombo& list, const Recordset& row);
 // The ways in which a column of a table spells a name: first as it is given, then the others that read the
 // same.
 QStringList SpellingsOf(QStringView table, QStringView column, const QString& name);
+
+// The names of all members with their numbers, in the order of the books.
+std::vector<NameCombo::Entry> MemberNames();

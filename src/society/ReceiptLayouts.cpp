@@ -1,7 +1,5 @@
 #include "society/ReceiptLayouts.h"
 
-#include "core/messages/Messages.h"
-
 #include <array>
 
 namespace {
@@ -25,9 +23,4 @@ ReceiptLayout ReceiptLayoutOf(QStringView type)
         if (layout.type == type)
             return layout;
     return {};
-}
-
-void TellNoTemplate()
-{
-    ShowPlain(QStringLiteral("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही."));
 }

@@ -10,8 +10,5 @@ struct ReceiptLayout {
     QStringView sampleTemplate;
 };
 
-// Tells the clerk that there is no template to print the chosen layout with.
-void TellNoTemplate();
-
 // The layout of a ReceiptType; all of its texts are empty for none of the eight.
 ReceiptLayout ReceiptLayoutOf(QStringView type);

@@ -2,7 +2,7 @@
 
 #include "core/messages/Messages.h"
 #include "platform/text/Numbers.h"
-#include "society/CompanyTitle.h"
+#include "society/Words.h"
 
 #include <QKeyEvent>
 
@@ -10,7 +10,7 @@ namespace {
 
 QStringList YesNo()
 {
-    return {QStringLiteral("haoya"), QStringLiteral("naahI")};
+    return {Word::Yes.toString(), Word::No.toString()};
 }
 
 QStringList ReceiptTypes()
@@ -23,62 +23,57 @@ QStringList ReceiptTypes()
 
 }
 
+Keys::Places frmAutoSettings::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {
+        {QStringLiteral("frmAutoSettings"), Shivaji(u"Aa^Tao saoTIMgja"),
+            {Next, Back, {QStringLiteral("Ctrl+PgDn"), Plain(u"पुढचे पान")},
+                {QStringLiteral("Ctrl+PgUp"), Plain(u"मागचे पान")}, {QStringLiteral("Alt+↓"), Plain(u"यादी")},
+                {QStringLiteral("1 2 3 …"), Plain(u"निवडा")}, Tick, ChooseOption, Save, Cancel, ExitButton,
+                Leave}},
+        {QStringLiteral("frmAutoSettings.cmdReceipt"), Plain(u"ऑटो सेटींग्ज, संकलनाच्या पानावर"),
+            {{QStringLiteral("Shift+Tab"), Plain(u"पहिल्या प्रश्नावरून पावती प्रकाराच्या बटणावर")},
+                {QStringLiteral("Enter"), Plain(u"बटणावर : नमुना पावती")}}},
+        {QStringLiteral("frmAutoSettings.Payment"), Plain(u"ऑटो सेटींग्ज, पेमेंटच्या पानावर, ठेव कपातीत"),
+            {{QStringLiteral("↓"), Plain(u"दराचा प्रकार व पुढील प्रश्न")}}},
+        {QStringLiteral("frmAutoSettings.Sale"), Plain(u"ऑटो सेटींग्ज, दूध विक्रीच्या पानावर"),
+            {{QStringLiteral("↓"), Shivaji(u"ivaËI pavatIÀip`MT")}}},
+    };
+}
+
 frmAutoSettings::frmAutoSettings()
-    : Screen("frmAutoSettings")
-    , SSTab(this, "SSTab", {Plain(u"संकलन"), Plain(u"पेमेंट"), Shivaji(u"dUQa ivaËI")})
-    , ComboAutoLiters(this, "ComboAutoLiters", YesNo())
-    , ComboAutoFat(this, "ComboAutoFat", YesNo())
+    : SocietyScreen(KeyPlaces(), Shivaji(u"Aa^Tao saoTIMgja"), {.guide = "lblMessage"})
+    , SSTab(this, "SSTab", {Plain(u"संकलन"), Plain(u"पेमेंट"), Shivaji(u"dUQa ivaËI")},
+          &frmAutoSettings::SSTab_Click)
+    , ComboAutoLiters(this, "ComboAutoLiters", YesNo(), &frmAutoSettings::ComboAutoLiters_LostFocus)
+    , ComboAutoFat(this, "ComboAutoFat", YesNo(), &frmAutoSettings::ComboAutoFat_LostFocus)
     , ComboPrintStatus(this, "ComboPrintStatus",
-          {QStringLiteral("naahI"), QStringLiteral("f@t sËIna"), QStringLiteral("haoya")})
-    , ComboReceipt(this, "ComboReceipt", ReceiptTypes())
+          {Word::No.toString(), QStringLiteral("f@t sËIna"), Word::Yes.toString()},
+          &frmAutoSettings::ComboPrintStatus_LostFocus)
+    , ComboReceipt(this, "ComboReceipt", ReceiptTypes(), &frmAutoSettings::ComboReceipt_LostFocus)
     , ComboPaymentDuration(this, "ComboPaymentDuration",
           {QStringLiteral("1 idvasa"), QStringLiteral("7 idvasa"), QStringLiteral("10 idvasa"),
-              QStringLiteral("15 idvasa"), QStringLiteral("1 maihnaa")})
+              QStringLiteral("15 idvasa"), QStringLiteral("1 maihnaa")},
+          &frmAutoSettings::ComboPaymentDuration_LostFocus)
     , ComboMSRPrintStatus(this, "ComboMSRPrintStatus",
-          {QStringLiteral("saovh"), QStringLiteral("saovh va sËIna"), QStringLiteral("saovh va ip`MT")})
+          {QStringLiteral("saovh"), QStringLiteral("saovh va sËIna"), QStringLiteral("saovh va ip`MT")},
+          &frmAutoSettings::ComboMSRPrintStatus_LostFocus)
 {
     // These two offer more than their digits reach; the rest is picked from the list.
     ComboReceipt.SetDigits(6);
     ComboPaymentDuration.SetDigits(4);
     cmbFatRateType.SetMouseOnly(true);
-    ComboPrintStatus.SetText(QStringLiteral("haoya"));
+    ComboPrintStatus.SetText(Word::Yes.toString());
     CmdCancel.SetCancels(true);
+    When(CheckRepeatCol.LostFocus, &frmAutoSettings::CheckRepeatCol_LostFocus);
     CmdExit.SetCancels(true); // nothing is saved by it, so no field need be right
-    SetTitle(Shivaji(u"Aa^Tao saoTIMgja"));
-    Wire();
     SetGuides();
     LayOut();
 }
 
-void frmAutoSettings::Wire()
-{
-    When(SSTab.Click, &frmAutoSettings::SSTab_Click);
-    When(CheckCNP.Click, &frmAutoSettings::CheckCNP_Click);
-    When(CmdSave.Click, &frmAutoSettings::CmdSave_Click);
-    When(CmdCancel.Click, &frmAutoSettings::CmdCancel_Click);
-    When(cmdReceipt.Click, &frmAutoSettings::cmdReceipt_Click);
-    When(CmdExit.Click, &frmAutoSettings::CmdExit_Click);
-
-    When(ComboAutoLiters.LostFocus, &frmAutoSettings::ComboAutoLiters_LostFocus);
-    When(ComboAutoFat.LostFocus, &frmAutoSettings::ComboAutoFat_LostFocus);
-    When(ComboPrintStatus.LostFocus, &frmAutoSettings::ComboPrintStatus_LostFocus);
-    When(txtCowLimit.LostFocus, &frmAutoSettings::txtCowLimit_LostFocus);
-    When(txtBuffLimit.LostFocus, &frmAutoSettings::txtBuffLimit_LostFocus);
-    When(ComboReceipt.LostFocus, &frmAutoSettings::ComboReceipt_LostFocus);
-    When(CheckRepeatCol.LostFocus, &frmAutoSettings::CheckRepeatCol_LostFocus);
-    When(ComboPaymentDuration.LostFocus, &frmAutoSettings::ComboPaymentDuration_LostFocus);
-    When(txtCow.LostFocus, &frmAutoSettings::txtCow_LostFocus);
-    When(txtBuff.LostFocus, &frmAutoSettings::txtBuff_LostFocus);
-    When(cmbFatRateType.LostFocus, &frmAutoSettings::cmbFatRateType_LostFocus);
-    When(txtCowSaleRate.LostFocus, &frmAutoSettings::txtCowSaleRate_LostFocus);
-    When(txtBuffSaleRate.LostFocus, &frmAutoSettings::txtBuffSaleRate_LostFocus);
-    When(txtMixSaleRate.LostFocus, &frmAutoSettings::txtMixSaleRate_LostFocus);
-    When(ComboMSRPrintStatus.LostFocus, &frmAutoSettings::ComboMSRPrintStatus_LostFocus);
-}
-
 void frmAutoSettings::Load()
 {
-    ShowCompany(lblCompanyTitle, lblAcYear);
     LoadSettings();
 }
 
@@ -102,12 +97,6 @@ bool frmAutoSettings::GoBeyondThePageTurn(const QKeyEvent& key)
     return true;
 }
 
-void frmAutoSettings::Escape()
-{
-    EmptyFields();
-    Close();
-}
-
 void frmAutoSettings::SSTab_Click()
 {
     ShowTabGuide();
@@ -119,7 +108,7 @@ void frmAutoSettings::SSTab_Click()
 
 void frmAutoSettings::CheckCNP_Click()
 {
-    lblMessage.SetCaption(CheckCNP.Checked()
+    lblGuide.SetCaption(CheckCNP.Checked()
             ? Shivaji(u"dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kolaI jaa[-la")
             : Shivaji(u"dUQa KrodIcaI enT/I dUQa pomaonT krtovaoLIca kolaI jaa[-la"));
 }
@@ -127,11 +116,6 @@ void frmAutoSettings::CheckCNP_Click()
 void frmAutoSettings::CmdCancel_Click()
 {
     LoadSettings();
-}
-
-void frmAutoSettings::CmdExit_Click()
-{
-    Close();
 }
 
 // Leaving the fields. Each is checked only where the one before it isn't empty, so that a step back to an
@@ -146,11 +130,9 @@ bool frmAutoSettings::CheckChoice(ChoiceCombo& combo)
     return false;
 }
 
-bool frmAutoSettings::CheckNotZero(NumberField& field, QStringView pattern)
+bool frmAutoSettings::CheckNotZero(NumberField& field)
 {
-    const double value = Val(field.Text());
-    field.SetText(Format(value, pattern));
-    if (value != 0)
+    if (field.Reformat() != 0)
         return true;
     field.SetFocus(Plain(u"0 पेक्षा जास्त टाका    Alt+R : रद्द"));
     return false;
@@ -158,8 +140,7 @@ bool frmAutoSettings::CheckNotZero(NumberField& field, QStringView pattern)
 
 bool frmAutoSettings::CheckKapat(NumberField& field)
 {
-    const double value = Val(field.Text());
-    field.SetText(Format(value, u"######0.00"));
+    const double value = field.Reformat();
     if (value > 0 || (value == 0 && ComboPaymentDuration.IsEmpty()))
         return true;
     field.SetFocus(Plain(u"0 पेक्षा जास्त टाका    Alt+R : रद्द"));
@@ -186,13 +167,13 @@ void frmAutoSettings::ComboPrintStatus_LostFocus()
 void frmAutoSettings::txtCowLimit_LostFocus()
 {
     if (!ComboPrintStatus.IsEmpty())
-        CheckNotZero(txtCowLimit, u"######0.000");
+        CheckNotZero(txtCowLimit);
 }
 
 void frmAutoSettings::txtBuffLimit_LostFocus()
 {
     if (!txtCowLimit.IsEmpty())
-        CheckNotZero(txtBuffLimit, u"######0.000");
+        CheckNotZero(txtBuffLimit);
 }
 
 void frmAutoSettings::ComboReceipt_LostFocus()
@@ -240,18 +221,18 @@ void frmAutoSettings::cmbFatRateType_LostFocus()
 
 void frmAutoSettings::txtCowSaleRate_LostFocus()
 {
-    CheckNotZero(txtCowSaleRate, u"#####0.00");
+    CheckNotZero(txtCowSaleRate);
 }
 
 void frmAutoSettings::txtBuffSaleRate_LostFocus()
 {
     if (!txtCowSaleRate.IsEmpty())
-        CheckNotZero(txtBuffSaleRate, u"######0.00");
+        CheckNotZero(txtBuffSaleRate);
 }
 
 void frmAutoSettings::txtMixSaleRate_LostFocus()
 {
-    if (!txtBuffSaleRate.IsEmpty() && !CheckNotZero(txtMixSaleRate, u"#####0.00"))
+    if (!txtBuffSaleRate.IsEmpty() && !CheckNotZero(txtMixSaleRate))
         return;
     if (!LeadsOn())
         return;

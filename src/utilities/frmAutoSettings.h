@@ -1,13 +1,14 @@
 #pragma once
 
+#include "core/preview/TemplateReport.h"
 #include "platform/database/Recordset.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/ChoiceCombo.h"
 #include "platform/forms/OptionButton.h"
-#include "platform/forms/Screen.h"
 #include "platform/forms/TabPages.h"
-#include "platform/report/ReportControl.h"
+#include "society/Fields.h"
+#include "society/SocietyScreen.h"
 
 #include <array>
 #include <utility>
@@ -15,21 +16,17 @@
 // How the society wants the system to behave: the one row of AutoSettings of its company, on three tabs.
 // A save replaces the row. The columns that no tab has are lost with it, and if a required field is empty
 // the row is not written again.
-class frmAutoSettings final : public Screen {
+class frmAutoSettings final : public SocietyScreen {
 public:
     frmAutoSettings();
+
+    static Keys::Places KeyPlaces();
 
 protected:
     void Load() override;
     bool KeyDown(const QKeyEvent& key) override;
-    void Escape() override;
 
 private:
-    Label lblTitle{this, "lblTitle"};
-    Label lblCompanyTitle{this, "lblCompanyTitle"};
-    Label lblAcYear{this, "lblAcYear"};
-    Label lblMessage{this, "lblMessage"};
-
     enum Pages { Collection, Payment, Sale };
     TabPages SSTab;
 
@@ -37,19 +34,19 @@ private:
     ChoiceCombo ComboAutoLiters;
     ChoiceCombo ComboAutoFat;
     ChoiceCombo ComboPrintStatus;
-    NumberField txtCowLimit{this, "txtCowLimit", NumberField::Digits::Decimals};
-    NumberField txtBuffLimit{this, "txtBuffLimit", NumberField::Digits::Decimals};
+    LitresField txtCowLimit{this, "txtCowLimit", &frmAutoSettings::txtCowLimit_LostFocus};
+    LitresField txtBuffLimit{this, "txtBuffLimit", &frmAutoSettings::txtBuffLimit_LostFocus};
     ChoiceCombo ComboReceipt;
     CheckBox CheckRepeatCol{this, "CheckRepeatCol",
         Shivaji(u"eka maombarcaI eka vaoLI ekapoxaa jaast vaoLa dUQa saMklana naaoMd kÉ VayacaI ka Æ")};
 
     // Payment
     ChoiceCombo ComboPaymentDuration;
-    NumberField txtCow{this, "txtCow", NumberField::Digits::Decimals};
-    NumberField txtBuff{this, "txtBuff", NumberField::Digits::Decimals};
-    ChoiceCombo cmbFatRateType{this, "cmbFatRateType"};
-    CheckBox CheckCNP{
-        this, "CheckCNP", Shivaji(u"dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kravaI ka Æ")};
+    MoneyField txtCow{this, "txtCow", &frmAutoSettings::txtCow_LostFocus};
+    MoneyField txtBuff{this, "txtBuff", &frmAutoSettings::txtBuff_LostFocus};
+    ChoiceCombo cmbFatRateType{this, "cmbFatRateType", {}, &frmAutoSettings::cmbFatRateType_LostFocus};
+    CheckBox CheckCNP{this, "CheckCNP", Shivaji(u"dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kravaI ka Æ"),
+        &frmAutoSettings::CheckCNP_Click};
     CheckBox CheckSNU{this, "CheckSNU",
         Shivaji(
             u"maombarlaa kolaolaI ]Qaar ivaËI dUQa pomaonT krtovaoLI ]cala mhNaUna ivacaarat GyaavaI ka Æ")};
@@ -60,21 +57,20 @@ private:
     OptionGroup DecimalPayment{{&OptionAddThev, &OptionPayable, &OptionPayIt, &OptionDiscount}};
 
     // Milk sale
-    NumberField txtCowSaleRate{this, "txtCowSaleRate", NumberField::Digits::Decimals};
-    NumberField txtBuffSaleRate{this, "txtBuffSaleRate", NumberField::Digits::Decimals};
-    NumberField txtMixSaleRate{this, "txtMixSaleRate", NumberField::Digits::Decimals};
+    RateField txtCowSaleRate{this, "txtCowSaleRate", &frmAutoSettings::txtCowSaleRate_LostFocus};
+    RateField txtBuffSaleRate{this, "txtBuffSaleRate", &frmAutoSettings::txtBuffSaleRate_LostFocus};
+    RateField txtMixSaleRate{this, "txtMixSaleRate", &frmAutoSettings::txtMixSaleRate_LostFocus};
     ChoiceCombo ComboMSRPrintStatus;
 
-    Button CmdSave{this, "CmdSave", Shivaji(u"&saovh")};
-    Button CmdCancel{this, "CmdCancel", Shivaji(u"&r_")};
-    Button CmdExit{this, "CmdExit", Shivaji(u"&baahor")};
+    Button CmdSave{this, "CmdSave", Shivaji(u"&saovh"), &frmAutoSettings::CmdSave_Click};
+    Button CmdCancel{this, "CmdCancel", Shivaji(u"&r_"), &frmAutoSettings::CmdCancel_Click};
+    Button CmdExit{this, "CmdExit", Shivaji(u"&baahor"), &frmAutoSettings::cmdExit_Click};
 
     // It stands beside ComboReceipt, and last in the tab order: Enter behind the choice of a layout goes on.
-    Button cmdReceipt{this, "cmdReceipt", Shivaji(u"pavatI p`kar")};
+    Button cmdReceipt{this, "cmdReceipt", Shivaji(u"pavatI p`kar"), &frmAutoSettings::cmdReceipt_Click};
 
-    ReportControl CRMilkReceipt;
+    TemplateReport CRMilkReceipt;
 
-    void Wire();
     void LayOut();
     QLayout* CollectionPage();
     QLayout* PaymentPage();
@@ -88,7 +84,6 @@ private:
     void CmdSave_Click();
     void CmdCancel_Click();
     void cmdReceipt_Click();
-    void CmdExit_Click();
 
     // Leaving the fields
     void ComboAutoLiters_LostFocus();
@@ -113,7 +108,7 @@ private:
 
     // These return whether the field may be left.
     bool CheckChoice(ChoiceCombo& combo);
-    bool CheckNotZero(NumberField& field, QStringView pattern);
+    bool CheckNotZero(NumberField& field);
     bool CheckKapat(NumberField& field);
 
     // The row behind the screen

@@ -1,5 +1,4 @@
 #include "utilities/frmAutoSettings.h"
-#include "core/menu/Keys.h"
 #include "platform/forms/Layout.h"
 #include "platform/forms/Look.h"
 
@@ -101,10 +100,6 @@ private:
 
 void frmAutoSettings::LayOut()
 {
-    SetTitleLabel(lblTitle);
-    SetGuideLabel(lblMessage);
-    Layout::MakeGuide(lblMessage);
-
     SSTab.SetAccessibleName(Title());
     SSTab.SetPage(Collection, CollectionPage(),
         {&ComboAutoLiters, &ComboAutoFat, &ComboPrintStatus, &txtCowLimit, &txtBuffLimit, &ComboReceipt,
@@ -119,11 +114,10 @@ void frmAutoSettings::LayOut()
     body->setSpacing(0);
     body->addWidget(SSTab.Widget());
     body->addWidget(SSTab.Pages(), 1);
-    body->addWidget(lblMessage.Widget());
+    body->addWidget(lblGuide.Widget());
     body->addSpacing(10);
     body->addLayout(Layout::ButtonRow({&CmdSave, &CmdCancel, &CmdExit}));
-    Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
-        Layout::KeyStrip(Keys::Of(Name())));
+    Stack(body);
 }
 
 QLayout* frmAutoSettings::CollectionPage()

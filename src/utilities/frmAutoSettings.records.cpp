@@ -2,9 +2,9 @@
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
-#include "platform/shell/AppFolder.h"
 #include "platform/text/Numbers.h"
 #include "society/ReceiptLayouts.h"
+#include "society/Words.h"
 
 namespace {
 
@@ -14,9 +14,12 @@ QString SettingsQuery()
 }
 
 // A column that holds nothing leaves its field empty.
-QString Figure(const FieldValue& value, QStringView pattern)
+void ShowFigure(NumberField& field, const FieldValue& value)
 {
-    return value.Text().isEmpty() ? QString() : Format(value.Number(), pattern);
+    if (value.Text().isEmpty())
+        field.Clear();
+    else
+        field.Show(value.Number());
 }
 
 QStringView WordOf(const CheckBox& box, QStringView unchecked, QStringView checked)
@@ -41,14 +44,14 @@ void frmAutoSettings::ShowSettings(const Recordset& settings)
     ComboAutoLiters.SetText(settings[u"AutoLiters"].Text());
     ComboAutoFat.SetText(settings[u"AutoFat"].Text());
     ComboPrintStatus.SetText(settings[u"PrintStatus"].Text());
-    txtCowLimit.SetText(Figure(settings[u"CanLimitCow"], u"######0.000"));
-    txtBuffLimit.SetText(Figure(settings[u"CanLimitBuff"], u"#####0.000"));
+    ShowFigure(txtCowLimit, settings[u"CanLimitCow"]);
+    ShowFigure(txtBuffLimit, settings[u"CanLimitBuff"]);
     ComboReceipt.SetText(settings[u"ReceiptType"].Text());
-    CheckRepeatCol.SetChecked(settings[u"RepeatCollection"].Text() == u"haoya");
+    CheckRepeatCol.SetChecked(settings[u"RepeatCollection"].Text() == Word::Yes);
 
     ComboPaymentDuration.SetText(settings[u"PaymentDuration"].Text());
-    txtCow.SetText(Figure(settings[u"ThevKapatCow"], u"#######0.00"));
-    txtBuff.SetText(Figure(settings[u"ThevKapatBuff"], u"#######0.00"));
+    ShowFigure(txtCow, settings[u"ThevKapatCow"]);
+    ShowFigure(txtBuff, settings[u"ThevKapatBuff"]);
     const FieldValue fatRateType = settings[u"FatRatetype"];
     cmbFatRateType.SetText(fatRateType.IsNull() ? ByFat.toString() : fatRateType.Text());
     CheckCNP.SetChecked(settings[u"PurchaseEntry"].Text() == u"Collection");
@@ -58,9 +61,9 @@ void frmAutoSettings::ShowSettings(const Recordset& settings)
         if (settings[u"DecimalPayment"].Text() == word)
             option->Choose();
 
-    txtCowSaleRate.SetText(Figure(settings[u"SalesRateCow"], u"#####0.00"));
-    txtBuffSaleRate.SetText(Figure(settings[u"SalesRateBuff"], u"#####0.00"));
-    txtMixSaleRate.SetText(Figure(settings[u"SalesRateMix"], u"#######0.00"));
+    ShowFigure(txtCowSaleRate, settings[u"SalesRateCow"]);
+    ShowFigure(txtBuffSaleRate, settings[u"SalesRateBuff"]);
+    ShowFigure(txtMixSaleRate, settings[u"SalesRateMix"]);
     ComboMSRPrintStatus.SetText(settings[u"MSRPrintStatus"].Text());
 }
 
@@ -113,7 +116,7 @@ QString frmAutoSettings::InsertStatement()
                u"SalesRateMix,WeighScale) Values(",
         Values(gAppState.gCompanyId, ComboAutoLiters.Text(), ComboAutoFat.Text(), ComboPrintStatus.Text(),
             ComboMSRPrintStatus.Text(), txtBuffLimit.Text(), txtCowLimit.Text(), ComboReceipt.Text(),
-            WordOf(CheckRepeatCol, u"naahI", u"haoya"), ComboPaymentDuration.Text(),
+            WordOf(CheckRepeatCol, Word::No, Word::Yes), ComboPaymentDuration.Text(),
             WordOf(CheckCNP, u"Payment", u"Collection"), WordOf(CheckSNU, u"Uchal", u"Sales"),
             DecimalPaymentWord()),
         u",", txtCow.Text(), u",", txtBuff.Text(), u",",
@@ -130,13 +133,8 @@ void frmAutoSettings::cmdReceipt_Click()
     gCn.Execute(u"insert into MilkReceipt select * from MRView");
     gCn.Execute(Sql(u"update MilkReceipt set CompanyId=", gAppState.gCompanyId));
     if (const ReceiptLayout layout = ReceiptLayoutOf(ComboReceipt.Text()); !layout.type.isEmpty())
-        CRMilkReceipt.SetReportFileName(AppFolder.toString() + layout.sampleTemplate);
+        CRMilkReceipt.SetTemplate(layout.sampleTemplate);
     gCn.Execute(u"delete * from MilkReceipt where CompanyId=0");
     staging.Commit();
-    if (CRMilkReceipt.ReportFileName().isEmpty()) {
-        TellNoTemplate();
-        return;
-    }
-    CRMilkReceipt.SetLogon(Logon());
     CRMilkReceipt.Print();
 }

@@ -201,7 +201,7 @@ TEST_P(CounterRulesTest, ASlipOfNoCompanyIsGoneBeforeTheSlipIsPrinted)
 {
     Set("PrintStatus", "haoya");
     QStringList atPrinting;
-    CounterReport::Engine() = [&](const CounterReport::Run&) {
+    TemplateReport::Engine() = [&](const TemplateReport::Run&) {
         atPrinting.append(One(QStringLiteral("select count(*) from MilkReceipt")));
     };
     InTheShift([](Clerk& clerk) {

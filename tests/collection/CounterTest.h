@@ -1,8 +1,8 @@
 #pragma once
 
-#include "collection/CounterReport.h"
 #include "collection/frmCollectionGate.h"
 #include "collection/frmMilkCollections.h"
+#include "core/preview/TemplateReport.h"
 #include "tests/support/SocietyTest.h"
 
 #include <QLabel>
@@ -16,15 +16,15 @@ protected:
         AddMember(1, QStringLiteral("rama"), QStringLiteral("gaaya"));
         AddMember(2, QStringLiteral("saIta"), QStringLiteral("mhOsa"));
         AddMember(3, QStringLiteral("gaNaoSa"), QStringLiteral("daonhI"));
-        CounterReport::Engine() = [this](const CounterReport::Run& run) { Printed.push_back(run); };
+        TemplateReport::Engine() = [this](const TemplateReport::Run& run) { Printed.push_back(run); };
     }
-    ~CounterTest() override { CounterReport::Engine() = m_engine; }
+    ~CounterTest() override { TemplateReport::Engine() = m_engine; }
 
     // What the counters have sent to the printer or to the screen.
-    std::vector<CounterReport::Run> Printed;
+    std::vector<TemplateReport::Run> Printed;
 
     // Lets the counters print through the report controls again, as they do for a clerk.
-    void PrintForReal() { CounterReport::Engine() = m_engine; }
+    void PrintForReal() { TemplateReport::Engine() = m_engine; }
 
     // Plays on the counter as it opens, with the focus on the date.
     void AtTheCounter(const std::function<void(Clerk&)>& script) { On<frmMilkCollections>(script); }
@@ -122,7 +122,7 @@ protected:
     static QStringList Of(std::initializer_list<const char*> lines);
 
 private:
-    const std::function<void(const CounterReport::Run&)> m_engine = CounterReport::Engine();
+    const std::function<void(const TemplateReport::Run&)> m_engine = TemplateReport::Engine();
 
     QStringList Lines(const QString& table);
 };

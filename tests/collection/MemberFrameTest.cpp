@@ -243,7 +243,7 @@ TEST_F(MemberFrameTest, ItShowsItsOwnKeysInPlaceOfTheCounters)
         return std::any_of(labels.begin(), labels.end(),
             [&](const QLabel* label) { return label->isVisible() && label->text() == action; });
     };
-    const QString report = Keys::Action(QStringLiteral("FrameMilkCollection"), u"Alt+I").Seen();
+    const QString report = Seen(QStringLiteral("irpaoT-"));
     InTheMorning([&](Clerk& clerk) {
         Type(clerk, "{ENTER}");
         EXPECT_FALSE(shown(clerk, report));
@@ -317,7 +317,7 @@ TEST_F(MemberFrameTest, TheReportIsRunOverTheCopyWithThePeriod)
         ASSERT_EQ(Printed.size(), 1U);
         EXPECT_EQ(Printed[0].fileName, QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkPSReport.rpt"));
         EXPECT_EQ(Printed[0].logon, QStringLiteral("dsn=VetrolanDSN;pwd=Doodh#26"));
-        EXPECT_EQ(Printed[0].destination, CounterReport::Destination::Window);
+        EXPECT_EQ(Printed[0].destination, ReportDestination::Window);
         EXPECT_EQ(Printed[0].subject, QStringLiteral("गणेश 13-04-2026 ते 14-04-2026"));
         EXPECT_EQ(Rows(QStringLiteral("select CompanyId,FromDate,ToDate from ReportDates")),
             Of({"1|13/04/2026|14/04/2026"}));

@@ -58,11 +58,11 @@ TEST_P(ReceiptTest, OnScreenItGoesToTheWindowAndOnPaperToThePrinter)
         Deliver(clerk, 2, "2", "8");
     });
     ASSERT_EQ(Printed.size(), 2U);
-    EXPECT_EQ(Printed[0].destination, CounterReport::Destination::Window);
-    EXPECT_EQ(Printed[1].destination, CounterReport::Destination::Printer);
+    EXPECT_EQ(Printed[0].destination, ReportDestination::Window);
+    EXPECT_EQ(Printed[1].destination, ReportDestination::Printer);
     EXPECT_EQ(Printed[0].subject, QStringLiteral("राम गाय सकाळ 15-04-2026"));
     EXPECT_EQ(Printed[1].subject, QStringLiteral("सीता म्हैस सकाळ 15-04-2026"));
-    for (const CounterReport::Run& run : Printed) {
+    for (const TemplateReport::Run& run : Printed) {
         EXPECT_EQ(run.fileName, QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt"));
         EXPECT_EQ(run.logon, QStringLiteral("dsn=VetrolanDSN;pwd=Doodh#26"));
     }
@@ -141,20 +141,20 @@ TEST_P(ReceiptTest, AnUnknownTypeKeepsTheTemplateOfTheSlipBefore)
         Deliver(clerk, 2, "2", "8");
     });
     ASSERT_EQ(Printed.size(), 2U);
-    for (const CounterReport::Run& run : Printed)
+    for (const TemplateReport::Run& run : Printed)
         EXPECT_EQ(
             run.fileName, QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkReceiptShenoli Epson LX 300.rpt"));
 }
 
 TEST_P(ReceiptTest, AnUnknownStatusPrintsWhereTheSlipBeforeWent)
 {
-    const std::pair<const char*, CounterReport::Destination> slips[] = {
-        {"kahI", CounterReport::Destination::Window}, // the first of the day goes to the screen
-        {"haoya", CounterReport::Destination::Printer},
-        {"", CounterReport::Destination::Printer},
-        {"kahI", CounterReport::Destination::Printer},
-        {"f@t s\xCBIna", CounterReport::Destination::Window},
-        {"kahI", CounterReport::Destination::Window},
+    const std::pair<const char*, ReportDestination> slips[] = {
+        {"kahI", ReportDestination::Window}, // the first of the day goes to the screen
+        {"haoya", ReportDestination::Printer},
+        {"", ReportDestination::Printer},
+        {"kahI", ReportDestination::Printer},
+        {"f@t s\xCBIna", ReportDestination::Window},
+        {"kahI", ReportDestination::Window},
     };
     Set("RepeatCollection", "haoya");
     InTheShift([&](Clerk& clerk) {
@@ -202,7 +202,7 @@ TEST_P(ReceiptTest, TheFirstSettingsCountWhosesoeverTheyAre)
     InTheShift([](Clerk& clerk) { Deliver(clerk, 1, "2", "4.5"); });
     ASSERT_EQ(Printed.size(), 1U);
     EXPECT_EQ(Printed[0].fileName, QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt"));
-    EXPECT_EQ(Printed[0].destination, CounterReport::Destination::Printer);
+    EXPECT_EQ(Printed[0].destination, ReportDestination::Printer);
 }
 
 TEST_P(ReceiptTest, WithoutSettingsASlipIsToldToHaveNoLayout)
@@ -232,7 +232,7 @@ TEST_P(ReceiptTest, TheDeliveryIsOnDiskAndTheNumberHasSteppedOnBeforeTheSlipIsPr
     PrintTo("haoya");
     QStringList atPrinting;
     InTheShift([&](Clerk& clerk) {
-        CounterReport::Engine() = [&](const CounterReport::Run& run) {
+        TemplateReport::Engine() = [&](const TemplateReport::Run& run) {
             Connection other;
             other.Open(run.logon);
             for (const char* table : {"MilkCollections", "MilkCollectionsTemp", "MilkReceipt"})
@@ -252,7 +252,7 @@ TEST_P(ReceiptTest, ATemplateThatFailsLosesNothing)
 {
     PrintTo("haoya");
     InTheShift([](Clerk& clerk) {
-        CounterReport::Engine() = [](const CounterReport::Run&) {
+        TemplateReport::Engine() = [](const TemplateReport::Run&) {
             throw RunTimeError(RunTimeError::DatabaseFailure, QStringLiteral("no template"));
         };
         Deliver(clerk, 1, "2", "4.5");

@@ -20,7 +20,7 @@ protected:
 };
 
 // Who prints when no test stands in for him.
-const std::function<void(const CounterReport::Run&)> ThePrinting = CounterReport::Engine();
+const std::function<void(const TemplateReport::Run&)> ThePrinting = TemplateReport::Engine();
 
 }
 
@@ -45,7 +45,7 @@ TEST_F(ReprintTest, ItShowsOnTheScreenWhateverTheSettingsSay)
         Printed.clear();
         After(1, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}"); });
         ASSERT_EQ(Printed.size(), 1U) << status;
-        EXPECT_EQ(Printed[0].destination, CounterReport::Destination::Window);
+        EXPECT_EQ(Printed[0].destination, ReportDestination::Window);
         EXPECT_TRUE(Printed[0].subject.endsWith(QStringLiteral(" 15-04-2026"))) << status;
         EXPECT_EQ(Printed[0].logon, QStringLiteral("dsn=VetrolanDSN;pwd=Doodh#26"));
     }
@@ -124,7 +124,7 @@ TEST_F(ReprintTest, ATypeWithoutATemplateKeepsThatOfTheSlipBefore)
 TEST_F(ReprintTest, AMissingTemplateOfTheSiblingFolderEndsTheProgramWithTheSlipStaged)
 {
     ReportSurroundings::Current().localPath = [](const QString& path) { return LocalPath(path); };
-    CounterReport::Engine() = ThePrinting;
+    TemplateReport::Engine() = ThePrinting;
     Run(QString::fromUtf8("update AutoSettings set ReceiptType='Tašp 5'"));
     QFile here(FolderFile(QStringLiteral("MilkReceiptAtk.rpt")));
     ASSERT_TRUE(here.open(QIODevice::WriteOnly))

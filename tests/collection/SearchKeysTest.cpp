@@ -56,7 +56,7 @@ TEST_F(SearchKeysTest, AMemberOfTheOtherCompanyIsFoundByNumberAndByName)
 TEST_F(SearchKeysTest, ASlipOfNoCompanyIsGoneBeforeItIsPrintedAgain)
 {
     QStringList atPrinting;
-    CounterReport::Engine() = [&](const CounterReport::Run&) {
+    TemplateReport::Engine() = [&](const TemplateReport::Run&) {
         atPrinting.append(One(QStringLiteral("select count(*) from MilkReceipt")));
     };
     gAppState.gCompanyId = 0;

@@ -87,11 +87,11 @@ TEST_P(EveryScreenTest, ShiftTabLeadsFromEachFieldToTheOneBeforeIt)
 QString KeysNamedOn(const QString& screen)
 {
     QString named;
-    for (const Keys::Sheet& sheet : Keys::Sheets()) {
-        const bool isFrame = screen == u"frmMilkCollections" && sheet.screen == u"FrameMilkCollection";
-        if (sheet.screen != screen && !sheet.screen.startsWith(QString(screen + u'.')) && !isFrame)
+    for (const Keys::Place& place : Keys::Sheet()) {
+        const bool isFrame = screen == u"frmMilkCollections" && place.name == u"FrameMilkCollection";
+        if (place.name != screen && !place.name.startsWith(QString(screen + u'.')) && !isFrame)
             continue;
-        for (const KeyHint& hint : Keys::Of(sheet.screen))
+        for (const KeyHint& hint : place.keys)
             named += u' ' + hint.key + u' ';
     }
     return named;

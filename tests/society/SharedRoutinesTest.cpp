@@ -1,7 +1,6 @@
 #include "tests/support/SocietyTest.h"
 
 #include "core/menu/CommonKeys.h"
-#include "core/menu/Keys.h"
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
 #include "society/FieldRoutines.h"
@@ -86,17 +85,4 @@ TEST_F(SharedRoutines, WithoutAnyCalculatorAPlainMessageSaysSo)
     TheCalculator.There = false;
     On<frmProbe>([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
     EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("या संगणकावर कॅलक्युलेटर सापडला नाही.")));
-}
-
-TEST_F(SharedRoutines, EveryScreenOfTheKeySheetHasKeysAndEveryKeyAnAction)
-{
-    EXPECT_FALSE(Keys::Sheets().empty());
-    for (const Keys::Sheet& sheet : Keys::Sheets()) {
-        EXPECT_FALSE(sheet.name.Seen().isEmpty());
-        EXPECT_FALSE(Keys::Of(sheet.screen).empty()) << qPrintable(sheet.screen);
-        for (const KeyHint& hint : Keys::Of(sheet.screen))
-            EXPECT_FALSE(hint.key.isEmpty() || hint.action.Seen().trimmed().isEmpty())
-                << qPrintable(sheet.screen);
-    }
-    EXPECT_TRUE(Keys::Of(QStringLiteral("frmNowhere")).empty());
 }

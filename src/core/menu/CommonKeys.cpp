@@ -7,20 +7,28 @@
 
 #include <QKeyEvent>
 
-bool CommonKeys::Calculator(const QKeyEvent& key, bool maximised)
+void CommonKeys::Calculator(bool maximised)
 {
-    if (key.key() != Qt::Key_F2)
-        return false;
     if (!World::Current().calculator->Start(AppFolder.toString() + u"calc.EXE", maximised))
         ShowPlain(QStringLiteral("या संगणकावर कॅलक्युलेटर सापडला नाही."));
-    return true;
+}
+
+void CommonKeys::Tutor()
+{
+    frmKeyboardTutor tutor;
+    tutor.ShowModal();
+}
+
+bool CommonKeys::Calculator(const QKeyEvent& key)
+{
+    if (key.key() == Qt::Key_F2)
+        Calculator();
+    return key.key() == Qt::Key_F2;
 }
 
 bool CommonKeys::Tutor(const QKeyEvent& key)
 {
-    if (key.key() != Qt::Key_F12)
-        return false;
-    frmKeyboardTutor tutor;
-    tutor.ShowModal();
-    return true;
+    if (key.key() == Qt::Key_F12)
+        Tutor();
+    return key.key() == Qt::Key_F12;
 }

@@ -37,8 +37,6 @@ frmReportFile::frmReportFile(const QString& report, const QString& subject, cons
     : Screen("frmReportFile", Shape::Card)
     , m_ending(u'.' + ending)
 {
-    When(cmdSave.Click, &frmReportFile::cmdSave_Click);
-    When(cmdExit.Click, &frmReportFile::cmdExit_Click);
     txtFile.SetText(ProposedName(report, subject) + m_ending);
     txtFolder.SetText(DocumentsFolder());
     SetTitle(Plain(QStringLiteral("%1 फाइल जतन करा").arg(ending.toUpper())));

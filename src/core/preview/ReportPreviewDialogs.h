@@ -20,8 +20,8 @@ private:
     Label lblTitle{this, "lblTitle"};
     PlainField txtFile{this, "txtFile"};
     PlainField txtFolder{this, "txtFolder"};
-    Button cmdSave{this, "cmdSave", Plain(u"जतन करा")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"baahor")};
+    Button cmdSave{this, "cmdSave", Plain(u"जतन करा"), &frmReportFile::cmdSave_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"baahor"), &frmReportFile::cmdExit_Click};
 
     void BuildWindow();
     void cmdSave_Click();

@@ -14,8 +14,6 @@
 frmAppDate::frmAppDate() : Screen("frmAppDate", Shape::Card)
 {
     When(MaskAppDate.GotFocus, &frmAppDate::MaskAppDate_GotFocus);
-    When(MaskAppDate.LostFocus, &frmAppDate::MaskAppDate_LostFocus);
-    When(cmdExit.Click, &frmAppDate::cmdExit_Click);
 
     SetColours(QColor(Look::FocusColour), QColor(Look::DateColour));
     SetTitleLabel(lblTitle);

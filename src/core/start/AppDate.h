@@ -12,8 +12,8 @@ public:
 private:
     Label lblTitle{this, "lblTitle"};
     Label lblDate{this, "lblDate", Shivaji(u"idnaaMk")};
-    DateField MaskAppDate{this, "MaskAppDate"};
-    Button cmdExit{this, "cmdExit", Shivaji(u"puZo")};
+    DateField MaskAppDate{this, "MaskAppDate", &frmAppDate::MaskAppDate_LostFocus};
+    Button cmdExit{this, "cmdExit", Shivaji(u"puZo"), &frmAppDate::cmdExit_Click};
 
     int DateBad = 0; // 1 while the date in the field is invalid
 

@@ -41,8 +41,6 @@ QLabel* CautionSign()
 
 frmAbout::frmAbout() : Screen("frmAbout", Shape::Card)
 {
-    When(cmdOK.Click, &frmAbout::cmdOK_Click);
-    When(cmdExit.Click, &frmAbout::cmdExit_Click);
 
     SetTitleLabel(lblTitle);
     SetTitle(Shivaji(u" dUQa saMklana saa^FTvaoAr"));
@@ -81,8 +79,6 @@ void frmAbout::cmdExit_Click()
 
 frmTip::frmTip() : Screen("frmTip", Shape::Card)
 {
-    When(cmdOk.Click, &frmTip::cmdOk_Click);
-    When(Command1.Click, &frmTip::Command1_Click);
     cmdOk.SetColours(QColor(AcceptColour), QColor(Look::PlainColour));
     Command1.SetColours(QColor(RejectColour), QColor(Look::PlainColour));
 

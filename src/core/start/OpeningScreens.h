@@ -15,8 +15,8 @@ private:
     Label lblTitle{this, "lblTitle"};
     Label lblSystem{this, "lblSystem", Shivaji(u" dUQa saMklana va vyavasqaapna p`NaalaI")};
     Label lblVersion{this, "lblVersion", Plain(u"Version 1.0")};
-    Button cmdOK{this, "cmdOK", Plain(u"OK")};
-    Button cmdExit{this, "cmdExit", Plain(u"E&xit")};
+    Button cmdOK{this, "cmdOK", Plain(u"OK"), &frmAbout::cmdOK_Click};
+    Button cmdExit{this, "cmdExit", Plain(u"E&xit"), &frmAbout::cmdExit_Click};
 
     void cmdOK_Click();
     void cmdExit_Click();
@@ -33,8 +33,8 @@ public:
 private:
     Label lblTitle{this, "lblTitle"};
     Label lblTip{this, "lblTip"};
-    Button cmdOk{this, "cmdOk", Plain(u"&Accept")};
-    Button Command1{this, "Command1", Plain(u"&Reject")};
+    Button cmdOk{this, "cmdOk", Plain(u"&Accept"), &frmTip::cmdOk_Click};
+    Button Command1{this, "Command1", Plain(u"&Reject"), &frmTip::Command1_Click};
 
     void cmdOk_Click();
     void Command1_Click();

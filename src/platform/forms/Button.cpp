@@ -3,8 +3,9 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
-Button::Button(Screen* screen, const char* name, const Caption& caption)
+Button::Button(Screen* screen, const char* name, const Caption& caption, const Handler& click)
     : Control(screen, name, new QPushButton)
+    , Click(click.On(*screen))
 {
     SetCaption(caption);
     // Keys never reach the widget, so a click is always the mouse.

@@ -5,7 +5,7 @@
 // A button. Its caption is the state of the screen: a handler reads it to know what the press means.
 class Button final : public Control {
 public:
-    Button(Screen* screen, const char* name, const Caption& caption);
+    Button(Screen* screen, const char* name, const Caption& caption, const Handler& click = {});
 
     Event Click;
 

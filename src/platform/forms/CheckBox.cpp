@@ -12,8 +12,9 @@ QCheckBox& Box(const Control& control)
 
 }
 
-CheckBox::CheckBox(Screen* screen, const char* name, const Caption& caption)
+CheckBox::CheckBox(Screen* screen, const char* name, const Caption& caption, const Handler& click)
     : Control(screen, name, new QCheckBox)
+    , Click(click.On(*screen))
     , m_caption(caption)
 {
     Box(*this).setText(caption.Seen().trimmed().replace(u'&', QStringLiteral("&&")));

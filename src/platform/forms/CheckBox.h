@@ -5,7 +5,7 @@
 // A box to tick, beside its caption. Space or the mouse turns it; Enter goes on to the next control.
 class CheckBox final : public Control {
 public:
-    CheckBox(Screen* screen, const char* name, const Caption& caption);
+    CheckBox(Screen* screen, const char* name, const Caption& caption, const Handler& click = {});
 
     // The clerk has turned it.
     Event Click;

@@ -30,8 +30,8 @@ void PutArrow(QLineEdit& line)
 
 }
 
-ChoiceCombo::ChoiceCombo(Screen* screen, const char* name, const QStringList& words)
-    : Field(screen, name)
+ChoiceCombo::ChoiceCombo(Screen* screen, const char* name, const QStringList& words, const Handler& lostFocus)
+    : Field(screen, name, lostFocus)
     , m_list(*screen, [this](int row) {
         RunEvent([this, row] {
             SetText(m_words[row]);

@@ -11,7 +11,8 @@
 class ChoiceCombo final : public Field {
 public:
     // `words` as the system spells them, in the order of their digits.
-    ChoiceCombo(Screen* screen, const char* name, const QStringList& words = {});
+    ChoiceCombo(
+        Screen* screen, const char* name, const QStringList& words = {}, const Handler& lostFocus = {});
 
     const QStringList& Words() const { return m_words; }
     void SetWords(const QStringList& words);

@@ -6,6 +6,11 @@
 #include <QAbstractScrollArea>
 #include <QLabel>
 
+Event Handler::On(Screen& screen) const
+{
+    return m_run ? [run = m_run, &screen] { run(screen); } : Event();
+}
+
 Control::Control(Screen* screen, const char* name, QWidget* widget) : m_screen(screen), m_widget(widget)
 {
     widget->setParent(screen);

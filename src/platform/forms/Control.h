@@ -16,6 +16,30 @@ class Screen;
 // What a screen answers to; empty is "nothing to do".
 using Event = std::function<void()>;
 
+// A member function of a screen that answers the usual event of a control: leaving a field, pressing a
+// button, turning a box. It is named where the control is declared: Button cmdNew{this, "cmdNew",
+// Shivaji(u"&navaIna"), &frmMembers::cmdNew_Click};
+class Handler {
+public:
+    Handler() = default;
+    template <class S>
+    Handler(void (S::*function)())
+        : m_run([function](Screen& screen) { (static_cast<S&>(screen).*function)(); })
+    {
+    }
+
+    explicit operator bool() const { return static_cast<bool>(m_run); }
+
+    // Runs the function that was named.
+    void Run(Screen& screen) const { m_run(screen); }
+
+    // The event for a control of this screen; empty if no function was named.
+    Event On(Screen& screen) const;
+
+private:
+    std::function<void(Screen&)> m_run;
+};
+
 // Something on a screen that can hold the focus. Controls are members of their screen; the order in which
 // they are declared is the tab order.
 class Control {

@@ -18,7 +18,8 @@ bool IsSlash(int at)
 
 }
 
-DateField::DateField(Screen* screen, const char* name) : Field(screen, name)
+DateField::DateField(Screen* screen, const char* name, const Handler& lostFocus)
+    : Field(screen, name, lostFocus)
 {
     Line().setInputMethodHints(Qt::ImhDate);
     SetText({});

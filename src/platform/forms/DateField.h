@@ -9,7 +9,7 @@
 // typed as it is spoken.
 class DateField final : public Field {
 public:
-    DateField(Screen* screen, const char* name);
+    DateField(Screen* screen, const char* name, const Handler& lostFocus = {});
 
     // The mask with what has been typed into it.
     QString Text() const override;

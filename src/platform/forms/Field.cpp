@@ -1,5 +1,6 @@
 #include "platform/forms/Field.h"
 
+#include "platform/text/Numbers.h"
 #include "platform/text/Shivaji01.h"
 
 #include <QClipboard>
@@ -9,8 +10,10 @@
 
 #include <utility>
 
-Field::Field(Screen* screen, const char* name) : Control(screen, name, new QLineEdit)
+Field::Field(Screen* screen, const char* name, const Handler& lostFocus)
+    : Control(screen, name, new QLineEdit)
 {
+    LostFocus = lostFocus.On(*screen);
     Line().setTextMargins(4, 0, 4, 0);
     Line().setContextMenuPolicy(Qt::NoContextMenu);
     Line().setDragEnabled(false);
@@ -115,8 +118,8 @@ QString FigureOf(const QString& text, bool keypad)
 
 }
 
-NumberField::NumberField(Screen* screen, const char* name, Digits digits)
-    : Field(screen, name)
+NumberField::NumberField(Screen* screen, const char* name, Digits digits, const Handler& lostFocus)
+    : Field(screen, name, lostFocus)
     , m_digits(digits)
 {
     SetAlignRight();
@@ -125,6 +128,34 @@ NumberField::NumberField(Screen* screen, const char* name, Digits digits)
         if (TextChanged)
             RunEvent(TextChanged);
     });
+}
+
+NumberField::NumberField(Screen* screen, const char* name, QStringView pattern, const Handler& lostFocus)
+    : NumberField(screen, name, Digits::Decimals, lostFocus)
+{
+    SetPattern(pattern);
+}
+
+double NumberField::Value() const
+{
+    return Val(Text());
+}
+
+bool NumberField::HoldsNumber() const
+{
+    return IsNumeric(Text());
+}
+
+void NumberField::Show(double value)
+{
+    SetText(m_pattern.isEmpty() ? ShortestDecimal(value) : Format(value, m_pattern));
+}
+
+double NumberField::Reformat()
+{
+    const double value = Value();
+    Show(value);
+    return value;
 }
 
 QString NumberField::Text() const
@@ -163,8 +194,9 @@ void NumberField::Insert(const QString& text)
         Line().insert(figures);
 }
 
-ChoiceField::ChoiceField(Screen* screen, const char* name, std::vector<Choice> choices)
-    : Field(screen, name)
+ChoiceField::ChoiceField(
+    Screen* screen, const char* name, std::vector<Choice> choices, const Handler& lostFocus)
+    : Field(screen, name, lostFocus)
     , m_choices(std::move(choices))
 {
     Line().setReadOnly(true);

@@ -7,7 +7,7 @@ class QLineEdit;
 // A one-line entry field. On taking the focus it selects its whole text, whether by key or by mouse.
 class Field : public Control {
 public:
-    Field(Screen* screen, const char* name);
+    Field(Screen* screen, const char* name, const Handler& lostFocus = {});
 
     // The text has changed, by a key of the clerk or by the screen.
     Event TextChanged;
@@ -48,14 +48,33 @@ private:
 };
 
 // A number as the clerk types it: digits, and where it has decimals a point. All other keys are dropped.
-class NumberField final : public Field {
+class NumberField : public Field {
 public:
     enum class Digits { Whole, Decimals };
 
-    NumberField(Screen* screen, const char* name, Digits digits);
+    // With a pattern of Format, such as u"#####0.000", in which the field shows its number. The # before the
+    // point set no limit.
+    NumberField(Screen* screen, const char* name, QStringView pattern, const Handler& lostFocus = {});
+
+    // Without one: it shows a number in its shortest form.
+    NumberField(Screen* screen, const char* name, Digits digits, const Handler& lostFocus = {});
 
     QString Text() const override;
     void SetText(const QString& text) override;
+
+    void SetPattern(QStringView pattern) { m_pattern = pattern.toString(); }
+
+    // The number that the text begins with; 0 if it begins with none.
+    double Value() const;
+
+    // Whether the text is a number and nothing else.
+    bool HoldsNumber() const;
+
+    // Shows a number in the pattern.
+    void Show(double value);
+
+    // Writes what was typed in the pattern. Returns the number as it was typed.
+    double Reformat();
 
 protected:
     bool KeyPress(const QKeyEvent& key) override;
@@ -63,18 +82,28 @@ protected:
 
 private:
     Digits m_digits;
+    QString m_pattern;
+};
+
+// A number without decimals, such as that of a member.
+class WholeField final : public NumberField {
+public:
+    WholeField(Screen* screen, const char* name, const Handler& lostFocus = {})
+        : NumberField(screen, name, Digits::Whole, lostFocus)
+    {
+    }
 };
 
 // A field with a few fixed words. A digit puts its word in place; Backspace empties the field unless it is
 // locked; all other keys are dropped.
-class ChoiceField final : public Field {
+class ChoiceField : public Field {
 public:
     struct Choice {
         QChar digit;
         QString word; // as the system spells it
     };
 
-    ChoiceField(Screen* screen, const char* name, std::vector<Choice> choices);
+    ChoiceField(Screen* screen, const char* name, std::vector<Choice> choices, const Handler& lostFocus = {});
 
     // A locked field is never emptied by a key.
     void SetLocked(bool locked) { m_locked = locked; }

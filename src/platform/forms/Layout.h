@@ -10,6 +10,7 @@
 struct KeyHint {
     QString key; // "F2", "Esc"
     Caption action;
+    Handler pressed = {}; // what the screen does at it; none where a control or the focus answers
     bool lit = true; // whether it does something; a key that doesn't stands there in a dull colour
 };
 

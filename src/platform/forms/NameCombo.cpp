@@ -45,8 +45,8 @@ QString BegunReading(const QString& stored)
 
 }
 
-NameCombo::NameCombo(Screen* screen, const char* name)
-    : TextField(screen, name)
+NameCombo::NameCombo(Screen* screen, const char* name, const Handler& lostFocus)
+    : TextField(screen, name, lostFocus)
     , m_list(*screen, [this](int row) {
         RunEvent([this, row] {
             Pick(row);

@@ -22,7 +22,7 @@ public:
         bool operator==(const Entry& other) const = default;
     };
 
-    NameCombo(Screen* screen, const char* name);
+    NameCombo(Screen* screen, const char* name, const Handler& lostFocus = {});
 
     // Words with an order of their own, as they are stored: the list shows them as they are given.
     void SetItems(const QStringList& words);

@@ -14,8 +14,9 @@ QRadioButton& Radio(const Control& control)
 
 }
 
-OptionButton::OptionButton(Screen* screen, const char* name, const Caption& caption)
+OptionButton::OptionButton(Screen* screen, const char* name, const Caption& caption, const Handler& click)
     : Control(screen, name, new QRadioButton)
+    , Click(click.On(*screen))
     , m_caption(caption)
 {
     QString seen = caption.Seen().trimmed();

@@ -11,7 +11,7 @@ class OptionGroup;
 // it, the arrows choose its neighbour; Enter goes on to the next control. Tab stops at the chosen one only.
 class OptionButton final : public Control {
 public:
-    OptionButton(Screen* screen, const char* name, const Caption& caption);
+    OptionButton(Screen* screen, const char* name, const Caption& caption, const Handler& click = {});
 
     // The clerk has chosen it.
     Event Click;

@@ -50,8 +50,10 @@ protected:
 
 }
 
-TabPages::TabPages(Screen* screen, const char* name, const std::vector<Caption>& captions)
+TabPages::TabPages(
+    Screen* screen, const char* name, const std::vector<Caption>& captions, const Handler& click)
     : Control(screen, name, new TabStrip)
+    , Click(click.On(*screen))
     , m_pages(new QStackedWidget(screen))
     , m_controls(captions.size())
 {

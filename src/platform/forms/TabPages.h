@@ -14,7 +14,8 @@ class QTabBar;
 class TabPages final : public Control {
 public:
     // The captions of the tabs, a page each.
-    TabPages(Screen* screen, const char* name, const std::vector<Caption>& captions);
+    TabPages(
+        Screen* screen, const char* name, const std::vector<Caption>& captions, const Handler& click = {});
 
     // Another page is seen, turned by the clerk or by the screen.
     Event Click;

@@ -40,7 +40,10 @@ bool HasPlace(QChar c)
 
 }
 
-TextField::TextField(Screen* screen, const char* name) : Field(screen, name) { }
+TextField::TextField(Screen* screen, const char* name, const Handler& lostFocus)
+    : Field(screen, name, lostFocus)
+{
+}
 
 void TextField::SetText(const QString& stored)
 {

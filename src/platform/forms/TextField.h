@@ -9,7 +9,7 @@
 // is punctuation, and a sign that the encoding has no place for isn't taken, until a Latin letter is typed.
 class TextField : public Field {
 public:
-    TextField(Screen* screen, const char* name);
+    TextField(Screen* screen, const char* name, const Handler& lostFocus = {});
 
     // Which typed characters are taken; empty takes all.
     std::function<bool(QChar)> Accepts;

@@ -3,6 +3,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include <tuple>
+
 namespace {
 
 class NumberFieldTest : public FieldTest<NumberField> {
@@ -23,6 +25,36 @@ TEST_F(NumberFieldTest, TakesDigitsAndThePointAndDropsTheRest)
         EXPECT_EQ(Typed(field, "12.5"), "12.5");
         EXPECT_EQ(Typed(field, "a1b2'-{+},/ e3"), "123");
         EXPECT_EQ(Typed(field, ".5"), ".5");
+    });
+}
+
+TEST_F(NumberFieldTest, ItReadsTheNumberThatItsTextBeginsWith)
+{
+    With(Decimals, [&](NumberField& field) {
+        for (const auto& [text, value, isNumber] : {std::tuple("12.50", 12.5, true), {"", 0.0, false},
+                 {".", 0.0, false}, {"1.2.3", 1.2, false}, {"007", 7.0, true}}) {
+            Do([&field, text = text] { field.SetText(Q(text)); });
+            EXPECT_EQ(field.Value(), value) << text;
+            EXPECT_EQ(field.HoldsNumber(), isNumber) << text;
+        }
+    });
+}
+
+TEST_F(NumberFieldTest, ItShowsANumberInItsPatternAndWithoutOneInItsShortestForm)
+{
+    With([](Screen* screen) { return std::make_unique<NumberField>(screen, "txtRate", u"#0.00"); },
+        [&](NumberField& field) {
+            Do([&field] { field.Show(1234567.005); });
+            EXPECT_EQ(Text(field), "1234567.01") << "the # before the point set no limit";
+            EXPECT_EQ(Typed(field, "3.456"), "3.456");
+            double typed = 0;
+            Do([&] { typed = field.Reformat(); });
+            EXPECT_EQ(typed, 3.456) << "as it was typed";
+            EXPECT_EQ(Text(field), "3.46");
+        });
+    With(Whole, [&](NumberField& field) {
+        Do([&field] { field.Show(12); });
+        EXPECT_EQ(Text(field), "12");
     });
 }
 

@@ -10,8 +10,8 @@
 
 class DataGrid;
 
-// What the windows of the counters are put together from.
-namespace CounterPieces {
+// What screens of large fields and figures, such as the counters, are put together from.
+namespace Pieces {
 
 // The heights of the fields: of those in a line, and of the figures of the milk.
 inline constexpr int LineField = 38;
@@ -27,7 +27,7 @@ void SetInk(QWidget& widget);
 QLabel* Sign(QStringView sign);
 
 // A sheet with a thin edge, on white.
-QFrame* Panel();
+QFrame* Sheet();
 
 // A field under its caption; `width` in pixels, 0 for what is left.
 QLayout* Under(const Caption& caption, Field& field, int width, Look::Size size, int height);
@@ -38,7 +38,7 @@ QWidget* Sized(Control& control, int width, int height, Look::Size size, bool bo
 // A figure that is worked out: right-aligned.
 QLabel* Figure(const Label& label, Look::Size size, bool bold = true);
 
-// Fits a list of deliveries to the room below the entry line: the height of a row, the size of its letters,
+// Fits a list to the room below the entry line: the height of a row, the size of its letters,
 // and the height of its head, which has room for captions of two lines.
 QWidget* List(
     const DataGrid& grid, int rowHeight = 28, Look::Size size = Look::Size::Normal, int headHeight = 44);

@@ -1,4 +1,4 @@
-#include "collection/CounterPieces.h"
+#include "platform/forms/Pieces.h"
 
 #include "platform/forms/DataGrid.h"
 
@@ -7,14 +7,14 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-void CounterPieces::SetInk(QWidget& widget)
+void Pieces::SetInk(QWidget& widget)
 {
     QPalette palette = widget.palette();
     palette.setColor(QPalette::WindowText, QColor(Look::Ink));
     widget.setPalette(palette);
 }
 
-QLabel* CounterPieces::Heading(const Caption& caption, Look::Size size, bool bold)
+QLabel* Pieces::Heading(const Caption& caption, Look::Size size, bool bold)
 {
     auto* heading = new QLabel(caption.Seen().trimmed());
     heading->setFont(Look::Font(size, bold));
@@ -22,7 +22,7 @@ QLabel* CounterPieces::Heading(const Caption& caption, Look::Size size, bool bol
     return heading;
 }
 
-QLabel* CounterPieces::Sign(QStringView sign)
+QLabel* Pieces::Sign(QStringView sign)
 {
     QLabel* label = Heading(Plain(sign), Look::Size::Title);
     label->setAlignment(Qt::AlignCenter);
@@ -30,7 +30,7 @@ QLabel* CounterPieces::Sign(QStringView sign)
     return label;
 }
 
-QFrame* CounterPieces::Panel()
+QFrame* Pieces::Sheet()
 {
     auto* panel = new QFrame;
     panel->setFrameShape(QFrame::Box);
@@ -42,7 +42,7 @@ QFrame* CounterPieces::Panel()
     return panel;
 }
 
-QLayout* CounterPieces::Under(const Caption& caption, Field& field, int width, Look::Size size, int height)
+QLayout* Pieces::Under(const Caption& caption, Field& field, int width, Look::Size size, int height)
 {
     field.SetAccessibleName(caption);
     static_cast<QLineEdit*>(field.Widget())->setTextMargins(6, 0, 6, 0);
@@ -53,7 +53,7 @@ QLayout* CounterPieces::Under(const Caption& caption, Field& field, int width, L
     return column;
 }
 
-QWidget* CounterPieces::Sized(Control& control, int width, int height, Look::Size size, bool bold)
+QWidget* Pieces::Sized(Control& control, int width, int height, Look::Size size, bool bold)
 {
     control.Widget()->setFont(Look::Font(size, bold));
     control.Widget()->setFixedHeight(height);
@@ -62,7 +62,7 @@ QWidget* CounterPieces::Sized(Control& control, int width, int height, Look::Siz
     return control.Widget();
 }
 
-QLabel* CounterPieces::Figure(const Label& label, Look::Size size, bool bold)
+QLabel* Pieces::Figure(const Label& label, Look::Size size, bool bold)
 {
     QLabel* figure = label.Widget();
     figure->setFont(Look::Font(size, bold));
@@ -71,7 +71,7 @@ QLabel* CounterPieces::Figure(const Label& label, Look::Size size, bool bold)
     return figure;
 }
 
-QWidget* CounterPieces::List(const DataGrid& grid, int rowHeight, Look::Size size, int headHeight)
+QWidget* Pieces::List(const DataGrid& grid, int rowHeight, Look::Size size, int headHeight)
 {
     auto* view = static_cast<QTableView*>(grid.Widget());
     view->setFont(Look::Font(size));

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QStringView>
+
+// The words of the trade as the books hold them, in the system's encoding, and what each reads.
+namespace Word {
+
+inline constexpr QStringView Morning = u"sakaL"; // सकाळ
+inline constexpr QStringView Evening = u"saMQyaakaL"; // संध्याकाळ
+inline constexpr QStringView Cow = u"gaaya"; // गाय
+inline constexpr QStringView Buffalo = u"mhOsa"; // म्हैस
+inline constexpr QStringView Both = u"daonhI"; // दोन्ही
+inline constexpr QStringView Cash = u"raoK"; // रोख
+inline constexpr QStringView Bank = u"ba^nk"; // बॅन्क
+inline constexpr QStringView Yes = u"haoya"; // होय
+inline constexpr QStringView No = u"naahI"; // नाही
+
+}
+
+// Whether a text is one of the two shifts of a day.
+inline bool IsShift(QStringView time)
+{
+    return time == Word::Morning || time == Word::Evening;
+}
+
+// Whether a text is one of the two kinds of milk.
+inline bool IsAnimal(QStringView animal)
+{
+    return animal == Word::Cow || animal == Word::Buffalo;
+}

@@ -1,0 +1,62 @@
+#include "tests/platform/forms/FormsTest.h"
+
+#include "platform/forms/CheckBox.h"
+#include "platform/forms/ChoiceCombo.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/NameCombo.h"
+#include "platform/forms/OptionButton.h"
+
+#include <QVBoxLayout>
+
+namespace {
+
+// A screen that names the function of each control where it declares it.
+class Declared final : public Screen {
+public:
+    Declared() : Screen("Declared")
+    {
+        auto* column = new QVBoxLayout(this);
+        for (Control* control : Controls())
+            column->addWidget(control->Widget());
+    }
+
+    QStringList Answered;
+
+private:
+    DateField MaskDate{this, "MaskDate", &Declared::MaskDate_LostFocus};
+    NumberField txtNo{this, "txtNo", NumberField::Digits::Whole, &Declared::txtNo_LostFocus};
+    NameCombo ComboName{this, "ComboName", &Declared::ComboName_LostFocus};
+    TextField txtAddress{this, "txtAddress", &Declared::txtAddress_LostFocus};
+    ChoiceField txtTime{this, "txtTime", {{u'1', QStringLiteral("sakaL")}}, &Declared::txtTime_LostFocus};
+    ChoiceCombo ComboPrint{this, "ComboPrint", {QStringLiteral("haoya")}, &Declared::ComboPrint_LostFocus};
+    NumberField txtBare{this, "txtBare", NumberField::Digits::Whole};
+    CheckBox CheckRepeat{this, "CheckRepeat", Plain(u"Repeat"), &Declared::CheckRepeat_Click};
+    OptionButton OptionBoth{this, "OptionBoth", Plain(u"Both"), &Declared::OptionBoth_Click};
+    OptionGroup shift{&OptionBoth};
+    Button cmdGo{this, "cmdGo", Plain(u"&Go"), &Declared::cmdGo_Click};
+
+    void MaskDate_LostFocus() { Answered.append(QStringLiteral("date")); }
+    void txtNo_LostFocus() { Answered.append(QStringLiteral("number")); }
+    void ComboName_LostFocus() { Answered.append(QStringLiteral("name")); }
+    void txtAddress_LostFocus() { Answered.append(QStringLiteral("text")); }
+    void txtTime_LostFocus() { Answered.append(QStringLiteral("choice")); }
+    void ComboPrint_LostFocus() { Answered.append(QStringLiteral("list")); }
+    void CheckRepeat_Click() { Answered.append(QStringLiteral("box")); }
+    void OptionBoth_Click() { Answered.append(QStringLiteral("option")); }
+    void cmdGo_Click() { Answered.append(QStringLiteral("button")); }
+};
+
+class HandlersTest : public FormsTest { };
+
+}
+
+TEST_F(HandlersTest, TheFunctionNamedAtTheDeclarationAnswersTheUsualEventOfItsControl)
+{
+    Open<Declared>([](Declared&) {},
+        [&](Declared& screen) {
+            Type("{TAB}{TAB}{TAB}{TAB}{TAB}{TAB}{TAB} {TAB} {TAB} ");
+            EXPECT_EQ(screen.Answered.join(u' ').toStdString(),
+                "date number name text choice list box option button");
+        });
+    EXPECT_FALSE(Failure);
+}

@@ -1,0 +1,141 @@
+#include "tests/support/SocietyTest.h"
+
+#include "platform/forms/Button.h"
+#include "platform/forms/Field.h"
+#include "society/SocietyScreen.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+// A small screen with keys of its own.
+class frmProbe final : public SocietyScreen {
+public:
+    static Keys::Places KeyPlaces()
+    {
+        using namespace KeyHints;
+        return {
+            {QStringLiteral("frmProbe"), Plain(u"a probe"),
+                {Next, Leave, CalculatorKey(), TutorKey(),
+                    {QStringLiteral("F3"), Plain(u"the screen's own"), &frmProbe::TellScreen}}},
+            {QStringLiteral("frmProbe.txtMemberNo"), Plain(u"its number"),
+                {{QStringLiteral("F3"), Plain(u"the field's own"), &frmProbe::TellField},
+                    {QStringLiteral("↑"), Plain(u"up"), &frmProbe::TellField}}},
+        };
+    }
+
+    frmProbe() : SocietyScreen(KeyPlaces(), Shivaji(u"maombar yaadI"), {.guide = "lblFooter"})
+    {
+        txtMemberNo.SetGuide(KeyGuide(txtMemberNo));
+        auto* body = new QVBoxLayout;
+        body->addWidget(lblGuide.Widget());
+        for (Control* control : Controls())
+            body->addWidget(control->Widget());
+        Stack(body);
+    }
+
+    QStringList Told;
+
+private:
+    WholeField txtMemberNo{this, "txtMemberNo"};
+    WholeField txtOther{this, "txtOther"};
+    Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmProbe::cmdExit_Click};
+
+    void TellScreen() { Told.append(QStringLiteral("screen")); }
+    void TellField() { Told.append(QStringLiteral("field")); }
+};
+
+// One whose strip has neither calculator nor tutor.
+class frmBare final : public SocietyScreen {
+public:
+    frmBare()
+        : SocietyScreen({{QStringLiteral("frmBare"), Plain(u"bare"), {KeyHints::Leave}}}, Plain(u"Bare"))
+    {
+        auto* body = new QVBoxLayout;
+        body->addWidget(txtMemberNo.Widget());
+        body->addWidget(lblGuide.Widget());
+        Stack(body);
+    }
+
+private:
+    WholeField txtMemberNo{this, "txtMemberNo"};
+};
+
+class SocietyScreenTest : public SocietyTest {
+protected:
+    static std::string LabelOf(const Clerk& clerk, const char* name)
+    {
+        return clerk.Top().findChild<QLabel*>(QLatin1String(name))->text().toStdString();
+    }
+};
+
+}
+
+TEST_F(SocietyScreenTest, ItsBandHasTheTitleTheSocietyAndTheYearAndItsLineTheGuideOfTheField)
+{
+    On<frmProbe>([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), "मेम्बर यादी");
+        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), "श्री गणेश दूध संस्था");
+        EXPECT_EQ(LabelOf(clerk, "lblAcYear"), "2026-2027");
+        EXPECT_EQ(LabelOf(clerk, "lblFooter"), "F3 : the field's own    ↑ : up");
+    });
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(SocietyScreenTest, WithoutACompanyTheBandHasTheTitleAlone)
+{
+    Run(QStringLiteral("delete * from CompanySelected"));
+    On<frmProbe>([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), "");
+        EXPECT_EQ(LabelOf(clerk, "lblAcYear"), "");
+    });
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(SocietyScreenTest, EscEmptiesTheFieldsAndCloses)
+{
+    QString left = QStringLiteral("never closed");
+    Failure = TheClerk.Play(
+        [&] {
+            frmProbe screen;
+            screen.ShowModal();
+            left = screen.Find(u"txtMemberNo")->Text();
+        },
+        [](Clerk& clerk) { clerk.Type(QStringLiteral("12{ESC}")); });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(left.toStdString(), "");
+}
+
+TEST_F(SocietyScreenTest, ItsExitCloses)
+{
+    On<frmProbe>([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("12%b"));
+        EXPECT_EQ(clerk.ScreenName().toStdString(), "");
+    });
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(SocietyScreenTest, F2AndF12AnswerWhereTheScreenHasThemAndNowhereElse)
+{
+    On<frmBare>([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{F2}{F12}"));
+        EXPECT_EQ(clerk.ScreenName().toStdString(), "frmBare");
+    });
+    EXPECT_TRUE(TheCalculator.Started.isEmpty());
+    On<frmProbe>([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{F2}{F12}"));
+        EXPECT_EQ(clerk.ScreenName().toStdString(), "frmKeyboardTutor");
+    });
+    EXPECT_EQ(TheCalculator.Started.size(), 1);
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(SocietyScreenTest, AKeyOfTheFieldInFocusComesBeforeThatOfTheScreen)
+{
+    On<frmProbe>([](Clerk& clerk) {
+        clerk.Type(QStringLiteral("{F3}{UP}{TAB}{F3}{UP}"));
+        EXPECT_EQ(clerk.On<frmProbe>().Told.join(u' ').toStdString(), "field field screen");
+    });
+    EXPECT_FALSE(Failure);
+}
