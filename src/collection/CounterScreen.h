@@ -24,11 +24,6 @@ public:
     double CowLitersTaken = 0;
     double BuffLitersTaken = 0;
 
-    // What a screen opened from here goes on from.
-    Shift TheShift() const;
-    QString MemberNo() const { return txtMemberNo.Text(); }
-    QString MemberName() const { return ComboMemberName.Text(); }
-
 protected:
     // The query that the list of the shift is bound to.
     static constexpr QStringView ShiftQuery = u"select * from MilkCollectionsTemp order by CollectionNo desc";
@@ -88,6 +83,7 @@ protected:
     virtual void MembersShown() { } // frmMembers has closed
     virtual void txtMemberNo_Change();
 
+    Shift TheShift() const;
     void ClearEntryFields();
     void ShowInwardsGrid();
     void ShowMemberKeys(bool shown);

@@ -2,7 +2,7 @@
 
 #include "collection/CounterScreen.h"
 #include "collection/ClosingFigures.h"
-#include "core/menu/ScreenDirectory.h"
+#include "collection/frmSearchCollections.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
@@ -126,6 +126,8 @@ void CounterScreen::SearchMember()
     }
     DataGridInwards.ReadAll(); // the search puts other rows into the copy
     gAppState.gCallerTag = QStringLiteral("MC");
-    ScreenDirectory::Open(QStringLiteral("frmSearchCollections"), lblSearch.Shown());
+    frmSearchCollections search(
+        frmSearchCollections::Handover{TheShift(), txtMemberNo.Text(), ComboMemberName.Text()});
+    search.ShowModal();
     LightMemberKeys();
 }

@@ -1,6 +1,5 @@
 #include "collection/frmSearchCollections.h"
 
-#include "collection/CounterScreen.h"
 #include "collection/MilkReceipt.h"
 #include "core/menu/Keys.h"
 #include "core/messages/Messages.h"
@@ -32,13 +31,6 @@ std::vector<DataGrid::Column> FoundColumns()
     };
 }
 
-// The counter that has opened the screen on top; null if it was opened from elsewhere.
-const CounterScreen* OpeningCounter()
-{
-    const std::vector<Screen*>& open = ModalStack::Current().Open();
-    return open.size() < 2 ? nullptr : dynamic_cast<const CounterScreen*>(open[open.size() - 2]);
-}
-
 // The template of a slip that is printed again. Two layouts have one of their own here, and the last two
 // none.
 QString ReprintTemplate(QStringView receiptType)
@@ -62,9 +54,10 @@ Keys::Places frmSearchCollections::KeyPlaces()
     };
 }
 
-frmSearchCollections::frmSearchCollections()
+frmSearchCollections::frmSearchCollections(std::optional<Handover> handover)
     : SocietyScreen(KeyPlaces(), Shivaji(u"dUQa saMklana pavatI"), {.guide = "lblFooter"})
     , DataGridInwards(this, "DataGridInwards", FoundColumns())
+    , m_handover(std::move(handover))
 {
     When(maskDate.GotFocus, &frmSearchCollections::maskDate_GotFocus);
     When(txtTime.GotFocus, &frmSearchCollections::txtTime_GotFocus);
@@ -94,14 +87,13 @@ void frmSearchCollections::Load()
 void frmSearchCollections::TimerStart_Timer()
 {
     TimerStart = false;
-    const CounterScreen* counter = gAppState.gCallerTag == u"MC" ? OpeningCounter() : nullptr;
-    if (!counter)
+    if (!m_handover)
         return;
-    const Shift shift = counter->TheShift();
+    const auto& [shift, memberNo, memberName] = *m_handover;
     maskDate.SetDate(shift.date);
     txtTime.SetText(shift.time);
-    txtMemberNo.SetText(counter->MemberNo());
-    ComboMemberName.SetEntry({counter->MemberName(), ShortestDecimal(txtMemberNo.Value())});
+    txtMemberNo.SetText(memberNo);
+    ComboMemberName.SetEntry({memberName, ShortestDecimal(txtMemberNo.Value())});
     EnableMember(true);
     ComboMemberName.SetFocus();
 }

@@ -9,11 +9,21 @@
 #include "society/Fields.h"
 #include "society/SocietyScreen.h"
 
+#include <optional>
+
 // Finds a member's deliveries in a shift and prints the slip of one of them again. A search puts the copy of
 // the shift aside: what was found lies there instead, and stays for the counter that has opened this screen.
 class frmSearchCollections final : public SocietyScreen {
 public:
-    frmSearchCollections();
+    // What a counter hands over: the member in its line, and the shift.
+    struct Handover {
+        Shift shift;
+        QString memberNo;
+        QString memberName;
+    };
+
+    // As the menu opens it, or a counter.
+    explicit frmSearchCollections(std::optional<Handover> handover = {});
 
     static Keys::Places KeyPlaces();
 
@@ -27,6 +37,7 @@ private:
     DataGrid DataGridInwards;
     Button cmdGo{this, "cmdGo", Plain(u"&Print"), &frmSearchCollections::cmdGo_Click};
 
+    std::optional<Handover> m_handover;
     TemplateReport CRMilkReceipt;
 
     void Load() override;
