@@ -11,7 +11,7 @@ inline constexpr QStringView Cow = u"gaaya"; // गाय
 inline constexpr QStringView Buffalo = u"mhOsa"; // म्हैस
 inline constexpr QStringView Both = u"daonhI"; // दोन्ही
 inline constexpr QStringView Cash = u"raoK"; // रोख
-inline constexpr QStringView Bank = u"ba^nk"; // बँक
+inline constexpr QStringView Bank = u"ba^nk"; // बॅन्क
 inline constexpr QStringView Yes = u"haoya"; // होय
 inline constexpr QStringView No = u"naahI"; // नाही
 
