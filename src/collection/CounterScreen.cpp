@@ -36,6 +36,8 @@ CounterScreen::CounterScreen(const CounterKind& kind, const Keys::Places& keys)
     : SocietyScreen(keys, Shivaji(kind.title), {.guide = "lblFooter", .company = kind.company})
     , DataGridInwards(this, "DataGridInwards", InwardsColumns(kind))
     , m_kind(kind)
+    , m_memberKeys(this, kind.hasMemberFrame)
+    , m_totals(this, kind.liters.total)
 {
     When(maskDate.GotFocus, &CounterScreen::maskDate_GotFocus);
     When(txtTime.GotFocus, &CounterScreen::txtTime_GotFocus);
@@ -47,9 +49,7 @@ CounterScreen::CounterScreen(const CounterKind& kind, const Keys::Places& keys)
     When(txtLiters.GotFocus, &CounterScreen::txtLiters_GotFocus);
     When(txtFat.GotFocus, &CounterScreen::txtFat_GotFocus);
     When(cmdGo.LostFocus, &CounterScreen::cmdGo_LostFocus);
-    for (Button* device : {&cmdAutoLiter, &cmdAutoFat})
-        When(device->LostFocus, &CounterScreen::DeviceSwitch_LostFocus);
-    NameMemberKeys();
+    m_memberKeys.NameActions([this](const QString& key) { return KeyAction(txtMemberNo, key); });
     maskDate.SetGuide(KeyGuide(maskDate));
     txtCollectionNo.SetGuide(KeyGuide(txtCollectionNo));
     ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
@@ -69,11 +69,16 @@ void CounterScreen::Load()
     ShowInwardsGrid();
     maskDate.SetDate(gAppState.gAppDate);
     LoadMemberNames();
-    ShowDeviceSwitches();
+    Devices.Show();
     RefreshActualTime();
-    ShiftLitersTotal();
-    ShiftAverageFat();
+    m_totals.ShiftLitersTotal();
+    m_totals.ShiftAverageFat();
     MilkReceipt::Prepare();
+}
+
+void CounterScreen::ShowInwardsGrid()
+{
+    DataGridInwards.Refresh();
 }
 
 // Keys
@@ -163,8 +168,8 @@ void CounterScreen::txtTime_LostFocus()
     ShowNumber(NextNumberInBooks(shift));
     OpenShift(shift);
     ShowInwardsGrid();
-    ShiftLitersTotal();
-    ShiftAverageFat();
+    m_totals.ShiftLitersTotal();
+    m_totals.ShiftAverageFat();
     if (!IsSteppingBack()) // the way to another day
         txtCollectionNo.SetFocus();
 }

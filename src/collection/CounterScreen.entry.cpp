@@ -55,7 +55,7 @@ void CounterScreen::txtLiters_LostFocus()
     }
     if (!IsAnimal(txtAnimal.Text()))
         return;
-    if (txtLiters.Reformat() == 0 && !IsSwitchingOff(cmdAutoLiter, gAppState.gAutoLiters, txtLiters))
+    if (txtLiters.Reformat() == 0 && !Devices.IsLeftForScale(txtLiters, GoingTo()))
         txtLiters.SetFocus(Plain(u"लिटर टाका    Esc : बाहेर"));
 }
 
@@ -93,29 +93,13 @@ void CounterScreen::ReadFat()
         txtFat.SetText(*read.fat);
 }
 
-// Whether a field that is left without a value is left for the switch of the device it has waited for.
-// Leaving the switch leads back to it then: the line isn't to be saved without that value.
-bool CounterScreen::IsSwitchingOff(const Button& device, QStringView setting, Field& waiting)
-{
-    const bool isSwitchingOff = GoingTo() == &device && DeviceSwitch::IsOn(setting);
-    if (isSwitchingOff)
-        m_waiting = &waiting;
-    return isSwitchingOff;
-}
-
-void CounterScreen::DeviceSwitch_LostFocus()
-{
-    if (Field* waiting = std::exchange(m_waiting, nullptr))
-        waiting->SetFocus();
-}
-
 // With a fat tester the field isn't left until there is a fat, or the tester is switched off. What the common
 // exchange finds may be another device's figure; the field's own reading follows with the focus that comes
 // back.
 void CounterScreen::txtFat_LostFocus()
 {
     if (DeviceSwitch::IsOn(gAppState.gAutoFat) && txtFat.Value() <= 0) {
-        if (IsSwitchingOff(cmdAutoFat, gAppState.gAutoFat, txtFat))
+        if (Devices.IsLeftForTester(txtFat, GoingTo()))
             return;
         if (const std::optional<QString> read = m_devices.RepeatFat())
             txtFat.SetText(*read);

@@ -2,17 +2,17 @@
 
 #include "collection/CounterKind.h"
 #include "collection/Deliveries.h"
+#include "collection/DeviceSwitches.h"
+#include "collection/MemberKeys.h"
 #include "collection/MilkDevices.h"
 #include "collection/MilkReceipt.h"
+#include "collection/ShiftTotals.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
 #include "society/Fields.h"
 #include "society/SocietyScreen.h"
-
-#include <array>
-#include <utility>
 
 class Recordset;
 
@@ -42,20 +42,6 @@ protected:
     static std::vector<DataGrid::Column> InwardsColumns(const CounterKind& kind);
 
     Label lblActualCollectionTime{this, "lblActualCollectionTime"};
-    Label lblF9{this, "lblF9", Plain(u"F9")};
-    Label lblSearch{this, "lblSearch"};
-    Label lblF7{this, "lblF7", Plain(u"F7")};
-    Label lblMilk{this, "lblMilk"};
-    Label lblF10{this, "lblF10", Plain(u"F10")};
-    Label lblDelete{this, "lblDelete"};
-    Label lblTotalLitersTitle{this, "lblTotalLitersTitle", Shivaji(u"¹ ekUNa ilaTsa- ¹")};
-    Label lblTotalLitersC{this, "lblTotalLitersC", Shivaji(u"gaaya")};
-    Label lblTotalCowLiters{this, "lblTotalCowLiters"};
-    Label lblTotalLitersB{this, "lblTotalLitersB", Shivaji(u"mhOsa")};
-    Label lblTotalBuffLiters{this, "lblTotalBuffLiters"};
-    Label Label4{this, "Label4", Shivaji(u"¹ sarasarI f^T ¹")};
-    Label lblAvgCowFat{this, "lblAvgCowFat"};
-    Label lblAvgBuffFat{this, "lblAvgBuffFat"};
 
     DateField maskDate{this, "maskDate", &CounterScreen::maskDate_LostFocus};
     ShiftField txtTime{this, "txtTime", &CounterScreen::txtTime_LostFocus};
@@ -69,8 +55,7 @@ protected:
     MoneyField txtAmount{this, "txtAmount"};
     Button cmdGo{this, "cmdGo", Plain(u" >"), &CounterScreen::cmdGo_Click};
     DataGrid DataGridInwards;
-    Button cmdAutoLiter{this, "cmdAutoLiter", {}, &CounterScreen::cmdAutoLiter_Click};
-    Button cmdAutoFat{this, "cmdAutoFat", {}, &CounterScreen::cmdAutoFat_Click};
+    DeviceSwitches Devices{this};
     Button cmdPrinterOnOff{
         this, "cmdPrinterOnOff", Shivaji(MilkReceipt::PrinterOn), &CounterScreen::cmdPrinterOnOff_Click};
 
@@ -95,6 +80,8 @@ protected:
 
 private:
     const CounterKind& m_kind;
+    MemberKeys m_memberKeys;
+    ShiftTotals m_totals;
     MilkDevices m_devices;
     MilkReceipt m_receipt;
 
@@ -102,7 +89,6 @@ private:
     bool IsExistingRow = false; // the number has found its row: the fat is that row's, and none is offered
     bool FatRefused = false; // the focus was just kept in the fat, which is not offered anew
     bool FocusBounce = false; // a field that was just entered is sending the focus back
-    Field* m_waiting = nullptr; // a field that was left without its value for the switch of its device
 
     void maskDate_GotFocus();
     void maskDate_LostFocus();
@@ -123,10 +109,7 @@ private:
     void txtRate_LostFocus();
     void cmdGo_Click();
     void cmdGo_LostFocus();
-    void cmdAutoLiter_Click();
-    void cmdAutoFat_Click();
     void cmdPrinterOnOff_Click();
-    void DeviceSwitch_LostFocus();
 
     void StartCalculator();
     void ShowMembers();
@@ -136,11 +119,7 @@ private:
     void ShowNumberToGoTo(double number);
 
     void RefreshActualTime();
-    void ShiftLitersTotal();
-    void ShiftAverageFat();
 
-    void NameMemberKeys();
-    std::array<std::pair<Label*, Label*>, 3> MemberKeyLabels(); // each key and what it does
     void EnableEntry(bool enabled);
     void SendBack(Control& to, const Caption& wanted);
     bool IsSentBack();
@@ -151,16 +130,14 @@ private:
     void TakeAnimalOf(const Recordset& member);
     void OfferLastFat();
     void ReadFat();
-    bool IsSwitchingOff(const Button& device, QStringView setting, Field& waiting);
     bool IsSecondDelivery() const;
     void StoreNew(const Delivery& delivery);
     void DeleteRow();
     QString RowsOfMember() const;
     void SearchMember();
     void SendTareToScale();
-    void ShowDeviceSwitches();
 
     QWidget* ShiftLine();
     QWidget* EntryPanel();
-    QWidget* MemberKeys();
+    QWidget* KeysAndGuide();
 };

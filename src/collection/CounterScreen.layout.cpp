@@ -19,14 +19,6 @@ void MakeResult(const Field& field)
     field.Widget()->setPalette(palette);
 }
 
-QLayout* Switch(QStringView device, Button& button)
-{
-    auto* row = new QHBoxLayout;
-    row->addWidget(Heading(Plain(device)), 1);
-    row->addWidget(Sized(button, 90, 32, Look::Size::Normal));
-    return row;
-}
-
 }
 
 void CounterScreen::LayOut(QLayout* below, QWidget* keys)
@@ -88,35 +80,20 @@ QWidget* CounterScreen::EntryPanel()
     stack->setContentsMargins(16, 6, 16, 8);
     stack->setSpacing(2);
     stack->addLayout(member);
-    stack->addWidget(MemberKeys());
+    stack->addWidget(KeysAndGuide());
     stack->addLayout(money);
     return panel;
 }
 
 // The keys of the member's number, or the guide of the field in focus, on a line that keeps its height.
-QWidget* CounterScreen::MemberKeys()
+QWidget* CounterScreen::KeysAndGuide()
 {
     auto* line = new QWidget;
     line->setFixedHeight(34);
     auto* row = new QHBoxLayout(line);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
-    for (const auto& [key, action] : MemberKeyLabels()) {
-        key->Widget()->setFont(Look::Font(Look::Size::Small, true));
-        key->Widget()->setMargin(4);
-        key->Widget()->setAutoFillBackground(true);
-        QPalette cap = key->Widget()->palette();
-        cap.setColor(QPalette::Window, QColor(Look::PlainColour));
-        cap.setColor(QPalette::WindowText, QColor(Look::Ink));
-        cap.setColor(QPalette::Disabled, QPalette::Window, QColor(Look::Quiet));
-        cap.setColor(QPalette::Disabled, QPalette::WindowText, QColor(Look::DullColour));
-        key->Widget()->setPalette(cap);
-        action->Widget()->setFont(Look::Font(Look::Size::Small));
-        action->Widget()->setPalette(cap);
-        row->addWidget(key->Widget());
-        row->addWidget(action->Widget());
-        row->addSpacing(12);
-    }
+    m_memberKeys.LayOut(*row);
     lblGuide.Widget()->setMinimumHeight(0);
     row->addWidget(lblGuide.Widget(), 1);
     ShowMemberKeys(false);
@@ -126,33 +103,15 @@ QWidget* CounterScreen::MemberKeys()
 QWidget* CounterScreen::Totals()
 {
     constexpr int width = 197;
-    auto* sums = new QGridLayout;
-    sums->setVerticalSpacing(0);
-    sums->setColumnStretch(1, 1);
-    for (Label* title : {&lblTotalLitersTitle, &Label4})
-        title->Widget()->setAlignment(Qt::AlignCenter);
-    sums->addWidget(lblTotalLitersTitle.Widget(), 0, 0, 1, 2);
-    sums->addWidget(lblTotalLitersC.Widget(), 1, 0);
-    sums->addWidget(Figure(lblTotalCowLiters, Look::Size::Large), 1, 1);
-    sums->addWidget(lblTotalLitersB.Widget(), 2, 0);
-    sums->addWidget(Figure(lblTotalBuffLiters, Look::Size::Large), 2, 1);
-    sums->addWidget(Label4.Widget(), 3, 0, 1, 2);
-    sums->addWidget(Heading(lblTotalLitersC.Shown()), 4, 0);
-    sums->addWidget(Figure(lblAvgCowFat, Look::Size::Large), 4, 1);
-    sums->addWidget(Heading(lblTotalLitersB.Shown()), 5, 0);
-    sums->addWidget(Figure(lblAvgBuffFat, Look::Size::Large), 5, 1);
-
     auto* panel = Sheet();
     panel->setFixedWidth(width);
     auto* stack = new QVBoxLayout(panel);
     stack->setContentsMargins(10, 4, 10, 8);
     stack->setSpacing(4);
-    stack->addLayout(sums);
+    stack->addLayout(m_totals.LaidOut());
     stack->addStretch(1);
-    stack->addLayout(Switch(ScaleName, cmdAutoLiter));
-    stack->addLayout(Switch(TesterName, cmdAutoFat));
+    stack->addLayout(Devices.ScaleLine());
+    stack->addLayout(Devices.TesterLine());
     stack->addWidget(Sized(cmdPrinterOnOff, 0, 32, Look::Size::Normal));
-    for (const Label* label : {&lblTotalLitersTitle, &lblTotalLitersC, &lblTotalLitersB, &Label4})
-        SetInk(*label->Widget());
     return panel;
 }

@@ -9,52 +9,17 @@
 
 #include <utility>
 
-namespace {
-
-// A device's name stands beside its switch; to a screen reader both are one.
-void ShowSwitch(Button& button, QStringView device, const QString& setting)
-{
-    button.SetCaption(Shivaji(DeviceSwitch::Caption(setting)));
-    const QString name = device + u' ' + button.Shown().Seen();
-    button.SetAccessibleName(Plain(name));
-}
-
-}
-
-// The keys of the member's number, as the list of keys says what each does.
-void CounterScreen::NameMemberKeys()
-{
-    for (const auto& [key, action] : MemberKeyLabels())
-        action->SetCaption(KeyAction(txtMemberNo, key->Shown().Text()));
-}
-
-std::array<std::pair<Label*, Label*>, 3> CounterScreen::MemberKeyLabels()
-{
-    return {{{&lblF9, &lblSearch}, {&lblF7, &lblMilk}, {&lblF10, &lblDelete}}};
-}
-
 void CounterScreen::ShowMemberKeys(bool shown)
 {
-    for (Label* label : {&lblF9, &lblSearch})
-        label->SetVisible(shown);
-    for (Label* label : {&lblF7, &lblMilk})
-        label->SetVisible(shown && m_kind.hasMemberFrame);
-    for (Label* label : {&lblF10, &lblDelete})
-        label->SetVisible(shown && !ComboMemberName.IsEmpty());
+    m_memberKeys.Show(shown, !ComboMemberName.IsEmpty());
     if (shown)
         LightMemberKeys();
 }
 
-// Lit are those that do something now: F9 finds only a member who has a row in the shift, and behind the
-// member's frame neither is answered.
 void CounterScreen::LightMemberKeys()
 {
     const bool isHere = txtMemberNo.HasFocus();
-    const bool hasRow = isHere && txtMemberNo.Value() != 0 && Finds(RowsOfMember());
-    for (Label* label : {&lblF9, &lblSearch})
-        label->Widget()->setEnabled(hasRow);
-    for (Label* label : {&lblF7, &lblMilk})
-        label->Widget()->setEnabled(isHere);
+    m_memberKeys.Light(isHere && txtMemberNo.Value() != 0 && Finds(RowsOfMember()), isHere);
 }
 
 void CounterScreen::ClearEntryFields()
@@ -120,24 +85,6 @@ void CounterScreen::ShowRow(const Recordset& row)
 }
 
 // The buttons at its side
-
-void CounterScreen::ShowDeviceSwitches()
-{
-    ShowSwitch(cmdAutoLiter, ScaleName, gAppState.gAutoLiters);
-    ShowSwitch(cmdAutoFat, TesterName, gAppState.gAutoFat);
-}
-
-void CounterScreen::cmdAutoLiter_Click()
-{
-    gAppState.gAutoLiters = DeviceSwitch::SettingAfterClick(cmdAutoLiter.Text());
-    ShowDeviceSwitches();
-}
-
-void CounterScreen::cmdAutoFat_Click()
-{
-    gAppState.gAutoFat = DeviceSwitch::SettingAfterClick(cmdAutoFat.Text());
-    ShowDeviceSwitches();
-}
 
 void CounterScreen::cmdPrinterOnOff_Click()
 {

@@ -47,8 +47,8 @@ void CounterScreen::cmdGo_Click()
     if (DeviceSwitch::IsOn(gAppState.gAutoLiters))
         SendTareToScale();
     ClearEntryFields();
-    ShiftLitersTotal();
-    ShiftAverageFat();
+    m_totals.ShiftLitersTotal();
+    m_totals.ShiftAverageFat();
     ShowNumber(NextNumberInCopy(shift));
     txtAnimal.SetEnabled(true);
     m_receipt.PrintReceipt(cmdPrinterOnOff.Text()); // the delivery is safe, whatever the printer does
@@ -102,7 +102,7 @@ void CounterScreen::DeleteRow()
     }
     ShowInwardsGrid();
     ClearEntryFields();
-    ShiftLitersTotal(); // the average fat stays as it was
+    m_totals.ShiftLitersTotal(); // the average fat stays as it was
     ShowNumber(NextNumberAfterDelete(shift));
     txtCollectionNo.SetFocus();
 }
