@@ -18,7 +18,7 @@ constexpr int RowHeight = 30;
 constexpr int HeadHeight = 34;
 
 // A column that takes what is left is reckoned with so much when the others are given their share.
-constexpr int LeastOfTheRest = 120;
+constexpr int LeastOfTheRest = 130;
 
 }
 
