@@ -1,17 +1,21 @@
 #include "core/start/Program.h"
 
+#include "core/messages/InputBox.h"
 #include "core/messages/Messages.h"
+#include "core/messages/PlainBox.h"
 #include "core/preview/ReportHandover.h"
 #include "core/start/BooksOpening.h"
 #include "core/start/MdlAccounts.h"
 #include "core/state/AppState.h"
 #include "platform/database/DataSource.h"
 #include "platform/forms/Look.h"
+#include "platform/forms/ModalStack.h"
 #include "platform/serial/PortDevice.h"
 #include "platform/shell/AppFolder.h"
 #include "platform/shell/Fonts.h"
 #include "platform/shell/Privacy.h"
 #include "platform/shell/SingleInstance.h"
+#include "platform/shell/World.h"
 #include "platform/text/RunTimeError.h"
 
 #include <QApplication>
@@ -36,6 +40,14 @@ void RegisterPlaces()
 {
     DataSource::Register(QStringLiteral("VetrolanDSN"), LocalAppFile(u"Morvelta.mdb"));
     SetPortLinksFolder(LocalPath(AppFolder));
+}
+
+void ShowBoxesInTheWindow()
+{
+    static PlainBoxCards boxes;
+    static InputBoxCards prompts;
+    World::Current().messageBox = &boxes;
+    World::Current().inputBox = &prompts;
 }
 
 int RunProgram()
@@ -64,6 +76,7 @@ int RunProgram()
         return 0;
     } catch (const RunTimeError& error) {
         gCn.Close();
+        ModalStack::Current().Reset(); // the box that tells it is a screen, too
         ShowPlain(error.Text());
         return 1;
     }
