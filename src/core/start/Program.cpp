@@ -6,6 +6,7 @@
 #include "core/preview/ReportHandover.h"
 #include "core/start/BooksOpening.h"
 #include "core/start/MdlAccounts.h"
+#include "core/start/ProgramIcon.h"
 #include "core/state/AppState.h"
 #include "platform/database/DataSource.h"
 #include "platform/forms/Look.h"
@@ -52,6 +53,7 @@ void ShowBoxesInTheWindow()
 
 int RunProgram()
 {
+    QApplication::setWindowIcon(ProgramIcon());
     ChooseFont();
     const QString folder = LocalPath(AppFolder);
     std::optional<SingleInstance> instance; // held until the books are closed
