@@ -11,6 +11,7 @@ int main(int argc, char* argv[])
     Privacy::ForbidCores();
     Application application(argc, argv);
     RegisterScreens();
+    ShowBoxesInTheWindow();
     const int exitCode = RunProgram();
     ProgramWindow::Leave();
     return exitCode;

@@ -1,7 +1,6 @@
 #include "tests/collection/CounterTest.h"
 
-#include <QApplication>
-#include <QMessageBox>
+#include "core/start/Program.h"
 
 namespace {
 
@@ -12,17 +11,17 @@ protected:
     {
         for (const int number : {4, 6, 7})
             AddMember(number, QStringLiteral("rama %1").arg(number), QStringLiteral("gaaya"));
-        World::Current().messageBox = World::Real().messageBox; // one that waits for a key
+        ShowBoxesInTheWindow(); // where one waits for a key
     }
 
     // A box that a failing test leaves open would wait for ever.
     static void CloseBox(Clerk& clerk)
     {
-        while (IsBoxUp())
+        while (IsBoxUp(clerk))
             Type(clerk, "{ENTER}");
     }
 
-    static bool IsBoxUp() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr; }
+    static bool IsBoxUp(const Clerk& clerk) { return clerk.ScreenName() == u"frmPlainBox"; }
 };
 
 TEST_F(TypedAheadTest, WhatWasTypedBehindADuplicateIsThrownAwayAndNoOthersRowIsTouched)
@@ -35,10 +34,10 @@ TEST_F(TypedAheadTest, WhatWasTypedBehindADuplicateIsThrownAwayAndNoOthersRowIsT
         ASSERT_EQ(before.size(), 2);
         clerk.TypeAhead(QStringLiteral("{ENTER}4{ENTER}5{ENTER}4.0{ENTER}{ENTER}{ENTER}"
                                        "{ENTER}2{ENTER}7{ENTER}6.5{ENTER}{ENTER}{ENTER}"));
-        EXPECT_TRUE(IsBoxUp()) << "the refusal waits to be read";
+        EXPECT_TRUE(IsBoxUp(clerk)) << "the refusal waits to be read";
         EXPECT_EQ(Books(), before);
         Type(clerk, "{ENTER}");
-        EXPECT_FALSE(IsBoxUp()) << "one Enter closes it";
+        EXPECT_FALSE(IsBoxUp(clerk)) << "one Enter closes it";
         CloseBox(clerk);
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "3");

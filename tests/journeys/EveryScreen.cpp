@@ -4,8 +4,10 @@
 #include "core/menu/KeyboardTutor.h"
 #include "core/menu/MainMenu.h"
 #include "core/menu/ScreenDirectory.h"
+#include "core/messages/InputBox.h"
 #include "core/messages/Messages.h"
 #include "core/messages/Narrations.h"
+#include "core/messages/PlainBox.h"
 #include "core/start/AppDate.h"
 #include "core/start/OpeningScreens.h"
 #include "platform/text/RunTimeError.h"
@@ -59,6 +61,12 @@ std::vector<ScreenState> All()
                 frmNarrations prompt(Plain(u"नाव"));
                 prompt.ShowModal();
             }},
+        {QStringLiteral("frmPlainBox"), {},
+            [] { PlainBoxCards().Show(QStringLiteral("Administrator LogIn Required")); }},
+        {QStringLiteral("frmPlainBox"), {},
+            [] { PlainBoxCards().Show(QStringLiteral("insert into MilkCollections ").repeated(400)); }},
+        {QStringLiteral("frmInputBox"), {},
+            [] { InputBoxCards().Ask(QStringLiteral("Enter Folder Name"), QStringLiteral("Backup")); }},
         {QStringLiteral("frmMessages"), {}, [] { Ask(Shivaji(u"roka^D- na@kI badlaayacao ka Æ")); }},
         ByName("frmMembers", ""),
         ByName("frmMembers", "%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}2{ENTER}"),

@@ -11,12 +11,10 @@
 #include <QCheckBox>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPixmap>
 #include <QRadioButton>
 #include <QTimer>
 
-#include <algorithm>
 #include <semaphore>
 #include <stdexcept>
 #include <thread>
@@ -32,18 +30,9 @@ QRect Desktop()
     return {0, 0, sides.value(0).toInt(), sides.value(1).toInt()};
 }
 
-// The plain message box that is up; null if there is none.
-QWidget* PlainBox()
-{
-    QWidget* modal = QApplication::activeModalWidget();
-    return dynamic_cast<Screen*>(modal) ? nullptr : modal;
-}
-
-// Where a key goes: to a plain message box if one is up, else to the screen on top.
+// Where a key goes: to the screen on top.
 QWidget* KeyTarget()
 {
-    if (QWidget* box = PlainBox())
-        return box;
     const Screen* screen = ModalStack::Current().Top();
     return screen ? screen->KeyTarget() : nullptr;
 }
@@ -57,36 +46,11 @@ void Strike(const KeyStroke& stroke)
     QCoreApplication::sendEvent(target, &press);
 }
 
-void PaintInTheMiddle(QPainter& painter, const QSize& size, const QPixmap& window)
-{
-    painter.drawPixmap((size.width() - window.width()) / 2, (size.height() - window.height()) / 2, window);
-}
-
-// Whether a line stands there that says what the program is busy with: the clerk waits until it is gone.
-bool IsBusyLineUp()
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
-        return window->isVisible() && window->windowType() == Qt::SplashScreen;
-    });
-}
-
 // Whether the program isn't ready for the clerk: a box takes no key yet, or a handler goes on while it
 // paints.
 bool IsBusy()
 {
-    return FreshKeys::Awaited() || IsBusyLineUp() || Painting::IsUnderWay();
-}
-
-// Lays a window over the middle of a picture, which grows if the window is larger.
-QPixmap LaidOver(const QPixmap& picture, const QPixmap& window)
-{
-    QPixmap both(picture.size().expandedTo(window.size()));
-    both.fill(Qt::gray);
-    QPainter painter(&both);
-    PaintInTheMiddle(painter, both.size(), picture);
-    PaintInTheMiddle(painter, both.size(), window);
-    return both;
+    return FreshKeys::Awaited() || Painting::IsUnderWay();
 }
 
 }
@@ -259,10 +223,5 @@ QString Clerk::Message() const
 
 void Clerk::Picture(const QString& file)
 {
-    Do([file] {
-        QPixmap picture = ProgramWindow::Current().grab();
-        if (QWidget* box = PlainBox())
-            picture = LaidOver(picture, box->grab());
-        picture.save(file);
-    });
+    Do([file] { ProgramWindow::Current().grab().save(file); });
 }

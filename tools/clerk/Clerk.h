@@ -62,7 +62,7 @@ public:
     // The text of the message dialog on top, as the system spells it; empty if there is none.
     QString Message() const;
 
-    // Saves a picture of all open windows, as they lie over one another.
+    // Saves a picture of the window.
     void Picture(const QString& file);
 
 private:

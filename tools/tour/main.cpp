@@ -1,4 +1,5 @@
 #include "Screens.h"
+#include "core/messages/PlainBox.h"
 #include "core/start/Program.h"
 #include "platform/database/Connection.h"
 #include "platform/forms/ModalStack.h"
@@ -21,7 +22,7 @@ public:
     QDateTime Now() const override { return QDateTime(QDate(2026, 6, 1), QTime(6, 5)); }
 };
 
-// The real box while the clerk is there to close it. When the tour has broken off, nobody is.
+// The program's own box while the clerk is there to close it. When the tour has broken off, nobody is.
 class TourBox final : public MessageBox {
 public:
     bool ClerkIsThere = true;
@@ -29,10 +30,13 @@ public:
     void Show(const QString& text, const QString& title) override
     {
         if (ClerkIsThere)
-            World::Real().messageBox->Show(text, title);
+            m_cards.Show(text, title);
         else
             QTextStream(stderr) << text << '\n';
     }
+
+private:
+    PlainBoxCards m_cards;
 };
 
 // The members were paid this morning for what they brought from the 21st on.

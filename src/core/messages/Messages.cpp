@@ -11,7 +11,7 @@
 int frmMessages::MessageAnswer = 0;
 
 frmMessages::frmMessages(Mode mode, const Caption& message, OnEnter onEnter)
-    : Screen("frmMessages", Shape::Card)
+    : BoxScreen("frmMessages")
     , m_onEnter(onEnter)
 {
     When(cmdOkYes.Click, &frmMessages::cmdOkYes_Click);
@@ -40,7 +40,7 @@ frmMessages::frmMessages(Mode mode, const Caption& message, OnEnter onEnter)
 
 void frmMessages::Load()
 {
-    ModalStack::Current().ForgetTypedAhead();
+    BoxScreen::Load();
     if (m_onEnter == OnEnter::No)
         cmdCancelNo.SetFocus();
 }

@@ -1,15 +1,13 @@
 #pragma once
 
+#include "core/messages/BoxScreen.h"
 #include "platform/forms/Button.h"
-#include "platform/forms/Screen.h"
-#include "platform/shell/FreshKeys.h"
 
 // What Enter answers to a question.
 enum class OnEnter { Yes, No };
 
-// The program's own message dialog: a notice to go on from, or a question. It takes only keys that were
-// pressed after it was painted.
-class frmMessages final : public Screen {
+// The program's own message dialog: a notice to go on from, or a question.
+class frmMessages final : public BoxScreen {
 public:
     enum class Mode { Notice, Question };
 
@@ -36,7 +34,6 @@ private:
     void Dismiss();
 
     OnEnter m_onEnter;
-    FreshKeys m_keys{*this};
     bool m_answered = false;
 };
 
@@ -47,6 +44,6 @@ void ShowNotice(const Caption& notice);
 // destroys something is asked with OnEnter::No: one Enter too many changes nothing then.
 bool Ask(const Caption& question, OnEnter onEnter = OnEnter::Yes);
 
-// The plain box of the platform: for the few messages in English, and for what the program itself has to say.
+// The plain box: for the few messages in English, and for what the program itself has to say.
 // An empty title is the program's name.
 void ShowPlain(const QString& text, const QString& title = {});

@@ -1,6 +1,6 @@
 #include "core/start/BooksKeeper.h"
 
-#include "core/messages/Messages.h"
+#include "core/messages/BoxScreen.h"
 #include "core/state/AppState.h"
 #include "platform/forms/ModalStack.h"
 
@@ -23,7 +23,7 @@ BooksKeeper::BooksKeeper()
     });
     // A box is answered in the midst of some other screen's work.
     ModalStack::Current().SetLeft([](const Screen& screen) {
-        if (!dynamic_cast<const frmMessages*>(&screen))
+        if (!dynamic_cast<const BoxScreen*>(&screen))
             gCn.Fold();
     });
     gCn.SetWritten([this] { BooksWritten(); });

@@ -1,13 +1,15 @@
 #pragma once
 
-#include <QLabel>
+#include <QWidget>
 
-// The line that stands on the screen while every page of the books is read at the start.
-class CheckingLine {
+// The line that stands over the ground of the program's window while every page of the books is read at the
+// start. Nobody answers it.
+class CheckingLine final : public QWidget {
 public:
     // Returns when it can be seen.
     CheckingLine();
 
-private:
-    QLabel m_label;
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };

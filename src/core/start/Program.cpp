@@ -1,17 +1,22 @@
 #include "core/start/Program.h"
 
+#include "core/messages/InputBox.h"
 #include "core/messages/Messages.h"
+#include "core/messages/PlainBox.h"
 #include "core/preview/ReportHandover.h"
 #include "core/start/BooksOpening.h"
 #include "core/start/MdlAccounts.h"
+#include "core/start/ProgramIcon.h"
 #include "core/state/AppState.h"
 #include "platform/database/DataSource.h"
 #include "platform/forms/Look.h"
+#include "platform/forms/ModalStack.h"
 #include "platform/serial/PortDevice.h"
 #include "platform/shell/AppFolder.h"
 #include "platform/shell/Fonts.h"
 #include "platform/shell/Privacy.h"
 #include "platform/shell/SingleInstance.h"
+#include "platform/shell/World.h"
 #include "platform/text/RunTimeError.h"
 
 #include <QApplication>
@@ -38,8 +43,17 @@ void RegisterPlaces()
     SetPortLinksFolder(LocalPath(AppFolder));
 }
 
+void ShowBoxesInTheWindow()
+{
+    static PlainBoxCards boxes;
+    static InputBoxCards prompts;
+    World::Current().messageBox = &boxes;
+    World::Current().inputBox = &prompts;
+}
+
 int RunProgram()
 {
+    QApplication::setWindowIcon(ProgramIcon());
     ChooseFont();
     const QString folder = LocalPath(AppFolder);
     std::optional<SingleInstance> instance; // held until the books are closed
@@ -64,6 +78,7 @@ int RunProgram()
         return 0;
     } catch (const RunTimeError& error) {
         gCn.Close();
+        ModalStack::Current().Reset(); // the box that tells it is a screen, too
         ShowPlain(error.Text());
         return 1;
     }

@@ -38,7 +38,7 @@ public:
     // `left` is called whenever a screen has been left, before the one beneath it goes on.
     void SetLeft(std::function<void(const Screen&)> left) { m_left = std::move(left); }
 
-    // Forgets a failure, so that a test can begin anew.
+    // Forgets a failure that was met, so that screens can be opened again.
     void Reset();
 
 private:

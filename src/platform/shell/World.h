@@ -22,8 +22,7 @@ public:
     virtual bool Start(const QString& program, bool maximised) = 0;
 };
 
-// The plain message box of the platform: one text, one button. It takes only keys that were pressed after it
-// was painted.
+// The plain message box: one text, one button.
 class MessageBox {
 public:
     virtual ~MessageBox() = default;
@@ -32,7 +31,7 @@ public:
     virtual void Show(const QString& text, const QString& title = {}) = 0;
 };
 
-// The plain one-line prompt of the platform. It takes only keys that were pressed after it was painted.
+// The plain one-line prompt.
 class InputBox {
 public:
     virtual ~InputBox() = default;

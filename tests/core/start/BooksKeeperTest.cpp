@@ -1,7 +1,9 @@
 #include "core/start/BooksKeeper.h"
 
+#include "core/messages/InputBox.h"
 #include "core/messages/Messages.h"
 #include "core/messages/Narrations.h"
+#include "core/messages/PlainBox.h"
 #include "platform/database/Transaction.h"
 #include "tests/support/SocietyTest.h"
 
@@ -52,9 +54,19 @@ TEST_F(BooksKeeperTest, ABoxIsAnsweredInTheMidstOfAnotherScreensWorkAndFoldsNoth
 {
     Write(5);
     const qint64 unfolded = gCn.LogSize();
-    Failure = TheClerk.Play([] { ShowNotice(Shivaji(u"yaa naavaacao roka^D- Agaaodrca Aaho")); },
-        [](Clerk& clerk) { clerk.Type(QStringLiteral("{ENTER}")); });
-    EXPECT_EQ(gCn.LogSize(), unfolded);
+    const std::function<void()> boxes[] = {
+        [] { ShowNotice(Shivaji(u"yaa naavaacao roka^D- Agaaodrca Aaho")); },
+        [] { PlainBoxCards().Show(QStringLiteral("Duplicate Record")); },
+        [] { InputBoxCards().Ask(QStringLiteral("Enter Folder Name")); },
+    };
+    for (const auto& box : boxes) {
+        Failure = TheClerk.Play(box, [](Clerk& clerk) {
+            EXPECT_NE(clerk.ScreenName(), QString());
+            clerk.Type(QStringLiteral("{ENTER}"));
+            EXPECT_EQ(clerk.ScreenName(), QString());
+        });
+        EXPECT_EQ(gCn.LogSize(), unfolded);
+    }
 }
 
 }

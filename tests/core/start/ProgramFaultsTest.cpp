@@ -2,8 +2,10 @@
 
 #include "core/start/MdlAccounts.h"
 #include "core/start/Program.h"
+#include "platform/forms/ModalStack.h"
 #include "platform/shell/AppFolder.h"
 #include "platform/shell/SingleInstance.h"
+#include "tests/core/ScreenFace.h"
 
 #include <QDir>
 #include <QFile>
@@ -180,4 +182,28 @@ TEST_F(ProgramFaults, AnErrorInAHandlerIsShownInABoxAndEndsTheProgramWithOne)
     ASSERT_EQ(TheBox.Shown.size(), 1);
     EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("Run-time error '13'")));
     EXPECT_FALSE(gCn.IsOpen());
+}
+
+TEST_F(ProgramFaults, AnErrorIsReadOnACardOfTheWindowBeforeTheFirstScreenAndAfterTheLast)
+{
+    ShowBoxesInTheWindow();
+    const auto readAndClose = [](Clerk& clerk, const char* text) {
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmPlainBox"));
+        EXPECT_TRUE(LabelOf(clerk, "lblText").contains(QString::fromLatin1(text)));
+        EXPECT_EQ(ModalStack::Current().Open().size(), 1) << "it stands alone";
+        EXPECT_FALSE(gCn.IsOpen());
+        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    };
+    int exitCode = -1;
+    Failure = TheClerk.Play([&] { exitCode = RunProgram(); },
+        [&](Clerk& clerk) {
+            clerk.Type(QStringLiteral("{ENTER}{ENTER}31022026{ENTER}"));
+            readAndClose(clerk, "Run-time error '13'");
+        });
+    EXPECT_EQ(exitCode, 1);
+    ASSERT_TRUE(QFile::remove(FolderFile(Password)));
+    Failure = TheClerk.Play(
+        [&] { exitCode = RunProgram(); }, [&](Clerk& clerk) { readAndClose(clerk, "PWD.TXT"); });
+    EXPECT_EQ(exitCode, 1);
 }

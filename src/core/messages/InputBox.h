@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/messages/BoxScreen.h"
+#include "platform/forms/Button.h"
+#include "platform/forms/Field.h"
+#include "platform/shell/World.h"
+
+// The prompt over one line of plain letters. Enter goes on with what stands there, Esc leaves.
+class frmInputBox final : public BoxScreen {
+public:
+    // An empty title is the program's name; `proposed` stands in the line.
+    frmInputBox(const QString& prompt, const QString& proposed, const QString& title);
+
+    // What the clerk has made of it, without blanks at the ends; empty if he has left without an answer.
+    QString Answer;
+
+private:
+    Label lblTitle{this, "lblTitle"};
+    Label lblPrompt{this, "lblPrompt"};
+    PlainField txtAnswer{this, "txtAnswer"};
+    Button cmdOk{this, "cmdOk", Plain(u"ठीक")};
+    Button cmdCancel{this, "cmdCancel", Plain(u"रद्द")};
+
+    void Enter() override { cmdOk_Click(); }
+    void cmdOk_Click();
+    void cmdCancel_Click();
+};
+
+// Asks each question on a frmInputBox.
+class InputBoxCards final : public InputBox {
+public:
+    QString Ask(const QString& prompt, const QString& proposed = {}, const QString& title = {}) override;
+};

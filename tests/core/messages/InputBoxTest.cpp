@@ -1,0 +1,103 @@
+#include "core/messages/InputBox.h"
+
+#include "core/start/Program.h"
+#include "platform/forms/ModalStack.h"
+#include "platform/forms/ProgramWindow.h"
+#include "tests/core/ScreenFace.h"
+#include "tests/support/SocietyTest.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace {
+
+class InputBoxTest : public SocietyTest {
+protected:
+    InputBoxTest() { ShowBoxesInTheWindow(); }
+
+    // What the prompt answers when the script has played on it.
+    QString Answer(const std::function<void(Clerk&)>& script, const QString& title = {})
+    {
+        QString answer = QStringLiteral("none");
+        Failure = TheClerk.Play(
+            [&] {
+                answer = World::Current().inputBox->Ask(
+                    QStringLiteral("Enter Folder Name"), QStringLiteral("Backup"), title);
+            },
+            script);
+        return answer;
+    }
+
+    QString AnswerTo(const char* keys)
+    {
+        return Answer([keys](Clerk& clerk) {
+            clerk.Type(QString::fromLatin1(keys));
+            EXPECT_EQ(clerk.ScreenName(), QString()) << keys;
+        });
+    }
+};
+
+}
+
+TEST_F(InputBoxTest, ProposesAnAnswerInItsLine)
+{
+    Answer([](Clerk& clerk) {
+        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmInputBox"));
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), QStringLiteral("Vetrolan"));
+        EXPECT_EQ(LabelOf(clerk, "lblPrompt"), QStringLiteral("Enter Folder Name"));
+        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAnswer"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdOk")), QStringLiteral("ठीक"));
+        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdCancel")), QStringLiteral("रद्द"));
+        const auto* line = clerk.Top().findChild<QLineEdit*>();
+        EXPECT_EQ(line->selectedText(), QStringLiteral("Backup"));
+        EXPECT_EQ(line->accessibleName(), QStringLiteral("Enter Folder Name"));
+    });
+}
+
+TEST_F(InputBoxTest, ItIsACardOfTheOneWindow)
+{
+    Answer([](Clerk& clerk) {
+        EXPECT_TRUE(clerk.Top().IsCard());
+        EXPECT_EQ(clerk.Top().window(), &ProgramWindow::Current());
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    });
+}
+
+TEST_F(InputBoxTest, EnterInTheLineOrOnTheButtonTakesWhatStandsThere)
+{
+    EXPECT_EQ(AnswerTo("{ENTER}"), QStringLiteral("Backup"));
+    EXPECT_EQ(AnswerTo("{TAB}{ENTER}"), QStringLiteral("Backup"));
+    EXPECT_EQ(AnswerTo("{TAB} "), QStringLiteral("Backup"));
+}
+
+TEST_F(InputBoxTest, WhatIsTypedReplacesWhatIsProposedAndLosesTheBlanksAtItsEnds)
+{
+    EXPECT_EQ(AnswerTo(" a b {ENTER}"), QStringLiteral("a b"));
+}
+
+TEST_F(InputBoxTest, EscTheSecondButtonAndTheCloseBoxAnswerNothing)
+{
+    EXPECT_EQ(AnswerTo("ab{ESC}"), QString());
+    EXPECT_EQ(AnswerTo("ab{TAB}{TAB}{ENTER}"), QString());
+    EXPECT_EQ(Answer([](Clerk& clerk) { clerk.CloseBox(); }), QString());
+}
+
+TEST_F(InputBoxTest, ItBearsTheTitleThatIsAskedFor)
+{
+    Answer([](Clerk& clerk) { EXPECT_EQ(LabelOf(clerk, "lblTitle"), QStringLiteral("Backup")); },
+        QStringLiteral("Backup"));
+}
+
+TEST_F(InputBoxTest, KeysThatWereTypedAheadOfItAreThrownAway)
+{
+    for (int i = 0; i < 5; ++i)
+        QMetaObject::invokeMethod(
+            qApp,
+            [] {
+                QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+                QCoreApplication::sendEvent(ModalStack::Current().Top()->KeyTarget(), &press);
+            },
+            Qt::QueuedConnection);
+    Answer([](Clerk& clerk) { EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmInputBox")); });
+}
