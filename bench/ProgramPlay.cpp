@@ -15,7 +15,9 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cstdio>
+#include <ctime>
 
 namespace {
 
@@ -100,6 +102,7 @@ public:
         const QString before = m_clerk.ScreenName();
         std::optional<PaintWatch> slip; // lives on the program's thread
         m_clerk.Do([&] { slip.emplace(SlipScreen); });
+        const double busyBefore = ProcessorSeconds();
         const double seconds = SecondsOf([&] {
             m_clerk.Type(key);
             RestRounds();
@@ -108,6 +111,7 @@ public:
                 m_clerk.Do([] {});
         });
         Require(m_clerk.ScreenName() != SlipScreen || slip->IsPainted(), "The slip is painted.");
+        m_busiest = std::max(m_busiest, ProcessorSeconds() - busyBefore);
         m_clerk.Do([&] { slip.reset(); });
         if (seconds > m_longest) {
             m_longest = seconds;
@@ -126,13 +130,21 @@ public:
 
     void PrintLongest() const
     {
-        std::printf("longest: %.6f s (%s, key %d)\n", m_longest, m_longestKey.toUtf8().constData(),
-            m_longestNumber + 1);
+        std::printf("longest: %.6f s (%s, key %d), on the processor at most %.6f s\n", m_longest,
+            m_longestKey.toUtf8().constData(), m_longestNumber + 1, m_busiest);
     }
 
     static constexpr QStringView SlipScreen = u"frmReportPreview";
 
 private:
+    // What the processor has done for this process: a host that others use, too, takes nothing from it.
+    static double ProcessorSeconds()
+    {
+        timespec spent{};
+        clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &spent);
+        return static_cast<double>(spent.tv_sec) + static_cast<double>(spent.tv_nsec) * 1e-9;
+    }
+
     // What a key leaves to be done later is done in these: the keys that it sends, layouts, paintings.
     void RestRounds()
     {
@@ -153,6 +165,7 @@ private:
 
     Clerk& m_clerk;
     double m_longest = 0;
+    double m_busiest = 0;
     QString m_longestKey;
     int m_longestNumber = 0;
     int m_pressed = 0;

@@ -7,8 +7,8 @@
 class DataGrid;
 class QTableView;
 
-// Parts that stand over the columns of a grid and keep to them when they grow. The bar is as wide as the grid and
-// lies above it.
+// Parts that stand over the columns of a grid and keep to them when they grow. The bar is as wide as the grid
+// and lies above it.
 class ColumnBar final : public QWidget {
 public:
     explicit ColumnBar(const DataGrid& grid);

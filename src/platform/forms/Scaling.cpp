@@ -39,7 +39,8 @@ constexpr const char* Kept = "baseSizes";
 // How much of a window's growth goes to type.
 constexpr double Share = 0.85;
 
-// In a small window lines of text are a little higher than their share: the engine rounds them up to whole dots.
+// In a small window lines of text are a little higher than their share: the engine rounds them up to whole
+// dots.
 constexpr double Slack = 0.97;
 
 // Rounded down, so that what fits together at the factor 1 fits at any.

@@ -159,6 +159,11 @@ TEST_F(PlainBoxTest, ALongTextWithoutBlanksIsBrokenIntoLines)
     Tell(name, [&](Clerk& clerk) {
         EXPECT_EQ(TextOf(clerk), name);
         EXPECT_TRUE(ProgramWindow::Current().rect().contains(PlaceOf(clerk)));
+        ExpectWhole(clerk, *clerk.Top().findChild<QLabel*>(QStringLiteral("lblText")));
+        const QLabel& text = *clerk.Top().findChild<QLabel*>(QStringLiteral("lblText"));
+        EXPECT_GE(text.width() * text.height() / text.fontMetrics().height(),
+            text.fontMetrics().horizontalAdvance(name))
+            << "all of its lines have room";
     });
 }
 
