@@ -256,6 +256,22 @@ TEST_F(BooksKeptTest, AfterAnEndThatLeftItsLockThePagesAreReadToo)
     EXPECT_EQ(Boxes("is damaged in the tables"), 1);
 }
 
+TEST_F(BooksKeptTest, DamagedBooksAreRefusedAtEveryStart)
+{
+    gCn.Close();
+    DamageAPage();
+    QFile lock(FolderFile(QStringLiteral("Vetrolan.lock")));
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    lock.close();
+    for (int start = 1; start <= 3; ++start) {
+        EXPECT_EQ(Start([](Clerk& clerk) { EXPECT_EQ(OnTop(clerk), ""); }), 1) << start;
+        EXPECT_EQ(Boxes("is damaged in the tables"), start);
+        // Neither lock nor log tells of it any more, as when the log was put aside.
+        for (const char* ending : {"-wal", "-shm"})
+            QFile::remove(FolderFile(QStringLiteral("Morvelta.mdb") + QLatin1String(ending)));
+    }
+}
+
 TEST_F(BooksKeptTest, SoundBooksAreReadOnceAWeek)
 {
     const QString checked = FolderFile(QStringLiteral("Checked.txt"));

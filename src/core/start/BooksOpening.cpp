@@ -5,6 +5,7 @@
 #include "core/state/AppState.h"
 #include "platform/shell/AppFolder.h"
 #include "platform/shell/World.h"
+#include "platform/text/RunTimeError.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,11 +30,22 @@ QString CheckedFile()
     return LocalAppFile(u"Checked.txt");
 }
 
-void NoteCheck()
+void WriteChecked(const QString& line)
 {
     QFile file(CheckedFile());
     if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        file.write(Today().toString(Qt::ISODate).toLatin1());
+        file.write(line.toLatin1());
+}
+
+void NoteCheck()
+{
+    WriteChecked(Today().toString(Qt::ISODate));
+}
+
+// No day, so the next opening reads every page whatever has become of the lock and the log until then.
+void NoteThatCheckIsDue()
+{
+    WriteChecked(QStringLiteral("due"));
 }
 
 // Books that were never checked are new; their week begins now. A day to come is a clock that was put back.
@@ -58,7 +70,14 @@ void OpenBooks()
     plan.checksPages = std::exchange(g_checksNext, false) || IsCheckDue();
     plan.checking = [&] { line.emplace(); };
     plan.newestBackup = NewestBackup();
-    const QStringList notes = gCn.Open(Logon(), plan);
+    QStringList notes;
+    try {
+        notes = gCn.Open(Logon(), plan);
+    } catch (const RunTimeError&) {
+        if (line)
+            NoteThatCheckIsDue();
+        throw;
+    }
     if (line)
         NoteCheck();
     line.reset();

@@ -30,20 +30,36 @@ OpenedFile OpenForBooks(const QString& file, const QString& password)
     if (opened.Code() != SQLITE_OK)
         DatabaseErrors::ThrowFailure(opened.Handle(), opened.Code(), {});
     MakeReady(opened);
-    books.onDisk->Remember();
     books.handle = opened.LetGo();
     return books;
+}
+
+// The connection that has the books open measures the files by what it has met: one that comes later must not
+// take others for the same.
+void RequireUntouched(BooksOnDisk& books)
+{
+    using Verdict = BooksOnDisk::Verdict;
+    const Verdict found = books.isForeign ? Verdict::Changed : books.Look();
+    if (found == Verdict::LogGone)
+        DatabaseErrors::ThrowLogGone(false);
+    if (found != Verdict::Changed)
+        return;
+    books.isForeign = true;
+    DatabaseErrors::ThrowFilesChanged();
 }
 
 }
 
 OpenedFile DatabaseFile::Open(const QString& file, const QString& password, const OpeningPlan& plan)
 {
-    if (BooksOnDisk::AreOpen(file))
+    if (BooksOnDisk::AreOpen(file)) {
+        RequireUntouched(*BooksOnDisk::Hold(file));
         return OpenForBooks(file, password);
+    }
     Opening opening(file, password, plan);
     opening.Run();
     OpenedFile books = OpenForBooks(file, password);
+    books.onDisk->Remember();
     books.notes = opening.Notes();
     books.onDisk->round = opening.Round();
     return books;
@@ -61,7 +77,9 @@ OpenedFile DatabaseFile::Create(const QString& file, const QString& password)
                     .arg(file)));
     made.close();
     try {
-        return OpenForBooks(file, password);
+        OpenedFile books = OpenForBooks(file, password);
+        books.onDisk->Remember();
+        return books;
     } catch (...) {
         QFile::remove(file);
         throw;

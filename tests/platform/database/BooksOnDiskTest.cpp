@@ -152,6 +152,32 @@ TEST_F(BooksOnDiskTest, NorDoesTheFoldOfTheConnectionThatReportsAreReadOn)
     EXPECT_EQ(Bytes(), backup);
 }
 
+// A report is the first to open a second connection, and doesn't write.
+TEST_F(BooksOnDiskTest, BooksThatWereOverwrittenBeforeASecondConnectionCameAreTold)
+{
+    const QByteArray backup = BackupBehindTwoFolds();
+    Overwrite(backup);
+    Connection reader;
+    EXPECT_THROW(reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword), RunTimeError);
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    connection.Close();
+    EXPECT_EQ(Bytes(), backup);
+}
+
+TEST_F(BooksOnDiskTest, ALogThatWasRemovedBeforeASecondConnectionCameIsTold)
+{
+    Add(1);
+    Add(2);
+    ASSERT_TRUE(QFile::remove(Log()));
+    Connection reader;
+    EXPECT_THROW(reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword), RunTimeError);
+    EXPECT_TRUE(Refusal().contains(QStringLiteral("log beside the database file was removed")));
+    connection.Close();
+    Open();
+    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("2"));
+    EXPECT_TRUE(IsSound(connection));
+}
+
 TEST_F(BooksOnDiskTest, ARemovedLogThatAnotherProgramMadeAnewIsToldAllTheSame)
 {
     Add(1);
