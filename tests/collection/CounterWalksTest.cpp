@@ -96,7 +96,7 @@ TEST_P(CounterWalksTest, NoWayByKeyboardSavesARateOrAnAmountThatIsNotThatOfTheLi
             UseSilentTester();
         std::string keys;
         InTheShift([&](Clerk& clerk) {
-            for (int step = 0; step < 200; ++step) {
+            for (int step = 0; step < 300; ++step) {
                 const bool isAsked = clerk.ScreenName() == u"frmMessages";
                 const std::string focus = isAsked ? "frmMessages" : Focus(clerk);
                 const std::string key = isAsked ? "{ENTER}" : NextKey(focus);

@@ -3,6 +3,7 @@
 #include "core/start/MdlAccounts.h"
 #include "core/start/Program.h"
 #include "platform/database/Sql.h"
+#include "platform/forms/ProgramWindow.h"
 #include "platform/shell/AppFolder.h"
 #include "platform/text/Shivaji01.h"
 #include "tools/setup/Society.h"
@@ -42,6 +43,7 @@ SocietyTest::~SocietyTest()
     gCn.Close();
     gAppState = AppState();
     SetDrivesRoot({});
+    ProgramWindow::Leave(); // the line of a check may have opened it
 }
 
 void SocietyTest::AddMember(int number, const QString& name, const QString& animal)
