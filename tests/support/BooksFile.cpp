@@ -3,6 +3,7 @@
 #include <sqlcipher/sqlite3.h>
 
 #include <fstream>
+#include <set>
 #include <sstream>
 
 #include <sys/stat.h>
@@ -45,15 +46,17 @@ int BooksFile::LocksOn(const std::string& path)
     struct stat found { };
     if (stat(path.c_str(), &found) != 0)
         return 0;
-    int count = 0;
+    // While other processes lock and unlock, the table can name a lock twice: each is counted once.
+    std::set<std::string> ours;
     std::ifstream locks("/proc/locks");
     for (std::string line; std::getline(locks, line);) {
         std::istringstream words(line);
-        std::string number, kind, mode, way, process, file;
+        std::string number, kind, mode, way, process, file, range;
         words >> number >> kind >> mode >> way >> process >> file;
+        std::getline(words, range);
         if (kind == "POSIX" && process == std::to_string(getpid())
             && file.ends_with(':' + std::to_string(found.st_ino)))
-            ++count;
+            ours.insert(way + range);
     }
-    return count;
+    return static_cast<int>(ours.size());
 }
