@@ -3,6 +3,7 @@
 #include "platform/forms/Look.h"
 #include "platform/forms/Screen.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
