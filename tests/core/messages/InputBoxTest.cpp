@@ -3,6 +3,7 @@
 #include "core/start/Program.h"
 #include "platform/forms/ModalStack.h"
 #include "platform/forms/ProgramWindow.h"
+#include "tests/core/QueuedKeys.h"
 #include "tests/core/ScreenFace.h"
 #include "tests/support/SocietyTest.h"
 
@@ -91,13 +92,6 @@ TEST_F(InputBoxTest, ItBearsTheTitleThatIsAskedFor)
 
 TEST_F(InputBoxTest, KeysThatWereTypedAheadOfItAreThrownAway)
 {
-    for (int i = 0; i < 5; ++i)
-        QMetaObject::invokeMethod(
-            qApp,
-            [] {
-                QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-                QCoreApplication::sendEvent(ModalStack::Current().Top()->KeyTarget(), &press);
-            },
-            Qt::QueuedConnection);
+    QueueKeys(QStringLiteral("{ENTER}").repeated(5));
     Answer([](Clerk& clerk) { EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmInputBox")); });
 }

@@ -3,6 +3,7 @@
 #include "core/messages/Messages.h"
 #include "core/messages/Narrations.h"
 #include "platform/forms/ModalStack.h"
+#include "tests/core/QueuedKeys.h"
 #include "tests/core/ScreenFace.h"
 
 #include <QKeyEvent>
@@ -100,14 +101,7 @@ TEST_F(Messages, KeysThatWereTypedAheadOfAQuestionOrANoticeAreThrownAway)
         frmMessages::MessageAnswer = 0;
         Failure = TheClerk.Play(
             [&] {
-                for (const KeyStroke& stroke : ParseKeys(QString::fromLatin1(keys)))
-                    QMetaObject::invokeMethod(
-                        qApp,
-                        [stroke] {
-                            QKeyEvent press(QEvent::KeyPress, stroke.key, stroke.modifiers, stroke.text);
-                            QCoreApplication::sendEvent(ModalStack::Current().Top()->KeyTarget(), &press);
-                        },
-                        Qt::QueuedConnection);
+                QueueKeys(QString::fromLatin1(keys));
                 m_answer = Ask(Shivaji(u"roka^D- na@kI badlaayacao ka Æ"));
             },
             [keys](Clerk& clerk) {

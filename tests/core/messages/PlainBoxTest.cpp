@@ -5,6 +5,7 @@
 #include "platform/forms/Look.h"
 #include "platform/forms/ModalStack.h"
 #include "platform/forms/ProgramWindow.h"
+#include "tests/core/QueuedKeys.h"
 #include "tests/core/ScreenFace.h"
 #include "tests/support/SocietyTest.h"
 
@@ -107,14 +108,7 @@ TEST_F(PlainBoxTest, KeysThatWereTypedAheadOfItAreThrownAwayAndSoAreThoseOfAKeyT
 {
     Failure = TheClerk.Play(
         [] {
-            for (int i = 0; i < 5; ++i)
-                QMetaObject::invokeMethod(
-                    qApp,
-                    [] {
-                        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-                        QCoreApplication::sendEvent(ModalStack::Current().Top()->KeyTarget(), &press);
-                    },
-                    Qt::QueuedConnection);
+            QueueKeys(QStringLiteral("{ENTER}").repeated(5));
             ShowPlain(QStringLiteral("Duplicate Record"));
         },
         [](Clerk& clerk) {

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/forms/ModalStack.h"
+#include "platform/forms/Screen.h"
+#include "platform/forms/SendKeys.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+// Lets keys, in the form that SendKeys takes, wait in the application's queue: each reaches the screen that
+// is on top when its turn comes.
+inline void QueueKeys(const QString& keys)
+{
+    for (const KeyStroke& stroke : ParseKeys(keys))
+        QMetaObject::invokeMethod(
+            qApp,
+            [stroke] {
+                QKeyEvent press(QEvent::KeyPress, stroke.key, stroke.modifiers, stroke.text);
+                QCoreApplication::sendEvent(ModalStack::Current().Top()->KeyTarget(), &press);
+            },
+            Qt::QueuedConnection);
+}
