@@ -22,8 +22,9 @@ constexpr int LeastOfTheRest = 130;
 
 }
 
-// Its rows grow with the type, and its columns with the window: where none of them takes what is left they
-// fill it together, so that in a wide window the figures of a row don't stand far from one another.
+// Its rows grow with the type, and its columns with the window, so that in a wide one the figures of a row
+// don't stand far from one another. A text that takes what is left gets all that the others don't need for
+// that.
 class DataGrid::Table final : public WholeRows<QTableView> {
 public:
     Table(const std::vector<Column>& columns, const bool& isSideways)
