@@ -16,7 +16,8 @@ inline void QueueKeys(const QString& keys)
             qApp,
             [stroke] {
                 QKeyEvent press(QEvent::KeyPress, stroke.key, stroke.modifiers, stroke.text);
-                QCoreApplication::sendEvent(ModalStack::Current().Top()->KeyTarget(), &press);
+                if (const Screen* screen = ModalStack::Current().Top())
+                    QCoreApplication::sendEvent(screen->KeyTarget(), &press);
             },
             Qt::QueuedConnection);
 }

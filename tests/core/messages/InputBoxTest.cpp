@@ -1,14 +1,12 @@
 #include "core/messages/InputBox.h"
 
 #include "core/start/Program.h"
-#include "platform/forms/ModalStack.h"
 #include "platform/forms/ProgramWindow.h"
 #include "tests/core/QueuedKeys.h"
 #include "tests/core/ScreenFace.h"
 #include "tests/support/SocietyTest.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLineEdit>
 
 namespace {

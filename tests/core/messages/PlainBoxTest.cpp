@@ -112,7 +112,7 @@ TEST_F(PlainBoxTest, KeysThatWereTypedAheadOfItAreThrownAwayAndSoAreThoseOfAKeyT
             ShowPlain(QStringLiteral("Duplicate Record"));
         },
         [](Clerk& clerk) {
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmPlainBox"));
+            ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmPlainBox"));
             clerk.Do([] {
                 QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
                 QCoreApplication::sendEvent(ModalStack::Current().Top()->KeyTarget(), &held);

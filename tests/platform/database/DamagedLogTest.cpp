@@ -1,12 +1,8 @@
 #include "tests/platform/database/LogTest.h"
 #include "tests/support/FaultyDisk.h"
 
-#include <QRegularExpression>
-
 #include <csignal>
 #include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
