@@ -16,6 +16,7 @@ int g_count = 0;
 int g_fullFrom = Never;
 int g_brokenFrom = Never;
 int g_killAt = Never;
+int g_unreadableBehind = Never;
 bool g_hasRoomForAnIndex = true;
 
 [[noreturn]] void Die()
@@ -42,6 +43,7 @@ public:
         return g_count >= g_fullFrom ? SQLITE_FULL : make(change.count);
     }
 
+    bool CanBeRead() override { return g_count < g_unreadableBehind; }
     bool HasRoomForAnIndex() override { return g_hasRoomForAnIndex; }
 };
 
@@ -59,6 +61,7 @@ void FaultyDisk::Reset()
     g_fullFrom = Never;
     g_brokenFrom = Never;
     g_killAt = Never;
+    g_unreadableBehind = Never;
     g_hasRoomForAnIndex = true;
 }
 
@@ -75,6 +78,11 @@ void FaultyDisk::FullFrom(int n)
 void FaultyDisk::BrokenFrom(int n)
 {
     g_brokenFrom = n;
+}
+
+void FaultyDisk::UnreadableBehind(int n)
+{
+    g_unreadableBehind = n;
 }
 
 void FaultyDisk::KillAt(int n)

@@ -16,6 +16,10 @@ void FullFrom(int n);
 // Broken from the n-th (from 1) write, sync or cutting on: the engine is told of an input/output error.
 void BrokenFrom(int n);
 
+// Can't be read behind the n-th write, sync or cutting: whoever begins to read is told of an input/output
+// error.
+void UnreadableBehind(int n);
+
 // Has no room from now on for the index of a log.
 void NoRoomForAnIndex();
 

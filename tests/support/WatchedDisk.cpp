@@ -108,6 +108,9 @@ int ShmMap(sqlite3_file* file, int region, int size, int extend, void volatile**
 
 int ShmLock(sqlite3_file* file, int offset, int count, int flags)
 {
+    constexpr int beginsToRead = SQLITE_SHM_LOCK | SQLITE_SHM_SHARED;
+    if (flags == beginsToRead && PathOf(file) && !g_watcher->CanBeRead())
+        return SQLITE_IOERR_SHMLOCK;
     return Real(file)->pMethods->xShmLock(Real(file), offset, count, flags);
 }
 

@@ -28,6 +28,9 @@ public:
     // Whether the disk has room for the engine's index to a log.
     virtual bool HasRoomForAnIndex() { return true; }
 
+    // Whether the disk lets the engine begin a reading.
+    virtual bool CanBeRead() { return true; }
+
     // The engine's index to a log lies in memory from now on, or does no longer (nullptr).
     virtual void IndexMoved(const char* database, const volatile void* memory, int size);
 

@@ -1,6 +1,7 @@
 #include "platform/database/ConnectionPrivate.h"
 
 #include "platform/database/DatabaseErrors.h"
+#include "platform/database/KeyAnswer.h"
 #include "platform/database/LiteralBinding.h"
 
 #include <sqlcipher/sqlite3.h>
@@ -162,10 +163,7 @@ void Connection::Private::KeepRests(const Translation* writing)
 void Connection::Private::RequireTransaction() const
 {
     if (m_depth > 0 && sqlite3_get_autocommit(m_handle) != 0)
-        throw RunTimeError(RunTimeError::DatabaseFailure,
-            Sentences(u"काम अर्धवट राहिले; काहीही जतन झाले नाही. पुन्हा सुरू करा.",
-                QStringLiteral(
-                    "The transaction was rolled back after a failure; nothing was saved. Start again.")));
+        DatabaseErrors::ThrowRolledBack();
 }
 
 // Two looks at names cost nothing beside a save; saving into files that nobody will open again costs the day.
@@ -330,15 +328,14 @@ void Connection::Private::Commit()
     m_depth = 0;
     if (m_isDoomed) {
         Rollback();
-        throw RunTimeError(RunTimeError::DatabaseFailure,
-            Sentences(u"कामाचा एक भाग पूर्ण झाला नाही; काहीही जतन झाले नाही.",
-                QStringLiteral("A part of the transaction was given up; nothing was saved.")));
+        DatabaseErrors::ThrowGivenUp();
     }
     if (const int code = RunOwn("commit"); code != SQLITE_OK) {
         const RunTimeError failure = DatabaseErrors::CommitFailure(m_handle, code);
         Rollback();
         throw failure;
     }
+    KeyAnswer::NoteSaved();
     if (m_newRound) {
         m_onDisk->round.Write(*m_newRound);
         m_newRound.reset();

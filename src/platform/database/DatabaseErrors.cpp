@@ -1,5 +1,7 @@
 #include "platform/database/DatabaseErrors.h"
 
+#include "platform/database/KeyAnswer.h"
+
 #include <sqlcipher/sqlite3.h>
 
 namespace {
@@ -16,6 +18,7 @@ QString Shown(QStringView statement)
     return shown;
 }
 
+// Texts with %1 where they say what has become of the entry.
 struct Reason {
     int code;
     const char16_t* marathi;
@@ -23,30 +26,45 @@ struct Reason {
 };
 
 constexpr Reason Reasons[] = {
-    {SQLITE_FULL, u"डिस्क भरली आहे; काहीही जतन झाले नाही. डिस्कवर जागा करा आणि पुन्हा सुरू करा.",
-        "The disk is full; nothing was saved. Make room on the disk and start again."},
-    {SQLITE_BUSY, u"डेटाबेस दुसरा प्रोग्राम वापरत आहे; काहीही जतन झाले नाही. तो बंद करा आणि पुन्हा सुरू करा.",
-        "The database is in use by another program; nothing was saved. Close it and start again."},
-    {SQLITE_LOCKED, u"डेटाबेस वापरात आहे; काहीही जतन झाले नाही. पुन्हा सुरू करा.",
-        "The database is locked; nothing was saved. Start again."},
-    {SQLITE_IOERR, u"डिस्कवर वाचता किंवा लिहिता आले नाही; काहीही जतन झाले नाही. डिस्क तपासा आणि पुन्हा सुरू करा.",
-        "The disk can't be read or written; nothing was saved. Check the disk and start again."},
+    {SQLITE_FULL, u"डिस्क भरली आहे; %1. डिस्कवर जागा करा आणि पुन्हा सुरू करा.",
+        "The disk is full; %1. Make room on the disk and start again."},
+    {SQLITE_BUSY, u"डेटाबेस दुसरा प्रोग्राम वापरत आहे; %1. तो बंद करा आणि पुन्हा सुरू करा.",
+        "The database is in use by another program; %1. Close it and start again."},
+    {SQLITE_LOCKED, u"डेटाबेस वापरात आहे; %1. पुन्हा सुरू करा.", "The database is locked; %1. Start again."},
+    {SQLITE_IOERR, u"डिस्कवर वाचता किंवा लिहिता आले नाही; %1. डिस्क तपासा आणि पुन्हा सुरू करा.",
+        "The disk can't be read or written; %1. Check the disk and start again."},
     {SQLITE_CORRUPT, u"हिशेबाची फाइल बिघडली आहे. शेवटचा बॅकअप परत आणा.",
         "The database file is damaged. Restore the last backup."},
     {SQLITE_NOTADB, u"हिशेबाची फाइल बिघडली आहे. शेवटचा बॅकअप परत आणा.",
         "The database file is damaged. Restore the last backup."},
-    {SQLITE_READONLY, u"हिशेबाच्या फाइलमध्ये लिहिता येत नाही; काहीही जतन झाले नाही. फाइलची परवानगी तपासा.",
-        "The database file can't be written; nothing was saved. Check the permissions of the file."},
+    {SQLITE_READONLY, u"हिशेबाच्या फाइलमध्ये लिहिता येत नाही; %1. फाइलची परवानगी तपासा.",
+        "The database file can't be written; %1. Check the permissions of the file."},
     {SQLITE_CANTOPEN, u"हिशेबाची फाइल उघडता आली नाही. फोल्डरची परवानगी तपासा.",
         "The database file can't be opened. Check the permissions of its folder."},
     {SQLITE_NOMEM, u"मेमरी संपली आहे. दुसरे प्रोग्राम बंद करा आणि पुन्हा सुरू करा.",
         "There is no memory left. Close other programs and start again."},
     {SQLITE_AUTH, u"हे विधान चालवू दिले जात नाही; काहीही बदलले नाही.",
         "The statement isn't one of the system's; nothing was changed."},
-    {SQLITE_INTERRUPT, u"हे काम फार वेळ चालले म्हणून थांबवले; काहीही जतन झाले नाही. पुन्हा सुरू करा.",
-        "The statement took too long and was ended; nothing was saved. Start again."},
-    {SQLITE_MISMATCH, u"माहितीचा प्रकार जुळत नाही; काहीही जतन झाले नाही.", "Type mismatch; nothing was saved."},
+    {SQLITE_INTERRUPT, u"हे काम फार वेळ चालले म्हणून थांबवले; %1. पुन्हा सुरू करा.",
+        "The statement took too long and was ended; %1. Start again."},
+    {SQLITE_MISMATCH, u"माहितीचा प्रकार जुळत नाही; %1.", "Type mismatch; %1."},
 };
+
+QString Filled(QString text, QStringView nothingSaved, QStringView mayBeSaved)
+{
+    const QStringView outcome = KeyAnswer::HasSaved() ? mayBeSaved : nothingSaved;
+    return text.replace(QStringLiteral("%1"), outcome.toString());
+}
+
+// `english` goes on with what only the helper wants to know.
+QString Told(QStringView marathi, const char* english, const QString& detail = {})
+{
+    const QString clerks =
+        Filled(marathi.toString(), u"काहीही जतन झाले नाही", u"शेवटची नोंद पुन्हा भरण्याआधी ती आहे का ते पाहा");
+    const QString helpers = Filled(QString::fromUtf8(english), u"nothing was saved",
+        u"look whether the last entry is there before you key it again");
+    return Sentences(clerks, helpers + detail);
+}
 
 // The engine tells a file that has no room to grow from a disk that fails, but not for the index of its log,
 // which takes 32 KB before anything is read or written.
@@ -55,6 +73,19 @@ bool IsFull(sqlite3* handle, int code)
     return (code & 0xFF) == SQLITE_IOERR && sqlite3_extended_errcode(handle) == SQLITE_IOERR_SHMSIZE;
 }
 
+}
+
+void DatabaseErrors::ThrowRolledBack()
+{
+    throw RunTimeError(RunTimeError::DatabaseFailure,
+        Told(u"काम अर्धवट राहिले; %1. पुन्हा सुरू करा.",
+            "The transaction was rolled back after a failure; %1. Start again."));
+}
+
+void DatabaseErrors::ThrowGivenUp()
+{
+    throw RunTimeError(RunTimeError::DatabaseFailure,
+        Told(u"कामाचा एक भाग पूर्ण झाला नाही; %1.", "A part of the transaction was given up; %1."));
 }
 
 void DatabaseErrors::ThrowRefused(const char* english, QStringView statement)
@@ -66,23 +97,20 @@ void DatabaseErrors::ThrowRefused(const char* english, QStringView statement)
 void DatabaseErrors::ThrowApostrophe(QStringView statement)
 {
     throw RunTimeError(RunTimeError::DatabaseFailure,
-        Sentences(u"माहितीत ' हे चिन्ह चालत नाही; काहीही जतन झाले नाही. त्या चिन्हाशिवाय पुन्हा भरा.",
-            QStringLiteral("A value holds an apostrophe ('); nothing was saved.")),
+        Told(u"माहितीत ' हे चिन्ह चालत नाही; %1. त्या चिन्हाशिवाय पुन्हा भरा.",
+            "A value holds an apostrophe ('); %1."),
         Shown(statement));
 }
 
 void DatabaseErrors::ThrowMismatch(QStringView value, QStringView statement)
 {
     throw RunTimeError(RunTimeError::TypeMismatch,
-        Sentences(u"माहितीचा प्रकार जुळत नाही; काहीही जतन झाले नाही.",
-            QStringLiteral("Type mismatch: \"") + Shown(value) + QStringLiteral("\"")),
-        Shown(statement));
+        Told(u"माहितीचा प्रकार जुळत नाही; %1.", "Type mismatch; %1: ", Shown(value)), Shown(statement));
 }
 
 void DatabaseErrors::ThrowOverflow(QStringView value, QStringView statement)
 {
-    throw RunTimeError(RunTimeError::Overflow,
-        Sentences(u"संख्या फार मोठी आहे; काहीही जतन झाले नाही.", QStringLiteral("Overflow: ") + Shown(value)),
+    throw RunTimeError(RunTimeError::Overflow, Told(u"संख्या फार मोठी आहे; %1.", "Overflow; %1: ", Shown(value)),
         Shown(statement));
 }
 
@@ -95,14 +123,11 @@ RunTimeError DatabaseErrors::Failure(sqlite3* handle, int code, QStringView stat
             continue;
         const int number =
             primary == SQLITE_MISMATCH ? RunTimeError::TypeMismatch : RunTimeError::DatabaseFailure;
-        const QString english = QString::fromUtf8(reason.english)
-            + QStringLiteral(" (%1, %2)").arg(detail, QString::number(code));
-        return RunTimeError(number, Sentences(reason.marathi, english), Shown(statement));
+        const QString asTold = QStringLiteral(" (%1, %2)").arg(detail, QString::number(code));
+        return RunTimeError(number, Told(reason.marathi, reason.english, asTold), Shown(statement));
     }
     return RunTimeError(RunTimeError::DatabaseFailure,
-        Sentences(
-            u"हे काम करता आले नाही; काहीही बदलले नाही.", QStringLiteral("The statement failed: ") + detail),
-        Shown(statement));
+        Told(u"हे काम करता आले नाही; %1.", "The statement failed; %1: ", detail), Shown(statement));
 }
 
 RunTimeError DatabaseErrors::CommitFailure(sqlite3* handle, int code)

@@ -7,8 +7,12 @@
 struct sqlite3;
 
 // What goes wrong with the books, said to the clerk: what happened and what to do, then the detail in
-// English.
+// English. That nothing was saved is said only where it is known; behind a commit the clerk is told to look.
 namespace DatabaseErrors {
+
+// The engine has rolled back on its own; or a part of the transaction was given up.
+[[noreturn]] void ThrowRolledBack();
+[[noreturn]] void ThrowGivenUp();
 
 // A statement that isn't one of the system's is not run.
 [[noreturn]] void ThrowRefused(const char* english, QStringView statement);

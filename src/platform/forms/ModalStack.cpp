@@ -1,6 +1,9 @@
 #include "platform/forms/ModalStack.h"
 
+#include "platform/database/KeyAnswer.h"
 #include "platform/forms/Screen.h"
+
+#include <optional>
 
 ModalStack& ModalStack::Current()
 {
@@ -46,6 +49,9 @@ void ModalStack::Reset()
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {
+    std::optional<KeyAnswer> answer;
+    if (event->isInputEvent())
+        answer.emplace();
     try {
         return QApplication::notify(receiver, event);
     } catch (const RunTimeError& error) {
