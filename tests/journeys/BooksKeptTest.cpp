@@ -272,6 +272,19 @@ TEST_F(BooksKeptTest, DamagedBooksAreRefusedAtEveryStart)
     }
 }
 
+TEST_F(BooksKeptTest, BooksWithoutAWordOfWhenTheyWereReadAreReadAtOnce)
+{
+    gCn.Close();
+    ASSERT_TRUE(QFile::remove(FolderFile(QStringLiteral("Checked.txt"))));
+    DamageAPage();
+    try {
+        Reopen();
+        FAIL() << "it opened";
+    } catch (const RunTimeError& error) {
+        EXPECT_TRUE(error.Happened().contains(QStringLiteral("is damaged in the tables"))) << error.what();
+    }
+}
+
 TEST_F(BooksKeptTest, SoundBooksAreReadOnceAWeek)
 {
     const QString checked = FolderFile(QStringLiteral("Checked.txt"));
@@ -279,7 +292,7 @@ TEST_F(BooksKeptTest, SoundBooksAreReadOnceAWeek)
         QFile file(checked);
         return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
     };
-    EXPECT_EQ(day(), QStringLiteral("2026-04-15"));
+    EXPECT_EQ(day(), QStringLiteral("2026-04-15")) << "the day on which the books were made";
     TheClock.Time = TheClock.Time.addDays(6);
     Reopen();
     EXPECT_EQ(day(), QStringLiteral("2026-04-15"));

@@ -32,6 +32,7 @@ SocietyTest::SocietyTest()
     plan.name = QStringLiteral("श्री गणेश दूध संस्था");
     plan.year = QStringLiteral("2026-2027");
     plan.password = QStringLiteral("Doodh#26");
+    plan.now = TheClock.Time;
     CopySociety(folder, plan);
     RegisterPlaces();
     LoadAppState();

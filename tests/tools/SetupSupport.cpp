@@ -93,7 +93,9 @@ QStringList FilesIn(const QString& folder)
 QStringList BooksIn(const QString& folder)
 {
     QStringList names = FilesIn(folder);
-    names.removeIf([](const QString& name) { return name.endsWith(QStringLiteral(".rpt")); });
+    names.removeIf([](const QString& name) {
+        return name.endsWith(QStringLiteral(".rpt")) || name == QStringLiteral("Checked.txt");
+    });
     return names;
 }
 

@@ -25,7 +25,7 @@ QByteArray FileContent(const QString& file);
 // The names of everything in a folder, in the order of the alphabet.
 QStringList FilesIn(const QString& folder);
 
-// The same without the report templates.
+// The same without the report templates and the note of sound pages.
 QStringList BooksIn(const QString& folder);
 
 // Copies the society of GoodPlan from one folder to another as a power cut leaves it: the last writing, a

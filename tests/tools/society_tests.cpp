@@ -42,12 +42,23 @@ protected:
     QString File(QStringView name) const { return QDir(Folder()).filePath(name.toString()); }
 };
 
-TEST_F(Society, HasADatabaseAPasswordABackupFolderAndTheTemplatesAndNothingElse)
+TEST_F(Society, BeginsTheWeekInWhichItsPagesAreKnownToBeSound)
+{
+    SocietyPlan plan = GoodPlan();
+    plan.now = QDateTime(QDate(2026, 4, 1), QTime(10, 15));
+    MakeSociety(Folder(), plan);
+    QFile note(File(u"Checked.txt"));
+    ASSERT_TRUE(note.open(QIODevice::ReadOnly));
+    EXPECT_EQ(note.readAll(), "2026-04-01");
+}
+
+TEST_F(Society, HasADatabaseAPasswordABackupFolderTheTemplatesANoteOfSoundPagesAndNothingElse)
 {
     MakeSociety(Folder(), GoodPlan());
     EXPECT_EQ(BooksIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
-    EXPECT_EQ(
-        FilesIn(Folder()).size() - BooksIn(Folder()).size(), static_cast<int>(Delivered::Templates().size()));
+    EXPECT_TRUE(QFile::exists(File(u"Checked.txt")));
+    EXPECT_EQ(FilesIn(Folder()).size() - BooksIn(Folder()).size(),
+        static_cast<int>(Delivered::Templates().size()) + 1);
     EXPECT_TRUE(QFileInfo(File(BackupFolderName)).isDir());
 }
 

@@ -1,6 +1,7 @@
 #include "tools/setup/Society.h"
 
 #include "delivered/Delivered.h"
+#include "platform/database/CheckedNote.h"
 #include "platform/database/Connection.h"
 #include "platform/database/DataSource.h"
 #include "platform/text/PasswordItems.h"
@@ -285,6 +286,7 @@ void Make(const QString& folder, const SocietyPlan& plan, const Filling& filling
     SafeFiles::Write(made.Password(), PasswordFile::Written(plan.password));
     SafeFiles::MakeFolder(FileIn(folder, BackupFolderName));
     PutInPlace(made, folder, plan.now);
+    CheckedNote::Write(folder, plan.now.date());
 }
 
 void CopyFile(const QString& from, const QString& to, QStringView name)
@@ -346,6 +348,7 @@ void CopySociety(const QString& folder, const SocietyPlan& plan)
     SafeFiles::MakeFolder(FileIn(folder, BackupFolderName));
     CopyFile(made.value(key), folder, DatabaseFileName);
     CopyFile(made.value(key), folder, PasswordFileName);
+    CheckedNote::Write(folder, plan.now.date());
     for (const Delivered::File& file : Delivered::Templates())
         CopyFile(made.value(key), folder, file.name);
 }

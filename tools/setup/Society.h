@@ -21,9 +21,8 @@ inline constexpr QStringView BackupFolderName = u"Backup";
 // Why no society can be made of a plan: one sentence, or an empty text if it can.
 QString WhyRefused(const SocietyPlan& plan);
 
-// Makes a society in a folder: the database, the password's file, the folder of the backups and the report
-// templates. A refused
-// plan, an older database that isn't to be replaced, and a file that can't be written are RunTimeErrors.
+// Makes a society in a folder: the database, the note that its pages are sound, the password's file, the folder
+// of the backups and the report templates. A refused plan, an older database that isn't to be replaced, and a file that can't be written are RunTimeErrors.
 //
 // A power cut or an error leaves either the older society as it was, or no database and the older society
 // whole under a dated name (its log and its password under the same date); making the society again is all

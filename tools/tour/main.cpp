@@ -67,6 +67,7 @@ void MakeItsOwnSociety(const QString& drives)
     plan.year = QStringLiteral("2026-2027");
     plan.password = QStringLiteral("Tour-2026");
     plan.demo = true;
+    plan.now = MorningClock().Now();
     MakeSociety(folder, plan);
     RegisterPlaces();
     Connection books;

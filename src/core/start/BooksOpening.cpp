@@ -3,19 +3,17 @@
 #include "core/messages/Messages.h"
 #include "core/start/CheckingLine.h"
 #include "core/state/AppState.h"
+#include "platform/database/CheckedNote.h"
 #include "platform/shell/AppFolder.h"
 #include "platform/shell/World.h"
 #include "platform/text/RunTimeError.h"
 
 #include <QDir>
-#include <QFile>
 
 #include <optional>
 #include <utility>
 
 namespace {
-
-constexpr int DaysBetweenChecks = 7;
 
 bool g_checksNext = false;
 
@@ -24,50 +22,14 @@ QDate Today()
     return World::Current().clock->Now().date();
 }
 
-// A file of one line: the day on which every page was read last.
-QString CheckedFile()
-{
-    return LocalAppFile(u"Checked.txt");
-}
-
-void WriteChecked(const QString& line)
-{
-    QFile file(CheckedFile());
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        file.write(line.toLatin1());
-}
-
-void NoteCheck()
-{
-    WriteChecked(Today().toString(Qt::ISODate));
-}
-
-// No day, so the next opening reads every page whatever has become of the lock and the log until then.
-void NoteThatCheckIsDue()
-{
-    WriteChecked(QStringLiteral("due"));
-}
-
-// Books that were never checked are new; their week begins now. A day to come is a clock that was put back.
-bool IsCheckDue()
-{
-    QFile file(CheckedFile());
-    if (!file.open(QIODevice::ReadOnly)) {
-        NoteCheck();
-        return false;
-    }
-    constexpr qint64 lengthOfADate = 10;
-    const QDate last = QDate::fromString(QString::fromLatin1(file.read(lengthOfADate)), Qt::ISODate);
-    return !last.isValid() || last > Today() || last.daysTo(Today()) >= DaysBetweenChecks;
-}
-
 }
 
 void OpenBooks()
 {
+    const QString folder = LocalPath(AppFolder);
     std::optional<CheckingLine> line;
     OpeningPlan plan;
-    plan.checksPages = std::exchange(g_checksNext, false) || IsCheckDue();
+    plan.checksPages = std::exchange(g_checksNext, false) || CheckedNote::IsDue(folder, Today());
     plan.checking = [&] { line.emplace(); };
     plan.newestBackup = NewestBackup();
     QStringList notes;
@@ -75,11 +37,11 @@ void OpenBooks()
         notes = gCn.Open(Logon(), plan);
     } catch (const RunTimeError&) {
         if (line)
-            NoteThatCheckIsDue();
+            CheckedNote::WriteDue(folder);
         throw;
     }
     if (line)
-        NoteCheck();
+        CheckedNote::Write(folder, Today());
     line.reset();
     for (const QString& note : notes)
         ShowPlain(note);
