@@ -72,13 +72,17 @@ bool LogMark::IsFolding(qint32 base)
     return (static_cast<quint32>(base) & FoldingBit) != 0;
 }
 
+bool LogMark::WereThereBefore(const FileState& books, const FileState& log)
+{
+    return books.written <= log.written + OneCopying;
+}
+
 bool LogMark::GoesOnFrom(qint32 booksRound, const FileState& books, const FileState& log) const
 {
-    if (round == booksRound)
+    if (round == booksRound && round != 0)
         return true;
     const auto bits = static_cast<quint32>(base);
     if ((bits & MarkMask) != MarkBits(booksRound))
         return false;
-    return IsFolding(base) || (bits & TraceMask) == TraceBits(books)
-        || books.written <= log.written + OneCopying;
+    return IsFolding(base) || (bits & TraceMask) == TraceBits(books) || WereThereBefore(books, log);
 }

@@ -30,8 +30,11 @@ struct LogMark {
     static qint32 Folding(qint32 base);
     static bool IsFolding(qint32 base);
 
-    // Whether a log with these marks goes on from these books. Books that were put there after the log was
-    // written are a copy: they are what somebody wants to have back, even if the log would fit them.
+    // Whether these books stood there when the log was written. Books that were put there later are a copy:
+    // they are what somebody wants to have back, even if the log would fit them.
+    static bool WereThereBefore(const FileState& books, const FileState& log);
+
+    // Whether a log with these marks goes on from these books.
     bool GoesOnFrom(qint32 booksRound, const FileState& books, const FileState& log) const;
 };
 

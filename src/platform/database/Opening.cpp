@@ -129,7 +129,7 @@ void Opening::LookAndMend()
     if (m_first.IsUnreadable() && HasLoggedPage() && m_logged.IsReadable())
         ReturnFirstSector();
     RequireRightPassword();
-    if (HasLoggedPage() && !IsLogOfThisFile())
+    if (m_log.databasePages > 0 && !IsLogOfThisFile())
         PutForeignLogAside();
     RequirePages();
     if (m_log.isThere || m_plan.checksPages)
@@ -176,8 +176,12 @@ void Opening::RequireLookedAt(const FirstPage& page) const
         DatabaseErrors::ThrowFailure(nullptr, page.code, {});
 }
 
+// A log without a first page has no marks: a shell wrote it.
 bool Opening::IsLogOfThisFile() const
 {
+    if (!HasLoggedPage())
+        return LogMark::WereThereBefore(FileState::Of(m_file), FileState::Of(WriteAheadLog::NameFor(m_file)))
+            || m_log.IsPartlyFolded(m_file, PageSize);
     if (!m_logged.IsReadable() || m_log.firstPage.left(SaltSize) != Salt())
         return false;
     return !m_first.IsReadable()

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QtEndian>
 
+#include <algorithm>
+
 namespace {
 
 constexpr quint32 Magic = 0x377f0682; // the lowest bit tells the byte order of the checksums
@@ -72,6 +74,9 @@ public:
     }
 
     const QByteArray& Salts() const { return m_salts; }
+
+    // Where the content of the frame that was read last begins.
+    qint64 ContentAt() const { return m_file.pos() - m_pageSize; }
 
     bool ReadNext(Frame& frame)
     {
@@ -159,7 +164,7 @@ WriteAheadLog WriteAheadLog::Read(const QString& databaseFile, int pageSize)
         return log;
     }
 
-    QSet<quint32> pages;
+    QHash<quint32, qint64> pages;
     QByteArray firstPage;
     quint32 frames = 0;
     quint32 committedFrames = 0;
@@ -170,7 +175,7 @@ WriteAheadLog WriteAheadLog::Read(const QString& databaseFile, int pageSize)
             break;
         }
         ++frames;
-        pages.insert(frame.Page());
+        pages.insert(frame.Page(), reader.ContentAt());
         if (frame.Page() == 1)
             firstPage = frame.bytes.mid(FrameHeadSize);
         if (!frame.IsCommit())
@@ -185,4 +190,20 @@ WriteAheadLog WriteAheadLog::Read(const QString& databaseFile, int pageSize)
     if (log.lostCommits == 0 && known > committedFrames)
         log.lostCommits = CommitsIn(known - committedFrames, committedFrames, commits);
     return log;
+}
+
+// Each writing of a page encrypts it anew, so that the same bytes are the same writing.
+bool WriteAheadLog::IsPartlyFolded(const QString& databaseFile, int pageSize) const
+{
+    QFile log(NameFor(databaseFile));
+    QFile file(databaseFile);
+    if (!log.open(QIODevice::ReadOnly) || !file.open(QIODevice::ReadOnly))
+        return false;
+    return std::any_of(pages.keyValueBegin(), pages.keyValueEnd(), [&](const auto& page) {
+        const auto [number, at] = page;
+        if (!log.seek(at) || !file.seek(qint64(number - 1) * pageSize))
+            return false;
+        const QByteArray content = log.read(pageSize);
+        return content.size() == pageSize && content == file.read(pageSize);
+    });
 }

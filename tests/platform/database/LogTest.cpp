@@ -5,6 +5,15 @@
 // How the log is folded, and whose it is.
 namespace {
 
+namespace {
+
+void RunRaw(const Connection& books, const char* statement)
+{
+    ASSERT_EQ(sqlite3_exec(books.Handle(), statement, nullptr, nullptr, nullptr), SQLITE_OK) << statement;
+}
+
+}
+
 TEST_F(LogTest, FoldingLeavesNothingInTheLogAndAllInTheFile)
 {
     Add("gaava");
@@ -105,6 +114,52 @@ TEST_F(LogTest, ABackupOfTheVeryFilePutThereLaterIsTakenAsItIs)
     EXPECT_EQ(OpenAgain(left).size(), 1);
     EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
     EXPECT_EQ(LogsAside(left).size(), 1);
+}
+
+// Books that only the installer has written, and the log of a shell that was killed beside them.
+TEST_F(LogTest, ABackupWithoutMarksPutBesideALogWithoutMarksLaterIsTakenAsItIs)
+{
+    MakeUnmarkedBooks();
+    RunRaw(connection, "insert into CityMaster(CompanyId,CityName) values(1,'ek')");
+    const QString left = Left(QStringLiteral("left"));
+    Age(left, 3600);
+    EXPECT_EQ(OpenAgain(left).size(), 1);
+    EXPECT_EQ(TownsOf(again), QString());
+    EXPECT_EQ(LogsAside(left).size(), 1);
+}
+
+TEST_F(LogTest, ALogWithoutMarksIsPlayedIntoItsBooksWithoutMarks)
+{
+    MakeUnmarkedBooks();
+    RunRaw(connection, "insert into CityMaster(CompanyId,CityName) values(1,'ek')");
+    const QString left = Left(QStringLiteral("left"));
+    EXPECT_EQ(OpenAgain(left), QStringList());
+    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
+    EXPECT_EQ(LogsAside(left).size(), 0);
+}
+
+TEST_F(LogTest, ALogWithoutMarksWhoseFoldWasCutOffIsStillItsBooks)
+{
+    MakeUnmarkedBooks();
+    RunRaw(connection, "insert into CityMaster(CompanyId,CityName) values(1,'ek')");
+    const QString left = Left(QStringLiteral("left"));
+    FoldAsTheShellDoes();
+    QByteArray books = Bytes(left);
+    const QByteArray folded = Bytes(file);
+    ASSERT_EQ(books.size(), folded.size());
+    constexpr int page = 4096;
+    int changed = 0;
+    for (int at = page; at < books.size() && changed == 0; at += page) {
+        if (books.mid(at, page) == folded.mid(at, page))
+            continue;
+        books.replace(at, page, folded.mid(at, page));
+        ++changed;
+    }
+    ASSERT_EQ(changed, 1);
+    Write(left, books);
+    Age(left, 3600);
+    EXPECT_EQ(OpenAgain(left), QStringList());
+    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
 }
 
 TEST_F(LogTest, ALogThatIsInTheBooksAlreadyButWasNotEmptiedIsTheirs)

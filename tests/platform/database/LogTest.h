@@ -33,6 +33,24 @@ protected:
         return towns.join(u' ');
     }
 
+    // The books as the installer leaves them: the program hasn't marked them yet.
+    void MakeUnmarkedBooks()
+    {
+        connection.Close();
+        for (const char* ending : {"", "-wal", "-shm"})
+            QFile::remove(file + QLatin1String(ending));
+        connection.Create(file, TestPassword);
+        connection.RunScript(QString::fromUtf8(TestTables));
+        FoldAsTheShellDoes();
+    }
+
+    void FoldAsTheShellDoes()
+    {
+        ASSERT_EQ(sqlite3_wal_checkpoint_v2(
+                      connection.Handle(), nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr),
+            SQLITE_OK);
+    }
+
     // A fold that another connection's reading breaks off: the marks of its beginning are in the log, and of
     // the pages some have come into the file.
     void BreakOffAFold()
