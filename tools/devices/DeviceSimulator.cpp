@@ -132,7 +132,7 @@ bool DeviceSimulator::IsListenedTo() const
 void DeviceSimulator::Take()
 {
     pollfd line{m_master, POLLIN, 0};
-    std::array<char, 256> buffer;
+    std::array<char, 256> buffer{};
     while (m_master >= 0 && poll(&line, 1, 0) > 0 && (line.revents & POLLIN) != 0) {
         const ssize_t count = read(m_master, buffer.data(), buffer.size());
         if (count <= 0)

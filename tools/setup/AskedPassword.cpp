@@ -120,7 +120,7 @@ QString AskedPassword::Read()
     const UnseenTyping unseen;
     const auto wait = [&] { unseen.WaitForInput(); };
     Prompt("Password of the books (it isn't shown): ");
-    const QString password = Line(wait);
+    QString password = Line(wait);
     Prompt("The same once more: ");
     if (Line(wait) != password)
         Fail(QStringLiteral("The two passwords differ."));

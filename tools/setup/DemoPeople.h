@@ -8,8 +8,8 @@
 struct DemoMember {
     QStringView name;
     QStringView animal; // as stored
-    bool byBank;
-    int village; // of DemoVillages
+    bool byBank = false;
+    int village = 0; // of DemoVillages
 };
 
 inline constexpr std::array<QStringView, 4> DemoVillages{u"कराड", u"सातारा", u"मसूर", u"वडगाव"};
@@ -60,7 +60,7 @@ inline constexpr std::array<DemoMember, 40> DemoMembers{{
 struct DemoCustomer {
     QStringView name;
     QStringView animal;
-    bool federation;
+    bool federation = false;
 };
 
 inline constexpr std::array<DemoCustomer, 6> DemoCustomers{{

@@ -298,7 +298,7 @@ void CopyFile(const QString& from, const QString& to, QStringView name)
 
 QString WhyRefused(const SocietyPlan& plan)
 {
-    const QString name = WhyNameRefused(plan.name);
+    QString name = WhyNameRefused(plan.name);
     if (!name.isEmpty())
         return name;
     const QString year = WhyYearRefused(plan.year);

@@ -31,7 +31,7 @@ public:
     explicit Catalogue(sqlite3* handle) : m_handle(handle) { }
 
     // The table or view of a name in any spelling; nullptr if the file has none.
-    std::shared_ptr<const Table> Find(QStringView table);
+    std::shared_ptr<const Table> Find(QStringView name);
 
     // A table was made or dropped: everything is read anew.
     void Forget() { m_tables.clear(); }

@@ -47,7 +47,7 @@ struct FirstPage {
     static FirstPage OfFile(const QString& file, const QString& password);
 
     // Of a page that lies in the log of a database of so many pages.
-    static FirstPage OfBytes(const QByteArray& page, quint32 pages, const QString& password);
+    static FirstPage OfBytes(const QByteArray& bytes, quint32 pages, const QString& password);
 
     bool IsReadable() const { return code == 0; }
     bool IsUnreadable() const; // no database, or another password's

@@ -15,7 +15,7 @@ constexpr qsizetype MaxShapeLength = 8192;
 constexpr std::size_t MaxIdle = 4;
 
 // The bytes of a statement that is kept idle are bounded too.
-constexpr std::size_t MaxArena = 64 * 1024;
+constexpr std::size_t MaxArena = 64UL * 1024;
 
 }
 
@@ -66,7 +66,7 @@ std::shared_ptr<CachedShape> StatementCache::Find(QStringView shape)
 
 std::shared_ptr<CachedShape> StatementCache::Add(QStringView shape, Translation made)
 {
-    const auto added = std::make_shared<CachedShape>();
+    auto added = std::make_shared<CachedShape>();
     added->made = std::move(made);
     if (!added->made.mayBeKept || shape.size() > MaxShapeLength)
         return added;

@@ -27,10 +27,10 @@ bool IsOneOf(const char* name, const auto& names)
 // "Fat" and six digits: the day that a rate chart is made for.
 bool IsChart(std::string_view table)
 {
-    constexpr std::string_view Start = "Fat";
-    return table.size() == Start.size() + 6 && table.starts_with(Start)
+    constexpr std::string_view start = "Fat";
+    return table.size() == start.size() + 6 && table.starts_with(start)
         && std::all_of(
-            table.begin() + Start.size(), table.end(), [](char c) { return c >= '0' && c <= '9'; });
+            table.begin() + start.size(), table.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
 bool IsAllowed(int action, const char* first, const char* second)

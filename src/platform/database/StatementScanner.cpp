@@ -28,7 +28,7 @@ constexpr std::array<Sort, 128> MakeSorts()
     sorts['.'] = Sort::Dot;
     sorts['['] = Sort::Bracket;
     for (const char c : {'?', ':', '@', '$', '`', '\x7f'})
-        sorts[static_cast<std::size_t>(c)] = Sort::Refused;
+        sorts[static_cast<unsigned char>(c)] = Sort::Refused;
     return sorts;
 }
 
@@ -161,9 +161,9 @@ const char16_t* ScannedStatement::ScanQuoted(const char16_t* at, const char16_t*
 
 const char16_t* ScannedStatement::ScanDate(const char16_t* at, const char16_t* end)
 {
-    constexpr std::ptrdiff_t Whole = IsoDates::Length + 2;
+    constexpr std::ptrdiff_t whole = IsoDates::Length + 2;
     char text[IsoDates::Length];
-    if (end - at < Whole || at[Whole - 1] != u'#')
+    if (end - at < whole || at[whole - 1] != u'#')
         Refuse("A text between # signs is no date (MM/dd/yyyy), or its # isn't closed.");
     for (int i = 0; i < IsoDates::Length; ++i)
         text[i] = at[i + 1] < 128 ? static_cast<char>(at[i + 1]) : '?';
@@ -171,7 +171,7 @@ const char16_t* ScannedStatement::ScanDate(const char16_t* at, const char16_t* e
     if (!IsoDates::FromMonthFirst(std::string_view(text, sizeof text), iso))
         Refuse("A text between # signs is no date (MM/dd/yyyy).");
     Lift(LiteralKind::Date, iso, iso + IsoDates::Length);
-    return at + Whole;
+    return at + whole;
 }
 
 const char16_t* ScannedStatement::ScanNumber(const char16_t* at, const char16_t* end)

@@ -90,7 +90,7 @@ void FolderList::Refresh()
         for (const QString& name : m_folders(m_folder))
             m_paths.append(Inside(m_folder, name));
 
-    constexpr int step = 4; // blanks that a folder stands further in than the one it lies in
+    constexpr qsizetype step = 4; // blanks that a folder stands further in than the one it lies in
     std::vector<Caption> entries;
     for (int at = 0; at < m_paths.size(); ++at) {
         const QString name = at == 0 ? m_paths[at] : m_paths[at].section(u'\\', -1);

@@ -44,7 +44,7 @@ void SetInk(QWidget& widget, QRgb colour)
     widget.setPalette(palette);
 }
 
-void PutOnBand(Label& label, QFont font)
+void PutOnBand(Label& label, const QFont& font)
 {
     label.Widget()->setFont(font);
     SetInk(*label.Widget(), Look::BandText);

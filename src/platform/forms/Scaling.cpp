@@ -59,7 +59,7 @@ template <class Base, class Object, class Take> Base BaseOf(Object& object, cons
 {
     if (const QVariant kept = object.property(Kept); kept.isValid())
         return kept.value<Base>();
-    const Base base = take(object);
+    Base base = take(object);
     object.setProperty(Kept, QVariant::fromValue(base));
     return base;
 }

@@ -25,7 +25,7 @@ int ReadDigits(QStringView text)
 
 void AddDigits(QString& text, int number, int width)
 {
-    std::array<char16_t, 4> digits;
+    std::array<char16_t, 4> digits{};
     for (int i = width; i-- > 0; number /= 10)
         digits[i] = static_cast<char16_t>(u'0' + number % 10);
     text += QStringView(digits.data(), width);

@@ -166,7 +166,7 @@ template <typename Value> Decimal ToDecimal(Value value)
     if (!std::isfinite(value))
         ThrowOverflow(std::isnan(value) ? u"a division by zero" : u"an infinite value");
 
-    std::array<char, 32> text;
+    std::array<char, 32> text{};
     const auto [end, error] = std::to_chars(
         text.data(), text.data() + text.size(), value, std::chars_format::scientific, significant - 1);
     Q_ASSERT(error == std::errc{});

@@ -38,7 +38,7 @@ QString Reading(QStringView stored);
 
 // One code of the encoding, for the picture of the keyboard.
 struct Glyph {
-    char16_t code;
+    char16_t code = 0;
     QStringView kind; // half, full, stem, sign, vowel, ... as the table names it
     QStringView unicode; // what it contributes
 };

@@ -2,6 +2,7 @@
 #include "platform/text/Shivaji01Table.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace Shivaji01 {
 namespace {
@@ -165,6 +166,29 @@ constexpr bool IsVowel(char16_t c)
     return (c >= u'\u0905' && c <= u'\u0914') || c == u'\u0972';
 }
 
+// How far a glyph reaches into the letters that it begins: its own letters, their dot and their rakar.
+struct FormEnd {
+    qsizetype at = 0;
+    bool dotted = false;
+    bool rakar = false;
+    bool last = false; // nothing follows
+};
+
+// Nothing if the glyph doesn't write the beginning of these letters.
+std::optional<FormEnd> EndOf(const Spelling& form, QStringView letters)
+{
+    const auto at = [&letters](qsizetype i) { return i < letters.size() ? letters[i].unicode() : u'\0'; };
+    FormEnd end{form.letters.size()};
+    if (!letters.startsWith(form.letters) || (at(end.at) != 0 && at(end.at) != Virama && at(end.at) != Nukta))
+        return {};
+    end.dotted = at(end.at) == Nukta;
+    end.at += end.dotted ? 1 : 0;
+    end.rakar = at(end.at) == Virama && at(end.at + 1) == Ra;
+    end.at += end.rakar ? 2 : 0;
+    end.last = end.at == letters.size();
+    return end;
+}
+
 // Spells a text syllable by syllable. What the encoding can't spell is copied: reading passes it through.
 class Speller {
 public:
@@ -184,6 +208,7 @@ private:
     qsizetype LettersEnd(qsizetype from) const;
     void SpellLetters(QStringView letters);
     qsizetype SpellForm(QStringView letters);
+    void AddForm(const Spelling& form, const FormEnd& end);
     char16_t At(qsizetype i) const { return i < m_text.size() ? m_text[i].unicode() : u'\0'; }
     void Add(char16_t code) { m_out += QChar(code); }
 
@@ -335,34 +360,31 @@ void Speller::SpellLetters(QStringView letters)
 // Spells the letters of one glyph with its dot and its rakar; returns how much of the text that was.
 qsizetype Speller::SpellForm(QStringView letters)
 {
-    const auto at = [&letters](qsizetype i) { return i < letters.size() ? letters[i].unicode() : u'\0'; };
     const std::vector<Spelling>& forms = Table().Letters(letters.front().unicode());
     for (const bool halvesOnly : {true, false}) {
         for (const Spelling& form : forms) {
-            qsizetype end = form.letters.size();
-            if (!letters.startsWith(form.letters) || (at(end) != 0 && at(end) != Virama && at(end) != Nukta))
+            const std::optional<FormEnd> end = EndOf(form, letters);
+            if (!end || (halvesOnly && !end->last && !form.half))
                 continue;
-            const bool dotted = at(end) == Nukta;
-            end += dotted ? 1 : 0;
-            const bool rakar = at(end) == Virama && at(end + 1) == Ra;
-            end += rakar ? 2 : 0;
-            const bool last = end == letters.size();
-            if (halvesOnly && !last && !form.half)
-                continue;
-            Add(form.code);
-            if (form.half && last)
-                Add(StemCode);
-            if (dotted)
-                Add(NuktaCode);
-            if (rakar)
-                Add(form.letters.back() == Tta ? RakarBelowCode : RakarCode);
-            if (!form.half && !last)
-                Add(ViramaCode);
-            return last ? end : end + 1;
+            AddForm(form, *end);
+            return end->last ? end->at : end->at + 1;
         }
     }
     Q_UNREACHABLE(); // every letter of the table has a form of its own
     return letters.size();
+}
+
+void Speller::AddForm(const Spelling& form, const FormEnd& end)
+{
+    Add(form.code);
+    if (form.half && end.last)
+        Add(StemCode);
+    if (end.dotted)
+        Add(NuktaCode);
+    if (end.rakar)
+        Add(form.letters.back() == Tta ? RakarBelowCode : RakarCode);
+    if (!form.half && !end.last)
+        Add(ViramaCode);
 }
 
 }

@@ -24,8 +24,8 @@ enum class GlyphKind : unsigned char {
 };
 
 struct GlyphRow {
-    char16_t code;
-    GlyphKind kind;
+    char16_t code = 0;
+    GlyphKind kind = GlyphKind::Other;
     QStringView kindName;
     QStringView unicode;
 };
