@@ -10,7 +10,7 @@
 
 namespace {
 
-// Out of the list of the reports into the settings, and from there to the counter.
+// From the list of reports to the settings, where the devices are switched on.
 void SwitchTheDevicesOn(Tour& tour)
 {
     tour.Step(QStringLiteral("settings-devices"), QStringLiteral("{F7}1") + Enter + QStringLiteral("1"));
