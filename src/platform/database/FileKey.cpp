@@ -23,7 +23,7 @@ const unsigned char* Bytes(const QByteArray& bytes)
 }
 
 struct Salt {
-    QByteArray bytes; // empty if there is none to be had
+    QByteArray bytes; // empty if it can't be read
     bool isNew = false;
 };
 
@@ -35,7 +35,7 @@ Salt NewSalt()
     return {salt, true};
 }
 
-// Read through the engine's own file: opening the books a second time would cost the engine its locks.
+// Reads through the file that the engine has open: opening it a second time would cost the engine its locks.
 Salt SaltOf(sqlite3* opened)
 {
     sqlite3_file* file = nullptr;

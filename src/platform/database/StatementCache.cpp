@@ -8,13 +8,13 @@ namespace {
 
 constexpr qsizetype MaxShapes = 256;
 
-// A shape longer than any of the system's isn't worth keeping.
+// Longer shapes aren't kept; no statement of a screen is so long.
 constexpr qsizetype MaxShapeLength = 8192;
 
-// So many idle statements of one shape are kept: more are never in use at once for long.
+// The number of idle statements that are kept for a shape; more are hardly ever in use at once.
 constexpr std::size_t MaxIdle = 4;
 
-// The bytes of a statement that is kept idle are bounded too.
+// The greatest arena of a statement that is kept idle.
 constexpr std::size_t MaxArena = 64UL * 1024;
 
 }

@@ -50,7 +50,7 @@ inline bool IsDigit(char16_t c)
     return c >= u'0' && c <= u'9';
 }
 
-// Writes one code point beyond ASCII as UTF-8; `at` is moved to its last unit.
+// Writes a non-ASCII code point as UTF-8; moves `at` to its last unit.
 char* WriteUtf8(char* out, const char16_t*& at, const char16_t* end)
 {
     char32_t point = *at;
@@ -95,7 +95,7 @@ void ScannedStatement::Scan(QStringView statement)
     const auto length = static_cast<std::size_t>(statement.size());
     if (m_shape.size() < length)
         m_shape.resize(length);
-    // A unit of UTF-16 is at most three bytes of UTF-8; a date of ten units is ten bytes.
+    // A UTF-16 unit is at most three bytes of UTF-8; a date of ten units is ten bytes.
     if (m_arena.size() < length * 3 + IsoDates::Length)
         m_arena.resize(length * 3 + IsoDates::Length);
     m_shapeLength = 0;
@@ -232,7 +232,7 @@ const char16_t* ScannedStatement::ScanOther(const char16_t* at, const char16_t* 
             Refuse("The statement holds a comment (/*).");
         break;
     case Sort::Dot:
-        // "T.5" is no column, and "5.5" never comes here: a point after a word belongs to a name.
+        // "T.5" isn't a column; "5.5" never gets here, since only a point after a word is part of a name.
         if (IsDigit(next))
             return ScanNumber(at, end);
         break;
