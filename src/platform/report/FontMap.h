@@ -4,7 +4,7 @@
 
 #include <memory>
 
-using PangoFontMap = struct _PangoFontMap; // NOLINT(bugprone-reserved-identifier): this is its name
+using PangoFontMap = struct _PangoFontMap;
 
 // The fonts of this machine, found once a process. Pango has a map of its own, but never frees it, and it
 // looks for fonts in background threads: a process that ends before they do crashes. This map goes with the
