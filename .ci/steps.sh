@@ -1,20 +1,20 @@
 # shellcheck shell=bash
-# The steps that ./run, ./test and .ci/run share. Sourced from the top folder of the repository.
+# Functions that ./run, ./test and .ci/* share. Source it from the top folder of the repository.
 
-# A second build of the same text costs next to nothing.
+# Makes repeated builds of the same sources fast.
 export CMAKE_CXX_COMPILER_LAUNCHER=ccache
-# It keeps what was compiled with headers that were read once for all only if it is told that this is meant.
+# ccache needs this to cache files that use precompiled headers.
 export CCACHE_SLOPPINESS=pch_defines,time_macros
 
-# Fail TEXT...: says why in one line, and ends.
+# Fail TEXT...: prints the reason on standard error and exits.
 Fail()
 {
     printf '%s: %s\n' "$(basename "$0")" "$*" >&2
     exit 1
 }
 
-# Step LOG TEXT COMMAND...: says what happens now and runs the command quietly. If it fails, the end of
-# what it said is shown.
+# Step LOG TEXT COMMAND...: prints TEXT and runs the command, whose output goes to build/LOG. If it fails,
+# prints the end of the log and exits.
 Step()
 {
     local log="build/$1" text="$2"
@@ -26,7 +26,7 @@ Step()
     Fail "$text failed; the whole log is in $log"
 }
 
-# MissingPackages: the packages of packages.txt that aren't installed, one a line.
+# MissingPackages: prints the packages of packages.txt that aren't installed, one a line.
 MissingPackages()
 {
     local package wanted
@@ -36,7 +36,7 @@ MissingPackages()
     done
 }
 
-# InstallPackages: installs what is missing; touches nothing, and needs no network, when nothing is.
+# InstallPackages: installs the missing packages. If none is missing it does nothing, so it needs no network.
 InstallPackages()
 {
     local missing asRoot=()
@@ -57,20 +57,20 @@ InstallPackages()
         || Fail "could not install ${missing[*]}; is there a network? The log is in build/install.log"
 }
 
-# Build PRESET: configures and builds it.
+# Build PRESET: configures and builds a preset.
 Build()
 {
     Step "configure-$1.log" "Configuring ($1)" cmake --preset "$1"
     Step "build-$1.log" "Building ($1)" cmake --build --preset "$1"
 }
 
-# NeedProgram NAME: ends unless the build made it.
+# NeedProgram NAME: exits unless the release build has made this program.
 NeedProgram()
 {
     [[ -x build/release/bin/$1 ]] || Fail "the build made no build/release/bin/$1"
 }
 
-# PlayTour: plays a morning at the counter without a display, and leaves its pictures in build/tour.
+# PlayTour: plays the tour without a display; its pictures go to build/tour.
 PlayTour()
 {
     NeedProgram vetrolan-tour

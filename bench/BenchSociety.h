@@ -7,15 +7,15 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-// The society that every case is measured on: 500 members who have come to both shifts of every day of
-// 2026-2027. Its settings are those that make a save do all that it can: a second can is looked for, and
-// the amount goes on the member's balance. A new chart begins every month.
+// The society for all cases: 500 members who came to both shifts of every day of 2026-2027. Its settings make
+// a save do as much as possible: it looks for a second can and adds the amount to the member's balance. A new
+// rate chart begins every month.
 class BenchSociety {
 public:
-    // Makes it beside the program, on the disk that the build lies on, and takes it away in the end.
+    // Makes it beside the program, so on the same disk as the build; the destructor removes it.
     BenchSociety();
 
-    // Where its drives lie.
+    // The folder of its drives.
     QString Drives() const { return m_drives.path(); }
 
 private:
@@ -24,13 +24,13 @@ private:
 
 inline constexpr int SocietyMembers = 500;
 
-// The days after the year, which have no delivery yet: one for the saves, one for the day that is played, one
-// for the shift with slips.
+// Days after that year, still without deliveries: one for the saves, one for the played day, and one for the
+// shift with slips.
 inline const QDate SavingDay(2027, 4, 1);
 inline const QDate PlayedDay(2027, 4, 2);
 inline const QDate SlipsDay(2027, 4, 3);
 
-// The books of the society open in this process, as long as this lives.
+// Opens the society's database in this process; the destructor closes it.
 class OpenBooks {
 public:
     explicit OpenBooks(const QString& drives);
@@ -39,7 +39,7 @@ public:
     OpenBooks& operator=(const OpenBooks&) = delete;
 };
 
-// Keeps the texts of the plain boxes; nobody is there to close one.
+// Collects the texts of plain boxes, since nobody is there to close them.
 class SilentBox final : public MessageBox {
 public:
     QStringList Shown;

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-// The cases, by what they are about. `drives` is where the drives of the society lie.
+// Registers the cases of each subject. `drives` is the folder of the society's drives.
 
 void RegisterCounterCases(const QString& drives); // leaving the fat, opening a shift
 void RegisterSaveCases(const QString& drives);

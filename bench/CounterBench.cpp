@@ -1,4 +1,4 @@
-// What the clerk waits for on the way through the line of fields.
+// The times for which the clerk waits on the way through the fields of a delivery.
 
 #include "bench/BenchSociety.h"
 #include "bench/Cases.h"
@@ -14,7 +14,7 @@ namespace {
 
 const QDate FullDay(2026, 10, 15);
 
-// The walk over the charts to the newest, and the rate of a fat in it.
+// Floor: finds the newest rate chart, and the rate of a fat in it.
 class FloorRate {
 public:
     double Find(std::string_view day, std::string_view fat)
@@ -65,7 +65,7 @@ void MeasureFat(benchmark::State& state, Pair& pair)
     }
 }
 
-// The opening of a shift in prepared statements.
+// Floor: opens a shift with prepared statements.
 class FloorShift {
 public:
     double Open(std::string_view day, std::string_view time)

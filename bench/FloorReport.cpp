@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int FirstNumber = 4; // of the columns that are read
+constexpr int FirstNumber = 4; // the first numeric column of the query
 
 cairo_status_t WriteTo(void* device, const unsigned char* data, unsigned int length)
 {

@@ -6,8 +6,8 @@
 
 #include <string>
 
-// The texts of a finished report once more, by the engines themselves: the rows by a prepared statement, each
-// text set by Pango and drawn by Cairo once. The texts and their places are taken over ready made.
+// The floor of a report: reads the rows with a prepared statement, lays out each text with Pango and draws it
+// with Cairo, once. The texts and their places are copied from the finished report.
 class FloorReport {
 public:
     explicit FloorReport(const Report& report);
@@ -15,7 +15,7 @@ public:
     // Reads the rows of the list and lays out each of its texts once. Returns the number of rows.
     int ReadAndLayOut();
 
-    // Writes the same pages as a PDF, as durably as the report does it.
+    // Writes the same pages as a PDF, with the same care for durability.
     void SavePdf(const QString& file);
 
 private:

@@ -4,13 +4,13 @@
 
 namespace {
 
-// The columns that are read by position, as the schema has them.
+// Columns that are read by their position in the schema.
 constexpr int PrintStatus = 3;
 constexpr int RepeatCollection = 8;
 constexpr int PurchaseEntry = 10;
 constexpr int ClosingBalance = 12;
 
-// Those of the copy of the shift.
+// Columns of the copy of the shift.
 enum CopyColumn {
     CompanyId,
     CollectionDate,
@@ -28,7 +28,7 @@ enum CopyColumn {
     Snf
 };
 
-// What the list reads before the clerk goes further down in it.
+// The number of rows that the list reads at first.
 constexpr int ListRows = 100;
 
 }
@@ -87,7 +87,7 @@ void FloorSave::RefreshLitres(const Row& row)
     m_litres.Bind(static_cast<double>(cow), static_cast<double>(buff), row.memberNo).Run();
 }
 
-// It is emptied twice, as the counter does it.
+// The table is emptied twice, as at the counter.
 void FloorSave::StageReceipt(const Row& row)
 {
     m_emptyReceipt.Run();
@@ -112,7 +112,7 @@ void FloorSave::ReadList()
     Require(texts > 0 && numbers > 0, "The list has rows.");
 }
 
-// The litres of both animals; the litres weighted by their fat are added up on the way.
+// Sums the litres of both animals, and the litres weighted by their fat.
 double FloorSave::WalkCopy()
 {
     double liters = 0;

@@ -4,8 +4,8 @@
 
 #include <string>
 
-// The work of a save as the counter does it, read for read and write for write, in prepared statements: the
-// delivery and its slip, then the list of the shift and its totals.
+// The floor of a save: the same reads and writes as at the counter, in prepared statements: the delivery and
+// its slip, then the list of the shift and its totals.
 class FloorSave {
 public:
     struct Row {
@@ -22,7 +22,7 @@ public:
         std::string actualTime;
     };
 
-    // Saves a new row, durably, and reads the shift anew. Returns the number after it.
+    // Saves a new row durably and reads the shift again. Returns the next collection number.
     double Save(const Row& row);
 
 private:

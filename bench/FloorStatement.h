@@ -5,17 +5,17 @@
 
 struct sqlite3_stmt;
 
-// A statement of the engine's own, prepared once on the open books and bound directly: what no way of
-// speaking to the engine can undercut. A failure is a RunTimeError.
+// A prepared statement of the database engine, bound directly: no other access to the database can be faster.
+// A failure is a RunTimeError.
 class FloorStatement {
 public:
-    // `sql` is the engine's SQL with a ? for every value.
+    // `sql` is the engine's SQL with a ? for each value.
     explicit FloorStatement(const char* sql);
     ~FloorStatement();
     FloorStatement(const FloorStatement&) = delete;
     FloorStatement& operator=(const FloorStatement&) = delete;
 
-    // Gives all values in their order. Texts are UTF-8 and must stay until Reset.
+    // Binds all values in order. Texts are UTF-8 and must exist until Reset.
     template <class... Values> FloorStatement& Bind(const Values&... values)
     {
         int at = 0;
@@ -23,17 +23,17 @@ public:
         return *this;
     }
 
-    // To the next row; false at the end.
+    // Goes to the next row; returns false at the end.
     bool Step();
     void Reset();
 
-    // Runs to the end and is ready again; rows are stepped over.
+    // Runs the statement to its end, ignoring rows, and resets it.
     void Run();
 
-    // Whether there is a row, and ready again.
+    // Returns whether there is a row, and resets it.
     bool Finds();
 
-    // The first row's first number, 0 without one, and ready again.
+    // Returns the first number of the first row, 0 if there is none, and resets it.
     double Number();
 
     // A column of the current row.

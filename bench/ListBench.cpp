@@ -1,4 +1,4 @@
-// A list after a write: read anew and painted, however many rows it has.
+// A list that is read again and painted after a write. Its length shouldn't matter.
 
 #include "bench/BenchSociety.h"
 #include "bench/Cases.h"
@@ -16,7 +16,7 @@
 
 namespace {
 
-// The counter's own order, and one that the gate's buttons choose.
+// The order of the counter, and one of those that the buttons of the gate choose.
 struct ListCase {
     const char* what;
     QStringView order;
@@ -35,14 +35,14 @@ std::vector<DataGrid::Column> ShownColumns()
         {.field = QStringLiteral("Amount"), .caption = Plain(u"Amount"), .format = QStringLiteral("0.00")}};
 }
 
-// A list of the deliveries in a table, in an order.
+// A list of the deliveries in a table, in some order.
 class ListScreen final : public Screen {
 public:
     ListScreen(QStringView table, QStringView order)
         : Screen("ListScreen")
         , List(this, "List", ShownColumns())
     {
-        setParent(nullptr); // beside the other list, not over it: only what is seen is painted
+        setParent(nullptr); // a window of its own, since a covered list isn't painted
         setFixedSize(1000, 600);
         (new QHBoxLayout(this))->addWidget(List.Widget());
         List.Bind(gCn, Sql(u"select * from ", table, u" order by ", order));
@@ -76,7 +76,7 @@ void MeasureLists(benchmark::State& state, QStringView order, Pair& pair)
     ListScreen shortList(u"MilkCollectionsOld", order);
     longList.show();
     shortList.show();
-    QCoreApplication::processEvents(); // so that both are on the screen, and paint
+    QCoreApplication::processEvents(); // so that both are shown and painted
     Refresh(longList.List);
     Refresh(shortList.List);
     for (const ListScreen* list : {&longList, &shortList})

@@ -1,4 +1,4 @@
-// The program as a whole, each time in a process of its own, with nothing of it warm.
+// The whole program, each time in a new process, so that nothing is cached in it.
 
 #include "bench/BenchSociety.h"
 #include "bench/Cases.h"
@@ -17,7 +17,7 @@ namespace {
 
 constexpr int ChildMilliseconds = 300000;
 
-// A run of this program by one of the words that main knows.
+// A run of this program with one of the words that main knows.
 class Child {
 public:
     Child(const QString& word, const QString& drives)
@@ -33,7 +33,7 @@ public:
             Require(m_process.waitForReadyRead(ChildMilliseconds), "The program answers.");
     }
 
-    // Waits for its end; returns all that it has printed.
+    // Waits for its end and returns all that it has printed.
     QByteArray WaitForEnd()
     {
         Require(m_process.waitForFinished(ChildMilliseconds) && m_process.exitStatus() == QProcess::NormalExit
@@ -46,7 +46,7 @@ private:
     QProcess m_process;
 };
 
-// The number that a child has printed behind a word.
+// The number after a word in what a child has printed.
 double NumberIn(const QByteArray& printed, const QByteArray& word)
 {
     const qsizetype at = printed.indexOf(word);
@@ -54,13 +54,13 @@ double NumberIn(const QByteArray& printed, const QByteArray& word)
     return printed.mid(at + word.size()).simplified().split(' ').front().toDouble();
 }
 
-// The most memory that a child has held, in bytes, from what it has printed.
+// The peak memory of a child in bytes, from what it has printed.
 double PeakIn(const QByteArray& printed)
 {
     return NumberIn(printed, "VmHWM:") * 1024;
 }
 
-// The key derived once and the first page read.
+// Derives the key once and reads the first page.
 void OpenByEngine(const QByteArray& file, const QByteArray& password)
 {
     sqlite3* handle = nullptr;
@@ -99,7 +99,7 @@ void MeasureStart(benchmark::State& state, const QString& drives, Pair& pair)
     }
 }
 
-// The floor of the memory is what the program holds when its menu stands.
+// The floor is the memory that the program uses at the menu.
 void MeasurePeak(benchmark::State& state, const QString& word, const QString& drives, Pair& pair)
 {
     for ([[maybe_unused]] auto _ : state) {
@@ -120,7 +120,7 @@ void MeasureReport(benchmark::State& state, const QString& drives, Pair& pair)
     MeasurePeak(state, QStringLiteral("--play-report"), drives, pair);
 }
 
-// The floor of the longest key is the usual one of those that save.
+// The floor of the longest key is the usual key among those that save.
 void MeasureSlips(benchmark::State& state, const QString& drives, Pair& pair)
 {
     for ([[maybe_unused]] auto _ : state) {

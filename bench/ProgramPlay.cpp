@@ -41,7 +41,7 @@ private:
     bool m_isPainted = false;
 };
 
-// The memory of this process: "VmHWM" is the most that it ever held, "VmRSS" what it holds now.
+// Prints the memory of this process: "VmHWM" is the peak, "VmRSS" the present use.
 void PrintMemory()
 {
     QFile status(QStringLiteral("/proc/self/status"));
@@ -54,7 +54,7 @@ void PrintMemory()
     std::fflush(stdout);
 }
 
-// Through the opening screens to the menu.
+// Goes through the opening screens to the menu.
 void GoToMenu(Clerk& clerk)
 {
     std::optional<PaintWatch> menu; // lives on the program's thread
@@ -68,7 +68,7 @@ void GoToMenu(Clerk& clerk)
 
 void OpenCounter(Clerk& clerk, const QDate& day)
 {
-    clerk.Type(QStringLiteral("{ESC}")); // the question for the working day
+    clerk.Type(QStringLiteral("{ESC}")); // leaves the question for the working day
     clerk.Do([day] {
         gAppState.gAppDate = day;
         ScreenDirectory::Open(QStringLiteral("frmMilkCollections"), {});
@@ -90,8 +90,8 @@ void PlayShift(Clerk& clerk, const QString& opening)
         clerk.Type(DeliveryKeys(member) + QStringLiteral("{ENTER}"));
 }
 
-// How long the keys of a clerk take, each from its press until the program is at rest and, if it has opened a
-// screen, that screen has been painted.
+// Times keys, each from its press until the program is at rest and, if a screen was opened, that screen has
+// been painted.
 class KeyTimes {
 public:
     explicit KeyTimes(Clerk& clerk) : m_clerk(clerk) { }
@@ -137,7 +137,7 @@ public:
     static constexpr QStringView SlipScreen = u"frmReportPreview";
 
 private:
-    // What the processor has done for this process: a host that others use, too, takes nothing from it.
+    // The processor time of this process, which other users of the machine don't affect.
     static double ProcessorSeconds()
     {
         timespec spent{};
@@ -145,7 +145,7 @@ private:
         return static_cast<double>(spent.tv_sec) + static_cast<double>(spent.tv_nsec) * 1e-9;
     }
 
-    // What a key leaves to be done later is done in these: the keys that it sends, layouts, paintings.
+    // Handles what a key leaves for later: keys that it sends, layouts, painting.
     void RestRounds()
     {
         for (int round = 0; round < 3; ++round)
@@ -171,8 +171,7 @@ private:
     int m_pressed = 0;
 };
 
-// The script ends with the screens open, which the program meets as a failure: only the script's own result
-// counts.
+// The script ends with screens open, which Play returns as a failure; only the result of the script counts.
 int Play(const QString& drives, const std::function<void(Clerk&)>& script)
 {
     SetDrivesRoot(drives);

@@ -1,5 +1,5 @@
-// A report of 20,000 rows: laid out in memory, its first page, and the whole as a PDF. And one of a single
-// text that is as long as a book.
+// A report of 20,000 rows: its layout in memory, its first page, and the whole as a PDF. And a report of one
+// very long text.
 
 #include "bench/BenchSociety.h"
 #include "bench/Cases.h"
@@ -13,10 +13,10 @@
 
 namespace {
 
-constexpr double LookedAt = 1.5; // dots a point
-constexpr int Turns = 21; // few would leave the middle to the mood of the disk
+constexpr double LookedAt = 1.5; // pixels a point
+constexpr int Turns = 21; // with fewer, the disk would move the median too much
 
-// The books and a finished list, with the floor made from it.
+// The database and a finished list, with the floor made from it.
 struct List {
     std::shared_ptr<Connection> books = OpenForReports();
     std::unique_ptr<Report> report = Finished(books);
@@ -30,7 +30,7 @@ struct List {
         for (std::size_t page = 0; page < report->PageCount(); ++page)
             for (const PlacedItem& item : report->PageAt(page).items)
                 figures += item.kind == PlacedItem::Kind::Text && item.fit == Fit::Shrink;
-        // The number and four figures a row, and the totals of three of them.
+        // The number and four figures of each row, and three totals.
         Require(figures == 5 * ListedRows + 3, "All rows of the list are on its pages.");
         return report;
     }
@@ -102,12 +102,12 @@ void MeasurePdf(benchmark::State& state, const QString& drives, Pair& pair)
     }
     const auto size = static_cast<double>(QFileInfo(file).size());
     const auto floorsSize = static_cast<double>(QFileInfo(floors).size());
-    // The report marks each Marathi word as one piece for those who read the file, on top of what the floor
-    // writes.
+    // Unlike the floor, the report marks each Marathi word as one piece, so that it can be copied from the
+    // PDF.
     Require(size >= floorsSize && size < 1.5 * floorsSize, "The report writes all that the floor writes.");
 }
 
-// Until the last page of a text in one field is laid out.
+// The seconds until the last page of a text in one field is laid out.
 double SecondsToFillLongText(const std::shared_ptr<Connection>& books, int megabytes)
 {
     StageLongText(megabytes);
@@ -120,7 +120,7 @@ double SecondsToFillLongText(const std::shared_ptr<Connection>& books, int megab
     return seconds;
 }
 
-// The floor of ten megabytes is ten times one.
+// The floor of ten megabytes is ten times the time of one.
 void MeasureLongText(benchmark::State& state, const QString&, Pair& pair)
 {
     const std::shared_ptr<Connection> books = OpenForReports();

@@ -43,7 +43,7 @@ ReportTemplate Checked(const char* text, const char* file, Connection& books)
     return report;
 }
 
-// A day as a selection formula words it.
+// A day in the form of a selection formula.
 QString FormulaDay(const char* iso)
 {
     return QDate::fromString(QString::fromLatin1(iso), Qt::ISODate)

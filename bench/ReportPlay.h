@@ -4,23 +4,22 @@
 
 #include <memory>
 
-// The report that the cases are measured on: a list of 20,000 deliveries, which are those of 20 days, in 8
-// columns with their totals, on A4.
+// The report of the cases: a list of 20,000 deliveries, those of 20 days, in 8 columns with totals, on A4.
 
 inline constexpr int ListedRows = 20000;
 
-// The first and the last of its days, ISO.
+// Its first and last day, ISO.
 inline constexpr const char* FirstListedDay = "2026-05-01";
 inline constexpr const char* LastListedDay = "2026-05-20";
 
-// The open books a second time, for reading, as the reports of the screens do it.
+// A second connection to the database for reading, as the screens open it for their reports.
 std::shared_ptr<Connection> OpenForReports();
 
-// Reads and checks the template and begins the report; no page of it is laid out yet.
+// Reads and checks the template and begins the report; no page is laid out yet.
 std::unique_ptr<Report> BeginList(const std::shared_ptr<Connection>& books);
 
-// Puts a Marathi text of so many megabytes into one field of the books, in place of the one before.
+// Writes a Marathi text of so many megabytes into a field of the database, replacing the one before.
 void StageLongText(int megabytes);
 
-// The same for a report of that field alone, on A4.
+// BeginList for a report of that field alone, on A4.
 std::unique_ptr<Report> BeginLongText(const std::shared_ptr<Connection>& books);

@@ -22,7 +22,7 @@ double One(const QString& query)
     return Recordset(gCn, query).At(0).Number();
 }
 
-// The same delivery that the keys of a member make at the counter, for the floor's shift.
+// The delivery that DeliveryKeys makes for a member, for the floor's shift.
 FloorSave::Row RowOf(int member)
 {
     const Recordset master(gCn, Sql(u"select * from MembersMaster where MemberNo=", member));
@@ -40,8 +40,8 @@ FloorSave::Row RowOf(int member)
     return row;
 }
 
-// The floor saves the members in another order, so that neither way finds the pages of a member warm from the
-// other one.
+// The floor saves the members in another order, so that neither of the two finds the pages of a member in the
+// cache because of the other.
 std::vector<FloorSave::Row> FloorsRows()
 {
     std::vector<FloorSave::Row> rows;
@@ -52,7 +52,7 @@ std::vector<FloorSave::Row> FloorsRows()
     return rows;
 }
 
-// Both ways must have left the same rows, and the members' figures must be those of all their rows.
+// Throws unless both have left the same rows, and the members' figures are the sums of their rows.
 void RequireSameResult()
 {
     for (QStringView table : {u"MilkCollections", u"MilkCollectionsTemp"}) {
@@ -74,7 +74,7 @@ void RequireSameResult()
     const double delivered = One(QStringLiteral("select sum(Liters) from MilkCollections"));
     const double closing =
         One(QStringLiteral("select sum(CowClosingLits)+sum(BuffClosingLits) from MembersMaster"));
-    // The closing litres are in single precision: half a litre in the year's three million.
+    // Closing litres are single precision: half a litre in the three million of a year.
     Require(std::abs(delivered - closing) < 0.5, "The closing litres are those of all rows.");
 }
 

@@ -1,5 +1,5 @@
-// A statement in the system's words, put together from texts as a screen does it and met before, beside the
-// prepared one that is bound directly.
+// A statement as a screen puts it together, known to the cache, beside a prepared statement that is bound
+// directly.
 
 #include "bench/BenchSociety.h"
 #include "bench/Cases.h"
@@ -19,7 +19,7 @@ constexpr Target KnownShape{.ratio = 1.3, .slack = 3};
 
 using Measuring = void (*)(benchmark::State&, Pair&);
 
-// Times both ways with a member's number that is another one each time.
+// Times both with another member number each time.
 template <class Measured, class Floor>
 void Compare(benchmark::State& state, Pair& pair, const Measured& measured, const Floor& floor)
 {

@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-// How long something takes, in seconds.
+// Runs some work and returns its time in seconds.
 template <class Work> double SecondsOf(Work&& work)
 {
     const auto from = std::chrono::steady_clock::now();
@@ -12,28 +12,28 @@ template <class Work> double SecondsOf(Work&& work)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - from).count();
 }
 
-// A case's numbers, one an iteration. The middle one is not moved by what else the disk had to do.
+// The numbers of a case, one for each iteration. Its median isn't affected by what else the disk was doing.
 class Samples {
 public:
     void Add(double value) { m_values.push_back(value); }
     double Last() const { return m_values.back(); }
 
-    // The value that a share of all values doesn't exceed: 0.5 is the median. There must be a value.
+    // The value that this share of all values doesn't exceed: 0.5 gives the median. There must be values.
     double Quantile(double share) const;
 
 private:
     std::vector<double> m_values;
 };
 
-// A case and its floor, timed in turns, each of them first in every second turn: so both meet the same disk,
-// the same caches and tables of the same size.
+// A case and its floor, timed in turns, with the order swapped every time, so that both meet the same disk,
+// caches and table sizes.
 class Pair {
 public:
     Samples Measured;
     Samples Floor;
 
-    // Both return seconds. What they do outside of what they time, such as typing the rest of a line, counts
-    // for neither.
+    // Runs both; each returns its seconds. Work that they don't time, such as typing the rest of a line,
+    // doesn't count.
     void Turn(const std::function<double()>& measured, const std::function<double()>& floor);
 
 private:

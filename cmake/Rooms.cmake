@@ -1,5 +1,5 @@
-# A room is one folder of the house, built as one static library. The link lists below src/ say who may know whom;
-# .ci/rooms holds the includes to them, which are written from src/ and so name their room.
+# A room is one folder below src/, built as a static library. The LINK lists in the folders say which rooms a
+# room may use; .ci/rooms checks the includes, which are written from src/ and so name their room.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -13,7 +13,7 @@ option(VETROLAN_PRECOMPILE "Read the common headers once for all files" OFF)
 option(VETROLAN_BENCH "Build the benchmarks" OFF)
 option(VETROLAN_NIGHTLY "Build the trials that take long" OFF)
 
-# Every target of the project takes its warnings and checks from here, and from nowhere else.
+# All targets take their include paths, warnings and checks from here.
 add_library(vetrolan_options INTERFACE)
 target_include_directories(vetrolan_options INTERFACE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR})
 target_compile_options(vetrolan_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
@@ -29,17 +29,18 @@ if(VETROLAN_SANITIZE)
     target_link_options(vetrolan_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# The tests themselves aren't optimised where that costs most: under the sanitizers it takes longer than it saves.
+# Under the sanitizers the tests themselves aren't optimised: compiling would take longer than running gains.
 add_library(vetrolan_test_options INTERFACE)
 target_link_libraries(vetrolan_test_options INTERFACE vetrolan_options GTest::gtest GTest::gmock GTest::gtest_main)
 if(VETROLAN_SANITIZE)
     target_compile_options(vetrolan_test_options INTERFACE -O0)
 endif()
 
-# What nearly every file includes is read once for all of them. A file must not lean on that: the release preset
-# builds each from its own includes.
+# Precompiles the headers that nearly all files include. A file must still include what it uses: the release
+# preset builds without this.
 if(VETROLAN_PRECOMPILE)
-    # The compiler's cache asks for the first. The second comes with some libraries, and all must agree on it.
+    # -fpch-preprocess is for ccache. -pthread comes with some libraries, and must be the same wherever a
+    # precompiled header is used.
     add_compile_options(-fpch-preprocess -pthread)
     set(emptyFile ${CMAKE_BINARY_DIR}/precompiled/empty.cpp)
     file(CONFIGURE OUTPUT ${emptyFile} CONTENT "")
@@ -60,15 +61,15 @@ if(VETROLAN_PRECOMPILE)
     endforeach()
 endif()
 
-# vetrolan_precompiled(TARGET KIND): TARGET reads the headers of KIND precompiled.
+# vetrolan_precompiled(TARGET KIND): lets TARGET use the precompiled headers of KIND, see headers/.
 function(vetrolan_precompiled target kind)
     if(VETROLAN_PRECOMPILE)
         target_precompile_headers(${target} REUSE_FROM precompiled_${kind})
     endif()
 endfunction()
 
-# vetrolan_room(NAME [WINDOWLESS] SOURCES file... LINK target...)
-# WINDOWLESS: it knows nothing of windows.
+# vetrolan_room(NAME [WINDOWLESS] SOURCES file... LINK target...): the library of a room.
+# WINDOWLESS: the room uses QtCore, but no windows.
 function(vetrolan_room name)
     cmake_parse_arguments(ROOM "WINDOWLESS" "" "SOURCES;LINK" ${ARGN})
     add_library(${name} STATIC ${ROOM_SOURCES})
@@ -80,14 +81,15 @@ function(vetrolan_room name)
     endif()
 endfunction()
 
-# vetrolan_program(NAME SOURCES file... LINK target...)
+# vetrolan_program(NAME SOURCES file... LINK target...): an executable.
 function(vetrolan_program name)
     cmake_parse_arguments(PROGRAM "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${PROGRAM_SOURCES})
     target_link_libraries(${name} PRIVATE ${PROGRAM_LINK} vetrolan_options)
 endfunction()
 
-# vetrolan_tests(NAME [WINDOWLESS] SOURCES file... LINK target...): one test program, each of its cases known to CTest.
+# vetrolan_tests(NAME [WINDOWLESS] SOURCES file... LINK target...): a test program; CTest knows each of its
+# cases.
 function(vetrolan_tests name)
     cmake_parse_arguments(TESTS "WINDOWLESS" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${TESTS_SOURCES})

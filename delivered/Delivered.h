@@ -5,7 +5,7 @@
 
 #include <vector>
 
-// The files of this folder as they stand, in Unicode, and the report templates.
+// The contents of the files in this folder, in Unicode, and the report templates.
 namespace Delivered {
 
 QString Schema(); // schema.sql
@@ -15,11 +15,11 @@ QString FirstChart(); // first-chart.tsv: fat, cow rate, buffalo rate, under a h
 QString NumberWords(); // marathi-numbers.tsv: number, its word, under a heading
 
 struct File {
-    QString name; // within AppFolder
+    QString name; // its name in AppFolder
     QByteArray content;
 };
 
-// Every template that the program prints with, in the order of the alphabet.
+// All templates that the program prints with, in alphabetical order.
 const std::vector<File>& Templates();
 
 }

@@ -25,7 +25,7 @@ template <class S> void Register()
 
 }
 
-// The order is that of the key sheet.
+// The key sheet (docs/keys.md) lists them in this order.
 void RegisterScreens()
 {
     Register<frmMembers>();

@@ -1,4 +1,4 @@
 #pragma once
 
-// Tells the screen directory of every screen that the program has.
+// Enters every screen of the program in the screen directory, so that it can be opened by name.
 void RegisterScreens();

@@ -20,11 +20,11 @@ inline constexpr LitersFormats LitersInHundredths{u"########0.00", u"####0.00", 
 // class.
 struct CounterKind {
     QStringView title; // as the system spells it
-    const char* company; // the name of the label that shows the society
+    const char* company = nullptr; // the name of the label that shows the society
     const LitersFormats& liters;
     QStringView gridFatFormat;
-    QRgb fieldColour; // of a field without the focus
-    bool hasMemberFrame; // F7 shows a member's own collection
+    QRgb fieldColour = 0; // of a field without the focus
+    bool hasMemberFrame = false; // F7 shows a member's own collection
 };
 
 // The first counter, with the member's frame.

@@ -21,11 +21,11 @@ enum class Way { Command, PortTableCommand, PlusFrame, PercentFrame, Combined };
 
 struct Reading {
     QStringView scale;
-    Way way;
+    Way way = Way::Command;
     QStringView command;
-    int start;
-    int length;
-    int waitCount;
+    int start = 0;
+    int length = 0;
+    int waitCount = 0;
 };
 
 constexpr std::array LitersReadings{

@@ -9,7 +9,7 @@
 namespace MilkDevicesLines {
 
 struct PortDefaults {
-    int number;
+    int number = 0;
     QStringView settings;
 };
 

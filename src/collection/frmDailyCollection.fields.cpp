@@ -74,13 +74,13 @@ frmDailyCollection::Missing frmDailyCollection::Unfinished()
         return {&MasKCollectionDate, Wanted::Date()};
     if (!IsShift(cmbCollectionTime.Text()))
         return {&cmbCollectionTime, Wanted::Shift()};
-    if (const Missing number = UnfinishedNumber(); number.field)
+    if (Missing number = UnfinishedNumber(); number.field)
         return number;
     if (Modes.IsDelete())
         return {};
     if (txtAnimal.IsEmpty())
         return {&txtAnimal, Wanted::Animal()};
-    if (const Missing figure = Modes.IsNew() ? UnfinishedFigure() : Missing(); figure.field)
+    if (Missing figure = Modes.IsNew() ? UnfinishedFigure() : Missing(); figure.field)
         return figure;
     if (Priced() == PricedFor)
         return {};

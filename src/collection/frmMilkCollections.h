@@ -48,8 +48,8 @@ private:
     DataGrid DataGridMilk;
 
     TemplateReport CRMilkPayments;
-    QStackedLayout* m_views; // the list of the shift, and FrameMilkCollection over it
-    QStackedLayout* m_keys; // the strips of keys of both
+    QStackedLayout* m_views = nullptr; // the list of the shift, and FrameMilkCollection over it
+    QStackedLayout* m_keys = nullptr; // the strips of keys of both
     bool IsFrameOpen = false;
     std::vector<Control*> m_heldBack; // what could be entered before the frame was opened
 

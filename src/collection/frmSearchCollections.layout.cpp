@@ -11,7 +11,7 @@ using namespace Pieces;
 
 namespace {
 
-constexpr int ListRow = 38;
+constexpr int FoundRow = 38;
 
 }
 
@@ -21,7 +21,7 @@ void frmSearchCollections::LayOut()
     body->setSpacing(8);
     body->addWidget(Question());
     body->addWidget(lblGuide.Widget());
-    body->addWidget(List(DataGridInwards, ListRow, Look::Size::Large), 1);
+    body->addWidget(List(DataGridInwards, FoundRow, Look::Size::Large), 1);
     DataGridInwards.SetAccessibleName(Shivaji(u"dUQa saMklana"));
     cmdGo.SetAccessibleName(KeyAction(u"Alt+P"));
     body->addLayout(Layout::ButtonRow({&cmdGo}));

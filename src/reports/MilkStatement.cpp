@@ -21,7 +21,7 @@ constexpr QStringView Animals[] = {Word::Cow, Word::Buffalo};
 // What tells the two kinds of milk apart: where it is kept and how its columns are called.
 struct Books {
     QStringView table, copy, date, time, number, name;
-    bool holdsSnf;
+    bool holdsSnf = false;
 };
 
 constexpr Books Collections{u"MilkCollections", u"MilkCollectionsTemp", u"CollectionDate", u"CollectionTime",

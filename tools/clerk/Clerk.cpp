@@ -21,8 +21,7 @@
 
 namespace {
 
-// The desktop that VETROLAN_DESKTOP names, such as "1366x768"; without it the smallest that a society's PC
-// has.
+// The desktop size in VETROLAN_DESKTOP, such as "1366x768"; by default the smallest that a society's PC has.
 QRect Desktop()
 {
     const QStringList sides =
@@ -30,7 +29,7 @@ QRect Desktop()
     return {0, 0, sides.value(0).toInt(), sides.value(1).toInt()};
 }
 
-// Where a key goes: to the screen on top.
+// The widget that gets the keys: that of the screen on top.
 QWidget* KeyTarget()
 {
     const Screen* screen = ModalStack::Current().Top();
@@ -46,8 +45,7 @@ void Strike(const KeyStroke& stroke)
     QCoreApplication::sendEvent(target, &press);
 }
 
-// Whether the program isn't ready for the clerk: a box takes no key yet, or a handler goes on while it
-// paints.
+// Whether keys would be dropped or kept now: a new box takes no keys yet, or a handler is showing progress.
 bool IsBusy()
 {
     return FreshKeys::Awaited() || Painting::IsUnderWay();
@@ -55,17 +53,17 @@ bool IsBusy()
 
 }
 
-// The program and the script run on threads of their own, but never at the same time: the script runs only
-// while the program waits for it between two events, so it may look at everything.
+// Program and script run on threads of their own, but never at the same time: the script runs only while the
+// program waits for it between two events, so it can read everything safely.
 class Clerk::Private {
 public:
     std::binary_semaphore scriptsTurn{0};
     std::binary_semaphore programsTurn{0};
-    std::function<void()> action; // what the script wants done; empty when it has ended
+    std::function<void()> action; // what the script wants done; empty at its end
     bool ended = false;
 
-    // Lets the script think, then does what it asks for. The next turn is set up before that, so that it
-    // comes inside a dialog that the action may open.
+    // Lets the script run until it wants something done, and does that. The next turn is scheduled first, so
+    // that it also comes if the action opens a dialog.
     void Turn()
     {
         scriptsTurn.release();
@@ -81,8 +79,8 @@ public:
         wanted();
     }
 
-    // Twice round the event loop, so that what the program has put off until its event ends is done, too. A
-    // box that has come up is waited for until it takes keys: the clerk presses what he sees.
+    // Goes round the event loop twice, so that work which the program has put off until its event ends is
+    // done, too. If a box has opened, waits until it takes keys, as a clerk would.
     void TurnWhenAtRest()
     {
         QTimer::singleShot(0, qApp,

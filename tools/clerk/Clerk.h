@@ -10,56 +10,55 @@
 
 class RunTimeError;
 
-// The hands and eyes of a clerk, for the tests and the tour: types on the real windows, one key at a time,
-// and waits after each until the program has nothing left to do. Keys that open a dialog return with the
-// dialog open; the next key goes to it.
+// Plays the clerk, for the tests and the tour: types on the real windows, one key at a time, and after each
+// waits until the program has nothing left to do. A key that opens a dialog returns with the dialog open, and
+// the next key goes to it.
 class Clerk {
 public:
     Clerk();
     ~Clerk();
 
-    // Runs `program`, which opens screens and returns when they have closed, while `script` plays on it.
-    // Screens that are still open when the script ends are left as if the power had failed. Returns the
-    // run-time error that ended the program, if one did.
+    // Runs `program`, which opens screens and returns when they have closed, while `script` types. Screens
+    // that are still open at the end of the script are abandoned, as in a power cut. Returns the run-time
+    // error that ended the program, if there was one.
     [[nodiscard]] std::optional<RunTimeError> Play(
         const std::function<void()>& program, const std::function<void(Clerk&)>& script);
 
-    // The rest is for the script.
+    // The functions below are for the script.
 
     // Types keys in the form that SendKeys takes.
     void Type(const QString& keys);
 
-    // Types keys without looking up: all of them wait in the application's queue before the first is
-    // answered, and each goes to whatever window is on top when its turn comes. Returns when the program is
-    // at rest.
+    // Types ahead: all keys are put into the application's queue before the first is handled, and each goes
+    // to the screen that is on top by then. Returns when the program is at rest.
     void TypeAhead(const QString& keys);
 
-    // Presses a control of the screen on top with the mouse; a list on its current row.
+    // Clicks a control of the screen on top; in a list its current row.
     void Press(const QString& control);
 
-    // Closes the window on top by its close box.
+    // Presses the close box of the window.
     void CloseBox();
 
-    // Does something on the program's own thread and waits until the program is at rest again.
+    // Runs `action` on the thread of the program and waits until the program is at rest again.
     void Do(const std::function<void()>& action);
 
-    // The screen on top; none open is a failure of the script.
+    // The screen on top. If none is open, the script fails.
     Screen& Top() const;
     template <class S> S& On() const { return dynamic_cast<S&>(Top()); }
 
     // The name of the screen on top; empty if none is open.
     QString ScreenName() const;
 
-    // The name of the control that holds the focus on the screen on top.
+    // The name of the control with the focus on the screen on top.
     QString Focus() const;
 
-    // The text of a control of the screen on top, as the system spells it.
+    // The text of a control of the screen on top, as it is stored.
     QString Reads(const QString& control) const;
 
     // Whether a control of the screen on top can take the focus.
     bool CanEnter(const QString& control) const;
 
-    // The text of the message dialog on top, as the system spells it; empty if there is none.
+    // The text of the message box on top, as it is stored; empty if there is none.
     QString Message() const;
 
     // Saves a picture of the window.

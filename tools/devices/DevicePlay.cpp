@@ -9,19 +9,19 @@ namespace {
 
 using Measure = DevicePlay::Measure;
 
-// A figure right-aligned in so many characters.
+// A number, right-aligned in `width` characters.
 QByteArray Figure(double value, int decimals, int width)
 {
     return QByteArray::number(value, 'f', decimals).rightJustified(width);
 }
 
-// A line of digits with zeros in front.
+// The digits of a number with leading zeros, without a point.
 QByteArray Digits(double value, int width)
 {
     return QByteArray::number(std::llround(value)).rightJustified(width, '0');
 }
 
-// Litres in five characters from the sixth on, fat in four from the fifteenth on.
+// Litres in five characters from the sixth on, and fat in four from the fifteenth on.
 QByteArray LitersAndFat(const Measure& measure)
 {
     return "ST,GS" + Figure(measure.liters, 2, 5) + ",FT," + Figure(measure.fat, 1, 4) + "\r\n";

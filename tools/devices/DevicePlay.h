@@ -6,26 +6,26 @@
 #include <optional>
 #include <vector>
 
-// What a device says: answers to commands, or a line that it sends by itself, again and again.
+// What a device sends: replies to commands, or a frame that it repeats by itself.
 struct DevicePlay {
     struct Answer {
         QByteArray command;
         QByteArray reply;
     };
     std::vector<Answer> answers;
-    QByteArray frame; // empty for a device that waits to be asked
+    QByteArray frame; // empty if the device only replies
 
-    // What stands on the device.
+    // The quantities that are being measured.
     struct Measure {
         double liters = 12.5;
         double fat = 4.2;
-        QByteArray receiverCommand = "W"; // the question that "UDFREAD" answers
+        QByteArray receiverCommand = "W"; // the command that the device "UDFREAD" answers
     };
 
-    // The device of a name; nothing for a name that is none.
+    // The device with this name; no value for an unknown name.
     static std::optional<DevicePlay> Of(const QString& kind, const Measure& measure);
 
-    // The scales by their names in the settings, "NO" for a tester that is asked, "PERCENT" for one that
-    // sends by itself.
+    // All device names: the scales by their names in the settings, "NO" for a tester that is asked, "PERCENT"
+    // for one that sends by itself.
     static QStringList Kinds();
 };

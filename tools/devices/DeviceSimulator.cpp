@@ -71,7 +71,7 @@ DeviceSimulator::~DeviceSimulator()
     Unplug();
 }
 
-// The other end is opened once and closed, so that the terminal tells from then on whether anybody listens.
+// Opens and closes the other end once: only after that does the terminal tell whether somebody has it open.
 void DeviceSimulator::OpenTerminal()
 {
     m_master = posix_openpt(O_RDWR | O_NOCTTY);
@@ -106,7 +106,7 @@ void DeviceSimulator::Run()
     constexpr milliseconds listening{2};
     milliseconds sinceFrame = m_pause;
     while (m_master >= 0 && Rest(listening)) {
-        // What was sent just before the port was closed is still there to be taken.
+        // Reads what was sent just before the port was closed.
         Take();
         sinceFrame += listening;
         if (!m_play.frame.isEmpty() && sinceFrame >= m_pause && IsListenedTo()) {
@@ -116,7 +116,7 @@ void DeviceSimulator::Run()
     }
 }
 
-// Lets time pass; false if the play is over.
+// Waits; returns false when the simulator is to end.
 bool DeviceSimulator::Rest(milliseconds length) const
 {
     pollfd stop{m_stop[0], POLLIN, 0};
@@ -132,7 +132,7 @@ bool DeviceSimulator::IsListenedTo() const
 void DeviceSimulator::Take()
 {
     pollfd line{m_master, POLLIN, 0};
-    std::array<char, 256> buffer;
+    std::array<char, 256> buffer{};
     while (m_master >= 0 && poll(&line, 1, 0) > 0 && (line.revents & POLLIN) != 0) {
         const ssize_t count = read(m_master, buffer.data(), buffer.size());
         if (count <= 0)
@@ -190,7 +190,7 @@ void DeviceSimulator::SendPieces(const QByteArray& reply, qsizetype size)
     }
 }
 
-// What the line doesn't take is lost, as on a wire that nobody reads.
+// Bytes that the line doesn't take are lost, as on a real wire.
 void DeviceSimulator::Put(const QByteArray& bytes) const
 {
     pollfd line{m_master, POLLOUT, 0};

@@ -10,32 +10,32 @@
 #include <mutex>
 #include <thread>
 
-// Plays a device on a pseudo-terminal, on a thread of its own, until it goes out of scope.
+// Plays a device on a pseudo-terminal, on a thread of its own, until it is destroyed.
 class DeviceSimulator {
 public:
-    // Slow answers late and byte by byte; Noisy turns bits of every third byte; Unplugged goes away after a
-    // third of its first reply.
+    // Slow answers late and byte by byte. Noisy inverts bits in every third byte. Unplugged disappears after
+    // a third of its first reply.
     enum class Manner { Prompt, Slow, Pieces, Noisy, Silent, Unplugged };
 
-    // The manner of a name such as "prompt"; nothing for a name that is none.
+    // The manner with a name such as "prompt"; no value for an unknown name.
     static std::optional<Manner> MannerOf(const QString& name);
 
     // The names of all manners.
     static QStringList Manners();
 
-    // `pause` lies between two pieces and between two frames; before a slow answer it passes many times.
+    // `pause` is the time between two pieces and between two frames; a slow answer waits a multiple of it.
     DeviceSimulator(DevicePlay play, Manner manner, std::chrono::milliseconds pause);
     ~DeviceSimulator();
     DeviceSimulator(const DeviceSimulator&) = delete;
     DeviceSimulator& operator=(const DeviceSimulator&) = delete;
 
-    // The terminal's path, such as /dev/pts/3; empty if the system gave none.
+    // The path of the terminal, such as /dev/pts/3; empty if it couldn't be opened.
     QString Device() const { return m_device; }
 
-    // All that was sent to the device.
+    // Everything that was sent to the device so far.
     QByteArray Received() const;
 
-    // Waits until so much has been sent to it; false if it doesn't come.
+    // Waits until these bytes have been sent to it; returns false after `atMost`.
     bool WaitUntilReceived(const QByteArray& bytes, std::chrono::milliseconds atMost);
 
 private:
@@ -55,7 +55,7 @@ private:
     QString m_device;
     int m_master = -1;
     int m_stop[2] = {-1, -1};
-    QByteArray m_asked; // since the last answer
+    QByteArray m_asked; // received since the last answer
     mutable std::mutex m_lock;
     std::condition_variable m_came;
     QByteArray m_received;

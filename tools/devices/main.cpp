@@ -11,12 +11,12 @@ namespace {
 
 constexpr int WrongUse = 2;
 
-// What the command line asks for.
+// The options of the command line.
 struct Wanted {
     DevicePlay play;
     DeviceSimulator::Manner manner;
     std::chrono::milliseconds pause;
-    QString link; // empty for none
+    QString link; // empty for no link
 };
 
 struct Options {
@@ -55,7 +55,7 @@ int Refuse(const QString& why)
     return WrongUse;
 }
 
-// What was asked for; nothing, and the reason in `why`, for what can't be played.
+// Reads the options; no value, and the reason in `why`, if they can't be played.
 std::optional<Wanted> Read(const QCommandLineParser& parser, const Options& options, QString& why)
 {
     if (parser.positionalArguments().size() != 1) {
@@ -81,7 +81,7 @@ std::optional<Wanted> Read(const QCommandLineParser& parser, const Options& opti
     return Wanted{*play, *manner, std::chrono::milliseconds(pause), parser.value(options.link)};
 }
 
-// The signals that end the program, kept from every thread that is made after this.
+// Blocks the signals that end the program in this thread and all that it starts, and returns them.
 sigset_t HoldEndSignals()
 {
     sigset_t signals;
@@ -92,7 +92,7 @@ sigset_t HoldEndSignals()
     return signals;
 }
 
-// Plays until the shell ends the program.
+// Plays until one of these signals arrives.
 int Play(const Wanted& wanted, const sigset_t& endSignals)
 {
     const DeviceSimulator device(wanted.play, wanted.manner, wanted.pause);

@@ -37,9 +37,9 @@ void BreakOff(int)
     brokenOff = 1;
 }
 
-// While it lives the terminal shows the ends of lines only. A signal that would end the program ends the
-// typing instead: the terminal must not be left so. It comes through while input is waited for, and only
-// then, so that none falls between a look and the waiting.
+// While this object exists, the terminal shows nothing of what is typed but line ends. A signal that would
+// end the program ends only the typing, so that the terminal can be restored. The signal is let through only
+// during the wait for input, so none can arrive between a check and the wait.
 class UnseenTyping {
 public:
     UnseenTyping()
@@ -85,7 +85,7 @@ private:
     termios m_seen{};
 };
 
-// One line without its end; no more than that is taken. What is far too long for a password isn't read out.
+// Reads one line, without its end. A line that is far too long for a password is not read to its end.
 QString Line(const std::function<void()>& waitForInput = [] {})
 {
     constexpr qsizetype farTooLong = 1000;
@@ -107,7 +107,7 @@ QString Line(const std::function<void()>& waitForInput = [] {})
 
 void Prompt(const char* text)
 {
-    // Nothing can be done where the terminal doesn't take it: the typing shows it.
+    // If the terminal fails here, it will fail while reading, too.
     [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, text, qstrlen(text));
 }
 
@@ -120,7 +120,7 @@ QString AskedPassword::Read()
     const UnseenTyping unseen;
     const auto wait = [&] { unseen.WaitForInput(); };
     Prompt("Password of the books (it isn't shown): ");
-    const QString password = Line(wait);
+    QString password = Line(wait);
     Prompt("The same once more: ");
     if (Line(wait) != password)
         Fail(QStringLiteral("The two passwords differ."));

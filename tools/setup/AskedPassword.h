@@ -2,12 +2,12 @@
 
 #include <QString>
 
-// The password of new books, asked for so that it stands neither in the shell's history nor in the list of
-// processes.
+// Asks for the password of a new database, so that it appears neither in the history of the shell nor in the
+// list of processes.
 namespace AskedPassword {
 
-// At a terminal it is typed twice, unseen; else it is the first line of the standard input, empty if there is
-// none. A RunTimeError if the two differ or the typing was broken off.
+// At a terminal it is typed twice, without being shown; else it is the first line of standard input, which
+// may be empty. It is a RunTimeError if the two differ or the typing is interrupted.
 QString Read();
 
 }

@@ -4,12 +4,12 @@
 
 #include <array>
 
-// The people of the demonstration: those of a village on the Krishna, all invented.
+// The invented members and customers of the demonstration society.
 struct DemoMember {
     QStringView name;
     QStringView animal; // as stored
-    bool byBank;
-    int village; // of DemoVillages
+    bool byBank = false;
+    int village = 0; // index in DemoVillages
 };
 
 inline constexpr std::array<QStringView, 4> DemoVillages{u"कराड", u"सातारा", u"मसूर", u"वडगाव"};
@@ -60,7 +60,7 @@ inline constexpr std::array<DemoMember, 40> DemoMembers{{
 struct DemoCustomer {
     QStringView name;
     QStringView animal;
-    bool federation;
+    bool federation = false;
 };
 
 inline constexpr std::array<DemoCustomer, 6> DemoCustomers{{

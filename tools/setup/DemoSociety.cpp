@@ -16,12 +16,12 @@ constexpr QStringView Cow = u"gaaya";
 constexpr QStringView Buffalo = u"mhOsa";
 constexpr QStringView Bank = u"जिल्हा मध्यवर्ती सहकारी बँक";
 
-// A generator of our own: the libraries' ones needn't give the same numbers on every machine.
+// A random generator of our own, since the library's distributions differ between machines.
 class Dice {
 public:
     explicit Dice(quint64 seed) : m_state(seed) { }
 
-    // A number from low to high, both included.
+    // A number from low to high, inclusive.
     int Between(int low, int high)
     {
         m_state = m_state * 6364136223846793005u + 1442695040888963407u;
@@ -33,7 +33,7 @@ private:
     quint64 m_state;
 };
 
-// What a member's animals give: about this much, at about this fat.
+// The usual yield of a member's animals: litres and fat.
 struct Yield {
     int millilitres = 0;
     int tenths = 0;
@@ -62,13 +62,13 @@ std::vector<Member> Members(Dice& dice)
     return members;
 }
 
-// One "insert ... values" a table; the engine takes long lists in one go.
+// One "insert ... values" for a table, with all rows in a long list.
 QString Insert(QStringView table, const QStringList& rows)
 {
     return QStringLiteral("insert into ") % table % QStringLiteral(" values ") % rows.join(u',') % u';';
 }
 
-// The rows of one society as they come into being.
+// Makes the rows of the society.
 class Deliveries {
 public:
     Deliveries(const QDate& from, Dice& dice, std::vector<Member>& members)
@@ -90,7 +90,8 @@ public:
     }
 
 private:
-    // Members come in no order, most of them every time; one with both animals brings two cans.
+    // The members come in random order, and most of them every time. A member with both animals brings two
+    // cans.
     void AddShift(const QDate& day, QStringView shift)
     {
         m_rows.clear();
@@ -130,7 +131,7 @@ private:
         m_rows.append(u'(' % values.join(u',') % u')');
     }
 
-    // Both shifts open at six: the clock that the counter notes goes by twelve hours.
+    // Both shifts begin at six, and the counter writes times on a twelve-hour clock.
     QString Clock() const
     {
         const int hour = 6 + m_minute / 60;
@@ -147,7 +148,7 @@ private:
     int m_minute = 0;
 };
 
-// A closing figure of litres as the counter leaves it: the sum, in single precision.
+// A member's closing litres as the counter computes them: the sum in single precision.
 QString ClosingLitres(qint64 millilitres)
 {
     return ShortestDecimal(static_cast<float>(static_cast<double>(millilitres) / 1000));
@@ -189,7 +190,7 @@ QString CustomerScript()
     return Insert(u"CustomersMaster", customers) % Insert(u"AccountsMaster", accounts);
 }
 
-// The villages that aren't delivered already.
+// The villages that aren't among the delivered rows.
 QString VillageScript()
 {
     QString script;

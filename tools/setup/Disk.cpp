@@ -27,7 +27,7 @@ std::error_code LastFailure()
     return {errno, std::generic_category()};
 }
 
-// Some network disks can't be asked to write the names of a folder; they keep them in order themselves.
+// Some network disks can't sync a folder; they write its names in order by themselves.
 bool IsFolderThatNeedsNone(int handle, const std::error_code& failed)
 {
     struct stat found { };

@@ -4,8 +4,8 @@
 
 #include <system_error>
 
-// The changes of a disk that safe writing is made of, one a call; what can't be done is told by its code.
-// Tests put a disk that fails in the place of the real one.
+// The changes to a disk that safe writing needs. Each returns an error code. Tests replace it by a disk that
+// fails.
 class Disk {
 public:
     Disk() = default;
@@ -13,24 +13,24 @@ public:
     Disk(const Disk&) = delete;
     Disk& operator=(const Disk&) = delete;
 
-    // What was written to a file, or the names in a folder, are on disk when this returns.
+    // When this returns, the content of a file, or the names in a folder, are on the disk.
     virtual std::error_code Sync(const QString& path);
 
-    // Gives a file a second name, which must be free.
+    // Gives a file a second name, which must not exist yet.
     virtual std::error_code Link(const QString& file, const QString& name);
 
-    // Copies a file to a free name.
+    // Copies a file to a name that must not exist yet.
     virtual std::error_code Copy(const QString& file, const QString& name);
 
-    // Renames a file; one that has the name already is gone, at once.
+    // Renames a file; an existing file of that name is replaced in the same step.
     virtual std::error_code Move(const QString& from, const QString& to);
 
-    // Removes a file; one that isn't there is no failure.
+    // Removes a file; it is no failure if there is none.
     virtual std::error_code Remove(const QString& file);
 
     // The disk in use.
     static Disk& Current();
 
-    // Uses another disk from now on; the real one again for a null pointer.
+    // Uses another disk from now on; a null pointer restores the real one.
     static void Use(Disk* disk);
 };

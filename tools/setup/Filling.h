@@ -4,16 +4,15 @@
 
 struct SocietyPlan;
 
-// What is put into a new society beside the delivered rows, as scripts.
+// What is put into a new society besides the delivered rows, as SQL scripts.
 struct Filling {
-    QString rows; // before the indexes are made
-    QString closing; // after them
+    QString rows; // run before the indexes are made
+    QString closing; // run after that
 };
 
 // 40 members, 6 customers, and the deliveries of April and May. The same plan gives the same rows on every
 // machine.
 Filling DemoFilling(const SocietyPlan& plan);
 
-// As many members as asked for, all of whom bring one can to each shift of as many days from the year's
-// first.
+// So many members, each of whom brings one can to every shift of so many days from the first day of the year.
 Filling LargeFilling(const SocietyPlan& plan, int members, int days);

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The chart by tenths of fat, in paise, for the time of the filling.
+// The rate chart by tenths of fat, in paise; a temporary table for the filling.
 QString RateScript()
 {
     const FirstChart chart = ReadFirstChart();
@@ -35,8 +35,8 @@ QString MemberScript(int members)
     return Spelled(QStringLiteral("insert into MembersMaster values ") % rows.join(u',') % u';');
 }
 
-// The engine makes the deliveries itself, day by day, shift by shift, in the members' order. The multipliers
-// only spread the litres and the fats.
+// The database engine makes the deliveries itself, by day, shift and member. The multipliers only spread the
+// litres and fats.
 QString DeliveryScript(const QDate& from, int days)
 {
     return QStringLiteral(

@@ -4,8 +4,8 @@
 
 namespace {
 
-// No blanks, which are trimmed where the password is read; no quote marks, commas, braces and semicolons,
-// which mean something to a file of items or to a connection string.
+// No blanks, since they are trimmed when the password is read, and no quotes, commas, braces or semicolons,
+// which have a meaning in the file or in a connection string.
 constexpr QStringView AllowedMarks = u"!#$%&()*+-./:<=>?@[\\]^_|";
 constexpr qsizetype LongestPassword = 64;
 
@@ -15,7 +15,7 @@ bool IsAllowed(QChar c)
     return ascii && (c.isLetterOrNumber() || AllowedMarks.contains(c));
 }
 
-// A shift that keeps every character within ASCII and off the file's own marks.
+// Chooses a key that keeps all characters in ASCII and clear of quotes and commas.
 char KeyFor(const QByteArray& password)
 {
     const auto fits = [&](char key) {

@@ -3,15 +3,15 @@
 #include <QByteArray>
 #include <QString>
 
-// The database's password as it stands in PWD.TXT: one character to a line, in double quotes, shifted up by
-// the code of the key character, which is the last line. PasswordItems reads it. It keeps the password from a
-// passing eye only.
+// Writes PWD.TXT, from which PasswordItems reads the password: one character a line in double quotes, shifted
+// up by the code of the key character, which is the last line. This only hides it from a passing glance.
 namespace PasswordFile {
 
-// Why a password can't be kept so: one sentence, or an empty text if it can.
+// The reason why a password can't be stored like this, in one sentence; empty if it can.
 QString WhyRefused(const QString& password);
 
-// The file of a password that isn't refused. It is plain ASCII, whatever the machine reads it as.
+// The content of the file for an accepted password. It is plain ASCII, so that it reads the same in every
+// code page.
 QByteArray Written(const QString& password);
 
 }

@@ -27,7 +27,7 @@ QString FolderOf(const QString& path)
     return QFileInfo(QDir::cleanPath(QFileInfo(path).absoluteFilePath())).path();
 }
 
-// The folder and those above it that aren't there yet, the lowest first.
+// The missing folders of a path, the lowest first.
 QStringList MissingFolders(const QString& folder)
 {
     QStringList missing;
@@ -73,7 +73,7 @@ void SafeFiles::MoveInto(const QString& from, const QString& to)
 
 void SafeFiles::Keep(const QString& file, const QString& name)
 {
-    if (Disk::Current().Link(file, name)) { // there are disks that know no second names
+    if (Disk::Current().Link(file, name)) { // some file systems have no hard links
         Require(Disk::Current().Copy(file, name), QStringLiteral("Can't keep"), file);
         Sync(name);
     }

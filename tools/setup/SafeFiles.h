@@ -3,29 +3,29 @@
 #include <QByteArray>
 #include <QString>
 
-// Changes that a power cut can't undo: each is on disk when the call returns, unless it says otherwise. What
-// can't be done, or can't be brought to the disk, is a RunTimeError that names the file.
+// File operations that a power cut can't undo: when a call returns, the change is on the disk, unless it says
+// otherwise. A failure is a RunTimeError that names the file.
 namespace SafeFiles {
 
-// Makes a folder with those above it.
+// Makes a folder, and the folders above it if they are missing.
 void MakeFolder(const QString& folder);
 
-// Writes a file. A power cut can halve it: it is for names that nobody reads before MoveInto.
+// Writes a file. A power cut can leave half of it, so use a name that nobody reads before MoveInto.
 void Write(const QString& file, const QByteArray& content);
 
-// Brings a file that something else has written to the disk.
+// Writes a file that something else has made through to the disk.
 void Sync(const QString& file);
 
-// Gives a finished file another name; one that has the name already is gone, at once.
+// Renames a finished file; an existing file of that name is replaced in the same step.
 void MoveInto(const QString& from, const QString& to);
 
-// Keeps a file under a second name, which must be free, and leaves the first as it is.
+// Gives a file a second name, which must not exist yet; the first stays.
 void Keep(const QString& file, const QString& name);
 
-// Removes a file, if there is one. SyncFolder brings that to the disk.
+// Removes a file, if it exists. SyncFolder makes that durable.
 void Remove(const QString& file);
 
-// The changes of names in a folder are on disk when this returns.
+// Makes the changes of names in a folder durable.
 void SyncFolder(const QString& folder);
 
 }

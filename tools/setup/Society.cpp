@@ -28,10 +28,10 @@ namespace {
 
 constexpr int InvalidCall = 5;
 constexpr int FirstYear = 2000;
-constexpr int LastYear = 2098; // a chart's name holds two digits of the year
+constexpr int LastYear = 2098; // the name of a chart has only two digits of the year
 constexpr qsizetype LongestName = 100;
 
-// What the engine keeps beside a database. The index of the log holds nothing of its own.
+// The files that the database engine keeps beside a database. The index of the log holds no data of its own.
 constexpr QStringView Log = u"-wal";
 constexpr QStringView LogIndex = u"-shm";
 constexpr QStringView RollbackJournal = u"-journal";
@@ -74,7 +74,8 @@ void RemoveDatabase(const QString& file)
         QFile::remove(file % ending);
 }
 
-// Makes the whole database under a name of its own. It needs no journal: what isn't finished is thrown away.
+// Makes the whole database under a temporary name. It needs no journal, since an unfinished one is thrown
+// away.
 void Build(const QString& file, const SocietyPlan& plan, const Filling& filling)
 {
     RemoveDatabase(file);
@@ -92,7 +93,7 @@ bool IsFilled(const QString& file)
     return QFileInfo(file).size() > 0;
 }
 
-// The password that the society in a folder is to be opened with; nothing if its file hides none.
+// The password of the society in a folder; no value if its file holds none.
 std::optional<QString> OldPassword(const QString& folder)
 {
     QFile file(FileIn(folder, PasswordFileName));
@@ -109,7 +110,7 @@ std::optional<QString> OldPassword(const QString& folder)
     }
 }
 
-// Whether the old database opens. One that doesn't any more, or has lost its password, is kept as it is.
+// Whether the old database can be opened. If not, or if its password is lost, it is kept as it is.
 bool Opens(Connection& old, const QString& database, const QString& password)
 {
     const QString source = QStringLiteral("VetrolanSetupOld");
@@ -124,8 +125,8 @@ bool Opens(Connection& old, const QString& database, const QString& password)
     return true;
 }
 
-// After a power cut the last writing may stand in the log beside the database; it is brought in, so that the
-// kept database is one file.
+// After a power cut the last changes may be in the log beside the database; they are written into it, so that
+// one file is kept.
 void FoldLog(const QString& folder)
 {
     const QString database = FileIn(folder, DatabaseFileName);
@@ -139,15 +140,15 @@ void FoldLog(const QString& folder)
     old.Close();
 }
 
-// A name with a date between it and its ending: Morvelta-2026-04-01-101530.mdb.
+// Puts a date before the ending of a name: Morvelta-2026-04-01-101530.mdb.
 QString Dated(QStringView name, const QString& date)
 {
     const QFileInfo file(name.toString());
     return file.completeBaseName() % u'-' % date % u'.' % file.suffix();
 }
 
-// A date to keep older files under; a number more where one of their names is taken. `namesUnder` gives the
-// names that a date makes.
+// A date for the names of older files, with a number added if one of the names exists. `namesUnder` returns
+// the names for a date.
 QString FreeDate(const QDateTime& now, const std::function<QStringList(const QString&)>& namesUnder)
 {
     const auto isFree = [&](const QString& date) {
@@ -162,7 +163,7 @@ QString FreeDate(const QDateTime& now, const std::function<QStringList(const QSt
     return date;
 }
 
-// The date under which everything of the old society is kept.
+// The date for the names of all files of the old society.
 QString FreeDateOfSociety(const QString& folder, const QDateTime& now)
 {
     return FreeDate(now, [&](const QString& date) {
@@ -172,10 +173,9 @@ QString FreeDateOfSociety(const QString& folder, const QDateTime& now)
     });
 }
 
-// Moves what is left of an older society to dated names: its database last, with one change of a name, after
-// copies of its log and its password. So a power cut finds either the old society as it was, or none, and
-// all of the old one under one date. A log without its database is kept in the same way: left where it is, it
-// would be read into the new database.
+// Moves an older society to dated names: first copies of its log and its password, and the database last, in
+// a single rename. So after a power cut there is either the old society as it was, or all of it under one
+// date. A log without a database is kept as well; left there, it would be read into the new database.
 void KeepOld(const QString& folder, const QDateTime& now)
 {
     const QString database = FileIn(folder, DatabaseFileName);
@@ -195,7 +195,8 @@ void KeepOld(const QString& folder, const QDateTime& now)
     SafeFiles::SyncFolder(folder);
 }
 
-// The files of a society in the making, under names that nothing reads. What is left of them goes with it.
+// The files of an unfinished society, under names that nobody reads. The destructor removes what is left of
+// them.
 class Unfinished {
 public:
     explicit Unfinished(const QString& folder)
@@ -219,9 +220,9 @@ private:
     QString m_password;
 };
 
-// Puts a finished society in the place of what is there. The database comes last: without it nothing opens,
-// so no power cut leaves a database beside another one's password or log, and making the society once more
-// is all that is to be done after one.
+// Puts the files of a finished society in their places, the database last: without it nothing can be opened.
+// So a power cut never leaves a database beside the password or log of another one, and making the society
+// again is all that is needed.
 void PutInPlace(const Unfinished& made, const QString& folder, const QDateTime& now)
 {
     const QString database = FileIn(folder, DatabaseFileName);
@@ -246,13 +247,13 @@ bool Holds(const QString& file, const QByteArray& content)
     return existing.open(QIODevice::ReadOnly) && existing.readAll() == content;
 }
 
-// A file in the making. What is left of it goes with it.
+// An unfinished file. The destructor removes it.
 struct UnfinishedFile {
     QString name;
     ~UnfinishedFile() { QFile::remove(name); }
 };
 
-// What a society has changed in a template is its own work: it isn't lost.
+// A template that the society has changed is its own work and is kept.
 void PutTemplate(const QString& folder, const Delivered::File& delivered, const QDateTime& now)
 {
     const QString file = FileIn(folder, delivered.name);
@@ -300,7 +301,7 @@ void CopyFile(const QString& from, const QString& to, QStringView name)
 
 QString WhyRefused(const SocietyPlan& plan)
 {
-    const QString name = WhyNameRefused(plan.name);
+    QString name = WhyNameRefused(plan.name);
     if (!name.isEmpty())
         return name;
     const QString year = WhyYearRefused(plan.year);

@@ -3,45 +3,46 @@
 #include <QDateTime>
 #include <QString>
 
-// What the installer is told of a new society.
+// What the installer is told about a new society.
 struct SocietyPlan {
-    QString name; // in Devanagari; without apostrophes, which would break the system's statements
-    QString year; // "2026-2027": the books run from 1 April of the first to 31 March of the second
+    QString name; // in Devanagari, without apostrophes, which would break statements
+    QString year; // "2026-2027": from 1 April of the first year to 31 March of the second
     QString password; // ASCII letters, digits and marks
-    bool demo = false; // with 40 members, their customers and two months of deliveries, always the same
-    bool replace = false; // an older database is kept under a dated name; else it is an error
-    QDateTime now = QDateTime::currentDateTime(); // dates the names of what is kept
+    bool demo = false; // with 40 members, 6 customers and two months of deliveries, always the same
+    bool replace = false; // keep an older database under a dated name; otherwise it is an error
+    QDateTime now = QDateTime::currentDateTime(); // the date in those names
 };
 
-// The file names of a society within its folder.
+// The names of a society's files in its folder.
 inline constexpr QStringView DatabaseFileName = u"Morvelta.mdb";
 inline constexpr QStringView PasswordFileName = u"PWD.TXT";
 inline constexpr QStringView BackupFolderName = u"Backup";
 
-// Why no society can be made of a plan: one sentence, or an empty text if it can.
+// The reason why the plan is refused, in one sentence; empty if it is accepted.
 QString WhyRefused(const SocietyPlan& plan);
 
-// Makes a society in a folder: the database, the note that its pages are sound, the password's file, the folder
-// of the backups and the report templates. A refused plan, an older database that isn't to be replaced, and a file that can't be written are RunTimeErrors.
+// Makes a society in a folder: the database, the note that its pages are sound, the password file, the folder
+// for backups and the report templates. It is a RunTimeError if the plan is refused, if there is an older
+// database that isn't to be replaced, or if a file can't be written.
 //
-// A power cut or an error leaves either the older society as it was, or no database and the older society
-// whole under a dated name (its log and its password under the same date); making the society again is all
-// it takes then. A database never stands beside the log or the password of another. A log that has lost its
-// database is kept under a dated name, too.
+// After a power cut or an error there is either the older society as it was, or no database and the whole
+// older society under a dated name (log and password under the same date); then making the society again is
+// all that is needed. A database is never left beside the log or the password of another one. A log without a
+// database is also kept under a dated name.
 void MakeSociety(const QString& folder, const SocietyPlan& plan);
 
-// Writes the report templates into a folder. One that differs from the delivered one is kept under a dated
-// name first; one that doesn't is left alone. A power cut leaves each of them as it was or new.
+// Writes the report templates into a folder. A template that differs from the delivered one is first kept
+// under a dated name; one that doesn't is left alone. After a power cut each of them is whole, old or new.
 void WriteTemplates(const QString& folder, const QDateTime& now = QDateTime::currentDateTime());
 
-// Writes one of them, in the same way. A name that isn't delivered is a RunTimeError.
+// Writes one template in the same way. An unknown name is a RunTimeError.
 void WriteTemplate(
     const QString& folder, const QString& name, const QDateTime& now = QDateTime::currentDateTime());
 
-// The same for tests: the society of a plan is made once in a process, and copied from then on. The folder
-// must hold no society.
+// MakeSociety for tests: makes the society of a plan once for each process, and then copies it. The folder
+// must not hold a society.
 void CopySociety(const QString& folder, const SocietyPlan& plan);
 
-// A society after a full year, for measuring: members and two shifts a day to which all of them come, each
-// with one can. 500 members give 365,000 deliveries.
+// Makes a society with a full year of deliveries, for measuring: every member brings one can to both shifts
+// of each day. 500 members give 365,000 deliveries.
 void MakeLargeSociety(const QString& folder, const SocietyPlan& plan, int members = 500, int days = 365);

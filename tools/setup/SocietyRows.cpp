@@ -38,7 +38,7 @@ QString FilledIn(const SocietyPlan& plan)
     return rows;
 }
 
-// The lines of a delivered table below its heading, each as its cells.
+// The cells of each line of a delivered table, without its heading.
 QList<QStringList> Cells(const QString& table)
 {
     QList<QStringList> cells;

@@ -7,23 +7,23 @@
 
 struct SocietyPlan;
 
-// The first and the last day of an accounting year, "2026-2027".
+// The first and the last day of an accounting year such as "2026-2027".
 QDate FirstDay(const QString& year);
 QDate LastDay(const QString& year);
 
-// The script with its Devanagari literals put into the stored encoding. Comments stay as they are.
+// Converts the Devanagari literals of a script to the stored encoding. Comments stay as they are.
 QString Spelled(const QString& script);
 
-// A text as a literal of a script.
+// A text as an SQL literal.
 QString Quoted(QStringView text);
 
-// A whole number of hundredths or thousandths as a decimal number of a script, in shortest form.
+// A number given in whole hundredths or thousandths, in its shortest decimal form.
 QString Decimal(qint64 units, int decimals);
 
-// Everything that every new society comes with, as one script: tables, view, rows; without the indexes.
+// The script of everything that a new society gets: tables, view and rows, without the indexes.
 QString DeliveredScript(const SocietyPlan& plan);
 
-// The rates of the first chart, in paise, by tenths of fat; 0 where the chart has no row.
+// The rates of the first chart in paise, by tenths of fat; 0 where it has no row.
 struct FirstChart {
     static constexpr int Rows = 301;
     std::array<int, Rows> cow{};
@@ -31,10 +31,11 @@ struct FirstChart {
 };
 FirstChart ReadFirstChart();
 
-// The name of the table of a chart that begins on a date: Fat010426.
+// The name of the table for a chart that begins on this date, such as Fat010426.
 QString ChartName(const QDate& date);
 
-// Litres (in thousandths) times a rate (in paise), in paise, half a paisa up: what the counter shows.
+// Amount in paise of litres (in thousandths) at a rate (in paise), half a paisa rounded up, as at the
+// counter.
 constexpr qint64 AmountInPaise(qint64 millilitres, qint64 rate)
 {
     return (millilitres * rate + 500) / 1000;

@@ -46,7 +46,7 @@ int Complain(ExitCode code, const QString& sentence)
     return code;
 }
 
-// What the arguments lack, in one sentence; an empty text if nothing.
+// What is wrong with the arguments, in one sentence; empty if nothing.
 QString WhyUnusable(const QCommandLineParser& parser, const Options& options)
 {
     if (!parser.positionalArguments().isEmpty())
@@ -69,19 +69,19 @@ QString PasswordFor(const QCommandLineParser& parser, const Options& options)
     return asks ? AskedPassword::Read() : given;
 }
 
-// The search screen looks for its slip in the folder of an older program.
+// The search screen looks for its receipt template in this folder, that of an older program.
 constexpr QStringView OlderFolder = u"C:\\Tarvel01\\Sorvelan\\";
 constexpr QStringView OlderTemplate = u"MilkReceiptAtk.rpt";
 
-// Where the society lies: in a folder that was named, or where the program looks for it.
+// Where the society is made: in a folder given by the user, or where the program looks for it.
 class Place {
 public:
     explicit Place(const QString& named) : m_named(named) { }
 
     QString Folder() const { return m_named.isEmpty() ? LocalPath(AppFolder) : m_named; }
 
-    // Takes from everybody else what they may do with older files. In a folder that was named other things
-    // may lie, too: there it is done with those of a society only.
+    // Takes the rights to existing files from other users. A folder that the user named may hold other
+    // things, so there only the files of a society are changed.
     void KeepToOwner() const
     {
         if (m_named.isEmpty())

@@ -12,7 +12,7 @@ namespace {
 
 enum ExitCode { Sound = 0, Faulty = 1, BadArguments = 2 };
 
-// The tables of a society that has just been made, without its rows.
+// Makes the tables of a new society, without rows.
 void MakeTables(Connection& connection, const QTemporaryDir& folder)
 {
     connection.Create(folder.filePath(QStringLiteral("tables.mdb")), QStringLiteral("tables"));

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Lists who stayed away, from a button of the gate that stands before the first field.
+// Lists the absent members; the button of the gate for this comes before the first field.
 void LookForAbsentMembers(Tour& tour)
 {
     tour.Step(QStringLiteral("gate"), QStringLiteral("{F8}"));
@@ -44,7 +44,7 @@ void SortAndSearchAtTheGate(Tour& tour)
     tour.Type(Escape);
 }
 
-// A row under a wrong number is changed, and then taken away with its number.
+// Changes a row that was entered for the wrong number, and then deletes it by its number.
 void MendTheRegister(Tour& tour)
 {
     tour.Type(QStringLiteral("15+{TAB}+{TAB}99") + Enter + Enter + Enter);
@@ -64,7 +64,7 @@ void MendTheRegister(Tour& tour)
     tour.CheckRows(QStringLiteral("row deleted"), figures, {});
 }
 
-// Three mornings of a member from a paper register.
+// Enters three mornings of a member from a paper register.
 void KeyTheRegister(Tour& tour)
 {
     tour.Step(QStringLiteral("register"), QStringLiteral("{DOWN}{DOWN}") + Enter);
@@ -89,7 +89,7 @@ void KeyTheRegister(Tour& tour)
     tour.Type(Escape);
 }
 
-// Waits for the timer with which the screen opens.
+// Waits for the timer that the screen starts when it opens.
 void AwaitSearchScreen(Tour& tour)
 {
     const QDeadlineTimer limit(10000);

@@ -6,7 +6,7 @@
 
 namespace {
 
-// The three tabs, then the whole way of Enter to the button of the layouts, with slips on the screen chosen.
+// Goes through the three tabs, and then by Enter to the button of the layouts; chooses slips on the screen.
 void ChooseSlipsOnScreen(Tour& tour)
 {
     tour.Step(QStringLiteral("settings-collection"), Escape + QStringLiteral("{F7}"));
@@ -45,7 +45,7 @@ void TakeADelivery(Tour& tour)
     tour.CheckColumn(QStringLiteral("DataGridInwards"), u"CollectionNo", QStringLiteral("9 8 7 6 4 3 2 1"));
 }
 
-// What the books say of his ten days.
+// The sum of a column over the member's ten days, from the database.
 QString SumOfTheFirstMember(QStringView column)
 {
     double sum = 0;

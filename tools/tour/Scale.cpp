@@ -10,7 +10,7 @@
 
 namespace {
 
-// Out of the list of the reports into the settings, and from there to the counter.
+// From the list of reports to the settings, where the devices are switched on.
 void SwitchTheDevicesOn(Tour& tour)
 {
     tour.Step(QStringLiteral("settings-devices"), QStringLiteral("{F7}1") + Enter + QStringLiteral("1"));
@@ -21,7 +21,7 @@ void SwitchTheDevicesOn(Tour& tour)
     tour.Type(Escape);
 }
 
-void OpenTheCounter(Tour& tour)
+void OpenTheCounterAgain(Tour& tour)
 {
     tour.Type(Escape + QStringLiteral("{HOME}{DOWN}") + Enter + Enter + Enter + QStringLiteral("1") + Enter);
     tour.Check(
@@ -60,7 +60,7 @@ void PlayScale(Tour& tour)
                                                                    : QStringLiteral("not linked"),
             QStringLiteral("linked"));
         SwitchTheDevicesOn(tour);
-        OpenTheCounter(tour);
+        OpenTheCounterAgain(tour);
         WeighADelivery(tour);
         const bool zeroed = simulator.WaitUntilReceived("tzTZ", std::chrono::seconds(10));
         tour.Check(QStringLiteral("the scale was set to zero"), QString::number(zeroed), QStringLiteral("1"));
@@ -68,5 +68,5 @@ void PlayScale(Tour& tour)
     }
 #endif
     tour.LeaveOut(QStringLiteral("a scale that fills a delivery: this system gives no pseudo-terminal"));
-    OpenTheCounter(tour);
+    OpenTheCounterAgain(tour);
 }

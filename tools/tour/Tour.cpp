@@ -86,7 +86,7 @@ void Tour::KeepReport(const QString& name, const QString& text, int times)
     CheckReads(QStringLiteral("lblState"), QStringLiteral("सापडले: 1 / %1").arg(times));
 
     const QString path = QDir(m_folder).filePath(name + QStringLiteral(".pdf"));
-    QFile::remove(path); // that of a tour before
+    QFile::remove(path); // from an earlier tour
     Type(QStringLiteral("^s") + KeysOf(name) + Enter + KeysOf(m_folder));
     Type(Enter + Enter);
     CheckReads(QStringLiteral("lblState"), QStringLiteral("जतन केले: ") + path);
@@ -96,7 +96,7 @@ void Tour::KeepReport(const QString& name, const QString& text, int times)
         QStringLiteral("1"));
 }
 
-// A PDF that was written to its end.
+// Checks that a PDF was written completely.
 void Tour::CheckFile(const QString& what, const QString& path)
 {
     QFile file(path);

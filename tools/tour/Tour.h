@@ -5,41 +5,40 @@
 #include <QString>
 #include <QStringList>
 
-// A walk through the program by keys, and by the mouse where a screen gives no key: steps leave pictures, and
-// what they left in the books is checked and written down.
+// Plays the program by keys, and by the mouse where a screen has no key. Each step saves a picture, and what
+// it wrote to the database is checked and noted in a summary.
 class Tour {
 public:
-    // `folder` takes the pictures and the summary; it is made if it isn't there.
+    // `folder` is for the pictures and the summary; it is made if it is missing.
     Tour(Clerk& clerk, const QString& folder);
 
-    // Types keys and saves a numbered picture of what stands then.
+    // Types keys and saves a numbered picture of the result.
     void Step(const QString& name, const QString& keys);
 
     // Types keys without a picture.
     void Type(const QString& keys) { m_clerk.Type(keys); }
 
-    // Writes down a value of the walk and whether it is the expected one.
+    // Notes a value and whether it is the expected one.
     void Check(const QString& what, const QString& found, const QString& expected);
 
-    // Writes down the rows of a query, a line each, and whether they are the expected ones.
+    // Notes the rows of a query, one a line, and whether they are the expected ones.
     void CheckRows(const QString& what, const QString& query, const QStringList& expected);
 
-    // Writes down what a field or a label of the screen on top reads, and whether it is expected.
+    // Notes the text of a field or label of the screen on top, and whether it is the expected one.
     void CheckReads(const QString& control, const QString& expected);
 
-    // Writes down the values of a field in a list of the screen on top, from the top down with blanks between
+    // Notes the values of a field in a list of the screen on top, from top to bottom with blanks between
     // them, and whether they are the expected ones.
     void CheckColumn(const QString& list, QStringView field, const QString& expected);
 
-    // Takes a picture of the report that is shown, looks for a text in it (as the system spells it) that
-    // stands there so many times, saves it as a PDF by keys under the picture's name, checks the file, and
-    // leaves the report.
+    // Handles the report that is shown: takes a picture, searches for a stored text and checks how often it
+    // is found, saves a PDF named like the picture, checks that file, and closes the report.
     void KeepReport(const QString& name, const QString& text, int times);
 
-    // Writes down what can't be played on this machine.
+    // Notes what can't be played on this machine.
     void LeaveOut(const QString& what) { m_summary.append(QStringLiteral("left out ") + what); }
 
-    // Saves summary.txt; false if a check went wrong or a file couldn't be written.
+    // Saves summary.txt. Returns false if a check failed or a file couldn't be written.
     bool Finish();
 
     Clerk& TheClerk() { return m_clerk; }
@@ -50,36 +49,37 @@ private:
     void NotePicture(const QString& file);
     void CheckFile(const QString& what, const QString& path);
 
-    QString m_folder; // its whole path
+    QString m_folder; // its absolute path
     QStringList m_summary;
     int m_pictures = 0;
     int m_wrong = 0;
 };
 
-// A text of the system as keys to type, for SendKeys and the clerk.
+// A stored text as keys, in the form that SendKeys takes.
 QString KeysOf(const QString& stored);
 
-// The same for a text as it is seen.
+// The same for a text in Devanagari.
 QString KeysOf(const char16_t* seen);
 
 inline const QString Enter = QStringLiteral("{ENTER}");
 inline const QString Escape = QStringLiteral("{ESC}");
 
-// The keys from the number of a delivery on: member, litres, fat, and over the rate to the button.
+// The keys of a delivery from the member number on: member, litres, fat, and past the rate to the save
+// button.
 QString DeliveryKeys(const char* member, const char* liters, const char* fat);
 
-// The parts of the tour, in their order. Each begins where the one before it ends.
+// The parts of the tour, in order. Each begins on the screen where the one before ends.
 
-// From the title to a shift of deliveries, at the counter.
+// From the title screen to a shift of deliveries, at the counter.
 void PlayMorning(Tour& tour);
 
-// The settings and the slips, the member's frame of the counter; back to the menu.
+// The settings and the slips, and the member's frame of the counter; ends at the menu.
 void PlayPaper(Tour& tour);
 
-// From the menu: the gate, absent members, the back office and a reprint; back to the list of the reports.
+// From the menu through the gate, absent members, the back office and a reprint; ends at the list of reports.
 void PlayBackOffice(Tour& tour);
 
-// From the list of the reports through four of them and back.
+// Four reports from the list of reports, and back to it.
 void PlayReports(Tour& tour);
 
 // From the menu to a delivery that a scale fills; ends at the counter.

@@ -16,13 +16,13 @@
 
 namespace {
 
-// The morning of the tour, so that its pictures are the same each time.
+// A clock that stands at the morning of the tour, so that its pictures are always the same.
 class MorningClock final : public Clock {
 public:
     QDateTime Now() const override { return QDateTime(QDate(2026, 6, 1), QTime(6, 5)); }
 };
 
-// The program's own box while the clerk is there to close it. When the tour has broken off, nobody is.
+// The program's own message box while the clerk can close it. If the tour has failed, nobody can.
 class TourBox final : public MessageBox {
 public:
     bool ClerkIsThere = true;
@@ -39,7 +39,7 @@ private:
     PlainBoxCards m_cards;
 };
 
-// The members were paid this morning for what they brought from the 21st on.
+// Records that the members were paid this morning for their milk from the 21st on.
 void PayTheLastDaysOfMay(Connection& books)
 {
     books.RunScript(QStringLiteral(
@@ -51,7 +51,7 @@ void PayTheLastDaysOfMay(Connection& books)
         "where CollectionDate between '2026-05-21' and '2026-05-31' group by MemberNo,MemberName;"));
 }
 
-// Who sets up a scale writes its name into the books; no screen asks for it.
+// Writes the name of the scale into the settings; no screen asks for it.
 void ConnectScale(Connection& books)
 {
     books.Execute(QStringLiteral("update AutoSettings set WeighScale='ELECTRO'"));

@@ -20,8 +20,8 @@ namespace {
 struct Shift {
     QStringView time;
     QStringView seen;
-    const char* litres; // the names of their labels
-    const char* amount;
+    const char* litres = nullptr; // the names of their labels
+    const char* amount = nullptr;
 };
 constexpr Shift Shifts[] = {{u"sakaL", u"सकाळ", "lblMorningLiters", "lblMorningAmount"},
     {u"saMQyaakaL", u"संध्याकाळ", "lblEveningLiters", "lblEveningAmount"}};

@@ -19,7 +19,7 @@ private:
     void ShowBackup();
 
     QLabel* m_day;
-    QLabel* m_litres[2]; // morning, evening
-    QLabel* m_amount[2];
+    QLabel* m_litres[2] = {}; // morning, evening
+    QLabel* m_amount[2] = {};
     QLabel* m_backup;
 };

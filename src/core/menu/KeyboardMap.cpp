@@ -8,7 +8,7 @@
 namespace {
 
 struct KeyRow {
-    double indent; // in key widths
+    double indent = 0; // in key widths
     QStringView plain;
     QStringView shifted;
 };
@@ -61,8 +61,8 @@ void PaintAltNumbers(QPainter& painter, const QRectF& area)
         const int number = Shivaji01::AltNumber(glyph.code);
         if (number == 0)
             continue;
-        const QRectF cell(
-            area.left() + at % columns * width, area.top() + at / columns * height, width, height);
+        const int row = at / columns;
+        const QRectF cell(area.left() + at % columns * width, area.top() + row * height, width, height);
         painter.setFont(Look::PaintedFont(Look::Size::Small));
         painter.setPen(QColor(Look::Ink).lighter(250));
         painter.drawText(cell, Qt::AlignLeft | Qt::AlignVCenter,

@@ -18,8 +18,8 @@ namespace {
 // An entry of the main list. Its list stands at the same place in m_subLists.
 struct MainEntry {
     QStringView text;
-    const std::int16_t AppState::*accessFlag; // the right that its list needs; null for none
-    int indexAfter; // where Esc and Left leave the main list; -1 leaves it where it is
+    const std::int16_t AppState::*accessFlag = nullptr; // the right that its list needs; null for none
+    int indexAfter = -1; // where Esc and Left leave the main list; -1 leaves it where it is
 };
 
 constexpr MainEntry MainEntries[] = {

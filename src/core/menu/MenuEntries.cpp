@@ -90,6 +90,7 @@ const MenuEntry* MenuEntries::Find(const QString& text)
 std::vector<Caption> MenuEntries::Captions(const std::vector<MenuEntry>& entries)
 {
     std::vector<Caption> captions;
+    captions.reserve(entries.size());
     for (const MenuEntry& entry : entries)
         captions.push_back(Shivaji(entry.text));
     return captions;

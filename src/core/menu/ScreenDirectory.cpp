@@ -15,9 +15,9 @@ QHash<QString, ScreenDirectory::Maker>& Makers()
 
 }
 
-void ScreenDirectory::Add(const QString& name, Maker maker)
+void ScreenDirectory::Add(const QString& name, const Maker& maker)
 {
-    Makers().insert(name, std::move(maker));
+    Makers().insert(name, maker);
 }
 
 void ScreenDirectory::Open(const QString& name, const Caption& entry, const Caption& title)

@@ -8,7 +8,7 @@
 namespace {
 
 // Two rows of keys: how to look at the report, and what can be done with it.
-QWidget* KeyRows(const QString& screen)
+QWidget* KeyStrips(const QString& screen)
 {
     auto* rows = new QWidget;
     rows->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -44,6 +44,6 @@ void frmReportPreview::BuildWindow()
     body->setSpacing(6);
     body->addLayout(search);
     body->addWidget(picPage.Widget(), 1);
-    Layout::Stack(*this, header, body, KeyRows(Name()));
+    Layout::Stack(*this, header, body, KeyStrips(Name()));
     body->setContentsMargins(6, 6, 6, 6);
 }

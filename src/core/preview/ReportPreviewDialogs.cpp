@@ -72,6 +72,7 @@ void frmReportFile::cmdSave_Click()
 {
     const QString wanted = WantedFile();
     const QFileInfo file(wanted);
+    // NOLINTNEXTLINE(bugprone-branch-clone): the question is asked last, when nothing else stands in the way
     if (wanted.isEmpty()) {
         txtFile.SetFocus();
     } else if (txtFolder.Text().trimmed().isEmpty() || !file.dir().exists()) {

@@ -9,7 +9,7 @@ namespace {
 constexpr int RestMilliseconds = 2000;
 
 // A long run of savings without a rest is folded on its way.
-constexpr qint64 LongestLog = 8 * 1024 * 1024;
+constexpr qint64 LongestLog = 8LL * 1024 * 1024;
 
 }
 

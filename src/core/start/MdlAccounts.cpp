@@ -19,7 +19,7 @@ namespace {
 
 struct AccessFlag {
     QStringView menuName;
-    std::int16_t AppState::*flag;
+    std::int16_t AppState::*flag = nullptr;
 };
 
 constexpr AccessFlag AccessFlags[] = {

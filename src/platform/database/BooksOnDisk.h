@@ -8,53 +8,54 @@
 
 #include <memory>
 
-// The file of the books and its log as they lie on the disk while this process has them open.
+// The database file and its log on the disk, while this process has them open.
 //
-// Nothing in this process may open and close that file, its log or its index in any other way meanwhile: when
-// a process closes a file, the system drops all locks that the process has on it, the engine's among them,
-// and the next program that looks at the books takes their log away from under the engine. So this object
-// opens both once, before the engine's first lock, and closes them behind its last; whoever reads the raw
-// bytes of books asks AreOpen first.
+// Nothing else in this process may open and close that file, its log or its index: when a process closes a
+// file, the system drops all locks that it holds on it, including those of the database engine, and the next
+// program that looks at the database would take the log away. So this object opens both files before the
+// engine takes its first lock and closes them after its last. Whoever reads the raw file asks AreOpen first.
 class BooksOnDisk {
 public:
-    // The one object of a database file in this process.
+    // The object of a database file; there is one for each file that is open in this process.
     static std::shared_ptr<BooksOnDisk> Hold(const QString& file);
 
-    // Whether this process has the file open.
+    // Whether this process has the database file open.
     static bool AreOpen(const QString& file);
 
-    // Whether a path leads to books that this process has open, to their log or to their index, however it is
-    // spelled and whatever links are on the way.
+    // Whether a path, with all its links followed, leads to a database file that is open in this process, or
+    // to its log or index.
     static bool AreReachedBy(const QString& path);
 
     enum class Verdict {
         Untouched,
-        FoldedByOthers, // another program has brought the log into the books, as it may
-        LogEmptied, // the books were written and the log is empty: folded by others, if the engine says so
-        LogGone, // the books are the same, and the engine still has the removed log
-        Changed, // replaced, cut short or overwritten: nothing may be written any more
+        FoldedByOthers, // another program has folded the log, which is allowed
+        LogEmptied, // the database was written and the log is empty: folded by others, if the engine confirms
+                    // it
+        LogGone, // the database is the same; the log was removed, but the engine still has it open
+        Changed, // replaced, truncated or overwritten: nothing may be written any more
     };
 
-    // Looks whether books and log are still the ones that were opened, and not smaller.
+    // Checks whether database and log are still the files that were opened, and no smaller.
     Verdict Look();
 
-    // What lies there now is what the engine has written: one of them, or both. First called when the engine
-    // has opened the log.
+    // Remembers the present state of both files, or one of them, as written by the engine. First called when
+    // the engine has opened the log.
     void RememberBooks();
     void RememberLog();
     void Remember();
 
-    // The marks of the books and of the round of the log that is being written, see LogMark.
+    // The marks of the database and of the round of the log that is being written, see LogMark.
     LogRound round;
 
-    // Whether the files were found to be others: from then on nothing goes into them, whoever has them open.
+    // Whether the files were found to be replaced: from then on nothing is written to them, by any
+    // connection.
     bool isForeign = false;
 
-    // Takes the object out of the books that this process has open: its connection is left to the end of the
-    // process, and the file can be opened anew.
+    // Removes the object from the open databases: its connection stays open until the process ends, and the
+    // file can be opened again.
     void LeaveToTheEnd();
 
-    // Sees that what was written into the books is on the disk with its time.
+    // Makes what was written to the database durable, with the time of the file.
     void Sync();
 
     const FileState& Books() const { return m_books; }

@@ -10,7 +10,7 @@ QString TextAt(sqlite3_stmt* statement, int column)
     return QString::fromUtf8(reinterpret_cast<const char*>(text), sqlite3_column_bytes(statement, column));
 }
 
-// Whether the name is a table or a view, and how it is spelt; nullptr if it is neither.
+// The table or view with this name, with its name as declared; null if there is none.
 std::shared_ptr<Table> ReadName(sqlite3* handle, QStringView name)
 {
     sqlite3_stmt* statement = nullptr;

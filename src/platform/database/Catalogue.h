@@ -8,7 +8,7 @@
 
 struct sqlite3;
 
-// What a column holds, by the type that it was declared with.
+// The content of a column, by its declared type.
 enum class ColumnType { Unknown, Text, Number, Date };
 
 struct Column {
@@ -21,19 +21,19 @@ struct Table {
     bool isView = false;
     std::vector<Column> columns;
 
-    // The column of a name in any spelling, or nullptr.
+    // The column with this name, in upper or lower case; null if there is none.
     const Column* Find(QStringView column) const;
 };
 
-// The tables and views of the open file, each read when a statement first names it.
+// The tables and views of the open database. Each is read when a statement first names it.
 class Catalogue {
 public:
     explicit Catalogue(sqlite3* handle) : m_handle(handle) { }
 
-    // The table or view of a name in any spelling; nullptr if the file has none.
-    std::shared_ptr<const Table> Find(QStringView table);
+    // The table or view with this name, in upper or lower case; null if there is none.
+    std::shared_ptr<const Table> Find(QStringView name);
 
-    // A table was made or dropped: everything is read anew.
+    // To be called when a table was made or dropped: everything is read again.
     void Forget() { m_tables.clear(); }
 
 private:
@@ -41,5 +41,5 @@ private:
     QHash<QString, std::shared_ptr<const Table>> m_tables;
 };
 
-// The type that a declaration such as "REAL" or "Date" stands for.
+// The type for a declaration such as "REAL" or "Date".
 ColumnType TypeOfDeclaration(QStringView declaration);

@@ -15,20 +15,20 @@ struct Target {
 // Reads "dsn=NAME;pwd=PASSWORD". The password is all that follows, whatever characters it holds.
 Target ReadConnectionString(const QString& connectionString)
 {
-    constexpr QStringView Source = u"dsn=";
-    constexpr QStringView Password = u";pwd=";
-    const qsizetype password = connectionString.indexOf(Password, 0, Qt::CaseInsensitive);
-    if (!connectionString.startsWith(Source, Qt::CaseInsensitive) || password < 0)
+    constexpr QStringView sourceKey = u"dsn=";
+    constexpr QStringView passwordKey = u";pwd=";
+    const qsizetype password = connectionString.indexOf(passwordKey, 0, Qt::CaseInsensitive);
+    if (!connectionString.startsWith(sourceKey, Qt::CaseInsensitive) || password < 0)
         throw RunTimeError(RunTimeError::DatabaseFailure,
             Sentences(u"डेटाबेसचे नाव समजले नाही.",
                 QStringLiteral("The connection string is not \"dsn=NAME;pwd=PASSWORD\".")));
-    const QString name = connectionString.mid(Source.size(), password - Source.size()).trimmed();
+    const QString name = connectionString.mid(sourceKey.size(), password - sourceKey.size()).trimmed();
     const QString file = DataSource::File(name);
     if (file.isEmpty())
         throw RunTimeError(RunTimeError::DatabaseFailure,
             Sentences(
                 u"डेटाबेसचे नाव माहीत नाही.", QStringLiteral("The data source \"%1\" is not known.").arg(name)));
-    return {file, connectionString.mid(password + Password.size())};
+    return {file, connectionString.mid(password + passwordKey.size())};
 }
 
 }

@@ -8,9 +8,9 @@
 #include <functional>
 #include <memory>
 
-// The one road to the books: an encrypted database file, spoken to in the system's own statements.
-// A statement is one statement; anything after it is an error and nothing is executed. Every failure is
-// a RunTimeError that carries the statement.
+// A connection to an encrypted database file; the only way to reach the data. Statements are in the dialect
+// of the screens, see Translator. Each call takes a single statement: text after it is an error, and nothing
+// is executed. Every failure is a RunTimeError with the statement.
 class Connection {
 public:
     Connection();
@@ -18,38 +18,38 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    // Opens "dsn=NAME;pwd=PASSWORD". The file must exist; it is never created here. A missing file, a
-    // file that is no database or is cut short, and a wrong password are errors that say which.
-    // Returns what the opening has met with or put right, a text each for the clerk.
+    // Opens "dsn=NAME;pwd=PASSWORD". The file must exist. A missing file, a file that isn't a database or is
+    // truncated, and a wrong password are different errors. Returns what was found or repaired, in sentences
+    // for the clerk.
     QStringList Open(const QString& connectionString, const OpeningPlan& plan = {});
 
-    // Closes the file; open record sets end first. Closing twice is allowed.
+    // Closes the database, and open record sets first. It may be called again.
     void Close();
 
     bool IsOpen() const;
 
-    // Brings what was saved from the log beside the file into the file, so that the file alone is the books.
-    // Does nothing while a transaction is open or rows are being read; then it returns false. What can't be
-    // folded now, because of a full disk or another reader, stays safe in the log.
+    // Folds the log: writes what it holds into the database file, so that this file alone is complete.
+    // Returns false and does nothing during a transaction or while rows are being read. What can't be folded
+    // now, because of a full disk or another reader, stays safe in the log.
     bool Fold();
 
-    // How many bytes of saved work lie in the log. 0: all is in the file.
+    // The size of the log in bytes; 0 if everything is in the database file.
     qint64 LogSize() const;
 
-    // `written` is called behind each transaction that was committed.
+    // Sets a function that is called after each committed transaction.
     void SetWritten(std::function<void()> written);
 
-    // Runs a statement that returns no rows. Returns the number of rows that it changed.
+    // Runs a statement that returns no rows. Returns how many rows it has changed.
     int Execute(const QString& statement);
     int Execute(QStringView statement) { return Execute(statement.toString()); }
 
-    // Makes a new, empty, encrypted file and opens it. An existing file is an error.
+    // Makes a new, empty, encrypted database and opens it. It is an error if the file exists.
     void Create(const QString& file, const QString& password);
 
-    // For the installer: runs a script of the engine's own SQL (many statements) as it stands.
+    // For the installer: runs a script of many statements in the engine's own SQL.
     void RunScript(const QString& script);
 
-    // The engine's handle, for the benchmarks' floors and the fault tests only.
+    // The handle of the database engine, only for benchmarks and fault tests.
     sqlite3* Handle() const;
 
     class Private;

@@ -9,7 +9,8 @@
 #include <deque>
 #include <optional>
 
-// A prepared statement on loan: bound and ready to step. It goes back to the cache when the loan ends.
+// A prepared statement that was taken from the cache, bound and ready to step. It goes back to the cache at
+// the end of the loan.
 class Loan {
 public:
     Loan() = default;
@@ -25,13 +26,13 @@ public:
     Prepared* operator->() const { return m_prepared.get(); }
     sqlite3_stmt* Handle() const { return m_prepared->Handle(); }
 
-    // Ends the reading but keeps the statement.
+    // Stops reading but keeps the statement.
     void Reset();
 
-    // Ends the loan.
+    // Gives the statement back to the cache.
     void End();
 
-    // Ends the loan without giving back: the connection closes.
+    // Ends the loan without giving the statement back: the connection is closing.
     void Drop() { m_prepared.reset(); }
 
 private:
@@ -51,7 +52,7 @@ public:
     const std::vector<QString>& Names() const;
     void Close();
 
-    // The connection closes, or a table of this query is about to change: what was not yet read is read.
+    // Reads the remaining rows now: the connection is closing, or a table of this query is about to change.
     void Abandon();
     void KeepRest(const Translation* writing);
 
@@ -68,7 +69,7 @@ private:
     bool m_eof = false;
     bool m_isKept = false; // the current row and the rest of the rows are in m_rows
     std::deque<std::vector<FieldValue>> m_rows;
-    mutable int m_hint = 0; // fields are mostly read in their order
+    mutable int m_hint = 0; // the next field, since fields are mostly read in order
 };
 
 class Connection::Private {
@@ -80,13 +81,13 @@ public:
     StatementCache& Cache() { return m_cache; }
     StatementGuard& Guard() { return m_guard; }
 
-    // Makes a statement ready to step, with its literals bound.
+    // Returns a statement that is ready to step, with its literals bound.
     Loan Take(const QString& statement);
     int Execute(const QString& statement);
     void RunScript(const QString& script);
 
-    // Transactions join: only the outermost one begins and commits, and one that is given up inside
-    // another dooms the whole.
+    // Transactions inside each other are joined: only the outermost begins and commits, and if an inner one
+    // is given up, the whole is rolled back.
     void Begin();
     void Commit();
     void GiveUp();
@@ -123,5 +124,6 @@ private:
     std::function<void()> m_written;
     int m_depth = 0;
     bool m_isDoomed = false;
-    std::optional<LogMark> m_newRound; // what the running transaction gives to a new round of the log
+    std::optional<LogMark>
+        m_newRound; // the marks with which the running transaction begins a new round of the log
 };

@@ -2,13 +2,13 @@
 
 #include <QString>
 
-// The machine-wide names of databases: a connection string names a data source, not a file.
+// Names of databases: a connection string contains such a name, not a path.
 namespace DataSource {
 
-// Names a database file. A name registered again takes the new file.
+// Gives a database file a name. A name that exists gets the new file.
 void Register(const QString& name, const QString& file);
 
-// The file of a name, in any spelling; empty if the name is unknown.
+// The file with this name, in upper or lower case; empty if the name is unknown.
 QString File(const QString& name);
 
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-// So much of a statement is shown; a longer one would push the buttons off the screen.
+// The greatest length of a statement in a box; a longer one would push the buttons off the screen.
 constexpr qsizetype ShownLength = 500;
 
 QString Shown(QStringView statement)
@@ -66,8 +66,8 @@ QString Told(QStringView marathi, const char* english, const QString& detail = {
     return Sentences(clerks, helpers + detail);
 }
 
-// The engine tells a file that has no room to grow from a disk that fails, but not for the index of its log,
-// which takes 32 KB before anything is read or written.
+// The engine reports a full disk for the database file, but not for the index of the log, which takes 32 KB
+// at the start.
 bool IsFull(sqlite3* handle, int code)
 {
     return (code & 0xFF) == SQLITE_IOERR && sqlite3_extended_errcode(handle) == SQLITE_IOERR_SHMSIZE;

@@ -8,41 +8,41 @@
 
 struct sqlite3;
 
-// How the books are to be opened.
+// How a database is to be opened.
 struct OpeningPlan {
-    // Every page is read before the books are used. After an end without a close that is done in any case.
+    // Read every page before the database is used. After an unclean end this is done in any case.
     bool checksPages = false;
 
-    // Called before every page is read, which takes a moment.
+    // Called before all pages are read, which may take a while.
     std::function<void()> checking;
 
-    // What damaged books are to be replaced with, as it is told to the clerk; may be empty.
+    // The backup to restore if the database is damaged, named in the text for the clerk; may be empty.
     QString newestBackup;
 };
 
-// A database file that has been opened.
+// An open database file.
 struct OpenedFile {
     sqlite3* handle = nullptr;
     std::shared_ptr<BooksOnDisk> onDisk;
-    QStringList notes; // what the opening has met with or put right, a text each for the clerk
+    QStringList notes; // what was found or repaired, in sentences for the clerk
 };
 
-// The encrypted file: how it is made, looked at and opened.
+// Makes and opens encrypted database files.
 namespace DatabaseFile {
 
-// The engine's own default, so that its stock shell opens the books with nothing but the password.
+// The default of the engine, so that its own shell can open the file with the password alone.
 constexpr int PageSize = 1024;
 
-// How long a statement waits for another program that uses the books.
+// How long a statement waits for another program that has the database locked.
 constexpr int BusyMilliseconds = 5000;
 
-// Opens an existing file under its password and makes it ready for the books. A file that is missing, no
-// database, damaged, cut short or not to be written, and a wrong password are errors that say which; the file
-// is looked at first, so that a failed opening neither makes nor changes a file. What a power cut has left in
-// the log is played into the books, if it is theirs and whole.
+// Opens an existing file with its password. A file that is missing, damaged, truncated, read-only or not a
+// database, and a wrong password are different errors. The file is checked first, so that a failed opening
+// neither makes nor changes a file. What a power cut left in the log is applied, if the log belongs to this
+// database and is whole.
 OpenedFile Open(const QString& file, const QString& password, const OpeningPlan& plan);
 
-// Makes a new, empty file and opens it. An existing file or an empty password is an error.
+// Makes a new, empty file and opens it. It is an error if the file exists or the password is empty.
 OpenedFile Create(const QString& file, const QString& password);
 
 }

@@ -23,7 +23,7 @@ const unsigned char* Bytes(const QByteArray& bytes)
 }
 
 struct Salt {
-    QByteArray bytes; // empty if there is none to be had
+    QByteArray bytes; // empty if it can't be read
     bool isNew = false;
 };
 
@@ -35,7 +35,7 @@ Salt NewSalt()
     return {salt, true};
 }
 
-// Read through the engine's own file: opening the books a second time would cost the engine its locks.
+// Reads through the file that the engine has open: opening it a second time would cost the engine its locks.
 Salt SaltOf(sqlite3* opened)
 {
     sqlite3_file* file = nullptr;
@@ -53,7 +53,7 @@ Salt SaltOf(sqlite3* opened)
 
 QByteArray KeyOf(const QByteArray& password, const QByteArray& salt)
 {
-    std::array<unsigned char, KeyBytes> key;
+    std::array<unsigned char, KeyBytes> key{};
     pbkdf2_hmac_sha1(static_cast<std::size_t>(password.size()), Bytes(password), Rounds, SaltBytes,
         Bytes(salt), key.size(), key.data());
     return QByteArray(reinterpret_cast<const char*>(key.data()), KeyBytes).toHex();
@@ -64,7 +64,7 @@ QByteArray KeptKeyOf(const QByteArray& password, const QByteArray& salt)
     static QHash<QPair<QByteArray, QByteArray>, QByteArray> kept;
     if (const auto found = kept.constFind({password, salt}); found != kept.constEnd())
         return *found;
-    const QByteArray key = KeyOf(password, salt);
+    QByteArray key = KeyOf(password, salt);
     if (kept.size() >= KeptKeys)
         kept.clear();
     kept.insert({password, salt}, key);
@@ -75,7 +75,7 @@ QByteArray KeptKeyOf(const QByteArray& password, const QByteArray& salt)
 
 QByteArray FileKey::For(sqlite3* opened, const QString& password)
 {
-    const QByteArray bytes = password.toUtf8();
+    QByteArray bytes = password.toUtf8();
     if (bytes.isEmpty())
         return bytes;
     const Salt salt = SaltOf(opened);

@@ -4,7 +4,7 @@
 
 class QFile;
 
-// Which file a name stands for at the moment, and when it was last written.
+// Identifies the file that a name stands for, with its size and the time when it was last written.
 struct FileState {
     quint64 device = 0;
     quint64 number = 0; // of the file on its device; 0 where the system has none
@@ -20,5 +20,5 @@ struct FileState {
     }
 };
 
-// Sees that what was written into an open file is on the disk, with its size and time.
+// Makes what was written to an open file durable, with its size and time. Returns false if that fails.
 bool SyncToDisk(const QFile& file);

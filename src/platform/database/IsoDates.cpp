@@ -20,11 +20,11 @@ int Digits(const char* text, int count)
 
 bool IsDay(int year, int month, int day)
 {
-    constexpr int Days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     if (year < MinYear || month < 1 || month > 12 || day < 1)
         return false;
     const bool leap = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-    return day <= (month == 2 && leap ? 29 : Days[month - 1]);
+    return day <= (month == 2 && leap ? 29 : days[month - 1]);
 }
 
 std::string_view WithoutBlanks(std::string_view text)

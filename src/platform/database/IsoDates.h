@@ -4,22 +4,23 @@
 
 #include <string_view>
 
-// The dates of the file are ISO text (yyyy-MM-dd); the statements write them as MM/dd/yyyy between # signs
-// and as dd/MM/yyyy in quotes. Ten bytes to ten bytes, so that a literal is turned round where it stands.
+// Dates are stored as ISO text (yyyy-MM-dd). Statements write them as MM/dd/yyyy between # signs or as
+// dd/MM/yyyy in quotes. All forms have ten characters, so a literal is converted in place.
 namespace IsoDates {
 
 inline constexpr int Length = 10;
 
-// MM/dd/yyyy to ISO. False, and nothing written, if the text is no date.
+// Converts MM/dd/yyyy to ISO. Returns false and writes nothing if the text isn't a date.
 bool FromMonthFirst(std::string_view text, char* iso);
 
-// dd/MM/yyyy, blanks at the ends allowed, to ISO. False, and nothing written, if the text is no date.
+// Converts dd/MM/yyyy to ISO; blanks at the ends are allowed. Returns false and writes nothing if the text
+// isn't a date.
 bool FromDayFirst(std::string_view text, char* iso);
 
-// ISO to dd/MM/yyyy. False, and nothing written, if the text is no ISO date.
+// Converts ISO to dd/MM/yyyy. Returns false and writes nothing if the text isn't an ISO date.
 bool ToDayFirst(std::string_view iso, char* text);
 
-// The date of an ISO text; invalid if the text is no ISO date.
+// The date of an ISO text; invalid if it isn't one.
 QDate ToDate(std::string_view iso);
 
 }

@@ -9,13 +9,13 @@
 
 struct sqlite3;
 
-// A database file opened under a password, closed again unless its handle is let go.
+// A database file that is opened with its password. The destructor closes it, unless its handle was taken.
 class KeyedFile {
 public:
     enum class Way {
         Write,
-        Read, // with the log that lies beside it; neither is changed
-        LookOnly, // the bare file; nothing is touched, locked or made
+        Read, // with the log beside it; neither is changed
+        LookOnly, // the file alone; nothing is changed, locked or made
     };
 
     KeyedFile(const QString& file, const QString& password, Way way);
@@ -26,7 +26,7 @@ public:
     sqlite3* Handle() const { return m_handle; }
     sqlite3* LetGo() { return std::exchange(m_handle, nullptr); }
 
-    // How the opening went: the engine's code.
+    // The engine's result code of the opening.
     int Code() const { return m_code; }
 
     int Run(const QByteArray& pragma);
@@ -39,17 +39,17 @@ private:
     int m_code = 0;
 };
 
-// What a first page says under a password, looked at without touching anything.
+// What the first page of a database tells with a password; reading it changes no file.
 struct FirstPage {
-    int code = 0; // the engine's; 0 if it is a database's under this password
+    int code = 0; // the engine's result code; 0 if this is a database with this password
     LogMark mark;
 
     static FirstPage OfFile(const QString& file, const QString& password);
 
-    // Of a page that lies in the log of a database of so many pages.
-    static FirstPage OfBytes(const QByteArray& page, quint32 pages, const QString& password);
+    // Reads a first page that is in the log of a database with so many pages.
+    static FirstPage OfBytes(const QByteArray& bytes, quint32 pages, const QString& password);
 
     bool IsReadable() const { return code == 0; }
-    bool IsUnreadable() const; // no database, or another password's
-    bool IsOfTooFewPages() const; // under the right password nothing else can be wrong with a first page
+    bool IsUnreadable() const; // not a database, or another password
+    bool IsOfTooFewPages() const; // with the right password nothing else can be wrong with a first page
 };

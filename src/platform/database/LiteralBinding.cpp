@@ -11,7 +11,7 @@
 
 namespace {
 
-// Whole numbers up to this many digits are handed over as such, all others as floating point.
+// Whole numbers of up to so many digits are bound as integers, all others as floating point.
 constexpr std::size_t WholeDigits = 15;
 
 QString Shown(std::string_view text)
@@ -30,7 +30,7 @@ bool IsWhole(std::string_view text)
     return true;
 }
 
-// The number that a text is, from its first to its last byte; false if it is none.
+// Reads a text that is a number from its first to its last byte; returns false if it isn't.
 bool ReadNumber(std::string_view text, double& number)
 {
     const char* from = text.data();
@@ -38,7 +38,7 @@ bool ReadNumber(std::string_view text, double& number)
     if (from != end && *from == '+')
         ++from;
     const char* digit = from != end && *from == '-' && from == text.data() ? from + 1 : from;
-    // What from_chars would also read, "inf" and "nan", begins with neither a digit nor a point.
+    // from_chars would also read "inf" and "nan", which begin with neither a digit nor a point.
     if (digit == end || !((*digit >= '0' && *digit <= '9') || *digit == '.'))
         return false;
     const std::from_chars_result read = std::from_chars(from, end, number);

@@ -6,12 +6,12 @@
 
 namespace {
 
-// The parts of a base.
+// The two parts of a base.
 constexpr quint32 MarkMask = 0xFFFE0000;
 constexpr quint32 TraceMask = 0x0001FFFE;
 constexpr quint32 FoldingBit = 1;
 
-// Books and log that are copied together, one after the other, get their times within so many nanoseconds.
+// The times of a database and a log that were copied together differ by at most so many nanoseconds.
 constexpr qint64 OneCopying = 1000000000;
 
 quint32 MarkBits(qint32 round)
@@ -19,7 +19,7 @@ quint32 MarkBits(qint32 round)
     return static_cast<quint32>(round) << 17;
 }
 
-// Mixed so that neighbouring times and sizes lie far apart.
+// A hash that is very different for similar times and sizes.
 quint32 TraceBits(const FileState& file)
 {
     quint64 mixed =

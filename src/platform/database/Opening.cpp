@@ -318,7 +318,7 @@ QString Opening::DatedLog() const
 QByteArray Opening::Salt() const
 {
     QFile file(m_file);
-    const QByteArray salt = file.open(QIODevice::ReadOnly) ? file.read(SaltSize) : QByteArray();
+    QByteArray salt = file.open(QIODevice::ReadOnly) ? file.read(SaltSize) : QByteArray();
     if (salt.size() != SaltSize)
         ThrowUnreadable(m_file);
     return salt;

@@ -4,17 +4,17 @@
 #include "platform/database/KeyedFile.h"
 #include "platform/database/WriteAheadLog.h"
 
-// What is looked at and put right before the engine opens the books: whether they can be read and written,
-// whether the log beside them is theirs and whole, and, after an unclean end, every page. Nothing is played
-// into the file before all of this is done.
+// The checks and repairs before the engine opens a database: whether it can be read and written, whether the
+// log beside it belongs to it and is whole, and, after an unclean end, every page. The log isn't applied to
+// the file before all of this is done.
 class Opening {
 public:
     Opening(QString file, QString password, const OpeningPlan& plan);
 
-    // Does all of it. What can't be put right is an error, and the files are left as they were.
+    // Does all checks and repairs. What can't be repaired is an error, which leaves the files as they were.
     void Run();
 
-    // The round of the log that the books go on with.
+    // The round of the log with which work goes on.
     LogRound Round() const;
 
     const QStringList& Notes() const { return m_notes; }

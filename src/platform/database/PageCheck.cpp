@@ -16,7 +16,7 @@ struct Closing {
 using Handle = std::unique_ptr<sqlite3, Closing>;
 using Statement = std::unique_ptr<sqlite3_stmt, Closing>;
 
-// Whether a failed reading means a bad page, and not a full disk or another program.
+// Whether a failure means a damaged page, not a full disk or a lock of another program.
 bool IsDamage(int code)
 {
     const int primary = code & 0xFF;
@@ -24,8 +24,8 @@ bool IsDamage(int code)
         || code == SQLITE_IOERR_READ || code == SQLITE_IOERR_SHORT_READ;
 }
 
-// Runs a query to its end; `row` sees each row. Returns false if a page can't be read; any other failure is
-// an error.
+// Runs a query to its end and calls `row` for each row. Returns false if a page can't be read; any other
+// failure is an error.
 template <class Row> bool ReadAll(sqlite3* handle, const QByteArray& query, Row row)
 {
     sqlite3_stmt* prepared = nullptr;
@@ -63,7 +63,7 @@ QByteArray Quoted(QByteArray name)
     return '"' + name.replace("\"", "\"\"") + '"';
 }
 
-// Every row of a table, and every entry of an index.
+// The queries that read every row of a table or every entry of an index.
 struct Reading {
     QByteArray table;
     QByteArray query;

@@ -6,12 +6,12 @@
 
 struct sqlite3;
 
-// Reads every page of a database and says which tables can't be read whole.
+// Reads every page of a database and finds the tables that can't be read completely.
 namespace PageCheck {
 
-// `open` opens the database anew: after a page that can't be decrypted a connection reads nothing more. A
-// full disk, or another program that holds the database up, is an error. Returns the names of the damaged
-// tables, "?" if no table's own pages are; empty if all is in order. The database isn't changed.
+// `open` opens the database again: after a page that can't be decrypted, a connection can't read any more. A
+// full disk, or another program that keeps the database locked, is an error. Returns the names of the damaged
+// tables, "?" for damage outside of tables; empty if there is none. The database isn't changed.
 QStringList DamagedTables(const std::function<sqlite3*()>& open);
 
 }

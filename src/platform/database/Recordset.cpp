@@ -10,7 +10,7 @@
 
 namespace {
 
-// Names of columns differ in the case of their Latin letters at most.
+// Column names may differ only in the case of their Latin letters.
 bool IsSameName(QStringView first, QStringView second)
 {
     if (first.size() != second.size())
@@ -102,8 +102,8 @@ void Recordset::Private::MoveNext()
 
 FieldValue Recordset::Private::Read(int column) const
 {
-    // Asked of the value, not of the statement, which would lock itself for every question; only one thread
-    // reads.
+    // The value functions are used, since those of the statement lock it at each call; there is only one
+    // thread here.
     sqlite3_value* value = sqlite3_column_value(m_loan.Handle(), column);
     switch (sqlite3_value_type(value)) {
     case SQLITE_NULL:

@@ -7,7 +7,7 @@
 
 class Connection;
 
-// One value of a row as the statement returned it.
+// A value of a row.
 class FieldValue {
 public:
     FieldValue() = default;
@@ -18,13 +18,14 @@ public:
     bool IsNull() const { return m_kind == Kind::Null; }
     bool IsDate() const { return m_kind == Kind::Date; }
 
-    // The text; a number in shortest form, a date as dd/MM/yyyy, Null as the empty text.
+    // The value as text: a number in its shortest form, a date as dd/MM/yyyy, Null as the empty text.
     QString Text() const;
 
-    // The number; a text through Val, Null as 0.
+    // The value as a number: a text through Val, Null as 0.
     double Number() const;
 
-    // The date; a text must be one (dd/MM/yyyy), else a type mismatch error; Null as an invalid date.
+    // The value as a date: a text must be dd/MM/yyyy, else it is a type mismatch error; Null is an invalid
+    // date.
     QDate Date() const;
 
 private:
@@ -35,10 +36,10 @@ private:
     QDate m_date;
 };
 
-// The rows of a query, read forwards one at a time. It stands on the first row after opening, if there
-// is one. Rows are read as they are asked for, so the first row of a long ordered query is cheap. A statement
-// that writes a table of the query lets the record set read itself to its end first, so its rows are those
-// of before. After Close, or when the connection has closed, every reading is a "closed" error.
+// The rows of a query, read forwards one by one. After opening, the first row is the current one, if there is
+// one. Rows are read when they are asked for, so the first row of a long query comes quickly. If a statement
+// writes to a table of the query, the record set first reads its remaining rows, so that they are the ones
+// from before. After Close, or when the connection has closed, reading is a "closed" error.
 class Recordset {
 public:
     Recordset(Connection& connection, const QString& query);
@@ -47,22 +48,22 @@ public:
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
 
-    // Whether the rows have ended.
+    // Whether there is no current row any more.
     bool Eof() const;
 
-    // To the next row; past the end it is a "no current record" error.
+    // Goes to the next row; after the last it is a "no current record" error.
     void MoveNext();
 
-    // A field of the current row by its name in any spelling. An unknown name, or no current row, is an
-    // error.
+    // The value of a field of the current row, by its name in upper or lower case. An unknown name or no
+    // current row is an error.
     FieldValue operator[](QStringView field) const;
 
-    // By position, from 0.
+    // The same by position, from 0.
     FieldValue At(int column) const;
     int Columns() const;
     QString Name(int column) const;
 
-    // Ends the reading before the record set goes out of scope.
+    // Closes it before the end of its lifetime.
     void Close();
 
     class Private;

@@ -75,9 +75,9 @@ void IsoDate(sqlite3_context* context, int, sqlite3_value** arguments)
 
 void SqlFunctions::Register(sqlite3* handle)
 {
-    constexpr int Flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
-    sqlite3_create_function_v2(handle, "cstr", 1, Flags, nullptr, CStr, nullptr, nullptr, nullptr);
-    sqlite3_create_function_v2(handle, "left", 2, Flags, nullptr, Left, nullptr, nullptr, nullptr);
-    sqlite3_create_function_v2(handle, "datetext", 1, Flags, nullptr, DateAsText, nullptr, nullptr, nullptr);
-    sqlite3_create_function_v2(handle, "isodate", 1, Flags, nullptr, IsoDate, nullptr, nullptr, nullptr);
+    constexpr int flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
+    sqlite3_create_function_v2(handle, "cstr", 1, flags, nullptr, CStr, nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(handle, "left", 2, flags, nullptr, Left, nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(handle, "datetext", 1, flags, nullptr, DateAsText, nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(handle, "isodate", 1, flags, nullptr, IsoDate, nullptr, nullptr, nullptr);
 }

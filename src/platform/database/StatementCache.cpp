@@ -8,14 +8,14 @@ namespace {
 
 constexpr qsizetype MaxShapes = 256;
 
-// A shape longer than any of the system's isn't worth keeping.
+// Longer shapes aren't kept; no statement of a screen is so long.
 constexpr qsizetype MaxShapeLength = 8192;
 
-// So many idle statements of one shape are kept: more are never in use at once for long.
+// The number of idle statements that are kept for a shape; more are hardly ever in use at once.
 constexpr std::size_t MaxIdle = 4;
 
-// The bytes of a statement that is kept idle are bounded too.
-constexpr std::size_t MaxArena = 64 * 1024;
+// The greatest arena of a statement that is kept idle.
+constexpr std::size_t MaxArena = 64UL * 1024;
 
 }
 
@@ -66,7 +66,7 @@ std::shared_ptr<CachedShape> StatementCache::Find(QStringView shape)
 
 std::shared_ptr<CachedShape> StatementCache::Add(QStringView shape, Translation made)
 {
-    const auto added = std::make_shared<CachedShape>();
+    auto added = std::make_shared<CachedShape>();
     added->made = std::move(made);
     if (!added->made.mayBeKept || shape.size() > MaxShapeLength)
         return added;

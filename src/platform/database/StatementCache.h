@@ -9,7 +9,7 @@ struct sqlite3_stmt;
 
 struct CachedShape;
 
-// A statement made ready for the engine. It holds the bytes of the literals that it is bound to.
+// A prepared statement, with the bytes of the literals that are bound to it.
 class Prepared {
 public:
     Prepared(sqlite3* handle, const std::shared_ptr<CachedShape>& home, QStringView statement);
@@ -35,7 +35,7 @@ private:
     std::vector<bool> m_isDate;
 };
 
-// A shape, its translation, and the prepared statements of it that nobody uses at the moment.
+// A shape, its translation, and its prepared statements that aren't in use.
 struct CachedShape {
     QString shape;
     Translation made;
@@ -43,23 +43,24 @@ struct CachedShape {
     bool isKept = false;
 };
 
-// The shapes met last. A statement that is in use is not handed out again: a further one is prepared.
+// Keeps the shapes that were used last. A prepared statement that is in use isn't handed out a second time;
+// another one is prepared.
 class StatementCache {
 public:
     explicit StatementCache(sqlite3* handle) : m_handle(handle) { }
     ~StatementCache() { Clear(); }
 
-    // The shape as it is kept, or nullptr.
+    // The kept shape, or null.
     std::shared_ptr<CachedShape> Find(QStringView shape);
 
-    // Takes in a shape that has just been translated.
+    // Adds a shape that has just been translated.
     std::shared_ptr<CachedShape> Add(QStringView shape, Translation made);
 
     std::unique_ptr<Prepared> Take(const std::shared_ptr<CachedShape>& shape, QStringView statement);
     void GiveBack(std::unique_ptr<Prepared> prepared);
     void Clear();
 
-    // How many statements were prepared since the opening.
+    // How many statements were prepared since the database was opened.
     int Preparations() const { return m_preparations; }
 
 private:

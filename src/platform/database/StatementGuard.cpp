@@ -8,14 +8,15 @@
 
 namespace {
 
-// After so many of the engine's small steps (some milliseconds) it asks whether to go on.
+// The engine asks whether to go on after so many of its virtual machine instructions, which take some
+// milliseconds.
 constexpr int StepsBetweenQuestions = 500'000;
 
-// What the engine can do beyond the rows: run statements of a text, load code.
+// Functions that could do more than read and write rows: run statements, or load code.
 constexpr std::array DeniedFunctions{"sqlcipher_export", "load_extension", "fts3_tokenizer"};
 
-// What may be asked of the engine at any time; it changes nothing. The first tells the translator a table's
-// columns.
+// Pragmas that change nothing and are always allowed. The translator uses the first to read the columns of a
+// table.
 constexpr std::array AllowedPragmas{"table_info", "integrity_check", "quick_check"};
 
 bool IsOneOf(const char* name, const auto& names)
@@ -24,13 +25,13 @@ bool IsOneOf(const char* name, const auto& names)
         names.begin(), names.end(), [name](const char* each) { return sqlite3_stricmp(name, each) == 0; });
 }
 
-// "Fat" and six digits: the day that a rate chart is made for.
+// The name of a rate chart is "Fat" and six digits, the day from which it is valid.
 bool IsChart(std::string_view table)
 {
-    constexpr std::string_view Start = "Fat";
-    return table.size() == Start.size() + 6 && table.starts_with(Start)
+    constexpr std::string_view start = "Fat";
+    return table.size() == start.size() + 6 && table.starts_with(start)
         && std::all_of(
-            table.begin() + Start.size(), table.end(), [](char c) { return c >= '0' && c <= '9'; });
+            table.begin() + start.size(), table.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
 bool IsAllowed(int action, const char* first, const char* second)
@@ -75,7 +76,8 @@ int StatementGuard::Progress(void* guard)
     return static_cast<StatementGuard*>(guard)->IsOverdue() ? 1 : 0;
 }
 
-// The clock is read here and not at the beginning of each run: nearly all are over before the first question.
+// The clock is read here, not at the beginning of each run, since nearly all runs end before the first
+// question.
 bool StatementGuard::IsOverdue()
 {
     const Clock::time_point now = Clock::now();

@@ -6,10 +6,10 @@
 
 struct sqlite3;
 
-// Lets an open connection do what the system's statements do, and nothing else: rows are read and written,
-// and the table of a new rate chart is made. Everything else of the engine is denied when a statement is
-// prepared: other changes of the schema, other files (attach), its switches (pragma), and the functions that
-// run statements or load code. A statement that works for too long is ended with an error.
+// Restricts an open connection to what statements of screens need: reading and writing rows, and making the
+// table of a new rate chart. Everything else is denied when a statement is prepared: other changes of the
+// schema, other files (attach), settings (pragma), and functions that run statements or load code. A
+// statement that works for too long is ended with an error.
 class StatementGuard {
 public:
     using Clock = std::chrono::steady_clock;
@@ -18,15 +18,15 @@ public:
     StatementGuard(const StatementGuard&) = delete;
     StatementGuard& operator=(const StatementGuard&) = delete;
 
-    // The engine is about to work for a statement; from here on the time counts.
+    // To be called before the engine works on a statement: its time counts from here.
     void Begin() { ++m_run; }
 
-    // How long the engine may work without an answer. The time that the clerk takes between two rows of a
-    // list doesn't count.
+    // Sets how long the engine may work without returning. The time between two rows of a list, while the
+    // clerk looks at it, doesn't count.
     void SetBound(Clock::duration bound) { m_bound = bound; }
 
-    // As long as it lives, the guard stands aside: for what the database room itself has to tell the engine
-    // (checks, the folding of the log) and for the installer's scripts.
+    // Suspends the guard during its lifetime, for the statements of the database room itself (checks, folding
+    // the log) and for the scripts of the installer.
     class Aside {
     public:
         explicit Aside(StatementGuard& guard) : m_guard(guard) { ++guard.m_aside; }

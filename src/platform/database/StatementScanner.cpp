@@ -28,7 +28,7 @@ constexpr std::array<Sort, 128> MakeSorts()
     sorts['.'] = Sort::Dot;
     sorts['['] = Sort::Bracket;
     for (const char c : {'?', ':', '@', '$', '`', '\x7f'})
-        sorts[static_cast<std::size_t>(c)] = Sort::Refused;
+        sorts[static_cast<unsigned char>(c)] = Sort::Refused;
     return sorts;
 }
 
@@ -50,7 +50,7 @@ inline bool IsDigit(char16_t c)
     return c >= u'0' && c <= u'9';
 }
 
-// Writes one code point beyond ASCII as UTF-8; `at` is moved to its last unit.
+// Writes a non-ASCII code point as UTF-8; moves `at` to its last unit.
 char* WriteUtf8(char* out, const char16_t*& at, const char16_t* end)
 {
     char32_t point = *at;
@@ -95,7 +95,7 @@ void ScannedStatement::Scan(QStringView statement)
     const auto length = static_cast<std::size_t>(statement.size());
     if (m_shape.size() < length)
         m_shape.resize(length);
-    // A unit of UTF-16 is at most three bytes of UTF-8; a date of ten units is ten bytes.
+    // A UTF-16 unit is at most three bytes of UTF-8; a date of ten units is ten bytes.
     if (m_arena.size() < length * 3 + IsoDates::Length)
         m_arena.resize(length * 3 + IsoDates::Length);
     m_shapeLength = 0;
@@ -161,9 +161,9 @@ const char16_t* ScannedStatement::ScanQuoted(const char16_t* at, const char16_t*
 
 const char16_t* ScannedStatement::ScanDate(const char16_t* at, const char16_t* end)
 {
-    constexpr std::ptrdiff_t Whole = IsoDates::Length + 2;
+    constexpr std::ptrdiff_t whole = IsoDates::Length + 2;
     char text[IsoDates::Length];
-    if (end - at < Whole || at[Whole - 1] != u'#')
+    if (end - at < whole || at[whole - 1] != u'#')
         Refuse("A text between # signs is no date (MM/dd/yyyy), or its # isn't closed.");
     for (int i = 0; i < IsoDates::Length; ++i)
         text[i] = at[i + 1] < 128 ? static_cast<char>(at[i + 1]) : '?';
@@ -171,7 +171,7 @@ const char16_t* ScannedStatement::ScanDate(const char16_t* at, const char16_t* e
     if (!IsoDates::FromMonthFirst(std::string_view(text, sizeof text), iso))
         Refuse("A text between # signs is no date (MM/dd/yyyy).");
     Lift(LiteralKind::Date, iso, iso + IsoDates::Length);
-    return at + Whole;
+    return at + whole;
 }
 
 const char16_t* ScannedStatement::ScanNumber(const char16_t* at, const char16_t* end)
@@ -232,7 +232,7 @@ const char16_t* ScannedStatement::ScanOther(const char16_t* at, const char16_t* 
             Refuse("The statement holds a comment (/*).");
         break;
     case Sort::Dot:
-        // "T.5" is no column, and "5.5" never comes here: a point after a word belongs to a name.
+        // "T.5" isn't a column; "5.5" never gets here, since only a point after a word is part of a name.
         if (IsDigit(next))
             return ScanNumber(at, end);
         break;

@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
-// What stands in a shape in place of a literal. No statement can hold these characters outside of quotes.
+// The marks that replace literals in a shape. No statement can contain these characters outside of quotes.
 enum class LiteralKind : char16_t { Text = 1, Number = 2, Date = 3 };
 
-// A literal of a statement: its bytes lie in the arena of the scanned statement. A text is UTF-8 without its
+// A literal of a statement; its bytes are in the arena of the scanned statement. A text is UTF-8 without its
 // quotes, a number as it was written, a date in ISO form.
 struct Literal {
     LiteralKind kind = LiteralKind::Text;
@@ -17,12 +17,12 @@ struct Literal {
     std::size_t length = 0;
 };
 
-// A statement taken apart in one pass: its shape, which is the statement with a mark in place of every
-// literal, and the literals in their order. Made to be used again and again without allocating.
+// Splits a statement in one pass into its shape, which is the statement with a mark in place of each literal,
+// and its literals in order. It can be used again without allocating.
 class ScannedStatement {
 public:
-    // Takes a statement apart. An unclosed quote or date, a text between # signs that is no date, a
-    // comment, a second statement, a parameter of the engine's own or a control character is an error.
+    // Splits a statement. Errors are an unclosed quote or date, a text between # signs that isn't a date, a
+    // comment, a second statement, a parameter of the engine and a control character.
     void Scan(QStringView statement);
 
     QStringView Shape() const { return QStringView(m_shape.data(), m_shapeLength); }
@@ -32,7 +32,8 @@ public:
         return std::string_view(m_arena.data() + literal.start, literal.length);
     }
 
-    // Hands the bytes of the literals over to a statement that is about to run, and takes its old ones.
+    // Gives the bytes of the literals to a statement that is about to run, and takes its old ones in
+    // exchange.
     void SwapArena(std::vector<char>& arena) { m_arena.swap(arena); }
 
 private:

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-// One word, mark or sign of a shape, and what becomes of it in the engine's own words.
+// A word, mark or sign of a shape, and its translation for the engine.
 struct Token {
     enum class Kind { Word, Name, Literal, Sign, End };
 
@@ -24,7 +24,7 @@ struct Token {
     bool replaced = false;
 };
 
-// The shape of a statement as tokens. Reading beyond either end gives a token of the kind End.
+// A shape split into tokens. Before the first and after the last there are tokens of the kind End.
 class StatementTokens {
 public:
     explicit StatementTokens(QStringView shape);
@@ -32,20 +32,20 @@ public:
     int Count() const { return static_cast<int>(m_tokens.size()); }
     const Token& At(int i) const;
 
-    // Whether it is this keyword in any spelling.
+    // Whether a token is this keyword, in upper or lower case.
     bool IsWord(int i, QStringView word) const;
     bool IsSign(int i, QStringView sign) const;
     bool IsName(int i) const;
     bool IsLiteral(int i) const { return At(i).kind == Token::Kind::Literal; }
     LiteralKind KindOfLiteral(int i) const { return static_cast<LiteralKind>(At(i).text.front().unicode()); }
 
-    // The next token on the same level: a parenthesis is stepped over with all that it holds.
+    // The next token on the same level: parentheses are skipped with their content.
     int Over(int i) const;
 
     void Replace(int i, const QString& instead);
     void Wrap(int first, int last, QStringView function);
 
-    // The statement in the engine's words. `inLine` gives the text for a literal that is no parameter, or
+    // The translated statement. `inLine` returns the text of a literal that isn't passed as a parameter, and
     // an empty text for one that is.
     template <class InLine> QString Text(InLine inLine) const
     {

@@ -2,9 +2,9 @@
 
 class Connection;
 
-// Makes the statements of one action of the clerk durable together. What isn't committed when the
-// object goes out of scope is rolled back. A transaction opened inside another joins it: only the
-// outermost one commits, and if an inner one is not committed the whole is rolled back.
+// Makes the statements of one action of the clerk durable together. If it isn't committed, its destructor
+// rolls everything back. A transaction inside another one joins it: only the outermost commits, and if an
+// inner one isn't committed, the whole is rolled back.
 class Transaction {
 public:
     explicit Transaction(Connection& connection);
@@ -12,7 +12,7 @@ public:
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
 
-    // Everything since the beginning is on disk when this returns.
+    // When this returns, everything since the beginning is on the disk.
     void Commit();
 
 private:

@@ -7,8 +7,8 @@
 
 namespace {
 
-// More tables than any statement of the system names; a bound on the work for a text that only looks like
-// one.
+// A limit on the tables of a statement, which bounds the work for senseless texts. No statement of a screen
+// comes near it.
 constexpr std::size_t MaxTables = 32;
 
 constexpr QStringView AfterTable[] = {u"where", u"order", u"group", u"having", u"inner", u"left", u"right",
@@ -87,7 +87,7 @@ std::shared_ptr<const Table> TranslatorWork::Look(int i)
     return m_catalogue.Find(m_tokens.At(i).text);
 }
 
-// Reads "T", "T X" or "T as X" and returns what follows.
+// Reads "T", "T X" or "T as X" and returns the token after it.
 int TranslatorWork::AddSource(int i)
 {
     Source source{Look(i), m_tokens.At(i).text, m_tokens.At(i).depth};
@@ -167,7 +167,7 @@ void TranslatorWork::UseLiteral(const Operand& literal, ColumnType type, bool is
     }
 }
 
-// "order by 1" means the first column, which a parameter doesn't.
+// In "order by 1" the number is the position of a column, so it can't be a parameter.
 void TranslatorWork::KeepPositions()
 {
     bool keeps = false;

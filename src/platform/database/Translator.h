@@ -5,7 +5,7 @@
 
 #include <QByteArray>
 
-// How a literal reaches the engine, settled once a shape.
+// How a literal is passed to the engine; decided once for each shape.
 enum class LiteralUse : quint8 {
     AsIs, // a text as text, a number as number, a date as ISO text
     IsoDate, // a quoted date for a date column; another text is a type mismatch
@@ -19,7 +19,7 @@ enum class LiteralUse : quint8 {
 
 enum class StatementKind { Query, Insert, Update, Delete, Create };
 
-// A statement in the engine's words, and all that is known of its shape.
+// A translated statement, and what is known about its shape.
 struct Translation {
     StatementKind kind = StatementKind::Query;
     QByteArray sql;
@@ -31,13 +31,13 @@ struct Translation {
     bool mayBeKept = true; // its words hold no literal, so they fit every statement of the shape
 };
 
-// Turns the system's statements into the engine's.
+// Translates the dialect of the screens into the SQL of the database engine.
 class Translator {
 public:
     explicit Translator(Catalogue& catalogue) : m_catalogue(catalogue) { }
 
-    // `scanned` is the statement taken apart; `statement` is carried by the errors. A statement that isn't
-    // one of the system's kinds is an error.
+    // `scanned` is the split statement; `statement` is for error messages. A statement of a kind that the
+    // dialect doesn't have is an error.
     Translation Translate(const ScannedStatement& scanned, QStringView statement) const;
 
 private:

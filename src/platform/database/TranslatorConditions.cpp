@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-// What is compared with what, what is called, and what comes out.
+// Translates comparisons, calls, and the columns of the result.
 
 namespace {
 
@@ -54,7 +54,7 @@ TranslatorWork::Operand TranslatorWork::OfCall(int name, int close) const
 {
     Operand call{Operand::Kind::Call, name, close};
     const QStringView word = m_tokens.At(name).text;
-    // The argument's own type is asked for only where it is one plain column, or max or min of one.
+    // The type of the argument is looked up only if it is a single column, or max or min of one.
     const auto argument = [&]() -> Operand {
         if (m_tokens.IsName(name + 2) && m_tokens.IsSign(name + 3, u"(")) {
             const bool wraps = m_tokens.At(name + 3).match == close - 1
@@ -116,7 +116,7 @@ TranslatorWork::Operand TranslatorWork::ReadBackwards(int last) const
     return read;
 }
 
-// The operand that stretches exactly from first to last; anything else between them is of the kind Other.
+// The operand that takes up all tokens from first to last; of the kind Other if they are anything else.
 TranslatorWork::Operand TranslatorWork::ReadWhole(int first, int last) const
 {
     if (first > last)
@@ -151,7 +151,7 @@ void TranslatorWork::Compare(int sign)
         CompareLiteral(left, right, forEquality);
 }
 
-// A date under cstr is compared as the date that it is, so that an index on its column serves.
+// A date column in cstr is compared as a date, so that the index of the column can be used.
 void TranslatorWork::UnwrapDate(const Operand& call)
 {
     m_tokens.Replace(call.first, QString());
@@ -226,7 +226,7 @@ void TranslatorWork::Calls()
         const bool isLeft = m_tokens.IsWord(i, u"left");
         if (!isLeft && !m_tokens.IsWord(i, u"trim"))
             continue;
-        // "left" is a word of the engine's grammar; in quotes it is a name like any other.
+        // "left" is a keyword of the engine; quoted it is an ordinary name.
         if (isLeft)
             m_tokens.Replace(i, QStringLiteral("\"left\""));
         const Operand argument = ReadWhole(i + 2, ItemEnd(i + 2, close) - 1);
@@ -237,7 +237,7 @@ void TranslatorWork::Calls()
     }
 }
 
-// The newest date of a table comes out as a date too.
+// max and min of a date column are dates, too.
 void TranslatorWork::ResultDates()
 {
     if (m_made.kind != StatementKind::Query)

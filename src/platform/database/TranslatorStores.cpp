@@ -1,11 +1,10 @@
 #include "platform/database/TranslatorWork.h"
 
-// What goes into columns: insert ... values, insert ... select, update ... set.
+// Translates the values that are stored: insert ... values, insert ... select, update ... set.
 
 namespace {
 
-// The function that turns what a column or a calculation holds into what another column takes; empty for
-// none.
+// The function that converts values of one column type to another; empty if none is needed.
 QStringView Conversion(ColumnType from, ColumnType to)
 {
     if (to == ColumnType::Text && from == ColumnType::Date)
@@ -19,7 +18,8 @@ QStringView Conversion(ColumnType from, ColumnType to)
 
 }
 
-// Reads the column list after the table of an insert, or takes all columns of the table; `i` is moved behind.
+// Reads the column list after the table of an insert; without a list, all columns of the table. Moves `i`
+// behind it.
 std::vector<Column> TranslatorWork::TargetColumns(int& i) const
 {
     const Table* table = m_made.target.get();
@@ -53,7 +53,7 @@ void TranslatorWork::StoreInsert()
     }
 }
 
-// The end of the list that begins at i: the "from" or "where" on its level, or the closing parenthesis.
+// The end of the list that begins at i: "from" or "where" on the same level, or the closing parenthesis.
 int TranslatorWork::ListEnd(int i) const
 {
     while (i < m_tokens.Count() && !m_tokens.IsWord(i, u"from") && !m_tokens.IsWord(i, u"where")
@@ -132,7 +132,7 @@ void TranslatorWork::StoreSelection(int select, const std::vector<Column>& colum
     }
 }
 
-// The columns of every table in the reach of a "*", in their order; -1 if they aren't known.
+// The number of columns that a "*" stands for; -1 if it isn't known.
 qsizetype TranslatorWork::StarWidth(int depth) const
 {
     qsizetype width = 0;
@@ -146,8 +146,8 @@ qsizetype TranslatorWork::StarWidth(int depth) const
     return width;
 }
 
-// Writes a "*" out where a number goes into a text column or the like, which the engine would word its own
-// way.
+// Replaces a "*" by its columns if one of them has to be converted, such as a number for a text column, which
+// the engine would write in its own way.
 bool TranslatorWork::StoreStar(int first, int star, const std::vector<Column>& columns, std::size_t position)
 {
     const int depth = m_tokens.At(star).depth;

@@ -2,7 +2,8 @@
 
 #include "platform/database/Translator.h"
 
-// The work on one statement: its tokens, the tables in its reach, and what has been settled so far.
+// The translation of one statement: its tokens, the tables that it can name, and what has been decided so
+// far.
 class TranslatorWork {
 public:
     TranslatorWork(Catalogue& catalogue, const ScannedStatement& scanned, QStringView statement);
@@ -10,7 +11,7 @@ public:
     Translation Run();
 
 private:
-    // A column, a literal or a call that stands on its own.
+    // A single column, literal or call.
     struct Operand {
         enum class Kind { None, Literal, Column, Call, Other };
         Kind kind = Kind::None;

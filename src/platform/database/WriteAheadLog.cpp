@@ -127,7 +127,7 @@ int CommitsFrom(LogReader& reader, Frame frame, QByteArray salts, bool isWithin)
 // cut it may be older than the log; 0 if it belongs to another log or is itself half written.
 quint32 FramesByIndex(const QString& databaseFile, const QByteArray& salts)
 {
-    constexpr int copySize = 48; // it stands there twice, and the copies differ while it is being written
+    constexpr qint64 copySize = 48; // it stands there twice, and the copies differ while it is being written
     constexpr int framesAt = 16;
     constexpr int saltsAt = 32;
     QFile file(WriteAheadLog::IndexNameFor(databaseFile));

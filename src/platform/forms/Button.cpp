@@ -8,7 +8,7 @@ Button::Button(Screen* screen, const char* name, const Caption& caption, const H
     , Click(click.On(*screen))
 {
     SetCaption(caption);
-    // Keys never reach the widget, so a click is always the mouse.
+    // The widget never gets keys, so a click always comes from the mouse.
     QObject::connect(static_cast<QPushButton*>(Widget()), &QPushButton::clicked, Widget(),
         [this] { RunEvent([this] { Press(); }); });
 }

@@ -4,7 +4,7 @@
 
 namespace {
 
-// '&' is a letter of the encoding too, so only one that stands before a Latin key marks the Alt key.
+// The encoding has a letter '&', so '&' marks an Alt key only before a Latin letter or a digit.
 qsizetype MnemonicAt(const QString& text)
 {
     for (qsizetype at = 0; at + 1 < text.size(); ++at)

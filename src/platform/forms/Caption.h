@@ -2,9 +2,9 @@
 
 #include <QString>
 
-// A text to be seen, and which kind it is: a caption in the system's own encoding, stored words in it, or
-// plain Unicode. In a caption, the letter or figure after '&' is the key that presses a button with Alt; in
-// stored words every '&' is the letter that the encoding has there.
+// A text to show, and how it is encoded: a caption in the Shivaji01 encoding, stored words in that encoding,
+// or plain Unicode. In a caption, the letter or digit after '&' is its Alt key. In stored words '&' is a
+// letter like any other.
 class Caption {
 public:
     enum class Kind { Shivaji, Words, Plain };
@@ -12,13 +12,13 @@ public:
     Caption() = default;
     Caption(QString text, Kind kind) : m_text(std::move(text)), m_kind(kind) { }
 
-    // As the system spells it, '&' included.
+    // The text as it is stored, with its '&'.
     const QString& Text() const { return m_text; }
 
-    // What the eye meets, without the '&' of a key.
+    // The text to show, in Unicode, without the '&' of an Alt key.
     QString Seen() const;
 
-    // The Alt key, in upper case; a null character if there is none.
+    // The letter or digit of the Alt key, in upper case; a null character if there is none.
     QChar Mnemonic() const;
 
     bool IsEmpty() const { return m_text.isEmpty(); }
@@ -29,11 +29,11 @@ private:
     Kind m_kind = Kind::Plain;
 };
 
-// A caption in the system's encoding: Shivaji(u"maombar naMbar").
+// A caption in the Shivaji01 encoding: Shivaji(u"maombar naMbar").
 Caption Shivaji(QStringView stored);
 
-// What the books hold, in the system's encoding: a name, a stored word, a message with one in it.
+// A text from the database, in the Shivaji01 encoding: a name, a stored word, or a message that contains one.
 Caption Words(QStringView stored);
 
-// A caption in plain text: Plain(u"Access Granted").
+// A caption in Unicode: Plain(u"Access Granted").
 Caption Plain(QStringView text);

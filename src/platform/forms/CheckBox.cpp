@@ -20,7 +20,7 @@ CheckBox::CheckBox(Screen* screen, const char* name, const Caption& caption, con
     Box(*this).setText(caption.Seen().trimmed().replace(u'&', QStringLiteral("&&")));
     SetAccessibleName(Plain(caption.Seen()));
     CheckBox::ShowFocus(false);
-    // Keys never reach the widget, so a click is always the mouse.
+    // The widget never gets keys, so a click always comes from the mouse.
     QObject::connect(&Box(*this), &QCheckBox::clicked, &Box(*this), [this] {
         if (Click)
             RunEvent(Click);
@@ -52,7 +52,7 @@ bool CheckBox::KeyPress(const QKeyEvent& key)
     return true;
 }
 
-// The colour of the focus lies behind the caption as well as in the box.
+// The focus colours the caption as well as the box.
 void CheckBox::ShowFocus(bool held)
 {
     Control::ShowFocus(held);

@@ -2,19 +2,19 @@
 
 #include "platform/forms/Control.h"
 
-// A box to tick, beside its caption. Space or the mouse turns it; Enter goes on to the next control.
+// A check box with its caption. Space or the mouse changes it; Enter moves on to the next control.
 class CheckBox final : public Control {
 public:
     CheckBox(Screen* screen, const char* name, const Caption& caption, const Handler& click = {});
 
-    // The clerk has turned it.
+    // The clerk has changed it.
     Event Click;
 
     bool Checked() const;
     void SetChecked(bool checked);
     const Caption& Shown() const { return m_caption; }
 
-    // Its value: "1" with the tick, "0" without.
+    // "1" if it is checked, else "0".
     QString Text() const override;
 
 protected:

@@ -14,7 +14,7 @@
 
 namespace {
 
-// The mark of a field that has a list. It lets the mouse through to the field.
+// The arrow of a field that has a list. Mouse presses on it go to the field.
 void PutArrow(QLineEdit& line)
 {
     auto* arrow = new QLabel(QStringLiteral("▼"));
@@ -90,7 +90,7 @@ bool ChoiceCombo::KeyPress(const QKeyEvent& key)
     }
     case Qt::Key_Backspace:
     case Qt::Key_Delete:
-        SetText({}); // a word less a letter is none of the words
+        SetText({}); // part of a word is not a choice
         return true;
     default:
         break;
@@ -103,7 +103,7 @@ bool ChoiceCombo::KeyPress(const QKeyEvent& key)
     return true;
 }
 
-// Esc closes the list and nothing else.
+// While the list is open, Esc only closes it.
 bool ChoiceCombo::KeyBeforeScreen(const QKeyEvent& key)
 {
     if (!IsDroppedDown() || key.key() != Qt::Key_Escape)

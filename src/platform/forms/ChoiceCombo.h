@@ -5,23 +5,23 @@
 
 #include <QStringList>
 
-// A field with a few fixed words and a list of them that drops below it. A digit chooses a word by its place;
-// a press of the mouse or Alt+Down opens the list, where the mouse, Up and Down pick; Esc closes it
-// and nothing else. Backspace and Delete empty the field. All other keys are dropped.
+// A field for one of a few fixed words, with a drop-down list. A digit chooses the word at that place. A
+// mouse press or Alt+Down opens the list, in which the mouse, Up and Down choose; Esc closes it. Backspace
+// and Delete empty the field. All other keys are ignored.
 class ChoiceCombo final : public Field {
 public:
-    // `words` as the system spells them, in the order of their digits.
+    // `words` as they are stored, in the order of their digits.
     ChoiceCombo(
         Screen* screen, const char* name, const QStringList& words = {}, const Handler& lostFocus = {});
 
     const QStringList& Words() const { return m_words; }
     void SetWords(const QStringList& words);
 
-    // How many of the words have a digit, from the first; the others are picked from the list. All that have
-    // a place from 1 to 9 do unless this is told.
+    // How many words, counted from the first, can be chosen by a digit; the others only from the list. By
+    // default the first nine.
     void SetDigits(int count) { m_digits = count; }
 
-    // Drops every key, so that only the mouse picks.
+    // Ignores every key, so that only the mouse can choose.
     void SetMouseOnly(bool only) { m_mouseOnly = only; }
 
     // Whether the text is one of the words.

@@ -11,7 +11,7 @@
 ColumnBar::ColumnBar(const DataGrid& grid) : m_table(*static_cast<const QTableView*>(grid.Widget()))
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    // Once all of them have their widths, which comes before anything is painted.
+    // Queued, so that it runs once all columns have their widths; that is still before anything is painted.
     connect(m_table.horizontalHeader(), &QHeaderView::sectionResized, this, &ColumnBar::Place,
         Qt::QueuedConnection);
 }
@@ -35,7 +35,7 @@ void ColumnBar::resizeEvent(QResizeEvent*)
     Place();
 }
 
-// The parts have grown or shrunk.
+// A part has changed its size.
 bool ColumnBar::event(QEvent* event)
 {
     if (event->type() == QEvent::LayoutRequest)

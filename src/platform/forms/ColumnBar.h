@@ -7,13 +7,13 @@
 class DataGrid;
 class QTableView;
 
-// Parts that stand over the columns of a grid and keep to them when they grow. The bar is as wide as the grid
-// and lies above it.
+// Widgets above the columns of a grid that keep their place when the columns grow. The bar is as wide as the
+// grid and is laid out directly above it.
 class ColumnBar final : public QWidget {
 public:
     explicit ColumnBar(const DataGrid& grid);
 
-    // Puts a part over the columns from `first` to `last`. It keeps its own height.
+    // Puts a widget above the columns from `first` to `last`, counted from 0. It keeps its own height.
     void Put(QWidget& part, int first, int last);
 
     QSize sizeHint() const override;

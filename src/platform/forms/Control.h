@@ -13,12 +13,12 @@
 class QKeyEvent;
 class Screen;
 
-// What a screen answers to; empty is "nothing to do".
+// What a screen does when something happens to a control; empty for nothing.
 using Event = std::function<void()>;
 
-// A member function of a screen that answers the usual event of a control: leaving a field, pressing a
-// button, turning a box. It is named where the control is declared: Button cmdNew{this, "cmdNew",
-// Shivaji(u"&navaIna"), &frmMembers::cmdNew_Click};
+// The member function of a screen that answers the usual event of a control: leaving a field, pressing a
+// button, changing a box. It is named where the control is declared:
+// Button cmdNew{this, "cmdNew", Shivaji(u"&navaIna"), &frmMembers::cmdNew_Click};
 class Handler {
 public:
     Handler() = default;
@@ -30,10 +30,10 @@ public:
 
     explicit operator bool() const { return static_cast<bool>(m_run); }
 
-    // Runs the function that was named.
+    // Calls the function; there must be one.
     void Run(Screen& screen) const { m_run(screen); }
 
-    // The event for a control of this screen; empty if no function was named.
+    // The event that calls it on this screen; empty if no function was named.
     Event On(Screen& screen) const;
 
 private:
@@ -44,7 +44,7 @@ private:
 // they are declared is the tab order.
 class Control {
 public:
-    // `name` is the control's name in the system, such as "txtFat".
+    // `name` is the name that the clerk's guide uses, such as "txtFat".
     Control(Screen* screen, const char* name, QWidget* widget);
     virtual ~Control();
     Control(const Control&) = delete;
@@ -53,7 +53,7 @@ public:
     Event GotFocus;
     Event LostFocus;
 
-    // Keys that this control takes before its own handling; returns true for a key that it has answered.
+    // Sees each key before the control does; returns true if it has handled it.
     std::function<bool(const QKeyEvent&)> KeyDown;
 
     QString Name() const { return m_widget->objectName(); }
@@ -63,7 +63,7 @@ public:
     bool Visible() const { return m_visible; }
     void SetVisible(bool visible);
 
-    // A control that is no stop for Tab still takes the focus when it is given it.
+    // Without a tab stop, Tab passes the control over, but SetFocus and the mouse still reach it.
     bool TabStop() const { return m_tabStop; }
     void SetTabStop(bool stop) { m_tabStop = stop; }
 
@@ -74,23 +74,23 @@ public:
     // Moves the screen's focus here; does nothing if it can't take it.
     void SetFocus();
 
-    // The same, with what is wanted here: the guide label says it until the control is left.
+    // The same. The guide label shows `wanted` in place of the guide until the control is left.
     void SetFocus(const Caption& wanted);
 
-    // The line that the screen's guide label shows while this control holds the focus.
+    // The text that the screen's guide label shows while this control has the focus.
     const Caption& Guide() const { return m_guide; }
     void SetGuide(const Caption& guide);
 
-    // What a screen reader calls the control.
+    // The name that a screen reader says.
     void SetAccessibleName(const Caption& name);
 
-    // Colours of its own in place of the screen's.
+    // Gives it other colours than those of the screen.
     void SetColours(QColor focus, QColor plain);
 
     QWidget* Widget() const { return m_widget.get(); }
     Screen& Owner() const { return *m_screen; }
 
-    // What the control reads, as the system spells it.
+    // The control's value as it is stored.
     virtual QString Text() const = 0;
 
 protected:
@@ -98,35 +98,35 @@ protected:
     friend class DataGrid; // hands keys on to the field of the cell that is being edited
     friend class PopupMenu;
 
-    // A key that the screen has no use for. Returns true if it is used up; false leaves it to the widget.
+    // A key that the screen doesn't handle. Returns true if it is used up, false if the widget is to get it.
     virtual bool KeyPress(const QKeyEvent& key) = 0;
 
     // Text from an input method or the clipboard.
     virtual void Insert(const QString& text) { Q_UNUSED(text); }
 
-    // What an input method is still putting together; empty when it has done.
+    // The text that an input method is still composing; empty when it is done.
     virtual void ShowComposition(const QString& text) { Q_UNUSED(text); }
 
-    // The focus has come or gone; the handlers run after this.
+    // The focus has arrived or left; called before GotFocus and LostFocus.
     virtual void ShowFocus(bool held);
 
-    // A key that for now means something else here than on the screen at large, such as Esc while a list is
-    // open. Returns true if it is used up; false lets the screen answer it as ever.
+    // Called before the screen sees a key, for keys that mean something else here at the moment, such as Esc
+    // while a list is open. Returns true if it is used up, false if the screen is to handle it as usual.
     virtual bool KeyBeforeScreen(const QKeyEvent& key);
 
-    // The mouse is pressed here; `entering` if the focus has come with it. Returns true if the widget is to
-    // see nothing of the mouse until it is released.
+    // The mouse was pressed here; `entering` says that this press brought the focus. Returns true if the
+    // widget is not to see the mouse until it is released.
     virtual bool KeepsPress(bool entering);
 
-    // The mouse is released: it may have moved caret or selection.
+    // The mouse was released; it may have moved the caret or the selection.
     virtual void MouseDone() { }
 
-    // The letter or figure that reaches the control with Alt; a null character if there is none. The control
-    // holds the focus when AnswerMnemonic is called.
+    // The letter or digit that, with Alt, calls AnswerMnemonic; the control has the focus by then. A null
+    // character if there is none.
     virtual QChar Mnemonic() const { return {}; }
     virtual void AnswerMnemonic() { }
 
-    // Runs what the mouse or a timer has set off on this control.
+    // Runs an event that the mouse or a timer has caused on this control.
     void RunEvent(const Event& event);
 
 private:
@@ -139,7 +139,7 @@ private:
     bool m_tabStop = true;
 };
 
-// A text of a screen that can't be entered. It holds its caption as the system spells it.
+// A text on a screen that can't be edited.
 class Label {
 public:
     explicit Label(Screen* screen, const char* name, const Caption& caption = {});
@@ -147,7 +147,7 @@ public:
     const Caption& Shown() const { return m_caption; }
     void SetCaption(const Caption& caption);
 
-    // A stored text, or a figure, in place of the caption.
+    // Shows a text of the database, or a figure, as its caption.
     void SetText(const QString& stored) { SetCaption(Words(stored)); }
     void SetFigure(const QString& figure) { SetCaption(Plain(figure)); }
 

@@ -17,14 +17,13 @@ namespace {
 constexpr int RowHeight = 30;
 constexpr int HeadHeight = 34;
 
-// A column that takes what is left is reckoned with so much when the others are given their share.
+// Counted as the width of a column that takes the rest, when the others get their share.
 constexpr int LeastOfTheRest = 130;
 
 }
 
-// Its rows grow with the type, and its columns with the window, so that in a wide one the figures of a row
-// don't stand far from one another. A text that takes what is left gets all that the others don't need for
-// that.
+// Its rows grow with the type and its columns with the window, so that in a wide window the figures of a row
+// don't stand far apart. A text column that takes the rest gets what the others don't need.
 class DataGrid::Table final : public WholeRows<QTableView> {
 public:
     Table(const std::vector<Column>& columns, const bool& isSideways)
@@ -37,7 +36,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override
     {
         if (m_rowHeight == 0)
-            m_rowHeight = verticalHeader()->defaultSectionSize(); // as it was put together
+            m_rowHeight = verticalHeader()->defaultSectionSize(); // as the screen set it
         verticalHeader()->setDefaultSectionSize(Look::Pixels(m_rowHeight));
         const double share = Share();
         for (int at = 0; at < static_cast<int>(m_columns.size()); ++at) {
@@ -107,7 +106,7 @@ void DataGrid::LayOut()
     QHeaderView& header = *view.horizontalHeader();
     header.setHighlightSections(false);
     header.setMinimumHeight(HeadHeight);
-    header.setSectionResizeMode(QHeaderView::Fixed); // no hand can draw a column away from its caption
+    header.setSectionResizeMode(QHeaderView::Fixed); // the mouse can't change the widths
     const std::vector<Column>& columns = m_model->Columns();
     for (int at = 0; at < static_cast<int>(columns.size()); ++at) {
         if (columns[at].width > 0)
@@ -136,7 +135,7 @@ void DataGrid::Edit(Editing editing)
 {
     m_editor = std::make_unique<CellEditor>(*this, std::move(editing));
     m_model->MakeEditable();
-    View().setSelectionBehavior(QAbstractItemView::SelectItems); // the cell is marked, not the row
+    View().setSelectionBehavior(QAbstractItemView::SelectItems); // the cell is highlighted, not the row
     LostFocus = [this] {
         if (!FinishRow())
             SetFocus();
@@ -262,7 +261,7 @@ bool DataGrid::KeyPress(const QKeyEvent& key)
     return true;
 }
 
-// The row that a key leads to, which may lie beyond the ends; that of any other key is the current one.
+// The row that a key leads to, which may be outside the list; for other keys the current one.
 int DataGrid::RowFor(int key) const
 {
     const int page = std::max(1, View().viewport()->height() / View().verticalHeader()->defaultSectionSize());
@@ -278,7 +277,7 @@ int DataGrid::RowFor(int key) const
     case Qt::Key_Home:
         return 0;
     case Qt::Key_End:
-        return std::max(Rows() - 1, 0); // reads them all
+        return std::max(Rows() - 1, 0); // Rows() reads the rest
     default:
         return CurrentRow();
     }

@@ -10,93 +10,93 @@
 
 class QTableView;
 
-// A row of a grid as the clerk has left it, to be written. Fields are named in any spelling.
+// A row of a grid as the clerk has edited it, for the screen to write. Field names are found in upper and
+// lower case alike.
 class GridRow {
 public:
-    // Whether it is to be added; else it is one of the rows that were read.
+    // Whether the row is to be inserted; else it was read from the database.
     bool IsNew() const { return m_isNew; }
 
-    // As it was read; Null in a new row.
+    // The value that was read; Null in a new row.
     FieldValue Before(QStringView field) const;
 
-    // As it stands there now, in the system's spelling: what was typed, or else what was read.
+    // The present text of the field as it is stored: what was typed, else what was read.
     QString Text(QStringView field) const;
 
-    // The number that the text begins with.
+    // The number that Text begins with; 0 if it begins with none.
     double Number(QStringView field) const;
 
 private:
     friend class DataGrid;
 
     bool m_isNew = true;
-    std::map<QString, FieldValue> m_before; // by fields in small letters
+    std::map<QString, FieldValue> m_before; // by field name in lower case
     std::map<QString, QString> m_typed;
 };
 
-// The rows of a query as a table to look at, or to edit. What was written is seen after Refresh. The rows far
-// below the first are read when they are first asked for, so that a long list is shown as quickly as a short
-// one.
+// The rows of a query as a table, to look at or to edit. It shows what was written after Refresh. At first
+// only some rows are read, and the rest when the clerk goes there, so that a long list opens as fast as a
+// short one.
 class DataGrid final : public Control {
 public:
     struct Column {
-        QString field; // in the query, any spelling
+        QString field; // its name in the query, in upper or lower case
         Caption caption;
-        int width = 100; // pixels; 0 takes what is left
+        int width = 100; // pixels; 0 for the width that the others leave
         QString format = {}; // of numbers and dates; empty shows the value as it is, a date as dd/MM/yyyy
         bool alignRight = false;
         bool stored = true; // a text in the system's encoding; false for figures without a format
     };
 
-    // What the screen does with what the clerk has edited. Each returns whether it has done it; a row that is
-    // refused stays on the screen as it was typed, and the clerk in it.
+    // What the screen does with an edited row. Each function returns whether it has accepted the row; if not,
+    // the row stays as it was typed and the clerk stays in it.
     struct Editing {
-        std::function<bool(const GridRow&)> write; // a new row, or one that was changed
-        std::function<bool(const GridRow&)> remove; // one that was read; Delete was pressed on it
+        std::function<bool(const GridRow&)> write; // a new or a changed row
+        std::function<bool(const GridRow&)> remove; // a row of the database on which Delete was pressed
     };
 
     DataGrid(Screen* screen, const char* name, std::vector<Column> columns);
     ~DataGrid() override;
 
-    // The mouse has pressed a row, which is the current one now.
+    // The clerk has clicked a row; it is the current one by then.
     Event Click;
 
-    // The mouse has pressed a row twice. In a grid to be edited it opens the cell instead.
+    // The clerk has double-clicked a row. Not in a grid that can be edited: there it opens the cell.
     Event DoubleClick;
 
-    // The rows to show. The connection must outlive the grid.
+    // Sets the query and reads it. The connection must outlive the grid.
     void Bind(Connection& connection, const QString& query);
     void Refresh();
 
-    // Lets the clerk edit the rows in place, and add new ones in an empty row below the last. The format of a
-    // column says what can be typed there: numbers, dates, or a text without an apostrophe. A letter or
-    // figure begins a cell anew, Backspace goes on with what stands there; Enter takes it and goes on to the
-    // next cell, Esc gives the row back as it was. A row is written when it is left, or the grid is: the grid
-    // has its own LostFocus then, and the screen none. Where nothing was typed into the empty row, Enter is
-    // the screen's.
+    // Lets the clerk edit the rows in place and add new ones in an empty row at the end. The format of a
+    // column decides what can be typed: numbers, dates, or texts without an apostrophe. A letter or digit
+    // starts a cell afresh, Backspace edits its text, Enter accepts it and goes to the next cell, Esc
+    // restores the whole row. A row is written when the clerk leaves it or the grid; the grid uses its
+    // LostFocus for that, so the screen can't. Enter in an empty row into which nothing was typed is left to
+    // the screen.
     void Edit(Editing editing);
 
-    // Writes the row that the clerk is in, if he has typed into it. Returns false if the screen has refused
-    // it.
+    // Writes the row that the clerk is in, if something was typed into it. Returns false if the screen
+    // refused it.
     bool FinishRow();
 
-    // Columns that don't fit in are scrolled to with Left and Right.
+    // If on, columns may be wider than the grid, and Left and Right scroll to them.
     void SetSideways(bool sideways);
 
-    // Reads the rows that haven't been needed yet, so that the list stays whole when what the query reads is
-    // about to change.
+    // Reads all remaining rows now, before the tables that the query reads are changed.
     void ReadAll();
 
-    int Rows() const; // without the empty one
-    int CurrentRow() const; // that of the empty one is Rows()
+    int Rows() const; // without the empty row at the end
+    int CurrentRow() const; // the empty row at the end is Rows()
     void SetCurrentRow(int row);
 
-    // A value of a row shown, by field; Null for a row or a field that isn't there.
+    // A value by row and field; Null if there is no such row or field.
     FieldValue Value(int row, QStringView field) const;
 
-    // What the eye meets in a cell of a row shown.
+    // The text that is shown in a cell.
     QString Cell(int row, int column) const;
 
-    // The first column of the current row.
+    // The value in the first column of the current row.
     QString Text() const override;
 
 protected:
@@ -120,7 +120,7 @@ private:
     int RowFor(int key) const;
 
     std::unique_ptr<Model> m_model;
-    std::unique_ptr<CellEditor> m_editor; // of a grid to be edited
+    std::unique_ptr<CellEditor> m_editor; // if the grid can be edited
     bool m_isSideways = false;
-    bool m_isRowPressed = false; // by the mouse, which hasn't let go yet
+    bool m_isRowPressed = false; // by the mouse, and not yet released
 };

@@ -17,7 +17,7 @@ std::unique_ptr<Field> TextCell(Screen* screen, const char* name)
     return field;
 }
 
-// Whether a key begins a cell anew.
+// Whether a key replaces the text of the cell.
 bool BeginsAnew(const QKeyEvent& key)
 {
     const bool isTyped = !key.text().isEmpty() && key.text()[0].isPrint()
@@ -50,7 +50,7 @@ DataGrid::CellEditor::CellEditor(DataGrid& grid, Editing editing)
             field = TextCell(screen, name.constData());
         else
             field = std::make_unique<PlainField>(screen, name.constData());
-        field->SetVisible(false); // it never holds the focus
+        field->SetVisible(false); // the grid has the focus
         field->SetAccessibleName(column.caption);
         field->Widget()->setParent(grid.View().viewport());
         m_fields.push_back(std::move(field));
@@ -179,7 +179,7 @@ void DataGrid::CellEditor::ShowComposition(const QString& text)
         Current().ShowComposition(text);
 }
 
-// To the next cell, and behind the last one to the next row.
+// To the next cell; from the last one to the next row.
 void DataGrid::CellEditor::GoOn()
 {
     Close();
@@ -206,7 +206,7 @@ void DataGrid::CellEditor::Remove()
     ReadAnew(row);
 }
 
-// The rows as they are now, with the clerk where he was.
+// Reads the rows again; the clerk stays at the same place.
 void DataGrid::CellEditor::ReadAnew(int row)
 {
     const int column = std::max(m_grid.CurrentColumn(), 0);

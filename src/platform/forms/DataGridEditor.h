@@ -3,22 +3,22 @@
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/Field.h"
 
-// The fields in which the cells of a grid are edited, one a column. A field lies over its cell while that is
-// open; the grid keeps the focus and hands the keys on to it. For the grid's own files.
+// The fields that edit the cells of a grid, one for each column. While a cell is open its field is shown over
+// it, but the grid keeps the focus and passes the keys on. For the sources of DataGrid only.
 class DataGrid::CellEditor {
 public:
     CellEditor(DataGrid& grid, Editing editing);
 
-    // Opens the current cell, empty or with what stands there.
+    // Opens the current cell, empty or with its text.
     void Open(bool withText);
 
-    // Takes the field away; what was typed into it is the row's from now on.
+    // Hides the field and keeps what was typed into it in the row.
     void Close();
 
-    // See the grid.
+    // See DataGrid::FinishRow.
     bool FinishRow();
 
-    // The clerk has gone to another cell: what was typed elsewhere is taken, and another row is written.
+    // The clerk has gone to another cell: closes the open one, and writes its row if it is another one.
     void FinishAllBut(int row, int column);
 
     bool KeyBeforeScreen(const QKeyEvent& key);

@@ -11,7 +11,7 @@
 #include <limits>
 #include <utility>
 
-// The rows of a grid's query as the table view asks for them. For the grid's own files.
+// The rows of a grid's query, as the table view asks for them. For the sources of DataGrid only.
 class DataGrid::Model final : public QAbstractTableModel {
 public:
     explicit Model(std::vector<Column> columns) : m_columns(std::move(columns)) { }
@@ -43,7 +43,7 @@ public:
         endResetModel();
     }
 
-    // The rows behind those that were read with the query.
+    // Reads the rows that Read left out.
     void ReadRest()
     {
         if (!std::exchange(m_hasMore, false))
@@ -65,7 +65,7 @@ public:
     bool canFetchMore(const QModelIndex& parent) const override { return !parent.isValid() && m_hasMore; }
     void fetchMore(const QModelIndex&) override { ReadRest(); }
 
-    // A row more than was read in a grid to be edited.
+    // In a grid that can be edited there is an empty row at the end.
     int rowCount(const QModelIndex& parent = {}) const override
     {
         return parent.isValid() ? 0 : Rows() + (m_isEditable ? 1 : 0);
@@ -108,7 +108,7 @@ public:
         return isEncoded ? Shivaji01::ToUnicode(value.Text()) : Written(row, at);
     }
 
-    // What stands in a cell, as the clerk would type it; a text as it is stored.
+    // The text of a cell as the clerk would type it; texts in the stored spelling.
     QString Written(int row, int at) const
     {
         if (const QString* typed = TypedAt(row, at))
@@ -130,7 +130,7 @@ public:
 
     const std::vector<Column>& Columns() const { return m_columns; }
 
-    // Editing: what was typed into the cells of one row, until it is written or given back.
+    // Editing: what was typed into the cells of one row, until it is written or undone.
 
     void MakeEditable()
     {
@@ -159,7 +159,7 @@ public:
             Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
     }
 
-    // The row that was typed into; -1 is none.
+    // The row into which something was typed; -1 if there is none.
     int TypedRow() const { return m_typedRow; }
 
     GridRow RowAt(int row) const
@@ -179,7 +179,7 @@ private:
     static constexpr std::size_t FirstRows = 40; // a screenful and some
     static constexpr std::size_t AllRows = std::numeric_limits<std::size_t>::max();
 
-    // The next rows, at most so many.
+    // Reads at most so many rows.
     static std::vector<Row> Take(Recordset& rows, std::size_t atMost)
     {
         std::vector<Row> taken;
@@ -203,7 +203,7 @@ private:
         return m_places[at] < 0 || row >= Rows() ? FieldValue() : m_rows[row][m_places[at]];
     }
 
-    // Null where nothing was typed.
+    // Null if nothing was typed.
     const QString* TypedAt(int row, int at) const
     {
         const auto typed = row == m_typedRow ? m_typed.find(at) : m_typed.end();

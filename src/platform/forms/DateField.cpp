@@ -114,7 +114,7 @@ void DateField::TypeDigit(QChar digit)
     Line().setCursorPosition(IsSlash(at + 1) ? at + 2 : at + 1);
 }
 
-// The one digit of a day or a month is its last one.
+// Fills up a day or month of which only one digit was typed: 4 becomes 04.
 void DateField::EndPart()
 {
     const int start = Line().cursorPosition() - 1;

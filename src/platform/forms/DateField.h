@@ -4,9 +4,9 @@
 
 #include <QDate>
 
-// A date in the mask "##/##/####", read as dd/MM/yyyy; empty it reads "__/__/____". Digits fill the mask
-// from left to right and step over the slashes; '/', '.' and '-' end a part early, so that 1/4/2026 can be
-// typed as it is spoken.
+// A date field with the mask "##/##/####" (dd/MM/yyyy); empty it reads "__/__/____". Digits fill the mask
+// from left to right. '/', '.' and '-' end the day or the month early, so that 1/4/2026 can be typed as it is
+// spoken.
 class DateField final : public Field {
 public:
     DateField(Screen* screen, const char* name, const Handler& lostFocus = {});
@@ -14,19 +14,19 @@ public:
     // The mask with what has been typed into it.
     QString Text() const override;
 
-    // A text in the mask's form; the empty text empties the mask.
+    // Takes a text in the form of the mask; the empty text empties it.
     void SetText(const QString& text) override;
     void SetDate(const QDate& date);
 
-    // Whether the mask holds a date of the calendar.
+    // Whether the text is a valid date.
     bool HoldsDate() const;
     bool IsEmptyMask() const;
 
-    // Whether the mask holds a date; unless it does, the focus goes back to it, and the guide label says what
-    // is wanted.
+    // Returns whether the text is a valid date. If not, it moves the focus back to this field, and the guide
+    // label shows `wanted`.
     bool InsistOnDate(const Caption& wanted = {});
 
-    // The date in the mask; a mask that holds none is a type mismatch error.
+    // The date; it is a type mismatch error if the text isn't one.
     QDate Date() const;
 
 protected:

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int MarkMargin = 8; // between a text, its mark, and the edge of the list
 
-// Paints a row's mark at its right edge, in the colour of its text.
+// Paints the mark of a row at its right edge, in the colour of its text.
 class RowLook final : public QStyledItemDelegate {
 public:
     explicit RowLook(const QStringList& marks) : m_marks(marks) { }
@@ -94,7 +94,7 @@ void DropList::SetCurrentRow(int row)
 
 void DropList::Place(const QWidget& field)
 {
-    constexpr int most = 8; // rows that are seen at a time
+    constexpr int most = 8; // rows that are shown at a time
     const QPoint corner = field.mapTo(&m_screen, QPoint(0, 0));
     const int below = m_screen.height() - corner.y() - field.height();
     const int shown = std::min(m_rows.rowCount(), most);

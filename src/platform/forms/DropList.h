@@ -9,27 +9,25 @@
 class QStyledItemDelegate;
 class Screen;
 
-// The list of texts that drops below a field. It never takes the focus: the field walks it, and the mouse
-// picks from it.
+// The list that drops down below a field. It never takes the focus: the field moves through it by keys, and
+// the mouse picks from it.
 class DropList {
 public:
-    // `picked` is told the row that the mouse has picked.
+    // `picked` is called with the row that the mouse has picked, counted from 0.
     DropList(Screen& screen, const std::function<void(int)>& picked);
     ~DropList();
 
-    // What the eye meets in the list, a row each; `marks` stand at the right edge of the rows, as far as
-    // there are any.
+    // The rows, in Unicode; `marks` are texts at the right edges of the first rows.
     void SetRows(const QStringList& texts, const QStringList& marks = {});
     QStringList Rows() const { return m_rows.stringList(); }
 
-    // Opens it below a field of the screen, or above it where there is more room. An empty list stays closed;
-    // an open one finds its place anew.
+    // Opens the list below a field of the screen, or above it if there is more room. An empty list stays
+    // closed. If it is open, it is placed again.
     void OpenAt(const QWidget& field);
     void Close();
     bool IsOpen() const { return m_open; }
 
-    // The row that is marked, which stands in the middle of what is seen as far as the list's ends allow; -1
-    // is none.
+    // The highlighted row, counted from 0, -1 for none. It is scrolled to the middle of the list.
     int CurrentRow() const;
     void SetCurrentRow(int row);
 

@@ -55,7 +55,7 @@ void Field::ShowFocus(bool held)
         Line().deselect();
 }
 
-// The press that brings the focus leaves the text as it was left by taking it.
+// The press that brings the focus keeps the text selected.
 bool Field::KeepsPress(bool entering)
 {
     if (std::exchange(m_wasPressed, true) && CaretByMouse())
@@ -81,7 +81,7 @@ bool Field::CopyKey(const QKeyEvent& key) const
 
 namespace {
 
-// The keys that move the caret or erase, which a line edit answers well by itself.
+// Keys that move the caret or erase; the line edit handles them.
 bool IsEditKey(const QKeyEvent& key)
 {
     switch (key.key()) {
@@ -103,7 +103,7 @@ bool IsTyped(const QKeyEvent& key)
         && !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
 }
 
-// A digit of any script as 0 to 9; the point as it is, the comma of a numeric pad as a point.
+// Turns digits of any script into 0 to 9, and the comma of the numeric keypad into a point.
 QString FigureOf(const QString& text, bool keypad)
 {
     QString figures;
@@ -190,7 +190,7 @@ void NumberField::Insert(const QString& text)
     QString figures = FigureOf(text, false);
     if (const qsizetype point = figures.indexOf(u'.'); m_digits == Digits::Whole && point >= 0)
         figures.truncate(point);
-    if (!figures.isEmpty()) // nothing to insert would take the selection away
+    if (!figures.isEmpty()) // inserting an empty text would erase the selection
         Line().insert(figures);
 }
 
@@ -213,7 +213,7 @@ void ChoiceField::SetText(const QString& word)
 bool ChoiceField::KeyPress(const QKeyEvent& key)
 {
     if (key.key() == Qt::Key_Backspace && !m_locked)
-        SetText({}); // a word less a letter is none of the choices
+        SetText({}); // part of a word is not a choice
     else if (IsTyped(key))
         Choose(key.text()[0]);
     else
@@ -256,7 +256,7 @@ void PlainField::SetText(const QString& text)
     TellChange(before);
 }
 
-// A line edit answers every key as it should be.
+// The line edit handles every key.
 bool PlainField::KeyPress(const QKeyEvent&)
 {
     return false;

@@ -4,15 +4,15 @@
 
 class QLineEdit;
 
-// A one-line entry field. On taking the focus it selects its whole text, whether by key or by mouse.
+// A one-line entry field. When it gets the focus it selects its whole text.
 class Field : public Control {
 public:
     Field(Screen* screen, const char* name, const Handler& lostFocus = {});
 
-    // The text has changed, by a key of the clerk or by the screen.
+    // The text was changed by the clerk or by the screen.
     Event TextChanged;
 
-    // The text as it goes into statements.
+    // Sets the text in the form that Text returns and statements use.
     virtual void SetText(const QString& text) = 0;
     void Clear() { SetText({}); }
     bool IsEmpty() const { return Text().isEmpty(); }
@@ -20,12 +20,12 @@ public:
     // Selects the whole text.
     virtual void SelectAll();
 
-    // The longest text that can be typed; 0 is no limit.
+    // The greatest number of characters that can be typed; 0 for no limit.
     virtual void SetMaxLength(int characters);
 
     void SetAlignRight();
 
-    // What the eye meets in the field.
+    // The text as it is shown.
     QString Seen() const;
 
 protected:
@@ -33,30 +33,30 @@ protected:
     void ShowFocus(bool held) override;
     bool KeepsPress(bool entering) override;
 
-    // Whether the mouse may put the caret into the text, from its second press on. A field of figures is
-    // typed anew as a whole: each press selects it.
+    // Whether a second press of the mouse places the caret. In a field of figures each press selects
+    // everything.
     virtual bool CaretByMouse() const { return false; }
 
-    // Runs TextChanged if the text isn't what it was before.
+    // Runs TextChanged if the text differs from `before`.
     void TellChange(const QString& before) const;
 
-    // Copies what is seen; true if the key asked for it.
+    // Copies the shown text to the clipboard if the key asks for that; returns whether it did.
     bool CopyKey(const QKeyEvent& key) const;
 
 private:
-    bool m_wasPressed = false; // by the mouse, since the focus came
+    bool m_wasPressed = false; // by the mouse, since it got the focus
 };
 
-// A number as the clerk types it: digits, and where it has decimals a point. All other keys are dropped.
+// A number: takes digits and, if it has decimals, a point. All other keys are ignored.
 class NumberField : public Field {
 public:
     enum class Digits { Whole, Decimals };
 
-    // With a pattern of Format, such as u"#####0.000", in which the field shows its number. The # before the
-    // point set no limit.
+    // With a pattern for Format, such as u"#####0.000", in which it shows its number. How many # stand before
+    // the point doesn't limit what can be typed.
     NumberField(Screen* screen, const char* name, QStringView pattern, const Handler& lostFocus = {});
 
-    // Without one: it shows a number in its shortest form.
+    // Without a pattern: numbers are shown in their shortest form.
     NumberField(Screen* screen, const char* name, Digits digits, const Handler& lostFocus = {});
 
     QString Text() const override;
@@ -67,13 +67,13 @@ public:
     // The number that the text begins with; 0 if it begins with none.
     double Value() const;
 
-    // Whether the text is a number and nothing else.
+    // Whether the whole text is a number.
     bool HoldsNumber() const;
 
-    // Shows a number in the pattern.
+    // Shows a number by the pattern.
     void Show(double value);
 
-    // Writes what was typed in the pattern. Returns the number as it was typed.
+    // Shows what was typed by the pattern, and returns the number as it was typed.
     double Reformat();
 
 protected:
@@ -85,7 +85,7 @@ private:
     QString m_pattern;
 };
 
-// A number without decimals, such as that of a member.
+// A whole number, such as that of a member.
 class WholeField final : public NumberField {
 public:
     WholeField(Screen* screen, const char* name, const Handler& lostFocus = {})
@@ -94,18 +94,18 @@ public:
     }
 };
 
-// A field with a few fixed words. A digit puts its word in place; Backspace empties the field unless it is
-// locked; all other keys are dropped.
+// A field for one of a few fixed words. A digit chooses its word, Backspace empties the field unless it is
+// locked, and all other keys are ignored.
 class ChoiceField : public Field {
 public:
     struct Choice {
         QChar digit;
-        QString word; // as the system spells it
+        QString word; // as it is stored
     };
 
     ChoiceField(Screen* screen, const char* name, std::vector<Choice> choices, const Handler& lostFocus = {});
 
-    // A locked field is never emptied by a key.
+    // Keys can't empty a locked field.
     void SetLocked(bool locked) { m_locked = locked; }
 
     QString Text() const override { return m_word; }
@@ -123,7 +123,7 @@ private:
     bool m_locked = false;
 };
 
-// A text in plain letters, such as the English side of the keyboard aid.
+// A text in Latin letters, such as the English side of the keyboard tutor.
 class PlainField final : public Field {
 public:
     PlainField(Screen* screen, const char* name);

@@ -17,7 +17,7 @@ QString Inside(const QString& folder, const QString& name)
     return folder.endsWith(u'\\') ? QString(folder + name) : QString(folder + u'\\' + name);
 }
 
-// "C:\", "C:\Milk", "C:\Milk\Backup" for the last of them.
+// The folders from the root to this one: "C:\", "C:\Milk" and "C:\Milk\Backup" for "C:\Milk\Backup".
 QStringList WayTo(const QString& folder)
 {
     QStringList way{folder.left(3)};
@@ -90,7 +90,7 @@ void FolderList::Refresh()
         for (const QString& name : m_folders(m_folder))
             m_paths.append(Inside(m_folder, name));
 
-    constexpr int step = 4; // blanks that a folder stands further in than the one it lies in
+    constexpr qsizetype step = 4; // blanks by which a folder is indented below its parent
     std::vector<Caption> entries;
     for (int at = 0; at < m_paths.size(); ++at) {
         const QString name = at == 0 ? m_paths[at] : m_paths[at].section(u'\\', -1);

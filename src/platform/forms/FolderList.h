@@ -4,17 +4,17 @@
 
 #include <QStringList>
 
-// The drives of the machine, by their roots: "C:\". Enter, or a double click, goes to the marked one.
+// The drives of the machine by their roots, such as "C:\". Enter or a double click opens the highlighted one.
 class DriveList final : public MenuList {
 public:
     DriveList(Screen* screen, const char* name);
 
-    // The clerk has gone to another drive.
+    // The clerk has opened another drive.
     Event Change;
 
     void SetDrives(const QStringList& roots);
 
-    // The drive that was gone to; empty if it isn't among them.
+    // The open drive; empty if it isn't in the list.
     const QString& Drive() const { return m_drive; }
     void SetDrive(const QString& root);
 
@@ -28,23 +28,23 @@ private:
     QString m_drive;
 };
 
-// One folder of a drive: the way to it from the root, and the folders in it, one below the other. Enter, or a
-// double click, opens the marked one; on the open one itself Enter is the screen's.
+// The open folder: the folders on the way to it from the root, and below them the folders in it. Enter or a
+// double click opens the highlighted one; on the open folder itself, Enter is left to the screen.
 class FolderList final : public MenuList {
 public:
-    // The names of the folders in a folder, such as "C:\Backup".
+    // Returns the names of the folders in a folder such as "C:\Backup".
     using Source = std::function<QStringList(const QString& folder)>;
 
     FolderList(Screen* screen, const char* name, Source folders);
 
-    // Another folder is open, by the clerk or by the screen.
+    // The clerk or the screen has opened another folder.
     Event Change;
 
-    // The path of the open folder, without a backslash at its end unless it is a drive's root.
+    // The path of the open folder; only the root of a drive ends with a backslash.
     const QString& Folder() const { return m_folder; }
     void SetFolder(const QString& path);
 
-    // Reads the folders anew.
+    // Reads the folders again.
     void Refresh();
 
 protected:

@@ -44,13 +44,13 @@ void SetInk(QWidget& widget, QRgb colour)
     widget.setPalette(palette);
 }
 
-void PutOnBand(Label& label, QFont font)
+void PutOnBand(Label& label, const QFont& font)
 {
     label.Widget()->setFont(font);
     SetInk(*label.Widget(), Look::BandText);
 }
 
-// A key as a cap, and what it does.
+// A key, drawn as a key cap, and what it does.
 QWidget* HintWidget(const KeyHint& hint)
 {
     auto* piece = new QWidget;
@@ -80,7 +80,7 @@ QWidget* HintWidget(const KeyHint& hint)
     return piece;
 }
 
-// The keys beside one another, in as many rows as the width needs.
+// The keys side by side, in as many rows as the width needs.
 class Strip final : public QWidget {
 public:
     explicit Strip(const std::vector<KeyHint>& hints)
@@ -102,7 +102,7 @@ public:
 protected:
     void resizeEvent(QResizeEvent*) override { Flow(width(), true); }
 
-    // The type has grown or shrunk, and the pieces with it.
+    // The type has changed its size, and so have the hints.
     void changeEvent(QEvent* event) override
     {
         if (event->type() != QEvent::FontChange)
@@ -112,7 +112,7 @@ protected:
     }
 
 private:
-    // Returns the height that the rows take; if they are to, the pieces go to their places.
+    // Returns the height of the rows; moves the hints to their places if isPlaced.
     int Flow(int width, bool isPlaced) const
     {
         const int margin = Look::Pixels(StripMargin);

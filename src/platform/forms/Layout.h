@@ -6,40 +6,41 @@
 
 #include <initializer_list>
 
-// One key and what it does, as a strip at the foot of a screen shows it.
+// A key and what it does, for the strip at the bottom of a screen.
 struct KeyHint {
     QString key; // "F2", "Esc"
     Caption action;
-    Handler pressed = {}; // what the screen does at it; none where a control or the focus answers
-    bool lit = true; // whether it does something; a key that doesn't stands there in a dull colour
+    Handler pressed = {}; // the handler of the screen; empty if a control handles the key
+    bool lit = true; // whether it does something now; if not, it is shown in a dull colour
 };
 
-// The pieces that every screen is put together from, so that they all look like one program.
+// The parts that every screen is made of, so that all screens look alike.
 namespace Layout {
 
-// The band at the head of a screen: its title, and the society and year at the right.
+// The band at the top of a screen: its title, and at the right the society and the year.
 QWidget* Header(Label& title, Label& company, Label& year);
 QWidget* Header(Label& title, Label& company);
 QWidget* Header(Label& title);
 
-// The strip at the foot of a screen: the keys and what they do, in as many rows as they need there.
+// The strip of keys at the bottom of a screen. It takes as many rows as it needs.
 QWidget* KeyStrip(const std::vector<KeyHint>& hints);
 
-// Stacks the parts of a screen without gaps; `body` takes what room is left.
+// Puts the parts of a screen below each other without gaps; `body` takes the remaining room.
 void Stack(Screen& screen, QWidget* header, QLayout* body, QWidget* keys);
 
 // A row of buttons, spread evenly.
 QLayout* ButtonRow(std::initializer_list<Control*> buttons);
 
-// Fields under one another, each behind its caption. The caption names the field to a screen reader.
+// Fields below each other, each with its caption at the left. A screen reader says the caption as the name of
+// the field.
 class Form {
 public:
     Form();
 
-    // One field behind its caption; `width` in pixels, 0 for as wide as the form.
+    // One field with its caption; `width` in pixels, 0 for the width of the form.
     void Row(const Caption& caption, Control& field, int width = 0);
 
-    // Several fields behind one caption; each has a caption of its own for a screen reader.
+    // Several fields after one caption. Each has another caption of its own for a screen reader.
     void Row(const Caption& caption, std::initializer_list<std::pair<Control*, Caption>> fields, int width);
 
     // A label that fills a row, such as a guide line.
@@ -54,10 +55,10 @@ private:
     int m_row = 0;
 };
 
-// Makes a label a line of guidance: in the colour of guides, never growing the screen.
+// Makes a label the guide line: it has the colour of guides, and a long text doesn't widen the screen.
 void MakeGuide(Label& label);
 
-// Gives a field its height and, if not 0, its width.
+// Sets the height of a field and, if not 0, its width in pixels.
 void SizeField(Control& field, int width);
 
 }

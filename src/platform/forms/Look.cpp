@@ -21,8 +21,8 @@ QString& Family()
     return family;
 }
 
-// Buttons in one flat colour, so that the colour of the focus is seen as it is; boxes and rings that are
-// seen from a chair's distance.
+// Buttons in one flat colour, which shows the colour of the focus unaltered; check boxes and option circles
+// that can be seen from a distance.
 class FlatStyle final : public QProxyStyle {
 public:
     FlatStyle() : QProxyStyle(QStringLiteral("Fusion")) { }

@@ -6,7 +6,7 @@
 class QApplication;
 class QWidget;
 
-// How every screen looks: one palette, one set of sizes. Screens name roles, never values.
+// The look of all screens: colours and sizes by their use. Screens name the use, not the value.
 namespace Look {
 
 inline constexpr QRgb FocusColour = qRgb(0xFF, 0xC0, 0xC0); // the field or button that holds the focus
@@ -23,34 +23,34 @@ inline constexpr QRgb Ground = qRgb(0xC6, 0xD2, 0xD9); // of the window, where n
 inline constexpr QRgb Shade = qRgba(0x12, 0x1C, 0x22, 0xB0); // over a screen that lies beneath a card
 inline constexpr QRgb GuideInk = qRgb(0x8A, 0x1C, 0x1C); // the guide line
 
-// Screens are put together in the sizes of the smallest desktop; less its bars, so much room has to do. The
-// window gives them theirs.
+// Screens are laid out for the smallest desktop, less its bars. Their parts grow with the window (see
+// Scaling).
 inline constexpr int ScreenWidth = 1000;
 inline constexpr int ScreenHeight = 690;
 inline constexpr int DesktopWidth = 1024;
 inline constexpr int DesktopHeight = 768;
 
-// How much larger the window is than that, as type and fields show it. 1 until the window is known.
+// How much larger type and fields are in the present window than on the smallest desktop; 1 until there is a
+// window.
 double Factor();
 void SetFactor(double factor);
 
-// A length of the base in the window as it is, for what is painted.
+// Scales a length of the smallest desktop to the present window, for painting.
 int Pixels(int length);
 
 enum class Size { Small, Normal, Menu, Large, Title };
 
-// Gives the application its style, palette and font. `family` is a Devanagari font, or empty if there is
-// none.
+// Sets the style, palette and font of the application. `family` is a Devanagari font; empty keeps Qt's own.
 void Apply(QApplication& application, const QString& family);
 
-// The font of the screens in one of their sizes, as they are put together; and as it is painted.
+// The font of a size: for laying out a screen, which is scaled later, and for painting, at its present size.
 QFont Font(Size size, bool bold = false);
 QFont PaintedFont(Size size, bool bold = false);
 
-// The background of a field or button.
+// Sets the background of a field or button.
 void SetBackground(QWidget& widget, QColor colour);
 
-// The colours of a list or a table, whose current row carries the focus.
+// Sets the colours of a list or table; `focus` says whether it has the focus, which shows in the current row.
 void SetListColours(QWidget& widget, bool focus);
 
 }

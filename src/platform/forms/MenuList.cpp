@@ -12,7 +12,7 @@
 
 namespace {
 
-// A little air around each entry, so that the eye keeps to its line.
+// Adds some room around each entry, which makes the lines easier to follow.
 class RoomyEntry final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;

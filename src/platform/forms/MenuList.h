@@ -4,12 +4,12 @@
 
 #include <vector>
 
-// A list of entries to choose from, as the menu has them. The text of an entry is what decides.
+// A list of entries to choose from, like the menus. The text of the chosen entry tells what it stands for.
 class MenuList : public Control {
 public:
     MenuList(Screen* screen, const char* name);
 
-    // Enter, or a double click, on the current entry.
+    // The clerk has pressed Enter or double-clicked on the current entry.
     Event Chosen;
 
     void SetEntries(const std::vector<Caption>& entries);
@@ -19,7 +19,7 @@ public:
     int CurrentIndex() const;
     void SetCurrentIndex(int index);
 
-    // The current entry as the system spells it.
+    // The current entry as it is stored.
     QString Text() const override;
 
     void Choose();

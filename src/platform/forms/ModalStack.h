@@ -18,27 +18,28 @@ class ModalStack {
 public:
     static ModalStack& Current();
 
-    // The screen that the clerk works on; null if none is open.
+    // The screen on top, which gets the keys; null if none is open.
     Screen* Top() const;
     const std::vector<Screen*>& Open() const { return m_open; }
 
-    // See SendKeys. Without a screen there is nobody to type to.
+    // Types keys into the screen on top, see SendKeys. Does nothing if no screen is open.
     void Send(const QString& keys);
 
-    // Throws away what was typed ahead, as a box does when it comes up.
+    // Drops the keys that were typed ahead; a box does this when it opens.
     void ForgetTypedAhead();
 
-    // A key that reached no screen: the one on top answers it.
+    // A key that reached no screen: the one on top handles it.
     void Press(QKeyEvent& key);
 
-    // A failure ends the program: every open screen is left at once, and nothing after its opening runs.
+    // Ends the program after a failure: closes all open screens at once, and nothing that follows their
+    // opening runs.
     void Fail(const RunTimeError& error);
     const std::optional<RunTimeError>& Failure() const { return m_failure; }
 
-    // `left` is called whenever a screen has been left, before the one beneath it goes on.
+    // `left` is called whenever a screen has closed, before the one below it continues.
     void SetLeft(std::function<void(const Screen&)> left) { m_left = std::move(left); }
 
-    // Forgets a failure that was met, so that screens can be opened again.
+    // Clears a failure, so that screens can be opened again.
     void Reset();
 
 private:
@@ -47,14 +48,14 @@ private:
     std::vector<Screen*> m_open;
     std::function<void(const Screen&)> m_left;
     std::optional<RunTimeError> m_failure;
-    std::deque<KeyStroke> m_ahead; // typed while a screen was closing, for the one that is on top next
+    std::deque<KeyStroke> m_ahead; // typed while a screen was closing; the next one on top gets them
 };
 
-// An application whose slots may fail, too: a run-time error outside a screen's events ends the program
+// An application that also catches run-time errors outside the events of a screen, and ends the program
 // through the modal stack.
 class Application : public QApplication {
 public:
-    // The program ends when its last screen returns, not when a window goes.
+    // Closing a window doesn't end the program; it ends when its last screen returns.
     Application(int& argc, char** argv) : QApplication(argc, argv) { setQuitOnLastWindowClosed(false); }
 
     bool notify(QObject* receiver, QEvent* event) override;

@@ -10,7 +10,7 @@
 
 namespace {
 
-// The order of the alphabet as names are read, those of one name by their numbers.
+// Sorts names as they are read, and equal names by their numbers.
 std::vector<NameCombo::Entry> ByAlphabet(const std::vector<NameCombo::Entry>& names)
 {
     static const QCollator alphabet(QLocale(QLocale::Marathi, QLocale::India));
@@ -34,7 +34,7 @@ std::vector<NameCombo::Entry> ByAlphabet(const std::vector<NameCombo::Entry>& na
     return sorted;
 }
 
-// What a text reads that is only begun: the blank behind a word ends that word.
+// The reading of an unfinished name: a blank at the end means that the last word is complete.
 QString BegunReading(const QString& stored)
 {
     QString reading = Shivaji01::Reading(stored);
@@ -143,7 +143,8 @@ bool NameCombo::KeyPress(const QKeyEvent& key)
     }
     DropDown(true);
     const int row = m_list.CurrentRow();
-    // At a name that was picked, on to its neighbour; at one that only begins with what was typed, this one.
+    // From a picked name to its neighbour. If the highlighted name only begins with the text, it is taken
+    // first.
     const int wanted = row >= 0 && m_rows[row].name != Text() ? row : row + (down ? 1 : -1);
     if (wanted >= 0 && wanted < static_cast<int>(m_rows.size()))
         Pick(wanted);
@@ -164,7 +165,7 @@ bool NameCombo::KeyBeforeScreen(const QKeyEvent& key)
         if (const int row = m_list.CurrentRow(); row >= 0)
             Take(row);
         DropDown(false);
-        return false; // the screen goes on with it
+        return false; // the screen handles it
     default:
         return false;
     }
@@ -207,7 +208,7 @@ void NameCombo::Pick(int row)
     SelectAll();
 }
 
-// It stays at a name that is the one: two members may have the same.
+// A picked name stays highlighted: two members may have the same name.
 void NameCombo::ShowMatch()
 {
     const int row = m_list.CurrentRow();
@@ -215,8 +216,8 @@ void NameCombo::ShowMatch()
     m_list.SetCurrentRow(stays ? row : MatchOf(Text()));
 }
 
-// The row of a name, of several that of the number that is meant; or else the first one that begins with it,
-// as it is stored, is seen or reads; -1 is none.
+// The row with this name (if there are several, the one with the picked number), or else the first that
+// begins with it as it is stored, shown or read; -1 if there is none.
 int NameCombo::MatchOf(const QString& stored) const
 {
     if (stored.isEmpty())

@@ -9,13 +9,13 @@
 #include <utility>
 #include <vector>
 
-// A name, typed freely or picked from a list that drops below the field. The list never takes the focus:
-// Down and Up walk it from the field, and its dark row is the first that begins with what was typed. While
-// the list is open Enter and Tab take the dark row and go on, and Esc closes the list and nothing else. With
-// the field empty no row is dark.
+// A name, typed freely or picked from a drop-down list. The list never takes the focus: Down and Up move
+// through it from the field, and the first name that begins with what was typed is highlighted; none while
+// the field is empty. While the list is open, Enter and Tab take the highlighted name and move on, and Esc
+// only closes the list.
 class NameCombo final : public TextField {
 public:
-    // A name as it is stored, and the number that the list shows beside it; empty if it has none.
+    // A name as it is stored, and the number that the list shows beside it; the number may be empty.
     struct Entry {
         QString name;
         QString number;
@@ -24,32 +24,32 @@ public:
 
     NameCombo(Screen* screen, const char* name, const Handler& lostFocus = {});
 
-    // Words with an order of their own, as they are stored: the list shows them as they are given.
+    // Sets a list of words, as they are stored. It keeps their order.
     void SetItems(const QStringList& words);
 
-    // Names: the list shows them in the order of the alphabet as they are read. One that is given twice with
-    // the same number is shown once.
+    // Sets or adds names. The list sorts them as they are read. A name that comes twice with the same number
+    // is shown once.
     void SetNames(const std::vector<Entry>& names);
     void AddNames(const std::vector<Entry>& names);
     void ClearItems() { SetItems({}); }
 
-    // All that was given, in the order in which it was.
+    // All names or words in the order in which they were set.
     QStringList Items() const;
     const std::vector<Entry>& Names() const { return m_given; }
 
     bool IsDroppedDown() const { return m_list.IsOpen(); }
     void DropDown(bool open);
 
-    // Puts a name of the list in place of its beginning: the one that the text is but for blanks around it,
-    // or that reads the same, or else the first that begins with it. A text that no name begins with stays as
-    // it is.
+    // Replaces the beginning of a name by a name of the list: the same one apart from blanks at its ends, or
+    // one that reads the same, or else the first that begins with the text. A text that no name begins with
+    // stays.
     void TakeMatch();
 
-    // Shows somebody who is known by his number, as if his row had been picked.
+    // Shows the name of a person with a known number, as if that row had been picked.
     void SetEntry(const Entry& entry);
 
-    // Whether the name in the field may be that of a number: a row that was picked stands for the number
-    // beside it, a name that was typed for any.
+    // Whether the name in the field may belong to this number: a picked row stands for its own number only, a
+    // typed name for any.
     bool MayMean(const QString& number) const { return m_picked.isEmpty() || m_picked == number; }
 
 protected:
@@ -66,10 +66,10 @@ private:
     void ShowMatch();
 
     std::vector<Entry> m_given;
-    std::vector<Entry> m_rows; // of the list
-    QStringList m_readings; // what they read
-    QSet<std::pair<QString, QString>> m_numbered; // names and numbers of the rows that have one
+    std::vector<Entry> m_rows; // in the order of the list
+    QStringList m_readings; // the readings of m_rows
+    QSet<std::pair<QString, QString>> m_numbered; // name and number of the rows that have a number
     bool m_byAlphabet = false;
-    QString m_picked; // the number of the one whose name stands in the field
+    QString m_picked; // the number of the row that was picked
     DropList m_list;
 };

@@ -21,13 +21,14 @@ OptionButton::OptionButton(Screen* screen, const char* name, const Caption& capt
 {
     QString seen = caption.Seen().trimmed();
     SetAccessibleName(Plain(seen));
-    // A figure is seen in the caption already.
+    // A digit is part of the caption already.
     if (const QChar key = caption.Mnemonic(); key.isLetter())
         seen += QStringLiteral("  (%1)").arg(key);
     Radio(*this).setText(seen.replace(u'&', QStringLiteral("&&")));
     Radio(*this).setAutoExclusive(false);
     OptionButton::ShowFocus(false);
-    // Keys never reach the widget, so a click is always the mouse; the widget has turned itself by then.
+    // The widget never gets keys, so a click always comes from the mouse. It has changed its own state by
+    // then.
     QObject::connect(&Radio(*this), &QRadioButton::clicked, &Radio(*this), [this] {
         RunEvent([this] {
             Show(m_group && m_group->Chosen() == this);
@@ -81,7 +82,7 @@ void OptionButton::Show(bool chosen)
     SetTabStop(chosen);
 }
 
-// The colour of the focus lies behind the caption as well as in the ring.
+// The focus colours the caption as well as the circle.
 void OptionButton::ShowFocus(bool held)
 {
     Control::ShowFocus(held);
@@ -115,7 +116,7 @@ void OptionGroup::Clear()
     }
 }
 
-// The next one that can take the focus, around the ends; the option itself if there is no other.
+// The next option that can take the focus, going round at the ends; the option itself if there is no other.
 OptionButton* OptionGroup::Neighbour(const OptionButton& from, int step) const
 {
     const auto count = static_cast<std::ptrdiff_t>(m_options.size());

@@ -7,8 +7,9 @@
 
 class OptionGroup;
 
-// One of a group of options, of which at most one is chosen. Space, the mouse or Alt and its letter choose
-// it, the arrows choose its neighbour; Enter goes on to the next control. Tab stops at the chosen one only.
+// One of a group of options, of which at most one is chosen. Space, the mouse or Alt with its letter chooses
+// it; the arrow keys choose its neighbour; Enter moves on to the next control. Tab stops only at the chosen
+// one.
 class OptionButton final : public Control {
 public:
     OptionButton(Screen* screen, const char* name, const Caption& caption, const Handler& click = {});
@@ -18,11 +19,11 @@ public:
 
     bool Chosen() const;
 
-    // Chooses it in place of the one before it, without Click.
+    // Chooses this option instead of the one that was chosen, without running Click.
     void Choose();
     const Caption& Shown() const { return m_caption; }
 
-    // Its value: "1" when it is chosen, else "0".
+    // "1" if it is chosen, else "0".
     QString Text() const override;
 
 protected:
@@ -41,12 +42,12 @@ private:
     OptionGroup* m_group = nullptr;
 };
 
-// The options that stand for one choice. It is a member of the screen, declared after its options.
+// The options of one choice. Declare it in the screen after its options.
 class OptionGroup {
 public:
     OptionGroup(std::initializer_list<OptionButton*> options);
 
-    // The chosen option; null before one is.
+    // The chosen option; null if none is chosen.
     OptionButton* Chosen() const { return m_chosen; }
 
     // Chooses none of them.

@@ -12,9 +12,9 @@
 
 namespace {
 
-int g_underWay = 0; // gates that are shut, and keys kept by one that are still to be typed
+int g_underWay = 0; // open gates, and kept keys that are still to be typed
 
-// Types an event of the keyboard into the screen on top, behind whatever waits in the application's queue.
+// Types a key event into the screen on top, after everything that waits in the queue of the application.
 void TypeLater(const std::shared_ptr<QEvent>& event)
 {
     ++g_underWay;
@@ -28,8 +28,8 @@ void TypeLater(const std::shared_ptr<QEvent>& event)
         Qt::QueuedConnection);
 }
 
-// Stands before the windows as long as they are painted. The window system keeps most of what the clerk does
-// back by itself; what comes by other ways, such as an input method's, is met here.
+// Filters the events of all windows while they are painted. The window system holds most input back by
+// itself; this catches the rest, such as that of an input method.
 class Gate final : public QObject {
 public:
     Gate()

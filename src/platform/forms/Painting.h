@@ -1,14 +1,13 @@
 #pragma once
 
-// Lets a handler that works for long show how far it is.
+// Shows progress while a handler runs for long.
 namespace Painting {
 
-// Paints what has changed in the windows while the running event goes on. Nothing that the clerk does
-// meanwhile gets in: keys are kept in their order, and typed after the running event into whoever holds the
-// focus then; presses of the mouse and of close boxes that come through are thrown away.
+// Paints the windows while the running event goes on. Keys pressed meanwhile are kept and typed, in their
+// order, after the running event; mouse presses and close boxes are ignored.
 void LetIn();
 
-// Whether it is going on, or keys that were kept are still to be typed: whoever types for a test has to wait.
+// Whether LetIn is running, or keys that it kept are still to be typed. A test waits until neither is so.
 bool IsUnderWay();
 
 }

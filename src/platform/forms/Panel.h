@@ -7,14 +7,14 @@
 
 class QLayout;
 
-// Controls and labels of a screen that are shown and hidden together, with what is laid out around them. What
-// is hidden can't take the focus; a control that held it passes it on.
+// Controls and labels of a screen that are shown and hidden together, with their layout. Hidden controls
+// can't take the focus; if one had it, the focus moves on.
 class Panel {
 public:
     Panel(
         Screen* screen, std::initializer_list<Control*> controls, std::initializer_list<Label*> labels = {});
 
-    // Lays them out, captions and all, in a widget of their own: the one to be put into the screen.
+    // Puts the layout into a widget, which is to be added to the screen.
     QWidget* LaidOut(QLayout* contents);
 
     bool Visible() const { return m_visible; }

@@ -10,36 +10,36 @@
 
 class DataGrid;
 
-// What screens of large fields and figures, such as the counters, are put together from.
+// Parts for screens with large fields and figures, such as the counters.
 namespace Pieces {
 
-// The heights of the fields: of those in a line, and of the figures of the milk.
+// The heights of fields in pixels: of those in a line, and of those for the figures of the milk.
 inline constexpr int LineField = 38;
 inline constexpr int TallField = 50;
 
-// A caption that stands for itself, in ink.
+// A caption without a field, in the colour of texts.
 QLabel* Heading(const Caption& caption, Look::Size size = Look::Size::Normal, bool bold = false);
 
-// Gives a text on a panel the colour of texts.
+// Sets the colour of texts for a widget on a panel.
 void SetInk(QWidget& widget);
 
-// A sign of the reckoning, such as "×", between two tall fields.
+// A sign such as "×" between two tall fields.
 QLabel* Sign(QStringView sign);
 
-// A sheet with a thin edge, on white.
+// A white sheet with a thin border.
 QFrame* Sheet();
 
-// A field under its caption; `width` in pixels, 0 for what is left.
+// A field with its caption above it; `width` in pixels, 0 for the remaining width.
 QLayout* Under(const Caption& caption, Field& field, int width, Look::Size size, int height);
 
-// A field, a button: its height, its width (0 for what is left) and the size of its letters.
+// Sets the height, the width (0 for the remaining width) and the type size of a control.
 QWidget* Sized(Control& control, int width, int height, Look::Size size, bool bold = false);
 
-// A figure that is worked out: right-aligned.
+// Makes a label show a computed figure: right-aligned.
 QLabel* Figure(const Label& label, Look::Size size, bool bold = true);
 
-// Fits a list to the room below the entry line: the height of a row, the size of its letters,
-// and the height of its head, which has room for captions of two lines.
+// Sets the row height, the type size and the head height of a grid below the entry line. The default head has
+// room for captions of two lines.
 QWidget* List(
     const DataGrid& grid, int rowHeight = 28, Look::Size size = Look::Size::Normal, int headHeight = 44);
 

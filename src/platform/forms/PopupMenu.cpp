@@ -9,7 +9,7 @@
 
 namespace {
 
-// What the eye meets, with a mark before the letter of the key.
+// The text to show, with '&' before the letter of the key.
 QString MenuText(const Caption& caption)
 {
     QString text = caption.Seen();
@@ -36,7 +36,7 @@ PopupMenu::PopupMenu(Control& control, const std::vector<Entry>& entries)
     for (const Entry& entry : entries)
         connect(m_menu->addAction(MenuText(entry.caption)), &QAction::triggered, this,
             [this, chosen = entry.chosen] { m_control.RunEvent(chosen); });
-    // Before the screen, which has no use for the right button and throws it away.
+    // This filter must come before that of the screen, which ignores the right button.
     control.Widget()->installEventFilter(this);
     if (auto* area = qobject_cast<QAbstractScrollArea*>(control.Widget()))
         area->viewport()->installEventFilter(this);

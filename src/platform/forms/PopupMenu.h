@@ -8,13 +8,13 @@
 
 class QMenu;
 
-// A menu that the right button of the mouse opens on a control; the menu key and Shift+F10 open it where the
-// control holds the focus. The press gives the control the focus first, and a field that keeps it keeps the
-// menu shut.
+// A menu that opens with the right mouse button on a control, or with the menu key or Shift+F10 while the
+// control has the focus. The press moves the focus to the control first; if another field refuses to let it
+// go, the menu stays closed.
 class PopupMenu final : public QObject {
 public:
     struct Entry {
-        Caption caption; // the letter after '&' chooses it
+        Caption caption; // the letter after '&' is its key
         Event chosen;
     };
 

@@ -64,7 +64,7 @@ ProgramWindow::ProgramWindow()
     Look::SetFactor(Scaling::FactorFor(size()));
 }
 
-// A screen is its maker's, and may be opened again in the next window.
+// Screens belong to whoever made them, and may be opened again in the next window.
 ProgramWindow::~ProgramWindow()
 {
     for (QObject* child : QObjectList(children()))
@@ -102,8 +102,7 @@ QRect ProgramWindow::CardPlace(const Screen& card) const
     return place;
 }
 
-// A desktop without a window manager maximises nothing; there the window has the size of the work area
-// already.
+// Without a window manager nothing is maximised; the window has the size of the work area already.
 void ProgramWindow::Appear()
 {
     if (isVisible())
@@ -132,8 +131,7 @@ void ProgramWindow::closeEvent(QCloseEvent* event)
         top->close();
 }
 
-// A key that meets no control is the screen's all the same: between two screens none holds the system's
-// focus.
+// A key that reaches no control goes to the screen: while screens change, no widget has the focus.
 void ProgramWindow::keyPressEvent(QKeyEvent* event)
 {
     ModalStack::Current().Press(*event);

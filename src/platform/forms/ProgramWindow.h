@@ -4,28 +4,28 @@
 
 class Screen;
 
-// The one window of the program; it fills the screen that it stands on. The open screens lie in it: one that
-// is full covers what is beneath, a card stands over it, dimmed. It bears the title of the screen on top, and
-// its close box is that screen's.
+// The one window of the program, which fills its screen. The open screens are in it: a full one covers those
+// below, a card stands over them and dims them. The window has the title of the screen on top, and its close
+// box closes that screen.
 class ProgramWindow final : public QWidget {
 public:
-    // The window; made when it is first asked for.
+    // The window; the first call makes it.
     static ProgramWindow& Current();
     ~ProgramWindow() override;
 
-    // Takes the window away, at the end of the program.
+    // Removes the window, at the end of the program.
     static void Leave();
 
-    // Where the next window appears instead of filling the screen, for tests and pictures.
+    // Places the next window there instead of filling the screen, for tests and pictures.
     static void SetPlace(const QRect& place);
 
-    // Lays the open screens out anew: one has come or gone, or changed its size or title.
+    // Lays out the open screens again: one was opened or closed, or changed its size or title.
     void Arrange();
 
-    // Shows the window, if it isn't there yet.
+    // Shows the window if it isn't shown yet.
     void Appear();
 
-    // Between the whole screen and the work area.
+    // Switches between full screen and the work area of the desktop.
     void ToggleFullScreen();
 
 protected:
@@ -39,5 +39,5 @@ private:
 
     QRect CardPlace(const Screen& card) const;
 
-    QWidget m_shade{this}; // over what lies beneath a card
+    QWidget m_shade{this}; // dims what is below a card
 };

@@ -13,22 +13,22 @@
 #include <cmath>
 #include <vector>
 
-// What a part was given when its screen was put together.
+// The sizes that a part had when its screen was laid out.
 struct BaseSizes {
     QSize least;
     QSize largest;
-    int type = 0; // pixels; 0 if its font is that of what it lies in
+    int type = 0; // pixels; 0 if it inherits its font
     int margin = 0; // of a label
 };
 Q_DECLARE_METATYPE(BaseSizes)
 
 struct BaseGaps {
     QMargins margins;
-    int across = 0; // of a grid, or of a row or column of parts
+    int across = 0; // gap in a grid, or in a row or column of parts
     int down = 0; // of a grid
-    std::vector<int> columns; // the least widths of a grid
+    std::vector<int> columns; // the minimum widths of a grid
     std::vector<int> rows;
-    std::vector<QSize> spacers; // in the order of the items; empty sizes for what isn't one
+    std::vector<QSize> spacers; // in the order of the items; empty for other items
 };
 Q_DECLARE_METATYPE(BaseGaps)
 
@@ -36,14 +36,14 @@ namespace {
 
 constexpr const char* Kept = "baseSizes";
 
-// How much of a window's growth goes to type.
+// The share of a window's growth that goes to type.
 constexpr double Share = 0.85;
 
-// In a small window lines of text are a little higher than their share: the engine rounds them up to whole
-// dots.
+// In a small window lines of text are slightly higher than calculated, since their heights are rounded up to
+// whole pixels.
 constexpr double Slack = 0.97;
 
-// Rounded down, so that what fits together at the factor 1 fits at any.
+// Rounded down: what fits at factor 1 must fit at any.
 int Scaled(int length, double factor)
 {
     return static_cast<int>(std::floor(length * factor));
@@ -54,12 +54,12 @@ int ScaledLargest(int length, double factor)
     return length >= QWIDGETSIZE_MAX ? QWIDGETSIZE_MAX : Scaled(length, factor);
 }
 
-// What was kept with an object; it is taken from it the first time.
+// The sizes that were kept with an object; the first call takes them from it.
 template <class Base, class Object, class Take> Base BaseOf(Object& object, const Take& take)
 {
     if (const QVariant kept = object.property(Kept); kept.isValid())
         return kept.value<Base>();
-    const Base base = take(object);
+    Base base = take(object);
     object.setProperty(Kept, QVariant::fromValue(base));
     return base;
 }
@@ -159,8 +159,8 @@ double Scaling::FactorFor(const QSize& window)
 void Scaling::Apply(QWidget& screen, double factor)
 {
     ScaleWidget(screen, factor);
-    ScaleType(
-        screen, QApplication::font().pixelSize(), factor); // which the parts without a font of their own take
+    ScaleType(screen, QApplication::font().pixelSize(),
+        factor); // inherited by the parts without a font of their own
     for (QWidget* part : screen.findChildren<QWidget*>())
         ScaleWidget(*part, factor);
     for (QLayout* layout : screen.findChildren<QLayout*>())

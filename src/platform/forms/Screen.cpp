@@ -34,7 +34,7 @@ Screen::Screen(const char* name, Shape shape)
 {
     setVisible(false);
     setObjectName(QLatin1String(name));
-    setPalette(QApplication::palette()); // the window's own is that of its ground
+    setPalette(QApplication::palette()); // not the palette of the window behind it
     setAutoFillBackground(true);
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -112,8 +112,8 @@ void Screen::Close()
     m_loop.quit();
 }
 
-// A failure is caught here, where the screen's own code ends, so that it never passes through the window
-// system; an outer event meets it again when the opening of this screen throws.
+// Failures are caught here, so that they never pass through the window system. An outer event gets it again
+// when ShowModal of this screen throws it.
 void Screen::Run(const Event& event)
 {
     struct Running {
@@ -252,7 +252,7 @@ void Screen::MovePrevious()
     MoveBy(-1);
 }
 
-// Where a step leads is found after LostFocus has run: it may have opened or closed the very next field.
+// The destination is found after LostFocus, which may have enabled or disabled the next field.
 void Screen::MoveBy(int step)
 {
     if (Neighbour(m_holder, step) == m_holder)
@@ -336,13 +336,13 @@ void Screen::SetGuideLabel(Label& label)
 
 void Screen::ShowGuide(const Caption& guide)
 {
-    // An empty one keeps its place: hiding it would lay the whole screen out anew at every key.
+    // An empty label keeps its place: hiding it would lay out the whole screen again at every key.
     if (m_guideLabel)
         m_guideLabel->SetCaption(guide);
 }
 
-// A holder that was disabled or hidden by the running event passes the focus on without a validation:
-// there is nothing left in it that the clerk could mend.
+// If the running event disabled or hid the control with the focus, the focus moves on without LostFocus: the
+// clerk couldn't correct anything there.
 void Screen::MendFocus()
 {
     if (!m_open || m_leaving || (m_holder && m_holder->CanTakeFocus()))
@@ -403,7 +403,7 @@ bool Screen::eventFilter(QObject* watched, QEvent* event)
     }
 }
 
-// A card that shows or hides something needs another size.
+// A card that shows or hides something changes its size.
 bool Screen::event(QEvent* event)
 {
     const bool answered = QWidget::event(event);
@@ -417,7 +417,7 @@ void Screen::keyPressEvent(QKeyEvent* event)
     Press(*event);
 }
 
-// A key that meets a screen that is closing waits for the one that is on top then.
+// A key for a screen that is closing is kept for the screen that will be on top.
 void Screen::Press(QKeyEvent& key)
 {
     if (m_open)
@@ -426,7 +426,7 @@ void Screen::Press(QKeyEvent& key)
         ModalStack::Current().m_ahead.push_back({key.key(), key.modifiers(), key.text()});
 }
 
-// A key goes to the holder, whichever widget the window system has sent it to, and no further.
+// Keys go to the control with the focus, whichever widget got them from the window system.
 void Screen::Take(QKeyEvent& key)
 {
     Run([&] {
@@ -453,7 +453,7 @@ void Screen::closeEvent(QCloseEvent* event)
         Run([this] { CloseBox(); });
 }
 
-// The mouse meets the viewport of a list in place of the list.
+// In a list it is the viewport that gets the mouse.
 Control* Screen::OfWidget(const QObject* widget) const
 {
     const auto at = std::find_if(m_controls.begin(), m_controls.end(), [widget](const Control* control) {
@@ -511,7 +511,8 @@ bool Screen::AnswerMnemonic(const QKeyEvent& key)
         if (!control->CanTakeFocus() || mnemonic.isNull() || mnemonic.unicode() != key.key())
             continue;
         MoveTo(control);
-        // The field before a Cancel button is asked, but it can't keep the clerk from getting out.
+        // The LostFocus of the field runs before a Cancel button is pressed, but can't keep the clerk in the
+        // field.
         if (m_holder != control && IsCancel(*control) && control->CanTakeFocus())
             MoveTo(control, false);
         if (m_holder == control)
@@ -521,8 +522,7 @@ bool Screen::AnswerMnemonic(const QKeyEvent& key)
     return false;
 }
 
-// Returns whether the press may reach the widget: the control holds the focus now, and has no use of its own
-// for it.
+// Returns whether the widget is to get the press: the control has the focus now, and doesn't keep the press.
 bool Screen::PressedByMouse(Control& control)
 {
     if (!m_open || !control.CanTakeFocus())

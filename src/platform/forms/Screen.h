@@ -11,93 +11,93 @@
 class Button;
 class QInputMethodEvent;
 
-// A screen: its fields in the window of the program, answering the clerk. It decides itself who holds the
-// focus, runs the handlers, and moves the window system's focus afterwards; so it works the same in an
-// inactive window.
+// A screen: fields in the window of the program, with the handlers that answer the clerk. It decides itself
+// who has the focus, runs the handlers, and only then moves the focus of the window system, so it works the
+// same in an inactive window.
 //
 // A move from A to B runs A's LostFocus, then B's GotFocus. SetFocus inside A's LostFocus replaces the
-// destination, and B sees neither event; if the destination is A itself, its GotFocus runs and its
-// LostFocus doesn't run again. SetFocus inside B's GotFocus is a move of its own. Opening another screen
-// is no move.
+// destination, and B gets neither event; if the destination is A itself, its GotFocus runs, but its LostFocus
+// doesn't run again. SetFocus inside B's GotFocus is a move of its own. Opening another screen is not a move.
 class Screen : public QWidget {
 public:
-    // A full screen fills the window, a card is as large as it needs to be.
+    // A full screen fills the window; a card has the size that it needs.
     enum class Shape { Full, Card };
 
-    // `name` is the screen's name in the system, such as "frmMembers".
+    // `name` is the name that the clerk's guide uses, such as "frmMembers".
     explicit Screen(const char* name, Shape shape = Shape::Full);
     ~Screen() override;
 
-    // Opens the screen over the one before it and returns when it has closed.
+    // Opens the screen on top of the others and returns when it has closed.
     void ShowModal();
 
-    // Closes the screen; the handler that asks for it runs to its end.
+    // Closes the screen. The handler that calls this still runs to its end.
     void Close();
 
     QString Name() const { return objectName(); }
     bool IsCard() const { return m_shape == Shape::Card; }
 
-    // The control that holds the focus; null if none can.
+    // The control that has the focus; null if no control can take it.
     Control* FocusHolder() const { return m_holder; }
 
-    // Moves the focus by the rules above; a control that is disabled or hidden is left alone.
+    // Moves the focus by the rules above; does nothing if the control is disabled or hidden.
     void SetFocus(Control& control);
 
-    // The same, with what the control wants: until it is left, the guide label says it in place of its guide.
+    // The same. Until the control is left, the guide label shows `wanted` in place of its guide.
     void SetFocus(Control& control, const Caption& wanted);
 
     // The controls in tab order.
     const std::vector<Control*>& Controls() const { return m_controls; }
 
-    // The control of a name in any spelling; null if there is none.
+    // The control with this name, in upper or lower case; null if there is none.
     Control* Find(QStringView name) const;
 
     // The background of a control with and without the focus.
     std::pair<QColor, QColor> Colours() const { return {m_focusColour, m_plainColour}; }
 
-    // The title of the window and of the title label, if there is one.
+    // Sets the title of the window and of the title label, if there is one.
     void SetTitle(const Caption& title);
     const Caption& Title() const { return m_title; }
 
-    // Gives type and fields the size that the window has now.
+    // Scales the screen to the present size of the window.
     void FitType();
 
-    // Where the window system sends keys for this screen.
+    // The widget to which the window system sends the keys of this screen.
     QWidget* KeyTarget() const;
 
 protected:
-    // The screen is about to be shown: fill it.
+    // Called before the screen is shown, to fill it.
     virtual void Load() { }
 
-    // The screen stands before the clerk, with the focus on its first control.
+    // Called when the screen has been shown, with the focus on its first control.
     virtual void Shown() { }
 
-    // A key before any control sees it; true if it is answered.
+    // Sees each key before the controls do; returns true if it has handled it.
     virtual bool KeyDown(const QKeyEvent& key);
 
-    // Esc: clear the fields and close.
+    // Esc. Closes the screen unless it is overridden.
     virtual void Escape() { Close(); }
 
-    // The window's close box.
+    // The close box of the window was pressed.
     virtual void CloseBox() { Close(); }
 
-    // Enter on a control that isn't a button: on to the next.
+    // Enter on a control that isn't a button; moves on to the next.
     virtual void Enter() { MoveNext(); }
 
-    // Tab: on to the next.
+    // Tab; moves on to the next control.
     virtual void Tab() { MoveNext(); }
 
     void MoveNext();
     void MovePrevious();
 
-    // Empties every field, as a screen that is left with Esc does.
+    // Empties all fields, as Esc does on many screens.
     void EmptyFields();
 
-    // For a LostFocus that sends the clerk on: whether he is stepping back with Shift+Tab instead.
+    // For a LostFocus handler that moves the clerk to another field: whether Shift+Tab is taking him back, so
+    // that it shouldn't.
     bool IsSteppingBack() const { return m_leaving && m_step < 0; }
 
-    // For the same: the control that he goes straight to, by its letter, another key or the mouse; null if he
-    // steps on or back.
+    // Also for a LostFocus handler: the control that the clerk goes to directly, by its Alt key, another key
+    // or the mouse; null if Enter, Tab or Shift+Tab moves him.
     const Control* GoingTo() const { return m_leaving && m_step == 0 ? m_straightTo : nullptr; }
 
     void SetColours(QColor focus, QColor plain);
@@ -108,14 +108,14 @@ protected:
     // The label that shows the guide of the control in focus.
     void SetGuideLabel(Label& label);
 
-    // Puts a handler of this screen behind an event.
+    // Makes a member function of this screen the handler of an event.
     template <class S> void When(Event& event, void (S::*handler)())
     {
         event = [screen = static_cast<S*>(this), handler] { (screen->*handler)(); };
     }
 
-    // Runs a handler after a time on the event loop; only while the screen is open, and never before the
-    // running event has ended, whatever dialog it waits for.
+    // Runs a handler after some milliseconds, if the screen is still open, and never before the running event
+    // has ended, even while that waits for a dialog.
     void After(int milliseconds, const Event& handler);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -131,8 +131,8 @@ private:
     void Add(Control& control);
     void Remove(Control& control);
 
-    // Runs what a key, a press or a timer sets off, and then what has waited for its end. A run-time error
-    // in it ends the program.
+    // Runs an event that a key, the mouse or a timer has caused, and then what had to wait for its end. A
+    // run-time error in it ends the program.
     void Run(const Event& event);
     void RunWaiting();
     void TypeLater(const std::vector<KeyStroke>& keys);
@@ -159,21 +159,21 @@ private:
     std::vector<Control*> m_controls;
     Control* m_holder = nullptr;
     Control* m_asked = nullptr; // where LostFocus wants the focus instead
-    std::pair<Control*, Caption> m_wanted; // what it is to say there
+    std::pair<Control*, Caption> m_wanted; // what the guide label is to show there
     int m_step = 0; // of the move that is running: 1 on, -1 back, 0 straight to a control
-    Control* m_straightTo = nullptr; // that control
+    Control* m_straightTo = nullptr; // the control that m_step 0 leads to
     bool m_leaving = false; // a LostFocus is running
-    bool m_mouseIsKept = false; // from the widget that was pressed, until it is released
+    bool m_mouseIsKept = false; // the pressed widget doesn't see the mouse until it is released
     Label* m_guideLabel = nullptr;
     Label* m_titleLabel = nullptr;
     Caption m_title;
     QColor m_focusColour;
     QColor m_plainColour;
-    std::deque<KeyStroke> m_keys; // sent, and not yet typed
-    std::deque<Event> m_due; // timers that have waited for the running event
-    int m_running = 0; // events that are running, one inside the other
+    std::deque<KeyStroke> m_keys; // sent but not yet typed
+    std::deque<Event> m_due; // timers that wait for the end of the running event
+    int m_running = 0; // running events, nested
     QEventLoop m_loop;
     Shape m_shape;
-    double m_factor = 1; // that type and fields are scaled by
+    double m_factor = 1; // by which type and fields are scaled
     bool m_open = false;
 };

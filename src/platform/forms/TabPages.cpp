@@ -14,7 +14,7 @@ constexpr int TabHeight = 46;
 constexpr int TabWidth = 190;
 constexpr int LineHeight = 3;
 
-// Flat tabs; the one that is seen stands out in bold upon the line that the page hangs from.
+// Flat tabs; the current one is bold and stands on the line above the page.
 class TabStrip final : public QTabBar {
 public:
     TabStrip()
@@ -122,7 +122,7 @@ QString TabPages::Text() const
     return QString::number(m_tab + 1);
 }
 
-// Left and Right turn the pages where the strip itself holds the focus.
+// Left and Right turn the pages while the strip itself has the focus.
 bool TabPages::KeyPress(const QKeyEvent& key)
 {
     if (key.key() == Qt::Key_Right && m_tab + 1 < Strip().count())
@@ -132,7 +132,7 @@ bool TabPages::KeyPress(const QKeyEvent& key)
     return true;
 }
 
-// Without the focus the tab that is seen has the colour of its page.
+// Without the focus, the current tab has the colour of its page.
 void TabPages::ShowFocus(bool held)
 {
     Control::ShowFocus(held);

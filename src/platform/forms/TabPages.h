@@ -8,35 +8,35 @@ class QLayout;
 class QStackedWidget;
 class QTabBar;
 
-// Pages of controls under a strip of tabs, one page seen at a time; what lies on the others can't take the
-// focus. The strip takes the focus when the clerk turns a page, so the field that is left may refuse it; Tab
-// leads on into the page.
+// Pages of controls below a strip of tabs; one page is shown, and the controls of the others can't take the
+// focus. When the clerk turns the page the strip takes the focus, so the field that is left can refuse. Tab
+// leads from the strip into the page.
 class TabPages final : public Control {
 public:
-    // The captions of the tabs, a page each.
+    // The captions of the tabs, one for each page.
     TabPages(
         Screen* screen, const char* name, const std::vector<Caption>& captions, const Handler& click = {});
 
-    // Another page is seen, turned by the clerk or by the screen.
+    // The clerk or the screen has turned the page.
     Event Click;
 
-    // The page that is seen, from 0.
+    // The page that is shown, counted from 0.
     int Tab() const { return m_tab; }
 
     // Turns to a page.
     void SetTab(int tab);
 
-    // Lays out a page; its controls come and go with it.
+    // Sets the contents of a page; its controls are shown and hidden with it.
     void SetPage(int tab, QLayout* contents, const std::vector<Control*>& controls);
 
-    // What lies below the strip.
+    // The widget below the strip.
     QWidget* Pages() const;
 
-    // Ctrl+PgDn turns to the next page and Ctrl+PgUp to the one before, around the ends. To be asked by the
-    // screen before its controls see a key; true if it was one of these.
+    // Ctrl+PgDn turns to the next page and Ctrl+PgUp to the previous one, going round at the ends. The screen
+    // calls it before its controls see a key; returns true if it has turned the page.
     bool TurnPage(const QKeyEvent& key);
 
-    // The number of the page that is seen, from 1.
+    // The number of the page that is shown, counted from 1.
     QString Text() const override;
 
 protected:

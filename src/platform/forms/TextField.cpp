@@ -31,7 +31,8 @@ bool IsLatinLetter(QChar c)
     return c.isLetter() && c.unicode() < 0x80;
 }
 
-// Whether the encoding can show a sign of the keyboard as what it is; its letters and digits are keys.
+// Whether the encoding can show a character of the keyboard as itself; Latin letters and digits are keys of
+// the layout.
 bool HasPlace(QChar c)
 {
     return c.unicode() >= 0x80 || c.isLetterOrNumber()
@@ -106,7 +107,7 @@ bool TextField::KeyPress(const QKeyEvent& key)
     return true;
 }
 
-// A code without a key is typed as its four digits while Alt is held; the last of them puts it in.
+// A code without a key is typed as four digits while Alt is held; the last digit inserts it.
 bool TextField::TypeAltNumber(const QKeyEvent& key)
 {
     const bool isDigit = key.key() >= Qt::Key_0 && key.key() <= Qt::Key_9;
@@ -142,8 +143,9 @@ void TextField::Insert(const QString& text)
     }
 }
 
-// The keys of the old layout. While Devanagari comes in, a hyphen is a hyphen and no sign of that layout,
-// until a Latin letter is typed; a sign that the encoding can't show isn't taken, for it would be a letter.
+// Inserts keys of the old layout. After Devanagari came in, a hyphen is a hyphen, not the sign which that key
+// gives, until a Latin letter is typed. Characters that the encoding lacks are ignored, since it would show
+// them as letters.
 void TextField::InsertKeys(const QString& keys)
 {
     if (std::any_of(keys.cbegin(), keys.cend(), IsLatinLetter))
@@ -159,8 +161,8 @@ void TextField::InsertKeys(const QString& keys)
         Replace(Selection(), stored);
 }
 
-// A sign belongs to the syllable before it, and so does what follows a half letter: that syllable is
-// spelled anew. All else that stands in the field keeps the spelling that it has.
+// A sign, or what follows a half letter, becomes part of the syllable before it, which is spelled again. The
+// rest of the field keeps its spelling.
 void TextField::InsertSeen(const QString& devanagari)
 {
     Range range = Selection();
@@ -178,7 +180,8 @@ void TextField::InsertSeen(const QString& devanagari)
     Replace(range, Shivaji01::FromUnicode(whole));
 }
 
-// The line edit shows it at its caret, and would take a selection away behind the field's back.
+// The line edit shows the composition at its caret. It would also erase the selection without telling us, so
+// that is done here first.
 void TextField::ShowComposition(const QString& text)
 {
     m_inUnicode = m_inUnicode || HoldsDevanagari(text);
@@ -217,8 +220,8 @@ bool TextField::EraseSelection()
     return true;
 }
 
-// Keys are taken back until less is seen: a half form without its stem is more to read than the letter. What
-// is left of a piece must not join the syllable behind the caret: then the whole piece goes.
+// Removes codes until less is shown: a half form without its stem shows more than the full letter. If the
+// rest of the piece would join the syllable after the caret, the whole piece is removed.
 void TextField::Backspace()
 {
     if (EraseSelection() || m_caret == 0)
@@ -233,7 +236,7 @@ void TextField::Backspace()
     Replace({left, m_caret}, {});
 }
 
-// Whether the syllable behind the caret would be another one with this text before it.
+// Whether the syllable after the caret would change with this text before it.
 bool TextField::JoinsWhatIsBehind(QStringView before) const
 {
     std::vector<Shivaji01::Piece> pieces;

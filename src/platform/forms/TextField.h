@@ -3,15 +3,15 @@
 #include "platform/forms/Field.h"
 #include "platform/text/Shivaji01.h"
 
-// A text in the system's encoding. The stored text is the truth; the eye sees Devanagari while the clerk
-// types the Latin keys of the old layout, and Devanagari from an input method is taken as well. Caret,
-// Backspace and selection work on what is seen. Once Devanagari has come in, in whichever field, punctuation
-// is punctuation, and a sign that the encoding has no place for isn't taken, until a Latin letter is typed.
+// A text in the Shivaji01 encoding. The field holds the stored text and shows it in Devanagari. The clerk
+// types the Latin keys of the old keyboard layout, or Devanagari through an input method. Caret, Backspace
+// and selection move by what is shown. After Devanagari came in, in any field, punctuation keys give
+// punctuation and characters that the encoding lacks are ignored, until a Latin letter is typed.
 class TextField : public Field {
 public:
     TextField(Screen* screen, const char* name, const Handler& lostFocus = {});
 
-    // Which typed characters are taken; empty takes all.
+    // Decides which typed characters are accepted; if empty, all are.
     std::function<bool(QChar)> Accepts;
 
     // The clerk has changed the text.
@@ -21,7 +21,7 @@ public:
     QString Text() const override { return m_stored; }
     void SetText(const QString& stored) override;
 
-    // Keys are those of the old layout until Devanagari comes in, as when the program starts.
+    // Takes keys as those of the old layout until Devanagari comes in, as at the start of the program.
     static void BeginWithKeys() { m_inUnicode = false; }
 
     void SelectAll() override;
@@ -34,7 +34,7 @@ protected:
     void MouseDone() override;
     bool CaretByMouse() const override { return true; }
 
-    // The text has changed, by the clerk or by the screen.
+    // The clerk or the screen has changed the text.
     virtual void Changed() { }
 
 private:
@@ -61,12 +61,12 @@ private:
 
     QString m_stored;
     std::vector<Shivaji01::Piece> m_pieces; // of the stored text
-    qsizetype m_caret = 0; // in the stored text, at the edge of a piece
+    qsizetype m_caret = 0; // index in m_stored, at the edge of a piece
     qsizetype m_anchor = 0; // the other end of the selection
     int m_maxLength = 0;
     QString m_altDigits; // typed with Alt so far
 
-    // What was written last came as Devanagari, not as keys of the old layout. The clerk changes the
-    // keyboard, not the field: it holds for all of them.
+    // The last input was Devanagari, not keys of the old layout. It is common to all fields, since the clerk
+    // switches the keyboard, not the field.
     inline static bool m_inUnicode = false;
 };

@@ -3,8 +3,8 @@
 #include <QAbstractItemView>
 #include <QPaintEvent>
 
-// A list or a table that shows whole rows only: one that the lower edge would cut is left out, and comes when
-// it is scrolled to.
+// A list or table that shows whole rows only: a row that the lower edge would cut isn't painted until it is
+// scrolled to.
 template <class View> class WholeRows : public View {
 public:
     using View::View;
@@ -16,7 +16,7 @@ protected:
         View::paintEvent(&whole);
     }
 
-    // Where the last whole row ends.
+    // Where the last whole row ends, in pixels.
     int WholeHeight() const
     {
         const int height = this->viewport()->height();

@@ -9,11 +9,6 @@ namespace {
 
 constexpr float PairGap = 4;
 
-float ToPoints(double millimetres)
-{
-    return static_cast<float>(millimetres * PointsPerMillimetre);
-}
-
 }
 
 TextLook Merge(const TextLook& outer, const TextLook& inner)

@@ -13,7 +13,7 @@ float HeightBelow(const Band& band)
     return band.page && !band.endsTable ? band.page->FootHeight() : 0;
 }
 
-float LeastHeight(const Band& band, float page)
+float LeastRoom(const Band& band, float page)
 {
     if (band.lanes.empty())
         return band.height;

@@ -36,4 +36,4 @@ template <typename Lane> float FirstPiece(const Lane& lane, float page)
 }
 
 // The least room a band can begin with, if it may continue on the next page.
-float LeastHeight(const Band& band, float page);
+float LeastRoom(const Band& band, float page);

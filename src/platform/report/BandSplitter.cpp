@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr float Tolerance = 0.01F;
-
 // Squeezes a picture into a height. Its texts keep their size.
 void Lower(Band& picture, float room)
 {
@@ -83,13 +81,13 @@ Band BandSplitter::Split(Band& whole, float room)
 
 void BandSplitter::SplitItem(PlacedItem item, float room, Band& first, Band& rest)
 {
-    if (item.y + item.height <= room + Tolerance)
+    if (item.y + item.height <= room + Page::Tolerance)
         return first.items.push_back(std::move(item));
     const bool isText = item.kind == PlacedItem::Kind::Text && item.fit == Fit::Wrap;
     PlacedItem next = item;
     next.y = std::max(0.0F, item.y - room);
     const FontSpec& font = m_fonts.At(item.font);
-    if (isText && item.y + m_measure.LineHeight(font) <= room + Tolerance) {
+    if (isText && item.y + m_measure.LineHeight(font) <= room + Page::Tolerance) {
         const qsizetype count = m_measure.Fitting(font, item.text, item.width, room - item.y);
         next.text = item.text.mid(count);
         next.height = m_measure.Height(font, next.text, item.width);
@@ -108,7 +106,7 @@ void BandSplitter::SplitLanes(Band& whole, float room, Band& first, Band& rest)
     for (std::vector<Band>& lane : whole.lanes) {
         float y = 0;
         std::size_t at = 0;
-        while (at < lane.size() && y + lane[at].height <= room + Tolerance)
+        while (at < lane.size() && y + lane[at].height <= room + Page::Tolerance)
             y += lane[at++].height;
         std::vector<Band>& later = rest.lanes.emplace_back();
         if (at < lane.size()) {

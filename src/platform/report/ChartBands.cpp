@@ -16,7 +16,7 @@ constexpr float ThinLine = 0.4F;
 constexpr float ThickLine = 1.4F;
 constexpr double PointSide = 3.6; // size of the square at each point of a line
 constexpr int WantedTicks = 5;
-constexpr quint8 PaleGray = 210;
+constexpr quint8 GridGray = 210;
 constexpr quint8 Grays[] = {60, 170, 110, 205, 20};
 
 // The numbers of a chart. Successive rows with the same label are added up.
@@ -95,7 +95,7 @@ public:
         , m_figures(ReadFigures(m_chart, maker))
         , m_scale(MakeScale(m_figures.least, m_figures.most))
     {
-        band.height = static_cast<float>(m_chart.height * PointsPerMillimetre);
+        band.height = ToPoints(m_chart.height);
         m_plot = QRectF(stretch.x + Spacing::ChartAxis, 0, stretch.width - Spacing::ChartAxis, band.height);
     }
 
@@ -179,7 +179,7 @@ private:
             AddText(ShortestDecimal(value), m_stretch.x, y - m_lineHeight / 2,
                 Spacing::ChartAxis - Spacing::ChartGap, Align::Right);
             AddStroke(PlacedItem::Kind::Line, {m_plot.left(), y}, {m_plot.right(), y}, ThinLine,
-                i == 0 ? 0 : PaleGray);
+                i == 0 ? 0 : GridGray);
         }
         AddStroke(PlacedItem::Kind::Line, m_plot.topLeft(), m_plot.bottomLeft(), ThinLine, 0);
     }

@@ -9,11 +9,6 @@
 
 namespace {
 
-float ToPoints(double millimetres)
-{
-    return static_cast<float>(millimetres * PointsPerMillimetre);
-}
-
 bool HoldsRows(const TemplateLane& lane)
 {
     return std::any_of(lane.elements.begin(), lane.elements.end(), [](const TemplateElement& element) {

@@ -48,7 +48,7 @@ bool LaneFiller::PlaceBottoms(Sheet& sheet, std::vector<float>& ends)
         heights.push_back(height);
         end = std::max(end, ends[i] + height);
     }
-    const bool fits = end <= sheet.end + Sheet::Tolerance;
+    const bool fits = end <= sheet.end + Page::Tolerance;
     if (!fits && !isFirst)
         return false;
     bool isDone = true;
@@ -71,10 +71,10 @@ float LaneFiller::FillLane(Sheet& sheet, std::deque<Band>& lane, float top)
     while (!lane.empty() && !lane.front().isElastic) {
         if (chain == 0) {
             chain = ChainIn(lane);
-            if (!isFirst && y + FirstPiece(lane, m_pageHeight) > sheet.end + Sheet::Tolerance)
+            if (!isFirst && y + FirstPiece(lane, m_pageHeight) > sheet.end + Page::Tolerance)
                 break;
         }
-        if (y + lane.front().height > sheet.end + Sheet::Tolerance) {
+        if (y + lane.front().height > sheet.end + Page::Tolerance) {
             if (!isFirst)
                 break;
             m_splitter.FitFront(lane, sheet.end - y);

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr double LinesOfAChart = 3; // the legend, the labels, and half a line at each end of the scale
-constexpr double Tolerance = 0.05;
+constexpr double Slack = 0.05;
 
 // A length in points, shown in millimetres.
 QString Shown(double points)
@@ -98,7 +98,7 @@ private:
 
     void CheckHeight(int line, double height, const char* what)
     {
-        if (height > m_pageHeight + Tolerance)
+        if (height > m_pageHeight + Slack)
             Fault(line, QStringLiteral("%1 is taller than the page").arg(QLatin1String(what)));
     }
 
@@ -114,7 +114,7 @@ private:
         const std::vector<double> widths = LaneWidths(lanes, width);
         for (std::size_t i = 0; i < widths.size(); ++i) {
             const TemplateLane& lane = lanes.lanes[i];
-            if (widths[i] < Spacing::SmallestShare - Tolerance)
+            if (widths[i] < Spacing::SmallestShare - Slack)
                 continue;
             const double own = InFrame(lane.frame, widths[i]);
             CheckElements(lane.elements, own);
@@ -165,12 +165,12 @@ private:
         const double letters = m_heights.Line(chart.look);
         const double series = static_cast<double>(std::max<std::size_t>(1, chart.series.size()));
         const double wide = Spacing::ChartAxis + series * std::max(Spacing::ChartLabel, letters);
-        if (width < wide - Tolerance)
+        if (width < wide - Slack)
             Fault(line,
                 QStringLiteral("the chart needs %1 mm, but there are %2 mm").arg(Shown(wide), Shown(width)));
         const double height = chart.height * PointsPerMillimetre;
         const double high = (LinesOfAChart + (chart.title.IsEmpty() ? 0 : 1)) * letters + Spacing::ChartGap;
-        if (height < high - Tolerance)
+        if (height < high - Slack)
             Fault(line,
                 QStringLiteral("the chart needs a height of %1 mm, but has %2 mm")
                     .arg(Shown(high), Shown(height)));

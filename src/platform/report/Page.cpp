@@ -17,10 +17,10 @@ QString Place(const PlacedItem& item)
 
 QString DescribeText(const PlacedItem& item, const FontSpec& font)
 {
-    constexpr QStringView Aligns[] = {u" left", u" center", u" right"};
-    constexpr QStringView Fits[] = {u" wrap", u" cut", u" shrink"};
-    return QStringLiteral("text ") + Place(item) + Aligns[static_cast<std::size_t>(item.align)]
-        + Fits[static_cast<std::size_t>(item.fit)]
+    constexpr QStringView aligns[] = {u" left", u" center", u" right"};
+    constexpr QStringView fits[] = {u" wrap", u" cut", u" shrink"};
+    return QStringLiteral("text ") + Place(item) + aligns[static_cast<std::size_t>(item.align)]
+        + fits[static_cast<std::size_t>(item.fit)]
         + (font.isBold ? QStringLiteral(" bold ") : QStringLiteral(" ")) + QString::number(font.size)
         + QStringLiteral(" ") + font.family + QStringLiteral(": ") + item.text;
 }

@@ -30,6 +30,8 @@ struct PlacedItem {
 };
 
 struct Page {
+    static constexpr float Tolerance = 0.01F; // for rounding: a piece may be taller than its room by this
+
     float width = 0, height = 0;
     bool restartsPages = false; // page numbers begin at 1 again here
     std::vector<PlacedItem> items;

@@ -14,7 +14,7 @@
 namespace {
 
 constexpr double Black = 255.0;
-constexpr qsizetype Portion = 500; // characters
+constexpr qsizetype FirstTry = 500; // characters
 
 struct SurfaceDeleter {
     void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
@@ -106,10 +106,10 @@ void PagePainter::Private::DrawText(cairo_t* cairo, const PlacedItem& item)
 
 void PagePainter::Private::DrawWrapped(cairo_t* cairo, const PlacedItem& item, const QString& text)
 {
-    constexpr PangoAlignment Aligns[] = {PANGO_ALIGN_LEFT, PANGO_ALIGN_CENTER, PANGO_ALIGN_RIGHT};
+    constexpr PangoAlignment aligns[] = {PANGO_ALIGN_LEFT, PANGO_ALIGN_CENTER, PANGO_ALIGN_RIGHT};
     PangoLayout* const layout = pool.Wrapping(fonts.At(item.font));
     pango_layout_set_width(layout, static_cast<int>(item.width * PANGO_SCALE));
-    pango_layout_set_alignment(layout, Aligns[static_cast<std::size_t>(item.align)]);
+    pango_layout_set_alignment(layout, aligns[static_cast<std::size_t>(item.align)]);
     SetText(layout, text);
     words.Show(cairo, layout, item.x, item.y + pool.Drop(fonts.At(item.font), layout));
 }
@@ -119,7 +119,7 @@ void PagePainter::Private::DrawSingle(cairo_t* cairo, const PlacedItem& item, co
     PangoLayout* const layout = pool.Single(fonts.At(item.font));
     double width = 0;
     // Of a text that is cut off, only as much is laid out as can be seen.
-    for (qsizetype length = item.fit == Fit::Cut ? Portion : text.size();; length *= 2) {
+    for (qsizetype length = item.fit == Fit::Cut ? FirstTry : text.size();; length *= 2) {
         SetText(layout, text.left(length));
         width = WidthOf(layout);
         if (length >= text.size() || width > item.width)

@@ -48,7 +48,7 @@ public:
 
     // A search result; the rectangle is in points on the page.
     struct Found {
-        std::size_t page;
+        std::size_t page = 0;
         QRectF rect;
     };
 

@@ -196,7 +196,7 @@ QString ReportData::Seen(const QString& stored)
         return known.value();
     if (m_seen.size() >= MostSeenTexts)
         m_seen.clear();
-    const QString seen = Shivaji01::ToUnicode(stored);
+    QString seen = Shivaji01::ToUnicode(stored);
     if (stored.size() <= LongestSeenText)
         m_seen.insert(stored, seen);
     return seen;

@@ -169,7 +169,7 @@ float ReportFiller::ChainHeight(std::size_t length) const
         height += m_waiting[i].height;
     const Band& last = m_waiting[length - 1];
     const bool goesOn = last.holdsRows || last.height > PageHeight();
-    return height + (goesOn ? LeastHeight(last, PageHeight()) : last.height);
+    return height + (goesOn ? LeastRoom(last, PageHeight()) : last.height);
 }
 
 // Places the bands that stay together. False if the page is full or the report has ended.
@@ -183,13 +183,12 @@ bool ReportFiller::PlaceChain(Sheet& sheet)
     const float height = ChainHeight(length);
     const Band& front = m_waiting.front();
     const float end = sheet.end - HeightBelow(m_waiting[length - 1]);
-    const bool isWhole =
-        sheet.y + (sheet.isEmpty ? HeightAbove(front) : 0) + height <= end + Sheet::Tolerance;
+    const bool isWhole = sheet.y + (sheet.isEmpty ? HeightAbove(front) : 0) + height <= end + Page::Tolerance;
     if (!sheet.isEmpty && !isWhole) {
         // If no page can hold them, they begin here as long as there is room for a beginning.
         const bool isHopeless = HeightAbove(front) + height + sheet.end - end > PageHeight();
-        const float least = LeastHeight(front, PageHeight()) + HeightBelow(front);
-        if (!isHopeless || sheet.y + least > sheet.end + Sheet::Tolerance)
+        const float least = LeastRoom(front, PageHeight()) + HeightBelow(front);
+        if (!isHopeless || sheet.y + least > sheet.end + Page::Tolerance)
             return false;
     }
     for (std::size_t i = 0; i < length; ++i) {
@@ -208,7 +207,7 @@ bool ReportFiller::PlaceNext(Sheet& sheet, float end)
         m_waiting.pop_front();
         return true;
     }
-    const bool fits = sheet.y + front.height <= end + Sheet::Tolerance;
+    const bool fits = sheet.y + front.height <= end + Page::Tolerance;
     if (!fits && !front.lanes.empty()) {
         m_lanes.Take(front);
         sheet.Record(front.record);
@@ -217,7 +216,7 @@ bool ReportFiller::PlaceNext(Sheet& sheet, float end)
     }
     if (sheet.isEmpty)
         sheet.PlaceHeadOf(front);
-    if (sheet.y + front.height > end + Sheet::Tolerance) {
+    if (sheet.y + front.height > end + Page::Tolerance) {
         if (!sheet.isEmpty)
             return false;
         m_splitter.FitFront(m_waiting, end - sheet.y);

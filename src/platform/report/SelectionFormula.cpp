@@ -87,12 +87,12 @@ QString Translation::PartOfAnd(const Expression& part)
 
 QString Translation::Comparison(const Expression& comparison)
 {
-    constexpr std::pair<Operation, QStringView> Signs[] = {{Operation::Equal, u"="},
+    constexpr std::pair<Operation, QStringView> signs[] = {{Operation::Equal, u"="},
         {Operation::NotEqual, u"<>"}, {Operation::Less, u"<"}, {Operation::LessOrEqual, u"<="},
         {Operation::Greater, u">"}, {Operation::GreaterOrEqual, u">="}};
-    const auto sign = std::find_if(std::begin(Signs), std::end(Signs),
+    const auto sign = std::find_if(std::begin(signs), std::end(signs),
         [&](const auto& one) { return one.first == comparison.operation; });
-    if (sign == std::end(Signs))
+    if (sign == std::end(signs))
         Fail(QStringLiteral("a comparison is missing"));
     const Expression& value = comparison.arguments[1];
     const Operand field = Field(comparison.arguments[0]);

@@ -4,8 +4,6 @@
 
 // A page while it is being filled.
 struct Sheet {
-    static constexpr float Tolerance = 0.01F; // for rounding: a band may be taller than its room by this
-
     Page page;
     float y = 0; // where the next band goes
     float end = 0; // where the footer begins

@@ -13,7 +13,7 @@ using Spacing::HeadRule;
 using Spacing::RowPadding;
 
 constexpr float ThinRule = 0.4F;
-constexpr quint8 PaleGray = 170;
+constexpr quint8 RowRuleGray = 170;
 
 // Puts a band below another.
 void Stack(Band& above, Band below)
@@ -196,7 +196,7 @@ Band TableStrips::Row(QStringList* record) const
         AddCell(band, i, text, m_cells[i].look, m_cells[i].fit);
     }
     if (m_table.hasLines)
-        AddRule(band, band.height + RowPadding, ThinRule, PaleGray);
+        AddRule(band, band.height + RowPadding, ThinRule, RowRuleGray);
     band.height += 2 * RowPadding;
     return band;
 }

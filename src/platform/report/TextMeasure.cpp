@@ -1,6 +1,7 @@
 #include "platform/report/TextMeasure.h"
 
 #include "platform/report/LayoutPool.h"
+#include "platform/report/Page.h"
 
 #include <QHash>
 
@@ -12,7 +13,6 @@ namespace {
 
 constexpr qsizetype MostKept = 20000;
 constexpr qsizetype LongestKept = 200;
-constexpr float Tolerance = 0.01F;
 
 // For each line Pango looks at all that is left of the paragraph, so it is given long texts in portions. A
 // piece has no more than MostLines lines, since a split at the end of a page lays out the whole piece again.
@@ -27,7 +27,7 @@ struct Line {
     int baseline = 0;
 };
 
-float ToPoints(int units)
+float HeightFromPango(int units)
 {
     return static_cast<float>(units) / PANGO_SCALE;
 }
@@ -95,7 +95,7 @@ std::vector<Line> TextMeasure::Private::LinesOf(const FontSpec& font, const QStr
 // The height of these lines if they stand by themselves.
 float TextMeasure::Private::HeightOf(const FontSpec& font, const Line& first, const Line& last)
 {
-    return ToPoints(last.bottom - first.top)
+    return HeightFromPango(last.bottom - first.top)
         + static_cast<float>(pool.Drop(font, first.baseline - first.top));
 }
 
@@ -120,8 +120,8 @@ float TextMeasure::LineHeight(const FontSpec& font)
     int width = 0;
     int height = 0;
     pango_layout_get_size(layout, &width, &height);
-    m_d->lineHeights.emplace_back(font, ToPoints(height));
-    return ToPoints(height);
+    m_d->lineHeights.emplace_back(font, HeightFromPango(height));
+    return HeightFromPango(height);
 }
 
 float TextMeasure::Height(const FontSpec& font, const QString& text, float width)
@@ -143,7 +143,7 @@ float TextMeasure::Height(const FontSpec& font, const QString& text, float width
     int height = 0;
     PangoLayout* const layout = m_d->Lay(font, text, width);
     pango_layout_get_size(layout, &ignored, &height);
-    const float whole = ToPoints(height) + static_cast<float>(m_d->pool.Drop(font, layout));
+    const float whole = HeightFromPango(height) + static_cast<float>(m_d->pool.Drop(font, layout));
     if (text.size() <= LongestKept)
         m_d->heights.insert(key, whole);
     return whole;
@@ -181,7 +181,7 @@ qsizetype TextMeasure::Fitting(const FontSpec& font, const QString& text, float 
 {
     const std::vector<Line> lines = m_d->LinesOf(font, text, width);
     for (std::size_t i = 1; i < lines.size(); ++i) {
-        if (m_d->HeightOf(font, lines.front(), lines[i]) > height + Tolerance)
+        if (m_d->HeightOf(font, lines.front(), lines[i]) > height + Page::Tolerance)
             return lines[i].start;
     }
     return text.size();

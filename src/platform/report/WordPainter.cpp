@@ -12,7 +12,7 @@ namespace {
 constexpr std::string_view Blanks = " \t";
 constexpr std::string_view Ellipsis = "\u2026";
 
-double ToPoints(int units)
+double FromPango(int units)
 {
     return static_cast<double>(units) / PANGO_SCALE;
 }
@@ -34,7 +34,7 @@ double WidthOf(const PangoGlyphString& glyphs)
     int width = 0;
     for (int i = 0; i < glyphs.num_glyphs; ++i)
         width += glyphs.glyphs[i].geometry.width;
-    return ToPoints(width);
+    return FromPango(width);
 }
 
 }
@@ -75,8 +75,8 @@ void WordPainter::Private::Show(cairo_t* cairo, PangoLayout* layout, double x, d
     do {
         PangoRectangle place;
         pango_layout_iter_get_line_extents(lines, nullptr, &place);
-        const double baseline = y + ToPoints(pango_layout_iter_get_baseline(lines));
-        double runX = x + ToPoints(place.x);
+        const double baseline = y + FromPango(pango_layout_iter_get_baseline(lines));
+        double runX = x + FromPango(place.x);
         for (GSList* at = pango_layout_iter_get_line_readonly(lines)->runs; at; at = at->next)
             runX += ShowRun(cairo, text, static_cast<PangoGlyphItem*>(at->data), runX, baseline);
     } while (pango_layout_iter_next_line(lines));
@@ -122,8 +122,8 @@ bool WordPainter::Private::PlaceGlyphs(const PangoGlyphString& glyphs, double x,
         if ((info.glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0)
             return false;
         if (info.glyph != PANGO_GLYPH_EMPTY)
-            m_glyphs.push_back({info.glyph, x + ToPoints(at + info.geometry.x_offset),
-                baseline + ToPoints(info.geometry.y_offset)});
+            m_glyphs.push_back({info.glyph, x + FromPango(at + info.geometry.x_offset),
+                baseline + FromPango(info.geometry.y_offset)});
         at += info.geometry.width;
     }
     return true;

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-// How a line talks.
+// The settings of a serial line.
 struct LineSettings {
     enum class Parity { None, Even, Odd, Mark, Space };
     enum class StopBits { One, OneAndHalf, Two };
@@ -16,5 +16,5 @@ struct LineSettings {
 };
 
 // Reads "2400,n,8,1": baud, parity by its first letter (n, e, o, m, s), data bits, stop bits (1, 1.5, 2).
-// Blanks around a part are allowed; anything else gives nothing.
+// Blanks around a part are allowed. Returns nothing for any other text.
 std::optional<LineSettings> ParseLineSettings(QStringView text);

@@ -79,7 +79,7 @@ bool MachineSerialPort::Write(const QByteArray& bytes)
     if (!m_port.isOpen() || m_port.write(bytes) != bytes.size())
         return false;
     m_isAnswerOverdue = false;
-    m_port.flush(); // what doesn't fit now follows while the answer is waited for
+    m_port.flush(); // the rest is sent while we wait for the answer
     return !IsBroken();
 }
 
@@ -110,14 +110,14 @@ void MachineSerialPort::Close()
     if (!m_port.isOpen())
         return;
     if (m_isAnswerOverdue)
-        m_port.clear(QSerialPort::Output); // what is still queued had its time
+        m_port.clear(QSerialPort::Output); // drops what could not be sent in time
     else
         SendOut();
     m_port.close();
 }
 
-// Closing sets the line back to how it was, which would garble what is still on its way to the device. A line
-// that takes nothing loses it, so that it can't hold the program.
+// Waits until everything has been sent: closing restores the old settings of the line and would garble what
+// is still on its way. If the line takes nothing, the rest is dropped, so that it can't hold up the program.
 void MachineSerialPort::SendOut()
 {
     constexpr std::chrono::milliseconds longest{200};
@@ -129,14 +129,14 @@ void MachineSerialPort::SendOut()
     while (ioctl(m_port.handle(), TIOCOUTQ, &queued) == 0 && queued > 0 && !limit.hasExpired())
         QThread::msleep(1);
     if (queued == 0) {
-        tcdrain(m_port.handle()); // the last bytes, which the adapter itself still holds
+        tcdrain(m_port.handle()); // waits for the bytes that are still in the adapter
         return;
     }
 #endif
     m_port.clear(QSerialPort::Output);
 }
 
-// A line without a signal, or a time that has run out, is not broken.
+// A line that lacks a signal or was too slow is not broken.
 bool MachineSerialPort::IsBroken() const
 {
     switch (m_port.error()) {

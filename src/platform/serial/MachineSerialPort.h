@@ -22,5 +22,5 @@ private:
     bool IsBroken() const;
 
     QSerialPort m_port;
-    bool m_isAnswerOverdue = false; // since the last write, a wait for an answer has run out
+    bool m_isAnswerOverdue = false; // a wait for an answer has run out since the last write
 };

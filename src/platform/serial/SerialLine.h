@@ -4,12 +4,12 @@
 
 #include <functional>
 
-// How long somebody waits; it begins when it is made.
+// A time limit that runs from its construction.
 class Wait {
 public:
     explicit Wait(std::chrono::microseconds length);
 
-    // What is left of it, never below zero.
+    // The time that is left, never below zero.
     std::chrono::microseconds Left() const;
     bool IsOver() const { return Left().count() == 0; }
 
@@ -17,8 +17,8 @@ private:
     std::chrono::microseconds m_end;
 };
 
-// A port that is open while this lives, with the DTR signal on. Failures are passed over: on a port that
-// couldn't be opened nothing is sent and nothing comes.
+// A port that is open during the lifetime of this object, with the DTR signal on. Failures are ignored: if
+// the port couldn't be opened, nothing is sent and nothing arrives.
 class SerialLine {
 public:
     SerialLine(int port, const QString& settings);
@@ -26,17 +26,19 @@ public:
     SerialLine(const SerialLine&) = delete;
     SerialLine& operator=(const SerialLine&) = delete;
 
-    // Sends the bytes if it can.
+    // Sends the bytes, if that is possible.
     void Write(const QByteArray& bytes);
 
-    // What comes next, waited for at most so long: empty if nothing came, nothing if the line is broken.
+    // Waits at most so long for the next bytes. They are empty if nothing came; no value if the line is
+    // broken.
     std::optional<QByteArray> Next(std::chrono::microseconds atMost);
 
-    // All that comes until `isWhole` says that it is enough or the wait is over; nothing if the line breaks.
+    // Collects bytes until `isWhole` returns true for all of them together or the wait is over. No value if
+    // the line breaks.
     std::optional<QByteArray> Collect(
         const Wait& wait, const std::function<bool(const QByteArray&)>& isWhole);
 
-    // Throws away what is still coming, until the line has been quiet for so long or the wait is over.
+    // Drops what still arrives, until the line has been quiet for so long or the wait is over.
     void Drain(const Wait& wait, std::chrono::microseconds quiet);
 
 private:

@@ -7,48 +7,49 @@
 #include <memory>
 #include <optional>
 
-// A serial port by its number. Nothing here throws: a device that is missing, busy or broken shows in the
-// returned values, and the next step may be tried all the same.
+// A serial port. Nothing here throws: if a device is missing, busy or broken, the returned values say so, and
+// the next call is allowed all the same.
 class SerialPort {
 public:
     virtual ~SerialPort() = default;
 
-    // Opens port `number` (from 1) with settings as baud, parity, data bits, stop bits: "2400,n,8,1".
+    // Opens port `number` (from 1). The settings are baud, parity, data bits and stop bits: "2400,n,8,1".
     // Returns false if there is no such port, if it is busy, or if the settings can't be read.
     virtual bool Open(int number, const QString& settings) = 0;
 
-    // Tells the device that somebody listens. Returns false where the line has no such signal.
+    // Switches the DTR signal, which tells the device that the computer is ready. Returns false if the line
+    // has no such signal.
     virtual bool SetDtr(bool on) = 0;
 
-    // Sends the bytes as they are. Returns false if they can't be sent.
+    // Sends the bytes unchanged. Returns false if they can't be sent.
     virtual bool Write(const QByteArray& bytes) = 0;
 
     enum class Line { Input, Quiet, Broken };
 
-    // Waits until bytes have arrived, at most so long. Broken is a device that has gone; it is told at once.
+    // Waits at most so long until bytes arrive. Returns Broken at once if the device has gone.
     virtual Line WaitForInput(std::chrono::microseconds atMost) = 0;
 
-    // The whole input buffer, which is empty afterwards; nothing if it can't be read.
+    // Takes everything out of the input buffer; no value if it can't be read.
     virtual std::optional<QByteArray> ReadInput() = 0;
 
     // Closing a closed port does nothing.
     virtual void Close() = 0;
 };
 
-// The serial ports of this machine, and the time that waiting for them takes.
+// Makes serial ports, and measures the time that is spent waiting for them. Tests replace it.
 class SerialPorts {
 public:
     virtual ~SerialPorts() = default;
 
-    // A closed port.
+    // A new port, not yet open.
     virtual std::unique_ptr<SerialPort> Make() = 0;
 
-    // A time that only goes forward.
+    // The time since some fixed moment; it never goes back.
     virtual std::chrono::microseconds Now() = 0;
 
-    // Those of this process: the machine's own unless a test put others in their place.
+    // The ones that this process uses: the machine's own, unless a test has replaced them.
     static SerialPorts& Current();
 
-    // Puts other ports in place; whoever does it owns them. None puts the machine's own back.
+    // Replaces them; the caller keeps owning `ports`. A null pointer restores the machine's own.
     static void Replace(SerialPorts* ports);
 };

@@ -2,17 +2,18 @@
 
 #include <QString>
 
-// The application folder. It is fixed: every run-time file is addressed by its full path under it.
+// The application folder. It is fixed: every file that the program reads or writes is named by its full path
+// in it. See LocalPath for where that is on this machine.
 inline constexpr QStringView AppFolder = u"C:\\Tarvel01\\Vetrolan\\";
 
-// Where a path under a drive letter lies on this machine. On Windows it is that path itself; elsewhere
-// drive X: is the folder drive_x below the drives' root, with '/' between the parts. A path without a drive
-// letter comes back as it is.
+// Where a path with a drive letter is on this machine. On Windows it is that path itself; elsewhere drive X:
+// is the folder drive_x in the drives' root (see SetDrivesRoot), and '/' separates the parts. A path without
+// a drive letter is returned unchanged.
 QString LocalPath(QStringView path);
 
-// Where a file of AppFolder lies on this machine, such as "PWD.TXT".
+// Where a file of AppFolder, such as "PWD.TXT", is on this machine.
 QString LocalAppFile(QStringView name);
 
-// Where the drives lie: the user's shared data folder unless a test or the tour moved it. An empty
-// text puts it back there.
+// Sets the folder that holds the drives, for tests and the tour. An empty text restores the default: the
+// folder vetrolan in the user's data folder.
 void SetDrivesRoot(const QString& folder);

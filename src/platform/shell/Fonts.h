@@ -3,10 +3,10 @@
 #include <QString>
 #include <QStringList>
 
-// The Devanagari font of the machine that the screens use: the family's name, or an empty text if no
-// font on this machine can show Devanagari.
+// The family of the Devanagari font that the screens use; empty if no font on this machine can show
+// Devanagari.
 QString DevanagariFontFamily();
 
-// The one to use among the families that can show Devanagari: the two that the screens were drawn with, in
-// that order, else the first that there is, else an empty text.
+// Chooses among families that can show Devanagari: one of the two that the screens were designed with, else
+// the first of the list. Empty if the list is empty.
 QString ChooseDevanagariFamily(const QStringList& families);

@@ -7,7 +7,7 @@
 
 namespace {
 
-int g_awaited = 0; // boxes that are up and take no key yet
+int g_awaited = 0; // open boxes that take no keys yet
 
 }
 
@@ -50,8 +50,9 @@ bool FreshKeys::eventFilter(QObject* watched, QEvent* event)
     }
 }
 
-// When a box is painted, keys that were pressed before may still be on their way: it opens its ears after the
-// event loop has gone round with nothing left to deliver, twice, since the first round may have begun before.
+// When a box has been painted, keys that were pressed earlier may still be in the queue of the window system.
+// So it takes keys only after the event loop has twice had nothing left to deliver; the first of these rounds
+// may have begun before the painting.
 void FreshKeys::Turn(State state)
 {
     g_awaited += (state == State::Open ? 0 : 1) - (m_state == State::Open ? 0 : 1);

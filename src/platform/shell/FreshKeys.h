@@ -4,16 +4,16 @@
 
 class QWidget;
 
-// Lets a box take only keys that were pressed after it was painted. What was typed ahead of it, for a field
-// that the clerk thought to be in, is thrown away, all of it; so are the repetitions of a key that is held
-// down. Keys that the program types itself don't come through the window system and are none of its business.
+// Lets a box take only keys that were pressed after it was painted. Keys that were typed ahead were meant for
+// the field below, so all of them are thrown away, and so are the repetitions of a key that is held down.
+// Keys that the program types itself (SendKeys) don't pass through here.
 class FreshKeys final : public QObject {
 public:
     // Guards `box` whenever it is shown, as long as this lives.
     explicit FreshKeys(QWidget& box);
     ~FreshKeys() override;
 
-    // Whether a box is up that takes no key yet: whoever types for a test has to wait until it does.
+    // Whether an open box takes no keys yet. A test waits until it does before it types the next key.
     static bool Awaited();
 
 protected:

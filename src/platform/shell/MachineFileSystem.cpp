@@ -37,7 +37,8 @@ QString Local(const QString& path)
             QStringLiteral("%1 could not be copied: %2").arg(QDir::toNativeSeparators(file), why)));
 }
 
-// The books may be read and written by the engine alone while it has them.
+// While the database engine has a file open, nobody else may open it: closing it would drop the engine's
+// locks.
 void RequireClosed(const QString& file)
 {
     if (BooksOnDisk::AreReachedBy(file))
@@ -46,7 +47,7 @@ void RequireClosed(const QString& file)
                 QStringLiteral("%1 belongs to books that are open.").arg(QDir::toNativeSeparators(file))));
 }
 
-// Whether both names lead to one file.
+// Whether both names lead to the same file.
 bool IsOneFile(const QString& first, const QString& second)
 {
     const QString canonical = QFileInfo(first).canonicalFilePath();
@@ -67,7 +68,7 @@ void CopyBytes(QFile& source, QFile& target)
         ThrowNotCopied(source.fileName(), target.errorString());
 }
 
-// Sees that the names in a folder are on the disk; a file system that can't say is believed.
+// Writes the names in a folder through to the disk. File systems that can't do this are left as they are.
 void SyncFolder([[maybe_unused]] const QString& folder)
 {
 #ifndef Q_OS_WIN
@@ -80,8 +81,7 @@ void SyncFolder([[maybe_unused]] const QString& folder)
 }
 
 #ifndef Q_OS_WIN
-// Whether the disk of a device such as "/dev/sdb1" says that it can be taken out. A partition lies in the
-// folder of its disk.
+// Whether the disk of a device such as "/dev/sdb1" is removable. Linux lists a partition below its disk.
 bool IsRemovable(const QByteArray& device)
 {
     const QString name = QFileInfo(QFile::decodeName(device)).canonicalFilePath().section(u'/', -1);
@@ -115,10 +115,10 @@ void MachineFileSystem::CopyFile(const QString& from, const QString& to, const C
     QFile reading(source);
     if (!reading.open(QIODevice::ReadOnly))
         ThrowNotCopied(source, reading.errorString());
-    QFile copy(target + QStringLiteral(".part")); // what a failure of power has left of one is overwritten
+    QFile copy(target + QStringLiteral(".part")); // overwrites one that a power cut left behind
     auto leavings = qScopeGuard([&copy] {
         copy.close();
-        QFile::remove(copy.fileName()); // the object's own removal gives up where the closing fails
+        QFile::remove(copy.fileName()); // copy.remove() would give up if closing fails
     });
     if (!copy.open(QIODevice::WriteOnly, QFileDevice::ReadOwner | QFileDevice::WriteOwner))
         ThrowNotCopied(source, copy.errorString());
@@ -204,7 +204,7 @@ FileSystem::DriveKind MachineFileSystem::KindOfDrive(const QString& path) const
         return DriveKind::Unknown;
     }
 #else
-    // What is mounted below the drive's folder counts for what lies there.
+    // A disk may be mounted on a folder inside the drive.
     QString folder = Local(path);
     while (!QFileInfo::exists(folder))
         folder = QFileInfo(folder).path();

@@ -4,8 +4,8 @@
 
 #include <QByteArray>
 
-// The disks of this machine. Off Windows a drive is the folder that LocalPath makes of it, which may be a
-// link to where a disk is mounted.
+// The disks of this machine. Where there are no drive letters, a drive is a folder (see LocalPath), or a link
+// to where a disk is mounted.
 class MachineFileSystem final : public FileSystem {
 public:
     void CopyFile(const QString& from, const QString& to, const Check& check = {}) override;
@@ -16,7 +16,7 @@ public:
     QStringList Drives() const override;
     DriveKind KindOfDrive(const QString& path) const override;
 
-    // What a mounted file system says of its drive, by its type ("ext4") and by whether its disk says that it
-    // can be taken out.
+    // The kind of drive that a mounted file system is on, from its type (such as "ext4") and from whether its
+    // disk is removable.
     static DriveKind KindOf(const QByteArray& fileSystemType, bool isRemovable);
 };

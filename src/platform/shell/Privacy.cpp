@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Changes the rights by the name: the books mustn't be opened for it, as their locks go when they are closed.
+// Changes the rights by name, without opening the file: closing the database would drop the engine's locks.
 void TakeFromOthers(const fs::path& path)
 {
     std::error_code stays;

@@ -2,16 +2,16 @@
 
 #include <QString>
 
-// What the program holds is the society's alone. Where the system knows no such thing, nothing happens.
+// Keeps other users of the machine from the society's data. On a system without such rights, these do
+// nothing.
 namespace Privacy {
 
-// No core of this process is written, and none can be taken from it: it would hold the password of the
-// books. For a program's own start only; a debugger can't follow such a process.
+// Forbids core dumps of this process, which would hold the password of the database. To be called at the
+// start of a program; afterwards no debugger can attach to it.
 void ForbidCores();
 
-// Takes from everybody but the owner what they may do with a file, or with a folder and all that is below
-// it. What the owner may do stays; links are left alone, for they lead to devices. What belongs to somebody
-// else, or isn't there, stays as it is.
+// Takes the rights to a file, or to a folder with all that is in it, from everybody but the owner. Links are
+// left alone, since they lead to devices. Files that belong to somebody else or don't exist are passed over.
 void KeepToOwner(const QString& path);
 
 }

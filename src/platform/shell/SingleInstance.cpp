@@ -39,7 +39,8 @@ namespace {
 
 }
 
-// A file opened with no sharing is the lock; the system closes and removes it however the process ends.
+// The lock is a file that is opened without sharing. The system closes and removes it however the process
+// ends.
 class SingleInstance::Private {
 public:
     explicit Private(const QString& folder)
@@ -87,7 +88,7 @@ QString NameOf(uid_t user)
                       .arg(NameOf(geteuid()), QDir(folder).absolutePath())));
 }
 
-// What root writes among somebody else's books shuts that somebody out of them.
+// Files that root writes into another user's folder can't be opened by that user any more.
 void RefuseRootAmongOthersBooks(const QString& folder, uid_t owner)
 {
     if (geteuid() != 0 || owner == 0)
@@ -98,7 +99,7 @@ void RefuseRootAmongOthersBooks(const QString& folder, uid_t owner)
                 .arg(QDir(folder).absolutePath(), NameOf(owner))));
 }
 
-// A lock of the system on an opened file or folder. It goes with its descriptor, however the process ends.
+// A lock on an open file or folder. The system releases it when the process ends, in whatever way.
 class DescriptorLock {
 public:
     enum Outcome { Locked, HeldByAnother, Unlockable };
@@ -107,8 +108,8 @@ public:
     ~DescriptorLock() { Close(); }
     Q_DISABLE_COPY_MOVE(DescriptorLock)
 
-    // False with the reason in errno if it can't be opened. A program that is started from this one gets no
-    // share in the lock.
+    // Returns false, with the reason in errno, if it can't be opened. Programs started from this one don't
+    // inherit the lock.
     bool Open(const QByteArray& path, int flags)
     {
         m_opened = open(path.constData(), flags | O_CLOEXEC, 0600);
@@ -142,8 +143,8 @@ private:
 
 }
 
-// Two locks. That of the folder can't be taken away by removing or replacing a file in it; there are disks
-// of the network that know none. That of the file keeps out older copies of the program, too.
+// Two locks. The one on the folder holds even if somebody removes or replaces the file in it, but some
+// network disks can't lock folders. The one on the file also keeps out older versions of the program.
 class SingleInstance::Private {
 public:
     explicit Private(const QString& folder)
@@ -170,7 +171,7 @@ public:
     bool Taken() const { return m_taken; }
 
 private:
-    // Returns false if it is to be tried again.
+    // Returns false if it should be tried again.
     bool TryFile()
     {
         if (!m_fileLock.Open(m_name, O_RDWR | O_CREAT)) {
@@ -193,16 +194,16 @@ private:
         return m_taken;
     }
 
-    // A start as root leaves a file that the clerk can't open. With the folder locked nobody is in, so that
-    // it may go.
+    // A start as root leaves a file that the clerk can't open. While we hold the folder's lock no other copy
+    // runs, so it can be removed.
     void RemoveSomebodyElses(int why)
     {
         if (why != EACCES || !m_folderIsOurs || unlink(m_name.constData()) != 0)
             Refuse(m_folder, m_path, why);
     }
 
-    // False if the file went away between its opening and its locking: the copy that held it has ended in
-    // between, and a lock on the removed file would keep nobody out.
+    // False if another copy ended and removed the file between our opening and locking it. A lock on the
+    // removed file would keep nobody out.
     bool IsStillThere()
     {
         const struct stat held = m_fileLock.Status();

@@ -4,19 +4,19 @@
 
 #include <memory>
 
-// Keeps a second copy of the program away from the same books. The lock is the operating system's, so a
-// killed program leaves none behind.
+// Makes sure that only one copy of the program runs on a folder. The lock belongs to the operating system, so
+// it is gone when a program is killed.
 class SingleInstance {
 public:
-    // Takes the lock of a folder, which must exist and be writable: a RunTimeError that says what to do if it
-    // isn't, or if root takes somebody else's. The lock is held on the folder itself, which nobody can
-    // remove from under it, and on the file Vetrolan.lock, which goes when the lock is given back; left
-    // behind by a killed program or by root, it locks nobody out.
+    // Tries to lock a folder; Taken tells whether that worked. If the folder doesn't exist or isn't writable,
+    // or if root starts the program on another user's folder, it is a RunTimeError that says what to do. The
+    // lock is held on the folder itself and on the file Vetrolan.lock in it, which is removed at the end. A
+    // file that a killed program or root left behind locks nobody out.
     explicit SingleInstance(const QString& folder);
     ~SingleInstance();
 
-    // Whether the file Vetrolan.lock lies in a folder: asked before the lock is taken, it tells that a
-    // program runs there, or that the last one was killed.
+    // Whether the file Vetrolan.lock is in a folder. Before the lock is taken, that means that a program runs
+    // there, or that the last one was killed.
     static bool IsLeftBehind(const QString& folder);
 
     // Whether this process holds the lock.

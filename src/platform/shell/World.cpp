@@ -42,7 +42,7 @@ private:
             QStringLiteral("speedcrunch"), QStringLiteral("calc.exe")};
     }
 
-    // Only Windows lets a program say how another one's window opens.
+    // Only on Windows can a program tell another one how to open its window.
     static bool Launch(const QString& path, [[maybe_unused]] bool maximised)
     {
         QProcess process;
@@ -57,13 +57,13 @@ private:
     }
 };
 
-// Until the program has a window for its boxes, and for tools without one, a text goes to the standard error.
+// For tools, and until the program has a window: the text goes to standard error.
 class ConsoleMessageBox final : public MessageBox {
 public:
     void Show(const QString& text, const QString&) override { QTextStream(stderr) << text << Qt::endl; }
 };
 
-// Nobody is there to be asked.
+// There is nobody to ask, so the answer is empty.
 class UnansweredInputBox final : public InputBox {
 public:
     QString Ask(const QString&, const QString&, const QString&) override { return {}; }

@@ -17,8 +17,8 @@ class Calculator {
 public:
     virtual ~Calculator() = default;
 
-    // `program` is the path that the system names, such as AppFolder's calc.EXE. If that file isn't
-    // there the desktop's own calculator is started. Returns false if there is none at all.
+    // `program` is a path in AppFolder, such as that of calc.EXE. If there is no such file, the desktop's own
+    // calculator is started. Returns false if there is none either.
     virtual bool Start(const QString& program, bool maximised) = 0;
 };
 
@@ -27,7 +27,7 @@ class MessageBox {
 public:
     virtual ~MessageBox() = default;
 
-    // Returns when the clerk has closed the box. An empty title is the program's name.
+    // Returns when the clerk has closed the box. An empty title stands for the program's name.
     virtual void Show(const QString& text, const QString& title = {}) = 0;
 };
 
@@ -36,12 +36,13 @@ class InputBox {
 public:
     virtual ~InputBox() = default;
 
-    // Asks, with `proposed` in the line. Returns what the clerk has made of it, without blanks at the ends;
-    // an empty text if he has left without an answer. An empty title is the program's name.
+    // Asks, with `proposed` in the line. Returns the clerk's answer without blanks at its ends; an empty text
+    // if the clerk leaves without one. An empty title stands for the program's name.
     virtual QString Ask(const QString& prompt, const QString& proposed = {}, const QString& title = {}) = 0;
 };
 
-// What the program asks of the machine around it. Whoever replaces a part (a test, the tour) owns it.
+// What the program needs of the machine around it. A test or the tour puts its own parts in; it keeps owning
+// them.
 struct World {
     Clock* clock;
     Calculator* calculator;
@@ -49,9 +50,9 @@ struct World {
     InputBox* inputBox;
     FileSystem* fileSystem;
 
-    // The world of this process; it begins as the real one.
+    // The world of this process; the real one unless parts of it were replaced.
     static World& Current();
 
-    // The real one, made anew.
+    // The real parts, to put back what was replaced.
     static World Real();
 };

@@ -35,9 +35,9 @@ private:
         }
         if (Root(other) == Root(source))
             return true;
-        const bool isKept = Of(source).parent >= 0 || m_use.readByFirstRow.count(source) > 0;
+        const bool isKept = Of(source).parent >= 0 || m_use.readByFirstRow.contains(source);
         for (int up = other; isKept && up >= 0; up = Of(up).parent) {
-            if (m_use.walked.count(up) > 0)
+            if (m_use.walked.contains(up))
                 return true;
         }
         return false;

@@ -31,7 +31,7 @@ QString ElementAttributes::Text(QStringView name)
 
 QString ElementAttributes::Required(QStringView name)
 {
-    const QString text = Text(name);
+    QString text = Text(name);
     if (text.isEmpty())
         Fault(QStringLiteral("<%1> needs \"%2\"").arg(m_element, name.toString()));
     return text;

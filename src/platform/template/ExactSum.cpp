@@ -19,9 +19,9 @@ constexpr std::int64_t Units = 1000000; // sums are kept in millionths
 // A product of two doubles is slightly off; rounding to millionths gives the decimal that was meant.
 std::int64_t ToUnits(long double number)
 {
-    constexpr long double Limit = 9.2e18L;
+    constexpr long double limit = 9.2e18L;
     const long double units = std::round(number * Units);
-    if (!(std::abs(units) < Limit))
+    if (!(std::abs(units) < limit))
         ThrowTooLarge();
     return static_cast<std::int64_t>(units);
 }
@@ -36,8 +36,8 @@ void ExactSum::AddUnits(std::int64_t units)
 
 void ExactSum::Add(double number, int decimals)
 {
-    constexpr QStringView Printed[Places] = {u"0", u"0.0", u"0.00", u"0.000", u"0.0000", u"0.00000"};
-    AddUnits(ToUnits(decimals < Places ? Val(Format(number, Printed[std::max(decimals, 0)])) : number));
+    constexpr QStringView printed[Places] = {u"0", u"0.0", u"0.00", u"0.000", u"0.0000", u"0.00000"};
+    AddUnits(ToUnits(decimals < Places ? Val(Format(number, printed[std::max(decimals, 0)])) : number));
 }
 
 void ExactSum::AddProduct(double first, double second)

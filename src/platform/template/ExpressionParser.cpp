@@ -134,11 +134,11 @@ Expression Parser::ReadNot()
 
 Expression Parser::ReadComparison()
 {
-    constexpr std::pair<QStringView, Operation> Signs[] = {{u"=", Operation::Equal},
+    constexpr std::pair<QStringView, Operation> signs[] = {{u"=", Operation::Equal},
         {u"<>", Operation::NotEqual}, {u"<", Operation::Less}, {u"<=", Operation::LessOrEqual},
         {u">", Operation::Greater}, {u">=", Operation::GreaterOrEqual}};
     Expression first = ReadSum();
-    for (const auto& [sign, operation] : Signs) {
+    for (const auto& [sign, operation] : signs) {
         if (Accept(sign))
             return Pair(operation, std::move(first), ReadSum());
     }
@@ -301,11 +301,11 @@ int Parser::ReadWhole()
 
 Expression Parser::ReadCall(const QString& name)
 {
-    constexpr std::pair<QStringView, AggregateKind> Aggregates[] = {{u"sum", AggregateKind::Sum},
+    constexpr std::pair<QStringView, AggregateKind> aggregates[] = {{u"sum", AggregateKind::Sum},
         {u"count", AggregateKind::Count}, {u"average", AggregateKind::Average},
         {u"min", AggregateKind::Minimum}, {u"max", AggregateKind::Maximum},
         {u"running", AggregateKind::Running}};
-    for (const auto& [word, kind] : Aggregates) {
+    for (const auto& [word, kind] : aggregates) {
         if (name == word)
             return ReadAggregate(kind);
     }
@@ -345,7 +345,7 @@ Expression Parser::ReadCall(const QString& name)
 
 PrintFormat Parser::ReadFormat()
 {
-    const PrintFormat format = PrintFormat::Of(m_token.text);
+    PrintFormat format = PrintFormat::Of(m_token.text);
     if (m_token.kind != Token::Kind::Text || format.kind == PrintFormat::Kind::None)
         Fail(QStringLiteral("\"%1\" is no format of a number or a date").arg(m_token.text));
     Next();

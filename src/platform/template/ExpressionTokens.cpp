@@ -92,9 +92,9 @@ Token TokenReader::TakeSign()
 // Helps those who write == or && as in a programming language.
 void TokenReader::RefuseForeignSign() const
 {
-    constexpr std::pair<QStringView, QStringView> Foreign[] = {
+    constexpr std::pair<QStringView, QStringView> foreign[] = {
         {u"==", u"="}, {u"!=", u"<>"}, {u"&&", u"and"}, {u"||", u"or"}};
-    for (const auto& [sign, own] : Foreign) {
+    for (const auto& [sign, own] : foreign) {
         if (m_text.mid(m_at).startsWith(sign))
             Fail(QStringLiteral("\"%1\" isn't known; it is written \"%2\"")
                      .arg(sign.toString(), own.toString()));

@@ -38,10 +38,10 @@ QString SideInMillimetres(double points)
 
 QString MediaName(const QSizeF& sheet)
 {
-    constexpr double Tolerance = 0.5 * PointsPerMillimetre;
+    constexpr double tolerance = 0.5 * PointsPerMillimetre;
     const auto isAlike = [](const QSizeF& first, const QSizeF& second) {
-        return std::abs(first.width() - second.width()) < Tolerance
-            && std::abs(first.height() - second.height()) < Tolerance;
+        return std::abs(first.width() - second.width()) < tolerance
+            && std::abs(first.height() - second.height()) < tolerance;
     };
     for (const QStringView name : {u"A4", u"A5", u"A6"}) {
         const Paper known = *ReadPaper(name);
@@ -55,9 +55,9 @@ QString MediaName(const QSizeF& sheet)
 
 std::optional<Paper> ReadPaper(QStringView text)
 {
-    constexpr std::pair<double, double> SizesFromA4[] = {{210, 297}, {148, 210}, {105, 148}};
+    constexpr std::pair<double, double> sizesFromA4[] = {{210, 297}, {148, 210}, {105, 148}};
     if (text.size() == 2 && text[0] == u'A' && text[1] >= u'4' && text[1] <= u'6') {
-        const auto& [width, height] = SizesFromA4[text[1].unicode() - u'4'];
+        const auto& [width, height] = sizesFromA4[text[1].unicode() - u'4'];
         return Sheet(text, width * PointsPerMillimetre, height * PointsPerMillimetre);
     }
     static const QRegularExpression sizes(

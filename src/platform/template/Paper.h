@@ -8,6 +8,11 @@
 // Templates are written in millimetres, pages are laid out in points.
 inline constexpr double PointsPerMillimetre = 72.0 / 25.4;
 
+inline float ToPoints(double millimetres)
+{
+    return static_cast<float>(millimetres * PointsPerMillimetre);
+}
+
 // The paper a template is made for. All lengths are in points.
 struct Paper {
     QString name; // as it is written in the template

@@ -13,11 +13,11 @@ constexpr QStringView MonthNames[] = {u"जानेवारी", u"फेब�
 // Commas stand before the last three digits of the whole number, then before every two.
 QString Grouped(QString number)
 {
-    constexpr qsizetype LastGroup = 3;
-    constexpr qsizetype OtherGroups = 2;
+    constexpr qsizetype lastGroup = 3;
+    constexpr qsizetype otherGroups = 2;
     const qsizetype point = number.indexOf(u'.');
     const qsizetype first = number.startsWith(u'-') ? 1 : 0;
-    for (qsizetype at = (point < 0 ? number.size() : point) - LastGroup; at > first; at -= OtherGroups)
+    for (qsizetype at = (point < 0 ? number.size() : point) - lastGroup; at > first; at -= otherGroups)
         number.insert(at, u',');
     return number;
 }

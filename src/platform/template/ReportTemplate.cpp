@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qint64 LargestFile = 1024 * 1024;
+constexpr qint64 LargestFile = 1024LL * 1024;
 
 // The first line that isn't UTF-8, or 0. A character never spans two lines, so each line is decoded alone.
 int LineThatIsNoUtf8(const QByteArray& bytes)

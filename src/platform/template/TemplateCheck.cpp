@@ -170,7 +170,7 @@ int Checker::Enter(const QString& sourceName, int line)
     const int index = m_sources.FindSource(sourceName, line);
     if (index >= 0) {
         m_sources.RequireParent(index, line);
-        if (m_sources.IsWalked(index) && m_runs.count(index) == 0)
+        if (m_sources.IsWalked(index) && !m_runs.contains(index))
             m_sources.Fault(line, QStringLiteral("\"%1\" is being walked already").arg(sourceName));
         m_sources.Walk(index);
     }
@@ -185,7 +185,7 @@ void Checker::CheckEach(TemplateEach& each, const Place& place)
     m_binder.BindCondition(each.only, place);
     if (each.by && m_binder.Bind(*each.by, place) == ValueType::Truth)
         m_sources.Fault(place.line, QStringLiteral("rows aren't grouped by a condition; use if(…)"));
-    const bool wasRun = m_runs.count(each.source) > 0;
+    const bool wasRun = m_runs.contains(each.source);
     if (each.by)
         m_runs.insert(each.source);
     else

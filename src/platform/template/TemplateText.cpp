@@ -58,9 +58,9 @@ TextPiece ReadPiece(QStringView inside, QStringList& faults)
 
 QString ShownInFault(QStringView text)
 {
-    constexpr qsizetype MostShown = 40;
+    constexpr qsizetype mostShown = 40;
     const QString shown = text.toString().simplified();
-    return shown.size() > MostShown ? QString(shown.left(MostShown) + u'…') : shown;
+    return shown.size() > mostShown ? QString(shown.left(mostShown) + u'…') : shown;
 }
 
 TemplateText ReadTemplateText(QStringView text, QStringList& faults)

@@ -23,7 +23,7 @@ bool FitsDifference(std::int64_t first, std::int64_t second)
     return second > 0 ? first >= Limits::min() + second : first <= Limits::max() + second;
 }
 
-// Whether the digits left out make the last one that is kept go up; they end in no zeros.
+// Whether the last kept digit is rounded up. The digits left out don't end in zeros.
 bool RoundsUp(QStringView leftOut, bool isOdd)
 {
     return leftOut == u"5" ? isOdd : !leftOut.isEmpty() && leftOut.front() >= u'5';
@@ -41,7 +41,7 @@ Currency::Currency(double rupees)
     m_tenThousandths = digits.toLongLong(&fits);
     if (!fits)
         ThrowOverflow(text);
-    // A value with so many decimals is far from the limits.
+    // A value with so many decimals is far below the limits.
     if (RoundsUp(QStringView(decimals).mid(std::min<qsizetype>(Decimals, decimals.size())),
             m_tenThousandths % 2 != 0))
         m_tenThousandths += text.startsWith(u'-') ? -1 : 1;
@@ -54,7 +54,7 @@ double Currency::Number() const
 
 QString Currency::Text() const
 {
-    // The smallest value has no positive counterpart, so its parts are made positive one by one.
+    // The smallest value can't be negated, so its two parts are negated separately.
     const std::int64_t whole = m_tenThousandths / Scale;
     const std::int64_t rest = m_tenThousandths % Scale;
     QString text = m_tenThousandths < 0 ? QStringLiteral("-") : QString();

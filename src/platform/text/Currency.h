@@ -5,21 +5,21 @@
 #include <compare>
 #include <cstdint>
 
-// Rupees to four decimals, held as a whole number of ten-thousandths: however many amounts are added up, the
-// sum is right to the last digit. A value or a sum beyond 922337203685477.5807 on either side of zero is an
-// overflow error, and then the sum stays what it was.
+// An amount in rupees with four decimals, held as a whole number of ten-thousandths, so that sums of any
+// length are exact. A value or a sum beyond 922337203685477.5807 on either side of zero is an overflow error,
+// which leaves the sum unchanged.
 class Currency {
 public:
     Currency() = default;
 
-    // The value's decimal form (15 significant digits) to four decimals, half to even: 0.00005 is 0, 0.00015
-    // is 0.0002. An infinite value, or none at all, is an overflow error.
+    // Takes the decimal form of the value (15 significant digits) and rounds it to four decimals, half to
+    // even: 0.00005 becomes 0, 0.00015 becomes 0.0002. Infinity and NaN are overflow errors.
     explicit Currency(double rupees);
 
-    // The rupees, as Format and fields take them.
+    // The amount in rupees, for Format and fields.
     double Number() const;
 
-    // Every digit of the value in shortest form: "12.5", "-0.0001", "0".
+    // The exact amount in its shortest form: "12.5", "-0.0001", "0".
     QString Text() const;
 
     Currency& operator+=(Currency other);

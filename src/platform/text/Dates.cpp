@@ -11,7 +11,7 @@ constexpr qsizetype LongestNamed = 60;
 constexpr std::array<QStringView, 12> MonthNames = {u"January", u"February", u"March", u"April", u"May",
     u"June", u"July", u"August", u"September", u"October", u"November", u"December"};
 
-// The number that the digits of a text make, or -1 if there is anything else in it.
+// The number that a text of digits makes, or -1 if it holds anything else.
 int ReadDigits(QStringView text)
 {
     int number = 0;
@@ -25,13 +25,13 @@ int ReadDigits(QStringView text)
 
 void AddDigits(QString& text, int number, int width)
 {
-    std::array<char16_t, 4> digits;
+    std::array<char16_t, 4> digits{};
     for (int i = width; i-- > 0; number /= 10)
         digits[i] = static_cast<char16_t>(u'0' + number % 10);
     text += QStringView(digits.data(), width);
 }
 
-// Writes the part of a date that the pattern begins with; returns how long that part of the pattern is.
+// Writes the part of a date that the pattern begins with; returns the length of that part of the pattern.
 qsizetype AddPart(QString& text, const QDate& date, QStringView pattern)
 {
     if (pattern.startsWith(u"yyyy")) {

@@ -6,25 +6,25 @@
 
 #include <optional>
 
-// What an empty date field reads.
+// The text of an empty date field.
 inline constexpr QStringView EmptyDateMask = u"__/__/____";
 
-// Reads dd/MM/yyyy, whatever the machine's locale: two digits, two digits, four digits, a day of the
-// calendar from year 100 on. Blanks at the ends are allowed.
+// Reads dd/MM/yyyy, whatever the locale: two, two and four digits that make a valid date from the year 100
+// on. Blanks at the ends are allowed; any other text gives nothing.
 std::optional<QDate> ParseDate(QStringView text);
 
-// Whether the text is a date that ParseDate reads.
+// Whether ParseDate can read the text.
 bool IsDate(QStringView text);
 
-// The date that a text holds; a text that is none is a type mismatch error.
+// Reads a date like ParseDate; it is a type mismatch error if the text isn't one.
 QDate ToDate(QStringView text);
 
-// dd/MM/yyyy; an invalid date is the empty text.
+// Writes a date as dd/MM/yyyy. An invalid date gives an empty text.
 QString DateText(const QDate& date);
 
-// Writes a date by a pattern of dd, MM (or mm), yy, yyyy, MMMM (the English month) and plain characters.
-// An invalid date is the empty text.
+// Writes a date by a pattern of dd, MM (or mm), yy, yyyy, MMMM (the English name of the month) and other
+// characters, which are copied. An invalid date gives an empty text.
 QString Format(const QDate& date, QStringView pattern);
 
-// The wall clock as the counter reads it: "9:05:00 AM" or "11:05:00 PM", always in English.
+// A time of day in English, whatever the locale: "9:05:00 AM" or "11:05:00 PM".
 QString ClockText(const QTime& time);

@@ -12,7 +12,7 @@ namespace {
 
 constexpr unsigned Private = 077;
 
-// Sets the mask of the process and returns the one before; where there are no such masks, nothing happens.
+// Sets the umask and returns the old one; does nothing on systems without one.
 unsigned Replace(unsigned mask)
 {
 #ifdef Q_OS_WIN

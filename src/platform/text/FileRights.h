@@ -1,12 +1,12 @@
 #pragma once
 
-// What other users of this machine may do with the files that the process writes.
+// The rights of other users to the files that this process makes.
 namespace FileRights {
 
-// From now on a new file is for its owner alone. To be called before anything is written.
+// Makes all new files readable and writable by their owner only. To be called before anything is written.
 void KeepPrivate();
 
-// The rights that the user takes from new files, as a mask such as 022: what was in force before KeepPrivate.
+// The umask from before KeepPrivate, such as 022: the rights that the user withholds from new files.
 unsigned OfTheUser();
 
 }

@@ -24,14 +24,14 @@ constexpr bool IsDigit(char16_t c)
     return c >= u'0' && c <= u'9';
 }
 
-// The number that a text begins with, without what follows it.
+// The number at the start of a text.
 struct ReadNumber {
     qsizetype length = 0; // characters read, 0 if the text begins with no number
     double value = 0;
     bool overflow = false;
 };
 
-// Where the digits from `at` on end.
+// The end of the digits that begin at `at`.
 qsizetype DigitsEnd(QStringView text, qsizetype at)
 {
     while (at < text.size() && IsDigit(text[at].unicode()))
@@ -62,7 +62,7 @@ qsizetype NumberLength(QStringView text)
     return end;
 }
 
-// Whether a number that doesn't fit a double is too large, rather than too small.
+// Whether a number that doesn't fit into a double is too large, not too small.
 bool IsLarge(QStringView number)
 {
     const auto* exponent =
@@ -102,7 +102,7 @@ ReadNumber ReadNumberAt(QStringView text)
 
 // ---- Writing ----
 
-// A value as decimal digits: 0.d1d2d3... times ten to the power `point`.
+// A value in decimal digits: 0.d1d2d3... times ten to the power of `point`.
 struct Decimal {
     static constexpr int MostDigits = 15;
 
@@ -111,7 +111,7 @@ struct Decimal {
     int point = 0;
     bool negative = false;
 
-    // The digit at a place; place 0 is the first behind the decimal point, -1 the units.
+    // The digit at a place: 0 is the first after the decimal point, -1 the units.
     char16_t At(int place) const
     {
         const int i = place + point;
@@ -128,7 +128,7 @@ struct Decimal {
         }
     }
 
-    // Rounds half away from zero behind so many decimals.
+    // Rounds to so many decimals, half away from zero.
     void RoundTo(int decimals)
     {
         const int keep = point + decimals;
@@ -142,7 +142,7 @@ struct Decimal {
     }
 
 private:
-    // Adds one to the last digit kept.
+    // Adds one to the last digit that is kept.
     void Increment()
     {
         for (int i = count; i-- > 0;) {
@@ -166,7 +166,7 @@ template <typename Value> Decimal ToDecimal(Value value)
     if (!std::isfinite(value))
         ThrowOverflow(std::isnan(value) ? u"a division by zero" : u"an infinite value");
 
-    std::array<char, 32> text;
+    std::array<char, 32> text{};
     const auto [end, error] = std::to_chars(
         text.data(), text.data() + text.size(), value, std::chars_format::scientific, significant - 1);
     Q_ASSERT(error == std::errc{});
@@ -186,7 +186,7 @@ template <typename Value> Decimal ToDecimal(Value value)
     return decimal;
 }
 
-// Lays the digits out with at least so many before the point and so many behind it.
+// Writes the digits with at least so many before the point, and exactly so many after it.
 QString Lay(const Decimal& decimal, int integerDigits, int decimals, bool point)
 {
     const int before = std::max(decimal.point, integerDigits);

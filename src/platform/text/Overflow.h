@@ -2,6 +2,5 @@
 
 #include <QStringView>
 
-// The overflow error of a number that has no place where it is to go. `number` is named in the error, in part
-// if it is long.
+// Throws an overflow error that names the number; a long one is cut short.
 [[noreturn]] void ThrowOverflow(QStringView number);

@@ -13,7 +13,7 @@ bool IsSeparator(QChar c)
     return c == u',' || c == u'\r' || c == u'\n';
 }
 
-// Reads one item from `at` on and leaves `at` behind the separator that ends it.
+// Reads the item at `at` and moves `at` behind the separator after it.
 QString NextItem(const QString& text, qsizetype& at)
 {
     while (at < text.size() && text[at] == u' ')
@@ -34,7 +34,7 @@ QString NextItem(const QString& text, qsizetype& at)
     return item;
 }
 
-// Less the blanks at its ends. A tab or a hard blank there is a character of the password.
+// Removes blanks at the ends. Tabs and no-break spaces are characters of the password.
 QString Trimmed(QString text)
 {
     while (text.startsWith(u' '))
@@ -57,7 +57,7 @@ QString Trimmed(QString text)
             QStringLiteral("PWD.TXT is too long to hold a password")));
 }
 
-// An editor may put a byte order mark in front, which is no character of the first item.
+// Decodes the file. An editor may have written a byte order mark, which isn't part of the first item.
 QString TextOf(const QByteArray& bytes)
 {
     const std::optional<QStringConverter::Encoding> marked = QStringConverter::encodingForData(bytes);

@@ -5,15 +5,15 @@
 
 class QIODevice;
 
-// The items of a text file: separated by commas or line ends, with optional double quotes around each, in
-// which commas and line ends stand for themselves.
+// Splits a text into its items, which are separated by commas or line ends. An item may stand in double
+// quotes and then contain commas and line ends.
 QStringList ItemsOf(const QString& text);
 
-// The password that the items disguise: the last one is a key character, every other one the password's
-// character shifted up by it. Blanks at the ends of the password are dropped. Items that hide no character
-// are a run-time error.
+// Decodes the password: the last item is the key character, and each other item is a character of the
+// password, shifted up by the key's code. Blanks at the ends of the password are dropped. Items without a
+// password character are a RunTimeError.
 QString PasswordOfItems(const QStringList& items);
 
-// The password that a file open for reading hides. Its characters are Latin-1, unless a byte order mark says
-// how they are written. A file of more than 4 KB is none, and a run-time error; no more of it is read.
+// Reads the password from a file that is open for reading. It is Latin-1, unless it has a byte order mark. A
+// file of more than 4 KB is a RunTimeError.
 QString PasswordOfFile(QIODevice& file);

@@ -4,10 +4,10 @@
 
 #include <exception>
 
-// A failure that nobody on the way may catch: the application shows it in a plain box and ends.
+// A failure that ends the program. Nobody catches it on the way; the application shows it in a plain box.
 class RunTimeError : public std::exception {
 public:
-    // The numbers that the clerk's helper is used to reading in such a box.
+    // The numbers that these boxes show, which the people who support the clerk know.
     enum Kind {
         Overflow = 6,
         TypeMismatch = 13,
@@ -19,14 +19,14 @@ public:
         DatabaseFailure = 3146,
     };
 
-    // `happened` is a sentence for the clerk; `statement` is the failed statement, if one failed.
+    // `happened` is a sentence for the clerk; `statement` is the statement that failed, or empty.
     RunTimeError(int number, QString happened, QString statement = {});
 
     int Number() const { return m_number; }
     const QString& Happened() const { return m_happened; }
     const QString& Statement() const { return m_statement; }
 
-    // The whole text of the box: number, what happened, the statement.
+    // The text of the box: number, what happened, and the statement.
     QString Text() const;
 
     const char* what() const noexcept override { return m_what.constData(); }
@@ -38,5 +38,5 @@ private:
     QByteArray m_what;
 };
 
-// What a box says in both tongues: a sentence for the clerk, and under it one for the helper.
+// Joins the two languages of a box: a sentence for the clerk, and below it one in English for support.
 QString Sentences(QStringView marathi, const QString& english);

@@ -9,7 +9,7 @@ namespace Shivaji01 {
 
 namespace {
 
-// Where the numbers of the old code page aren't those of Unicode.
+// Codes whose Alt number differs from their Unicode number.
 constexpr std::array<std::pair<char16_t, int>, 11> OldNumbers{{{u'\u2030', 137}, {u'\u2039', 139},
     {u'\u2018', 145}, {u'\u2019', 146}, {u'\u201C', 147}, {u'\u201D', 148}, {u'\u2013', 150},
     {u'\u02DC', 152}, {u'\u0161', 154}, {u'\u203A', 155}, {u'\u0178', 159}}};

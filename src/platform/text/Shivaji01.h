@@ -4,12 +4,13 @@
 
 #include <vector>
 
-// The encoding of the system's texts: Latin keys typed in visual order, each standing for a shape of a
-// Devanagari letter. It is held and stored as it is; the eye meets Unicode.
+// The Shivaji01 encoding, in which all texts are stored: Latin characters in the order in which they are
+// typed, each of which stands for a shape of a Devanagari letter. For the screen and for paper it is
+// converted to Unicode.
 namespace Shivaji01 {
 
-// A stretch of stored text that the eye sees as one syllable, digit or sign, and where it stands in
-// the Unicode text. Pieces are in order, without gaps in either text.
+// A part of a stored text that is shown as one syllable, digit or sign, and its place in the Unicode text.
+// The pieces of a text are in order and leave no gaps in either text.
 struct Piece {
     qsizetype storedStart = 0;
     qsizetype storedLength = 0;
@@ -17,37 +18,37 @@ struct Piece {
     qsizetype seenLength = 0;
 };
 
-// What the eye sees of a stored text, with the dots below letters as characters of their own. Characters
-// outside the encoding pass through unchanged; a sign without a syllable to stand on shows by itself; a
-// half form that nothing completes shows with a virama.
+// Converts a stored text to Unicode. Dots below letters (nuktas) are separate characters. Characters outside
+// the encoding are copied; a sign without a syllable is shown by itself; a half form that isn't completed is
+// shown with a virama.
 QString ToUnicode(QStringView stored);
 
-// The same, with the pieces that caret and selection move by.
+// The same, with the pieces by which the caret and the selection move.
 QString ToUnicode(QStringView stored, std::vector<Piece>& pieces);
 
-// The canonical spelling of a Unicode text: ToUnicode of the result reads as `seen` reads; Western digits
-// become the encoding's digits, and what is written in two pieces, such as अ and ॅ, becomes
-// the letter that they make. What the encoding can't spell passes through unchanged: rare Devanagari
-// signs and joiners (they read back as themselves; a joiner after ra makes the eyelash ra), and Latin
-// letters and + # $ & * = _ { } where they have no code (most of those read back as the code they are).
+// Converts Unicode to the stored encoding, in its canonical spelling, so that ToUnicode of the result reads
+// like `seen`. Western digits become the digits of the encoding, and a letter written in two parts, such as अ
+// and ॅ, becomes one. What the encoding lacks is copied: rare Devanagari signs and joiners (ToUnicode gives
+// them back; a joiner after ra makes the eyelash ra), and Latin letters and + # $ & * = _ { } where they have
+// no code (ToUnicode takes most of these for codes).
 QString FromUnicode(QStringView seen);
 
-// What a stored text reads, however it is spelled: two names whose readings are equal look the same. Blanks
-// at the ends and joiners don't count, and blanks in a row count once.
+// The reading of a stored text, to compare names whose spelling differs: equal readings look the same.
+// Joiners and blanks at the ends are removed, and several blanks become one.
 QString Reading(QStringView stored);
 
-// One code of the encoding, for the picture of the keyboard.
+// A code of the encoding, for the picture of the keyboard.
 struct Glyph {
-    char16_t code;
-    QStringView kind; // half, full, stem, sign, vowel, ... as the table names it
-    QStringView unicode; // what it contributes
+    char16_t code = 0;
+    QStringView kind; // half, full, stem, sign, vowel, ... as in the glyph table
+    QStringView unicode; // what it adds to the text
 };
 
 // All codes of the encoding, in the order of their codes.
 const std::vector<Glyph>& Glyphs();
 
-// The codes that no key gives are typed with Alt and the digits of a number, "0225" for 225. The number of
-// a code, 0 for one that has a key; and the code of a number, null for a number that stands for none.
+// Codes without a key are typed as Alt and four digits, "0225" for 225. AltNumber is the number of a code, 0
+// if it has a key; CodeOfAltNumber is the code of a number, null if there is none.
 int AltNumber(char16_t code);
 char16_t CodeOfAltNumber(int number);
 

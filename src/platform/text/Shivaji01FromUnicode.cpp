@@ -2,28 +2,30 @@
 #include "platform/text/Shivaji01Table.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace Shivaji01 {
 namespace {
 
 constexpr char16_t Tta = u'\u091F';
 
-// Codes that the society's own texts never use: it spells their letters out, as in "f@t" and "rijasTr".
+// Codes that are never written: the stored texts spell these letters out, as in "f@t" and "rijasTr".
 constexpr QStringView UnusedCodes = u">\u0178";
 
-// A glyph that writes letters; `letters` are those without the virama of a half form.
+// A glyph that stands for letters; for a half form, `letters` doesn't include its virama.
 struct Spelling {
     QStringView letters;
     char16_t code;
     bool half;
 };
 
-// The table turned round: from what is seen to the codes that show it.
+// The glyph table in reverse: from letters and signs to their codes.
 class Spellings {
 public:
     Spellings();
 
-    // The glyphs that begin with a letter, the longest first; of equal ones a full form first.
+    // The glyphs whose letters begin with this one, longest first; a full form before a half form of the same
+    // length.
     const std::vector<Spelling>& Letters(char16_t first) const
     {
         return InBlock(first) ? m_letters[first - BlockStart] : m_letters[0];
@@ -32,7 +34,7 @@ public:
     // Whether the encoding has this consonant.
     bool IsLetter(char16_t c) const { return !Letters(c).empty(); }
 
-    // The codes of one vowel, sign, mark, digit or other character, or an empty text.
+    // The codes of a vowel, sign, mark, digit or other character; empty if it has none.
     QStringView Single(char16_t c) const
     {
         if (InBlock(c))
@@ -118,7 +120,7 @@ QString& Spellings::Slot(char16_t c)
     return m_others.emplace_back(Other{c, {}}).code;
 }
 
-// What two codes can spell is spelled by two: the single codes of the table are a second way.
+// Signs made of two parts are written with two codes, even if the table also has a single code for them.
 void Spellings::AddComposites()
 {
     for (auto c = std::rbegin(Composites); c != std::rend(Composites); ++c)
@@ -165,7 +167,31 @@ constexpr bool IsVowel(char16_t c)
     return (c >= u'\u0905' && c <= u'\u0914') || c == u'\u0972';
 }
 
-// Spells a text syllable by syllable. What the encoding can't spell is copied: reading passes it through.
+// What one glyph covers at the start of some letters: its own letters, a dot and a rakar.
+struct FormEnd {
+    qsizetype at = 0;
+    bool dotted = false;
+    bool rakar = false;
+    bool last = false; // nothing follows
+};
+
+// No value if the letters don't begin with this glyph.
+std::optional<FormEnd> EndOf(const Spelling& form, QStringView letters)
+{
+    const auto at = [&letters](qsizetype i) { return i < letters.size() ? letters[i].unicode() : u'\0'; };
+    FormEnd end{form.letters.size()};
+    if (!letters.startsWith(form.letters) || (at(end.at) != 0 && at(end.at) != Virama && at(end.at) != Nukta))
+        return {};
+    end.dotted = at(end.at) == Nukta;
+    end.at += end.dotted ? 1 : 0;
+    end.rakar = at(end.at) == Virama && at(end.at + 1) == Ra;
+    end.at += end.rakar ? 2 : 0;
+    end.last = end.at == letters.size();
+    return end;
+}
+
+// Writes a text syllable by syllable. Characters that the encoding lacks are copied; ToUnicode copies them
+// back.
 class Speller {
 public:
     explicit Speller(QStringView text) : m_text(text) { m_out.reserve(text.size() * 2); }
@@ -184,6 +210,7 @@ private:
     qsizetype LettersEnd(qsizetype from) const;
     void SpellLetters(QStringView letters);
     qsizetype SpellForm(QStringView letters);
+    void AddForm(const Spelling& form, const FormEnd& end);
     char16_t At(qsizetype i) const { return i < m_text.size() ? m_text[i].unicode() : u'\0'; }
     void Add(char16_t code) { m_out += QChar(code); }
 
@@ -197,9 +224,9 @@ private:
     qsizetype m_at = 0;
     QString m_out;
 
-    bool m_open = false; // what was written last is a syllable, or can't be told,
-    bool m_joins = false; // to which the reader would join any sign
-    char16_t m_last = 0; // its vowel or sign, which may make one with a further sign
+    bool m_open = false; // the last output is a syllable, or unknown
+    bool m_joins = false; // ToUnicode would join any sign to it
+    char16_t m_last = 0; // its vowel or sign, which may form one with the next sign
 };
 
 QString Speller::Spell()
@@ -231,7 +258,7 @@ void Speller::SpellNext()
     }
 }
 
-// The end of the letters that virama joins, without a virama behind the last.
+// The end of the letters joined by viramas, without a virama after the last one.
 qsizetype Speller::LettersEnd(qsizetype from) const
 {
     for (;;) {
@@ -296,7 +323,7 @@ void Speller::SpellMarks()
     }
 }
 
-// A sign without a syllable of its own is spelled by its code only where no syllable would take it.
+// A sign that belongs to no syllable is written as a code only if ToUnicode won't join it to one.
 void Speller::SpellStray(char16_t c)
 {
     const bool joins = m_open && (m_joins || Compose(m_last, c) != 0);
@@ -321,7 +348,7 @@ void Speller::Copy(char16_t c)
         Add(c);
     else
         m_out += codes;
-    // A character that is a code of its own has an effect that can't be told from here.
+    // If the character is also a code, ToUnicode reads it as that code, with an effect that we don't follow.
     m_open = codes.isEmpty() && Index.Find(c);
     m_joins = true;
 }
@@ -332,37 +359,34 @@ void Speller::SpellLetters(QStringView letters)
         letters = letters.sliced(SpellForm(letters));
 }
 
-// Spells the letters of one glyph with its dot and its rakar; returns how much of the text that was.
+// Writes the letters of one glyph with their dot and rakar; returns how many characters that was.
 qsizetype Speller::SpellForm(QStringView letters)
 {
-    const auto at = [&letters](qsizetype i) { return i < letters.size() ? letters[i].unicode() : u'\0'; };
     const std::vector<Spelling>& forms = Table().Letters(letters.front().unicode());
     for (const bool halvesOnly : {true, false}) {
         for (const Spelling& form : forms) {
-            qsizetype end = form.letters.size();
-            if (!letters.startsWith(form.letters) || (at(end) != 0 && at(end) != Virama && at(end) != Nukta))
+            const std::optional<FormEnd> end = EndOf(form, letters);
+            if (!end || (halvesOnly && !end->last && !form.half))
                 continue;
-            const bool dotted = at(end) == Nukta;
-            end += dotted ? 1 : 0;
-            const bool rakar = at(end) == Virama && at(end + 1) == Ra;
-            end += rakar ? 2 : 0;
-            const bool last = end == letters.size();
-            if (halvesOnly && !last && !form.half)
-                continue;
-            Add(form.code);
-            if (form.half && last)
-                Add(StemCode);
-            if (dotted)
-                Add(NuktaCode);
-            if (rakar)
-                Add(form.letters.back() == Tta ? RakarBelowCode : RakarCode);
-            if (!form.half && !last)
-                Add(ViramaCode);
-            return last ? end : end + 1;
+            AddForm(form, *end);
+            return end->last ? end->at : end->at + 1;
         }
     }
     Q_UNREACHABLE(); // every letter of the table has a form of its own
     return letters.size();
+}
+
+void Speller::AddForm(const Spelling& form, const FormEnd& end)
+{
+    Add(form.code);
+    if (form.half && end.last)
+        Add(StemCode);
+    if (end.dotted)
+        Add(NuktaCode);
+    if (end.rakar)
+        Add(form.letters.back() == Tta ? RakarBelowCode : RakarCode);
+    if (!form.half && !end.last)
+        Add(ViramaCode);
 }
 
 }

@@ -15,7 +15,7 @@ struct Pair {
     char16_t plain;
 };
 
-// Letters of one character that have a dot below, and the letter without it.
+// Letters that are one character with their dot, and the letter without it.
 constexpr Pair Dotted[] = {
     {u'\u0959', u'\u0916'},
     {u'\u095A', u'\u0917'},
@@ -25,7 +25,7 @@ constexpr Pair Dotted[] = {
     {u'\u095E', u'\u092B'},
 };
 
-// Whether it is a joiner that keeps nothing apart: what stands around it shows as one letter.
+// Whether a joiner has no effect: the letters around it are shown the same without it.
 bool IsIdle(char16_t c, char16_t before, QStringView rest)
 {
     if (c != Joiner && c != NonJoiner)
@@ -72,7 +72,7 @@ QString Reading(QStringView stored)
 {
     QString reading = OneForm(ToUnicode(stored));
     reading.remove(QChar(Joiner)).remove(QChar(NonJoiner));
-    return OneForm(reading).simplified(); // a joiner may have kept two pieces of a letter apart
+    return OneForm(reading).simplified(); // two parts of a letter may have been separated by a joiner
 }
 
 }

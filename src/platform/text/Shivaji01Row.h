@@ -2,7 +2,8 @@
 
 #include <QStringView>
 
-// What a glyph does in a syllable; the names are those of the glyph table.
+// The role of a glyph in a syllable, and the rows of the glyph table, from which the build makes
+// Shivaji01Rows.h.
 namespace Shivaji01 {
 
 enum class GlyphKind : unsigned char {
@@ -24,8 +25,8 @@ enum class GlyphKind : unsigned char {
 };
 
 struct GlyphRow {
-    char16_t code;
-    GlyphKind kind;
+    char16_t code = 0;
+    GlyphKind kind = GlyphKind::Other;
     QStringView kindName;
     QStringView unicode;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
-// The glyph table and the few rules of the script that reading and spelling share.
-// For the sources of the encoding only.
+// The glyph table and the rules of the script that converting in both directions needs. For the sources of
+// the encoding only.
 
 #include "Shivaji01Rows.h"
 
@@ -28,14 +28,14 @@ inline constexpr char16_t ViramaCode = u'\\';
 inline constexpr char16_t NuktaCode = u',';
 inline constexpr char16_t ColonCode = u':';
 
-// Two signs that the eye takes for one, in the order in which they are spelled.
+// Two signs that look like a third one when they stand together, in the order in which they are written.
 struct Composite {
     char16_t first;
     char16_t second;
     char16_t whole;
 };
 
-// The later rows are second spellings of an earlier one.
+// Later rows are other ways to write an earlier one.
 inline constexpr Composite Composites[] = {
     {u'\u0905', SignAa, u'\u0906'},
     {u'\u0906', u'\u0947', u'\u0913'},
@@ -55,7 +55,7 @@ inline constexpr Composite Composites[] = {
     {u'\u0905', u'\u0949', u'\u0911'},
 };
 
-// What two signs show as together, or 0 if they stay two.
+// The sign that two signs look like together, or 0.
 constexpr char16_t Compose(char16_t first, char16_t second)
 {
     for (const Composite& c : Composites) {
@@ -65,18 +65,18 @@ constexpr char16_t Compose(char16_t first, char16_t second)
     return 0;
 }
 
-// A Unicode text with one form for what the eye takes for one: signs that make one are one, even with a
-// joiner between them; dots below stand apart, except on the eyelash ra.
+// Normalises a Unicode text: signs that look like one become one, even with a joiner between them; dots below
+// are separate characters, except in the eyelash ra.
 QString OneForm(QStringView seen);
 
-// Whether the encoding puts a dot below this letter.
+// Whether the encoding can write a dot below this letter.
 constexpr bool TakesNukta(char16_t letter)
 {
     return letter == u'\u0916' || letter == u'\u0917' || letter == u'\u091C' || letter == u'\u0921'
         || letter == u'\u0922' || letter == u'\u092B';
 }
 
-// The row of every code: a page for each first byte that the table uses, page 0 for all others.
+// Finds the row of a code: one page of 256 entries for each high byte in the table, page 0 for all others.
 class GlyphIndex {
 public:
     constexpr GlyphIndex()
@@ -91,7 +91,7 @@ public:
         }
     }
 
-    // The row of a code, or null if the encoding has none.
+    // The row of a code, or null if it isn't in the encoding.
     constexpr const GlyphRow* Find(char16_t code) const
     {
         const unsigned char row = m_row[m_page[code >> 8]][code & 0xFF];

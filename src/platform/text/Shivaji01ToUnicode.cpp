@@ -8,11 +8,11 @@
 namespace Shivaji01 {
 namespace {
 
-// The most that one code adds to the text (a half form of two letters).
+// The greatest number of characters that one code adds (a half form of two letters).
 constexpr qsizetype MostPerCode = 4;
 
-// Reads codes one by one and writes syllable after syllable. A syllable's letters go straight to the
-// output; what stands after them in Unicode, but may be typed before, waits until the syllable ends.
+// Reads codes one by one and writes syllables. The letters of a syllable are written at once; signs that
+// follow them in Unicode, but may be typed earlier, are kept until the syllable ends.
 class Reader {
 public:
     Reader(QStringView stored, char16_t* out, std::vector<Piece>* pieces)
@@ -24,7 +24,7 @@ public:
     {
     }
 
-    // Reads all and returns the length of what was written.
+    // Reads everything and returns the length of the output.
     qsizetype Read();
 
 private:
@@ -53,10 +53,10 @@ private:
     char16_t* m_out;
 
     Open m_open = Open::Nothing;
-    char16_t* m_unit; // where the open syllable starts in the output,
+    char16_t* m_unit; // start of the open syllable in the output
     qsizetype m_unitStored = 0; // and in the stored text
-    bool m_half = false; // its last letter is a half form,
-    bool m_halfForGood = false; // made so by a virama, which no stem completes
+    bool m_half = false; // its last letter is a half form
+    bool m_halfForGood = false; // because of a virama; a stem can't complete it
     bool m_prefix = false;
     bool m_reph = false;
     char16_t m_sign = 0;
@@ -132,7 +132,7 @@ void Reader::TakeStem()
 {
     if (m_open != Open::Letters || !m_half || m_halfForGood)
         return TakeSign(SignAa);
-    --m_out; // the virama
+    --m_out; // removes the virama
     m_half = false;
 }
 
@@ -238,7 +238,7 @@ void Reader::End()
     m_markCount = 0;
 }
 
-// A code that belongs to no syllable is a piece of its own.
+// Writes a code that is part of no syllable as a piece of its own.
 void Reader::Alone(QStringView shown)
 {
     End();

@@ -1,5 +1,5 @@
 # Writes the glyph table as C++: cmake -DTABLE=in.tsv -DHEADER=out.h -P glyphs.cmake
-# The lines are cut one by one: CMake's own lists trip over the table's semicolons and brackets.
+# The lines are split by hand, since semicolons and brackets in the table would confuse CMake's lists.
 
 file(READ "${TABLE}" rest)
 set(rows "")
