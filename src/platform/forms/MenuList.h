@@ -7,7 +7,8 @@
 // A list of entries to choose from, as the menu has them. The text of an entry is what decides.
 class MenuList : public Control {
 public:
-    MenuList(Screen* screen, const char* name);
+    // `chosen` answers Chosen.
+    MenuList(Screen* screen, const char* name, const Handler& chosen = {});
 
     // Enter, or a double click, on the current entry.
     Event Chosen;

@@ -40,6 +40,9 @@ public:
     bool IsDroppedDown() const { return m_list.IsOpen(); }
     void DropDown(bool open);
 
+    // Lets the list drop open whenever the field takes the focus, as if the clerk had pressed Alt+Down.
+    void OpenOnFocus();
+
     // Puts a name of the list in place of its beginning: the one that the text is but for blanks around it,
     // or that reads the same, or else the first that begins with it. A text that no name begins with stays as
     // it is.
