@@ -22,7 +22,7 @@ private:
     Label lblAcYear{this, "lblAcYear"};
     Label lblTodayDate{this, "lblTodayDate"};
 
-    MenuList ListMain{this, "ListMain"};
+    MenuList ListMain{this, "ListMain", &MainMenuFrm::ListMain_Chosen};
     MenuList ListMaster{this, "ListMaster"};
     MenuList ListSVouchers{this, "ListSVouchers"};
     MenuList ListMReports{this, "ListMReports"};

@@ -13,10 +13,10 @@ struct MenuEntry {
     bool asksCaller = false; // the screen asks who opened it
 };
 
-// The text of the entries that lead back and out.
-inline constexpr QStringView MenuBack = u"baahor";
-
 namespace MenuEntries {
+
+// The text of the entries that go back, or out of the program.
+inline constexpr QStringView Back = u"baahor";
 
 // The lists in the order that the menu shows them; the transactions with or without the charges of transport.
 const std::vector<MenuEntry>& Master();

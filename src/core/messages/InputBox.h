@@ -18,10 +18,11 @@ private:
     Label lblTitle{this, "lblTitle"};
     Label lblPrompt{this, "lblPrompt"};
     PlainField txtAnswer{this, "txtAnswer"};
-    Button cmdOk{this, "cmdOk", Plain(u"ठीक")};
-    Button cmdCancel{this, "cmdCancel", Plain(u"रद्द")};
+    Button cmdOk{this, "cmdOk", Plain(u"ठीक"), &frmInputBox::cmdOk_Click};
+    Button cmdCancel{this, "cmdCancel", Plain(u"रद्द"), &frmInputBox::cmdCancel_Click};
 
-    void Enter() override { cmdOk_Click(); }
+    void Enter() override { TakeAnswer(); }
+    void TakeAnswer();
     void cmdOk_Click();
     void cmdCancel_Click();
 };

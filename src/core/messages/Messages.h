@@ -23,9 +23,9 @@ public:
 private:
     Label lblMessages{this, "lblMessages"};
     Label lblMessage2{this, "lblMessage2"};
-    Button cmdOkYes{this, "cmdOkYes", Shivaji(u"&haoya")};
-    Button cmdCancelNo{this, "cmdCancelNo", Shivaji(u"&naahI")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"puZo")};
+    Button cmdOkYes{this, "cmdOkYes", Shivaji(u"&haoya"), &frmMessages::cmdOkYes_Click};
+    Button cmdCancelNo{this, "cmdCancelNo", Shivaji(u"&naahI"), &frmMessages::cmdCancelNo_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"puZo"), &frmMessages::cmdExit_Click};
 
     void Load() override;
     void cmdOkYes_Click();

@@ -14,8 +14,8 @@ public:
 
 private:
     Label lblMessage{this, "lblMessage"};
-    TextField txtNarration{this, "txtNarration"};
-    Button cmdExit{this, "cmdExit", Shivaji(u"puZo")};
+    TextField txtNarration{this, "txtNarration", &frmNarrations::txtNarration_LostFocus};
+    Button cmdExit{this, "cmdExit", Shivaji(u"puZo"), &frmNarrations::cmdExit_Click};
 
     bool KeyDown(const QKeyEvent& key) override;
     void Escape() override;

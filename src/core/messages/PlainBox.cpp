@@ -11,8 +11,6 @@
 
 frmPlainBox::frmPlainBox(const QString& text, const QString& title) : BoxScreen("frmPlainBox")
 {
-    When(cmdOk.Click, &frmPlainBox::cmdOk_Click);
-
     SetTitleLabel(lblTitle);
     SetTitle(Plain(title.isEmpty() ? QStringLiteral("Vetrolan") : title));
     ShowText(text);

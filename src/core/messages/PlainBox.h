@@ -13,7 +13,7 @@ public:
 private:
     Label lblTitle{this, "lblTitle"};
     Label lblText{this, "lblText"};
-    Button cmdOk{this, "cmdOk", Plain(u"ठीक")};
+    Button cmdOk{this, "cmdOk", Plain(u"ठीक"), &frmPlainBox::cmdOk_Click};
 
     void ShowText(const QString& text);
     void cmdOk_Click();

@@ -97,7 +97,6 @@ void frmReportFile::cmdExit_Click()
 
 frmReportPrinter::frmReportPrinter(const QStringList& printers) : Screen("frmReportPrinter", Shape::Card)
 {
-    When(lstPrinters.Chosen, &frmReportPrinter::lstPrinters_Chosen);
     SetTitleLabel(lblTitle);
     SetTitle(Plain(u"प्रिंटर निवडा"));
     std::vector<Caption> names;

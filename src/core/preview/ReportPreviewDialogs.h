@@ -41,8 +41,8 @@ public:
 
 private:
     Label lblTitle{this, "lblTitle"};
-    MenuList lstPrinters{this, "lstPrinters"};
-    FreshKeys m_keys{*this}; // nothing is printed by a key that was meant for the page
+    MenuList lstPrinters{this, "lstPrinters", &frmReportPrinter::lstPrinters_Chosen};
+    FreshKeys m_keys{*this}; // a key that was meant for the page must not print
 
     void Enter() override { lstPrinters.Choose(); }
     void lstPrinters_Chosen();
