@@ -2,7 +2,8 @@
 
 #include "core/state/ShiftWords.h"
 
-// The words of the trade as the books hold them, in the system's encoding, and what each reads.
+// The words of the trade as the books hold them, in the system's encoding; the comments give their reading.
+// Word::Morning and Word::Evening come from core.
 namespace Word {
 
 inline constexpr QStringView Cow = u"gaaya"; // गाय

@@ -18,7 +18,6 @@
 
 namespace {
 
-// The shifts as the books spell them, and as they are read.
 struct Shift {
     QStringView time;
     const char* litres; // the names of their labels

@@ -129,7 +129,7 @@ void MainMenuFrm::Escape()
         LeaveSubList(*list);
 }
 
-// The yearly list is not among them: only its own ways out hide it.
+// The yearly list stays: only its own ways out hide it.
 void MainMenuFrm::ListMain_GotFocus()
 {
     for (MenuList* list : {&ListMaster, &ListSVouchers, &ListMReports, &ListUtilities})
@@ -200,7 +200,7 @@ void MainMenuFrm::LeaveSystem()
         Close();
 }
 
-// What the screen has done to the day's figures is seen when it is left.
+// The screen may have changed the day's figures.
 void MainMenuFrm::OpenScreen(const QString& screen, const Caption& name, const Caption& title)
 {
     ScreenDirectory::Open(screen, name, title);

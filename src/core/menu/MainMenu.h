@@ -6,8 +6,8 @@
 
 #include <array>
 
-// The system's home: a main list, and beside it one list for each of its entries. An entry's text decides
-// what it opens. Every screen is opened from here and returns here.
+// The main menu: a list, and beside it one list for each of its entries. Every screen is opened from here and
+// returns here. What an entry opens depends on its text, which is also what is shown.
 class MainMenuFrm final : public Screen {
 public:
     MainMenuFrm();

@@ -4,12 +4,12 @@
 #include "platform/forms/Screen.h"
 #include "platform/forms/TextField.h"
 
-// The one-line prompt: asks, and keeps what was typed for the caller to read.
+// Asks for one line of text, which the caller reads afterwards.
 class frmNarrations final : public Screen {
 public:
     explicit frmNarrations(const Caption& prompt);
 
-    // What was typed, once the field was left or the button pressed.
+    // What was typed, set when the field is left or the button is pressed.
     QString Narration;
 
 private:

@@ -24,7 +24,7 @@ QDate Today()
     return World::Current().clock->Now().date();
 }
 
-// A file of one line: the day on which every page was read last.
+// Holds one line: the day on which every page was last read.
 QString CheckedFile()
 {
     return LocalAppFile(u"Checked.txt");
@@ -42,13 +42,14 @@ void NoteCheck()
     WriteChecked(Today().toString(Qt::ISODate));
 }
 
-// No day, so the next opening reads every page whatever has become of the lock and the log until then.
+// Without a day the next opening reads every page, whatever lock and log look like by then.
 void NoteThatCheckIsDue()
 {
     WriteChecked(QStringLiteral("due"));
 }
 
-// Books that were never checked are new; their week begins now. A day to come is a clock that was put back.
+// Books that were never checked are new: their week begins now. A day in the future means that the clock was
+// put back.
 bool IsCheckDue()
 {
     QFile file(CheckedFile());
