@@ -8,7 +8,7 @@
 
 namespace {
 
-// A query of one sum; no rows are a Null, which reads as 0.
+// The result of a query of one sum. Without rows the sum is Null, which is read as 0.
 double Sum(const QString& query)
 {
     return Recordset(gCn, query).At(0).Number();
@@ -25,7 +25,7 @@ double UchalPaid(double memberNo)
         gAppState.gCompanyId, u" And Memberno=", memberNo));
 }
 
-// By how much the balance has moved in the member's favour since the opening.
+// By how much the balance has changed in the member's favour since the opening.
 float Movement(double memberNo)
 {
     const int company = gAppState.gCompanyId;

@@ -2,7 +2,7 @@
 
 #include <QStringView>
 
-// The direction of a balance as the clerk reads it, and as the books hold it.
+// The direction of a balance: a word for the clerk, a letter in the books.
 namespace Direction {
 
 inline constexpr QStringView Payable = u"doNao"; // to the member; "C" in the books
@@ -16,23 +16,23 @@ QStringView Word(QStringView letter);
 
 }
 
-// What a member's opening figures have come to, by the entries of the current company.
+// What a member's figures are now: the opening ones and the entries of the selected company since.
 namespace MemberClosing {
 
-// A balance without its sign, and the word that gives its direction.
+// A balance: its absolute value, and the word for its direction.
 struct Balance {
     double amount = 0;
     QStringView word;
 };
 
-// The opening balance moved on by milk, payments, advances and deposits. The sums and
-// what they come to are single precision, so a large opening balance alone stays right to the paisa.
+// The opening balance plus milk, payments, advances and deposits. The movement is single precision, the
+// opening balance isn't: alone it stays right to the paisa, however large.
 Balance BalanceOf(double memberNo, double opening, QStringView openingWord);
 
-// The advance still with the member, in rupees; every kind of repayment counts.
+// The advance that the member still has, in rupees. Every kind of repayment counts.
 double UchalOf(double memberNo, double opening);
 
-// The deposit of one kind, "gaaya zova" or "mhOsa zova", in rupees.
+// The deposit of one kind, "gaaya zova" or "mhOsa zova", in rupees; so is the opening one.
 double ThevOf(double memberNo, double opening, QStringView advanceType);
 
 }

@@ -1,16 +1,14 @@
 #pragma once
 
-#include "platform/database/Recordset.h"
+#include "masters/GrowingList.h"
+#include "masters/MemberRecord.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/NameCombo.h"
 #include "society/Fields.h"
 #include "society/RecordModes.h"
 #include "society/SocietyScreen.h"
 
-#include <vector>
-
 // The members of the society: who they are, how they are paid, and their figures at the opening and now.
-// The caption of the New, Modify or Delete button tells the mode; without one the fields are closed.
 class frmMembers final : public SocietyScreen {
 public:
     frmMembers();
@@ -29,19 +27,22 @@ private:
     NameCombo ComboMemberName{this, "ComboMemberName", &frmMembers::ComboMemberName_LostFocus};
     TextField txtAddress{this, "txtAddress"};
     NameCombo ComboCity{this, "ComboCity", &frmMembers::ComboCity_LostFocus};
-    ChoiceField txtAnimal;
-    ChoiceField txtPaymentType;
+    ChoiceField txtAnimal{this, "txtAnimal", ChoicesOf({Word::Cow, Word::Buffalo, Word::Both}),
+        &frmMembers::txtAnimal_LostFocus};
+    ChoiceField txtPaymentType{
+        this, "txtPaymentType", ChoicesOf({Word::Cash, Word::Bank}), &frmMembers::txtPaymentType_LostFocus};
     NameCombo ComboBankName{this, "ComboBankName", &frmMembers::ComboBankName_LostFocus};
     TextField txtBankAccountNo{this, "txtBankAccountNo", &frmMembers::txtBankAccountNo_LostFocus};
     MoneyField txtOpeningBalance{this, "txtOpeningBalance", &frmMembers::txtOpeningBalance_LostFocus};
-    ChoiceField txtOpeningDorC;
+    ChoiceField txtOpeningDorC{this, "txtOpeningDorC", ChoicesOf({Direction::Payable, Direction::Due}),
+        &frmMembers::txtOpeningDorC_LostFocus};
     LitresField txtCowOpeningLits{this, "txtCowOpeningLits", &frmMembers::txtCowOpeningLits_LostFocus};
     LitresField txtBuffOpeningLits{this, "txtBuffOpeningLits", &frmMembers::txtBuffOpeningLits_LostFocus};
     MoneyField txtOpeningUchal{this, "txtOpeningUchal", &frmMembers::txtOpeningUchal_LostFocus};
     MoneyField txtCowOpeningThev{this, "txtCowOpeningThev", &frmMembers::txtCowOpeningThev_LostFocus};
     MoneyField txtBuffOpeningThev{this, "txtBuffOpeningThev", &frmMembers::txtBuffOpeningThev_LostFocus};
 
-    // Shown, never entered.
+    // Only shown.
     MoneyField txtClosingBalance{this, "txtClosingBalance"};
     TextField txtClosingDorC{this, "txtClosingDorC"};
     LitresField txtCowClosingLits{this, "txtCowClosingLits"};
@@ -57,24 +58,28 @@ private:
     Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmMembers::cmdExit_Click};
 
     RecordModes Modes;
+    GrowingList Cities{ComboCity, u"CityMaster", u"CityName", u"navaIna Sahr A^D kravao ka Æ"};
+    GrowingList Banks{ComboBankName, u"BankMaster", u"BankName", u"navaIna baÐk A^D kravaI ka Æ"};
 
-    // The last record read. A new member is written with the account of the last one.
-    double AccountId = 0;
-    QString OldName;
-    double CowOpeningLoaded = 0;
-    double CowClosingLoaded = 0;
-    double BuffOpeningLoaded = 0;
-    double BuffClosingLoaded = 0;
+    MemberRecord Loaded; // as read; a new member gets the account of the last one
 
     void LayOut();
     QLayout* IdentityColumn();
     QLayout* FiguresColumn();
     void SetGuides();
 
+    // The record and its fields
+    double MemberNo() const { return txtMemberNo.Value(); }
+    void LoadLists();
+    void LoadRecord(const Recordset& row);
+    void Show(const MemberRecord& member);
+    MemberRecord Entered() const;
+    void ClearFields();
+    bool AreRequiredFieldsFilled();
+
     // Modes
     void ShowIdle();
     void ReturnToIdle();
-    void ClearFields();
 
     void cmdNew_Click();
     void cmdModify_Click();
@@ -103,21 +108,9 @@ private:
 
     void Refuse(Field& field, QStringView message);
     void Hold(Field& field);
-    void OfferToAdd(NameCombo& combo, QStringView table, QStringView column, QStringView question);
     bool IsAccountNoMissing() const;
-    bool AreRequiredFieldsFilled();
     void EnableFiguresOfAnimal();
     void ShowBankFields(bool shown);
     void ComputeClosingBalance();
     void ToSaveButton();
-
-    // The rows behind the screen
-    double MemberNo() const;
-    int NextMemberNo() const;
-    void LoadLists();
-    void LoadRecord(const Recordset& member);
-    QString InsertStatement() const;
-    QString UpdateStatement() const;
-    void RenameEverywhere();
-    void DeleteEverywhere();
 };

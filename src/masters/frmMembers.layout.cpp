@@ -1,42 +1,15 @@
 #include "masters/frmMembers.h"
 
 #include "core/state/AppState.h"
-#include "platform/forms/Layout.h"
-#include "platform/forms/Look.h"
+#include "platform/forms/FigureTable.h"
 #include "platform/text/Dates.h"
 
-#include <QGridLayout>
-#include <QLabel>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int NumberWidth = 120;
 constexpr int WordWidth = 150;
-constexpr int FigureWidth = 128;
-constexpr int DirectionWidth = 72;
-constexpr int RowSpacing = 14;
-
-QLabel* CaptionOf(const Caption& caption, bool heading = false)
-{
-    auto* label = new QLabel(caption.Seen().trimmed());
-    label->setFont(Look::Font(Look::Size::Normal, heading));
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    return label;
-}
-
-// One line of the table of figures: what it was at the opening, and what it is now.
-struct FigureLine {
-    Caption caption;
-    NumberField& opening;
-    NumberField& closing;
-};
-
-void NameBoth(const FigureLine& line, Field& opening, Field& closing)
-{
-    opening.SetAccessibleName(Plain(QString(line.caption.Seen() + QStringLiteral(" आरंभीची"))));
-    closing.SetAccessibleName(Plain(QString(line.caption.Seen() + QStringLiteral(" अखेरची"))));
-}
 
 }
 
@@ -66,9 +39,9 @@ QLayout* frmMembers::IdentityColumn()
     form.Row(Plain(u"जनावर"), txtAnimal, WordWidth);
     form.Row(Plain(u"पेमेंट प्रकार"), txtPaymentType, WordWidth);
 
-    // The bank's captions come and go with their fields; nothing else moves for them.
+    // The bank fields come and go with their captions; their rows keep their height, so nothing else moves.
     QGridLayout& grid = *form.Grid();
-    grid.setVerticalSpacing(RowSpacing);
+    grid.setVerticalSpacing(Layout::Roomy);
     grid.setColumnMinimumWidth(0, lblBankAccountNo.Widget()->sizeHint().width());
     int row = grid.rowCount();
     const std::pair<Label*, TextField*> bank[] = {
@@ -86,41 +59,14 @@ QLayout* frmMembers::IdentityColumn()
 
 QLayout* frmMembers::FiguresColumn()
 {
-    const FigureLine balance{Plain(u"बाकी"), txtOpeningBalance, txtClosingBalance};
-    const FigureLine lines[] = {
-        balance,
-        {Plain(u"गाय लिटर्स"), txtCowOpeningLits, txtCowClosingLits},
-        {Plain(u"म्हैस लिटर्स"), txtBuffOpeningLits, txtBuffClosingLits},
-        {Shivaji(u"]cala"), txtOpeningUchal, txtClosingUchal},
-        {Shivaji(u"gaaya zova"), txtCowOpeningThev, txtCowClosingThev},
-        {Shivaji(u"mhOsa zova"), txtBuffOpeningThev, txtBuffClosingThev},
-    };
-
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(RowSpacing);
-    grid->addWidget(CaptionOf(Plain(u"आरंभीची"), true), 0, 1);
-    grid->addWidget(CaptionOf(Plain(u"अखेरची"), true), 0, 3);
-    grid->setRowMinimumHeight(0, txtMemberNo.Widget()->minimumHeight());
-    int row = 1;
-    for (const FigureLine& line : lines) {
-        Layout::SizeField(line.opening, FigureWidth);
-        Layout::SizeField(line.closing, FigureWidth);
-        line.closing.SetEnabled(false);
-        NameBoth(line, line.opening, line.closing);
-        grid->addWidget(CaptionOf(line.caption), row, 0);
-        grid->addWidget(line.opening.Widget(), row, 1);
-        grid->addWidget(line.closing.Widget(), row++, 3);
-    }
-
-    NameBoth(balance, txtOpeningDorC, txtClosingDorC);
-    txtClosingDorC.SetEnabled(false);
-    Layout::SizeField(txtOpeningDorC, DirectionWidth);
-    Layout::SizeField(txtClosingDorC, DirectionWidth);
-    grid->addWidget(txtOpeningDorC.Widget(), 1, 2);
-    grid->addWidget(txtClosingDorC.Widget(), 1, 4);
-    grid->setRowStretch(row, 1);
-    return grid;
+    Layout::FigureTable table(Plain(u"आरंभीची"), Plain(u"अखेरची"));
+    table.Line(Plain(u"बाकी"), {txtOpeningBalance, &txtOpeningDorC}, {txtClosingBalance, &txtClosingDorC});
+    table.Line(Plain(u"गाय लिटर्स"), {txtCowOpeningLits}, {txtCowClosingLits});
+    table.Line(Plain(u"म्हैस लिटर्स"), {txtBuffOpeningLits}, {txtBuffClosingLits});
+    table.Line(Shivaji(u"]cala"), {txtOpeningUchal}, {txtClosingUchal});
+    table.Line(Shivaji(u"gaaya zova"), {txtCowOpeningThev}, {txtCowClosingThev});
+    table.Line(Shivaji(u"mhOsa zova"), {txtBuffOpeningThev}, {txtBuffClosingThev});
+    return table.Grid();
 }
 
 void frmMembers::SetGuides()

@@ -6,6 +6,7 @@
 #include "platform/database/Transaction.h"
 #include "platform/text/Dates.h"
 #include "reports/ReportRun.h"
+#include "society/Queries.h"
 #include "society/Words.h"
 
 #include <QSet>
@@ -18,7 +19,7 @@ namespace {
 
 constexpr QStringView Animals[] = {Word::Cow, Word::Buffalo};
 
-// What tells the two kinds of milk apart: where it is kept and how its columns are called.
+// Where deliveries and sales are kept, and what the same columns are called there.
 struct Books {
     QStringView table, copy, date, time, number, name;
     bool holdsSnf = false;
@@ -34,7 +35,7 @@ struct Person {
     QString name;
 };
 
-// One half of a line: a delivery or a sale; nothing of it when there was none.
+// Half of a line: the delivery or sale of one shift, if there was one.
 struct Entry {
     bool isThere = false;
     double number = 0;
@@ -100,7 +101,7 @@ private:
                 u"=", Quoted(shift), after ? Sql(u" and ", m_books.number, u">", *after) : SqlText(),
                 u" order by ", m_books.number));
         const Entry found = row.Eof() ? Entry() : ReadEntry(row, m_books);
-        // A number of more than fifteen digits goes rounded into the condition, and would be found again.
+        // The condition has at most fifteen digits of a number, so a longer one could be found again.
         return after && found.number <= *after ? Entry() : found;
     }
 
@@ -123,11 +124,10 @@ private:
 
 bool Repeats()
 {
-    const Recordset settings(gCn, u"select * from AutoSettings");
-    return !settings.Eof() && settings[u"RepeatCollection"].Text().trimmed() == Word::Yes;
+    return Setting(u"RepeatCollection") == Word::Yes;
 }
 
-// A day without a row in the copy has no line, so it isn't asked for.
+// A day without a row in the copy has no line, so there is no need to ask for it.
 QSet<QDate> DaysOf(const Books& books)
 {
     QSet<QDate> days;
@@ -147,7 +147,7 @@ void WriteLines(const Books& books, const Person& person, const QDate& from, con
     }
 }
 
-// The company is looked up first; what is printed of it, the template reads for itself.
+// The system looks the company up; nothing is used, since the template reads it for itself.
 void LookUpCompany()
 {
     const Recordset company(gCn, Sql(u"SELECT * FROM CompanyMaster where CompanyId=", gAppState.gCompanyId));
@@ -161,7 +161,7 @@ double NumberOfMember(const QString& name)
     return member.Eof() ? 0 : member[u"MemberNo"].Number();
 }
 
-void FillCopy(const Books& books, const MilkStatement::Wanted& wanted)
+void FillCopy(const Books& books, const MilkStatement::Scope& wanted)
 {
     gCn.Execute(Sql(u"insert into ", books.copy, u" select * from ", books.table, u" where CompanyId=",
         gAppState.gCompanyId, u" and ", books.date, u">=", SqlDay(wanted.from), u" and ", books.date, u"<=",
@@ -170,7 +170,7 @@ void FillCopy(const Books& books, const MilkStatement::Wanted& wanted)
 
 }
 
-void MilkStatement::Stage(const Wanted& wanted)
+void MilkStatement::Stage(const Scope& wanted)
 {
     const bool isSales = wanted.kind == Kind::Sales;
     const Books& books = isSales ? Sales : Collections;

@@ -3,24 +3,24 @@
 #include <QDate>
 #include <QString>
 
-// The statement of one member's deliveries, or of one customer's purchases, day by day: both are staged in
-// MilkCollectionsME and print in the same shape.
+// Stages the statement of one member's deliveries, or of one customer's purchases, day by day. Both go into
+// MilkCollectionsME and are printed by the same template.
 namespace MilkStatement {
 
 enum class Kind { Collections, Sales };
 
-// Whose milk, and over which days, both included.
-struct Wanted {
+// Whose milk, from which day to which.
+struct Scope {
     Kind kind = Kind::Collections;
     QString name; // of the member or of the customer, as it is stored
     QDate from, to;
 };
 
 // Stages a statement from the books.
-void Stage(const Wanted& wanted);
+void Stage(const Scope& wanted);
 
-// Stages the statement of what a counter has put into MilkCollectionsTemp: one member's deliveries of a
-// period. The copy stays as it is.
+// Stages the statement of the deliveries that a counter has put into MilkCollectionsTemp, which are one
+// member's.
 void StageCopy();
 
 }

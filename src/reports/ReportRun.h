@@ -2,13 +2,13 @@
 
 #include <QString>
 
-// What every report screen does on its way to the paper.
+// Steps of the staging that the reports share.
 namespace ReportRun {
 
-// Puts the range into ReportDates, which has been emptied. The dates are dd/MM/yyyy.
+// Writes the range, as dd/MM/yyyy, into ReportDates, which the caller has emptied.
 void StageDates(const QString& from, const QString& to);
 
-// Removes the rows without a company from a staging table.
+// Deletes the rows of company 0 from a staging table.
 void Tidy(QStringView table);
 
 }

@@ -40,9 +40,10 @@ Keys::Places frmReportMembersList::KeyPlaces()
 
 frmReportMembersList::frmReportMembersList() : SocietyScreen(KeyPlaces(), Shivaji(u" maombar yaadI"))
 {
-    When(ComboArea.GotFocus, &frmReportMembersList::ComboArea_GotFocus);
+    ComboArea.OpenOnFocus();
     ComboArea.SetGuide(Plain(u"रिकामे ठेवल्यास सर्व विभाग"));
     ComboArea.Accepts = [](QChar c) { return c != u'\''; };
+    cmdExit.SetCancels(true); // by the mouse the screen is left whatever stands in the area
     LayOut();
 }
 
@@ -52,20 +53,20 @@ void frmReportMembersList::Load()
     OptionCow.Choose();
     FillCombo(ComboArea, u"CityMaster", u"CityName",
         Sql(u"where CompanyId=", gAppState.gCompanyId, u" ORDER BY CityName"));
-    Option_Click();
+    OpenWhatIsChosen();
 }
 
-// Only what belongs to the chosen list can be entered.
 void frmReportMembersList::Option_Click()
+{
+    OpenWhatIsChosen();
+}
+
+// Only the fields of the chosen list are open.
+void frmReportMembersList::OpenWhatIsChosen()
 {
     ComboArea.SetEnabled(OptionArea.Chosen());
     for (OptionButton* option : {&OptionCow, &OptionBuff, &OptionBoth})
         option->SetEnabled(OptionMilk.Chosen());
-}
-
-void frmReportMembersList::ComboArea_GotFocus()
-{
-    SendKeys(QStringLiteral("%{Down}"));
 }
 
 void frmReportMembersList::ComboArea_LostFocus()
@@ -79,7 +80,7 @@ void frmReportMembersList::StageAll()
         StageMember(member, u"Complete", {});
 }
 
-// Without an area it is the list of all of them, each member under its own.
+// Without an area the list has all members, each under their own.
 void frmReportMembersList::StageArea()
 {
     const QString area = ComboArea.Text();

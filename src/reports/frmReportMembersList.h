@@ -30,10 +30,10 @@ private:
     void Load() override;
 
     void Option_Click();
-    void ComboArea_GotFocus();
     void ComboArea_LostFocus();
     void cmdReport_Click();
 
+    void OpenWhatIsChosen();
     void StageAll();
     void StageArea();
     void StageMilk();

@@ -1,12 +1,13 @@
 #include "reports/frmReportMembersList.h"
-#include "reports/ReportLayout.h"
+
+#include "platform/forms/Layout.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 
 namespace {
 
-// An option that begins a row; what belongs to it stands behind it.
+// An option at the head of a row; what belongs to it follows in the same row.
 void AddOption(QGridLayout& grid, int row, OptionButton& option)
 {
     Layout::SizeField(option, 0);
@@ -17,7 +18,7 @@ void AddOption(QGridLayout& grid, int row, OptionButton& option)
 
 void frmReportMembersList::LayOut()
 {
-    Layout::SizeField(ComboArea, ReportLayout::NameWidth);
+    Layout::SizeField(ComboArea, Layout::NameWidth);
     ComboArea.SetAccessibleName(OptionArea.Shown());
     auto* animals = new QHBoxLayout;
     for (OptionButton* option : {&OptionCow, &OptionBuff, &OptionBoth}) {
@@ -35,5 +36,5 @@ void frmReportMembersList::LayOut()
     grid.addWidget(ComboArea.Widget(), 2, 1);
     AddOption(grid, 3, OptionMilk);
     grid.addLayout(animals, 3, 1);
-    Stack(ReportLayout::Body(form, cmdReport, cmdExit));
+    Stack(Layout::InTheMiddle(form, {&cmdReport, &cmdExit}));
 }

@@ -15,17 +15,18 @@ Keys::Places frmReportMilkCollections::KeyPlaces()
     using namespace KeyHints;
     return {
         {QStringLiteral("frmReportMilkCollections"), Shivaji(u"dUQa saMklana irpaoT-"),
-            {Next, Back, Leave, {QStringLiteral("Alt+S"), Shivaji(u"sakaL")},
-                {QStringLiteral("Alt+K"), Shivaji(u"saMQyaakaL")},
-                {QStringLiteral("Alt+D"), Shivaji(u"daonhI")}, ListOfNames, PrintReport, ExitButton}},
+            {Next, Back, Leave, {QStringLiteral("Alt+S"), Shivaji(Word::Morning)},
+                {QStringLiteral("Alt+K"), Shivaji(Word::Evening)},
+                {QStringLiteral("Alt+D"), Shivaji(Word::Both)}, ListOfNames, PrintReport, ExitButton}},
     };
 }
 
 frmReportMilkCollections::frmReportMilkCollections()
     : SocietyScreen(KeyPlaces(), Shivaji(u" dUQa saMklana irpaoT-"))
 {
-    When(ComboAnimal.GotFocus, &frmReportMilkCollections::ComboAnimal_GotFocus);
+    ComboAnimal.OpenOnFocus();
     ComboAnimal.SetItems({Word::Cow.toString(), Word::Buffalo.toString(), Word::Both.toString()});
+    cmdExit.SetCancels(true); // by the mouse the screen is left whatever stands in the date
     LayOut();
 }
 
@@ -48,17 +49,12 @@ bool frmReportMilkCollections::HoldDate()
     return false;
 }
 
-void frmReportMilkCollections::ComboAnimal_GotFocus()
-{
-    SendKeys(QStringLiteral("%{Down}"));
-}
-
 void frmReportMilkCollections::ComboAnimal_LostFocus()
 {
     HoldAnimal();
 }
 
-// It holds one of its words. What none of them begins with is emptied and keeps the focus.
+// Completes what was typed to one of the words; a text that begins none of them is emptied.
 bool frmReportMilkCollections::HoldAnimal()
 {
     if (ComboAnimal.IsEmpty())
@@ -71,7 +67,7 @@ bool frmReportMilkCollections::HoldAnimal()
     return false;
 }
 
-// The rows of the choices. The day is compared as text.
+// The day is compared as text, and in every company.
 QString frmReportMilkCollections::Selection() const
 {
     SqlText statement =

@@ -26,7 +26,6 @@ private:
     void Load() override;
 
     void MaskUserDate_LostFocus();
-    void ComboAnimal_GotFocus();
     void ComboAnimal_LostFocus();
     void cmdReport_Click();
 

@@ -19,13 +19,14 @@ Keys::Places frmReportMilkPS::KeyPlaces()
 
 frmReportMilkPS::frmReportMilkPS() : SocietyScreen(KeyPlaces(), Shivaji(u" dUQa saMklana À ivaËI irpaoT-"))
 {
-    When(ComboAccountName.GotFocus, &frmReportMilkPS::ComboAccountName_GotFocus);
+    ComboAccountName.OpenOnFocus();
+    cmdExit.SetCancels(true); // by the mouse the screen is left whatever stands in the dates
     LayOut();
 }
 
 void frmReportMilkPS::Load()
 {
-    // The mode is for this opening only: the next one is the clerk's own.
+    // The mode is for this opening only; the next may come from the menu.
     if (gAppState.gReportMode == u"ShowMilkCollection") {
         gAppState.gReportMode.clear();
         MilkStatement::StageCopy();
@@ -60,11 +61,6 @@ void frmReportMilkPS::ListAccounts()
     else
         FillCombo(ComboAccountName, u"MembersMaster", u"MemberName",
             Sql(u"where CompanyId=", gAppState.gCompanyId, u" ORDER BY MemberName"));
-}
-
-void frmReportMilkPS::ComboAccountName_GotFocus()
-{
-    SendKeys(QStringLiteral("%{Down}"));
 }
 
 void frmReportMilkPS::ComboAccountName_LostFocus()

@@ -7,8 +7,8 @@
 #include "society/SocietyScreen.h"
 
 // The statement of one member's deliveries or of one customer's purchases over a range of days. A counter
-// opens it with gReportMode "ShowMilkCollection": it then stages what lies in MilkCollectionsTemp and leaves
-// the printing to the counter.
+// opens it with gReportMode "ShowMilkCollection": then it stages what is in MilkCollectionsTemp and closes
+// itself; the counter prints.
 class frmReportMilkPS final : public SocietyScreen {
 public:
     frmReportMilkPS();
@@ -31,7 +31,6 @@ private:
     void maskFromDate_LostFocus();
     void maskToDate_LostFocus();
     void Option_Click();
-    void ComboAccountName_GotFocus();
     void ComboAccountName_LostFocus();
     void cmdReport_Click();
 

@@ -7,8 +7,8 @@
 
 namespace {
 
-// A day or a month of the mask, without the nought before it.
-QString Part(QString text)
+// A day or a month of the mask without its leading zero.
+QString WithoutZero(QString text)
 {
     if (text.startsWith(u'0'))
         text.remove(0, 1);
@@ -28,6 +28,7 @@ Keys::Places frmReportPaymentList::KeyPlaces()
 
 frmReportPaymentList::frmReportPaymentList() : SocietyScreen(KeyPlaces(), Shivaji(u" dUQa pomaoMT ilasT"))
 {
+    cmdExit.SetCancels(true); // by the mouse the screen is left whatever stands in the date
     LayOut();
 }
 
@@ -43,8 +44,8 @@ void frmReportPaymentList::MaskFromDate_LostFocus()
 
 QString frmReportPaymentList::SelectionFormula(const QString& date)
 {
-    return Sql(u"{MilkPayments.PaymentDate} = DateTime (", date.mid(6, 4), u",", Part(date.mid(3, 2)), u",",
-        Part(date.left(2)), u",00, 00, 00)");
+    return Sql(u"{MilkPayments.PaymentDate} = DateTime (", date.mid(6, 4), u",", WithoutZero(date.mid(3, 2)),
+        u",", WithoutZero(date.left(2)), u",00, 00, 00)");
 }
 
 void frmReportPaymentList::cmdReport_Click()

@@ -5,14 +5,14 @@
 #include "platform/forms/OptionButton.h"
 #include "society/SocietyScreen.h"
 
-// The list of the payments of a date: to be paid out in cash, or through the bank.
+// The list of the payments of a date, of those paid in cash or of those paid through the bank.
 class frmReportPaymentList final : public SocietyScreen {
 public:
     frmReportPaymentList();
 
     static Keys::Places KeyPlaces();
 
-    // The payments of a date dd/MM/yyyy, in the words of the report control.
+    // The selection formula for the payments of a date, dd/MM/yyyy.
     static QString SelectionFormula(const QString& date);
 
 private:

@@ -8,7 +8,7 @@
 
 namespace {
 
-// The column that numbers the names of a table; empty if they have no numbers.
+// The column with the numbers that the clerk knows the names of a table by; empty if there is none.
 QStringView NumberColumn(QStringView tableName)
 {
     if (tableName == u"MembersMaster")

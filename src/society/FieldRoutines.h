@@ -5,11 +5,12 @@
 class DateField;
 class NameCombo;
 
-// Fills a combo's list with a column of "select * from TABLE TAIL". The combo holds the names in the order of
-// the query, and shows them in that of the alphabet, those of members and customers with their numbers.
+// Fills a combo's list with a column of "select * from TABLE TAIL". The list shows the names in alphabetical
+// order, members and customers with their numbers; Items() keeps the order of the query.
 void FillCombo(NameCombo& combo, QStringView tableName, QStringView fieldName, const SqlText& tail);
 
-// Sets flag to 0 if the field holds a date; else to 1, empties the field and sends the focus back to it.
+// Sets flag to 0 if the field holds a date. Otherwise sets it to 1, empties the field and puts the focus
+// back.
 void CheckDateField(DateField& field, int& flag);
 
 // Empties the mask.

@@ -3,7 +3,7 @@
 #include "platform/forms/Field.h"
 #include "society/Words.h"
 
-// The figures of the trade, as fields that know how they are written.
+// Fields for the figures of the trade, each with its pattern.
 enum class FigureKind { Litres, Fat, Rate, Money };
 
 constexpr QStringView PatternOf(FigureKind figure)
@@ -20,7 +20,7 @@ constexpr QStringView PatternOf(FigureKind figure)
     return u"#########0.00";
 }
 
-// A figure in the pattern of its kind, or in one of its own.
+// A field with the pattern of its kind, or with a pattern of its own.
 template <FigureKind figure> class FigureField final : public NumberField {
 public:
     FigureField(Screen* screen, const char* name, const Handler& lostFocus = {})
@@ -38,10 +38,10 @@ using FatField = FigureField<FigureKind::Fat>;
 using RateField = FigureField<FigureKind::Rate>;
 using MoneyField = FigureField<FigureKind::Money>;
 
-// Words under the figures 1, 2, 3.
+// The choices 1, 2, 3… for these words.
 std::vector<ChoiceField::Choice> ChoicesOf(std::initializer_list<QStringView> words);
 
-// A half of the day. No key empties it.
+// Morning or evening. No key empties it.
 class ShiftField final : public ChoiceField {
 public:
     ShiftField(Screen* screen, const char* name, const Handler& lostFocus = {});
@@ -49,11 +49,11 @@ public:
     bool HoldsShift() const { return IsShift(Text()); }
 };
 
-// Whose milk it is. No key empties it.
+// Cow or buffalo. No key empties it.
 class AnimalField final : public ChoiceField {
 public:
     AnimalField(Screen* screen, const char* name, const Handler& lostFocus = {});
 
-    // The guide of the field, for a screen that says something else meanwhile.
+    // The field's own guide, for a screen that has to put it back.
     static Caption UsualGuide();
 };

@@ -18,7 +18,7 @@ template <typename Test> Recordset FirstRow(const QString& query, Test isIt)
     return row;
 }
 
-// The member of a number, if the name in the list is his and may mean him.
+// The member with this number, provided that the name in the list is theirs and no other row was picked.
 Recordset MemberNumbered(const NameCombo& list, double number)
 {
     const QString name = list.Text().trimmed();
@@ -84,10 +84,10 @@ QStringList SpellingsOf(QStringView table, QStringView column, const QString& na
     return spellings;
 }
 
-// The names are read as they always were; the numbers beside them are read apart.
+// The names come in the order of the system's own query; the numbers are matched to them from a second one.
 std::vector<NameCombo::Entry> MemberNames()
 {
-    QHash<QString, QStringList> numbers; // of a name, the lowest last
+    QHash<QString, QStringList> numbers; // by name, the lowest last
     for (Recordset member(
              gCn, QStringLiteral("SELECT MemberNo,MemberName FROM MembersMaster order by MemberNo desc"));
          !member.Eof(); member.MoveNext())

@@ -5,34 +5,35 @@
 
 #include <functional>
 
-// Looks up what the clerk knows by name. Two spellings that read the same are one name to him; the text that
-// is stored is the one to put into statements.
+// Look-ups by name. Spellings that read the same are the same name to the clerk; statements need the spelling
+// that is stored.
 
-// Which of the rows of a name is meant, where several have it.
+// Picks one among several rows of the same name.
 using IsMeant = std::function<bool(const Recordset& row)>;
 
-// The first row of a query that has the name in a column, blanks at its ends aside: one that is spelled so,
-// or else one that reads the same. The rows have ended if there is none; a name of blanks is nobody's.
+// Stands on the first row whose column has the name, ignoring blanks at the ends: one with the same spelling,
+// or else one that reads the same. At the end if there is none, or if the name is empty.
 Recordset RowOfName(
     const QString& query, QStringView column, const QString& name, const IsMeant& isMeant = {});
 
-// The member of a name, whatever the company.
+// The member of a name, in any company.
 Recordset MemberOfName(const QString& name);
 
-// The member that stands in a list of names: of several of one name the one whose row was picked.
+// The member in the field of a list of names. Of several with one name, the one whose row was picked.
 Recordset MemberOfName(const NameCombo& list);
 
-// The same where a number stands beside the list: while the name is that of its member, no other of that name
-// takes his place.
+// The same, with a field for the number beside the list: as long as the name fits that number, it means that
+// member and not another of the same name.
 Recordset MemberOfName(const NameCombo& list, double number);
+
+// Whether the name in the field fits the number.
 bool IsNameOf(const NameCombo& list, double number);
 
-// Shows the member of a record, or of a delivery: his name as it is spelled there, for his number.
+// Shows the member of a record or of a delivery, with the spelling of that row, as if picked from the list.
 void ShowMember(NameCombo& list, const Recordset& row);
 
-// The ways in which a column of a table spells a name: first as it is given, then the others that read the
-// same.
+// All spellings of a name in a column of a table: first the given one, then the others that read the same.
 QStringList SpellingsOf(QStringView table, QStringView column, const QString& name);
 
-// The names of all members with their numbers, in the order of the books.
+// The names of all members with their numbers, in the order of the system's query.
 std::vector<NameCombo::Entry> MemberNames();

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-// A setting of the society, without blanks at its ends; empty where there are no settings.
+// A column of AutoSettings, trimmed; empty if there is no row.
 QString Setting(QStringView column);
 
-// Whether a query gives a row.
+// Whether a query finds anything.
 bool Finds(const QString& query);

@@ -7,7 +7,7 @@ namespace {
 constexpr QStringView Save = u"&saovh"; // सेव्ह
 constexpr QStringView Remove = u"&KaoDa"; // खोडा
 
-// What the title adds to its own words.
+// What a mode appends to the title.
 constexpr QStringView NewTitle = u" navaIna roka^D-"; // नवीन रेकॉर्ड
 constexpr QStringView ModifyTitle = u" roka^D-maQyao badla"; // रेकॉर्डमध्ये बदल
 constexpr QStringView DeleteTitle = u" roka^D- KaoDNao"; // रेकॉर्ड खोडणे

@@ -5,9 +5,9 @@
 
 #include <vector>
 
-// The modes of a screen that keeps records: at rest, or with a new record, a change or a deletion open. The
-// caption of a mode's button tells which: at rest it names the mode, while the mode is open what pressing it
-// does then. A screen that has it otherwise says so after the call.
+// The modes of a screen that keeps records: at rest, or a new record, a change or a deletion is open. The
+// mode is kept in the captions of its buttons: at rest a button names its mode; while the mode is open, it
+// names what pressing it will do. Where a screen differs, it changes the controls after the call.
 class RecordModes {
 public:
     struct Buttons {
@@ -18,27 +18,27 @@ public:
         Button& exit;
     };
 
-    // The captions at rest are those that the buttons were declared with; `title` is the screen's at rest, as
-    // the system spells it.
+    // The captions at rest are the ones that the buttons were declared with. `title` is the title at rest, in
+    // the system's encoding.
     RecordModes(Screen& screen, QStringView title, const Buttons& buttons);
 
-    // The fields that are closed at rest and open in a mode; in a deletion only those that look the record
-    // up.
+    // The fields that the modes open and rest closes. A deletion opens only those that look the record up.
     void SetFields(std::vector<Control*> lookUp, std::vector<Control*> others);
 
     bool IsNew() const;
     bool IsModify() const;
     bool IsDelete() const;
 
-    // Each opens a mode: its caption and title, its fields, and of the buttons only its own and Cancel.
+    // Each opens a mode: sets caption and title, opens the fields, and leaves only its own button and Cancel
+    // open.
     void EnterNew();
     void EnterModify();
     void EnterDelete();
 
-    // Closes the mode: captions and title as at rest, all buttons open, the fields closed.
+    // Closes the mode: captions and title as at rest, all buttons open, all fields closed.
     void Rest();
 
-    // The button of the mode that is open; that of a new record at rest.
+    // The button of the open mode; at rest, the one of a new record.
     Button& Open() const;
 
 private:

@@ -7,18 +7,17 @@
 
 class QLayout;
 
-// A screen of the society's books: the band with its title, the society and its year, the guide line, the
-// strip of its keys, and the ways out. What a screen says for itself is its fields, its rules and its layout.
+// What all screens of the society's books have: the band with title, society and year, the guide line, the
+// strip of keys, and the ways out. A screen adds its fields, its rules and its layout.
 class SocietyScreen : public Screen {
 protected:
-    // What the labels are called in the system where it isn't as everywhere.
+    // The names of two labels, which some screens call differently.
     struct LabelNames {
         const char* guide = "lblGuide";
         const char* company = "lblCompanyTitle";
     };
 
-    // `keys` are those of the screen and of its fields; the first place bears the screen's name in the
-    // system.
+    // `keys` are the keys of the screen and of its fields; the name of the first place is the screen's.
     SocietyScreen(const Keys::Places& keys, const Caption& title, const LabelNames& labels);
     SocietyScreen(const Keys::Places& keys, const Caption& title) : SocietyScreen(keys, title, LabelNames())
     {
@@ -29,15 +28,15 @@ protected:
     Label lblAcYear{this, "lblAcYear"};
     Label lblGuide;
 
-    // Puts the screen together: the band, the body, and the strip of keys. The guide line has its place in
-    // the body.
+    // Puts the screen together: the band, the body, and the strip of keys. The body has to hold the guide
+    // line.
     void Stack(QLayout* body, const QMargins& margins = {24, 16, 24, 16});
     void Stack(QLayout* body, QWidget* strip, const QMargins& margins);
 
-    // The strip of a place of the screen.
+    // The strip with the keys of one place.
     QWidget* KeyStrip(const QString& place) const;
 
-    // What the strip says of a key, what a key does in a field, and all keys of a field in one line.
+    // What a key does by the strip, what it does in a field, and all keys of a field in one line.
     Caption KeyAction(QStringView key) const;
     Caption KeyAction(const Control& field, QStringView key) const;
     Caption KeyGuide(const Control& field) const;
@@ -46,13 +45,13 @@ protected:
     static KeyHint CalculatorKey();
     static KeyHint TutorKey();
 
-    // Answers the keys of the field in focus, and then those of the screen.
+    // Answers the keys of the field in focus first, then those of the screen.
     bool KeyDown(const QKeyEvent& key) override;
 
     // Esc: empties the fields and closes.
     void Escape() override;
 
-    // For the button that leaves the screen.
+    // For the exit button.
     void cmdExit_Click() { Close(); }
 
 private:

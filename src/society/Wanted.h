@@ -2,8 +2,8 @@
 
 #include "platform/forms/Caption.h"
 
-// What a field that keeps the focus without a message wants, and the key that leads out of it: the guide line
-// says it until the field is left.
+// For a field that keeps the focus without a message: the guide line says what it wants, and which key leads
+// out, until the field is left. Used as txtTime.SetFocus(Wanted::Shift()).
 namespace Wanted {
 
 inline Caption Date()

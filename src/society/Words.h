@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QStringView>
+#include "core/state/ShiftWords.h"
 
-// The words of the trade as the books hold them, in the system's encoding, and what each reads.
+// The words of the trade as the books hold them, in the system's encoding; the comments give their reading.
+// Word::Morning and Word::Evening come from core.
 namespace Word {
 
-inline constexpr QStringView Morning = u"sakaL"; // सकाळ
-inline constexpr QStringView Evening = u"saMQyaakaL"; // संध्याकाळ
 inline constexpr QStringView Cow = u"gaaya"; // गाय
 inline constexpr QStringView Buffalo = u"mhOsa"; // म्हैस
 inline constexpr QStringView Both = u"daonhI"; // दोन्ही

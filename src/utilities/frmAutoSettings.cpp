@@ -1,7 +1,10 @@
 #include "utilities/frmAutoSettings.h"
 
 #include "core/messages/Messages.h"
-#include "platform/text/Numbers.h"
+#include "core/state/AppState.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "society/ReceiptLayouts.h"
 #include "society/Words.h"
 
 #include <QKeyEvent>
@@ -19,6 +22,25 @@ QStringList ReceiptTypes()
     for (int number = 1; number <= 8; ++number)
         types.append(QStringLiteral("Tašp %1").arg(number));
     return types;
+}
+
+QString SettingsQuery()
+{
+    return Sql(u"select * from AutoSettings where CompanyId=", gAppState.gCompanyId);
+}
+
+// An empty column leaves its field empty, without the zeros of its pattern.
+void ShowFigure(NumberField& field, const FieldValue& value)
+{
+    if (value.Text().isEmpty())
+        field.Clear();
+    else
+        field.Show(value.Number());
+}
+
+QStringView WordOf(const CheckBox& box, QStringView unchecked, QStringView checked)
+{
+    return box.Checked() ? checked : unchecked;
 }
 
 }
@@ -60,7 +82,7 @@ frmAutoSettings::frmAutoSettings()
           {QStringLiteral("saovh"), QStringLiteral("saovh va sËIna"), QStringLiteral("saovh va ip`MT")},
           &frmAutoSettings::ComboMSRPrintStatus_LostFocus)
 {
-    // These two offer more than their digits reach; the rest is picked from the list.
+    // These two offer more than their digits reach; the rest has to be picked from the list.
     ComboReceipt.SetDigits(6);
     ComboPaymentDuration.SetDigits(4);
     cmbFatRateType.SetMouseOnly(true);
@@ -77,13 +99,53 @@ void frmAutoSettings::Load()
     LoadSettings();
 }
 
+void frmAutoSettings::LoadSettings()
+{
+    SSTab.SetTab(Collection);
+    cmbFatRateType.SetWords({ByFat.toString(), ByFatAndSnf.toString()});
+    const Recordset settings(gCn, SettingsQuery());
+    if (!settings.Eof())
+        ShowSettings(settings);
+    ComboAutoLiters.SetFocus();
+}
+
+void frmAutoSettings::ShowSettings(const Recordset& settings)
+{
+    ComboAutoLiters.SetText(settings[u"AutoLiters"].Text());
+    ComboAutoFat.SetText(settings[u"AutoFat"].Text());
+    ComboPrintStatus.SetText(settings[u"PrintStatus"].Text());
+    ShowFigure(txtCowLimit, settings[u"CanLimitCow"]);
+    ShowFigure(txtBuffLimit, settings[u"CanLimitBuff"]);
+    ComboReceipt.SetText(settings[u"ReceiptType"].Text());
+    CheckRepeatCol.SetChecked(settings[u"RepeatCollection"].Text() == Word::Yes);
+
+    ComboPaymentDuration.SetText(settings[u"PaymentDuration"].Text());
+    ShowFigure(txtCow, settings[u"ThevKapatCow"]);
+    ShowFigure(txtBuff, settings[u"ThevKapatBuff"]);
+    const FieldValue fatRateType = settings[u"FatRatetype"];
+    cmbFatRateType.SetText(fatRateType.IsNull() ? ByFat.toString() : fatRateType.Text());
+    CheckCNP.SetChecked(settings[u"PurchaseEntry"].Text() == u"Collection");
+    CheckSNU.SetChecked(settings[u"UchalEntry"].Text() == u"Sales");
+    DecimalPayment.Clear();
+    for (const auto& [option, word] : DecimalPayments())
+        if (settings[u"DecimalPayment"].Text() == word)
+            option->Choose();
+
+    ShowFigure(txtCowSaleRate, settings[u"SalesRateCow"]);
+    ShowFigure(txtBuffSaleRate, settings[u"SalesRateBuff"]);
+    ShowFigure(txtMixSaleRate, settings[u"SalesRateMix"]);
+    ComboMSRPrintStatus.SetText(settings[u"MSRPrintStatus"].Text());
+}
+
+// Keys and pages
+
 bool frmAutoSettings::KeyDown(const QKeyEvent& key)
 {
     return SSTab.TurnPage(key) || GoBeyondThePageTurn(key);
 }
 
-// The last figure of a page leads on to another page, so what stands below it has a key of its own: the rest
-// of the payments, and the print of the sales.
+// The last figure of a page leads on to another page. So the fields below it are reached with a key of their
+// own: the rest of the payments, and the receipt of the sales.
 bool frmAutoSettings::GoBeyondThePageTurn(const QKeyEvent& key)
 {
     if (key.key() != Qt::Key_Down)
@@ -113,13 +175,8 @@ void frmAutoSettings::CheckCNP_Click()
             : Shivaji(u"dUQa KrodIcaI enT/I dUQa pomaonT krtovaoLIca kolaI jaa[-la"));
 }
 
-void frmAutoSettings::CmdCancel_Click()
-{
-    LoadSettings();
-}
-
-// Leaving the fields. Each is checked only where the one before it isn't empty, so that a step back to an
-// empty field isn't caught in the next one. Boxes and options always hold something.
+// Leaving the fields. A field is checked only if the one before it isn't empty; otherwise a clerk who steps
+// back to an empty field would be caught in the one after it. Boxes and options always hold something.
 
 bool frmAutoSettings::CheckChoice(ChoiceCombo& combo)
 {
@@ -244,4 +301,83 @@ void frmAutoSettings::ComboMSRPrintStatus_LostFocus()
 {
     if (!txtMixSaleRate.IsEmpty())
         CheckChoice(ComboMSRPrintStatus);
+}
+
+// The buttons
+
+void frmAutoSettings::CmdCancel_Click()
+{
+    LoadSettings();
+}
+
+// The row is deleted before anything is checked, and not written again if a required field is empty: until a
+// later save all settings are read as empty. The system has it so.
+void frmAutoSettings::CmdSave_Click()
+{
+    Transaction save(gCn);
+    Recordset present(gCn, SettingsQuery());
+    gCn.Execute(Sql(u"delete * from AutoSettings where CompanyId=", gAppState.gCompanyId));
+    if (!AreRequiredFieldsFilled()) {
+        save.Commit();
+        return;
+    }
+    gCn.Execute(InsertStatement());
+    gCn.Execute(Sql(u"Update Autosettings Set FatRateType=", Quoted(cmbFatRateType.Text())));
+    present.Close();
+    save.Commit();
+    gAppState.gAutoLiters = ComboAutoLiters.Text();
+    gAppState.gAutoFat = ComboAutoFat.Text();
+    gAppState.gPaymentDuration = ComboPaymentDuration.Text();
+}
+
+bool frmAutoSettings::AreRequiredFieldsFilled() const
+{
+    return !ComboAutoFat.IsEmpty() && !ComboAutoLiters.IsEmpty() && !ComboPrintStatus.IsEmpty()
+        && !ComboReceipt.IsEmpty() && !ComboPaymentDuration.IsEmpty() && !txtCow.IsEmpty()
+        && !txtBuff.IsEmpty();
+}
+
+std::array<std::pair<OptionButton*, QStringView>, 4> frmAutoSettings::DecimalPayments()
+{
+    return {{{&OptionAddThev, u"AddThev"}, {&OptionPayable, u"Payable"}, {&OptionPayIt, u"PayIt"},
+        {&OptionDiscount, u"Discount"}}};
+}
+
+QStringView frmAutoSettings::DecimalPaymentWord()
+{
+    for (const auto& [option, word] : DecimalPayments())
+        if (option->Chosen())
+            return word;
+    return {};
+}
+
+QString frmAutoSettings::InsertStatement()
+{
+    return Sql(u"insert into AutoSettings(CompanyId,AutoLiters,AutoFat,PrintStatus,MSRPrintStatus,"
+               u"CanLimitBuff,CanLimitCow,ReceiptType,RepeatCollection,PaymentDuration,PurchaseEntry,"
+               u"UchalEntry,DecimalPayment,ThevKapatCow,ThevKapatBuff,SalesRateCow,SalesRateBuff,"
+               u"SalesRateMix,WeighScale) Values(",
+        Values(gAppState.gCompanyId, ComboAutoLiters.Text(), ComboAutoFat.Text(), ComboPrintStatus.Text(),
+            ComboMSRPrintStatus.Text(), txtBuffLimit.Text(), txtCowLimit.Text(), ComboReceipt.Text(),
+            WordOf(CheckRepeatCol, Word::No, Word::Yes), ComboPaymentDuration.Text(),
+            WordOf(CheckCNP, u"Payment", u"Collection"), WordOf(CheckSNU, u"Uchal", u"Sales"),
+            DecimalPaymentWord()),
+        u",", txtCow.Text(), u",", txtBuff.Text(), u",",
+        Values(txtCowSaleRate.Text(), txtBuffSaleRate.Text(), txtMixSaleRate.Text(), gAppState.gWeighScale),
+        u")");
+}
+
+// Stages the sample and shows it in the chosen layout; an unknown one leaves the layout of the last time.
+void frmAutoSettings::cmdReceipt_Click()
+{
+    Transaction staging(gCn);
+    gCn.Execute(u"delete * from MilkReceipt");
+    gCn.Execute(u"delete * from MilkReceipt");
+    gCn.Execute(u"insert into MilkReceipt select * from MRView");
+    gCn.Execute(Sql(u"update MilkReceipt set CompanyId=", gAppState.gCompanyId));
+    if (const ReceiptLayout layout = ReceiptLayoutOf(ComboReceipt.Text()); !layout.type.isEmpty())
+        CRMilkReceipt.SetTemplate(layout.sampleTemplate);
+    gCn.Execute(u"delete * from MilkReceipt where CompanyId=0");
+    staging.Commit();
+    CRMilkReceipt.Print();
 }

@@ -13,9 +13,8 @@
 #include <array>
 #include <utility>
 
-// How the society wants the system to behave: the one row of AutoSettings of its company, on three tabs.
-// A save replaces the row. The columns that no tab has are lost with it, and if a required field is empty
-// the row is not written again.
+// The settings of the society: its row of AutoSettings, on three tabs. A save replaces the row: the columns
+// that are on no tab are lost, and if a required field is empty, the row is only deleted.
 class frmAutoSettings final : public SocietyScreen {
 public:
     frmAutoSettings();
@@ -66,7 +65,8 @@ private:
     Button CmdCancel{this, "CmdCancel", Shivaji(u"&r_"), &frmAutoSettings::CmdCancel_Click};
     Button CmdExit{this, "CmdExit", Shivaji(u"&baahor"), &frmAutoSettings::cmdExit_Click};
 
-    // It stands beside ComboReceipt, and last in the tab order: Enter behind the choice of a layout goes on.
+    // It is shown beside ComboReceipt, but is last in the tab order, so that Enter in ComboReceipt doesn't
+    // lead to it.
     Button cmdReceipt{this, "cmdReceipt", Shivaji(u"pavatI p`kar"), &frmAutoSettings::cmdReceipt_Click};
 
     TemplateReport CRMilkReceipt;
@@ -102,8 +102,8 @@ private:
     void txtMixSaleRate_LostFocus();
     void ComboMSRPrintStatus_LostFocus();
 
-    // Whether the last field of a page leads on to what comes next. It doesn't when the clerk goes elsewhere
-    // himself: back, to another page, to a button.
+    // Whether the last field of a page leads on to the next page. It doesn't if the clerk goes elsewhere:
+    // back, to another page, to a button.
     bool LeadsOn() const { return !IsSteppingBack() && !GoingTo(); }
 
     // These return whether the field may be left.
@@ -113,7 +113,7 @@ private:
 
     // The row behind the screen
     static constexpr QStringView ByFat = u"f^T nausaar";
-    static constexpr QStringView ByFatAndSnf = u"f^T va esa ena ef nausaar"; // offered, never kept
+    static constexpr QStringView ByFatAndSnf = u"f^T va esa ena ef nausaar"; // offered, but never kept
     void LoadSettings();
     void ShowSettings(const Recordset& settings);
     bool AreRequiredFieldsFilled() const;

@@ -26,11 +26,16 @@ public:
     bool Start(const QString& program, bool maximised) override;
 };
 
-// Keeps the texts of the plain boxes; none of them waits.
+// Keeps the texts and the titles of the plain boxes; none of them waits.
 class FakeMessageBox final : public MessageBox {
 public:
     QStringList Shown;
-    void Show(const QString& text, const QString&) override { Shown.append(text); }
+    QStringList Titles;
+    void Show(const QString& text, const QString& title) override
+    {
+        Shown.append(text);
+        Titles.append(title);
+    }
 };
 
 // Answers each prompt with the next of the answers put in, and keeps what it was asked; without one it is

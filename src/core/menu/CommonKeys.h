@@ -2,16 +2,17 @@
 
 class QKeyEvent;
 
-// What the keys that several screens have do on all of them.
+// What F2 and F12 do on every screen that has them.
 namespace CommonKeys {
 
-// F2: the calculator of AppFolder, in a maximised or a normal window. One that isn't there is told.
+// F2: starts the calculator of AppFolder, maximised or in a normal window. If there is none, the clerk is
+// told.
 void Calculator(bool maximised = true);
 
 // F12: the keyboard tutor.
 void Tutor();
 
-// The same, if it was that key; returns whether it was.
+// The same, but only if that key was pressed; returns whether it was.
 bool Calculator(const QKeyEvent& key);
 bool Tutor(const QKeyEvent& key);
 

@@ -2,8 +2,10 @@
 
 #include "core/start/BooksOpening.h"
 #include "core/state/AppState.h"
+#include "core/state/ShiftWords.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
+#include "platform/forms/Layout.h"
 #include "platform/forms/Look.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
@@ -16,38 +18,33 @@
 
 namespace {
 
-// The shifts as the books spell them, and as they are read.
 struct Shift {
     QStringView time;
-    QStringView seen;
     const char* litres = nullptr; // the names of their labels
     const char* amount = nullptr;
 };
-constexpr Shift Shifts[] = {{u"sakaL", u"सकाळ", "lblMorningLiters", "lblMorningAmount"},
-    {u"saMQyaakaL", u"संध्याकाळ", "lblEveningLiters", "lblEveningAmount"}};
+constexpr Shift Shifts[] = {{Word::Morning, "lblMorningLiters", "lblMorningAmount"},
+    {Word::Evening, "lblEveningLiters", "lblEveningAmount"}};
 
-QLabel* Text(const QString& text, Qt::Alignment align, bool bold = false)
+// A label whose text Show sets; tests find it by its name.
+QLabel* Told(const char* name, Qt::Alignment align, bool bold)
 {
-    auto* label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    label->setAlignment(align | Qt::AlignVCenter);
-    if (bold)
-        label->setFont(Look::Font(Look::Size::Normal, true));
+    QLabel* label = Layout::Text({}, align, bold);
+    label->setObjectName(QLatin1String(name));
     return label;
 }
 
 }
 
-DayAtAGlance::DayAtAGlance() : m_day(Text({}, Qt::AlignLeft, true)), m_backup(Text({}, Qt::AlignLeft))
+DayAtAGlance::DayAtAGlance()
+    : m_day(Told("lblWorkingDay", Qt::AlignLeft, true))
+    , m_backup(Told("lblLastBackup", Qt::AlignLeft, false))
 {
     setFrameShape(QFrame::NoFrame);
     setAutoFillBackground(true);
     QPalette paper = palette();
     paper.setColor(QPalette::Window, QColor(Look::Quiet));
     setPalette(paper);
-
-    m_day->setObjectName(QStringLiteral("lblWorkingDay"));
-    m_backup->setObjectName(QStringLiteral("lblLastBackup"));
 
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(16, 12, 16, 12);
@@ -57,14 +54,12 @@ DayAtAGlance::DayAtAGlance() : m_day(Text({}, Qt::AlignLeft, true)), m_backup(Te
     grid->setColumnStretch(2, 1);
     int row = 0;
     grid->addWidget(m_day, row++, 0, 1, 3);
-    grid->addWidget(Text(QStringLiteral("लिटर"), Qt::AlignRight), row, 1);
-    grid->addWidget(Text(QStringLiteral("रुपये"), Qt::AlignRight), row++, 2);
+    grid->addWidget(Layout::Text(::Plain(u"लिटर"), Qt::AlignRight), row, 1);
+    grid->addWidget(Layout::Text(::Plain(u"रुपये"), Qt::AlignRight), row++, 2);
     for (int shift = 0; shift < static_cast<int>(std::size(Shifts)); ++shift) {
-        m_litres[shift] = Text({}, Qt::AlignRight, true);
-        m_amount[shift] = Text({}, Qt::AlignRight, true);
-        m_litres[shift]->setObjectName(QLatin1String(Shifts[shift].litres));
-        m_amount[shift]->setObjectName(QLatin1String(Shifts[shift].amount));
-        grid->addWidget(Text(Shifts[shift].seen.toString(), Qt::AlignLeft), row, 0);
+        m_litres[shift] = Told(Shifts[shift].litres, Qt::AlignRight, true);
+        m_amount[shift] = Told(Shifts[shift].amount, Qt::AlignRight, true);
+        grid->addWidget(Layout::Text(Shivaji(Shifts[shift].time)), row, 0);
         grid->addWidget(m_litres[shift], row, 1);
         grid->addWidget(m_amount[shift], row++, 2);
     }
@@ -87,9 +82,9 @@ void DayAtAGlance::ShowShifts()
         double amount = 0;
         if (gAppState.gAppDate.isValid()) {
             const Recordset sums(gCn,
-                Sql(u"select sum(Liters),sum(Amount) from MilkCollections where CollectionDate=#",
-                    gAppState.gAppDate.toString(QStringLiteral("MM/dd/yyyy")), u"# and CollectionTime=",
-                    Quoted(Shifts[shift].time), u" and CompanyId=", gAppState.gCompanyId));
+                Sql(u"select sum(Liters),sum(Amount) from MilkCollections where CollectionDate=",
+                    SqlDay(gAppState.gAppDate), u" and CollectionTime=", Quoted(Shifts[shift].time),
+                    u" and CompanyId=", gAppState.gCompanyId));
             litres = sums.At(0).Number();
             amount = sums.At(1).Number();
         }

@@ -4,9 +4,8 @@
 
 class QLabel;
 
-// What the clerk wants to know before he begins: the working day, what its two shifts
-// have brought so far, and when the books were last copied. Read from the books and from the folder of the
-// copies when it is shown.
+// What the clerk wants to know before beginning: the working day, litres and amount of its two shifts so far,
+// and the date of the last backup. Show reads them from the books and from the backup folder.
 class DayAtAGlance final : public QFrame {
 public:
     DayAtAGlance();

@@ -9,7 +9,7 @@ namespace {
 
 using namespace KeyHints;
 
-// The core's screens answer these themselves.
+// The core's screens answer these in their own KeyDown.
 const KeyHint Calculator{QStringLiteral("F2"), Shivaji(u"k^la@yaulaoTr")};
 const KeyHint Tutor{QStringLiteral("F12"), Shivaji(u"kIbaaoD- TyaUTr")};
 
@@ -68,8 +68,8 @@ const Keys::Place* Find(const Keys::Places& places, QStringView name)
     return found == places.end() ? nullptr : &*found;
 }
 
-// Whether it is the key that a hint names. One that is named with Alt, Ctrl or Shift belongs to somebody
-// else.
+// Whether the key is the one that a hint names. Keys with Alt, Ctrl or Shift are answered elsewhere: by the
+// buttons, or by the focus.
 bool IsKey(int pressed, const QString& name)
 {
     if (name == u"Enter")

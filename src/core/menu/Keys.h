@@ -4,11 +4,11 @@
 
 class QKeyEvent;
 
-// Keys are said once: the strip at the foot of a screen, the printed key sheet, the guides and what a press
-// does come from one line. A screen declares its own; those of the core's screens stand here.
+// Every key is declared once: the strip at the foot of a screen, the printed key sheet, the guide lines and
+// the dispatch come from that line. A screen declares its own keys; those of the core's screens are here.
 namespace Keys {
 
-// Where keys do something: a screen, a field of it, or any screen.
+// A place where keys do something: a screen, or one of its fields.
 struct Place {
     QString name; // "frmMembers", "frmMilkCollections.txtMemberNo"
     Caption heading; // what the clerk calls it
@@ -16,28 +16,28 @@ struct Place {
 };
 using Places = std::vector<Place>; // of a screen: the screen first, then its fields
 
-// Puts a screen's places on the sheet, behind those that are there; a second time changes nothing.
+// Appends a screen's places to the sheet; doing so twice changes nothing.
 void Add(const Places& places);
 
-// The sheet: the core's places, and those that were added.
+// The sheet: the core's places, then those that were added.
 const Places& Sheet();
 
-// The keys of a place, of those given or on the sheet. There must be such a place.
+// The keys of a place, among those given or on the sheet. The place must exist.
 const std::vector<KeyHint>& Of(const Places& places, const QString& place);
 const std::vector<KeyHint>& Of(const QString& place);
 
-// What a key does, as its hint says; an empty caption for a key that isn't among them.
+// What a key does, in the words of its hint; empty if it isn't among them.
 Caption Action(const std::vector<KeyHint>& keys, QStringView key);
 Caption Action(const QString& place, QStringView key);
 
-// The keys in one line, to stand as a field's guide.
+// The keys in one line, as a field's guide.
 Caption Guide(const std::vector<KeyHint>& keys);
 Caption Guide(const QString& place);
 
-// Does on a screen what one of the keys says; false if none of them was pressed.
+// Runs the handler of the key that was pressed; false if it is none of these, or one without a handler.
 bool Answer(Screen& screen, const std::vector<KeyHint>& keys, const QKeyEvent& pressed);
 
-// The places of the preview: they go to the sheet before those of the screens that open it.
+// The places of the preview, which stand on the sheet before those of the screens that open it.
 const Places& OfPreview();
 
 }

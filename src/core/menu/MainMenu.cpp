@@ -42,7 +42,6 @@ bool ShowsTransport()
 MainMenuFrm::MainMenuFrm() : Screen("MainMenuFrm")
 {
     When(ListMain.GotFocus, &MainMenuFrm::ListMain_GotFocus);
-    When(ListMain.Chosen, &MainMenuFrm::ListMain_Chosen);
     for (MenuList* list : m_subLists) {
         list->Chosen = [this, list] { SubList_Chosen(*list); };
         list->KeyDown = [this, list](const QKeyEvent& key) {
@@ -75,7 +74,7 @@ void MainMenuFrm::FillLists()
         mainCaptions.push_back(Shivaji(MainEntries[at].text));
         m_subLists[at]->SetAccessibleName(mainCaptions.back());
     }
-    mainCaptions.push_back(Shivaji(MenuBack));
+    mainCaptions.push_back(Shivaji(MenuEntries::Back));
     ListMain.SetEntries(mainCaptions);
     ListMaster.SetEntries(MenuEntries::Captions(MenuEntries::Master()));
     ListSVouchers.SetEntries(MenuEntries::Captions(MenuEntries::SVouchers(ShowsTransport())));
@@ -130,7 +129,7 @@ void MainMenuFrm::Escape()
         LeaveSubList(*list);
 }
 
-// The yearly list is not among them: only its own ways out hide it.
+// The yearly list stays: only its own ways out hide it.
 void MainMenuFrm::ListMain_GotFocus()
 {
     for (MenuList* list : {&ListMaster, &ListSVouchers, &ListMReports, &ListUtilities})
@@ -140,7 +139,7 @@ void MainMenuFrm::ListMain_GotFocus()
 void MainMenuFrm::ListMain_Chosen()
 {
     const QString text = ListMain.Text();
-    if (text == MenuBack) {
+    if (text == MenuEntries::Back) {
         LeaveSystem();
         return;
     }
@@ -168,7 +167,7 @@ void MainMenuFrm::OpenSubList(MenuList& list, const std::int16_t* accessFlag)
 void MainMenuFrm::SubList_Chosen(MenuList& list)
 {
     const QString text = list.Text();
-    if (text == MenuBack) {
+    if (text == MenuEntries::Back) {
         list.SetVisible(false);
         if (&list == &ListMReports || &list == &ListUtilities || &list == &listYearlyReport)
             ListMain.SetFocus();
@@ -201,7 +200,7 @@ void MainMenuFrm::LeaveSystem()
         Close();
 }
 
-// What the screen has done to the day's figures is seen when it is left.
+// The screen may have changed the day's figures.
 void MainMenuFrm::OpenScreen(const QString& screen, const Caption& name, const Caption& title)
 {
     ScreenDirectory::Open(screen, name, title);

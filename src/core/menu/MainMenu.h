@@ -6,8 +6,8 @@
 
 #include <array>
 
-// The system's home: a main list, and beside it one list for each of its entries. An entry's text decides
-// what it opens. Every screen is opened from here and returns here.
+// The main menu: a list, and beside it one list for each of its entries. Every screen is opened from here and
+// returns here. What an entry opens depends on its text, which is also what is shown.
 class MainMenuFrm final : public Screen {
 public:
     MainMenuFrm();
@@ -22,7 +22,7 @@ private:
     Label lblAcYear{this, "lblAcYear"};
     Label lblTodayDate{this, "lblTodayDate"};
 
-    MenuList ListMain{this, "ListMain"};
+    MenuList ListMain{this, "ListMain", &MainMenuFrm::ListMain_Chosen};
     MenuList ListMaster{this, "ListMaster"};
     MenuList ListSVouchers{this, "ListSVouchers"};
     MenuList ListMReports{this, "ListMReports"};

@@ -6,7 +6,7 @@ const std::vector<MenuEntry>& MenuEntries::Master()
         {u"]%padkacao rijasTr", QStringLiteral("frmMembers"), {}},
         {u"ga`ahkacao rijasTr", QStringLiteral("frmCustomers"), {}},
         {u"f^T dr badla", QStringLiteral("frmNewFatRates"), {}},
-        {MenuBack, {}, {}},
+        {Back, {}, {}},
     };
     return entries;
 }
@@ -24,7 +24,7 @@ std::vector<MenuEntry> MenuEntries::SVouchers(bool withTransport)
     };
     if (withTransport)
         entries.push_back({u"dUQa vaahtUk Kca-", {}, {}});
-    entries.push_back({MenuBack, {}, {}});
+    entries.push_back({Back, {}, {}});
     return entries;
 }
 
@@ -48,7 +48,7 @@ const std::vector<MenuEntry>& MenuEntries::MReports()
             u"  dUQa ivaËIcaI tulanaa%mak AakDovaarI"},
         {u"dUQa saMklana À ivaËI irpaoT-", QStringLiteral("frmReportMilkPS"), {}},
         {u"saBaasadaMcaI yaadI", QStringLiteral("frmReportMembersList"), {}},
-        {MenuBack, {}, {}},
+        {Back, {}, {}},
     };
     return entries;
 }
@@ -59,7 +59,7 @@ const std::vector<MenuEntry>& MenuEntries::YearlyReport()
     static const std::vector<MenuEntry> entries = {
         {u"]cala yaadI", registers, QStringLiteral("UchalBalanceStatement")},
         {u"zova yaadI", registers, QStringLiteral("ThevBalanceStatement")},
-        {MenuBack, {}, {}},
+        {Back, {}, {}},
     };
     return entries;
 }
@@ -71,7 +71,7 @@ const std::vector<MenuEntry>& MenuEntries::Utilities()
         {u"Aa^Tao saoTIMgja", QStringLiteral("frmAutoSettings"), {}},
         {u"baaonasa TUla", QStringLiteral("frmBonusPayments"), {}},
         {u"zovaIcaa kalaavaQaI", QStringLiteral("frmThevDate"), {}},
-        {MenuBack, {}, {}},
+        {Back, {}, {}},
     };
     return entries;
 }

@@ -4,19 +4,19 @@
 
 #include <vector>
 
-// One entry of a menu list: its text decides, the rest tells what it opens.
+// One entry of a menu list. It is recognised by its text; the rest says what it opens.
 struct MenuEntry {
     QStringView text; // as the system spells it
     QString screen; // empty: the entry has no action
     QString reportMode; // goes into gReportMode before the screen opens; empty leaves it
-    QStringView title = {}; // written over the screen's own title
+    QStringView title = {}; // replaces the screen's own title
     bool asksCaller = false; // the screen asks who opened it
 };
 
-// The text of the entries that lead back and out.
-inline constexpr QStringView MenuBack = u"baahor";
-
 namespace MenuEntries {
+
+// The text of the entries that go back, or out of the program.
+inline constexpr QStringView Back = u"baahor";
 
 // The lists in the order that the menu shows them; the transactions with or without the charges of transport.
 const std::vector<MenuEntry>& Master();
@@ -25,7 +25,7 @@ const std::vector<MenuEntry>& MReports();
 const std::vector<MenuEntry>& YearlyReport();
 const std::vector<MenuEntry>& Utilities();
 
-// The entry of a text in any of the sub-lists; null for a text that is none.
+// The entry with this text in any of the sub-lists; null if there is none.
 const MenuEntry* Find(const QString& text);
 
 // The texts of a list, as captions.

@@ -7,16 +7,16 @@
 
 class Screen;
 
-// The screens by name. Rooms open each other through it, so that none includes another.
+// The screens by name. A room opens the screens of another through it, so it needn't include them.
 namespace ScreenDirectory {
 
 using Maker = std::function<std::unique_ptr<Screen>()>;
 
-// Names the maker of a screen; a name added again takes the new one, an empty maker takes it out.
+// Registers the maker of a screen. Registering a name again replaces its maker; an empty maker removes it.
 void Add(const QString& name, const Maker& maker);
 
-// Opens a screen modally, under a title of its own if one is given. A screen that the program doesn't
-// have yet is a plain message that names the entry.
+// Opens a screen modally; `title`, if given, replaces the screen's own. For a screen that the program doesn't
+// have yet, a plain box names the entry.
 void Open(const QString& name, const Caption& entry, const Caption& title = {});
 
 }

@@ -3,8 +3,8 @@
 #include "platform/forms/Screen.h"
 #include "platform/shell/FreshKeys.h"
 
-// A card that is answered in the midst of some other screen's work. It takes only keys that were pressed
-// after it was painted.
+// A card that interrupts the work of another screen for an answer. It takes only keys that are pressed after
+// it was painted: what the clerk had typed ahead was meant for something else.
 class BoxScreen : public Screen {
 public:
     explicit BoxScreen(const char* name);

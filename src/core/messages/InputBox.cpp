@@ -10,9 +10,6 @@
 frmInputBox::frmInputBox(const QString& prompt, const QString& proposed, const QString& title)
     : BoxScreen("frmInputBox")
 {
-    When(cmdOk.Click, &frmInputBox::cmdOk_Click);
-    When(cmdCancel.Click, &frmInputBox::cmdCancel_Click);
-
     constexpr int width = 600;
     SetTitleLabel(lblTitle);
     SetTitle(Plain(title.isEmpty() ? QStringLiteral("Vetrolan") : title));
@@ -32,6 +29,11 @@ frmInputBox::frmInputBox(const QString& prompt, const QString& proposed, const Q
 }
 
 void frmInputBox::cmdOk_Click()
+{
+    TakeAnswer();
+}
+
+void frmInputBox::TakeAnswer()
 {
     Answer = txtAnswer.Text().trimmed();
     Close();

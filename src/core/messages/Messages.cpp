@@ -14,10 +14,6 @@ frmMessages::frmMessages(Mode mode, const Caption& message, OnEnter onEnter)
     : BoxScreen("frmMessages")
     , m_onEnter(onEnter)
 {
-    When(cmdOkYes.Click, &frmMessages::cmdOkYes_Click);
-    When(cmdCancelNo.Click, &frmMessages::cmdCancelNo_Click);
-    When(cmdExit.Click, &frmMessages::cmdExit_Click);
-
     cmdOkYes.SetVisible(mode == Mode::Question);
     cmdCancelNo.SetVisible(mode == Mode::Question);
     cmdExit.SetVisible(mode == Mode::Notice);

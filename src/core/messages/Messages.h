@@ -3,18 +3,18 @@
 #include "core/messages/BoxScreen.h"
 #include "platform/forms/Button.h"
 
-// What Enter answers to a question.
+// What Enter answers if the clerk doesn't move the focus.
 enum class OnEnter { Yes, No };
 
-// The program's own message dialog: a notice to go on from, or a question.
+// The program's own message dialog: a notice, or a question to be answered with yes or no.
 class frmMessages final : public BoxScreen {
 public:
     enum class Mode { Notice, Question };
 
     frmMessages(Mode mode, const Caption& message, OnEnter onEnter = OnEnter::Yes);
 
-    // The answer to the last question: 1 for yes, 0 for no. A notice, and a dialog that is closed without
-    // an answer, leave it as it was.
+    // The answer to the last question: 1 for yes, 0 for no. A notice doesn't change it, nor does a question
+    // that is closed without an answer.
     static int MessageAnswer;
 
     // Whether one of the buttons was pressed.
@@ -23,9 +23,9 @@ public:
 private:
     Label lblMessages{this, "lblMessages"};
     Label lblMessage2{this, "lblMessage2"};
-    Button cmdOkYes{this, "cmdOkYes", Shivaji(u"&haoya")};
-    Button cmdCancelNo{this, "cmdCancelNo", Shivaji(u"&naahI")};
-    Button cmdExit{this, "cmdExit", Shivaji(u"puZo")};
+    Button cmdOkYes{this, "cmdOkYes", Shivaji(u"&haoya"), &frmMessages::cmdOkYes_Click};
+    Button cmdCancelNo{this, "cmdCancelNo", Shivaji(u"&naahI"), &frmMessages::cmdCancelNo_Click};
+    Button cmdExit{this, "cmdExit", Shivaji(u"puZo"), &frmMessages::cmdExit_Click};
 
     void Load() override;
     void cmdOkYes_Click();
@@ -37,13 +37,13 @@ private:
     bool m_answered = false;
 };
 
-// Shows a notice, Shivaji(u"…") or Plain(u"…"), and returns when the clerk has gone on.
+// Shows a notice, Shivaji(u"…") or Plain(u"…"); returns when the clerk closes it.
 void ShowNotice(const Caption& notice);
 
-// Asks a question; true only for a pressed yes. A dialog closed without an answer is a no. A question that
-// destroys something is asked with OnEnter::No: one Enter too many changes nothing then.
+// Asks a question; true only if yes was pressed. Use OnEnter::No where a yes destroys something, so that one
+// Enter too many does no harm.
 bool Ask(const Caption& question, OnEnter onEnter = OnEnter::Yes);
 
-// The plain box: for the few messages in English, and for what the program itself has to say.
+// The plain box, for the few messages in English and for those of the program itself.
 // An empty title is the program's name.
 void ShowPlain(const QString& text, const QString& title = {});

@@ -9,9 +9,6 @@
 
 frmNarrations::frmNarrations(const Caption& prompt) : Screen("frmNarrations", Shape::Card)
 {
-    When(txtNarration.LostFocus, &frmNarrations::txtNarration_LostFocus);
-    When(cmdExit.Click, &frmNarrations::cmdExit_Click);
-
     SetTitle(prompt);
     lblMessage.SetCaption(prompt);
     txtNarration.SetAccessibleName(prompt);

@@ -4,18 +4,18 @@
 #include "platform/forms/Screen.h"
 #include "platform/forms/TextField.h"
 
-// The one-line prompt: asks, and keeps what was typed for the caller to read.
+// Asks for one line of text, which the caller reads afterwards.
 class frmNarrations final : public Screen {
 public:
     explicit frmNarrations(const Caption& prompt);
 
-    // What was typed, once the field was left or the button pressed.
+    // What was typed, set when the field is left or the button is pressed.
     QString Narration;
 
 private:
     Label lblMessage{this, "lblMessage"};
-    TextField txtNarration{this, "txtNarration"};
-    Button cmdExit{this, "cmdExit", Shivaji(u"puZo")};
+    TextField txtNarration{this, "txtNarration", &frmNarrations::txtNarration_LostFocus};
+    Button cmdExit{this, "cmdExit", Shivaji(u"puZo"), &frmNarrations::cmdExit_Click};
 
     bool KeyDown(const QKeyEvent& key) override;
     void Escape() override;

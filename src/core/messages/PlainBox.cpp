@@ -11,8 +11,6 @@
 
 frmPlainBox::frmPlainBox(const QString& text, const QString& title) : BoxScreen("frmPlainBox")
 {
-    When(cmdOk.Click, &frmPlainBox::cmdOk_Click);
-
     SetTitleLabel(lblTitle);
     SetTitle(Plain(title.isEmpty() ? QStringLiteral("Vetrolan") : title));
     ShowText(text);
@@ -24,12 +22,12 @@ frmPlainBox::frmPlainBox(const QString& text, const QString& title) : BoxScreen(
     Layout::Stack(*this, Layout::Header(lblTitle), body, nullptr);
 }
 
-// A few words stand large in the middle; what takes more room reads better in lines from the left.
+// A few words are shown large and centred; more text reads better left-aligned.
 void frmPlainBox::ShowText(const QString& text)
 {
     constexpr int leastWidth = 480;
     constexpr QSize forAFewWords(720, 130);
-    constexpr QSize most(840, 440); // beside title and button, on the smallest desktop
+    constexpr QSize most(840, 440); // what title and button leave on the smallest desktop
     const QFont large = Look::Font(Look::Size::Large);
     QFont font = Look::Font(Look::Size::Normal);
     QString shown = FittingText(text, QFontMetrics(large), forAFewWords);
@@ -39,7 +37,7 @@ void frmPlainBox::ShowText(const QString& text)
     else
         shown = FittingText(text, QFontMetrics(font), most);
 
-    // Scaled letters may be a little wider than the scaled line, which then takes a second one.
+    // Room to spare: scaled letters may be a little wider than the scaled label, and would wrap.
     const int natural = QFontMetrics(font).size(0, shown).width() * 21 / 20;
     QLabel& label = *lblText.Widget();
     label.setFont(font);
@@ -47,7 +45,7 @@ void frmPlainBox::ShowText(const QString& text)
     label.setWordWrap(true);
     label.setText(shown); // no caption: every '&' is itself
     label.setMinimumWidth(std::clamp(natural, leastWidth, isShort ? forAFewWords.width() : most.width()));
-    QSizePolicy policy = label.sizePolicy(); // as high as the text is at that width
+    QSizePolicy policy = label.sizePolicy(); // its height follows from the text at that width
     policy.setHorizontalPolicy(QSizePolicy::Ignored);
     policy.setVerticalPolicy(QSizePolicy::Ignored);
     label.setSizePolicy(policy);

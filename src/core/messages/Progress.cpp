@@ -55,7 +55,7 @@ void Progress::Begin(int rows)
     Show();
 }
 
-// A run of ten thousand rows isn't held up by more paintings than the eye can tell apart.
+// Painted only when the percent changes: a run of ten thousand rows must not wait for ten thousand paintings.
 void Progress::Step()
 {
     ++m_done;

@@ -2,20 +2,19 @@
 
 #include "platform/forms/Control.h"
 
-// How far a run over many rows is: a bar that fills, and the percent on it. It is hidden at rest. The screen
-// lays it out and steps it in its handler; meanwhile the window is painted, and no key or press of the mouse
-// gets in.
+// Shows how far a run over many rows is: a bar that fills, with the percent on it, hidden at rest. The screen
+// lays it out and calls Step in its handler, which paints the window and lets no key or click in.
 class Progress {
 public:
     explicit Progress(Screen* screen);
 
-    // The bar, to be laid out. It keeps its place while it is hidden.
+    // The bar, to be laid out. It keeps its room while it is hidden.
     QWidget* Widget() const { return lblBack.Widget(); }
 
-    // Shows an empty bar for so many rows; for none there is nothing to show.
+    // Shows an empty bar for so many rows; for 0, nothing.
     void Begin(int rows);
 
-    // One row more is done.
+    // Another row is done.
     void Step();
 
     // Hides it.

@@ -3,9 +3,9 @@
 #include "platform/report/ReportControl.h"
 #include "platform/report/SystemPrinter.h"
 
-// Gives the report controls of the screens what they work with, as long as it lives: the preview, a printer,
-// and the way to the templates of AppFolder, where what goes to the printer lies, too. When it goes, the
-// books that were opened for reports are closed.
+// While it lives, report controls have what they need: the preview, a printer, and AppFolder's place on this
+// machine, where the templates and the files for the printer are. Its destructor closes the books that were
+// opened for reports.
 class ReportHandover {
 public:
     explicit ReportHandover(std::unique_ptr<Printer> printer = MakeSystemPrinter());
@@ -14,7 +14,7 @@ public:
     ReportHandover& operator=(const ReportHandover&) = delete;
 
 private:
-    // Opens the preview over the screen that prints, and returns when it was closed.
+    // Shows the preview over the screen that prints; returns when it is closed.
     class Window final : public ReportWindow {
     public:
         void Show(std::shared_ptr<Report> report) override;

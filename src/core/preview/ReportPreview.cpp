@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int SliceMilliseconds = 8; // of laying out between two looks at the keyboard
+constexpr int SliceMilliseconds = 8; // of laying out before keys are looked at again
 
 bool IsControl(const QKeyEvent& key, Qt::Key letter)
 {
@@ -93,7 +93,7 @@ void frmReportPreview::ShowPosition()
 void frmReportPreview::TellState(const QString& text)
 {
     lblState.SetFigure(text);
-    lblState.Widget()->repaint(); // what follows may take its time
+    lblState.Widget()->repaint(); // what follows may take a while
 }
 
 // Keys
@@ -146,7 +146,7 @@ bool frmReportPreview::SizeKey(const QKeyEvent& key)
     }
 }
 
-// The keys that an entry field needs for itself.
+// The keys that a field needs for typing.
 bool frmReportPreview::PageKey(const QKeyEvent& key)
 {
     switch (key.key()) {
@@ -258,7 +258,7 @@ void frmReportPreview::Search()
     FindNext(1);
 }
 
-// The place that is marked keeps its mark; only its number among the others can be another now.
+// The marked place keeps its mark, but its number among the places may have changed.
 void frmReportPreview::RefreshHits()
 {
     const bool wasShown = HitIsShown();
@@ -278,8 +278,8 @@ bool frmReportPreview::HitIsShown() const
         && picPage.Marked() == m_hits[m_hit].rect;
 }
 
-// On to the next place in the direction of `step`, from the place that is marked or else from the page that
-// is looked at. Behind the last laid out page it waits for the rest; behind the end it begins anew.
+// Goes to the next place in the direction of `step`, from the marked one, or from the page that is shown.
+// Past the last page that is laid out it waits for the rest; past the end it starts over.
 void frmReportPreview::FindNext(int step)
 {
     if (m_searched.isEmpty()) {

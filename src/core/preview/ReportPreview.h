@@ -6,16 +6,16 @@
 
 #include <memory>
 
-// A report before the clerk's eyes: to leaf through, to search, to print and to save. The pages behind the
-// first are laid out while the clerk looks.
+// Shows a report, to leaf through, search, print and save. The first page is there at once; the others are
+// laid out while the clerk looks at it.
 class frmReportPreview final : public Screen {
 public:
-    // The first page has been laid out already.
+    // The report's first page has to be laid out already.
     explicit frmReportPreview(std::shared_ptr<Report> report);
     ~frmReportPreview() override;
 
 private:
-    // What waits until the last page is laid out.
+    // What is done as soon as the last page is laid out.
     enum class Awaited { Nothing, LastPage, NextHit, PreviousHit };
 
     std::shared_ptr<Report> m_report;
@@ -48,7 +48,7 @@ private:
     void NextPage();
     void PreviousPage();
 
-    // Scrolls the page; at its edge it is turned.
+    // Scrolls the page; at its edge, turns it.
     void Down(int steps);
     void Up(int steps);
 

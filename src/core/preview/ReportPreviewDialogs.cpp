@@ -14,14 +14,14 @@ namespace {
 constexpr int DialogWidth = 760;
 constexpr int ListHeight = 220;
 
-// Where the clerk keeps files; a machine may have no such folder.
+// The clerk's documents, or the home folder on a machine that has none.
 QString DocumentsFolder()
 {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QDir::toNativeSeparators(QDir(documents).exists() ? documents : QDir::homePath());
 }
 
-// A name that every file system takes.
+// A file name that every file system accepts.
 QString ProposedName(const QString& report, const QString& subject)
 {
     QString name = report + u' ' + (subject.isEmpty() ? ReportSubject({}) : subject);
@@ -57,7 +57,7 @@ void frmReportFile::BuildWindow()
     setMinimumWidth(DialogWidth);
 }
 
-// A path in place of the name counts as it is, whatever the folder says.
+// If the name is a whole path, the folder doesn't count.
 QString frmReportFile::WantedFile() const
 {
     QString name = QDir::fromNativeSeparators(txtFile.Text().trimmed());
@@ -98,7 +98,6 @@ void frmReportFile::cmdExit_Click()
 
 frmReportPrinter::frmReportPrinter(const QStringList& printers) : Screen("frmReportPrinter", Shape::Card)
 {
-    When(lstPrinters.Chosen, &frmReportPrinter::lstPrinters_Chosen);
     SetTitleLabel(lblTitle);
     SetTitle(Plain(u"प्रिंटर निवडा"));
     std::vector<Caption> names;

@@ -9,11 +9,11 @@
 // Asks where a report is to be saved.
 class frmReportFile final : public Screen {
 public:
-    // `report` is the report's title, `ending` that of the file, such as "pdf". A name of the title and the
-    // subject, or the day's date if there is no subject, is proposed in the clerk's documents.
+    // `report` is the report's title, `ending` the file's, such as "pdf". It proposes a file in the clerk's
+    // documents, named for the title and the subject, or today's date if the subject is empty.
     frmReportFile(const QString& report, const QString& subject, const QString& ending);
 
-    // The whole path, in a folder that is there; empty if the clerk has thought better of it.
+    // The whole path, in a folder that exists; empty if the clerk left without saving.
     QString FileName;
 
 private:
@@ -36,13 +36,13 @@ class frmReportPrinter final : public Screen {
 public:
     explicit frmReportPrinter(const QStringList& printers);
 
-    // The name of the printer; empty if the clerk has thought better of it.
+    // The name of the printer; empty if the clerk left without choosing.
     QString Chosen;
 
 private:
     Label lblTitle{this, "lblTitle"};
-    MenuList lstPrinters{this, "lstPrinters"};
-    FreshKeys m_keys{*this}; // nothing is printed by a key that was meant for the page
+    MenuList lstPrinters{this, "lstPrinters", &frmReportPrinter::lstPrinters_Chosen};
+    FreshKeys m_keys{*this}; // a key that was meant for the page must not print
 
     void Enter() override { lstPrinters.Choose(); }
     void lstPrinters_Chosen();

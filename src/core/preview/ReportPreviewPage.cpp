@@ -15,9 +15,9 @@ namespace {
 
 constexpr int Margin = 14; // pixels around the page
 constexpr int FrameWidth = 2;
-constexpr int StepsOfView = ReportPageView::StepsOfWindow + 1; // a step is this part of the window
-constexpr double LargestFitted = 2; // a small slip isn't blown up to the width of the window
-constexpr double LongestSide = 16000; // dots of a picture; a roll can be metres long
+constexpr int StepsOfView = ReportPageView::StepsOfWindow + 1; // a step is the window divided by this
+constexpr double LargestFitted = 2; // a small slip isn't enlarged beyond this
+constexpr double LongestSide = 16000; // pixels; the page of a roll can be metres long
 constexpr std::size_t KeptPictures = 3;
 constexpr int Percents[] = {25, 33, 50, 67, 75, 100, 125, 150, 175, 200, 250, 300};
 
@@ -29,7 +29,7 @@ public:
     {
         setFrameShape(QFrame::NoFrame);
         setViewportMargins(FrameWidth, FrameWidth, FrameWidth, FrameWidth);
-        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // the width to fit to must not come and go
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // or the width to fit to would change with it
         for (QScrollBar* bar : {verticalScrollBar(), horizontalScrollBar()})
             bar->setFocusPolicy(Qt::NoFocus);
     }
@@ -94,7 +94,7 @@ public:
 protected:
     void resizeEvent(QResizeEvent*) override { Arrange(); }
 
-    // The mouse turns the wheel; the frame around the view tells where the keys go.
+    // The colour of the frame shows whether keys go to the page.
     bool event(QEvent* event) override
     {
         const bool done = QAbstractScrollArea::event(event);
@@ -136,7 +136,7 @@ private:
         return {page.width, page.height};
     }
 
-    // Pixels a point at the size of the paper.
+    // Pixels for each point at the size of the paper.
     double PaperScale() const { return logicalDpiX() / 72.0; }
 
     double ScaleWanted() const
@@ -158,7 +158,7 @@ private:
         return m_wanted * PaperScale();
     }
 
-    // Gives the page its size on the screen and keeps the middle of the view where it was.
+    // Resizes the page on the screen; the middle of the view stays where it is.
     void Arrange()
     {
         const QSizeF paper = PaperSize();

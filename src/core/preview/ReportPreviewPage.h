@@ -3,11 +3,11 @@
 #include "platform/forms/Control.h"
 #include "platform/report/Report.h"
 
-// One page of a report as it is looked at: fitted to the window or as large as the clerk wants it, with the
-// place of a found text marked.
+// One page of a report on the screen: fitted to the window or at a size that the clerk chose, with the found
+// text marked.
 class ReportPageView final : public Control {
 public:
-    // Best shows the whole page where it can be read so, as that of a slip, and else its width.
+    // Best shows the whole page if it can be read like that, as a slip can, and its whole width otherwise.
     enum class Fit { Best, Width, WholePage, None };
     enum class Edge { Top, Bottom };
 
@@ -23,21 +23,21 @@ public:
     void SetPercent(int percent);
     int Percent() const;
 
-    // The next larger or smaller of the sizes that the eye tells apart.
+    // Goes to the next larger or smaller size.
     void Enlarge();
     void Reduce();
 
-    // Moves the page under the window by so many steps; false if it is at its edge already.
+    // Scrolls by so many steps; false if the page is at its edge already.
     bool Scroll(int right, int down);
 
-    // The steps that show what stood outside of the window, and one line or two of what stood in it.
+    // The steps of a whole window, less a line or two, so that the eye finds its place again.
     static constexpr int StepsOfWindow = 7;
 
-    // Marks a place of the page, in points, and brings it into view; an empty place takes the mark away.
+    // Marks a place of the page, in points, and scrolls to it; an empty place removes the mark.
     void Mark(const QRectF& place);
     QRectF Marked() const;
 
-    // Paints anew what has been laid out further, such as the number of pages.
+    // Repaints the page after more was laid out: it may show the number of pages.
     void Redraw();
 
     // The number of the page, counted from 1.

@@ -15,8 +15,8 @@ QString WithWesternDigits(QString text)
     return text;
 }
 
-// What the typed text can look like on paper. Figures, dates and Latin letters stand there as they are typed;
-// in the system's encoding their signs would be parts of Marathi letters.
+// What the typed text may look like on paper. Figures, dates and Latin letters are printed as they are typed;
+// read in the system's encoding, the same signs are parts of Marathi letters.
 QStringList Readings(const QString& stored)
 {
     const QString seen = Shivaji01::ToUnicode(stored);

@@ -2,6 +2,7 @@
 
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
 #include "platform/shell/AppFolder.h"
 
 namespace {
@@ -28,6 +29,16 @@ std::function<void(const TemplateReport::Run&)>& TemplateReport::Engine()
 void TemplateReport::SetTemplate(QStringView name)
 {
     m_run.fileName = AppFolder.toString() + name;
+}
+
+int TemplateReport::CountRecords(const QString& query) const
+{
+    int count = 0;
+    for (Recordset record(gCn, query); !record.Eof(); record.MoveNext())
+        ++count;
+    if (count == 0)
+        ShowPlain(QStringLiteral("No Records in the Given Crieteria"), m_title);
+    return count;
 }
 
 void TemplateReport::Print()

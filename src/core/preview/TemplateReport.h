@@ -2,8 +2,8 @@
 
 #include "platform/report/ReportControl.h"
 
-// A report of a screen: a template over what the screen has staged, for the eye or on paper. What is set on
-// it stays until it is set anew.
+// A report of a screen: a template, filled from the tables that the screen has staged, in the preview or on
+// paper. Settings stay until they are changed.
 class TemplateReport {
 public:
     TemplateReport() = default;
@@ -18,20 +18,27 @@ public:
     // Narrows the rows of the template's first table; see ReportControl.
     void SetSelectionFormula(const QString& formula) { m_run.formula = formula; }
 
-    // What it is about, as it is read: a file that it is saved in is named after it.
+    // What it is about, in Unicode: the file that it is saved in is named after it.
     void SetSubject(const QString& subject) { m_run.subject = subject; }
 
-    // The window, until it is set.
+    // The title of the box that says that nothing was found, such as "Comparison Statement".
+    void SetTitle(const QString& title) { m_title = title; }
+
+    // Counts the rows that a report will be made of; Progress::Begin wants the number. If there are none, a
+    // box says so, and the screen prints nothing.
+    int CountRecords(const QString& query) const;
+
+    // The window by default.
     void SetDestination(ReportDestination destination) { m_run.destination = destination; }
 
-    // Reads the books and shows it or prints it; without a template yet the clerk is told. A printer that
-    // refuses is told, too; a template that is missing or faulty is a run-time error.
+    // Reads the books and shows or prints the report. If no template is set, or the printer refuses, a box
+    // says so; a template that is missing or faulty is a run-time error.
     void Print();
 
-    // Lets the first printing wait for nothing that can be got ready before it; shows and tells nothing.
+    // Gets ready what the first Print would have to wait for. Shows nothing, not even errors.
     void Prepare() const;
 
-    // What one printing is told, and who prints; a test puts its own in place.
+    // What Print hands to the engine. A test replaces the engine to see it.
     struct Run {
         QString fileName; // by its AppFolder path
         QString logon;
@@ -43,4 +50,5 @@ public:
 
 private:
     Run m_run;
+    QString m_title;
 };

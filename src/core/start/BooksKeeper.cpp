@@ -8,7 +8,7 @@ namespace {
 
 constexpr int RestMilliseconds = 2000;
 
-// A long run of savings without a rest is folded on its way.
+// A long run of saves without a rest is folded in between.
 constexpr qint64 LongestLog = 8LL * 1024 * 1024;
 
 }
@@ -21,7 +21,7 @@ BooksKeeper::BooksKeeper()
         if (!gCn.Fold() && gCn.LogSize() > 0)
             m_rest.start();
     });
-    // A box is answered in the midst of some other screen's work.
+    // A box interrupts the work of a screen that may still be writing.
     ModalStack::Current().SetLeft([](const Screen& screen) {
         if (!dynamic_cast<const BoxScreen*>(&screen))
             gCn.Fold();

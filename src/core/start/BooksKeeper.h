@@ -2,8 +2,8 @@
 
 #include <QTimer>
 
-// Keeps the log beside the books short while it lives, so that the file alone is all but the last seconds of
-// work: what was saved is folded into the file when a screen is left and when the keys have rested for a
+// While it lives, keeps the log beside the books short, so that the file alone holds all but the last seconds
+// of work: what was saved is folded into the file when a screen is left, and when no key was pressed for a
 // while.
 class BooksKeeper {
 public:

@@ -2,13 +2,13 @@
 
 #include <QString>
 
-// Opens gCn with the state's password. After an end without a close, and once a week, every page is read
-// first, behind a line that says so. What the opening has met with or put right is told in plain boxes. Books
-// that can't be used are a run-time error, which names the newest backup if they are damaged.
+// Opens gCn with the state's password. If the books weren't closed properly, and once a week, every page is
+// read first, and a line on the screen says so. Plain boxes tell what the opening found or repaired. Books
+// that can't be used are a run-time error; if they are damaged, it names the newest backup.
 void OpenBooks();
 
-// The next OpenBooks reads every page: the program that had the books last didn't come to its end.
+// Makes the next OpenBooks read every page: the program that had the books last didn't end properly.
 void CheckNextOpening();
 
-// The newest copy of the books in AppFolder's Backup; empty if there is none.
+// The path of the newest copy of the books in AppFolder's Backup; empty if there is none.
 QString NewestBackup();

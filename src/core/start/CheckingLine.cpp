@@ -18,7 +18,7 @@ CheckingLine::CheckingLine() : QWidget(&ProgramWindow::Current())
     show();
     ProgramWindow::Current().Appear();
 
-    // A desktop that never shows it must not hold up the start.
+    // Start-up goes on even on a desktop that never shows it.
     constexpr int longestWait = 500;
     QElapsedTimer waited;
     waited.start();
@@ -28,7 +28,7 @@ CheckingLine::CheckingLine() : QWidget(&ProgramWindow::Current())
     repaint();
 }
 
-// The desktop may size the window once more while it appears.
+// The desktop may resize the window once more while it appears.
 bool CheckingLine::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == parentWidget() && event->type() == QEvent::Resize)

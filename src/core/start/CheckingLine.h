@@ -2,11 +2,11 @@
 
 #include <QWidget>
 
-// The line that stands over the ground of the program's window while every page of the books is read at the
-// start. Nobody answers it.
+// The line of text in the empty program window while every page of the books is read at start-up. It takes no
+// answer.
 class CheckingLine final : public QWidget {
 public:
-    // Returns when it can be seen.
+    // Returns once it is on the screen.
     CheckingLine();
 
 protected:

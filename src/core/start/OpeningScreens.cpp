@@ -13,11 +13,11 @@ namespace {
 constexpr QRgb AcceptColour = qRgb(0x00, 0xFF, 0x00);
 constexpr QRgb RejectColour = qRgb(0xFF, 0x00, 0x00);
 
-// The sign beside the caution, in dots enough for a large window.
+// The sign beside the caution, drawn large enough for the largest window.
 QLabel* CautionSign()
 {
     constexpr int side = 96;
-    constexpr int dots = 4; // for one of its length
+    constexpr int dots = 4; // for each pixel of its side at the smallest size
     QPixmap picture(side * dots, side * dots);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
@@ -41,7 +41,6 @@ QLabel* CautionSign()
 
 frmAbout::frmAbout() : Screen("frmAbout", Shape::Card)
 {
-
     SetTitleLabel(lblTitle);
     SetTitle(Shivaji(u" dUQa saMklana saa^FTvaoAr"));
     for (Label* label : {&lblSystem, &lblVersion})

@@ -78,7 +78,7 @@ int RunProgram()
         return 0;
     } catch (const RunTimeError& error) {
         gCn.Close();
-        ModalStack::Current().Reset(); // the box that tells it is a screen, too
+        ModalStack::Current().Reset(); // the box that shows the error is a screen, too
         ShowPlain(error.Text());
         return 1;
     }

@@ -1,8 +1,8 @@
 #pragma once
 
-// Runs the whole program in the application that stands: makes sure that no second copy works on the books,
-// says so if no Devanagari font is there, and runs AppMain. A run-time error is shown in a plain box.
-// Returns the exit code of the process: 0, or 1 after a failure.
+// Runs the whole program in the application object that exists already: makes sure that no second copy works
+// on the books, says so if there is no Devanagari font, and runs AppMain. A run-time error is shown in a
+// plain box. Returns the exit code of the process: 0, or 1 after a failure.
 int RunProgram();
 
 // From now on plain boxes and prompts are cards of the program's window.

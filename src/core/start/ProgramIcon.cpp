@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int Grid = 16; // the drawing's lines lie on dots at the smallest size
+constexpr int Grid = 16; // at the smallest size every line lies on a pixel
 
 QPainterPath Can()
 {

@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int FieldHeight = 38;
 constexpr int StripMargin = 14;
 constexpr int StripSpacing = 14;
 constexpr int StripHeight = 40;
@@ -205,6 +204,15 @@ QLayout* Layout::ButtonRow(std::initializer_list<Control*> buttons)
     return row;
 }
 
+QLabel* Layout::Text(const Caption& caption, Qt::Alignment align, bool bold)
+{
+    QLabel* label = PlainLabel(caption.Seen().trimmed());
+    label->setAlignment(align | Qt::AlignVCenter);
+    if (bold)
+        label->setFont(Look::Font(Look::Size::Normal, true));
+    return label;
+}
+
 Layout::Form::Form() : m_grid(new QGridLayout)
 {
     m_grid->setHorizontalSpacing(14);
@@ -212,18 +220,11 @@ Layout::Form::Form() : m_grid(new QGridLayout)
     m_grid->setColumnStretch(1, 1);
 }
 
-QWidget* Layout::Form::CaptionLabel(const Caption& caption) const
-{
-    auto* label = PlainLabel(caption.Seen().trimmed());
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    return label;
-}
-
 void Layout::Form::Row(const Caption& caption, Control& field, int width)
 {
     SizeField(field, width);
     field.SetAccessibleName(caption);
-    m_grid->addWidget(CaptionLabel(caption), m_row, 0);
+    m_grid->addWidget(Text(caption, Qt::AlignRight), m_row, 0);
     m_grid->addWidget(field.Widget(), m_row, 1, width > 0 ? Qt::AlignLeft : Qt::Alignment());
     ++m_row;
 }
@@ -239,7 +240,7 @@ void Layout::Form::Row(
         row->addWidget(field->Widget());
     }
     row->addStretch(1);
-    m_grid->addWidget(CaptionLabel(caption), m_row, 0);
+    m_grid->addWidget(Text(caption, Qt::AlignRight), m_row, 0);
     m_grid->addLayout(row, m_row, 1);
     ++m_row;
 }
@@ -247,6 +248,22 @@ void Layout::Form::Row(
 void Layout::Form::Row(Label& label)
 {
     m_grid->addWidget(label.Widget(), m_row++, 0, 1, 2);
+}
+
+QLayout* Layout::InTheMiddle(const Form& form, std::initializer_list<Control*> buttons)
+{
+    constexpr int rowSpacing = 18;
+    form.Grid()->setVerticalSpacing(rowSpacing);
+    auto* middle = new QHBoxLayout;
+    middle->addStretch(1);
+    middle->addLayout(form.Grid());
+    middle->addStretch(1);
+    auto* body = new QVBoxLayout;
+    body->addStretch(1);
+    body->addLayout(middle);
+    body->addStretch(3); // room for the list
+    body->addLayout(ButtonRow(buttons));
+    return body;
 }
 
 void Layout::MakeGuide(Label& label)

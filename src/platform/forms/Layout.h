@@ -17,6 +17,17 @@ struct KeyHint {
 // The parts that every screen is made of, so that all screens look alike.
 namespace Layout {
 
+// The height of a field, and the room between fields that stand freely under one another.
+inline constexpr int FieldHeight = 38;
+inline constexpr int Roomy = 14;
+
+// The widths of a date and of a name that is asked for by itself.
+inline constexpr int DateWidth = 150;
+inline constexpr int NameWidth = 420;
+
+// A text that names something or stands for itself. No '&' in it marks a letter.
+QLabel* Text(const Caption& caption, Qt::Alignment align = Qt::AlignLeft, bool bold = false);
+
 // The band at the top of a screen: its title, and at the right the society and the year.
 QWidget* Header(Label& title, Label& company, Label& year);
 QWidget* Header(Label& title, Label& company);
@@ -49,11 +60,13 @@ public:
     QGridLayout* Grid() const { return m_grid; }
 
 private:
-    QWidget* CaptionLabel(const Caption& caption) const;
-
     QGridLayout* m_grid;
     int m_row = 0;
 };
+
+// What a screen asks for before it goes to work: the form in the middle, with room below it for a list of
+// names that drops down, and the buttons at the foot.
+QLayout* InTheMiddle(const Form& form, std::initializer_list<Control*> buttons);
 
 // Makes a label the guide line: it has the colour of guides, and a long text doesn't widen the screen.
 void MakeGuide(Label& label);

@@ -47,8 +47,10 @@ QListWidget& ListOf(const Control& control)
 
 }
 
-MenuList::MenuList(Screen* screen, const char* name) : Control(screen, name, new WholeRows<QListWidget>)
+MenuList::MenuList(Screen* screen, const char* name, const Handler& chosen)
+    : Control(screen, name, new WholeRows<QListWidget>)
 {
+    Chosen = chosen.On(*screen);
     QListWidget& list = ListOf(*this);
     list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list.setFont(Look::Font(Look::Size::Menu));

@@ -7,7 +7,8 @@
 // A list of entries to choose from, like the menus. The text of the chosen entry tells what it stands for.
 class MenuList : public Control {
 public:
-    MenuList(Screen* screen, const char* name);
+    // `chosen` answers Chosen.
+    MenuList(Screen* screen, const char* name, const Handler& chosen = {});
 
     // The clerk has pressed Enter or double-clicked on the current entry.
     Event Chosen;

@@ -56,6 +56,11 @@ NameCombo::NameCombo(Screen* screen, const char* name, const Handler& lostFocus)
 {
 }
 
+void NameCombo::OpenOnFocus()
+{
+    GotFocus = [] { SendKeys(QStringLiteral("%{Down}")); };
+}
+
 void NameCombo::SetItems(const QStringList& words)
 {
     m_given.clear();

@@ -40,6 +40,9 @@ public:
     bool IsDroppedDown() const { return m_list.IsOpen(); }
     void DropDown(bool open);
 
+    // Lets the list drop open whenever the field takes the focus, as if the clerk had pressed Alt+Down.
+    void OpenOnFocus();
+
     // Replaces the beginning of a name by a name of the list: the same one apart from blanks at its ends, or
     // one that reads the same, or else the first that begins with the text. A text that no name begins with
     // stays.

@@ -56,6 +56,17 @@ TEST_F(DayAtAGlanceTest, TheShiftsOfTheWorkingDayAreSummed)
     });
 }
 
+TEST_F(DayAtAGlanceTest, TheShiftsAreNamedAsTheyAreRead)
+{
+    Menu([](Clerk& clerk) {
+        QStringList named;
+        for (const QLabel* label : clerk.Top().findChildren<QLabel*>())
+            named.append(label->text());
+        EXPECT_TRUE(named.contains(QStringLiteral("सकाळ"))) << named.join(u' ').toStdString();
+        EXPECT_TRUE(named.contains(QStringLiteral("संध्याकाळ"))) << named.join(u' ').toStdString();
+    });
+}
+
 TEST_F(DayAtAGlanceTest, AShiftWithoutMilkHasZeros)
 {
     Menu([](Clerk& clerk) { EXPECT_EQ(Shifts(clerk), "0.000 0.00 0.000 0.00"); });

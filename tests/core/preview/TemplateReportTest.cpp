@@ -49,3 +49,21 @@ TEST_F(TemplateReportTest, WithoutATemplateTheClerkIsToldAndNothingIsPrinted)
     EXPECT_TRUE(Printed.empty());
     EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही.")));
 }
+
+TEST_F(TemplateReportTest, TheRecordsOfAReportAreCountedBeforeItsRun)
+{
+    for (int number : {1, 2, 3})
+        AddMember(number, QStringLiteral("rama"));
+    EXPECT_EQ(TemplateReport().CountRecords(QStringLiteral("select * from MembersMaster")), 3);
+    EXPECT_TRUE(TheBox.Shown.isEmpty());
+}
+
+TEST_F(TemplateReportTest, NoRecordsAreToldUnderTheTitleOfTheReportAndNothingIsPrinted)
+{
+    TemplateReport report(u"MilkSalesComparisonReport.rpt");
+    report.SetTitle(QStringLiteral("Comparison Statement"));
+    EXPECT_EQ(report.CountRecords(QStringLiteral("select * from MilkSales")), 0);
+    EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("No Records in the Given Crieteria")));
+    EXPECT_EQ(TheBox.Titles, QStringList(QStringLiteral("Comparison Statement")));
+    EXPECT_TRUE(Printed.empty());
+}

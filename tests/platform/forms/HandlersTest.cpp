@@ -3,6 +3,7 @@
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/ChoiceCombo.h"
 #include "platform/forms/DateField.h"
+#include "platform/forms/MenuList.h"
 #include "platform/forms/NameCombo.h"
 #include "platform/forms/OptionButton.h"
 
@@ -18,6 +19,8 @@ public:
         auto* column = new QVBoxLayout(this);
         for (Control* control : Controls())
             column->addWidget(control->Widget());
+        lstPlaces.SetEntries({Plain(u"Place")});
+        lstPlaces.SetCurrentIndex(0);
     }
 
     QStringList Answered;
@@ -34,6 +37,9 @@ private:
     OptionButton OptionBoth{this, "OptionBoth", Plain(u"Both"), &Declared::OptionBoth_Click};
     OptionGroup shift{&OptionBoth};
     Button cmdGo{this, "cmdGo", Plain(u"&Go"), &Declared::cmdGo_Click};
+    MenuList lstPlaces{this, "lstPlaces", &Declared::lstPlaces_Chosen};
+
+    void Enter() override { lstPlaces.Choose(); }
 
     void MaskDate_LostFocus() { Answered.append(QStringLiteral("date")); }
     void txtNo_LostFocus() { Answered.append(QStringLiteral("number")); }
@@ -44,6 +50,7 @@ private:
     void CheckRepeat_Click() { Answered.append(QStringLiteral("box")); }
     void OptionBoth_Click() { Answered.append(QStringLiteral("option")); }
     void cmdGo_Click() { Answered.append(QStringLiteral("button")); }
+    void lstPlaces_Chosen() { Answered.append(QStringLiteral("entry")); }
 };
 
 class HandlersTest : public FormsTest { };
@@ -54,9 +61,9 @@ TEST_F(HandlersTest, TheFunctionNamedAtTheDeclarationAnswersTheUsualEventOfItsCo
 {
     Open<Declared>([](Declared&) {},
         [&](Declared& screen) {
-            Type("{TAB}{TAB}{TAB}{TAB}{TAB}{TAB}{TAB} {TAB} {TAB} ");
+            Type("{TAB}{TAB}{TAB}{TAB}{TAB}{TAB}{TAB} {TAB} {TAB} {TAB}{ENTER}");
             EXPECT_EQ(screen.Answered.join(u' ').toStdString(),
-                "date number name text choice list box option button");
+                "date number name text choice list box option button entry");
         });
     EXPECT_FALSE(Failure);
 }

@@ -44,6 +44,20 @@ TEST_F(NameComboTest, AltDownOpensAndAltUpCloses)
     });
 }
 
+TEST_F(NameComboTest, AListThatOpensOnFocusDropsDownAtEachComing)
+{
+    WithNames([&](NameCombo& combo) {
+        Do([&] { combo.OpenOnFocus(); });
+        EXPECT_FALSE(combo.IsDroppedDown());
+        Type("{TAB}+{TAB}");
+        EXPECT_TRUE(combo.IsDroppedDown());
+        Type("sa{ENTER}");
+        EXPECT_EQ(Text(combo), "sakaarama");
+        Type("+{TAB}");
+        EXPECT_TRUE(combo.IsDroppedDown());
+    });
+}
+
 TEST_F(NameComboTest, DownAndUpWalkTheListFromTheField)
 {
     WithNames([&](NameCombo& combo) {
