@@ -42,7 +42,6 @@ frmReportMembersList::frmReportMembersList() : SocietyScreen(KeyPlaces(), Shivaj
 {
     When(ComboArea.GotFocus, &frmReportMembersList::ComboArea_GotFocus);
     ComboArea.SetGuide(Plain(u"रिकामे ठेवल्यास सर्व विभाग"));
-    ComboArea.Accepts = [](QChar c) { return c != u'\''; };
     LayOut();
 }
 

@@ -77,13 +77,22 @@ TEST_F(MembersListTest, AnAreaHoldsItsMembersInAnySpelling)
     EXPECT_EQ(Staged("%2{ENTER}vaaru%i"), "Area|vaa$|5|saIta|vaa$|gaaya Area|vaa$|4|rama|vaaru|gaaya");
 }
 
-TEST_F(MembersListTest, ApostrophesAreDroppedFromTheArea)
+TEST_F(MembersListTest, AnApostropheInTheAreaFailsTheListAndNothingIsStaged)
 {
-    On<frmReportMembersList>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%2{ENTER}k'r"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboArea")), QStringLiteral("kr"));
-    });
-    EXPECT_EQ(Staged("%2{ENTER}'kraD'%i"), "Area|kraD|1|Anata|kraD|gaaya");
+    const QStringList before = Rows(QStringLiteral("select * from MembersListReport"));
+    for (const char* area : {"kr'aD", "kraD'' or ''a''=''a"}) {
+        On<frmReportMembersList>([area](Clerk& clerk) {
+            clerk.Type(QStringLiteral("%2{ENTER}") + QString::fromLatin1(area));
+            EXPECT_EQ(clerk.Reads(QStringLiteral("ComboArea")), QString::fromLatin1(area));
+            clerk.Type(QStringLiteral("%i"));
+            EXPECT_EQ(clerk.ScreenName(), QString());
+        });
+        ASSERT_TRUE(Failure) << area;
+        EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
+        EXPECT_TRUE(Failure->Statement().contains(QString::fromLatin1(area))) << Failure->what();
+        EXPECT_EQ(Rows(QStringLiteral("select * from MembersListReport")), before);
+        EXPECT_TRUE(TheWindow.Shown.empty());
+    }
 }
 
 TEST_F(MembersListTest, AllAreasHoldEachMemberUnderItsOwn)

@@ -68,11 +68,10 @@ public:
     void Refresh();
 
     // Lets the clerk edit the rows in place, and add new ones in an empty row below the last. The format of a
-    // column says what can be typed there: numbers, dates, or a text without an apostrophe. A letter or
-    // figure begins a cell anew, Backspace goes on with what stands there; Enter takes it and goes on to the
-    // next cell, Esc gives the row back as it was. A row is written when it is left, or the grid is: the grid
-    // has its own LostFocus then, and the screen none. Where nothing was typed into the empty row, Enter is
-    // the screen's.
+    // column says what can be typed there: numbers, dates, or a text. A letter or figure begins a cell anew,
+    // Backspace goes on with what stands there; Enter takes it and goes on to the next cell, Esc gives the
+    // row back as it was. A row is written when it is left, or the grid is: the grid has its own LostFocus
+    // then, and the screen none. Where nothing was typed into the empty row, Enter is the screen's.
     void Edit(Editing editing);
 
     // Writes the row that the clerk is in, if he has typed into it. Returns false if the screen has refused
