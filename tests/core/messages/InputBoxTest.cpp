@@ -93,3 +93,14 @@ TEST_F(InputBoxTest, KeysThatWereTypedAheadOfItAreThrownAway)
     QueueKeys(QStringLiteral("{ENTER}").repeated(5));
     Answer([](Clerk& clerk) { EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmInputBox")); });
 }
+
+TEST_F(InputBoxTest, AWordThatAnInputMethodWroteAheadOfItIsThrownAwayToo)
+{
+    QueueComposed(QStringLiteral("कराड"));
+    const QString answer = Answer([](Clerk& clerk) {
+        EXPECT_EQ(clerk.Reads(QStringLiteral("txtAnswer")), QStringLiteral("Backup"));
+        clerk.Do([] { QueueComposed(QStringLiteral("मसूर")); });
+        clerk.Type(QStringLiteral("{ENTER}"));
+    });
+    EXPECT_EQ(answer, QStringLiteral("मसूर"));
+}
