@@ -3,28 +3,24 @@
 #include "tests/journeys/EveryScreen.h"
 #include "tests/journeys/Actions.h"
 #include "tests/journeys/ProgramTest.h"
+#include "tests/support/FakePrinter.h"
 
 #include "core/menu/Keys.h"
 #include "core/menu/ScreenDirectory.h"
 #include "core/preview/ReportHandover.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/CheckBox.h"
+#include "platform/forms/ChoiceCombo.h"
 #include "platform/forms/NameCombo.h"
 #include "platform/forms/OptionButton.h"
 
 #include <QLabel>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <set>
 
 namespace {
-
-// Printers to choose from.
-class TwoPrinters final : public Printer {
-public:
-    QStringList Names() override { return {QStringLiteral("Office"), QStringLiteral("Store")}; }
-    Outcome Print(const PrintJob&) override { return {}; }
-};
 
 class EveryScreenTest : public ProgramTest, public ::testing::WithParamInterface<ScreenState> {
 protected:
@@ -40,7 +36,8 @@ protected:
     }
 
 private:
-    ReportHandover m_handover{std::make_unique<TwoPrinters>()};
+    ReportHandover m_handover{
+        std::make_unique<FakePrinter>(QStringList{QStringLiteral("Office"), QStringLiteral("Store")})};
 };
 
 std::string NameOf(const ::testing::TestParamInfo<ScreenState>& info)

@@ -113,7 +113,7 @@ TEST_F(PaymentListTest, AnAccountNumberOfEighteenFiguresStandsWholeOnOneLine)
     }
     const QString pdf = FolderFile(QStringLiteral("read.pdf"));
     EXPECT_TRUE(report.SavePdf(pdf).Done());
-    EXPECT_TRUE(Words(PdfText(pdf)).contains(number));
+    EXPECT_TRUE(WordsOf(PdfText(pdf)).contains(number));
 }
 
 TEST(PaymentListFormula, DayAndMonthGoIntoTheFormulaWithoutTheirNoughts)

@@ -83,10 +83,10 @@ protected:
     {
         const QString pdf = FolderFile(QStringLiteral("read.pdf"));
         ASSERT_EQ(report.SavePdf(pdf).fault, QString());
-        QStringList placed = Words(ReportTexts().join(u' '));
+        QStringList placed = WordsOf(ReportTexts().join(u' '));
         placed.sort();
         for (const QStringList& way : {QStringList(), QStringList(QStringLiteral("-layout"))}) {
-            QStringList words = Words(PdfText(pdf, way));
+            QStringList words = WordsOf(PdfText(pdf, way));
             words.sort();
             EXPECT_TRUE(words == placed) << Difference(placed, words) << way.join(u' ').toStdString();
         }

@@ -5,23 +5,6 @@
 #include "tests/core/preview/ReportPreviewTest.h"
 
 #include <QFile>
-#include <QProcess>
-
-Outcome FakePrinter::Print(const PrintJob& job)
-{
-    Jobs.push_back(job);
-    Printed.append(PdfText(job.file));
-    return Answer;
-}
-
-QString PdfText(const QString& file)
-{
-    QProcess reader;
-    reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), file, QStringLiteral("-")});
-    EXPECT_TRUE(reader.waitForFinished());
-    EXPECT_EQ(reader.exitCode(), 0) << reader.readAllStandardError().toStdString();
-    return QString::fromUtf8(reader.readAllStandardOutput());
-}
 
 ReportPreviewTest::ReportPreviewTest()
 {
