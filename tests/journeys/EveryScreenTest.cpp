@@ -128,6 +128,39 @@ TEST_P(EveryScreenTest, ItsKeysAreNamedInTheListOrInTheGuide)
     });
 }
 
+// What a list of fixed words answers, tried key by key: its guide names each digit with its word, and the
+// list of keys that there are digits and how the list opens.
+TEST_P(EveryScreenTest, TheKeysOfItsFixedWordsAreNamed)
+{
+    OnIt([](Clerk& clerk) {
+        const QString named = KeysNamedOn(clerk.ScreenName());
+        for (Control* control : clerk.Top().Controls()) {
+            const auto* combo = dynamic_cast<ChoiceCombo*>(control);
+            if (!combo || !combo->CanTakeFocus())
+                continue;
+            const std::string name = combo->Name().toStdString();
+            clerk.Do([&] { control->SetFocus(); });
+            ASSERT_EQ(Focus(clerk), name);
+            Type(clerk, "{BS}");
+            if (!combo->IsEmpty())
+                continue; // it is for the mouse only
+            for (int digit = 1; digit <= 9; ++digit) {
+                clerk.Type(QStringLiteral("{BS}%1").arg(digit));
+                if (combo->IsEmpty())
+                    continue;
+                const QRegularExpression told(QStringLiteral("%1:?–").arg(QChar(u'०' + digit)));
+                EXPECT_TRUE(combo->Guide().Seen().contains(told))
+                    << digit << " at " << name << ": " << qPrintable(combo->Guide().Seen());
+                EXPECT_TRUE(named.contains(u" 1 ")) << digit << " at " << name;
+            }
+            Type(clerk, "%{DOWN}");
+            EXPECT_TRUE(combo->IsDroppedDown()) << name;
+            EXPECT_TRUE(named.contains(u" Alt+↓ ")) << name;
+            Type(clerk, "{ESC}1"); // with a word it can be left
+        }
+    });
+}
+
 // Where a field keeps the focus without a message
 
 class WantedOnEveryScreenTest : public ProgramTest {
