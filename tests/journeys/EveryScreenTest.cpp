@@ -14,7 +14,6 @@
 #include "platform/forms/NameCombo.h"
 #include "platform/forms/OptionButton.h"
 
-#include <QLabel>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -177,9 +176,7 @@ protected:
             if (clerk.ScreenName() == u"frmMessages")
                 Type(clerk, "{ENTER}");
             EXPECT_EQ(Focus(clerk), focus) << screen << ' ' << keys;
-            const auto* label = clerk.Top().findChild<QLabel*>(QString::fromLatin1(guideLabel));
-            ASSERT_NE(label, nullptr) << screen;
-            EXPECT_EQ(label->text().toStdString(), guide) << screen << ' ' << keys;
+            EXPECT_EQ(Label(clerk, guideLabel), guide) << screen << ' ' << keys;
         });
     }
 };

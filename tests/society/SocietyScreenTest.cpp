@@ -4,7 +4,6 @@
 #include "platform/forms/Field.h"
 #include "society/SocietyScreen.h"
 
-#include <QLabel>
 #include <QVBoxLayout>
 
 namespace {
@@ -62,23 +61,17 @@ private:
     WholeField txtMemberNo{this, "txtMemberNo"};
 };
 
-class SocietyScreenTest : public SocietyTest {
-protected:
-    static std::string LabelOf(const Clerk& clerk, const char* name)
-    {
-        return clerk.Top().findChild<QLabel*>(QLatin1String(name))->text().toStdString();
-    }
-};
+using SocietyScreenTest = SocietyTest;
 
 }
 
 TEST_F(SocietyScreenTest, ItsBandHasTheTitleTheSocietyAndTheYearAndItsLineTheGuideOfTheField)
 {
     On<frmProbe>([](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblTitle"), "मेम्बर यादी");
-        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), "श्री गणेश दूध संस्था");
-        EXPECT_EQ(LabelOf(clerk, "lblAcYear"), "2026-2027");
-        EXPECT_EQ(LabelOf(clerk, "lblFooter"), "F3 : the field's own    ↑ : up");
+        EXPECT_EQ(Label(clerk, "lblTitle"), "मेम्बर यादी");
+        EXPECT_EQ(Label(clerk, "lblCompanyTitle"), "श्री गणेश दूध संस्था");
+        EXPECT_EQ(Label(clerk, "lblAcYear"), "2026-2027");
+        EXPECT_EQ(Label(clerk, "lblFooter"), "F3 : the field's own    ↑ : up");
     });
     EXPECT_FALSE(Failure);
 }
@@ -87,8 +80,8 @@ TEST_F(SocietyScreenTest, WithoutACompanyTheBandHasTheTitleAlone)
 {
     Run(QStringLiteral("delete * from CompanySelected"));
     On<frmProbe>([](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), "");
-        EXPECT_EQ(LabelOf(clerk, "lblAcYear"), "");
+        EXPECT_EQ(Label(clerk, "lblCompanyTitle"), "");
+        EXPECT_EQ(Label(clerk, "lblAcYear"), "");
     });
     EXPECT_FALSE(Failure);
 }
