@@ -8,9 +8,9 @@ const QString Doubled = QStringLiteral("x'' or ''a''=''a");
 const QString Single = QStringLiteral("x' or 'a'='a");
 
 // Three members, each with an entry in every table that knows members by number or by name.
-class MembersApostrophe : public MembersTest {
+class MembersApostropheTest : public MembersTest {
 protected:
-    MembersApostrophe()
+    MembersApostropheTest()
     {
         int number = 0;
         for (const QString& name :
@@ -53,7 +53,7 @@ protected:
     }
 };
 
-TEST_F(MembersApostrophe, NoNewMemberIsStoredUnderSuchAName)
+TEST_F(MembersApostropheTest, NoNewMemberIsStoredUnderSuchAName)
 {
     for (const QString& name : {Doubled, Single}) {
         const QStringList before = Books();
@@ -66,7 +66,7 @@ TEST_F(MembersApostrophe, NoNewMemberIsStoredUnderSuchAName)
     }
 }
 
-TEST_F(MembersApostrophe, NoMemberIsRenamedToSuchAName)
+TEST_F(MembersApostropheTest, NoMemberIsRenamedToSuchAName)
 {
     const QStringList before = Books();
     Play([](Clerk& clerk) {
@@ -76,7 +76,7 @@ TEST_F(MembersApostrophe, NoMemberIsRenamedToSuchAName)
     ExpectFailureAndBooks(before);
 }
 
-TEST_F(MembersApostrophe, AMemberWhoIsStoredSoIsRenamedNowhere)
+TEST_F(MembersApostropheTest, AMemberWhoIsStoredSoIsRenamedNowhere)
 {
     StoreName(1, Single);
     const QStringList before = Books();
@@ -87,7 +87,7 @@ TEST_F(MembersApostrophe, AMemberWhoIsStoredSoIsRenamedNowhere)
     ExpectFailureAndBooks(before);
 }
 
-TEST_F(MembersApostrophe, TheDeletionOfAMemberWhoIsStoredSoTakesNobodysVouchers)
+TEST_F(MembersApostropheTest, TheDeletionOfAMemberWhoIsStoredSoTakesNobodysVouchers)
 {
     StoreName(1, Single);
     const QStringList before = Books();
@@ -95,7 +95,7 @@ TEST_F(MembersApostrophe, TheDeletionOfAMemberWhoIsStoredSoTakesNobodysVouchers)
     ExpectFailureAndBooks(before);
 }
 
-TEST_F(MembersApostrophe, NoVillageIsAddedUnderSuchAName)
+TEST_F(MembersApostropheTest, NoVillageIsAddedUnderSuchAName)
 {
     const QStringList before = Books();
     Play([](Clerk& clerk) {

@@ -4,9 +4,9 @@
 
 namespace {
 
-class MembersDelete : public MembersTest {
+class MembersDeleteTest : public MembersTest {
 protected:
-    MembersDelete()
+    MembersDeleteTest()
     {
         AddMember(1, QStringLiteral("rama"));
         AddMember(2, QStringLiteral("Xyaama"));
@@ -38,7 +38,7 @@ const QString DeleteQuestion =
 
 }
 
-TEST_F(MembersDelete, AFoundNumberShowsTheMemberAndWaitsOnTheDeleteButton)
+TEST_F(MembersDeleteTest, AFoundNumberShowsTheMemberAndWaitsOnTheDeleteButton)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("%k2{ENTER}"));
@@ -48,7 +48,7 @@ TEST_F(MembersDelete, AFoundNumberShowsTheMemberAndWaitsOnTheDeleteButton)
     });
 }
 
-TEST_F(MembersDelete, AFoundNameDoesTheSame)
+TEST_F(MembersDeleteTest, AFoundNameDoesTheSame)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("%k{ENTER}Xyaama{ENTER}"));
@@ -57,7 +57,7 @@ TEST_F(MembersDelete, AFoundNameDoesTheSame)
     });
 }
 
-TEST_F(MembersDelete, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedIsTheOne)
+TEST_F(MembersDeleteTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedIsTheOne)
 {
     AddMember(12, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
@@ -67,7 +67,7 @@ TEST_F(MembersDelete, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedIsTheOne)
     });
 }
 
-TEST_F(MembersDelete, AnUnknownNumberIsRefusedWithANotice)
+TEST_F(MembersDeleteTest, AnUnknownNumberIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("%k3{ENTER}"));
@@ -76,7 +76,7 @@ TEST_F(MembersDelete, AnUnknownNumberIsRefusedWithANotice)
     });
 }
 
-TEST_F(MembersDelete, AnUnknownNameWithoutANumberHoldsTheFocus)
+TEST_F(MembersDeleteTest, AnUnknownNameWithoutANumberHoldsTheFocus)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("%k{ENTER}gaNaoXa{ENTER}"));
@@ -85,7 +85,7 @@ TEST_F(MembersDelete, AnUnknownNameWithoutANumberHoldsTheFocus)
     });
 }
 
-TEST_F(MembersDelete, WithoutANumberThePressGoesBackToIt)
+TEST_F(MembersDeleteTest, WithoutANumberThePressGoesBackToIt)
 {
     const QStringList before = RowCounts();
     Play([](Clerk& clerk) {
@@ -97,7 +97,7 @@ TEST_F(MembersDelete, WithoutANumberThePressGoesBackToIt)
     EXPECT_EQ(RowCounts(), before);
 }
 
-TEST_F(MembersDelete, AnEnterTooManyDeletesNothing)
+TEST_F(MembersDeleteTest, AnEnterTooManyDeletesNothing)
 {
     const QStringList before = RowCounts();
     Play([](Clerk& clerk) {
@@ -109,7 +109,7 @@ TEST_F(MembersDelete, AnEnterTooManyDeletesNothing)
     EXPECT_EQ(RowCounts(), before);
 }
 
-TEST_F(MembersDelete, YesTakesTheMemberOutOfAllSevenTables)
+TEST_F(MembersDeleteTest, YesTakesTheMemberOutOfAllSevenTables)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}"));
@@ -125,7 +125,7 @@ TEST_F(MembersDelete, YesTakesTheMemberOutOfAllSevenTables)
             << table;
 }
 
-TEST_F(MembersDelete, VouchersOfTheNameGoWhateverTheirOtherSide)
+TEST_F(MembersDeleteTest, VouchersOfTheNameGoWhateverTheirOtherSide)
 {
     AddVoucher(QStringLiteral("rama"), QStringLiteral("Xyaama"));
     AddVoucher(QStringLiteral("Xyaama"), QStringLiteral("rama"));
@@ -134,7 +134,7 @@ TEST_F(MembersDelete, VouchersOfTheNameGoWhateverTheirOtherSide)
         QStringLiteral("Xyaama|raoK raoK|Xyaama"));
 }
 
-TEST_F(MembersDelete, RowsOfAnotherCompanyStay)
+TEST_F(MembersDeleteTest, RowsOfAnotherCompanyStay)
 {
     AddCollection(1, QStringLiteral("rama"), 10, 2);
     AddVoucher(QStringLiteral("rama"), QStringLiteral("raoK"), 2);
@@ -142,7 +142,7 @@ TEST_F(MembersDelete, RowsOfAnotherCompanyStay)
     EXPECT_EQ(RowCounts().join(u' '), QStringLiteral("1 2 1 3 1 1 1"));
 }
 
-TEST_F(MembersDelete, NoKeepsTheRecord)
+TEST_F(MembersDeleteTest, NoKeepsTheRecord)
 {
     const QStringList before = RowCounts();
     Play([](Clerk& clerk) {
@@ -153,7 +153,7 @@ TEST_F(MembersDelete, NoKeepsTheRecord)
     EXPECT_EQ(RowCounts(), before);
 }
 
-TEST_F(MembersDelete, AFailureInTheLastTableKeepsTheRowsOfAllOthers)
+TEST_F(MembersDeleteTest, AFailureInTheLastTableKeepsTheRowsOfAllOthers)
 {
     gCn.RunScript(QStringLiteral("drop table MilkPaymentsDetails"));
     Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h")); });
@@ -167,7 +167,7 @@ TEST_F(MembersDelete, AFailureInTheLastTableKeepsTheRowsOfAllOthers)
     EXPECT_EQ(One(QStringLiteral("select count(*) from TransactionsMaster")), QStringLiteral("4"));
 }
 
-TEST_F(MembersDelete, AfterTheLastMemberOnlyNewIsLeftAndHasTheFocus)
+TEST_F(MembersDeleteTest, AfterTheLastMemberOnlyNewIsLeftAndHasTheFocus)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h"));

@@ -2,7 +2,7 @@
 
 namespace {
 
-class MembersFields : public MembersTest {
+class MembersFieldsTest : public MembersTest {
 protected:
     // A new member on its way, with the focus on the field; only fields that any keys lead to.
     void OnField(const QString& field, const std::function<void(Clerk&)>& script)
@@ -48,7 +48,7 @@ QString GuideOf(Clerk& clerk, const QString& field)
 
 }
 
-TEST_F(MembersFields, EachFieldHasItsGuide)
+TEST_F(MembersFieldsTest, EachFieldHasItsGuide)
 {
     Play([](Clerk& clerk) {
         EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtAnimal")),
@@ -64,7 +64,7 @@ TEST_F(MembersFields, EachFieldHasItsGuide)
     });
 }
 
-TEST_F(MembersFields, TheGuideOfTheOpeningBalanceNamesTheFirstDayOfTheYear)
+TEST_F(MembersFieldsTest, TheGuideOfTheOpeningBalanceNamesTheFirstDayOfTheYear)
 {
     Run(QStringLiteral("update CompanySelected set FromDate='02/04/2025'"));
     Play([](Clerk& clerk) {
@@ -73,7 +73,7 @@ TEST_F(MembersFields, TheGuideOfTheOpeningBalanceNamesTheFirstDayOfTheYear)
     });
 }
 
-TEST_F(MembersFields, ADigitPutsTheWordInPlaceAndStaysThere)
+TEST_F(MembersFieldsTest, ADigitPutsTheWordInPlaceAndStaysThere)
 {
     OnField(QStringLiteral("txtAnimal"), [](Clerk& clerk) {
         const QStringList words = {
@@ -88,7 +88,7 @@ TEST_F(MembersFields, ADigitPutsTheWordInPlaceAndStaysThere)
     });
 }
 
-TEST_F(MembersFields, AnEmptyAnimalAndAnEmptyPaymentTypeHoldTheFocusInSilence)
+TEST_F(MembersFieldsTest, AnEmptyAnimalAndAnEmptyPaymentTypeHoldTheFocusInSilence)
 {
     OnField(QStringLiteral("txtAnimal"), [](Clerk& clerk) {
         clerk.Type(QStringLiteral("{BS}{ENTER}"));
@@ -99,7 +99,7 @@ TEST_F(MembersFields, AnEmptyAnimalAndAnEmptyPaymentTypeHoldTheFocusInSilence)
     });
 }
 
-TEST_F(MembersFields, TheAnimalOpensItsOwnFiguresOnly)
+TEST_F(MembersFieldsTest, TheAnimalOpensItsOwnFiguresOnly)
 {
     OnField(QStringLiteral("txtAnimal"), [](Clerk& clerk) {
         const auto expect = [&clerk](const QString& key, bool cow, bool buffalo) {
@@ -116,7 +116,7 @@ TEST_F(MembersFields, TheAnimalOpensItsOwnFiguresOnly)
     });
 }
 
-TEST_F(MembersFields, BankShowsTheBankFieldsAndGoesOnThere)
+TEST_F(MembersFieldsTest, BankShowsTheBankFieldsAndGoesOnThere)
 {
     OnField(QStringLiteral("txtPaymentType"), [](Clerk& clerk) {
         EXPECT_FALSE(clerk.CanEnter(QStringLiteral("ComboBankName")));
@@ -126,7 +126,7 @@ TEST_F(MembersFields, BankShowsTheBankFieldsAndGoesOnThere)
     });
 }
 
-TEST_F(MembersFields, CashEmptiesAndHidesTheBankFields)
+TEST_F(MembersFieldsTest, CashEmptiesAndHidesTheBankFields)
 {
     AddMember(1, QStringLiteral("rama"));
     Run(QStringLiteral("update MembersMaster set PaymentType='ba^nk',BankName='sTuT',BankAccountNo='47'"));
@@ -142,7 +142,7 @@ TEST_F(MembersFields, CashEmptiesAndHidesTheBankFields)
         QStringList{QStringLiteral("raoK||")});
 }
 
-TEST_F(MembersFields, AnEmptyAccountNumberNeverHoldsTheClerkUp)
+TEST_F(MembersFieldsTest, AnEmptyAccountNumberNeverHoldsTheClerkUp)
 {
     OnField(QStringLiteral("txtPaymentType"), [](Clerk& clerk) {
         clerk.Type(QStringLiteral("2{ENTER}{ENTER}{ENTER}"));
@@ -152,7 +152,7 @@ TEST_F(MembersFields, AnEmptyAccountNumberNeverHoldsTheClerkUp)
     });
 }
 
-TEST_F(MembersFields, AKnownCityPassesWhateverItsBlanks)
+TEST_F(MembersFieldsTest, AKnownCityPassesWhateverItsBlanks)
 {
     Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,' Kod ')"));
     OnField(QStringLiteral("ComboCity"), [](Clerk& clerk) {
@@ -164,7 +164,7 @@ TEST_F(MembersFields, AKnownCityPassesWhateverItsBlanks)
     EXPECT_TRUE(CitiesAdded().isEmpty());
 }
 
-TEST_F(MembersFields, ANewCityIsAddedOnYesAndStandsOnTheList)
+TEST_F(MembersFieldsTest, ANewCityIsAddedOnYesAndStandsOnTheList)
 {
     OnField(QStringLiteral("ComboCity"), [](Clerk& clerk) {
         clerk.Type(QStringLiteral("Kod{ENTER}"));
@@ -177,7 +177,7 @@ TEST_F(MembersFields, ANewCityIsAddedOnYesAndStandsOnTheList)
     EXPECT_EQ(CitiesAdded(), QStringList{QStringLiteral("1|Kod")});
 }
 
-TEST_F(MembersFields, ANewCityStaysOutOnNoAndTheFocusStays)
+TEST_F(MembersFieldsTest, ANewCityStaysOutOnNoAndTheFocusStays)
 {
     OnField(QStringLiteral("ComboCity"), [](Clerk& clerk) {
         clerk.Type(QStringLiteral("Kod{ENTER}%n"));
@@ -186,7 +186,7 @@ TEST_F(MembersFields, ANewCityStaysOutOnNoAndTheFocusStays)
     EXPECT_TRUE(CitiesAdded().isEmpty());
 }
 
-TEST_F(MembersFields, ACityOfAnotherCompanyIsNewHere)
+TEST_F(MembersFieldsTest, ACityOfAnotherCompanyIsNewHere)
 {
     Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(2,'Kod')"));
     OnField(QStringLiteral("ComboCity"), [](Clerk& clerk) {
@@ -196,7 +196,7 @@ TEST_F(MembersFields, ACityOfAnotherCompanyIsNewHere)
     });
 }
 
-TEST_F(MembersFields, ANewBankIsAddedOnYesAndStaysOutOnNo)
+TEST_F(MembersFieldsTest, ANewBankIsAddedOnYesAndStaysOutOnNo)
 {
     OnField(QStringLiteral("txtPaymentType"), [](Clerk& clerk) {
         clerk.Type(QStringLiteral("2{ENTER}sTuT{ENTER}"));
@@ -211,7 +211,7 @@ TEST_F(MembersFields, ANewBankIsAddedOnYesAndStaysOutOnNo)
     EXPECT_EQ(BanksAdded(), QStringList{QStringLiteral("1|sTuT")});
 }
 
-TEST_F(MembersFields, LettersAreDroppedInNumbersAndTheirTextTakesItsPattern)
+TEST_F(MembersFieldsTest, LettersAreDroppedInNumbersAndTheirTextTakesItsPattern)
 {
     OnField(QStringLiteral("txtOpeningBalance"), [](Clerk& clerk) {
         clerk.Type(QStringLiteral("a1x2-.5{ENTER}"));
@@ -227,7 +227,7 @@ TEST_F(MembersFields, LettersAreDroppedInNumbersAndTheirTextTakesItsPattern)
     });
 }
 
-TEST_F(MembersFields, AnEmptyDirectionTakesPayable)
+TEST_F(MembersFieldsTest, AnEmptyDirectionTakesPayable)
 {
     OnField(QStringLiteral("txtOpeningDorC"), [](Clerk& clerk) {
         clerk.Type(QStringLiteral("2"));
@@ -237,7 +237,7 @@ TEST_F(MembersFields, AnEmptyDirectionTakesPayable)
     });
 }
 
-TEST_F(MembersFields, TheLastFieldOfTheAnimalLeadsToTheSaveButton)
+TEST_F(MembersFieldsTest, TheLastFieldOfTheAnimalLeadsToTheSaveButton)
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("rama"), QStringLiteral("1"));
@@ -256,7 +256,7 @@ TEST_F(MembersFields, TheLastFieldOfTheAnimalLeadsToTheSaveButton)
     });
 }
 
-TEST_F(MembersFields, DevanagariFromAnInputMethodIsWrittenAsTheSystemSpellsIt)
+TEST_F(MembersFieldsTest, DevanagariFromAnInputMethodIsWrittenAsTheSystemSpellsIt)
 {
     const QString seen = QStringLiteral("शिंदे वाडा");
     OnField(QStringLiteral("txtAddress"), [&](Clerk& clerk) {
@@ -272,7 +272,7 @@ TEST_F(MembersFields, DevanagariFromAnInputMethodIsWrittenAsTheSystemSpellsIt)
     EXPECT_EQ(Seen(stored), seen);
 }
 
-TEST_F(MembersFields, ATownThatReadsLikeOneOfTheListIsNotAskedFor)
+TEST_F(MembersFieldsTest, ATownThatReadsLikeOneOfTheListIsNotAskedFor)
 {
     Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'maa$tI')"));
     Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(2,'saata$')"));

@@ -2,7 +2,7 @@
 
 namespace {
 
-using MembersModes = MembersTest;
+using MembersModesTest = MembersTest;
 
 const QStringList EntryFields = {QStringLiteral("txtMemberNo"), QStringLiteral("ComboMemberName"),
     QStringLiteral("txtAddress"), QStringLiteral("ComboCity"), QStringLiteral("txtAnimal"),
@@ -41,7 +41,7 @@ void ExpectIdle(const Clerk& clerk)
 
 }
 
-TEST_F(MembersModes, OpensIdleWithItsFieldsClosedAndTheFocusOnNew)
+TEST_F(MembersModesTest, OpensIdleWithItsFieldsClosedAndTheFocusOnNew)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
@@ -53,7 +53,7 @@ TEST_F(MembersModes, OpensIdleWithItsFieldsClosedAndTheFocusOnNew)
     });
 }
 
-TEST_F(MembersModes, TheFieldsOpenWithTheirEmptyValues)
+TEST_F(MembersModesTest, TheFieldsOpenWithTheirEmptyValues)
 {
     Play([](Clerk& clerk) {
         for (const char* name : {"txtMemberNo", "ComboMemberName", "txtAddress", "ComboCity", "txtAnimal",
@@ -70,7 +70,7 @@ TEST_F(MembersModes, TheFieldsOpenWithTheirEmptyValues)
     });
 }
 
-TEST_F(MembersModes, WithoutAnyMemberOnlyNewAndExitAreOpen)
+TEST_F(MembersModesTest, WithoutAnyMemberOnlyNewAndExitAreOpen)
 {
     Play([](Clerk& clerk) {
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdExit"));
@@ -81,7 +81,7 @@ TEST_F(MembersModes, WithoutAnyMemberOnlyNewAndExitAreOpen)
     });
 }
 
-TEST_F(MembersModes, NewOpensAllFieldsAndLeavesOnlySaveAndCancelToPress)
+TEST_F(MembersModesTest, NewOpensAllFieldsAndLeavesOnlySaveAndCancelToPress)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
@@ -94,7 +94,7 @@ TEST_F(MembersModes, NewOpensAllFieldsAndLeavesOnlySaveAndCancelToPress)
     });
 }
 
-TEST_F(MembersModes, ModifyOpensAllFieldsWithTheNumberEmpty)
+TEST_F(MembersModesTest, ModifyOpensAllFieldsWithTheNumberEmpty)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
@@ -108,7 +108,7 @@ TEST_F(MembersModes, ModifyOpensAllFieldsWithTheNumberEmpty)
     });
 }
 
-TEST_F(MembersModes, DeleteOpensOnlyTheNumberAndTheName)
+TEST_F(MembersModesTest, DeleteOpensOnlyTheNumberAndTheName)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
@@ -122,7 +122,7 @@ TEST_F(MembersModes, DeleteOpensOnlyTheNumberAndTheName)
     });
 }
 
-TEST_F(MembersModes, CancelByMouseFromAnInvalidFieldShowsNothingAndReturnsToIdle)
+TEST_F(MembersModesTest, CancelByMouseFromAnInvalidFieldShowsNothingAndReturnsToIdle)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
@@ -137,7 +137,7 @@ TEST_F(MembersModes, CancelByMouseFromAnInvalidFieldShowsNothingAndReturnsToIdle
     });
 }
 
-TEST_F(MembersModes, CancelByItsKeyChecksTheFieldFirstAndIsPressedWhateverItSays)
+TEST_F(MembersModesTest, CancelByItsKeyChecksTheFieldFirstAndIsPressedWhateverItSays)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
@@ -149,7 +149,7 @@ TEST_F(MembersModes, CancelByItsKeyChecksTheFieldFirstAndIsPressedWhateverItSays
     });
 }
 
-TEST_F(MembersModes, CancelHidesTheBankFields)
+TEST_F(MembersModesTest, CancelHidesTheBankFields)
 {
     AddMember(1, QStringLiteral("rama"));
     Run(QStringLiteral("update MembersMaster set PaymentType='ba^nk',BankName='sTuT'"));
@@ -162,7 +162,7 @@ TEST_F(MembersModes, CancelHidesTheBankFields)
     });
 }
 
-TEST_F(MembersModes, EscOnAnInvalidFieldClosesWithoutAMessage)
+TEST_F(MembersModesTest, EscOnAnInvalidFieldClosesWithoutAMessage)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
@@ -173,7 +173,7 @@ TEST_F(MembersModes, EscOnAnInvalidFieldClosesWithoutAMessage)
     EXPECT_EQ(One(QStringLiteral("select count(*) from MembersMaster")), QStringLiteral("1"));
 }
 
-TEST_F(MembersModes, EscClearsTheFieldsAndTheCloseBoxLeavesThem)
+TEST_F(MembersModesTest, EscClearsTheFieldsAndTheCloseBoxLeavesThem)
 {
     frmMembers screen;
     const auto open = [&screen] { screen.ShowModal(); };
@@ -190,7 +190,7 @@ TEST_F(MembersModes, EscClearsTheFieldsAndTheCloseBoxLeavesThem)
     EXPECT_EQ(screen.Find(u"txtMemberNo")->Text(), QString());
 }
 
-TEST_F(MembersModes, ExitCloses)
+TEST_F(MembersModesTest, ExitCloses)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("%b"));
@@ -198,7 +198,7 @@ TEST_F(MembersModes, ExitCloses)
     });
 }
 
-TEST_F(MembersModes, F12OpensTheKeyboardTutorAndF2NothingAtAll)
+TEST_F(MembersModesTest, F12OpensTheKeyboardTutorAndF2NothingAtAll)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ENTER}{F2}"));

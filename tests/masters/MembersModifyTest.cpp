@@ -2,9 +2,9 @@
 
 namespace {
 
-class MembersModify : public MembersTest {
+class MembersModifyTest : public MembersTest {
 protected:
-    MembersModify()
+    MembersModifyTest()
     {
         AddMember(1, QStringLiteral("rama"), QStringLiteral("gaaya"));
         AddMember(2, QStringLiteral("Xyaama"));
@@ -34,7 +34,7 @@ const QString SaveQuestion = QStringLiteral("roka^D- na@kI badlaayacao ka Æ");
 
 }
 
-TEST_F(MembersModify, ANumberCallsUpTheWholeRecord)
+TEST_F(MembersModifyTest, ANumberCallsUpTheWholeRecord)
 {
     Run(QStringLiteral(
         "update MembersMaster set "
@@ -62,7 +62,7 @@ TEST_F(MembersModify, ANumberCallsUpTheWholeRecord)
     });
 }
 
-TEST_F(MembersModify, NullsOnRecordReadAsEmptyAndZero)
+TEST_F(MembersModifyTest, NullsOnRecordReadAsEmptyAndZero)
 {
     Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(1,9,'gaNaoXa')"));
     Play([](Clerk& clerk) {
@@ -74,7 +74,7 @@ TEST_F(MembersModify, NullsOnRecordReadAsEmptyAndZero)
     });
 }
 
-TEST_F(MembersModify, ANameCallsUpTheRecordWhenTheNumberIsEmpty)
+TEST_F(MembersModifyTest, ANameCallsUpTheRecordWhenTheNumberIsEmpty)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("%d{ENTER}Xyaama{ENTER}"));
@@ -84,7 +84,7 @@ TEST_F(MembersModify, ANameCallsUpTheRecordWhenTheNumberIsEmpty)
     });
 }
 
-TEST_F(MembersModify, AnotherMembersNameCallsUpThatMember)
+TEST_F(MembersModifyTest, AnotherMembersNameCallsUpThatMember)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
@@ -93,7 +93,7 @@ TEST_F(MembersModify, AnotherMembersNameCallsUpThatMember)
     });
 }
 
-TEST_F(MembersModify, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
+TEST_F(MembersModifyTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
 {
     AddMember(12, QStringLiteral("rama"), QStringLiteral("mhOsa"));
     for (const char* keys : {"%d12{ENTER}{ENTER}", "%d12{ENTER}rama{ENTER}"})
@@ -105,7 +105,7 @@ TEST_F(MembersModify, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
         });
 }
 
-TEST_F(MembersModify, TheMembersOwnNameLeavesWhatWasTypedElsewhere)
+TEST_F(MembersModifyTest, TheMembersOwnNameLeavesWhatWasTypedElsewhere)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
@@ -115,7 +115,7 @@ TEST_F(MembersModify, TheMembersOwnNameLeavesWhatWasTypedElsewhere)
     });
 }
 
-TEST_F(MembersModify, AnUnknownNumberIsRefusedWithANotice)
+TEST_F(MembersModifyTest, AnUnknownNumberIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 77);
@@ -126,7 +126,7 @@ TEST_F(MembersModify, AnUnknownNumberIsRefusedWithANotice)
     });
 }
 
-TEST_F(MembersModify, AnUnknownNameWithoutANumberHoldsTheFocusInSilence)
+TEST_F(MembersModifyTest, AnUnknownNameWithoutANumberHoldsTheFocusInSilence)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("%d{ENTER}gaNaoXa{ENTER}"));
@@ -135,7 +135,7 @@ TEST_F(MembersModify, AnUnknownNameWithoutANumberHoldsTheFocusInSilence)
     });
 }
 
-TEST_F(MembersModify, AnEmptyNameIsRefusedWithANotice)
+TEST_F(MembersModifyTest, AnEmptyNameIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("%d{ENTER}{ENTER}"));
@@ -144,7 +144,7 @@ TEST_F(MembersModify, AnEmptyNameIsRefusedWithANotice)
     });
 }
 
-TEST_F(MembersModify, ACowMembersBuffaloFiguresAreClosedFromTheStart)
+TEST_F(MembersModifyTest, ACowMembersBuffaloFiguresAreClosedFromTheStart)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
@@ -154,7 +154,7 @@ TEST_F(MembersModify, ACowMembersBuffaloFiguresAreClosedFromTheStart)
     });
 }
 
-TEST_F(MembersModify, YesWritesTheRecordAndOnlyThat)
+TEST_F(MembersModifyTest, YesWritesTheRecordAndOnlyThat)
 {
     const QString other = Rows(QStringLiteral("select * from MembersMaster where MemberNo=2")).join(u' ');
     Run(QStringLiteral("update MembersMaster set AccountId=5 where MemberNo=1"));
@@ -176,7 +176,7 @@ TEST_F(MembersModify, YesWritesTheRecordAndOnlyThat)
     EXPECT_EQ(Rows(QStringLiteral("select * from MembersMaster where MemberNo=2")).join(u' '), other);
 }
 
-TEST_F(MembersModify, NoReturnsToIdleWithNothingWritten)
+TEST_F(MembersModifyTest, NoReturnsToIdleWithNothingWritten)
 {
     AddEntriesOf(QStringLiteral("rama"));
     const QStringList before = NamesElsewhere();
@@ -191,7 +191,7 @@ TEST_F(MembersModify, NoReturnsToIdleWithNothingWritten)
     EXPECT_EQ(NamesElsewhere(), before);
 }
 
-TEST_F(MembersModify, ANewNameReachesAllFourPlacesInEveryCompany)
+TEST_F(MembersModifyTest, ANewNameReachesAllFourPlacesInEveryCompany)
 {
     AddEntriesOf(QStringLiteral("rama"));
     AddCollection(2, QStringLiteral("Xyaama"), 10);
@@ -206,7 +206,7 @@ TEST_F(MembersModify, ANewNameReachesAllFourPlacesInEveryCompany)
         QStringLiteral("gaNaoXa"));
 }
 
-TEST_F(MembersModify, AnUnchangedNameIsWrittenEverywhereAgain)
+TEST_F(MembersModifyTest, AnUnchangedNameIsWrittenEverywhereAgain)
 {
     Run(QStringLiteral("update MembersMaster set MemberName='rama ' where MemberNo=1"));
     AddEntriesOf(QStringLiteral("rama "));
@@ -218,7 +218,7 @@ TEST_F(MembersModify, AnUnchangedNameIsWrittenEverywhereAgain)
         QStringLiteral("1|rama 2|rama 1|rama 2|rama 1|rama|raoK 1|raoK|rama 2|rama|raoK 2|raoK|rama"));
 }
 
-TEST_F(MembersModify, AFailureInTheLastRenameLeavesEverythingAsItWas)
+TEST_F(MembersModifyTest, AFailureInTheLastRenameLeavesEverythingAsItWas)
 {
     AddEntriesOf(QStringLiteral("rama"));
     const QStringList before = NamesElsewhere();
@@ -239,7 +239,7 @@ TEST_F(MembersModify, AFailureInTheLastRenameLeavesEverythingAsItWas)
     EXPECT_EQ(One(QStringLiteral("select DAccountName from TransactionsMaster")), QStringLiteral("rama"));
 }
 
-TEST_F(MembersModify, AnApostropheInTheNewNameEndsTheProgramAndLeavesTheBooksAsTheyWere)
+TEST_F(MembersModifyTest, AnApostropheInTheNewNameEndsTheProgramAndLeavesTheBooksAsTheyWere)
 {
     AddEntriesOf(QStringLiteral("rama"));
     const QStringList before = NamesElsewhere();
@@ -254,7 +254,7 @@ TEST_F(MembersModify, AnApostropheInTheNewNameEndsTheProgramAndLeavesTheBooksAsT
     EXPECT_EQ(NamesElsewhere(), before);
 }
 
-TEST_F(MembersModify, SavingAtOnceStopsAtTheNumber)
+TEST_F(MembersModifyTest, SavingAtOnceStopsAtTheNumber)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("%d%s"));

@@ -2,7 +2,7 @@
 
 namespace {
 
-using MembersNew = MembersTest;
+using MembersNewTest = MembersTest;
 
 QString NextNumber(Clerk& clerk)
 {
@@ -12,32 +12,32 @@ QString NextNumber(Clerk& clerk)
 
 }
 
-TEST_F(MembersNew, TheFirstMemberIsNumberOne)
+TEST_F(MembersNewTest, TheFirstMemberIsNumberOne)
 {
     Play([](Clerk& clerk) { EXPECT_EQ(NextNumber(clerk), QStringLiteral("1")); });
 }
 
-TEST_F(MembersNew, TheNextNumberFollowsTheHighestOfAllCompanies)
+TEST_F(MembersNewTest, TheNextNumberFollowsTheHighestOfAllCompanies)
 {
     AddMember(7, QStringLiteral("rama"));
     Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(2,40,'Xyaama')"));
     Play([](Clerk& clerk) { EXPECT_EQ(NextNumber(clerk), QStringLiteral("41")); });
 }
 
-TEST_F(MembersNew, WithoutAnyNumberOnRecordTheNextIsOne)
+TEST_F(MembersNewTest, WithoutAnyNumberOnRecordTheNextIsOne)
 {
     Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberName) values(1,'rama')"));
     Play([](Clerk& clerk) { EXPECT_EQ(NextNumber(clerk), QStringLiteral("1")); });
 }
 
-TEST_F(MembersNew, TheLastNumberThatFitsIsGivenOut)
+TEST_F(MembersNewTest, TheLastNumberThatFitsIsGivenOut)
 {
     AddMember(32766, QStringLiteral("rama"));
     Play([](Clerk& clerk) { EXPECT_EQ(NextNumber(clerk), QStringLiteral("32767")); });
     EXPECT_FALSE(Failure);
 }
 
-TEST_F(MembersNew, BeyondTheLastNumberTheProgramEndsWithAnOverflow)
+TEST_F(MembersNewTest, BeyondTheLastNumberTheProgramEndsWithAnOverflow)
 {
     AddMember(32767, QStringLiteral("rama"));
     Play([](Clerk& clerk) { clerk.Type(QStringLiteral("{ENTER}")); });
@@ -45,7 +45,7 @@ TEST_F(MembersNew, BeyondTheLastNumberTheProgramEndsWithAnOverflow)
     EXPECT_EQ(Failure->Number(), RunTimeError::Overflow);
 }
 
-TEST_F(MembersNew, AWholeMemberIsWrittenAsTyped)
+TEST_F(MembersNewTest, AWholeMemberIsWrittenAsTyped)
 {
     Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'Kod')"));
     Run(QStringLiteral("insert into BankMaster(CompanyId,BankName) values(1,'sTuT')"));
@@ -66,7 +66,7 @@ TEST_F(MembersNew, AWholeMemberIsWrittenAsTyped)
             "10.25|10.25|20.5|20.5"));
 }
 
-TEST_F(MembersNew, AfterSavingEnterBeginsTheNextMember)
+TEST_F(MembersNewTest, AfterSavingEnterBeginsTheNextMember)
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("rama"));
@@ -79,7 +79,7 @@ TEST_F(MembersNew, AfterSavingEnterBeginsTheNextMember)
     });
 }
 
-TEST_F(MembersNew, TheNewNameIsOnTheListAtOnce)
+TEST_F(MembersNewTest, TheNewNameIsOnTheListAtOnce)
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("rama"));
@@ -90,7 +90,7 @@ TEST_F(MembersNew, TheNewNameIsOnTheListAtOnce)
     });
 }
 
-TEST_F(MembersNew, AnEmptyNumberIsRefusedWithANotice)
+TEST_F(MembersNewTest, AnEmptyNumberIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ENTER}{BS}{ENTER}"));
@@ -99,7 +99,7 @@ TEST_F(MembersNew, AnEmptyNumberIsRefusedWithANotice)
     });
 }
 
-TEST_F(MembersNew, ANumberOnRecordIsRefusedInWhateverCompanyItIs)
+TEST_F(MembersNewTest, ANumberOnRecordIsRefusedInWhateverCompanyItIs)
 {
     Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(2,5,'Xyaama')"));
     Play([](Clerk& clerk) {
@@ -111,7 +111,7 @@ TEST_F(MembersNew, ANumberOnRecordIsRefusedInWhateverCompanyItIs)
     });
 }
 
-TEST_F(MembersNew, ANameOnRecordIsRefusedWhateverItsBlanks)
+TEST_F(MembersNewTest, ANameOnRecordIsRefusedWhateverItsBlanks)
 {
     AddMember(1, QStringLiteral(" rama "));
     Play([](Clerk& clerk) {
@@ -121,7 +121,7 @@ TEST_F(MembersNew, ANameOnRecordIsRefusedWhateverItsBlanks)
     });
 }
 
-TEST_F(MembersNew, ANameThatReadsLikeOneOnRecordIsRefused)
+TEST_F(MembersNewTest, ANameThatReadsLikeOneOnRecordIsRefused)
 {
     AddMember(1, QStringLiteral("maa$tI"));
     Play([](Clerk& clerk) {
@@ -133,7 +133,7 @@ TEST_F(MembersNew, ANameThatReadsLikeOneOnRecordIsRefused)
     });
 }
 
-TEST_F(MembersNew, ANameIsStoredInTheSpellingThatWasTyped)
+TEST_F(MembersNewTest, ANameIsStoredInTheSpellingThatWasTyped)
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("maarutI"));
@@ -142,7 +142,7 @@ TEST_F(MembersNew, ANameIsStoredInTheSpellingThatWasTyped)
     EXPECT_EQ(One(QStringLiteral("select MemberName from MembersMaster")), QStringLiteral("maarutI"));
 }
 
-TEST_F(MembersNew, AnEmptyNameIsRefusedWithANotice)
+TEST_F(MembersNewTest, AnEmptyNameIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ENTER}{ENTER}  {ENTER}"));
@@ -151,7 +151,7 @@ TEST_F(MembersNew, AnEmptyNameIsRefusedWithANotice)
     });
 }
 
-TEST_F(MembersNew, SavingStopsAtTheFirstThatIsMissing)
+TEST_F(MembersNewTest, SavingStopsAtTheFirstThatIsMissing)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ENTER}0%s"));
@@ -171,7 +171,7 @@ TEST_F(MembersNew, SavingStopsAtTheFirstThatIsMissing)
         QStringList{QStringLiteral("1|rama|gaaya|raoK|C|C|0")});
 }
 
-TEST_F(MembersNew, ANewMemberTakesTheAccountThatWasReadLast)
+TEST_F(MembersNewTest, ANewMemberTakesTheAccountThatWasReadLast)
 {
     AddMember(1, QStringLiteral("rama"));
     Run(QStringLiteral("update MembersMaster set AccountId=815"));
@@ -190,7 +190,7 @@ TEST_F(MembersNew, ANewMemberTakesTheAccountThatWasReadLast)
         QStringLiteral("1|815 2|0 3|815"));
 }
 
-TEST_F(MembersNew, AnApostropheInTheNameEndsTheProgramAndLeavesTheBooksAsTheyWere)
+TEST_F(MembersNewTest, AnApostropheInTheNameEndsTheProgramAndLeavesTheBooksAsTheyWere)
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("ra'ma"));
@@ -202,7 +202,7 @@ TEST_F(MembersNew, AnApostropheInTheNameEndsTheProgramAndLeavesTheBooksAsTheyWer
     EXPECT_EQ(One(QStringLiteral("select count(*) from MembersMaster")), QStringLiteral("0"));
 }
 
-TEST_F(MembersNew, ANameOfAThousandCharactersIsKeptWhole)
+TEST_F(MembersNewTest, ANameOfAThousandCharactersIsKeptWhole)
 {
     const QString name = QStringLiteral("rama ").repeated(200).trimmed();
     Play([&name](Clerk& clerk) {
@@ -215,7 +215,7 @@ TEST_F(MembersNew, ANameOfAThousandCharactersIsKeptWhole)
     EXPECT_EQ(One(QStringLiteral("select MemberName from MembersMaster")), name);
 }
 
-TEST_F(MembersNew, CollectionsOnRecordForTheNumberCountForTheNewMember)
+TEST_F(MembersNewTest, CollectionsOnRecordForTheNumberCountForTheNewMember)
 {
     AddCollection(1, QStringLiteral("rama"), 812.5);
     Play([](Clerk& clerk) {
@@ -227,7 +227,7 @@ TEST_F(MembersNew, CollectionsOnRecordForTheNumberCountForTheNewMember)
         QStringList{QStringLiteral("812.5|C")});
 }
 
-TEST_F(MembersNew, TheLatinKeysOfTheLayoutReadAsMarathi)
+TEST_F(MembersNewTest, TheLatinKeysOfTheLayoutReadAsMarathi)
 {
     Play([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ENTER}{ENTER}"));

@@ -3,9 +3,9 @@
 namespace {
 
 // The member rama has something in every table; whatever is written is noted down in turn.
-class MembersOrder : public MembersTest {
+class MembersOrderTest : public MembersTest {
 protected:
-    MembersOrder()
+    MembersOrderTest()
     {
         const QString rama = QStringLiteral("rama");
         AddMember(1, rama);
@@ -63,7 +63,7 @@ void ExpectSaveAfter(Clerk& clerk, const QString& lastField, const QString& save
 
 }
 
-TEST_F(MembersOrder, TheMasterAndThenTheFourPlacesOfTheNameAreWritten)
+TEST_F(MembersOrderTest, TheMasterAndThenTheFourPlacesOfTheNameAreWritten)
 {
     Play([this](Clerk& clerk) {
         CallUp(clerk, 1);
@@ -73,7 +73,7 @@ TEST_F(MembersOrder, TheMasterAndThenTheFourPlacesOfTheNameAreWritten)
     EXPECT_EQ(Written(), Renames);
 }
 
-TEST_F(MembersOrder, AnUnchangedNameIsWrittenInTheSameOrder)
+TEST_F(MembersOrderTest, AnUnchangedNameIsWrittenInTheSameOrder)
 {
     Play([this](Clerk& clerk) {
         CallUp(clerk, 1);
@@ -83,7 +83,7 @@ TEST_F(MembersOrder, AnUnchangedNameIsWrittenInTheSameOrder)
     EXPECT_EQ(Written(), Renames);
 }
 
-TEST_F(MembersOrder, AMemberLeavesTheMasterFirstAndTheDeductionsLast)
+TEST_F(MembersOrderTest, AMemberLeavesTheMasterFirstAndTheDeductionsLast)
 {
     Play([this](Clerk& clerk) {
         clerk.Type(QStringLiteral("%k1{ENTER}"));
@@ -93,7 +93,7 @@ TEST_F(MembersOrder, AMemberLeavesTheMasterFirstAndTheDeductionsLast)
     EXPECT_EQ(Written(), Deletes);
 }
 
-TEST_F(MembersOrder, ANoWritesNothingAtAll)
+TEST_F(MembersOrderTest, ANoWritesNothingAtAll)
 {
     Note(Renames + Deletes);
     Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%n")); });
@@ -106,7 +106,7 @@ TEST_F(MembersOrder, ANoWritesNothingAtAll)
 
 // The last opening field
 
-TEST_F(MembersOrder, LeavingTheLastOpeningFieldGivesTheFocusToSave)
+TEST_F(MembersOrderTest, LeavingTheLastOpeningFieldGivesTheFocusToSave)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
@@ -118,7 +118,7 @@ TEST_F(MembersOrder, LeavingTheLastOpeningFieldGivesTheFocusToSave)
     });
 }
 
-TEST_F(MembersOrder, ACowMembersLastOpeningFieldIsTheCowsDeposit)
+TEST_F(MembersOrderTest, ACowMembersLastOpeningFieldIsTheCowsDeposit)
 {
     Run(QStringLiteral("update MembersMaster set Animal='gaaya'"));
     Play([](Clerk& clerk) {
@@ -127,7 +127,7 @@ TEST_F(MembersOrder, ACowMembersLastOpeningFieldIsTheCowsDeposit)
     });
 }
 
-TEST_F(MembersOrder, SteppingBackFromTheLastOpeningFieldLeadsToTheFieldBeforeIt)
+TEST_F(MembersOrderTest, SteppingBackFromTheLastOpeningFieldLeadsToTheFieldBeforeIt)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);

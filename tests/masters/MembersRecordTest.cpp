@@ -10,7 +10,7 @@ namespace {
 constexpr const char* Tables[] = {"MembersMaster", "MilkCollections", "MilkPayments", "TransactionsMaster",
     "TransactionsDetails", "AdvanceReceipt", "MilkPaymentsDetails"};
 
-class MembersRecord : public MembersTest {
+class MembersRecordTest : public MembersTest {
 protected:
     // No script of these is broken off, unless its test says so.
     void TearDown() override { EXPECT_FALSE(Failure); }
@@ -54,7 +54,7 @@ protected:
 
 // Openings and closings
 
-TEST_F(MembersRecord, ANewMembersOpeningsAndClosingsStandInTheirOwnColumnsAndTheTextsAreTrimmed)
+TEST_F(MembersRecordTest, ANewMembersOpeningsAndClosingsStandInTheirOwnColumnsAndTheTextsAreTrimmed)
 {
     Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'Kod')"));
     Run(QStringLiteral("insert into BankMaster(CompanyId,BankName) values(1,'sTuT')"));
@@ -77,7 +77,7 @@ TEST_F(MembersRecord, ANewMembersOpeningsAndClosingsStandInTheirOwnColumnsAndThe
                        "300|340|10.25|10.25|20.5|20.5"));
 }
 
-TEST_F(MembersRecord, AChangedMembersOpeningsAndClosingsStandInTheirOwnColumnsAndTheTextsAreTrimmed)
+TEST_F(MembersRecordTest, AChangedMembersOpeningsAndClosingsStandInTheirOwnColumnsAndTheTextsAreTrimmed)
 {
     AddMember(2, QStringLiteral("Xyaama"));
     Run(QStringLiteral(
@@ -94,7 +94,7 @@ TEST_F(MembersRecord, AChangedMembersOpeningsAndClosingsStandInTheirOwnColumnsAn
         QStringLiteral("1|2|Xyaama|0|vaaDa|Kod|daonhI|ba^nk|sTuT|47|1.5|D|98.5|C|3|4|5|6|7|8|9|10|11|12"));
 }
 
-TEST_F(MembersRecord, ANewMembersBalanceIsComputedAtTheSaveThoughItsFieldsWereNeverEntered)
+TEST_F(MembersRecordTest, ANewMembersBalanceIsComputedAtTheSaveThoughItsFieldsWereNeverEntered)
 {
     AddCollection(1, QStringLiteral("rama"), 80);
     Play([](Clerk& clerk) {
@@ -106,7 +106,7 @@ TEST_F(MembersRecord, ANewMembersBalanceIsComputedAtTheSaveThoughItsFieldsWereNe
         QStringList{QStringLiteral("80|C")});
 }
 
-TEST_F(MembersRecord, AnOpeningPayableToTheMemberCountsWithoutItsSign)
+TEST_F(MembersRecordTest, AnOpeningPayableToTheMemberCountsWithoutItsSign)
 {
     AddMember(1, QStringLiteral("rama"));
     Run(QStringLiteral("update MembersMaster set OpeningBalance=-50"));
@@ -121,7 +121,7 @@ TEST_F(MembersRecord, AnOpeningPayableToTheMemberCountsWithoutItsSign)
 
 // The second company
 
-TEST_F(MembersRecord, AChangeLeavesTheMemberOfThatNumberInTheOtherCompany)
+TEST_F(MembersRecordTest, AChangeLeavesTheMemberOfThatNumberInTheOtherCompany)
 {
     AddMember(1, QStringLiteral("rama"));
     AddNamesake(1, QStringLiteral("gaNaoXa"));
@@ -135,7 +135,7 @@ TEST_F(MembersRecord, AChangeLeavesTheMemberOfThatNumberInTheOtherCompany)
     EXPECT_EQ(OfTheOtherCompany(), before);
 }
 
-TEST_F(MembersRecord, ADeletionLeavesEveryRowOfTheNamesakeInTheOtherCompany)
+TEST_F(MembersRecordTest, ADeletionLeavesEveryRowOfTheNamesakeInTheOtherCompany)
 {
     const QString rama = QStringLiteral("rama");
     AddMember(1, rama);
@@ -157,7 +157,7 @@ TEST_F(MembersRecord, ADeletionLeavesEveryRowOfTheNamesakeInTheOtherCompany)
 
 // The fields
 
-TEST_F(MembersRecord, TheBankFieldsAreShownForABankAndForNothingElse)
+TEST_F(MembersRecordTest, TheBankFieldsAreShownForABankAndForNothingElse)
 {
     AddMember(1, QStringLiteral("rama"));
     AddMember(2, QStringLiteral("Xyaama"));
@@ -182,7 +182,7 @@ TEST_F(MembersRecord, TheBankFieldsAreShownForABankAndForNothingElse)
     });
 }
 
-TEST_F(MembersRecord, AnEmptyNameIsToldInEveryMode)
+TEST_F(MembersRecordTest, AnEmptyNameIsToldInEveryMode)
 {
     AddMember(1, QStringLiteral("rama"));
     for (const char* keys : {"%n{ENTER}{ENTER}", "%d{ENTER}{ENTER}", "%k{ENTER}{ENTER}"}) {

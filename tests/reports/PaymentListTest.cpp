@@ -116,7 +116,7 @@ TEST_F(PaymentListTest, AnAccountNumberOfEighteenFiguresStandsWholeOnOneLine)
     EXPECT_TRUE(WordsOf(PdfText(pdf)).contains(number));
 }
 
-TEST(PaymentListFormula, DayAndMonthGoIntoTheFormulaWithoutTheirNoughts)
+TEST(PaymentListFormulaTest, DayAndMonthGoIntoTheFormulaWithoutTheirNoughts)
 {
     EXPECT_EQ(frmReportPaymentList::SelectionFormula(QStringLiteral("04/05/2026")),
         QStringLiteral("{MilkPayments.PaymentDate} = DateTime (2026,5,4,00, 00, 00)"));

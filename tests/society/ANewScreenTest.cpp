@@ -144,7 +144,7 @@ TEST_F(ANewScreenTest, ItsKeyCountsThePlaces)
     EXPECT_FALSE(Failure);
 }
 
-TEST(ANewScreenPage, QuotesThisFileWordForWord)
+TEST(ANewScreenPageTest, QuotesThisFileWordForWord)
 {
     const auto text = [](const char* path) {
         QFile file(QString::fromUtf8(path));

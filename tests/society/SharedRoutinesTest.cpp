@@ -27,11 +27,11 @@ public:
     }
 };
 
-using SharedRoutines = SocietyTest;
+using SharedRoutinesTest = SocietyTest;
 
 }
 
-TEST_F(SharedRoutines, FillComboTakesOneColumnInTheOrderOfTheQuery)
+TEST_F(SharedRoutinesTest, FillComboTakesOneColumnInTheOrderOfTheQuery)
 {
     Run(QStringLiteral("delete * from CityMaster"));
     for (const char* city : {"vaa[-", "pauNao", "sataara"})
@@ -48,7 +48,7 @@ TEST_F(SharedRoutines, FillComboTakesOneColumnInTheOrderOfTheQuery)
     });
 }
 
-TEST_F(SharedRoutines, CheckDateFieldClearsABadDateAndHoldsTheFocusWithoutAMessage)
+TEST_F(SharedRoutinesTest, CheckDateFieldClearsABadDateAndHoldsTheFocusWithoutAMessage)
 {
     On<frmProbe>([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{TAB}31022026{TAB}"));
@@ -62,7 +62,7 @@ TEST_F(SharedRoutines, CheckDateFieldClearsABadDateAndHoldsTheFocusWithoutAMessa
     });
 }
 
-TEST_F(SharedRoutines, SelectFieldTextSelectsWhatTheFocusHoldsSoThatTypingReplacesIt)
+TEST_F(SharedRoutinesTest, SelectFieldTextSelectsWhatTheFocusHoldsSoThatTypingReplacesIt)
 {
     On<frmProbe>([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{TAB}01042026{TAB}123{END}"));
@@ -72,7 +72,7 @@ TEST_F(SharedRoutines, SelectFieldTextSelectsWhatTheFocusHoldsSoThatTypingReplac
     });
 }
 
-TEST_F(SharedRoutines, F2StartsTheCalculatorOfAppFolderMaximised)
+TEST_F(SharedRoutinesTest, F2StartsTheCalculatorOfAppFolderMaximised)
 {
     On<frmProbe>([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
     EXPECT_EQ(
@@ -80,7 +80,7 @@ TEST_F(SharedRoutines, F2StartsTheCalculatorOfAppFolderMaximised)
     EXPECT_TRUE(TheBox.Shown.isEmpty());
 }
 
-TEST_F(SharedRoutines, WithoutAnyCalculatorAPlainMessageSaysSo)
+TEST_F(SharedRoutinesTest, WithoutAnyCalculatorAPlainMessageSaysSo)
 {
     TheCalculator.There = false;
     On<frmProbe>([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });

@@ -6,7 +6,7 @@
 
 namespace {
 
-using KeyboardTutor = SocietyTest;
+using KeyboardTutorTest = SocietyTest;
 
 const QString English = QStringLiteral("txtEnglish");
 const QString Marathi = QStringLiteral("txtMarathi");
@@ -32,7 +32,7 @@ int DarkPoints(const QImage& picture, const QRect& part)
 
 }
 
-TEST_F(KeyboardTutor, WhatIsTypedInEnglishShowsInMarathi)
+TEST_F(KeyboardTutorTest, WhatIsTypedInEnglishShowsInMarathi)
 {
     On<frmKeyboardTutor>([](Clerk& clerk) {
         clerk.Type(QStringLiteral("gaaya"));
@@ -42,7 +42,7 @@ TEST_F(KeyboardTutor, WhatIsTypedInEnglishShowsInMarathi)
     });
 }
 
-TEST_F(KeyboardTutor, WhatIsTypedInMarathiShowsInEnglish)
+TEST_F(KeyboardTutorTest, WhatIsTypedInMarathiShowsInEnglish)
 {
     On<frmKeyboardTutor>([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{TAB}mhOsa{BS}"));
@@ -51,7 +51,7 @@ TEST_F(KeyboardTutor, WhatIsTypedInMarathiShowsInEnglish)
     });
 }
 
-TEST_F(KeyboardTutor, EscClosesIt)
+TEST_F(KeyboardTutorTest, EscClosesIt)
 {
     On<frmKeyboardTutor>([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ESC}"));
@@ -59,7 +59,7 @@ TEST_F(KeyboardTutor, EscClosesIt)
     });
 }
 
-TEST_F(KeyboardTutor, ThePictureShowsTheFourRowsOfKeysWithTheirLettersAndTheNumbersBelow)
+TEST_F(KeyboardTutorTest, ThePictureShowsTheFourRowsOfKeysWithTheirLettersAndTheNumbersBelow)
 {
     On<frmKeyboardTutor>([](Clerk& clerk) {
         const QImage picture = KeyboardPicture(clerk);

@@ -9,7 +9,7 @@
 
 namespace {
 
-using MainMenu = MenuTest;
+using MainMenuTest = MenuTest;
 
 // Double-clicks the current entry of a list.
 void DoubleClick(Clerk& clerk, MenuList& list)
@@ -29,7 +29,7 @@ void DoubleClick(Clerk& clerk, MenuList& list)
 
 }
 
-TEST_F(MainMenu, EachMainEntryOpensItsListOnItsFirstEntryAndTheToolsOnTheSecond)
+TEST_F(MainMenuTest, EachMainEntryOpensItsListOnItsFirstEntryAndTheToolsOnTheSecond)
 {
     Menu([&](Clerk& clerk) {
         for (int at = 0; at < 5; ++at) {
@@ -43,7 +43,7 @@ TEST_F(MainMenu, EachMainEntryOpensItsListOnItsFirstEntryAndTheToolsOnTheSecond)
     });
 }
 
-TEST_F(MainMenu, EscAndLeftSetTheMainListToTheirFixedPlace)
+TEST_F(MainMenuTest, EscAndLeftSetTheMainListToTheirFixedPlace)
 {
     const int after[] = {0, 2, 4, 4, 4};
     Menu([&](Clerk& clerk) {
@@ -57,7 +57,7 @@ TEST_F(MainMenu, EscAndLeftSetTheMainListToTheirFixedPlace)
     });
 }
 
-TEST_F(MainMenu, BaahorOfASubListHidesItAndLeavesTheMainListWhereItWas)
+TEST_F(MainMenuTest, BaahorOfASubListHidesItAndLeavesTheMainListWhereItWas)
 {
     Menu([&](Clerk& clerk) {
         for (int at = 0; at < 5; ++at) {
@@ -70,7 +70,7 @@ TEST_F(MainMenu, BaahorOfASubListHidesItAndLeavesTheMainListWhereItWas)
     });
 }
 
-TEST_F(MainMenu, AClosedMasterSaysThatALoginIsRequiredWhileTheFunctionKeysStillWork)
+TEST_F(MainMenuTest, AClosedMasterSaysThatALoginIsRequiredWhileTheFunctionKeysStillWork)
 {
     gAppState.gAccessMaster = 0;
     Menu([&](Clerk& clerk) {
@@ -84,7 +84,7 @@ TEST_F(MainMenu, AClosedMasterSaysThatALoginIsRequiredWhileTheFunctionKeysStillW
     });
 }
 
-TEST_F(MainMenu, WithEverythingClosedOnlyTheYearlyListOpens)
+TEST_F(MainMenuTest, WithEverythingClosedOnlyTheYearlyListOpens)
 {
     CloseEverything();
     Menu([&](Clerk& clerk) {
@@ -97,7 +97,7 @@ TEST_F(MainMenu, WithEverythingClosedOnlyTheYearlyListOpens)
     });
 }
 
-TEST_F(MainMenu, AnAdministratorIsGrantedAccessToAClosedList)
+TEST_F(MainMenuTest, AnAdministratorIsGrantedAccessToAClosedList)
 {
     gAppState.gAccessUtilities = 0;
     gAppState.gAdminLoggedIn = QStringLiteral("YES");
@@ -108,7 +108,7 @@ TEST_F(MainMenu, AnAdministratorIsGrantedAccessToAClosedList)
     });
 }
 
-TEST_F(MainMenu, TabActsAsEnter)
+TEST_F(MainMenuTest, TabActsAsEnter)
 {
     Menu([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{TAB}"));
@@ -116,7 +116,7 @@ TEST_F(MainMenu, TabActsAsEnter)
     });
 }
 
-TEST_F(MainMenu, AnEntryWhoseScreenIsNotThereNamesItInAPlainMessageAndNothingElse)
+TEST_F(MainMenuTest, AnEntryWhoseScreenIsNotThereNamesItInAPlainMessageAndNothingElse)
 {
     Menu([&](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ENTER}{DOWN}{ENTER}"));
@@ -126,7 +126,7 @@ TEST_F(MainMenu, AnEntryWhoseScreenIsNotThereNamesItInAPlainMessageAndNothingEls
     });
 }
 
-TEST_F(MainMenu, F9IsPromisedByItsLabelAndDoesNothing)
+TEST_F(MainMenuTest, F9IsPromisedByItsLabelAndDoesNothing)
 {
     Menu([&](Clerk& clerk) {
         clerk.Type(QStringLiteral("{F9}"));
@@ -135,7 +135,7 @@ TEST_F(MainMenu, F9IsPromisedByItsLabelAndDoesNothing)
     });
 }
 
-TEST_F(MainMenu, F4F7F8AndF12AnswerFromAnyList)
+TEST_F(MainMenuTest, F4F7F8AndF12AnswerFromAnyList)
 {
     Menu([&](Clerk& clerk) {
         ChooseMain(clerk, 1);
@@ -148,7 +148,7 @@ TEST_F(MainMenu, F4F7F8AndF12AnswerFromAnyList)
     });
 }
 
-TEST_F(MainMenu, LeavingOffersTheBackupAndAsksAndNoStays)
+TEST_F(MainMenuTest, LeavingOffersTheBackupAndAsksAndNoStays)
 {
     Menu([&](Clerk& clerk) {
         clerk.Type(QStringLiteral("{END}{ENTER}"));
@@ -162,7 +162,7 @@ TEST_F(MainMenu, LeavingOffersTheBackupAndAsksAndNoStays)
     });
 }
 
-TEST_F(MainMenu, TheCloseBoxClosesAtOnceWithoutBackupOrQuestion)
+TEST_F(MainMenuTest, TheCloseBoxClosesAtOnceWithoutBackupOrQuestion)
 {
     Menu([&](Clerk& clerk) {
         clerk.CloseBox();
@@ -171,7 +171,7 @@ TEST_F(MainMenu, TheCloseBoxClosesAtOnceWithoutBackupOrQuestion)
     });
 }
 
-TEST_F(MainMenu, TheMainListGainingTheFocusByMouseHidesEveryListButTheYearlyOne)
+TEST_F(MainMenuTest, TheMainListGainingTheFocusByMouseHidesEveryListButTheYearlyOne)
 {
     Menu([](Clerk& clerk) {
         for (int at = 0; at < 5; ++at) {
@@ -185,7 +185,7 @@ TEST_F(MainMenu, TheMainListGainingTheFocusByMouseHidesEveryListButTheYearlyOne)
     });
 }
 
-TEST_F(MainMenu, ADoubleClickChoosesAsEnterDoes)
+TEST_F(MainMenuTest, ADoubleClickChoosesAsEnterDoes)
 {
     Menu([&](Clerk& clerk) {
         DoubleClick(clerk, List(clerk, "ListMain"));
@@ -197,14 +197,14 @@ TEST_F(MainMenu, ADoubleClickChoosesAsEnterDoes)
     });
 }
 
-TEST_F(MainMenu, F2StartsTheCalculatorMaximised)
+TEST_F(MainMenuTest, F2StartsTheCalculatorMaximised)
 {
     Menu([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
     EXPECT_EQ(
         TheCalculator.Started, QStringList(QStringLiteral("C:\\Tarvel01\\Vetrolan\\calc.EXE maximised")));
 }
 
-TEST_F(MainMenu, ItsFaceShowsTitlesHeadingVersionTwiceAndTheSocietyButNoYear)
+TEST_F(MainMenuTest, ItsFaceShowsTitlesHeadingVersionTwiceAndTheSocietyButNoYear)
 {
     Menu([](Clerk& clerk) {
         EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(QStringLiteral(" dUQa saMklana saa^FTvaoAr")));
@@ -218,7 +218,7 @@ TEST_F(MainMenu, ItsFaceShowsTitlesHeadingVersionTwiceAndTheSocietyButNoYear)
     });
 }
 
-TEST_F(MainMenu, TodaysDateIsTheMachinesAtLoadAndIsNotUpdated)
+TEST_F(MainMenuTest, TodaysDateIsTheMachinesAtLoadAndIsNotUpdated)
 {
     Menu([&](Clerk& clerk) {
         EXPECT_EQ(LabelOf(clerk, "lblTodayDate"), QStringLiteral("15/04/2026"));
@@ -228,7 +228,7 @@ TEST_F(MainMenu, TodaysDateIsTheMachinesAtLoadAndIsNotUpdated)
     });
 }
 
-TEST_F(MainMenu, WithoutACompanyTheDateAskedForIsEmptyThenTodayAndTheMenuNamesNoSociety)
+TEST_F(MainMenuTest, WithoutACompanyTheDateAskedForIsEmptyThenTodayAndTheMenuNamesNoSociety)
 {
     Run(QStringLiteral("delete * from CompanySelected"));
     gCn.Close();

@@ -96,9 +96,9 @@ private:
     QStringList& m_found;
 };
 
-class MenuLists : public MenuTest {
+class MenuListsTest : public MenuTest {
 protected:
-    MenuLists()
+    MenuListsTest()
     {
         for (const Table* table : Tables)
             for (const Entry& entry : *table)
@@ -107,7 +107,7 @@ protected:
                         [this, name = entry.screen] { return std::make_unique<StandIn>(name, Found); });
     }
 
-    ~MenuLists() override
+    ~MenuListsTest() override
     {
         for (const QString& screen : m_screens)
             ScreenDirectory::Add(screen, {});
@@ -141,7 +141,7 @@ QStringList TextsOf(const Table& table)
 
 }
 
-TEST_F(MenuLists, HoldTheirEntriesInOrderAsTheyAreSpelt)
+TEST_F(MenuListsTest, HoldTheirEntriesInOrderAsTheyAreSpelt)
 {
     Menu([](Clerk& clerk) {
         EXPECT_EQ(Entries(clerk, "ListMain"),
@@ -154,7 +154,7 @@ TEST_F(MenuLists, HoldTheirEntriesInOrderAsTheyAreSpelt)
     });
 }
 
-TEST_F(MenuLists, EachEntrySetsItsModeAndTitleAndThenOpensItsScreenAndTheListStaysAsItWas)
+TEST_F(MenuListsTest, EachEntrySetsItsModeAndTitleAndThenOpensItsScreenAndTheListStaysAsItWas)
 {
     Menu([&](Clerk& clerk) {
         for (int at = 0; at < 5; ++at) {
@@ -177,7 +177,7 @@ TEST_F(MenuLists, EachEntrySetsItsModeAndTitleAndThenOpensItsScreenAndTheListSta
     EXPECT_TRUE(TheBox.Shown.isEmpty());
 }
 
-TEST_F(MenuLists, TransportIsOfferedOnlyWhenTheSettingReadsTrueAndThenDoesNothing)
+TEST_F(MenuListsTest, TransportIsOfferedOnlyWhenTheSettingReadsTrueAndThenDoesNothing)
 {
     for (const char* setting : {"NULL", "'False'", "'true'", "'haoya'"}) {
         Run(QStringLiteral("update AutoSettings set ShowTransportCharges=") + QLatin1String(setting));
@@ -197,13 +197,13 @@ TEST_F(MenuLists, TransportIsOfferedOnlyWhenTheSettingReadsTrueAndThenDoesNothin
     });
 }
 
-TEST_F(MenuLists, WithoutASettingsRowNoTransportIsOffered)
+TEST_F(MenuListsTest, WithoutASettingsRowNoTransportIsOffered)
 {
     Run(QStringLiteral("delete * from AutoSettings"));
     Menu([](Clerk& clerk) { EXPECT_EQ(Entries(clerk, "ListSVouchers"), TextsOf(SVouchers)); });
 }
 
-TEST_F(MenuLists, TheFunctionKeysOpenTheirScreensAlsoWithEverythingClosed)
+TEST_F(MenuListsTest, TheFunctionKeysOpenTheirScreensAlsoWithEverythingClosed)
 {
     CloseEverything();
     const std::pair<const char*, const char*> keys[] = {
@@ -222,7 +222,7 @@ TEST_F(MenuLists, TheFunctionKeysOpenTheirScreensAlsoWithEverythingClosed)
     EXPECT_TRUE(TheBox.Shown.isEmpty());
 }
 
-TEST_F(MenuLists, LeavingTheSystemOpensTheBackupBeforeTheQuestionByBaahorAndByEsc)
+TEST_F(MenuListsTest, LeavingTheSystemOpensTheBackupBeforeTheQuestionByBaahorAndByEsc)
 {
     Menu([&](Clerk& clerk) {
         for (const char* keys : {"{END}{ENTER}", "{ESC}"}) {

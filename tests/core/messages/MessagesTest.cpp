@@ -10,7 +10,7 @@
 
 namespace {
 
-class Messages : public SocietyTest {
+class MessagesTest : public SocietyTest {
 protected:
     bool m_answer = false;
     QString m_narration; // what the last prompt has kept for its caller
@@ -42,7 +42,7 @@ protected:
 
 }
 
-TEST_F(Messages, AQuestionOffersYesAndNoAndANoticeOnlyToGoOn)
+TEST_F(MessagesTest, AQuestionOffersYesAndNoAndANoticeOnlyToGoOn)
 {
     AskOf([](Clerk& clerk) {
         EXPECT_TRUE(clerk.CanEnter(QStringLiteral("cmdOkYes")));
@@ -57,7 +57,7 @@ TEST_F(Messages, AQuestionOffersYesAndNoAndANoticeOnlyToGoOn)
     });
 }
 
-TEST_F(Messages, TheButtonsReadHaoyaNaahiAndPuzo)
+TEST_F(MessagesTest, TheButtonsReadHaoyaNaahiAndPuzo)
 {
     AskOf([](Clerk& clerk) {
         EXPECT_EQ(clerk.Reads(QStringLiteral("cmdOkYes")), QStringLiteral("&haoya"));
@@ -67,7 +67,7 @@ TEST_F(Messages, TheButtonsReadHaoyaNaahiAndPuzo)
     });
 }
 
-TEST_F(Messages, AQuestionThatDestroysIsANoOnEnter)
+TEST_F(MessagesTest, AQuestionThatDestroysIsANoOnEnter)
 {
     frmMessages::MessageAnswer = 1;
     bool answer = true;
@@ -81,7 +81,7 @@ TEST_F(Messages, AQuestionThatDestroysIsANoOnEnter)
     EXPECT_EQ(frmMessages::MessageAnswer, 0);
 }
 
-TEST_F(Messages, APlainQuestionIsReadAsItIsWrittenAndSoIsAPlainNotice)
+TEST_F(MessagesTest, APlainQuestionIsReadAsItIsWrittenAndSoIsAPlainNotice)
 {
     Failure = TheClerk.Play([] { Ask(Plain(u"Are You Sure to Save ?")); },
         [](Clerk& clerk) {
@@ -95,7 +95,7 @@ TEST_F(Messages, APlainQuestionIsReadAsItIsWrittenAndSoIsAPlainNotice)
         });
 }
 
-TEST_F(Messages, KeysThatWereTypedAheadOfAQuestionOrANoticeAreThrownAway)
+TEST_F(MessagesTest, KeysThatWereTypedAheadOfAQuestionOrANoticeAreThrownAway)
 {
     for (const char* keys : {"{ENTER}{ENTER}", "%h", "{ESC}", "{TAB}{ENTER}"}) {
         frmMessages::MessageAnswer = 0;
@@ -114,7 +114,7 @@ TEST_F(Messages, KeysThatWereTypedAheadOfAQuestionOrANoticeAreThrownAway)
     }
 }
 
-TEST_F(Messages, AKeyThatIsHeldDownAnswersNothing)
+TEST_F(MessagesTest, AKeyThatIsHeldDownAnswersNothing)
 {
     AskOf([](Clerk& clerk) {
         clerk.Do([] {
@@ -125,7 +125,7 @@ TEST_F(Messages, AKeyThatIsHeldDownAnswersNothing)
     });
 }
 
-TEST_F(Messages, TheKeysOfTheCaptionsAnswer)
+TEST_F(MessagesTest, TheKeysOfTheCaptionsAnswer)
 {
     AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("%h")); });
     EXPECT_TRUE(m_answer);
@@ -135,14 +135,14 @@ TEST_F(Messages, TheKeysOfTheCaptionsAnswer)
     EXPECT_EQ(frmMessages::MessageAnswer, 0);
 }
 
-TEST_F(Messages, ANoticeLeavesTheAnswerAsTheLastQuestionLeftIt)
+TEST_F(MessagesTest, ANoticeLeavesTheAnswerAsTheLastQuestionLeftIt)
 {
     AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("{ENTER}")); });
     NoticeOf([](Clerk& clerk) { clerk.Type(QStringLiteral("{ENTER}")); });
     EXPECT_EQ(frmMessages::MessageAnswer, 1);
 }
 
-TEST_F(Messages, ClosedByItsCloseBoxNoAnswerIsSetAndNothingIsAgreedTo)
+TEST_F(MessagesTest, ClosedByItsCloseBoxNoAnswerIsSetAndNothingIsAgreedTo)
 {
     AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("%h")); });
     AskOf([](Clerk& clerk) { clerk.CloseBox(); });
@@ -152,7 +152,7 @@ TEST_F(Messages, ClosedByItsCloseBoxNoAnswerIsSetAndNothingIsAgreedTo)
     EXPECT_FALSE(m_answer);
 }
 
-TEST_F(Messages, ThePromptKeepsWhatWasTypedOnLeavingAndOnPuzo)
+TEST_F(MessagesTest, ThePromptKeepsWhatWasTypedOnLeavingAndOnPuzo)
 {
     PromptOf([](Clerk& clerk) {
         EXPECT_EQ(clerk.Focus(), QStringLiteral("txtNarration"));
@@ -167,7 +167,7 @@ TEST_F(Messages, ThePromptKeepsWhatWasTypedOnLeavingAndOnPuzo)
     EXPECT_EQ(m_field, QStringLiteral("rama"));
 }
 
-TEST_F(Messages, WhatWasTypedBehindTheEndOfAPromptAnswersNoBoxThatComesUpThen)
+TEST_F(MessagesTest, WhatWasTypedBehindTheEndOfAPromptAnswersNoBoxThatComesUpThen)
 {
     for (const bool isPlain : {false, true}) {
         TheBox.Shown.clear();
@@ -198,7 +198,7 @@ TEST_F(Messages, WhatWasTypedBehindTheEndOfAPromptAnswersNoBoxThatComesUpThen)
     EXPECT_EQ(TheBox.Shown.size(), 1);
 }
 
-TEST_F(Messages, EscClearsThePromptAndClosesItAndTheCloseBoxClosesWithoutClearing)
+TEST_F(MessagesTest, EscClearsThePromptAndClosesItAndTheCloseBoxClosesWithoutClearing)
 {
     PromptOf([](Clerk& clerk) {
         clerk.Type(QStringLiteral("rama{ESC}"));
@@ -215,7 +215,7 @@ TEST_F(Messages, EscClearsThePromptAndClosesItAndTheCloseBoxClosesWithoutClearin
     EXPECT_EQ(m_narration, QString()) << "the field was never left";
 }
 
-TEST_F(Messages, ThePromptOpensTheKeyboardTutorWithF12)
+TEST_F(MessagesTest, ThePromptOpensTheKeyboardTutorWithF12)
 {
     PromptOf([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{F12}"));

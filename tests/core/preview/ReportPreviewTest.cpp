@@ -34,7 +34,7 @@ protected:
     }
 };
 
-class Preview : public ReportPreviewTest {
+class PreviewTest : public ReportPreviewTest {
 protected:
     // Five deliveries, each on a page of its own: the second and the fourth are Kamal's.
     void AddFivePages()
@@ -72,7 +72,7 @@ protected:
 
 }
 
-TEST_F(Preview, TheFirstPageIsSeenBeforeTheLastOfThreeHundredIsLaidOut)
+TEST_F(PreviewTest, TheFirstPageIsSeenBeforeTheLastOfThreeHundredIsLaidOut)
 {
     AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
     WriteTableTemplate();
@@ -91,7 +91,7 @@ TEST_F(Preview, TheFirstPageIsSeenBeforeTheLastOfThreeHundredIsLaidOut)
     });
 }
 
-TEST_F(Preview, ATurnOfThePageWhileTheLastIsAwaitedStays)
+TEST_F(PreviewTest, ATurnOfThePageWhileTheLastIsAwaitedStays)
 {
     AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
     WriteTableTemplate();
@@ -103,7 +103,7 @@ TEST_F(Preview, ATurnOfThePageWhileTheLastIsAwaitedStays)
     });
 }
 
-TEST_F(Preview, TheTitleIsTheReportsAndTheKeysFitIntoTheWindow)
+TEST_F(PreviewTest, TheTitleIsTheReportsAndTheKeysFitIntoTheWindow)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -115,7 +115,7 @@ TEST_F(Preview, TheTitleIsTheReportsAndTheKeysFitIntoTheWindow)
     });
 }
 
-TEST_F(Preview, AReportWithATitleShowsItInPlaceOfItsName)
+TEST_F(PreviewTest, AReportWithATitleShowsItInPlaceOfItsName)
 {
     WriteTemplate(QStringLiteral("<report name=\"Deliveries\" title=\"दूध संकलन रिपोर्ट\" paper=\"A4\">"
                                  "<text>एक</text></report>"));
@@ -126,7 +126,7 @@ TEST_F(Preview, AReportWithATitleShowsItInPlaceOfItsName)
     });
 }
 
-TEST_F(Preview, PgDnAndPgUpHomeAndEndTurnThePagesThatAreWhollySeen)
+TEST_F(PreviewTest, PgDnAndPgUpHomeAndEndTurnThePagesThatAreWhollySeen)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -142,7 +142,7 @@ TEST_F(Preview, PgDnAndPgUpHomeAndEndTurnThePagesThatAreWhollySeen)
     });
 }
 
-TEST_F(Preview, AnArrowScrollsAPageThatIsLargerThanTheWindowAndTurnsItAtItsEdge)
+TEST_F(PreviewTest, AnArrowScrollsAPageThatIsLargerThanTheWindowAndTurnsItAtItsEdge)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -163,7 +163,7 @@ TEST_F(Preview, AnArrowScrollsAPageThatIsLargerThanTheWindowAndTurnsItAtItsEdge)
     });
 }
 
-TEST_F(Preview, PgDnAndPgUpScrollALargerPageByTheWindowAndTurnItAtItsEdge)
+TEST_F(PreviewTest, PgDnAndPgUpScrollALargerPageByTheWindowAndTurnItAtItsEdge)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -182,7 +182,7 @@ TEST_F(Preview, PgDnAndPgUpScrollALargerPageByTheWindowAndTurnItAtItsEdge)
     });
 }
 
-TEST_F(Preview, ASlipIsWhollyAndLegiblySeenAtOnceAndCanBeScrolledWhenItIsEnlarged)
+TEST_F(PreviewTest, ASlipIsWhollyAndLegiblySeenAtOnceAndCanBeScrolledWhenItIsEnlarged)
 {
     for (const char* roll : {"58mm", "80mm"}) {
         WriteTemplate(QStringLiteral("<report name=\"Deliveries\" paper=\"%1\" margin=\"4\"><text>एक</text>"
@@ -205,7 +205,7 @@ TEST_F(Preview, ASlipIsWhollyAndLegiblySeenAtOnceAndCanBeScrolledWhenItIsEnlarge
     }
 }
 
-TEST_F(Preview, APageThatWouldBeTooSmallAsAWholeIsShownInItsWidthAtFirst)
+TEST_F(PreviewTest, APageThatWouldBeTooSmallAsAWholeIsShownInItsWidthAtFirst)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -216,7 +216,7 @@ TEST_F(Preview, APageThatWouldBeTooSmallAsAWholeIsShownInItsWidthAtFirst)
     });
 }
 
-TEST_F(Preview, ThePageIsFittedToTheWidthToTheWindowOrShownInItsOwnSize)
+TEST_F(PreviewTest, ThePageIsFittedToTheWidthToTheWindowOrShownInItsOwnSize)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -233,7 +233,7 @@ TEST_F(Preview, ThePageIsFittedToTheWidthToTheWindowOrShownInItsOwnSize)
     });
 }
 
-TEST_F(Preview, PlusAndMinusGoThroughTheSizesAndStopAtTheLast)
+TEST_F(PreviewTest, PlusAndMinusGoThroughTheSizesAndStopAtTheLast)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -255,7 +255,7 @@ TEST_F(Preview, PlusAndMinusGoThroughTheSizesAndStopAtTheLast)
     });
 }
 
-TEST_F(Preview, ASearchGoesToThePageAndMarksTheHitAndF3GoesOn)
+TEST_F(PreviewTest, ASearchGoesToThePageAndMarksTheHitAndF3GoesOn)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -279,7 +279,7 @@ TEST_F(Preview, ASearchGoesToThePageAndMarksTheHitAndF3GoesOn)
     });
 }
 
-TEST_F(Preview, ASearchThatFindsNothingSaysSoAndLeavesThePage)
+TEST_F(PreviewTest, ASearchThatFindsNothingSaysSoAndLeavesThePage)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -294,7 +294,7 @@ TEST_F(Preview, ASearchThatFindsNothingSaysSoAndLeavesThePage)
     });
 }
 
-TEST_F(Preview, AnEmptySearchAsksForTheWords)
+TEST_F(PreviewTest, AnEmptySearchAsksForTheWords)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -306,7 +306,7 @@ TEST_F(Preview, AnEmptySearchAsksForTheWords)
     });
 }
 
-TEST_F(Preview, FiguresAndDatesAreFoundAsTheyAreTyped)
+TEST_F(PreviewTest, FiguresAndDatesAreFoundAsTheyAreTyped)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -319,7 +319,7 @@ TEST_F(Preview, FiguresAndDatesAreFoundAsTheyAreTyped)
     });
 }
 
-TEST_F(Preview, LatinLettersOnThePaperAreFoundAsTheyAreTyped)
+TEST_F(PreviewTest, LatinLettersOnThePaperAreFoundAsTheyAreTyped)
 {
     WriteTemplate(QStringLiteral("<report name=\"Deliveries\" paper=\"A4\"><text>SNF</text></report>"));
     Show([](Clerk& clerk) {
@@ -329,7 +329,7 @@ TEST_F(Preview, LatinLettersOnThePaperAreFoundAsTheyAreTyped)
     });
 }
 
-TEST_F(Preview, BlanksAroundTheTypedWordsAreNoPartOfThem)
+TEST_F(PreviewTest, BlanksAroundTheTypedWordsAreNoPartOfThem)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -340,7 +340,7 @@ TEST_F(Preview, BlanksAroundTheTypedWordsAreNoPartOfThem)
     });
 }
 
-TEST_F(Preview, ASearchBehindWhatIsLaidOutWaitsForTheRest)
+TEST_F(PreviewTest, ASearchBehindWhatIsLaidOutWaitsForTheRest)
 {
     AddDeliveries(LongReport, [](int number) {
         return number == LongReport - 1 ? QStringLiteral("कमल पाटील") : QStringLiteral("अशोक शिंदे");
@@ -357,7 +357,7 @@ TEST_F(Preview, ASearchBehindWhatIsLaidOutWaitsForTheRest)
     });
 }
 
-TEST_F(Preview, EscLeavesTheSearchFirstAndThenCloses)
+TEST_F(PreviewTest, EscLeavesTheSearchFirstAndThenCloses)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -369,7 +369,7 @@ TEST_F(Preview, EscLeavesTheSearchFirstAndThenCloses)
     });
 }
 
-TEST_F(Preview, EscClosesAReportWhoseLastPageIsNotYetThereAndTheNextReadsTheBooksAnew)
+TEST_F(PreviewTest, EscClosesAReportWhoseLastPageIsNotYetThereAndTheNextReadsTheBooksAnew)
 {
     AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
     WriteTableTemplate();
@@ -382,7 +382,7 @@ TEST_F(Preview, EscClosesAReportWhoseLastPageIsNotYetThereAndTheNextReadsTheBook
     });
 }
 
-TEST_F(Preview, ThePageNumbersOnThePagesAreCompleteOnceTheyAreKnown)
+TEST_F(PreviewTest, ThePageNumbersOnThePagesAreCompleteOnceTheyAreKnown)
 {
     AddFivePages();
     Show([](Clerk& clerk) {

@@ -36,9 +36,9 @@ private:
 const QString PdfKey = QStringLiteral("^s");
 const QString CsvKey = QStringLiteral("^e");
 
-class ReportSaving : public ReportPreviewTest {
+class ReportSavingTest : public ReportPreviewTest {
 protected:
-    ReportSaving()
+    ReportSavingTest()
     {
         AddDeliveries(3, [](int number) {
             return number == 2 ? QStringLiteral("कमल, पाटील") : QStringLiteral("क्षमा द्विवेदी");
@@ -68,7 +68,7 @@ protected:
 
 }
 
-TEST_F(ReportSaving, ThePdfReadsAsTheScreenDoes)
+TEST_F(ReportSavingTest, ThePdfReadsAsTheScreenDoes)
 {
     Show([this](Clerk& clerk) {
         SaveAs(clerk, PdfKey, QStringLiteral("april.pdf"));
@@ -81,7 +81,7 @@ TEST_F(ReportSaving, ThePdfReadsAsTheScreenDoes)
     EXPECT_EQ(InFolder(), QStringList(QStringLiteral("april.pdf")));
 }
 
-TEST_F(ReportSaving, TheCsvIsUnicodeWithItsMarkAndOneRowARecord)
+TEST_F(ReportSavingTest, TheCsvIsUnicodeWithItsMarkAndOneRowARecord)
 {
     Show([this](Clerk& clerk) { SaveAs(clerk, CsvKey, QStringLiteral("april.csv")); });
     EXPECT_EQ(Content(QStringLiteral("april.csv")).toStdString(),
@@ -92,7 +92,7 @@ TEST_F(ReportSaving, TheCsvIsUnicodeWithItsMarkAndOneRowARecord)
         "3,क्षमा द्विवेदी,05/04/2026,1.50\r\n");
 }
 
-TEST_F(ReportSaving, TheReportsNameAndTheDayAreProposedInTheClerksDocuments)
+TEST_F(ReportSavingTest, TheReportsNameAndTheDayAreProposedInTheClerksDocuments)
 {
     Show([](Clerk& clerk) {
         clerk.Type(PdfKey);
@@ -105,7 +105,7 @@ TEST_F(ReportSaving, TheReportsNameAndTheDayAreProposedInTheClerksDocuments)
     });
 }
 
-TEST_F(ReportSaving, ATitleIsProposedInPlaceOfTheNameWithoutSignsThatNoFileTakes)
+TEST_F(ReportSavingTest, ATitleIsProposedInPlaceOfTheNameWithoutSignsThatNoFileTakes)
 {
     WriteTemplate(QStringLiteral("<report name=\"Deliveries\" title=\"दूध यादी : बँक\" paper=\"A4\">"
                                  "<text>एक</text></report>"));
@@ -115,7 +115,7 @@ TEST_F(ReportSaving, ATitleIsProposedInPlaceOfTheNameWithoutSignsThatNoFileTakes
     });
 }
 
-TEST_F(ReportSaving, TheNameCarriesWhatTheReportIsAbout)
+TEST_F(ReportSavingTest, TheNameCarriesWhatTheReportIsAbout)
 {
     ReportControl control = Control();
     control.SetSubject(
@@ -128,7 +128,7 @@ TEST_F(ReportSaving, TheNameCarriesWhatTheReportIsAbout)
         });
 }
 
-TEST_F(ReportSaving, OneDayIsNamedOnceAndWithoutAnyItIsToday)
+TEST_F(ReportSavingTest, OneDayIsNamedOnceAndWithoutAnyItIsToday)
 {
     EXPECT_EQ(ReportSubject({QStringLiteral("gaaya")}, QDate(2026, 4, 1), QDate(2026, 4, 1)),
         QStringLiteral("गाय 01-04-2026"));
@@ -136,13 +136,13 @@ TEST_F(ReportSaving, OneDayIsNamedOnceAndWithoutAnyItIsToday)
     EXPECT_EQ(ReportSubject({QStringLiteral("puNao")}), QStringLiteral("पुणे 15-04-2026"));
 }
 
-TEST_F(ReportSaving, ANameWithoutItsEndingGetsIt)
+TEST_F(ReportSavingTest, ANameWithoutItsEndingGetsIt)
 {
     Show([this](Clerk& clerk) { SaveAs(clerk, PdfKey, QStringLiteral("april.2026")); });
     EXPECT_EQ(InFolder(), QStringList(QStringLiteral("april.2026.pdf")));
 }
 
-TEST_F(ReportSaving, EscAndTheExitButtonSaveNothing)
+TEST_F(ReportSavingTest, EscAndTheExitButtonSaveNothing)
 {
     Show([this](Clerk& clerk) {
         clerk.Type(PdfKey + QStringLiteral("april{ENTER}") + m_folder.path() + QStringLiteral("{ESC}"));
@@ -157,7 +157,7 @@ TEST_F(ReportSaving, EscAndTheExitButtonSaveNothing)
     EXPECT_EQ(InFolder(), QStringList());
 }
 
-TEST_F(ReportSaving, AFileThatIsThereIsOnlyReplacedAfterAYes)
+TEST_F(ReportSavingTest, AFileThatIsThereIsOnlyReplacedAfterAYes)
 {
     Put(QStringLiteral("april.csv"), "old");
     Show([this](Clerk& clerk) {
@@ -169,7 +169,7 @@ TEST_F(ReportSaving, AFileThatIsThereIsOnlyReplacedAfterAYes)
     EXPECT_TRUE(Content(QStringLiteral("april.csv")).contains("0.50"));
 }
 
-TEST_F(ReportSaving, ANoLeavesTheFileAndAsksForAnotherName)
+TEST_F(ReportSavingTest, ANoLeavesTheFileAndAsksForAnotherName)
 {
     Put(QStringLiteral("april.csv"), "old");
     Show([this](Clerk& clerk) {
@@ -184,7 +184,7 @@ TEST_F(ReportSaving, ANoLeavesTheFileAndAsksForAnotherName)
     EXPECT_EQ(InFolder(), QStringList({QStringLiteral("april.csv"), QStringLiteral("may.csv")}));
 }
 
-TEST_F(ReportSaving, AMissingFolderIsToldAndAskedForAgain)
+TEST_F(ReportSavingTest, AMissingFolderIsToldAndAskedForAgain)
 {
     const QString missing = Saved(QStringLiteral("nowhere"));
     Show([&](Clerk& clerk) {
@@ -199,7 +199,7 @@ TEST_F(ReportSaving, AMissingFolderIsToldAndAskedForAgain)
     EXPECT_FALSE(QDir(missing).exists());
 }
 
-TEST_F(ReportSaving, AnEmptyNameOrFolderIsAskedForAgain)
+TEST_F(ReportSavingTest, AnEmptyNameOrFolderIsAskedForAgain)
 {
     Show([&](Clerk& clerk) {
         clerk.Type(PdfKey + QStringLiteral("{DEL}{ENTER}{ENTER}{ENTER}"));
@@ -210,7 +210,7 @@ TEST_F(ReportSaving, AnEmptyNameOrFolderIsAskedForAgain)
     });
 }
 
-TEST_F(ReportSaving, AFolderOfThatNameIsNotWrittenOver)
+TEST_F(ReportSavingTest, AFolderOfThatNameIsNotWrittenOver)
 {
     ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("april.pdf")));
     Show([&](Clerk& clerk) {
@@ -221,7 +221,7 @@ TEST_F(ReportSaving, AFolderOfThatNameIsNotWrittenOver)
     });
 }
 
-TEST_F(ReportSaving, AFullDiskIsToldAndLeavesTheOldFileAndNothingElse)
+TEST_F(ReportSavingTest, AFullDiskIsToldAndLeavesTheOldFileAndNothingElse)
 {
     for (const QString& ending : {QStringLiteral("pdf"), QStringLiteral("csv")}) {
         const QString name = QStringLiteral("april.") + ending;

@@ -5,9 +5,9 @@
 
 namespace {
 
-class AppDate : public SocietyTest {
+class AppDateTest : public SocietyTest {
 protected:
-    AppDate() { gAppState.gAppDate = QDate(); }
+    AppDateTest() { gAppState.gAppDate = QDate(); }
 
     void AddDelivery(const QString& date, int number)
     {
@@ -23,20 +23,20 @@ protected:
 
 }
 
-TEST_F(AppDate, WithoutCollectionsTheFirstOfAprilOfTheAccountingYearIsProposed)
+TEST_F(AppDateTest, WithoutCollectionsTheFirstOfAprilOfTheAccountingYearIsProposed)
 {
     gAppState.gAccountingYear = QStringLiteral("2010-2011");
     On<frmAppDate>([&](Clerk& clerk) { EXPECT_EQ(clerk.Reads(Mask), QStringLiteral("01/04/2010")); });
 }
 
-TEST_F(AppDate, TheLatestDayWithACollectionIsProposedThoughItLiesInThePast)
+TEST_F(AppDateTest, TheLatestDayWithACollectionIsProposedThoughItLiesInThePast)
 {
     AddDelivery(QStringLiteral("09/04/2026"), 1);
     AddDelivery(QStringLiteral("30/03/2026"), 2);
     On<frmAppDate>([&](Clerk& clerk) { EXPECT_EQ(clerk.Reads(Mask), QStringLiteral("09/04/2026")); });
 }
 
-TEST_F(AppDate, TheDateTypedOverTheProposalBecomesTheWorkingDay)
+TEST_F(AppDateTest, TheDateTypedOverTheProposalBecomesTheWorkingDay)
 {
     On<frmAppDate>([&](Clerk& clerk) {
         clerk.Type(QStringLiteral("15042026{ENTER}"));
@@ -47,7 +47,7 @@ TEST_F(AppDate, TheDateTypedOverTheProposalBecomesTheWorkingDay)
     });
 }
 
-TEST_F(AppDate, AnyValidDatePassesAlsoOneOutsideTheAccountingYear)
+TEST_F(AppDateTest, AnyValidDatePassesAlsoOneOutsideTheAccountingYear)
 {
     On<frmAppDate>([&](Clerk& clerk) {
         clerk.Type(QStringLiteral("01011999{ENTER}"));
@@ -55,7 +55,7 @@ TEST_F(AppDate, AnyValidDatePassesAlsoOneOutsideTheAccountingYear)
     });
 }
 
-TEST_F(AppDate, AnEmptyMaskRaisesTheNoticeAndFillsInTodaysDate)
+TEST_F(AppDateTest, AnEmptyMaskRaisesTheNoticeAndFillsInTodaysDate)
 {
     On<frmAppDate>([&](Clerk& clerk) {
         clerk.Type(QStringLiteral("{DEL}{ENTER}"));
@@ -70,7 +70,7 @@ TEST_F(AppDate, AnEmptyMaskRaisesTheNoticeAndFillsInTodaysDate)
     EXPECT_EQ(gAppState.gAppDate, QDate(2026, 4, 15));
 }
 
-TEST_F(AppDate, ADateThatIsNoneStopsWithTheRunTimeErrorBeforeTheNotice)
+TEST_F(AppDateTest, ADateThatIsNoneStopsWithTheRunTimeErrorBeforeTheNotice)
 {
     for (const char* typed : {"31022026", "25132026", "13252026", "1"}) {
         On<frmAppDate>([&](Clerk& clerk) {
@@ -82,13 +82,13 @@ TEST_F(AppDate, ADateThatIsNoneStopsWithTheRunTimeErrorBeforeTheNotice)
     }
 }
 
-TEST_F(AppDate, ClosedByItsCloseBoxBeforeTheFieldWasLeftTheWorkingDayStaysUnset)
+TEST_F(AppDateTest, ClosedByItsCloseBoxBeforeTheFieldWasLeftTheWorkingDayStaysUnset)
 {
     On<frmAppDate>([](Clerk& clerk) { clerk.CloseBox(); });
     EXPECT_FALSE(gAppState.gAppDate.isValid());
 }
 
-TEST_F(AppDate, TheButtonDoesNotCloseOverAnEmptyMask)
+TEST_F(AppDateTest, TheButtonDoesNotCloseOverAnEmptyMask)
 {
     On<frmAppDate>([&](Clerk& clerk) {
         clerk.Type(QStringLiteral("{DEL}"));
@@ -99,7 +99,7 @@ TEST_F(AppDate, TheButtonDoesNotCloseOverAnEmptyMask)
     });
 }
 
-TEST_F(AppDate, FieldAndButtonWearTheDateColourWithoutTheFocus)
+TEST_F(AppDateTest, FieldAndButtonWearTheDateColourWithoutTheFocus)
 {
     const QColor plain(0xAF, 0xBF, 0xC9);
     const QColor focus(0xFF, 0xC0, 0xC0);
@@ -112,7 +112,7 @@ TEST_F(AppDate, FieldAndButtonWearTheDateColourWithoutTheFocus)
     });
 }
 
-TEST_F(AppDate, ItsFaceNamesTheDateTwiceAndTheButtonPuzo)
+TEST_F(AppDateTest, ItsFaceNamesTheDateTwiceAndTheButtonPuzo)
 {
     On<frmAppDate>([](Clerk& clerk) {
         EXPECT_EQ(clerk.Top().Title().Text(), QStringLiteral(" idnaaMk "));

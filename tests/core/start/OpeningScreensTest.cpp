@@ -8,7 +8,7 @@
 
 namespace {
 
-class OpeningScreens : public SocietyTest {
+class OpeningScreensTest : public SocietyTest {
 protected:
     void Start(const std::function<void(Clerk&)>& script)
     {
@@ -18,7 +18,7 @@ protected:
 
 }
 
-TEST_F(OpeningScreens, ComeInTheirOrderUpToTheDateOverTheMenu)
+TEST_F(OpeningScreensTest, ComeInTheirOrderUpToTheDateOverTheMenu)
 {
     Start([](Clerk& clerk) {
         EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmAbout"));
@@ -32,7 +32,7 @@ TEST_F(OpeningScreens, ComeInTheirOrderUpToTheDateOverTheMenu)
     EXPECT_FALSE(Failure);
 }
 
-TEST_F(OpeningScreens, ExitOnTheTitleEndsTheProgram)
+TEST_F(OpeningScreensTest, ExitOnTheTitleEndsTheProgram)
 {
     Start([](Clerk& clerk) {
         clerk.Type(QStringLiteral("%x"));
@@ -40,7 +40,7 @@ TEST_F(OpeningScreens, ExitOnTheTitleEndsTheProgram)
     });
 }
 
-TEST_F(OpeningScreens, TheCloseBoxOfTheTitleActsAsExit)
+TEST_F(OpeningScreensTest, TheCloseBoxOfTheTitleActsAsExit)
 {
     Start([](Clerk& clerk) {
         clerk.CloseBox();
@@ -48,7 +48,7 @@ TEST_F(OpeningScreens, TheCloseBoxOfTheTitleActsAsExit)
     });
 }
 
-TEST_F(OpeningScreens, RejectOnTheCautionEndsTheProgram)
+TEST_F(OpeningScreensTest, RejectOnTheCautionEndsTheProgram)
 {
     Start([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ENTER}%r"));
@@ -56,7 +56,7 @@ TEST_F(OpeningScreens, RejectOnTheCautionEndsTheProgram)
     });
 }
 
-TEST_F(OpeningScreens, TheCautionColoursAcceptGreenAndRejectRedOnFocus)
+TEST_F(OpeningScreensTest, TheCautionColoursAcceptGreenAndRejectRedOnFocus)
 {
     Start([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ENTER}"));
@@ -69,7 +69,7 @@ TEST_F(OpeningScreens, TheCautionColoursAcceptGreenAndRejectRedOnFocus)
     });
 }
 
-TEST_F(OpeningScreens, TheTitleScreenNamesTheSystemAndVersion1WithOkAndExit)
+TEST_F(OpeningScreensTest, TheTitleScreenNamesTheSystemAndVersion1WithOkAndExit)
 {
     Start([](Clerk& clerk) {
         EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(QStringLiteral(" dUQa saMklana saa^FTvaoAr")));
@@ -79,7 +79,7 @@ TEST_F(OpeningScreens, TheTitleScreenNamesTheSystemAndVersion1WithOkAndExit)
     });
 }
 
-TEST_F(OpeningScreens, TheCautionReadsAsItIsWordedBesideAPicture)
+TEST_F(OpeningScreensTest, TheCautionReadsAsItIsWordedBesideAPicture)
 {
     Start([](Clerk& clerk) {
         clerk.Type(QStringLiteral("{ENTER}"));

@@ -378,7 +378,7 @@ TEST_F(OutputTest, PaperAndPdfAreNamedByTheTitle)
     EXPECT_TRUE(told.contains(QStringLiteral("दूध यादी"))) << told.toStdString();
 }
 
-TEST(MediaNames, EveryPaperOfTheTemplatesHasTheNameThatPrintersKnow)
+TEST(MediaNamesTest, EveryPaperOfTheTemplatesHasTheNameThatPrintersKnow)
 {
     const std::pair<const char16_t*, const char*> papers[] = {{u"A4", "A4"}, {u"A5", "A5"}, {u"A6", "A6"},
         {u"105x148mm", "A6"}, {u"120x90mm", "Custom.120x90mm"}, {u"10x12in", "Custom.254x304.8mm"},

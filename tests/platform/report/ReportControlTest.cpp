@@ -208,7 +208,7 @@ TEST_F(ReportControlTest, AfterClosingTheBooksCanBeReplacedAndAreOpenedAnew)
     EXPECT_EQ(ShownTexts(0), QStringLiteral("1 2"));
 }
 
-TEST(SystemPrinter, WithoutAPrintServiceThereIsAClearAnswer)
+TEST(SystemPrinterTest, WithoutAPrintServiceThereIsAClearAnswer)
 {
     qputenv("CUPS_SERVER", "/nonexistent/print.sock");
     const std::unique_ptr<Printer> printer = MakeSystemPrinter();
