@@ -58,9 +58,9 @@ TEST_F(MembersApostropheTest, NoNewMemberIsStoredUnderSuchAName)
     for (const QString& name : {Doubled, Single}) {
         const QStringList before = Books();
         Play([&](Clerk& clerk) {
-            clerk.Type(QStringLiteral("%n"));
+            Type(clerk, "%n");
             FillNewMember(clerk, name);
-            clerk.Type(QStringLiteral("%s"));
+            Type(clerk, "%s");
         });
         ExpectFailureAndBooks(before);
     }
@@ -82,7 +82,7 @@ TEST_F(MembersApostropheTest, AMemberWhoIsStoredSoIsRenamedNowhere)
     const QStringList before = Books();
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("ramaa{ENTER}%s%h"));
+        Type(clerk, "ramaa{ENTER}%s%h");
     });
     ExpectFailureAndBooks(before);
 }
@@ -91,7 +91,7 @@ TEST_F(MembersApostropheTest, TheDeletionOfAMemberWhoIsStoredSoTakesNobodysVouch
 {
     StoreName(1, Single);
     const QStringList before = Books();
-    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h")); });
+    Play([](Clerk& clerk) { Type(clerk, "%k1{ENTER}{ENTER}%h"); });
     ExpectFailureAndBooks(before);
 }
 

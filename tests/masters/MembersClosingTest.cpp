@@ -103,7 +103,7 @@ TEST_F(MembersClosingTest, SavingRecomputesTheBalanceFromTheEntries)
     Play([this](Clerk& clerk) {
         CallUp(clerk, 1);
         clerk.Do([this] { AddCollection(1, QStringLiteral("rama"), 80); });
-        clerk.Type(QStringLiteral("%s%h"));
+        Type(clerk, "%s%h");
     });
     EXPECT_EQ(Rows(QStringLiteral("select ClosingBalance,ClosingDorC from MembersMaster")),
         QStringList{QStringLiteral("80|C")});
@@ -116,7 +116,7 @@ TEST_F(MembersClosingTest, TheLettersOfTheWordsAreWritten)
         CallUp(clerk, 1);
         GoTo(clerk, QStringLiteral("txtOpeningBalance"));
         TypeEach(clerk, {QStringLiteral("10"), QStringLiteral("1")});
-        clerk.Type(QStringLiteral("%s%h"));
+        Type(clerk, "%s%h");
     });
     EXPECT_EQ(Rows(QStringLiteral(
                   "select OpeningBalance,OpeningDorC,ClosingBalance,ClosingDorC from MembersMaster")),
@@ -162,10 +162,10 @@ TEST_F(MembersClosingTest, LitresMoveByWhatTheOpeningMoves)
         CallUp(clerk, 1);
         GoTo(clerk, QStringLiteral("txtCowOpeningLits"));
         TypeEach(clerk, {QStringLiteral("120.25"), QStringLiteral("11")});
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtCowClosingLits")), QStringLiteral("370.750"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtBuffClosingLits")), QStringLiteral("41.000"));
-        clerk.Type(QStringLiteral("+{TAB}+{TAB}100{ENTER}"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtCowClosingLits")), QStringLiteral("350.500"));
+        EXPECT_EQ(Reads(clerk, "txtCowClosingLits"), "370.750");
+        EXPECT_EQ(Reads(clerk, "txtBuffClosingLits"), "41.000");
+        Type(clerk, "+{TAB}+{TAB}100{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtCowClosingLits"), "350.500");
     });
 }
 
@@ -174,11 +174,11 @@ TEST_F(MembersClosingTest, ANewMembersLitresAreThoseOfTheOpeningWhateverWasLoade
     Run(QStringLiteral("update MembersMaster set CowOpeningLits=100,CowClosingLits=350"));
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Press(QStringLiteral("cmdCancel"));
-        clerk.Press(QStringLiteral("cmdNew"));
+        Press(clerk, "cmdCancel");
+        Press(clerk, "cmdNew");
         TypeEach(clerk,
             {QString(), QStringLiteral("gaNaoXa"), QString(), QString(), QStringLiteral("3"),
                 QStringLiteral("1"), QString(), QString(), QStringLiteral("7.5")});
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtCowClosingLits")), QStringLiteral("7.500"));
+        EXPECT_EQ(Reads(clerk, "txtCowClosingLits"), "7.500");
     });
 }

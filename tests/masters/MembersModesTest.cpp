@@ -47,9 +47,9 @@ TEST_F(MembersModesTest, OpensIdleWithItsFieldsClosedAndTheFocusOnNew)
     Play([](Clerk& clerk) {
         ExpectIdle(clerk);
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdModify cmdDelete cmdExit"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdCancel")), QStringLiteral("&r_"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("&baahor"));
+        EXPECT_EQ(Focus(clerk), "cmdNew");
+        EXPECT_EQ(Reads(clerk, "cmdCancel"), "&r_");
+        EXPECT_EQ(Reads(clerk, "cmdExit"), "&baahor");
     });
 }
 
@@ -66,7 +66,7 @@ TEST_F(MembersModesTest, TheFieldsOpenWithTheirEmptyValues)
         for (const char* name :
             {"txtCowOpeningLits", "txtCowClosingLits", "txtBuffOpeningLits", "txtBuffClosingLits"})
             EXPECT_EQ(clerk.Reads(QLatin1String(name)), QStringLiteral("0.000")) << name;
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtOpeningDorC")), QStringLiteral("doNao"));
+        EXPECT_EQ(Reads(clerk, "txtOpeningDorC"), "doNao");
     });
 }
 
@@ -74,10 +74,10 @@ TEST_F(MembersModesTest, WithoutAnyMemberOnlyNewAndExitAreOpen)
 {
     Play([](Clerk& clerk) {
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdExit"));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        clerk.Press(QStringLiteral("cmdCancel"));
+        Type(clerk, "{ENTER}");
+        Press(clerk, "cmdCancel");
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdExit"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
+        EXPECT_EQ(Focus(clerk), "cmdNew");
     });
 }
 
@@ -85,12 +85,12 @@ TEST_F(MembersModesTest, NewOpensAllFieldsAndLeavesOnlySaveAndCancelToPress)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         EXPECT_EQ(TitleOf(clerk), QStringLiteral(" ]%padkacao maasTr navaIna roka^D-"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdNew")), QStringLiteral("&saovh"));
+        EXPECT_EQ(Reads(clerk, "cmdNew"), "&saovh");
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdCancel"));
         EXPECT_EQ(Open(clerk, EntryFields), EntryFields);
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
 }
 
@@ -98,13 +98,13 @@ TEST_F(MembersModesTest, ModifyOpensAllFieldsWithTheNumberEmpty)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%d"));
+        Type(clerk, "%d");
         EXPECT_EQ(TitleOf(clerk), QStringLiteral(" ]%padkacao maasTr roka^D-maQyao badla"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdModify")), QStringLiteral("&saovh"));
+        EXPECT_EQ(Reads(clerk, "cmdModify"), "&saovh");
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdModify cmdCancel"));
         EXPECT_EQ(Open(clerk, EntryFields), EntryFields);
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QString());
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "");
     });
 }
 
@@ -112,13 +112,13 @@ TEST_F(MembersModesTest, DeleteOpensOnlyTheNumberAndTheName)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k"));
+        Type(clerk, "%k");
         EXPECT_EQ(TitleOf(clerk), QStringLiteral(" ]%padkacao maasTr roka^D- KaoDNao"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdDelete")), QStringLiteral("&KaoDa"));
+        EXPECT_EQ(Reads(clerk, "cmdDelete"), "&KaoDa");
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdDelete cmdCancel"));
         EXPECT_EQ(Open(clerk, EntryFields).join(u' '), QStringLiteral("txtMemberNo ComboMemberName"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), QString());
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
 }
 
@@ -126,14 +126,14 @@ TEST_F(MembersModesTest, CancelByMouseFromAnInvalidFieldShowsNothingAndReturnsTo
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}1"));
-        clerk.Press(QStringLiteral("cmdCancel"));
+        Type(clerk, "{ENTER}1");
+        Press(clerk, "cmdCancel");
         ExpectIdle(clerk);
-        clerk.Type(QStringLiteral("%d1{ENTER}{BS}"));
-        clerk.Press(QStringLiteral("cmdCancel"));
+        Type(clerk, "%d1{ENTER}{BS}");
+        Press(clerk, "cmdCancel");
         ExpectIdle(clerk);
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdModify"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), QString());
+        EXPECT_EQ(Focus(clerk), "cmdModify");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "");
     });
 }
 
@@ -141,10 +141,10 @@ TEST_F(MembersModesTest, CancelByItsKeyChecksTheFieldFirstAndIsPressedWhateverIt
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}1%r"));
+        Type(clerk, "{ENTER}1%r");
         GoOn(clerk, QStringLiteral("yaa maombar naMbarcao roka^D- Agaaodrca Aaho"));
         ExpectIdle(clerk);
-        clerk.Type(QStringLiteral("%n2%r"));
+        Type(clerk, "%n2%r");
         ExpectIdle(clerk);
     });
 }
@@ -155,8 +155,8 @@ TEST_F(MembersModesTest, CancelHidesTheBankFields)
     Run(QStringLiteral("update MembersMaster set PaymentType='ba^nk',BankName='sTuT'"));
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("ComboBankName")));
-        clerk.Press(QStringLiteral("cmdCancel"));
+        EXPECT_TRUE(CanEnter(clerk, "ComboBankName"));
+        Press(clerk, "cmdCancel");
         EXPECT_FALSE(clerk.Top().Find(u"ComboBankName")->Visible());
         EXPECT_FALSE(clerk.Top().Find(u"txtBankAccountNo")->Visible());
     });
@@ -166,8 +166,8 @@ TEST_F(MembersModesTest, EscOnAnInvalidFieldClosesWithoutAMessage)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}1{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ENTER}1{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_FALSE(Failure);
     EXPECT_EQ(One(QStringLiteral("select count(*) from MembersMaster")), QStringLiteral("1"));
@@ -178,14 +178,14 @@ TEST_F(MembersModesTest, EscClearsTheFieldsAndTheCloseBoxLeavesThem)
     frmMembers screen;
     const auto open = [&screen] { screen.ShowModal(); };
     Failure = TheClerk.Play(open, [](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}7"));
+        Type(clerk, "{ENTER}7");
         clerk.CloseBox();
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_EQ(screen.Find(u"txtMemberNo")->Text(), QStringLiteral("7"));
     Failure = TheClerk.Play(open, [](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}8{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ENTER}8{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_EQ(screen.Find(u"txtMemberNo")->Text(), QString());
 }
@@ -193,20 +193,20 @@ TEST_F(MembersModesTest, EscClearsTheFieldsAndTheCloseBoxLeavesThem)
 TEST_F(MembersModesTest, ExitCloses)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%b"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "%b");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 
 TEST_F(MembersModesTest, F12OpensTheKeyboardTutorAndF2NothingAtAll)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{F2}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
-        clerk.Type(QStringLiteral("{F12}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+        Type(clerk, "{ENTER}{F2}");
+        EXPECT_EQ(OnTop(clerk), "frmMembers");
+        Type(clerk, "{F12}");
+        EXPECT_EQ(OnTop(clerk), "frmKeyboardTutor");
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
     EXPECT_TRUE(TheCalculator.Started.isEmpty());
 }

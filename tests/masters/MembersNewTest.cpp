@@ -40,7 +40,7 @@ TEST_F(MembersNewTest, TheLastNumberThatFitsIsGivenOut)
 TEST_F(MembersNewTest, BeyondTheLastNumberTheProgramEndsWithAnOverflow)
 {
     AddMember(32767, QStringLiteral("rama"));
-    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("{ENTER}")); });
+    Play([](Clerk& clerk) { Type(clerk, "{ENTER}"); });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), RunTimeError::Overflow);
 }
@@ -50,15 +50,15 @@ TEST_F(MembersNewTest, AWholeMemberIsWrittenAsTyped)
     Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'Kod')"));
     Run(QStringLiteral("insert into BankMaster(CompanyId,BankName) values(1,'sTuT')"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         TypeEach(clerk,
             {QStringLiteral("12"), QStringLiteral(" ramaa "), QStringLiteral("vaaDa"), QStringLiteral("Kod"),
                 QStringLiteral("3"), QStringLiteral("2"), QStringLiteral("sTuT"), QStringLiteral("4711"),
                 QStringLiteral("150.5"), QStringLiteral("2"), QStringLiteral("10.25"), QStringLiteral("20.5"),
                 QStringLiteral("300"), QStringLiteral("40.4"), QStringLiteral("50.05")});
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdNew")), QStringLiteral("&navaIna"));
+        EXPECT_EQ(Focus(clerk), "cmdNew");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Reads(clerk, "cmdNew"), "&navaIna");
     });
     EXPECT_EQ(Rows(QStringLiteral("select * from MembersMaster")).join(u'\n'),
         QStringLiteral(
@@ -70,11 +70,11 @@ TEST_F(MembersNewTest, AfterSavingEnterBeginsTheNextMember)
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("rama"));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), QString());
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("cmdModify")));
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("cmdDelete")));
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Focus(clerk), "cmdNew");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "");
+        EXPECT_TRUE(CanEnter(clerk, "cmdModify"));
+        EXPECT_TRUE(CanEnter(clerk, "cmdDelete"));
         EXPECT_EQ(NextNumber(clerk), QStringLiteral("2"));
     });
 }
@@ -83,7 +83,7 @@ TEST_F(MembersNewTest, TheNewNameIsOnTheListAtOnce)
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("rama"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         const auto* names = dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboMemberName"));
         ASSERT_NE(names, nullptr);
         EXPECT_EQ(names->Items(), QStringList{QStringLiteral("rama")});
@@ -93,9 +93,9 @@ TEST_F(MembersNewTest, TheNewNameIsOnTheListAtOnce)
 TEST_F(MembersNewTest, AnEmptyNumberIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{BS}{ENTER}"));
+        Type(clerk, "{ENTER}{BS}{ENTER}");
         GoOn(clerk, QStringLiteral("maombar naMbar vyavaisqat Ta[-p kra"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
 }
 
@@ -103,11 +103,11 @@ TEST_F(MembersNewTest, ANumberOnRecordIsRefusedInWhateverCompanyItIs)
 {
     Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(2,5,'Xyaama')"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}005{ENTER}"));
+        Type(clerk, "{ENTER}005{ENTER}");
         GoOn(clerk, QStringLiteral("yaa maombar naMbarcao roka^D- Agaaodrca Aaho"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
-        clerk.Type(QStringLiteral("4{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+        Type(clerk, "4{ENTER}");
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
     });
 }
 
@@ -115,9 +115,9 @@ TEST_F(MembersNewTest, ANameOnRecordIsRefusedWhateverItsBlanks)
 {
     AddMember(1, QStringLiteral(" rama "));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{ENTER}rama{ENTER}"));
+        Type(clerk, "{ENTER}{ENTER}rama{ENTER}");
         GoOn(clerk, QStringLiteral("yaa naavaacao roka^D- Agaaodrca Aaho"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
     });
 }
 
@@ -125,11 +125,11 @@ TEST_F(MembersNewTest, ANameThatReadsLikeOneOnRecordIsRefused)
 {
     AddMember(1, QStringLiteral("maa$tI"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{ENTER}maarutI{ENTER}"));
+        Type(clerk, "{ENTER}{ENTER}maarutI{ENTER}");
         GoOn(clerk, QStringLiteral("yaa naavaacao roka^D- Agaaodrca Aaho"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
-        clerk.Type(QStringLiteral("maaQava{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAddress"));
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
+        Type(clerk, "maaQava{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtAddress");
     });
 }
 
@@ -137,7 +137,7 @@ TEST_F(MembersNewTest, ANameIsStoredInTheSpellingThatWasTyped)
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("maarutI"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
     });
     EXPECT_EQ(One(QStringLiteral("select MemberName from MembersMaster")), QStringLiteral("maarutI"));
 }
@@ -145,26 +145,26 @@ TEST_F(MembersNewTest, ANameIsStoredInTheSpellingThatWasTyped)
 TEST_F(MembersNewTest, AnEmptyNameIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{ENTER}  {ENTER}"));
+        Type(clerk, "{ENTER}{ENTER}  {ENTER}");
         GoOn(clerk, QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
     });
 }
 
 TEST_F(MembersNewTest, SavingStopsAtTheFirstThatIsMissing)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}0%s"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
-        clerk.Type(QStringLiteral("1%s"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
-        clerk.Type(QStringLiteral("rama%s"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAnimal"));
-        clerk.Type(QStringLiteral("1%s"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtPaymentType"));
-        clerk.Type(QStringLiteral("1%s"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdNew")), QStringLiteral("&navaIna"));
+        Type(clerk, "{ENTER}0%s");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+        Type(clerk, "1%s");
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
+        Type(clerk, "rama%s");
+        EXPECT_EQ(Focus(clerk), "txtAnimal");
+        Type(clerk, "1%s");
+        EXPECT_EQ(Focus(clerk), "txtPaymentType");
+        Type(clerk, "1%s");
+        EXPECT_EQ(Focus(clerk), "cmdNew");
+        EXPECT_EQ(Reads(clerk, "cmdNew"), "&navaIna");
     });
     EXPECT_EQ(Rows(QStringLiteral("select MemberNo,MemberName,Animal,PaymentType,OpeningDorC,ClosingDorC,"
                                   "ClosingBalance from MembersMaster")),
@@ -177,13 +177,13 @@ TEST_F(MembersNewTest, ANewMemberTakesTheAccountThatWasReadLast)
     Run(QStringLiteral("update MembersMaster set AccountId=815"));
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("Xyaama"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         CallUp(clerk, 1);
-        clerk.Press(QStringLiteral("cmdCancel"));
-        clerk.Press(QStringLiteral("cmdNew"));
-        clerk.Press(QStringLiteral("cmdCancel"));
+        Press(clerk, "cmdCancel");
+        Press(clerk, "cmdNew");
+        Press(clerk, "cmdCancel");
         FillNewMember(clerk, QStringLiteral("gaNaoXa"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
     });
     EXPECT_EQ(
         Rows(QStringLiteral("select MemberNo,AccountId from MembersMaster order by MemberNo")).join(u' '),
@@ -194,7 +194,7 @@ TEST_F(MembersNewTest, AnApostropheInTheNameEndsTheProgramAndLeavesTheBooksAsThe
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("ra'ma"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
     });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
@@ -206,11 +206,11 @@ TEST_F(MembersNewTest, ANameOfAThousandCharactersIsKeptWhole)
 {
     const QString name = QStringLiteral("rama ").repeated(200).trimmed();
     Play([&name](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
+        Type(clerk, "{ENTER}{ENTER}");
         clerk.Type(Typed(name));
-        clerk.Type(QStringLiteral("{ENTER}%s"));
+        Type(clerk, "{ENTER}%s");
         TypeEach(clerk, {QStringLiteral("1"), QStringLiteral("1")});
-        clerk.Type(QStringLiteral("%s"));
+        Type(clerk, "%s");
     });
     EXPECT_EQ(One(QStringLiteral("select MemberName from MembersMaster")), name);
 }
@@ -220,8 +220,8 @@ TEST_F(MembersNewTest, CollectionsOnRecordForTheNumberCountForTheNewMember)
     AddCollection(1, QStringLiteral("rama"), 812.5);
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("rama"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtClosingBalance")), QStringLiteral("812.50"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(Reads(clerk, "txtClosingBalance"), "812.50");
+        Type(clerk, "{ENTER}");
     });
     EXPECT_EQ(Rows(QStringLiteral("select ClosingBalance,ClosingDorC from MembersMaster")),
         QStringList{QStringLiteral("812.5|C")});
@@ -230,7 +230,7 @@ TEST_F(MembersNewTest, CollectionsOnRecordForTheNumberCountForTheNewMember)
 TEST_F(MembersNewTest, TheLatinKeysOfTheLayoutReadAsMarathi)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
+        Type(clerk, "{ENTER}{ENTER}");
         clerk.Type(Typed(QStringLiteral("maombarcao naaMva")));
         const auto* name = dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboMemberName"));
         ASSERT_NE(name, nullptr);

@@ -68,7 +68,7 @@ TEST_F(MembersOrderTest, TheMasterAndThenTheFourPlacesOfTheNameAreWritten)
     Play([this](Clerk& clerk) {
         CallUp(clerk, 1);
         Note(Renames);
-        clerk.Type(QStringLiteral("gaNaoXa{ENTER}%s%h"));
+        Type(clerk, "gaNaoXa{ENTER}%s%h");
     });
     EXPECT_EQ(Written(), Renames);
 }
@@ -78,7 +78,7 @@ TEST_F(MembersOrderTest, AnUnchangedNameIsWrittenInTheSameOrder)
     Play([this](Clerk& clerk) {
         CallUp(clerk, 1);
         Note(Renames);
-        clerk.Type(QStringLiteral("%s%h"));
+        Type(clerk, "%s%h");
     });
     EXPECT_EQ(Written(), Renames);
 }
@@ -86,9 +86,9 @@ TEST_F(MembersOrderTest, AnUnchangedNameIsWrittenInTheSameOrder)
 TEST_F(MembersOrderTest, AMemberLeavesTheMasterFirstAndTheDeductionsLast)
 {
     Play([this](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k1{ENTER}"));
+        Type(clerk, "%k1{ENTER}");
         Note(Deletes);
-        clerk.Type(QStringLiteral("{ENTER}%h"));
+        Type(clerk, "{ENTER}%h");
     });
     EXPECT_EQ(Written(), Deletes);
 }
@@ -96,10 +96,10 @@ TEST_F(MembersOrderTest, AMemberLeavesTheMasterFirstAndTheDeductionsLast)
 TEST_F(MembersOrderTest, ANoWritesNothingAtAll)
 {
     Note(Renames + Deletes);
-    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%n")); });
+    Play([](Clerk& clerk) { Type(clerk, "%k1{ENTER}{ENTER}%n"); });
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("gaNaoXa{ENTER}%s%n"));
+        Type(clerk, "gaNaoXa{ENTER}%s%n");
     });
     EXPECT_EQ(Written(), QStringList());
 }
@@ -113,7 +113,7 @@ TEST_F(MembersOrderTest, LeavingTheLastOpeningFieldGivesTheFocusToSave)
         ExpectSaveAfter(clerk, QStringLiteral("txtBuffOpeningThev"), QStringLiteral("cmdModify"));
     });
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         ExpectSaveAfter(clerk, QStringLiteral("txtBuffOpeningThev"), QStringLiteral("cmdNew"));
     });
 }
@@ -132,15 +132,15 @@ TEST_F(MembersOrderTest, SteppingBackFromTheLastOpeningFieldLeadsToTheFieldBefor
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
         GoTo(clerk, QStringLiteral("txtBuffOpeningThev"));
-        clerk.Type(QStringLiteral("5+{TAB}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtCowOpeningThev"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtBuffOpeningThev")), QStringLiteral("5.00"));
+        Type(clerk, "5+{TAB}");
+        EXPECT_EQ(Focus(clerk), "txtCowOpeningThev");
+        EXPECT_EQ(Reads(clerk, "txtBuffOpeningThev"), "5.00");
     });
     Run(QStringLiteral("update MembersMaster set Animal='gaaya'"));
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
         GoTo(clerk, QStringLiteral("txtCowOpeningThev"));
-        clerk.Type(QStringLiteral("+{TAB}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtOpeningUchal"));
+        Type(clerk, "+{TAB}");
+        EXPECT_EQ(Focus(clerk), "txtOpeningUchal");
     });
 }

@@ -84,8 +84,8 @@ TEST_F(MembersListTest, AnApostropheInTheAreaFailsTheListAndNothingIsStaged)
         On<frmReportMembersList>([area](Clerk& clerk) {
             clerk.Type(QStringLiteral("%2{ENTER}") + QString::fromLatin1(area));
             EXPECT_EQ(clerk.Reads(QStringLiteral("ComboArea")), QString::fromLatin1(area));
-            clerk.Type(QStringLiteral("%i"));
-            EXPECT_EQ(clerk.ScreenName(), QString());
+            Type(clerk, "%i");
+            EXPECT_EQ(OnTop(clerk), "");
         });
         ASSERT_TRUE(Failure) << area;
         EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
@@ -128,16 +128,16 @@ TEST_F(MembersListTest, OnlyWhatBelongsToTheChosenListCanBeEntered)
             return names;
         };
         EXPECT_EQ(open(), "0000");
-        clerk.Type(QStringLiteral("%2"));
+        Type(clerk, "%2");
         EXPECT_EQ(open(), "1000");
         EXPECT_EQ(dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboArea"))->Items().join(u' '),
             QStringLiteral("kraD masaUr"));
-        clerk.Type(QStringLiteral("%3"));
+        Type(clerk, "%3");
         EXPECT_EQ(open(), "0111");
-        clerk.Type(QStringLiteral("%1{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdReport"));
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "%1{ENTER}");
+        EXPECT_EQ(Focus(clerk), "cmdReport");
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 
@@ -146,10 +146,10 @@ TEST_F(MembersListTest, TheAreasGuideSaysThatNoneMeansAll)
     On<frmReportMembersList>([](Clerk& clerk) {
         const auto guide = [&] { return clerk.Top().findChild<QLabel*>(QStringLiteral("lblGuide"))->text(); };
         EXPECT_EQ(guide(), QString());
-        clerk.Type(QStringLiteral("%2{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboArea"));
+        Type(clerk, "%2{ENTER}");
+        EXPECT_EQ(Focus(clerk), "ComboArea");
         EXPECT_EQ(guide(), QStringLiteral("रिकामे ठेवल्यास सर्व विभाग"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         EXPECT_EQ(guide(), QString());
     });
 }

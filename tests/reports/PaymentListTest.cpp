@@ -163,12 +163,12 @@ TEST_F(PaymentListTest, ThePeriodOfTheHeadSpansThoseOfAllItsRowsAndOfNoOthers)
 TEST_F(PaymentListTest, CashIsChosenAtFirstAndADateThatIsNoneTakesTheFocusBack)
 {
     On<frmReportPaymentList>([this](Clerk& clerk) {
-        EXPECT_EQ(clerk.Reads(QStringLiteral("Option1")), QStringLiteral("1"));
-        clerk.Type(QStringLiteral("3104{ENTER}%i"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("MaskFromDate"));
+        EXPECT_EQ(Reads(clerk, "Option1"), "1");
+        Type(clerk, "3104{ENTER}%i");
+        EXPECT_EQ(Focus(clerk), "MaskFromDate");
         EXPECT_TRUE(TheWindow.Shown.empty());
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 

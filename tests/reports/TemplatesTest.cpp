@@ -198,9 +198,9 @@ TEST_F(ShippedTemplatesTest, MilkPSReportShowsAMembersTenDays)
 {
     const QString name = NameOfMember("daonhI");
     On<frmReportMilkPS>([&](Clerk& clerk) {
-        clerk.Type(QStringLiteral("01042026{ENTER}10042026{ENTER}{ENTER}"));
+        Type(clerk, "01042026{ENTER}10042026{ENTER}{ENTER}");
         clerk.Do([&] { dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboAccountName"))->SetText(name); });
-        clerk.Type(QStringLiteral("%i"));
+        Type(clerk, "%i");
     });
     CompareWithGolden(QStringLiteral("MilkPSReport"));
 }
@@ -211,9 +211,8 @@ TEST_F(ShippedTemplatesTest, MilkPSReportShowsACustomersPurchasesInTheSameShape)
         AddSale(day, "sakaL", 1, "dUQa saMGa", "gaaya", 120.5, 4.1, 8.5);
         AddSale(day, "saMQyaakaL", 1, "dUQa saMGa", "mhOsa", 80.25, 6.8, 9.1);
     }
-    On<frmReportMilkPS>([&](Clerk& clerk) {
-        clerk.Type(QStringLiteral("01042026{ENTER}10042026{ENTER}{DOWN}{ENTER}dUQa saMGa%i"));
-    });
+    On<frmReportMilkPS>(
+        [&](Clerk& clerk) { Type(clerk, "01042026{ENTER}10042026{ENTER}{DOWN}{ENTER}dUQa saMGa%i"); });
     CompareWithGolden(QStringLiteral("MilkPSReport of a customer"));
 }
 

@@ -51,30 +51,30 @@ TEST_F(SharedRoutinesTest, FillComboTakesOneColumnInTheOrderOfTheQuery)
 TEST_F(SharedRoutinesTest, CheckDateFieldClearsABadDateAndHoldsTheFocusWithoutAMessage)
 {
     On<frmProbe>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{TAB}31022026{TAB}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmProbe"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("MaskDate"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("MaskDate")), QStringLiteral("__/__/____"));
+        Type(clerk, "{TAB}31022026{TAB}");
+        EXPECT_EQ(OnTop(clerk), "frmProbe");
+        EXPECT_EQ(Focus(clerk), "MaskDate");
+        EXPECT_EQ(Reads(clerk, "MaskDate"), "__/__/____");
         EXPECT_EQ(clerk.On<frmProbe>().DateBad, 1);
-        clerk.Type(QStringLiteral("28022026{TAB}"));
+        Type(clerk, "28022026{TAB}");
         EXPECT_EQ(clerk.On<frmProbe>().DateBad, 0);
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtNumber"));
+        EXPECT_EQ(Focus(clerk), "txtNumber");
     });
 }
 
 TEST_F(SharedRoutinesTest, SelectFieldTextSelectsWhatTheFocusHoldsSoThatTypingReplacesIt)
 {
     On<frmProbe>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{TAB}01042026{TAB}123{END}"));
+        Type(clerk, "{TAB}01042026{TAB}123{END}");
         clerk.Do([] { SelectFieldText(); });
-        clerk.Type(QStringLiteral("9"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtNumber")), QStringLiteral("9"));
+        Type(clerk, "9");
+        EXPECT_EQ(Reads(clerk, "txtNumber"), "9");
     });
 }
 
 TEST_F(SharedRoutinesTest, F2StartsTheCalculatorOfAppFolderMaximised)
 {
-    On<frmProbe>([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
+    On<frmProbe>([](Clerk& clerk) { Type(clerk, "{F2}"); });
     EXPECT_EQ(
         TheCalculator.Started, QStringList(QStringLiteral("C:\\Tarvel01\\Vetrolan\\calc.EXE maximised")));
     EXPECT_TRUE(TheBox.Shown.isEmpty());
@@ -83,6 +83,6 @@ TEST_F(SharedRoutinesTest, F2StartsTheCalculatorOfAppFolderMaximised)
 TEST_F(SharedRoutinesTest, WithoutAnyCalculatorAPlainMessageSaysSo)
 {
     TheCalculator.There = false;
-    On<frmProbe>([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
+    On<frmProbe>([](Clerk& clerk) { Type(clerk, "{F2}"); });
     EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("या संगणकावर कॅलक्युलेटर सापडला नाही.")));
 }

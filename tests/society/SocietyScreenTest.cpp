@@ -95,7 +95,7 @@ TEST_F(SocietyScreenTest, EscEmptiesTheFieldsAndCloses)
             screen.ShowModal();
             left = screen.Find(u"txtMemberNo")->Text();
         },
-        [](Clerk& clerk) { clerk.Type(QStringLiteral("12{ESC}")); });
+        [](Clerk& clerk) { Type(clerk, "12{ESC}"); });
     EXPECT_FALSE(Failure);
     EXPECT_EQ(left.toStdString(), "");
 }
@@ -103,7 +103,7 @@ TEST_F(SocietyScreenTest, EscEmptiesTheFieldsAndCloses)
 TEST_F(SocietyScreenTest, ItsExitCloses)
 {
     On<frmProbe>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("12%b"));
+        Type(clerk, "12%b");
         EXPECT_EQ(clerk.ScreenName().toStdString(), "");
     });
     EXPECT_FALSE(Failure);
@@ -112,12 +112,12 @@ TEST_F(SocietyScreenTest, ItsExitCloses)
 TEST_F(SocietyScreenTest, F2AndF12AnswerWhereTheScreenHasThemAndNowhereElse)
 {
     On<frmBare>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{F2}{F12}"));
+        Type(clerk, "{F2}{F12}");
         EXPECT_EQ(clerk.ScreenName().toStdString(), "frmBare");
     });
     EXPECT_TRUE(TheCalculator.Started.isEmpty());
     On<frmProbe>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{F2}{F12}"));
+        Type(clerk, "{F2}{F12}");
         EXPECT_EQ(clerk.ScreenName().toStdString(), "frmKeyboardTutor");
     });
     EXPECT_EQ(TheCalculator.Started.size(), 1);
@@ -127,7 +127,7 @@ TEST_F(SocietyScreenTest, F2AndF12AnswerWhereTheScreenHasThemAndNowhereElse)
 TEST_F(SocietyScreenTest, AKeyOfTheFieldInFocusComesBeforeThatOfTheScreen)
 {
     On<frmProbe>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{F3}{UP}{TAB}{F3}{UP}"));
+        Type(clerk, "{F3}{UP}{TAB}{F3}{UP}");
         EXPECT_EQ(clerk.On<frmProbe>().Told.join(u' ').toStdString(), "field field screen");
     });
     EXPECT_FALSE(Failure);

@@ -47,7 +47,7 @@ SocietyTest::~SocietyTest()
     ProgramWindow::Leave(); // the line of a check may have opened it
 }
 
-std::string SocietyTest::Label(Clerk& clerk, const char* label)
+std::string SocietyTest::Label(const Clerk& clerk, const char* label)
 {
     const auto* found = clerk.Top().findChild<QLabel*>(QString::fromUtf8(label));
     return found ? found->text().toStdString() : std::string("no label ") + label;

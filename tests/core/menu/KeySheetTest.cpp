@@ -83,7 +83,7 @@ TEST_F(KeySheetTest, OfTheMenusKeysTheOneThatDoesNothingIsNotLit)
             menu.ShowModal();
         },
         [](Clerk& clerk) {
-            clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
+            Type(clerk, "{ENTER}{ENTER}");
             int dull = 0;
             for (const QLabel* label : clerk.Top().findChildren<QLabel*>())
                 if (!label->isEnabled()) {

@@ -35,7 +35,7 @@ int DarkPoints(const QImage& picture, const QRect& part)
 TEST_F(KeyboardTutorTest, WhatIsTypedInEnglishShowsInMarathi)
 {
     On<frmKeyboardTutor>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("gaaya"));
+        Type(clerk, "gaaya");
         EXPECT_EQ(clerk.Reads(English), QStringLiteral("gaaya"));
         EXPECT_EQ(clerk.Reads(Marathi), QStringLiteral("gaaya"));
         EXPECT_EQ(dynamic_cast<Field*>(clerk.Top().Find(Marathi))->Seen(), QStringLiteral("गाय"));
@@ -45,7 +45,7 @@ TEST_F(KeyboardTutorTest, WhatIsTypedInEnglishShowsInMarathi)
 TEST_F(KeyboardTutorTest, WhatIsTypedInMarathiShowsInEnglish)
 {
     On<frmKeyboardTutor>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{TAB}mhOsa{BS}"));
+        Type(clerk, "{TAB}mhOsa{BS}");
         EXPECT_EQ(clerk.Reads(English), clerk.Reads(Marathi));
         EXPECT_EQ(clerk.Reads(English), QStringLiteral("mhO"));
     });
@@ -54,8 +54,8 @@ TEST_F(KeyboardTutorTest, WhatIsTypedInMarathiShowsInEnglish)
 TEST_F(KeyboardTutorTest, EscClosesIt)
 {
     On<frmKeyboardTutor>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 

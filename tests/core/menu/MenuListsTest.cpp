@@ -122,7 +122,7 @@ protected:
         clerk.Type(
             QStringLiteral("{HOME}") + QStringLiteral("{DOWN}").repeated(index) + QStringLiteral("{ENTER}"));
         if (!Found.isEmpty())
-            clerk.Type(QStringLiteral("{ESC}"));
+            Type(clerk, "{ESC}");
     }
 
     QStringList Found; // name, gReportMode, title and gCallerTag at the last opening
@@ -171,7 +171,7 @@ TEST_F(MenuListsTest, EachEntrySetsItsModeAndTitleAndThenOpensItsScreenAndTheLis
                 EXPECT_EQ(clerk.Focus(), QLatin1String(SubLists[at]));
                 EXPECT_EQ(List(clerk, SubLists[at]).CurrentIndex(), i);
             }
-            clerk.Type(QStringLiteral("{ESC}"));
+            Type(clerk, "{ESC}");
         }
     });
     EXPECT_TRUE(TheBox.Shown.isEmpty());
@@ -192,7 +192,7 @@ TEST_F(MenuListsTest, TransportIsOfferedOnlyWhenTheSettingReadsTrueAndThenDoesNo
         ChooseMain(clerk, 1);
         OpenEntry(clerk, 7);
         EXPECT_TRUE(Found.isEmpty());
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListSVouchers"));
+        EXPECT_EQ(Focus(clerk), "ListSVouchers");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
     });
 }
@@ -212,11 +212,11 @@ TEST_F(MenuListsTest, TheFunctionKeysOpenTheirScreensAlsoWithEverythingClosed)
         for (const auto& [key, screen] : keys) {
             clerk.Type(QLatin1String(key));
             EXPECT_EQ(clerk.ScreenName(), QLatin1String(screen));
-            clerk.Type(QStringLiteral("{ESC}"));
+            Type(clerk, "{ESC}");
         }
-        clerk.Type(QStringLiteral("{F12}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
-        clerk.Type(QStringLiteral("{ESC}{F2}"));
+        Type(clerk, "{F12}");
+        EXPECT_EQ(OnTop(clerk), "frmKeyboardTutor");
+        Type(clerk, "{ESC}{F2}");
         EXPECT_EQ(TheCalculator.Started.size(), 1);
     });
     EXPECT_TRUE(TheBox.Shown.isEmpty());
@@ -227,11 +227,11 @@ TEST_F(MenuListsTest, LeavingTheSystemOpensTheBackupBeforeTheQuestionByBaahorAnd
     Menu([&](Clerk& clerk) {
         for (const char* keys : {"{END}{ENTER}", "{ESC}"}) {
             clerk.Type(QLatin1String(keys));
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmBackup"));
-            clerk.Type(QStringLiteral("{ESC}"));
+            EXPECT_EQ(OnTop(clerk), "frmBackup");
+            Type(clerk, "{ESC}");
             EXPECT_EQ(clerk.Message(), QStringLiteral("saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ"));
-            clerk.Type(QStringLiteral("%n"));
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
+            Type(clerk, "%n");
+            EXPECT_EQ(OnTop(clerk), "MainMenuFrm");
         }
     });
 }

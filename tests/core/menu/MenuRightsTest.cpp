@@ -19,7 +19,7 @@ protected:
                 ChooseMain(clerk, at);
                 opening += Shows(clerk, SubLists[at]) ? '1' : '0';
                 if (Shows(clerk, SubLists[at]))
-                    clerk.Type(QStringLiteral("{ESC}"));
+                    Type(clerk, "{ESC}");
             }
         });
         return opening;

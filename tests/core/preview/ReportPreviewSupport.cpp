@@ -97,8 +97,8 @@ void ReportPreviewTest::WaitForLastPage(Clerk& clerk)
 void ReportPreviewTest::SaveAs(Clerk& clerk, const QString& key, const QString& name)
 {
     clerk.Type(key);
-    ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmReportFile"));
+    ASSERT_EQ(OnTop(clerk), "frmReportFile");
     clerk.Type(name + QStringLiteral("{ENTER}") + m_folder.path() + QStringLiteral("{ENTER}"));
-    ASSERT_EQ(clerk.Focus(), QStringLiteral("cmdSave"));
-    clerk.Type(QStringLiteral("{ENTER}"));
+    ASSERT_EQ(Focus(clerk), "cmdSave");
+    Type(clerk, "{ENTER}");
 }

@@ -27,7 +27,7 @@ protected:
         Failure = TheClerk.Play([&] { exitCode = RunProgram(); },
             [&](Clerk& clerk) {
                 clerk.Do([&] { ReportControl(control).Print(); });
-                EXPECT_EQ(clerk.ScreenName(), QString());
+                EXPECT_EQ(OnTop(clerk), "");
             });
         EXPECT_EQ(exitCode, 1);
         return TheBox.Shown.size() == 1 ? TheBox.Shown.first()
@@ -40,8 +40,8 @@ protected:
 TEST_F(ReportPrintingTest, TheReportGoesToTheOnlyPrinterWithoutAQuestion)
 {
     Show([this](Clerk& clerk) {
-        clerk.Type(QStringLiteral("^p"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        Type(clerk, "^p");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         EXPECT_EQ(State(clerk), QStringLiteral("छपाईला पाठवले: Office"));
         ASSERT_EQ(m_printer->Jobs.size(), 1U);
         EXPECT_EQ(m_printer->Jobs.front().title, QStringLiteral("Deliveries"));
@@ -55,11 +55,11 @@ TEST_F(ReportPrintingTest, OneOfSeveralPrintersIsChosen)
 {
     m_printer->There = {QStringLiteral("Office"), QStringLiteral("Roll")};
     Show([this](Clerk& clerk) {
-        clerk.Type(QStringLiteral("^p"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPrinter"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("lstPrinters")), QStringLiteral("Office"));
-        clerk.Type(QStringLiteral("{DOWN}{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        Type(clerk, "^p");
+        EXPECT_EQ(OnTop(clerk), "frmReportPrinter");
+        EXPECT_EQ(Reads(clerk, "lstPrinters"), "Office");
+        Type(clerk, "{DOWN}{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         ASSERT_EQ(m_printer->Jobs.size(), 1U);
         EXPECT_EQ(m_printer->Jobs.front().printer, QStringLiteral("Roll"));
     });
@@ -69,8 +69,8 @@ TEST_F(ReportPrintingTest, EscAmongThePrintersPrintsNothing)
 {
     m_printer->There = {QStringLiteral("Office"), QStringLiteral("Roll")};
     Show([this](Clerk& clerk) {
-        clerk.Type(QStringLiteral("^p{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        Type(clerk, "^p{ESC}");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         EXPECT_TRUE(m_printer->Jobs.empty());
     });
 }
@@ -80,8 +80,8 @@ TEST_F(ReportPrintingTest, ARefusalIsAPlainMessageAndNothingOfTheBooksIsLost)
     m_printer->Answer = {Refusal};
     const QStringList before = Rows(QStringLiteral("select * from MilkCollectionsTemp"));
     Show([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("^p"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        Type(clerk, "^p");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         EXPECT_EQ(State(clerk), QString());
     });
     EXPECT_EQ(TheBox.Shown, QStringList(Refusal));
@@ -92,13 +92,13 @@ TEST_F(ReportPrintingTest, WithoutAPrinterTheRefusalIsToldToo)
 {
     m_printer->There.clear();
     m_printer->Answer = {Refusal};
-    Show([](Clerk& clerk) { clerk.Type(QStringLiteral("^p")); });
+    Show([](Clerk& clerk) { Type(clerk, "^p"); });
     EXPECT_EQ(TheBox.Shown, QStringList(Refusal));
 }
 
 TEST_F(ReportPrintingTest, WhatIsPrintedLiesWithTheBooksAndIsSweptAtTheNextStart)
 {
-    Show([](Clerk& clerk) { clerk.Type(QStringLiteral("^p")); });
+    Show([](Clerk& clerk) { Type(clerk, "^p"); });
     ASSERT_EQ(m_printer->Jobs.size(), 1U);
     const QString printed = m_printer->Jobs.front().file;
     EXPECT_EQ(QFileInfo(printed).absoluteFilePath(), FolderFile(QFileInfo(printed).fileName()));

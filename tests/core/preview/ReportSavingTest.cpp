@@ -72,7 +72,7 @@ TEST_F(ReportSavingTest, ThePdfReadsAsTheScreenDoes)
 {
     Show([this](Clerk& clerk) {
         SaveAs(clerk, PdfKey, QStringLiteral("april.pdf"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         EXPECT_EQ(State(clerk), QStringLiteral("जतन केले: ") + Saved(QStringLiteral("april.pdf")));
     });
     const QString text = PdfText(Saved(QStringLiteral("april.pdf")), {QStringLiteral("-layout")});
@@ -96,12 +96,12 @@ TEST_F(ReportSavingTest, TheReportsNameAndTheDayAreProposedInTheClerksDocuments)
 {
     Show([](Clerk& clerk) {
         clerk.Type(PdfKey);
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")), QStringLiteral("Deliveries 15-04-2026.pdf"));
+        EXPECT_EQ(Reads(clerk, "txtFile"), "Deliveries 15-04-2026.pdf");
         const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
         EXPECT_EQ(clerk.Reads(QStringLiteral("txtFolder")),
             QDir(documents).exists() ? documents : QDir::homePath());
         clerk.Type(QStringLiteral("{ESC}") + CsvKey);
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")), QStringLiteral("Deliveries 15-04-2026.csv"));
+        EXPECT_EQ(Reads(clerk, "txtFile"), "Deliveries 15-04-2026.csv");
     });
 }
 
@@ -111,7 +111,7 @@ TEST_F(ReportSavingTest, ATitleIsProposedInPlaceOfTheNameWithoutSignsThatNoFileT
                                  "<text>एक</text></report>"));
     Show([](Clerk& clerk) {
         clerk.Type(PdfKey);
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")), QStringLiteral("दूध यादी - बँक 15-04-2026.pdf"));
+        EXPECT_EQ(Reads(clerk, "txtFile"), "दूध यादी - बँक 15-04-2026.pdf");
     });
 }
 
@@ -123,8 +123,7 @@ TEST_F(ReportSavingTest, TheNameCarriesWhatTheReportIsAbout)
     Failure = TheClerk.Play([&] { control.Print(); },
         [](Clerk& clerk) {
             clerk.Type(CsvKey);
-            EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")),
-                QStringLiteral("Deliveries सुनीता पाटील 01-04-2026 ते 10-04-2026.csv"));
+            EXPECT_EQ(Reads(clerk, "txtFile"), "Deliveries सुनीता पाटील 01-04-2026 ते 10-04-2026.csv");
         });
 }
 
@@ -146,12 +145,12 @@ TEST_F(ReportSavingTest, EscAndTheExitButtonSaveNothing)
 {
     Show([this](Clerk& clerk) {
         clerk.Type(PdfKey + QStringLiteral("april{ENTER}") + m_folder.path() + QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         clerk.Type(
             PdfKey + QStringLiteral("april{ENTER}") + m_folder.path() + QStringLiteral("{ENTER}{TAB}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdExit"));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        EXPECT_EQ(Focus(clerk), "cmdExit");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         EXPECT_EQ(State(clerk), QString());
     });
     EXPECT_EQ(InFolder(), QStringList());
@@ -163,8 +162,8 @@ TEST_F(ReportSavingTest, AFileThatIsThereIsOnlyReplacedAfterAYes)
     Show([this](Clerk& clerk) {
         SaveAs(clerk, CsvKey, QStringLiteral("april.csv"));
         EXPECT_EQ(clerk.Message(), QStringLiteral("या नावाची फाइल आधीच आहे. ती बदलायची का?"));
-        clerk.Type(QStringLiteral("%h"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        Type(clerk, "%h");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
     });
     EXPECT_TRUE(Content(QStringLiteral("april.csv")).contains("0.50"));
 }
@@ -174,12 +173,12 @@ TEST_F(ReportSavingTest, ANoLeavesTheFileAndAsksForAnotherName)
     Put(QStringLiteral("april.csv"), "old");
     Show([this](Clerk& clerk) {
         SaveAs(clerk, CsvKey, QStringLiteral("april.csv"));
-        clerk.Type(QStringLiteral("{ENTER}")); // what replaces a file isn't done by an Enter too many
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportFile"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFile"));
+        Type(clerk, "{ENTER}"); // what replaces a file isn't done by an Enter too many
+        EXPECT_EQ(OnTop(clerk), "frmReportFile");
+        EXPECT_EQ(Focus(clerk), "txtFile");
         EXPECT_EQ(Content(QStringLiteral("april.csv")).toStdString(), "old");
-        clerk.Type(QStringLiteral("may{ENTER}{ENTER}{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        Type(clerk, "may{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
     });
     EXPECT_EQ(InFolder(), QStringList({QStringLiteral("april.csv"), QStringLiteral("may.csv")}));
 }
@@ -193,8 +192,8 @@ TEST_F(ReportSavingTest, AMissingFolderIsToldAndAskedForAgain)
         EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("हा फोल्डर नाही")))
             << qPrintable(TheBox.Shown.first());
         EXPECT_TRUE(TheBox.Shown.first().contains(missing));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportFile"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFolder"));
+        EXPECT_EQ(OnTop(clerk), "frmReportFile");
+        EXPECT_EQ(Focus(clerk), "txtFolder");
     });
     EXPECT_FALSE(QDir(missing).exists());
 }
@@ -203,9 +202,9 @@ TEST_F(ReportSavingTest, AnEmptyNameOrFolderIsAskedForAgain)
 {
     Show([&](Clerk& clerk) {
         clerk.Type(PdfKey + QStringLiteral("{DEL}{ENTER}{ENTER}{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFile"));
-        clerk.Type(QStringLiteral("april{ENTER}{DEL}{ENTER}{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFolder"));
+        EXPECT_EQ(Focus(clerk), "txtFile");
+        Type(clerk, "april{ENTER}{DEL}{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtFolder");
         EXPECT_EQ(TheBox.Shown.size(), 1);
     });
 }
@@ -215,7 +214,7 @@ TEST_F(ReportSavingTest, AFolderOfThatNameIsNotWrittenOver)
     ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("april.pdf")));
     Show([&](Clerk& clerk) {
         SaveAs(clerk, PdfKey, QStringLiteral("april"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFile"));
+        EXPECT_EQ(Focus(clerk), "txtFile");
         ASSERT_EQ(TheBox.Shown.size(), 1);
         EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("या नावाचा फोल्डर आहे")));
     });
@@ -231,11 +230,11 @@ TEST_F(ReportSavingTest, AFullDiskIsToldAndLeavesTheOldFileAndNothingElse)
             WaitForLastPage(clerk);
             SaveAs(clerk, ending == u"pdf" ? PdfKey : CsvKey, name);
             const SmallDisk full(40);
-            clerk.Type(QStringLiteral("%h"));
+            Type(clerk, "%h");
             ASSERT_EQ(TheBox.Shown.size(), 1);
             EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("फाइल लिहिता आली नाही")))
                 << qPrintable(TheBox.Shown.first());
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+            EXPECT_EQ(OnTop(clerk), "frmReportPreview");
             EXPECT_EQ(State(clerk), QString());
         });
         EXPECT_EQ(Content(name).toStdString(), "old");

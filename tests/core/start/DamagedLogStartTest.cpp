@@ -76,17 +76,17 @@ TEST_F(DamagedLogStartTest, TheClerkReadsHowManyEntriesMayBeMissingAndSinceWhenB
     Failure = TheClerk.Play([&] { exitCode = RunProgram(); },
         [&](Clerk& clerk) {
             World::Current().messageBox = &TheBox; // a box that ends the program waits for nobody
-            ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmPlainBox"));
+            ASSERT_EQ(OnTop(clerk), "frmPlainBox");
             EXPECT_EQ(ModalStack::Current().Open().size(), 1) << "no screen is there yet";
             const QString text = LabelOf(clerk, "lblText");
             EXPECT_TRUE(text.contains(QStringLiteral("सुमारे 3 नोंदी गेल्या असण्याची शक्यता"))) << qPrintable(text);
             EXPECT_TRUE(text.contains(since)) << qPrintable(text);
             EXPECT_TRUE(text.contains(QStringLiteral("पुन्हा भरा"))) << qPrintable(text);
             EXPECT_TRUE(text.contains(QStringLiteral("About 3 entries"))) << qPrintable(text);
-            clerk.Type(QStringLiteral("{ENTER}"));
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmAbout"));
-            clerk.Type(QStringLiteral("{ENTER}{ENTER}15042026{ENTER}{ENTER}"));
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(OnTop(clerk), "frmAbout");
+            Type(clerk, "{ENTER}{ENTER}15042026{ENTER}{ENTER}");
+            EXPECT_EQ(OnTop(clerk), "MainMenuFrm");
             EXPECT_EQ(Towns(), QStringLiteral("Kept"));
             clerk.CloseBox();
         });
@@ -101,7 +101,7 @@ TEST_F(DamagedLogStartTest, ASoundLogThatWasLeftBehindOpensTheProgramWithoutAWor
     LeaveBehind();
     Failure = TheClerk.Play([] { RunProgram(); },
         [&](Clerk& clerk) {
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmAbout"));
+            EXPECT_EQ(OnTop(clerk), "frmAbout");
             EXPECT_EQ(Towns(), QStringLiteral("Kept1 Kept2"));
             EXPECT_EQ(TheBox.Shown, QStringList());
         });

@@ -173,10 +173,10 @@ TEST_F(ProgramFaultsTest, AnErrorInAHandlerIsShownInABoxAndEndsTheProgramWithOne
     int exitCode = -1;
     Failure = TheClerk.Play([&] { exitCode = RunProgram(); },
         [](Clerk& clerk) {
-            clerk.Type(QStringLiteral("{ENTER}{ENTER}")); // past the title and the caution
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmAppDate"));
-            clerk.Type(QStringLiteral("31022026{ENTER}"));
-            EXPECT_EQ(clerk.ScreenName(), QString()) << "every screen is gone";
+            Type(clerk, "{ENTER}{ENTER}"); // past the title and the caution
+            EXPECT_EQ(OnTop(clerk), "frmAppDate");
+            Type(clerk, "31022026{ENTER}");
+            EXPECT_EQ(OnTop(clerk), "") << "every screen is gone";
         });
     EXPECT_EQ(exitCode, 1);
     ASSERT_EQ(TheBox.Shown.size(), 1);
@@ -188,17 +188,17 @@ TEST_F(ProgramFaultsTest, AnErrorIsReadOnACardOfTheWindowBeforeTheFirstScreenAnd
 {
     ShowBoxesInTheWindow();
     const auto readAndClose = [](Clerk& clerk, const char* text) {
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmPlainBox"));
+        EXPECT_EQ(OnTop(clerk), "frmPlainBox");
         EXPECT_TRUE(LabelOf(clerk, "lblText").contains(QString::fromLatin1(text)));
         EXPECT_EQ(ModalStack::Current().Open().size(), 1) << "it stands alone";
         EXPECT_FALSE(gCn.IsOpen());
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "");
     };
     int exitCode = -1;
     Failure = TheClerk.Play([&] { exitCode = RunProgram(); },
         [&](Clerk& clerk) {
-            clerk.Type(QStringLiteral("{ENTER}{ENTER}31022026{ENTER}"));
+            Type(clerk, "{ENTER}{ENTER}31022026{ENTER}");
             readAndClose(clerk, "Run-time error '13'");
         });
     EXPECT_EQ(exitCode, 1);
