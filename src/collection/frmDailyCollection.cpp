@@ -71,7 +71,6 @@ frmDailyCollection::frmDailyCollection()
     cmbCollectionTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     cmbMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     DataGrid1.SetGuide(Plain(u"Enter : ही नोंद    F5 : यादी बंद"));
-    cmbMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
     LayOut();
 }
 

@@ -42,7 +42,6 @@ frmReportMembersList::frmReportMembersList() : SocietyScreen(KeyPlaces(), Shivaj
 {
     ComboArea.OpenOnFocus();
     ComboArea.SetGuide(Plain(u"रिकामे ठेवल्यास सर्व विभाग"));
-    ComboArea.Accepts = [](QChar c) { return c != u'\''; };
     cmdExit.SetCancels(true); // by the mouse the screen is left whatever stands in the area
     LayOut();
 }

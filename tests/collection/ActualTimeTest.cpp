@@ -2,24 +2,24 @@
 
 #include "tests/support/SocietyTest.h"
 
-TEST(ActualTime, ATextOfTenCharactersHasAnHourOfOneDigit)
+TEST(ActualTimeTest, ATextOfTenCharactersHasAnHourOfOneDigit)
 {
     EXPECT_EQ(ActualTime(u"9:05:00 AM"), QStringLiteral("9.05"));
     EXPECT_EQ(ActualTime(u"6:59:59 PM"), QStringLiteral("6.59"));
 }
 
-TEST(ActualTime, ATextOfElevenCharactersHasAnHourOfTwoDigits)
+TEST(ActualTimeTest, ATextOfElevenCharactersHasAnHourOfTwoDigits)
 {
     EXPECT_EQ(ActualTime(u"11:05:00 PM"), QStringLiteral("11.05"));
     EXPECT_EQ(ActualTime(u"12:00:59 AM"), QStringLiteral("12.00"));
 }
 
-TEST(ActualTime, BlanksAroundTheTimeAreNotCounted)
+TEST(ActualTimeTest, BlanksAroundTheTimeAreNotCounted)
 {
     EXPECT_EQ(ActualTime(u" 9:05:00 AM "), QStringLiteral("9.05"));
 }
 
-TEST(ActualTime, AnyOtherLengthIsAPointAlone)
+TEST(ActualTimeTest, AnyOtherLengthIsAPointAlone)
 {
     for (QStringView text :
         {QStringView(), QStringView(u"09:05:00"), QStringView(u"9:05 AM"), QStringView(u"011:05:00 PM")})

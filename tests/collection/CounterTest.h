@@ -47,24 +47,9 @@ protected:
         });
     }
 
-    static void Type(Clerk& clerk, const char* keys) { clerk.Type(QString::fromLatin1(keys)); }
-    static std::string Reads(Clerk& clerk, const char* control)
-    {
-        return clerk.Reads(QString::fromLatin1(control)).toStdString();
-    }
-    static std::string Focus(Clerk& clerk) { return clerk.Focus().toStdString(); }
-    static bool CanEnter(Clerk& clerk, const char* control)
-    {
-        return clerk.CanEnter(QString::fromLatin1(control));
-    }
-
     static const QLabel& LabelOf(Clerk& clerk, const char* label)
     {
         return *clerk.Top().findChild<QLabel*>(QString::fromLatin1(label));
-    }
-    static std::string Label(Clerk& clerk, const char* label)
-    {
-        return LabelOf(clerk, label).text().toStdString();
     }
     static const DataGrid& Grid(Clerk& clerk, const char* grid)
     {

@@ -151,12 +151,33 @@ TEST_F(DailyCollectionTest, ANameThatIsNobodysGivesWayToThatOfTheNumber)
     });
 }
 
-TEST_F(DailyCollectionTest, ApostrophesAndDigitsAreDroppedFromTheName)
+TEST_F(DailyCollectionTest, TheNameTakesDigitsAndApostrophes)
 {
+    AddMember(8, QStringLiteral("saIta 2"));
     Adding([](Clerk& clerk) {
         Type(clerk, "{ENTER}s'a1I2ta");
-        EXPECT_EQ(Reads(clerk, "cmbMemberName"), "saIta");
+        EXPECT_EQ(Reads(clerk, "cmbMemberName"), "s'a1I2ta");
+        Type(clerk, "^asaIta 2{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "8");
     });
+}
+
+TEST_F(DailyCollectionTest, AnApostropheInTheNameFailsTheSaveAndNothingIsWritten)
+{
+    gCn.RunScript(QStringLiteral("update MembersMaster set MemberName='ra''ma' where MemberNo=1"));
+    const QStringList before = Days();
+    Adding([](Clerk& clerk) {
+        Type(clerk, "{ENTER}ra'ma{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "1");
+        Type(clerk, "15042026{ENTER}1{ENTER}{ENTER}{ENTER}5{ENTER}4.5{ENTER}");
+        EXPECT_EQ(Focus(clerk), "cmdAdd");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(clerk.ScreenName(), QString());
+    });
+    ASSERT_TRUE(Failure);
+    EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
+    EXPECT_TRUE(Failure->Statement().contains(QStringLiteral("'ra'ma'"))) << Failure->what();
+    EXPECT_EQ(Days(), before);
 }
 
 TEST_F(DailyCollectionTest, OfTwoNamesakesTheOneOfTheNumberStays)

@@ -10,7 +10,7 @@ using Manner = DeviceSimulator::Manner;
 namespace {
 
 // A counter's devices on the ports of this machine, each played on a pseudo-terminal.
-class MilkDevicesLine : public SocietyTest {
+class MilkDevicesLineTest : public SocietyTest {
 protected:
     std::unique_ptr<DeviceSimulator> Play(const char* kind, int port, Manner manner = Manner::Prompt)
     {
@@ -42,8 +42,8 @@ protected:
 };
 
 // Each named device, with the "%" tester beside it, in each manner of behaving.
-class EachDeviceLine : public MilkDevicesLine,
-                       public testing::WithParamInterface<std::tuple<const char*, const char*>> {
+class EachDeviceLineTest : public MilkDevicesLineTest,
+                           public testing::WithParamInterface<std::tuple<const char*, const char*>> {
 protected:
     static const char* Kind() { return std::get<0>(GetParam()); }
     static bool Is(const char* kind) { return Kind() == std::string_view(kind); }
@@ -65,13 +65,13 @@ protected:
 };
 
 // Blanks and hyphens can't stand in the name of a test.
-std::string LineName(const testing::TestParamInfo<EachDeviceLine::ParamType>& line)
+std::string LineName(const testing::TestParamInfo<EachDeviceLineTest::ParamType>& line)
 {
     QString name = Latin(std::get<0>(line.param)) + u'_' + Latin(std::get<1>(line.param));
     return name.remove(u' ').remove(u'-').toStdString();
 }
 
-INSTANTIATE_TEST_SUITE_P(OnALine, EachDeviceLine,
+INSTANTIATE_TEST_SUITE_P(OnALine, EachDeviceLineTest,
     testing::Combine(testing::Values("DILIGENT", "UDFREAD", "Micro-Tech", "ELECTKAPIL", "ELECTRO", "MCS",
                          "ACE CORP", "NO"),
         testing::Values("prompt", "slow", "pieces", "noisy", "silent", "unplugged")),
@@ -79,14 +79,14 @@ INSTANTIATE_TEST_SUITE_P(OnALine, EachDeviceLine,
 
 }
 
-TEST_P(EachDeviceLine, FillsTheLitresOrLeavesThem)
+TEST_P(EachDeviceLineTest, FillsTheLitresOrLeavesThem)
 {
     Use(Kind(), Port());
     const auto scale = Play(Kind(), Port(), How());
     EXPECT_EQ(Liters(), LitersThatShow());
 }
 
-TEST_P(EachDeviceLine, FillsTheFatOrLeavesIt)
+TEST_P(EachDeviceLineTest, FillsTheFatOrLeavesIt)
 {
     Use(Kind(), Port());
     const auto scale = Play(Kind(), Port(), How());
@@ -94,7 +94,7 @@ TEST_P(EachDeviceLine, FillsTheFatOrLeavesIt)
     EXPECT_EQ(Fat(), FatThatShows());
 }
 
-TEST_F(MilkDevicesLine, UdfreadIsAskedForTheLitresAgainBeforeTheFat)
+TEST_F(MilkDevicesLineTest, UdfreadIsAskedForTheLitresAgainBeforeTheFat)
 {
     Use("UDFREAD", 4);
     const auto device = Play("UDFREAD", 4);
@@ -103,7 +103,7 @@ TEST_F(MilkDevicesLine, UdfreadIsAskedForTheLitresAgainBeforeTheFat)
     EXPECT_EQ(device->Received(), QByteArray("RDRDW"));
 }
 
-TEST_F(MilkDevicesLine, TheRepeatedExchangeIsAnsweredByEachThatIsAsked)
+TEST_F(MilkDevicesLineTest, TheRepeatedExchangeIsAnsweredByEachThatIsAsked)
 {
     for (const char* scale : {"DILIGENT", "ELECTRO", "NO"}) {
         Use(scale, 1);
@@ -112,7 +112,7 @@ TEST_F(MilkDevicesLine, TheRepeatedExchangeIsAnsweredByEachThatIsAsked)
     }
 }
 
-TEST_F(MilkDevicesLine, TheTareReachesTheScale)
+TEST_F(MilkDevicesLineTest, TheTareReachesTheScale)
 {
     Use("ELECTRO", 1);
     const auto device = Play("ELECTRO", 1, Manner::Silent);
@@ -120,7 +120,7 @@ TEST_F(MilkDevicesLine, TheTareReachesTheScale)
     EXPECT_TRUE(device->WaitUntilReceived("tzTZTR", 5s));
 }
 
-TEST_F(MilkDevicesLine, TheRestOfALitresReplyIsNoFat)
+TEST_F(MilkDevicesLineTest, TheRestOfALitresReplyIsNoFat)
 {
     Use("ELECTRO", 1);
     const auto device = Play("ELECTRO", 1, Manner::Pieces);

@@ -71,7 +71,7 @@ TEST_P(SlipTest, APrinterThatRefusesIsToldAndTheCounterGoesOn)
     PrintOn(printer);
     InTheShift([&](Clerk& clerk) {
         Deliver(clerk, 1, "2", "4.5");
-        EXPECT_EQ(printer.Jobs, 1);
+        EXPECT_EQ(printer.Jobs.size(), 1U);
         EXPECT_EQ(Window.Told, Of({"no paper"}));
         EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|2|4.5|35|70"}));
         EXPECT_EQ(Copy(), Books());
@@ -82,7 +82,7 @@ TEST_P(SlipTest, APrinterThatRefusesIsToldAndTheCounterGoesOn)
         Deliver(clerk, 2, "2", "8");
     });
     EXPECT_EQ(Error(), "");
-    EXPECT_EQ(printer.Jobs, 2);
+    EXPECT_EQ(printer.Jobs.size(), 2U);
     EXPECT_EQ(Window.Told.size(), 1) << "the next slip is printed";
     EXPECT_EQ(Books().last().toStdString(), "2|2|saIta|mhOsa|2|8|49|98");
 }
@@ -94,7 +94,7 @@ TEST_P(SlipTest, ASlipForTheScreenOpensTheReport)
     Run(QString::fromUtf8("update AutoSettings set PrintStatus='f@t sËIna'"));
     InTheShift([](Clerk& clerk) { Deliver(clerk, 1, "2", "4.5"); });
     EXPECT_EQ(Error(), "");
-    EXPECT_EQ(printer.Jobs, 0);
+    EXPECT_EQ(printer.Jobs.size(), 0U);
     ASSERT_EQ(Window.Shown.size(), 1U);
     Window.Shown.front()->Complete();
     QStringList texts;

@@ -5,6 +5,7 @@
 #include "platform/forms/SendKeys.h"
 
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 
 // Lets keys, in the form that SendKeys takes, wait in the application's queue: each reaches the screen that
@@ -20,4 +21,18 @@ inline void QueueKeys(const QString& keys)
                     QCoreApplication::sendEvent(screen->KeyTarget(), &press);
             },
             Qt::QueuedConnection);
+}
+
+// Lets a word wait there that an input method has done with.
+inline void QueueComposed(const QString& word)
+{
+    QMetaObject::invokeMethod(
+        qApp,
+        [word] {
+            QInputMethodEvent done;
+            done.setCommitString(word);
+            if (const Screen* screen = ModalStack::Current().Top())
+                QCoreApplication::sendEvent(screen->KeyTarget(), &done);
+        },
+        Qt::QueuedConnection);
 }

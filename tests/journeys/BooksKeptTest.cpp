@@ -1,13 +1,17 @@
 #include "core/menu/ScreenDirectory.h"
+#include "core/preview/ReportHandover.h"
 #include "tests/journeys/Actions.h"
+#include "tests/journeys/EveryScreen.h"
 #include "tests/journeys/Processes.h"
 #include "tests/journeys/ProgramTest.h"
 #include "tests/support/BooksFile.h"
+#include "tests/support/FakePrinter.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -26,6 +30,35 @@ protected:
 
     // Whether the engine's lock stands on the books, for every other program to see.
     bool IsLocked() const { return BooksFile::LocksOn(FolderFile(Books).toStdString()) > 0; }
+
+    // Shows a report from a screen that is opened by name, and takes each of the preview's ways out of the
+    // program.
+    void ExpectLockBehindEachUseOf(const char* screen, const char* keys)
+    {
+        const QString name = QString::fromLatin1(screen);
+        auto made = std::make_unique<FakePrinter>();
+        const FakePrinter& printer = *made;
+        const ReportHandover handover(std::move(made));
+        const QTemporaryDir folder;
+        PlayOn(TheClerk, {name, QString::fromLatin1(keys), [&] { ScreenDirectory::Open(name, Plain(name)); }},
+            [&](Clerk& clerk) {
+                ASSERT_EQ(OnTop(clerk), "frmReportPreview") << screen;
+                EXPECT_TRUE(IsLocked()) << screen << " was shown";
+                Type(clerk, "^p");
+                ASSERT_EQ(printer.Jobs.size(), 1U) << screen;
+                EXPECT_TRUE(IsLocked()) << screen << " was printed";
+                for (const auto& [key, file] : {std::pair{"^s", "paper.pdf"}, std::pair{"^e", "paper.csv"}}) {
+                    Type(clerk, key);
+                    clerk.Type(
+                        QStringLiteral("paper{ENTER}") + folder.path() + QStringLiteral("{ENTER}{ENTER}"));
+                    EXPECT_TRUE(QFile::exists(folder.filePath(QString::fromLatin1(file)))) << screen;
+                    EXPECT_TRUE(IsLocked()) << screen << " was saved as " << file;
+                }
+                Type(clerk, "{ESC}");
+                EXPECT_EQ(OnTop(clerk), screen);
+                EXPECT_TRUE(IsLocked()) << screen << " is there again";
+            });
+    }
 
     qint64 LogSize() const { return QFileInfo(FolderFile(Log)).size(); }
 
@@ -182,6 +215,44 @@ TEST_F(BooksKeptTest, TheEnginesLockStandsAfterEveryScreen)
         EXPECT_FALSE(Failure) << name;
         EXPECT_TRUE(IsLocked()) << name;
     }
+}
+
+TEST_F(BooksKeptTest, TheEnginesLockStandsAfterEachReportThatIsShownPrintedAndSaved)
+{
+    gAppState.gAppDate = QDate(2026, 4, 15);
+    ShowSlips();
+    for (const auto& [screen, keys] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"frmMilkCollections", "{ENTER}2{ENTER}{ENTER}1{ENTER}6{ENTER}4.1{ENTER}{ENTER}{ENTER}"},
+             {"frmMilkCollections", "{ENTER}1{ENTER}{ENTER}1{F7}14042026{ENTER}15042026{ENTER}1{ENTER}%i"},
+             {"frmCollectionGate", "{ENTER}2{ENTER}{ENTER}2{ENTER}4{ENTER}7.1{ENTER}{ENTER}{ENTER}"},
+             {"frmSearchCollections", "15042026{ENTER}1{ENTER}1{ENTER}{ENTER}{ENTER}{ENTER}"},
+             {"frmAutoSettings", "+{TAB}{ENTER}"},
+             {"frmReportMilkPS", "14042026{ENTER}15042026{ENTER}{ENTER}rama%i"},
+             {"frmReportMilkCollections", "15042026{ENTER}{ENTER}%i"},
+             {"frmReportMembersList", "%i"},
+             {"frmReportPaymentList", "11042026{ENTER}%i"},
+         })
+        ExpectLockBehindEachUseOf(screen, keys);
+}
+
+TEST_F(BooksKeptTest, TheEnginesLockStandsAfterASlipThatGoesToThePrinterAtOnce)
+{
+    gAppState.gAppDate = QDate(2026, 4, 15);
+    Run(QStringLiteral("update AutoSettings set PrintStatus='haoya',ReceiptType='Tašp 2'"));
+    auto made = std::make_unique<FakePrinter>();
+    const FakePrinter& printer = *made;
+    const ReportHandover handover(std::move(made));
+    const QString counter = QStringLiteral("frmMilkCollections");
+    PlayOn(TheClerk,
+        {counter, QStringLiteral("{ENTER}2{ENTER}"), [&] { ScreenDirectory::Open(counter, {}); }},
+        [&](Clerk& clerk) {
+            for (const std::size_t jobs : {1U, 2U}) {
+                clerk.Type(Delivery(jobs == 1 ? "1" : "2", "6", "4.1"));
+                EXPECT_EQ(OnTop(clerk), "frmMilkCollections");
+                EXPECT_EQ(printer.Jobs.size(), jobs);
+                EXPECT_TRUE(IsLocked()) << jobs;
+            }
+        });
 }
 
 TEST_F(BooksKeptTest, LeavingAScreenFoldsTheLogIntoTheBooks)

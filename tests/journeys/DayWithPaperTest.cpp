@@ -5,7 +5,6 @@
 
 #include <QDeadlineTimer>
 #include <QFile>
-#include <QLabel>
 
 namespace {
 
@@ -17,11 +16,6 @@ protected:
         InsertMember(1, QStringLiteral("rama"), QStringLiteral("gaaya"));
         InsertMember(2, QStringLiteral("saIta"), QStringLiteral("mhOsa"));
         InsertMember(3, QStringLiteral("gaNaoSa"), QStringLiteral("daonhI"));
-    }
-
-    static std::string Label(Clerk& clerk, const char* label)
-    {
-        return clerk.Top().findChild<QLabel*>(QString::fromLatin1(label))->text().toStdString();
     }
 
     // The paper on the screen is of one page, holds the text so many times, and goes with Esc.

@@ -3,28 +3,23 @@
 #include "tests/journeys/EveryScreen.h"
 #include "tests/journeys/Actions.h"
 #include "tests/journeys/ProgramTest.h"
+#include "tests/support/FakePrinter.h"
 
 #include "core/menu/Keys.h"
 #include "core/menu/ScreenDirectory.h"
 #include "core/preview/ReportHandover.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/CheckBox.h"
+#include "platform/forms/ChoiceCombo.h"
 #include "platform/forms/NameCombo.h"
 #include "platform/forms/OptionButton.h"
 
-#include <QLabel>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <set>
 
 namespace {
-
-// Printers to choose from.
-class TwoPrinters final : public Printer {
-public:
-    QStringList Names() override { return {QStringLiteral("Office"), QStringLiteral("Store")}; }
-    Outcome Print(const PrintJob&) override { return {}; }
-};
 
 class EveryScreenTest : public ProgramTest, public ::testing::WithParamInterface<ScreenState> {
 protected:
@@ -40,7 +35,8 @@ protected:
     }
 
 private:
-    ReportHandover m_handover{std::make_unique<TwoPrinters>()};
+    ReportHandover m_handover{
+        std::make_unique<FakePrinter>(QStringList{QStringLiteral("Office"), QStringLiteral("Store")})};
 };
 
 std::string NameOf(const ::testing::TestParamInfo<ScreenState>& info)
@@ -131,6 +127,39 @@ TEST_P(EveryScreenTest, ItsKeysAreNamedInTheListOrInTheGuide)
     });
 }
 
+// What a list of fixed words answers, tried key by key: its guide names each digit with its word, and the
+// list of keys that there are digits and how the list opens.
+TEST_P(EveryScreenTest, TheKeysOfItsFixedWordsAreNamed)
+{
+    OnIt([](Clerk& clerk) {
+        const QString named = KeysNamedOn(clerk.ScreenName());
+        for (Control* control : clerk.Top().Controls()) {
+            const auto* combo = dynamic_cast<ChoiceCombo*>(control);
+            if (!combo || !combo->CanTakeFocus())
+                continue;
+            const std::string name = combo->Name().toStdString();
+            clerk.Do([&] { control->SetFocus(); });
+            ASSERT_EQ(Focus(clerk), name);
+            Type(clerk, "{BS}");
+            if (!combo->IsEmpty())
+                continue; // it is for the mouse only
+            for (int digit = 1; digit <= 9; ++digit) {
+                clerk.Type(QStringLiteral("{BS}%1").arg(digit));
+                if (combo->IsEmpty())
+                    continue;
+                const QRegularExpression told(QStringLiteral("%1:?–").arg(QChar(u'०' + digit)));
+                EXPECT_TRUE(combo->Guide().Seen().contains(told))
+                    << digit << " at " << name << ": " << qPrintable(combo->Guide().Seen());
+                EXPECT_TRUE(named.contains(u" 1 ")) << digit << " at " << name;
+            }
+            Type(clerk, "%{DOWN}");
+            EXPECT_TRUE(combo->IsDroppedDown()) << name;
+            EXPECT_TRUE(named.contains(u" Alt+↓ ")) << name;
+            Type(clerk, "{ESC}1"); // with a word it can be left
+        }
+    });
+}
+
 // Where a field keeps the focus without a message
 
 class WantedOnEveryScreenTest : public ProgramTest {
@@ -147,9 +176,7 @@ protected:
             if (clerk.ScreenName() == u"frmMessages")
                 Type(clerk, "{ENTER}");
             EXPECT_EQ(Focus(clerk), focus) << screen << ' ' << keys;
-            const auto* label = clerk.Top().findChild<QLabel*>(QString::fromLatin1(guideLabel));
-            ASSERT_NE(label, nullptr) << screen;
-            EXPECT_EQ(label->text().toStdString(), guide) << screen << ' ' << keys;
+            EXPECT_EQ(Label(clerk, guideLabel), guide) << screen << ' ' << keys;
         });
     }
 };

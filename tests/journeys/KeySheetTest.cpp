@@ -20,11 +20,11 @@ QString TheSheet()
     return sheet;
 }
 
-using KeySheet = ProgramTest;
+using KeySheetTest = ProgramTest;
 
 }
 
-TEST_F(KeySheet, ThePrintedSheetHoldsTheProgramsOwnListOfKeys)
+TEST_F(KeySheetTest, ThePrintedSheetHoldsTheProgramsOwnListOfKeys)
 {
     QFile file(QStringLiteral(KEY_SHEET));
     if (qEnvironmentVariableIsSet("VETROLAN_RENEW")) {
@@ -37,7 +37,7 @@ TEST_F(KeySheet, ThePrintedSheetHoldsTheProgramsOwnListOfKeys)
         << "VETROLAN_RENEW=1 ctest --preset check -R KeySheet writes docs/keys.md anew";
 }
 
-TEST_F(KeySheet, EveryPlaceHasAHeadingAndKeysAndEveryKeyAnAction)
+TEST_F(KeySheetTest, EveryPlaceHasAHeadingAndKeysAndEveryKeyAnAction)
 {
     for (const Keys::Place& place : Keys::Sheet()) {
         EXPECT_FALSE(place.heading.Seen().isEmpty() || place.keys.empty()) << qPrintable(place.name);

@@ -27,14 +27,6 @@ protected:
 
     // How often a text stands in the plain boxes that were shown.
     int Boxes(const char* text) const;
-
-    static void Type(Clerk& clerk, const char* keys) { clerk.Type(QString::fromUtf8(keys)); }
-    static std::string Reads(Clerk& clerk, const char* control)
-    {
-        return clerk.Reads(QString::fromLatin1(control)).toStdString();
-    }
-    static std::string Focus(Clerk& clerk) { return clerk.Focus().toStdString(); }
-    static std::string OnTop(Clerk& clerk) { return clerk.ScreenName().toStdString(); }
 };
 
 // What a test compares lists of lines with.

@@ -8,9 +8,9 @@ const QString Doubled = QStringLiteral("x'' or ''a''=''a");
 const QString Single = QStringLiteral("x' or 'a'='a");
 
 // Three members, each with an entry in every table that knows members by number or by name.
-class MembersApostrophe : public MembersTest {
+class MembersApostropheTest : public MembersTest {
 protected:
-    MembersApostrophe()
+    MembersApostropheTest()
     {
         int number = 0;
         for (const QString& name :
@@ -53,20 +53,20 @@ protected:
     }
 };
 
-TEST_F(MembersApostrophe, NoNewMemberIsStoredUnderSuchAName)
+TEST_F(MembersApostropheTest, NoNewMemberIsStoredUnderSuchAName)
 {
     for (const QString& name : {Doubled, Single}) {
         const QStringList before = Books();
         Play([&](Clerk& clerk) {
-            clerk.Type(QStringLiteral("%n"));
+            Type(clerk, "%n");
             FillNewMember(clerk, name);
-            clerk.Type(QStringLiteral("%s"));
+            Type(clerk, "%s");
         });
         ExpectFailureAndBooks(before);
     }
 }
 
-TEST_F(MembersApostrophe, NoMemberIsRenamedToSuchAName)
+TEST_F(MembersApostropheTest, NoMemberIsRenamedToSuchAName)
 {
     const QStringList before = Books();
     Play([](Clerk& clerk) {
@@ -76,26 +76,26 @@ TEST_F(MembersApostrophe, NoMemberIsRenamedToSuchAName)
     ExpectFailureAndBooks(before);
 }
 
-TEST_F(MembersApostrophe, AMemberWhoIsStoredSoIsRenamedNowhere)
+TEST_F(MembersApostropheTest, AMemberWhoIsStoredSoIsRenamedNowhere)
 {
     StoreName(1, Single);
     const QStringList before = Books();
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("ramaa{ENTER}%s%h"));
+        Type(clerk, "ramaa{ENTER}%s%h");
     });
     ExpectFailureAndBooks(before);
 }
 
-TEST_F(MembersApostrophe, TheDeletionOfAMemberWhoIsStoredSoTakesNobodysVouchers)
+TEST_F(MembersApostropheTest, TheDeletionOfAMemberWhoIsStoredSoTakesNobodysVouchers)
 {
     StoreName(1, Single);
     const QStringList before = Books();
-    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h")); });
+    Play([](Clerk& clerk) { Type(clerk, "%k1{ENTER}{ENTER}%h"); });
     ExpectFailureAndBooks(before);
 }
 
-TEST_F(MembersApostrophe, NoVillageIsAddedUnderSuchAName)
+TEST_F(MembersApostropheTest, NoVillageIsAddedUnderSuchAName)
 {
     const QStringList before = Books();
     Play([](Clerk& clerk) {

@@ -4,9 +4,9 @@
 
 namespace {
 
-class MembersClosing : public MembersTest {
+class MembersClosingTest : public MembersTest {
 protected:
-    MembersClosing() { AddMember(1, QStringLiteral("rama")); }
+    MembersClosingTest() { AddMember(1, QStringLiteral("rama")); }
 
     // The closing balance after the opening one has been typed.
     QString BalanceAfter(const QString& amount, const QString& directionKey)
@@ -38,21 +38,21 @@ protected:
 
 }
 
-TEST_F(MembersClosing, WithoutEntriesTheOpeningIsTheClosing)
+TEST_F(MembersClosingTest, WithoutEntriesTheOpeningIsTheClosing)
 {
     EXPECT_EQ(BalanceAfter(QStringLiteral("100"), QStringLiteral("1")), QStringLiteral("100.00 doNao"));
     EXPECT_EQ(BalanceAfter(QStringLiteral("100"), QStringLiteral("2")), QStringLiteral("100.00 yaoNao"));
     EXPECT_EQ(BalanceAfter(QStringLiteral("0"), QStringLiteral("2")), QStringLiteral("0.00 doNao"));
 }
 
-TEST_F(MembersClosing, CollectionsAloneArePayableToTheMember)
+TEST_F(MembersClosingTest, CollectionsAloneArePayableToTheMember)
 {
     AddCollection(1, QStringLiteral("rama"), 100.25);
     AddCollection(1, QStringLiteral("rama"), 50.5);
     EXPECT_EQ(BalanceAfter(QString(), QStringLiteral("1")), QStringLiteral("150.75 doNao"));
 }
 
-TEST_F(MembersClosing, AllFiveSumsMoveTheBalance)
+TEST_F(MembersClosingTest, AllFiveSumsMoveTheBalance)
 {
     AddCollection(1, QStringLiteral("rama"), 1000);
     AddPayment(1, QStringLiteral("rama"), 200);
@@ -66,13 +66,13 @@ TEST_F(MembersClosing, AllFiveSumsMoveTheBalance)
     EXPECT_EQ(BalanceAfter(QStringLiteral("1"), QStringLiteral("2")), QStringLiteral("765.00 doNao"));
 }
 
-TEST_F(MembersClosing, BelowZeroItIsDueFromTheMember)
+TEST_F(MembersClosingTest, BelowZeroItIsDueFromTheMember)
 {
     AddUchal(1, 500.5);
     EXPECT_EQ(BalanceAfter(QStringLiteral("100"), QStringLiteral("1")), QStringLiteral("400.50 yaoNao"));
 }
 
-TEST_F(MembersClosing, OtherMembersAndOtherCompaniesDontCount)
+TEST_F(MembersClosingTest, OtherMembersAndOtherCompaniesDontCount)
 {
     AddCollection(2, QStringLiteral("Xyaama"), 10);
     AddCollection(1, QStringLiteral("rama"), 10, 2);
@@ -83,7 +83,7 @@ TEST_F(MembersClosing, OtherMembersAndOtherCompaniesDontCount)
     EXPECT_EQ(BalanceAfter(QStringLiteral("5"), QStringLiteral("1")), QStringLiteral("5.00 doNao"));
 }
 
-TEST_F(MembersClosing, TheSumsAreSinglePrecision)
+TEST_F(MembersClosingTest, TheSumsAreSinglePrecision)
 {
     AddCollection(1, QStringLiteral("rama"), 16777217);
     const MemberClosing::Balance balance = MemberClosing::BalanceOf(1, 0, Direction::Payable);
@@ -92,38 +92,38 @@ TEST_F(MembersClosing, TheSumsAreSinglePrecision)
     EXPECT_EQ(BalanceAfter(QString(), QStringLiteral("1")), QStringLiteral("16777218.00 doNao"));
 }
 
-TEST_F(MembersClosing, ALargeOpeningBalanceIsRightToThePaisa)
+TEST_F(MembersClosingTest, ALargeOpeningBalanceIsRightToThePaisa)
 {
     EXPECT_EQ(
         BalanceAfter(QStringLiteral("123456.78"), QStringLiteral("1")), QStringLiteral("123456.78 doNao"));
 }
 
-TEST_F(MembersClosing, SavingRecomputesTheBalanceFromTheEntries)
+TEST_F(MembersClosingTest, SavingRecomputesTheBalanceFromTheEntries)
 {
     Play([this](Clerk& clerk) {
         CallUp(clerk, 1);
         clerk.Do([this] { AddCollection(1, QStringLiteral("rama"), 80); });
-        clerk.Type(QStringLiteral("%s%h"));
+        Type(clerk, "%s%h");
     });
     EXPECT_EQ(Rows(QStringLiteral("select ClosingBalance,ClosingDorC from MembersMaster")),
         QStringList{QStringLiteral("80|C")});
 }
 
-TEST_F(MembersClosing, TheLettersOfTheWordsAreWritten)
+TEST_F(MembersClosingTest, TheLettersOfTheWordsAreWritten)
 {
     AddUchal(1, 30);
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
         GoTo(clerk, QStringLiteral("txtOpeningBalance"));
         TypeEach(clerk, {QStringLiteral("10"), QStringLiteral("1")});
-        clerk.Type(QStringLiteral("%s%h"));
+        Type(clerk, "%s%h");
     });
     EXPECT_EQ(Rows(QStringLiteral(
                   "select OpeningBalance,OpeningDorC,ClosingBalance,ClosingDorC from MembersMaster")),
         QStringList{QStringLiteral("10|C|20|D")});
 }
 
-TEST_F(MembersClosing, TheAdvanceCountsRepaymentsOfEveryKind)
+TEST_F(MembersClosingTest, TheAdvanceCountsRepaymentsOfEveryKind)
 {
     AddUchal(1, 1000);
     AddReceipt(1, QStringLiteral("Uchal Receipt"), 100);
@@ -133,7 +133,7 @@ TEST_F(MembersClosing, TheAdvanceCountsRepaymentsOfEveryKind)
         QStringLiteral("699.50"));
 }
 
-TEST_F(MembersClosing, ALargeAdvanceIsRightToThePaisa)
+TEST_F(MembersClosingTest, ALargeAdvanceIsRightToThePaisa)
 {
     AddUchal(1, 1234567.89);
     EXPECT_EQ(ClosingAfter(
@@ -141,7 +141,7 @@ TEST_F(MembersClosing, ALargeAdvanceIsRightToThePaisa)
         QStringLiteral("1234567.89"));
 }
 
-TEST_F(MembersClosing, EachDepositCountsItsOwnKind)
+TEST_F(MembersClosingTest, EachDepositCountsItsOwnKind)
 {
     AddDeduction(1, QStringLiteral("gaaya zova"), 12.5);
     AddDeduction(1, QStringLiteral("mhOsa zova"), 30.25);
@@ -154,7 +154,7 @@ TEST_F(MembersClosing, EachDepositCountsItsOwnKind)
         QStringLiteral("40.25"));
 }
 
-TEST_F(MembersClosing, LitresMoveByWhatTheOpeningMoves)
+TEST_F(MembersClosingTest, LitresMoveByWhatTheOpeningMoves)
 {
     Run(QStringLiteral("update MembersMaster set CowOpeningLits=100,CowClosingLits=350.5,BuffOpeningLits=10,"
                        "BuffClosingLits=-40"));
@@ -162,23 +162,23 @@ TEST_F(MembersClosing, LitresMoveByWhatTheOpeningMoves)
         CallUp(clerk, 1);
         GoTo(clerk, QStringLiteral("txtCowOpeningLits"));
         TypeEach(clerk, {QStringLiteral("120.25"), QStringLiteral("11")});
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtCowClosingLits")), QStringLiteral("370.750"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtBuffClosingLits")), QStringLiteral("41.000"));
-        clerk.Type(QStringLiteral("+{TAB}+{TAB}100{ENTER}"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtCowClosingLits")), QStringLiteral("350.500"));
+        EXPECT_EQ(Reads(clerk, "txtCowClosingLits"), "370.750");
+        EXPECT_EQ(Reads(clerk, "txtBuffClosingLits"), "41.000");
+        Type(clerk, "+{TAB}+{TAB}100{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtCowClosingLits"), "350.500");
     });
 }
 
-TEST_F(MembersClosing, ANewMembersLitresAreThoseOfTheOpeningWhateverWasLoadedBefore)
+TEST_F(MembersClosingTest, ANewMembersLitresAreThoseOfTheOpeningWhateverWasLoadedBefore)
 {
     Run(QStringLiteral("update MembersMaster set CowOpeningLits=100,CowClosingLits=350"));
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Press(QStringLiteral("cmdCancel"));
-        clerk.Press(QStringLiteral("cmdNew"));
+        Press(clerk, "cmdCancel");
+        Press(clerk, "cmdNew");
         TypeEach(clerk,
             {QString(), QStringLiteral("gaNaoXa"), QString(), QString(), QStringLiteral("3"),
                 QStringLiteral("1"), QString(), QString(), QStringLiteral("7.5")});
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtCowClosingLits")), QStringLiteral("7.500"));
+        EXPECT_EQ(Reads(clerk, "txtCowClosingLits"), "7.500");
     });
 }

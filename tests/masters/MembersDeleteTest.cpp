@@ -4,9 +4,9 @@
 
 namespace {
 
-class MembersDelete : public MembersTest {
+class MembersDeleteTest : public MembersTest {
 protected:
-    MembersDelete()
+    MembersDeleteTest()
     {
         AddMember(1, QStringLiteral("rama"));
         AddMember(2, QStringLiteral("Xyaama"));
@@ -38,85 +38,85 @@ const QString DeleteQuestion =
 
 }
 
-TEST_F(MembersDelete, AFoundNumberShowsTheMemberAndWaitsOnTheDeleteButton)
+TEST_F(MembersDeleteTest, AFoundNumberShowsTheMemberAndWaitsOnTheDeleteButton)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k2{ENTER}"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), QStringLiteral("Xyaama"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdDelete"));
-        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("txtCowOpeningLits")));
+        Type(clerk, "%k2{ENTER}");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "Xyaama");
+        EXPECT_EQ(Focus(clerk), "cmdDelete");
+        EXPECT_FALSE(CanEnter(clerk, "txtCowOpeningLits"));
     });
 }
 
-TEST_F(MembersDelete, AFoundNameDoesTheSame)
+TEST_F(MembersDeleteTest, AFoundNameDoesTheSame)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k{ENTER}Xyaama{ENTER}"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QStringLiteral("2"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdDelete"));
+        Type(clerk, "%k{ENTER}Xyaama{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "2");
+        EXPECT_EQ(Focus(clerk), "cmdDelete");
     });
 }
 
-TEST_F(MembersDelete, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedIsTheOne)
+TEST_F(MembersDeleteTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedIsTheOne)
 {
     AddMember(12, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k12{ENTER}+{TAB}{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdDelete"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QStringLiteral("12"));
+        Type(clerk, "%k12{ENTER}+{TAB}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "cmdDelete");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "12");
     });
 }
 
-TEST_F(MembersDelete, AnUnknownNumberIsRefusedWithANotice)
+TEST_F(MembersDeleteTest, AnUnknownNumberIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k3{ENTER}"));
+        Type(clerk, "%k3{ENTER}");
         GoOn(clerk, QStringLiteral("yaa maombar naMbarcao roka^D- ]plabQa naahI"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
 }
 
-TEST_F(MembersDelete, AnUnknownNameWithoutANumberHoldsTheFocus)
+TEST_F(MembersDeleteTest, AnUnknownNameWithoutANumberHoldsTheFocus)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k{ENTER}gaNaoXa{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        Type(clerk, "%k{ENTER}gaNaoXa{ENTER}");
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
         EXPECT_EQ(clerk.Message(), QString());
     });
 }
 
-TEST_F(MembersDelete, WithoutANumberThePressGoesBackToIt)
+TEST_F(MembersDeleteTest, WithoutANumberThePressGoesBackToIt)
 {
     const QStringList before = RowCounts();
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k%k"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdDelete")), QStringLiteral("&KaoDa"));
+        Type(clerk, "%k%k");
+        EXPECT_EQ(OnTop(clerk), "frmMembers");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+        EXPECT_EQ(Reads(clerk, "cmdDelete"), "&KaoDa");
     });
     EXPECT_EQ(RowCounts(), before);
 }
 
-TEST_F(MembersDelete, AnEnterTooManyDeletesNothing)
+TEST_F(MembersDeleteTest, AnEnterTooManyDeletesNothing)
 {
     const QStringList before = RowCounts();
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}"));
+        Type(clerk, "%k1{ENTER}{ENTER}");
         EXPECT_EQ(clerk.Message(), DeleteQuestion);
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "frmMembers");
     });
     EXPECT_EQ(RowCounts(), before);
 }
 
-TEST_F(MembersDelete, YesTakesTheMemberOutOfAllSevenTables)
+TEST_F(MembersDeleteTest, YesTakesTheMemberOutOfAllSevenTables)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}"));
+        Type(clerk, "%k1{ENTER}{ENTER}");
         EXPECT_EQ(clerk.Message(), DeleteQuestion);
-        clerk.Type(QStringLiteral("%h"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdDelete")), QStringLiteral("&KaoDNao"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdDelete"));
+        Type(clerk, "%h");
+        EXPECT_EQ(Reads(clerk, "cmdDelete"), "&KaoDNao");
+        EXPECT_EQ(Focus(clerk), "cmdDelete");
     });
     EXPECT_EQ(RowCounts().join(u' '), QStringLiteral("1 1 1 2 1 1 1"));
     for (const char* table : {"MembersMaster", "MilkCollections", "MilkPayments", "TransactionsDetails",
@@ -125,38 +125,38 @@ TEST_F(MembersDelete, YesTakesTheMemberOutOfAllSevenTables)
             << table;
 }
 
-TEST_F(MembersDelete, VouchersOfTheNameGoWhateverTheirOtherSide)
+TEST_F(MembersDeleteTest, VouchersOfTheNameGoWhateverTheirOtherSide)
 {
     AddVoucher(QStringLiteral("rama"), QStringLiteral("Xyaama"));
     AddVoucher(QStringLiteral("Xyaama"), QStringLiteral("rama"));
-    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h")); });
+    Play([](Clerk& clerk) { Type(clerk, "%k1{ENTER}{ENTER}%h"); });
     EXPECT_EQ(Rows(QStringLiteral("select DAccountName,CAccountName from TransactionsMaster")).join(u' '),
         QStringLiteral("Xyaama|raoK raoK|Xyaama"));
 }
 
-TEST_F(MembersDelete, RowsOfAnotherCompanyStay)
+TEST_F(MembersDeleteTest, RowsOfAnotherCompanyStay)
 {
     AddCollection(1, QStringLiteral("rama"), 10, 2);
     AddVoucher(QStringLiteral("rama"), QStringLiteral("raoK"), 2);
-    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h")); });
+    Play([](Clerk& clerk) { Type(clerk, "%k1{ENTER}{ENTER}%h"); });
     EXPECT_EQ(RowCounts().join(u' '), QStringLiteral("1 2 1 3 1 1 1"));
 }
 
-TEST_F(MembersDelete, NoKeepsTheRecord)
+TEST_F(MembersDeleteTest, NoKeepsTheRecord)
 {
     const QStringList before = RowCounts();
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%n"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdDelete")), QStringLiteral("&KaoDNao"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QString());
+        Type(clerk, "%k1{ENTER}{ENTER}%n");
+        EXPECT_EQ(Reads(clerk, "cmdDelete"), "&KaoDNao");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "");
     });
     EXPECT_EQ(RowCounts(), before);
 }
 
-TEST_F(MembersDelete, AFailureInTheLastTableKeepsTheRowsOfAllOthers)
+TEST_F(MembersDeleteTest, AFailureInTheLastTableKeepsTheRowsOfAllOthers)
 {
     gCn.RunScript(QStringLiteral("drop table MilkPaymentsDetails"));
-    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h")); });
+    Play([](Clerk& clerk) { Type(clerk, "%k1{ENTER}{ENTER}%h"); });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Statement(),
         QStringLiteral("Delete * From MilkPaymentsDetails Where CompanyId=1 And MemberNo=1"));
@@ -167,14 +167,14 @@ TEST_F(MembersDelete, AFailureInTheLastTableKeepsTheRowsOfAllOthers)
     EXPECT_EQ(One(QStringLiteral("select count(*) from TransactionsMaster")), QStringLiteral("4"));
 }
 
-TEST_F(MembersDelete, AfterTheLastMemberOnlyNewIsLeftAndHasTheFocus)
+TEST_F(MembersDeleteTest, AfterTheLastMemberOnlyNewIsLeftAndHasTheFocus)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h"));
-        clerk.Type(QStringLiteral("{ENTER}2{ENTER}{ENTER}%h"));
-        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdModify")));
-        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdDelete")));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
+        Type(clerk, "%k1{ENTER}{ENTER}%h");
+        Type(clerk, "{ENTER}2{ENTER}{ENTER}%h");
+        EXPECT_FALSE(CanEnter(clerk, "cmdModify"));
+        EXPECT_FALSE(CanEnter(clerk, "cmdDelete"));
+        EXPECT_EQ(Focus(clerk), "cmdNew");
     });
     EXPECT_EQ(RowCounts().join(u' '), QStringLiteral("0 0 0 0 0 0 0"));
 }

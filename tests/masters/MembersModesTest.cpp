@@ -2,7 +2,7 @@
 
 namespace {
 
-using MembersModes = MembersTest;
+using MembersModesTest = MembersTest;
 
 const QStringList EntryFields = {QStringLiteral("txtMemberNo"), QStringLiteral("ComboMemberName"),
     QStringLiteral("txtAddress"), QStringLiteral("ComboCity"), QStringLiteral("txtAnimal"),
@@ -41,19 +41,19 @@ void ExpectIdle(const Clerk& clerk)
 
 }
 
-TEST_F(MembersModes, OpensIdleWithItsFieldsClosedAndTheFocusOnNew)
+TEST_F(MembersModesTest, OpensIdleWithItsFieldsClosedAndTheFocusOnNew)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
         ExpectIdle(clerk);
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdModify cmdDelete cmdExit"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdCancel")), QStringLiteral("&r_"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("&baahor"));
+        EXPECT_EQ(Focus(clerk), "cmdNew");
+        EXPECT_EQ(Reads(clerk, "cmdCancel"), "&r_");
+        EXPECT_EQ(Reads(clerk, "cmdExit"), "&baahor");
     });
 }
 
-TEST_F(MembersModes, TheFieldsOpenWithTheirEmptyValues)
+TEST_F(MembersModesTest, TheFieldsOpenWithTheirEmptyValues)
 {
     Play([](Clerk& clerk) {
         for (const char* name : {"txtMemberNo", "ComboMemberName", "txtAddress", "ComboCity", "txtAnimal",
@@ -66,147 +66,147 @@ TEST_F(MembersModes, TheFieldsOpenWithTheirEmptyValues)
         for (const char* name :
             {"txtCowOpeningLits", "txtCowClosingLits", "txtBuffOpeningLits", "txtBuffClosingLits"})
             EXPECT_EQ(clerk.Reads(QLatin1String(name)), QStringLiteral("0.000")) << name;
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtOpeningDorC")), QStringLiteral("doNao"));
+        EXPECT_EQ(Reads(clerk, "txtOpeningDorC"), "doNao");
     });
 }
 
-TEST_F(MembersModes, WithoutAnyMemberOnlyNewAndExitAreOpen)
+TEST_F(MembersModesTest, WithoutAnyMemberOnlyNewAndExitAreOpen)
 {
     Play([](Clerk& clerk) {
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdExit"));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        clerk.Press(QStringLiteral("cmdCancel"));
+        Type(clerk, "{ENTER}");
+        Press(clerk, "cmdCancel");
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdExit"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
+        EXPECT_EQ(Focus(clerk), "cmdNew");
     });
 }
 
-TEST_F(MembersModes, NewOpensAllFieldsAndLeavesOnlySaveAndCancelToPress)
+TEST_F(MembersModesTest, NewOpensAllFieldsAndLeavesOnlySaveAndCancelToPress)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         EXPECT_EQ(TitleOf(clerk), QStringLiteral(" ]%padkacao maasTr navaIna roka^D-"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdNew")), QStringLiteral("&saovh"));
+        EXPECT_EQ(Reads(clerk, "cmdNew"), "&saovh");
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdCancel"));
         EXPECT_EQ(Open(clerk, EntryFields), EntryFields);
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
 }
 
-TEST_F(MembersModes, ModifyOpensAllFieldsWithTheNumberEmpty)
+TEST_F(MembersModesTest, ModifyOpensAllFieldsWithTheNumberEmpty)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%d"));
+        Type(clerk, "%d");
         EXPECT_EQ(TitleOf(clerk), QStringLiteral(" ]%padkacao maasTr roka^D-maQyao badla"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdModify")), QStringLiteral("&saovh"));
+        EXPECT_EQ(Reads(clerk, "cmdModify"), "&saovh");
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdModify cmdCancel"));
         EXPECT_EQ(Open(clerk, EntryFields), EntryFields);
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QString());
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "");
     });
 }
 
-TEST_F(MembersModes, DeleteOpensOnlyTheNumberAndTheName)
+TEST_F(MembersModesTest, DeleteOpensOnlyTheNumberAndTheName)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k"));
+        Type(clerk, "%k");
         EXPECT_EQ(TitleOf(clerk), QStringLiteral(" ]%padkacao maasTr roka^D- KaoDNao"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdDelete")), QStringLiteral("&KaoDa"));
+        EXPECT_EQ(Reads(clerk, "cmdDelete"), "&KaoDa");
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdDelete cmdCancel"));
         EXPECT_EQ(Open(clerk, EntryFields).join(u' '), QStringLiteral("txtMemberNo ComboMemberName"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), QString());
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
 }
 
-TEST_F(MembersModes, CancelByMouseFromAnInvalidFieldShowsNothingAndReturnsToIdle)
+TEST_F(MembersModesTest, CancelByMouseFromAnInvalidFieldShowsNothingAndReturnsToIdle)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}1"));
-        clerk.Press(QStringLiteral("cmdCancel"));
+        Type(clerk, "{ENTER}1");
+        Press(clerk, "cmdCancel");
         ExpectIdle(clerk);
-        clerk.Type(QStringLiteral("%d1{ENTER}{BS}"));
-        clerk.Press(QStringLiteral("cmdCancel"));
+        Type(clerk, "%d1{ENTER}{BS}");
+        Press(clerk, "cmdCancel");
         ExpectIdle(clerk);
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdModify"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), QString());
+        EXPECT_EQ(Focus(clerk), "cmdModify");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "");
     });
 }
 
-TEST_F(MembersModes, CancelByItsKeyChecksTheFieldFirstAndIsPressedWhateverItSays)
+TEST_F(MembersModesTest, CancelByItsKeyChecksTheFieldFirstAndIsPressedWhateverItSays)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}1%r"));
+        Type(clerk, "{ENTER}1%r");
         GoOn(clerk, QStringLiteral("yaa maombar naMbarcao roka^D- Agaaodrca Aaho"));
         ExpectIdle(clerk);
-        clerk.Type(QStringLiteral("%n2%r"));
+        Type(clerk, "%n2%r");
         ExpectIdle(clerk);
     });
 }
 
-TEST_F(MembersModes, CancelHidesTheBankFields)
+TEST_F(MembersModesTest, CancelHidesTheBankFields)
 {
     AddMember(1, QStringLiteral("rama"));
     Run(QStringLiteral("update MembersMaster set PaymentType='ba^nk',BankName='sTuT'"));
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("ComboBankName")));
-        clerk.Press(QStringLiteral("cmdCancel"));
+        EXPECT_TRUE(CanEnter(clerk, "ComboBankName"));
+        Press(clerk, "cmdCancel");
         EXPECT_FALSE(clerk.Top().Find(u"ComboBankName")->Visible());
         EXPECT_FALSE(clerk.Top().Find(u"txtBankAccountNo")->Visible());
     });
 }
 
-TEST_F(MembersModes, EscOnAnInvalidFieldClosesWithoutAMessage)
+TEST_F(MembersModesTest, EscOnAnInvalidFieldClosesWithoutAMessage)
 {
     AddMember(1, QStringLiteral("rama"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}1{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ENTER}1{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_FALSE(Failure);
     EXPECT_EQ(One(QStringLiteral("select count(*) from MembersMaster")), QStringLiteral("1"));
 }
 
-TEST_F(MembersModes, EscClearsTheFieldsAndTheCloseBoxLeavesThem)
+TEST_F(MembersModesTest, EscClearsTheFieldsAndTheCloseBoxLeavesThem)
 {
     frmMembers screen;
     const auto open = [&screen] { screen.ShowModal(); };
     Failure = TheClerk.Play(open, [](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}7"));
+        Type(clerk, "{ENTER}7");
         clerk.CloseBox();
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_EQ(screen.Find(u"txtMemberNo")->Text(), QStringLiteral("7"));
     Failure = TheClerk.Play(open, [](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}8{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ENTER}8{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_EQ(screen.Find(u"txtMemberNo")->Text(), QString());
 }
 
-TEST_F(MembersModes, ExitCloses)
+TEST_F(MembersModesTest, ExitCloses)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%b"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "%b");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 
-TEST_F(MembersModes, F12OpensTheKeyboardTutorAndF2NothingAtAll)
+TEST_F(MembersModesTest, F12OpensTheKeyboardTutorAndF2NothingAtAll)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{F2}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
-        clerk.Type(QStringLiteral("{F12}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+        Type(clerk, "{ENTER}{F2}");
+        EXPECT_EQ(OnTop(clerk), "frmMembers");
+        Type(clerk, "{F12}");
+        EXPECT_EQ(OnTop(clerk), "frmKeyboardTutor");
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
     EXPECT_TRUE(TheCalculator.Started.isEmpty());
 }

@@ -2,9 +2,9 @@
 
 namespace {
 
-class MembersModify : public MembersTest {
+class MembersModifyTest : public MembersTest {
 protected:
-    MembersModify()
+    MembersModifyTest()
     {
         AddMember(1, QStringLiteral("rama"), QStringLiteral("gaaya"));
         AddMember(2, QStringLiteral("Xyaama"));
@@ -34,7 +34,7 @@ const QString SaveQuestion = QStringLiteral("roka^D- na@kI badlaayacao ka Æ");
 
 }
 
-TEST_F(MembersModify, ANumberCallsUpTheWholeRecord)
+TEST_F(MembersModifyTest, ANumberCallsUpTheWholeRecord)
 {
     Run(QStringLiteral(
         "update MembersMaster set "
@@ -45,7 +45,7 @@ TEST_F(MembersModify, ANumberCallsUpTheWholeRecord)
         "CowClosingLits=10,BuffOpeningLits=11,BuffClosingLits=12.3456 where MemberNo=2"));
     Play([](Clerk& clerk) {
         CallUp(clerk, 2);
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
         const std::pair<const char*, const char16_t*> expected[] = {{"txtMemberNo", u"2"},
             {"ComboMemberName", u"Xyaama"}, {"txtAddress", u"vaaDa"}, {"ComboCity", u"Kod"},
             {"txtAnimal", u"daonhI"}, {"txtPaymentType", u"ba^nk"}, {"ComboBankName", u"sTuT"},
@@ -57,104 +57,104 @@ TEST_F(MembersModify, ANumberCallsUpTheWholeRecord)
             {"txtBuffClosingLits", u"12.346"}};
         for (const auto& [field, text] : expected)
             EXPECT_EQ(clerk.Reads(QLatin1String(field)), QStringView(text)) << field;
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("ComboBankName")));
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("txtBankAccountNo")));
+        EXPECT_TRUE(CanEnter(clerk, "ComboBankName"));
+        EXPECT_TRUE(CanEnter(clerk, "txtBankAccountNo"));
     });
 }
 
-TEST_F(MembersModify, NullsOnRecordReadAsEmptyAndZero)
+TEST_F(MembersModifyTest, NullsOnRecordReadAsEmptyAndZero)
 {
     Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(1,9,'gaNaoXa')"));
     Play([](Clerk& clerk) {
         CallUp(clerk, 9);
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtAddress")), QString());
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtOpeningDorC")), QString());
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtClosingUchal")), QStringLiteral("0.00"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtBuffClosingLits")), QStringLiteral("0.000"));
+        EXPECT_EQ(Reads(clerk, "txtAddress"), "");
+        EXPECT_EQ(Reads(clerk, "txtOpeningDorC"), "");
+        EXPECT_EQ(Reads(clerk, "txtClosingUchal"), "0.00");
+        EXPECT_EQ(Reads(clerk, "txtBuffClosingLits"), "0.000");
     });
 }
 
-TEST_F(MembersModify, ANameCallsUpTheRecordWhenTheNumberIsEmpty)
+TEST_F(MembersModifyTest, ANameCallsUpTheRecordWhenTheNumberIsEmpty)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%d{ENTER}Xyaama{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAddress"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QStringLiteral("2"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtAnimal")), QStringLiteral("daonhI"));
+        Type(clerk, "%d{ENTER}Xyaama{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtAddress");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "2");
+        EXPECT_EQ(Reads(clerk, "txtAnimal"), "daonhI");
     });
 }
 
-TEST_F(MembersModify, AnotherMembersNameCallsUpThatMember)
+TEST_F(MembersModifyTest, AnotherMembersNameCallsUpThatMember)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("Xyaama{ENTER}"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QStringLiteral("2"));
+        Type(clerk, "Xyaama{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "2");
     });
 }
 
-TEST_F(MembersModify, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
+TEST_F(MembersModifyTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
 {
     AddMember(12, QStringLiteral("rama"), QStringLiteral("mhOsa"));
     for (const char* keys : {"%d12{ENTER}{ENTER}", "%d12{ENTER}rama{ENTER}"})
         Play([keys](Clerk& clerk) {
             clerk.Type(QString::fromLatin1(keys));
-            EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAddress")) << keys;
-            EXPECT_EQ(clerk.Reads(QStringLiteral("txtMemberNo")), QStringLiteral("12")) << keys;
-            EXPECT_EQ(clerk.Reads(QStringLiteral("txtAnimal")), QStringLiteral("mhOsa")) << keys;
+            EXPECT_EQ(Focus(clerk), "txtAddress") << keys;
+            EXPECT_EQ(Reads(clerk, "txtMemberNo"), "12") << keys;
+            EXPECT_EQ(Reads(clerk, "txtAnimal"), "mhOsa") << keys;
         });
 }
 
-TEST_F(MembersModify, TheMembersOwnNameLeavesWhatWasTypedElsewhere)
+TEST_F(MembersModifyTest, TheMembersOwnNameLeavesWhatWasTypedElsewhere)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("{ENTER}vaaDa+{TAB}{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAddress"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtAddress")), QStringLiteral("vaaDa"));
+        Type(clerk, "{ENTER}vaaDa+{TAB}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtAddress");
+        EXPECT_EQ(Reads(clerk, "txtAddress"), "vaaDa");
     });
 }
 
-TEST_F(MembersModify, AnUnknownNumberIsRefusedWithANotice)
+TEST_F(MembersModifyTest, AnUnknownNumberIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 77);
         GoOn(clerk, QStringLiteral("yaa maombar naMbarcao roka^D- ]plabQa naahI"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
-        clerk.Type(QStringLiteral("2{ENTER}"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), QStringLiteral("Xyaama"));
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+        Type(clerk, "2{ENTER}");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "Xyaama");
     });
 }
 
-TEST_F(MembersModify, AnUnknownNameWithoutANumberHoldsTheFocusInSilence)
+TEST_F(MembersModifyTest, AnUnknownNameWithoutANumberHoldsTheFocusInSilence)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%d{ENTER}gaNaoXa{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        Type(clerk, "%d{ENTER}gaNaoXa{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "frmMembers");
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
     });
 }
 
-TEST_F(MembersModify, AnEmptyNameIsRefusedWithANotice)
+TEST_F(MembersModifyTest, AnEmptyNameIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%d{ENTER}{ENTER}"));
+        Type(clerk, "%d{ENTER}{ENTER}");
         GoOn(clerk, QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
     });
 }
 
-TEST_F(MembersModify, ACowMembersBuffaloFiguresAreClosedFromTheStart)
+TEST_F(MembersModifyTest, ACowMembersBuffaloFiguresAreClosedFromTheStart)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("txtCowOpeningLits")));
-        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("txtBuffOpeningLits")));
-        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("txtBuffOpeningThev")));
+        EXPECT_TRUE(CanEnter(clerk, "txtCowOpeningLits"));
+        EXPECT_FALSE(CanEnter(clerk, "txtBuffOpeningLits"));
+        EXPECT_FALSE(CanEnter(clerk, "txtBuffOpeningThev"));
     });
 }
 
-TEST_F(MembersModify, YesWritesTheRecordAndOnlyThat)
+TEST_F(MembersModifyTest, YesWritesTheRecordAndOnlyThat)
 {
     const QString other = Rows(QStringLiteral("select * from MembersMaster where MemberNo=2")).join(u' ');
     Run(QStringLiteral("update MembersMaster set AccountId=5 where MemberNo=1"));
@@ -164,40 +164,40 @@ TEST_F(MembersModify, YesWritesTheRecordAndOnlyThat)
             {QString(), QStringLiteral("vaaDa"), QString(), QStringLiteral("2"), QString(),
                 QStringLiteral("25"), QStringLiteral("2"), QStringLiteral("4"), QStringLiteral("30"),
                 QStringLiteral("6")});
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdModify"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(Focus(clerk), "cmdModify");
+        Type(clerk, "{ENTER}");
         EXPECT_EQ(clerk.Message(), SaveQuestion);
-        clerk.Type(QStringLiteral("%h"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdModify")), QStringLiteral("ba&dla"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdModify"));
+        Type(clerk, "%h");
+        EXPECT_EQ(Reads(clerk, "cmdModify"), "ba&dla");
+        EXPECT_EQ(Focus(clerk), "cmdModify");
     });
     EXPECT_EQ(Rows(QStringLiteral("select * from MembersMaster where MemberNo=1")).join(u' '),
         QStringLiteral("1|1|rama|5|vaaDa||mhOsa|raoK|||25|D|25|D|0|0|6|6|30|30|0|0|4|4"));
     EXPECT_EQ(Rows(QStringLiteral("select * from MembersMaster where MemberNo=2")).join(u' '), other);
 }
 
-TEST_F(MembersModify, NoReturnsToIdleWithNothingWritten)
+TEST_F(MembersModifyTest, NoReturnsToIdleWithNothingWritten)
 {
     AddEntriesOf(QStringLiteral("rama"));
     const QStringList before = NamesElsewhere();
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("gaNaoXa%s%n"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdModify")), QStringLiteral("ba&dla"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), QString());
+        Type(clerk, "gaNaoXa%s%n");
+        EXPECT_EQ(Reads(clerk, "cmdModify"), "ba&dla");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "");
     });
     EXPECT_EQ(
         One(QStringLiteral("select MemberName from MembersMaster where MemberNo=1")), QStringLiteral("rama"));
     EXPECT_EQ(NamesElsewhere(), before);
 }
 
-TEST_F(MembersModify, ANewNameReachesAllFourPlacesInEveryCompany)
+TEST_F(MembersModifyTest, ANewNameReachesAllFourPlacesInEveryCompany)
 {
     AddEntriesOf(QStringLiteral("rama"));
     AddCollection(2, QStringLiteral("Xyaama"), 10);
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("gaNaoXa{ENTER}%s%h"));
+        Type(clerk, "gaNaoXa{ENTER}%s%h");
     });
     EXPECT_EQ(NamesElsewhere().join(u' '),
         QStringLiteral("1|gaNaoXa 2|gaNaoXa 1|Xyaama 1|gaNaoXa 2|gaNaoXa 1|gaNaoXa|raoK 1|raoK|gaNaoXa "
@@ -206,19 +206,19 @@ TEST_F(MembersModify, ANewNameReachesAllFourPlacesInEveryCompany)
         QStringLiteral("gaNaoXa"));
 }
 
-TEST_F(MembersModify, AnUnchangedNameIsWrittenEverywhereAgain)
+TEST_F(MembersModifyTest, AnUnchangedNameIsWrittenEverywhereAgain)
 {
     Run(QStringLiteral("update MembersMaster set MemberName='rama ' where MemberNo=1"));
     AddEntriesOf(QStringLiteral("rama "));
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("%s%h"));
+        Type(clerk, "%s%h");
     });
     EXPECT_EQ(NamesElsewhere().join(u' '),
         QStringLiteral("1|rama 2|rama 1|rama 2|rama 1|rama|raoK 1|raoK|rama 2|rama|raoK 2|raoK|rama"));
 }
 
-TEST_F(MembersModify, AFailureInTheLastRenameLeavesEverythingAsItWas)
+TEST_F(MembersModifyTest, AFailureInTheLastRenameLeavesEverythingAsItWas)
 {
     AddEntriesOf(QStringLiteral("rama"));
     const QStringList before = NamesElsewhere();
@@ -227,7 +227,7 @@ TEST_F(MembersModify, AFailureInTheLastRenameLeavesEverythingAsItWas)
     Run(QStringLiteral("insert into TransactionsMaster(CompanyId,DAccountName) values(1,'rama')"));
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("gaNaoXa{ENTER}%s%h"));
+        Type(clerk, "gaNaoXa{ENTER}%s%h");
     });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Statement(),
@@ -239,13 +239,13 @@ TEST_F(MembersModify, AFailureInTheLastRenameLeavesEverythingAsItWas)
     EXPECT_EQ(One(QStringLiteral("select DAccountName from TransactionsMaster")), QStringLiteral("rama"));
 }
 
-TEST_F(MembersModify, AnApostropheInTheNewNameEndsTheProgramAndLeavesTheBooksAsTheyWere)
+TEST_F(MembersModifyTest, AnApostropheInTheNewNameEndsTheProgramAndLeavesTheBooksAsTheyWere)
 {
     AddEntriesOf(QStringLiteral("rama"));
     const QStringList before = NamesElsewhere();
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("ra'ma{ENTER}%s%h"));
+        Type(clerk, "ra'ma{ENTER}%s%h");
     });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
@@ -254,11 +254,11 @@ TEST_F(MembersModify, AnApostropheInTheNewNameEndsTheProgramAndLeavesTheBooksAsT
     EXPECT_EQ(NamesElsewhere(), before);
 }
 
-TEST_F(MembersModify, SavingAtOnceStopsAtTheNumber)
+TEST_F(MembersModifyTest, SavingAtOnceStopsAtTheNumber)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%d%s"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+        Type(clerk, "%d%s");
+        EXPECT_EQ(OnTop(clerk), "frmMembers");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
 }

@@ -2,7 +2,7 @@
 
 namespace {
 
-using MembersNew = MembersTest;
+using MembersNewTest = MembersTest;
 
 QString NextNumber(Clerk& clerk)
 {
@@ -12,53 +12,53 @@ QString NextNumber(Clerk& clerk)
 
 }
 
-TEST_F(MembersNew, TheFirstMemberIsNumberOne)
+TEST_F(MembersNewTest, TheFirstMemberIsNumberOne)
 {
     Play([](Clerk& clerk) { EXPECT_EQ(NextNumber(clerk), QStringLiteral("1")); });
 }
 
-TEST_F(MembersNew, TheNextNumberFollowsTheHighestOfAllCompanies)
+TEST_F(MembersNewTest, TheNextNumberFollowsTheHighestOfAllCompanies)
 {
     AddMember(7, QStringLiteral("rama"));
     Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(2,40,'Xyaama')"));
     Play([](Clerk& clerk) { EXPECT_EQ(NextNumber(clerk), QStringLiteral("41")); });
 }
 
-TEST_F(MembersNew, WithoutAnyNumberOnRecordTheNextIsOne)
+TEST_F(MembersNewTest, WithoutAnyNumberOnRecordTheNextIsOne)
 {
     Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberName) values(1,'rama')"));
     Play([](Clerk& clerk) { EXPECT_EQ(NextNumber(clerk), QStringLiteral("1")); });
 }
 
-TEST_F(MembersNew, TheLastNumberThatFitsIsGivenOut)
+TEST_F(MembersNewTest, TheLastNumberThatFitsIsGivenOut)
 {
     AddMember(32766, QStringLiteral("rama"));
     Play([](Clerk& clerk) { EXPECT_EQ(NextNumber(clerk), QStringLiteral("32767")); });
     EXPECT_FALSE(Failure);
 }
 
-TEST_F(MembersNew, BeyondTheLastNumberTheProgramEndsWithAnOverflow)
+TEST_F(MembersNewTest, BeyondTheLastNumberTheProgramEndsWithAnOverflow)
 {
     AddMember(32767, QStringLiteral("rama"));
-    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("{ENTER}")); });
+    Play([](Clerk& clerk) { Type(clerk, "{ENTER}"); });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), RunTimeError::Overflow);
 }
 
-TEST_F(MembersNew, AWholeMemberIsWrittenAsTyped)
+TEST_F(MembersNewTest, AWholeMemberIsWrittenAsTyped)
 {
     Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'Kod')"));
     Run(QStringLiteral("insert into BankMaster(CompanyId,BankName) values(1,'sTuT')"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         TypeEach(clerk,
             {QStringLiteral("12"), QStringLiteral(" ramaa "), QStringLiteral("vaaDa"), QStringLiteral("Kod"),
                 QStringLiteral("3"), QStringLiteral("2"), QStringLiteral("sTuT"), QStringLiteral("4711"),
                 QStringLiteral("150.5"), QStringLiteral("2"), QStringLiteral("10.25"), QStringLiteral("20.5"),
                 QStringLiteral("300"), QStringLiteral("40.4"), QStringLiteral("50.05")});
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdNew")), QStringLiteral("&navaIna"));
+        EXPECT_EQ(Focus(clerk), "cmdNew");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Reads(clerk, "cmdNew"), "&navaIna");
     });
     EXPECT_EQ(Rows(QStringLiteral("select * from MembersMaster")).join(u'\n'),
         QStringLiteral(
@@ -66,135 +66,135 @@ TEST_F(MembersNew, AWholeMemberIsWrittenAsTyped)
             "10.25|10.25|20.5|20.5"));
 }
 
-TEST_F(MembersNew, AfterSavingEnterBeginsTheNextMember)
+TEST_F(MembersNewTest, AfterSavingEnterBeginsTheNextMember)
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("rama"));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), QString());
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("cmdModify")));
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("cmdDelete")));
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Focus(clerk), "cmdNew");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "");
+        EXPECT_TRUE(CanEnter(clerk, "cmdModify"));
+        EXPECT_TRUE(CanEnter(clerk, "cmdDelete"));
         EXPECT_EQ(NextNumber(clerk), QStringLiteral("2"));
     });
 }
 
-TEST_F(MembersNew, TheNewNameIsOnTheListAtOnce)
+TEST_F(MembersNewTest, TheNewNameIsOnTheListAtOnce)
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("rama"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         const auto* names = dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboMemberName"));
         ASSERT_NE(names, nullptr);
         EXPECT_EQ(names->Items(), QStringList{QStringLiteral("rama")});
     });
 }
 
-TEST_F(MembersNew, AnEmptyNumberIsRefusedWithANotice)
+TEST_F(MembersNewTest, AnEmptyNumberIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{BS}{ENTER}"));
+        Type(clerk, "{ENTER}{BS}{ENTER}");
         GoOn(clerk, QStringLiteral("maombar naMbar vyavaisqat Ta[-p kra"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
 }
 
-TEST_F(MembersNew, ANumberOnRecordIsRefusedInWhateverCompanyItIs)
+TEST_F(MembersNewTest, ANumberOnRecordIsRefusedInWhateverCompanyItIs)
 {
     Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(2,5,'Xyaama')"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}005{ENTER}"));
+        Type(clerk, "{ENTER}005{ENTER}");
         GoOn(clerk, QStringLiteral("yaa maombar naMbarcao roka^D- Agaaodrca Aaho"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
-        clerk.Type(QStringLiteral("4{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+        Type(clerk, "4{ENTER}");
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
     });
 }
 
-TEST_F(MembersNew, ANameOnRecordIsRefusedWhateverItsBlanks)
+TEST_F(MembersNewTest, ANameOnRecordIsRefusedWhateverItsBlanks)
 {
     AddMember(1, QStringLiteral(" rama "));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{ENTER}rama{ENTER}"));
+        Type(clerk, "{ENTER}{ENTER}rama{ENTER}");
         GoOn(clerk, QStringLiteral("yaa naavaacao roka^D- Agaaodrca Aaho"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
     });
 }
 
-TEST_F(MembersNew, ANameThatReadsLikeOneOnRecordIsRefused)
+TEST_F(MembersNewTest, ANameThatReadsLikeOneOnRecordIsRefused)
 {
     AddMember(1, QStringLiteral("maa$tI"));
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{ENTER}maarutI{ENTER}"));
+        Type(clerk, "{ENTER}{ENTER}maarutI{ENTER}");
         GoOn(clerk, QStringLiteral("yaa naavaacao roka^D- Agaaodrca Aaho"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
-        clerk.Type(QStringLiteral("maaQava{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAddress"));
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
+        Type(clerk, "maaQava{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtAddress");
     });
 }
 
-TEST_F(MembersNew, ANameIsStoredInTheSpellingThatWasTyped)
+TEST_F(MembersNewTest, ANameIsStoredInTheSpellingThatWasTyped)
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("maarutI"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
     });
     EXPECT_EQ(One(QStringLiteral("select MemberName from MembersMaster")), QStringLiteral("maarutI"));
 }
 
-TEST_F(MembersNew, AnEmptyNameIsRefusedWithANotice)
+TEST_F(MembersNewTest, AnEmptyNameIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{ENTER}  {ENTER}"));
+        Type(clerk, "{ENTER}{ENTER}  {ENTER}");
         GoOn(clerk, QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
     });
 }
 
-TEST_F(MembersNew, SavingStopsAtTheFirstThatIsMissing)
+TEST_F(MembersNewTest, SavingStopsAtTheFirstThatIsMissing)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}0%s"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtMemberNo"));
-        clerk.Type(QStringLiteral("1%s"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName"));
-        clerk.Type(QStringLiteral("rama%s"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAnimal"));
-        clerk.Type(QStringLiteral("1%s"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtPaymentType"));
-        clerk.Type(QStringLiteral("1%s"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdNew"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdNew")), QStringLiteral("&navaIna"));
+        Type(clerk, "{ENTER}0%s");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+        Type(clerk, "1%s");
+        EXPECT_EQ(Focus(clerk), "ComboMemberName");
+        Type(clerk, "rama%s");
+        EXPECT_EQ(Focus(clerk), "txtAnimal");
+        Type(clerk, "1%s");
+        EXPECT_EQ(Focus(clerk), "txtPaymentType");
+        Type(clerk, "1%s");
+        EXPECT_EQ(Focus(clerk), "cmdNew");
+        EXPECT_EQ(Reads(clerk, "cmdNew"), "&navaIna");
     });
     EXPECT_EQ(Rows(QStringLiteral("select MemberNo,MemberName,Animal,PaymentType,OpeningDorC,ClosingDorC,"
                                   "ClosingBalance from MembersMaster")),
         QStringList{QStringLiteral("1|rama|gaaya|raoK|C|C|0")});
 }
 
-TEST_F(MembersNew, ANewMemberTakesTheAccountThatWasReadLast)
+TEST_F(MembersNewTest, ANewMemberTakesTheAccountThatWasReadLast)
 {
     AddMember(1, QStringLiteral("rama"));
     Run(QStringLiteral("update MembersMaster set AccountId=815"));
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("Xyaama"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         CallUp(clerk, 1);
-        clerk.Press(QStringLiteral("cmdCancel"));
-        clerk.Press(QStringLiteral("cmdNew"));
-        clerk.Press(QStringLiteral("cmdCancel"));
+        Press(clerk, "cmdCancel");
+        Press(clerk, "cmdNew");
+        Press(clerk, "cmdCancel");
         FillNewMember(clerk, QStringLiteral("gaNaoXa"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
     });
     EXPECT_EQ(
         Rows(QStringLiteral("select MemberNo,AccountId from MembersMaster order by MemberNo")).join(u' '),
         QStringLiteral("1|815 2|0 3|815"));
 }
 
-TEST_F(MembersNew, AnApostropheInTheNameEndsTheProgramAndLeavesTheBooksAsTheyWere)
+TEST_F(MembersNewTest, AnApostropheInTheNameEndsTheProgramAndLeavesTheBooksAsTheyWere)
 {
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("ra'ma"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
     });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
@@ -202,35 +202,35 @@ TEST_F(MembersNew, AnApostropheInTheNameEndsTheProgramAndLeavesTheBooksAsTheyWer
     EXPECT_EQ(One(QStringLiteral("select count(*) from MembersMaster")), QStringLiteral("0"));
 }
 
-TEST_F(MembersNew, ANameOfAThousandCharactersIsKeptWhole)
+TEST_F(MembersNewTest, ANameOfAThousandCharactersIsKeptWhole)
 {
     const QString name = QStringLiteral("rama ").repeated(200).trimmed();
     Play([&name](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
+        Type(clerk, "{ENTER}{ENTER}");
         clerk.Type(Typed(name));
-        clerk.Type(QStringLiteral("{ENTER}%s"));
+        Type(clerk, "{ENTER}%s");
         TypeEach(clerk, {QStringLiteral("1"), QStringLiteral("1")});
-        clerk.Type(QStringLiteral("%s"));
+        Type(clerk, "%s");
     });
     EXPECT_EQ(One(QStringLiteral("select MemberName from MembersMaster")), name);
 }
 
-TEST_F(MembersNew, CollectionsOnRecordForTheNumberCountForTheNewMember)
+TEST_F(MembersNewTest, CollectionsOnRecordForTheNumberCountForTheNewMember)
 {
     AddCollection(1, QStringLiteral("rama"), 812.5);
     Play([](Clerk& clerk) {
         FillNewMember(clerk, QStringLiteral("rama"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtClosingBalance")), QStringLiteral("812.50"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        EXPECT_EQ(Reads(clerk, "txtClosingBalance"), "812.50");
+        Type(clerk, "{ENTER}");
     });
     EXPECT_EQ(Rows(QStringLiteral("select ClosingBalance,ClosingDorC from MembersMaster")),
         QStringList{QStringLiteral("812.5|C")});
 }
 
-TEST_F(MembersNew, TheLatinKeysOfTheLayoutReadAsMarathi)
+TEST_F(MembersNewTest, TheLatinKeysOfTheLayoutReadAsMarathi)
 {
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
+        Type(clerk, "{ENTER}{ENTER}");
         clerk.Type(Typed(QStringLiteral("maombarcao naaMva")));
         const auto* name = dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboMemberName"));
         ASSERT_NE(name, nullptr);

@@ -3,9 +3,9 @@
 namespace {
 
 // The member rama has something in every table; whatever is written is noted down in turn.
-class MembersOrder : public MembersTest {
+class MembersOrderTest : public MembersTest {
 protected:
-    MembersOrder()
+    MembersOrderTest()
     {
         const QString rama = QStringLiteral("rama");
         AddMember(1, rama);
@@ -63,62 +63,62 @@ void ExpectSaveAfter(Clerk& clerk, const QString& lastField, const QString& save
 
 }
 
-TEST_F(MembersOrder, TheMasterAndThenTheFourPlacesOfTheNameAreWritten)
+TEST_F(MembersOrderTest, TheMasterAndThenTheFourPlacesOfTheNameAreWritten)
 {
     Play([this](Clerk& clerk) {
         CallUp(clerk, 1);
         Note(Renames);
-        clerk.Type(QStringLiteral("gaNaoXa{ENTER}%s%h"));
+        Type(clerk, "gaNaoXa{ENTER}%s%h");
     });
     EXPECT_EQ(Written(), Renames);
 }
 
-TEST_F(MembersOrder, AnUnchangedNameIsWrittenInTheSameOrder)
+TEST_F(MembersOrderTest, AnUnchangedNameIsWrittenInTheSameOrder)
 {
     Play([this](Clerk& clerk) {
         CallUp(clerk, 1);
         Note(Renames);
-        clerk.Type(QStringLiteral("%s%h"));
+        Type(clerk, "%s%h");
     });
     EXPECT_EQ(Written(), Renames);
 }
 
-TEST_F(MembersOrder, AMemberLeavesTheMasterFirstAndTheDeductionsLast)
+TEST_F(MembersOrderTest, AMemberLeavesTheMasterFirstAndTheDeductionsLast)
 {
     Play([this](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%k1{ENTER}"));
+        Type(clerk, "%k1{ENTER}");
         Note(Deletes);
-        clerk.Type(QStringLiteral("{ENTER}%h"));
+        Type(clerk, "{ENTER}%h");
     });
     EXPECT_EQ(Written(), Deletes);
 }
 
-TEST_F(MembersOrder, ANoWritesNothingAtAll)
+TEST_F(MembersOrderTest, ANoWritesNothingAtAll)
 {
     Note(Renames + Deletes);
-    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%n")); });
+    Play([](Clerk& clerk) { Type(clerk, "%k1{ENTER}{ENTER}%n"); });
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("gaNaoXa{ENTER}%s%n"));
+        Type(clerk, "gaNaoXa{ENTER}%s%n");
     });
     EXPECT_EQ(Written(), QStringList());
 }
 
 // The last opening field
 
-TEST_F(MembersOrder, LeavingTheLastOpeningFieldGivesTheFocusToSave)
+TEST_F(MembersOrderTest, LeavingTheLastOpeningFieldGivesTheFocusToSave)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
         ExpectSaveAfter(clerk, QStringLiteral("txtBuffOpeningThev"), QStringLiteral("cmdModify"));
     });
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         ExpectSaveAfter(clerk, QStringLiteral("txtBuffOpeningThev"), QStringLiteral("cmdNew"));
     });
 }
 
-TEST_F(MembersOrder, ACowMembersLastOpeningFieldIsTheCowsDeposit)
+TEST_F(MembersOrderTest, ACowMembersLastOpeningFieldIsTheCowsDeposit)
 {
     Run(QStringLiteral("update MembersMaster set Animal='gaaya'"));
     Play([](Clerk& clerk) {
@@ -127,20 +127,20 @@ TEST_F(MembersOrder, ACowMembersLastOpeningFieldIsTheCowsDeposit)
     });
 }
 
-TEST_F(MembersOrder, SteppingBackFromTheLastOpeningFieldLeadsToTheFieldBeforeIt)
+TEST_F(MembersOrderTest, SteppingBackFromTheLastOpeningFieldLeadsToTheFieldBeforeIt)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
         GoTo(clerk, QStringLiteral("txtBuffOpeningThev"));
-        clerk.Type(QStringLiteral("5+{TAB}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtCowOpeningThev"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtBuffOpeningThev")), QStringLiteral("5.00"));
+        Type(clerk, "5+{TAB}");
+        EXPECT_EQ(Focus(clerk), "txtCowOpeningThev");
+        EXPECT_EQ(Reads(clerk, "txtBuffOpeningThev"), "5.00");
     });
     Run(QStringLiteral("update MembersMaster set Animal='gaaya'"));
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
         GoTo(clerk, QStringLiteral("txtCowOpeningThev"));
-        clerk.Type(QStringLiteral("+{TAB}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtOpeningUchal"));
+        Type(clerk, "+{TAB}");
+        EXPECT_EQ(Focus(clerk), "txtOpeningUchal");
     });
 }

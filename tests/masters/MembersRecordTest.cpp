@@ -10,7 +10,7 @@ namespace {
 constexpr const char* Tables[] = {"MembersMaster", "MilkCollections", "MilkPayments", "TransactionsMaster",
     "TransactionsDetails", "AdvanceReceipt", "MilkPaymentsDetails"};
 
-class MembersRecord : public MembersTest {
+class MembersRecordTest : public MembersTest {
 protected:
     // No script of these is broken off, unless its test says so.
     void TearDown() override { EXPECT_FALSE(Failure); }
@@ -54,7 +54,7 @@ protected:
 
 // Openings and closings
 
-TEST_F(MembersRecord, ANewMembersOpeningsAndClosingsStandInTheirOwnColumnsAndTheTextsAreTrimmed)
+TEST_F(MembersRecordTest, ANewMembersOpeningsAndClosingsStandInTheirOwnColumnsAndTheTextsAreTrimmed)
 {
     Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'Kod')"));
     Run(QStringLiteral("insert into BankMaster(CompanyId,BankName) values(1,'sTuT')"));
@@ -63,21 +63,21 @@ TEST_F(MembersRecord, ANewMembersOpeningsAndClosingsStandInTheirOwnColumnsAndThe
     AddDeduction(12, QStringLiteral("gaaya zova"), 3);
     AddDeduction(12, QStringLiteral("mhOsa zova"), 5);
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         TypeEach(clerk,
             {QStringLiteral("12"), QStringLiteral(" ramaa "), QStringLiteral(" vaaDa "),
                 QStringLiteral(" Kod "), QStringLiteral("3"), QStringLiteral("2"), QStringLiteral(" sTuT "),
                 QStringLiteral(" 4711 "), QStringLiteral("150.5"), QStringLiteral("2"),
                 QStringLiteral("10.25"), QStringLiteral("20.5"), QStringLiteral("300"),
                 QStringLiteral("40.4"), QStringLiteral("50.05")});
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
     });
     EXPECT_EQ(Record(12),
         QStringLiteral("1|12|ramaa|0|vaaDa|Kod|daonhI|ba^nk|sTuT|4711|150.5|D|801.5|C|40.4|43.4|50.05|55.05|"
                        "300|340|10.25|10.25|20.5|20.5"));
 }
 
-TEST_F(MembersRecord, AChangedMembersOpeningsAndClosingsStandInTheirOwnColumnsAndTheTextsAreTrimmed)
+TEST_F(MembersRecordTest, AChangedMembersOpeningsAndClosingsStandInTheirOwnColumnsAndTheTextsAreTrimmed)
 {
     AddMember(2, QStringLiteral("Xyaama"));
     Run(QStringLiteral(
@@ -88,32 +88,32 @@ TEST_F(MembersRecord, AChangedMembersOpeningsAndClosingsStandInTheirOwnColumnsAn
     AddCollection(2, QStringLiteral("Xyaama"), 100);
     Play([](Clerk& clerk) {
         CallUp(clerk, 2);
-        clerk.Type(QStringLiteral("%s%h"));
+        Type(clerk, "%s%h");
     });
     EXPECT_EQ(Record(2),
         QStringLiteral("1|2|Xyaama|0|vaaDa|Kod|daonhI|ba^nk|sTuT|47|1.5|D|98.5|C|3|4|5|6|7|8|9|10|11|12"));
 }
 
-TEST_F(MembersRecord, ANewMembersBalanceIsComputedAtTheSaveThoughItsFieldsWereNeverEntered)
+TEST_F(MembersRecordTest, ANewMembersBalanceIsComputedAtTheSaveThoughItsFieldsWereNeverEntered)
 {
     AddCollection(1, QStringLiteral("rama"), 80);
     Play([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         TypeEach(clerk, {QString(), QStringLiteral("rama"), QString(), QString(), QStringLiteral("1")});
-        clerk.Type(QStringLiteral("1%s"));
+        Type(clerk, "1%s");
     });
     EXPECT_EQ(Rows(QStringLiteral("select ClosingBalance,ClosingDorC from MembersMaster")),
         QStringList{QStringLiteral("80|C")});
 }
 
-TEST_F(MembersRecord, AnOpeningPayableToTheMemberCountsWithoutItsSign)
+TEST_F(MembersRecordTest, AnOpeningPayableToTheMemberCountsWithoutItsSign)
 {
     AddMember(1, QStringLiteral("rama"));
     Run(QStringLiteral("update MembersMaster set OpeningBalance=-50"));
     AddCollection(1, QStringLiteral("rama"), 20);
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("%s%h"));
+        Type(clerk, "%s%h");
     });
     EXPECT_EQ(Rows(QStringLiteral("select ClosingBalance,ClosingDorC from MembersMaster")),
         QStringList{QStringLiteral("70|C")});
@@ -121,21 +121,21 @@ TEST_F(MembersRecord, AnOpeningPayableToTheMemberCountsWithoutItsSign)
 
 // The second company
 
-TEST_F(MembersRecord, AChangeLeavesTheMemberOfThatNumberInTheOtherCompany)
+TEST_F(MembersRecordTest, AChangeLeavesTheMemberOfThatNumberInTheOtherCompany)
 {
     AddMember(1, QStringLiteral("rama"));
     AddNamesake(1, QStringLiteral("gaNaoXa"));
     const QStringList before = OfTheOtherCompany();
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(QStringLiteral("{ENTER}Kod{ENTER}%s%h"));
+        Type(clerk, "{ENTER}Kod{ENTER}%s%h");
     });
     EXPECT_EQ(
         One(QStringLiteral("select Address from MembersMaster where CompanyId=1")), QStringLiteral("Kod"));
     EXPECT_EQ(OfTheOtherCompany(), before);
 }
 
-TEST_F(MembersRecord, ADeletionLeavesEveryRowOfTheNamesakeInTheOtherCompany)
+TEST_F(MembersRecordTest, ADeletionLeavesEveryRowOfTheNamesakeInTheOtherCompany)
 {
     const QString rama = QStringLiteral("rama");
     AddMember(1, rama);
@@ -147,7 +147,7 @@ TEST_F(MembersRecord, ADeletionLeavesEveryRowOfTheNamesakeInTheOtherCompany)
     AddDeduction(1, QStringLiteral("gaaya zova"), 10);
     AddNamesake(1, rama);
     const QStringList before = OfTheOtherCompany();
-    Play([](Clerk& clerk) { clerk.Type(QStringLiteral("%k1{ENTER}{ENTER}%h")); });
+    Play([](Clerk& clerk) { Type(clerk, "%k1{ENTER}{ENTER}%h"); });
     EXPECT_EQ(OfTheOtherCompany(), before);
     for (const char* table : Tables)
         EXPECT_EQ(One(Sql(u"select count(*) from ", QString::fromLatin1(table), u" where CompanyId=1")),
@@ -157,7 +157,7 @@ TEST_F(MembersRecord, ADeletionLeavesEveryRowOfTheNamesakeInTheOtherCompany)
 
 // The fields
 
-TEST_F(MembersRecord, TheBankFieldsAreShownForABankAndForNothingElse)
+TEST_F(MembersRecordTest, TheBankFieldsAreShownForABankAndForNothingElse)
 {
     AddMember(1, QStringLiteral("rama"));
     AddMember(2, QStringLiteral("Xyaama"));
@@ -169,27 +169,27 @@ TEST_F(MembersRecord, TheBankFieldsAreShownForABankAndForNothingElse)
         CallUp(clerk, 1);
         EXPECT_FALSE(ShowsBank(clerk)) << "paid in cash, whatever bank is on record";
         GoTo(clerk, QStringLiteral("txtPaymentType"));
-        clerk.Type(QStringLiteral("2{ENTER}"));
+        Type(clerk, "2{ENTER}");
         EXPECT_TRUE(ShowsBank(clerk));
         GoTo(clerk, QStringLiteral("txtPaymentType"));
-        clerk.Type(QStringLiteral("1{ENTER}"));
+        Type(clerk, "1{ENTER}");
         EXPECT_FALSE(ShowsBank(clerk));
-        clerk.Press(QStringLiteral("cmdCancel"));
+        Press(clerk, "cmdCancel");
         CallUp(clerk, 2);
         EXPECT_TRUE(ShowsBank(clerk));
-        clerk.Press(QStringLiteral("cmdCancel"));
+        Press(clerk, "cmdCancel");
         EXPECT_FALSE(ShowsBank(clerk));
     });
 }
 
-TEST_F(MembersRecord, AnEmptyNameIsToldInEveryMode)
+TEST_F(MembersRecordTest, AnEmptyNameIsToldInEveryMode)
 {
     AddMember(1, QStringLiteral("rama"));
     for (const char* keys : {"%n{ENTER}{ENTER}", "%d{ENTER}{ENTER}", "%k{ENTER}{ENTER}"}) {
         Play([keys](Clerk& clerk) {
             clerk.Type(QString::fromLatin1(keys));
             GoOn(clerk, QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra"));
-            EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboMemberName")) << keys;
+            EXPECT_EQ(Focus(clerk), "ComboMemberName") << keys;
         });
     }
 }

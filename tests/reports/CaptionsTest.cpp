@@ -29,7 +29,7 @@ protected:
             EXPECT_EQ(clerk.Top().Title().Text(), QString::fromUtf8(title));
             for (const Choice& choice : choices)
                 EXPECT_EQ(CaptionOf(clerk, choice.control), QString::fromUtf8(choice.caption));
-            EXPECT_EQ(clerk.Reads(QStringLiteral("cmdReport")), QStringLiteral("&irpaoT-"));
+            EXPECT_EQ(Reads(clerk, "cmdReport"), "&irpaoT-");
         });
         EXPECT_FALSE(Failure);
     }

@@ -47,7 +47,7 @@ protected:
     {
         Run(QStringLiteral("insert into MilkCollectionsTemp select * from MilkCollections"));
         gAppState.gReportMode = QStringLiteral("ShowMilkCollection");
-        On<frmReportMilkPS>([](Clerk& clerk) { EXPECT_EQ(clerk.ScreenName(), QString()); });
+        On<frmReportMilkPS>([](Clerk& clerk) { EXPECT_EQ(OnTop(clerk), ""); });
         EXPECT_FALSE(Failure);
     }
 };

@@ -77,13 +77,22 @@ TEST_F(MembersListTest, AnAreaHoldsItsMembersInAnySpelling)
     EXPECT_EQ(Staged("%2{ENTER}vaaru%i"), "Area|vaa$|5|saIta|vaa$|gaaya Area|vaa$|4|rama|vaaru|gaaya");
 }
 
-TEST_F(MembersListTest, ApostrophesAreDroppedFromTheArea)
+TEST_F(MembersListTest, AnApostropheInTheAreaFailsTheListAndNothingIsStaged)
 {
-    On<frmReportMembersList>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("%2{ENTER}k'r"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboArea")), QStringLiteral("kr"));
-    });
-    EXPECT_EQ(Staged("%2{ENTER}'kraD'%i"), "Area|kraD|1|Anata|kraD|gaaya");
+    const QStringList before = Rows(QStringLiteral("select * from MembersListReport"));
+    for (const char* area : {"kr'aD", "kraD'' or ''a''=''a"}) {
+        On<frmReportMembersList>([area](Clerk& clerk) {
+            clerk.Type(QStringLiteral("%2{ENTER}") + QString::fromLatin1(area));
+            EXPECT_EQ(clerk.Reads(QStringLiteral("ComboArea")), QString::fromLatin1(area));
+            Type(clerk, "%i");
+            EXPECT_EQ(OnTop(clerk), "");
+        });
+        ASSERT_TRUE(Failure) << area;
+        EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
+        EXPECT_TRUE(Failure->Statement().contains(QString::fromLatin1(area))) << Failure->what();
+        EXPECT_EQ(Rows(QStringLiteral("select * from MembersListReport")), before);
+        EXPECT_TRUE(TheWindow.Shown.empty());
+    }
 }
 
 TEST_F(MembersListTest, AllAreasHoldEachMemberUnderItsOwn)
@@ -119,16 +128,16 @@ TEST_F(MembersListTest, OnlyWhatBelongsToTheChosenListCanBeEntered)
             return names;
         };
         EXPECT_EQ(open(), "0000");
-        clerk.Type(QStringLiteral("%2"));
+        Type(clerk, "%2");
         EXPECT_EQ(open(), "1000");
         EXPECT_EQ(dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboArea"))->Items().join(u' '),
             QStringLiteral("kraD masaUr"));
-        clerk.Type(QStringLiteral("%3"));
+        Type(clerk, "%3");
         EXPECT_EQ(open(), "0111");
-        clerk.Type(QStringLiteral("%1{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdReport"));
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "%1{ENTER}");
+        EXPECT_EQ(Focus(clerk), "cmdReport");
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 
@@ -137,10 +146,10 @@ TEST_F(MembersListTest, TheAreasGuideSaysThatNoneMeansAll)
     On<frmReportMembersList>([](Clerk& clerk) {
         const auto guide = [&] { return clerk.Top().findChild<QLabel*>(QStringLiteral("lblGuide"))->text(); };
         EXPECT_EQ(guide(), QString());
-        clerk.Type(QStringLiteral("%2{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboArea"));
+        Type(clerk, "%2{ENTER}");
+        EXPECT_EQ(Focus(clerk), "ComboArea");
         EXPECT_EQ(guide(), QStringLiteral("रिकामे ठेवल्यास सर्व विभाग"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         EXPECT_EQ(guide(), QString());
     });
 }

@@ -71,8 +71,8 @@ TEST_F(MilkCollectionsListTest, AnEmptyAnimalBecomesBoth)
     On<frmReportMilkCollections>([](Clerk& clerk) {
         EXPECT_EQ(dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboAnimal"))->Items().join(u' '),
             QStringLiteral("gaaya mhOsa daonhI"));
-        clerk.Type(QStringLiteral("15042026{ENTER}{ENTER}"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAnimal")), QStringLiteral("daonhI"));
+        Type(clerk, "15042026{ENTER}{ENTER}");
+        EXPECT_EQ(Reads(clerk, "ComboAnimal"), "daonhI");
     });
 }
 
@@ -81,10 +81,10 @@ TEST_F(MilkCollectionsListTest, AnEmptyAnimalBecomesBothStraightFromTheDateToo)
     EXPECT_EQ(Staged("15042026%i"), "1 2 3 4");
     EXPECT_EQ(Staged("15042026{ENTER}gaaya{ENTER}%i"), "1 3");
     On<frmReportMilkCollections>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("15042026"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("MaskUserDate"));
-        clerk.Type(QStringLiteral("%i"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAnimal")), QStringLiteral("daonhI"));
+        Type(clerk, "15042026");
+        EXPECT_EQ(Focus(clerk), "MaskUserDate");
+        Type(clerk, "%i");
+        EXPECT_EQ(Reads(clerk, "ComboAnimal"), "daonhI");
     });
     EXPECT_EQ(Rows(QStringLiteral("select Liters from MilkCollectionsTemp")).size(), 4);
 }
@@ -96,9 +96,9 @@ TEST_F(MilkCollectionsListTest, AWordThatIsBegunIsTheOneThatTheListStandsAt)
             std::tuple("dao", "daonhI", "1 2 3 4"), std::tuple(" gaaya ", "gaaya", "1 3")}) {
         On<frmReportMilkCollections>([&, keys = typed, expected = word](Clerk& clerk) {
             clerk.Type(QStringLiteral("15042026{ENTER}") + QString::fromLatin1(keys));
-            clerk.Type(QStringLiteral("{ENTER}"));
+            Type(clerk, "{ENTER}");
             EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAnimal")), QString::fromLatin1(expected)) << keys;
-            EXPECT_EQ(clerk.Focus(), QStringLiteral("OptionBoth")) << keys;
+            EXPECT_EQ(Focus(clerk), "OptionBoth") << keys;
         });
         EXPECT_EQ(Staged((std::string("15042026{ENTER}") + typed + "%i").c_str()), liters) << typed;
     }
@@ -109,16 +109,16 @@ TEST_F(MilkCollectionsListTest, AnAnimalThatIsNoneOfTheThreeIsEmptiedAndKeepsThe
     for (const char* typed : {"ga'", "'", "gaayaa", "Gaaya", "x"}) {
         On<frmReportMilkCollections>([&](Clerk& clerk) {
             clerk.Type(QStringLiteral("15042026{ENTER}") + QString::fromLatin1(typed));
-            clerk.Type(QStringLiteral("{ENTER}"));
-            EXPECT_EQ(clerk.Focus(), QStringLiteral("ComboAnimal")) << typed;
-            EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAnimal")), QString()) << typed;
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(Focus(clerk), "ComboAnimal") << typed;
+            EXPECT_EQ(Reads(clerk, "ComboAnimal"), "") << typed;
             EXPECT_EQ(clerk.Message(), QString());
             clerk.Type(QString::fromLatin1(typed));
-            clerk.Type(QStringLiteral("%i"));
+            Type(clerk, "%i");
             EXPECT_TRUE(TheWindow.Shown.empty()) << typed;
             clerk.Type(QString::fromLatin1(typed));
-            clerk.Type(QStringLiteral("%b"));
-            EXPECT_EQ(clerk.ScreenName(), QString()) << "it doesn't keep the clerk from leaving";
+            Type(clerk, "%b");
+            EXPECT_EQ(OnTop(clerk), "") << "it doesn't keep the clerk from leaving";
         });
         EXPECT_FALSE(Failure) << typed;
     }
@@ -160,13 +160,13 @@ TEST_F(MilkCollectionsListTest, TheEndOfAListOfOneShiftOrOneAnimalDoesntSpeakOfT
 TEST_F(MilkCollectionsListTest, ABadDateIsToldAndTakesTheFocusBack)
 {
     On<frmReportMilkCollections>([this](Clerk& clerk) {
-        clerk.Type(QStringLiteral("3113{ENTER}"));
+        Type(clerk, "3113{ENTER}");
         EXPECT_EQ(clerk.Message(), QStringLiteral("idnaaMk vyavaisqat Ta[-p kra"));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("MaskUserDate"));
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Focus(clerk), "MaskUserDate");
         EXPECT_TRUE(TheWindow.Shown.empty());
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 

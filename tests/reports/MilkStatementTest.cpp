@@ -206,10 +206,10 @@ TEST_F(MilkStatementTest, ANameThatIsBegunIsTheOneThatTheListStandsAt)
         Run(QStringLiteral("delete * from MilkCollectionsME"));
         On<frmReportMilkPS>([&](Clerk& clerk) {
             clerk.Type(QStringLiteral("13042026{ENTER}15042026{ENTER}{ENTER}") + QString::fromLatin1(typed));
-            clerk.Type(QStringLiteral("{ENTER}"));
-            EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAccountName")), QStringLiteral("gaNaoSa")) << typed;
-            EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdReport"));
-            clerk.Type(QStringLiteral("{ENTER}"));
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(Reads(clerk, "ComboAccountName"), "gaNaoSa") << typed;
+            EXPECT_EQ(Focus(clerk), "cmdReport");
+            Type(clerk, "{ENTER}");
         });
         EXPECT_EQ(Staged(), Texts({"13/04/2026|3|gaNaoSa|gaaya|10|4|30|300|0|0|0|0|0|0"})) << typed;
     }
@@ -221,15 +221,15 @@ TEST_F(MilkStatementTest, ANameOfTheListIsNotTakenForTheBeginningOfALongerOne)
     AddMember(6, QStringLiteral("gaNa"));
     On<frmReportMilkPS>([](Clerk& clerk) {
         const QString combo = QStringLiteral("ComboAccountName");
-        clerk.Type(QStringLiteral("13042026{ENTER}15042026{ENTER}{ENTER}gaNaoSa{ENTER}"));
+        Type(clerk, "13042026{ENTER}15042026{ENTER}{ENTER}gaNaoSa{ENTER}");
         EXPECT_EQ(clerk.Reads(combo), QStringLiteral("gaNaoSa"));
-        clerk.Type(QStringLiteral("+{TAB}gaNa +{TAB}"));
+        Type(clerk, "+{TAB}gaNa +{TAB}");
         EXPECT_EQ(clerk.Reads(combo), QStringLiteral("gaNa"));
-        clerk.Type(QStringLiteral("{ENTER}gaNaoSar{ENTER}"));
+        Type(clerk, "{ENTER}gaNaoSar{ENTER}");
         EXPECT_EQ(clerk.Reads(combo), QStringLiteral("gaNaoSarava"));
-        clerk.Type(QStringLiteral("+{TAB}raja{ENTER}"));
+        Type(clerk, "+{TAB}raja{ENTER}");
         EXPECT_EQ(clerk.Reads(combo), QStringLiteral("raja")) << "what matches nothing stays";
-        clerk.Type(QStringLiteral("+{TAB}{BS}{ENTER}"));
+        Type(clerk, "+{TAB}{BS}{ENTER}");
         EXPECT_EQ(clerk.Reads(combo), QString()) << "and so does nothing";
     });
 }
@@ -237,13 +237,13 @@ TEST_F(MilkStatementTest, ANameOfTheListIsNotTakenForTheBeginningOfALongerOne)
 TEST_F(MilkStatementTest, ADateThatIsNoneTakesTheFocusBackWithoutAMessage)
 {
     On<frmReportMilkPS>([this](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("maskFromDate"));
-        clerk.Type(QStringLiteral("13042026{ENTER}3104{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("maskToDate"));
-        clerk.Type(QStringLiteral("%i"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("maskToDate"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportMilkPS"));
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Focus(clerk), "maskFromDate");
+        Type(clerk, "13042026{ENTER}3104{ENTER}");
+        EXPECT_EQ(Focus(clerk), "maskToDate");
+        Type(clerk, "%i");
+        EXPECT_EQ(Focus(clerk), "maskToDate");
+        EXPECT_EQ(OnTop(clerk), "frmReportMilkPS");
         EXPECT_TRUE(TheWindow.Shown.empty());
     });
 }
@@ -254,12 +254,12 @@ TEST_F(MilkStatementTest, TheNamesAreTheMembersOrTheCustomersByTheOption)
         const auto names = [&] {
             return dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboAccountName"))->Items();
         };
-        EXPECT_EQ(clerk.Reads(QStringLiteral("OptionCollections")), QStringLiteral("1"));
+        EXPECT_EQ(Reads(clerk, "OptionCollections"), "1");
         EXPECT_EQ(names(), Texts({"gaNaoSa", "maaQava"}));
-        clerk.Type(QStringLiteral("13042026{ENTER}15042026{ENTER}{ENTER}gaNaoSa+{TAB}{DOWN}"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("OptionSales")), QStringLiteral("1"));
+        Type(clerk, "13042026{ENTER}15042026{ENTER}{ENTER}gaNaoSa+{TAB}{DOWN}");
+        EXPECT_EQ(Reads(clerk, "OptionSales"), "1");
         EXPECT_EQ(names(), Texts({"dUQa saMGa"}));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAccountName")), QString());
+        EXPECT_EQ(Reads(clerk, "ComboAccountName"), "");
     });
 }
 
@@ -268,12 +268,12 @@ TEST_F(MilkStatementTest, EscClearsAndClosesAndTheExitButtonCloses)
     for (const char* keys : {"13042026{ESC}", "13042026{ENTER}15042026{ENTER}%b"}) {
         On<frmReportMilkPS>([keys](Clerk& clerk) {
             clerk.Type(QString::fromLatin1(keys));
-            EXPECT_EQ(clerk.ScreenName(), QString());
+            EXPECT_EQ(OnTop(clerk), "");
         });
     }
     On<frmReportMilkPS>([](Clerk& clerk) {
-        clerk.Press(QStringLiteral("cmdExit"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Press(clerk, "cmdExit");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 
@@ -288,7 +288,7 @@ TEST_F(MilkStatementTest, ForACounterItStagesItsCopyPrintsNothingAndClosesItself
     gAppState.gReportMode = QStringLiteral("ShowMilkCollection");
     const QStringList dates{QStringLiteral("2|NULL|NULL")};
     Run(QStringLiteral("insert into ReportDates(CompanyId) values(2)"));
-    On<frmReportMilkPS>([](Clerk& clerk) { EXPECT_EQ(clerk.ScreenName(), QString()); });
+    On<frmReportMilkPS>([](Clerk& clerk) { EXPECT_EQ(OnTop(clerk), ""); });
     EXPECT_FALSE(Failure);
     EXPECT_EQ(Rows(QStringLiteral("select * from ReportDates")), dates) << "the range is the counter's";
     EXPECT_TRUE(TheWindow.Shown.empty());

@@ -113,10 +113,10 @@ TEST_F(PaymentListTest, AnAccountNumberOfEighteenFiguresStandsWholeOnOneLine)
     }
     const QString pdf = FolderFile(QStringLiteral("read.pdf"));
     EXPECT_TRUE(report.SavePdf(pdf).Done());
-    EXPECT_TRUE(Words(PdfText(pdf)).contains(number));
+    EXPECT_TRUE(WordsOf(PdfText(pdf)).contains(number));
 }
 
-TEST(PaymentListFormula, DayAndMonthGoIntoTheFormulaWithoutTheirNoughts)
+TEST(PaymentListFormulaTest, DayAndMonthGoIntoTheFormulaWithoutTheirNoughts)
 {
     EXPECT_EQ(frmReportPaymentList::SelectionFormula(QStringLiteral("04/05/2026")),
         QStringLiteral("{MilkPayments.PaymentDate} = DateTime (2026,5,4,00, 00, 00)"));
@@ -163,12 +163,12 @@ TEST_F(PaymentListTest, ThePeriodOfTheHeadSpansThoseOfAllItsRowsAndOfNoOthers)
 TEST_F(PaymentListTest, CashIsChosenAtFirstAndADateThatIsNoneTakesTheFocusBack)
 {
     On<frmReportPaymentList>([this](Clerk& clerk) {
-        EXPECT_EQ(clerk.Reads(QStringLiteral("Option1")), QStringLiteral("1"));
-        clerk.Type(QStringLiteral("3104{ENTER}%i"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("MaskFromDate"));
+        EXPECT_EQ(Reads(clerk, "Option1"), "1");
+        Type(clerk, "3104{ENTER}%i");
+        EXPECT_EQ(Focus(clerk), "MaskFromDate");
         EXPECT_TRUE(TheWindow.Shown.empty());
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 

@@ -14,6 +14,8 @@ protected:
     ReportsTest();
     ~ReportsTest() override;
 
+    using SocietyTest::Type;
+
     // Opens a screen and types; a run-time error is kept in `Failure`.
     template <class S> void Type(const char* keys)
     {

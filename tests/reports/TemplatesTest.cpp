@@ -42,9 +42,9 @@ std::string Difference(const QStringList& golden, const QStringList& now)
 }
 
 // The demonstration, with payments and sales besides.
-class ShippedTemplates : public ReportsTest {
+class ShippedTemplatesTest : public ReportsTest {
 protected:
-    ShippedTemplates()
+    ShippedTemplatesTest()
     {
         gCn.Close();
         const QString folder = LocalPath(AppFolder);
@@ -83,10 +83,10 @@ protected:
     {
         const QString pdf = FolderFile(QStringLiteral("read.pdf"));
         ASSERT_EQ(report.SavePdf(pdf).fault, QString());
-        QStringList placed = Words(ReportTexts().join(u' '));
+        QStringList placed = WordsOf(ReportTexts().join(u' '));
         placed.sort();
         for (const QStringList& way : {QStringList(), QStringList(QStringLiteral("-layout"))}) {
-            QStringList words = Words(PdfText(pdf, way));
+            QStringList words = WordsOf(PdfText(pdf, way));
             words.sort();
             EXPECT_TRUE(words == placed) << Difference(placed, words) << way.join(u' ').toStdString();
         }
@@ -160,7 +160,7 @@ protected:
     }
 };
 
-TEST_F(ShippedTemplates, HaveNoFaultAgainstTheDeliveredTables)
+TEST_F(ShippedTemplatesTest, HaveNoFaultAgainstTheDeliveredTables)
 {
     for (const Delivered::File& file : Delivered::Templates()) {
         TemplateFaults faults;
@@ -174,75 +174,74 @@ TEST_F(ShippedTemplates, HaveNoFaultAgainstTheDeliveredTables)
     }
 }
 
-TEST_F(ShippedTemplates, EachHasAGoldenFile)
+TEST_F(ShippedTemplatesTest, EachHasAGoldenFile)
 {
     for (const Delivered::File& file : Delivered::Templates())
         EXPECT_TRUE(QFile::exists(FileOfGolden(file.name.chopped(4)))) << file.name.toStdString();
 }
 
-class ReceiptTemplates : public ShippedTemplates, public testing::WithParamInterface<const char*> { };
+class ReceiptTemplatesTest : public ShippedTemplatesTest, public testing::WithParamInterface<const char*> { };
 
-TEST_P(ReceiptTemplates, ShippedTemplatesReadAsTheyDidBefore)
+TEST_P(ReceiptTemplatesTest, ShippedTemplatesReadAsTheyDidBefore)
 {
     const QString name = QString::fromLatin1(GetParam());
     PrintReceipt(name + QStringLiteral(".rpt"));
     CompareWithGolden(name);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ReceiptTemplates,
+INSTANTIATE_TEST_SUITE_P(All, ReceiptTemplatesTest,
     testing::Values("MilkReceipt1", "MilkReceipt2", "MilkReceiptBhl", "MilkReceiptGhlp", "MilkReceiptAtk",
         "MilkReceiptShenoli Epson LX 300", "MilkReceiptShenoli", "MilkReceiptNerli With Time",
         "MilkReceiptNerli Minimised With Time XP", "MilkReceiptNerli Minimised With Time"));
 
-TEST_F(ShippedTemplates, MilkPSReportShowsAMembersTenDays)
+TEST_F(ShippedTemplatesTest, MilkPSReportShowsAMembersTenDays)
 {
     const QString name = NameOfMember("daonhI");
     On<frmReportMilkPS>([&](Clerk& clerk) {
-        clerk.Type(QStringLiteral("01042026{ENTER}10042026{ENTER}{ENTER}"));
+        Type(clerk, "01042026{ENTER}10042026{ENTER}{ENTER}");
         clerk.Do([&] { dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboAccountName"))->SetText(name); });
-        clerk.Type(QStringLiteral("%i"));
+        Type(clerk, "%i");
     });
     CompareWithGolden(QStringLiteral("MilkPSReport"));
 }
 
-TEST_F(ShippedTemplates, MilkPSReportShowsACustomersPurchasesInTheSameShape)
+TEST_F(ShippedTemplatesTest, MilkPSReportShowsACustomersPurchasesInTheSameShape)
 {
     for (const char* day : {"01/04/2026", "02/04/2026", "04/04/2026"}) {
         AddSale(day, "sakaL", 1, "dUQa saMGa", "gaaya", 120.5, 4.1, 8.5);
         AddSale(day, "saMQyaakaL", 1, "dUQa saMGa", "mhOsa", 80.25, 6.8, 9.1);
     }
-    On<frmReportMilkPS>([&](Clerk& clerk) {
-        clerk.Type(QStringLiteral("01042026{ENTER}10042026{ENTER}{DOWN}{ENTER}dUQa saMGa%i"));
-    });
+    On<frmReportMilkPS>(
+        [&](Clerk& clerk) { Type(clerk, "01042026{ENTER}10042026{ENTER}{DOWN}{ENTER}dUQa saMGa%i"); });
     CompareWithGolden(QStringLiteral("MilkPSReport of a customer"));
 }
 
-TEST_F(ShippedTemplates, MilkCollectionsReportShowsADay)
+TEST_F(ShippedTemplatesTest, MilkCollectionsReportShowsADay)
 {
     Type<frmReportMilkCollections>("15042026{ENTER}{ENTER}%i");
     CompareWithGolden(QStringLiteral("MilkCollectionsReport"));
 }
 
-TEST_F(ShippedTemplates, ReportListMembersShowsTheAreas)
+TEST_F(ShippedTemplatesTest, ReportListMembersShowsTheAreas)
 {
     Type<frmReportMembersList>("%2%i");
     CompareWithGolden(QStringLiteral("ReportListMembers"));
 }
 
-TEST_F(ShippedTemplates, ReportListMembersShowsAllOfThem)
+TEST_F(ShippedTemplatesTest, ReportListMembersShowsAllOfThem)
 {
     Type<frmReportMembersList>("%i");
     CompareWithGolden(QStringLiteral("ReportListMembers complete"));
 }
 
-TEST_F(ShippedTemplates, CashMilkPaymentShowsThoseWhoArePaidInCash)
+TEST_F(ShippedTemplatesTest, CashMilkPaymentShowsThoseWhoArePaidInCash)
 {
     PayTheFirstTenDays();
     Type<frmReportPaymentList>("11042026{ENTER}%i");
     CompareWithGolden(QStringLiteral("CashMilkPayment"));
 }
 
-TEST_F(ShippedTemplates, BankMilkPaymentShowsTheAccounts)
+TEST_F(ShippedTemplatesTest, BankMilkPaymentShowsTheAccounts)
 {
     PayTheFirstTenDays();
     Run(QStringLiteral("update MembersMaster set BankName='' where MemberNo=11"));

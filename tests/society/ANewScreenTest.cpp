@@ -112,10 +112,10 @@ protected:
 TEST_F(ANewScreenTest, APlaceIsAddedOnceAndTheClerkGoesOnWithTheNext)
 {
     On<frmAddPlace>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("pauNao{ENTER}{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtName"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtName")), QString());
-        clerk.Type(QStringLiteral("pauNao%s"));
+        Type(clerk, "pauNao{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtName");
+        EXPECT_EQ(Reads(clerk, "txtName"), "");
+        Type(clerk, "pauNao%s");
         EXPECT_EQ(clerk.Message(), QStringLiteral("हे गाव यादीत आहे."));
     });
     EXPECT_EQ(Rows(QStringLiteral("select CompanyId,CityName from CityMaster")),
@@ -126,10 +126,10 @@ TEST_F(ANewScreenTest, APlaceIsAddedOnceAndTheClerkGoesOnWithTheNext)
 TEST_F(ANewScreenTest, AnEmptyNameKeepsTheFocusAndEscLeaves)
 {
     On<frmAddPlace>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}%s"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtName"));
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ENTER}%s");
+        EXPECT_EQ(Focus(clerk), "txtName");
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_EQ(One(QStringLiteral("select count(*) from CityMaster")), QStringLiteral("0"));
     EXPECT_FALSE(Failure);
@@ -138,13 +138,13 @@ TEST_F(ANewScreenTest, AnEmptyNameKeepsTheFocusAndEscLeaves)
 TEST_F(ANewScreenTest, ItsKeyCountsThePlaces)
 {
     On<frmAddPlace>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("pauNao%s{F5}"));
+        Type(clerk, "pauNao%s{F5}");
         EXPECT_EQ(clerk.Message(), QStringLiteral("यादीत 1 गावे आहेत."));
     });
     EXPECT_FALSE(Failure);
 }
 
-TEST(ANewScreenPage, QuotesThisFileWordForWord)
+TEST(ANewScreenPageTest, QuotesThisFileWordForWord)
 {
     const auto text = [](const char* path) {
         QFile file(QString::fromUtf8(path));

@@ -24,7 +24,7 @@ QMap<QString, QString> Glossary()
 
 }
 
-TEST(Glossary, EveryWordReadsAsTheGlossarySays)
+TEST(GlossaryTest, EveryWordReadsAsTheGlossarySays)
 {
     const QMap<QString, QString> words = Glossary();
     EXPECT_GE(words.size(), 40);
@@ -32,7 +32,7 @@ TEST(Glossary, EveryWordReadsAsTheGlossarySays)
         EXPECT_EQ(Shivaji01::ToUnicode(word.key()).toStdString(), word.value().toStdString());
 }
 
-TEST(Glossary, TheNamedWordsAreInIt)
+TEST(GlossaryTest, TheNamedWordsAreInIt)
 {
     const QMap<QString, QString> words = Glossary();
     for (const QStringView word : {Word::Morning, Word::Evening, Word::Cow, Word::Buffalo, Word::Both,

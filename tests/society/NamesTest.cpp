@@ -7,7 +7,7 @@
 
 namespace {
 
-class Names : public SocietyTest {
+class NamesTest : public SocietyTest {
 protected:
     static double NumberOf(const QString& name)
     {
@@ -24,7 +24,7 @@ constexpr std::pair<QStringView, QStringView> Syllables[] = {{u"$", u"ru"}, {u"Ã
 
 }
 
-TEST_F(Names, AMemberIsFoundByWhatIsRead)
+TEST_F(NamesTest, AMemberIsFoundByWhatIsRead)
 {
     AddMember(3, QStringLiteral("maa$tI"));
     AddMember(5, QStringView(u"A\u0945D. paaTIla").toString());
@@ -35,7 +35,7 @@ TEST_F(Names, AMemberIsFoundByWhatIsRead)
     EXPECT_EQ(NumberOf(QStringLiteral("maartI")), 0);
 }
 
-TEST_F(Names, OfTwoThatReadTheSameTheOneThatIsSpelledSoIsFound)
+TEST_F(NamesTest, OfTwoThatReadTheSameTheOneThatIsSpelledSoIsFound)
 {
     AddMember(1, QStringLiteral("maarutI"));
     AddMember(2, QStringLiteral("maa$tI "));
@@ -43,7 +43,7 @@ TEST_F(Names, OfTwoThatReadTheSameTheOneThatIsSpelledSoIsFound)
     EXPECT_EQ(NumberOf(QStringLiteral("maarutI")), 1);
 }
 
-TEST_F(Names, ANameOfBlanksIsNobodys)
+TEST_F(NamesTest, ANameOfBlanksIsNobodys)
 {
     Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo) values(1,9)"));
     EXPECT_EQ(NumberOf(QString()), 0);
@@ -51,7 +51,7 @@ TEST_F(Names, ANameOfBlanksIsNobodys)
     EXPECT_EQ(NumberOf(QString(QChar(0x200D))), 0);
 }
 
-TEST_F(Names, TheSpellingsOfANameAreItsOwnAndThoseThatReadTheSame)
+TEST_F(NamesTest, TheSpellingsOfANameAreItsOwnAndThoseThatReadTheSame)
 {
     Run(QStringLiteral("delete * from CityMaster"));
     for (const char* city : {"maa$tI", "kraD", "maarutI", "maa$tI"})
@@ -62,7 +62,7 @@ TEST_F(Names, TheSpellingsOfANameAreItsOwnAndThoseThatReadTheSame)
         QStringList(QStringLiteral("gaava")));
 }
 
-TEST_F(Names, AnyMemberIsFoundByAnySpellingOfHisName)
+TEST_F(NamesTest, AnyMemberIsFoundByAnySpellingOfHisName)
 {
     std::mt19937 random(305);
     std::uniform_int_distribution<std::size_t> any(0, std::size(Syllables) - 1);

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(ReceiptLayouts, EachTypeHasItsTemplateAtTheCounters)
+TEST(ReceiptLayoutsTest, EachTypeHasItsTemplateAtTheCounters)
 {
     const std::pair<QStringView, QStringView> types[] = {{u"Tašp 1", u"MilkReceipt1.rpt"},
         {u"Tašp 2", u"MilkReceipt2.rpt"}, {u"Tašp 3", u"MilkReceiptBhl.rpt"},
@@ -13,7 +13,7 @@ TEST(ReceiptLayouts, EachTypeHasItsTemplateAtTheCounters)
         EXPECT_EQ(ReceiptLayoutOf(type).counterTemplate, name);
 }
 
-TEST(ReceiptLayouts, TheSamplesOfTheSixthAndTheEighthAreFilesOfTheirOwn)
+TEST(ReceiptLayoutsTest, TheSamplesOfTheSixthAndTheEighthAreFilesOfTheirOwn)
 {
     EXPECT_EQ(ReceiptLayoutOf(u"Tašp 6").sampleTemplate, u"MilkReceiptShenoli.rpt");
     EXPECT_EQ(ReceiptLayoutOf(u"Tašp 8").sampleTemplate, u"MilkReceiptNerli Minimised With Time.rpt");
@@ -21,7 +21,7 @@ TEST(ReceiptLayouts, TheSamplesOfTheSixthAndTheEighthAreFilesOfTheirOwn)
         EXPECT_EQ(ReceiptLayoutOf(type).sampleTemplate, ReceiptLayoutOf(type).counterTemplate);
 }
 
-TEST(ReceiptLayouts, AnUnknownTypeHasNone)
+TEST(ReceiptLayoutsTest, AnUnknownTypeHasNone)
 {
     EXPECT_TRUE(ReceiptLayoutOf(u"Tašp 9").type.isEmpty());
     EXPECT_TRUE(ReceiptLayoutOf(u"").counterTemplate.isEmpty());

@@ -27,11 +27,11 @@ public:
     }
 };
 
-using SharedRoutines = SocietyTest;
+using SharedRoutinesTest = SocietyTest;
 
 }
 
-TEST_F(SharedRoutines, FillComboTakesOneColumnInTheOrderOfTheQuery)
+TEST_F(SharedRoutinesTest, FillComboTakesOneColumnInTheOrderOfTheQuery)
 {
     Run(QStringLiteral("delete * from CityMaster"));
     for (const char* city : {"vaa[-", "pauNao", "sataara"})
@@ -48,41 +48,41 @@ TEST_F(SharedRoutines, FillComboTakesOneColumnInTheOrderOfTheQuery)
     });
 }
 
-TEST_F(SharedRoutines, CheckDateFieldClearsABadDateAndHoldsTheFocusWithoutAMessage)
+TEST_F(SharedRoutinesTest, CheckDateFieldClearsABadDateAndHoldsTheFocusWithoutAMessage)
 {
     On<frmProbe>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{TAB}31022026{TAB}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmProbe"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("MaskDate"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("MaskDate")), QStringLiteral("__/__/____"));
+        Type(clerk, "{TAB}31022026{TAB}");
+        EXPECT_EQ(OnTop(clerk), "frmProbe");
+        EXPECT_EQ(Focus(clerk), "MaskDate");
+        EXPECT_EQ(Reads(clerk, "MaskDate"), "__/__/____");
         EXPECT_EQ(clerk.On<frmProbe>().DateBad, 1);
-        clerk.Type(QStringLiteral("28022026{TAB}"));
+        Type(clerk, "28022026{TAB}");
         EXPECT_EQ(clerk.On<frmProbe>().DateBad, 0);
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtNumber"));
+        EXPECT_EQ(Focus(clerk), "txtNumber");
     });
 }
 
-TEST_F(SharedRoutines, SelectFieldTextSelectsWhatTheFocusHoldsSoThatTypingReplacesIt)
+TEST_F(SharedRoutinesTest, SelectFieldTextSelectsWhatTheFocusHoldsSoThatTypingReplacesIt)
 {
     On<frmProbe>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{TAB}01042026{TAB}123{END}"));
+        Type(clerk, "{TAB}01042026{TAB}123{END}");
         clerk.Do([] { SelectFieldText(); });
-        clerk.Type(QStringLiteral("9"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtNumber")), QStringLiteral("9"));
+        Type(clerk, "9");
+        EXPECT_EQ(Reads(clerk, "txtNumber"), "9");
     });
 }
 
-TEST_F(SharedRoutines, F2StartsTheCalculatorOfAppFolderMaximised)
+TEST_F(SharedRoutinesTest, F2StartsTheCalculatorOfAppFolderMaximised)
 {
-    On<frmProbe>([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
+    On<frmProbe>([](Clerk& clerk) { Type(clerk, "{F2}"); });
     EXPECT_EQ(
         TheCalculator.Started, QStringList(QStringLiteral("C:\\Tarvel01\\Vetrolan\\calc.EXE maximised")));
     EXPECT_TRUE(TheBox.Shown.isEmpty());
 }
 
-TEST_F(SharedRoutines, WithoutAnyCalculatorAPlainMessageSaysSo)
+TEST_F(SharedRoutinesTest, WithoutAnyCalculatorAPlainMessageSaysSo)
 {
     TheCalculator.There = false;
-    On<frmProbe>([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
+    On<frmProbe>([](Clerk& clerk) { Type(clerk, "{F2}"); });
     EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("या संगणकावर कॅलक्युलेटर सापडला नाही.")));
 }

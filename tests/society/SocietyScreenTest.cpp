@@ -4,7 +4,6 @@
 #include "platform/forms/Field.h"
 #include "society/SocietyScreen.h"
 
-#include <QLabel>
 #include <QVBoxLayout>
 
 namespace {
@@ -62,23 +61,17 @@ private:
     WholeField txtMemberNo{this, "txtMemberNo"};
 };
 
-class SocietyScreenTest : public SocietyTest {
-protected:
-    static std::string LabelOf(const Clerk& clerk, const char* name)
-    {
-        return clerk.Top().findChild<QLabel*>(QLatin1String(name))->text().toStdString();
-    }
-};
+using SocietyScreenTest = SocietyTest;
 
 }
 
 TEST_F(SocietyScreenTest, ItsBandHasTheTitleTheSocietyAndTheYearAndItsLineTheGuideOfTheField)
 {
     On<frmProbe>([](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblTitle"), "मेम्बर यादी");
-        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), "श्री गणेश दूध संस्था");
-        EXPECT_EQ(LabelOf(clerk, "lblAcYear"), "2026-2027");
-        EXPECT_EQ(LabelOf(clerk, "lblFooter"), "F3 : the field's own    ↑ : up");
+        EXPECT_EQ(Label(clerk, "lblTitle"), "मेम्बर यादी");
+        EXPECT_EQ(Label(clerk, "lblCompanyTitle"), "श्री गणेश दूध संस्था");
+        EXPECT_EQ(Label(clerk, "lblAcYear"), "2026-2027");
+        EXPECT_EQ(Label(clerk, "lblFooter"), "F3 : the field's own    ↑ : up");
     });
     EXPECT_FALSE(Failure);
 }
@@ -87,8 +80,8 @@ TEST_F(SocietyScreenTest, WithoutACompanyTheBandHasTheTitleAlone)
 {
     Run(QStringLiteral("delete * from CompanySelected"));
     On<frmProbe>([](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), "");
-        EXPECT_EQ(LabelOf(clerk, "lblAcYear"), "");
+        EXPECT_EQ(Label(clerk, "lblCompanyTitle"), "");
+        EXPECT_EQ(Label(clerk, "lblAcYear"), "");
     });
     EXPECT_FALSE(Failure);
 }
@@ -102,7 +95,7 @@ TEST_F(SocietyScreenTest, EscEmptiesTheFieldsAndCloses)
             screen.ShowModal();
             left = screen.Find(u"txtMemberNo")->Text();
         },
-        [](Clerk& clerk) { clerk.Type(QStringLiteral("12{ESC}")); });
+        [](Clerk& clerk) { Type(clerk, "12{ESC}"); });
     EXPECT_FALSE(Failure);
     EXPECT_EQ(left.toStdString(), "");
 }
@@ -110,7 +103,7 @@ TEST_F(SocietyScreenTest, EscEmptiesTheFieldsAndCloses)
 TEST_F(SocietyScreenTest, ItsExitCloses)
 {
     On<frmProbe>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("12%b"));
+        Type(clerk, "12%b");
         EXPECT_EQ(clerk.ScreenName().toStdString(), "");
     });
     EXPECT_FALSE(Failure);
@@ -119,12 +112,12 @@ TEST_F(SocietyScreenTest, ItsExitCloses)
 TEST_F(SocietyScreenTest, F2AndF12AnswerWhereTheScreenHasThemAndNowhereElse)
 {
     On<frmBare>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{F2}{F12}"));
+        Type(clerk, "{F2}{F12}");
         EXPECT_EQ(clerk.ScreenName().toStdString(), "frmBare");
     });
     EXPECT_TRUE(TheCalculator.Started.isEmpty());
     On<frmProbe>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{F2}{F12}"));
+        Type(clerk, "{F2}{F12}");
         EXPECT_EQ(clerk.ScreenName().toStdString(), "frmKeyboardTutor");
     });
     EXPECT_EQ(TheCalculator.Started.size(), 1);
@@ -134,7 +127,7 @@ TEST_F(SocietyScreenTest, F2AndF12AnswerWhereTheScreenHasThemAndNowhereElse)
 TEST_F(SocietyScreenTest, AKeyOfTheFieldInFocusComesBeforeThatOfTheScreen)
 {
     On<frmProbe>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{F3}{UP}{TAB}{F3}{UP}"));
+        Type(clerk, "{F3}{UP}{TAB}{F3}{UP}");
         EXPECT_EQ(clerk.On<frmProbe>().Told.join(u' ').toStdString(), "field field screen");
     });
     EXPECT_FALSE(Failure);

@@ -16,7 +16,7 @@ inline QString PdfText(const QString& file, const QStringList& options = {})
 }
 
 // The words of a text.
-inline QStringList Words(const QString& text)
+inline QStringList WordsOf(const QString& text)
 {
     return text.simplified().split(u' ', Qt::SkipEmptyParts);
 }

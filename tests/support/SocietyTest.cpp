@@ -9,6 +9,7 @@
 #include "tools/setup/Society.h"
 
 #include <QDir>
+#include <QLabel>
 
 bool FakeCalculator::Start(const QString& program, bool maximised)
 {
@@ -45,6 +46,12 @@ SocietyTest::~SocietyTest()
     gAppState = AppState();
     SetDrivesRoot({});
     ProgramWindow::Leave(); // the line of a check may have opened it
+}
+
+std::string SocietyTest::Label(const Clerk& clerk, const char* label)
+{
+    const auto* found = clerk.Top().findChild<QLabel*>(QString::fromUtf8(label));
+    return found ? found->text().toStdString() : std::string("no label ") + label;
 }
 
 void SocietyTest::AddMember(int number, const QString& name, const QString& animal)

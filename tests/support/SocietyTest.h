@@ -66,6 +66,21 @@ protected:
             script);
     }
 
+    // What the clerk does and sees on the screen on top; keys, names and what is compared are plain literals.
+    static void Type(Clerk& clerk, const char* keys) { clerk.Type(QString::fromUtf8(keys)); }
+    static void Press(Clerk& clerk, const char* control) { clerk.Press(QString::fromUtf8(control)); }
+    static std::string OnTop(const Clerk& clerk) { return clerk.ScreenName().toStdString(); }
+    static std::string Focus(const Clerk& clerk) { return clerk.Focus().toStdString(); }
+    static std::string Reads(const Clerk& clerk, const char* control)
+    {
+        return clerk.Reads(QString::fromUtf8(control)).toStdString();
+    }
+    static bool CanEnter(const Clerk& clerk, const char* control)
+    {
+        return clerk.CanEnter(QString::fromUtf8(control));
+    }
+    static std::string Label(const Clerk& clerk, const char* label);
+
     // A member with sensible values elsewhere; animal and names as the system spells them.
     void AddMember(int number, const QString& name, const QString& animal = QStringLiteral("daonhI"));
 

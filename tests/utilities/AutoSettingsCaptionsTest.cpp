@@ -9,7 +9,7 @@
 
 namespace {
 
-class AutoSettingsCaptions : public AutoSettingsTest {
+class AutoSettingsCaptionsTest : public AutoSettingsTest {
 protected:
     // The labels of the page that is seen, line by line, separated by '|'.
     static std::string Labels(Clerk& clerk)
@@ -57,7 +57,7 @@ protected:
 
 }
 
-TEST_F(AutoSettingsCaptions, TheCollectionPage)
+TEST_F(AutoSettingsCaptionsTest, TheCollectionPage)
 {
     Settings([](Clerk& clerk) {
         EXPECT_EQ(Labels(clerk),
@@ -76,7 +76,7 @@ TEST_F(AutoSettingsCaptions, TheCollectionPage)
     });
 }
 
-TEST_F(AutoSettingsCaptions, ThePaymentPage)
+TEST_F(AutoSettingsCaptionsTest, ThePaymentPage)
 {
     Settings([](Clerk& clerk) {
         clerk.Type(Q("^{PGDN}"));
@@ -101,7 +101,7 @@ TEST_F(AutoSettingsCaptions, ThePaymentPage)
     });
 }
 
-TEST_F(AutoSettingsCaptions, TheSalePage)
+TEST_F(AutoSettingsCaptionsTest, TheSalePage)
 {
     Settings([](Clerk& clerk) {
         clerk.Type(Q("^{PGUP}"));
@@ -114,7 +114,7 @@ TEST_F(AutoSettingsCaptions, TheSalePage)
     });
 }
 
-TEST_F(AutoSettingsCaptions, TheTitleTheTabsAndTheButtons)
+TEST_F(AutoSettingsCaptionsTest, TheTitleTheTabsAndTheButtons)
 {
     Settings([](Clerk& clerk) {
         EXPECT_EQ(clerk.Top().Title().Text(), Q("Aa^Tao saoTIMgja"));

@@ -2,7 +2,7 @@
 
 namespace {
 
-class AutoSettingsChain : public AutoSettingsTest {
+class AutoSettingsChainTest : public AutoSettingsTest {
 protected:
     // Enters a control, gives it a text, and leaves it with Enter. Returns where the focus is then.
     static QString Leave(Clerk& clerk, const char* control, const char* text)
@@ -41,7 +41,7 @@ constexpr Figure Figures[] = {{"txtCowLimit", "ComboPrintStatus", "txtBuffLimit"
 
 }
 
-TEST_F(AutoSettingsChain, EnterLeadsFromTheFirstFieldToTheSaveButton)
+TEST_F(AutoSettingsChainTest, EnterLeadsFromTheFirstFieldToTheSaveButton)
 {
     Settings([&](Clerk& clerk) {
         const char* way[] = {"ComboAutoLiters", "ComboAutoFat", "ComboPrintStatus", "txtCowLimit",
@@ -59,7 +59,7 @@ TEST_F(AutoSettingsChain, EnterLeadsFromTheFirstFieldToTheSaveButton)
     });
 }
 
-TEST_F(AutoSettingsChain, TheRestOfThePaymentPageIsWalkedInItsOrder)
+TEST_F(AutoSettingsChainTest, TheRestOfThePaymentPageIsWalkedInItsOrder)
 {
     for (const char* figures : {"{ENTER}", "{ENTER}{ENTER}"}) {
         Settings([&](Clerk& clerk) {
@@ -82,7 +82,7 @@ TEST_F(AutoSettingsChain, TheRestOfThePaymentPageIsWalkedInItsOrder)
     }
 }
 
-TEST_F(AutoSettingsChain, TheFiguresGuideNamesBothWaysOn)
+TEST_F(AutoSettingsChainTest, TheFiguresGuideNamesBothWaysOn)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "txtCow");
@@ -94,7 +94,7 @@ TEST_F(AutoSettingsChain, TheFiguresGuideNamesBothWaysOn)
     });
 }
 
-TEST_F(AutoSettingsChain, TheTabThatIsPressedOnceMoreSaysWhereItsOwnPageGoesOn)
+TEST_F(AutoSettingsChainTest, TheTabThatIsPressedOnceMoreSaysWhereItsOwnPageGoesOn)
 {
     Settings([&](Clerk& clerk) {
         PressTab(clerk, 1);
@@ -116,7 +116,7 @@ TEST_F(AutoSettingsChain, TheTabThatIsPressedOnceMoreSaysWhereItsOwnPageGoesOn)
     });
 }
 
-TEST_F(AutoSettingsChain, TheFirstChoiceIsNeverLeftEmpty)
+TEST_F(AutoSettingsChainTest, TheFirstChoiceIsNeverLeftEmpty)
 {
     Settings([&](Clerk& clerk) {
         EXPECT_EQ(Leave(clerk, "ComboAutoLiters", ""), Q("ComboAutoLiters"));
@@ -126,7 +126,7 @@ TEST_F(AutoSettingsChain, TheFirstChoiceIsNeverLeftEmpty)
     });
 }
 
-TEST_F(AutoSettingsChain, AnEmptyChoiceTakesTheFocusAgain)
+TEST_F(AutoSettingsChainTest, AnEmptyChoiceTakesTheFocusAgain)
 {
     for (const Choice& choice : Choices) {
         Settings([&](Clerk& clerk) {
@@ -140,7 +140,7 @@ TEST_F(AutoSettingsChain, AnEmptyChoiceTakesTheFocusAgain)
     }
 }
 
-TEST_F(AutoSettingsChain, AChoiceThatHoldsNoneOfItsWordsIsEmptied)
+TEST_F(AutoSettingsChainTest, AChoiceThatHoldsNoneOfItsWordsIsEmptied)
 {
     for (const Choice& choice : Choices) {
         Settings([&](Clerk& clerk) {
@@ -150,7 +150,7 @@ TEST_F(AutoSettingsChain, AChoiceThatHoldsNoneOfItsWordsIsEmptied)
     }
 }
 
-TEST_F(AutoSettingsChain, AChoiceBehindAnEmptyFieldIsNotChecked)
+TEST_F(AutoSettingsChainTest, AChoiceBehindAnEmptyFieldIsNotChecked)
 {
     for (const Choice& choice : Choices) {
         for (const char* text : {"", "1"}) {
@@ -164,7 +164,7 @@ TEST_F(AutoSettingsChain, AChoiceBehindAnEmptyFieldIsNotChecked)
     }
 }
 
-TEST_F(AutoSettingsChain, AZeroStaysInItsFieldInItsFormat)
+TEST_F(AutoSettingsChainTest, AZeroStaysInItsFieldInItsFormat)
 {
     for (const Figure& figure : Figures) {
         Settings([&](Clerk& clerk) {
@@ -176,7 +176,7 @@ TEST_F(AutoSettingsChain, AZeroStaysInItsFieldInItsFormat)
     }
 }
 
-TEST_F(AutoSettingsChain, OtherFiguresAreFormattedAndPassed)
+TEST_F(AutoSettingsChainTest, OtherFiguresAreFormattedAndPassed)
 {
     for (const Figure& figure : Figures) {
         Settings([&](Clerk& clerk) {
@@ -186,7 +186,7 @@ TEST_F(AutoSettingsChain, OtherFiguresAreFormattedAndPassed)
     }
 }
 
-TEST_F(AutoSettingsChain, AFigureBehindAnEmptyFieldIsNotChecked)
+TEST_F(AutoSettingsChainTest, AFigureBehindAnEmptyFieldIsNotChecked)
 {
     for (const Figure& figure : Figures) {
         Settings([&](Clerk& clerk) {
@@ -200,7 +200,7 @@ TEST_F(AutoSettingsChain, AFigureBehindAnEmptyFieldIsNotChecked)
     }
 }
 
-TEST_F(AutoSettingsChain, TheSaleRateOfCowMilkIsNeverZero)
+TEST_F(AutoSettingsChainTest, TheSaleRateOfCowMilkIsNeverZero)
 {
     Settings([&](Clerk& clerk) {
         EXPECT_EQ(Leave(clerk, "txtCowSaleRate", "0"), Q("txtCowSaleRate"));
@@ -210,7 +210,7 @@ TEST_F(AutoSettingsChain, TheSaleRateOfCowMilkIsNeverZero)
     });
 }
 
-TEST_F(AutoSettingsChain, ThePeriodMustBeChosen)
+TEST_F(AutoSettingsChainTest, ThePeriodMustBeChosen)
 {
     Settings([&](Clerk& clerk) {
         EXPECT_EQ(Leave(clerk, "ComboPaymentDuration", ""), Q("ComboPaymentDuration"));
@@ -220,7 +220,7 @@ TEST_F(AutoSettingsChain, ThePeriodMustBeChosen)
     });
 }
 
-TEST_F(AutoSettingsChain, ADepositOfZeroStaysWhereThePeriodIsChosen)
+TEST_F(AutoSettingsChainTest, ADepositOfZeroStaysWhereThePeriodIsChosen)
 {
     Settings([&](Clerk& clerk) {
         for (const char* field : {"txtCow", "txtBuff"}) {
@@ -231,7 +231,7 @@ TEST_F(AutoSettingsChain, ADepositOfZeroStaysWhereThePeriodIsChosen)
     });
 }
 
-TEST_F(AutoSettingsChain, ADepositOfZeroPassesWithoutAPeriod)
+TEST_F(AutoSettingsChainTest, ADepositOfZeroPassesWithoutAPeriod)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "txtCow");
@@ -245,7 +245,7 @@ TEST_F(AutoSettingsChain, ADepositOfZeroPassesWithoutAPeriod)
     });
 }
 
-TEST_F(AutoSettingsChain, ANegativeDepositStaysEvenWithoutAPeriod)
+TEST_F(AutoSettingsChainTest, ANegativeDepositStaysEvenWithoutAPeriod)
 {
     Settings([&](Clerk& clerk) {
         for (const char* field : {"txtCow", "txtBuff"}) {
@@ -261,7 +261,7 @@ TEST_F(AutoSettingsChain, ANegativeDepositStaysEvenWithoutAPeriod)
     });
 }
 
-TEST_F(AutoSettingsChain, TheBuffaloDepositLeadsToTheThirdPage)
+TEST_F(AutoSettingsChainTest, TheBuffaloDepositLeadsToTheThirdPage)
 {
     Settings([&](Clerk& clerk) {
         EXPECT_EQ(Leave(clerk, "txtBuff", "0.755"), Q("txtCowSaleRate"));
@@ -270,7 +270,7 @@ TEST_F(AutoSettingsChain, TheBuffaloDepositLeadsToTheThirdPage)
     });
 }
 
-TEST_F(AutoSettingsChain, TheBuffaloDepositBehindAnEmptyOneIsNotChecked)
+TEST_F(AutoSettingsChainTest, TheBuffaloDepositBehindAnEmptyOneIsNotChecked)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "txtBuff");
@@ -282,7 +282,7 @@ TEST_F(AutoSettingsChain, TheBuffaloDepositBehindAnEmptyOneIsNotChecked)
     });
 }
 
-TEST_F(AutoSettingsChain, TheBuffaloDepositBehindAnEmptyOneLeadsOnUnchecked)
+TEST_F(AutoSettingsChainTest, TheBuffaloDepositBehindAnEmptyOneLeadsOnUnchecked)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "txtBuff");
@@ -293,7 +293,7 @@ TEST_F(AutoSettingsChain, TheBuffaloDepositBehindAnEmptyOneLeadsOnUnchecked)
     });
 }
 
-TEST_F(AutoSettingsChain, TheBoxOfRepeatedDeliveriesLeadsToTheSecondPage)
+TEST_F(AutoSettingsChainTest, TheBoxOfRepeatedDeliveriesLeadsToTheSecondPage)
 {
     for (const char* key : {"{ENTER}", "{TAB}"}) {
         Settings([&](Clerk& clerk) {
@@ -305,7 +305,7 @@ TEST_F(AutoSettingsChain, TheBoxOfRepeatedDeliveriesLeadsToTheSecondPage)
     }
 }
 
-TEST_F(AutoSettingsChain, ShiftTabLeadsBackFromTheFieldsThatTurnThePage)
+TEST_F(AutoSettingsChainTest, ShiftTabLeadsBackFromTheFieldsThatTurnThePage)
 {
     const std::pair<const char*, const char*> fields[] = {
         {"CheckRepeatCol", "ComboReceipt"}, {"txtBuff", "txtCow"}, {"txtMixSaleRate", "txtBuffSaleRate"}};
@@ -320,7 +320,7 @@ TEST_F(AutoSettingsChain, ShiftTabLeadsBackFromTheFieldsThatTurnThePage)
     }
 }
 
-TEST_F(AutoSettingsChain, ThePageBeforeIsTurnedToFromThoseFieldsToo)
+TEST_F(AutoSettingsChainTest, ThePageBeforeIsTurnedToFromThoseFieldsToo)
 {
     const std::pair<const char*, const char*> fields[] = {
         {"CheckRepeatCol", "3"}, {"txtBuff", "1"}, {"txtMixSaleRate", "2"}};
@@ -333,7 +333,7 @@ TEST_F(AutoSettingsChain, ThePageBeforeIsTurnedToFromThoseFieldsToo)
     }
 }
 
-TEST_F(AutoSettingsChain, TheMixedRateLeadsBackToTheFirstPageAndToSave)
+TEST_F(AutoSettingsChainTest, TheMixedRateLeadsBackToTheFirstPageAndToSave)
 {
     Settings([&](Clerk& clerk) {
         EXPECT_EQ(Leave(clerk, "txtMixSaleRate", "50"), Q("CmdSave"));
@@ -341,7 +341,7 @@ TEST_F(AutoSettingsChain, TheMixedRateLeadsBackToTheFirstPageAndToSave)
     });
 }
 
-TEST_F(AutoSettingsChain, TheMixedRateBehindAnEmptyOneLeadsToSaveUnchecked)
+TEST_F(AutoSettingsChainTest, TheMixedRateBehindAnEmptyOneLeadsToSaveUnchecked)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "txtMixSaleRate");
@@ -352,7 +352,7 @@ TEST_F(AutoSettingsChain, TheMixedRateBehindAnEmptyOneLeadsToSaveUnchecked)
     });
 }
 
-TEST_F(AutoSettingsChain, DownLeadsToThePrintOfTheSalesFromAnywhereOnItsPage)
+TEST_F(AutoSettingsChainTest, DownLeadsToThePrintOfTheSalesFromAnywhereOnItsPage)
 {
     for (const char* control : {"SSTab", "txtCowSaleRate", "txtMixSaleRate", "CmdSave"}) {
         Settings([&](Clerk& clerk) {
@@ -365,7 +365,7 @@ TEST_F(AutoSettingsChain, DownLeadsToThePrintOfTheSalesFromAnywhereOnItsPage)
     }
 }
 
-TEST_F(AutoSettingsChain, DownPassesNoRateThatIsRefused)
+TEST_F(AutoSettingsChainTest, DownPassesNoRateThatIsRefused)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "txtMixSaleRate");
@@ -374,7 +374,7 @@ TEST_F(AutoSettingsChain, DownPassesNoRateThatIsRefused)
     });
 }
 
-TEST_F(AutoSettingsChain, DownPassesNoDepositThatIsRefused)
+TEST_F(AutoSettingsChainTest, DownPassesNoDepositThatIsRefused)
 {
     Settings([&](Clerk& clerk) {
         for (const char* field : {"txtCow", "txtBuff"}) {
@@ -386,7 +386,7 @@ TEST_F(AutoSettingsChain, DownPassesNoDepositThatIsRefused)
     });
 }
 
-TEST_F(AutoSettingsChain, DownDoesNothingElsewhere)
+TEST_F(AutoSettingsChainTest, DownDoesNothingElsewhere)
 {
     Settings([&](Clerk& clerk) {
         for (const char* control : {"ComboAutoLiters", "txtCowLimit", "ComboPaymentDuration",
@@ -398,7 +398,7 @@ TEST_F(AutoSettingsChain, DownDoesNothingElsewhere)
     });
 }
 
-TEST_F(AutoSettingsChain, TurningThePageEntersItsFirstFieldOnTheFirstTwo)
+TEST_F(AutoSettingsChainTest, TurningThePageEntersItsFirstFieldOnTheFirstTwo)
 {
     Settings([&](Clerk& clerk) {
         clerk.Type(Q("^{PGDN}"));
@@ -414,7 +414,7 @@ TEST_F(AutoSettingsChain, TurningThePageEntersItsFirstFieldOnTheFirstTwo)
     });
 }
 
-TEST_F(AutoSettingsChain, PressingTheTabOfThePaymentsEntersThePeriod)
+TEST_F(AutoSettingsChainTest, PressingTheTabOfThePaymentsEntersThePeriod)
 {
     Settings([&](Clerk& clerk) {
         PressTab(clerk, 2);
@@ -423,7 +423,7 @@ TEST_F(AutoSettingsChain, PressingTheTabOfThePaymentsEntersThePeriod)
     });
 }
 
-TEST_F(AutoSettingsChain, AnEmptyChoiceKeepsItsPage)
+TEST_F(AutoSettingsChainTest, AnEmptyChoiceKeepsItsPage)
 {
     Settings([&](Clerk& clerk) {
         clerk.Type(Q("{BS}^{PGDN}"));
@@ -432,7 +432,7 @@ TEST_F(AutoSettingsChain, AnEmptyChoiceKeepsItsPage)
     });
 }
 
-TEST_F(AutoSettingsChain, NothingThatIsRefusedIsToldInAMessage)
+TEST_F(AutoSettingsChainTest, NothingThatIsRefusedIsToldInAMessage)
 {
     Settings([&](Clerk& clerk) {
         for (const char* control : {"ComboAutoLiters", "txtCowLimit", "txtCow", "txtCowSaleRate"}) {

@@ -2,7 +2,7 @@
 
 namespace {
 
-class AutoSettingsFields : public AutoSettingsTest {
+class AutoSettingsFieldsTest : public AutoSettingsTest {
 protected:
     // What a combo reads after each of the digits 0 to 9, beginning empty each time.
     static QStringList ByDigit(Clerk& clerk, const char* combo)
@@ -29,7 +29,7 @@ protected:
 
 }
 
-TEST_F(AutoSettingsFields, OpenOnTheFirstPageWithEachColumnInItsField)
+TEST_F(AutoSettingsFieldsTest, OpenOnTheFirstPageWithEachColumnInItsField)
 {
     Given("AutoLiters='haoya',AutoFat='naahI',PrintStatus='f@t sËIna',CanLimitCow='41.5',CanLimitBuff='42',"
           "ReceiptType='Tašp 7',RepeatCollection='haoya',PaymentDuration='1 maihnaa',ThevKapatCow=1.5,"
@@ -52,7 +52,7 @@ TEST_F(AutoSettingsFields, OpenOnTheFirstPageWithEachColumnInItsField)
     });
 }
 
-TEST_F(AutoSettingsFields, TheOtherWordsLeaveTheBoxesWithoutATick)
+TEST_F(AutoSettingsFieldsTest, TheOtherWordsLeaveTheBoxesWithoutATick)
 {
     Given("RepeatCollection='naahI',PurchaseEntry='Payment',UchalEntry='Uchal'");
     Settings([&](Clerk& clerk) {
@@ -61,7 +61,7 @@ TEST_F(AutoSettingsFields, TheOtherWordsLeaveTheBoxesWithoutATick)
     });
 }
 
-TEST_F(AutoSettingsFields, EachWordForPaiseChoosesItsOption)
+TEST_F(AutoSettingsFieldsTest, EachWordForPaiseChoosesItsOption)
 {
     const std::pair<const char*, const char*> options[] = {{"AddThev", "OptionAddThev"},
         {"Payable", "OptionPayable"}, {"PayIt", "OptionPayIt"}, {"Discount", "OptionDiscount"}};
@@ -74,7 +74,7 @@ TEST_F(AutoSettingsFields, EachWordForPaiseChoosesItsOption)
     }
 }
 
-TEST_F(AutoSettingsFields, WithoutARowTheyAreEmptyAndTheReceiptIsToBePrinted)
+TEST_F(AutoSettingsFieldsTest, WithoutARowTheyAreEmptyAndTheReceiptIsToBePrinted)
 {
     WithoutARow();
     Settings([&](Clerk& clerk) {
@@ -86,19 +86,19 @@ TEST_F(AutoSettingsFields, WithoutARowTheyAreEmptyAndTheReceiptIsToBePrinted)
     });
 }
 
-TEST_F(AutoSettingsFields, TheRowOfAnotherCompanyIsNotRead)
+TEST_F(AutoSettingsFieldsTest, TheRowOfAnotherCompanyIsNotRead)
 {
     Given("CompanyId=2");
     Settings([&](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "ComboReceipt"), QString()); });
 }
 
-TEST_F(AutoSettingsFields, NoTypeOfRateIsRateByFat)
+TEST_F(AutoSettingsFieldsTest, NoTypeOfRateIsRateByFat)
 {
     Given("FatRateType=Null");
     Settings([&](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "cmbFatRateType"), Q("f^T nausaar")); });
 }
 
-TEST_F(AutoSettingsFields, AColumnWithoutAFigureLeavesItsFieldEmpty)
+TEST_F(AutoSettingsFieldsTest, AColumnWithoutAFigureLeavesItsFieldEmpty)
 {
     Given("ThevKapatCow=Null,CanLimitCow=''");
     Settings([&](Clerk& clerk) {
@@ -107,7 +107,7 @@ TEST_F(AutoSettingsFields, AColumnWithoutAFigureLeavesItsFieldEmpty)
     });
 }
 
-TEST_F(AutoSettingsFields, EachChoiceShowsItsGuide)
+TEST_F(AutoSettingsFieldsTest, EachChoiceShowsItsGuide)
 {
     const char* yesNo = "  1– haoya  2– naahI ";
     const std::pair<const char*, const char*> guides[] = {{"ComboAutoLiters", yesNo},
@@ -127,7 +127,7 @@ TEST_F(AutoSettingsFields, EachChoiceShowsItsGuide)
     });
 }
 
-TEST_F(AutoSettingsFields, TheFieldInFocusHasTheColourOfTheFocus)
+TEST_F(AutoSettingsFieldsTest, TheFieldInFocusHasTheColourOfTheFocus)
 {
     Settings([&](Clerk& clerk) {
         const auto colour = [&](const char* control) {
@@ -141,7 +141,7 @@ TEST_F(AutoSettingsFields, TheFieldInFocusHasTheColourOfTheFocus)
     });
 }
 
-TEST_F(AutoSettingsFields, DigitsChooseYesOrNo)
+TEST_F(AutoSettingsFieldsTest, DigitsChooseYesOrNo)
 {
     Settings([&](Clerk& clerk) {
         for (const char* combo : {"ComboAutoLiters", "ComboAutoFat"}) {
@@ -152,7 +152,7 @@ TEST_F(AutoSettingsFields, DigitsChooseYesOrNo)
     });
 }
 
-TEST_F(AutoSettingsFields, DigitsChooseWhatBecomesOfTheReceipts)
+TEST_F(AutoSettingsFieldsTest, DigitsChooseWhatBecomesOfTheReceipts)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "ComboPrintStatus");
@@ -165,7 +165,7 @@ TEST_F(AutoSettingsFields, DigitsChooseWhatBecomesOfTheReceipts)
     });
 }
 
-TEST_F(AutoSettingsFields, TheLayoutTakesTheDigits1To6AndTheMousePicksTheOthers)
+TEST_F(AutoSettingsFieldsTest, TheLayoutTakesTheDigits1To6AndTheMousePicksTheOthers)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "ComboReceipt");
@@ -179,7 +179,7 @@ TEST_F(AutoSettingsFields, TheLayoutTakesTheDigits1To6AndTheMousePicksTheOthers)
     });
 }
 
-TEST_F(AutoSettingsFields, ThePeriodTakesTheDigits1To4AndTheMousePicksTheMonth)
+TEST_F(AutoSettingsFieldsTest, ThePeriodTakesTheDigits1To4AndTheMousePicksTheMonth)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "ComboPaymentDuration");
@@ -193,7 +193,7 @@ TEST_F(AutoSettingsFields, ThePeriodTakesTheDigits1To4AndTheMousePicksTheMonth)
     });
 }
 
-TEST_F(AutoSettingsFields, LettersAreDroppedInAChoice)
+TEST_F(AutoSettingsFieldsTest, LettersAreDroppedInAChoice)
 {
     Settings([&](Clerk& clerk) {
         clerk.Type(Q("1haoya.x"));
@@ -201,7 +201,7 @@ TEST_F(AutoSettingsFields, LettersAreDroppedInAChoice)
     });
 }
 
-TEST_F(AutoSettingsFields, TheTypeOfRateTakesNoKeyButEnter)
+TEST_F(AutoSettingsFieldsTest, TheTypeOfRateTakesNoKeyButEnter)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "cmbFatRateType");
@@ -213,7 +213,7 @@ TEST_F(AutoSettingsFields, TheTypeOfRateTakesNoKeyButEnter)
     });
 }
 
-TEST_F(AutoSettingsFields, RateByFatAndSnfIsNotYetToBeHad)
+TEST_F(AutoSettingsFieldsTest, RateByFatAndSnfIsNotYetToBeHad)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "cmbFatRateType");
@@ -225,7 +225,7 @@ TEST_F(AutoSettingsFields, RateByFatAndSnfIsNotYetToBeHad)
     });
 }
 
-TEST_F(AutoSettingsFields, AnEmptyTypeOfRateBecomesRateByFatOnLeaving)
+TEST_F(AutoSettingsFieldsTest, AnEmptyTypeOfRateBecomesRateByFatOnLeaving)
 {
     Given("FatRateType=''");
     Settings([&](Clerk& clerk) {
@@ -237,7 +237,7 @@ TEST_F(AutoSettingsFields, AnEmptyTypeOfRateBecomesRateByFatOnLeaving)
     });
 }
 
-TEST_F(AutoSettingsFields, TheBoxOfThePurchaseEntryTellsWhatItMeans)
+TEST_F(AutoSettingsFieldsTest, TheBoxOfThePurchaseEntryTellsWhatItMeans)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "CheckCNP");
@@ -251,7 +251,7 @@ TEST_F(AutoSettingsFields, TheBoxOfThePurchaseEntryTellsWhatItMeans)
     });
 }
 
-TEST_F(AutoSettingsFields, CancelReadsTheRowAgainAndSavesNothing)
+TEST_F(AutoSettingsFieldsTest, CancelReadsTheRowAgainAndSavesNothing)
 {
     Settings([&](Clerk& clerk) {
         clerk.Type(Q("1{ENTER}1{ENTER}"));
@@ -267,7 +267,7 @@ TEST_F(AutoSettingsFields, CancelReadsTheRowAgainAndSavesNothing)
     EXPECT_EQ(One(Q("select AutoLiters from AutoSettings")), Q("naahI"));
 }
 
-TEST_F(AutoSettingsFields, CancelTakesTheChoiceForPaiseBackToo)
+TEST_F(AutoSettingsFieldsTest, CancelTakesTheChoiceForPaiseBackToo)
 {
     Given("DecimalPayment=''");
     Settings([&](Clerk& clerk) {
@@ -279,7 +279,7 @@ TEST_F(AutoSettingsFields, CancelTakesTheChoiceForPaiseBackToo)
     });
 }
 
-TEST_F(AutoSettingsFields, PressingCancelWithTheMouseLetsAnEmptyFieldGo)
+TEST_F(AutoSettingsFieldsTest, PressingCancelWithTheMouseLetsAnEmptyFieldGo)
 {
     Settings([&](Clerk& clerk) {
         clerk.Type(Q("{ENTER}{BS}"));
@@ -289,7 +289,7 @@ TEST_F(AutoSettingsFields, PressingCancelWithTheMouseLetsAnEmptyFieldGo)
     });
 }
 
-TEST_F(AutoSettingsFields, EscAndTheExitButtonCloseWithoutASave)
+TEST_F(AutoSettingsFieldsTest, EscAndTheExitButtonCloseWithoutASave)
 {
     const QStringList before = Rows(Q("select * from AutoSettings"));
     for (const char* way : {"{ESC}", "%b"}) {
@@ -303,7 +303,7 @@ TEST_F(AutoSettingsFields, EscAndTheExitButtonCloseWithoutASave)
     EXPECT_EQ(gAppState.gAutoLiters, Q("naahI"));
 }
 
-TEST_F(AutoSettingsFields, EscAndTheExitButtonLeaveEvenAFieldThatRefuses)
+TEST_F(AutoSettingsFieldsTest, EscAndTheExitButtonLeaveEvenAFieldThatRefuses)
 {
     for (const char* way : {"{ESC}", "%b"}) {
         Settings([&](Clerk& clerk) {
@@ -315,7 +315,7 @@ TEST_F(AutoSettingsFields, EscAndTheExitButtonLeaveEvenAFieldThatRefuses)
     }
 }
 
-TEST_F(AutoSettingsFields, CancelByItsKeyReadsTheRowAgainFromAFieldThatRefuses)
+TEST_F(AutoSettingsFieldsTest, CancelByItsKeyReadsTheRowAgainFromAFieldThatRefuses)
 {
     Settings([&](Clerk& clerk) {
         clerk.Type(Q("{BS}%r"));
@@ -324,7 +324,7 @@ TEST_F(AutoSettingsFields, CancelByItsKeyReadsTheRowAgainFromAFieldThatRefuses)
     });
 }
 
-TEST_F(AutoSettingsFields, EscClearsTheFieldsBeforeItCloses)
+TEST_F(AutoSettingsFieldsTest, EscClearsTheFieldsBeforeItCloses)
 {
     Failure = TheClerk.Play(
         [] {

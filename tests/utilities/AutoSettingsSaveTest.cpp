@@ -6,7 +6,7 @@
 
 namespace {
 
-class AutoSettingsSave : public AutoSettingsTest {
+class AutoSettingsSaveTest : public AutoSettingsTest {
 protected:
     // Presses Save from wherever the clerk is.
     static void Save(Clerk& clerk)
@@ -20,7 +20,7 @@ protected:
 
 }
 
-TEST_F(AutoSettingsSave, WritesEachColumnAsTheFieldsShowItAndLosesTheOthers)
+TEST_F(AutoSettingsSaveTest, WritesEachColumnAsTheFieldsShowItAndLosesTheOthers)
 {
     Given("BasicCowRate=30,BasicBuffRate=40,CowBonusRate=1,BuffBonusRate=2,FixedKapat=5,"
           "ShowTransportCharges='True'");
@@ -41,7 +41,7 @@ TEST_F(AutoSettingsSave, WritesEachColumnAsTheFieldsShowItAndLosesTheOthers)
                       "NULL|NULL|NULL|NULL|NULL|NULL")));
 }
 
-TEST_F(AutoSettingsSave, BoxesWithoutATickAndEachOptionHaveTheirWords)
+TEST_F(AutoSettingsSaveTest, BoxesWithoutATickAndEachOptionHaveTheirWords)
 {
     const std::pair<const char*, const char*> options[] = {{"OptionAddThev", "AddThev"},
         {"OptionPayable", "Payable"}, {"OptionPayIt", "PayIt"}, {"OptionDiscount", "Discount"}};
@@ -57,7 +57,7 @@ TEST_F(AutoSettingsSave, BoxesWithoutATickAndEachOptionHaveTheirWords)
     }
 }
 
-TEST_F(AutoSettingsSave, ThePrintOfTheSalesIsSetAndSavedByKeysAlone)
+TEST_F(AutoSettingsSaveTest, ThePrintOfTheSalesIsSetAndSavedByKeysAlone)
 {
     Settings([&](Clerk& clerk) {
         clerk.Type(Q("^{PGUP}{ENTER}{ENTER}{ENTER}{DOWN}3{ENTER}"));
@@ -67,7 +67,7 @@ TEST_F(AutoSettingsSave, ThePrintOfTheSalesIsSetAndSavedByKeysAlone)
     EXPECT_EQ(One(Q("select MSRPrintStatus from AutoSettings")), Q("saovh va ip`MT"));
 }
 
-TEST_F(AutoSettingsSave, TheRowIsDeletedBeforeTheNewOneIsWrittenAndTheTypeOfRateComesLast)
+TEST_F(AutoSettingsSaveTest, TheRowIsDeletedBeforeTheNewOneIsWrittenAndTheTypeOfRateComesLast)
 {
     gCn.RunScript(Q("create trigger Inserted before insert on AutoSettings "
                     "begin select raise(abort, 'the row is still there') "
@@ -84,7 +84,7 @@ TEST_F(AutoSettingsSave, TheRowIsDeletedBeforeTheNewOneIsWrittenAndTheTypeOfRate
         Rows(Q("select ReceiptType,FatRateType from AutoSettings")), QStringList(Q("Tašp 3|f^T nausaar")));
 }
 
-TEST_F(AutoSettingsSave, ASavedRowIsReadBackAsItWas)
+TEST_F(AutoSettingsSaveTest, ASavedRowIsReadBackAsItWas)
 {
     Settings([&](Clerk& clerk) { Save(clerk); });
     const QStringList first = Rows(Q(All()));
@@ -93,7 +93,7 @@ TEST_F(AutoSettingsSave, ASavedRowIsReadBackAsItWas)
     EXPECT_EQ(first.size(), 1);
 }
 
-TEST_F(AutoSettingsSave, TheStateTakesThreeOfTheFields)
+TEST_F(AutoSettingsSaveTest, TheStateTakesThreeOfTheFields)
 {
     gAppState.gWeighScale = Q("ELECTRO");
     Settings([&](Clerk& clerk) {
@@ -109,7 +109,7 @@ TEST_F(AutoSettingsSave, TheStateTakesThreeOfTheFields)
     EXPECT_EQ(gAppState.gWeighScale, Q("ELECTRO"));
 }
 
-TEST_F(AutoSettingsSave, TheScaleIsWrittenBackFromTheStateAndNotFromTheRow)
+TEST_F(AutoSettingsSaveTest, TheScaleIsWrittenBackFromTheStateAndNotFromTheRow)
 {
     gAppState.gWeighScale = Q("MCS");
     Given("WeighScale='ACE CORP'");
@@ -117,7 +117,7 @@ TEST_F(AutoSettingsSave, TheScaleIsWrittenBackFromTheStateAndNotFromTheRow)
     EXPECT_EQ(One(Q("select WeighScale from AutoSettings")), Q("MCS"));
 }
 
-TEST_F(AutoSettingsSave, WithAnEmptyRequiredFieldTheRowGoesUntilALaterSave)
+TEST_F(AutoSettingsSaveTest, WithAnEmptyRequiredFieldTheRowGoesUntilALaterSave)
 {
     const QStringList required = {Q("ComboAutoFat"), Q("ComboAutoLiters"), Q("ComboPrintStatus"),
         Q("ComboReceipt"), Q("ComboPaymentDuration"), Q("txtCow"), Q("txtBuff")};
@@ -138,7 +138,7 @@ TEST_F(AutoSettingsSave, WithAnEmptyRequiredFieldTheRowGoesUntilALaterSave)
     }
 }
 
-TEST_F(AutoSettingsSave, TheOtherFieldsMayBeEmpty)
+TEST_F(AutoSettingsSaveTest, TheOtherFieldsMayBeEmpty)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "CmdSave");
@@ -152,7 +152,7 @@ TEST_F(AutoSettingsSave, TheOtherFieldsMayBeEmpty)
         QStringList(Q("||||||")));
 }
 
-TEST_F(AutoSettingsSave, ARowWithoutALayoutIsGoneAfterASaveAndTheNextStartFindsNone)
+TEST_F(AutoSettingsSaveTest, ARowWithoutALayoutIsGoneAfterASaveAndTheNextStartFindsNone)
 {
     Given("ReceiptType=''");
     Settings([&](Clerk& clerk) {
@@ -167,7 +167,7 @@ TEST_F(AutoSettingsSave, ARowWithoutALayoutIsGoneAfterASaveAndTheNextStartFindsN
     EXPECT_EQ(gAppState.gAutoLiters, QString());
 }
 
-TEST_F(AutoSettingsSave, FilledAnewTheScreenWritesTheRowOfASocietyThatHasNone)
+TEST_F(AutoSettingsSaveTest, FilledAnewTheScreenWritesTheRowOfASocietyThatHasNone)
 {
     WithoutARow();
     Settings([&](Clerk& clerk) {
@@ -179,7 +179,7 @@ TEST_F(AutoSettingsSave, FilledAnewTheScreenWritesTheRowOfASocietyThatHasNone)
         QStringList(Q("haoya|Tašp 1|10 idvasa|0.5|52.00|")));
 }
 
-TEST_F(AutoSettingsSave, TheTypeOfRateIsWrittenForEveryCompany)
+TEST_F(AutoSettingsSaveTest, TheTypeOfRateIsWrittenForEveryCompany)
 {
     Run(Q("insert into AutoSettings(CompanyId,AutoFat,FatRateType,FixedKapat) values(2,'haoya','',7)"));
     Settings([&](Clerk& clerk) { Save(clerk); });
@@ -187,7 +187,7 @@ TEST_F(AutoSettingsSave, TheTypeOfRateIsWrittenForEveryCompany)
         QStringList({Q("1|naahI|f^T nausaar|NULL"), Q("2|haoya|f^T nausaar|7")}));
 }
 
-TEST_F(AutoSettingsSave, RateByFatAndSnfCannotBeSaved)
+TEST_F(AutoSettingsSaveTest, RateByFatAndSnfCannotBeSaved)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "cmbFatRateType");
@@ -199,7 +199,7 @@ TEST_F(AutoSettingsSave, RateByFatAndSnfCannotBeSaved)
     EXPECT_EQ(One(Q("select FatRateType from AutoSettings")), Q("f^T nausaar"));
 }
 
-TEST_F(AutoSettingsSave, ASaveThatBreaksOffLeavesTheRowAsItWas)
+TEST_F(AutoSettingsSaveTest, ASaveThatBreaksOffLeavesTheRowAsItWas)
 {
     const QStringList before = Rows(Q(All()));
     gAppState.gWeighScale = Q("ACE'CORP");
@@ -211,7 +211,7 @@ TEST_F(AutoSettingsSave, ASaveThatBreaksOffLeavesTheRowAsItWas)
     EXPECT_EQ(gAppState.gAutoLiters, Q("naahI"));
 }
 
-TEST_F(AutoSettingsSave, TheTransportEntryOfTheMenuDisappears)
+TEST_F(AutoSettingsSaveTest, TheTransportEntryOfTheMenuDisappears)
 {
     const auto entries = [this] {
         qsizetype count = 0;

@@ -4,7 +4,7 @@
 
 namespace {
 
-class AutoSettingsWaysOut : public AutoSettingsTest {
+class AutoSettingsWaysOutTest : public AutoSettingsTest {
 protected:
     // The last fields of the pages, which lead the clerk on when he steps on.
     static constexpr const char* Leading[] = {"CheckRepeatCol", "txtBuff", "txtMixSaleRate"};
@@ -16,7 +16,7 @@ protected:
 
 }
 
-TEST_F(AutoSettingsWaysOut, SaveIsPressedFromEachFieldByItsKeyAndByTheMouse)
+TEST_F(AutoSettingsWaysOutTest, SaveIsPressedFromEachFieldByItsKeyAndByTheMouse)
 {
     Settings([&](Clerk& clerk) {
         for (const char* field : {"ComboAutoLiters", "ComboAutoFat", "ComboPrintStatus", "txtCowLimit",
@@ -36,7 +36,7 @@ TEST_F(AutoSettingsWaysOut, SaveIsPressedFromEachFieldByItsKeyAndByTheMouse)
     });
 }
 
-TEST_F(AutoSettingsWaysOut, WhatStandsInTheFieldIsFormattedAndSaved)
+TEST_F(AutoSettingsWaysOutTest, WhatStandsInTheFieldIsFormattedAndSaved)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "CheckRepeatCol");
@@ -51,7 +51,7 @@ TEST_F(AutoSettingsWaysOut, WhatStandsInTheFieldIsFormattedAndSaved)
         QStringList(Q("haoya|0.76|53.50")));
 }
 
-TEST_F(AutoSettingsWaysOut, AFigureThatIsRefusedIsNotSaved)
+TEST_F(AutoSettingsWaysOutTest, AFigureThatIsRefusedIsNotSaved)
 {
     MarkTheRow();
     Settings([&](Clerk& clerk) {
@@ -67,7 +67,7 @@ TEST_F(AutoSettingsWaysOut, AFigureThatIsRefusedIsNotSaved)
     EXPECT_FALSE(IsSaved());
 }
 
-TEST_F(AutoSettingsWaysOut, ExitIsPressedFromTheLeadingFieldsByItsKeyAndByTheMouse)
+TEST_F(AutoSettingsWaysOutTest, ExitIsPressedFromTheLeadingFieldsByItsKeyAndByTheMouse)
 {
     for (const char* field : Leading) {
         for (bool byMouse : {false, true}) {
@@ -80,7 +80,7 @@ TEST_F(AutoSettingsWaysOut, ExitIsPressedFromTheLeadingFieldsByItsKeyAndByTheMou
     }
 }
 
-TEST_F(AutoSettingsWaysOut, ATabThatIsPressedIsTheOneThatIsTurnedTo)
+TEST_F(AutoSettingsWaysOutTest, ATabThatIsPressedIsTheOneThatIsTurnedTo)
 {
     const char* first[] = {"ComboAutoLiters", "ComboPaymentDuration", "SSTab"};
     Settings([&](Clerk& clerk) {
@@ -97,7 +97,7 @@ TEST_F(AutoSettingsWaysOut, ATabThatIsPressedIsTheOneThatIsTurnedTo)
     });
 }
 
-TEST_F(AutoSettingsWaysOut, AFieldThatIsPressedIsEnteredAndItsPageStays)
+TEST_F(AutoSettingsWaysOutTest, AFieldThatIsPressedIsEnteredAndItsPageStays)
 {
     const std::pair<const char*, const char*> ways[] = {
         {"CheckRepeatCol", "txtCowLimit"}, {"txtBuff", "CheckCNP"}, {"txtMixSaleRate", "txtCowSaleRate"}};
@@ -110,7 +110,7 @@ TEST_F(AutoSettingsWaysOut, AFieldThatIsPressedIsEnteredAndItsPageStays)
     });
 }
 
-TEST_F(AutoSettingsWaysOut, ShiftTabLeadsFromTheFirstFieldToTheSampleWhoseGuideSaysSo)
+TEST_F(AutoSettingsWaysOutTest, ShiftTabLeadsFromTheFirstFieldToTheSampleWhoseGuideSaysSo)
 {
     Settings([&](Clerk& clerk) {
         clerk.Type(Q("+{TAB}"));

@@ -9,14 +9,14 @@
 namespace {
 
 // The folder holds a plain template under each name, which a report carries as its own name.
-class SampleReceipt : public AutoSettingsTest {
+class SampleReceiptTest : public AutoSettingsTest {
 protected:
-    SampleReceipt()
+    SampleReceiptTest()
     {
         ReportSurroundings::Current() = {
             &Window, nullptr, [](const QString& path) { return LocalPath(path); }};
     }
-    ~SampleReceipt() override
+    ~SampleReceiptTest() override
     {
         Window.Shown.clear();
         ReportControl::CloseConnections();
@@ -51,7 +51,7 @@ const char* const Samples[] = {"MilkReceipt1", "MilkReceipt2", "MilkReceiptBhl",
 
 }
 
-TEST_F(SampleReceipt, EachLayoutHasItsTemplate)
+TEST_F(SampleReceiptTest, EachLayoutHasItsTemplate)
 {
     for (const char* name : Samples)
         AddTemplate(Q(name));
@@ -67,7 +67,7 @@ TEST_F(SampleReceipt, EachLayoutHasItsTemplate)
     });
 }
 
-TEST_F(SampleReceipt, StagesTheRowOfTheSampleBillInPlaceOfTheLastSlip)
+TEST_F(SampleReceiptTest, StagesTheRowOfTheSampleBillInPlaceOfTheLastSlip)
 {
     AddTemplate(Q("MilkReceipt1"));
     Run(Q("insert into MilkReceipt(CompanyId,MemberNo,MemberName) values(1,77,'rama')"));
@@ -84,7 +84,7 @@ TEST_F(SampleReceipt, StagesTheRowOfTheSampleBillInPlaceOfTheLastSlip)
     EXPECT_EQ(Window.Shown.size(), 2U);
 }
 
-TEST_F(SampleReceipt, TheRowsTakeTheCompanyOfTheScreen)
+TEST_F(SampleReceiptTest, TheRowsTakeTheCompanyOfTheScreen)
 {
     AddTemplate(Q("MilkReceipt1"));
     gAppState.gCompanyId = 4;
@@ -93,7 +93,7 @@ TEST_F(SampleReceipt, TheRowsTakeTheCompanyOfTheScreen)
     EXPECT_EQ(Rows(Q("select CompanyId from MilkReceipt")), QStringList(Q("4")));
 }
 
-TEST_F(SampleReceipt, WithoutACompanyTheSampleIsTidiedAwayBeforeItIsShown)
+TEST_F(SampleReceiptTest, WithoutACompanyTheSampleIsTidiedAwayBeforeItIsShown)
 {
     AddTemplate(Q("MilkReceipt1"));
     gAppState.gCompanyId = 0;
@@ -103,7 +103,7 @@ TEST_F(SampleReceipt, WithoutACompanyTheSampleIsTidiedAwayBeforeItIsShown)
     EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("0"));
 }
 
-TEST_F(SampleReceipt, TheReportReadsWhatIsStaged)
+TEST_F(SampleReceiptTest, TheReportReadsWhatIsStaged)
 {
     AddTemplate(Q("MilkReceipt1"));
     Settings([&](Clerk& clerk) { PrintSample(clerk); });
@@ -116,7 +116,7 @@ TEST_F(SampleReceipt, TheReportReadsWhatIsStaged)
     EXPECT_TRUE(texts.contains(One(Q("select MemberNo from MRView")))) << texts.join(u'|').toStdString();
 }
 
-TEST_F(SampleReceipt, IsMadeFromTheFieldAndSavesNothing)
+TEST_F(SampleReceiptTest, IsMadeFromTheFieldAndSavesNothing)
 {
     AddTemplate(Q("MilkReceiptBhl"));
     const QStringList before = Rows(Q("select * from AutoSettings"));
@@ -129,7 +129,7 @@ TEST_F(SampleReceipt, IsMadeFromTheFieldAndSavesNothing)
     EXPECT_EQ(Rows(Q("select * from AutoSettings")), before);
 }
 
-TEST_F(SampleReceipt, WithoutALayoutTheTemplateBeforeIsTakenAgain)
+TEST_F(SampleReceiptTest, WithoutALayoutTheTemplateBeforeIsTakenAgain)
 {
     AddTemplate(Q("MilkReceipt1"));
     Settings([&](Clerk& clerk) {
@@ -140,7 +140,7 @@ TEST_F(SampleReceipt, WithoutALayoutTheTemplateBeforeIsTakenAgain)
     EXPECT_EQ(Window.Titles(), QStringList({Q("MilkReceipt1"), Q("MilkReceipt1")}));
 }
 
-TEST_F(SampleReceipt, BeforeALayoutWasEverChosenTheClerkIsTold)
+TEST_F(SampleReceiptTest, BeforeALayoutWasEverChosenTheClerkIsTold)
 {
     Given("ReceiptType=''");
     Settings([&](Clerk& clerk) {
@@ -152,7 +152,7 @@ TEST_F(SampleReceipt, BeforeALayoutWasEverChosenTheClerkIsTold)
     EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("1"));
 }
 
-TEST_F(SampleReceipt, AMissingTemplateEndsTheProgramWithTheRowStaged)
+TEST_F(SampleReceiptTest, AMissingTemplateEndsTheProgramWithTheRowStaged)
 {
     QFile::remove(FolderFile(Q("MilkReceipt1.rpt")));
     On<frmAutoSettings>([&](Clerk& clerk) { PrintSample(clerk); });

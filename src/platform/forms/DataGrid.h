@@ -69,7 +69,7 @@ public:
     void Refresh();
 
     // Lets the clerk edit the rows in place and add new ones in an empty row at the end. The format of a
-    // column decides what can be typed: numbers, dates, or texts without an apostrophe. A letter or digit
+    // column decides what can be typed: numbers, dates, or a text. A letter or digit
     // starts a cell afresh, Backspace edits its text, Enter accepts it and goes to the next cell, Esc
     // restores the whole row. A row is written when the clerk leaves it or the grid; the grid uses its
     // LostFocus for that, so the screen can't. Enter in an empty row into which nothing was typed is left to

@@ -10,13 +10,6 @@
 
 namespace {
 
-std::unique_ptr<Field> TextCell(Screen* screen, const char* name)
-{
-    auto field = std::make_unique<TextField>(screen, name);
-    field->Accepts = [](QChar c) { return c != u'\''; };
-    return field;
-}
-
 // Whether a key replaces the text of the cell.
 bool BeginsAnew(const QKeyEvent& key)
 {
@@ -47,7 +40,7 @@ DataGrid::CellEditor::CellEditor(DataGrid& grid, Editing editing)
             field = std::make_unique<NumberField>(screen, name.constData(),
                 column.format.contains(u'.') ? NumberField::Digits::Decimals : NumberField::Digits::Whole);
         else if (column.stored)
-            field = TextCell(screen, name.constData());
+            field = std::make_unique<TextField>(screen, name.constData());
         else
             field = std::make_unique<PlainField>(screen, name.constData());
         field->SetVisible(false); // the grid has the focus

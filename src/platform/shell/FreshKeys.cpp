@@ -1,6 +1,7 @@
 #include "platform/shell/FreshKeys.h"
 
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QTimer>
 #include <QWidget>
@@ -34,8 +35,10 @@ bool FreshKeys::eventFilter(QObject* watched, QEvent* event)
             Turn(State::Unseen);
         return false;
     case QEvent::Hide:
-        if (watched == &m_box)
+        if (watched == &m_box) {
             Turn(State::Open);
+            m_composesAhead = false; // what comes now is the next screen's
+        }
         return false;
     case QEvent::Paint:
         if (watched == &m_box && m_state == State::Unseen)
@@ -45,9 +48,19 @@ bool FreshKeys::eventFilter(QObject* watched, QEvent* event)
     case QEvent::KeyPress:
         return m_state != State::Open
             || (m_box.isVisible() && static_cast<QKeyEvent*>(event)->isAutoRepeat());
+    case QEvent::InputMethod:
+        return IsComposedAhead(*static_cast<QInputMethodEvent*>(event));
     default:
         return false;
     }
+}
+
+// A word that was begun ahead of the box is none of the box's when it is done, either.
+bool FreshKeys::IsComposedAhead(const QInputMethodEvent& event)
+{
+    const bool isAhead = m_state != State::Open || m_composesAhead;
+    m_composesAhead = isAhead && !event.preeditString().isEmpty();
+    return isAhead;
 }
 
 // When a box has been painted, keys that were pressed earlier may still be in the queue of the window system.

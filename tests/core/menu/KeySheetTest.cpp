@@ -27,7 +27,7 @@ QStringList Listed(const QString& screen)
     return keys;
 }
 
-class KeySheet : public SocietyTest {
+class KeySheetTest : public SocietyTest {
 protected:
     // The function keys of F1 to F12 that a screen answers: another screen opens, a box is shown, or the
     // calculator starts. `open` shows the screen; `arrive` are the keys that lead to it.
@@ -61,7 +61,7 @@ protected:
 
 }
 
-TEST_F(KeySheet, TheMenusStripNamesItsSixFunctionKeys)
+TEST_F(KeySheetTest, TheMenusStripNamesItsSixFunctionKeys)
 {
     QStringList strip;
     for (const KeyHint& hint : Keys::Of(QStringLiteral("MainMenuFrm")))
@@ -73,7 +73,7 @@ TEST_F(KeySheet, TheMenusStripNamesItsSixFunctionKeys)
             QStringLiteral("F9 dUQa ivaËI"), QStringLiteral("F12 kIbaaoD- TyaUTr")}));
 }
 
-TEST_F(KeySheet, OfTheMenusKeysTheOneThatDoesNothingIsNotLit)
+TEST_F(KeySheetTest, OfTheMenusKeysTheOneThatDoesNothingIsNotLit)
 {
     for (const KeyHint& hint : Keys::Of(QStringLiteral("MainMenuFrm")))
         EXPECT_EQ(hint.lit, hint.key != u"F9") << hint.key.toStdString();
@@ -83,7 +83,7 @@ TEST_F(KeySheet, OfTheMenusKeysTheOneThatDoesNothingIsNotLit)
             menu.ShowModal();
         },
         [](Clerk& clerk) {
-            clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
+            Type(clerk, "{ENTER}{ENTER}");
             int dull = 0;
             for (const QLabel* label : clerk.Top().findChildren<QLabel*>())
                 if (!label->isEnabled()) {
@@ -95,7 +95,7 @@ TEST_F(KeySheet, OfTheMenusKeysTheOneThatDoesNothingIsNotLit)
         });
 }
 
-TEST_F(KeySheet, TheMenuAnswersTheFunctionKeysOfItsStripAndNoOthersAndF9DoesNothing)
+TEST_F(KeySheetTest, TheMenuAnswersTheFunctionKeysOfItsStripAndNoOthersAndF9DoesNothing)
 {
     const QString menu = QStringLiteral("MainMenuFrm");
     QStringList expected = Listed(menu);
@@ -110,7 +110,7 @@ TEST_F(KeySheet, TheMenuAnswersTheFunctionKeysOfItsStripAndNoOthersAndF9DoesNoth
         expected);
 }
 
-TEST_F(KeySheet, TheSmallScreensAnswerTheFunctionKeysOfTheirStripsAndNoOthers)
+TEST_F(KeySheetTest, TheSmallScreensAnswerTheFunctionKeysOfTheirStripsAndNoOthers)
 {
     EXPECT_EQ(Listed(QStringLiteral("frmNarrations")), QStringList(QStringLiteral("F12")));
     EXPECT_EQ(Answered<frmNarrations>(QStringLiteral("frmNarrations"), Plain(u"नाव")),
@@ -120,7 +120,7 @@ TEST_F(KeySheet, TheSmallScreensAnswerTheFunctionKeysOfTheirStripsAndNoOthers)
         Listed(QStringLiteral("frmKeyboardTutor")));
 }
 
-TEST_F(KeySheet, AnUnknownPlaceIsABug)
+TEST_F(KeySheetTest, AnUnknownPlaceIsABug)
 {
     EXPECT_DEBUG_DEATH(Keys::Of(QStringLiteral("frmNowhere")), "frmNowhere");
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-using KeyboardTutor = SocietyTest;
+using KeyboardTutorTest = SocietyTest;
 
 const QString English = QStringLiteral("txtEnglish");
 const QString Marathi = QStringLiteral("txtMarathi");
@@ -32,34 +32,34 @@ int DarkPoints(const QImage& picture, const QRect& part)
 
 }
 
-TEST_F(KeyboardTutor, WhatIsTypedInEnglishShowsInMarathi)
+TEST_F(KeyboardTutorTest, WhatIsTypedInEnglishShowsInMarathi)
 {
     On<frmKeyboardTutor>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("gaaya"));
+        Type(clerk, "gaaya");
         EXPECT_EQ(clerk.Reads(English), QStringLiteral("gaaya"));
         EXPECT_EQ(clerk.Reads(Marathi), QStringLiteral("gaaya"));
         EXPECT_EQ(dynamic_cast<Field*>(clerk.Top().Find(Marathi))->Seen(), QStringLiteral("गाय"));
     });
 }
 
-TEST_F(KeyboardTutor, WhatIsTypedInMarathiShowsInEnglish)
+TEST_F(KeyboardTutorTest, WhatIsTypedInMarathiShowsInEnglish)
 {
     On<frmKeyboardTutor>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{TAB}mhOsa{BS}"));
+        Type(clerk, "{TAB}mhOsa{BS}");
         EXPECT_EQ(clerk.Reads(English), clerk.Reads(Marathi));
         EXPECT_EQ(clerk.Reads(English), QStringLiteral("mhO"));
     });
 }
 
-TEST_F(KeyboardTutor, EscClosesIt)
+TEST_F(KeyboardTutorTest, EscClosesIt)
 {
     On<frmKeyboardTutor>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 
-TEST_F(KeyboardTutor, ThePictureShowsTheFourRowsOfKeysWithTheirLettersAndTheNumbersBelow)
+TEST_F(KeyboardTutorTest, ThePictureShowsTheFourRowsOfKeysWithTheirLettersAndTheNumbersBelow)
 {
     On<frmKeyboardTutor>([](Clerk& clerk) {
         const QImage picture = KeyboardPicture(clerk);

@@ -9,7 +9,7 @@
 
 namespace {
 
-using MainMenu = MenuTest;
+using MainMenuTest = MenuTest;
 
 // Double-clicks the current entry of a list.
 void DoubleClick(Clerk& clerk, MenuList& list)
@@ -29,7 +29,7 @@ void DoubleClick(Clerk& clerk, MenuList& list)
 
 }
 
-TEST_F(MainMenu, EachMainEntryOpensItsListOnItsFirstEntryAndTheToolsOnTheSecond)
+TEST_F(MainMenuTest, EachMainEntryOpensItsListOnItsFirstEntryAndTheToolsOnTheSecond)
 {
     Menu([&](Clerk& clerk) {
         for (int at = 0; at < 5; ++at) {
@@ -37,13 +37,13 @@ TEST_F(MainMenu, EachMainEntryOpensItsListOnItsFirstEntryAndTheToolsOnTheSecond)
             EXPECT_TRUE(Shows(clerk, SubLists[at]));
             EXPECT_EQ(clerk.Focus(), QLatin1String(SubLists[at]));
             EXPECT_EQ(List(clerk, SubLists[at]).CurrentIndex(), at == 4 ? 1 : 0);
-            clerk.Type(QStringLiteral("{ESC}"));
+            Type(clerk, "{ESC}");
             EXPECT_FALSE(Shows(clerk, SubLists[at]));
         }
     });
 }
 
-TEST_F(MainMenu, EscAndLeftSetTheMainListToTheirFixedPlace)
+TEST_F(MainMenuTest, EscAndLeftSetTheMainListToTheirFixedPlace)
 {
     const int after[] = {0, 2, 4, 4, 4};
     Menu([&](Clerk& clerk) {
@@ -51,40 +51,40 @@ TEST_F(MainMenu, EscAndLeftSetTheMainListToTheirFixedPlace)
             for (int at = 0; at < 5; ++at) {
                 ChooseMain(clerk, at);
                 clerk.Type(QLatin1String(key));
-                EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
+                EXPECT_EQ(Focus(clerk), "ListMain");
                 EXPECT_EQ(IndexOfMain(clerk), after[at]) << "from list " << at << " by " << key;
             }
     });
 }
 
-TEST_F(MainMenu, BaahorOfASubListHidesItAndLeavesTheMainListWhereItWas)
+TEST_F(MainMenuTest, BaahorOfASubListHidesItAndLeavesTheMainListWhereItWas)
 {
     Menu([&](Clerk& clerk) {
         for (int at = 0; at < 5; ++at) {
             ChooseMain(clerk, at);
-            clerk.Type(QStringLiteral("{END}{ENTER}"));
+            Type(clerk, "{END}{ENTER}");
             EXPECT_FALSE(Shows(clerk, SubLists[at])) << SubLists[at];
-            EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
+            EXPECT_EQ(Focus(clerk), "ListMain");
             EXPECT_EQ(IndexOfMain(clerk), at);
         }
     });
 }
 
-TEST_F(MainMenu, AClosedMasterSaysThatALoginIsRequiredWhileTheFunctionKeysStillWork)
+TEST_F(MainMenuTest, AClosedMasterSaysThatALoginIsRequiredWhileTheFunctionKeysStillWork)
 {
     gAppState.gAccessMaster = 0;
     Menu([&](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("Administrator LogIn Required")));
         EXPECT_FALSE(Shows(clerk, "ListMaster"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
-        clerk.Type(QStringLiteral("{F7}"));
+        EXPECT_EQ(Focus(clerk), "ListMain");
+        Type(clerk, "{F7}");
         ASSERT_EQ(TheBox.Shown.size(), 2);
         EXPECT_TRUE(TheBox.Shown[1].contains(QStringLiteral("ऑटो सेटींग्ज")));
     });
 }
 
-TEST_F(MainMenu, WithEverythingClosedOnlyTheYearlyListOpens)
+TEST_F(MainMenuTest, WithEverythingClosedOnlyTheYearlyListOpens)
 {
     CloseEverything();
     Menu([&](Clerk& clerk) {
@@ -97,7 +97,7 @@ TEST_F(MainMenu, WithEverythingClosedOnlyTheYearlyListOpens)
     });
 }
 
-TEST_F(MainMenu, AnAdministratorIsGrantedAccessToAClosedList)
+TEST_F(MainMenuTest, AnAdministratorIsGrantedAccessToAClosedList)
 {
     gAppState.gAccessUtilities = 0;
     gAppState.gAdminLoggedIn = QStringLiteral("YES");
@@ -108,103 +108,103 @@ TEST_F(MainMenu, AnAdministratorIsGrantedAccessToAClosedList)
     });
 }
 
-TEST_F(MainMenu, TabActsAsEnter)
+TEST_F(MainMenuTest, TabActsAsEnter)
 {
     Menu([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{TAB}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMaster"));
+        Type(clerk, "{TAB}");
+        EXPECT_EQ(Focus(clerk), "ListMaster");
     });
 }
 
-TEST_F(MainMenu, AnEntryWhoseScreenIsNotThereNamesItInAPlainMessageAndNothingElse)
+TEST_F(MainMenuTest, AnEntryWhoseScreenIsNotThereNamesItInAPlainMessageAndNothingElse)
 {
     Menu([&](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{ENTER}{DOWN}{ENTER}"));
+        Type(clerk, "{ENTER}{DOWN}{ENTER}");
         ASSERT_EQ(TheBox.Shown.size(), 1);
         EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("ग्राहकाचे रजिस्टर")));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMaster")) << "the list stays as it was";
+        EXPECT_EQ(Focus(clerk), "ListMaster") << "the list stays as it was";
     });
 }
 
-TEST_F(MainMenu, F9IsPromisedByItsLabelAndDoesNothing)
+TEST_F(MainMenuTest, F9IsPromisedByItsLabelAndDoesNothing)
 {
     Menu([&](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{F9}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
+        Type(clerk, "{F9}");
+        EXPECT_EQ(OnTop(clerk), "MainMenuFrm");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
     });
 }
 
-TEST_F(MainMenu, F4F7F8AndF12AnswerFromAnyList)
+TEST_F(MainMenuTest, F4F7F8AndF12AnswerFromAnyList)
 {
     Menu([&](Clerk& clerk) {
         ChooseMain(clerk, 1);
-        clerk.Type(QStringLiteral("{F4}{F8}"));
+        Type(clerk, "{F4}{F8}");
         ASSERT_EQ(TheBox.Shown.size(), 2);
         EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("उचल नोंद")));
         EXPECT_TRUE(TheBox.Shown[1].contains(QStringLiteral("दूध संकलन")));
-        clerk.Type(QStringLiteral("{F12}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
+        Type(clerk, "{F12}");
+        EXPECT_EQ(OnTop(clerk), "frmKeyboardTutor");
     });
 }
 
-TEST_F(MainMenu, LeavingOffersTheBackupAndAsksAndNoStays)
+TEST_F(MainMenuTest, LeavingOffersTheBackupAndAsksAndNoStays)
 {
     Menu([&](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{END}{ENTER}"));
+        Type(clerk, "{END}{ENTER}");
         ASSERT_EQ(TheBox.Shown.size(), 1) << "the backup is named first";
         EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("बॅक अप्")));
         EXPECT_EQ(clerk.Message(), QStringLiteral("saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ"));
-        clerk.Type(QStringLiteral("%n"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
-        clerk.Type(QStringLiteral("{ESC}%h"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "%n");
+        EXPECT_EQ(OnTop(clerk), "MainMenuFrm");
+        Type(clerk, "{ESC}%h");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 
-TEST_F(MainMenu, TheCloseBoxClosesAtOnceWithoutBackupOrQuestion)
+TEST_F(MainMenuTest, TheCloseBoxClosesAtOnceWithoutBackupOrQuestion)
 {
     Menu([&](Clerk& clerk) {
         clerk.CloseBox();
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        EXPECT_EQ(OnTop(clerk), "");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
     });
 }
 
-TEST_F(MainMenu, TheMainListGainingTheFocusByMouseHidesEveryListButTheYearlyOne)
+TEST_F(MainMenuTest, TheMainListGainingTheFocusByMouseHidesEveryListButTheYearlyOne)
 {
     Menu([](Clerk& clerk) {
         for (int at = 0; at < 5; ++at) {
             ChooseMain(clerk, at);
-            clerk.Press(QStringLiteral("ListMain"));
-            EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
+            Press(clerk, "ListMain");
+            EXPECT_EQ(Focus(clerk), "ListMain");
             EXPECT_EQ(Shows(clerk, SubLists[at]), at == 3) << SubLists[at];
             if (at == 3)
-                clerk.Type(QStringLiteral("{HOME}{DOWN}{DOWN}{DOWN}{ENTER}{ESC}"));
+                Type(clerk, "{HOME}{DOWN}{DOWN}{DOWN}{ENTER}{ESC}");
         }
     });
 }
 
-TEST_F(MainMenu, ADoubleClickChoosesAsEnterDoes)
+TEST_F(MainMenuTest, ADoubleClickChoosesAsEnterDoes)
 {
     Menu([&](Clerk& clerk) {
         DoubleClick(clerk, List(clerk, "ListMain"));
         ASSERT_TRUE(Shows(clerk, "ListMaster"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMaster"));
+        EXPECT_EQ(Focus(clerk), "ListMaster");
         DoubleClick(clerk, List(clerk, "ListMaster"));
         ASSERT_EQ(TheBox.Shown.size(), 1) << "the first entry has no screen in this program";
         EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("उत्पादकाचे रजिस्टर")));
     });
 }
 
-TEST_F(MainMenu, F2StartsTheCalculatorMaximised)
+TEST_F(MainMenuTest, F2StartsTheCalculatorMaximised)
 {
-    Menu([](Clerk& clerk) { clerk.Type(QStringLiteral("{F2}")); });
+    Menu([](Clerk& clerk) { Type(clerk, "{F2}"); });
     EXPECT_EQ(
         TheCalculator.Started, QStringList(QStringLiteral("C:\\Tarvel01\\Vetrolan\\calc.EXE maximised")));
 }
 
-TEST_F(MainMenu, ItsFaceShowsTitlesHeadingVersionTwiceAndTheSocietyButNoYear)
+TEST_F(MainMenuTest, ItsFaceShowsTitlesHeadingVersionTwiceAndTheSocietyButNoYear)
 {
     Menu([](Clerk& clerk) {
         EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(QStringLiteral(" dUQa saMklana saa^FTvaoAr")));
@@ -218,31 +218,31 @@ TEST_F(MainMenu, ItsFaceShowsTitlesHeadingVersionTwiceAndTheSocietyButNoYear)
     });
 }
 
-TEST_F(MainMenu, TodaysDateIsTheMachinesAtLoadAndIsNotUpdated)
+TEST_F(MainMenuTest, TodaysDateIsTheMachinesAtLoadAndIsNotUpdated)
 {
     Menu([&](Clerk& clerk) {
         EXPECT_EQ(LabelOf(clerk, "lblTodayDate"), QStringLiteral("15/04/2026"));
         TheClock.Time = TheClock.Time.addDays(1);
-        clerk.Type(QStringLiteral("{ENTER}{ESC}{F12}{ESC}"));
+        Type(clerk, "{ENTER}{ESC}{F12}{ESC}");
         EXPECT_EQ(LabelOf(clerk, "lblTodayDate"), QStringLiteral("15/04/2026"));
     });
 }
 
-TEST_F(MainMenu, WithoutACompanyTheDateAskedForIsEmptyThenTodayAndTheMenuNamesNoSociety)
+TEST_F(MainMenuTest, WithoutACompanyTheDateAskedForIsEmptyThenTodayAndTheMenuNamesNoSociety)
 {
     Run(QStringLiteral("delete * from CompanySelected"));
     gCn.Close();
     ASSERT_TRUE(LoadAppState());
     On<MainMenuFrm>([](Clerk& clerk) {
-        ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmAppDate"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("MaskAppDate")), QStringLiteral("__/__/____"));
-        clerk.Type(QStringLiteral("{ENTER}"));
+        ASSERT_EQ(OnTop(clerk), "frmAppDate");
+        EXPECT_EQ(Reads(clerk, "MaskAppDate"), "__/__/____");
+        Type(clerk, "{ENTER}");
         EXPECT_EQ(clerk.Message(), QStringLiteral(" idnaaMk vyavaisqat Ta[-p kra."));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("MaskAppDate")), QStringLiteral("15/04/2026"));
-        clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
-        ASSERT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListMain"));
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Reads(clerk, "MaskAppDate"), "15/04/2026");
+        Type(clerk, "{ENTER}{ENTER}");
+        ASSERT_EQ(OnTop(clerk), "MainMenuFrm");
+        EXPECT_EQ(Focus(clerk), "ListMain");
         EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), QString());
         EXPECT_EQ(LabelOf(clerk, "lblAcYear"), QString());
     });

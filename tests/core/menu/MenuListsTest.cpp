@@ -96,9 +96,9 @@ private:
     QStringList& m_found;
 };
 
-class MenuLists : public MenuTest {
+class MenuListsTest : public MenuTest {
 protected:
-    MenuLists()
+    MenuListsTest()
     {
         for (const Table* table : Tables)
             for (const Entry& entry : *table)
@@ -107,7 +107,7 @@ protected:
                         [this, name = entry.screen] { return std::make_unique<StandIn>(name, Found); });
     }
 
-    ~MenuLists() override
+    ~MenuListsTest() override
     {
         for (const QString& screen : m_screens)
             ScreenDirectory::Add(screen, {});
@@ -122,7 +122,7 @@ protected:
         clerk.Type(
             QStringLiteral("{HOME}") + QStringLiteral("{DOWN}").repeated(index) + QStringLiteral("{ENTER}"));
         if (!Found.isEmpty())
-            clerk.Type(QStringLiteral("{ESC}"));
+            Type(clerk, "{ESC}");
     }
 
     QStringList Found; // name, gReportMode, title and gCallerTag at the last opening
@@ -141,7 +141,7 @@ QStringList TextsOf(const Table& table)
 
 }
 
-TEST_F(MenuLists, HoldTheirEntriesInOrderAsTheyAreSpelt)
+TEST_F(MenuListsTest, HoldTheirEntriesInOrderAsTheyAreSpelt)
 {
     Menu([](Clerk& clerk) {
         EXPECT_EQ(Entries(clerk, "ListMain"),
@@ -154,7 +154,7 @@ TEST_F(MenuLists, HoldTheirEntriesInOrderAsTheyAreSpelt)
     });
 }
 
-TEST_F(MenuLists, EachEntrySetsItsModeAndTitleAndThenOpensItsScreenAndTheListStaysAsItWas)
+TEST_F(MenuListsTest, EachEntrySetsItsModeAndTitleAndThenOpensItsScreenAndTheListStaysAsItWas)
 {
     Menu([&](Clerk& clerk) {
         for (int at = 0; at < 5; ++at) {
@@ -171,13 +171,13 @@ TEST_F(MenuLists, EachEntrySetsItsModeAndTitleAndThenOpensItsScreenAndTheListSta
                 EXPECT_EQ(clerk.Focus(), QLatin1String(SubLists[at]));
                 EXPECT_EQ(List(clerk, SubLists[at]).CurrentIndex(), i);
             }
-            clerk.Type(QStringLiteral("{ESC}"));
+            Type(clerk, "{ESC}");
         }
     });
     EXPECT_TRUE(TheBox.Shown.isEmpty());
 }
 
-TEST_F(MenuLists, TransportIsOfferedOnlyWhenTheSettingReadsTrueAndThenDoesNothing)
+TEST_F(MenuListsTest, TransportIsOfferedOnlyWhenTheSettingReadsTrueAndThenDoesNothing)
 {
     for (const char* setting : {"NULL", "'False'", "'true'", "'haoya'"}) {
         Run(QStringLiteral("update AutoSettings set ShowTransportCharges=") + QLatin1String(setting));
@@ -192,18 +192,18 @@ TEST_F(MenuLists, TransportIsOfferedOnlyWhenTheSettingReadsTrueAndThenDoesNothin
         ChooseMain(clerk, 1);
         OpenEntry(clerk, 7);
         EXPECT_TRUE(Found.isEmpty());
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("ListSVouchers"));
+        EXPECT_EQ(Focus(clerk), "ListSVouchers");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
     });
 }
 
-TEST_F(MenuLists, WithoutASettingsRowNoTransportIsOffered)
+TEST_F(MenuListsTest, WithoutASettingsRowNoTransportIsOffered)
 {
     Run(QStringLiteral("delete * from AutoSettings"));
     Menu([](Clerk& clerk) { EXPECT_EQ(Entries(clerk, "ListSVouchers"), TextsOf(SVouchers)); });
 }
 
-TEST_F(MenuLists, TheFunctionKeysOpenTheirScreensAlsoWithEverythingClosed)
+TEST_F(MenuListsTest, TheFunctionKeysOpenTheirScreensAlsoWithEverythingClosed)
 {
     CloseEverything();
     const std::pair<const char*, const char*> keys[] = {
@@ -212,26 +212,26 @@ TEST_F(MenuLists, TheFunctionKeysOpenTheirScreensAlsoWithEverythingClosed)
         for (const auto& [key, screen] : keys) {
             clerk.Type(QLatin1String(key));
             EXPECT_EQ(clerk.ScreenName(), QLatin1String(screen));
-            clerk.Type(QStringLiteral("{ESC}"));
+            Type(clerk, "{ESC}");
         }
-        clerk.Type(QStringLiteral("{F12}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
-        clerk.Type(QStringLiteral("{ESC}{F2}"));
+        Type(clerk, "{F12}");
+        EXPECT_EQ(OnTop(clerk), "frmKeyboardTutor");
+        Type(clerk, "{ESC}{F2}");
         EXPECT_EQ(TheCalculator.Started.size(), 1);
     });
     EXPECT_TRUE(TheBox.Shown.isEmpty());
 }
 
-TEST_F(MenuLists, LeavingTheSystemOpensTheBackupBeforeTheQuestionByBaahorAndByEsc)
+TEST_F(MenuListsTest, LeavingTheSystemOpensTheBackupBeforeTheQuestionByBaahorAndByEsc)
 {
     Menu([&](Clerk& clerk) {
         for (const char* keys : {"{END}{ENTER}", "{ESC}"}) {
             clerk.Type(QLatin1String(keys));
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmBackup"));
-            clerk.Type(QStringLiteral("{ESC}"));
+            EXPECT_EQ(OnTop(clerk), "frmBackup");
+            Type(clerk, "{ESC}");
             EXPECT_EQ(clerk.Message(), QStringLiteral("saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ"));
-            clerk.Type(QStringLiteral("%n"));
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
+            Type(clerk, "%n");
+            EXPECT_EQ(OnTop(clerk), "MainMenuFrm");
         }
     });
 }

@@ -4,7 +4,7 @@
 
 namespace {
 
-class MenuRights : public MenuTest {
+class MenuRightsTest : public MenuTest {
 protected:
     static constexpr std::int16_t AppState::*Rights[] = {&AppState::gAccessMaster,
         &AppState::gAccessAccountVoucher, &AppState::gAccessStockVoucher, &AppState::gAccessAccountReport,
@@ -19,7 +19,7 @@ protected:
                 ChooseMain(clerk, at);
                 opening += Shows(clerk, SubLists[at]) ? '1' : '0';
                 if (Shows(clerk, SubLists[at]))
-                    clerk.Type(QStringLiteral("{ESC}"));
+                    Type(clerk, "{ESC}");
             }
         });
         return opening;
@@ -28,7 +28,7 @@ protected:
 
 }
 
-TEST_F(MenuRights, EachRightOpensItsOwnListAndTheYearlyOneNeedsNone)
+TEST_F(MenuRightsTest, EachRightOpensItsOwnListAndTheYearlyOneNeedsNone)
 {
     const char* opening[] = {"10010", "00010", "01010", "00010", "00110", "00010", "00011"};
     for (std::size_t given = 0; given < std::size(Rights); ++given) {
@@ -38,7 +38,7 @@ TEST_F(MenuRights, EachRightOpensItsOwnListAndTheYearlyOneNeedsNone)
     }
 }
 
-TEST_F(MenuRights, EachRightThatIsMissingClosesItsOwnListOnly)
+TEST_F(MenuRightsTest, EachRightThatIsMissingClosesItsOwnListOnly)
 {
     const char* opening[] = {"01111", "11111", "10111", "11111", "11011", "11111", "11110"};
     for (std::size_t missing = 0; missing < std::size(Rights); ++missing) {

@@ -32,7 +32,7 @@ protected:
     {
         return Answer([keys](Clerk& clerk) {
             clerk.Type(QString::fromLatin1(keys));
-            EXPECT_EQ(clerk.ScreenName(), QString()) << keys;
+            EXPECT_EQ(OnTop(clerk), "") << keys;
         });
     }
 };
@@ -42,12 +42,12 @@ protected:
 TEST_F(InputBoxTest, ProposesAnAnswerInItsLine)
 {
     Answer([](Clerk& clerk) {
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmInputBox"));
+        EXPECT_EQ(OnTop(clerk), "frmInputBox");
         EXPECT_EQ(LabelOf(clerk, "lblTitle"), QStringLiteral("Vetrolan"));
         EXPECT_EQ(LabelOf(clerk, "lblPrompt"), QStringLiteral("Enter Folder Name"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtAnswer"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdOk")), QStringLiteral("ठीक"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdCancel")), QStringLiteral("रद्द"));
+        EXPECT_EQ(Focus(clerk), "txtAnswer");
+        EXPECT_EQ(Reads(clerk, "cmdOk"), "ठीक");
+        EXPECT_EQ(Reads(clerk, "cmdCancel"), "रद्द");
         const auto* line = clerk.Top().findChild<QLineEdit*>();
         EXPECT_EQ(line->selectedText(), QStringLiteral("Backup"));
         EXPECT_EQ(line->accessibleName(), QStringLiteral("Enter Folder Name"));
@@ -91,5 +91,16 @@ TEST_F(InputBoxTest, ItBearsTheTitleThatIsAskedFor)
 TEST_F(InputBoxTest, KeysThatWereTypedAheadOfItAreThrownAway)
 {
     QueueKeys(QStringLiteral("{ENTER}").repeated(5));
-    Answer([](Clerk& clerk) { EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmInputBox")); });
+    Answer([](Clerk& clerk) { EXPECT_EQ(OnTop(clerk), "frmInputBox"); });
+}
+
+TEST_F(InputBoxTest, AWordThatAnInputMethodWroteAheadOfItIsThrownAwayToo)
+{
+    QueueComposed(QStringLiteral("कराड"));
+    const QString answer = Answer([](Clerk& clerk) {
+        EXPECT_EQ(Reads(clerk, "txtAnswer"), "Backup");
+        clerk.Do([] { QueueComposed(QStringLiteral("मसूर")); });
+        Type(clerk, "{ENTER}");
+    });
+    EXPECT_EQ(answer, QStringLiteral("मसूर"));
 }

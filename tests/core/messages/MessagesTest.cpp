@@ -10,7 +10,7 @@
 
 namespace {
 
-class Messages : public SocietyTest {
+class MessagesTest : public SocietyTest {
 protected:
     bool m_answer = false;
     QString m_narration; // what the last prompt has kept for its caller
@@ -42,60 +42,60 @@ protected:
 
 }
 
-TEST_F(Messages, AQuestionOffersYesAndNoAndANoticeOnlyToGoOn)
+TEST_F(MessagesTest, AQuestionOffersYesAndNoAndANoticeOnlyToGoOn)
 {
     AskOf([](Clerk& clerk) {
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("cmdOkYes")));
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("cmdCancelNo")));
-        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdExit")));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdOkYes"));
+        EXPECT_TRUE(CanEnter(clerk, "cmdOkYes"));
+        EXPECT_TRUE(CanEnter(clerk, "cmdCancelNo"));
+        EXPECT_FALSE(CanEnter(clerk, "cmdExit"));
+        EXPECT_EQ(Focus(clerk), "cmdOkYes");
     });
     NoticeOf([](Clerk& clerk) {
-        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdOkYes")));
-        EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdCancelNo")));
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("cmdExit")));
+        EXPECT_FALSE(CanEnter(clerk, "cmdOkYes"));
+        EXPECT_FALSE(CanEnter(clerk, "cmdCancelNo"));
+        EXPECT_TRUE(CanEnter(clerk, "cmdExit"));
     });
 }
 
-TEST_F(Messages, TheButtonsReadHaoyaNaahiAndPuzo)
+TEST_F(MessagesTest, TheButtonsReadHaoyaNaahiAndPuzo)
 {
     AskOf([](Clerk& clerk) {
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdOkYes")), QStringLiteral("&haoya"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdCancelNo")), QStringLiteral("&naahI"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("puZo"));
+        EXPECT_EQ(Reads(clerk, "cmdOkYes"), "&haoya");
+        EXPECT_EQ(Reads(clerk, "cmdCancelNo"), "&naahI");
+        EXPECT_EQ(Reads(clerk, "cmdExit"), "puZo");
         EXPECT_EQ(LabelOf(clerk, "lblMessages"), Seen(QStringLiteral("roka^D- na@kI badlaayacao ka Æ")));
     });
 }
 
-TEST_F(Messages, AQuestionThatDestroysIsANoOnEnter)
+TEST_F(MessagesTest, AQuestionThatDestroysIsANoOnEnter)
 {
     frmMessages::MessageAnswer = 1;
     bool answer = true;
     Failure = TheClerk.Play([&] { answer = Ask(Shivaji(u"roka^D- na@kI KaoDayacao ka Æ"), OnEnter::No); },
         [](Clerk& clerk) {
-            EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdCancelNo"));
-            clerk.Type(QStringLiteral("{ENTER}"));
-            EXPECT_EQ(clerk.ScreenName(), QString());
+            EXPECT_EQ(Focus(clerk), "cmdCancelNo");
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(OnTop(clerk), "");
         });
     EXPECT_FALSE(answer);
     EXPECT_EQ(frmMessages::MessageAnswer, 0);
 }
 
-TEST_F(Messages, APlainQuestionIsReadAsItIsWrittenAndSoIsAPlainNotice)
+TEST_F(MessagesTest, APlainQuestionIsReadAsItIsWrittenAndSoIsAPlainNotice)
 {
     Failure = TheClerk.Play([] { Ask(Plain(u"Are You Sure to Save ?")); },
         [](Clerk& clerk) {
             EXPECT_EQ(LabelOf(clerk, "lblMessages"), QStringLiteral("Are You Sure to Save ?"));
-            clerk.Type(QStringLiteral("{ENTER}"));
+            Type(clerk, "{ENTER}");
         });
     Failure = TheClerk.Play([] { ShowNotice(Plain(u"Saved")); },
         [](Clerk& clerk) {
             EXPECT_EQ(LabelOf(clerk, "lblMessages"), QStringLiteral("Saved"));
-            clerk.Type(QStringLiteral("{ENTER}"));
+            Type(clerk, "{ENTER}");
         });
 }
 
-TEST_F(Messages, KeysThatWereTypedAheadOfAQuestionOrANoticeAreThrownAway)
+TEST_F(MessagesTest, KeysThatWereTypedAheadOfAQuestionOrANoticeAreThrownAway)
 {
     for (const char* keys : {"{ENTER}{ENTER}", "%h", "{ESC}", "{TAB}{ENTER}"}) {
         frmMessages::MessageAnswer = 0;
@@ -105,69 +105,69 @@ TEST_F(Messages, KeysThatWereTypedAheadOfAQuestionOrANoticeAreThrownAway)
                 m_answer = Ask(Shivaji(u"roka^D- na@kI badlaayacao ka Æ"));
             },
             [keys](Clerk& clerk) {
-                EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMessages")) << keys;
-                EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdOkYes")) << keys;
-                clerk.Type(QStringLiteral("%n"));
-                EXPECT_EQ(clerk.ScreenName(), QString()) << keys;
+                EXPECT_EQ(OnTop(clerk), "frmMessages") << keys;
+                EXPECT_EQ(Focus(clerk), "cmdOkYes") << keys;
+                Type(clerk, "%n");
+                EXPECT_EQ(OnTop(clerk), "") << keys;
             });
         EXPECT_FALSE(m_answer) << keys;
     }
 }
 
-TEST_F(Messages, AKeyThatIsHeldDownAnswersNothing)
+TEST_F(MessagesTest, AKeyThatIsHeldDownAnswersNothing)
 {
     AskOf([](Clerk& clerk) {
         clerk.Do([] {
             QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
             QCoreApplication::sendEvent(ModalStack::Current().Top()->KeyTarget(), &held);
         });
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMessages"));
+        EXPECT_EQ(OnTop(clerk), "frmMessages");
     });
 }
 
-TEST_F(Messages, TheKeysOfTheCaptionsAnswer)
+TEST_F(MessagesTest, TheKeysOfTheCaptionsAnswer)
 {
-    AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("%h")); });
+    AskOf([](Clerk& clerk) { Type(clerk, "%h"); });
     EXPECT_TRUE(m_answer);
     EXPECT_EQ(frmMessages::MessageAnswer, 1);
-    AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("%n")); });
+    AskOf([](Clerk& clerk) { Type(clerk, "%n"); });
     EXPECT_FALSE(m_answer);
     EXPECT_EQ(frmMessages::MessageAnswer, 0);
 }
 
-TEST_F(Messages, ANoticeLeavesTheAnswerAsTheLastQuestionLeftIt)
+TEST_F(MessagesTest, ANoticeLeavesTheAnswerAsTheLastQuestionLeftIt)
 {
-    AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("{ENTER}")); });
-    NoticeOf([](Clerk& clerk) { clerk.Type(QStringLiteral("{ENTER}")); });
+    AskOf([](Clerk& clerk) { Type(clerk, "{ENTER}"); });
+    NoticeOf([](Clerk& clerk) { Type(clerk, "{ENTER}"); });
     EXPECT_EQ(frmMessages::MessageAnswer, 1);
 }
 
-TEST_F(Messages, ClosedByItsCloseBoxNoAnswerIsSetAndNothingIsAgreedTo)
+TEST_F(MessagesTest, ClosedByItsCloseBoxNoAnswerIsSetAndNothingIsAgreedTo)
 {
-    AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("%h")); });
+    AskOf([](Clerk& clerk) { Type(clerk, "%h"); });
     AskOf([](Clerk& clerk) { clerk.CloseBox(); });
     EXPECT_EQ(frmMessages::MessageAnswer, 1) << "as the last question left it";
     EXPECT_FALSE(m_answer);
-    AskOf([](Clerk& clerk) { clerk.Type(QStringLiteral("{ESC}")); });
+    AskOf([](Clerk& clerk) { Type(clerk, "{ESC}"); });
     EXPECT_FALSE(m_answer);
 }
 
-TEST_F(Messages, ThePromptKeepsWhatWasTypedOnLeavingAndOnPuzo)
+TEST_F(MessagesTest, ThePromptKeepsWhatWasTypedOnLeavingAndOnPuzo)
 {
     PromptOf([](Clerk& clerk) {
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtNarration"));
+        EXPECT_EQ(Focus(clerk), "txtNarration");
         EXPECT_EQ(LabelOf(clerk, "lblMessage"), QStringLiteral("नाव"));
-        clerk.Type(QStringLiteral("rama{ENTER}"));
+        Type(clerk, "rama{ENTER}");
         EXPECT_EQ(clerk.On<frmNarrations>().Narration, QStringLiteral("rama"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("puZo"));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        EXPECT_EQ(Reads(clerk, "cmdExit"), "puZo");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_EQ(m_narration, QStringLiteral("rama"));
     EXPECT_EQ(m_field, QStringLiteral("rama"));
 }
 
-TEST_F(Messages, WhatWasTypedBehindTheEndOfAPromptAnswersNoBoxThatComesUpThen)
+TEST_F(MessagesTest, WhatWasTypedBehindTheEndOfAPromptAnswersNoBoxThatComesUpThen)
 {
     for (const bool isPlain : {false, true}) {
         TheBox.Shown.clear();
@@ -186,10 +186,10 @@ TEST_F(Messages, WhatWasTypedBehindTheEndOfAPromptAnswersNoBoxThatComesUpThen)
             [&](Clerk& clerk) {
                 clerk.TypeAhead(QStringLiteral("{ESC}%hrama"));
                 if (!isPlain) {
-                    EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMessages")) << "nothing has answered it";
-                    clerk.Type(QStringLiteral("%n"));
+                    EXPECT_EQ(OnTop(clerk), "frmMessages") << "nothing has answered it";
+                    Type(clerk, "%n");
                 }
-                EXPECT_EQ(clerk.Reads(QStringLiteral("txtNarration")), QString());
+                EXPECT_EQ(Reads(clerk, "txtNarration"), "");
                 clerk.CloseBox();
             });
         EXPECT_FALSE(m_answer);
@@ -198,29 +198,29 @@ TEST_F(Messages, WhatWasTypedBehindTheEndOfAPromptAnswersNoBoxThatComesUpThen)
     EXPECT_EQ(TheBox.Shown.size(), 1);
 }
 
-TEST_F(Messages, EscClearsThePromptAndClosesItAndTheCloseBoxClosesWithoutClearing)
+TEST_F(MessagesTest, EscClearsThePromptAndClosesItAndTheCloseBoxClosesWithoutClearing)
 {
     PromptOf([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("rama{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "rama{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_EQ(m_field, QString());
     EXPECT_EQ(m_narration, QString());
     PromptOf([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("rama"));
+        Type(clerk, "rama");
         clerk.CloseBox();
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_EQ(m_field, QStringLiteral("rama"));
     EXPECT_EQ(m_narration, QString()) << "the field was never left";
 }
 
-TEST_F(Messages, ThePromptOpensTheKeyboardTutorWithF12)
+TEST_F(MessagesTest, ThePromptOpensTheKeyboardTutorWithF12)
 {
     PromptOf([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{F12}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmNarrations"));
+        Type(clerk, "{F12}");
+        EXPECT_EQ(OnTop(clerk), "frmKeyboardTutor");
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(OnTop(clerk), "frmNarrations");
     });
 }

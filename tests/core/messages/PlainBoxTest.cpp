@@ -44,11 +44,11 @@ TEST_F(PlainBoxTest, ShowsTheTextAsItStandsAboveOneButton)
 {
     const QString text = QStringLiteral("a < b & <b>c</b> R&D\nsecond line");
     Tell(text, [&](Clerk& clerk) {
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmPlainBox"));
+        EXPECT_EQ(OnTop(clerk), "frmPlainBox");
         EXPECT_EQ(LabelOf(clerk, "lblText"), text);
         ASSERT_EQ(clerk.Top().Controls().size(), 1);
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdOk")), QStringLiteral("ठीक"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdOk"));
+        EXPECT_EQ(Reads(clerk, "cmdOk"), "ठीक");
+        EXPECT_EQ(Focus(clerk), "cmdOk");
     });
 }
 
@@ -57,12 +57,12 @@ TEST_F(PlainBoxTest, ItIsACardOfTheOneWindowOverTheDimmedScreen)
     Failure = TheClerk.Play([] { ShowNotice(Plain(u"प्रश्न")); },
         [](Clerk& clerk) {
             clerk.Do([] { ShowPlain(QStringLiteral("Duplicate Record")); });
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmPlainBox"));
+            EXPECT_EQ(OnTop(clerk), "frmPlainBox");
             EXPECT_TRUE(clerk.Top().IsCard());
             EXPECT_EQ(clerk.Top().window(), &ProgramWindow::Current());
             EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-            clerk.Type(QStringLiteral("{ENTER}"));
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMessages"));
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(OnTop(clerk), "frmMessages");
         });
 }
 
@@ -86,20 +86,20 @@ TEST_F(PlainBoxTest, EnterSpaceEscAndTheCloseBoxCloseIt)
     for (const char* key : {"{ENTER}", " ", "{ESC}"})
         Tell(QStringLiteral("Access Granted"), [key](Clerk& clerk) {
             clerk.Type(QString::fromLatin1(key));
-            EXPECT_EQ(clerk.ScreenName(), QString()) << key;
+            EXPECT_EQ(OnTop(clerk), "") << key;
         });
     Tell(QStringLiteral("Access Granted"), [](Clerk& clerk) {
         clerk.CloseBox();
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 
 TEST_F(PlainBoxTest, OtherKeysLeaveItStanding)
 {
     Tell(QStringLiteral("Access Granted"), [this](Clerk& clerk) {
-        clerk.Type(QStringLiteral("a1{TAB}{UP}{F2}{F12}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmPlainBox"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdOk"));
+        Type(clerk, "a1{TAB}{UP}{F2}{F12}");
+        EXPECT_EQ(OnTop(clerk), "frmPlainBox");
+        EXPECT_EQ(Focus(clerk), "cmdOk");
         EXPECT_TRUE(TheCalculator.Started.isEmpty());
     });
 }
@@ -112,12 +112,12 @@ TEST_F(PlainBoxTest, KeysThatWereTypedAheadOfItAreThrownAwayAndSoAreThoseOfAKeyT
             ShowPlain(QStringLiteral("Duplicate Record"));
         },
         [](Clerk& clerk) {
-            ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmPlainBox"));
+            ASSERT_EQ(OnTop(clerk), "frmPlainBox");
             clerk.Do([] {
                 QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
                 QCoreApplication::sendEvent(ModalStack::Current().Top()->KeyTarget(), &held);
             });
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmPlainBox"));
+            EXPECT_EQ(OnTop(clerk), "frmPlainBox");
         });
 }
 

@@ -88,7 +88,7 @@ protected:
             screen.rows = rows;
             if (atRow)
                 screen.atRow = [&](int row) { atRow(screen, row); };
-            clerk.Type(QStringLiteral("{TAB}{ENTER}"));
+            Type(clerk, "{TAB}{ENTER}");
             EXPECT_FALSE(screen.IsBarSeen());
             look(screen);
         });

@@ -5,23 +5,6 @@
 #include "tests/core/preview/ReportPreviewTest.h"
 
 #include <QFile>
-#include <QProcess>
-
-Outcome FakePrinter::Print(const PrintJob& job)
-{
-    Jobs.push_back(job);
-    Printed.append(PdfText(job.file));
-    return Answer;
-}
-
-QString PdfText(const QString& file)
-{
-    QProcess reader;
-    reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), file, QStringLiteral("-")});
-    EXPECT_TRUE(reader.waitForFinished());
-    EXPECT_EQ(reader.exitCode(), 0) << reader.readAllStandardError().toStdString();
-    return QString::fromUtf8(reader.readAllStandardOutput());
-}
 
 ReportPreviewTest::ReportPreviewTest()
 {
@@ -114,8 +97,8 @@ void ReportPreviewTest::WaitForLastPage(Clerk& clerk)
 void ReportPreviewTest::SaveAs(Clerk& clerk, const QString& key, const QString& name)
 {
     clerk.Type(key);
-    ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmReportFile"));
+    ASSERT_EQ(OnTop(clerk), "frmReportFile");
     clerk.Type(name + QStringLiteral("{ENTER}") + m_folder.path() + QStringLiteral("{ENTER}"));
-    ASSERT_EQ(clerk.Focus(), QStringLiteral("cmdSave"));
-    clerk.Type(QStringLiteral("{ENTER}"));
+    ASSERT_EQ(Focus(clerk), "cmdSave");
+    Type(clerk, "{ENTER}");
 }

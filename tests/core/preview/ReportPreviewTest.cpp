@@ -34,7 +34,7 @@ protected:
     }
 };
 
-class Preview : public ReportPreviewTest {
+class PreviewTest : public ReportPreviewTest {
 protected:
     // Five deliveries, each on a page of its own: the second and the fourth are Kamal's.
     void AddFivePages()
@@ -64,15 +64,15 @@ protected:
     // Types words into the search and looks for them.
     static void Seek(Clerk& clerk, const QString& words)
     {
-        clerk.Type(QStringLiteral("^f"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtSearch"));
+        Type(clerk, "^f");
+        EXPECT_EQ(Focus(clerk), "txtSearch");
         clerk.Type(Shivaji01::FromUnicode(words) + QStringLiteral("{ENTER}"));
     }
 };
 
 }
 
-TEST_F(Preview, TheFirstPageIsSeenBeforeTheLastOfThreeHundredIsLaidOut)
+TEST_F(PreviewTest, TheFirstPageIsSeenBeforeTheLastOfThreeHundredIsLaidOut)
 {
     AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
     WriteTableTemplate();
@@ -91,7 +91,7 @@ TEST_F(Preview, TheFirstPageIsSeenBeforeTheLastOfThreeHundredIsLaidOut)
     });
 }
 
-TEST_F(Preview, ATurnOfThePageWhileTheLastIsAwaitedStays)
+TEST_F(PreviewTest, ATurnOfThePageWhileTheLastIsAwaitedStays)
 {
     AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
     WriteTableTemplate();
@@ -103,19 +103,19 @@ TEST_F(Preview, ATurnOfThePageWhileTheLastIsAwaitedStays)
     });
 }
 
-TEST_F(Preview, TheTitleIsTheReportsAndTheKeysFitIntoTheWindow)
+TEST_F(PreviewTest, TheTitleIsTheReportsAndTheKeysFitIntoTheWindow)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         EXPECT_EQ(clerk.Top().Title().Seen(), QStringLiteral("Deliveries"));
         EXPECT_LE(clerk.Top().minimumSizeHint().width(), Look::ScreenWidth);
         EXPECT_LE(clerk.Top().layout()->minimumHeightForWidth(Look::ScreenWidth), Look::ScreenHeight);
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("picPage"));
+        EXPECT_EQ(Focus(clerk), "picPage");
     });
 }
 
-TEST_F(Preview, AReportWithATitleShowsItInPlaceOfItsName)
+TEST_F(PreviewTest, AReportWithATitleShowsItInPlaceOfItsName)
 {
     WriteTemplate(QStringLiteral("<report name=\"Deliveries\" title=\"दूध संकलन रिपोर्ट\" paper=\"A4\">"
                                  "<text>एक</text></report>"));
@@ -126,12 +126,12 @@ TEST_F(Preview, AReportWithATitleShowsItInPlaceOfItsName)
     });
 }
 
-TEST_F(Preview, PgDnAndPgUpHomeAndEndTurnThePagesThatAreWhollySeen)
+TEST_F(PreviewTest, PgDnAndPgUpHomeAndEndTurnThePagesThatAreWhollySeen)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
-        clerk.Type(QStringLiteral("{F6}"));
+        Type(clerk, "{F6}");
         const std::pair<const char*, const char*> steps[] = {{"{PGUP}", "1 / 5"}, {"{PGDN}", "2 / 5"},
             {"{PGDN}", "3 / 5"}, {"{PGUP}", "2 / 5"}, {"{END}", "5 / 5"}, {"{PGDN}", "5 / 5"},
             {"{HOME}", "1 / 5"}};
@@ -142,47 +142,47 @@ TEST_F(Preview, PgDnAndPgUpHomeAndEndTurnThePagesThatAreWhollySeen)
     });
 }
 
-TEST_F(Preview, AnArrowScrollsAPageThatIsLargerThanTheWindowAndTurnsItAtItsEdge)
+TEST_F(PreviewTest, AnArrowScrollsAPageThatIsLargerThanTheWindowAndTurnsItAtItsEdge)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
-        clerk.Type(QStringLiteral("{DOWN}"));
+        Type(clerk, "{DOWN}");
         const int once = Scrolled(clerk);
         EXPECT_GT(once, 0);
-        clerk.Type(QStringLiteral("{DOWN}{UP}"));
+        Type(clerk, "{DOWN}{UP}");
         EXPECT_EQ(Scrolled(clerk), once);
         EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
         for (int presses = 0; presses < 100 && Pages(clerk) == QStringLiteral("1 / 5"); ++presses)
-            clerk.Type(QStringLiteral("{DOWN}"));
+            Type(clerk, "{DOWN}");
         EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
         EXPECT_EQ(Scrolled(clerk), 0) << "the next page from its top";
-        clerk.Type(QStringLiteral("{UP}"));
+        Type(clerk, "{UP}");
         EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
         EXPECT_GT(Scrolled(clerk), once) << "the page before from its bottom";
     });
 }
 
-TEST_F(Preview, PgDnAndPgUpScrollALargerPageByTheWindowAndTurnItAtItsEdge)
+TEST_F(PreviewTest, PgDnAndPgUpScrollALargerPageByTheWindowAndTurnItAtItsEdge)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
-        clerk.Type(QStringLiteral("{F7}{PGDN}"));
+        Type(clerk, "{F7}{PGDN}");
         EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
         EXPECT_GT(Scrolled(clerk), View(clerk).Widget()->height() / 4);
         EXPECT_LT(Scrolled(clerk), View(clerk).Widget()->height()) << "nothing is passed over";
         for (int presses = 0; presses < 10 && Pages(clerk) == QStringLiteral("1 / 5"); ++presses)
-            clerk.Type(QStringLiteral("{PGDN}"));
+            Type(clerk, "{PGDN}");
         EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
         EXPECT_EQ(Scrolled(clerk), 0);
-        clerk.Type(QStringLiteral("{PGUP}"));
+        Type(clerk, "{PGUP}");
         EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
         EXPECT_GT(Scrolled(clerk), 0) << "the page before from its bottom";
     });
 }
 
-TEST_F(Preview, ASlipIsWhollyAndLegiblySeenAtOnceAndCanBeScrolledWhenItIsEnlarged)
+TEST_F(PreviewTest, ASlipIsWhollyAndLegiblySeenAtOnceAndCanBeScrolledWhenItIsEnlarged)
 {
     for (const char* roll : {"58mm", "80mm"}) {
         WriteTemplate(QStringLiteral("<report name=\"Deliveries\" paper=\"%1\" margin=\"4\"><text>एक</text>"
@@ -191,77 +191,77 @@ TEST_F(Preview, ASlipIsWhollyAndLegiblySeenAtOnceAndCanBeScrolledWhenItIsEnlarge
         Show([](Clerk& clerk) {
             WaitForLastPage(clerk);
             EXPECT_GE(View(clerk).Percent(), 100) << qPrintable(Zoom(clerk));
-            clerk.Type(QStringLiteral("{DOWN}"));
+            Type(clerk, "{DOWN}");
             EXPECT_EQ(Scrolled(clerk), 0) << "all of it is seen";
             for (int presses = 0; presses < 15; ++presses)
-                clerk.Type(QStringLiteral("{+}"));
+                Type(clerk, "{+}");
             EXPECT_EQ(Scrolled(clerk), 0);
-            clerk.Type(QStringLiteral("{DOWN}"));
+            Type(clerk, "{DOWN}");
             const int once = Scrolled(clerk);
             EXPECT_GT(once, 0);
-            clerk.Type(QStringLiteral("{PGDN}"));
+            Type(clerk, "{PGDN}");
             EXPECT_GT(Scrolled(clerk), once);
         });
     }
 }
 
-TEST_F(Preview, APageThatWouldBeTooSmallAsAWholeIsShownInItsWidthAtFirst)
+TEST_F(PreviewTest, APageThatWouldBeTooSmallAsAWholeIsShownInItsWidthAtFirst)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
         const QString first = Zoom(clerk);
-        clerk.Type(QStringLiteral("{F5}"));
+        Type(clerk, "{F5}");
         EXPECT_EQ(Zoom(clerk), first);
         EXPECT_GE(View(clerk).Percent(), 75);
     });
 }
 
-TEST_F(Preview, ThePageIsFittedToTheWidthToTheWindowOrShownInItsOwnSize)
+TEST_F(PreviewTest, ThePageIsFittedToTheWidthToTheWindowOrShownInItsOwnSize)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
         const QString wide = Zoom(clerk);
-        clerk.Type(QStringLiteral("{F6}"));
+        Type(clerk, "{F6}");
         const QString whole = Zoom(clerk);
         EXPECT_NE(whole, wide);
-        clerk.Type(QStringLiteral("{DOWN}"));
+        Type(clerk, "{DOWN}");
         EXPECT_EQ(View(clerk).Text(), QStringLiteral("2")) << "there is nothing to scroll in a whole page";
-        clerk.Type(QStringLiteral("{F7}"));
+        Type(clerk, "{F7}");
         EXPECT_EQ(Zoom(clerk), QStringLiteral("100 %"));
-        clerk.Type(QStringLiteral("{F5}"));
+        Type(clerk, "{F5}");
         EXPECT_EQ(Zoom(clerk), wide);
     });
 }
 
-TEST_F(Preview, PlusAndMinusGoThroughTheSizesAndStopAtTheLast)
+TEST_F(PreviewTest, PlusAndMinusGoThroughTheSizesAndStopAtTheLast)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{F7}{+}"));
+        Type(clerk, "{F7}{+}");
         EXPECT_EQ(Zoom(clerk), QStringLiteral("125 %"));
-        clerk.Type(QStringLiteral("--"));
+        Type(clerk, "--");
         EXPECT_EQ(Zoom(clerk), QStringLiteral("75 %"));
         for (int presses = 0; presses < 15; ++presses)
-            clerk.Type(QStringLiteral("-"));
+            Type(clerk, "-");
         EXPECT_EQ(Zoom(clerk), QStringLiteral("25 %"));
         for (int presses = 0; presses < 15; ++presses)
-            clerk.Type(QStringLiteral("{+}"));
+            Type(clerk, "{+}");
         EXPECT_EQ(Zoom(clerk), QStringLiteral("300 %"));
-        clerk.Type(QStringLiteral("{RIGHT}"));
+        Type(clerk, "{RIGHT}");
         const auto* area = static_cast<QAbstractScrollArea*>(View(clerk).Widget());
         EXPECT_GT(area->horizontalScrollBar()->value(), 0);
-        clerk.Type(QStringLiteral("{LEFT}"));
+        Type(clerk, "{LEFT}");
         EXPECT_EQ(area->horizontalScrollBar()->value(), 0);
     });
 }
 
-TEST_F(Preview, ASearchGoesToThePageAndMarksTheHitAndF3GoesOn)
+TEST_F(PreviewTest, ASearchGoesToThePageAndMarksTheHitAndF3GoesOn)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
         Seek(clerk, QStringLiteral("कमल"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("picPage"));
+        EXPECT_EQ(Focus(clerk), "picPage");
         EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
         EXPECT_FALSE(View(clerk).Marked().isEmpty());
         EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 2"));
@@ -272,64 +272,64 @@ TEST_F(Preview, ASearchGoesToThePageAndMarksTheHitAndF3GoesOn)
             EXPECT_EQ(Pages(clerk), QLatin1String(pages)) << key;
             EXPECT_FALSE(View(clerk).Marked().isEmpty()) << key;
         }
-        clerk.Type(QStringLiteral("{END}{F3}"));
+        Type(clerk, "{END}{F3}");
         EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5")) << "behind the last it begins anew";
-        clerk.Type(QStringLiteral("{F6}{PGDN}{F3}"));
+        Type(clerk, "{F6}{PGDN}{F3}");
         EXPECT_EQ(Pages(clerk), QStringLiteral("4 / 5")) << "it goes on from the page that is looked at";
     });
 }
 
-TEST_F(Preview, ASearchThatFindsNothingSaysSoAndLeavesThePage)
+TEST_F(PreviewTest, ASearchThatFindsNothingSaysSoAndLeavesThePage)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
-        clerk.Type(QStringLiteral("{F6}{PGDN}"));
+        Type(clerk, "{F6}{PGDN}");
         Seek(clerk, QStringLiteral("गणपत"));
         EXPECT_EQ(State(clerk), QStringLiteral("सापडले नाही"));
         EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
         EXPECT_TRUE(View(clerk).Marked().isEmpty());
-        clerk.Type(QStringLiteral("{F3}"));
+        Type(clerk, "{F3}");
         EXPECT_EQ(State(clerk), QStringLiteral("सापडले नाही"));
     });
 }
 
-TEST_F(Preview, AnEmptySearchAsksForTheWords)
+TEST_F(PreviewTest, AnEmptySearchAsksForTheWords)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{F3}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtSearch"));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtSearch"));
+        Type(clerk, "{F3}");
+        EXPECT_EQ(Focus(clerk), "txtSearch");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtSearch");
         EXPECT_EQ(State(clerk), QString());
     });
 }
 
-TEST_F(Preview, FiguresAndDatesAreFoundAsTheyAreTyped)
+TEST_F(PreviewTest, FiguresAndDatesAreFoundAsTheyAreTyped)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
-        clerk.Type(QStringLiteral("^f1.50{ENTER}"));
+        Type(clerk, "^f1.50{ENTER}");
         EXPECT_EQ(Pages(clerk), QStringLiteral("3 / 5"));
         EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 1"));
-        clerk.Type(QStringLiteral("^f05/04/2026{ENTER}"));
+        Type(clerk, "^f05/04/2026{ENTER}");
         EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 3 / 5"));
     });
 }
 
-TEST_F(Preview, LatinLettersOnThePaperAreFoundAsTheyAreTyped)
+TEST_F(PreviewTest, LatinLettersOnThePaperAreFoundAsTheyAreTyped)
 {
     WriteTemplate(QStringLiteral("<report name=\"Deliveries\" paper=\"A4\"><text>SNF</text></report>"));
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
-        clerk.Type(QStringLiteral("^fSNF{ENTER}"));
+        Type(clerk, "^fSNF{ENTER}");
         EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 1"));
     });
 }
 
-TEST_F(Preview, BlanksAroundTheTypedWordsAreNoPartOfThem)
+TEST_F(PreviewTest, BlanksAroundTheTypedWordsAreNoPartOfThem)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
@@ -340,7 +340,7 @@ TEST_F(Preview, BlanksAroundTheTypedWordsAreNoPartOfThem)
     });
 }
 
-TEST_F(Preview, ASearchBehindWhatIsLaidOutWaitsForTheRest)
+TEST_F(PreviewTest, ASearchBehindWhatIsLaidOutWaitsForTheRest)
 {
     AddDeliveries(LongReport, [](int number) {
         return number == LongReport - 1 ? QStringLiteral("कमल पाटील") : QStringLiteral("अशोक शिंदे");
@@ -357,23 +357,23 @@ TEST_F(Preview, ASearchBehindWhatIsLaidOutWaitsForTheRest)
     });
 }
 
-TEST_F(Preview, EscLeavesTheSearchFirstAndThenCloses)
+TEST_F(PreviewTest, EscLeavesTheSearchFirstAndThenCloses)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("^f{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("picPage"));
-        clerk.Type(QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "^f{ESC}");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
+        EXPECT_EQ(Focus(clerk), "picPage");
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 
-TEST_F(Preview, EscClosesAReportWhoseLastPageIsNotYetThereAndTheNextReadsTheBooksAnew)
+TEST_F(PreviewTest, EscClosesAReportWhoseLastPageIsNotYetThereAndTheNextReadsTheBooksAnew)
 {
     AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
     WriteTableTemplate();
-    Show([](Clerk& clerk) { clerk.Type(QStringLiteral("{ESC}")); });
+    Show([](Clerk& clerk) { Type(clerk, "{ESC}"); });
     Run(QStringLiteral("delete * from MilkCollectionsTemp"));
     AddDeliveries(1, [](int) { return QStringLiteral("कमल पाटील"); });
     Show([](Clerk& clerk) {
@@ -382,12 +382,12 @@ TEST_F(Preview, EscClosesAReportWhoseLastPageIsNotYetThereAndTheNextReadsTheBook
     });
 }
 
-TEST_F(Preview, ThePageNumbersOnThePagesAreCompleteOnceTheyAreKnown)
+TEST_F(PreviewTest, ThePageNumbersOnThePagesAreCompleteOnceTheyAreKnown)
 {
     AddFivePages();
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
-        clerk.Type(QStringLiteral("^f5{ENTER}"));
+        Type(clerk, "^f5{ENTER}");
         EXPECT_NE(State(clerk), QStringLiteral("सापडले नाही"));
     });
 }

@@ -1,24 +1,8 @@
 #pragma once
 
 #include "core/preview/ReportHandover.h"
+#include "tests/support/FakePrinter.h"
 #include "tests/support/SocietyTest.h"
-
-#include <vector>
-
-// A printer that takes every job, unless a test says otherwise.
-class FakePrinter final : public Printer {
-public:
-    QStringList There{QStringLiteral("Office")};
-    Outcome Answer;
-    std::vector<PrintJob> Jobs;
-    QStringList Printed; // what can be read on the paper
-
-    QStringList Names() override { return There; }
-    Outcome Print(const PrintJob& job) override;
-};
-
-// What can be read in a PDF.
-QString PdfText(const QString& file);
 
 // Reports over staged deliveries, shown in the preview.
 class ReportPreviewTest : public SocietyTest {

@@ -8,9 +8,9 @@ namespace {
 
 const QString Refusal = QStringLiteral("प्रिंटरने काम घेतले नाही.");
 
-class ReportPrinting : public ReportPreviewTest {
+class ReportPrintingTest : public ReportPreviewTest {
 protected:
-    ReportPrinting()
+    ReportPrintingTest()
     {
         AddDeliveries(3, [](int) { return QStringLiteral("अशोक शिंदे"); });
         WriteTableTemplate();
@@ -27,7 +27,7 @@ protected:
         Failure = TheClerk.Play([&] { exitCode = RunProgram(); },
             [&](Clerk& clerk) {
                 clerk.Do([&] { ReportControl(control).Print(); });
-                EXPECT_EQ(clerk.ScreenName(), QString());
+                EXPECT_EQ(OnTop(clerk), "");
             });
         EXPECT_EQ(exitCode, 1);
         return TheBox.Shown.size() == 1 ? TheBox.Shown.first()
@@ -37,11 +37,11 @@ protected:
 
 }
 
-TEST_F(ReportPrinting, TheReportGoesToTheOnlyPrinterWithoutAQuestion)
+TEST_F(ReportPrintingTest, TheReportGoesToTheOnlyPrinterWithoutAQuestion)
 {
     Show([this](Clerk& clerk) {
-        clerk.Type(QStringLiteral("^p"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        Type(clerk, "^p");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         EXPECT_EQ(State(clerk), QStringLiteral("छपाईला पाठवले: Office"));
         ASSERT_EQ(m_printer->Jobs.size(), 1U);
         EXPECT_EQ(m_printer->Jobs.front().title, QStringLiteral("Deliveries"));
@@ -51,54 +51,54 @@ TEST_F(ReportPrinting, TheReportGoesToTheOnlyPrinterWithoutAQuestion)
     EXPECT_TRUE(TheBox.Shown.isEmpty());
 }
 
-TEST_F(ReportPrinting, OneOfSeveralPrintersIsChosen)
+TEST_F(ReportPrintingTest, OneOfSeveralPrintersIsChosen)
 {
     m_printer->There = {QStringLiteral("Office"), QStringLiteral("Roll")};
     Show([this](Clerk& clerk) {
-        clerk.Type(QStringLiteral("^p"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPrinter"));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("lstPrinters")), QStringLiteral("Office"));
-        clerk.Type(QStringLiteral("{DOWN}{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        Type(clerk, "^p");
+        EXPECT_EQ(OnTop(clerk), "frmReportPrinter");
+        EXPECT_EQ(Reads(clerk, "lstPrinters"), "Office");
+        Type(clerk, "{DOWN}{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         ASSERT_EQ(m_printer->Jobs.size(), 1U);
         EXPECT_EQ(m_printer->Jobs.front().printer, QStringLiteral("Roll"));
     });
 }
 
-TEST_F(ReportPrinting, EscAmongThePrintersPrintsNothing)
+TEST_F(ReportPrintingTest, EscAmongThePrintersPrintsNothing)
 {
     m_printer->There = {QStringLiteral("Office"), QStringLiteral("Roll")};
     Show([this](Clerk& clerk) {
-        clerk.Type(QStringLiteral("^p{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        Type(clerk, "^p{ESC}");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         EXPECT_TRUE(m_printer->Jobs.empty());
     });
 }
 
-TEST_F(ReportPrinting, ARefusalIsAPlainMessageAndNothingOfTheBooksIsLost)
+TEST_F(ReportPrintingTest, ARefusalIsAPlainMessageAndNothingOfTheBooksIsLost)
 {
     m_printer->Answer = {Refusal};
     const QStringList before = Rows(QStringLiteral("select * from MilkCollectionsTemp"));
     Show([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("^p"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        Type(clerk, "^p");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         EXPECT_EQ(State(clerk), QString());
     });
     EXPECT_EQ(TheBox.Shown, QStringList(Refusal));
     EXPECT_EQ(Rows(QStringLiteral("select * from MilkCollectionsTemp")), before);
 }
 
-TEST_F(ReportPrinting, WithoutAPrinterTheRefusalIsToldToo)
+TEST_F(ReportPrintingTest, WithoutAPrinterTheRefusalIsToldToo)
 {
     m_printer->There.clear();
     m_printer->Answer = {Refusal};
-    Show([](Clerk& clerk) { clerk.Type(QStringLiteral("^p")); });
+    Show([](Clerk& clerk) { Type(clerk, "^p"); });
     EXPECT_EQ(TheBox.Shown, QStringList(Refusal));
 }
 
-TEST_F(ReportPrinting, WhatIsPrintedLiesWithTheBooksAndIsSweptAtTheNextStart)
+TEST_F(ReportPrintingTest, WhatIsPrintedLiesWithTheBooksAndIsSweptAtTheNextStart)
 {
-    Show([](Clerk& clerk) { clerk.Type(QStringLiteral("^p")); });
+    Show([](Clerk& clerk) { Type(clerk, "^p"); });
     ASSERT_EQ(m_printer->Jobs.size(), 1U);
     const QString printed = m_printer->Jobs.front().file;
     EXPECT_EQ(QFileInfo(printed).absoluteFilePath(), FolderFile(QFileInfo(printed).fileName()));
@@ -109,7 +109,7 @@ TEST_F(ReportPrinting, WhatIsPrintedLiesWithTheBooksAndIsSweptAtTheNextStart)
     EXPECT_TRUE(QFile::exists(FolderFile(QStringLiteral("Morvelta.mdb"))));
 }
 
-TEST_F(ReportPrinting, APrintWithoutThePreviewTellsTheRefusalAndGoesOn)
+TEST_F(ReportPrintingTest, APrintWithoutThePreviewTellsTheRefusalAndGoesOn)
 {
     m_printer->Answer = {Refusal};
     ReportControl control = Control();
@@ -121,7 +121,7 @@ TEST_F(ReportPrinting, APrintWithoutThePreviewTellsTheRefusalAndGoesOn)
     EXPECT_EQ(m_printer->Printed.size(), 2);
 }
 
-TEST_F(ReportPrinting, ATemplatesFaultsAreAllShownInTheBoxThatEndsTheProgram)
+TEST_F(ReportPrintingTest, ATemplatesFaultsAreAllShownInTheBoxThatEndsTheProgram)
 {
     WriteTemplate(QStringLiteral("<report name=\"Deliveries\" paper=\"A4\">\n"
                                  "<source name=\"c\" table=\"MilkCollectionsTemp\"/>\n"
@@ -136,13 +136,13 @@ TEST_F(ReportPrinting, ATemplatesFaultsAreAllShownInTheBoxThatEndsTheProgram)
         EXPECT_TRUE(box.contains(QLatin1String(piece))) << piece << " in " << qPrintable(box);
 }
 
-TEST_F(ReportPrinting, AMissingTemplateIsNamedInTheBoxThatEndsTheProgram)
+TEST_F(ReportPrintingTest, AMissingTemplateIsNamedInTheBoxThatEndsTheProgram)
 {
     ASSERT_TRUE(QFile::remove(FolderFile(QStringLiteral("Deliveries.rpt"))));
     EXPECT_TRUE(EndOfProgram(Control()).contains(QStringLiteral("Deliveries.rpt")));
 }
 
-TEST_F(ReportPrinting, AFormulaThatCantBeReadIsShownInTheBoxThatEndsTheProgram)
+TEST_F(ReportPrintingTest, AFormulaThatCantBeReadIsShownInTheBoxThatEndsTheProgram)
 {
     ReportControl control = Control();
     const QString formula = QStringLiteral("{MilkCollectionsTemp.CollectionNo} near 5");
@@ -150,7 +150,7 @@ TEST_F(ReportPrinting, AFormulaThatCantBeReadIsShownInTheBoxThatEndsTheProgram)
     EXPECT_TRUE(EndOfProgram(control).contains(formula));
 }
 
-TEST_F(ReportPrinting, ASelectionFormulaNarrowsWhatIsShown)
+TEST_F(ReportPrintingTest, ASelectionFormulaNarrowsWhatIsShown)
 {
     ReportControl control = Control();
     control.SetSelectionFormula(QStringLiteral("{MilkCollectionsTemp.CollectionNo} = 2"));

@@ -36,9 +36,9 @@ private:
 const QString PdfKey = QStringLiteral("^s");
 const QString CsvKey = QStringLiteral("^e");
 
-class ReportSaving : public ReportPreviewTest {
+class ReportSavingTest : public ReportPreviewTest {
 protected:
-    ReportSaving()
+    ReportSavingTest()
     {
         AddDeliveries(3, [](int number) {
             return number == 2 ? QStringLiteral("कमल, पाटील") : QStringLiteral("क्षमा द्विवेदी");
@@ -68,20 +68,20 @@ protected:
 
 }
 
-TEST_F(ReportSaving, ThePdfReadsAsTheScreenDoes)
+TEST_F(ReportSavingTest, ThePdfReadsAsTheScreenDoes)
 {
     Show([this](Clerk& clerk) {
         SaveAs(clerk, PdfKey, QStringLiteral("april.pdf"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         EXPECT_EQ(State(clerk), QStringLiteral("जतन केले: ") + Saved(QStringLiteral("april.pdf")));
     });
-    const QString text = PdfText(Saved(QStringLiteral("april.pdf")));
+    const QString text = PdfText(Saved(QStringLiteral("april.pdf")), {QStringLiteral("-layout")});
     for (const char* piece : {"श्री गणेश दूध संस्था", "क्षमा द्विवेदी", "कमल, पाटील", "पान 1 / 1", "3.00"})
         EXPECT_TRUE(text.contains(QString::fromUtf8(piece))) << piece << " in " << qPrintable(text);
     EXPECT_EQ(InFolder(), QStringList(QStringLiteral("april.pdf")));
 }
 
-TEST_F(ReportSaving, TheCsvIsUnicodeWithItsMarkAndOneRowARecord)
+TEST_F(ReportSavingTest, TheCsvIsUnicodeWithItsMarkAndOneRowARecord)
 {
     Show([this](Clerk& clerk) { SaveAs(clerk, CsvKey, QStringLiteral("april.csv")); });
     EXPECT_EQ(Content(QStringLiteral("april.csv")).toStdString(),
@@ -92,30 +92,30 @@ TEST_F(ReportSaving, TheCsvIsUnicodeWithItsMarkAndOneRowARecord)
         "3,क्षमा द्विवेदी,05/04/2026,1.50\r\n");
 }
 
-TEST_F(ReportSaving, TheReportsNameAndTheDayAreProposedInTheClerksDocuments)
+TEST_F(ReportSavingTest, TheReportsNameAndTheDayAreProposedInTheClerksDocuments)
 {
     Show([](Clerk& clerk) {
         clerk.Type(PdfKey);
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")), QStringLiteral("Deliveries 15-04-2026.pdf"));
+        EXPECT_EQ(Reads(clerk, "txtFile"), "Deliveries 15-04-2026.pdf");
         const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
         EXPECT_EQ(clerk.Reads(QStringLiteral("txtFolder")),
             QDir(documents).exists() ? documents : QDir::homePath());
         clerk.Type(QStringLiteral("{ESC}") + CsvKey);
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")), QStringLiteral("Deliveries 15-04-2026.csv"));
+        EXPECT_EQ(Reads(clerk, "txtFile"), "Deliveries 15-04-2026.csv");
     });
 }
 
-TEST_F(ReportSaving, ATitleIsProposedInPlaceOfTheNameWithoutSignsThatNoFileTakes)
+TEST_F(ReportSavingTest, ATitleIsProposedInPlaceOfTheNameWithoutSignsThatNoFileTakes)
 {
     WriteTemplate(QStringLiteral("<report name=\"Deliveries\" title=\"दूध यादी : बँक\" paper=\"A4\">"
                                  "<text>एक</text></report>"));
     Show([](Clerk& clerk) {
         clerk.Type(PdfKey);
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")), QStringLiteral("दूध यादी - बँक 15-04-2026.pdf"));
+        EXPECT_EQ(Reads(clerk, "txtFile"), "दूध यादी - बँक 15-04-2026.pdf");
     });
 }
 
-TEST_F(ReportSaving, TheNameCarriesWhatTheReportIsAbout)
+TEST_F(ReportSavingTest, TheNameCarriesWhatTheReportIsAbout)
 {
     ReportControl control = Control();
     control.SetSubject(
@@ -123,12 +123,11 @@ TEST_F(ReportSaving, TheNameCarriesWhatTheReportIsAbout)
     Failure = TheClerk.Play([&] { control.Print(); },
         [](Clerk& clerk) {
             clerk.Type(CsvKey);
-            EXPECT_EQ(clerk.Reads(QStringLiteral("txtFile")),
-                QStringLiteral("Deliveries सुनीता पाटील 01-04-2026 ते 10-04-2026.csv"));
+            EXPECT_EQ(Reads(clerk, "txtFile"), "Deliveries सुनीता पाटील 01-04-2026 ते 10-04-2026.csv");
         });
 }
 
-TEST_F(ReportSaving, OneDayIsNamedOnceAndWithoutAnyItIsToday)
+TEST_F(ReportSavingTest, OneDayIsNamedOnceAndWithoutAnyItIsToday)
 {
     EXPECT_EQ(ReportSubject({QStringLiteral("gaaya")}, QDate(2026, 4, 1), QDate(2026, 4, 1)),
         QStringLiteral("गाय 01-04-2026"));
@@ -136,55 +135,55 @@ TEST_F(ReportSaving, OneDayIsNamedOnceAndWithoutAnyItIsToday)
     EXPECT_EQ(ReportSubject({QStringLiteral("puNao")}), QStringLiteral("पुणे 15-04-2026"));
 }
 
-TEST_F(ReportSaving, ANameWithoutItsEndingGetsIt)
+TEST_F(ReportSavingTest, ANameWithoutItsEndingGetsIt)
 {
     Show([this](Clerk& clerk) { SaveAs(clerk, PdfKey, QStringLiteral("april.2026")); });
     EXPECT_EQ(InFolder(), QStringList(QStringLiteral("april.2026.pdf")));
 }
 
-TEST_F(ReportSaving, EscAndTheExitButtonSaveNothing)
+TEST_F(ReportSavingTest, EscAndTheExitButtonSaveNothing)
 {
     Show([this](Clerk& clerk) {
         clerk.Type(PdfKey + QStringLiteral("april{ENTER}") + m_folder.path() + QStringLiteral("{ESC}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         clerk.Type(
             PdfKey + QStringLiteral("april{ENTER}") + m_folder.path() + QStringLiteral("{ENTER}{TAB}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdExit"));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        EXPECT_EQ(Focus(clerk), "cmdExit");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         EXPECT_EQ(State(clerk), QString());
     });
     EXPECT_EQ(InFolder(), QStringList());
 }
 
-TEST_F(ReportSaving, AFileThatIsThereIsOnlyReplacedAfterAYes)
+TEST_F(ReportSavingTest, AFileThatIsThereIsOnlyReplacedAfterAYes)
 {
     Put(QStringLiteral("april.csv"), "old");
     Show([this](Clerk& clerk) {
         SaveAs(clerk, CsvKey, QStringLiteral("april.csv"));
         EXPECT_EQ(clerk.Message(), QStringLiteral("या नावाची फाइल आधीच आहे. ती बदलायची का?"));
-        clerk.Type(QStringLiteral("%h"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        Type(clerk, "%h");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
     });
     EXPECT_TRUE(Content(QStringLiteral("april.csv")).contains("0.50"));
 }
 
-TEST_F(ReportSaving, ANoLeavesTheFileAndAsksForAnotherName)
+TEST_F(ReportSavingTest, ANoLeavesTheFileAndAsksForAnotherName)
 {
     Put(QStringLiteral("april.csv"), "old");
     Show([this](Clerk& clerk) {
         SaveAs(clerk, CsvKey, QStringLiteral("april.csv"));
-        clerk.Type(QStringLiteral("{ENTER}")); // what replaces a file isn't done by an Enter too many
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportFile"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFile"));
+        Type(clerk, "{ENTER}"); // what replaces a file isn't done by an Enter too many
+        EXPECT_EQ(OnTop(clerk), "frmReportFile");
+        EXPECT_EQ(Focus(clerk), "txtFile");
         EXPECT_EQ(Content(QStringLiteral("april.csv")).toStdString(), "old");
-        clerk.Type(QStringLiteral("may{ENTER}{ENTER}{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+        Type(clerk, "may{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "frmReportPreview");
     });
     EXPECT_EQ(InFolder(), QStringList({QStringLiteral("april.csv"), QStringLiteral("may.csv")}));
 }
 
-TEST_F(ReportSaving, AMissingFolderIsToldAndAskedForAgain)
+TEST_F(ReportSavingTest, AMissingFolderIsToldAndAskedForAgain)
 {
     const QString missing = Saved(QStringLiteral("nowhere"));
     Show([&](Clerk& clerk) {
@@ -193,35 +192,35 @@ TEST_F(ReportSaving, AMissingFolderIsToldAndAskedForAgain)
         EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("हा फोल्डर नाही")))
             << qPrintable(TheBox.Shown.first());
         EXPECT_TRUE(TheBox.Shown.first().contains(missing));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportFile"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFolder"));
+        EXPECT_EQ(OnTop(clerk), "frmReportFile");
+        EXPECT_EQ(Focus(clerk), "txtFolder");
     });
     EXPECT_FALSE(QDir(missing).exists());
 }
 
-TEST_F(ReportSaving, AnEmptyNameOrFolderIsAskedForAgain)
+TEST_F(ReportSavingTest, AnEmptyNameOrFolderIsAskedForAgain)
 {
     Show([&](Clerk& clerk) {
         clerk.Type(PdfKey + QStringLiteral("{DEL}{ENTER}{ENTER}{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFile"));
-        clerk.Type(QStringLiteral("april{ENTER}{DEL}{ENTER}{ENTER}"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFolder"));
+        EXPECT_EQ(Focus(clerk), "txtFile");
+        Type(clerk, "april{ENTER}{DEL}{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtFolder");
         EXPECT_EQ(TheBox.Shown.size(), 1);
     });
 }
 
-TEST_F(ReportSaving, AFolderOfThatNameIsNotWrittenOver)
+TEST_F(ReportSavingTest, AFolderOfThatNameIsNotWrittenOver)
 {
     ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("april.pdf")));
     Show([&](Clerk& clerk) {
         SaveAs(clerk, PdfKey, QStringLiteral("april"));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("txtFile"));
+        EXPECT_EQ(Focus(clerk), "txtFile");
         ASSERT_EQ(TheBox.Shown.size(), 1);
         EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("या नावाचा फोल्डर आहे")));
     });
 }
 
-TEST_F(ReportSaving, AFullDiskIsToldAndLeavesTheOldFileAndNothingElse)
+TEST_F(ReportSavingTest, AFullDiskIsToldAndLeavesTheOldFileAndNothingElse)
 {
     for (const QString& ending : {QStringLiteral("pdf"), QStringLiteral("csv")}) {
         const QString name = QStringLiteral("april.") + ending;
@@ -231,11 +230,11 @@ TEST_F(ReportSaving, AFullDiskIsToldAndLeavesTheOldFileAndNothingElse)
             WaitForLastPage(clerk);
             SaveAs(clerk, ending == u"pdf" ? PdfKey : CsvKey, name);
             const SmallDisk full(40);
-            clerk.Type(QStringLiteral("%h"));
+            Type(clerk, "%h");
             ASSERT_EQ(TheBox.Shown.size(), 1);
             EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("फाइल लिहिता आली नाही")))
                 << qPrintable(TheBox.Shown.first());
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmReportPreview"));
+            EXPECT_EQ(OnTop(clerk), "frmReportPreview");
             EXPECT_EQ(State(clerk), QString());
         });
         EXPECT_EQ(Content(name).toStdString(), "old");

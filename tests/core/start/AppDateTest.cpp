@@ -5,9 +5,9 @@
 
 namespace {
 
-class AppDate : public SocietyTest {
+class AppDateTest : public SocietyTest {
 protected:
-    AppDate() { gAppState.gAppDate = QDate(); }
+    AppDateTest() { gAppState.gAppDate = QDate(); }
 
     void AddDelivery(const QString& date, int number)
     {
@@ -23,101 +23,101 @@ protected:
 
 }
 
-TEST_F(AppDate, WithoutCollectionsTheFirstOfAprilOfTheAccountingYearIsProposed)
+TEST_F(AppDateTest, WithoutCollectionsTheFirstOfAprilOfTheAccountingYearIsProposed)
 {
     gAppState.gAccountingYear = QStringLiteral("2010-2011");
     On<frmAppDate>([&](Clerk& clerk) { EXPECT_EQ(clerk.Reads(Mask), QStringLiteral("01/04/2010")); });
 }
 
-TEST_F(AppDate, TheLatestDayWithACollectionIsProposedThoughItLiesInThePast)
+TEST_F(AppDateTest, TheLatestDayWithACollectionIsProposedThoughItLiesInThePast)
 {
     AddDelivery(QStringLiteral("09/04/2026"), 1);
     AddDelivery(QStringLiteral("30/03/2026"), 2);
     On<frmAppDate>([&](Clerk& clerk) { EXPECT_EQ(clerk.Reads(Mask), QStringLiteral("09/04/2026")); });
 }
 
-TEST_F(AppDate, TheDateTypedOverTheProposalBecomesTheWorkingDay)
+TEST_F(AppDateTest, TheDateTypedOverTheProposalBecomesTheWorkingDay)
 {
     On<frmAppDate>([&](Clerk& clerk) {
-        clerk.Type(QStringLiteral("15042026{ENTER}"));
+        Type(clerk, "15042026{ENTER}");
         EXPECT_EQ(gAppState.gAppDate, QDate(2026, 4, 15));
-        EXPECT_EQ(clerk.Focus(), QStringLiteral("cmdExit"));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        EXPECT_EQ(Focus(clerk), "cmdExit");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
 }
 
-TEST_F(AppDate, AnyValidDatePassesAlsoOneOutsideTheAccountingYear)
+TEST_F(AppDateTest, AnyValidDatePassesAlsoOneOutsideTheAccountingYear)
 {
     On<frmAppDate>([&](Clerk& clerk) {
-        clerk.Type(QStringLiteral("01011999{ENTER}"));
+        Type(clerk, "01011999{ENTER}");
         EXPECT_EQ(gAppState.gAppDate, QDate(1999, 1, 1));
     });
 }
 
-TEST_F(AppDate, AnEmptyMaskRaisesTheNoticeAndFillsInTodaysDate)
+TEST_F(AppDateTest, AnEmptyMaskRaisesTheNoticeAndFillsInTodaysDate)
 {
     On<frmAppDate>([&](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{DEL}{ENTER}"));
+        Type(clerk, "{DEL}{ENTER}");
         EXPECT_EQ(clerk.Message(), QStringLiteral(" idnaaMk vyavaisqat Ta[-p kra."));
         EXPECT_FALSE(gAppState.gAppDate.isValid());
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         EXPECT_EQ(clerk.Reads(Mask), QStringLiteral("15/04/2026"));
         EXPECT_EQ(clerk.Focus(), Mask);
-        clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ENTER}{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_EQ(gAppState.gAppDate, QDate(2026, 4, 15));
 }
 
-TEST_F(AppDate, ADateThatIsNoneStopsWithTheRunTimeErrorBeforeTheNotice)
+TEST_F(AppDateTest, ADateThatIsNoneStopsWithTheRunTimeErrorBeforeTheNotice)
 {
     for (const char* typed : {"31022026", "25132026", "13252026", "1"}) {
         On<frmAppDate>([&](Clerk& clerk) {
             clerk.Type(QLatin1String(typed) + QStringLiteral("{ENTER}"));
-            EXPECT_EQ(clerk.ScreenName(), QString());
+            EXPECT_EQ(OnTop(clerk), "");
         });
         ASSERT_TRUE(Failure) << typed;
         EXPECT_EQ(Failure->Number(), RunTimeError::TypeMismatch);
     }
 }
 
-TEST_F(AppDate, ClosedByItsCloseBoxBeforeTheFieldWasLeftTheWorkingDayStaysUnset)
+TEST_F(AppDateTest, ClosedByItsCloseBoxBeforeTheFieldWasLeftTheWorkingDayStaysUnset)
 {
     On<frmAppDate>([](Clerk& clerk) { clerk.CloseBox(); });
     EXPECT_FALSE(gAppState.gAppDate.isValid());
 }
 
-TEST_F(AppDate, TheButtonDoesNotCloseOverAnEmptyMask)
+TEST_F(AppDateTest, TheButtonDoesNotCloseOverAnEmptyMask)
 {
     On<frmAppDate>([&](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{DEL}"));
-        clerk.Press(QStringLiteral("cmdExit"));
+        Type(clerk, "{DEL}");
+        Press(clerk, "cmdExit");
         EXPECT_EQ(clerk.Message(), QStringLiteral(" idnaaMk vyavaisqat Ta[-p kra."));
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmAppDate"));
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "frmAppDate");
     });
 }
 
-TEST_F(AppDate, FieldAndButtonWearTheDateColourWithoutTheFocus)
+TEST_F(AppDateTest, FieldAndButtonWearTheDateColourWithoutTheFocus)
 {
     const QColor plain(0xAF, 0xBF, 0xC9);
     const QColor focus(0xFF, 0xC0, 0xC0);
     On<frmAppDate>([&](Clerk& clerk) {
         EXPECT_EQ(BackgroundOf(clerk, "MaskAppDate"), focus);
         EXPECT_EQ(BackgroundOf(clerk, "cmdExit"), plain);
-        clerk.Type(QStringLiteral("{ENTER}"));
+        Type(clerk, "{ENTER}");
         EXPECT_EQ(BackgroundOf(clerk, "MaskAppDate"), plain);
         EXPECT_EQ(BackgroundOf(clerk, "cmdExit"), focus);
     });
 }
 
-TEST_F(AppDate, ItsFaceNamesTheDateTwiceAndTheButtonPuzo)
+TEST_F(AppDateTest, ItsFaceNamesTheDateTwiceAndTheButtonPuzo)
 {
     On<frmAppDate>([](Clerk& clerk) {
         EXPECT_EQ(clerk.Top().Title().Text(), QStringLiteral(" idnaaMk "));
         EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(QStringLiteral(" idnaaMk ")));
         EXPECT_EQ(LabelOf(clerk, "lblDate"), Seen(QStringLiteral("idnaaMk")));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("puZo"));
+        EXPECT_EQ(Reads(clerk, "cmdExit"), "puZo");
     });
 }

@@ -46,7 +46,7 @@ TEST_F(BooksKeeperTest, LeavingAScreenFoldsWhatWasSaved)
             frmNarrations prompt(Plain(u"नाव"));
             prompt.ShowModal();
         },
-        [](Clerk& clerk) { clerk.Type(QStringLiteral("a{ENTER}{ENTER}")); });
+        [](Clerk& clerk) { Type(clerk, "a{ENTER}{ENTER}"); });
     EXPECT_EQ(gCn.LogSize(), 0);
 }
 
@@ -61,9 +61,9 @@ TEST_F(BooksKeeperTest, ABoxIsAnsweredInTheMidstOfAnotherScreensWorkAndFoldsNoth
     };
     for (const auto& box : boxes) {
         Failure = TheClerk.Play(box, [](Clerk& clerk) {
-            EXPECT_NE(clerk.ScreenName(), QString());
-            clerk.Type(QStringLiteral("{ENTER}"));
-            EXPECT_EQ(clerk.ScreenName(), QString());
+            EXPECT_NE(OnTop(clerk), "");
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(OnTop(clerk), "");
         });
         EXPECT_EQ(gCn.LogSize(), unfolded);
     }

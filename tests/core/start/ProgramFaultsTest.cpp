@@ -25,9 +25,9 @@ QMap<QString, QByteArray> Contents(const QString& folder)
     return contents;
 }
 
-class ProgramFaults : public SocietyTest {
+class ProgramFaultsTest : public SocietyTest {
 protected:
-    ProgramFaults() { gCn.Close(); }
+    ProgramFaultsTest() { gCn.Close(); }
 
     // Starts the program, expects it to fail with one box, and returns the box's text.
     QString FailingStart()
@@ -64,46 +64,46 @@ protected:
 
 }
 
-TEST_F(ProgramFaults, AMissingPasswordFileIsNamedInTheBox)
+TEST_F(ProgramFaultsTest, AMissingPasswordFileIsNamedInTheBox)
 {
     ASSERT_TRUE(QFile::remove(FolderFile(Password)));
     EXPECT_TRUE(FailingStart().contains(Password));
 }
 
-TEST_F(ProgramFaults, AnEmptyPasswordFileIsNamedInTheBox)
+TEST_F(ProgramFaultsTest, AnEmptyPasswordFileIsNamedInTheBox)
 {
     Overwrite(Password, {});
     EXPECT_TRUE(FailingStart().contains(Password));
 }
 
-TEST_F(ProgramFaults, APasswordFileWithAByteOrderMarkOpensTheBooks)
+TEST_F(ProgramFaultsTest, APasswordFileWithAByteOrderMarkOpensTheBooks)
 {
     Overwrite(Password, "\xEF\xBB\xBF" + Read(Password));
     EXPECT_NO_THROW(EXPECT_TRUE(LoadAppState()));
     EXPECT_EQ(gAppState.gCompanyId, 1);
 }
 
-TEST_F(ProgramFaults, APasswordFileOfAMegabyteIsNamedInTheBox)
+TEST_F(ProgramFaultsTest, APasswordFileOfAMegabyteIsNamedInTheBox)
 {
     Overwrite(Password, Read(Password).repeated(1'000'000 / Read(Password).size()));
     const QString box = FailingStart();
     EXPECT_TRUE(box.contains(QStringLiteral("PWD.TXT is too long"))) << qPrintable(box);
 }
 
-TEST_F(ProgramFaults, AMissingDatabaseIsNamedInTheBox)
+TEST_F(ProgramFaultsTest, AMissingDatabaseIsNamedInTheBox)
 {
     ASSERT_TRUE(QFile::remove(FolderFile(Database)));
     EXPECT_TRUE(FailingStart().contains(Database));
 }
 
-TEST_F(ProgramFaults, AFolderThatIsMissingIsNotMade)
+TEST_F(ProgramFaultsTest, AFolderThatIsMissingIsNotMade)
 {
     ASSERT_TRUE(QDir(LocalPath(AppFolder)).removeRecursively());
     EXPECT_TRUE(FailingStart().contains(Password));
     EXPECT_FALSE(QDir(LocalPath(AppFolder)).exists());
 }
 
-TEST_F(ProgramFaults, AFileThatIsNoDatabaseIsToldFromABookCutShort)
+TEST_F(ProgramFaultsTest, AFileThatIsNoDatabaseIsToldFromABookCutShort)
 {
     for (const int size : {5000, 8 * PageSize}) {
         Overwrite(Database, QByteArray(size, 'x'));
@@ -114,7 +114,7 @@ TEST_F(ProgramFaults, AFileThatIsNoDatabaseIsToldFromABookCutShort)
     }
 }
 
-TEST_F(ProgramFaults, ABookCutShortIsToldSoWhetherTheCutFallsOnAPageOrWithinOne)
+TEST_F(ProgramFaultsTest, ABookCutShortIsToldSoWhetherTheCutFallsOnAPageOrWithinOne)
 {
     const QByteArray whole = Read(Database);
     const qsizetype half = whole.size() / 2 / PageSize * PageSize;
@@ -127,14 +127,14 @@ TEST_F(ProgramFaults, ABookCutShortIsToldSoWhetherTheCutFallsOnAPageOrWithinOne)
     }
 }
 
-TEST_F(ProgramFaults, AWrongPasswordCantOpenTheBooks)
+TEST_F(ProgramFaultsTest, AWrongPasswordCantOpenTheBooks)
 {
     Overwrite(Password, OtherPassword);
     const QString wrong = FailingStart();
     EXPECT_TRUE(wrong.contains(QStringLiteral("The password is wrong"))) << qPrintable(wrong);
 }
 
-TEST_F(ProgramFaults, TheFaultsAreToldApartAndEachInMarathi)
+TEST_F(ProgramFaultsTest, TheFaultsAreToldApartAndEachInMarathi)
 {
     const QByteArray books = Read(Database);
     const QByteArray password = Read(Password);
@@ -161,22 +161,22 @@ TEST_F(ProgramFaults, TheFaultsAreToldApartAndEachInMarathi)
     }
 }
 
-TEST_F(ProgramFaults, ASecondCopySaysThatTheBooksAreOpenAndEnds)
+TEST_F(ProgramFaultsTest, ASecondCopySaysThatTheBooksAreOpenAndEnds)
 {
     const SingleInstance first(LocalPath(AppFolder));
     ASSERT_TRUE(first.Taken());
     EXPECT_TRUE(FailingStart().contains(QStringLiteral("open in another window")));
 }
 
-TEST_F(ProgramFaults, AnErrorInAHandlerIsShownInABoxAndEndsTheProgramWithOne)
+TEST_F(ProgramFaultsTest, AnErrorInAHandlerIsShownInABoxAndEndsTheProgramWithOne)
 {
     int exitCode = -1;
     Failure = TheClerk.Play([&] { exitCode = RunProgram(); },
         [](Clerk& clerk) {
-            clerk.Type(QStringLiteral("{ENTER}{ENTER}")); // past the title and the caution
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmAppDate"));
-            clerk.Type(QStringLiteral("31022026{ENTER}"));
-            EXPECT_EQ(clerk.ScreenName(), QString()) << "every screen is gone";
+            Type(clerk, "{ENTER}{ENTER}"); // past the title and the caution
+            EXPECT_EQ(OnTop(clerk), "frmAppDate");
+            Type(clerk, "31022026{ENTER}");
+            EXPECT_EQ(OnTop(clerk), "") << "every screen is gone";
         });
     EXPECT_EQ(exitCode, 1);
     ASSERT_EQ(TheBox.Shown.size(), 1);
@@ -184,21 +184,21 @@ TEST_F(ProgramFaults, AnErrorInAHandlerIsShownInABoxAndEndsTheProgramWithOne)
     EXPECT_FALSE(gCn.IsOpen());
 }
 
-TEST_F(ProgramFaults, AnErrorIsReadOnACardOfTheWindowBeforeTheFirstScreenAndAfterTheLast)
+TEST_F(ProgramFaultsTest, AnErrorIsReadOnACardOfTheWindowBeforeTheFirstScreenAndAfterTheLast)
 {
     ShowBoxesInTheWindow();
     const auto readAndClose = [](Clerk& clerk, const char* text) {
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmPlainBox"));
+        EXPECT_EQ(OnTop(clerk), "frmPlainBox");
         EXPECT_TRUE(LabelOf(clerk, "lblText").contains(QString::fromLatin1(text)));
         EXPECT_EQ(ModalStack::Current().Open().size(), 1) << "it stands alone";
         EXPECT_FALSE(gCn.IsOpen());
-        clerk.Type(QStringLiteral("{ENTER}"));
-        EXPECT_EQ(clerk.ScreenName(), QString());
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "");
     };
     int exitCode = -1;
     Failure = TheClerk.Play([&] { exitCode = RunProgram(); },
         [&](Clerk& clerk) {
-            clerk.Type(QStringLiteral("{ENTER}{ENTER}31022026{ENTER}"));
+            Type(clerk, "{ENTER}{ENTER}31022026{ENTER}");
             readAndClose(clerk, "Run-time error '13'");
         });
     EXPECT_EQ(exitCode, 1);

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(KeyAnswer, HasSavedWhatWasCommittedSinceItBegan)
+TEST(KeyAnswerTest, HasSavedWhatWasCommittedSinceItBegan)
 {
     const KeyAnswer answer;
     EXPECT_FALSE(KeyAnswer::HasSaved());
@@ -10,7 +10,7 @@ TEST(KeyAnswer, HasSavedWhatWasCommittedSinceItBegan)
     EXPECT_TRUE(KeyAnswer::HasSaved());
 }
 
-TEST(KeyAnswer, KnowsNothingOfWhatTheOneBeforeItSaved)
+TEST(KeyAnswerTest, KnowsNothingOfWhatTheOneBeforeItSaved)
 {
     const KeyAnswer around;
     {
@@ -21,7 +21,7 @@ TEST(KeyAnswer, KnowsNothingOfWhatTheOneBeforeItSaved)
     EXPECT_FALSE(KeyAnswer::HasSaved());
 }
 
-TEST(KeyAnswer, StillKnowsBehindAQuestionWhatItSavedBeforeIt)
+TEST(KeyAnswerTest, StillKnowsBehindAQuestionWhatItSavedBeforeIt)
 {
     const KeyAnswer answer;
     KeyAnswer::NoteSaved();
@@ -32,7 +32,7 @@ TEST(KeyAnswer, StillKnowsBehindAQuestionWhatItSavedBeforeIt)
     EXPECT_TRUE(KeyAnswer::HasSaved());
 }
 
-TEST(KeyAnswer, KnowsWhatWasSavedInAnswerToAQuestion)
+TEST(KeyAnswerTest, KnowsWhatWasSavedInAnswerToAQuestion)
 {
     const KeyAnswer answer;
     {

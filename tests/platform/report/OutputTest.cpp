@@ -132,7 +132,7 @@ TEST_F(OutputTest, ThePdfReadsAsThePageIsSeenWhereATextIsCutOrDrawnNarrower)
                                      "<col w=\"14\" align=\"right\">{Amount|0.00} रुपये</col></table>")));
     const QString file = Output(QStringLiteral("a.pdf"));
     EXPECT_TRUE(report->SavePdf(file).Done());
-    const QStringList words = Words(PdfText(file));
+    const QStringList words = WordsOf(PdfText(file));
     EXPECT_EQ(words.size(), 7) << words.join(u'|').toStdString();
     EXPECT_EQ(words.value(0), QStringLiteral("महादेव"));
     EXPECT_TRUE(words.value(1).endsWith(u'…')) << "what was left out isn't found in it";
@@ -272,7 +272,7 @@ TEST_F(OutputTest, ARecordIsntLostWhereItsPartIsTallerThanAPage)
     EXPECT_TRUE(report->SaveCsv(file).Done());
     EXPECT_GT(report->PageCount(), 3U);
     EXPECT_EQ(
-        Words(QString::fromUtf8(Content(file).mid(3))).join(u' '), QStringLiteral("CollectionNo 1 2 3"));
+        WordsOf(QString::fromUtf8(Content(file).mid(3))).join(u' '), QStringLiteral("CollectionNo 1 2 3"));
 }
 
 TEST_F(OutputTest, AFullDiskLeavesWhatWasThereBeforeAndNothingElse)
@@ -378,7 +378,7 @@ TEST_F(OutputTest, PaperAndPdfAreNamedByTheTitle)
     EXPECT_TRUE(told.contains(QStringLiteral("दूध यादी"))) << told.toStdString();
 }
 
-TEST(MediaNames, EveryPaperOfTheTemplatesHasTheNameThatPrintersKnow)
+TEST(MediaNamesTest, EveryPaperOfTheTemplatesHasTheNameThatPrintersKnow)
 {
     const std::pair<const char16_t*, const char*> papers[] = {{u"A4", "A4"}, {u"A5", "A5"}, {u"A6", "A6"},
         {u"105x148mm", "A6"}, {u"120x90mm", "Custom.120x90mm"}, {u"10x12in", "Custom.254x304.8mm"},

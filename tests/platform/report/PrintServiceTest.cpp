@@ -81,7 +81,7 @@ template <typename Work> void WithService(const QByteArray& path, Work work)
 
 }
 
-TEST(SystemPrinter, APrintServiceThatDoesntAnswerIsGivenUpAndTold)
+TEST(SystemPrinterTest, APrintServiceThatDoesntAnswerIsGivenUpAndTold)
 {
     constexpr std::chrono::milliseconds Patience(200);
     constexpr qint64 AtMost = 5000;
@@ -106,7 +106,7 @@ TEST(SystemPrinter, APrintServiceThatDoesntAnswerIsGivenUpAndTold)
     });
 }
 
-TEST(SystemPrinter, APrinterThatRefusesAJobIsToldWithItsReason)
+TEST(SystemPrinterTest, APrinterThatRefusesAJobIsToldWithItsReason)
 {
     constexpr std::chrono::milliseconds Patience(5000);
     const QTemporaryDir folder;

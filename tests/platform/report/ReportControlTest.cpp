@@ -69,7 +69,7 @@ TEST_F(ReportControlTest, TheWindowGetsTheReportWithItsFirstPage)
     ASSERT_EQ(Window.Shown.size(), 1U);
     EXPECT_EQ(Window.Shown[0]->PageCount(), 1U);
     EXPECT_EQ(ShownTexts(), QStringLiteral("1 2"));
-    EXPECT_EQ(ThePrinter.Jobs, 0);
+    EXPECT_EQ(ThePrinter.Jobs.size(), 0U);
 }
 
 TEST_F(ReportControlTest, TheSelectionFormulaNarrowsIt)
@@ -98,7 +98,7 @@ TEST_F(ReportControlTest, ThePrinterGetsItAndTheWindowDoesnt)
 {
     Control.SetDestination(ReportDestination::Printer);
     EXPECT_TRUE(Control.Print());
-    EXPECT_EQ(ThePrinter.Jobs, 1);
+    EXPECT_EQ(ThePrinter.Jobs.size(), 1U);
     EXPECT_TRUE(Window.Shown.empty());
 }
 
@@ -168,7 +168,7 @@ TEST_F(ReportControlTest, PreparingAgainNeitherDisturbsAReportThatIsBeingReadNor
     Control.Prepare();
     EXPECT_FALSE(Window.Shown[0]->IsComplete());
     EXPECT_EQ(Window.Shown.size(), 1U);
-    EXPECT_EQ(ThePrinter.Jobs, 0);
+    EXPECT_EQ(ThePrinter.Jobs.size(), 0U);
     EXPECT_TRUE(Control.Print());
     EXPECT_TRUE(ShownTexts(1).startsWith(QStringLiteral("1 2 3 4 ")));
 }
@@ -208,7 +208,7 @@ TEST_F(ReportControlTest, AfterClosingTheBooksCanBeReplacedAndAreOpenedAnew)
     EXPECT_EQ(ShownTexts(0), QStringLiteral("1 2"));
 }
 
-TEST(SystemPrinter, WithoutAPrintServiceThereIsAClearAnswer)
+TEST(SystemPrinterTest, WithoutAPrintServiceThereIsAClearAnswer)
 {
     qputenv("CUPS_SERVER", "/nonexistent/print.sock");
     const std::unique_ptr<Printer> printer = MakeSystemPrinter();

@@ -5,7 +5,7 @@
 using Parity = LineSettings::Parity;
 using StopBits = LineSettings::StopBits;
 
-TEST(LineSettings, AreBaudParityDataBitsAndStopBits)
+TEST(LineSettingsTest, AreBaudParityDataBitsAndStopBits)
 {
     const auto line = ParseLineSettings(u"2400,n,8,1");
     ASSERT_TRUE(line);
@@ -15,7 +15,7 @@ TEST(LineSettings, AreBaudParityDataBitsAndStopBits)
     EXPECT_EQ(line->stopBits, StopBits::One);
 }
 
-TEST(LineSettings, NameEachParityByItsLetterInAnyCase)
+TEST(LineSettingsTest, NameEachParityByItsLetterInAnyCase)
 {
     EXPECT_EQ(ParseLineSettings(u"9600,E,7,2")->parity, Parity::Even);
     EXPECT_EQ(ParseLineSettings(u"9600,o,7,2")->parity, Parity::Odd);
@@ -23,13 +23,13 @@ TEST(LineSettings, NameEachParityByItsLetterInAnyCase)
     EXPECT_EQ(ParseLineSettings(u"9600,S,7,2")->parity, Parity::Space);
 }
 
-TEST(LineSettings, KnowOneAndAHalfAndTwoStopBits)
+TEST(LineSettingsTest, KnowOneAndAHalfAndTwoStopBits)
 {
     EXPECT_EQ(ParseLineSettings(u"110,n,5,1.5")->stopBits, StopBits::OneAndHalf);
     EXPECT_EQ(ParseLineSettings(u"110,n,5,2")->stopBits, StopBits::Two);
 }
 
-TEST(LineSettings, BearBlanksAroundTheParts)
+TEST(LineSettingsTest, BearBlanksAroundTheParts)
 {
     const auto line = ParseLineSettings(u" 4800 , e , 7 , 1 ");
     ASSERT_TRUE(line);
@@ -37,7 +37,7 @@ TEST(LineSettings, BearBlanksAroundTheParts)
     EXPECT_EQ(line->dataBits, 7);
 }
 
-TEST(LineSettings, AreNothingWhereTheyCannotBeRead)
+TEST(LineSettingsTest, AreNothingWhereTheyCannotBeRead)
 {
     for (const char16_t* text : {u"", u"2400", u"2400,n,8", u"2400,n,8,1,1", u"x,n,8,1", u"0,n,8,1",
              u"-1,n,8,1", u"99999999,n,8,1", u"2400,x,8,1", u"2400,none,8,1", u"2400,n,4,1", u"2400,n,9,1",

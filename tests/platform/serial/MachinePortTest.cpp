@@ -15,10 +15,10 @@ namespace {
 const QString Settings = QStringLiteral("2400,n,8,1");
 
 // The driver of the machine against a device on a pseudo-terminal, linked as the first port.
-class MachinePort : public testing::Test {
+class MachinePortTest : public testing::Test {
 protected:
-    MachinePort() { SetPortLinksFolder(m_links.path()); }
-    ~MachinePort() override { SetPortLinksFolder({}); }
+    MachinePortTest() { SetPortLinksFolder(m_links.path()); }
+    ~MachinePortTest() override { SetPortLinksFolder({}); }
 
     QString Link(const char* name) const { return m_links.filePath(QLatin1String(name)); }
 
@@ -48,33 +48,33 @@ const QByteArray Whole = "ST,GS12.50,FT, 4.2\r\n";
 
 }
 
-TEST_F(MachinePort, ReadsAPromptReply)
+TEST_F(MachinePortTest, ReadsAPromptReply)
 {
     const auto device = Play("ELECTRO", Manner::Prompt);
     EXPECT_EQ(Ask(), Whole);
     EXPECT_EQ(device->Received(), QByteArray("W"));
 }
 
-TEST_F(MachinePort, ReadsAgainAfterItWasClosed)
+TEST_F(MachinePortTest, ReadsAgainAfterItWasClosed)
 {
     const auto device = Play("ELECTRO", Manner::Prompt);
     for (int time = 0; time < 5; ++time)
         EXPECT_EQ(Ask(), Whole);
 }
 
-TEST_F(MachinePort, ReadsAReplyInPieces)
+TEST_F(MachinePortTest, ReadsAReplyInPieces)
 {
     const auto device = Play("ELECTRO", Manner::Pieces);
     EXPECT_EQ(Ask(), Whole);
 }
 
-TEST_F(MachinePort, ReadsASlowReply)
+TEST_F(MachinePortTest, ReadsASlowReply)
 {
     const auto device = Play("ELECTRO", Manner::Slow);
     EXPECT_EQ(Ask(), Whole);
 }
 
-TEST_F(MachinePort, ReadsNoiseAsItIs)
+TEST_F(MachinePortTest, ReadsNoiseAsItIs)
 {
     const auto device = Play("ELECTRO", Manner::Noisy);
     QByteArray noisy = Whole;
@@ -86,14 +86,14 @@ TEST_F(MachinePort, ReadsNoiseAsItIs)
     EXPECT_EQ(line.Collect(Wait(5s), all), noisy);
 }
 
-TEST_F(MachinePort, HearsNothingFromASilentDevice)
+TEST_F(MachinePortTest, HearsNothingFromASilentDevice)
 {
     const auto device = Play("ELECTRO", Manner::Silent);
     EXPECT_EQ(Ask(20ms), QByteArray());
     EXPECT_TRUE(device->WaitUntilReceived("W", 5s));
 }
 
-TEST_F(MachinePort, TellsThatTheDeviceHasGoneInMidReply)
+TEST_F(MachinePortTest, TellsThatTheDeviceHasGoneInMidReply)
 {
     const auto device = Play("ELECTRO", Manner::Unplugged);
     const auto start = SerialPorts::Current().Now();
@@ -101,7 +101,7 @@ TEST_F(MachinePort, TellsThatTheDeviceHasGoneInMidReply)
     EXPECT_LT(SerialPorts::Current().Now() - start, 30s);
 }
 
-TEST_F(MachinePort, SendsAllBeforeItCloses)
+TEST_F(MachinePortTest, SendsAllBeforeItCloses)
 {
     const auto device = Play("ELECTRO", Manner::Silent);
     {
@@ -112,7 +112,7 @@ TEST_F(MachinePort, SendsAllBeforeItCloses)
     EXPECT_TRUE(device->WaitUntilReceived("tzTZ0", 5s));
 }
 
-TEST_F(MachinePort, TakesAndGivesNothingOnceItIsClosed)
+TEST_F(MachinePortTest, TakesAndGivesNothingOnceItIsClosed)
 {
     const auto device = Play("ELECTRO", Manner::Prompt);
     const auto first = SerialPorts::Current().Make();
@@ -124,7 +124,7 @@ TEST_F(MachinePort, TakesAndGivesNothingOnceItIsClosed)
     EXPECT_FALSE(first->ReadInput());
 }
 
-TEST_F(MachinePort, IsNotOpenedWhereThereIsNoneOrTheSettingsCannotBeRead)
+TEST_F(MachinePortTest, IsNotOpenedWhereThereIsNoneOrTheSettingsCannotBeRead)
 {
     const auto port = SerialPorts::Current().Make();
     EXPECT_FALSE(port->Open(0, Settings));
@@ -136,7 +136,7 @@ TEST_F(MachinePort, IsNotOpenedWhereThereIsNoneOrTheSettingsCannotBeRead)
     EXPECT_TRUE(port->Open(1, Settings));
 }
 
-TEST_F(MachinePort, HearsADeviceThatTalksByItselfOnlyWhileItIsOpen)
+TEST_F(MachinePortTest, HearsADeviceThatTalksByItselfOnlyWhileItIsOpen)
 {
     const auto device = Play("PERCENT", Manner::Prompt);
     for (int time = 0; time < 3; ++time) {

@@ -10,27 +10,27 @@ const QString noto = QStringLiteral("Noto Sans Devanagari");
 const QString lohit = QStringLiteral("Lohit Devanagari");
 const QString other = QStringLiteral("Chandas");
 
-TEST(Fonts, NotoIsChosenBeforeEveryOther)
+TEST(FontsTest, NotoIsChosenBeforeEveryOther)
 {
     EXPECT_EQ(ChooseDevanagariFamily({other, lohit, noto}), noto);
 }
 
-TEST(Fonts, LohitIsChosenWhereThereIsNoNoto)
+TEST(FontsTest, LohitIsChosenWhereThereIsNoNoto)
 {
     EXPECT_EQ(ChooseDevanagariFamily({other, lohit}), lohit);
 }
 
-TEST(Fonts, AnyOtherFamilyIsBetterThanNone)
+TEST(FontsTest, AnyOtherFamilyIsBetterThanNone)
 {
     EXPECT_EQ(ChooseDevanagariFamily({other, QStringLiteral("Mukta")}), other);
 }
 
-TEST(Fonts, WithoutAFontThatShowsDevanagariTheAnswerIsEmpty)
+TEST(FontsTest, WithoutAFontThatShowsDevanagariTheAnswerIsEmpty)
 {
     EXPECT_EQ(ChooseDevanagariFamily({}), QString());
 }
 
-TEST(Fonts, TheFamilyOfThisMachineHoldsTheLettersOfMarathi)
+TEST(FontsTest, TheFamilyOfThisMachineHoldsTheLettersOfMarathi)
 {
     const QString family = DevanagariFontFamily();
     ASSERT_FALSE(family.isEmpty());

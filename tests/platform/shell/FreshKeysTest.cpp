@@ -1,6 +1,7 @@
 #include "platform/shell/FreshKeys.h"
 
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QWidget>
@@ -8,10 +9,11 @@
 
 namespace {
 
-// A box that counts the keys that reach it.
+// A box that counts the keys and keeps the texts of an input method that reach it.
 class CountingBox final : public QWidget {
 public:
     int Keys = 0;
+    QStringList Composed;
 
     void Strike(bool repeated = false)
     {
@@ -19,11 +21,22 @@ public:
         QCoreApplication::sendEvent(this, &press);
     }
 
-    // Puts a key behind all that waits in the application's queue.
+    // An input method is at a word, or with a commit has done with it.
+    void Compose(const char* preedit, const char* commit = "")
+    {
+        QInputMethodEvent event(QString::fromUtf8(preedit), {});
+        event.setCommitString(QString::fromUtf8(commit));
+        QCoreApplication::sendEvent(this, &event);
+    }
+
+    // Puts something behind all that waits in the application's queue.
+    void Later(const std::function<void()>& action)
+    {
+        QMetaObject::invokeMethod(this, action, Qt::QueuedConnection);
+    }
     void StrikeLater()
     {
-        QMetaObject::invokeMethod(
-            this, [this] { Strike(); }, Qt::QueuedConnection);
+        Later([this] { Strike(); });
     }
 
     // Returns when it takes keys.
@@ -37,6 +50,10 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent*) override { ++Keys; }
+    void inputMethodEvent(QInputMethodEvent* event) override
+    {
+        Composed.append(event->preeditString() + u'|' + event->commitString());
+    }
 
 private:
     FreshKeys m_keys{*this};
@@ -68,6 +85,41 @@ TEST(FreshKeysTest, KeysThatWaitedWhileItWasPaintedAreThrownAwayToo)
     box.StrikeLater();
     box.ShowAndWait();
     EXPECT_EQ(box.Keys, 0);
+}
+
+TEST(FreshKeysTest, WhatAnInputMethodWroteAheadOfABoxIsThrownAway)
+{
+    CountingBox box;
+    box.Later([&] { box.Compose("क"); });
+    box.Later([&] { box.Compose("", "कराड"); });
+    box.ShowAndWait();
+    EXPECT_EQ(box.Composed, QStringList());
+    box.Compose("", "मसूर");
+    EXPECT_EQ(box.Composed, QStringList(QStringLiteral("|मसूर")));
+}
+
+TEST(FreshKeysTest, AWordThatAnInputMethodBeganAheadOfABoxIsThrownAwayWhole)
+{
+    CountingBox box;
+    box.Later([&] { box.Compose("क"); });
+    box.ShowAndWait();
+    box.Compose("करा");
+    box.Compose("", "कराड");
+    EXPECT_EQ(box.Composed, QStringList());
+    box.Compose("म");
+    box.Compose("", "मसूर");
+    EXPECT_EQ(box.Composed, QStringList({QStringLiteral("म|"), QStringLiteral("|मसूर")}));
+}
+
+TEST(FreshKeysTest, AWordThatIsLeftBehindWithItsBoxIsNoneOfTheNextScreens)
+{
+    CountingBox box;
+    CountingBox next;
+    box.Later([&] { box.Compose("क"); });
+    box.ShowAndWait();
+    box.hide();
+    next.Compose("", "मसूर");
+    EXPECT_EQ(next.Composed, QStringList(QStringLiteral("|मसूर")));
 }
 
 TEST(FreshKeysTest, AKeyThatIsHeldDownIsNoneForABox)

@@ -107,7 +107,7 @@ TEST_F(PrivacyTest, AFolderThatIsNotThereIsNotMade)
 }
 
 // In a process of its own: this one is to be debugged.
-TEST(Privacy, NoCoreIsWrittenOrTakenOnceItIsForbidden)
+TEST_F(PrivacyTest, NoCoreIsWrittenOrTakenOnceItIsForbidden)
 {
     EXPECT_EXIT(ForbidCoresAndEnd(), testing::ExitedWithCode(7), "");
 }

@@ -9,7 +9,7 @@ public:
     QDateTime Now() const override { return {QDate(2026, 4, 1), QTime(6, 30)}; }
 };
 
-TEST(World, BeginsAsTheRealOne)
+TEST(WorldTest, BeginsAsTheRealOne)
 {
     const World real = World::Real();
     EXPECT_EQ(World::Current().clock, real.clock);
@@ -19,7 +19,7 @@ TEST(World, BeginsAsTheRealOne)
     EXPECT_EQ(World::Current().fileSystem, real.fileSystem);
 }
 
-TEST(World, TheRealClockShowsTheTimeOfTheMachine)
+TEST(WorldTest, TheRealClockShowsTheTimeOfTheMachine)
 {
     const QDateTime before = QDateTime::currentDateTime();
     const QDateTime now = World::Real().clock->Now();
@@ -27,7 +27,7 @@ TEST(World, TheRealClockShowsTheTimeOfTheMachine)
     EXPECT_LE(now, QDateTime::currentDateTime());
 }
 
-TEST(World, APartThatWasReplacedIsUsedUntilTheRealWorldIsPutBack)
+TEST(WorldTest, APartThatWasReplacedIsUsedUntilTheRealWorldIsPutBack)
 {
     StoppedClock clock;
     World::Current().clock = &clock;

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(ExactSums, StayExactWhereBinaryNumbersDrift)
+TEST(ExactSumsTest, StayExactWhereBinaryNumbersDrift)
 {
     ExactSum sum;
     for (int i = 0; i < 100000; ++i)
@@ -11,7 +11,7 @@ TEST(ExactSums, StayExactWhereBinaryNumbersDrift)
     EXPECT_EQ(sum.Number(), 10000.0);
 }
 
-TEST(ExactSums, AddWhatIsPrintedAndRoundHalvesAwayFromZero)
+TEST(ExactSumsTest, AddWhatIsPrintedAndRoundHalvesAwayFromZero)
 {
     ExactSum sum;
     sum.Add(1.005, 2);
@@ -23,7 +23,7 @@ TEST(ExactSums, AddWhatIsPrintedAndRoundHalvesAwayFromZero)
     EXPECT_EQ(negative.Number(), -1.01);
 }
 
-TEST(ExactSums, AFigureJustBelowAHalfIsAddedAsItIsPrinted)
+TEST(ExactSumsTest, AFigureJustBelowAHalfIsAddedAsItIsPrinted)
 {
     ExactSum sum;
     for (int i = 0; i < 100; ++i)
@@ -33,7 +33,7 @@ TEST(ExactSums, AFigureJustBelowAHalfIsAddedAsItIsPrinted)
     EXPECT_EQ(sum.Number(), 0.005);
 }
 
-TEST(ExactSums, ATotalBeyondAllRangeIsAnErrorAndNotAWrongNumber)
+TEST(ExactSumsTest, ATotalBeyondAllRangeIsAnErrorAndNotAWrongNumber)
 {
     ExactSum sum;
     sum.Add(9e12);

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(ExpressionReading, WhatCantBeReadIsToldAndNotGuessed)
+TEST(ExpressionReadingTest, WhatCantBeReadIsToldAndNotGuessed)
 {
     const std::pair<const char16_t*, const char16_t*> faults[] = {{u"", u"the expression is empty"},
         {u"1 +", u"the expression breaks off"}, {u"(1", u"\")\" is missing"},
@@ -25,7 +25,7 @@ TEST(ExpressionReading, WhatCantBeReadIsToldAndNotGuessed)
     }
 }
 
-TEST(ExpressionReading, BracketsWithoutEndAreRefusedAndDontOverflow)
+TEST(ExpressionReadingTest, BracketsWithoutEndAreRefusedAndDontOverflow)
 {
     ExpressionFault fault;
     for (const char16_t sign : {u'(', u'-'}) {
@@ -34,7 +34,7 @@ TEST(ExpressionReading, BracketsWithoutEndAreRefusedAndDontOverflow)
     }
 }
 
-TEST(ExpressionReading, WhatOnlyAFormulaKnowsIsNoneOfATemplate)
+TEST(ExpressionReadingTest, WhatOnlyAFormulaKnowsIsNoneOfATemplate)
 {
     const std::pair<const char16_t*, const char16_t*> faults[] = {
         {u"{p.PaymentDate} = 1", u"\"{\" has no meaning in an expression"},
@@ -48,7 +48,7 @@ TEST(ExpressionReading, WhatOnlyAFormulaKnowsIsNoneOfATemplate)
     }
 }
 
-TEST(ExpressionReading, AFormulaReadsItsFieldsAndDaysIntoTheSameTree)
+TEST(ExpressionReadingTest, AFormulaReadsItsFieldsAndDaysIntoTheSameTree)
 {
     ExpressionFault fault;
     const std::optional<Expression> formula =

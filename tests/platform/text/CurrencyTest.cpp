@@ -31,13 +31,13 @@ int ErrorOf(const std::function<void()>& action)
     return 0;
 }
 
-TEST(Currency, BeginsAtZero)
+TEST(CurrencyTest, BeginsAtZero)
 {
     EXPECT_EQ(Text(Currency()), "0");
     EXPECT_EQ(Currency(), Currency(-0.0));
 }
 
-TEST(Currency, HoldsFourDecimalsAndRoundsTheRestHalfToEven)
+TEST(CurrencyTest, HoldsFourDecimalsAndRoundsTheRestHalfToEven)
 {
     EXPECT_EQ(Text(12.5), "12.5");
     EXPECT_EQ(Text(-36.53), "-36.53");
@@ -55,7 +55,7 @@ TEST(Currency, HoldsFourDecimalsAndRoundsTheRestHalfToEven)
     EXPECT_EQ(Text(1.00016), "1.0002");
 }
 
-TEST(Currency, ASumOfManyAmountsIsRightToTheLastDigit)
+TEST(CurrencyTest, ASumOfManyAmountsIsRightToTheLastDigit)
 {
     Currency sum;
     for (int i = 0; i < 1'000'000; ++i)
@@ -69,28 +69,28 @@ TEST(Currency, ASumOfManyAmountsIsRightToTheLastDigit)
     EXPECT_EQ(Text(Currency(0.1) - Currency(0.35)), "-0.25");
 }
 
-TEST(Currency, ComparesByValue)
+TEST(CurrencyTest, ComparesByValue)
 {
     EXPECT_LT(Currency(-0.5), Currency(-0.4));
     EXPECT_GT(Currency(60.01), Currency(60));
     EXPECT_EQ(Currency(0.1) + Currency(0.2), Currency(0.3));
 }
 
-TEST(Currency, KeepsEveryDigitOfALargeSum)
+TEST(CurrencyTest, KeepsEveryDigitOfALargeSum)
 {
     const Currency sum = Currency(Largest) + Currency(0.5807);
     EXPECT_EQ(Text(sum), "922337203685477.5807");
     EXPECT_EQ(Text(Currency(-Largest) - Currency(0.5808)), "-922337203685477.5808");
 }
 
-TEST(Currency, AValueThatHasNoPlaceIsAnOverflow)
+TEST(CurrencyTest, AValueThatHasNoPlaceIsAnOverflow)
 {
     for (const double value : {922337203685478.0, -922337203685478.0, 1e15, 1e300,
              std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()})
         EXPECT_EQ(ErrorOf([value] { Currency rupees(value); }), RunTimeError::Overflow) << value;
 }
 
-TEST(Currency, ASumThatHasNoPlaceIsAnOverflowAndStaysWhatItWas)
+TEST(CurrencyTest, ASumThatHasNoPlaceIsAnOverflowAndStaysWhatItWas)
 {
     Currency most = Currency(Largest) + Currency(0.5807);
     EXPECT_EQ(ErrorOf([&] { most += Currency(0.0001); }), RunTimeError::Overflow);

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(ParseDate, ReadsDayMonthYear)
+TEST(ParseDateTest, ReadsDayMonthYear)
 {
     EXPECT_EQ(ParseDate(u"01/04/2026"), QDate(2026, 4, 1));
     EXPECT_EQ(ParseDate(u"31/12/1999"), QDate(1999, 12, 31));
@@ -15,14 +15,14 @@ TEST(ParseDate, ReadsDayMonthYear)
     EXPECT_EQ(ParseDate(u"31/12/9999"), QDate(9999, 12, 31));
 }
 
-TEST(ParseDate, RefusesWhatIsNoDayOfTheCalendar)
+TEST(ParseDateTest, RefusesWhatIsNoDayOfTheCalendar)
 {
     for (const QStringView text : {u"31/02/2026", u"29/02/2026", u"29/02/1900", u"31/04/2026", u"25/13/2026",
              u"13/25/2026", u"00/04/2026", u"01/00/2026", u"01/04/0099", u"01/04/0000"})
         EXPECT_FALSE(IsDate(text)) << qPrintable(text.toString());
 }
 
-TEST(ParseDate, RefusesOtherShapes)
+TEST(ParseDateTest, RefusesOtherShapes)
 {
     for (const QStringView text :
         {u"", u" ", u"1/4/2026", u"01/04/26", u"01-04-2026", u"01.04.2026", u"2026/04/01", u"01/04/2026x",
@@ -33,7 +33,7 @@ TEST(ParseDate, RefusesOtherShapes)
     EXPECT_TRUE(IsDate(u"01/04/2026"));
 }
 
-TEST(ToDate, ATextThatIsNoneIsATypeMismatch)
+TEST(ToDateTest, ATextThatIsNoneIsATypeMismatch)
 {
     EXPECT_EQ(ToDate(u"29/02/2024"), QDate(2024, 2, 29));
     for (const QString& text :
@@ -50,7 +50,7 @@ TEST(ToDate, ATextThatIsNoneIsATypeMismatch)
     }
 }
 
-TEST(DateText, IsTheSameInEveryLocale)
+TEST(DateTextTest, IsTheSameInEveryLocale)
 {
     for (const QLocale::Language language : {QLocale::Marathi, QLocale::English, QLocale::German}) {
         QLocale::setDefault(QLocale(language));
@@ -62,19 +62,19 @@ TEST(DateText, IsTheSameInEveryLocale)
     QLocale::setDefault(QLocale::c());
 }
 
-TEST(DateText, AnInvalidDateIsEmpty)
+TEST(DateTextTest, AnInvalidDateIsEmpty)
 {
     EXPECT_EQ(DateText(QDate()), QString());
     EXPECT_EQ(Format(QDate(2026, 2, 31), u"dd MMMM yyyy"), QString());
 }
 
-TEST(DateText, ReadsBackForEveryDayOfACentury)
+TEST(DateTextTest, ReadsBackForEveryDayOfACentury)
 {
     for (QDate date(1950, 1, 1); date.year() < 2050; date = date.addDays(1))
         ASSERT_EQ(ParseDate(DateText(date)), date);
 }
 
-TEST(FormatDate, KnowsThePatternsOfTheSystem)
+TEST(FormatDateTest, KnowsThePatternsOfTheSystem)
 {
     const QDate date(2026, 4, 1);
     EXPECT_EQ(Format(date, u"dd/MM/yyyy"), u"01/04/2026");
@@ -88,7 +88,7 @@ TEST(FormatDate, KnowsThePatternsOfTheSystem)
     EXPECT_EQ(Format(QDate(105, 12, 31), u"yyyy-MM-dd yy"), u"0105-12-31 05");
 }
 
-TEST(FormatDate, NamesEveryMonthInEnglish)
+TEST(FormatDateTest, NamesEveryMonthInEnglish)
 {
     const QStringView names[] = {u"January", u"February", u"March", u"April", u"May", u"June", u"July",
         u"August", u"September", u"October", u"November", u"December"};
@@ -96,7 +96,7 @@ TEST(FormatDate, NamesEveryMonthInEnglish)
         EXPECT_EQ(Format(QDate(2026, month, 15), u"MMMM"), names[month - 1]);
 }
 
-TEST(ClockText, CountsTwelveHours)
+TEST(ClockTextTest, CountsTwelveHours)
 {
     EXPECT_EQ(ClockText(QTime(9, 5, 0)), u"9:05:00 AM");
     EXPECT_EQ(ClockText(QTime(23, 5, 0)), u"11:05:00 PM");

@@ -31,7 +31,7 @@ struct Read {
 
 }
 
-TEST(Val, ReadsTheNumberThatATextBeginsWith)
+TEST(ValTest, ReadsTheNumberThatATextBeginsWith)
 {
     const Read reads[] = {{u"", 0}, {u"12", 12}, {u"12abc", 12}, {u"abc", 0}, {u".", 0}, {u"-", 0}, {u"+", 0},
         {u"-.5", -0.5}, {u".5", 0.5}, {u"5.", 5}, {u"+7", 7}, {u"--5", 0}, {u"-+5", 0}, {u"1.2.3", 1.2},
@@ -41,7 +41,7 @@ TEST(Val, ReadsTheNumberThatATextBeginsWith)
         EXPECT_EQ(Val(read.text), read.value) << qPrintable(read.text.toString());
 }
 
-TEST(Val, IgnoresBlanksWhereverTheyStand)
+TEST(ValTest, IgnoresBlanksWhereverTheyStand)
 {
     EXPECT_EQ(Val(u" 1 2 "), 12);
     EXPECT_EQ(Val(u"\t- 1\r\n. 5"), -1.5);
@@ -49,7 +49,7 @@ TEST(Val, IgnoresBlanksWhereverTheyStand)
     EXPECT_EQ(Val(u"1 e 3"), 1000);
 }
 
-TEST(Val, ReadsExponents)
+TEST(ValTest, ReadsExponents)
 {
     const Read reads[] = {{u"1e3", 1000}, {u"1E+3", 1000}, {u"25e-1", 2.5}, {u"1e", 1}, {u"1e+", 1},
         {u"1e-x", 1}, {u"e3", 0}, {u".e3", 0}, {u"1.e2", 100}};
@@ -57,13 +57,13 @@ TEST(Val, ReadsExponents)
         EXPECT_EQ(Val(read.text), read.value) << qPrintable(read.text.toString());
 }
 
-TEST(Val, ANegativeZeroHasNoSign)
+TEST(ValTest, ANegativeZeroHasNoSign)
 {
     EXPECT_FALSE(std::signbit(Val(u"-0")));
     EXPECT_FALSE(std::signbit(Val(u"-0.00")));
 }
 
-TEST(Val, ANumberBeyondDoubleIsAnOverflow)
+TEST(ValTest, ANumberBeyondDoubleIsAnOverflow)
 {
     for (const QString& text : {QString(400, u'9'), QStringLiteral("1e400"), QStringLiteral("-1e309"),
              QString(QString(400, u'0') + QString(400, u'1')),
@@ -72,7 +72,7 @@ TEST(Val, ANumberBeyondDoubleIsAnOverflow)
     }
 }
 
-TEST(Val, ANumberTooSmallForDoubleIsZero)
+TEST(ValTest, ANumberTooSmallForDoubleIsZero)
 {
     for (const QString& text : {QStringLiteral("1e-400"), QStringLiteral("-1e-99999999999999999999"),
              QStringLiteral("0e999999"), QString(QStringLiteral("0.") + QString(400, u'0') + u'1'),
@@ -82,7 +82,7 @@ TEST(Val, ANumberTooSmallForDoubleIsZero)
     EXPECT_EQ(Val(QString(QString(400, u'0') + u'5')), 5);
 }
 
-TEST(Val, TheErrorNamesTheValueButNotAllOfIt)
+TEST(ValTest, TheErrorNamesTheValueButNotAllOfIt)
 {
     try {
         Val(QString(400, u'7'));
@@ -94,7 +94,7 @@ TEST(Val, TheErrorNamesTheValueButNotAllOfIt)
     }
 }
 
-TEST(IsNumeric, TakesOneNumberAndNothingElse)
+TEST(IsNumericTest, TakesOneNumberAndNothingElse)
 {
     for (const QStringView text : {u"0", u"12", u" 12 ", u"-.5", u"5.", u"+1", u"1e3", u"12.345"})
         EXPECT_TRUE(IsNumeric(text)) << qPrintable(text.toString());
@@ -103,7 +103,7 @@ TEST(IsNumeric, TakesOneNumberAndNothingElse)
         EXPECT_FALSE(IsNumeric(text)) << qPrintable(text.toString());
 }
 
-TEST(Format, RoundsTheDecimalFormHalfAwayFromZero)
+TEST(FormatTest, RoundsTheDecimalFormHalfAwayFromZero)
 {
     EXPECT_EQ(Format(1.005, u"0.00"), u"1.01");
     EXPECT_EQ(Format(-1.005, u"0.00"), u"-1.01");
@@ -127,7 +127,7 @@ TEST(Format, RoundsTheDecimalFormHalfAwayFromZero)
     EXPECT_EQ(Format(0.45, u"0"), u"0");
 }
 
-TEST(Format, EveryHalfPaisaGoesUp)
+TEST(FormatTest, EveryHalfPaisaGoesUp)
 {
     for (int paise = 0; paise < 100000; ++paise) {
         const double value = (paise * 10 + 5) / 1000.0;
@@ -138,7 +138,7 @@ TEST(Format, EveryHalfPaisaGoesUp)
     }
 }
 
-TEST(Format, SinglePrecisionHasSevenDigits)
+TEST(FormatTest, SinglePrecisionHasSevenDigits)
 {
     EXPECT_EQ(Format(0.1f, u"0.000000000"), u"0.100000000");
     EXPECT_EQ(Format(16777216.0f, u"0"), u"16777220");
@@ -147,7 +147,7 @@ TEST(Format, SinglePrecisionHasSevenDigits)
     EXPECT_EQ(Format(static_cast<double>(0.1f), u"0.000000000"), u"0.100000001");
 }
 
-TEST(Format, APatternSaysWhichDigitsShow)
+TEST(FormatTest, APatternSaysWhichDigitsShow)
 {
     EXPECT_EQ(Format(3.5, u"#00.000"), u"03.500");
     EXPECT_EQ(Format(123.5, u"#00.000"), u"123.500");
@@ -167,7 +167,7 @@ TEST(Format, APatternSaysWhichDigitsShow)
     EXPECT_EQ(Format(0, u"####0.000"), u"0.000");
 }
 
-TEST(Format, AZeroHasNoSign)
+TEST(FormatTest, AZeroHasNoSign)
 {
     EXPECT_EQ(Format(-0.0, u"0.00"), u"0.00");
     EXPECT_EQ(Format(-0.004, u"0.00"), u"0.00");
@@ -175,7 +175,7 @@ TEST(Format, AZeroHasNoSign)
     EXPECT_EQ(Format(-1e-300, u"0.00"), u"0.00");
 }
 
-TEST(Format, LargeAndTinyValues)
+TEST(FormatTest, LargeAndTinyValues)
 {
     EXPECT_EQ(Format(1e15, u"######0.00"), u"1000000000000000.00");
     EXPECT_EQ(Format(123456789012345.0, u"0.00"), u"123456789012345.00");
@@ -185,14 +185,14 @@ TEST(Format, LargeAndTinyValues)
         Format(1e300, u"0.0"), QString(QStringLiteral("1") + QString(300, u'0') + QStringLiteral(".0")));
 }
 
-TEST(Format, AValueThatIsNoneIsAnOverflow)
+TEST(FormatTest, AValueThatIsNoneIsAnOverflow)
 {
     EXPECT_EQ(ErrorOf([] { Format(Infinite, u"0.00"); }), RunTimeError::Overflow);
     EXPECT_EQ(ErrorOf([] { Format(-Infinite, u"0.00"); }), RunTimeError::Overflow);
     EXPECT_EQ(ErrorOf([] { Format(NoNumber, u"0.00"); }), RunTimeError::Overflow);
 }
 
-TEST(ShortestDecimal, HasNoZeroTooMany)
+TEST(ShortestDecimalTest, HasNoZeroTooMany)
 {
     EXPECT_EQ(ShortestDecimal(0.0), u"0");
     EXPECT_EQ(ShortestDecimal(-0.0), u"0");
@@ -211,7 +211,7 @@ TEST(ShortestDecimal, HasNoZeroTooMany)
     EXPECT_EQ(ErrorOf([] { ShortestDecimal(static_cast<float>(Infinite)); }), RunTimeError::Overflow);
 }
 
-TEST(ShortestDecimal, IsTheSameInEveryLocale)
+TEST(ShortestDecimalTest, IsTheSameInEveryLocale)
 {
     for (const QLocale::Language language : {QLocale::German, QLocale::Marathi, QLocale::English}) {
         QLocale::setDefault(QLocale(language));
@@ -223,7 +223,7 @@ TEST(ShortestDecimal, IsTheSameInEveryLocale)
     QLocale::setDefault(QLocale::c());
 }
 
-TEST(ToInt16, RoundsHalfToEven)
+TEST(ToInt16Test, RoundsHalfToEven)
 {
     EXPECT_EQ(ToInt16(0.5), 0);
     EXPECT_EQ(ToInt16(1.5), 2);
@@ -235,7 +235,7 @@ TEST(ToInt16, RoundsHalfToEven)
     EXPECT_EQ(ToInt16(-32768.5), -32768);
 }
 
-TEST(ToInt16, BeyondTheRangeIsAnOverflow)
+TEST(ToInt16Test, BeyondTheRangeIsAnOverflow)
 {
     EXPECT_EQ(ToInt16(32767), 32767);
     EXPECT_EQ(ToInt16(-32768), -32768);

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(RunTimeError, TellsItsNumberAndWhatHappened)
+TEST(RunTimeErrorTest, TellsItsNumberAndWhatHappened)
 {
     const RunTimeError error(RunTimeError::Overflow, QStringLiteral("Overflow: 99 is too large."));
     EXPECT_EQ(error.Number(), 6);
@@ -11,7 +11,7 @@ TEST(RunTimeError, TellsItsNumberAndWhatHappened)
     EXPECT_EQ(QString::fromUtf8(error.what()), error.Text());
 }
 
-TEST(RunTimeError, NamesTheStatementThatFailed)
+TEST(RunTimeErrorTest, NamesTheStatementThatFailed)
 {
     const RunTimeError error(RunTimeError::DatabaseFailure, QStringLiteral("No such table: %1 %2"),
         QStringLiteral("select * from Nowhere where Name='%1'"));

@@ -88,7 +88,7 @@ Name RandomName(std::mt19937& random)
 
 }
 
-TEST(Shivaji01Reading, EveryPairOfSpellingsReadsTheSame)
+TEST(Shivaji01ReadingTest, EveryPairOfSpellingsReadsTheSame)
 {
     for (const TwoSpellings& pair : SpelledTwoWays) {
         EXPECT_NE(pair.one, pair.other);
@@ -98,7 +98,7 @@ TEST(Shivaji01Reading, EveryPairOfSpellingsReadsTheSame)
     EXPECT_EQ(Reading(u"maa$tI"), Reading(u"maarutI"));
 }
 
-TEST(Shivaji01Reading, NamesReadTheSameWhateverTheirSpellingAndOnlyThen)
+TEST(Shivaji01ReadingTest, NamesReadTheSameWhateverTheirSpellingAndOnlyThen)
 {
     std::mt19937 random(20260403);
     Name before;
@@ -112,7 +112,7 @@ TEST(Shivaji01Reading, NamesReadTheSameWhateverTheirSpellingAndOnlyThen)
     }
 }
 
-TEST(Shivaji01Reading, CodesReadTheSameIfTheTableSaysSo)
+TEST(Shivaji01ReadingTest, CodesReadTheSameIfTheTableSaysSo)
 {
     int alike = 0;
     for (const Shivaji01::Glyph& one : Glyphs()) {
@@ -128,7 +128,7 @@ TEST(Shivaji01Reading, CodesReadTheSameIfTheTableSaysSo)
     EXPECT_GE(alike, 10);
 }
 
-TEST(Shivaji01Reading, NoTwoWordsOfTheSystemReadTheSame)
+TEST(Shivaji01ReadingTest, NoTwoWordsOfTheSystemReadTheSame)
 {
     QFile file(WordsFile.toString());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -139,14 +139,14 @@ TEST(Shivaji01Reading, NoTwoWordsOfTheSystemReadTheSame)
     EXPECT_EQ(readings.removeDuplicates(), 0);
 }
 
-TEST(Shivaji01Reading, BlanksThatNobodySeesDoNotCount)
+TEST(Shivaji01ReadingTest, BlanksThatNobodySeesDoNotCount)
 {
     EXPECT_EQ(Reading(u" rama  paaTIla "), Reading(u"rama paaTIla"));
     EXPECT_NE(Reading(u"ramapaaTIla"), Reading(u"rama paaTIla"));
     EXPECT_EQ(Reading(u" \u200D"), QString());
 }
 
-TEST(Shivaji01Reading, AJoinerBetweenThePiecesOfALetterDoesNotCount)
+TEST(Shivaji01ReadingTest, AJoinerBetweenThePiecesOfALetterDoesNotCount)
 {
     for (const QStringView raw :
         {u"अ\u200D\u0945ड.", u"अ\u200C\u0945ड.", u"अ\u200D\u200D\u0945ड.", u"अ\u0945ड."}) {
@@ -158,7 +158,7 @@ TEST(Shivaji01Reading, AJoinerBetweenThePiecesOfALetterDoesNotCount)
     EXPECT_EQ(Utf8(Reading(u"र\u200D\u093C\u094Dय")), Utf8(Reading(u"áya"))) << "a dot behind a joiner";
 }
 
-TEST(Shivaji01Reading, AJoinerThatKeepsLettersApartIsSpelled)
+TEST(Shivaji01ReadingTest, AJoinerThatKeepsLettersApartIsSpelled)
 {
     for (const QStringView seen : {u"क्\u200Dष", u"अ\u200Dक", u"अ\u200D", u"\u200D\u0945"})
         EXPECT_EQ(Utf8(ToUnicode(FromUnicode(seen))), Utf8(seen));

@@ -142,7 +142,7 @@ QString PutTogether(QStringView text)
 
 }
 
-TEST(Shivaji01Words, EveryReadingComesOut)
+TEST(Shivaji01WordsTest, EveryReadingComesOut)
 {
     const std::vector<Row> rows = ReadRows(WordsFile);
     ASSERT_GT(rows.size(), 250u);
@@ -150,7 +150,7 @@ TEST(Shivaji01Words, EveryReadingComesOut)
         ExpectSeen(row.first, row.second);
 }
 
-TEST(Shivaji01Words, EveryReadingReadsBackFromItsCanonicalSpelling)
+TEST(Shivaji01WordsTest, EveryReadingReadsBackFromItsCanonicalSpelling)
 {
     const std::vector<Row> rows = ReadRows(WordsFile);
     ASSERT_GT(rows.size(), 250u);
@@ -158,7 +158,7 @@ TEST(Shivaji01Words, EveryReadingReadsBackFromItsCanonicalSpelling)
         ExpectReadsBack(row.second);
 }
 
-TEST(Shivaji01Words, TheCanonicalSpellingIsTheSystemsOwn)
+TEST(Shivaji01WordsTest, TheCanonicalSpellingIsTheSystemsOwn)
 {
     // Two of its words the system itself spells in two ways.
     const auto oneWay = [](QString stored) {
@@ -175,7 +175,7 @@ TEST(Shivaji01Words, TheCanonicalSpellingIsTheSystemsOwn)
     EXPECT_EQ(equal, rows.size() - 10);
 }
 
-TEST(Shivaji01Words, NumbersInWordsReadBack)
+TEST(Shivaji01WordsTest, NumbersInWordsReadBack)
 {
     const std::vector<Row> rows = ReadRows(NumbersFile);
     ASSERT_EQ(rows.size(), 99u);
@@ -183,7 +183,7 @@ TEST(Shivaji01Words, NumbersInWordsReadBack)
         ExpectReadsBack(row.second);
 }
 
-TEST(Shivaji01Glyphs, TheTableIsWhole)
+TEST(Shivaji01GlyphsTest, TheTableIsWhole)
 {
     EXPECT_EQ(Glyphs().size(), 143u);
     for (std::size_t i = 1; i < Glyphs().size(); ++i)
@@ -192,7 +192,7 @@ TEST(Shivaji01Glyphs, TheTableIsWhole)
         EXPECT_FALSE(glyph.unicode.isEmpty() || glyph.kind.isEmpty()) << static_cast<int>(glyph.code);
 }
 
-TEST(Shivaji01Glyphs, EveryCodeAloneShowsWhatTheTableSays)
+TEST(Shivaji01GlyphsTest, EveryCodeAloneShowsWhatTheTableSays)
 {
     for (const Shivaji01::Glyph& glyph : Glyphs()) {
         QString expected = glyph.unicode.toString();
@@ -202,7 +202,7 @@ TEST(Shivaji01Glyphs, EveryCodeAloneShowsWhatTheTableSays)
     }
 }
 
-TEST(Shivaji01Glyphs, EveryCodeAfterALetter)
+TEST(Shivaji01GlyphsTest, EveryCodeAfterALetter)
 {
     for (const Shivaji01::Glyph& glyph : Glyphs()) {
         QString expected = u"क" + glyph.unicode;
@@ -214,7 +214,7 @@ TEST(Shivaji01Glyphs, EveryCodeAfterALetter)
     }
 }
 
-TEST(Shivaji01Glyphs, EveryHalfFormIsCompletedByTheStem)
+TEST(Shivaji01GlyphsTest, EveryHalfFormIsCompletedByTheStem)
 {
     int halves = 0;
     for (const Shivaji01::Glyph& glyph : Glyphs()) {
@@ -231,7 +231,7 @@ TEST(Shivaji01Glyphs, EveryHalfFormIsCompletedByTheStem)
     EXPECT_GT(halves, 30);
 }
 
-TEST(Shivaji01, SyllablesRead)
+TEST(Shivaji01Test, SyllablesRead)
 {
     ExpectSeen(u"", u"");
     ExpectSeen(u"s", u"स्");
@@ -279,7 +279,7 @@ TEST(Shivaji01, SyllablesRead)
     ExpectSeen(u"kaI", u"काी");
 }
 
-TEST(Shivaji01, VowelsRead)
+TEST(Shivaji01Test, VowelsRead)
 {
     const Row vowels[] = {{QStringLiteral("A"), QStringLiteral("अ")},
         {QStringLiteral("Aa"), QStringLiteral("आ")}, {QStringLiteral("["), QStringLiteral("इ")},
@@ -295,7 +295,7 @@ TEST(Shivaji01, VowelsRead)
     }
 }
 
-TEST(Shivaji01, CanonicalSpellings)
+TEST(Shivaji01Test, CanonicalSpellings)
 {
     ExpectSpelling(u"naO?-%ya", u"नैर्ऋत्य");
     ExpectSpelling(u"T/k", u"ट्रक");
@@ -322,14 +322,14 @@ TEST(Shivaji01, CanonicalSpellings)
     ExpectSpelling(u"|!", u"ऽॐ");
 }
 
-TEST(Shivaji01, WesternDigitsBecomeTheEncodingsOwn)
+TEST(Shivaji01Test, WesternDigitsBecomeTheEncodingsOwn)
 {
     EXPECT_EQ(FromUnicode(u"0123456789"), u"0123456789");
     EXPECT_EQ(FromUnicode(u"०१२३४५६७८९"), u"0123456789");
     EXPECT_EQ(ToUnicode(u"0123456789"), u"०१२३४५६७८९");
 }
 
-TEST(Shivaji01, OneCharacterLettersWithADotReadLikeTwo)
+TEST(Shivaji01Test, OneCharacterLettersWithADotReadLikeTwo)
 {
     EXPECT_EQ(FromUnicode(u"\u095C"), FromUnicode(u"\u0921\u093C"));
     EXPECT_EQ(FromUnicode(u"\u095E\u093E"), FromUnicode(u"\u092B\u093C\u093E"));
@@ -338,7 +338,7 @@ TEST(Shivaji01, OneCharacterLettersWithADotReadLikeTwo)
     EXPECT_EQ(ToUnicode(u"áya"), u"\u0931\u094D\u092F");
 }
 
-TEST(Shivaji01, WhatIsWrittenInTwoPiecesIsSpelledAsTheLetterThatTheyMake)
+TEST(Shivaji01Test, WhatIsWrittenInTwoPiecesIsSpelledAsTheLetterThatTheyMake)
 {
     for (const Pieces& pair : TwoPieces) {
         const QString pieces = QString(pair.first) + pair.second;
@@ -352,7 +352,7 @@ TEST(Shivaji01, WhatIsWrittenInTwoPiecesIsSpelledAsTheLetterThatTheyMake)
     EXPECT_EQ(ToUnicode(u"AÜMkar"), u"ओंकार");
 }
 
-TEST(Shivaji01, WhatHasNoCodePassesThrough)
+TEST(Shivaji01Test, WhatHasNoCodePassesThrough)
 {
     ExpectSpelling(u"\u00A0\u20B9\u1234", u"\u00A0\u20B9\u1234");
     ExpectSpelling(u"ka\t\nka", u"का\t\nका");
@@ -364,7 +364,7 @@ TEST(Shivaji01, WhatHasNoCodePassesThrough)
         ExpectReadsBack(rare);
 }
 
-TEST(Shivaji01, RandomSyllablesReadBack)
+TEST(Shivaji01Test, RandomSyllablesReadBack)
 {
     std::mt19937 random(20260401);
     std::discrete_distribution<int> letterCount({1, 10, 5, 3, 2});
@@ -385,7 +385,7 @@ TEST(Shivaji01, RandomSyllablesReadBack)
     }
 }
 
-TEST(Shivaji01, AnyOrderOfDevanagariReadsBack)
+TEST(Shivaji01Test, AnyOrderOfDevanagariReadsBack)
 {
     std::mt19937 random(4041);
     QString all;
@@ -406,7 +406,7 @@ TEST(Shivaji01, AnyOrderOfDevanagariReadsBack)
     }
 }
 
-TEST(Shivaji01Pieces, AreTheSyllablesSeen)
+TEST(Shivaji01PiecesTest, AreTheSyllablesSeen)
 {
     std::vector<Piece> pieces;
     const QString seen = ToUnicode(u"ip`MT 12À", pieces);
@@ -425,13 +425,13 @@ TEST(Shivaji01Pieces, AreTheSyllablesSeen)
     EXPECT_TRUE(pieces.empty());
 }
 
-TEST(Shivaji01Pieces, CoverEveryWordWithoutGaps)
+TEST(Shivaji01PiecesTest, CoverEveryWordWithoutGaps)
 {
     for (const Row& row : ReadRows(WordsFile))
         EXPECT_EQ(PiecesFault(row.first), "") << Utf8(row.first);
 }
 
-TEST(Shivaji01Pieces, CoverRandomTextsWithoutGaps)
+TEST(Shivaji01PiecesTest, CoverRandomTextsWithoutGaps)
 {
     std::mt19937 random(7);
     for (int i = 0; i < 100000; ++i) {
@@ -441,7 +441,7 @@ TEST(Shivaji01Pieces, CoverRandomTextsWithoutGaps)
     }
 }
 
-TEST(Shivaji01Pieces, NothingTypedIsDroppedInSilence)
+TEST(Shivaji01PiecesTest, NothingTypedIsDroppedInSilence)
 {
     // A code more is never less to see, but for the virama, which a half form already shows.
     std::mt19937 random(11);
@@ -457,7 +457,7 @@ TEST(Shivaji01Pieces, NothingTypedIsDroppedInSilence)
     }
 }
 
-TEST(AltNumbers, EveryCodeWithoutAKeyHasOneAndOnlyThose)
+TEST(AltNumbersTest, EveryCodeWithoutAKeyHasOneAndOnlyThose)
 {
     for (const Shivaji01::Glyph& glyph : Shivaji01::Glyphs()) {
         const int number = Shivaji01::AltNumber(glyph.code);
@@ -466,7 +466,7 @@ TEST(AltNumbers, EveryCodeWithoutAKeyHasOneAndOnlyThose)
     }
 }
 
-TEST(AltNumbers, ANumberThatStandsForNothingHasNoCode)
+TEST(AltNumbersTest, ANumberThatStandsForNothingHasNoCode)
 {
     EXPECT_EQ(Shivaji01::AltNumber(u'a'), 0);
     EXPECT_EQ(Shivaji01::CodeOfAltNumber(0), u'\0');

@@ -14,7 +14,7 @@ QString Rows(const QString& statement)
     return AskDemo(statement).join(u'\n');
 }
 
-TEST(Demo, IsTheSameEveryTime)
+TEST(DemoTest, IsTheSameEveryTime)
 {
     QTemporaryDir again;
     SocietyPlan plan = GoodPlan();
@@ -26,7 +26,7 @@ TEST(Demo, IsTheSameEveryTime)
     EXPECT_TRUE(first == second);
 }
 
-TEST(Demo, HasFortyMembersWithMarathiNames)
+TEST(DemoTest, HasFortyMembersWithMarathiNames)
 {
     const QStringList members = AskDemo(QStringLiteral("select MemberNo,MemberName from MembersMaster;"));
     ASSERT_EQ(members.size(), 40);
@@ -45,7 +45,7 @@ TEST(Demo, HasFortyMembersWithMarathiNames)
     EXPECT_TRUE(names.contains(QStringLiteral("ज्ञानेश्वर एकनाथ महाडिक")));
 }
 
-TEST(Demo, HasMembersOfEveryKind)
+TEST(DemoTest, HasMembersOfEveryKind)
 {
     EXPECT_EQ(
         Rows(QStringLiteral("select Animal,count(*)>=8 from MembersMaster group by Animal order by Animal;")),
@@ -65,7 +65,7 @@ TEST(Demo, HasMembersOfEveryKind)
         QStringLiteral("0"));
 }
 
-TEST(Demo, HasLocalAndFederationCustomers)
+TEST(DemoTest, HasLocalAndFederationCustomers)
 {
     EXPECT_EQ(Rows(QStringLiteral("select CustomerType,count(*) from CustomersMaster group by CustomerType "
                                   "order by CustomerType;")),
@@ -76,7 +76,7 @@ TEST(Demo, HasLocalAndFederationCustomers)
         QStringLiteral("2"));
 }
 
-TEST(Demo, RunsThroughAprilAndMayTwiceADay)
+TEST(DemoTest, RunsThroughAprilAndMayTwiceADay)
 {
     EXPECT_EQ(
         Rows(QStringLiteral("select min(CollectionDate),max(CollectionDate),count(distinct CollectionDate||"
@@ -86,7 +86,7 @@ TEST(Demo, RunsThroughAprilAndMayTwiceADay)
         QStringLiteral("saMQyaakaL\nsakaL"));
 }
 
-TEST(Demo, NumbersRunThroughEachShift)
+TEST(DemoTest, NumbersRunThroughEachShift)
 {
     EXPECT_EQ(
         Rows(QStringLiteral("select count(*) from (select min(CollectionNo) a,max(CollectionNo) b,count(*) n,"
@@ -95,7 +95,7 @@ TEST(Demo, NumbersRunThroughEachShift)
         QStringLiteral("0"));
 }
 
-TEST(Demo, EachDeliveryIsPricedAsTheCounterWould)
+TEST(DemoTest, EachDeliveryIsPricedAsTheCounterWould)
 {
     const QStringList rows = AskDemo(QStringLiteral(
         "select c.Liters,c.Fat,c.Rate,c.Amount,case c.Animal when 'gaaya' then f.CowRate when 'mhOsa' then "
@@ -115,7 +115,7 @@ TEST(Demo, EachDeliveryIsPricedAsTheCounterWould)
     }
 }
 
-TEST(Demo, MembersBringWhatTheirAnimalsGiveOnceAShift)
+TEST(DemoTest, MembersBringWhatTheirAnimalsGiveOnceAShift)
 {
     EXPECT_EQ(Rows(QStringLiteral(
                   "select count(*) from MilkCollections c join MembersMaster m using (MemberNo) where "
@@ -127,7 +127,7 @@ TEST(Demo, MembersBringWhatTheirAnimalsGiveOnceAShift)
         QStringLiteral("0"));
 }
 
-TEST(Demo, ClosingLitresAreTheOpeningAndTheDeliveries)
+TEST(DemoTest, ClosingLitresAreTheOpeningAndTheDeliveries)
 {
     const QStringList rows = AskDemo(QStringLiteral(
         "select CowOpeningLits,CowClosingLits,(select total(Liters) from MilkCollections c where "
@@ -144,7 +144,7 @@ TEST(Demo, ClosingLitresAreTheOpeningAndTheDeliveries)
     }
 }
 
-TEST(Demo, BalancesStandAsOpenedBecauseThePaymentPostsThem)
+TEST(DemoTest, BalancesStandAsOpenedBecauseThePaymentPostsThem)
 {
     EXPECT_EQ(Rows(QStringLiteral("select PurchaseEntry from AutoSettings;")), QStringLiteral("Payment"));
     EXPECT_EQ(
@@ -155,7 +155,7 @@ TEST(Demo, BalancesStandAsOpenedBecauseThePaymentPostsThem)
         QStringLiteral("1"));
 }
 
-TEST(Demo, ClocksAreInTheCountersForm)
+TEST(DemoTest, ClocksAreInTheCountersForm)
 {
     const QStringList clocks = AskDemo(QStringLiteral(
         "select distinct ActualCollectionTime from MilkCollections order by ActualCollectionTime;"));

@@ -200,7 +200,7 @@ QString PlanOf(const QString& statement)
     return AskDelivered(QStringLiteral("explain query plan ") % statement % u';').join(u' ');
 }
 
-TEST(Schema, HasEveryTableWithEveryColumnInOrderAndOfItsType)
+TEST(SchemaTest, HasEveryTableWithEveryColumnInOrderAndOfItsType)
 {
     const QHash<QString, QChar> letters{{QStringLiteral("INTEGER"), u'i'}, {QStringLiteral("REAL"), u'r'},
         {QStringLiteral("NUMERIC"), u'n'}, {QStringLiteral("TEXT"), u't'}, {QStringLiteral("DATE"), u'd'}};
@@ -212,7 +212,7 @@ TEST(Schema, HasEveryTableWithEveryColumnInOrderAndOfItsType)
     }
 }
 
-TEST(Schema, AChartHoldsTexts)
+TEST(SchemaTest, AChartHoldsTexts)
 {
     QStringList columns;
     for (const QString& line : AskDelivered(QStringLiteral("pragma table_info(Fat010426);")))
@@ -220,7 +220,7 @@ TEST(Schema, AChartHoldsTexts)
     EXPECT_EQ(columns.join(u' '), QStringLiteral("Fat|TEXT CowRate|TEXT BuffRate|TEXT"));
 }
 
-TEST(Schema, HasNoOtherTablesThanTheseAndTheFirstChart)
+TEST(SchemaTest, HasNoOtherTablesThanTheseAndTheFirstChart)
 {
     QStringList expected{QStringLiteral("Fat010426")};
     for (const Table& table : Tables)
@@ -231,7 +231,7 @@ TEST(Schema, HasNoOtherTablesThanTheseAndTheFirstChart)
     EXPECT_EQ(found.join(u' '), expected.join(u' '));
 }
 
-TEST(Schema, TablesCopiedWholeHaveTheSameColumns)
+TEST(SchemaTest, TablesCopiedWholeHaveTheSameColumns)
 {
     for (const auto& [one, other] : Pairs) {
         EXPECT_FALSE(ColumnsOf(one).isEmpty()) << one;
@@ -239,7 +239,7 @@ TEST(Schema, TablesCopiedWholeHaveTheSameColumns)
     }
 }
 
-TEST(Schema, DaysAreDatesAndNothingElseIs)
+TEST(SchemaTest, DaysAreDatesAndNothingElseIs)
 {
     int dates = 0;
     for (const Table& table : Tables) {
@@ -252,7 +252,7 @@ TEST(Schema, DaysAreDatesAndNothingElseIs)
     EXPECT_GT(dates, 40);
 }
 
-TEST(Schema, NumbersKeptAsTextAreText)
+TEST(SchemaTest, NumbersKeptAsTextAreText)
 {
     const QStringList texts{QStringLiteral("CanLimitBuff"), QStringLiteral("CanLimitCow"),
         QStringLiteral("SalesRateCow"), QStringLiteral("SalesRateBuff"), QStringLiteral("SalesRateMix"),
@@ -267,7 +267,7 @@ TEST(Schema, NumbersKeptAsTextAreText)
     EXPECT_EQ(found, texts.size());
 }
 
-TEST(Schema, WholeNumbersComeIntoAChartWithoutDecimals)
+TEST(SchemaTest, WholeNumbersComeIntoAChartWithoutDecimals)
 {
     const QStringList rows = AskDelivered(
         QStringLiteral("begin; insert into FatRates values(4.0,35.0,40.5); delete from Fat010426;"
@@ -276,7 +276,7 @@ TEST(Schema, WholeNumbersComeIntoAChartWithoutDecimals)
     EXPECT_EQ(rows.join(u'\n'), QStringLiteral("4|35|40.5|text"));
 }
 
-TEST(Schema, TheSampleBillIsOneRowInTheShapeOfAReceipt)
+TEST(SchemaTest, TheSampleBillIsOneRowInTheShapeOfAReceipt)
 {
     const QStringList rows = AskDelivered(
         QStringLiteral("begin; delete from MilkReceipt; insert into MilkReceipt select * from MRView;"
@@ -288,7 +288,7 @@ TEST(Schema, TheSampleBillIsOneRowInTheShapeOfAReceipt)
     EXPECT_EQ(rate.join(u'\n'), QStringLiteral("0.0"));
 }
 
-TEST(Indexes, AMembersLastFatIsReadOffAnIndexInItsOrder)
+TEST(IndexesTest, AMembersLastFatIsReadOffAnIndexInItsOrder)
 {
     const QString plan = PlanOf(QStringLiteral(
         "select * from MilkCollections where CollectionDate<='2026-05-01' and CollectionTime='sakaL' and "
@@ -298,7 +298,7 @@ TEST(Indexes, AMembersLastFatIsReadOffAnIndexInItsOrder)
     EXPECT_FALSE(plan.contains(u"TEMP B-TREE")) << plan.toStdString();
 }
 
-TEST(Indexes, AMembersLitresAreSummedFromAnIndexAlone)
+TEST(IndexesTest, AMembersLitresAreSummedFromAnIndexAlone)
 {
     const QString plan = PlanOf(QStringLiteral(
         "select sum(Liters) from MilkCollections where CompanyId=1 and Animal='gaaya' and MemberNo=7"));
@@ -306,7 +306,7 @@ TEST(Indexes, AMembersLitresAreSummedFromAnIndexAlone)
         << plan.toStdString();
 }
 
-TEST(Indexes, TheStatementsOfEveryDayScanNoLongTable)
+TEST(IndexesTest, TheStatementsOfEveryDayScanNoLongTable)
 {
     const std::array statements{
         u"select max(CollectionNo) from MilkCollections where CollectionDate='2026-05-01' and "
@@ -348,7 +348,7 @@ TEST(Indexes, TheStatementsOfEveryDayScanNoLongTable)
     }
 }
 
-TEST(Indexes, APaymentIsFoundByItsMemberNotByItsCompany)
+TEST(IndexesTest, APaymentIsFoundByItsMemberNotByItsCompany)
 {
     const QString plan =
         PlanOf(QStringLiteral("select sum(NetAmount) from MilkPayments where CompanyId=1 and MemberNo=7"));

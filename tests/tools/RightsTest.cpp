@@ -12,7 +12,7 @@
 namespace {
 
 // The installer under a user who lets everybody read what he writes.
-class Rights : public testing::Test {
+class RightsTest : public testing::Test {
 protected:
     void SetUp() override { m_mask = umask(022); }
     void TearDown() override { umask(m_mask); }
@@ -58,7 +58,7 @@ private:
     mode_t m_mask = 0;
 };
 
-TEST_F(Rights, OfANewSocietyAreItsOwnersAlone)
+TEST_F(RightsTest, OfANewSocietyAreItsOwnersAlone)
 {
     const Ran run = RunSetup(Arguments(Folder()));
     ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
@@ -67,7 +67,7 @@ TEST_F(Rights, OfANewSocietyAreItsOwnersAlone)
     EXPECT_EQ(OpenToOthers(Folder()), QStringList());
 }
 
-TEST_F(Rights, OfOlderBooksAreNarrowedWithAllThatLiesWhereTheProgramLooks)
+TEST_F(RightsTest, OfOlderBooksAreNarrowedWithAllThatLiesWhereTheProgramLooks)
 {
     ASSERT_EQ(RunSetup(WithoutFolder(), Home()).exitCode, 0);
     const QDir folder(ProgramsFolder());
@@ -80,7 +80,7 @@ TEST_F(Rights, OfOlderBooksAreNarrowedWithAllThatLiesWhereTheProgramLooks)
     EXPECT_EQ(OpenToOthers(folder.path()), QStringList());
 }
 
-TEST_F(Rights, OfWhatElseLiesInANamedFolderStay)
+TEST_F(RightsTest, OfWhatElseLiesInANamedFolderStay)
 {
     ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
     QFile letter(QDir(Folder()).filePath(QStringLiteral("letter.txt")));

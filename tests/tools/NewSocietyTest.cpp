@@ -35,14 +35,14 @@ SocietyPlan Replacing()
     return plan;
 }
 
-class Society : public testing::Test {
+class NewSocietyTest : public testing::Test {
 protected:
     QTemporaryDir m_dir;
     QString Folder() const { return m_dir.filePath(QStringLiteral("books")); }
     QString File(QStringView name) const { return QDir(Folder()).filePath(name.toString()); }
 };
 
-TEST_F(Society, BeginsTheWeekInWhichItsPagesAreKnownToBeSound)
+TEST_F(NewSocietyTest, BeginsTheWeekInWhichItsPagesAreKnownToBeSound)
 {
     SocietyPlan plan = GoodPlan();
     plan.now = QDateTime(QDate(2026, 4, 1), QTime(10, 15));
@@ -52,7 +52,7 @@ TEST_F(Society, BeginsTheWeekInWhichItsPagesAreKnownToBeSound)
     EXPECT_EQ(note.readAll(), "2026-04-01");
 }
 
-TEST_F(Society, HasADatabaseAPasswordABackupFolderTheTemplatesANoteOfSoundPagesAndNothingElse)
+TEST_F(NewSocietyTest, HasADatabaseAPasswordABackupFolderTheTemplatesANoteOfSoundPagesAndNothingElse)
 {
     MakeSociety(Folder(), GoodPlan());
     EXPECT_EQ(BooksIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
@@ -62,7 +62,7 @@ TEST_F(Society, HasADatabaseAPasswordABackupFolderTheTemplatesANoteOfSoundPagesA
     EXPECT_TRUE(QFileInfo(File(BackupFolderName)).isDir());
 }
 
-TEST_F(Society, OpensInTheStockShellWithThePasswordAndWithNoOther)
+TEST_F(NewSocietyTest, OpensInTheStockShellWithThePasswordAndWithNoOther)
 {
     MakeSociety(Folder(), GoodPlan());
     const QString count = QStringLiteral("select count(*) from MembersMaster; pragma integrity_check;");
@@ -71,7 +71,7 @@ TEST_F(Society, OpensInTheStockShellWithThePasswordAndWithNoOther)
     EXPECT_FALSE(FileContent(File(DatabaseFileName)).contains("MembersMaster"));
 }
 
-TEST_F(Society, OpensInTheProgramWithThePasswordOfItsFile)
+TEST_F(NewSocietyTest, OpensInTheProgramWithThePasswordOfItsFile)
 {
     SocietyPlan plan = GoodPlan();
     plan.password = QStringLiteral("a=b|(c)!");
@@ -85,7 +85,7 @@ TEST_F(Society, OpensInTheProgramWithThePasswordOfItsFile)
     EXPECT_EQ(selected[u"FromDate"].Date(), QDate(2026, 4, 1));
 }
 
-TEST_F(Society, SurvivesACopyMadeForTests)
+TEST_F(NewSocietyTest, SurvivesACopyMadeForTests)
 {
     CopySociety(m_dir.filePath(QStringLiteral("one")), GoodPlan());
     CopySociety(m_dir.filePath(QStringLiteral("two")), GoodPlan());
@@ -98,7 +98,7 @@ TEST_F(Society, SurvivesACopyMadeForTests)
     EXPECT_THROW(CopySociety(m_dir.filePath(QStringLiteral("one")), GoodPlan()), RunTimeError);
 }
 
-TEST_F(Society, AnotherOneIsNotMadeOverIt)
+TEST_F(NewSocietyTest, AnotherOneIsNotMadeOverIt)
 {
     MakeSociety(Folder(), GoodPlan());
     const QByteArray database = FileContent(File(DatabaseFileName));
@@ -111,7 +111,7 @@ TEST_F(Society, AnotherOneIsNotMadeOverIt)
     EXPECT_EQ(BooksIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
 }
 
-TEST_F(Society, ReplacedIsKeptUnderADateAndOpensWithItsOwnPassword)
+TEST_F(NewSocietyTest, ReplacedIsKeptUnderADateAndOpensWithItsOwnPassword)
 {
     MakeSociety(Folder(), GoodPlan());
     MakeSociety(Folder(), Replacing());
@@ -126,7 +126,7 @@ TEST_F(Society, ReplacedIsKeptUnderADateAndOpensWithItsOwnPassword)
         QStringLiteral("99"));
 }
 
-TEST_F(Society, ReplacedTwiceInASecondKeepsBoth)
+TEST_F(NewSocietyTest, ReplacedTwiceInASecondKeepsBoth)
 {
     MakeSociety(Folder(), GoodPlan());
     MakeSociety(Folder(), Replacing());
@@ -136,7 +136,7 @@ TEST_F(Society, ReplacedTwiceInASecondKeepsBoth)
                        "PWD-2026-04-01-101530-2.TXT PWD-2026-04-01-101530.TXT PWD.TXT"));
 }
 
-TEST_F(Society, ReplacedAfterAPowerCutKeepsItsLastWriting)
+TEST_F(NewSocietyTest, ReplacedAfterAPowerCutKeepsItsLastWriting)
 {
     const QString running = m_dir.filePath(QStringLiteral("running"));
     MakeSociety(running, GoodPlan());
@@ -154,7 +154,7 @@ TEST_F(Society, ReplacedAfterAPowerCutKeepsItsLastWriting)
         QStringLiteral("1"));
 }
 
-TEST_F(Society, ReplacedWithoutItsPasswordTakesItsJournalAlong)
+TEST_F(NewSocietyTest, ReplacedWithoutItsPasswordTakesItsJournalAlong)
 {
     const QString running = m_dir.filePath(QStringLiteral("running"));
     MakeSociety(running, GoodPlan());
@@ -171,7 +171,7 @@ TEST_F(Society, ReplacedWithoutItsPasswordTakesItsJournalAlong)
         QStringLiteral("2"));
 }
 
-TEST_F(Society, ReplacedWhenDamagedIsKeptByteForByte)
+TEST_F(NewSocietyTest, ReplacedWhenDamagedIsKeptByteForByte)
 {
     ASSERT_TRUE(QDir().mkpath(Folder()));
     QFile damaged(File(DatabaseFileName));
@@ -184,7 +184,7 @@ TEST_F(Society, ReplacedWhenDamagedIsKeptByteForByte)
         QStringLiteral("99"));
 }
 
-TEST_F(Society, APasswordFileWithoutADatabaseIsKept)
+TEST_F(NewSocietyTest, APasswordFileWithoutADatabaseIsKept)
 {
     MakeSociety(Folder(), GoodPlan());
     const QByteArray password = FileContent(File(PasswordFileName));
@@ -196,7 +196,7 @@ TEST_F(Society, APasswordFileWithoutADatabaseIsKept)
     EXPECT_NE(FileContent(File(PasswordFileName)), password);
 }
 
-TEST_F(Society, LeftoversOfAnInterruptedMakingAreNoHindrance)
+TEST_F(NewSocietyTest, LeftoversOfAnInterruptedMakingAreNoHindrance)
 {
     ASSERT_TRUE(QDir().mkpath(Folder()));
     for (const QStringView name : {u"Morvelta.mdb.new", u"Morvelta.mdb.new-wal"}) {
@@ -208,7 +208,7 @@ TEST_F(Society, LeftoversOfAnInterruptedMakingAreNoHindrance)
     EXPECT_EQ(BooksIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
 }
 
-TEST_F(Society, WhereNoFolderCanBeNothingIsMade)
+TEST_F(NewSocietyTest, WhereNoFolderCanBeNothingIsMade)
 {
     QFile inTheWay(Folder());
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
@@ -217,7 +217,7 @@ TEST_F(Society, WhereNoFolderCanBeNothingIsMade)
     EXPECT_EQ(FilesIn(m_dir.path()).join(u' '), QStringLiteral("books"));
 }
 
-TEST_F(Society, WhenTheBackupFolderCannotBeTheOldBooksStayAndNoHalfOnesAreLeft)
+TEST_F(NewSocietyTest, WhenTheBackupFolderCannotBeTheOldBooksStayAndNoHalfOnesAreLeft)
 {
     MakeSociety(Folder(), GoodPlan());
     const QByteArray database = FileContent(File(DatabaseFileName));
@@ -230,7 +230,7 @@ TEST_F(Society, WhenTheBackupFolderCannotBeTheOldBooksStayAndNoHalfOnesAreLeft)
     EXPECT_EQ(FileContent(File(DatabaseFileName)), database);
 }
 
-TEST(SocietyPlans, AreRefusedInOneSentence)
+TEST(SocietyPlansTest, AreRefusedInOneSentence)
 {
     const auto refusal = [](auto change) {
         SocietyPlan plan = GoodPlan();
@@ -260,7 +260,7 @@ TEST(SocietyPlans, AreRefusedInOneSentence)
             << year;
 }
 
-TEST_F(Society, IsNotMadeOfARefusedPlan)
+TEST_F(NewSocietyTest, IsNotMadeOfARefusedPlan)
 {
     SocietyPlan plan = GoodPlan();
     plan.year = QStringLiteral("2026-2028");
@@ -269,7 +269,7 @@ TEST_F(Society, IsNotMadeOfARefusedPlan)
     EXPECT_FALSE(QFileInfo::exists(Folder()));
 }
 
-TEST_F(Society, LargeHasACanForEveryMemberInEveryShift)
+TEST_F(NewSocietyTest, LargeHasACanForEveryMemberInEveryShift)
 {
     MakeLargeSociety(Folder(), GoodPlan(), 45, 3);
     EXPECT_EQ(Shell(Folder(), GoodPlan().password,

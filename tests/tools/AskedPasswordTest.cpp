@@ -128,7 +128,7 @@ private:
     qsizetype m_from = 0;
 };
 
-class AskedPassword : public testing::Test {
+class AskedPasswordTest : public testing::Test {
 protected:
     QString Folder() const { return m_dir.filePath(QStringLiteral("books")); }
     bool HasBooks() const { return QFile::exists(QDir(Folder()).filePath(DatabaseFileName.toString())); }
@@ -137,14 +137,14 @@ private:
     QTemporaryDir m_dir;
 };
 
-TEST_F(AskedPassword, IsTheFirstLineOfTheStandardInputWhereNoneIsGiven)
+TEST_F(AskedPasswordTest, IsTheFirstLineOfTheStandardInputWhereNoneIsGiven)
 {
     const Ran run = RunSetup(WithoutPassword(Folder()), {}, "first\nsecond\n");
     EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
     EXPECT_TRUE(OpensWith(Folder(), "first"));
 }
 
-TEST_F(AskedPassword, IsReadFromTheStandardInputForADashAndNeedsNoEndOfLine)
+TEST_F(AskedPasswordTest, IsReadFromTheStandardInputForADashAndNeedsNoEndOfLine)
 {
     const Ran run =
         RunSetup(WithoutPassword(Folder()) << QStringLiteral("--password") << QStringLiteral("-"), {}, "-x-");
@@ -152,13 +152,13 @@ TEST_F(AskedPassword, IsReadFromTheStandardInputForADashAndNeedsNoEndOfLine)
     EXPECT_TRUE(OpensWith(Folder(), "-x-"));
 }
 
-TEST_F(AskedPassword, MayEndInTheLineEndOfAnotherSystem)
+TEST_F(AskedPasswordTest, MayEndInTheLineEndOfAnotherSystem)
 {
     EXPECT_EQ(RunSetup(WithoutPassword(Folder()), {}, "first\r\n").exitCode, 0);
     EXPECT_TRUE(OpensWith(Folder(), "first"));
 }
 
-TEST_F(AskedPassword, OfTheStandardInputIsCheckedLikeAGivenOne)
+TEST_F(AskedPasswordTest, OfTheStandardInputIsCheckedLikeAGivenOne)
 {
     ExpectRefusal(RunSetup(WithoutPassword(Folder()), {}, ""), 2, u"password is empty");
     ExpectRefusal(RunSetup(WithoutPassword(Folder()), {}, "\nsecond\n"), 2, u"password is empty");
@@ -167,7 +167,7 @@ TEST_F(AskedPassword, OfTheStandardInputIsCheckedLikeAGivenOne)
     EXPECT_FALSE(HasBooks());
 }
 
-TEST_F(AskedPassword, IsTypedTwiceAtATerminalAndNeverShown)
+TEST_F(AskedPasswordTest, IsTypedTwiceAtATerminalAndNeverShown)
 {
     Terminal terminal(WithoutPassword(Folder()));
     ASSERT_TRUE(terminal.Says("isn't shown")) << terminal.Said().toStdString();
@@ -183,7 +183,7 @@ TEST_F(AskedPassword, IsTypedTwiceAtATerminalAndNeverShown)
     EXPECT_TRUE(OpensWith(Folder(), "hidden"));
 }
 
-TEST_F(AskedPassword, TypedDifferentlyMakesNoBooks)
+TEST_F(AskedPasswordTest, TypedDifferentlyMakesNoBooks)
 {
     Terminal terminal(WithoutPassword(Folder()));
     ASSERT_TRUE(terminal.Says("isn't shown"));
@@ -196,7 +196,7 @@ TEST_F(AskedPassword, TypedDifferentlyMakesNoBooks)
     EXPECT_FALSE(HasBooks());
 }
 
-TEST_F(AskedPassword, IsLeftInNoCore)
+TEST_F(AskedPasswordTest, IsLeftInNoCore)
 {
     Terminal terminal(WithoutPassword(Folder()));
     ASSERT_TRUE(terminal.Says("isn't shown"));
@@ -205,7 +205,7 @@ TEST_F(AskedPassword, IsLeftInNoCore)
     EXPECT_EQ(terminal.Ended(), 1);
 }
 
-TEST_F(AskedPassword, IsBrokenOffAtOnceHoweverSoonThatComesAfterTheQuestion)
+TEST_F(AskedPasswordTest, IsBrokenOffAtOnceHoweverSoonThatComesAfterTheQuestion)
 {
     for (int time = 0; time < 100; ++time) {
         Terminal terminal(WithoutPassword(Folder()));
@@ -216,7 +216,7 @@ TEST_F(AskedPassword, IsBrokenOffAtOnceHoweverSoonThatComesAfterTheQuestion)
     }
 }
 
-TEST_F(AskedPassword, BrokenOffLeavesTheTerminalShowingWhatIsTyped)
+TEST_F(AskedPasswordTest, BrokenOffLeavesTheTerminalShowingWhatIsTyped)
 {
     Terminal terminal(WithoutPassword(Folder()));
     ASSERT_TRUE(terminal.Says("isn't shown"));

@@ -15,7 +15,7 @@ QStringList Words(std::initializer_list<const char*> words)
 }
 
 // The program that plays a device, as an administrator runs it.
-class DeviceProgram : public testing::Test {
+class DeviceProgramTest : public testing::Test {
 protected:
     void Start(const QStringList& arguments) { m_program.start(QStringLiteral(DEVICE_PROGRAM), arguments); }
 
@@ -53,7 +53,7 @@ protected:
     QProcess m_program;
 };
 
-TEST_F(DeviceProgram, PlaysOnALinkUntilItIsEnded)
+TEST_F(DeviceProgramTest, PlaysOnALinkUntilItIsEnded)
 {
     Start(Words({"ACE CORP", "--liters", "7.5", "--manner", "silent", "--link"}) << Link());
     const QString device = Device();
@@ -65,14 +65,14 @@ TEST_F(DeviceProgram, PlaysOnALinkUntilItIsEnded)
     EXPECT_FALSE(QFileInfo(Link()).isSymLink());
 }
 
-TEST_F(DeviceProgram, ALinkThatIsThereIsLeftAlone)
+TEST_F(DeviceProgramTest, ALinkThatIsThereIsLeftAlone)
 {
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/null"), Link()));
     EXPECT_TRUE(Refusal(Words({"ELECTRO", "--link"}) << Link()).contains(Link()));
     EXPECT_EQ(QFileInfo(Link()).symLinkTarget(), QStringLiteral("/dev/null"));
 }
 
-TEST_F(DeviceProgram, WrongUseIsRefusedWithASentence)
+TEST_F(DeviceProgramTest, WrongUseIsRefusedWithASentence)
 {
     EXPECT_TRUE(Refusal({}).contains(u"KIND"));
     EXPECT_TRUE(Refusal(Words({"ELECTRO", "MCS"})).contains(u"KIND"));
@@ -82,7 +82,7 @@ TEST_F(DeviceProgram, WrongUseIsRefusedWithASentence)
     EXPECT_TRUE(Refusal(Words({"ELECTRO", "--pause", "-1"})).contains(u"numbers"));
 }
 
-TEST_F(DeviceProgram, TheHelpNamesEachKindAndEachManner)
+TEST_F(DeviceProgramTest, TheHelpNamesEachKindAndEachManner)
 {
     Start(Words({"--help"}));
     EXPECT_EQ(ExitCode(), 0);

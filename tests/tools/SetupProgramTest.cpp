@@ -9,13 +9,13 @@
 
 namespace {
 
-class SetupProgram : public testing::Test {
+class SetupProgramTest : public testing::Test {
 protected:
     QTemporaryDir m_dir;
     QString Folder() const { return m_dir.filePath(QStringLiteral("books")); }
 };
 
-TEST_F(SetupProgram, MakesASociety)
+TEST_F(SetupProgramTest, MakesASociety)
 {
     const Ran run = RunSetup(Arguments(Folder()));
     EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
@@ -25,7 +25,7 @@ TEST_F(SetupProgram, MakesASociety)
         QStringLiteral("0"));
 }
 
-TEST_F(SetupProgram, MakesTheDemonstration)
+TEST_F(SetupProgramTest, MakesTheDemonstration)
 {
     const Ran run = RunSetup(Arguments(Folder()) << QStringLiteral("--demo"));
     EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
@@ -34,7 +34,7 @@ TEST_F(SetupProgram, MakesTheDemonstration)
         QStringLiteral("40"));
 }
 
-TEST_F(SetupProgram, PutsTheBooksWhereTheProgramLooksForThem)
+TEST_F(SetupProgramTest, PutsTheBooksWhereTheProgramLooksForThem)
 {
     QStringList arguments = Arguments(Folder());
     arguments.resize(6);
@@ -46,7 +46,7 @@ TEST_F(SetupProgram, PutsTheBooksWhereTheProgramLooksForThem)
         QFileInfo::exists(m_dir.filePath(QStringLiteral("vetrolan/drive_c/Tarvel01/Vetrolan/PWD.TXT"))));
 }
 
-TEST_F(SetupProgram, TouchesNoSocietyThatIsThere)
+TEST_F(SetupProgramTest, TouchesNoSocietyThatIsThere)
 {
     ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
     const QByteArray database = FileContent(QDir(Folder()).filePath(DatabaseFileName.toString()));
@@ -54,7 +54,7 @@ TEST_F(SetupProgram, TouchesNoSocietyThatIsThere)
     EXPECT_EQ(FileContent(QDir(Folder()).filePath(DatabaseFileName.toString())), database);
 }
 
-TEST_F(SetupProgram, ReplacesWhenToldTo)
+TEST_F(SetupProgramTest, ReplacesWhenToldTo)
 {
     ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
     EXPECT_EQ(RunSetup(Arguments(Folder()) << QStringLiteral("--replace")).exitCode, 0);
@@ -62,7 +62,7 @@ TEST_F(SetupProgram, ReplacesWhenToldTo)
     EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("PWD*.TXT")}).size(), 2);
 }
 
-TEST_F(SetupProgram, LeavesBooksAloneThatAreOpen)
+TEST_F(SetupProgramTest, LeavesBooksAloneThatAreOpen)
 {
     ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
     const SingleInstance running(Folder());
@@ -74,7 +74,7 @@ TEST_F(SetupProgram, LeavesBooksAloneThatAreOpen)
     EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 1);
 }
 
-TEST_F(SetupProgram, TellsWhatItTakes)
+TEST_F(SetupProgramTest, TellsWhatItTakes)
 {
     const Ran run = RunSetup({QStringLiteral("--help")});
     EXPECT_EQ(run.exitCode, 0);
@@ -83,7 +83,7 @@ TEST_F(SetupProgram, TellsWhatItTakes)
         EXPECT_TRUE(run.out.contains(option)) << option.toString().toStdString();
 }
 
-TEST_F(SetupProgram, RefusesBadArgumentsInOneLine)
+TEST_F(SetupProgramTest, RefusesBadArgumentsInOneLine)
 {
     const QStringList good = Arguments(Folder());
     ExpectRefusal(RunSetup({}), 2, u"--society is missing");
@@ -99,7 +99,7 @@ TEST_F(SetupProgram, RefusesBadArgumentsInOneLine)
     EXPECT_FALSE(QFileInfo::exists(Folder()));
 }
 
-TEST_F(SetupProgram, SaysWhenTheFolderCannotBe)
+TEST_F(SetupProgramTest, SaysWhenTheFolderCannotBe)
 {
     QFile inTheWay(Folder());
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
@@ -107,7 +107,7 @@ TEST_F(SetupProgram, SaysWhenTheFolderCannotBe)
     ExpectRefusal(RunSetup(Arguments(Folder())), 1, u"folder");
 }
 
-TEST_F(SetupProgram, WritesOnlyTheTemplatesBesideTheBooks)
+TEST_F(SetupProgramTest, WritesOnlyTheTemplatesBesideTheBooks)
 {
     const QStringList renew{QStringLiteral("--templates"), QStringLiteral("--folder"), Folder()};
     ExpectRefusal(RunSetup(renew), 1, u"no society");
@@ -123,7 +123,7 @@ TEST_F(SetupProgram, WritesOnlyTheTemplatesBesideTheBooks)
     ExpectRefusal(RunSetup(Arguments(Folder()) << QStringLiteral("--templates")), 2, u"--templates");
 }
 
-TEST_F(SetupProgram, WritesTheSlipOfTheSearchIntoTheOlderFolderOnlyWhereTheProgramLooks)
+TEST_F(SetupProgramTest, WritesTheSlipOfTheSearchIntoTheOlderFolderOnlyWhereTheProgramLooks)
 {
     QStringList arguments = Arguments(Folder());
     ASSERT_EQ(RunSetup(arguments, m_dir.path()).exitCode, 0);

@@ -12,20 +12,20 @@ QString Rows(const QString& statement)
     return AskDelivered(statement).join(u'\n');
 }
 
-TEST(DeliveredRows, AllSevenMenusAreOpen)
+TEST(DeliveredRowsTest, AllSevenMenusAreOpen)
 {
     EXPECT_EQ(Rows(QStringLiteral("select MenuName,AccessYesNo from MenuAccessTable;")),
         QStringLiteral("Master|1\nAccount Voucher|1\nStock Voucher|1\nAccount Report|1\nStock Report|1\n"
                        "Statistical Report|1\nUtilities|1"));
 }
 
-TEST(DeliveredRows, FeedIsSummedByItsTypeAndTheOtherHeadsByTheirWords)
+TEST(DeliveredRowsTest, FeedIsSummedByItsTypeAndTheOtherHeadsByTheirWords)
 {
     EXPECT_EQ(Rows(QStringLiteral("select CompanyId,TypeId,UchalType from UchalTypes;")),
         QStringLiteral("1|1|]cala\n1|0|KaV\n1|1|ikraNaa maalaÀroSana\n1|1|[tr"));
 }
 
-TEST(DeliveredRows, NumberWordsReadAsMarathiFrom1To99)
+TEST(DeliveredRowsTest, NumberWordsReadAsMarathiFrom1To99)
 {
     const QStringList words = AskDelivered(QStringLiteral("select no1,word1 from rswords order by no1;"));
     const QStringList expected = Delivered::NumberWords().split(u'\n', Qt::SkipEmptyParts).mid(1);
@@ -38,7 +38,7 @@ TEST(DeliveredRows, NumberWordsReadAsMarathiFrom1To99)
     }
 }
 
-TEST(DeliveredRows, TheAccountsAreCashAndOneBank)
+TEST(DeliveredRowsTest, TheAccountsAreCashAndOneBank)
 {
     const QStringList rows = AskDelivered(QStringLiteral(
         "select AccountName,GroupCode,OpeningBalance,OpeningDorC from AccountsMaster order by AccountId;"));
@@ -49,7 +49,7 @@ TEST(DeliveredRows, TheAccountsAreCashAndOneBank)
     EXPECT_EQ(bank[1], QStringLiteral("Bank"));
 }
 
-TEST(DeliveredRows, TheSettingsAreInTheSystemsWords)
+TEST(DeliveredRowsTest, TheSettingsAreInTheSystemsWords)
 {
     EXPECT_EQ(Rows(QStringLiteral("select * from AutoSettings;")),
         QStringLiteral(
@@ -60,13 +60,13 @@ TEST(DeliveredRows, TheSettingsAreInTheSystemsWords)
         QStringLiteral("text|text|real"));
 }
 
-TEST(DeliveredRows, ThePortsStandForAScaleAndATester)
+TEST(DeliveredRowsTest, ThePortsStandForAScaleAndATester)
 {
     EXPECT_EQ(Rows(QStringLiteral("select LComPortNo,LSetting,FComPortNo,FSetting from PortTable;")),
         QStringLiteral("1|2400,n,8,1|2|9600,n,8,1"));
 }
 
-TEST(DeliveredRows, TheCompanyRunsFromAprilToMarch)
+TEST(DeliveredRowsTest, TheCompanyRunsFromAprilToMarch)
 {
     const QStringList selected = Rows(QStringLiteral("select * from CompanySelected;")).split(u'|');
     ASSERT_EQ(selected.size(), 7);
@@ -79,7 +79,7 @@ TEST(DeliveredRows, TheCompanyRunsFromAprilToMarch)
         QStringLiteral("1|2026-04-01"));
 }
 
-TEST(DeliveredRows, TownsAndBanksReadAsMarathi)
+TEST(DeliveredRowsTest, TownsAndBanksReadAsMarathi)
 {
     EXPECT_EQ(Shivaji01::ToUnicode(Rows(QStringLiteral("select CityName from CityMaster;"))),
         QStringLiteral("कराड\nसातारा"));
@@ -87,7 +87,7 @@ TEST(DeliveredRows, TownsAndBanksReadAsMarathi)
         QStringLiteral("जिल्हा मध्यवर्ती सहकारी बँक\nमहाराष्ट्र बँक"));
 }
 
-TEST(FirstChart, IsNamedByTheFirstDayOfTheYear)
+TEST(FirstChartTest, IsNamedByTheFirstDayOfTheYear)
 {
     EXPECT_EQ(Rows(QStringLiteral("select FromDate,FatFileName from FatDates;")),
         QStringLiteral("2026-04-01|Fat010426"));
@@ -96,7 +96,7 @@ TEST(FirstChart, IsNamedByTheFirstDayOfTheYear)
         QStringLiteral("Fat010426 (Fat TEXT,CowRate TEXT,BuffRate TEXT)"));
 }
 
-TEST(FirstChart, KeysAreTextsInShortestFormByTenths)
+TEST(FirstChartTest, KeysAreTextsInShortestFormByTenths)
 {
     const QStringList keys = AskDelivered(QStringLiteral("select Fat||' '||typeof(Fat) from Fat010426;"));
     ASSERT_EQ(keys.size(), 131);
@@ -106,7 +106,7 @@ TEST(FirstChart, KeysAreTextsInShortestFormByTenths)
     EXPECT_EQ(Rows(QStringLiteral("select count(*) from Fat010426 where Fat='4.0';")), QStringLiteral("0"));
 }
 
-TEST(FirstChart, RatesRiseAndStayBelowTheCeiling)
+TEST(FirstChartTest, RatesRiseAndStayBelowTheCeiling)
 {
     double lastCow = 0;
     double lastBuffalo = 0;

@@ -13,7 +13,7 @@ QString Read(const QByteArray& file)
     return PasswordOfItems(ItemsOf(QString::fromLatin1(file)));
 }
 
-TEST(PasswordFile, ReadsBackAsThePassword)
+TEST(PasswordFileTest, ReadsBackAsThePassword)
 {
     for (const char* word :
         {"a", "Z", "0", "gokul", "Gokul#2026", "zZ9zZ9", "x!y", "(a+b)*c", "|pipe|", "a=b", "C:\\x_^"}) {
@@ -24,7 +24,7 @@ TEST(PasswordFile, ReadsBackAsThePassword)
     }
 }
 
-TEST(PasswordFile, EveryAllowedCharacterSurvives)
+TEST(PasswordFileTest, EveryAllowedCharacterSurvives)
 {
     int allowed = 0;
     for (char16_t code = 0; code < 0x180; ++code) {
@@ -37,7 +37,7 @@ TEST(PasswordFile, EveryAllowedCharacterSurvives)
     EXPECT_EQ(allowed, 26 + 26 + 10 + 24);
 }
 
-TEST(PasswordFile, IsPlainAsciiAndDoesNotShowThePassword)
+TEST(PasswordFileTest, IsPlainAsciiAndDoesNotShowThePassword)
 {
     const QByteArray file = PasswordFile::Written(QStringLiteral("Gokul#2026"));
     for (const char c : file)
@@ -46,7 +46,7 @@ TEST(PasswordFile, IsPlainAsciiAndDoesNotShowThePassword)
     EXPECT_FALSE(shown.replace("\"\n\"", "").contains("Gokul"));
 }
 
-TEST(PasswordFile, RefusesWhatTheReadingWouldLose)
+TEST(PasswordFileTest, RefusesWhatTheReadingWouldLose)
 {
     const QStringList refused{QString(), QStringLiteral(" "), QStringLiteral("two words"),
         QStringLiteral("a'b"), QStringLiteral("a\"b"), QStringLiteral("a,b"), QStringLiteral("a;b"),
@@ -56,7 +56,7 @@ TEST(PasswordFile, RefusesWhatTheReadingWouldLose)
         EXPECT_NE(PasswordFile::WhyRefused(password), QString()) << password.toStdString();
 }
 
-TEST(PasswordFile, HasOneCharacterToALineAndTheKeyLast)
+TEST(PasswordFileTest, HasOneCharacterToALineAndTheKeyLast)
 {
     EXPECT_EQ(PasswordFile::Written(QStringLiteral("ab1")), QByteArray("\"f\"\n\"g\"\n\"6\"\n\"\x05\"\n"));
 }
@@ -70,14 +70,14 @@ QStringList Disguised(const QString& password)
     return items << QStringLiteral("!");
 }
 
-TEST(PasswordReading, DropsBlanksAtTheEnds)
+TEST(PasswordReadingTest, DropsBlanksAtTheEnds)
 {
     EXPECT_EQ(PasswordOfItems(Disguised(QStringLiteral("  ab  "))), QStringLiteral("ab"));
     EXPECT_EQ(PasswordOfItems(Disguised(QStringLiteral("a b"))), QStringLiteral("ab"))
         << "each character is put to the trimmed ones before it";
 }
 
-TEST(PasswordReading, KeepsTabsAndHardBlanks)
+TEST(PasswordReadingTest, KeepsTabsAndHardBlanks)
 {
     for (const QChar kept : {QChar(u'\t'), QChar(u'\u00a0'), QChar(u'\n')}) {
         const QString password = kept % QStringLiteral("a") % kept % QStringLiteral("b") % kept;

@@ -13,7 +13,7 @@ namespace {
 const QString Slip = QStringLiteral("MilkReceipt1.rpt");
 const QDateTime Now(QDate(2026, 4, 1), QTime(10, 15, 30));
 
-class Templates : public testing::Test {
+class TemplatesTest : public testing::Test {
 protected:
     QString Folder() const { return m_dir.filePath(QStringLiteral("books")); }
     QString File(const QString& name) const { return QDir(Folder()).filePath(name); }
@@ -46,7 +46,7 @@ protected:
     QTemporaryDir m_dir;
 };
 
-TEST_F(Templates, DeliveredAreThoseOfTheFolderOfTemplates)
+TEST_F(TemplatesTest, DeliveredAreThoseOfTheFolderOfTemplates)
 {
     const QDir folder(QStringLiteral(TEMPLATES_FOLDER));
     QStringList delivered;
@@ -60,14 +60,14 @@ TEST_F(Templates, DeliveredAreThoseOfTheFolderOfTemplates)
     EXPECT_EQ(delivered.join(u'\n'), shipped.join(u'\n'));
 }
 
-TEST_F(Templates, AreWrittenIntoANewFolder)
+TEST_F(TemplatesTest, AreWrittenIntoANewFolder)
 {
     WriteTemplates(Folder(), Now);
     EXPECT_EQ(Differing(), QStringList());
     EXPECT_EQ(FilesIn(Folder()).size(), static_cast<int>(Delivered::Templates().size()));
 }
 
-TEST_F(Templates, WrittenAgainTouchNothing)
+TEST_F(TemplatesTest, WrittenAgainTouchNothing)
 {
     WriteTemplates(Folder(), Now);
     const TestDisk disk;
@@ -75,7 +75,7 @@ TEST_F(Templates, WrittenAgainTouchNothing)
     EXPECT_EQ(disk.Done(), QStringList());
 }
 
-TEST_F(Templates, OneThatTheSocietyHasChangedIsKeptUnderADate)
+TEST_F(TemplatesTest, OneThatTheSocietyHasChangedIsKeptUnderADate)
 {
     WriteTemplates(Folder(), Now);
     Put(Slip, "our own");
@@ -88,7 +88,7 @@ TEST_F(Templates, OneThatTheSocietyHasChangedIsKeptUnderADate)
     EXPECT_EQ(FileContent(File(QStringLiteral("MilkReceipt1-2026-04-01-101530-2.rpt"))), "another");
 }
 
-TEST_F(Templates, CutAnywhereOneIsTheOldOneOrTheNewOneAndTheOldOneIsKept)
+TEST_F(TemplatesTest, CutAnywhereOneIsTheOldOneOrTheNewOneAndTheOldOneIsKept)
 {
     int changes = 0;
     for (int n = 1; n == 1 || n <= changes; ++n) {
@@ -119,7 +119,7 @@ TEST_F(Templates, CutAnywhereOneIsTheOldOneOrTheNewOneAndTheOldOneIsKept)
     }
 }
 
-TEST_F(Templates, ADiskThatFailsIsToldAndLeavesTheOldOneAndNothingHalf)
+TEST_F(TemplatesTest, ADiskThatFailsIsToldAndLeavesTheOldOneAndNothingHalf)
 {
     ASSERT_TRUE(QDir().mkpath(Folder()));
     Put(Slip, "our own");
@@ -132,7 +132,7 @@ TEST_F(Templates, ADiskThatFailsIsToldAndLeavesTheOldOneAndNothingHalf)
     EXPECT_EQ(FilesIn(Folder()), QStringList(Slip));
 }
 
-TEST_F(Templates, OneThatIsNotDeliveredIsAnError)
+TEST_F(TemplatesTest, OneThatIsNotDeliveredIsAnError)
 {
     EXPECT_THROW(WriteTemplate(Folder(), QStringLiteral("Nothing.rpt"), Now), RunTimeError);
     EXPECT_FALSE(QDir(Folder()).exists());
