@@ -46,6 +46,13 @@ public:
     // The same, with what the control wants: until it is left, the guide label says it in place of its guide.
     void SetFocus(Control& control, const Caption& wanted);
 
+    // For a LostFocus that sends the clerk on: whether he is stepping back with Shift+Tab instead.
+    bool IsSteppingBack() const { return m_leaving && m_step < 0; }
+
+    // For the same: the control that he goes straight to, by its letter, another key or the mouse; null if he
+    // steps on or back.
+    const Control* GoingTo() const { return m_leaving && m_step == 0 ? m_straightTo : nullptr; }
+
     // The controls in tab order.
     const std::vector<Control*>& Controls() const { return m_controls; }
 
@@ -92,13 +99,6 @@ protected:
 
     // Empties every field, as a screen that is left with Esc does.
     void EmptyFields();
-
-    // For a LostFocus that sends the clerk on: whether he is stepping back with Shift+Tab instead.
-    bool IsSteppingBack() const { return m_leaving && m_step < 0; }
-
-    // For the same: the control that he goes straight to, by its letter, another key or the mouse; null if he
-    // steps on or back.
-    const Control* GoingTo() const { return m_leaving && m_step == 0 ? m_straightTo : nullptr; }
 
     void SetColours(QColor focus, QColor plain);
 
