@@ -245,7 +245,7 @@ Delivery CounterScreen::TheDelivery() const
 void CounterScreen::cmdGo_Click()
 {
     if (Line.txtMemberNo.Value() != 0)
-        Line.ShowAmount(); // pressed by the mouse it comes straight from the litres, which make none
+        Line.ShowAmount(); // with the mouse it can be pressed right after the litres, which make none
     if (Line.txtMemberNo.Value() == 0 || Line.txtAmount.Value() == 0) {
         txtCollectionNo.SetFocus(Plain(u"रक्कम किंवा मेम्बर नाही : काहीही सेव्ह झाले नाही"));
         return;

@@ -17,8 +17,6 @@
 // button that saves it, all walked with Enter. Below stand the deliveries of the shift and their totals, as
 // the copy of the shift has them.
 class CounterScreen : public SocietyScreen {
-    MilkDevices m_devices; // first, since the line is made with them
-
 public:
     // Litres of the new rows saved since the screen was opened. They are only added to.
     double CowLitersTaken = 0;
@@ -67,6 +65,7 @@ protected:
 
 private:
     const CounterKind& m_kind;
+    MilkDevices m_devices;
     ShiftTotals m_totals;
     MilkReceipt m_receipt;
 
