@@ -21,7 +21,7 @@ CopySums WalkCopy()
     CopySums sums;
     for (Recordset row(gCn, Sql(u"select * from MilkCollectionsTemp where CompanyId=", gAppState.gCompanyId));
          !row.Eof(); row.MoveNext()) {
-        const QString time = row[u"CollectionTime"].Text(); // in the table's order, which finds names sooner
+        const QString time = row[u"CollectionTime"].Text(); // columns in the table's order are found sooner
         const QString animal = row[u"Animal"].Text();
         if (!IsAnimal(animal) || !IsShift(time))
             continue;

@@ -1,8 +1,11 @@
 #pragma once
 
-#include <QStringView>
+#include "collection/Deliveries.h"
+#include "platform/forms/DateField.h"
+#include "platform/forms/NameCombo.h"
+#include "society/Fields.h"
 
-// What the counters of the society have in common.
+// What the counters have in common with one another, and with the screens that work on their shifts.
 namespace Counter {
 
 inline constexpr QStringView AverageFatFormat = u"#######0.0";
@@ -14,5 +17,16 @@ constexpr int Twips(int twips)
 {
     return twips / 15;
 }
+
+// For entering a date: one that has to be mended is not selected, since the next key would wipe it out.
+void KeepForMending(const DateField& date);
+
+// Whether there is a date and a shift, and whether there is a name. Unless there is, the focus goes to the
+// field that lacks it, and the guide line says what is wanted.
+bool InsistOnShift(DateField& date, ShiftField& time);
+bool InsistOnName(NameCombo& name);
+
+// The shift that the two fields name. A mask that holds no date is a type mismatch error.
+Shift ShiftOf(const DateField& date, const ShiftField& time);
 
 }

@@ -1,19 +1,19 @@
 #include "collection/CounterScreen.h"
 
+#include "collection/ActualTime.h"
+#include "collection/ClosingFigures.h"
 #include "collection/Counter.h"
+#include "collection/frmSearchCollections.h"
 #include "core/menu/CommonKeys.h"
-#include "core/menu/Keys.h"
 #include "core/menu/ScreenDirectory.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
-#include "platform/forms/ModalStack.h"
-#include "society/Names.h"
+#include "platform/database/Transaction.h"
+#include "society/Queries.h"
 #include "society/Wanted.h"
 #include "society/Words.h"
-
-#include <utility>
 
 using namespace Counter;
 
@@ -34,29 +34,18 @@ std::vector<DataGrid::Column> CounterScreen::InwardsColumns(const CounterKind& k
 
 CounterScreen::CounterScreen(const CounterKind& kind, const Keys::Places& keys)
     : SocietyScreen(keys, Shivaji(kind.title), {.guide = "lblFooter", .company = kind.company})
+    , Line(this, kind, {maskDate, txtTime, m_devices, Devices})
     , DataGridInwards(this, "DataGridInwards", InwardsColumns(kind))
     , m_kind(kind)
-    , m_memberKeys(this, kind.hasMemberFrame)
     , m_totals(this, kind.liters.total)
 {
     When(maskDate.GotFocus, &CounterScreen::maskDate_GotFocus);
     When(txtTime.GotFocus, &CounterScreen::txtTime_GotFocus);
     When(txtCollectionNo.GotFocus, &CounterScreen::txtCollectionNo_GotFocus);
-    When(txtMemberNo.GotFocus, &CounterScreen::txtMemberNo_GotFocus);
-    txtMemberNo.TextChanged = [this] { txtMemberNo_Change(); };
-    When(ComboMemberName.GotFocus, &CounterScreen::ComboMemberName_GotFocus);
-    When(txtAnimal.GotFocus, &CounterScreen::txtAnimal_GotFocus);
-    When(txtLiters.GotFocus, &CounterScreen::txtLiters_GotFocus);
-    When(txtFat.GotFocus, &CounterScreen::txtFat_GotFocus);
     When(cmdGo.LostFocus, &CounterScreen::cmdGo_LostFocus);
-    m_memberKeys.NameActions([this](const QString& key) { return KeyAction(txtMemberNo, key); });
+    Line.KeysOfMember.NameActions([this](const QString& key) { return KeyAction(Line.txtMemberNo, key); });
     maskDate.SetGuide(KeyGuide(maskDate));
     txtCollectionNo.SetGuide(KeyGuide(txtCollectionNo));
-    ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
-    ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
-    txtLiters.SetPattern(kind.liters.field);
-    txtLiters.SetMaxLength(9);
-    txtAmount.SetEnabled(false);
     EnableEntry(false);
 }
 
@@ -68,7 +57,7 @@ void CounterScreen::Load()
     EmptyShiftCopy();
     ShowInwardsGrid();
     maskDate.SetDate(gAppState.gAppDate);
-    LoadMemberNames();
+    Line.LoadMemberNames();
     Devices.Show();
     RefreshActualTime();
     m_totals.ShiftLitersTotal();
@@ -132,7 +121,7 @@ void CounterScreen::ShowAdvances()
 
 void CounterScreen::Escape()
 {
-    ClearEntryFields();
+    Line.ClearEntryFields();
     Close();
 }
 
@@ -141,9 +130,7 @@ void CounterScreen::Escape()
 void CounterScreen::maskDate_GotFocus()
 {
     EnableEntry(false);
-    // A date that has to be mended is not selected: one key would wipe it out.
-    if (!maskDate.HoldsDate())
-        SendKeys(QStringLiteral("{Home}"));
+    KeepForMending(maskDate);
 }
 
 void CounterScreen::maskDate_LostFocus()
@@ -158,12 +145,8 @@ void CounterScreen::txtTime_GotFocus()
 
 void CounterScreen::txtTime_LostFocus()
 {
-    if (!maskDate.InsistOnDate(Wanted::Date()))
+    if (!InsistOnShift(maskDate, txtTime))
         return;
-    if (!txtTime.HoldsShift()) {
-        txtTime.SetFocus(Wanted::Shift());
-        return;
-    }
     const Shift shift = TheShift();
     ShowNumber(NextNumberInBooks(shift));
     OpenShift(shift);
@@ -174,13 +157,26 @@ void CounterScreen::txtTime_LostFocus()
         txtCollectionNo.SetFocus();
 }
 
+Shift CounterScreen::TheShift() const
+{
+    return ShiftOf(maskDate, txtTime);
+}
+
+void CounterScreen::EnableEntry(bool enabled)
+{
+    txtCollectionNo.SetEnabled(enabled);
+    Line.SetEnabled(enabled);
+    cmdGo.SetEnabled(enabled);
+    DataGridInwards.SetEnabled(enabled);
+}
+
 // Collection number
 
 void CounterScreen::txtCollectionNo_GotFocus()
 {
     EnableEntry(true);
     if (txtTime.IsEmpty())
-        SendBack(txtTime, Wanted::Shift());
+        txtTime.SetFocus(Wanted::Shift());
 }
 
 void CounterScreen::PreviousNumber()
@@ -202,12 +198,12 @@ void CounterScreen::ShowNumberToGoTo(double number)
 
 void CounterScreen::txtCollectionNo_LostFocus()
 {
-    if (IsSentBack())
+    if (txtTime.IsEmpty()) // it has sent the clerk back itself
         return;
     RefreshActualTime();
     const double number = txtCollectionNo.Value();
     if (number == 0) {
-        ClearEntryFields();
+        Line.ClearEntryFields();
         ShowNumber(NextCollectionNo);
         txtCollectionNo.SetFocus(Plain(u"क्रमांक 0 नसतो : नवीन नोंदीसाठी Enter    Esc : बाहेर"));
         return;
@@ -216,103 +212,160 @@ void CounterScreen::txtCollectionNo_LostFocus()
     const Recordset row(gCn,
         Sql(u"SELECT * FROM MilkCollectionsTemp where cstr(CollectionDate)=", shift.Day(),
             u" and CollectionTime=", Quoted(shift.time), u" AND CollectionNo=", number));
-    IsExistingRow = !row.Eof();
-    if (IsExistingRow) {
-        txtMemberNo.SetText(row[u"MemberNo"].Text());
-        ShowRow(row);
+    Line.IsExistingRow = !row.Eof();
+    if (Line.IsExistingRow) {
+        Line.txtMemberNo.SetText(row[u"MemberNo"].Text());
+        Line.Show(row);
     } else {
         ShowNumber(NextCollectionNo);
     }
 }
 
-// Member
-
-void CounterScreen::txtMemberNo_GotFocus()
+// Shows the number that the next new row takes.
+void CounterScreen::ShowNumber(std::int16_t number)
 {
-    ShowMemberKeys(true);
+    NextCollectionNo = number;
+    txtCollectionNo.Show(number);
 }
 
-void CounterScreen::txtMemberNo_Change()
+void CounterScreen::RefreshActualTime()
 {
-    if (txtMemberNo.HasFocus())
-        LightMemberKeys();
+    lblActualCollectionTime.SetFigure(ActualTimeNow());
 }
 
-void CounterScreen::txtMemberNo_LostFocus()
+// Saving
+
+Delivery CounterScreen::TheDelivery() const
 {
-    if (std::exchange(SkipMemberChecks, false))
-        return;
-    ShowMemberKeys(false);
-    const double number = txtMemberNo.Value();
-    if (number == 0) {
-        txtMemberNo.Clear();
+    return {TheShift(), txtCollectionNo.Value(), Line.txtMemberNo.Value(), Line.ComboMemberName.Text(),
+        Line.txtAnimal.Text(), Line.txtLiters.Value(), Line.txtFat.Value(), Line.txtRate.Value(),
+        Line.txtAmount.Value(), lblActualCollectionTime.Shown().Text()};
+}
+
+void CounterScreen::cmdGo_Click()
+{
+    if (Line.txtMemberNo.Value() != 0)
+        Line.ShowAmount(); // with the mouse it can be pressed right after the litres, which make none
+    if (Line.txtMemberNo.Value() == 0 || Line.txtAmount.Value() == 0) {
+        txtCollectionNo.SetFocus(Plain(u"रक्कम किंवा मेम्बर नाही : काहीही सेव्ह झाले नाही"));
         return;
     }
-    const Recordset member(gCn, Sql(u"SELECT * FROM MembersMaster where MemberNo=", number));
-    Caption wanted;
-    if (member.Eof()) {
-        txtMemberNo.Clear();
-        wanted = Plain(u"हा मेम्बर नंबर नाही    Shift+Tab : मागे");
-    } else {
-        ShowMember(ComboMemberName, member);
-        TakeAnimalOf(member);
-    }
-    if (IsSteppingBack())
+    if (Setting(u"RepeatCollection") == Word::No && IsSecondDelivery()) {
+        Line.txtAnimal.SetEnabled(true);
+        ShowPlain(QStringLiteral("Duplicate Record"));
+        txtCollectionNo.SetFocus();
+        Line.ClearEntryFields();
         return;
-    if (txtAnimal.Enabled())
-        txtAnimal.SetFocus();
+    }
+    const Shift shift = TheShift();
+    const bool isThere = Finds(Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
+        u" and CollectionTime=", Quoted(shift.time), u" and CollectionNo=", txtCollectionNo.Value()));
+    RefreshActualTime();
+    const Delivery delivery = TheDelivery();
+
+    Transaction save(gCn);
+    if (isThere)
+        UpdateDelivery(delivery); // a change leaves the money balance alone: only a new row raises it
     else
-        txtLiters.SetFocus(wanted);
+        StoreNew(delivery);
+    RefreshClosingLitres(delivery.memberNo);
+    TidyShiftCopy();
+    MilkReceipt::StageReceipt(delivery);
+    save.Commit();
+
+    ShowInwardsGrid();
+    if (DeviceSwitch::IsOn(gAppState.gAutoLiters))
+        SendTareToScale();
+    Line.ClearEntryFields();
+    m_totals.ShiftLitersTotal();
+    m_totals.ShiftAverageFat();
+    ShowNumber(NextNumberInCopy(shift));
+    Line.txtAnimal.SetEnabled(true);
+    m_receipt.PrintReceipt(cmdPrinterOnOff.Text()); // the delivery is safe, whatever the printer does
+    SendKeys(QStringLiteral("{Tab}"));
 }
 
-// A member of both kinds leaves the choice to the clerk; any other settles it.
-void CounterScreen::TakeAnimalOf(const Recordset& member)
+void CounterScreen::SendTareToScale()
 {
-    const QString animal = member[u"Animal"].Text();
-    const bool both = animal == Word::Both;
-    if (!both)
-        txtAnimal.SetText(animal);
-    txtAnimal.SetEnabled(both);
+    m_devices.SendTareToScale();
+    Line.txtLiters.SetText(QStringLiteral("0"));
 }
 
-void CounterScreen::ComboMemberName_GotFocus()
+// Whether the member has already brought milk of this animal to this shift.
+bool CounterScreen::IsSecondDelivery() const
 {
-    if (!txtMemberNo.IsEmpty())
-        return;
-    LoadMemberNames();
-    SendKeys(QStringLiteral("%{Down}"));
+    const Shift shift = TheShift();
+    return Finds(Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
+        u" and CollectionTime=", Quoted(shift.time), u" and CollectionNo<>", txtCollectionNo.Value(),
+        u" and MemberNo=", Line.txtMemberNo.Value(), u" and trim(Animal)=", Quoted(Line.txtAnimal.Text())));
 }
 
-// Without a number the focus is asked for here, so that the clerk sees which member the name has found; the
-// next Enter goes on; a step back is not led elsewhere. Coming back with no number also reloads the list and
-// drops it open.
-void CounterScreen::ComboMemberName_LostFocus()
+void CounterScreen::StoreNew(const Delivery& delivery)
 {
-    const QString name = ComboMemberName.Text().trimmed();
-    if (name.isEmpty()) {
-        ShowNotice(Shivaji(u"maombarcao naaMva vyavaisqat Ta[-p kra"));
-        ComboMemberName.SetFocus(Wanted::Name());
+    InsertDelivery(delivery);
+    if (delivery.animal == Word::Cow)
+        CowLitersTaken += delivery.liters;
+    else if (delivery.animal == Word::Buffalo)
+        BuffLitersTaken += delivery.liters;
+    if (Setting(u"PurchaseEntry") == u"Collection")
+        PostClosingBalance(delivery.memberName, delivery.amount, PostAction::Add);
+}
+
+void CounterScreen::cmdGo_LostFocus()
+{
+    if (!IsSteppingBack())
+        txtCollectionNo.SetFocus();
+}
+
+// Deleting and searching
+
+// No question is asked. A payment stops it only if its whole period is this one day.
+void CounterScreen::DeleteRow()
+{
+    const Shift shift = TheShift();
+    const double number = txtCollectionNo.Value();
+    const double memberNo = Line.txtMemberNo.Value();
+    if (Finds(Sql(u"select * from MilkPayments where CompanyId=", gAppState.gCompanyId, u" and FromDate>=",
+            shift.Day(), u" and ToDate<=", shift.Day(), u" and MemberNo=", memberNo))) {
+        ShowPlain(QStringLiteral("Milk Payment Already Done, You Cannot Delete this Collection"));
         return;
     }
-    const bool asks = txtMemberNo.IsEmpty();
-    const Recordset member = MemberOfName(ComboMemberName, txtMemberNo.Value());
-    if (member.Eof()) {
-        if (asks)
-            ComboMemberName.SetFocus(Wanted::Name());
-        LoadMemberNames();
-        return;
+    if (Finds(Sql(u"select * from MilkCollections where CollectionDate=", shift.Day(),
+            u" and CollectionTime=", Quoted(shift.time), u" and CollectionNo=", number))) {
+        Transaction deleting(gCn);
+        DeleteDelivery(shift, number);
+        TidyShiftCopy();
+        RefreshClosingLitres(memberNo);
+        deleting.Commit();
     }
-    txtMemberNo.SetText(member[u"MemberNo"].Text());
-    ShowMember(ComboMemberName, member); // the balance is kept under this spelling
-    TakeAnimalOf(member);
-    if (IsSteppingBack())
-        return;
-    if (asks)
-        ComboMemberName.SetFocus(Plain(u"Enter : पुढे"));
-    txtAnimal.SetFocus(); // only if it is the clerk's choice: it is disabled otherwise
+    ShowInwardsGrid();
+    Line.ClearEntryFields();
+    m_totals.ShiftLitersTotal(); // the average fat stays as it was
+    ShowNumber(NextNumberAfterDelete(shift));
+    txtCollectionNo.SetFocus();
 }
 
-void CounterScreen::LoadMemberNames()
+void CounterScreen::SearchMember()
 {
-    ComboMemberName.SetNames(MemberNames());
+    const Shift shift = TheShift();
+    {
+        const Recordset row(gCn, RowsOfMember(shift, Line.txtMemberNo.Value()));
+        if (row.Eof())
+            return;
+        txtCollectionNo.SetText(row[u"CollectionNo"].Text());
+        Line.Show(row);
+    }
+    DataGridInwards.ReadAll(); // the search puts other rows into the copy
+    gAppState.gCallerTag = QStringLiteral("MC");
+    frmSearchCollections search({{shift, Line.txtMemberNo.Text(), Line.ComboMemberName.Text()}});
+    search.ShowModal();
+    Line.LightMemberKeys();
+}
+
+// The slips
+
+void CounterScreen::cmdPrinterOnOff_Click()
+{
+    const bool isOn = cmdPrinterOnOff.Reads(MilkReceipt::PrinterOn);
+    cmdPrinterOnOff.SetCaption(Shivaji(isOn ? MilkReceipt::PrinterOff : MilkReceipt::PrinterOn));
 }

@@ -9,18 +9,6 @@
 
 using namespace Pieces;
 
-namespace {
-
-// The amount can't be entered, but it is what the clerk calls out: it stands in full ink.
-void MakeResult(const Field& field)
-{
-    QPalette palette = field.Widget()->palette();
-    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(Look::Ink));
-    field.Widget()->setPalette(palette);
-}
-
-}
-
 void CounterScreen::LayOut(QLayout* below, QWidget* keys)
 {
     SetColours(QColor(Look::FocusColour), QColor(m_kind.fieldColour));
@@ -55,33 +43,17 @@ QWidget* CounterScreen::ShiftLine()
 
 QWidget* CounterScreen::EntryPanel()
 {
-    auto* member = new QHBoxLayout;
-    member->setSpacing(16);
-    member->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 140, Look::Size::Large, LineField));
-    member->addLayout(
-        Under(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0, Look::Size::Large, LineField), 1);
-    member->addLayout(Under(Shivaji(u"dUQa"), txtAnimal, 140, Look::Size::Large, LineField));
-
-    auto* money = new QHBoxLayout;
-    money->setSpacing(10);
-    money->addLayout(Under(Shivaji(u"ilaTsa-"), txtLiters, 190, Look::Size::Title, TallField));
-    money->addWidget(Sign(u"×"), 0, Qt::AlignBottom);
-    money->addLayout(Under(Shivaji(u"f^T"), txtFat, 120, Look::Size::Title, TallField));
-    money->addWidget(Sign(u"→"), 0, Qt::AlignBottom);
-    money->addLayout(Under(Shivaji(u"dr"), txtRate, 150, Look::Size::Title, TallField));
-    money->addWidget(Sign(u"="), 0, Qt::AlignBottom);
-    money->addLayout(Under(Shivaji(u"r@kma"), txtAmount, 0, Look::Size::Title, TallField), 1);
+    QHBoxLayout* milk = Line.MilkRow();
     cmdGo.SetAccessibleName(Shivaji(u"saovh"));
-    money->addWidget(Sized(cmdGo, 80, TallField, Look::Size::Title, true), 0, Qt::AlignBottom);
-    MakeResult(txtAmount);
+    milk->addWidget(Sized(cmdGo, 80, TallField, Look::Size::Title, true), 0, Qt::AlignBottom);
 
     auto* panel = Sheet();
     auto* stack = new QVBoxLayout(panel);
     stack->setContentsMargins(16, 6, 16, 8);
     stack->setSpacing(2);
-    stack->addLayout(member);
+    stack->addLayout(Line.MemberRow());
     stack->addWidget(KeysAndGuide());
-    stack->addLayout(money);
+    stack->addLayout(milk);
     return panel;
 }
 
@@ -93,10 +65,10 @@ QWidget* CounterScreen::KeysAndGuide()
     auto* row = new QHBoxLayout(line);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
-    m_memberKeys.LayOut(*row);
+    Line.KeysOfMember.LayOut(*row);
     lblGuide.Widget()->setMinimumHeight(0);
     row->addWidget(lblGuide.Widget(), 1);
-    ShowMemberKeys(false);
+    Line.ShowMemberKeys(false);
     return line;
 }
 

@@ -79,6 +79,12 @@ std::int16_t NextNumberAfterDelete(const Shift& shift)
     return NextNumber(u"MilkCollectionsTemp", u"CollectionDate", shift);
 }
 
+SqlText RowsOfMember(const Shift& shift, double memberNo)
+{
+    return Sql(u"SELECT * FROM MilkCollectionsTemp where CollectionDate=", shift.Day(),
+        u" and CollectionTime=", Quoted(shift.time), u" AND MemberNo=", memberNo);
+}
+
 void InsertDelivery(const Delivery& d)
 {
     for (QStringView table : BooksThenCopy)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/database/Sql.h"
+
 #include <QDate>
 #include <QString>
 
@@ -48,6 +50,9 @@ std::int16_t NextNumberInCopy(const Shift& shift);
 
 // The number in the copy as a deletion asks for it: by the date itself, not by its text.
 std::int16_t NextNumberAfterDelete(const Shift& shift);
+
+// The query for a member's deliveries in the copy of a shift.
+SqlText RowsOfMember(const Shift& shift, double memberNo);
 
 // Adds a delivery to the books and to the copy, under the selected company. The caller's transaction makes it
 // one change; an apostrophe in a text breaks the statement, and then nothing is written.

@@ -1,17 +1,21 @@
 #include "collection/DeviceSwitches.h"
 
-#include "collection/CounterKind.h"
 #include "collection/MilkDevices.h"
 #include "core/state/AppState.h"
 #include "platform/forms/Pieces.h"
 
 #include <QHBoxLayout>
 
+#include <functional>
 #include <utility>
 
 using namespace Pieces;
 
 namespace {
+
+// The devices of a counter, as their switches are marked.
+constexpr QStringView ScaleName = u"वजन काटा";
+constexpr QStringView TesterName = u"फॅट मशीन";
 
 // A device's name stands beside its switch; to a screen reader both are one.
 void ShowSwitch(Button& button, QStringView device, const QString& setting)
@@ -32,13 +36,11 @@ QLayout* Line(QStringView device, Button& button)
 }
 
 DeviceSwitches::DeviceSwitches(Screen* screen)
-    : cmdAutoLiter(screen, "cmdAutoLiter", {})
-    , cmdAutoFat(screen, "cmdAutoFat", {})
+    : cmdAutoLiter(screen, "cmdAutoLiter", {}, {this, &DeviceSwitches::cmdAutoLiter_Click})
+    , cmdAutoFat(screen, "cmdAutoFat", {}, {this, &DeviceSwitches::cmdAutoFat_Click})
 {
-    cmdAutoLiter.Click = [this] { cmdAutoLiter_Click(); };
-    cmdAutoFat.Click = [this] { cmdAutoFat_Click(); };
     for (Button* device : {&cmdAutoLiter, &cmdAutoFat})
-        device->LostFocus = [this] { Switch_LostFocus(); };
+        device->LostFocus = std::bind_front(&DeviceSwitches::Switch_LostFocus, this);
 }
 
 void DeviceSwitches::Show()

@@ -14,9 +14,9 @@ public:
     // Shows what is switched on.
     void Show();
 
-    // Whether a field that is left without a value is left for the switch of the device that it has waited
-    // for; `goingTo` is where the clerk goes. Leaving the switch leads back to the field then: the line isn't
-    // to be saved without that value.
+    // A field that waits for a device may be left without a value for one place only: the switch of that
+    // device. Tells whether the clerk goes there; leaving the switch then leads back to the field, since the
+    // line isn't to be saved without its value.
     bool IsLeftForScale(Field& field, const Control* goingTo);
     bool IsLeftForTester(Field& field, const Control* goingTo);
 

@@ -51,7 +51,7 @@ constexpr std::array FatReadings{
     Reading{u"NO", Way::Command, u"W", 15, 4, 170000},
 };
 
-// A count or a port number of the row; one that is no such number ends at the border, nothing is 0.
+// A count or a port number of the row. A number too large for an int is cut down to the largest.
 int WholeOf(const FieldValue& value)
 {
     constexpr double lowest = std::numeric_limits<int>::min();
@@ -196,10 +196,10 @@ std::optional<QString> MilkDevices::ReadFatPercent()
     return FatOfFrame(*number);
 }
 
-// The number of a device that talks by itself. Fewer than ten characters that don't begin with the mark are
-// thrown away and read again, so that a reading that began in the middle of a frame comes to the next one.
-// Ten or more at once end the reading: without the mark they count only if all behind the first is a number.
-// A frame without a line end is whole only after a silence, which may last longer than the wait.
+// The number of a device that sends by itself. Fewer than ten characters without the mark are the end of a
+// frame that had begun before the port was opened: they are thrown away, and the next frame is read. Ten or
+// more end the reading; without the mark they count only if all behind the first is a number. A frame without
+// a line end is whole only after a silence, which may last longer than the wait.
 std::optional<double> MilkDevices::ReadFrame(char mark)
 {
     constexpr qsizetype longUnmarked = 10;

@@ -8,10 +8,9 @@
 #include <memory>
 #include <optional>
 
-// The weighing scale and the fat tester of a counter. A reading opens its port, asks, and closes it again; it
-// returns as soon as the reply holds what is looked for, at the latest after the device's wait, and blocks
-// the program meanwhile. No failure of a device is told: a text that is nothing means that the field stays as
-// it is.
+// The weighing scale and the fat tester of a counter. A reading opens its port, asks, and closes it again. It
+// blocks the program until the reply holds what is looked for, at most for the wait that the device is given.
+// A device that fails is not reported: the reading returns nothing, and the field keeps what it has.
 class MilkDevices {
 public:
     // What a reading writes into the fields of the counter.
@@ -23,15 +22,16 @@ public:
     MilkDevices();
     explicit MilkDevices(std::unique_ptr<CombinedReading> combined);
 
-    // Reads the row of PortTable and holds it. False if there is none: "Check port setting" is then to be
-    // shown, and only the devices that need the row can't be read.
+    // Reads the row of PortTable. False if there is none: the counter then shows "Check port setting", and
+    // only the devices that need the row can't be read.
     bool ReadPortTable();
 
-    // The text for txtLiters from the device that gAppState names. Litres of a combined reading are written
-    // by `mcsFormat`; from any other device as the device gives them.
+    // The text for txtLiters from the device that gAppState names. The litres of a combined reading are
+    // written in `mcsFormat`, all others as the device sends them.
     std::optional<QString> ReadLiters(QStringView mcsFormat);
 
-    // The texts on entering txtFat. A device may write the litres a second time, or instead of the fat.
+    // The texts on entering txtFat. Some devices send the litres again, and one sends them in place of the
+    // fat.
     Fields ReadFat();
 
     // The text for txtFat when the clerk leaves it without a fat: the same exchange for every device.
@@ -63,7 +63,7 @@ private:
 
     std::unique_ptr<CombinedReading> m_combined;
     PortRow m_row;
-    std::chrono::microseconds m_restUntil{0}; // so long the rest of a reply that was taken early may come
+    std::chrono::microseconds m_restUntil{0}; // till then the rest of a reply that was taken early may come
     Port MSComm1;
     Port MSComm2;
 };

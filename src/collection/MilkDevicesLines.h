@@ -37,11 +37,11 @@ constexpr std::chrono::microseconds WaitOf(int count)
         std::chrono::duration_cast<std::chrono::microseconds>(whole), std::chrono::microseconds(LongestWait));
 }
 
-// A frame without a line end is over when nothing has come for so long; at 1200 baud a byte takes 8 ms, and
+// A frame without a line end is over when nothing has come for this long. At 1200 baud a byte takes 8 ms, and
 // an adapter holds bytes back for up to 16 ms.
 inline constexpr std::chrono::milliseconds FrameSilence{250};
 
-// So long the line is quiet when the rest of a reply that was taken early has come.
+// When the line has been quiet for this long, the rest of a reply that was taken early has come.
 inline constexpr std::chrono::milliseconds RestSilence{100};
 
 }

@@ -16,8 +16,8 @@ public:
     // What tells the staged slip from others: the member, the milk, the shift and the day.
     static QString Subject();
 
-    // Gets ready what the first slip would make the member wait for, unless PrintStatus is "naahI". An empty
-    // status prints, too.
+    // Loads the template of the slip, so that the first member needn't wait for it. Nothing is loaded with
+    // "naahI" in PrintStatus, where no slips are printed; an empty status prints.
     static void Prepare();
 
     // Prints what is staged, as the settings want it. Nothing is printed with "naahI" in PrintStatus, nor

@@ -1,11 +1,11 @@
 #include "collection/frmAbsenseMemberCollection.h"
 
+#include "collection/Counter.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "platform/forms/Layout.h"
-#include "platform/forms/ModalStack.h"
 #include "platform/forms/Pieces.h"
 #include "society/Queries.h"
 #include "society/Wanted.h"
@@ -14,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+using namespace Counter;
 using namespace Pieces;
 
 namespace {
@@ -69,9 +70,7 @@ void frmAbsenseMemberCollection::Load()
 
 void frmAbsenseMemberCollection::MaskDate_GotFocus()
 {
-    // A date that has to be mended is not selected: one key would wipe it out.
-    if (!MaskDate.HoldsDate())
-        SendKeys(QStringLiteral("{Home}"));
+    KeepForMending(MaskDate);
 }
 
 void frmAbsenseMemberCollection::MaskDate_LostFocus()
@@ -81,25 +80,14 @@ void frmAbsenseMemberCollection::MaskDate_LostFocus()
 
 void frmAbsenseMemberCollection::txtTime_LostFocus()
 {
-    HoldShift();
-}
-
-// The same for date and shift.
-bool frmAbsenseMemberCollection::HoldShift()
-{
-    if (!MaskDate.InsistOnDate(Wanted::Date()))
-        return false;
-    const bool isShift = txtTime.HoldsShift();
-    if (!isShift)
-        txtTime.SetFocus(Wanted::Shift());
-    return isShift;
+    InsistOnShift(MaskDate, txtTime);
 }
 
 void frmAbsenseMemberCollection::Command1_Click()
 {
-    if (!HoldShift())
+    if (!InsistOnShift(MaskDate, txtTime))
         return;
-    ListAbsent({MaskDate.Date(), txtTime.Text()});
+    ListAbsent(ShiftOf(MaskDate, txtTime));
     DataGridMembers.Bind(gCn, MembersQuery.toString());
     lblGuide.SetCaption(
         DataGridMembers.CurrentRow() < 0 ? Plain(u"कालच्या या वेळेतील कोणीही गैरहजर नाही") : Command1.Guide());

@@ -31,6 +31,5 @@ private:
     void Command1_Click();
 
     void LayOut();
-    bool HoldShift();
     void ListAbsent(const Shift& today);
 };

@@ -25,16 +25,17 @@ Keys::Places frmCollectionGate::KeyPlaces()
     };
 }
 
-frmCollectionGate::frmCollectionGate() : CounterScreen(GateCounter, KeyPlaces())
+frmCollectionGate::frmCollectionGate() : CounterScreen(CounterKinds::Gate, KeyPlaces())
 {
     When(cmdGo.GotFocus, &frmCollectionGate::cmdGo_GotFocus);
     for (const auto& [button, column] : OrderButtons())
         button->Click = [this, button = button, column = column] { ToggleOrder(*button, column); };
     for (const auto& [field, column] : std::initializer_list<std::pair<NumberField*, QStringView>>{
-             {&txtLiters, u"Liters"}, {&txtFat, u"Fat"}, {&txtRate, u"Rate"}})
+             {&Line.txtLiters, u"Liters"}, {&Line.txtFat, u"Fat"}, {&Line.txtRate, u"Rate"}})
         field->TextChanged = [this, field = field, column = column] { SearchNumber(*field, column); };
-    When(txtAnimal.TextChanged, &frmCollectionGate::txtAnimal_Change);
-    When(ComboMemberName.TextChanged, &frmCollectionGate::ComboMemberName_Change);
+    When(Line.txtMemberNo.TextChanged, &frmCollectionGate::txtMemberNo_Change);
+    When(Line.txtAnimal.TextChanged, &frmCollectionGate::txtAnimal_Change);
+    When(Line.ComboMemberName.TextChanged, &frmCollectionGate::ComboMemberName_Change);
 
     chkSerachMode.SetGuide(Keys::Guide(QStringLiteral("CheckBox")));
     Command1.SetCancels(true); // the gate is left whatever stands in its fields
@@ -77,18 +78,18 @@ void frmCollectionGate::ToggleOrder(Button& button, QStringView column)
 
 void frmCollectionGate::txtMemberNo_Change()
 {
-    CounterScreen::txtMemberNo_Change();
-    SearchNumber(txtMemberNo, u"MemberNo");
+    Line.LightMemberKeys();
+    SearchNumber(Line.txtMemberNo, u"MemberNo");
 }
 
 void frmCollectionGate::txtAnimal_Change()
 {
-    Search(Sql(u" WHERE Animal=", Quoted(txtAnimal.Text().trimmed())));
+    Search(Sql(u" WHERE Animal=", Quoted(Line.txtAnimal.Text().trimmed())));
 }
 
 void frmCollectionGate::ComboMemberName_Change()
 {
-    const QString name = ComboMemberName.Text().trimmed();
+    const QString name = Line.ComboMemberName.Text().trimmed();
     Search(Sql(u" WHERE left(MemberName,", name.size(), u")=", Quoted(name), OrReadsLike(name)));
 }
 

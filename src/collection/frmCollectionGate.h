@@ -4,8 +4,8 @@
 #include "platform/database/Sql.h"
 #include "platform/forms/CheckBox.h"
 
-// The counter at the gate: the same deliveries, with a list that can be sorted, and searched by what is typed
-// into the line.
+// The counter at the gate: the same deliveries, with a list that can be sorted, and that shows what matches
+// the text typed into a field of the line.
 class frmCollectionGate final : public CounterScreen {
 public:
     frmCollectionGate();
@@ -26,7 +26,7 @@ private:
     void cmdGo_GotFocus();
     void Command1_Click();
     void Command3_Click();
-    void txtMemberNo_Change() override;
+    void txtMemberNo_Change();
     void txtAnimal_Change();
     void ComboMemberName_Change();
     QString OrReadsLike(const QString& beginning) const;

@@ -34,7 +34,7 @@ QWidget* frmCollectionGate::OrderBar()
 {
     constexpr int height = 28;
     auto* bar = new ColumnBar(DataGridInwards);
-    const std::vector<DataGrid::Column> columns = InwardsColumns(GateCounter);
+    const std::vector<DataGrid::Column> columns = InwardsColumns(CounterKinds::Gate);
     int before = -1;
     for (int at = 0; at < static_cast<int>(columns.size()); ++at) {
         for (const auto& [button, field] : OrderButtons()) {

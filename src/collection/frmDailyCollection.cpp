@@ -3,31 +3,23 @@
 #include "core/menu/Keys.h"
 #include "core/messages/Messages.h"
 #include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
+#include "rates/LookupFatRate.h"
 #include "society/FieldRoutines.h"
+#include "society/Names.h"
 #include "society/Queries.h"
 #include "society/Words.h"
 
 #include <QKeyEvent>
 
+#include <functional>
+#include <utility>
+
 namespace {
 
 constexpr QStringView IdleTitle = u"  raojacao saBaasadanausaar duQa saMklana";
-
-std::vector<DataGrid::Column> ListColumns()
-{
-    return {
-        {QStringLiteral("CollectionDate"), Shivaji(u"idnaaMk"), 130, {}, false, false},
-        {QStringLiteral("CollectionTime"), Shivaji(u"vaoL"), 0},
-        {QStringLiteral("CollectionNo"), Shivaji(u"saMklana k`M"), 120, {}, false, false},
-        {QStringLiteral("Animal"), Shivaji(u"dUQa p`kar"), 110},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 110, QStringLiteral("####0.000"), true},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), 80, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), 100, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 130, QStringLiteral("#####0.00"), true},
-    };
-}
 
 // One action is one statement here.
 void Write(const QString& statement)
@@ -56,27 +48,26 @@ Keys::Places frmDailyCollection::KeyPlaces()
 
 frmDailyCollection::frmDailyCollection()
     : SocietyScreen(KeyPlaces(), Shivaji(IdleTitle))
-    , DataGrid1(this, "DataGrid1", ListColumns())
     , Modes(*this, IdleTitle, {cmdAdd, cmdModify, cmdDelete, cmdCancel, cmdExit})
+    , Rules(Row, Modes)
 {
     Modes.SetFields({&txtMemberNo, &cmbMemberName, &MasKCollectionDate, &cmbCollectionTime, &txtCollectionNo},
         {&txtAnimal, &txtLiters, &txtFat, &txtRate, &txtAmount});
     When(txtMemberNo.TextChanged, &frmDailyCollection::txtMemberNo_Change);
-    for (Field* key : std::initializer_list<Field*>{&MasKCollectionDate, &cmbCollectionTime})
-        When(key->TextChanged, &frmDailyCollection::ForgetRow);
+    MasKCollectionDate.TextChanged = std::bind_front(&DailyRules::RowIsChanged, &Rules);
+    cmbCollectionTime.TextChanged = std::bind_front(&DailyRules::RowIsChanged, &Rules);
     When(txtCollectionNo.TextChanged, &frmDailyCollection::txtCollectionNo_Change);
-    When(txtAmount.TextChanged, &frmDailyCollection::txtAmount_Change);
-    When(DataGrid1.Click, &frmDailyCollection::DataGrid1_Click);
+    txtAmount.TextChanged = std::bind_front(&DailyRules::PriceIsGiven, &Rules);
+    When(List.DataGrid1.Click, &frmDailyCollection::DataGrid1_Click);
     cmbCollectionTime.KeyDown = [this](const QKeyEvent& key) { return cmbCollectionTime_KeyDown(key); };
     cmbCollectionTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
     cmbMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
-    DataGrid1.SetGuide(Plain(u"Enter : ही नोंद    F5 : यादी बंद"));
     LayOut();
 }
 
 void frmDailyCollection::Load()
 {
-    DataGrid1.Bind(gCn, QStringLiteral("SELECT * FROM MilkCollections WHERE CompanyId=0"));
+    List.Load();
     FillCombo(cmbMemberName, u"MembersMaster", u"MemberName", u"ORDER BY MemberName");
     cmbCollectionTime.SetItems({Word::Morning.toString(), Word::Evening.toString()});
     ShowIdle();
@@ -90,14 +81,8 @@ void frmDailyCollection::Escape()
 
 // States
 
-void frmDailyCollection::BeginState()
-{
-    SetGuides();
-    txtMemberNo.SetFocus();
-}
-
 // A row that is to be changed is looked up first, and saved under its own animal only.
-void frmDailyCollection::SetGuides()
+void frmDailyCollection::BeginState()
 {
     txtMemberNo.SetGuide(Modes.IsNew() ? Plain(u"F5 : मेम्बरचे आतापर्यंतचे संकलन")
                                        : Plain(u"नोंद शोधा : मेम्बर, दिनांक, वेळ, संकलन क्रमांक"));
@@ -105,31 +90,195 @@ void frmDailyCollection::SetGuides()
     txtAnimal.SetGuide(
         Modes.IsModify() ? Plain(u"दूध प्रकार नोंदीचाच ठेवा : दुसरा सेव्ह होत नाही") : AnimalField::UsualGuide());
     cmdDelete.SetGuide(Modes.IsDelete() ? Plain(u"हा क्रमांक या वेळेच्या सर्व दिवसांतून खोडला जाईल") : Caption());
+    txtMemberNo.SetFocus();
 }
 
 void frmDailyCollection::ShowIdle()
 {
     Modes.Rest();
     cmdDelete.SetGuide({});
-    ShowList(false);
+    List.Hide();
     ClearFields();
 }
 
 void frmDailyCollection::ClearFields()
 {
-    for (Field* field : Fields())
-        field->Clear();
-    for (Field* figure : std::initializer_list<Field*>{&txtLiters, &txtFat, &txtRate, &txtAmount})
-        figure->SetText(QStringLiteral("0"));
+    Row.Clear();
     IsPicked = false;
-    ProposedNo.clear();
-    NumberedFor.clear();
+    Rules.Forget();
 }
 
 void frmDailyCollection::cmdCancel_Click()
 {
+    BackToIdle();
+}
+
+void frmDailyCollection::BackToIdle()
+{
     ShowIdle();
     cmdAdd.SetFocus();
+}
+
+// Member
+
+void frmDailyCollection::txtMemberNo_Change()
+{
+    Rules.RowIsChanged();
+    List.Hide(); // it is another member's now
+}
+
+void frmDailyCollection::txtMemberNo_LostFocus()
+{
+    ShowMemberOfNumber();
+}
+
+void frmDailyCollection::ShowMemberOfNumber()
+{
+    if (!txtMemberNo.HoldsNumber()) {
+        txtMemberNo.Clear();
+        return;
+    }
+    const Recordset member(
+        gCn, Sql(u"SELECT MemberName,Animal FROM MembersMaster WHERE  MemberNo=", txtMemberNo.Value()));
+    if (member.Eof())
+        cmbMemberName.Clear(); // a name stands there only beside its own number
+    else
+        TakeMember(member);
+}
+
+// A member of both kinds leaves the animal to the clerk.
+void frmDailyCollection::TakeMember(const Recordset& member)
+{
+    cmbMemberName.SetEntry({member[u"MemberName"].Text(), ShortestDecimal(txtMemberNo.Value())});
+    if (const QString animal = member[u"Animal"].Text(); animal != Word::Both)
+        txtAnimal.SetText(animal);
+}
+
+// A member can be told by name as well; a name that is nobody's gives way to that of the number.
+void frmDailyCollection::cmbMemberName_LostFocus()
+{
+    if (IsNameOf(cmbMemberName, txtMemberNo.Value()))
+        return;
+    if (const Recordset member = MemberOfName(cmbMemberName); !member.Eof()) {
+        txtMemberNo.SetText(member[u"MemberNo"].Text());
+        TakeMember(member);
+        return;
+    }
+    cmbMemberName.Clear();
+    ShowMemberOfNumber();
+}
+
+// Day
+
+void frmDailyCollection::MasKCollectionDate_LostFocus()
+{
+    Rules.InsistOnDay();
+}
+
+// The figures that stand for the shifts at the counters do so here, too.
+bool frmDailyCollection::cmbCollectionTime_KeyDown(const QKeyEvent& key)
+{
+    if (key.modifiers().testFlag(Qt::AltModifier) || (key.key() != Qt::Key_1 && key.key() != Qt::Key_2))
+        return false;
+    cmbCollectionTime.SetText(key.key() == Qt::Key_1 ? Word::Morning.toString() : Word::Evening.toString());
+    cmbCollectionTime.SelectAll();
+    return true;
+}
+
+void frmDailyCollection::cmbCollectionTime_LostFocus()
+{
+    if (Rules.InsistOnShift() && Modes.IsNew() && Rules.InsistOnDay())
+        ShowNextNumber();
+}
+
+// A number that is typed stands for the day and shift beside it as they are.
+void frmDailyCollection::txtCollectionNo_Change()
+{
+    Rules.RowIsChanged();
+    Rules.NumberIsGiven();
+}
+
+void frmDailyCollection::txtCollectionNo_LostFocus()
+{
+    const bool isPicked = std::exchange(IsPicked, false);
+    const bool isSeen = Rules.IsRowShown();
+    if ((Modes.IsNew() && !isPicked) || !Rules.InsistOnDay())
+        return;
+    const Recordset row(gCn,
+        Sql(u"SELECT * FROM MilkCollections WHERE CollectionNo=", txtCollectionNo.Value(), u" AND MemberNo=",
+            txtMemberNo.Value(), u" AND CollectionDate=", Row.Day()));
+    if (!row.Eof()) {
+        Row.Show(row);
+        Rules.RowIsShown();
+        if (!isSeen && (GoingTo() == &cmdModify || GoingTo() == &cmdDelete))
+            txtCollectionNo.SetFocus(Plain(u"नोंद पाहा, मग पुन्हा दाबा")); // one look before it is written
+        else if (Modes.IsDelete() && !IsSteppingBack())
+            cmdDelete.SetFocus();
+    } else if (!Modes.IsNew()) {
+        ShowNotice(Shivaji(u"saMklana naM tpasaa."));
+        BackToIdle();
+    }
+}
+
+// Milk
+
+void frmDailyCollection::txtAnimal_LostFocus()
+{
+    Rules.InsistOnAnimal();
+}
+
+// Litres that are no number are found on leaving the fat.
+void frmDailyCollection::txtLiters_LostFocus()
+{
+    if (Rules.InsistOnAnimal() && txtLiters.Value() <= 0)
+        Rules.InsistOnLiters();
+}
+
+void frmDailyCollection::txtFat_LostFocus()
+{
+    if (!Rules.InsistOnLiters()) {
+        txtLiters.SetText(QStringLiteral("0"));
+        return;
+    }
+    const bool isFat = Rules.InsistOnFat(); // as it was typed: 30.04 is too much
+    if (DailyRules::HoldsMilk(txtFat))
+        txtFat.Reformat();
+    else
+        txtFat.SetText(QStringLiteral("0"));
+    if (!isFat || !Rules.InsistOnDay())
+        return;
+    const FatRate found = LookupFatRate(MasKCollectionDate.Date(), txtFat.Value(), txtAnimal.Text());
+    if (found.outcome == FatRate::Outcome::NoChart) {
+        gAppState.gCallerTag = QStringLiteral("1");
+        txtFat.SetFocus(DailyRules::WithWayOut(u"फॅट दराचा तक्ता नाही"));
+        return;
+    }
+    if (found.outcome == FatRate::Outcome::Priced)
+        txtRate.Show(found.rate);
+    ShowAmount();
+    if (!IsSteppingBack())
+        cmdAdd.SetFocus(); // a new row is done; a change goes on to the rate
+}
+
+void frmDailyCollection::ShowAmount()
+{
+    txtAmount.Show(txtLiters.Value() * txtRate.Value());
+    Rules.PriceIsGiven();
+}
+
+void frmDailyCollection::txtRate_LostFocus()
+{
+    DailyRow::Mend(txtRate);
+    ShowAmount();
+    if (IsSteppingBack())
+        return;
+    for (Button* button : {&cmdAdd, &cmdModify, &cmdDelete})
+        button->SetFocus(); // the one that is open
+}
+
+void frmDailyCollection::txtAmount_LostFocus()
+{
+    DailyRow::Mend(txtAmount);
 }
 
 // Adding
@@ -141,17 +290,17 @@ void frmDailyCollection::cmdAdd_Click()
         BeginState();
         return;
     }
-    if (HasMissing())
+    if (!Rules.InsistOnAll())
         return;
     if (Finds(Sql(u"SELECT * FROM MilkCollections WHERE CompanyId=", gAppState.gCompanyId, u" AND MemberNo=",
-            txtMemberNo.Text(), u" AND CollectionDate=", Day(), u" AND CollectionTime=",
+            txtMemberNo.Text(), u" AND CollectionDate=", Row.Day(), u" AND CollectionTime=",
             Quoted(cmbCollectionTime.Text()), u" AND Animal=", Quoted(txtAnimal.Text())))) {
         ShowPlain(QStringLiteral("Duplicate record not allowed"));
         return;
     }
-    Write(InsertStatement());
-    if (IsListShown())
-        DataGrid1.Refresh();
+    Write(Row.InsertStatement());
+    if (List.IsShown())
+        List.DataGrid1.Refresh();
     for (Field* field :
         std::initializer_list<Field*>{&txtCollectionNo, &txtLiters, &txtFat, &txtRate, &txtAmount})
         field->Clear();
@@ -160,26 +309,14 @@ void frmDailyCollection::cmdAdd_Click()
     txtLiters.SetFocus(); // the same member, shift and animal, a day later
 }
 
-QString frmDailyCollection::InsertStatement() const
-{
-    return Sql(
-        u"INSERT INTO MilkCollections (CompanyId,MemberNo,MemberName,Animal,CollectionDate,CollectionTime,"
-        u"CollectionNo,Liters,Fat,Rate,Amount) VALUES (",
-        gAppState.gCompanyId, u",", txtMemberNo.Text(), u",", Quoted(cmbMemberName.Text()), u",",
-        Quoted(txtAnimal.Text()), u",", Quoted(MasKCollectionDate.Text()), u",",
-        Quoted(cmbCollectionTime.Text()), u",", txtCollectionNo.Text(), u",", txtLiters.Text(), u",",
-        txtFat.Text(), u",", txtRate.Text(), u",", txtAmount.Text(), u")");
-}
-
 // The series of a day runs over both its shifts here.
 void frmDailyCollection::ShowNextNumber()
 {
     const Recordset highest(gCn,
         Sql(u"SELECT MAX(CollectionNo) as mMaxNo FROM MilkCollections WHERE CompanyId=", gAppState.gCompanyId,
-            u" AND CollectionDate=", Day()));
-    ProposedNo = ShortestDecimal(highest.Eof() ? 1.0 : highest[u"mMaxNo"].Number() + 1);
-    txtCollectionNo.SetText(ProposedNo);
-    NumberedFor = DayAndShift();
+            u" AND CollectionDate=", Row.Day()));
+    txtCollectionNo.Show(highest.Eof() ? 1.0 : highest[u"mMaxNo"].Number() + 1);
+    Rules.NumberIsProposed();
 }
 
 // Modifying
@@ -189,21 +326,17 @@ void frmDailyCollection::cmdModify_Click()
     if (!Modes.IsModify()) {
         Modes.EnterModify();
         BeginState();
-        return;
+    } else if (Rules.InsistOnAll()) {
+        WriteAndRest(Row.UpdateStatement(), cmdModify);
     }
-    if (HasMissing())
-        return;
-    Write(UpdateStatement());
-    ShowIdle();
-    cmdModify.SetFocus();
 }
 
-QString frmDailyCollection::UpdateStatement() const
+// It rests on the button that was pressed.
+void frmDailyCollection::WriteAndRest(const QString& statement, Button& button)
 {
-    return Sql(u"UPDATE MilkCollections SET Liters=", txtLiters.Value(), u",Fat=", txtFat.Value(), u",Rate=",
-        txtRate.Value(), u",Amount=", txtAmount.Value(), u" WHERE CollectionNo=", txtCollectionNo.Value(),
-        u" AND CollectionDate=", Day(), u" AND MemberNo=", txtMemberNo.Value(), u" AND CollectionTime =",
-        Quoted(cmbCollectionTime.Text()), u"AND Animal=", Quoted(txtAnimal.Text()));
+    Write(statement);
+    ShowIdle();
+    button.SetFocus();
 }
 
 // Deleting
@@ -213,56 +346,38 @@ void frmDailyCollection::cmdDelete_Click()
     if (!Modes.IsDelete()) {
         Modes.EnterDelete();
         BeginState();
-        return;
+    } else if (Rules.InsistOnAll()) {
+        WriteAndRest(Row.DeleteStatement(), cmdDelete);
     }
-    if (HasMissing())
-        return;
-    Write(DeleteStatement());
-    ShowIdle();
-    cmdDelete.SetFocus();
-}
-
-// It takes the number of this member and shift on every day, not only on the one shown.
-QString frmDailyCollection::DeleteStatement() const
-{
-    return Sql(u" DELETE * FROM MilkCollections WHERE CompanyId= ", gAppState.gCompanyId,
-        u" AND CollectionNo= ", txtCollectionNo.Value(), u" AND MemberNo=", txtMemberNo.Value(),
-        u" AND CollectionTime=", Quoted(cmbCollectionTime.Text()));
 }
 
 // The member's list
 
-void frmDailyCollection::OpenList()
+void frmDailyCollection::ShowOrHideList()
 {
-    Write(QStringLiteral("DELETE * FROM MilkCollections WHERE CompanyId=999"));
-    DataGrid1.Bind(gCn, Sql(u"SELECT * FROM MilkCollections WHERE MemberNo=", txtMemberNo.Value()));
-    ShowList(true);
-    if (DataGrid1.CurrentRow() >= 0)
-        DataGrid1.SetFocus();
-}
-
-void frmDailyCollection::ShowList(bool shown)
-{
-    DataGrid1.SetVisible(shown);
-    Frame1->setVisible(shown);
+    if (List.IsShown())
+        List.Hide();
+    else if (Modes.IsNew())
+        List.Open(txtMemberNo.Value());
 }
 
 void frmDailyCollection::CloseList()
 {
     txtMemberNo.SetFocus();
-    ShowList(false);
+    List.Hide();
 }
 
 void frmDailyCollection::DataGrid1_Click()
 {
-    const int row = DataGrid1.CurrentRow();
+    const DataGrid& rows = List.DataGrid1;
+    const int row = rows.CurrentRow();
     if (row < 0)
         return;
-    MasKCollectionDate.SetDate(DataGrid1.Value(row, u"CollectionDate").Date());
-    cmbCollectionTime.SetText(DataGrid1.Value(row, u"CollectionTime").Text());
-    txtCollectionNo.SetText(DataGrid1.Value(row, u"CollectionNo").Text());
-    NumberedFor = DayAndShift();
+    MasKCollectionDate.SetDate(rows.Value(row, u"CollectionDate").Date());
+    cmbCollectionTime.SetText(rows.Value(row, u"CollectionTime").Text());
+    txtCollectionNo.SetText(rows.Value(row, u"CollectionNo").Text());
+    Rules.NumberIsGiven();
     IsPicked = true;
     txtCollectionNo.SetFocus();
-    ShowList(false);
+    List.Hide();
 }

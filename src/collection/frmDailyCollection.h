@@ -1,13 +1,16 @@
 #pragma once
 
-#include "platform/database/Recordset.h"
+#include "collection/DailyList.h"
+#include "collection/DailyRow.h"
+#include "collection/DailyRules.h"
 #include "platform/forms/Button.h"
-#include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
 #include "society/Fields.h"
 #include "society/RecordModes.h"
 #include "society/SocietyScreen.h"
+
+class Recordset;
 
 // The deliveries of one member, day after day: for keying a paper register, and for mending a row. It writes
 // the books and nothing beside them: no slip, no balance and no copy of the shift. The captions of the
@@ -35,16 +38,14 @@ private:
     Button cmdDelete{this, "cmdDelete", Shivaji(u"&KaoDNao..."), &frmDailyCollection::cmdDelete_Click};
     Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_"), &frmDailyCollection::cmdCancel_Click};
     Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmDailyCollection::cmdExit_Click};
-    DataGrid DataGrid1;
+    DailyList List{this};
 
     RecordModes Modes;
+    DailyRow Row{txtMemberNo, cmbMemberName, MasKCollectionDate, cmbCollectionTime, txtCollectionNo,
+        txtAnimal, txtLiters, txtFat, txtRate, txtAmount};
+    DailyRules Rules;
 
-    QWidget* Frame1 = nullptr; // holds DataGrid1
-    bool IsRowShown = false; // the fields show a row of the books
     bool IsPicked = false; // the number comes from the member's list, and its row is to be shown
-    QString ProposedNo; // the number that the screen has put there itself
-    QStringList NumberedFor; // the day and shift that the number shown stands for
-    QStringList PricedFor; // what the amount that is shown was made for
 
     void Load() override;
     void Escape() override;
@@ -61,7 +62,6 @@ private:
     void txtLiters_LostFocus();
     void txtFat_LostFocus();
     void txtRate_LostFocus();
-    void txtAmount_Change();
     void txtAmount_LostFocus();
     void cmdAdd_Click();
     void cmdModify_Click();
@@ -71,44 +71,23 @@ private:
 
     // States
     void BeginState();
-    void SetGuides();
     void ShowIdle();
     void ClearFields();
-    std::vector<Field*> Fields();
+    void BackToIdle();
+    void WriteAndRest(const QString& statement, Button& button);
 
-    // Rules of the fields
-    struct Missing { // a field that has to be entered first, and what the guide line says of it; or none
-        Field* field = nullptr;
-        Caption wanted;
-    };
-    bool HasMissing();
-    Missing Unfinished();
-    Missing UnfinishedNumber();
-    Missing UnfinishedFigure();
-    QStringList DayAndShift() const;
-    QStringList Priced() const;
+    // What the fields show
+    void ShowMemberOfNumber();
     void TakeMember(const Recordset& member);
-    void ShowAmount();
     void ShowNextNumber();
-    void ShowRow(const Recordset& row);
-    void ForgetRow();
-
-    // The rows behind the screen
-    QString Day() const;
-    QString InsertStatement() const;
-    QString UpdateStatement() const;
-    QString DeleteStatement() const;
+    void ShowAmount();
 
     // The member's list
-    bool IsListShown() const { return DataGrid1.Visible(); }
-    void OpenList();
-    void CloseList();
     void ShowOrHideList();
-    void ShowList(bool shown);
+    void CloseList();
 
     void LayOut();
     QLayout* MemberLine();
     QLayout* DayLine();
     QWidget* MilkPanel();
-    QWidget* ListFrame();
 };

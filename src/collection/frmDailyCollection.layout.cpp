@@ -17,7 +17,7 @@ void frmDailyCollection::LayOut()
     body->addLayout(DayLine());
     body->addWidget(MilkPanel());
     body->addWidget(lblGuide.Widget());
-    body->addWidget(ListFrame(), 1);
+    body->addWidget(List.LaidOut(), 1);
     body->addLayout(Layout::ButtonRow({&cmdAdd, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit}));
     Stack(body, {20, 14, 20, 14});
 }
@@ -59,19 +59,4 @@ QWidget* frmDailyCollection::MilkPanel()
     milk->addWidget(Sign(u"="), 0, Qt::AlignBottom);
     milk->addLayout(Under(Shivaji(u"r@kma"), txtAmount, 0, Look::Size::Title, TallField), 1);
     return panel;
-}
-
-// The frame keeps its place while it is hidden, so that nothing moves when it comes.
-QWidget* frmDailyCollection::ListFrame()
-{
-    Frame1 = Sheet();
-    Frame1->setObjectName(QStringLiteral("Frame1"));
-    auto* inside = new QVBoxLayout(Frame1);
-    inside->setContentsMargins(1, 1, 1, 1);
-    inside->addWidget(List(DataGrid1));
-    DataGrid1.SetAccessibleName(Plain(u"मेम्बरचे आतापर्यंतचे संकलन"));
-    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    policy.setRetainSizeWhenHidden(true);
-    Frame1->setSizePolicy(policy);
-    return Frame1;
 }

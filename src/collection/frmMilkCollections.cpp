@@ -1,29 +1,10 @@
 #include "collection/frmMilkCollections.h"
 
-#include "collection/Counter.h"
 #include "core/menu/Keys.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 
-using namespace Counter;
-
-namespace {
-
-std::vector<DataGrid::Column> MilkColumns()
-{
-    return {
-        {QStringLiteral("CollectionNo"), Shivaji(u"A.Ë."), Twips(900), {}, false, false},
-        {QStringLiteral("CollectionDate"), Shivaji(u"idnaaMk"), Twips(1300), QStringLiteral("dd/MM/yyyy")},
-        {QStringLiteral("CollectionTime"), Shivaji(u"vaoL"), 0},
-        {QStringLiteral("Animal"), Shivaji(u"dUQa"), Twips(700)},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), QStringLiteral("####0.000"), true},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), Twips(1300), QStringLiteral("#####0.00"), true},
-    };
-}
-
-}
+#include <QStackedLayout>
 
 Keys::Places frmMilkCollections::KeyPlaces()
 {
@@ -47,52 +28,70 @@ Keys::Places frmMilkCollections::KeyPlaces()
     };
 }
 
-frmMilkCollections::frmMilkCollections()
-    : CounterScreen(MainCounter, KeyPlaces())
-    , DataGridMilk(this, "DataGridMilk", MilkColumns())
+frmMilkCollections::frmMilkCollections() : CounterScreen(CounterKinds::Main, KeyPlaces())
 {
-    When(cmbAccountName.GotFocus, &frmMilkCollections::cmbAccountName_GotFocus);
-    cmbAccountName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
-    cmbAccountName.Accepts = ComboMemberName.Accepts;
-    Command2.SetCancels(true); // the frame is left whatever stands in its dates
-
+    When(Line.NamesLoaded, &frmMilkCollections::ListNames);
+    When(Frame.Command2.Click, &frmMilkCollections::Command2_Click);
     LayOut(Views(), KeyStrips());
-    ShowFrame(false);
 }
 
 void frmMilkCollections::Load()
 {
-    DataGridMilk.Bind(gCn,
-        QStringLiteral("select CompanyId,CollectionNo,CollectionDate,CollectionTime,MemberNo,MemberName,"
-                       "Animal,Liters,Fat,Rate,Amount,TranId,ActualCollectionTime from MilkCollectionsTemp "
-                       "order by CollectionNo"));
     CounterScreen::Load();
-    ShowMemberGrid();
-    MemberLitersAndAmounts();
-    MemberAverageFat();
+    Frame.Load();
 }
 
 // Esc in the member's frame is the way back to the shift.
 void frmMilkCollections::Escape()
 {
-    if (!IsFrameOpen) {
+    if (!Frame.IsOpen()) {
         CounterScreen::Escape();
         return;
     }
-    ShowFrame(false);
-    ResetMemberFrame();
+    LeaveMemberFrame();
     txtCollectionNo.SetFocus();
 }
 
-void frmMilkCollections::LoadMemberNames()
+// The frame has the names of the line, and keeps those that it has.
+void frmMilkCollections::ListNames()
 {
-    CounterScreen::LoadMemberNames();
-    cmbAccountName.AddNames(ComboMemberName.Names());
+    Frame.cmbAccountName.AddNames(Line.ComboMemberName.Names());
 }
 
 void frmMilkCollections::MembersShown()
 {
     const Recordset member(gCn, QStringLiteral("Select * from MembersMaster"));
     if (!member.Eof())
-        cmbAccountName.AddNames({{member[u"MemberName"].Text(), member[u"MemberNo"].Text()}});
+        Frame.cmbAccountName.AddNames({{member[u"MemberName"].Text(), member[u"MemberNo"].Text()}});
+}
+
+// The member's frame
+
+void frmMilkCollections::ShowMemberFrame()
+{
+    Line.SkipMemberChecks = true;
+    ShowView(1);
+    Frame.Open();
+    Line.LightMemberKeys();
+}
+
+void frmMilkCollections::LeaveMemberFrame()
+{
+    Frame.Close();
+    ShowView(0);
+    Line.ShowMemberKeys(false); // the focus won't be at the number
+    Frame.ResetMemberFrame(TheShift());
+    ShowInwardsGrid();
+}
+
+void frmMilkCollections::Command2_Click()
+{
+    LeaveMemberFrame();
+    SendKeys(QStringLiteral("{TAB}{TAB}{TAB}")); // over date and shift to the entry line
+}
+
+void frmMilkCollections::ShowView(int view)
+{
+    for (QStackedLayout* stack : {m_views, m_keys})
+        stack->setCurrentIndex(view);
 }

@@ -2,52 +2,17 @@
 
 #include "platform/forms/Pieces.h"
 
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
 using namespace Pieces;
 
-namespace {
-
-constexpr int FieldHeight = 34;
-
-QLabel* Mark(QStringView text)
-{
-    QLabel* mark = Heading(Plain(text), Look::Size::Small);
-    mark->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    return mark;
-}
-
-}
-
-std::vector<Control*> frmMilkCollections::FrameControls()
-{
-    return {&maskFromDate, &maskToDate, &txtAccountId, &cmbAccountName, &cmdGoOn, &Command1, &Command2,
-        &Command3, &DataGridMilk};
-}
-
-void frmMilkCollections::ShowFrame(bool shown)
-{
-    IsFrameOpen = shown;
-    for (Control* control : FrameControls())
-        control->SetVisible(shown);
-    Label28.SetVisible(shown);
-    for (QStackedLayout* stack : {m_views, m_keys})
-        stack->setCurrentIndex(shown ? 1 : 0);
-    for (Control* control : m_heldBack)
-        control->SetEnabled(true);
-    m_heldBack.clear();
-    if (!shown)
-        ShowMemberKeys(false); // the focus won't be at the number
-}
-
 QLayout* frmMilkCollections::Views()
 {
     m_views = new QStackedLayout;
     m_views->addWidget(ShiftView());
-    m_views->addWidget(FrameMilkCollection());
+    m_views->addWidget(Frame.LaidOut());
     return m_views;
 }
 
@@ -70,94 +35,4 @@ QWidget* frmMilkCollections::ShiftView()
     DataGridInwards.SetAccessibleName(Shivaji(u"dUQa saMklana"));
     row->addWidget(Totals());
     return view;
-}
-
-QWidget* frmMilkCollections::FrameMilkCollection()
-{
-    auto* frame = Sheet();
-    frame->setObjectName(QStringLiteral("FrameMilkCollection"));
-    auto* below = new QHBoxLayout;
-    below->setSpacing(8);
-    below->addWidget(List(DataGridMilk, 25, Look::Size::Small, 30), 1);
-    DataGridMilk.SetAccessibleName(Label28.Shown());
-    below->addWidget(MemberSums());
-
-    auto* stack = new QVBoxLayout(frame);
-    stack->setContentsMargins(10, 6, 10, 8);
-    stack->setSpacing(6);
-    stack->addLayout(FrameHead());
-    stack->addLayout(below, 1);
-    return frame;
-}
-
-QLayout* frmMilkCollections::FrameHead()
-{
-    auto* title = new QHBoxLayout;
-    Label28.Widget()->setFont(Look::Font(Look::Size::Normal, true));
-    SetInk(*Label28.Widget());
-    title->addWidget(Label28.Widget(), 1);
-    title->addWidget(Sized(Command1, 120, FieldHeight, Look::Size::Normal));
-    title->addWidget(Sized(Command2, 120, FieldHeight, Look::Size::Normal));
-    title->addWidget(Sized(Command3, 320, FieldHeight, Look::Size::Normal));
-
-    maskFromDate.SetAccessibleName(Plain(u"दिनांक पासून"));
-    maskToDate.SetAccessibleName(Plain(u"दिनांक पर्यंत"));
-    txtAccountId.SetAccessibleName(Shivaji(u"maombar naMbar"));
-    cmbAccountName.SetAccessibleName(Shivaji(u"maombarcao naaMva"));
-    auto* fields = new QHBoxLayout;
-    fields->addWidget(Heading(Shivaji(u"idnaaMk")));
-    fields->addWidget(Sized(maskFromDate, 130, FieldHeight, Look::Size::Normal));
-    fields->addWidget(Heading(Plain(u"ते")));
-    fields->addWidget(Sized(maskToDate, 130, FieldHeight, Look::Size::Normal));
-    fields->addSpacing(10);
-    fields->addWidget(Heading(Shivaji(u"maombar naMbar")));
-    fields->addWidget(Sized(txtAccountId, 90, FieldHeight, Look::Size::Normal));
-    fields->addWidget(Sized(cmbAccountName, 0, FieldHeight, Look::Size::Normal), 1);
-    fields->addWidget(Sized(cmdGoOn, 60, FieldHeight, Look::Size::Normal, true));
-
-    auto* head = new QVBoxLayout;
-    head->setSpacing(6);
-    head->addLayout(title);
-    head->addLayout(fields);
-    return head;
-}
-
-// Litres, amount and fat, each with a row for an animal and a column for each half of the day and for both.
-QWidget* frmMilkCollections::MemberSums()
-{
-    struct Sum {
-        Caption name;
-        std::initializer_list<const Label*> cow;
-        std::initializer_list<const Label*> buff;
-    };
-    auto* sums = new QWidget;
-    auto* grid = new QGridLayout(sums);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setVerticalSpacing(0);
-    grid->setHorizontalSpacing(6);
-    for (int column = 1; column <= 3; ++column)
-        grid->setColumnMinimumWidth(column, 84);
-    grid->addWidget(Mark(Shivaji(u"sakaL").Seen()), 0, 1);
-    grid->addWidget(Mark(Shivaji(u"saMQyaakaL").Seen()), 0, 2);
-    grid->addWidget(Mark(Shivaji(u"ekUNa").Seen()), 0, 3);
-    int row = 1;
-    for (const auto& [name, cow, buff] :
-        std::initializer_list<Sum>{{Shivaji(u"ilaTsa-"), {&lblCowLitM, &lblCowLitE, &lblCowTotalLiters},
-                                       {&lblBuffLitM, &lblBuffLitE, &lblBuffTotalLiters}},
-            {Shivaji(u"r@kma"), {&lblCowTotalM, &lblCowTotalE, &lblCowTotal},
-                {&lblBuffTotalM, &lblBuffTotalE, &lblBuffTotal}},
-            {Shivaji(u"f^T"), {&lblCowAvgFatM, &lblCowAvgFatE, &lblCowTotalAvgFat},
-                {&lblBuffAvgFatM, &lblBuffAvgFatE, &lblBuffTotalAvgFat}}}) {
-        grid->addWidget(Heading(name, Look::Size::Small, true), row++, 0);
-        for (const auto& [animal, figures] :
-            {std::pair(Shivaji(u"gaaya"), cow), std::pair(Shivaji(u"mhOsa"), buff)}) {
-            grid->addWidget(Heading(animal, Look::Size::Small), row, 0);
-            int column = 1;
-            for (const Label* figure : figures)
-                grid->addWidget(Figure(*figure, Look::Size::Small), row, column++);
-            ++row;
-        }
-    }
-    grid->setRowStretch(row, 1);
-    return sums;
 }

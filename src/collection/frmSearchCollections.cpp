@@ -1,5 +1,6 @@
 #include "collection/frmSearchCollections.h"
 
+#include "collection/Counter.h"
 #include "collection/MilkReceipt.h"
 #include "core/menu/Keys.h"
 #include "core/messages/Messages.h"
@@ -7,12 +8,13 @@
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
-#include "platform/forms/ModalStack.h"
 #include "platform/shell/AppFolder.h"
 #include "society/Names.h"
 #include "society/Queries.h"
 #include "society/ReceiptLayouts.h"
 #include "society/Wanted.h"
+
+using namespace Counter;
 
 namespace {
 
@@ -82,8 +84,8 @@ void frmSearchCollections::Load()
     After(50, [this] { TimerStart_Timer(); });
 }
 
-// From a counter it goes on with the member in the line there. From the menu the clerk is at the date
-// already, or as far beyond it as his keys were quicker than the tick, which doesn't call him back.
+// From a counter it goes on with the member in the line there. From the menu it leaves the clerk where he is:
+// at the date, or further on if he has typed faster than the timer ticks.
 void frmSearchCollections::TimerStart_Timer()
 {
     TimerStart = false;
@@ -104,9 +106,7 @@ void frmSearchCollections::maskDate_GotFocus()
 {
     EnableMember(false);
     EnableFound(false);
-    // A date that has to be mended is not selected: one key would wipe it out.
-    if (!maskDate.HoldsDate())
-        SendKeys(QStringLiteral("{Home}"));
+    KeepForMending(maskDate);
 }
 
 void frmSearchCollections::maskDate_LostFocus()
@@ -121,13 +121,7 @@ void frmSearchCollections::txtTime_GotFocus()
 
 void frmSearchCollections::txtTime_LostFocus()
 {
-    if (maskDate.InsistOnDate(Wanted::Date()) && !txtTime.HoldsShift())
-        txtTime.SetFocus(Wanted::Shift());
-}
-
-Shift frmSearchCollections::TheShift() const
-{
-    return {maskDate.Date(), txtTime.Text()};
+    InsistOnShift(maskDate, txtTime);
 }
 
 // Member
@@ -152,12 +146,8 @@ void frmSearchCollections::ComboMemberName_GotFocus()
 
 void frmSearchCollections::ComboMemberName_LostFocus()
 {
-    const QString name = ComboMemberName.Text().trimmed();
-    if (name.isEmpty()) {
-        ShowNotice(Shivaji(u"maombarcao naaMva vyavaisqat Ta[-p kra"));
-        ComboMemberName.SetFocus(Wanted::Name());
+    if (!InsistOnName(ComboMemberName))
         return;
-    }
     if (const Recordset member = MemberOfName(ComboMemberName, txtMemberNo.Value()); !member.Eof()) {
         txtMemberNo.SetText(member[u"MemberNo"].Text());
         ShowMember(ComboMemberName, member);
@@ -184,7 +174,7 @@ void frmSearchCollections::EnableMember(bool enabled)
 
 void frmSearchCollections::Search()
 {
-    const Shift shift = TheShift();
+    const Shift shift = ShiftOf(maskDate, txtTime);
     Transaction finding(gCn);
     gCn.Execute(QStringLiteral("delete * from MilkCollectionsTemp"));
     gCn.Execute(Sql(

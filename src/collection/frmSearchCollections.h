@@ -11,8 +11,9 @@
 
 #include <optional>
 
-// Finds a member's deliveries in a shift and prints the slip of one of them again. A search puts the copy of
-// the shift aside: what was found lies there instead, and stays for the counter that has opened this screen.
+// Finds a member's deliveries in a shift and prints the slip of one of them again. What a search
+// finds takes the place of the shift in the copy, and stays there for the counter that has opened this
+// screen.
 class frmSearchCollections final : public SocietyScreen {
 public:
     // What a counter hands over: the member in its line, and the shift.
@@ -55,7 +56,6 @@ private:
     void LayOut();
     QWidget* Question();
 
-    Shift TheShift() const;
     void LoadMemberNames();
     void EnableMember(bool enabled);
     void EnableFound(bool enabled);

@@ -316,10 +316,13 @@ TEST_F(DailyCollectionTest, AFatThatIsNoneBecomesZeroAndHoldsTheFocus)
 TEST_F(DailyCollectionTest, AFatOfThirtyPassesAndOneAboveIsReformattedAndHoldsTheFocus)
 {
     AddingFor(1, [](Clerk& clerk) {
-        Type(clerk, "{ENTER}{ENTER}5{ENTER}30.14{ENTER}");
-        EXPECT_EQ(Focus(clerk), "txtFat");
-        EXPECT_EQ(Reads(clerk, "txtFat"), "30.1");
-        EXPECT_EQ(Reads(clerk, "txtRate"), "0") << "nothing is priced";
+        Type(clerk, "{ENTER}{ENTER}5{ENTER}");
+        for (const auto& [typed, shown] : {std::pair("30.14{ENTER}", "30.1"), {"30.04{ENTER}", "30.0"}}) {
+            Type(clerk, typed);
+            EXPECT_EQ(Focus(clerk), "txtFat") << typed;
+            EXPECT_EQ(Reads(clerk, "txtFat"), shown);
+            EXPECT_EQ(Reads(clerk, "txtRate"), "0") << "nothing is priced";
+        }
         Type(clerk, "30{ENTER}");
         EXPECT_EQ(Focus(clerk), "cmdAdd");
         EXPECT_EQ(Reads(clerk, "txtFat"), "30.0");

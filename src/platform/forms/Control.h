@@ -19,12 +19,18 @@ using Event = std::function<void()>;
 // The member function of a screen that answers the usual event of a control: leaving a field, pressing a
 // button, changing a box. It is named where the control is declared:
 // Button cmdNew{this, "cmdNew", Shivaji(u"&navaIna"), &frmMembers::cmdNew_Click};
+// Where a part of a screen has controls of its own, the function may be that part's:
+// {this, &DeviceSwitches::cmdAutoFat_Click}.
 class Handler {
 public:
     Handler() = default;
     template <class S>
     Handler(void (S::*function)())
         : m_run([function](Screen& screen) { (static_cast<S&>(screen).*function)(); })
+    {
+    }
+    template <class Part>
+    Handler(Part* part, void (Part::*function)()) : m_run([=](Screen&) { (part->*function)(); })
     {
     }
 

@@ -45,6 +45,14 @@ public:
     // The same. Until the control is left, the guide label shows `wanted` in place of its guide.
     void SetFocus(Control& control, const Caption& wanted);
 
+    // For a LostFocus handler that moves the clerk to another field: whether Shift+Tab is taking him back, so
+    // that it shouldn't.
+    bool IsSteppingBack() const { return m_leaving && m_step < 0; }
+
+    // Also for a LostFocus handler: the control that the clerk goes to directly, by its Alt key, another key
+    // or the mouse; null if Enter, Tab or Shift+Tab moves him.
+    const Control* GoingTo() const { return m_leaving && m_step == 0 ? m_straightTo : nullptr; }
+
     // The controls in tab order.
     const std::vector<Control*>& Controls() const { return m_controls; }
 
@@ -91,14 +99,6 @@ protected:
 
     // Empties all fields, as Esc does on many screens.
     void EmptyFields();
-
-    // For a LostFocus handler that moves the clerk to another field: whether Shift+Tab is taking him back, so
-    // that it shouldn't.
-    bool IsSteppingBack() const { return m_leaving && m_step < 0; }
-
-    // Also for a LostFocus handler: the control that the clerk goes to directly, by its Alt key, another key
-    // or the mouse; null if Enter, Tab or Shift+Tab moves him.
-    const Control* GoingTo() const { return m_leaving && m_step == 0 ? m_straightTo : nullptr; }
 
     void SetColours(QColor focus, QColor plain);
 

@@ -6,8 +6,8 @@ class QInputMethodEvent;
 class QWidget;
 
 // Lets a box take only what was keyed after it was painted. Keys and texts of an input method that were typed
-// ahead were meant for the field below, so all of them are thrown away, and so are the repetitions of a key that
-// is held down. Keys that the program types itself (SendKeys) don't pass through here.
+// ahead were meant for the field below, so all of them are thrown away, and so are the repetitions of a key
+// that is held down. Keys that the program types itself (SendKeys) don't pass through here.
 class FreshKeys final : public QObject {
 public:
     // Guards `box` whenever it is shown, as long as this lives.
