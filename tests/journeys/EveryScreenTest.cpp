@@ -79,13 +79,17 @@ TEST_P(EveryScreenTest, ShiftTabLeadsFromEachFieldToTheOneBeforeIt)
     });
 }
 
-// All keys that the list of keys names for a screen, its places included.
-QString KeysNamedOn(const QString& screen)
+// All keys that the list of keys names for the screen on top, its places included; in the member's frame,
+// which has a strip of its own, for the frame.
+QString KeysNamedOn(Clerk& clerk)
 {
+    const QString screen = clerk.ScreenName();
+    const Control* from = screen == u"frmMilkCollections" ? clerk.Top().Find(u"maskFromDate") : nullptr;
+    const bool inFrame = from && from->Visible();
     QString named;
     for (const Keys::Place& place : Keys::Sheet()) {
-        const bool isFrame = screen == u"frmMilkCollections" && place.name == u"FrameMilkCollection";
-        if (place.name != screen && !place.name.startsWith(QString(screen + u'.')) && !isFrame)
+        const bool isScreen = place.name == screen || place.name.startsWith(QString(screen + u'.'));
+        if (inFrame ? place.name != u"FrameMilkCollection" : !isScreen)
             continue;
         for (const KeyHint& hint : place.keys)
             named += u' ' + hint.key + u' ';
@@ -96,7 +100,7 @@ QString KeysNamedOn(const QString& screen)
 TEST_P(EveryScreenTest, ItsKeysAreNamedInTheListOrInTheGuide)
 {
     OnIt([](Clerk& clerk) {
-        const QString named = KeysNamedOn(clerk.ScreenName());
+        const QString named = KeysNamedOn(clerk);
         for (const Control* control : clerk.Top().Controls()) {
             const auto expect = [&](const QString& key) {
                 EXPECT_TRUE(
@@ -132,7 +136,7 @@ TEST_P(EveryScreenTest, ItsKeysAreNamedInTheListOrInTheGuide)
 TEST_P(EveryScreenTest, TheKeysOfItsFixedWordsAreNamed)
 {
     OnIt([](Clerk& clerk) {
-        const QString named = KeysNamedOn(clerk.ScreenName());
+        const QString named = KeysNamedOn(clerk);
         for (Control* control : clerk.Top().Controls()) {
             const auto* combo = dynamic_cast<ChoiceCombo*>(control);
             if (!combo || !combo->CanTakeFocus())

@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <unistd.h>
+
 namespace {
 
 class SetupProgramTest : public testing::Test {
@@ -71,6 +73,34 @@ TEST_F(SetupProgramTest, LeavesBooksAloneThatAreOpen)
     EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 1);
     ASSERT_TRUE(QFile::remove(QDir(Folder()).filePath(QStringLiteral("Vetrolan.lock"))));
     ExpectRefusal(RunSetup(Arguments(Folder()) << QStringLiteral("--replace")), 1, u"open in the program");
+    EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 1);
+}
+
+TEST_F(SetupProgramTest, LeavesTheTemplatesOfBooksAloneThatAreOpen)
+{
+    ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
+    const QString slip = QDir(Folder()).filePath(QStringLiteral("MilkReceipt1.rpt"));
+    ASSERT_TRUE(QFile::remove(slip));
+    const SingleInstance running(Folder());
+    ASSERT_TRUE(running.Taken());
+    const QStringList renew{QStringLiteral("--templates"), QStringLiteral("--folder"), Folder()};
+    ExpectRefusal(RunSetup(renew), 1, u"open in the program");
+    EXPECT_FALSE(QFile::exists(slip));
+}
+
+TEST_F(SetupProgramTest, IsNotRootBesideTheBooksOfAnotherUser)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can play root";
+    ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
+    constexpr uid_t nobody = 65534;
+    ASSERT_EQ(chown(QFile::encodeName(Folder()).constData(), nobody, nobody), 0);
+    const QString slip = QDir(Folder()).filePath(QStringLiteral("MilkReceipt1.rpt"));
+    ASSERT_TRUE(QFile::remove(slip));
+    const QStringList renew{QStringLiteral("--templates"), QStringLiteral("--folder"), Folder()};
+    EXPECT_NE(RunSetup(renew).exitCode, 0);
+    EXPECT_NE(RunSetup(Arguments(Folder()) << QStringLiteral("--replace")).exitCode, 0);
+    EXPECT_FALSE(QFile::exists(slip));
     EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 1);
 }
 

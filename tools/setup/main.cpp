@@ -107,6 +107,9 @@ int RenewTemplates(const Place& place)
     if (!QDir(place.Folder()).exists())
         return Complain(Failed,
             QStringLiteral("There is no society in %1.").arg(QDir::toNativeSeparators(place.Folder())));
+    const SingleInstance lock(place.Folder());
+    if (!lock.Taken())
+        return Complain(Failed, QStringLiteral("The books are open in the program; close it first."));
     WriteTemplates(place.Folder());
     place.WriteOlderTemplate();
     QTextStream(stdout) << QDir::toNativeSeparators(place.Folder()) << '\n';

@@ -87,11 +87,6 @@ bool WriteSalt(const QString& path, const QByteArray& salt)
         && SyncToDisk(file);
 }
 
-QString InMarathi(const QDateTime& time)
-{
-    return time.toString(QStringLiteral("dd/MM/yyyy HH:mm"));
-}
-
 }
 
 Opening::Opening(QString file, QString password, const OpeningPlan& plan)
@@ -118,6 +113,7 @@ void Opening::LookAndMend()
 {
     RequireReadable();
     RequireWritable();
+    m_lastWritten = QFileInfo(m_file).lastModified();
     TriedCopy::Sweep(m_file);
     m_log = WriteAheadLog::Read(m_file, PageSize);
     m_first = FirstPage::OfFile(m_file, m_password);
@@ -161,11 +157,17 @@ void Opening::RequireReadable() const
 }
 
 // The owner's right counts, too: the system's administrator may write into a file that was made read-only.
+// The engine opens a log that it may not write without a word, and fails at the first save.
 void Opening::RequireWritable() const
 {
-    const QFileInfo info(m_file);
-    if (!info.isWritable() || !info.permission(QFile::WriteOwner) || !QFileInfo(info.path()).isWritable())
+    if (!QFileInfo(QFileInfo(m_file).path()).isWritable())
         ThrowNotWritable(m_file);
+    for (const QString& name :
+        {m_file, WriteAheadLog::NameFor(m_file), WriteAheadLog::IndexNameFor(m_file)}) {
+        const QFileInfo info(name);
+        if (info.exists() && (!info.isWritable() || !info.permission(QFile::WriteOwner)))
+            ThrowNotWritable(name);
+    }
 }
 
 // Whose the log is, and whether the password is right, is told by pages that were read. A disk that is full
@@ -176,17 +178,19 @@ void Opening::RequireLookedAt(const FirstPage& page) const
         DatabaseErrors::ThrowFailure(nullptr, page.code, {});
 }
 
-// A log without a first page has no marks: a shell wrote it.
+// A log without a first page has no marks: a shell wrote it. Where the marks don't fit, a page of the log in
+// the file shows all the same that its fold was cut off: the word of it may be lost with the log's damaged
+// end.
 bool Opening::IsLogOfThisFile() const
 {
-    if (!HasLoggedPage())
-        return LogMark::WereThereBefore(FileState::Of(m_file), FileState::Of(WriteAheadLog::NameFor(m_file)))
-            || m_log.IsPartlyFolded(m_file, PageSize);
-    if (!m_logged.IsReadable() || m_log.firstPage.left(SaltSize) != Salt())
+    if (HasLoggedPage() && (!m_logged.IsReadable() || m_log.firstPage.left(SaltSize) != Salt()))
         return false;
-    return !m_first.IsReadable()
-        || m_logged.mark.GoesOnFrom(
-            m_first.mark.round, FileState::Of(m_file), FileState::Of(WriteAheadLog::NameFor(m_file)));
+    const FileState books = FileState::Of(m_file);
+    const FileState log = FileState::Of(WriteAheadLog::NameFor(m_file));
+    const bool fits = HasLoggedPage()
+        ? !m_first.IsReadable() || m_logged.mark.GoesOnFrom(m_first.mark.round, books, log)
+        : LogMark::WereThereBefore(books, log);
+    return fits || m_log.IsPartlyFolded(m_file, PageSize);
 }
 
 void Opening::PutForeignLogAside()
@@ -229,16 +233,17 @@ void Opening::KeepDamagedLog()
 {
     const QString kept = DatedLog();
     const bool isKept = QFile::copy(WriteAheadLog::NameFor(m_file), kept);
-    const QString since = InMarathi(QFileInfo(m_file).lastModified());
     const QString number = QString::number(m_log.lostCommits);
-    m_notes.append(Sentences(QStringLiteral("शेवटच्या नोंदींची फाइल बिघडली होती. %1 नंतरच्या सुमारे %2 नोंदी गेल्या "
-                                            "असण्याची शक्यता आहे. त्या तपासा आणि नसतील त्या "
-                                            "पुन्हा भरा.")
-                                 .arg(since, number),
+    // A fold that was cut off has written into the file after the entries were made.
+    const bool isSinceKnown = m_lastWritten <= QFileInfo(WriteAheadLog::NameFor(m_file)).lastModified();
+    const QString since = m_lastWritten.toString(QStringLiteral("dd/MM/yyyy HH:mm"));
+    m_notes.append(Sentences(
+        QStringLiteral("शेवटच्या नोंदींची फाइल बिघडली होती. %1सुमारे %2 नोंदी गेल्या असण्याची शक्यता आहे. त्या तपासा "
+                       "आणि नसतील त्या पुन्हा भरा.")
+            .arg(isSinceKnown ? since + QStringLiteral(" नंतरच्या ") : QString(), number),
         QStringLiteral(
-            "The log was damaged. About %1 entries made after %2 may be missing: look and key what "
-            "is not there.%3")
-            .arg(number, since,
+            "The log was damaged. About %1 entries%2 may be missing: look and key what is not there.%3")
+            .arg(number, isSinceKnown ? QStringLiteral(" made after ") + since : QString(),
                 isKept ? QStringLiteral(" The damaged log is kept as \"%1\".").arg(kept) : QString())));
 }
 

@@ -4,6 +4,8 @@
 #include "platform/database/KeyedFile.h"
 #include "platform/database/WriteAheadLog.h"
 
+#include <QDateTime>
+
 // The checks and repairs before the engine opens a database: whether it can be read and written, whether the
 // log beside it belongs to it and is whole, and, after an unclean end, every page. The log isn't applied to
 // the file before all of this is done.
@@ -40,6 +42,7 @@ private:
     QString m_file;
     QString m_password;
     const OpeningPlan& m_plan;
+    QDateTime m_lastWritten; // the file, before anything was mended in it
     WriteAheadLog m_log;
     FirstPage m_first; // of the file
     FirstPage m_logged; // the newest in the log, if there is one

@@ -120,6 +120,48 @@ TEST_F(DamagedLogTest, AFoldWhoseBeginningIsHalfWrittenIsNoLostEntry)
     EXPECT_TRUE(notes.first().contains(QStringLiteral("About 1 entries"))) << notes.first().toStdString();
 }
 
+TEST_F(DamagedLogTest, SinceWhenEntriesAreMissingIsToldByTheFileUnlessAFoldWasCutOff)
+{
+    const auto cutShort = [&](const QString& name, int seconds) {
+        const QString left = Left(name);
+        QByteArray log = Bytes(left + QStringLiteral("-wal"));
+        log.chop(1);
+        Write(left + QStringLiteral("-wal"), log);
+        Age(left, seconds);
+        return OpenAgain(left).join(u'\n');
+    };
+    Add("ek");
+    const QString plain = cutShort(QStringLiteral("plain"), 0);
+    EXPECT_TRUE(plain.contains(QStringLiteral("made after"))) << plain.toStdString();
+    EXPECT_TRUE(plain.contains(QStringLiteral("नंतरच्या"))) << plain.toStdString();
+
+    BreakOffAFold();
+    Add("caar");
+    const QString cutOff = cutShort(QStringLiteral("cutOff"), 3600);
+    EXPECT_TRUE(cutOff.contains(QStringLiteral("entries may be missing"))) << cutOff.toStdString();
+    EXPECT_FALSE(cutOff.contains(QStringLiteral("made after"))) << cutOff.toStdString();
+    EXPECT_FALSE(cutOff.contains(QStringLiteral("नंतरच्या"))) << cutOff.toStdString();
+    EXPECT_EQ(TownsOf(again), QStringLiteral("ek tIna"));
+}
+
+TEST_F(DamagedLogTest, AFoldThatWasCutOffIsKnownByItsPagesThoughTheWordOfItIsLost)
+{
+    Run("insert into BankMaster(CompanyId,BankName) values(1,'a bank')"); // the page that comes into the file
+    Add("ek");
+    BreakOffAFold();
+    const QString left = Left(QStringLiteral("left"));
+    QByteArray log = Bytes(left + QStringLiteral("-wal"));
+    log.chop(FrameSize + 1);
+    Write(left + QStringLiteral("-wal"), log);
+    Age(left, 3600);
+    const QStringList notes = OpenAgain(left);
+    ASSERT_EQ(notes.size(), 1);
+    EXPECT_TRUE(notes.first().contains(QStringLiteral("entries may be missing")))
+        << notes.first().toStdString();
+    EXPECT_EQ(LogsAside(left).size(), 1) << "the damaged log is kept";
+    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
+}
+
 TEST_F(DamagedLogTest, ADamagedHeadOfTheLogIsToldWithAllItsEntries)
 {
     Add("ek");
@@ -272,6 +314,19 @@ TEST_F(DamagedLogTest, BooksThatMayNotBeWrittenAreRefusedAtTheStart)
     EXPECT_TRUE(Failure(file).contains(QStringLiteral("can't be written")));
     EXPECT_EQ(Bytes(file), before);
     EXPECT_FALSE(QFile::exists(file + QStringLiteral("-wal")));
+}
+
+TEST_F(DamagedLogTest, ALogThatMayNotBeWrittenIsRefusedAtTheStartAndStaysAsItIs)
+{
+    Add("ek");
+    for (const char* ending : {"-wal", "-shm"}) {
+        const QString left = Left(QLatin1String(ending));
+        const QString log = left + QLatin1String(ending);
+        const QByteArray before = Bytes(log);
+        ASSERT_TRUE(QFile::setPermissions(log, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+        EXPECT_TRUE(Failure(left).contains(QStringLiteral("can't be written"))) << ending;
+        EXPECT_EQ(Bytes(log), before) << ending;
+    }
 }
 
 }
