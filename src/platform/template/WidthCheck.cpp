@@ -68,7 +68,7 @@ private:
     {
         if (!text.IsEmpty() && width < size - Tolerance)
             m_fault(line,
-                QStringLiteral("letters of %1 points don't stand in a place of %2 mm")
+                QStringLiteral("letters of %1 points don't fit into a place of %2 mm")
                     .arg(size)
                     .arg(Shown(width)));
     }

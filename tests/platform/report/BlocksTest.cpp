@@ -167,7 +167,7 @@ TEST_F(BlocksTest, ABottomIsTheLastOfItsColumnAndHoldsNoRows)
         return OnlyFault(QStringLiteral("<columns><column>%1</column></columns>").arg(QLatin1String(inside)));
     };
     EXPECT_EQ(fault("<bottom><text>a</text></bottom><text>b</text>"),
-        QStringLiteral("nothing stands behind a <bottom>"));
+        QStringLiteral("a <bottom> must be the last element of its <column>"));
     EXPECT_EQ(fault("<bottom><table source=\"c\"><col>a</col></table></bottom>"),
         QStringLiteral("<table> can't stand in <columns> that stand in a <column>"));
     EXPECT_EQ(fault("<bottom><text>{Nmae}</text></bottom>"),
@@ -210,12 +210,12 @@ TEST_F(BlocksTest, ValuesStandWithinValues)
                   .join(u' '),
         QStringLiteral("A 9 n1 n2 2 B 3 n3 4 n4 2"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<each source=\"c\"><each source=\"c\"><text>a</text></each></each>")),
-        QStringLiteral("\"c\" is being walked already"));
+        QStringLiteral("an <each> around this goes through the rows of \"c\" already"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<each source=\"c\" by=\"Fat\"><each source=\"c\"><table source=\"c\">"
                                        "<col>a</col></table></each></each>")),
-        QStringLiteral("\"c\" is being walked already"));
+        QStringLiteral("an <each> around this goes through the rows of \"c\" already"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<each source=\"c\" by=\"Fat &gt; 3\"><text>a</text></each>")),
-        QStringLiteral("rows aren't grouped by a condition; use if(…)"));
+        QStringLiteral("rows can't be grouped by a condition; use if(…)"));
 }
 
 TEST_F(BlocksTest, ARecordOfSeveralPagesIsNumberedByItself)

@@ -79,7 +79,7 @@ TEST_F(TableLinesTest, ATableIsNeverWithoutAColumn)
                                         "<total label=\"=\"/>")),
         QStringLiteral("the first column has a total, so there is no room for its label"));
     EXPECT_EQ(TableFault(QStringLiteral("<col>a</col><col if=\"Liters\">b</col>")),
-        QStringLiteral("a condition is needed that holds or doesn't"));
+        QStringLiteral("this must be a condition, such as Liters > 0"));
 }
 
 TEST_F(TableLinesTest, ASummaryHasARowForEachGroup)
@@ -132,7 +132,7 @@ TEST_F(TableLinesTest, AGroupsHeadHasFiguresInItsOwnColumns)
     EXPECT_EQ(figure.fit, Fit::Shrink);
     EXPECT_EQ(TableFault(QStringLiteral("<col>a</col><group by=\"CollectionTime\"><head><cell>{sum(Liters)}"
                                         "</cell></head></group>")),
-        QStringLiteral("a total isn't known here"));
+        QStringLiteral("a total can't be used here"));
 }
 
 TEST_F(TableLinesTest, AFootHasSeveralLinesWithCellsOfTheirOwn)
@@ -228,7 +228,7 @@ TEST_F(TableLinesTest, ATotalOfAPageKnowsNoRow)
     const auto fault = [this](const char* inside) {
         return TableFault(QStringLiteral("<col w=\"40\">{MemberNo}</col>") + QString::fromUtf8(inside));
     };
-    const QString row = QStringLiteral("\"%1\" is of a row, and a <page> knows totals only");
+    const QString row = QStringLiteral("\"%1\" is a field, and a <page> can use totals only");
     EXPECT_EQ(fault("<page foot=\"{MemberName}\"/>"), row.arg(QStringLiteral("MemberName")));
     EXPECT_EQ(fault("<col total=\"Fat + sum(Liters)\">{Liters}</col><page foot=\"=\"/>"),
         row.arg(QStringLiteral("Fat")));
