@@ -30,7 +30,7 @@ SourceFinder::SourceFinder(ReportTemplate& report, Catalogue& catalogue, Templat
 
 void SourceFinder::Fault(int line, const QString& text)
 {
-    if (m_faults.size() <= MostFaults)
+    if (m_faults.size() <= TemplateFault::Most)
         m_faults.push_back({m_report.file, line, text});
 }
 
