@@ -33,6 +33,6 @@ struct DailyRow {
     QString UpdateStatement() const;
     QString DeleteStatement() const;
 
-    // Makes a figure that is no number 0.
+    // Sets a field to 0 if its text isn't a number.
     static void Mend(NumberField& figure);
 };

@@ -20,7 +20,7 @@ class EntryLine {
     Screen* m_screen;
 
 public:
-    // What the line leans on at its counter.
+    // The other parts of the counter that the line uses.
     struct Beside {
         DateField& date;
         ShiftField& time;

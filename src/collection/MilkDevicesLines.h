@@ -41,7 +41,7 @@ constexpr std::chrono::microseconds WaitOf(int count)
 // an adapter holds bytes back for up to 16 ms.
 inline constexpr std::chrono::milliseconds FrameSilence{250};
 
-// When the line has been quiet for this long, the rest of a reply that was taken early has come.
+// A reply may be used before all of it was received. Once nothing has come for this long, its rest is over.
 inline constexpr std::chrono::milliseconds RestSilence{100};
 
 }

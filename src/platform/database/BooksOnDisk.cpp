@@ -92,8 +92,8 @@ BooksOnDisk::Verdict BooksOnDisk::Look()
     if (!areWritten)
         return isLogThere ? Verdict::Untouched : Verdict::LogGone;
 
-    // Somebody else has written. Each round of the log begins with a first page of its own, so an unchanged
-    // first page means unchanged books, and one that stands in the log has come out of it.
+    // Another program has written to the file. Each round of the log writes the first page, so if that is
+    // unchanged, no round was folded. If it has changed but is also in the log, the log was folded.
     const QByteArray firstPage = FirstPage();
     const bool isSame = firstPage == m_firstPage;
     if (!isSame && !LogHolds(firstPage))

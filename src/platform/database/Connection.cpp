@@ -12,7 +12,7 @@ struct Target {
     QString password;
 };
 
-// Reads "dsn=NAME;pwd=PASSWORD". The password is all that follows, whatever characters it holds.
+// Reads "dsn=NAME;pwd=PASSWORD". The password is everything up to the end, even semicolons.
 Target ReadConnectionString(const QString& connectionString)
 {
     constexpr QStringView sourceKey = u"dsn=";

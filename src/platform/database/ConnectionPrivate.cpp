@@ -10,7 +10,7 @@
 
 namespace {
 
-// Connections that the engine mustn't close: they are never let go, and the end of the process closes them.
+// Keeps a connection that the engine mustn't close until the process ends.
 void LeaveOpen(sqlite3* handle, const std::shared_ptr<BooksOnDisk>& onDisk)
 {
     using Connections = std::vector<std::pair<sqlite3*, std::shared_ptr<BooksOnDisk>>>;
@@ -18,7 +18,7 @@ void LeaveOpen(sqlite3* handle, const std::shared_ptr<BooksOnDisk>& onDisk)
     connections.emplace_back(handle, onDisk);
 }
 
-// As long as it lives nobody else who uses the books is waited for.
+// While it lives, statements don't wait for other programs that have the database locked.
 class NoWaiting {
 public:
     explicit NoWaiting(sqlite3* handle) : m_handle(handle) { sqlite3_busy_timeout(handle, 0); }
@@ -68,8 +68,9 @@ Connection::Private::~Private()
         recordset->Abandon();
     m_cache.Clear();
     Fold();
-    // The engine's own closing folds the log: into whatever lies there now, and without a word in the log of
-    // what a power cut would leave half done.
+    // When the engine closes the last connection, it folds the log by itself. That would damage a file that
+    // was put in the place of the books. And unless the log notes that a fold has begun, a log that a power
+    // cut leaves half folded would afterwards be taken for that of other books.
     const LogRound& round = m_onDisk->round;
     const bool isLogUntold = m_onDisk->LogSize() > 0 && round.isMarked && !round.isFolding;
     if (m_onDisk->isForeign || isLogUntold) {
@@ -159,14 +160,16 @@ void Connection::Private::KeepRests(const Translation* writing)
         recordset->KeepRest(writing);
 }
 
-// A failure of the disk may make the engine roll back on its own; what follows must not be written alone.
+// When the disk fails, the engine may roll back by itself. The statements that follow belong to the same
+// transaction and must not be written without the earlier ones.
 void Connection::Private::RequireTransaction() const
 {
     if (m_depth > 0 && sqlite3_get_autocommit(m_handle) != 0)
         DatabaseErrors::ThrowRolledBack();
 }
 
-// Two looks at names cost nothing beside a save; saving into files that nobody will open again costs the day.
+// Checked before each transaction: if somebody has removed or replaced the files, whatever is saved from then
+// on is lost with them. The check is quick, compared to a save.
 void Connection::Private::RequireUntouchedFiles()
 {
     const BooksOnDisk::Verdict found = LookAtFiles();
@@ -176,8 +179,9 @@ void Connection::Private::RequireUntouchedFiles()
         DatabaseErrors::ThrowLogGone(Fold());
 }
 
-// Whether books and log may be written, by whatever other program they were folded meanwhile. Files that were
-// others once stay so: what was done to them in between isn't known.
+// Whether the database and its log may be written. Another program may have folded the log meanwhile. Files
+// that were found to be replaced count as replaced from then on, even if the old ones are put back, as nobody
+// knows what was done to them in between.
 BooksOnDisk::Verdict Connection::Private::LookAtFiles()
 {
     using Verdict = BooksOnDisk::Verdict;
@@ -201,7 +205,8 @@ BooksOnDisk::Verdict Connection::Private::LookAtFiles()
     return Verdict::Changed;
 }
 
-// An emptied log leaves the engine nothing but the file to read the mark from.
+// With an empty log the engine reads the mark from the file. If the file has the mark of our round, the round
+// was folded.
 bool Connection::Private::IsEmptiedByFold()
 {
     const StatementGuard::Aside aside(m_guard);
@@ -220,7 +225,7 @@ void Connection::Private::RunOrThrow(const QByteArray& own)
         DatabaseErrors::ThrowFailure(m_handle, code, {});
 }
 
-// The first writing behind a fold begins a new round of the log.
+// The first transaction after a fold begins a new round of the log.
 void Connection::Private::MarkRound()
 {
     const LogRound& round = m_onDisk->round;
@@ -241,8 +246,8 @@ bool Connection::Private::IsReading() const
     return false;
 }
 
-// A fold changes the file's time and, when the power fails, a part of its pages, so before it begins the log
-// is told to go by the file's mark alone.
+// A fold changes the time of the file and, if the power fails, only some of its pages. So the log notes first
+// that a fold has begun: then the log is recognised by the mark of the file alone, not by its size and time.
 bool Connection::Private::SayThatFoldBegins()
 {
     LogRound& round = m_onDisk->round;
@@ -284,8 +289,8 @@ bool Connection::Private::Fold()
     m_onDisk->RememberBooks();
     if (!isLogGone)
         m_onDisk->RememberLog();
-    // Even if somebody who reads holds up the emptying, the engine begins the log anew when all of it is
-    // folded.
+    // The log can't be emptied while another program reads from it. Once all of it is folded, the engine
+    // nevertheless overwrites it from the beginning.
     if (code == SQLITE_OK || (code == SQLITE_BUSY && frames >= 0 && frames == folded))
         m_onDisk->round.BeginAnew();
     return code == SQLITE_OK;

@@ -10,7 +10,7 @@
 
 namespace {
 
-// The log is folded when there is time for it, never by the engine in the midst of a save.
+// The engine doesn't fold the log by itself (wal_autocheckpoint=0), as a save would have to wait for that.
 void MakeReady(KeyedFile& opened)
 {
     sqlite3_busy_timeout(opened.Handle(), DatabaseFile::BusyMilliseconds);
@@ -34,8 +34,8 @@ OpenedFile OpenForBooks(const QString& file, const QString& password)
     return books;
 }
 
-// The connection that has the books open measures the files by what it has met: one that comes later must not
-// take others for the same.
+// A further connection to books that are open already. It must not open files that have meanwhile replaced
+// those of the first connection.
 void RequireUntouched(BooksOnDisk& books)
 {
     using Verdict = BooksOnDisk::Verdict;

@@ -1,8 +1,8 @@
 #pragma once
 
-// What the program does in answer to one key or press, from beginning to end. A failure in it may say that
-// nothing was saved only as long as nothing was: a delivery stays in the books even if the list or the slip
-// behind it fails. Answers nest, for a question is answered while the key that led to it still is.
+// Lives while the program handles one key or click. If something fails, the message may say that nothing was
+// saved only if that is so: a delivery stays in the books even if the list or the slip after it fails. There
+// can be several of these inside each other, since a handler may ask a question and wait for its key.
 class KeyAnswer {
 public:
     KeyAnswer();
@@ -13,7 +13,7 @@ public:
     // Something was committed.
     static void NoteSaved();
 
-    // Whether something was committed since the running answer began.
+    // Whether something was committed since the current key or click.
     static bool HasSaved();
 
 private:

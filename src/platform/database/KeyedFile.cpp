@@ -89,7 +89,7 @@ FirstPage FirstPage::OfBytes(const QByteArray& bytes, quint32 pages, const QStri
     unread.code = SQLITE_FULL;
     if (!copy.open() || copy.write(bytes) != bytes.size() || !copy.flush())
         return unread;
-    // The engine reads nothing of a first page that counts more pages than there are.
+    // The first page says how many pages there are, and the engine reads nothing from a file with fewer.
     return copy.resize(qint64(pages) * bytes.size()) ? OfFile(copy.fileName(), password) : unread;
 }
 

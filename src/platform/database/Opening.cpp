@@ -47,7 +47,7 @@ constexpr int SaltSize = 16; // stands unencrypted at the beginning of the file
                 .arg(file)));
 }
 
-// A copy of books and log to try something on, removed at the end.
+// A copy of the database and its log, to try a repair on; removed at the end.
 class TriedCopy {
 public:
     explicit TriedCopy(const QString& books) : m_file(NameFor(books))
@@ -60,7 +60,7 @@ public:
     TriedCopy(const TriedCopy&) = delete;
     TriedCopy& operator=(const TriedCopy&) = delete;
 
-    // Removes what a killed program has left of a copy.
+    // Removes a copy that was left behind when the program was killed.
     static void Sweep(const QString& books) { Remove(NameFor(books)); }
 
     bool IsMade() const { return m_isMade; }
@@ -79,7 +79,7 @@ private:
     bool m_isMade = false;
 };
 
-// Writes the first bytes of a file, and sees them on the disk.
+// Writes the first bytes of a file, through to the disk.
 bool WriteSalt(const QString& path, const QByteArray& salt)
 {
     QFile file(path);
@@ -96,7 +96,7 @@ Opening::Opening(QString file, QString password, const OpeningPlan& plan)
 {
 }
 
-// What was put right before something else failed is told with the failure.
+// If a check fails after something was repaired, the error tells of the repairs, too.
 void Opening::Run()
 {
     try {
@@ -156,8 +156,9 @@ void Opening::RequireReadable() const
             "The file \"%1\" is empty; it is not a database. Restore the last backup.", m_file);
 }
 
-// The owner's right counts, too: the system's administrator may write into a file that was made read-only.
-// The engine opens a log that it may not write without a word, and fails at the first save.
+// The permission of the owner is checked as well, since an administrator may write to a file even if it was
+// made read-only. The log and its index are checked because the engine opens a log that it can't write
+// without an error, and then fails at the first save.
 void Opening::RequireWritable() const
 {
     if (!QFileInfo(QFileInfo(m_file).path()).isWritable())
@@ -170,17 +171,17 @@ void Opening::RequireWritable() const
     }
 }
 
-// Whose the log is, and whether the password is right, is told by pages that were read. A disk that is full
-// or can't be read says nothing about either.
+// If a page couldn't be read because of the disk, it can't be said whether the password is right or whether
+// the log belongs to the database. That is an error of its own.
 void Opening::RequireLookedAt(const FirstPage& page) const
 {
     if (!page.IsReadable() && !page.IsUnreadable() && !page.IsOfTooFewPages())
         DatabaseErrors::ThrowFailure(nullptr, page.code, {});
 }
 
-// A log without a first page has no marks: a shell wrote it. Where the marks don't fit, a page of the log in
-// the file shows all the same that its fold was cut off: the word of it may be lost with the log's damaged
-// end.
+// A log without a first page has no marks; it was written by another program, such as the engine's shell. If
+// the marks don't fit, a page that stands in the log and in the file still shows that a fold was interrupted;
+// the mark of that fold may be lost with the damaged end of the log.
 bool Opening::IsLogOfThisFile() const
 {
     if (HasLoggedPage() && (!m_logged.IsReadable() || m_log.firstPage.left(SaltSize) != Salt()))
@@ -212,9 +213,9 @@ void Opening::PutForeignLogAside()
                 .arg(kept)));
 }
 
-// A power cut while the log was being folded can leave a torn first page. All of it stands in the log but for
-// the sixteen bytes that the key is made of, which the engine takes from the file alone. Whether they are the
-// right ones is tried on a copy: the file may as well be another society's.
+// A power cut during a fold can leave the first page half written. The whole page is in the log, but the
+// engine takes its first 16 bytes, the salt of the key, from the file only. So the salt is copied back from
+// the log. This is tried on a copy first, since the file may be that of other books.
 void Opening::ReturnFirstSector()
 {
     const QByteArray salt = m_log.firstPage.left(SaltSize);
@@ -251,7 +252,7 @@ void Opening::RequireRightPassword() const
 {
     if (!m_password.isEmpty() && !m_first.IsUnreadable())
         return;
-    // A torn first page of the right salt: the engine reads the page of the log in its place.
+    // The first page is half written but has the right salt: the engine reads it from the log instead.
     if (!m_password.isEmpty() && HasLoggedPage() && m_logged.IsReadable()
         && m_log.firstPage.left(SaltSize) == Salt())
         return;

@@ -9,15 +9,15 @@
 #include <concepts>
 #include <type_traits>
 
-// A statement, or a piece of one, that Sql has put together. It may go into further pieces with the quotes
-// that it holds. Where it is handed over as a text (to be run, to be bound to a list), a value in it that
-// holds an apostrophe is the run-time error of a failed statement: doubled or not, the apostrophe would end
-// the value's own quotes, and the rest of the value would be read as the statement's words.
+// A statement, or a part of one, made by Sql, Quoted or Values. It can be a part of further statements. When
+// it is used as a text (to be run, or to fill a list) and one of its values contains an apostrophe, that is
+// the run-time error of a failed statement: doubled or not, the apostrophe would end the quotes around the
+// value, and the rest of the value would be read as words of the statement.
 class SqlText {
 public:
     SqlText() = default;
 
-    // Words of the statement itself, quotes and all.
+    // Words of the statement itself, which may contain quotes.
     template <std::size_t N> SqlText(const char16_t (&words)[N]) : m_text(QStringView(words).toString()) { }
 
     operator QString() const
@@ -76,9 +76,9 @@ private:
     bool m_isBroken = false;
 };
 
-// Puts a statement together: words written out here go in as they stand, and so does what Sql has made
-// before; any other text is a value, which may hold no apostrophe; numbers go in in their shortest form.
-// Sql(u"select * from T where No=", n, u" and Name='", name, u"'")
+// Puts a statement together. Literals and other SqlTexts are used as they are. Any other text is a value,
+// which can't contain an apostrophe. Numbers are written in their shortest form.
+// Sql(u"update T set Name=", Quoted(name), u" where No=", n)
 template <class... Pieces> SqlText Sql(const Pieces&... pieces)
 {
     SqlText sql;
@@ -87,8 +87,8 @@ template <class... Pieces> SqlText Sql(const Pieces&... pieces)
     return sql;
 }
 
-// A value in the quotes that a text or a date wants: 'name', '15/04/2026'. An empty text and an invalid date
-// are ''. Words written out here are a value, too.
+// A text or a date in quotes: 'name', '15/04/2026'. An empty text and an invalid date give ''. A literal is a
+// value here, too.
 // Sql(u"select * from T where Name=", Quoted(name))
 template <class Value> SqlText Quoted(const Value& value)
 {
@@ -97,8 +97,8 @@ template <class Value> SqlText Quoted(const Value& value)
     return sql;
 }
 
-// Values as a statement lists them, with commas between them: numbers in their shortest form, texts and dates
-// quoted. What is to stand in the list without quotes goes into Sql beside it.
+// A list of values with commas between them: numbers in their shortest form, texts and dates in quotes. Words
+// that must be in the list without quotes, such as null, are written in Sql, before or after it.
 // Sql(u"insert into T(No,Day,Name) values(", Values(n, day, name), u")")
 template <class... Of> SqlText Values(const Of&... values)
 {

@@ -38,7 +38,7 @@ struct Checksum {
     }
 };
 
-// A page as the log holds it, behind its head.
+// A page in the log, with the header in front of it.
 struct Frame {
     QByteArray bytes;
 
@@ -50,7 +50,7 @@ struct Frame {
     const char* Content() const { return bytes.constData() + FrameHeadSize; }
 };
 
-// Walks through the frames of a log, from its head to its last whole frame.
+// Reads the frames of a log one by one, up to the last complete one.
 class LogReader {
 public:
     LogReader(const QString& file, int pageSize) : m_file(file), m_pageSize(pageSize)
@@ -61,7 +61,7 @@ public:
 
     bool IsThere() const { return m_file.isOpen(); }
 
-    // Whether the head is whole; if so, the frames are checked from here on.
+    // Whether the header of the log is valid. To be called before Continues.
     bool HasSoundHead()
     {
         if (m_head.size() != HeadSize || (Word(0) & ~1U) != Magic
@@ -75,7 +75,7 @@ public:
 
     const QByteArray& Salts() const { return m_salts; }
 
-    // Where the content of the frame that was read last begins.
+    // The position in the log where the content of the last frame begins.
     qint64 ContentAt() const { return m_file.pos() - m_pageSize; }
 
     bool ReadNext(Frame& frame)
@@ -84,7 +84,7 @@ public:
         return frame.bytes.size() == FrameHeadSize + m_pageSize;
     }
 
-    // Whether a frame continues the log without a break.
+    // Whether a frame belongs to this round of the log and is undamaged, as all frames before it.
     bool Continues(const Frame& frame)
     {
         if (frame.Salts() != m_salts)
@@ -105,9 +105,10 @@ private:
     Checksum m_sum;
 };
 
-// Commits of this log from a frame on; `isWithin` says whether the frame goes on with a commit that has
-// begun. Frames that an abandoned writing has left behind hold no commit; frames of an older round have other
-// salts. A commit of the first page alone holds no entry: it says that a fold begins.
+// Counts the commits from a frame to the end of the log. `isWithin` says whether the frame is in the midst of
+// a commit. Only frames with the same salts count, the others are left over from an older round; with empty
+// salts those of the first frame are taken. A commit of the first page only isn't counted: it contains no
+// entry, just the note that a fold has begun.
 int CommitsFrom(LogReader& reader, Frame frame, QByteArray salts, bool isWithin)
 {
     int commits = 0;
@@ -123,11 +124,12 @@ int CommitsFrom(LogReader& reader, Frame frame, QByteArray salts, bool isWithin)
     return commits;
 }
 
-// How many frames the engine's index says were committed. After a killed program it is exact, after a power
-// cut it may be older than the log; 0 if it belongs to another log or is itself half written.
+// How many committed frames the log has according to the engine's index. After a killed program this number
+// is exact, after a power cut it may be older than the log. 0 if the index belongs to another log or is half
+// written.
 quint32 FramesByIndex(const QString& databaseFile, const QByteArray& salts)
 {
-    constexpr qint64 copySize = 48; // it stands there twice, and the copies differ while it is being written
+    constexpr qint64 copySize = 48; // the index begins with two copies; they differ while it is being written
     constexpr int framesAt = 16;
     constexpr int saltsAt = 32;
     QFile file(WriteAheadLog::IndexNameFor(databaseFile));
@@ -142,7 +144,7 @@ quint32 FramesByIndex(const QString& databaseFile, const QByteArray& salts)
     return frames;
 }
 
-// Frames that are known to have been committed and are cut off, as commits of the usual length.
+// Estimates how many commits the missing frames were, from the average length of those that are left.
 int CommitsIn(quint32 missingFrames, quint32 frames, int commits)
 {
     const quint32 usual = commits > 0 ? qMax(1U, frames / static_cast<quint32>(commits)) : 1U;
@@ -192,7 +194,7 @@ WriteAheadLog WriteAheadLog::Read(const QString& databaseFile, int pageSize)
     return log;
 }
 
-// Each writing of a page encrypts it anew, so that the same bytes are the same writing.
+// Each time a page is written it is encrypted differently, so equal bytes come from the same write.
 bool WriteAheadLog::IsPartlyFolded(const QString& databaseFile, int pageSize) const
 {
     QFile log(NameFor(databaseFile));

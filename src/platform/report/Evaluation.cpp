@@ -1,6 +1,7 @@
 #include "platform/report/Evaluation.h"
 
 #include "platform/report/Accumulators.h"
+#include "platform/report/Page.h"
 #include "platform/report/ReportData.h"
 #include "platform/report/RowWalk.h"
 
@@ -156,7 +157,7 @@ Value Evaluate(const Expression& expression, ReportData& data)
     case Operation::Page:
         return Value::OfNumber(data.Page);
     case Operation::PageCount:
-        return Value::OfText(QString(PageCountMark));
+        return Value::OfText(QString(Page::CountMark));
     case Operation::Variable:
         return data.Variable(expression.text);
     case Operation::Negate:

@@ -5,9 +5,6 @@
 class ReportData;
 struct ReportTemplate;
 
-// Stands for the number of pages in a text until that number is known.
-inline constexpr QChar PageCountMark = QChar(0xFDD0);
-
 // The value of a checked expression in the current rows.
 Value Evaluate(const Expression& expression, ReportData& data);
 

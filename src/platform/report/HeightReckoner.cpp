@@ -48,7 +48,7 @@ LeastHeight HeightReckoner::OfOne(const TemplateElement& element)
             return LeastHeight{paragraph.text.IsEmpty() ? 0 : Line(paragraph.look)};
         },
         [](const TemplateRule& rule) { return LeastHeight{2 * Spacing::RuleGap + rule.weight}; },
-        [](const TemplateSpace& space) { return LeastHeight{space.height * PointsPerMillimetre}; },
+        [](const TemplateSpace& space) { return LeastHeight{space.height * Paper::PointsPerMillimetre}; },
         [&](const TemplatePairs& pairs) { return OfPairs(pairs); },
         [&](const TemplateLanes& lanes) { return OfLanes(lanes); },
         [](const TemplatePageBreak&) { return LeastHeight(); },
@@ -66,7 +66,7 @@ LeastHeight HeightReckoner::OfPairs(const TemplatePairs& pairs)
 
 LeastHeight HeightReckoner::OfLanes(const TemplateLanes& lanes)
 {
-    LeastHeight tallest{lanes.height * PointsPerMillimetre};
+    LeastHeight tallest{lanes.height * Paper::PointsPerMillimetre};
     double most = tallest.always;
     for (const TemplateLane& lane : lanes.lanes) {
         LeastHeight one = Of(lane.elements);

@@ -33,7 +33,7 @@ public:
         std::vector<WidthRule> rules;
         for (const TemplateLane& lane : m_lanes.lanes)
             rules.push_back(lane.width);
-        const double gap = m_lanes.gap * PointsPerMillimetre;
+        const double gap = m_lanes.gap * Paper::PointsPerMillimetre;
         const std::vector<double> widths = DivideWidth(rules, m_stretch.width, gap);
         double x = m_stretch.x;
         m_band.height = ToPoints(m_lanes.height);

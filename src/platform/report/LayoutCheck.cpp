@@ -17,7 +17,7 @@ constexpr double Slack = 0.05;
 // A length in points, shown in millimetres.
 QString Shown(double points)
 {
-    return QString::number(std::max(points, 0.0) / PointsPerMillimetre, 'f', 1);
+    return QString::number(std::max(points, 0.0) / Paper::PointsPerMillimetre, 'f', 1);
 }
 
 class LayoutChecker {
@@ -38,7 +38,7 @@ public:
 private:
     void Fault(int line, const QString& text)
     {
-        if (m_faults.size() <= MostFaults)
+        if (m_faults.size() <= TemplateFault::Most)
             m_faults.push_back({m_report.file, line, text});
     }
 
@@ -86,7 +86,7 @@ private:
                 CheckHeight(line, m_heights.Line(paragraph.look), "a line of the text");
             },
             [&](const TemplateSpace& space) {
-                CheckHeight(line, space.height * PointsPerMillimetre, "the space");
+                CheckHeight(line, space.height * Paper::PointsPerMillimetre, "the space");
             },
             [&](const TemplatePairs& pairs) { CheckPairs(pairs); },
             [&](const TemplateLanes& lanes) { CheckLanes(lanes, line, width); },
@@ -110,7 +110,7 @@ private:
 
     void CheckLanes(const TemplateLanes& lanes, int line, double width)
     {
-        CheckHeight(line, lanes.height * PointsPerMillimetre, "the strip of columns");
+        CheckHeight(line, lanes.height * Paper::PointsPerMillimetre, "the strip of columns");
         const std::vector<double> widths = LaneWidths(lanes, width);
         for (std::size_t i = 0; i < widths.size(); ++i) {
             const TemplateLane& lane = lanes.lanes[i];
@@ -168,7 +168,7 @@ private:
         if (width < wide - Slack)
             Fault(line,
                 QStringLiteral("the chart needs %1 mm, but there are %2 mm").arg(Shown(wide), Shown(width)));
-        const double height = chart.height * PointsPerMillimetre;
+        const double height = chart.height * Paper::PointsPerMillimetre;
         const double high = (LinesOfAChart + (chart.title.IsEmpty() ? 0 : 1)) * letters + Spacing::ChartGap;
         if (height < high - Slack)
             Fault(line,

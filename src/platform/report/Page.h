@@ -32,10 +32,13 @@ struct PlacedItem {
 struct Page {
     static constexpr float Tolerance = 0.01F; // for rounding: a piece may be taller than its room by this
 
+    // Stands for the number of pages in a text until that number is known.
+    static constexpr QChar CountMark = QChar(0xFDD0);
+
     float width = 0, height = 0;
     bool restartsPages = false; // page numbers begin at 1 again here
     std::vector<PlacedItem> items;
-    std::vector<quint32> waiting; // items whose text contains PageCountMark
+    std::vector<quint32> waiting; // items whose text contains CountMark
 };
 
 // Describes all items of a page as lines of text, for debugging and for golden files:

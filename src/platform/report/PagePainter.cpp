@@ -96,8 +96,8 @@ void PagePainter::Private::DrawStroke(cairo_t* cairo, const PlacedItem& item)
 void PagePainter::Private::DrawText(cairo_t* cairo, const PlacedItem& item)
 {
     QString text = item.text;
-    if (text.contains(PageCountMark))
-        text.replace(PageCountMark, QChar(u'…'));
+    if (text.contains(Page::CountMark))
+        text.replace(Page::CountMark, QChar(u'…'));
     if (item.fit == Fit::Wrap)
         DrawWrapped(cairo, item, text);
     else

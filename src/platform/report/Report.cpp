@@ -43,7 +43,7 @@ void Report::FillInPageCounts()
         const QString count = QString::number(end - first);
         for (; first != end; ++first) {
             for (const quint32 item : first->waiting)
-                first->items[item].text.replace(PageCountMark, count);
+                first->items[item].text.replace(Page::CountMark, count);
             first->waiting.clear();
         }
     }

@@ -24,7 +24,7 @@ public:
 
     const ReportTemplate& Template() const { return m_report; }
 
-    // The row that fields of a source are taken from now: if the source is being walked, the current row;
+    // The row that fields of a source are taken from now: while its rows are gone through, the current row;
     // else the first row that is linked to the parent's current row, or the first of all if it has no
     // parent. nullptr if there is none.
     const Row* CurrentRow(int source);

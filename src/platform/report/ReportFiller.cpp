@@ -96,7 +96,7 @@ void ReportFiller::EndSheet(Sheet& sheet)
     for (Band& band : sheet.footer)
         sheet.Place(band);
     for (std::size_t i = 0; i < sheet.page.items.size(); ++i) {
-        if (sheet.page.items[i].text.contains(PageCountMark))
+        if (sheet.page.items[i].text.contains(Page::CountMark))
             sheet.page.waiting.push_back(static_cast<quint32>(i));
     }
     sheet.page.items.shrink_to_fit();

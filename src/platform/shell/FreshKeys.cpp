@@ -55,7 +55,7 @@ bool FreshKeys::eventFilter(QObject* watched, QEvent* event)
     }
 }
 
-// A word that was begun ahead of the box is none of the box's when it is done, either.
+// If an input method began a word before the box took keys, the box doesn't get the finished word either.
 bool FreshKeys::IsComposedAhead(const QInputMethodEvent& event)
 {
     const bool isAhead = m_state != State::Open || m_composesAhead;

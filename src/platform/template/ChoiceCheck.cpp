@@ -70,7 +70,7 @@ void CheckChoices(
         fault(report.sources[i].line,
             QStringLiteral(
                 "the rows of \"%1\" are chosen once and not for each row of \"%2\", so its \"only\" "
-                "can't ask for %2.%3; say it with \"link\", or where the rows are walked")
+                "can't use %2.%3; use \"link\", or the \"only\" of the element that goes through the rows")
                 .arg(report.sources[i].name, other, wrong->text));
     }
 }

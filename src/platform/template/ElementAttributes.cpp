@@ -19,7 +19,7 @@ void ElementAttributes::Finish()
 {
     for (const QXmlStreamAttribute& attribute : m_attributes) {
         if (!m_taken.contains(attribute.name().toString()))
-            Fault(QStringLiteral("<%1> knows no \"%2\"").arg(m_element, attribute.name().toString()));
+            Fault(QStringLiteral("<%1> has no attribute \"%2\"").arg(m_element, attribute.name().toString()));
     }
 }
 

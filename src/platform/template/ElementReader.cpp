@@ -27,7 +27,7 @@ std::vector<TemplateElement> ElementReader::Read(ElementPlace place, std::vector
     ++m_depth;
     while (m_xml.NextElement()) {
         if (std::exchange(hasBottom, hasBottom || (bottom && m_xml.Name() == u"bottom")))
-            m_xml.Fault(m_xml.Line(), QStringLiteral("nothing stands behind a <bottom>"));
+            m_xml.Fault(m_xml.Line(), QStringLiteral("a <bottom> must be the last element of its <column>"));
         if (bottom && m_xml.Name() == u"bottom") {
             *bottom = ReadBottom(place);
         } else if (m_depth > DeepestElement) {

@@ -39,6 +39,10 @@ enum class AggregateKind : quint8 { Sum, Count, Average, Minimum, Maximum, Runni
 // One expression of a template as a tree. The parser keeps names as they are written; the check finds the
 // columns they stand for.
 struct Expression {
+    // The length of the longest text of an expression. Each character can add a level to the tree, and
+    // evaluating it recurses.
+    static constexpr int LongestText = 2000;
+
     Operation operation = Operation::Number;
     AggregateKind aggregate = AggregateKind::Sum;
     bool isPlain = false; // of a field: shown as it is stored, not turned into Devanagari

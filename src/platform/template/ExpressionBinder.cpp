@@ -50,7 +50,7 @@ void ExpressionBinder::BindText(TemplateText& text, const Place& place)
         CheckPrinted(piece.format, type, place);
         if (piece.expression->Uses(Operation::PageCount)
             && piece.expression->operation != Operation::PageCount)
-            m_sources.Fault(place.line, QStringLiteral("#pages stands alone in its braces"));
+            m_sources.Fault(place.line, QStringLiteral("#pages must be alone in its braces"));
         if (piece.format.kind == PrintFormat::Kind::Number)
             ReadAsStored(*piece.expression, type);
         NotePrinting(*piece.expression);
@@ -88,9 +88,9 @@ void ExpressionBinder::BindCondition(std::optional<Expression>& condition, const
         return;
     const ValueType type = Bind(*condition, place);
     if (type != ValueType::Truth && type != ValueType::Unknown)
-        m_sources.Fault(place.line, QStringLiteral("a condition is needed that holds or doesn't"));
+        m_sources.Fault(place.line, QStringLiteral("this must be a condition, such as Liters > 0"));
     if (condition->Uses(Operation::PageCount))
-        m_sources.Fault(place.line, QStringLiteral("#pages isn't known when a condition is looked at"));
+        m_sources.Fault(place.line, QStringLiteral("#pages can't be used in a condition"));
 }
 
 ValueType ExpressionBinder::Bind(Expression& expression, const Place& place)
@@ -161,12 +161,12 @@ ValueType ExpressionBinder::BindField(Expression& field, const Place& place)
         m_sources.NoteReading(source);
         if (place.isPageEnd && m_sources.MovesOn(source))
             m_sources.Fault(place.line,
-                QStringLiteral("\"%1\" is of a row, and a <page> knows totals only").arg(field.text));
+                QStringLiteral("\"%1\" is a field, and a <page> can use totals only").arg(field.text));
         const SourceColumn& found =
             m_report.sources[static_cast<std::size_t>(source)].columns[static_cast<std::size_t>(column)];
         if (field.isPlain && found.type != ValueType::Text && found.type != ValueType::Unknown)
             m_sources.Fault(
-                place.line, QStringLiteral("\"%1\" is no text, so \"plain\" says nothing").arg(field.text));
+                place.line, QStringLiteral("\"%1\" isn't a text, so it can't be \"plain\"").arg(field.text));
         return found.type;
     }
     const QString where = candidates.empty()
@@ -182,9 +182,10 @@ ValueType ExpressionBinder::BindArithmetic(Expression& expression, const Place& 
         const ValueType type = Bind(argument, place);
         if (type == ValueType::Text)
             m_sources.Fault(place.line,
-                QStringLiteral("texts can't be reckoned with; words stand before or behind the braces"));
+                QStringLiteral(
+                    "texts can't be added or multiplied; words are written outside of the braces"));
         else if (!CanBeNumber(type))
-            m_sources.Fault(place.line, QStringLiteral("dates and conditions can't be reckoned with"));
+            m_sources.Fault(place.line, QStringLiteral("dates and conditions can't be added or multiplied"));
         ReadAsStored(argument, type);
     }
     return ValueType::Number;
@@ -195,7 +196,7 @@ ValueType ExpressionBinder::BindComparison(Expression& expression, const Place& 
     const ValueType first = Bind(expression.arguments[0], place);
     const ValueType second = Bind(expression.arguments[1], place);
     if (first != second && first != ValueType::Unknown && second != ValueType::Unknown)
-        m_sources.Fault(place.line, QStringLiteral("things of different kinds are compared"));
+        m_sources.Fault(place.line, QStringLiteral("values of different kinds can't be compared"));
     return ValueType::Truth;
 }
 
@@ -204,7 +205,7 @@ ValueType ExpressionBinder::BindLogic(Expression& expression, const Place& place
     for (Expression& argument : expression.arguments) {
         const ValueType type = Bind(argument, place);
         if (type != ValueType::Truth && type != ValueType::Unknown)
-            m_sources.Fault(place.line, QStringLiteral("and, or and not go between conditions"));
+            m_sources.Fault(place.line, QStringLiteral("and, or and not need conditions"));
     }
     return ValueType::Truth;
 }
@@ -213,7 +214,7 @@ ValueType ExpressionBinder::BindIf(Expression& expression, const Place& place)
 {
     const ValueType condition = Bind(expression.arguments[0], place);
     if (condition != ValueType::Truth && condition != ValueType::Unknown)
-        m_sources.Fault(place.line, QStringLiteral("if() needs a condition first"));
+        m_sources.Fault(place.line, QStringLiteral("the first argument of if() must be a condition"));
     const ValueType yes = Bind(expression.arguments[1], place);
     const ValueType no = Bind(expression.arguments[2], place);
     if (yes == no)
@@ -276,7 +277,7 @@ ValueType ExpressionBinder::BindAggregate(Expression& expression, const Place& p
         m_sources.Fault(place.line,
             expression.aggregate == AggregateKind::Running
                 ? QStringLiteral("a running sum stands in a table's columns only")
-                : QStringLiteral("a total isn't known here"));
+                : QStringLiteral("a total can't be used here"));
         return ValueType::Number;
     }
     const bool isOfTable = place.aggregates != Aggregates::OfSource;

@@ -382,8 +382,8 @@ Expression Parser::ReadAggregate(AggregateKind kind)
 
 std::optional<Expression> Read(QStringView text, Grammar grammar, ExpressionFault& fault)
 {
-    if (text.size() > LongestExpression) {
-        fault.text = QStringLiteral("it is longer than %1 characters").arg(LongestExpression);
+    if (text.size() > Expression::LongestText) {
+        fault.text = QStringLiteral("it is longer than %1 characters").arg(Expression::LongestText);
         return std::nullopt;
     }
     try {

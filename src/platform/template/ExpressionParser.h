@@ -3,10 +3,6 @@
 #include "platform/template/Expression.h"
 #include "platform/template/ExpressionTokens.h"
 
-// The longest expression, in characters. Each character can add a level to the tree, and evaluating it
-// recurses.
-inline constexpr int LongestExpression = 2000;
-
 // Reads an expression. Returns nothing, and sets the fault, if it can't be read or is too long.
 //   field, source.field, 'text', 12.5, #page, #pages, $society $year $from $to $date
 //   + - * /   = <> < > <= >=   and or not   ( )

@@ -7,10 +7,10 @@
 
 namespace {
 
-constexpr double LongestRoll = 3000 * PointsPerMillimetre;
+constexpr double LongestRoll = 3000 * Paper::PointsPerMillimetre;
 constexpr double PointsPerInch = 72;
-constexpr double Smallest = 20 * PointsPerMillimetre;
-constexpr double Largest = 1000 * PointsPerMillimetre;
+constexpr double Smallest = 20 * Paper::PointsPerMillimetre;
+constexpr double Largest = 1000 * Paper::PointsPerMillimetre;
 
 Paper Sheet(QStringView name, double width, double height)
 {
@@ -31,14 +31,14 @@ std::optional<Paper> Sensible(const Paper& paper)
 // A length in millimetres with at most one decimal: "58", "93.4".
 QString SideInMillimetres(double points)
 {
-    return QString::number(std::round(points / PointsPerMillimetre * 10) / 10);
+    return QString::number(std::round(points / Paper::PointsPerMillimetre * 10) / 10);
 }
 
 }
 
 QString MediaName(const QSizeF& sheet)
 {
-    constexpr double tolerance = 0.5 * PointsPerMillimetre;
+    constexpr double tolerance = 0.5 * Paper::PointsPerMillimetre;
     const auto isAlike = [](const QSizeF& first, const QSizeF& second) {
         return std::abs(first.width() - second.width()) < tolerance
             && std::abs(first.height() - second.height()) < tolerance;
@@ -58,14 +58,14 @@ std::optional<Paper> ReadPaper(QStringView text)
     constexpr std::pair<double, double> sizesFromA4[] = {{210, 297}, {148, 210}, {105, 148}};
     if (text.size() == 2 && text[0] == u'A' && text[1] >= u'4' && text[1] <= u'6') {
         const auto& [width, height] = sizesFromA4[text[1].unicode() - u'4'];
-        return Sheet(text, width * PointsPerMillimetre, height * PointsPerMillimetre);
+        return Sheet(text, width * Paper::PointsPerMillimetre, height * Paper::PointsPerMillimetre);
     }
     static const QRegularExpression sizes(
         QStringLiteral("^(\\d+(?:\\.\\d+)?)(?:x(\\d+(?:\\.\\d+)?))?(mm|in)$"));
     const QRegularExpressionMatch match = sizes.match(text.toString());
     if (!match.hasMatch())
         return std::nullopt;
-    const double unit = match.capturedView(3) == u"mm" ? PointsPerMillimetre : PointsPerInch;
+    const double unit = match.capturedView(3) == u"mm" ? Paper::PointsPerMillimetre : PointsPerInch;
     const double width = match.capturedView(1).toDouble() * unit;
     Paper paper = Sheet(text, width, match.capturedView(2).toDouble() * unit);
     if (match.capturedView(2).isEmpty()) {

@@ -30,7 +30,7 @@ SourceFinder::SourceFinder(ReportTemplate& report, Catalogue& catalogue, Templat
 
 void SourceFinder::Fault(int line, const QString& text)
 {
-    if (m_faults.size() <= MostFaults)
+    if (m_faults.size() <= TemplateFault::Most)
         m_faults.push_back({m_report.file, line, text});
 }
 
@@ -76,7 +76,7 @@ void SourceFinder::RequireParent(int source, int line)
     const TemplateSource& own = m_report.sources[static_cast<std::size_t>(source)];
     if (own.parent >= 0 && !IsWalked(own.parent))
         Fault(line,
-            QStringLiteral("\"%1\" can only be walked within an <each> of \"%2\"")
+            QStringLiteral("the rows of \"%1\" can be gone through only inside an <each> of \"%2\"")
                 .arg(own.name, own.parentName));
 }
 

@@ -24,8 +24,9 @@ public:
     // exist.
     std::vector<int> Candidates(const QString& name, int line);
 
-    // Walk begins a walk through a source. StandAt is for its `only`, which looks at one row and is no walk
-    // of the template's. Leave ends the last of them.
+    // Walk: an element goes through the rows of a source, from here to Leave. StandAt does the same for the
+    // `only` of a source, which reads one row at a time, but doesn't count the source as one that an element
+    // goes through. Leave ends whichever of them was called last.
     void Walk(int source);
     void StandAt(int source) { m_walked.push_back(source); }
     void Leave() { m_walked.pop_back(); }

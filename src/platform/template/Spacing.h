@@ -7,7 +7,7 @@ namespace Spacing {
 
 inline constexpr float RuleGap = 1.5F; // above and below a rule
 inline constexpr float SmallestBody = 30; // what the header and footer must leave of the page
-inline constexpr double SmallestShare = 4 * PointsPerMillimetre; // of a column that isn't empty
+inline constexpr double SmallestShare = 4 * Paper::PointsPerMillimetre; // of a column that isn't empty
 inline constexpr float CellPadding = 2; // to the left and right of the text of a cell
 inline constexpr float RowPadding = 0.5F; // above and below it
 inline constexpr float BoxPadding = 4; // between a frame and what stands in it

@@ -111,8 +111,8 @@ void Checker::CheckLink(int index)
     TemplateSource& source = m_report.sources[static_cast<std::size_t>(index)];
     source.parent = m_sources.FindSource(source.parentName, source.line);
     if (source.parent >= index) {
-        m_sources.Fault(
-            source.line, QStringLiteral("\"%1\" stands before the source it hangs on").arg(source.name));
+        m_sources.Fault(source.line,
+            QStringLiteral("\"%1\" must stand below the source that it is linked to").arg(source.name));
         source.parent = -1;
     }
     if (source.parent < 0)
@@ -171,7 +171,9 @@ int Checker::Enter(const QString& sourceName, int line)
     if (index >= 0) {
         m_sources.RequireParent(index, line);
         if (m_sources.IsWalked(index) && !m_runs.contains(index))
-            m_sources.Fault(line, QStringLiteral("\"%1\" is being walked already").arg(sourceName));
+            m_sources.Fault(line,
+                QStringLiteral("an <each> around this goes through the rows of \"%1\" already")
+                    .arg(sourceName));
         m_sources.Walk(index);
     }
     return index;
@@ -184,7 +186,7 @@ void Checker::CheckEach(TemplateEach& each, const Place& place)
         return;
     m_binder.BindCondition(each.only, place);
     if (each.by && m_binder.Bind(*each.by, place) == ValueType::Truth)
-        m_sources.Fault(place.line, QStringLiteral("rows aren't grouped by a condition; use if(…)"));
+        m_sources.Fault(place.line, QStringLiteral("rows can't be grouped by a condition; use if(…)"));
     const bool wasRun = m_runs.contains(each.source);
     if (each.by)
         m_runs.insert(each.source);
@@ -298,7 +300,7 @@ void Checker::CheckGroup(TemplateTable& table, TemplateGroup& group, Place place
     place.line = group.line;
     place.table = &table;
     if (m_binder.Bind(group.by, place) == ValueType::Truth)
-        m_sources.Fault(group.line, QStringLiteral("rows aren't grouped by a condition; use if(…)"));
+        m_sources.Fault(group.line, QStringLiteral("rows can't be grouped by a condition; use if(…)"));
     m_binder.BindText(group.head, place);
     CheckLines(group.headLines, place);
     place.line = group.line;

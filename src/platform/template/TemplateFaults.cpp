@@ -11,8 +11,8 @@ void SortAndCut(TemplateFaults& faults)
 {
     std::stable_sort(faults.begin(), faults.end(),
         [](const TemplateFault& a, const TemplateFault& b) { return a.line < b.line; });
-    if (faults.size() <= MostFaults)
+    if (faults.size() <= TemplateFault::Most)
         return;
-    faults.resize(MostFaults + 1);
-    faults.back().text = QStringLiteral("there are more faults than %1").arg(MostFaults);
+    faults.resize(TemplateFault::Most + 1);
+    faults.back().text = QStringLiteral("there are more faults than %1").arg(TemplateFault::Most);
 }

@@ -10,13 +10,14 @@ struct TemplateFault {
     int line = 0;
     QString text;
 
+    // Beyond this number of faults no more are looked for.
+    static constexpr std::size_t Most = 100;
+
     // "file:line: text"
     QString Line() const;
 };
 using TemplateFaults = std::vector<TemplateFault>;
 
-// Beyond this number of faults no more are looked for.
-inline constexpr std::size_t MostFaults = 100;
-
-// Sorts faults by line. If there are more than MostFaults, only those are kept, and one more that says so.
+// Sorts faults by line. If there are more than TemplateFault::Most, only those are kept, and one more that
+// says so.
 void SortAndCut(TemplateFaults& faults);

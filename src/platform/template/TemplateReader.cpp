@@ -20,7 +20,7 @@ Paper ReadSheet(ElementAttributes& attributes)
         std::swap(paper->width, paper->height);
     }
     const double margin =
-        attributes.Number(u"margin", 0, ElementAttributes::LargestLength, 10) * PointsPerMillimetre;
+        attributes.Number(u"margin", 0, ElementAttributes::LargestLength, 10) * Paper::PointsPerMillimetre;
     paper->left = paper->top = paper->right = paper->bottom = margin;
     if (2 * margin >= std::min(paper->width, paper->height)) {
         attributes.Fault(QStringLiteral("the margins leave nothing of the paper"));

@@ -7,7 +7,7 @@ std::vector<double> LaneWidths(const TemplateLanes& lanes, double width)
     std::vector<WidthRule> rules;
     for (const TemplateLane& lane : lanes.lanes)
         rules.push_back(lane.width);
-    return DivideWidth(rules, InFrame(lanes.frame, width), lanes.gap * PointsPerMillimetre);
+    return DivideWidth(rules, InFrame(lanes.frame, width), lanes.gap * Paper::PointsPerMillimetre);
 }
 
 std::vector<double> ColumnWidths(const TemplateTable& table, double width)

@@ -14,7 +14,7 @@ void TemplateXml::Fault(int line, const QString& text)
     if (m_xml.hasError())
         return;
     m_faults.push_back({m_file, line, text});
-    if (m_faults.size() > MostFaults)
+    if (m_faults.size() > TemplateFault::Most)
         Stop();
 }
 

@@ -18,8 +18,8 @@ public:
     int Line() const { return static_cast<int>(m_xml.lineNumber()); }
     QXmlStreamAttributes Attributes() const { return m_xml.attributes(); }
 
-    // Adds a fault. After MostFaults reading stops, and after the XML has broken off nothing is added any
-    // more, since it would be about text that isn't there.
+    // Adds a fault. After TemplateFault::Most reading stops, and after the XML has broken off nothing is
+    // added any more, since it would be about text that isn't there.
     void Fault(int line, const QString& text);
 
     // Moves to the outermost element; false if there is none.

@@ -9,7 +9,7 @@ namespace {
 
 using Spacing::SmallestShare;
 
-constexpr double SmallestValue = 10 * PointsPerMillimetre; // least width beside a label
+constexpr double SmallestValue = 10 * Paper::PointsPerMillimetre; // least width beside a label
 constexpr double LettersOfAFigure = 4; // width of a figure such as 1234.50, in times the font size
 constexpr double LettersOfALabel = 4; // the same for the label of a total
 constexpr double Tolerance = 0.05;
@@ -17,7 +17,7 @@ constexpr double Tolerance = 0.05;
 // A length in points, shown in millimetres.
 QString Shown(double points)
 {
-    return QString::number(std::max(points, 0.0) / PointsPerMillimetre, 'f', 1);
+    return QString::number(std::max(points, 0.0) / Paper::PointsPerMillimetre, 'f', 1);
 }
 
 bool HoldsFigure(const TemplateText& text)
@@ -68,15 +68,15 @@ private:
     {
         if (!text.IsEmpty() && width < size - Tolerance)
             m_fault(line,
-                QStringLiteral("letters of %1 points don't stand in a place of %2 mm")
+                QStringLiteral("letters of %1 points don't fit into a place of %2 mm")
                     .arg(size)
                     .arg(Shown(width)));
     }
 
     void CheckPairs(const TemplatePairs& pairs, int line, double width)
     {
-        const double labels =
-            pairs.labelWidth > 0 ? pairs.labelWidth * PointsPerMillimetre : width * Spacing::PairLabelShare;
+        const double labels = pairs.labelWidth > 0 ? pairs.labelWidth * Paper::PointsPerMillimetre
+                                                   : width * Spacing::PairLabelShare;
         double needed = SmallestValue;
         bool hasLabel = false;
         for (const TemplatePair& pair : pairs.pairs) {
@@ -105,7 +105,7 @@ private:
             if (!lane.elements.empty())
                 CheckShare(lane.width, lane.line);
         }
-        CheckRules(rules, line, InFrame(lanes.frame, width), lanes.gap * PointsPerMillimetre);
+        CheckRules(rules, line, InFrame(lanes.frame, width), lanes.gap * Paper::PointsPerMillimetre);
         const std::vector<double> widths = LaneWidths(lanes, width);
         for (std::size_t i = 0; i < lanes.lanes.size(); ++i) {
             const TemplateLane& lane = lanes.lanes[i];
@@ -189,7 +189,7 @@ private:
 
     void CheckShare(const WidthRule& rule, int line)
     {
-        if (!rule.isShare && rule.millimetres * PointsPerMillimetre < SmallestShare - Tolerance)
+        if (!rule.isShare && rule.millimetres * Paper::PointsPerMillimetre < SmallestShare - Tolerance)
             m_fault(line,
                 QStringLiteral("w=\"%1\" is too narrow for what stands there: it needs %2 mm")
                     .arg(rule.millimetres)
@@ -200,7 +200,7 @@ private:
     {
         double needed = rules.empty() ? 0 : gap * static_cast<double>(rules.size() - 1);
         for (const WidthRule& rule : rules)
-            needed += rule.isShare ? SmallestShare : rule.millimetres * PointsPerMillimetre;
+            needed += rule.isShare ? SmallestShare : rule.millimetres * Paper::PointsPerMillimetre;
         if (needed > width + Tolerance)
             m_fault(line,
                 QStringLiteral("the columns need %1 mm, but there are %2 mm")

@@ -12,12 +12,12 @@ std::vector<double> DivideWidth(const std::vector<WidthRule>& rules, double widt
         if (rule.isShare)
             shares += 1;
         else
-            left -= rule.millimetres * PointsPerMillimetre;
+            left -= rule.millimetres * Paper::PointsPerMillimetre;
     }
     std::vector<double> widths;
     widths.reserve(rules.size());
     for (const WidthRule& rule : rules)
         widths.push_back(
-            rule.isShare ? std::max(left, 0.0) / shares : rule.millimetres * PointsPerMillimetre);
+            rule.isShare ? std::max(left, 0.0) / shares : rule.millimetres * Paper::PointsPerMillimetre);
     return widths;
 }

@@ -112,7 +112,7 @@ TEST_F(EvaluationTest, AFormatMakesATextThatCanBeJoinedAndCompared)
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{format(Liters, 'MM')}</text>")),
         QStringLiteral("the format \"MM\" needs a date"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{format(Liters, '0.0') + 1}</text>")),
-        QStringLiteral("texts can't be reckoned with; words stand before or behind the braces"));
+        QStringLiteral("texts can't be added or multiplied; words are written outside of the braces"));
 }
 
 TEST_F(EvaluationTest, AnEmptyColumnIsNothingAndCountsAsZero)

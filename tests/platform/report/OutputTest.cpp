@@ -392,7 +392,8 @@ TEST(MediaNamesTest, EveryPaperOfTheTemplatesHasTheNameThatPrintersKnow)
         << "lying on its side";
     for (const auto& [roll, media] :
         {std::pair(u"58mm", "Custom.58x93.4mm"), std::pair(u"80mm", "Custom.80x93.4mm")})
-        EXPECT_EQ(MediaName(QSizeF(ReadPaper(roll)->width, 93.4 * PointsPerMillimetre)), QLatin1String(media))
+        EXPECT_EQ(MediaName(QSizeF(ReadPaper(roll)->width, 93.4 * Paper::PointsPerMillimetre)),
+            QLatin1String(media))
             << "as long as what stands on it";
 }
 

@@ -12,6 +12,7 @@ protected:
     ReportTest();
 
     static inline const QString Morning = QStringLiteral("सकाळ");
+    static constexpr double PointsPerMillimetre = Paper::PointsPerMillimetre;
 
     int Run(const QString& statement) { return connection->Execute(statement); }
 

@@ -79,7 +79,7 @@ TEST_F(TableLinesTest, ATableIsNeverWithoutAColumn)
                                         "<total label=\"=\"/>")),
         QStringLiteral("the first column has a total, so there is no room for its label"));
     EXPECT_EQ(TableFault(QStringLiteral("<col>a</col><col if=\"Liters\">b</col>")),
-        QStringLiteral("a condition is needed that holds or doesn't"));
+        QStringLiteral("this must be a condition, such as Liters > 0"));
 }
 
 TEST_F(TableLinesTest, ASummaryHasARowForEachGroup)
@@ -132,7 +132,7 @@ TEST_F(TableLinesTest, AGroupsHeadHasFiguresInItsOwnColumns)
     EXPECT_EQ(figure.fit, Fit::Shrink);
     EXPECT_EQ(TableFault(QStringLiteral("<col>a</col><group by=\"CollectionTime\"><head><cell>{sum(Liters)}"
                                         "</cell></head></group>")),
-        QStringLiteral("a total isn't known here"));
+        QStringLiteral("a total can't be used here"));
 }
 
 TEST_F(TableLinesTest, AFootHasSeveralLinesWithCellsOfTheirOwn)
@@ -228,7 +228,7 @@ TEST_F(TableLinesTest, ATotalOfAPageKnowsNoRow)
     const auto fault = [this](const char* inside) {
         return TableFault(QStringLiteral("<col w=\"40\">{MemberNo}</col>") + QString::fromUtf8(inside));
     };
-    const QString row = QStringLiteral("\"%1\" is of a row, and a <page> knows totals only");
+    const QString row = QStringLiteral("\"%1\" is a field, and a <page> can use totals only");
     EXPECT_EQ(fault("<page foot=\"{MemberName}\"/>"), row.arg(QStringLiteral("MemberName")));
     EXPECT_EQ(fault("<col total=\"Fat + sum(Liters)\">{Liters}</col><page foot=\"=\"/>"),
         row.arg(QStringLiteral("Fat")));
@@ -244,8 +244,9 @@ TEST_F(TableLinesTest, ATotalOfAPageKnowsNoRow)
         QStringList());
 }
 
-// A day begins with its opening balance on its own side and ends with what it came to.
-TEST_F(TableLinesTest, ABookOfCashHasItsItemsWhereTheyBelong)
+// A day begins with its opening balance on its own side and ends with what it came to, and so does the book.
+// Behind it are the receipts of the last days, whose pages are numbered by the day.
+TEST_F(TableLinesTest, TheItemsOfABookAreThoseOfTheGoldenFile)
 {
     for (int i = 1; i <= 24; ++i) {
         const int day = 1 + i / 7;
@@ -269,8 +270,10 @@ TEST_F(TableLinesTest, ABookOfCashHasItsItemsWhereTheyBelong)
       <head><cell span="2">{TranDate}  आरंभी शिल्लक</cell><cell>{if(plain(OpeningDorC) = 'D', OpeningBalance, '')|#,##,##0.00}</cell></head>
       <foot><cell/><cell>शिल्लक</cell><cell>{sum(DAmount) - sum(CAmount)|#,##,##0.00}</cell></foot>
     </group>
-    <page carry="पुढील पानावर" head="मागील पानावरून"/>
-    <total label="एकूण"/>
+    <page foot="पानाची बेरीज" carry="पुढील पानावर" head="मागील पानावरून"/>
+    <total label="एकूण">
+      <foot><cell/><cell>अखेरची शिल्लक</cell><cell>{sum(DAmount) - sum(CAmount)|#,##,##0.00}</cell></foot>
+    </total>
   </table>
   <space h="5"/>
   <table source="l" rows="groups">
@@ -279,6 +282,16 @@ TEST_F(TableLinesTest, ABookOfCashHasItsItemsWhereTheyBelong)
     <col w="30" head="जमा" align="right">{sum(DAmount)|#,##,##0.00}</col>
     <group by="format(TranDate, 'MMMM yyyy')"/>
   </table>
+  <each source="l" by="TranDate" only="TranId &gt; 13" newpage="1" ownpages="1">
+    <text bold="1">दिनांक {TranDate}</text>
+    <each source="l">
+      <columns box="0.4" h="25">
+        <column><text>पावती क्र. {TranId}</text></column>
+        <column w="40"><text align="right">{DAmount + CAmount|#,##,##0.00}</text></column>
+      </columns>
+      <space h="2"/>
+    </each>
+  </each>
   <pagefooter><text size="7" align="center">पान {#page} / {#pages}</text></pagefooter>
 </report>)xml"));
     report->Complete();

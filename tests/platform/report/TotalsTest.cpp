@@ -172,7 +172,7 @@ TEST_F(TotalsTest, WhatHangsOnARowIsTotalledForThatRowOnly)
     const QString linked =
         QStringLiteral("<source name=\"k\" table=\"KapatDetails\" link=\"MemberNo\" to=\"c\"/>");
     EXPECT_EQ(OnlyFault(linked + QStringLiteral("<text>{sum(k.Value1)}</text>")),
-        QStringLiteral("\"k\" can only be walked within an <each> of \"c\""));
+        QStringLiteral("the rows of \"k\" can be gone through only inside an <each> of \"c\""));
     EXPECT_EQ(
         Faults(Template(linked + QStringLiteral("<each source=\"c\"><text>{sum(k.Value1)}</text></each>"))),
         QStringList());

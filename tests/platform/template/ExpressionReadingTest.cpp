@@ -29,7 +29,7 @@ TEST(ExpressionReadingTest, BracketsWithoutEndAreRefusedAndDontOverflow)
 {
     ExpressionFault fault;
     for (const char16_t sign : {u'(', u'-'}) {
-        EXPECT_FALSE(ReadExpression(QString(LongestExpression, sign), fault).has_value());
+        EXPECT_FALSE(ReadExpression(QString(Expression::LongestText, sign), fault).has_value());
         EXPECT_EQ(fault.text, QStringLiteral("the brackets are nested too deeply"));
     }
 }

@@ -23,7 +23,7 @@ TEST_F(TemplateCheckTest, AllFaultsAreToldAtOnceWithTheirLines)
     const QStringList expected{QStringLiteral("1: \"A9\" is no paper"),
         QStringLiteral("2: there is no table \"NoSuchTable\""),
         QStringLiteral("3: there is no column \"Nmae\" in MembersMaster"),
-        QStringLiteral("4: <text> knows no \"colour\""),
+        QStringLiteral("4: <text> has no attribute \"colour\""),
         QStringLiteral("4: there is no column \"Surname\" in MembersMaster"),
         QStringLiteral("5: <blink> isn't known here"),
         QStringLiteral("6: \"0,00\" is no format of a number or a date"),
@@ -181,23 +181,24 @@ TEST_F(TemplateCheckTest, RowsThatAreKeptCantBeChosenByARowThatMovesOn)
             "<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\" only=\"%1\"/>")
             .arg(QLatin1String(only));
     };
-    const QString end = QStringLiteral("; say it with \"link\", or where the rows are walked");
+    const QString end =
+        QStringLiteral("; use \"link\", or the \"only\" of the element that goes through the rows");
     EXPECT_EQ(OnlyFault(linked("City = 'a' and c.Liters &gt; 3")),
         QStringLiteral("the rows of \"m\" are chosen once and not for each row of \"c\", so its \"only\" "
-                       "can't ask for c.Liters")
+                       "can't use c.Liters")
             + end);
     EXPECT_EQ(OnlyFault(linked("City = 'a'")
                   + QStringLiteral("<source name=\"n\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\" "
                                    "only=\"m.City = 'a'\"/>")),
         QStringLiteral("the rows of \"n\" are chosen once and not for each row of \"m\", so its \"only\" "
-                       "can't ask for m.City")
+                       "can't use m.City")
             + end);
     const QString dates = QStringLiteral("<source name=\"d\" table=\"ReportDates\"/>");
     const QString ofDate = linked("CompanyId = d.CompanyId");
     EXPECT_EQ(Faults(Template(dates + ofDate)), QStringList()) << "it stands still";
     EXPECT_EQ(OnlyFault(dates + ofDate + QStringLiteral("<each source=\"d\"><text>{m.City}</text></each>")),
         QStringLiteral("the rows of \"m\" are chosen once and not for each row of \"d\", so its \"only\" "
-                       "can't ask for d.CompanyId")
+                       "can't use d.CompanyId")
             + end);
     EXPECT_EQ(
         Faults(Template(linked("City = 'a'")
@@ -217,8 +218,9 @@ TEST_F(TemplateCheckTest, ASourceReadByItsFirstRowCantBeChosenByARowThatMovesOn)
         QStringList())
         << "its rows are chosen anew each time";
     EXPECT_EQ(OnlyFault(members + QStringLiteral("<each source=\"c\"><text>{m.City}</text></each>")),
-        QStringLiteral("the rows of \"m\" are chosen once and not for each row of \"c\", so its \"only\" "
-                       "can't ask for c.MemberNo; say it with \"link\", or where the rows are walked"));
+        QStringLiteral(
+            "the rows of \"m\" are chosen once and not for each row of \"c\", so its \"only\" "
+            "can't use c.MemberNo; use \"link\", or the \"only\" of the element that goes through the rows"));
 }
 
 TEST_F(TemplateCheckTest, KindsOfValuesMustSuit)
@@ -228,29 +230,29 @@ TEST_F(TemplateCheckTest, KindsOfValuesMustSuit)
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{Liters|dd/MM/yyyy}</text>")),
         QStringLiteral("the format \"dd/MM/yyyy\" needs a date"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{CollectionDate + 1}</text>")),
-        QStringLiteral("dates and conditions can't be reckoned with"));
+        QStringLiteral("dates and conditions can't be added or multiplied"));
     const QString noText =
-        QStringLiteral("texts can't be reckoned with; words stand before or behind the braces");
+        QStringLiteral("texts can't be added or multiplied; words are written outside of the braces");
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{'रु. ' + Amount}</text>")), noText);
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{MemberName * 2}</text>")), noText);
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{-plain(MemberName)} {abs(Amount)}</text>")), noText);
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{sum(MemberName)} {count(MemberName)}</text>")),
         QStringLiteral("a total needs numbers"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<text if=\"Liters = 'दोन'\">a</text>")),
-        QStringLiteral("things of different kinds are compared"));
+        QStringLiteral("values of different kinds can't be compared"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<text if=\"Liters\">a</text>")),
-        QStringLiteral("a condition is needed that holds or doesn't"));
+        QStringLiteral("this must be a condition, such as Liters > 0"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{Liters = 2}</text>")),
         QStringLiteral("a condition can't be printed; use if(…)"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{Liters|plain}</text>")),
-        QStringLiteral("\"Liters\" is no text, so \"plain\" says nothing"));
+        QStringLiteral("\"Liters\" isn't a text, so it can't be \"plain\""));
 }
 
 TEST_F(TemplateCheckTest, AChoiceThatMayBeATextOrADateIsNotReckonedWith)
 {
     const QString noText =
-        QStringLiteral("texts can't be reckoned with; words stand before or behind the braces");
-    const QString noDate = QStringLiteral("dates and conditions can't be reckoned with");
+        QStringLiteral("texts can't be added or multiplied; words are written outside of the braces");
+    const QString noDate = QStringLiteral("dates and conditions can't be added or multiplied");
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{if(MemberNo = 1, 'x', Amount) * 2}</text>")), noText);
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{2 + if(MemberNo = 1, Amount, MemberName)}</text>")), noText);
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{abs(if(MemberNo = 1, '', if(Liters = 1, 1, 'x')))}</text>")),
@@ -258,7 +260,7 @@ TEST_F(TemplateCheckTest, AChoiceThatMayBeATextOrADateIsNotReckonedWith)
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{sum(if(MemberNo = 1, 'x', Amount))}</text>")),
         QStringLiteral("a total needs numbers"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<text if=\"if(MemberNo = 1, 'x', Amount) = 2\">a</text>")),
-        QStringLiteral("things of different kinds are compared"));
+        QStringLiteral("values of different kinds can't be compared"));
     EXPECT_EQ(
         OnlyFault(QStringLiteral("<text>{if(MemberNo = 1, CollectionDate, Amount) * 2}</text>")), noDate);
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{if(MemberNo = 1, CollectionDate, 'x') * 2}</text>")), noDate);
@@ -275,7 +277,7 @@ TEST_F(TemplateCheckTest, AChoiceThatMayBeATextOrADateIsNotReckonedWith)
 TEST_F(TemplateCheckTest, TotalsStandOnlyWhereTheyAreKnown)
 {
     EXPECT_EQ(OnlyFault(QStringLiteral("<table source=\"c\"><col>{sum(Liters)}</col></table>")),
-        QStringLiteral("a total isn't known here"));
+        QStringLiteral("a total can't be used here"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{running(Liters)}</text>")),
         QStringLiteral("a running sum stands in a table's columns only"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<table source=\"c\"><col>{running(Liters by Fat)}</col></table>")),
@@ -296,7 +298,7 @@ TEST_F(TemplateCheckTest, PageNumbersBelongToTheEdgesOfThePage)
     EXPECT_EQ(OnlyFault(QStringLiteral("<text>{#page}</text>")),
         QStringLiteral("#page stands in a pageheader or a pagefooter only"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<pagefooter><text>{#pages + 1}</text></pagefooter>")),
-        QStringLiteral("#pages stands alone in its braces"));
+        QStringLiteral("#pages must be alone in its braces"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<pageheader><table source=\"c\"><col>a</col></table></pageheader>")),
         QStringLiteral("<table> isn't known here"));
 }
@@ -306,7 +308,7 @@ TEST_F(TemplateCheckTest, ASourceThatHangsOnAnotherIsWalkedWithinIt)
     const QString linked =
         QStringLiteral("<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\"/>");
     EXPECT_EQ(OnlyFault(linked + QStringLiteral("<table source=\"m\"><col>{City}</col></table>")),
-        QStringLiteral("\"m\" can only be walked within an <each> of \"c\""));
+        QStringLiteral("the rows of \"m\" can be gone through only inside an <each> of \"c\""));
     EXPECT_EQ(
         Faults(Template(linked
             + QStringLiteral("<each source=\"c\"><table source=\"m\"><col>{City}</col></table></each>"))),
@@ -340,7 +342,7 @@ TEST_F(TemplateCheckTest, LettersOfAChartTakeASizeAndNoPlace)
             .arg(QLatin1String(look));
     };
     EXPECT_EQ(Faults(Template(chart("size=\"7\""))), QStringList());
-    EXPECT_EQ(OnlyFault(chart("align=\"right\"")), QStringLiteral("<chart> knows no \"align\""));
+    EXPECT_EQ(OnlyFault(chart("align=\"right\"")), QStringLiteral("<chart> has no attribute \"align\""));
 }
 
 TEST_F(TemplateCheckTest, ElementsStandInOneAnotherToADepthOnly)
@@ -358,5 +360,5 @@ TEST_F(TemplateCheckTest, RowsArentGroupedByACondition)
 {
     EXPECT_EQ(OnlyFault(QStringLiteral(
                   "<table source=\"c\"><col>{MemberNo}</col><group by=\"MemberNo &gt; 75\"/></table>")),
-        QStringLiteral("rows aren't grouped by a condition; use if(…)"));
+        QStringLiteral("rows can't be grouped by a condition; use if(…)"));
 }

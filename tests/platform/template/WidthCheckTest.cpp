@@ -57,20 +57,20 @@ TEST_F(WidthCheckTest, ALetterHasRoomInItsPlace)
 {
     const QString inColumn = QStringLiteral("<columns><column w=\"%1\">%2</column><column/></columns>");
     EXPECT_EQ(OnlyFault(inColumn.arg(QStringLiteral("4"), QStringLiteral("<text size=\"40\">W</text>"))),
-        QStringLiteral("letters of 40 points don't stand in a place of 4.0 mm"));
+        QStringLiteral("letters of 40 points don't fit into a place of 4.0 mm"));
     EXPECT_EQ(
         Faults(Template(inColumn.arg(QStringLiteral("15"), QStringLiteral("<text size=\"40\">W</text>")))),
         QStringList());
     EXPECT_EQ(OnlyFault(QStringLiteral("<table source=\"c\"><col>{MemberNo}</col>"
                                        "<col w=\"4\" size=\"60\">{MemberName}</col></table>")),
-        QStringLiteral("letters of 60 points don't stand in a place of 4.0 mm"));
+        QStringLiteral("letters of 60 points don't fit into a place of 4.0 mm"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<table source=\"c\"><col>{MemberNo}</col>"
                                        "<col w=\"4\" size=\"12\" head=\"a\"/></table>")),
-        QStringLiteral("letters of 12 points don't stand in a place of 4.0 mm"));
+        QStringLiteral("letters of 12 points don't fit into a place of 4.0 mm"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<pairs labelw=\"5\"><pair label=\"a\" size=\"20\">b</pair></pairs>")),
-        QStringLiteral("letters of 20 points don't stand in a place of 5.0 mm"));
+        QStringLiteral("letters of 20 points don't fit into a place of 5.0 mm"));
     EXPECT_EQ(OnlyFault(QStringLiteral("<pairs labelw=\"178\"><pair size=\"36\">b</pair></pairs>")),
-        QStringLiteral("letters of 36 points don't stand in a place of 12.0 mm"));
+        QStringLiteral("letters of 36 points don't fit into a place of 12.0 mm"));
 }
 
 TEST_F(WidthCheckTest, ATotalHasRoomForItsLabel)
