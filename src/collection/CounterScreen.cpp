@@ -44,6 +44,7 @@ CounterScreen::CounterScreen(const CounterKind& kind, const Keys::Places& keys)
     When(txtCollectionNo.GotFocus, &CounterScreen::txtCollectionNo_GotFocus);
     When(cmdGo.LostFocus, &CounterScreen::cmdGo_LostFocus);
     Line.KeysOfMember.NameActions([this](const QString& key) { return KeyAction(Line.txtMemberNo, key); });
+    maskDate.KeepForMending();
     maskDate.SetGuide(KeyGuide(maskDate));
     txtCollectionNo.SetGuide(KeyGuide(txtCollectionNo));
     EnableEntry(false);
@@ -130,7 +131,6 @@ void CounterScreen::Escape()
 void CounterScreen::maskDate_GotFocus()
 {
     EnableEntry(false);
-    KeepForMending(maskDate);
 }
 
 void CounterScreen::maskDate_LostFocus()

@@ -53,7 +53,7 @@ frmAbsenseMemberCollection::frmAbsenseMemberCollection()
     : SocietyScreen(KeyPlaces(), Shivaji(u"dUQa saMklana nasaNaaro saBaasad"), {.guide = "lblFooter"})
     , DataGridMembers(this, "DataGridMembers", MemberColumns())
 {
-    When(MaskDate.GotFocus, &frmAbsenseMemberCollection::MaskDate_GotFocus);
+    MaskDate.KeepForMending();
     Command1.SetGuide(Plain(u"Enter : यादी"));
     LayOut();
 }
@@ -66,11 +66,6 @@ void frmAbsenseMemberCollection::Load()
     gCn.Execute(QStringLiteral("Delete * From ShortMemberList"));
     emptying.Commit();
     DataGridMembers.Refresh();
-}
-
-void frmAbsenseMemberCollection::MaskDate_GotFocus()
-{
-    KeepForMending(MaskDate);
 }
 
 void frmAbsenseMemberCollection::MaskDate_LostFocus()

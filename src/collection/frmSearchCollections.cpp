@@ -66,6 +66,7 @@ frmSearchCollections::frmSearchCollections(std::optional<Handover> handover)
     When(ComboMemberName.GotFocus, &frmSearchCollections::ComboMemberName_GotFocus);
     for (Field* field : std::initializer_list<Field*>{&maskDate, &txtTime, &txtMemberNo, &ComboMemberName})
         When(field->TextChanged, &frmSearchCollections::ForgetFound);
+    maskDate.KeepForMending();
     DataGridInwards.SetGuide(Plain(u"↑ ↓ : पावतीची नोंद निवडा"));
     ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
@@ -106,7 +107,6 @@ void frmSearchCollections::maskDate_GotFocus()
 {
     EnableMember(false);
     EnableFound(false);
-    KeepForMending(maskDate);
 }
 
 void frmSearchCollections::maskDate_LostFocus()
