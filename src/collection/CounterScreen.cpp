@@ -58,7 +58,7 @@ void CounterScreen::Load()
     EmptyShiftCopy();
     ShowInwardsGrid();
     maskDate.SetDate(gAppState.gAppDate);
-    Line.LoadMemberNames();
+    Line.ComboMemberName.LoadMemberNames();
     Devices.Show();
     RefreshActualTime();
     m_totals.ShiftLitersTotal();

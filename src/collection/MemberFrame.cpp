@@ -1,7 +1,6 @@
 #include "collection/MemberFrame.h"
 
 #include "collection/Counter.h"
-#include "core/menu/Keys.h"
 #include "core/menu/ScreenDirectory.h"
 #include "core/messages/Messages.h"
 #include "core/preview/ReportSubject.h"
@@ -62,9 +61,7 @@ MemberFrame::MemberFrame(Screen* screen)
     : m_screen(screen)
     , DataGridMilk(screen, "DataGridMilk", MilkColumns())
 {
-    cmbAccountName.GotFocus = std::bind_front(&MemberFrame::cmbAccountName_GotFocus, this);
-    cmbAccountName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
-    cmbAccountName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
+    cmbAccountName.OpenWithMore();
     Command2.SetCancels(true); // the frame is left whatever stands in its dates
     Show(false);
 }
@@ -163,13 +160,6 @@ void MemberFrame::txtAccountId_LostFocus()
     const Recordset member(gCn, Sql(u"Select * from MembersMaster Where MemberNo=", txtAccountId.Value()));
     if (!member.Eof())
         ShowAccount(member);
-}
-
-// The names are added to those that are there already.
-void MemberFrame::cmbAccountName_GotFocus()
-{
-    cmbAccountName.AddNames(MemberNames());
-    SendKeys(QStringLiteral("%{Down}"));
 }
 
 void MemberFrame::cmbAccountName_LostFocus()

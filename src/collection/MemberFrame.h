@@ -6,8 +6,8 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
-#include "platform/forms/NameCombo.h"
 #include "society/Fields.h"
+#include "society/MemberCombo.h"
 
 class QLayout;
 class QWidget;
@@ -39,7 +39,7 @@ public:
     DateField maskFromDate{m_screen, "maskFromDate", {this, &MemberFrame::maskFromDate_LostFocus}};
     DateField maskToDate{m_screen, "maskToDate", {this, &MemberFrame::maskToDate_LostFocus}};
     WholeField txtAccountId{m_screen, "txtAccountId", {this, &MemberFrame::txtAccountId_LostFocus}};
-    NameCombo cmbAccountName{m_screen, "cmbAccountName", {this, &MemberFrame::cmbAccountName_LostFocus}};
+    MemberCombo cmbAccountName{m_screen, "cmbAccountName", {this, &MemberFrame::cmbAccountName_LostFocus}};
     Button cmdGoOn{m_screen, "cmdGoOn", Plain(u">>"), {this, &MemberFrame::cmdGoOn_Click}};
     Button Command1{m_screen, "Command1", Shivaji(u"&irpaoT-"), {this, &MemberFrame::Command1_Click}};
     Button Command2{m_screen, "Command2", Shivaji(u"&baahor")}; // the way out: the counter answers it
@@ -76,7 +76,6 @@ private:
     void maskFromDate_LostFocus();
     void maskToDate_LostFocus();
     void txtAccountId_LostFocus();
-    void cmbAccountName_GotFocus();
     void cmbAccountName_LostFocus();
     void cmdGoOn_Click();
     void Command1_Click();

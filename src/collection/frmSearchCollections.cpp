@@ -63,13 +63,11 @@ frmSearchCollections::frmSearchCollections(std::optional<Handover> handover)
 {
     When(maskDate.GotFocus, &frmSearchCollections::maskDate_GotFocus);
     When(txtTime.GotFocus, &frmSearchCollections::txtTime_GotFocus);
-    When(ComboMemberName.GotFocus, &frmSearchCollections::ComboMemberName_GotFocus);
     for (Field* field : std::initializer_list<Field*>{&maskDate, &txtTime, &txtMemberNo, &ComboMemberName})
         When(field->TextChanged, &frmSearchCollections::ForgetFound);
     maskDate.KeepForMending();
     DataGridInwards.SetGuide(Plain(u"↑ ↓ : पावतीची नोंद निवडा"));
-    ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
-    ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
+    ComboMemberName.OpenWithout(txtMemberNo);
     EnableFound(false);
     LayOut();
 }
@@ -80,7 +78,7 @@ void frmSearchCollections::Load()
     EmptyShiftCopy();
     DataGridInwards.Refresh();
     maskDate.SetDate(gAppState.gAppDate);
-    LoadMemberNames();
+    ComboMemberName.LoadMemberNames();
     TimerStart = true;
     After(50, [this] { TimerStart_Timer(); });
 }
@@ -136,14 +134,6 @@ void frmSearchCollections::txtMemberNo_LostFocus()
         ShowMember(ComboMemberName, member);
 }
 
-void frmSearchCollections::ComboMemberName_GotFocus()
-{
-    if (!txtMemberNo.IsEmpty())
-        return;
-    LoadMemberNames();
-    SendKeys(QStringLiteral("%{Down}"));
-}
-
 void frmSearchCollections::ComboMemberName_LostFocus()
 {
     if (!InsistOnName(ComboMemberName))
@@ -154,14 +144,9 @@ void frmSearchCollections::ComboMemberName_LostFocus()
         Search();
         return;
     }
-    LoadMemberNames();
+    ComboMemberName.LoadMemberNames();
     if (txtMemberNo.IsEmpty())
         ComboMemberName.SetFocus(Wanted::Name());
-}
-
-void frmSearchCollections::LoadMemberNames()
-{
-    ComboMemberName.SetNames(MemberNames());
 }
 
 void frmSearchCollections::EnableMember(bool enabled)
