@@ -103,19 +103,6 @@ bool IsTyped(const QKeyEvent& key)
         && !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
 }
 
-// Turns digits of any script into 0 to 9, and the comma of the numeric keypad into a point.
-QString FigureOf(const QString& text, bool keypad)
-{
-    QString figures;
-    for (QChar c : text) {
-        if (c.digitValue() >= 0)
-            figures += QChar(u'0' + c.digitValue());
-        else if (c == u'.' || (keypad && c == u','))
-            figures += u'.';
-    }
-    return figures;
-}
-
 }
 
 NumberField::NumberField(Screen* screen, const char* name, Digits digits, const Handler& lostFocus)
@@ -168,6 +155,21 @@ void NumberField::SetText(const QString& text)
     const QString before = Text();
     Line().setText(text);
     TellChange(before);
+}
+
+// Turns digits of any script into 0 to 9, and the comma of the numeric keypad into a point.
+QString NumberField::FigureOf(const QString& text, bool keypad) const
+{
+    QString figures;
+    for (QChar c : text) {
+        if (c.digitValue() >= 0)
+            figures += QChar(u'0' + c.digitValue());
+        else if (c == u'.' || (keypad && c == u','))
+            figures += u'.';
+        else if (m_takesN && c == u'n')
+            figures += c;
+    }
+    return figures;
 }
 
 bool NumberField::KeyPress(const QKeyEvent& key)

@@ -64,6 +64,10 @@ public:
 
     void SetPattern(QStringView pattern) { m_pattern = pattern.toString(); }
 
+    // Takes the small letter n, too. It isn't part of the number: a text that n begins has the value 0, and
+    // Reformat drops it.
+    void TakeLetterN() { m_takesN = true; }
+
     // The number that the text begins with; 0 if it begins with none.
     double Value() const;
 
@@ -81,8 +85,11 @@ protected:
     void Insert(const QString& text) override;
 
 private:
+    QString FigureOf(const QString& text, bool keypad) const;
+
     Digits m_digits;
     QString m_pattern;
+    bool m_takesN = false;
 };
 
 // A whole number, such as that of a member.
