@@ -47,6 +47,9 @@ public:
     ShiftField(Screen* screen, const char* name, const Handler& lostFocus = {});
 
     bool HoldsShift() const { return IsShift(Text()); }
+
+    // The field's own guide, for another field that takes the same figures.
+    static Caption UsualGuide();
 };
 
 // Cow or buffalo. No key empties it.

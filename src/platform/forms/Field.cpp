@@ -202,6 +202,15 @@ ChoiceField::ChoiceField(
     , m_choices(std::move(choices))
 {
     Line().setReadOnly(true);
+    SetGuide(Shivaji(GuideTo(m_choices)));
+}
+
+QString ChoiceField::GuideTo(const std::vector<Choice>& choices)
+{
+    QStringList named;
+    for (const Choice& choice : choices)
+        named.append(choice.digit + QStringLiteral(" ¹ ") + choice.word);
+    return named.join(QStringLiteral("    "));
 }
 
 void ChoiceField::SetText(const QString& word)

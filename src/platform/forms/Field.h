@@ -102,7 +102,8 @@ public:
 };
 
 // A field for one of a few fixed words. A digit chooses its word, Backspace empties the field unless it is
-// locked, and all other keys are ignored.
+// locked, and all other keys are ignored. Its guide names each digit with its word, unless the screen sets
+// another.
 class ChoiceField : public Field {
 public:
     struct Choice {
@@ -111,6 +112,9 @@ public:
     };
 
     ChoiceField(Screen* screen, const char* name, std::vector<Choice> choices, const Handler& lostFocus = {});
+
+    // The guide of such a choice, as it is stored: "1 ¹ gaaya    2 ¹ mhOsa".
+    static QString GuideTo(const std::vector<Choice>& choices);
 
     // Keys can't empty a locked field.
     void SetLocked(bool locked) { m_locked = locked; }
