@@ -94,7 +94,7 @@ void EntryLine::txtMemberNo_LostFocus()
         txtMemberNo.Clear();
         return;
     }
-    const Recordset member(gCn, Sql(u"SELECT * FROM MembersMaster where MemberNo=", number));
+    const Recordset member = MemberOfNumber(number);
     Caption wanted;
     if (member.Eof()) {
         txtMemberNo.Clear();

@@ -127,7 +127,7 @@ void frmSearchCollections::txtTime_LostFocus()
 void frmSearchCollections::txtMemberNo_LostFocus()
 {
     const double number = txtMemberNo.Value();
-    const Recordset member(gCn, Sql(u"SELECT * FROM MembersMaster where MemberNo=", number));
+    const Recordset member = MemberOfNumber(number);
     if (number == 0 || member.Eof())
         txtMemberNo.Clear();
     else
