@@ -27,8 +27,8 @@ std::vector<DataGrid::Column> CounterScreen::InwardsColumns(const CounterKind& k
         {QStringLiteral("Animal"), Shivaji(u"dUQa"), Twips(700)},
         {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), kind.liters.grid.toString(), true},
         {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), kind.gridFatFormat.toString(), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 0, QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), GridPattern::Figure.toString(), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 0, GridPattern::Figure.toString(), true},
     };
 }
 

@@ -4,6 +4,7 @@
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "platform/forms/Pieces.h"
+#include "society/Fields.h"
 
 #include <QFrame>
 #include <QVBoxLayout>
@@ -19,10 +20,10 @@ std::vector<DataGrid::Column> ListColumns()
         {QStringLiteral("CollectionTime"), Shivaji(u"vaoL"), 0},
         {QStringLiteral("CollectionNo"), Shivaji(u"saMklana k`M"), 120, {}, false, false},
         {QStringLiteral("Animal"), Shivaji(u"dUQa p`kar"), 110},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 110, QStringLiteral("####0.000"), true},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), 80, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), 100, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 130, QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 110, GridPattern::Litres.toString(), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), 80, GridPattern::Figure.toString(), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), 100, GridPattern::Figure.toString(), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 130, GridPattern::Figure.toString(), true},
     };
 }
 

@@ -31,10 +31,10 @@ std::vector<DataGrid::Column> MilkColumns()
         {QStringLiteral("CollectionDate"), Shivaji(u"idnaaMk"), Twips(1300), QStringLiteral("dd/MM/yyyy")},
         {QStringLiteral("CollectionTime"), Shivaji(u"vaoL"), 0},
         {QStringLiteral("Animal"), Shivaji(u"dUQa"), Twips(700)},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), QStringLiteral("####0.000"), true},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), Twips(1300), QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), GridPattern::Litres.toString(), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), GridPattern::Figure.toString(), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), GridPattern::Figure.toString(), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), Twips(1300), GridPattern::Figure.toString(), true},
     };
 }
 

@@ -26,10 +26,10 @@ std::vector<DataGrid::Column> FoundColumns()
     return {
         {QStringLiteral("CollectionNo"), Shivaji(u"saMklana Ë."), 140, {}, false, false},
         {QStringLiteral("Animal"), Shivaji(u"dUQa"), 0},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 170, QStringLiteral("####0.000"), true},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), 140, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), 150, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 180, QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 170, GridPattern::Litres.toString(), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), 140, GridPattern::Figure.toString(), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), 150, GridPattern::Figure.toString(), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 180, GridPattern::Figure.toString(), true},
     };
 }
 

@@ -20,6 +20,14 @@ constexpr QStringView PatternOf(FigureKind figure)
     return u"#########0.00";
 }
 
+// The patterns of columns in a grid: litres, and all other figures.
+namespace GridPattern {
+
+inline constexpr QStringView Litres = u"####0.000";
+inline constexpr QStringView Figure = u"#####0.00";
+
+}
+
 // A field with the pattern of its kind, or with a pattern of its own.
 template <FigureKind figure> class FigureField final : public NumberField {
 public:
