@@ -63,7 +63,7 @@ MemberFrame::MemberFrame(Screen* screen)
 {
     cmbAccountName.OpenWithMore();
     Command2.SetCancels(true); // the frame is left whatever stands in its dates
-    Show(false);
+    m_panel.SetVisible(false);
 }
 
 void MemberFrame::Load()
@@ -84,9 +84,9 @@ void MemberFrame::Load()
 // second time.
 void MemberFrame::Open()
 {
-    Show(true);
+    m_panel.SetVisible(true);
     maskFromDate.SetFocus();
-    const std::vector<Control*> own = Controls();
+    const std::vector<Control*>& own = m_panel.Controls();
     for (Control* control : m_screen->Controls()) {
         if (!control->Enabled() || std::find(own.begin(), own.end(), control) != own.end())
             continue;
@@ -97,24 +97,10 @@ void MemberFrame::Open()
 
 void MemberFrame::Close()
 {
-    Show(false);
+    m_panel.SetVisible(false);
     for (Control* control : m_heldBack)
         control->SetEnabled(true);
     m_heldBack.clear();
-}
-
-void MemberFrame::Show(bool shown)
-{
-    m_isOpen = shown;
-    for (Control* control : Controls())
-        control->SetVisible(shown);
-    Label28.SetVisible(shown);
-}
-
-std::vector<Control*> MemberFrame::Controls()
-{
-    return {&maskFromDate, &maskToDate, &txtAccountId, &cmbAccountName, &cmdGoOn, &Command1, &Command2,
-        &Command3, &DataGridMilk};
 }
 
 // The reload of the shift goes by the company here.

@@ -6,6 +6,7 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
+#include "platform/forms/Panel.h"
 #include "society/Fields.h"
 #include "society/MemberCombo.h"
 
@@ -50,7 +51,7 @@ public:
     // Fills it as the counter opens: from the copy, which is empty then.
     void Load();
 
-    bool IsOpen() const { return m_isOpen; }
+    bool IsOpen() const { return m_panel.Visible(); }
 
     // Opens it, on its first date. The rest of the screen waits until it is closed.
     void Open();
@@ -70,7 +71,10 @@ private:
     FigureOfHalves m_buffFat{m_screen, "lblBuffAvgFatM", "lblBuffAvgFatE", "lblBuffTotalAvgFat"};
     TemplateReport CRMilkPayments;
 
-    bool m_isOpen = false;
+    Panel m_panel{m_screen,
+        {&maskFromDate, &maskToDate, &txtAccountId, &cmbAccountName, &cmdGoOn, &Command1, &Command2,
+            &Command3, &DataGridMilk},
+        {&Label28}};
     std::vector<Control*> m_heldBack; // what could be entered before the frame was opened
 
     void maskFromDate_LostFocus();
@@ -81,8 +85,6 @@ private:
     void Command1_Click();
     void Command3_Click();
 
-    std::vector<Control*> Controls();
-    void Show(bool shown);
     bool InsistOnPeriod();
     void ShowAccount(const Recordset& member);
     SqlText InPeriod() const;
