@@ -1,14 +1,7 @@
 #include "collection/Counter.h"
 
 #include "core/messages/Messages.h"
-#include "platform/forms/SendKeys.h"
 #include "society/Wanted.h"
-
-void Counter::KeepForMending(const DateField& date)
-{
-    if (!date.HoldsDate())
-        SendKeys(QStringLiteral("{Home}"));
-}
 
 bool Counter::InsistOnShift(DateField& date, ShiftField& time)
 {

@@ -18,9 +18,6 @@ constexpr int Twips(int twips)
     return twips / 15;
 }
 
-// For entering a date: one that has to be mended is not selected, since the next key would wipe it out.
-void KeepForMending(const DateField& date);
-
 // Whether there is a date and a shift, and whether there is a name. Unless there is, the focus goes to the
 // field that lacks it, and the guide line says what is wanted.
 bool InsistOnShift(DateField& date, ShiftField& time);

@@ -27,8 +27,8 @@ std::vector<DataGrid::Column> CounterScreen::InwardsColumns(const CounterKind& k
         {QStringLiteral("Animal"), Shivaji(u"dUQa"), Twips(700)},
         {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), kind.liters.grid.toString(), true},
         {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), kind.gridFatFormat.toString(), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 0, QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), GridPattern::Figure.toString(), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 0, GridPattern::Figure.toString(), true},
     };
 }
 
@@ -44,6 +44,7 @@ CounterScreen::CounterScreen(const CounterKind& kind, const Keys::Places& keys)
     When(txtCollectionNo.GotFocus, &CounterScreen::txtCollectionNo_GotFocus);
     When(cmdGo.LostFocus, &CounterScreen::cmdGo_LostFocus);
     Line.KeysOfMember.NameActions([this](const QString& key) { return KeyAction(Line.txtMemberNo, key); });
+    maskDate.KeepForMending();
     maskDate.SetGuide(KeyGuide(maskDate));
     txtCollectionNo.SetGuide(KeyGuide(txtCollectionNo));
     EnableEntry(false);
@@ -57,7 +58,7 @@ void CounterScreen::Load()
     EmptyShiftCopy();
     ShowInwardsGrid();
     maskDate.SetDate(gAppState.gAppDate);
-    Line.LoadMemberNames();
+    Line.ComboMemberName.LoadMemberNames();
     Devices.Show();
     RefreshActualTime();
     m_totals.ShiftLitersTotal();
@@ -130,7 +131,6 @@ void CounterScreen::Escape()
 void CounterScreen::maskDate_GotFocus()
 {
     EnableEntry(false);
-    KeepForMending(maskDate);
 }
 
 void CounterScreen::maskDate_LostFocus()

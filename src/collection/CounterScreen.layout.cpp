@@ -2,6 +2,7 @@
 
 #include "platform/forms/Layout.h"
 #include "platform/forms/Pieces.h"
+#include "society/FieldRows.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -30,12 +31,10 @@ QWidget* CounterScreen::ShiftLine()
     clock->addWidget(lblActualCollectionTime.Widget());
 
     auto* line = new QWidget;
-    auto* row = new QHBoxLayout(line);
+    QHBoxLayout* row = FieldRows::DateAndShift(maskDate, txtTime, 180);
+    line->setLayout(row);
     row->setContentsMargins(16, 0, 16, 0);
-    row->setSpacing(16);
-    row->addLayout(Under(Shivaji(u"idnaaMk"), maskDate, 160, Look::Size::Large, LineField));
-    row->addLayout(Under(Shivaji(u"vaoL"), txtTime, 180, Look::Size::Large, LineField));
-    row->addLayout(Under(Shivaji(u"saMklana Ë."), txtCollectionNo, 140, Look::Size::Large, LineField));
+    row->addLayout(InLine(Shivaji(u"saMklana Ë."), txtCollectionNo, 140));
     row->addStretch(1);
     row->addLayout(clock);
     return line;

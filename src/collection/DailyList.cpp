@@ -4,6 +4,7 @@
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "platform/forms/Pieces.h"
+#include "society/Fields.h"
 
 #include <QFrame>
 #include <QVBoxLayout>
@@ -19,18 +20,19 @@ std::vector<DataGrid::Column> ListColumns()
         {QStringLiteral("CollectionTime"), Shivaji(u"vaoL"), 0},
         {QStringLiteral("CollectionNo"), Shivaji(u"saMklana k`M"), 120, {}, false, false},
         {QStringLiteral("Animal"), Shivaji(u"dUQa p`kar"), 110},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 110, QStringLiteral("####0.000"), true},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), 80, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), 100, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 130, QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 110, GridPattern::Litres.toString(), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), 80, GridPattern::Figure.toString(), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), 100, GridPattern::Figure.toString(), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 130, GridPattern::Figure.toString(), true},
     };
 }
 
 }
 
-DailyList::DailyList(Screen* screen) : DataGrid1(screen, "DataGrid1", ListColumns()), Frame1(Sheet())
+DailyList::DailyList(Screen* screen)
+    : DataGrid1(screen, "DataGrid1", ListColumns())
+    , Frame1(screen, {&DataGrid1})
 {
-    Frame1->setObjectName(QStringLiteral("Frame1"));
     DataGrid1.SetGuide(Plain(u"Enter : ही नोंद    F5 : यादी बंद"));
     DataGrid1.SetAccessibleName(Plain(u"मेम्बरचे आतापर्यंतचे संकलन"));
 }
@@ -47,30 +49,27 @@ void DailyList::Open(double memberNo)
     gCn.Execute(QStringLiteral("DELETE * FROM MilkCollections WHERE CompanyId=999"));
     cleaning.Commit();
     DataGrid1.Bind(gCn, Sql(u"SELECT * FROM MilkCollections WHERE MemberNo=", memberNo));
-    Show(true);
+    Frame1.SetVisible(true);
     if (DataGrid1.CurrentRow() >= 0)
         DataGrid1.SetFocus();
 }
 
 void DailyList::Hide()
 {
-    Show(false);
-}
-
-void DailyList::Show(bool shown)
-{
-    DataGrid1.SetVisible(shown);
-    Frame1->setVisible(shown);
+    Frame1.SetVisible(false);
 }
 
 // The frame keeps its place while it is hidden, so that nothing moves when it comes.
 QWidget* DailyList::LaidOut()
 {
-    auto* inside = new QVBoxLayout(Frame1);
+    QWidget* sheet = Sheet();
+    sheet->setObjectName(QStringLiteral("Frame1"));
+    Frame1.SetFrame(sheet);
+    auto* inside = new QVBoxLayout(sheet);
     inside->setContentsMargins(1, 1, 1, 1);
     inside->addWidget(List(DataGrid1));
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     policy.setRetainSizeWhenHidden(true);
-    Frame1->setSizePolicy(policy);
-    return Frame1;
+    sheet->setSizePolicy(policy);
+    return sheet;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/DataGrid.h"
+#include "platform/forms/Panel.h"
 
 class QWidget;
 
@@ -18,12 +19,10 @@ public:
     // Shows it with the rows of a member and goes there, unless there are none.
     void Open(double memberNo);
     void Hide();
-    bool IsShown() const { return DataGrid1.Visible(); }
+    bool IsShown() const { return Frame1.Visible(); }
 
     QWidget* LaidOut();
 
 private:
-    void Show(bool shown);
-
-    QWidget* Frame1;
+    Panel Frame1;
 };

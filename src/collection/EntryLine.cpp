@@ -1,7 +1,6 @@
 #include "collection/EntryLine.h"
 
 #include "collection/Counter.h"
-#include "core/menu/Keys.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
@@ -25,12 +24,10 @@ EntryLine::EntryLine(Screen* screen, const CounterKind& kind, const Beside& besi
 {
     txtMemberNo.GotFocus = std::bind_front(&EntryLine::txtMemberNo_GotFocus, this);
     txtMemberNo.TextChanged = std::bind_front(&EntryLine::LightMemberKeys, this);
-    ComboMemberName.GotFocus = std::bind_front(&EntryLine::ComboMemberName_GotFocus, this);
+    ComboMemberName.OpenWithout(txtMemberNo);
     txtAnimal.GotFocus = std::bind_front(&EntryLine::txtAnimal_GotFocus, this);
     txtLiters.GotFocus = std::bind_front(&EntryLine::txtLiters_GotFocus, this);
     txtFat.GotFocus = std::bind_front(&EntryLine::txtFat_GotFocus, this);
-    ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
-    ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
     txtLiters.SetPattern(kind.liters.field);
     txtLiters.SetMaxLength(9);
     txtAmount.SetEnabled(false);
@@ -97,7 +94,7 @@ void EntryLine::txtMemberNo_LostFocus()
         txtMemberNo.Clear();
         return;
     }
-    const Recordset member(gCn, Sql(u"SELECT * FROM MembersMaster where MemberNo=", number));
+    const Recordset member = MemberOfNumber(number);
     Caption wanted;
     if (member.Eof()) {
         txtMemberNo.Clear();
@@ -126,21 +123,6 @@ void EntryLine::TakeAnimalOf(const Recordset& member)
 
 // Member by name
 
-void EntryLine::LoadMemberNames()
-{
-    ComboMemberName.SetNames(MemberNames());
-    if (NamesLoaded)
-        NamesLoaded();
-}
-
-void EntryLine::ComboMemberName_GotFocus()
-{
-    if (!txtMemberNo.IsEmpty())
-        return;
-    LoadMemberNames();
-    SendKeys(QStringLiteral("%{Down}"));
-}
-
 // Without a number the focus stays once more, so that the clerk sees whom the name has found; the next Enter
 // goes on. Coming back without a number also loads the list anew and drops it open.
 void EntryLine::ComboMemberName_LostFocus()
@@ -152,7 +134,7 @@ void EntryLine::ComboMemberName_LostFocus()
     if (member.Eof()) {
         if (asks)
             ComboMemberName.SetFocus(Wanted::Name());
-        LoadMemberNames();
+        ComboMemberName.LoadMemberNames();
         return;
     }
     txtMemberNo.SetText(member[u"MemberNo"].Text());

@@ -6,8 +6,8 @@
 #include "collection/MemberKeys.h"
 #include "collection/MilkDevices.h"
 #include "platform/forms/DateField.h"
-#include "platform/forms/NameCombo.h"
 #include "society/Fields.h"
+#include "society/MemberCombo.h"
 
 class QHBoxLayout;
 class QLayout;
@@ -31,7 +31,7 @@ public:
     EntryLine(Screen* screen, const CounterKind& kind, const Beside& beside);
 
     WholeField txtMemberNo{m_screen, "txtMemberNo", {this, &EntryLine::txtMemberNo_LostFocus}};
-    NameCombo ComboMemberName{m_screen, "ComboMemberName", {this, &EntryLine::ComboMemberName_LostFocus}};
+    MemberCombo ComboMemberName{m_screen, "ComboMemberName", {this, &EntryLine::ComboMemberName_LostFocus}};
     AnimalField txtAnimal{m_screen, "txtAnimal", {this, &EntryLine::txtAnimal_LostFocus}};
     LitresField txtLiters{m_screen, "txtLiters", {this, &EntryLine::txtLiters_LostFocus}};
     FatField txtFat{m_screen, "txtFat", {this, &EntryLine::txtFat_LostFocus}};
@@ -41,15 +41,11 @@ public:
     // The keys that the counter answers while the member's number is entered. The counter names them.
     MemberKeys KeysOfMember;
 
-    // The names of the members were read anew.
-    Event NamesLoaded;
-
     bool IsExistingRow = false; // the fields show a row that is there already: no other fat is offered for it
     bool SkipMemberChecks = false; // the number is left for the member's frame, and isn't to be checked
 
     void SetEnabled(bool enabled);
     void ClearEntryFields();
-    void LoadMemberNames();
 
     // Shows a stored row's member by name, its animal and its figures.
     void Show(const Recordset& row);
@@ -71,7 +67,6 @@ private:
 
     void txtMemberNo_GotFocus();
     void txtMemberNo_LostFocus();
-    void ComboMemberName_GotFocus();
     void ComboMemberName_LostFocus();
     void txtAnimal_GotFocus();
     void txtAnimal_LostFocus();

@@ -1,6 +1,7 @@
 #include "collection/EntryLine.h"
 
 #include "platform/forms/Pieces.h"
+#include "society/FieldRows.h"
 
 #include <QHBoxLayout>
 
@@ -22,23 +23,14 @@ QLayout* EntryLine::MemberRow()
 {
     auto* row = new QHBoxLayout;
     row->setSpacing(16);
-    row->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 140, Look::Size::Large, LineField));
-    row->addLayout(Under(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0, Look::Size::Large, LineField), 1);
-    row->addLayout(Under(Shivaji(u"dUQa"), txtAnimal, 140, Look::Size::Large, LineField));
+    row->addLayout(InLine(Shivaji(u"maombar naMbar"), txtMemberNo, 140));
+    row->addLayout(InLine(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0), 1);
+    row->addLayout(InLine(Shivaji(u"dUQa"), txtAnimal, 140));
     return row;
 }
 
 QHBoxLayout* EntryLine::MilkRow()
 {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(10);
-    row->addLayout(Under(Shivaji(u"ilaTsa-"), txtLiters, 190, Look::Size::Title, TallField));
-    row->addWidget(Sign(u"×"), 0, Qt::AlignBottom);
-    row->addLayout(Under(Shivaji(u"f^T"), txtFat, 120, Look::Size::Title, TallField));
-    row->addWidget(Sign(u"→"), 0, Qt::AlignBottom);
-    row->addLayout(Under(Shivaji(u"dr"), txtRate, 150, Look::Size::Title, TallField));
-    row->addWidget(Sign(u"="), 0, Qt::AlignBottom);
-    row->addLayout(Under(Shivaji(u"r@kma"), txtAmount, 0, Look::Size::Title, TallField), 1);
     MakeResult(txtAmount);
-    return row;
+    return FieldRows::Milk(txtLiters, txtFat, txtRate, txtAmount, {.litres = 190, .fat = 120, .rate = 150});
 }

@@ -1,7 +1,6 @@
 #include "collection/MemberFrame.h"
 
 #include "collection/Counter.h"
-#include "core/menu/Keys.h"
 #include "core/menu/ScreenDirectory.h"
 #include "core/messages/Messages.h"
 #include "core/preview/ReportSubject.h"
@@ -32,10 +31,10 @@ std::vector<DataGrid::Column> MilkColumns()
         {QStringLiteral("CollectionDate"), Shivaji(u"idnaaMk"), Twips(1300), QStringLiteral("dd/MM/yyyy")},
         {QStringLiteral("CollectionTime"), Shivaji(u"vaoL"), 0},
         {QStringLiteral("Animal"), Shivaji(u"dUQa"), Twips(700)},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), QStringLiteral("####0.000"), true},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), Twips(1300), QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), Twips(1400), GridPattern::Litres.toString(), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), Twips(1200), GridPattern::Figure.toString(), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), Twips(1200), GridPattern::Figure.toString(), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), Twips(1300), GridPattern::Figure.toString(), true},
     };
 }
 
@@ -62,11 +61,9 @@ MemberFrame::MemberFrame(Screen* screen)
     : m_screen(screen)
     , DataGridMilk(screen, "DataGridMilk", MilkColumns())
 {
-    cmbAccountName.GotFocus = std::bind_front(&MemberFrame::cmbAccountName_GotFocus, this);
-    cmbAccountName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
-    cmbAccountName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
+    cmbAccountName.OpenWithMore();
     Command2.SetCancels(true); // the frame is left whatever stands in its dates
-    Show(false);
+    m_panel.SetVisible(false);
 }
 
 void MemberFrame::Load()
@@ -87,9 +84,9 @@ void MemberFrame::Load()
 // second time.
 void MemberFrame::Open()
 {
-    Show(true);
+    m_panel.SetVisible(true);
     maskFromDate.SetFocus();
-    const std::vector<Control*> own = Controls();
+    const std::vector<Control*>& own = m_panel.Controls();
     for (Control* control : m_screen->Controls()) {
         if (!control->Enabled() || std::find(own.begin(), own.end(), control) != own.end())
             continue;
@@ -100,24 +97,10 @@ void MemberFrame::Open()
 
 void MemberFrame::Close()
 {
-    Show(false);
+    m_panel.SetVisible(false);
     for (Control* control : m_heldBack)
         control->SetEnabled(true);
     m_heldBack.clear();
-}
-
-void MemberFrame::Show(bool shown)
-{
-    m_isOpen = shown;
-    for (Control* control : Controls())
-        control->SetVisible(shown);
-    Label28.SetVisible(shown);
-}
-
-std::vector<Control*> MemberFrame::Controls()
-{
-    return {&maskFromDate, &maskToDate, &txtAccountId, &cmbAccountName, &cmdGoOn, &Command1, &Command2,
-        &Command3, &DataGridMilk};
 }
 
 // The reload of the shift goes by the company here.
@@ -163,13 +146,6 @@ void MemberFrame::txtAccountId_LostFocus()
     const Recordset member(gCn, Sql(u"Select * from MembersMaster Where MemberNo=", txtAccountId.Value()));
     if (!member.Eof())
         ShowAccount(member);
-}
-
-// The names are added to those that are there already.
-void MemberFrame::cmbAccountName_GotFocus()
-{
-    cmbAccountName.AddNames(MemberNames());
-    SendKeys(QStringLiteral("%{Down}"));
 }
 
 void MemberFrame::cmbAccountName_LostFocus()

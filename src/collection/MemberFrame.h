@@ -6,8 +6,9 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
-#include "platform/forms/NameCombo.h"
+#include "platform/forms/Panel.h"
 #include "society/Fields.h"
+#include "society/MemberCombo.h"
 
 class QLayout;
 class QWidget;
@@ -39,7 +40,7 @@ public:
     DateField maskFromDate{m_screen, "maskFromDate", {this, &MemberFrame::maskFromDate_LostFocus}};
     DateField maskToDate{m_screen, "maskToDate", {this, &MemberFrame::maskToDate_LostFocus}};
     WholeField txtAccountId{m_screen, "txtAccountId", {this, &MemberFrame::txtAccountId_LostFocus}};
-    NameCombo cmbAccountName{m_screen, "cmbAccountName", {this, &MemberFrame::cmbAccountName_LostFocus}};
+    MemberCombo cmbAccountName{m_screen, "cmbAccountName", {this, &MemberFrame::cmbAccountName_LostFocus}};
     Button cmdGoOn{m_screen, "cmdGoOn", Plain(u">>"), {this, &MemberFrame::cmdGoOn_Click}};
     Button Command1{m_screen, "Command1", Shivaji(u"&irpaoT-"), {this, &MemberFrame::Command1_Click}};
     Button Command2{m_screen, "Command2", Shivaji(u"&baahor")}; // the way out: the counter answers it
@@ -50,7 +51,7 @@ public:
     // Fills it as the counter opens: from the copy, which is empty then.
     void Load();
 
-    bool IsOpen() const { return m_isOpen; }
+    bool IsOpen() const { return m_panel.Visible(); }
 
     // Opens it, on its first date. The rest of the screen waits until it is closed.
     void Open();
@@ -70,20 +71,20 @@ private:
     FigureOfHalves m_buffFat{m_screen, "lblBuffAvgFatM", "lblBuffAvgFatE", "lblBuffTotalAvgFat"};
     TemplateReport CRMilkPayments;
 
-    bool m_isOpen = false;
+    Panel m_panel{m_screen,
+        {&maskFromDate, &maskToDate, &txtAccountId, &cmbAccountName, &cmdGoOn, &Command1, &Command2,
+            &Command3, &DataGridMilk},
+        {&Label28}};
     std::vector<Control*> m_heldBack; // what could be entered before the frame was opened
 
     void maskFromDate_LostFocus();
     void maskToDate_LostFocus();
     void txtAccountId_LostFocus();
-    void cmbAccountName_GotFocus();
     void cmbAccountName_LostFocus();
     void cmdGoOn_Click();
     void Command1_Click();
     void Command3_Click();
 
-    std::vector<Control*> Controls();
-    void Show(bool shown);
     bool InsistOnPeriod();
     void ShowAccount(const Recordset& member);
     SqlText InPeriod() const;

@@ -12,8 +12,6 @@ using namespace Pieces;
 
 namespace {
 
-constexpr int FieldHeight = 34;
-
 QLabel* Mark(QStringView text)
 {
     QLabel* mark = Heading(Plain(text), Look::Size::Small);
@@ -47,9 +45,9 @@ QLayout* MemberFrame::Head()
     Label28.Widget()->setFont(Look::Font(Look::Size::Normal, true));
     SetInk(*Label28.Widget());
     title->addWidget(Label28.Widget(), 1);
-    title->addWidget(Sized(Command1, 120, FieldHeight, Look::Size::Normal));
-    title->addWidget(Sized(Command2, 120, FieldHeight, Look::Size::Normal));
-    title->addWidget(Sized(Command3, 320, FieldHeight, Look::Size::Normal));
+    title->addWidget(Sized(Command1, 120, NarrowField, Look::Size::Normal));
+    title->addWidget(Sized(Command2, 120, NarrowField, Look::Size::Normal));
+    title->addWidget(Sized(Command3, 320, NarrowField, Look::Size::Normal));
 
     maskFromDate.SetAccessibleName(Plain(u"दिनांक पासून"));
     maskToDate.SetAccessibleName(Plain(u"दिनांक पर्यंत"));
@@ -57,14 +55,14 @@ QLayout* MemberFrame::Head()
     cmbAccountName.SetAccessibleName(Shivaji(u"maombarcao naaMva"));
     auto* fields = new QHBoxLayout;
     fields->addWidget(Heading(Shivaji(u"idnaaMk")));
-    fields->addWidget(Sized(maskFromDate, 130, FieldHeight, Look::Size::Normal));
+    fields->addWidget(Sized(maskFromDate, 130, NarrowField, Look::Size::Normal));
     fields->addWidget(Heading(Plain(u"ते")));
-    fields->addWidget(Sized(maskToDate, 130, FieldHeight, Look::Size::Normal));
+    fields->addWidget(Sized(maskToDate, 130, NarrowField, Look::Size::Normal));
     fields->addSpacing(10);
     fields->addWidget(Heading(Shivaji(u"maombar naMbar")));
-    fields->addWidget(Sized(txtAccountId, 90, FieldHeight, Look::Size::Normal));
-    fields->addWidget(Sized(cmbAccountName, 0, FieldHeight, Look::Size::Normal), 1);
-    fields->addWidget(Sized(cmdGoOn, 60, FieldHeight, Look::Size::Normal, true));
+    fields->addWidget(Sized(txtAccountId, 90, NarrowField, Look::Size::Normal));
+    fields->addWidget(Sized(cmbAccountName, 0, NarrowField, Look::Size::Normal), 1);
+    fields->addWidget(Sized(cmdGoOn, 60, NarrowField, Look::Size::Normal, true));
 
     auto* head = new QVBoxLayout;
     head->setSpacing(6);

@@ -7,6 +7,7 @@
 #include "platform/database/Transaction.h"
 #include "platform/forms/Layout.h"
 #include "platform/forms/Pieces.h"
+#include "society/FieldRows.h"
 #include "society/Queries.h"
 #include "society/Wanted.h"
 
@@ -53,7 +54,7 @@ frmAbsenseMemberCollection::frmAbsenseMemberCollection()
     : SocietyScreen(KeyPlaces(), Shivaji(u"dUQa saMklana nasaNaaro saBaasad"), {.guide = "lblFooter"})
     , DataGridMembers(this, "DataGridMembers", MemberColumns())
 {
-    When(MaskDate.GotFocus, &frmAbsenseMemberCollection::MaskDate_GotFocus);
+    MaskDate.KeepForMending();
     Command1.SetGuide(Plain(u"Enter : यादी"));
     LayOut();
 }
@@ -66,11 +67,6 @@ void frmAbsenseMemberCollection::Load()
     gCn.Execute(QStringLiteral("Delete * From ShortMemberList"));
     emptying.Commit();
     DataGridMembers.Refresh();
-}
-
-void frmAbsenseMemberCollection::MaskDate_GotFocus()
-{
-    KeepForMending(MaskDate);
 }
 
 void frmAbsenseMemberCollection::MaskDate_LostFocus()
@@ -113,11 +109,9 @@ void frmAbsenseMemberCollection::ListAbsent(const Shift& today)
 void frmAbsenseMemberCollection::LayOut()
 {
     QWidget* question = Sheet();
-    auto* row = new QHBoxLayout(question);
+    QHBoxLayout* row = FieldRows::DateAndShift(MaskDate, txtTime, 200);
+    question->setLayout(row);
     row->setContentsMargins(16, 6, 16, 10);
-    row->setSpacing(16);
-    row->addLayout(Under(Shivaji(u"idnaaMk"), MaskDate, 160, Look::Size::Large, LineField));
-    row->addLayout(Under(Shivaji(u"vaoL"), txtTime, 200, Look::Size::Large, LineField));
     Command1.SetAccessibleName(Label28.Shown());
     row->addWidget(Sized(Command1, 90, LineField, Look::Size::Large, true), 0, Qt::AlignBottom);
     row->addStretch(1);

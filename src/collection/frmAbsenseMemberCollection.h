@@ -25,7 +25,6 @@ private:
     void Load() override;
     void Escape() override { Close(); } // nothing is cleared here
 
-    void MaskDate_GotFocus();
     void MaskDate_LostFocus();
     void txtTime_LostFocus();
     void Command1_Click();

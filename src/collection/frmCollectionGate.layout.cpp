@@ -16,9 +16,9 @@ QLayout* frmCollectionGate::ListAndTotals()
     list->addWidget(List(DataGridInwards, 31), 1);
     DataGridInwards.SetAccessibleName(Shivaji(u"dUQa saMklana"));
     auto* buttons = new QHBoxLayout;
-    buttons->addWidget(Sized(Command3, 320, 34, Look::Size::Normal));
+    buttons->addWidget(Sized(Command3, 320, NarrowField, Look::Size::Normal));
     buttons->addStretch(1);
-    buttons->addWidget(Sized(Command1, 130, 34, Look::Size::Normal));
+    buttons->addWidget(Sized(Command1, 130, NarrowField, Look::Size::Normal));
     list->addLayout(buttons);
 
     auto* row = new QHBoxLayout;

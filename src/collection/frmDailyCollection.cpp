@@ -60,7 +60,7 @@ frmDailyCollection::frmDailyCollection()
     txtAmount.TextChanged = std::bind_front(&DailyRules::PriceIsGiven, &Rules);
     When(List.DataGrid1.Click, &frmDailyCollection::DataGrid1_Click);
     cmbCollectionTime.KeyDown = [this](const QKeyEvent& key) { return cmbCollectionTime_KeyDown(key); };
-    cmbCollectionTime.SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
+    cmbCollectionTime.SetGuide(ShiftField::UsualGuide());
     cmbMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     LayOut();
 }

@@ -2,6 +2,7 @@
 
 #include "platform/forms/Layout.h"
 #include "platform/forms/Pieces.h"
+#include "society/FieldRows.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -27,20 +28,17 @@ QLayout* frmDailyCollection::MemberLine()
     auto* line = new QHBoxLayout;
     line->setContentsMargins(16, 0, 16, 0);
     line->setSpacing(16);
-    line->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 160, Look::Size::Large, LineField));
-    line->addLayout(Under(Shivaji(u"maombarcao naaMva"), cmbMemberName, 0, Look::Size::Large, LineField), 1);
+    line->addLayout(InLine(Shivaji(u"maombar naMbar"), txtMemberNo, 160));
+    line->addLayout(InLine(Shivaji(u"maombarcao naaMva"), cmbMemberName, 0), 1);
     return line;
 }
 
 QLayout* frmDailyCollection::DayLine()
 {
-    auto* line = new QHBoxLayout;
+    QHBoxLayout* line = FieldRows::DateAndShift(MasKCollectionDate, cmbCollectionTime, 200);
     line->setContentsMargins(16, 0, 16, 0);
-    line->setSpacing(16);
-    line->addLayout(Under(Shivaji(u"idnaaMk"), MasKCollectionDate, 160, Look::Size::Large, LineField));
-    line->addLayout(Under(Shivaji(u"vaoL"), cmbCollectionTime, 200, Look::Size::Large, LineField));
-    line->addLayout(Under(Shivaji(u"saMklana k`M"), txtCollectionNo, 160, Look::Size::Large, LineField));
-    line->addLayout(Under(Shivaji(u"dUQa p`kar"), txtAnimal, 160, Look::Size::Large, LineField));
+    line->addLayout(InLine(Shivaji(u"saMklana k`M"), txtCollectionNo, 160));
+    line->addLayout(InLine(Shivaji(u"dUQa p`kar"), txtAnimal, 160));
     line->addStretch(1);
     return line;
 }
@@ -48,15 +46,9 @@ QLayout* frmDailyCollection::DayLine()
 QWidget* frmDailyCollection::MilkPanel()
 {
     auto* panel = Sheet();
-    auto* milk = new QHBoxLayout(panel);
+    QHBoxLayout* milk =
+        FieldRows::Milk(txtLiters, txtFat, txtRate, txtAmount, {.litres = 200, .fat = 130, .rate = 170});
+    panel->setLayout(milk);
     milk->setContentsMargins(16, 6, 16, 10);
-    milk->setSpacing(10);
-    milk->addLayout(Under(Shivaji(u"ilaTsa-"), txtLiters, 200, Look::Size::Title, TallField));
-    milk->addWidget(Sign(u"×"), 0, Qt::AlignBottom);
-    milk->addLayout(Under(Shivaji(u"f^T"), txtFat, 130, Look::Size::Title, TallField));
-    milk->addWidget(Sign(u"→"), 0, Qt::AlignBottom);
-    milk->addLayout(Under(Shivaji(u"dr"), txtRate, 170, Look::Size::Title, TallField));
-    milk->addWidget(Sign(u"="), 0, Qt::AlignBottom);
-    milk->addLayout(Under(Shivaji(u"r@kma"), txtAmount, 0, Look::Size::Title, TallField), 1);
     return panel;
 }

@@ -30,7 +30,7 @@ Keys::Places frmMilkCollections::KeyPlaces()
 
 frmMilkCollections::frmMilkCollections() : CounterScreen(CounterKinds::Main, KeyPlaces())
 {
-    When(Line.NamesLoaded, &frmMilkCollections::ListNames);
+    When(Line.ComboMemberName.NamesLoaded, &frmMilkCollections::ListNames);
     When(Frame.Command2.Click, &frmMilkCollections::Command2_Click);
     LayOut(Views(), KeyStrips());
 }

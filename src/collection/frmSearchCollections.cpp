@@ -26,10 +26,10 @@ std::vector<DataGrid::Column> FoundColumns()
     return {
         {QStringLiteral("CollectionNo"), Shivaji(u"saMklana Ë."), 140, {}, false, false},
         {QStringLiteral("Animal"), Shivaji(u"dUQa"), 0},
-        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 170, QStringLiteral("####0.000"), true},
-        {QStringLiteral("Fat"), Shivaji(u"f^T"), 140, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Rate"), Shivaji(u"dr"), 150, QStringLiteral("#####0.00"), true},
-        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 180, QStringLiteral("#####0.00"), true},
+        {QStringLiteral("Liters"), Shivaji(u"ilaTsa-"), 170, GridPattern::Litres.toString(), true},
+        {QStringLiteral("Fat"), Shivaji(u"f^T"), 140, GridPattern::Figure.toString(), true},
+        {QStringLiteral("Rate"), Shivaji(u"dr"), 150, GridPattern::Figure.toString(), true},
+        {QStringLiteral("Amount"), Shivaji(u"r@kma"), 180, GridPattern::Figure.toString(), true},
     };
 }
 
@@ -63,12 +63,11 @@ frmSearchCollections::frmSearchCollections(std::optional<Handover> handover)
 {
     When(maskDate.GotFocus, &frmSearchCollections::maskDate_GotFocus);
     When(txtTime.GotFocus, &frmSearchCollections::txtTime_GotFocus);
-    When(ComboMemberName.GotFocus, &frmSearchCollections::ComboMemberName_GotFocus);
     for (Field* field : std::initializer_list<Field*>{&maskDate, &txtTime, &txtMemberNo, &ComboMemberName})
         When(field->TextChanged, &frmSearchCollections::ForgetFound);
+    maskDate.KeepForMending();
     DataGridInwards.SetGuide(Plain(u"↑ ↓ : पावतीची नोंद निवडा"));
-    ComboMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
-    ComboMemberName.Accepts = [](QChar c) { return c != u'\'' && !c.isDigit(); };
+    ComboMemberName.OpenWithout(txtMemberNo);
     EnableFound(false);
     LayOut();
 }
@@ -79,7 +78,7 @@ void frmSearchCollections::Load()
     EmptyShiftCopy();
     DataGridInwards.Refresh();
     maskDate.SetDate(gAppState.gAppDate);
-    LoadMemberNames();
+    ComboMemberName.LoadMemberNames();
     TimerStart = true;
     After(50, [this] { TimerStart_Timer(); });
 }
@@ -106,7 +105,6 @@ void frmSearchCollections::maskDate_GotFocus()
 {
     EnableMember(false);
     EnableFound(false);
-    KeepForMending(maskDate);
 }
 
 void frmSearchCollections::maskDate_LostFocus()
@@ -129,19 +127,11 @@ void frmSearchCollections::txtTime_LostFocus()
 void frmSearchCollections::txtMemberNo_LostFocus()
 {
     const double number = txtMemberNo.Value();
-    const Recordset member(gCn, Sql(u"SELECT * FROM MembersMaster where MemberNo=", number));
+    const Recordset member = MemberOfNumber(number);
     if (number == 0 || member.Eof())
         txtMemberNo.Clear();
     else
         ShowMember(ComboMemberName, member);
-}
-
-void frmSearchCollections::ComboMemberName_GotFocus()
-{
-    if (!txtMemberNo.IsEmpty())
-        return;
-    LoadMemberNames();
-    SendKeys(QStringLiteral("%{Down}"));
 }
 
 void frmSearchCollections::ComboMemberName_LostFocus()
@@ -154,14 +144,9 @@ void frmSearchCollections::ComboMemberName_LostFocus()
         Search();
         return;
     }
-    LoadMemberNames();
+    ComboMemberName.LoadMemberNames();
     if (txtMemberNo.IsEmpty())
         ComboMemberName.SetFocus(Wanted::Name());
-}
-
-void frmSearchCollections::LoadMemberNames()
-{
-    ComboMemberName.SetNames(MemberNames());
 }
 
 void frmSearchCollections::EnableMember(bool enabled)

@@ -5,8 +5,8 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/DataGrid.h"
 #include "platform/forms/DateField.h"
-#include "platform/forms/NameCombo.h"
 #include "society/Fields.h"
+#include "society/MemberCombo.h"
 #include "society/SocietyScreen.h"
 
 #include <optional>
@@ -34,7 +34,7 @@ private:
     DateField maskDate{this, "maskDate", &frmSearchCollections::maskDate_LostFocus};
     ShiftField txtTime{this, "txtTime", &frmSearchCollections::txtTime_LostFocus};
     WholeField txtMemberNo{this, "txtMemberNo", &frmSearchCollections::txtMemberNo_LostFocus};
-    NameCombo ComboMemberName{this, "ComboMemberName", &frmSearchCollections::ComboMemberName_LostFocus};
+    MemberCombo ComboMemberName{this, "ComboMemberName", &frmSearchCollections::ComboMemberName_LostFocus};
     DataGrid DataGridInwards;
     Button cmdGo{this, "cmdGo", Plain(u"&Print"), &frmSearchCollections::cmdGo_Click};
 
@@ -49,14 +49,12 @@ private:
     void txtTime_GotFocus();
     void txtTime_LostFocus();
     void txtMemberNo_LostFocus();
-    void ComboMemberName_GotFocus();
     void ComboMemberName_LostFocus();
     void cmdGo_Click();
 
     void LayOut();
     QWidget* Question();
 
-    void LoadMemberNames();
     void EnableMember(bool enabled);
     void EnableFound(bool enabled);
     void ForgetFound();

@@ -2,6 +2,7 @@
 
 #include "platform/forms/Layout.h"
 #include "platform/forms/Pieces.h"
+#include "society/FieldRows.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -32,12 +33,10 @@ void frmSearchCollections::LayOut()
 QWidget* frmSearchCollections::Question()
 {
     auto* panel = Sheet();
-    auto* row = new QHBoxLayout(panel);
+    QHBoxLayout* row = FieldRows::DateAndShift(maskDate, txtTime, 180);
+    panel->setLayout(row);
     row->setContentsMargins(16, 6, 16, 10);
-    row->setSpacing(16);
-    row->addLayout(Under(Shivaji(u"idnaaMk"), maskDate, 160, Look::Size::Large, LineField));
-    row->addLayout(Under(Shivaji(u"vaoL"), txtTime, 180, Look::Size::Large, LineField));
-    row->addLayout(Under(Shivaji(u"maombar naMbar"), txtMemberNo, 140, Look::Size::Large, LineField));
-    row->addLayout(Under(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0, Look::Size::Large, LineField), 1);
+    row->addLayout(InLine(Shivaji(u"maombar naMbar"), txtMemberNo, 140));
+    row->addLayout(InLine(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0), 1);
     return panel;
 }

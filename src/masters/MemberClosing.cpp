@@ -3,6 +3,7 @@
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
+#include "society/Words.h"
 
 #include <cmath>
 
@@ -38,11 +39,11 @@ float Movement(double memberNo)
     const auto uchalPaid = static_cast<float>(UchalPaid(memberNo));
     const float uchalReceived =
         SingleSum(Sql(u"Select sum(Amount) as UchalReceived From AdvanceReceipt Where CompanyId=", company,
-            u" And MemberNo=", memberNo, u" And AdvanceType<>'Uchal Kapat'"));
+            u" And MemberNo=", memberNo, u" And AdvanceType<>", Quoted(Word::UchalKapat)));
     const float thevAmount =
         SingleSum(Sql(u"Select sum(Amount) as ThevAmount From MilkPaymentsDetails Where CompanyId=", company,
-            u" And MemberNo=", memberNo,
-            u" And (AdvanceType='mhOsa zova' or AdvanceType='gaaya zova' or AdvanceType='zova')"));
+            u" And MemberNo=", memberNo, u" And (AdvanceType=", Quoted(Word::BuffThev), u" or AdvanceType=",
+            Quoted(Word::CowThev), u" or AdvanceType=", Quoted(Word::Thev), u")"));
     return trAmount - payAmount - uchalPaid - thevAmount + uchalReceived;
 }
 

@@ -32,7 +32,7 @@ Balance BalanceOf(double memberNo, double opening, QStringView openingWord);
 // The advance that the member still has, in rupees. Every kind of repayment counts.
 double UchalOf(double memberNo, double opening);
 
-// The deposit of one kind, "gaaya zova" or "mhOsa zova", in rupees; so is the opening one.
+// The deposit of one kind, Word::CowThev or Word::BuffThev, in rupees; so is the opening one.
 double ThevOf(double memberNo, double opening, QStringView advanceType);
 
 }

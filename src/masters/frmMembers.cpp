@@ -423,7 +423,7 @@ void frmMembers::txtOpeningUchal_LostFocus()
 void frmMembers::txtCowOpeningThev_LostFocus()
 {
     const double opening = txtCowOpeningThev.Reformat();
-    txtCowClosingThev.Show(MemberClosing::ThevOf(MemberNo(), opening, u"gaaya zova"));
+    txtCowClosingThev.Show(MemberClosing::ThevOf(MemberNo(), opening, Word::CowThev));
     if (!txtBuffOpeningThev.Enabled())
         ToSaveButton();
 }
@@ -431,7 +431,7 @@ void frmMembers::txtCowOpeningThev_LostFocus()
 void frmMembers::txtBuffOpeningThev_LostFocus()
 {
     const double opening = txtBuffOpeningThev.Reformat();
-    txtBuffClosingThev.Show(MemberClosing::ThevOf(MemberNo(), opening, u"mhOsa zova"));
+    txtBuffClosingThev.Show(MemberClosing::ThevOf(MemberNo(), opening, Word::BuffThev));
     ToSaveButton();
 }
 

@@ -75,8 +75,6 @@ void frmMembers::SetGuides()
     ComboMemberName.SetGuide(Shivaji(u"maombarcao naaMva"));
     txtAddress.SetGuide(Shivaji(u"p<aa"));
     ComboCity.SetGuide(Shivaji(u"gaava"));
-    txtAnimal.SetGuide(Shivaji(u"1 ¹ gaaya    2 ¹ mhOsa    3 ¹ daonhI"));
-    txtPaymentType.SetGuide(Shivaji(u"1 ¹ raoK    2 ¹ ba^nk"));
     ComboBankName.SetGuide(Shivaji(u"ba^nkocao naava"));
     txtBankAccountNo.SetGuide(Shivaji(u"ba^nk Kato naMbar"));
     txtOpeningDorC.SetGuide(Shivaji(u"1 ¹ doNao  2 ¹ yaoNao"));

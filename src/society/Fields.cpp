@@ -9,15 +9,40 @@ std::vector<ChoiceField::Choice> ChoicesOf(std::initializer_list<QStringView> wo
     return choices;
 }
 
+namespace {
+
+std::vector<ChoiceField::Choice> Shifts()
+{
+    return ChoicesOf({Word::Morning, Word::Evening});
+}
+
+std::vector<ChoiceField::Choice> Animals()
+{
+    return ChoicesOf({Word::Cow, Word::Buffalo});
+}
+
+// The counters' guides begin with two blanks.
+Caption IndentedGuide(const std::vector<ChoiceField::Choice>& choices)
+{
+    return Shivaji(QString(u"  " % ChoiceField::GuideTo(choices)));
+}
+
+}
+
 ShiftField::ShiftField(Screen* screen, const char* name, const Handler& lostFocus)
-    : ChoiceField(screen, name, ChoicesOf({Word::Morning, Word::Evening}), lostFocus)
+    : ChoiceField(screen, name, Shifts(), lostFocus)
 {
     SetLocked(true);
-    SetGuide(Shivaji(u"  1 ¹ sakaL    2 ¹ saMQyaakaL"));
+    SetGuide(UsualGuide());
+}
+
+Caption ShiftField::UsualGuide()
+{
+    return IndentedGuide(Shifts());
 }
 
 AnimalField::AnimalField(Screen* screen, const char* name, const Handler& lostFocus)
-    : ChoiceField(screen, name, ChoicesOf({Word::Cow, Word::Buffalo}), lostFocus)
+    : ChoiceField(screen, name, Animals(), lostFocus)
 {
     SetLocked(true);
     SetGuide(UsualGuide());
@@ -25,5 +50,5 @@ AnimalField::AnimalField(Screen* screen, const char* name, const Handler& lostFo
 
 Caption AnimalField::UsualGuide()
 {
-    return Shivaji(u"  1 ¹ gaaya    2 ¹ mhOsa");
+    return IndentedGuide(Animals());
 }

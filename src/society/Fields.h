@@ -20,6 +20,14 @@ constexpr QStringView PatternOf(FigureKind figure)
     return u"#########0.00";
 }
 
+// The patterns of columns in a grid: litres, and all other figures.
+namespace GridPattern {
+
+inline constexpr QStringView Litres = u"####0.000";
+inline constexpr QStringView Figure = u"#####0.00";
+
+}
+
 // A field with the pattern of its kind, or with a pattern of its own.
 template <FigureKind figure> class FigureField final : public NumberField {
 public:
@@ -47,6 +55,9 @@ public:
     ShiftField(Screen* screen, const char* name, const Handler& lostFocus = {});
 
     bool HoldsShift() const { return IsShift(Text()); }
+
+    // The field's own guide, for another field that takes the same figures.
+    static Caption UsualGuide();
 };
 
 // Cow or buffalo. No key empties it.

@@ -10,9 +10,9 @@
 
 namespace {
 
-template <typename Test> Recordset FirstRow(const QString& query, Test isIt)
+// Stands on the first row from here on for which `isIt` is true.
+template <typename Test> Recordset FirstRow(Recordset row, Test isIt)
 {
-    Recordset row(gCn, query);
     while (!row.Eof() && !isIt(row))
         row.MoveNext();
     return row;
@@ -22,7 +22,7 @@ template <typename Test> Recordset FirstRow(const QString& query, Test isIt)
 Recordset MemberNumbered(const NameCombo& list, double number)
 {
     const QString name = list.Text().trimmed();
-    return FirstRow(Sql(u"SELECT * FROM MembersMaster where MemberNo=", number), [&](const Recordset& row) {
+    return FirstRow(MemberOfNumber(number), [&](const Recordset& row) {
         return !name.isEmpty() && row[u"MemberName"].Text().trimmed() == name
             && list.MayMean(row[u"MemberNo"].Text());
     });
@@ -30,16 +30,21 @@ Recordset MemberNumbered(const NameCombo& list, double number)
 
 }
 
+Recordset MemberOfNumber(double number)
+{
+    return {gCn, Sql(u"SELECT * FROM MembersMaster where MemberNo=", number)};
+}
+
 Recordset RowOfName(const QString& query, QStringView column, const QString& name, const IsMeant& isMeant)
 {
     const QString spelling = name.trimmed();
     const QString reading = Shivaji01::Reading(name);
     const auto isOne = [&](const Recordset& row) { return !isMeant || isMeant(row); };
-    Recordset found = FirstRow(query, [&](const Recordset& row) {
+    Recordset found = FirstRow(Recordset(gCn, query), [&](const Recordset& row) {
         return !spelling.isEmpty() && row[column].Text().trimmed() == spelling && isOne(row);
     });
     if (found.Eof())
-        found = FirstRow(query, [&](const Recordset& row) {
+        found = FirstRow(Recordset(gCn, query), [&](const Recordset& row) {
             return !reading.isEmpty() && Shivaji01::Reading(row[column].Text()) == reading && isOne(row);
         });
     return found;

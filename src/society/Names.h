@@ -5,8 +5,11 @@
 
 #include <functional>
 
-// Look-ups by name. Spellings that read the same are the same name to the clerk; statements need the spelling
-// that is stored.
+// Look-ups by number and by name. Spellings that read the same are the same name to the clerk; statements
+// need the spelling that is stored.
+
+// The member with this number, in any company; at the end if there is none.
+Recordset MemberOfNumber(double number);
 
 // Picks one among several rows of the same name.
 using IsMeant = std::function<bool(const Recordset& row)>;

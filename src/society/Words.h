@@ -14,6 +14,12 @@ inline constexpr QStringView Bank = u"ba^nk"; // बॅन्क
 inline constexpr QStringView Yes = u"haoya"; // होय
 inline constexpr QStringView No = u"naahI"; // नाही
 
+// The heads of deposits, and of an advance that is kept back from a payment; that one is in Latin letters.
+inline constexpr QStringView CowThev = u"gaaya zova"; // गाय ठेव
+inline constexpr QStringView BuffThev = u"mhOsa zova"; // म्हैस ठेव
+inline constexpr QStringView Thev = u"zova"; // ठेव
+inline constexpr QStringView UchalKapat = u"Uchal Kapat"; // उचल कपात
+
 }
 
 // Whether a text is one of the two shifts of a day.

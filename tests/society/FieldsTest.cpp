@@ -32,3 +32,26 @@ TEST_F(FieldsTest, EachKindShowsItsFigureWithItsOwnDecimalsOrInAPatternOfTheScre
     }
     EXPECT_EQ(shown.join(u' ').toStdString(), "1234.500 1234.50 1234.5 1234.50 1234.50 1234.5");
 }
+
+namespace {
+
+class Choices final : public Screen {
+public:
+    Choices() : Screen("Choices") { }
+
+    ShiftField txtTime{this, "txtTime"};
+    AnimalField txtAnimal{this, "txtAnimal"};
+    ChoiceField txtAnyAnimal{this, "txtAnyAnimal", ChoicesOf({Word::Cow, Word::Buffalo, Word::Both})};
+};
+
+}
+
+TEST_F(FieldsTest, TheGuideOfAChoiceNamesEachFigureWithItsWord)
+{
+    Choices screen;
+    EXPECT_EQ(screen.txtTime.Guide().Text(), QStringLiteral("  1 ¹ sakaL    2 ¹ saMQyaakaL"));
+    EXPECT_EQ(screen.txtAnimal.Guide().Text(), QStringLiteral("  1 ¹ gaaya    2 ¹ mhOsa"));
+    EXPECT_EQ(screen.txtAnyAnimal.Guide().Text(), QStringLiteral("1 ¹ gaaya    2 ¹ mhOsa    3 ¹ daonhI"));
+    screen.txtAnyAnimal.SetGuide(Plain(u"1 ते 3"));
+    EXPECT_EQ(screen.txtAnyAnimal.Guide().Text(), QStringLiteral("1 ते 3"));
+}

@@ -36,6 +36,6 @@ TEST(GlossaryTest, TheNamedWordsAreInIt)
 {
     const QMap<QString, QString> words = Glossary();
     for (const QStringView word : {Word::Morning, Word::Evening, Word::Cow, Word::Buffalo, Word::Both,
-             Word::Cash, Word::Bank, Word::Yes, Word::No})
+             Word::Cash, Word::Bank, Word::Yes, Word::No, Word::CowThev, Word::BuffThev, Word::Thev})
         EXPECT_TRUE(words.contains(word.toString())) << word.toString().toStdString();
 }

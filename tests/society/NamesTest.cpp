@@ -85,3 +85,12 @@ TEST_F(NamesTest, AnyMemberIsFoundByAnySpellingOfHisName)
     for (int number = 1; number <= others.size(); ++number)
         EXPECT_EQ(NumberOf(others[number - 1]), number) << qPrintable(others[number - 1]);
 }
+
+TEST_F(NamesTest, AMemberIsFoundByNumberInAnyCompany)
+{
+    AddMember(3, QStringLiteral("rama"));
+    Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(2,9,'sakaarama')"));
+    EXPECT_EQ(MemberOfNumber(3)[u"MemberName"].Text(), QStringLiteral("rama"));
+    EXPECT_EQ(MemberOfNumber(9)[u"MemberName"].Text(), QStringLiteral("sakaarama"));
+    EXPECT_TRUE(MemberOfNumber(4).Eof());
+}

@@ -66,6 +66,13 @@ QDate DateField::Date() const
     return ToDate(Text());
 }
 
+void DateField::ShowFocus(bool held)
+{
+    Field::ShowFocus(held);
+    if (held && m_keepsForMending && !HoldsDate())
+        Line().setCursorPosition(0);
+}
+
 bool DateField::KeyPress(const QKeyEvent& key)
 {
     const QString before = Text();

@@ -29,11 +29,18 @@ public:
     // The date; it is a type mismatch error if the text isn't one.
     QDate Date() const;
 
+    // From now on a text that is no date isn't selected when the field takes the focus: the caret stands
+    // before it, so that the next key mends it and doesn't wipe it out.
+    void KeepForMending() { m_keepsForMending = true; }
+
 protected:
     bool KeyPress(const QKeyEvent& key) override;
     void Insert(const QString& text) override;
+    void ShowFocus(bool held) override;
 
 private:
+    bool m_keepsForMending = false;
+
     void TypeDigit(QChar digit);
     void EndPart();
     void Erase(bool backwards);

@@ -103,19 +103,6 @@ bool IsTyped(const QKeyEvent& key)
         && !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
 }
 
-// Turns digits of any script into 0 to 9, and the comma of the numeric keypad into a point.
-QString FigureOf(const QString& text, bool keypad)
-{
-    QString figures;
-    for (QChar c : text) {
-        if (c.digitValue() >= 0)
-            figures += QChar(u'0' + c.digitValue());
-        else if (c == u'.' || (keypad && c == u','))
-            figures += u'.';
-    }
-    return figures;
-}
-
 }
 
 NumberField::NumberField(Screen* screen, const char* name, Digits digits, const Handler& lostFocus)
@@ -170,6 +157,21 @@ void NumberField::SetText(const QString& text)
     TellChange(before);
 }
 
+// Turns digits of any script into 0 to 9, and the comma of the numeric keypad into a point.
+QString NumberField::FigureOf(const QString& text, bool keypad) const
+{
+    QString figures;
+    for (QChar c : text) {
+        if (c.digitValue() >= 0)
+            figures += QChar(u'0' + c.digitValue());
+        else if (c == u'.' || (keypad && c == u','))
+            figures += u'.';
+        else if (m_takesN && c == u'n')
+            figures += c;
+    }
+    return figures;
+}
+
 bool NumberField::KeyPress(const QKeyEvent& key)
 {
     if (IsEditKey(key))
@@ -200,6 +202,15 @@ ChoiceField::ChoiceField(
     , m_choices(std::move(choices))
 {
     Line().setReadOnly(true);
+    SetGuide(Shivaji(GuideTo(m_choices)));
+}
+
+QString ChoiceField::GuideTo(const std::vector<Choice>& choices)
+{
+    QStringList named;
+    for (const Choice& choice : choices)
+        named.append(choice.digit + QStringLiteral(" ¹ ") + choice.word);
+    return named.join(QStringLiteral("    "));
 }
 
 void ChoiceField::SetText(const QString& word)

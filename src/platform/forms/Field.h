@@ -64,6 +64,10 @@ public:
 
     void SetPattern(QStringView pattern) { m_pattern = pattern.toString(); }
 
+    // Takes the small letter n, too. It isn't part of the number: a text that n begins has the value 0, and
+    // Reformat drops it.
+    void TakeLetterN() { m_takesN = true; }
+
     // The number that the text begins with; 0 if it begins with none.
     double Value() const;
 
@@ -81,8 +85,11 @@ protected:
     void Insert(const QString& text) override;
 
 private:
+    QString FigureOf(const QString& text, bool keypad) const;
+
     Digits m_digits;
     QString m_pattern;
+    bool m_takesN = false;
 };
 
 // A whole number, such as that of a member.
@@ -95,7 +102,8 @@ public:
 };
 
 // A field for one of a few fixed words. A digit chooses its word, Backspace empties the field unless it is
-// locked, and all other keys are ignored.
+// locked, and all other keys are ignored. Its guide names each digit with its word, unless the screen sets
+// another.
 class ChoiceField : public Field {
 public:
     struct Choice {
@@ -104,6 +112,9 @@ public:
     };
 
     ChoiceField(Screen* screen, const char* name, std::vector<Choice> choices, const Handler& lostFocus = {});
+
+    // The guide of such a choice, as it is stored: "1 ¹ gaaya    2 ¹ mhOsa".
+    static QString GuideTo(const std::vector<Choice>& choices);
 
     // Keys can't empty a locked field.
     void SetLocked(bool locked) { m_locked = locked; }

@@ -56,9 +56,12 @@ NameCombo::NameCombo(Screen* screen, const char* name, const Handler& lostFocus)
 {
 }
 
-void NameCombo::OpenOnFocus()
+void NameCombo::OpenOnFocus(const std::function<bool()>& fill)
 {
-    GotFocus = [] { SendKeys(QStringLiteral("%{Down}")); };
+    GotFocus = [fill] {
+        if (!fill || fill())
+            SendKeys(QStringLiteral("%{Down}"));
+    };
 }
 
 void NameCombo::SetItems(const QStringList& words)

@@ -13,7 +13,7 @@
 // through it from the field, and the first name that begins with what was typed is highlighted; none while
 // the field is empty. While the list is open, Enter and Tab take the highlighted name and move on, and Esc
 // only closes the list.
-class NameCombo final : public TextField {
+class NameCombo : public TextField {
 public:
     // A name as it is stored, and the number that the list shows beside it; the number may be empty.
     struct Entry {
@@ -41,7 +41,8 @@ public:
     void DropDown(bool open);
 
     // Lets the list drop open whenever the field takes the focus, as if the clerk had pressed Alt+Down.
-    void OpenOnFocus();
+    // `fill` runs first, and returns whether the list is to open.
+    void OpenOnFocus(const std::function<bool()>& fill = {});
 
     // Replaces the beginning of a name by a name of the list: the same one apart from blanks at its ends, or
     // one that reads the same, or else the first that begins with the text. A text that no name begins with

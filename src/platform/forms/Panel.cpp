@@ -5,17 +5,25 @@
 #include <QLayout>
 
 Panel::Panel(Screen* screen, std::initializer_list<Control*> controls, std::initializer_list<Label*> labels)
-    : m_controls(controls)
+    : m_screen(screen)
+    , m_controls(controls)
     , m_labels(labels)
-    , m_frame(new QWidget(screen))
 {
 }
 
 QWidget* Panel::LaidOut(QLayout* contents)
 {
-    m_frame->setLayout(contents);
-    m_frame->setVisible(m_visible);
-    return m_frame;
+    auto* frame = new QWidget(m_screen);
+    frame->setLayout(contents);
+    SetFrame(frame);
+    return frame;
+}
+
+void Panel::SetFrame(QWidget* frame)
+{
+    m_frame = frame;
+    if (!m_visible)
+        m_frame->hide();
 }
 
 void Panel::SetVisible(bool visible)
@@ -25,6 +33,6 @@ void Panel::SetVisible(bool visible)
         control->SetVisible(visible);
     for (Label* label : m_labels)
         label->SetVisible(visible);
-    if (m_frame->layout())
+    if (m_frame)
         m_frame->setVisible(visible);
 }

@@ -16,7 +16,7 @@ void Pieces::SetInk(QWidget& widget)
 
 QLabel* Pieces::Heading(const Caption& caption, Look::Size size, bool bold)
 {
-    auto* heading = new QLabel(caption.Seen().trimmed());
+    QLabel* heading = Layout::Text(caption);
     heading->setFont(Look::Font(size, bold));
     SetInk(*heading);
     return heading;
@@ -51,6 +51,16 @@ QLayout* Pieces::Under(const Caption& caption, Field& field, int width, Look::Si
     column->addWidget(Heading(caption));
     column->addWidget(Sized(field, width, height, size, size == Look::Size::Title));
     return column;
+}
+
+QLayout* Pieces::InLine(const Caption& caption, Field& field, int width)
+{
+    return Under(caption, field, width, Look::Size::Large, LineField);
+}
+
+QLayout* Pieces::Tall(const Caption& caption, Field& field, int width)
+{
+    return Under(caption, field, width, Look::Size::Title, TallField);
 }
 
 QWidget* Pieces::Sized(Control& control, int width, int height, Look::Size size, bool bold)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/Field.h"
+#include "platform/forms/Layout.h"
 #include "platform/forms/Look.h"
 
 #include <QGridLayout>
@@ -13,11 +14,13 @@ class DataGrid;
 // Parts for screens with large fields and figures, such as the counters.
 namespace Pieces {
 
-// The heights of fields in pixels: of those in a line, and of those for the figures of the milk.
-inline constexpr int LineField = 38;
+// The heights of fields in pixels: of those where there is little room, of those in a line, and of those for
+// the figures of the milk.
+inline constexpr int NarrowField = 34;
+inline constexpr int LineField = Layout::FieldHeight;
 inline constexpr int TallField = 50;
 
-// A caption without a field, in the colour of texts.
+// A caption without a field: a Layout::Text in a size and in the colour of texts, for a panel or a sheet.
 QLabel* Heading(const Caption& caption, Look::Size size = Look::Size::Normal, bool bold = false);
 
 // Sets the colour of texts for a widget on a panel.
@@ -32,7 +35,12 @@ QFrame* Sheet();
 // A field with its caption above it; `width` in pixels, 0 for the remaining width.
 QLayout* Under(const Caption& caption, Field& field, int width, Look::Size size, int height);
 
-// Sets the height, the width (0 for the remaining width) and the type size of a control.
+// The same in the sizes of a line, and of the figures of the milk.
+QLayout* InLine(const Caption& caption, Field& field, int width);
+QLayout* Tall(const Caption& caption, Field& field, int width);
+
+// Sets the height, the width (0 for the remaining width) and the type size of a control. Fields of a form,
+// which have the type of the screen and may grow, are sized by Layout::SizeField.
 QWidget* Sized(Control& control, int width, int height, Look::Size size, bool bold = false);
 
 // Makes a label show a computed figure: right-aligned.

@@ -205,4 +205,20 @@ TEST_F(DateFieldTest, APartlyTypedDateIsNeitherEmptyNorADate)
     });
 }
 
+TEST_F(DateFieldTest, ADateThatIsRefusedIsKeptForMendingWhereTheScreenWantsIt)
+{
+    With(Make, [&](DateField& field) {
+        Entered(field, "31042026");
+        EnterAnew();
+        EXPECT_EQ(Selected(field), "31/04/2026") << "as it is without being asked";
+        Do([&] { field.KeepForMending(); });
+        EnterAnew();
+        EXPECT_EQ(Selected(field), "");
+        Type("30");
+        EXPECT_EQ(Text(field), "30/04/2026") << "the caret stands before it";
+        EnterAnew();
+        EXPECT_EQ(Selected(field), "30/04/2026") << "a date is selected";
+    });
+}
+
 }

@@ -315,4 +315,20 @@ TEST_F(NumberFieldTest, APressOfTheMouseSelectsItAllAndItsMovesChangeNothing)
     });
 }
 
+TEST_F(NumberFieldTest, ItTakesTheLetterNWhereTheScreenLetsItThrough)
+{
+    With([](Screen* screen) { return std::make_unique<NumberField>(screen, "txtUchal", u"######0.00"); },
+        [&](NumberField& field) {
+            EXPECT_EQ(Typed(field, "1n2"), "12");
+            Do([&field] { field.TakeLetterN(); });
+            EXPECT_EQ(Typed(field, "1n2Nab"), "1n2");
+            EXPECT_EQ(field.Value(), 1);
+            EXPECT_FALSE(field.HoldsNumber());
+            Do([&field] { field.Reformat(); });
+            EXPECT_EQ(Text(field), "1.00");
+            EXPECT_EQ(Typed(field, "n"), "n");
+            EXPECT_EQ(field.Value(), 0);
+        });
+}
+
 }

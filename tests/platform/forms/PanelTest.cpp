@@ -78,4 +78,39 @@ TEST_F(PanelTest, APanelThatHidesPassesTheFocusOn)
     });
 }
 
+// The field of the panel on a widget that the screen has made.
+class SheetScreen : public Screen {
+public:
+    SheetScreen() : Screen("SheetScreen")
+    {
+        Frame1.SetVisible(false);
+        Frame1.SetFrame(sheet);
+        auto* inside = new QVBoxLayout(sheet);
+        inside->addWidget(txtInside.Widget());
+        auto* column = new QVBoxLayout(this);
+        column->addWidget(txtBefore.Widget());
+        column->addWidget(sheet);
+    }
+
+    QWidget* sheet = new QWidget(this);
+    PlainField txtBefore{this, "txtBefore"};
+    PlainField txtInside{this, "txtInside"};
+    Panel Frame1{this, {&txtInside}};
+};
+
+TEST_F(PanelTest, TheScreensOwnWidgetGoesAndComesWithIt)
+{
+    Open<SheetScreen>([](SheetScreen&) {},
+        [&](SheetScreen& screen) {
+            EXPECT_FALSE(screen.sheet->isVisible());
+            Do([&] { screen.Frame1.SetVisible(true); });
+            EXPECT_TRUE(screen.sheet->isVisible());
+            EXPECT_TRUE(screen.txtInside.Widget()->isVisible());
+            EXPECT_EQ(screen.Frame1.Controls(), std::vector<Control*>{&screen.txtInside});
+            Do([&] { screen.Frame1.SetVisible(false); });
+            EXPECT_FALSE(screen.sheet->isVisible());
+        });
+    EXPECT_FALSE(Failure);
+}
+
 }
