@@ -1,6 +1,5 @@
 #include "core/menu/MainMenu.h"
 
-#include "core/menu/Keys.h"
 #include "platform/forms/Look.h"
 
 #include <QLabel>

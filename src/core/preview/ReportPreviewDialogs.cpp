@@ -1,6 +1,5 @@
 #include "core/preview/ReportPreviewDialogs.h"
 
-#include "core/menu/Keys.h"
 #include "core/messages/Messages.h"
 #include "core/preview/ReportSubject.h"
 
@@ -33,6 +32,12 @@ QString ProposedName(const QString& report, const QString& subject)
 
 }
 
+Keys::Places frmReportFile::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {{QStringLiteral("frmReportFile"), Plain(u"रिपोर्टची फाइल जतन करणे"), {Next, Back, Leave}}};
+}
+
 frmReportFile::frmReportFile(const QString& report, const QString& subject, const QString& ending)
     : Screen("frmReportFile", Shape::Card)
     , m_ending(u'.' + ending)
@@ -53,7 +58,7 @@ void frmReportFile::BuildWindow()
     body->setSpacing(18);
     body->addLayout(form.Grid());
     body->addLayout(Layout::ButtonRow({&cmdSave, &cmdExit}));
-    Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(Name())));
+    Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(KeyPlaces(), Name())));
     setMinimumWidth(DialogWidth);
 }
 
@@ -96,6 +101,13 @@ void frmReportFile::cmdExit_Click()
     Close();
 }
 
+Keys::Places frmReportPrinter::KeyPlaces()
+{
+    return {{QStringLiteral("frmReportPrinter"), Plain(u"प्रिंटर निवडणे"),
+        {{QStringLiteral("Enter"), Plain(u"निवडा")}, {QStringLiteral("↑ ↓"), Plain(u"वर-खाली")},
+            KeyHints::Leave}}};
+}
+
 frmReportPrinter::frmReportPrinter(const QStringList& printers) : Screen("frmReportPrinter", Shape::Card)
 {
     SetTitleLabel(lblTitle);
@@ -110,7 +122,7 @@ frmReportPrinter::frmReportPrinter(const QStringList& printers) : Screen("frmRep
 
     auto* body = new QVBoxLayout;
     body->addWidget(lstPrinters.Widget());
-    Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(Name())));
+    Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(KeyPlaces(), Name())));
     setMinimumWidth(DialogWidth);
 }
 

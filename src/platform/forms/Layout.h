@@ -5,12 +5,31 @@
 #include <QGridLayout>
 
 #include <initializer_list>
+#include <vector>
+
+// The functions of the screen that answer the keys of a hint, one for each key in their order; none if a
+// control or the focus answers them.
+class KeyHandlers {
+public:
+    KeyHandlers() = default;
+    KeyHandlers(const Handler& only) : m_handlers{only} { }
+    template <class S> KeyHandlers(void (S::*only)()) : m_handlers{Handler(only)} { }
+    KeyHandlers(std::initializer_list<Handler> handlers) : m_handlers(handlers) { }
+
+    bool AreNone() const { return m_handlers.empty(); }
+
+    // That of a key of the hint, counted from 0; there must be one.
+    const Handler& Of(std::size_t key) const { return m_handlers.at(key); }
+
+private:
+    std::vector<Handler> m_handlers;
+};
 
 // A key and what it does, for the strip at the bottom of a screen.
 struct KeyHint {
-    QString key; // "F2", "Esc"
+    QString key; // "F2", "Ctrl+PgDn"; several of one meaning with blanks between, "↑ ↓"
     Caption action;
-    Handler pressed = {}; // the handler of the screen; empty if a control handles the key
+    KeyHandlers pressed = {};
     bool lit = true; // whether it does something now; if not, it is shown in a dull colour
 };
 
