@@ -19,7 +19,7 @@ frmNarrations::frmNarrations(const Caption& prompt) : Screen("frmNarrations", Sh
     lblMessage.SetCaption(prompt);
     txtNarration.SetAccessibleName(prompt);
     lblMessage.Widget()->setFont(Look::Font(Look::Size::Large, true));
-    Layout::SizeField(txtNarration, 560);
+    Layout::SizeField(txtNarration, Layout::LineWidth);
 
     auto* body = new QVBoxLayout;
     body->setSpacing(14);

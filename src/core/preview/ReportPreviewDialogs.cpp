@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr int DialogWidth = 760;
 constexpr int ListHeight = 220;
 
 // The clerk's documents, or the home folder on a machine that has none.
@@ -59,7 +58,7 @@ void frmReportFile::BuildWindow()
     body->addLayout(form.Grid());
     body->addLayout(Layout::ButtonRow({&cmdSave, &cmdExit}));
     Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(KeyPlaces(), Name())));
-    setMinimumWidth(DialogWidth);
+    setMinimumWidth(Layout::WideCard.width());
 }
 
 // If the name is a whole path, the folder doesn't count.
@@ -123,7 +122,7 @@ frmReportPrinter::frmReportPrinter(const QStringList& printers) : Screen("frmRep
     auto* body = new QVBoxLayout;
     body->addWidget(lstPrinters.Widget());
     Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(KeyPlaces(), Name())));
-    setMinimumWidth(DialogWidth);
+    setMinimumWidth(Layout::WideCard.width());
 }
 
 void frmReportPrinter::lstPrinters_Chosen()

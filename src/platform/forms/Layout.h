@@ -3,6 +3,7 @@
 #include "platform/forms/Control.h"
 
 #include <QGridLayout>
+#include <QSize>
 
 #include <initializer_list>
 #include <vector>
@@ -43,6 +44,20 @@ inline constexpr int Roomy = 14;
 // The widths of a date and of a name that is asked for by itself.
 inline constexpr int DateWidth = 150;
 inline constexpr int NameWidth = 420;
+
+// The least size of a card: one that asks for a single thing, one that greets, one that is read or asks for
+// more.
+inline constexpr QSize SmallCard(520, 320);
+inline constexpr QSize GreetingCard(640, 400);
+inline constexpr QSize WideCard(760, 420);
+
+// On a card: the least room of a message, a line of text that is asked for, and a date that stands alone.
+inline constexpr QSize MessageRoom(560, 120);
+inline constexpr int LineWidth = 560;
+inline constexpr QSize LoneDate(220, 56);
+
+// The list of the main menu, which shows its six entries.
+inline constexpr QSize MainList(400, 246);
 
 // A text that names something or stands for itself. No '&' in it marks a letter.
 QLabel* Text(const Caption& caption, Qt::Alignment align = Qt::AlignLeft, bool bold = false);
