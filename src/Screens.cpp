@@ -5,8 +5,9 @@
 #include "collection/frmDailyCollection.h"
 #include "collection/frmMilkCollections.h"
 #include "collection/frmSearchCollections.h"
-#include "core/menu/Keys.h"
 #include "core/menu/ScreenDirectory.h"
+#include "core/preview/ReportPreview.h"
+#include "core/preview/ReportPreviewDialogs.h"
 #include "masters/frmMembers.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
@@ -34,7 +35,9 @@ void RegisterScreens()
     Register<frmDailyCollection>();
     Register<frmSearchCollections>();
     Register<frmAbsenseMemberCollection>();
-    Keys::Add(Keys::OfPreview());
+    Keys::Add(frmReportPreview::KeyPlaces());
+    Keys::Add(frmReportFile::KeyPlaces());
+    Keys::Add(frmReportPrinter::KeyPlaces());
     Register<frmReportMilkPS>();
     Register<frmReportMilkCollections>();
     Register<frmReportMembersList>();

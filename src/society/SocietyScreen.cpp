@@ -68,12 +68,12 @@ QString SocietyScreen::PlaceOf(const Control& field) const
 
 KeyHint SocietyScreen::CalculatorKey()
 {
-    return {QStringLiteral("F2"), Shivaji(u"k^la@yaulaoTr"), &SocietyScreen::StartCalculator};
+    return CommonKeys::CalculatorKey(&SocietyScreen::StartCalculator);
 }
 
 KeyHint SocietyScreen::TutorKey()
 {
-    return {QStringLiteral("F12"), Shivaji(u"kIbaaoD- TyaUTr"), &SocietyScreen::ShowTutor};
+    return CommonKeys::TutorKey(&SocietyScreen::ShowTutor);
 }
 
 void SocietyScreen::StartCalculator()
@@ -86,10 +86,15 @@ void SocietyScreen::ShowTutor()
     CommonKeys::Tutor();
 }
 
-bool SocietyScreen::KeyDown(const QKeyEvent& key)
+QString SocietyScreen::PlaceOfFocus() const
 {
     const Control* field = FocusHolder();
-    const QString held = field && field->CanTakeFocus() ? PlaceOf(*field) : Name();
+    return field && field->CanTakeFocus() ? PlaceOf(*field) : Name();
+}
+
+bool SocietyScreen::KeyDown(const QKeyEvent& key)
+{
+    const QString held = PlaceOfFocus();
     for (const Keys::Place& place : m_keys)
         if (place.name == held && Keys::Answer(*this, place.keys, key))
             return true;

@@ -45,7 +45,11 @@ protected:
     static KeyHint CalculatorKey();
     static KeyHint TutorKey();
 
-    // Answers the keys of the field in focus first, then those of the screen.
+    // The place whose keys are answered before those of the screen: the field in focus. A screen may name
+    // another, such as several fields together.
+    virtual QString PlaceOfFocus() const;
+
+    // Answers the keys of PlaceOfFocus first, then those of the screen.
     bool KeyDown(const QKeyEvent& key) override;
 
     // Esc: empties the fields and closes.

@@ -7,9 +7,10 @@
 #include "society/ReceiptLayouts.h"
 #include "society/Words.h"
 
-#include <QKeyEvent>
-
 namespace {
+
+constexpr QStringView PaymentPlace = u"frmAutoSettings.Payment";
+constexpr QStringView SalePlace = u"frmAutoSettings.Sale";
 
 QStringList YesNo()
 {
@@ -50,17 +51,17 @@ Keys::Places frmAutoSettings::KeyPlaces()
     using namespace KeyHints;
     return {
         {QStringLiteral("frmAutoSettings"), Shivaji(u"Aa^Tao saoTIMgja"),
-            {Next, Back, {QStringLiteral("Ctrl+PgDn"), Plain(u"पुढचे पान")},
-                {QStringLiteral("Ctrl+PgUp"), Plain(u"मागचे पान")}, {QStringLiteral("Alt+↓"), Plain(u"यादी")},
-                {QStringLiteral("1 2 3 …"), Plain(u"निवडा")}, Tick, ChooseOption, Save, Cancel, ExitButton,
-                Leave}},
+            {Next, Back, {QStringLiteral("Ctrl+PgDn"), Plain(u"पुढचे पान"), &frmAutoSettings::TurnToNextPage},
+                {QStringLiteral("Ctrl+PgUp"), Plain(u"मागचे पान"), &frmAutoSettings::TurnToPreviousPage},
+                {QStringLiteral("Alt+↓"), Plain(u"यादी")}, {QStringLiteral("1 2 3 …"), Plain(u"निवडा")}, Tick,
+                ChooseOption, Save, Cancel, ExitButton, Leave}},
         {QStringLiteral("frmAutoSettings.cmdReceipt"), Plain(u"ऑटो सेटींग्ज, संकलनाच्या पानावर"),
             {{QStringLiteral("Shift+Tab"), Plain(u"पहिल्या प्रश्नावरून पावती प्रकाराच्या बटणावर")},
                 {QStringLiteral("Enter"), Plain(u"बटणावर : नमुना पावती")}}},
-        {QStringLiteral("frmAutoSettings.Payment"), Plain(u"ऑटो सेटींग्ज, पेमेंटच्या पानावर, ठेव कपातीत"),
-            {{QStringLiteral("↓"), Plain(u"दराचा प्रकार व पुढील प्रश्न")}}},
-        {QStringLiteral("frmAutoSettings.Sale"), Plain(u"ऑटो सेटींग्ज, दूध विक्रीच्या पानावर"),
-            {{QStringLiteral("↓"), Shivaji(u"ivaËI pavatIÀip`MT")}}},
+        {PaymentPlace.toString(), Plain(u"ऑटो सेटींग्ज, पेमेंटच्या पानावर, ठेव कपातीत"),
+            {{QStringLiteral("↓"), Plain(u"दराचा प्रकार व पुढील प्रश्न"), &frmAutoSettings::GoToRestOfPayments}}},
+        {SalePlace.toString(), Plain(u"ऑटो सेटींग्ज, दूध विक्रीच्या पानावर"),
+            {{QStringLiteral("↓"), Shivaji(u"ivaËI pavatIÀip`MT"), &frmAutoSettings::GoToReceiptOfSales}}},
     };
 }
 
@@ -139,24 +140,15 @@ void frmAutoSettings::ShowSettings(const Recordset& settings)
 
 // Keys and pages
 
-bool frmAutoSettings::KeyDown(const QKeyEvent& key)
-{
-    return SSTab.TurnPage(key) || GoBeyondThePageTurn(key);
-}
-
 // The last figure of a page leads on to another page. So the fields below it are reached with a key of their
 // own: the rest of the payments, and the receipt of the sales.
-bool frmAutoSettings::GoBeyondThePageTurn(const QKeyEvent& key)
+QString frmAutoSettings::PlaceOfFocus() const
 {
-    if (key.key() != Qt::Key_Down)
-        return false;
     if (SSTab.Tab() == Sale && !ComboMSRPrintStatus.HasFocus())
-        ComboMSRPrintStatus.SetFocus();
-    else if (SSTab.Tab() == Payment && (SSTab.HasFocus() || txtCow.HasFocus() || txtBuff.HasFocus()))
-        cmbFatRateType.SetFocus();
-    else
-        return false;
-    return true;
+        return SalePlace.toString();
+    if (SSTab.Tab() == Payment && (SSTab.HasFocus() || txtCow.HasFocus() || txtBuff.HasFocus()))
+        return PaymentPlace.toString();
+    return SocietyScreen::PlaceOfFocus();
 }
 
 void frmAutoSettings::SSTab_Click()

@@ -23,7 +23,7 @@ public:
 
 protected:
     void Load() override;
-    bool KeyDown(const QKeyEvent& key) override;
+    QString PlaceOfFocus() const override;
 
 private:
     enum Pages { Collection, Payment, Sale };
@@ -77,7 +77,10 @@ private:
     QLayout* SalePage();
     void SetGuides();
     void ShowTabGuide();
-    bool GoBeyondThePageTurn(const QKeyEvent& key);
+    void TurnToNextPage() { SSTab.TurnToNext(); }
+    void TurnToPreviousPage() { SSTab.TurnToPrevious(); }
+    void GoToRestOfPayments() { cmbFatRateType.SetFocus(); }
+    void GoToReceiptOfSales() { ComboMSRPrintStatus.SetFocus(); }
 
     void SSTab_Click();
     void CheckCNP_Click();

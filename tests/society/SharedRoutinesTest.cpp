@@ -1,6 +1,7 @@
 #include "tests/support/SocietyTest.h"
 
 #include "core/menu/CommonKeys.h"
+#include "core/menu/Keys.h"
 #include "platform/forms/DateField.h"
 #include "platform/forms/NameCombo.h"
 #include "society/FieldRoutines.h"
@@ -23,8 +24,14 @@ public:
 
     bool KeyDown(const QKeyEvent& key) override
     {
-        return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
+        return Keys::Answer(*this,
+            {CommonKeys::CalculatorKey(&frmProbe::StartCalculator),
+                CommonKeys::TutorKey(&frmProbe::ShowTutor)},
+            key);
     }
+
+    void StartCalculator() { CommonKeys::Calculator(); }
+    void ShowTutor() { CommonKeys::Tutor(); }
 };
 
 using SharedRoutinesTest = SocietyTest;

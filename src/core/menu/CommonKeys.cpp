@@ -5,8 +5,6 @@
 #include "platform/shell/AppFolder.h"
 #include "platform/shell/World.h"
 
-#include <QKeyEvent>
-
 void CommonKeys::Calculator(bool maximised)
 {
     if (!World::Current().calculator->Start(AppFolder.toString() + u"calc.EXE", maximised))
@@ -19,16 +17,12 @@ void CommonKeys::Tutor()
     tutor.ShowModal();
 }
 
-bool CommonKeys::Calculator(const QKeyEvent& key)
+KeyHint CommonKeys::CalculatorKey(const Handler& pressed)
 {
-    if (key.key() == Qt::Key_F2)
-        Calculator();
-    return key.key() == Qt::Key_F2;
+    return {QStringLiteral("F2"), Shivaji(u"k^la@yaulaoTr"), pressed};
 }
 
-bool CommonKeys::Tutor(const QKeyEvent& key)
+KeyHint CommonKeys::TutorKey(const Handler& pressed)
 {
-    if (key.key() == Qt::Key_F12)
-        Tutor();
-    return key.key() == Qt::Key_F12;
+    return {QStringLiteral("F12"), Shivaji(u"kIbaaoD- TyaUTr"), pressed};
 }

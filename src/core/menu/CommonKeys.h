@@ -1,6 +1,6 @@
 #pragma once
 
-class QKeyEvent;
+#include "platform/forms/Layout.h"
 
 // What F2 and F12 do on every screen that has them.
 namespace CommonKeys {
@@ -12,8 +12,8 @@ void Calculator(bool maximised = true);
 // F12: the keyboard tutor.
 void Tutor();
 
-// The same, but only if that key was pressed; returns whether it was.
-bool Calculator(const QKeyEvent& key);
-bool Tutor(const QKeyEvent& key);
+// The two keys among those of a screen, whose functions call the above.
+KeyHint CalculatorKey(const Handler& pressed);
+KeyHint TutorKey(const Handler& pressed);
 
 }

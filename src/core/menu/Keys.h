@@ -5,7 +5,7 @@
 class QKeyEvent;
 
 // Every key is declared once: the strip at the foot of a screen, the printed key sheet, the guide lines and
-// the dispatch come from that line. A screen declares its own keys; those of the core's screens are here.
+// the dispatch come from that line. A screen declares its own keys.
 namespace Keys {
 
 // A place where keys do something: a screen, or one of its fields.
@@ -34,11 +34,10 @@ Caption Action(const QString& place, QStringView key);
 Caption Guide(const std::vector<KeyHint>& keys);
 Caption Guide(const QString& place);
 
-// Runs the handler of the key that was pressed; false if it is none of these, or one without a handler.
+// Runs the handler of the key that was pressed; false if it is none of these, or one without a handler. Ctrl,
+// Alt and Shift count only where a hint names them; of two that were pressed the one that names them is
+// meant.
 bool Answer(Screen& screen, const std::vector<KeyHint>& keys, const QKeyEvent& pressed);
-
-// The places of the preview, which stand on the sheet before those of the screens that open it.
-const Places& OfPreview();
 
 }
 

@@ -1,7 +1,6 @@
 #include "core/menu/MainMenu.h"
 
 #include "core/menu/CommonKeys.h"
-#include "core/menu/Keys.h"
 #include "core/menu/MenuEntries.h"
 #include "core/menu/ScreenDirectory.h"
 #include "core/messages/Messages.h"
@@ -37,6 +36,18 @@ bool ShowsTransport()
         && settings[u"ShowTransportCharges"].Text() == u"True";
 }
 
+}
+
+Keys::Place MainMenuFrm::KeyPlace()
+{
+    return {QStringLiteral("MainMenuFrm"), Shivaji(u"maona maonaU"),
+        {{QStringLiteral("Enter"), Plain(u"निवडा")}, KeyHints::Leave,
+            CommonKeys::CalculatorKey(&MainMenuFrm::StartCalculator),
+            {QStringLiteral("F4"), Shivaji(u"]cala naaoMd"), &MainMenuFrm::ShowAdvances},
+            {QStringLiteral("F7"), Shivaji(u"Aa^Tao saoTIMgja"), &MainMenuFrm::ShowSettings},
+            {QStringLiteral("F8"), Shivaji(u"dUQa saMklana"), &MainMenuFrm::ShowCounter},
+            {QStringLiteral("F9"), Shivaji(u"dUQa ivaËI"), {}, false},
+            CommonKeys::TutorKey(&MainMenuFrm::ShowTutor)}};
 }
 
 MainMenuFrm::MainMenuFrm() : Screen("MainMenuFrm")
@@ -90,22 +101,36 @@ void MainMenuFrm::Shown()
     m_day.Show();
 }
 
-// The function keys ignore the access flags.
+// Keys. The function keys ignore the access flags.
+
 bool MainMenuFrm::KeyDown(const QKeyEvent& key)
 {
-    switch (key.key()) {
-    case Qt::Key_F4:
-        OpenScreen(QStringLiteral("frmUchalVouchers"), Keys::Action(Name(), u"F4"));
-        return true;
-    case Qt::Key_F7:
-        OpenScreen(QStringLiteral("frmAutoSettings"), Keys::Action(Name(), u"F7"));
-        return true;
-    case Qt::Key_F8:
-        OpenScreen(QStringLiteral("frmCollectionGate"), Keys::Action(Name(), u"F8"));
-        return true;
-    default:
-        return CommonKeys::Calculator(key) || CommonKeys::Tutor(key);
-    }
+    return Keys::Answer(*this, Keys::Of(Name()), key);
+}
+
+void MainMenuFrm::StartCalculator()
+{
+    CommonKeys::Calculator();
+}
+
+void MainMenuFrm::ShowAdvances()
+{
+    OpenScreen(QStringLiteral("frmUchalVouchers"), Keys::Action(Name(), u"F4"));
+}
+
+void MainMenuFrm::ShowSettings()
+{
+    OpenScreen(QStringLiteral("frmAutoSettings"), Keys::Action(Name(), u"F7"));
+}
+
+void MainMenuFrm::ShowCounter()
+{
+    OpenScreen(QStringLiteral("frmCollectionGate"), Keys::Action(Name(), u"F8"));
+}
+
+void MainMenuFrm::ShowTutor()
+{
+    CommonKeys::Tutor();
 }
 
 void MainMenuFrm::Enter()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/menu/DayAtAGlance.h"
+#include "core/menu/Keys.h"
 #include "platform/forms/MenuList.h"
 #include "platform/forms/Screen.h"
 
@@ -11,6 +12,8 @@
 class MainMenuFrm final : public Screen {
 public:
     MainMenuFrm();
+
+    static Keys::Place KeyPlace();
 
 private:
     Label lblTitle{this, "lblTitle"};
@@ -41,6 +44,12 @@ private:
     void Enter() override;
     void Tab() override;
     void Escape() override;
+
+    void StartCalculator();
+    void ShowAdvances();
+    void ShowSettings();
+    void ShowCounter();
+    void ShowTutor();
 
     void FillLists();
     void ListMain_GotFocus();

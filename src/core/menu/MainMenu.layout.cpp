@@ -1,17 +1,9 @@
 #include "core/menu/MainMenu.h"
 
-#include "core/menu/Keys.h"
 #include "platform/forms/Look.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
-
-namespace {
-
-constexpr int MainWidth = 400;
-constexpr int MainHeight = 246; // of the six entries
-
-}
 
 void MainMenuFrm::LayOut()
 {
@@ -20,8 +12,8 @@ void MainMenuFrm::LayOut()
     ListMain.SetAccessibleName(lblMenu.Shown());
     lblMenu.Widget()->setFont(Look::Font(Look::Size::Large, true));
     ListMain.Widget()->setFont(Look::Font(Look::Size::Large));
-    ListMain.Widget()->setFixedSize(MainWidth, MainHeight);
-    m_day.setFixedWidth(MainWidth);
+    ListMain.Widget()->setFixedSize(Layout::MainList);
+    m_day.setFixedWidth(Layout::MainList.width());
     auto* main = new QVBoxLayout;
     main->setSpacing(12);
     main->addWidget(lblMenu.Widget());

@@ -25,7 +25,7 @@ frmMessages::frmMessages(Mode mode, const Caption& message, OnEnter onEnter)
     text->setFont(Look::Font(Look::Size::Large, true));
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignCenter);
-    text->setMinimumSize(560, 120);
+    text->setMinimumSize(Layout::MessageRoom);
 
     auto* body = new QVBoxLayout;
     body->addWidget(text, 1);

@@ -1,11 +1,17 @@
 #include "core/messages/Narrations.h"
 
 #include "core/menu/CommonKeys.h"
-#include "core/menu/Keys.h"
 #include "platform/forms/Look.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
+
+Keys::Place frmNarrations::KeyPlace()
+{
+    using namespace KeyHints;
+    return {QStringLiteral("frmNarrations"), Plain(u"टीप"),
+        {Next, Leave, CommonKeys::TutorKey(&frmNarrations::ShowTutor)}};
+}
 
 frmNarrations::frmNarrations(const Caption& prompt) : Screen("frmNarrations", Shape::Card)
 {
@@ -13,7 +19,7 @@ frmNarrations::frmNarrations(const Caption& prompt) : Screen("frmNarrations", Sh
     lblMessage.SetCaption(prompt);
     txtNarration.SetAccessibleName(prompt);
     lblMessage.Widget()->setFont(Look::Font(Look::Size::Large, true));
-    Layout::SizeField(txtNarration, 560);
+    Layout::SizeField(txtNarration, Layout::LineWidth);
 
     auto* body = new QVBoxLayout;
     body->setSpacing(14);
@@ -25,7 +31,12 @@ frmNarrations::frmNarrations(const Caption& prompt) : Screen("frmNarrations", Sh
 
 bool frmNarrations::KeyDown(const QKeyEvent& key)
 {
-    return CommonKeys::Tutor(key);
+    return Keys::Answer(*this, Keys::Of(Name()), key);
+}
+
+void frmNarrations::ShowTutor()
+{
+    CommonKeys::Tutor();
 }
 
 void frmNarrations::Escape()

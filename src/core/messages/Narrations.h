@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/menu/Keys.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/Screen.h"
 #include "platform/forms/TextField.h"
@@ -8,6 +9,8 @@
 class frmNarrations final : public Screen {
 public:
     explicit frmNarrations(const Caption& prompt);
+
+    static Keys::Place KeyPlace();
 
     // What was typed, set when the field is left or the button is pressed.
     QString Narration;
@@ -19,6 +22,7 @@ private:
 
     bool KeyDown(const QKeyEvent& key) override;
     void Escape() override;
+    void ShowTutor();
     void txtNarration_LostFocus();
     void cmdExit_Click();
 };

@@ -16,18 +16,45 @@ namespace {
 
 constexpr int SliceMilliseconds = 8; // of laying out before keys are looked at again
 
-bool IsControl(const QKeyEvent& key, Qt::Key letter)
+// A character or a move of the caret, which a field needs for typing.
+bool IsForTyping(const QKeyEvent& key)
 {
-    return key.key() == letter && key.modifiers().testFlag(Qt::ControlModifier);
+    const bool isCharacter = key.key() < Qt::Key_Escape;
+    return isCharacter || (key.key() >= Qt::Key_Home && key.key() <= Qt::Key_Down);
 }
 
+}
+
+Keys::Places frmReportPreview::KeyPlaces()
+{
+    using S = frmReportPreview;
+    return {
+        {PagePlace.toString(), Plain(u"रिपोर्ट, पाने पाहताना"),
+            {{QStringLiteral("PgDn"), Plain(u"पुढे"), &S::WindowDown},
+                {QStringLiteral("PgUp"), Plain(u"मागे"), &S::WindowUp},
+                {QStringLiteral("Home"), Plain(u"पहिले"), &S::FirstPage},
+                {QStringLiteral("End"), Plain(u"शेवटचे"), &S::LastPage},
+                {QStringLiteral("↑ ↓ ← →"), Plain(u"सरकवा"), {&S::Up, &S::Down, &S::Left, &S::Right}},
+                {QStringLiteral("+"), Plain(u"मोठे"), &S::Enlarge},
+                {QStringLiteral("−"), Plain(u"लहान"), &S::Reduce},
+                {QStringLiteral("F5"), Plain(u"रुंदीभर"), &S::FitWidth},
+                {QStringLiteral("F6"), Plain(u"पूर्ण पान"), &S::FitPage},
+                {QStringLiteral("F7"), Plain(u"100 %"), &S::FullSize}}},
+        {QStringLiteral("frmReportPreview"), Plain(u"रिपोर्ट पाहणे"),
+            {{QStringLiteral("Ctrl+P"), Plain(u"छापा"), &S::Print},
+                {QStringLiteral("Ctrl+F"), Plain(u"शोधा"), &S::AskForWords},
+                {QStringLiteral("F3"), Plain(u"पुढे शोधा"), &S::FindNextHit},
+                {QStringLiteral("Shift+F3"), Plain(u"मागे शोधा"), &S::FindPreviousHit},
+                {QStringLiteral("Ctrl+S"), Plain(u"PDF जतन"), &S::SavePdf},
+                {QStringLiteral("Ctrl+E"), Plain(u"CSV जतन"), &S::SaveCsv},
+                CommonKeys::TutorKey(&S::ShowTutor), KeyHints::Leave}},
+    };
 }
 
 frmReportPreview::frmReportPreview(std::shared_ptr<Report> report)
     : Screen("frmReportPreview")
     , m_report(std::move(report))
 {
-    picPage.KeyDown = [this](const QKeyEvent& key) { return PageKey(key); };
     BuildWindow();
 }
 
@@ -98,88 +125,20 @@ void frmReportPreview::TellState(const QString& text)
 
 // Keys
 
+// In the search, what a field needs for typing doesn't move the page.
 bool frmReportPreview::KeyDown(const QKeyEvent& key)
 {
-    if (!CommandKey(key) && !SizeKey(key))
-        return CommonKeys::Tutor(key);
+    const bool isTyped = txtSearch.HasFocus() && IsForTyping(key);
+    if (!Keys::Answer(*this, Keys::Of(m_keys, Name()), key)
+        && (isTyped || !Keys::Answer(*this, Keys::Of(m_keys, PagePlace.toString()), key)))
+        return false;
     ShowPosition();
     return true;
 }
 
-bool frmReportPreview::CommandKey(const QKeyEvent& key)
+void frmReportPreview::ShowTutor()
 {
-    if (IsControl(key, Qt::Key_F))
-        txtSearch.SetFocus();
-    else if (IsControl(key, Qt::Key_P))
-        Print();
-    else if (IsControl(key, Qt::Key_S))
-        Save(QStringLiteral("pdf"), &Report::SavePdf);
-    else if (IsControl(key, Qt::Key_E))
-        Save(QStringLiteral("csv"), &Report::SaveCsv);
-    else if (key.key() == Qt::Key_F3)
-        FindNext(key.modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1);
-    else
-        return false;
-    return true;
-}
-
-bool frmReportPreview::SizeKey(const QKeyEvent& key)
-{
-    switch (key.key()) {
-    case Qt::Key_F5:
-        picPage.SetFit(ReportPageView::Fit::Width);
-        return true;
-    case Qt::Key_F6:
-        picPage.SetFit(ReportPageView::Fit::WholePage);
-        return true;
-    case Qt::Key_F7:
-        picPage.SetPercent(100);
-        return true;
-    case Qt::Key_PageDown:
-        Down(ReportPageView::StepsOfWindow);
-        return true;
-    case Qt::Key_PageUp:
-        Up(ReportPageView::StepsOfWindow);
-        return true;
-    default:
-        return false;
-    }
-}
-
-// The keys that a field needs for typing.
-bool frmReportPreview::PageKey(const QKeyEvent& key)
-{
-    switch (key.key()) {
-    case Qt::Key_Home:
-        GoTo(0);
-        break;
-    case Qt::Key_End:
-        LastPage();
-        break;
-    case Qt::Key_Down:
-        Down(1);
-        break;
-    case Qt::Key_Up:
-        Up(1);
-        break;
-    case Qt::Key_Right:
-        picPage.Scroll(1, 0);
-        break;
-    case Qt::Key_Left:
-        picPage.Scroll(-1, 0);
-        break;
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-        picPage.Enlarge();
-        break;
-    case Qt::Key_Minus:
-        picPage.Reduce();
-        break;
-    default:
-        return false;
-    }
-    ShowPosition();
-    return true;
+    CommonKeys::Tutor();
 }
 
 // Esc leaves the search first.
@@ -224,15 +183,13 @@ void frmReportPreview::PreviousPage()
         GoTo(picPage.Page() - 1, ReportPageView::Edge::Bottom);
 }
 
-void frmReportPreview::Down(int steps)
+void frmReportPreview::Scroll(int steps)
 {
-    if (!picPage.Scroll(0, steps))
+    if (picPage.Scroll(0, steps))
+        return;
+    if (steps > 0)
         NextPage();
-}
-
-void frmReportPreview::Up(int steps)
-{
-    if (!picPage.Scroll(0, -steps))
+    else
         PreviousPage();
 }
 

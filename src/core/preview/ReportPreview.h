@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/menu/Keys.h"
 #include "core/preview/ReportPreviewPage.h"
 #include "platform/forms/Screen.h"
 #include "platform/forms/TextField.h"
@@ -13,6 +14,9 @@ public:
     // The report's first page has to be laid out already.
     explicit frmReportPreview(std::shared_ptr<Report> report);
     ~frmReportPreview() override;
+
+    // Those to look at the pages, and those of the screen.
+    static Keys::Places KeyPlaces();
 
 private:
     // What is done as soon as the last page is laid out.
@@ -28,15 +32,14 @@ private:
     TextField txtSearch{this, "txtSearch"};
     Label lblState{this, "lblState"};
 
+    static constexpr QStringView PagePlace = u"frmReportPreview.page";
+
     void BuildWindow();
+    QWidget* KeyStrips() const;
     void Shown() override;
     bool KeyDown(const QKeyEvent& key) override;
     void Escape() override;
     void Enter() override;
-
-    bool CommandKey(const QKeyEvent& key);
-    bool SizeKey(const QKeyEvent& key);
-    bool PageKey(const QKeyEvent& key);
 
     void LayOutMore();
     void Complete();
@@ -47,14 +50,28 @@ private:
     void GoTo(std::size_t number, ReportPageView::Edge edge = ReportPageView::Edge::Top);
     void NextPage();
     void PreviousPage();
-
-    // Scrolls the page; at its edge, turns it.
-    void Down(int steps);
-    void Up(int steps);
-
+    void FirstPage() { GoTo(0); }
     void LastPage();
 
+    // Scrolls the page; at its edge, turns it.
+    void Scroll(int steps);
+    void WindowDown() { Scroll(ReportPageView::StepsOfWindow); }
+    void WindowUp() { Scroll(-ReportPageView::StepsOfWindow); }
+    void Down() { Scroll(1); }
+    void Up() { Scroll(-1); }
+    void Left() { picPage.Scroll(-1, 0); }
+    void Right() { picPage.Scroll(1, 0); }
+
+    void Enlarge() { picPage.Enlarge(); }
+    void Reduce() { picPage.Reduce(); }
+    void FitWidth() { picPage.SetFit(ReportPageView::Fit::Width); }
+    void FitPage() { picPage.SetFit(ReportPageView::Fit::WholePage); }
+    void FullSize() { picPage.SetPercent(100); }
+
+    void AskForWords() { txtSearch.SetFocus(); }
     void Search();
+    void FindNextHit() { FindNext(1); }
+    void FindPreviousHit() { FindNext(-1); }
     void FindNext(int step);
     void RefreshHits();
     void ShowHit(std::size_t hit);
@@ -62,8 +79,13 @@ private:
     bool HitIsShown() const;
 
     void Print();
+    void SavePdf() { Save(QStringLiteral("pdf"), &Report::SavePdf); }
+    void SaveCsv() { Save(QStringLiteral("csv"), &Report::SaveCsv); }
     void Save(const QString& ending, Outcome (Report::*save)(const QString&));
 
+    void ShowTutor();
+
+    const Keys::Places m_keys = KeyPlaces();
     Awaited m_awaited = Awaited::Nothing;
     bool m_toldComplete = false;
     QString m_searched; // as it is stored

@@ -1,25 +1,21 @@
 #include "core/preview/ReportPreview.h"
-#include "core/menu/Keys.h"
+
 #include "platform/forms/Look.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-namespace {
-
 // Two rows of keys: how to look at the report, and what can be done with it.
-QWidget* KeyStrips(const QString& screen)
+QWidget* frmReportPreview::KeyStrips() const
 {
     auto* rows = new QWidget;
     rows->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto* stack = new QVBoxLayout(rows);
     stack->setContentsMargins(0, 0, 0, 0);
     stack->setSpacing(0);
-    stack->addWidget(Layout::KeyStrip(Keys::Of(screen + QStringLiteral(".page"))));
-    stack->addWidget(Layout::KeyStrip(Keys::Of(screen)));
+    stack->addWidget(Layout::KeyStrip(Keys::Of(m_keys, PagePlace.toString())));
+    stack->addWidget(Layout::KeyStrip(Keys::Of(m_keys, Name())));
     return rows;
-}
-
 }
 
 void frmReportPreview::BuildWindow()
@@ -44,6 +40,6 @@ void frmReportPreview::BuildWindow()
     body->setSpacing(6);
     body->addLayout(search);
     body->addWidget(picPage.Widget(), 1);
-    Layout::Stack(*this, header, body, KeyStrips(Name()));
+    Layout::Stack(*this, header, body, KeyStrips());
     body->setContentsMargins(6, 6, 6, 6);
 }

@@ -1,6 +1,5 @@
 #include "core/preview/ReportPreviewDialogs.h"
 
-#include "core/menu/Keys.h"
 #include "core/messages/Messages.h"
 #include "core/preview/ReportSubject.h"
 
@@ -11,7 +10,6 @@
 
 namespace {
 
-constexpr int DialogWidth = 760;
 constexpr int ListHeight = 220;
 
 // The clerk's documents, or the home folder on a machine that has none.
@@ -31,6 +29,12 @@ QString ProposedName(const QString& report, const QString& subject)
     return name;
 }
 
+}
+
+Keys::Places frmReportFile::KeyPlaces()
+{
+    using namespace KeyHints;
+    return {{QStringLiteral("frmReportFile"), Plain(u"रिपोर्टची फाइल जतन करणे"), {Next, Back, Leave}}};
 }
 
 frmReportFile::frmReportFile(const QString& report, const QString& subject, const QString& ending)
@@ -53,8 +57,8 @@ void frmReportFile::BuildWindow()
     body->setSpacing(18);
     body->addLayout(form.Grid());
     body->addLayout(Layout::ButtonRow({&cmdSave, &cmdExit}));
-    Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(Name())));
-    setMinimumWidth(DialogWidth);
+    Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(KeyPlaces(), Name())));
+    setMinimumWidth(Layout::WideCard.width());
 }
 
 // If the name is a whole path, the folder doesn't count.
@@ -96,6 +100,13 @@ void frmReportFile::cmdExit_Click()
     Close();
 }
 
+Keys::Places frmReportPrinter::KeyPlaces()
+{
+    return {{QStringLiteral("frmReportPrinter"), Plain(u"प्रिंटर निवडणे"),
+        {{QStringLiteral("Enter"), Plain(u"निवडा")}, {QStringLiteral("↑ ↓"), Plain(u"वर-खाली")},
+            KeyHints::Leave}}};
+}
+
 frmReportPrinter::frmReportPrinter(const QStringList& printers) : Screen("frmReportPrinter", Shape::Card)
 {
     SetTitleLabel(lblTitle);
@@ -110,8 +121,8 @@ frmReportPrinter::frmReportPrinter(const QStringList& printers) : Screen("frmRep
 
     auto* body = new QVBoxLayout;
     body->addWidget(lstPrinters.Widget());
-    Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(Name())));
-    setMinimumWidth(DialogWidth);
+    Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(KeyPlaces(), Name())));
+    setMinimumWidth(Layout::WideCard.width());
 }
 
 void frmReportPrinter::lstPrinters_Chosen()

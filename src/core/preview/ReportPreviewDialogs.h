@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/menu/Keys.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/Field.h"
 #include "platform/forms/MenuList.h"
@@ -12,6 +13,8 @@ public:
     // `report` is the report's title, `ending` the file's, such as "pdf". It proposes a file in the clerk's
     // documents, named for the title and the subject, or today's date if the subject is empty.
     frmReportFile(const QString& report, const QString& subject, const QString& ending);
+
+    static Keys::Places KeyPlaces();
 
     // The whole path, in a folder that exists; empty if the clerk left without saving.
     QString FileName;
@@ -35,6 +38,8 @@ private:
 class frmReportPrinter final : public Screen {
 public:
     explicit frmReportPrinter(const QStringList& printers);
+
+    static Keys::Places KeyPlaces();
 
     // The name of the printer; empty if the clerk left without choosing.
     QString Chosen;

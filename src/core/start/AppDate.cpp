@@ -20,7 +20,7 @@ frmAppDate::frmAppDate() : Screen("frmAppDate", Shape::Card)
     SetTitle(Shivaji(u" idnaaMk "));
     MaskAppDate.SetAccessibleName(lblDate.Shown());
     MaskAppDate.Widget()->setFont(Look::Font(Look::Size::Title));
-    MaskAppDate.Widget()->setFixedSize(220, 56);
+    MaskAppDate.Widget()->setFixedSize(Layout::LoneDate);
     lblDate.Widget()->setFont(Look::Font(Look::Size::Large));
 
     auto* date = new QHBoxLayout;
@@ -35,7 +35,7 @@ frmAppDate::frmAppDate() : Screen("frmAppDate", Shape::Card)
     body->addStretch(1);
     body->addLayout(Layout::ButtonRow({&cmdExit}));
     Layout::Stack(*this, Layout::Header(lblTitle), body, Layout::KeyStrip(Keys::Of(Name())));
-    setMinimumSize(520, 320);
+    setMinimumSize(Layout::SmallCard);
 }
 
 void frmAppDate::Load()

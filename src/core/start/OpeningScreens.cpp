@@ -62,7 +62,7 @@ frmAbout::frmAbout() : Screen("frmAbout", Shape::Card)
     body->addStretch(1);
     body->addLayout(Layout::ButtonRow({&cmdOK, &cmdExit}));
     Layout::Stack(*this, Layout::Header(lblTitle), body, nullptr);
-    setMinimumSize(640, 400);
+    setMinimumSize(Layout::GreetingCard);
 }
 
 void frmAbout::cmdOK_Click()
@@ -99,7 +99,7 @@ frmTip::frmTip() : Screen("frmTip", Shape::Card)
     body->addLayout(notice, 1);
     body->addLayout(Layout::ButtonRow({&cmdOk, &Command1}));
     Layout::Stack(*this, Layout::Header(lblTitle), body, nullptr);
-    setMinimumSize(760, 420);
+    setMinimumSize(Layout::WideCard);
 }
 
 void frmTip::cmdOk_Click()

@@ -3,14 +3,34 @@
 #include "platform/forms/Control.h"
 
 #include <QGridLayout>
+#include <QSize>
 
 #include <initializer_list>
+#include <vector>
+
+// The functions of the screen that answer the keys of a hint, one for each key in their order; none if a
+// control or the focus answers them.
+class KeyHandlers {
+public:
+    KeyHandlers() = default;
+    KeyHandlers(const Handler& only) : m_handlers{only} { }
+    template <class S> KeyHandlers(void (S::*only)()) : m_handlers{Handler(only)} { }
+    KeyHandlers(std::initializer_list<Handler> handlers) : m_handlers(handlers) { }
+
+    bool AreNone() const { return m_handlers.empty(); }
+
+    // That of a key of the hint, counted from 0; there must be one.
+    const Handler& Of(std::size_t key) const { return m_handlers.at(key); }
+
+private:
+    std::vector<Handler> m_handlers;
+};
 
 // A key and what it does, for the strip at the bottom of a screen.
 struct KeyHint {
-    QString key; // "F2", "Esc"
+    QString key; // "F2", "Ctrl+PgDn"; several of one meaning with blanks between, "↑ ↓"
     Caption action;
-    Handler pressed = {}; // the handler of the screen; empty if a control handles the key
+    KeyHandlers pressed = {};
     bool lit = true; // whether it does something now; if not, it is shown in a dull colour
 };
 
@@ -24,6 +44,20 @@ inline constexpr int Roomy = 14;
 // The widths of a date and of a name that is asked for by itself.
 inline constexpr int DateWidth = 150;
 inline constexpr int NameWidth = 420;
+
+// The least size of a card: one that asks for a single thing, one that greets, one that is read or asks for
+// more.
+inline constexpr QSize SmallCard(520, 320);
+inline constexpr QSize GreetingCard(640, 400);
+inline constexpr QSize WideCard(760, 420);
+
+// On a card: the least room of a message, a line of text that is asked for, and a date that stands alone.
+inline constexpr QSize MessageRoom(560, 120);
+inline constexpr int LineWidth = 560;
+inline constexpr QSize LoneDate(220, 56);
+
+// The list of the main menu, which shows its six entries.
+inline constexpr QSize MainList(400, 246);
 
 // A text that names something or stands for itself. No '&' in it marks a letter.
 QLabel* Text(const Caption& caption, Qt::Alignment align = Qt::AlignLeft, bool bold = false);

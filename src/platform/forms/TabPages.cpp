@@ -106,15 +106,11 @@ void TabPages::ShowPage()
             control->SetVisible(static_cast<int>(page) == m_tab);
 }
 
-bool TabPages::TurnPage(const QKeyEvent& key)
+void TabPages::Turn(int step)
 {
-    const bool next = key.key() == Qt::Key_PageDown;
-    if (!key.modifiers().testFlag(Qt::ControlModifier) || (!next && key.key() != Qt::Key_PageUp))
-        return false;
     SetFocus();
     if (HasFocus())
-        SetTab((m_tab + (next ? 1 : Strip().count() - 1)) % Strip().count());
-    return true;
+        SetTab((m_tab + step + Strip().count()) % Strip().count());
 }
 
 QString TabPages::Text() const

@@ -32,9 +32,9 @@ public:
     // The widget below the strip.
     QWidget* Pages() const;
 
-    // Ctrl+PgDn turns to the next page and Ctrl+PgUp to the previous one, going round at the ends. The screen
-    // calls it before its controls see a key; returns true if it has turned the page.
-    bool TurnPage(const QKeyEvent& key);
+    // Turn the page for the clerk, going round at the ends; for Ctrl+PgDn and Ctrl+PgUp of the screen.
+    void TurnToNext() { Turn(1); }
+    void TurnToPrevious() { Turn(-1); }
 
     // The number of the page that is shown, counted from 1.
     QString Text() const override;
@@ -46,6 +46,7 @@ protected:
 private:
     QTabBar& Strip() const;
     void ShowPage();
+    void Turn(int step);
 
     QStackedWidget* m_pages;
     std::vector<std::vector<Control*>> m_controls; // of each page

@@ -36,7 +36,17 @@ public:
     std::string turned; // the pages that Click has met
 
 protected:
-    bool KeyDown(const QKeyEvent& key) override { return pages.TurnPage(key); }
+    bool KeyDown(const QKeyEvent& key) override
+    {
+        const bool turns = key.modifiers().testFlag(Qt::ControlModifier);
+        if (turns && key.key() == Qt::Key_PageDown)
+            pages.TurnToNext();
+        else if (turns && key.key() == Qt::Key_PageUp)
+            pages.TurnToPrevious();
+        else
+            return false;
+        return true;
+    }
 
 private:
     static QLayout* Column(std::initializer_list<Control*> controls)
