@@ -22,10 +22,7 @@ protected:
         return seen;
     }
 
-    QStringList Listed()
-    {
-        return Rows(QStringLiteral("select CompanyId,MemberNo,MemberName from ShortMemberList"));
-    }
+    QStringList Listed() { return Rows("select CompanyId,MemberNo,MemberName from ShortMemberList"); }
 
     void Bring(
         const char* date, const char* shift, int number, int member, const char* name, const char* animal)
@@ -42,13 +39,12 @@ protected:
 
 TEST_F(AbsentMembersTest, OpensEmptyWithTheFocusOnTheDate)
 {
-    Run(QStringLiteral("insert into ShortMemberList(CompanyId,MemberNo,MemberName) values(1, 1, 'rama')"));
+    Run("insert into ShortMemberList(CompanyId,MemberNo,MemberName) values(1, 1, 'rama')");
     AskingAfter([this](Clerk& clerk) {
         EXPECT_EQ(Focus(clerk), "MaskDate");
         EXPECT_EQ(Reads(clerk, "MaskDate"), "__/__/____");
         EXPECT_EQ(Reads(clerk, "Command1"), ">>");
-        EXPECT_EQ(Label(clerk, "Label28"),
-            Seen(QStringLiteral("Aaja dUQa saMklana nasaNaaáyaaMcaI naavao")).toStdString());
+        EXPECT_EQ(Label(clerk, "Label28"), Seen("Aaja dUQa saMklana nasaNaaáyaaMcaI naavao").toStdString());
         EXPECT_EQ(Grid(clerk, "DataGridMembers").Rows(), 0);
         EXPECT_TRUE(Listed().isEmpty());
     });
@@ -125,7 +121,7 @@ TEST_F(AbsentMembersTest, ADeliveryWithoutACompanyCountsLikeAnyOther)
     Bring("14/04/2026", "sakaL", 1, 1, "rama", "gaaya");
     Bring("14/04/2026", "sakaL", 2, 2, "saIta", "mhOsa");
     Bring("15/04/2026", "sakaL", 1, 2, "saIta", "mhOsa");
-    Run(QStringLiteral("update MilkCollections set CompanyId=0"));
+    Run("update MilkCollections set CompanyId=0");
     EXPECT_EQ(AbsentOn("15042026"), std::vector{Member(1, "rama")});
     EXPECT_EQ(Listed(), Of({"1|1|rama"})) << "listed for the company of the screen";
 }
@@ -141,8 +137,8 @@ TEST_F(AbsentMembersTest, EscClosesWithoutClearing)
         [] {
             frmAbsenseMemberCollection screen;
             screen.ShowModal();
-            EXPECT_EQ(screen.Find(u"MaskDate")->Text(), QStringLiteral("15/04/2026"));
-            EXPECT_EQ(screen.Find(u"txtTime")->Text(), QStringLiteral("sakaL"));
+            EXPECT_EQ(screen.Find(u"MaskDate")->Text(), "15/04/2026");
+            EXPECT_EQ(screen.Find(u"txtTime")->Text(), "sakaL");
         },
         [](Clerk& clerk) {
             Type(clerk, "15042026{ENTER}1{ESC}");
@@ -156,7 +152,7 @@ TEST_F(AbsentMembersTest, TheCalculatorAndTheKeyboardTutorAreAtHand)
         Type(clerk, "{F2}");
         EXPECT_EQ(TheCalculator.Started, Of({"C:\\Tarvel01\\Vetrolan\\calc.EXE maximised"}));
         Type(clerk, "{F12}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
+        EXPECT_EQ(clerk.ScreenName(), "frmKeyboardTutor");
     });
 }
 
@@ -200,7 +196,7 @@ TEST_F(AbsentMembersTest, ABadDateKeepsTheFocusWithoutAMessage)
             Type(clerk, date);
             Type(clerk, "{ENTER}");
             EXPECT_EQ(Focus(clerk), "MaskDate") << date;
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmAbsenseMemberCollection"));
+            EXPECT_EQ(clerk.ScreenName(), "frmAbsenseMemberCollection");
         });
     }
     EXPECT_TRUE(TheBox.Shown.isEmpty());
@@ -208,12 +204,12 @@ TEST_F(AbsentMembersTest, ABadDateKeepsTheFocusWithoutAMessage)
 
 TEST_F(AbsentMembersTest, TheButtonWaitsForDateAndShift)
 {
-    Run(QStringLiteral("delete * from ShortMemberList"));
+    Run("delete * from ShortMemberList");
     AskingAfter([](Clerk& clerk) {
-        clerk.Press(QStringLiteral("Command1"));
+        clerk.Press("Command1");
         EXPECT_EQ(Focus(clerk), "MaskDate");
         Type(clerk, "15042026");
-        clerk.Press(QStringLiteral("Command1"));
+        clerk.Press("Command1");
         EXPECT_EQ(Focus(clerk), "txtTime");
         Type(clerk, "3{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtTime");
@@ -226,7 +222,7 @@ TEST_F(AbsentMembersTest, AStatementThatFailsLeavesTheListAsItWas)
 {
     Bring("13/04/2026", "sakaL", 1, 1, "rama", "gaaya");
     Bring("14/04/2026", "sakaL", 1, 5, "ok", "gaaya");
-    gCn.RunScript(QStringLiteral("update MilkCollections set MemberName='o''k' where MemberNo=5"));
+    gCn.RunScript("update MilkCollections set MemberName='o''k' where MemberNo=5");
     AskingAfter([](Clerk& clerk) {
         Type(clerk, "14042026{ENTER}1{ENTER}{ENTER}+{TAB}+{TAB}15042026{ENTER}{ENTER}{ENTER}");
     });

@@ -8,7 +8,7 @@ class ClosingFiguresTest : public CounterTest {
 protected:
     std::string Balance()
     {
-        return Rows(QStringLiteral("select ClosingBalance,ClosingDorC from MembersMaster where MemberNo=1"))
+        return Rows("select ClosingBalance,ClosingDorC from MembersMaster where MemberNo=1")
             .value(0)
             .toStdString();
     }
@@ -48,43 +48,40 @@ TEST_F(ClosingFiguresTest, BelowZeroTheBalanceIsDueAndKeepsItsSign)
 
 TEST_F(ClosingFiguresTest, TheLetterOfTheOldBalanceIsNotLookedAt)
 {
-    Run(QStringLiteral("update MembersMaster set ClosingBalance=50,ClosingDorC='D' where MemberNo=1"));
+    Run("update MembersMaster set ClosingBalance=50,ClosingDorC='D' where MemberNo=1");
     Add(10);
     EXPECT_EQ(Balance(), "60|C");
 }
 
 TEST_F(ClosingFiguresTest, AMissingBalanceBecomesZeroWhateverTheAmount)
 {
-    Run(QStringLiteral("update MembersMaster set ClosingBalance=null where MemberNo=1"));
+    Run("update MembersMaster set ClosingBalance=null where MemberNo=1");
     Add(183.75);
     EXPECT_EQ(Balance(), "0|D");
 }
 
 TEST_F(ClosingFiguresTest, BlanksAroundTheMembersNameDoNotHideTheMember)
 {
-    Run(QStringLiteral("update MembersMaster set MemberName=' rama ' where MemberNo=1"));
+    Run("update MembersMaster set MemberName=' rama ' where MemberNo=1");
     Add(5);
     EXPECT_EQ(Balance(), "5|C");
 }
 
 TEST_F(ClosingFiguresTest, OnlyTheNamedMemberOfTheCompanyIsPosted)
 {
-    Run(QStringLiteral("update MembersMaster set CompanyId=2 where MemberNo=1"));
+    Run("update MembersMaster set CompanyId=2 where MemberNo=1");
     Add(5);
     PostClosingBalance(u"saIta", 7, PostAction::Add);
-    EXPECT_EQ(Rows(QStringLiteral("select ClosingBalance from MembersMaster order by MemberNo")),
-        Of({"0", "7", "0"}));
+    EXPECT_EQ(Rows("select ClosingBalance from MembersMaster order by MemberNo"), Of({"0", "7", "0"}));
 }
 
 TEST_F(ClosingFiguresTest, LitresAreTheOpeningAndAllDeliveriesOfEachAnimal)
 {
-    Run(QStringLiteral(
-        "update MembersMaster set CowOpeningLits=100.5,BuffOpeningLits=20.25 where MemberNo=3"));
+    Run("update MembersMaster set CowOpeningLits=100.5,BuffOpeningLits=20.25 where MemberNo=3");
     for (int day = 1; day <= 3; ++day)
-        AddDelivery(QStringLiteral("0%1/04/2026").arg(day), QStringLiteral("sakaL"), 1, 3,
-            QStringLiteral("gaNaoSa"), QStringLiteral("gaaya"), 1.25, 4, 30, 37.5);
-    AddDelivery(QStringLiteral("01/04/2026"), QStringLiteral("saMQyaakaL"), 1, 3, QStringLiteral("gaNaoSa"),
-        QStringLiteral("mhOsa"), 2.5, 8, 40, 100);
+        AddDelivery(
+            QStringLiteral("0%1/04/2026").arg(day), "sakaL", 1, 3, "gaNaoSa", "gaaya", 1.25, 4, 30, 37.5);
+    AddDelivery("01/04/2026", "saMQyaakaL", 1, 3, "gaNaoSa", "mhOsa", 2.5, 8, 40, 100);
     RefreshClosingLitres(3);
     EXPECT_EQ(Litres(3), "104.25|22.75");
     EXPECT_EQ(Litres(1), "0|0");
@@ -92,18 +89,16 @@ TEST_F(ClosingFiguresTest, LitresAreTheOpeningAndAllDeliveriesOfEachAnimal)
 
 TEST_F(ClosingFiguresTest, MissingFiguresCountAsZero)
 {
-    Run(QStringLiteral("update MembersMaster set CowOpeningLits=null,BuffOpeningLits=null where MemberNo=1"));
+    Run("update MembersMaster set CowOpeningLits=null,BuffOpeningLits=null where MemberNo=1");
     RefreshClosingLitres(1);
     EXPECT_EQ(Litres(), "0|0");
 }
 
 TEST_F(ClosingFiguresTest, LitresAreAddedInSinglePrecision)
 {
-    Run(QStringLiteral(
-        "update MembersMaster set CowOpeningLits=12345.678,BuffOpeningLits=16777216 where MemberNo=3"));
+    Run("update MembersMaster set CowOpeningLits=12345.678,BuffOpeningLits=16777216 where MemberNo=3");
     for (const char* animal : {"gaaya", "mhOsa"})
-        AddDelivery(QStringLiteral("01/04/2026"), QStringLiteral("sakaL"), 1, 3, QStringLiteral("gaNaoSa"),
-            QString::fromLatin1(animal), 1, 4, 30, 30);
+        AddDelivery("01/04/2026", "sakaL", 1, 3, "gaNaoSa", QString::fromLatin1(animal), 1, 4, 30, 30);
     RefreshClosingLitres(3);
     EXPECT_EQ(Litres(3), "12346.68|16777220");
 }
@@ -111,7 +106,7 @@ TEST_F(ClosingFiguresTest, LitresAreAddedInSinglePrecision)
 TEST_F(ClosingFiguresTest, DeliveriesOfAnotherCompanyAreNotCounted)
 {
     AddMorningDelivery(1);
-    Run(QStringLiteral("update MilkCollections set CompanyId=2"));
+    Run("update MilkCollections set CompanyId=2");
     RefreshClosingLitres(1);
     EXPECT_EQ(Litres(), "0|0");
 }

@@ -13,7 +13,7 @@ protected:
     // A row that the back office enters while the shift is open: member 2, in the morning of the 15th.
     void EnterMeanwhile(int number, int member = 2)
     {
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), number, member,
+        AddDelivery("15/04/2026", "sakaL", number, member,
             member == 1 ? QStringLiteral("rama") : QStringLiteral("saIta"),
             member == 1 ? QStringLiteral("gaaya") : QStringLiteral("mhOsa"), 3, 8, 49, 147);
     }
@@ -77,7 +77,7 @@ TEST_P(CopyOrBooksTest, ADeletionGoesByTheBooks)
     AddMorningDelivery(1);
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "1{ENTER}");
-        Run(QStringLiteral("delete * from MilkCollectionsTemp"));
+        Run("delete * from MilkCollectionsTemp");
         Type(clerk, "{F10}");
     });
     EXPECT_TRUE(Books().isEmpty());
@@ -106,8 +106,7 @@ TEST_P(CopyOrBooksTest, F9FindsNoRowThatTheCopyLacks)
 
 TEST_P(CopyOrBooksTest, TheTotalsAreThoseOfTheOpenShift)
 {
-    AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("sakaL"), 1, 1, QStringLiteral("rama"),
-        QStringLiteral("gaaya"), 9, 4.5, 35, 315);
+    AddDelivery("14/04/2026", "sakaL", 1, 1, "rama", "gaaya", 9, 4.5, 35, 315);
     AddMorningDelivery(1);
     InTheShift([this](Clerk& clerk) {
         EnterMeanwhile(7);

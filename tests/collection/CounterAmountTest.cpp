@@ -20,7 +20,7 @@ protected:
 
     static void ChangeLiters(Clerk& clerk, const char* liters)
     {
-        clerk.Press(QStringLiteral("txtLiters"));
+        clerk.Press("txtLiters");
         Type(clerk, "{HOME}+{END}");
         Type(clerk, liters);
     }
@@ -48,7 +48,7 @@ TEST_P(CounterAmountTest, LitresThatWereChangedAreSavedWithTheirOwnAmountByTheMo
 {
     WithAPricedLine([this](Clerk& clerk) {
         ChangeLiters(clerk, "9");
-        clerk.Press(QStringLiteral("cmdGo"));
+        clerk.Press("cmdGo");
         EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|9|4.5|35|315"}));
     });
 }
@@ -57,7 +57,7 @@ TEST_P(CounterAmountTest, TheAmountRestsOnTheLitresAsTheFieldHasRoundedThem)
 {
     WithAPricedLine([this](Clerk& clerk) {
         ChangeLiters(clerk, "8.9996");
-        clerk.Press(QStringLiteral("cmdGo"));
+        clerk.Press("cmdGo");
         EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|9|4.5|35|315"}));
     });
 }
@@ -68,7 +68,7 @@ TEST_P(CounterAmountTest, ARowWhoseLitresWereChangedIsSavedWithTheirOwnAmount)
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "1{ENTER}");
         ChangeLiters(clerk, "9");
-        clerk.Press(QStringLiteral("cmdGo"));
+        clerk.Press("cmdGo");
         EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|9|4.5|35|315"}));
     });
 }
@@ -76,7 +76,7 @@ TEST_P(CounterAmountTest, ARowWhoseLitresWereChangedIsSavedWithTheirOwnAmount)
 TEST_P(CounterAmountTest, AnEmptyLineGetsNoAmountFromTheButton)
 {
     InTheShift([this](Clerk& clerk) {
-        clerk.Press(QStringLiteral("cmdGo"));
+        clerk.Press("cmdGo");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         EXPECT_EQ(Reads(clerk, "txtAmount"), "");
         EXPECT_TRUE(Books().isEmpty());
@@ -88,7 +88,7 @@ TEST_P(CounterAmountTest, AnEmptyLineGetsNoAmountFromTheButton)
 TEST_P(CounterAmountTest, TheRateStaysAsItWasWhenTheFatIsLeftForItsSwitch)
 {
     AtTheFatOfARow([](Clerk& clerk) {
-        clerk.Press(QStringLiteral("cmdAutoFat"));
+        clerk.Press("cmdAutoFat");
         EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "baMd");
         EXPECT_EQ(Reads(clerk, "txtRate"), "35.00");
         EXPECT_EQ(Reads(clerk, "txtAmount"), "175.00");
@@ -98,13 +98,13 @@ TEST_P(CounterAmountTest, TheRateStaysAsItWasWhenTheFatIsLeftForItsSwitch)
 TEST_P(CounterAmountTest, TheSwitchLeadsBackToTheFatThatIsStillWanted)
 {
     for (const char* control : {"cmdGo", "txtRate", "maskDate"}) {
-        Run(QStringLiteral("delete * from MilkCollections"));
+        Run("delete * from MilkCollections");
         AtTheFatOfARow([&](Clerk& clerk) {
-            clerk.Press(QStringLiteral("cmdAutoFat"));
+            clerk.Press("cmdAutoFat");
             clerk.Press(QString::fromLatin1(control));
             EXPECT_EQ(Focus(clerk), "txtFat") << control;
             EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|5|4.5|35|175"})) << control;
-            clerk.Press(QStringLiteral("cmdAutoLiter"));
+            clerk.Press("cmdAutoLiter");
             EXPECT_EQ(Focus(clerk), "txtFat") << "it is refused like any fat of 0 now";
         });
     }

@@ -21,7 +21,7 @@ protected:
     void AddTheirMember(int number, const QString& name)
     {
         gAppState.gCompanyId = 2;
-        AddMember(number, name, QStringLiteral("gaaya"));
+        AddMember(number, name, "gaaya");
         gAppState.gCompanyId = 1;
     }
 };
@@ -84,7 +84,7 @@ TEST_P(CounterCompaniesTest, F9FindsARowOfTheOther)
     AddTheirDelivery(7);
     InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{F9}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmSearchCollections"));
+        EXPECT_EQ(clerk.ScreenName(), "frmSearchCollections");
         Type(clerk, "{ESC}");
         EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "7");
     });
@@ -93,7 +93,7 @@ TEST_P(CounterCompaniesTest, F9FindsARowOfTheOther)
 TEST_P(CounterCompaniesTest, TheLastFatMayBeThatOfARowOfTheOther)
 {
     AddTheirDelivery(7);
-    Run(QStringLiteral("update MilkCollections set CollectionDate='14/04/2026',Fat=4.2"));
+    Run("update MilkCollections set CollectionDate='14/04/2026',Fat=4.2");
     InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}2{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtFat"), "4.2");
@@ -104,11 +104,10 @@ TEST_P(CounterCompaniesTest, TheLastFatMayBeThatOfARowOfTheOther)
 
 TEST_P(CounterCompaniesTest, MembersOfBothAreFoundByNumberAndByName)
 {
-    AddTheirMember(40, QStringLiteral("paava-tI"));
+    AddTheirMember(40, "paava-tI");
     InTheShift([](Clerk& clerk) {
-        EXPECT_TRUE(dynamic_cast<NameCombo&>(*clerk.Top().Find(u"ComboMemberName"))
-                        .Items()
-                        .contains(QStringLiteral("paava-tI")));
+        EXPECT_TRUE(
+            dynamic_cast<NameCombo&>(*clerk.Top().Find(u"ComboMemberName")).Items().contains("paava-tI"));
         Type(clerk, "{ENTER}40{ENTER}");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "paava-tI");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "40");
@@ -124,7 +123,7 @@ TEST_P(CounterCompaniesTest, TheTotalsAreThoseOfTheSelectedOne)
 {
     AddMorningDelivery(1);
     AddTheirDelivery(2);
-    Run(QStringLiteral("update MilkCollections set Liters=7,Fat=4 where CompanyId=2"));
+    Run("update MilkCollections set Liters=7,Fat=4 where CompanyId=2");
     InTheShift([](Clerk& clerk) {
         EXPECT_EQ(Label(clerk, "lblTotalCowLiters"), Litres("5.00"));
         EXPECT_EQ(Label(clerk, "lblAvgCowFat"), "4.5");
@@ -138,12 +137,12 @@ TEST_P(CounterCompaniesTest, TheTotalsAreThoseOfTheSelectedOne)
 
 TEST_P(CounterCompaniesTest, TheBalanceAndTheLitresAreRaisedInTheSelectedOne)
 {
-    AddTheirMember(1, QStringLiteral("rama"));
+    AddTheirMember(1, "rama");
     Set("PurchaseEntry", "Collection");
     gAppState.gCompanyId = 2;
     InTheShift([](Clerk& clerk) { Deliver(clerk, 1, "2", "4.5"); });
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,ClosingBalance,CowClosingLits from MembersMaster "
-                                  "where MemberNo=1 order by CompanyId")),
+    EXPECT_EQ(Rows("select CompanyId,ClosingBalance,CowClosingLits from MembersMaster "
+                   "where MemberNo=1 order by CompanyId"),
         Of({"1|0|0", "2|70|2"}));
 }
 

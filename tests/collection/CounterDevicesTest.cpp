@@ -38,7 +38,7 @@ INSTANTIATE_TEST_SUITE_P(AtEach, CounterDevicesTest, Counters(), CounterName);
 
 TEST_P(CounterDevicesTest, WithoutARowOfPortsTheClerkIsToldAndTheCounterOpens)
 {
-    Run(QStringLiteral("delete * from PortTable"));
+    Run("delete * from PortTable");
     AtThisCounter([this](Clerk& clerk) {
         EXPECT_EQ(TheBox.Shown, Of({"Check port setting"}));
         EXPECT_EQ(Focus(clerk), "maskDate");
@@ -51,14 +51,14 @@ TEST_P(CounterDevicesTest, TheSwitchesFollowTheSettingAndTurnItForThisRunOnly)
     AtThisCounter([](Clerk& clerk) {
         EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "sau$");
         EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "baMd");
-        clerk.Press(QStringLiteral("cmdAutoLiter"));
-        clerk.Press(QStringLiteral("cmdAutoFat"));
+        clerk.Press("cmdAutoLiter");
+        clerk.Press("cmdAutoFat");
         EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "baMd");
         EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "sau$");
     });
-    EXPECT_EQ(gAppState.gAutoLiters, QStringLiteral("naahI"));
-    EXPECT_EQ(gAppState.gAutoFat, QStringLiteral("haoya"));
-    EXPECT_EQ(Rows(QStringLiteral("select AutoLiters,AutoFat from AutoSettings")), Of({"naahI|naahI"}));
+    EXPECT_EQ(gAppState.gAutoLiters, "naahI");
+    EXPECT_EQ(gAppState.gAutoFat, "haoya");
+    EXPECT_EQ(Rows("select AutoLiters,AutoFat from AutoSettings"), Of({"naahI|naahI"}));
 }
 
 TEST_P(CounterDevicesTest, TheScaleFillsTheLitresAndTheClerkGoesOnWithoutAKey)
@@ -89,7 +89,7 @@ TEST_P(CounterDevicesTest, WithoutAMemberTheScaleIsLeftAlone)
 {
     Devices("ELECTRO", "haoya", "naahI");
     InTheShift([this](Clerk& clerk) {
-        clerk.Press(QStringLiteral("txtLiters"));
+        clerk.Press("txtLiters");
         EXPECT_EQ(Reads(clerk, "txtLiters"), "");
         EXPECT_TRUE(Ports.Log.isEmpty());
     });
@@ -127,7 +127,7 @@ TEST_P(CounterDevicesTest, WithNoScaleOnlyTheFatIsRead)
 
 TEST_P(CounterDevicesTest, ARefusedFatRepeatsTheCommonExchangeAndThenTheFieldsOwnReading)
 {
-    Run(QStringLiteral("update PortTable set LReceiverCommand='RD'"));
+    Run("update PortTable set LReceiverCommand='RD'");
     const QStringList common = Of({"open 1 2400,n,8,1", "dtr", "write W", "close"});
     const QStringList listened = Of({"open 2 9600,n,8,1", "dtr", "close"});
     const QStringList litres = Of({"open 1 2400,n,8,1", "dtr", "write RD", "close"});
@@ -221,9 +221,9 @@ TEST_P(CounterDevicesTest, WithoutAFatTheFieldIsNotLeftUntilTheTesterIsSwitchedO
         Type(clerk, "{ENTER}1{ENTER}2{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
         Ports.TakeLog();
-        clerk.Press(QStringLiteral("cmdAutoFat"));
+        clerk.Press("cmdAutoFat");
         EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "baMd");
-        clerk.Press(QStringLiteral("txtFat"));
+        clerk.Press("txtFat");
         Type(clerk, "4.5{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtRate");
         EXPECT_TRUE(Ports.Log.isEmpty());
@@ -236,9 +236,9 @@ TEST_P(CounterDevicesTest, TheScaleCanBeSwitchedOffWhileTheLitresWaitForIt)
     InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtLiters");
-        clerk.Press(QStringLiteral("cmdAutoLiter"));
+        clerk.Press("cmdAutoLiter");
         EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "baMd");
-        clerk.Press(QStringLiteral("txtLiters"));
+        clerk.Press("txtLiters");
         Type(clerk, "4{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
     });
@@ -251,17 +251,17 @@ TEST_P(CounterDevicesTest, ATypedNumberShowsItsDeliveryBeforeItCanBeOverwritten)
     AddMorningDelivery(3);
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "3");
-        clerk.Press(QStringLiteral("cmdAutoLiter"));
-        clerk.Press(QStringLiteral("cmdAutoLiter"));
+        clerk.Press("cmdAutoLiter");
+        clerk.Press("cmdAutoLiter");
         EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "baMd") << "on, and off again";
         EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "3");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "rama");
         EXPECT_EQ(Reads(clerk, "txtLiters"), Litres("5.00"));
-        clerk.Press(QStringLiteral("txtCollectionNo"));
+        clerk.Press("txtCollectionNo");
         Type(clerk, "9");
-        clerk.Press(QStringLiteral("cmdAutoFat"));
+        clerk.Press("cmdAutoFat");
         EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "4") << "there is no such row";
-        clerk.Press(QStringLiteral("txtMemberNo"));
+        clerk.Press("txtMemberNo");
         Type(clerk, "2{ENTER}2{ENTER}8{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Books(), Of({"3|1|rama|gaaya|5|4.5|35|175", "4|2|saIta|mhOsa|2|8|49|98"}));
     });
@@ -291,8 +291,8 @@ TEST_P(CounterDevicesTest, AnEmptyNameIsAskedForBeforeASwitchIsTurned)
     InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboMemberName");
-        clerk.Press(QStringLiteral("cmdAutoFat"));
-        EXPECT_EQ(clerk.Message(), QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra"));
+        clerk.Press("cmdAutoFat");
+        EXPECT_EQ(clerk.Message(), "maombarcao naaMva vyavaisqat Ta[-p kra");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboMemberName");
         EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "baMd");
@@ -304,7 +304,7 @@ TEST_P(CounterDevicesTest, LitresTypedBesideASilentScaleAreTakenWhenItIsSwitched
     Devices("ELECTRO", "haoya", "naahI");
     InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}4");
-        clerk.Press(QStringLiteral("cmdAutoLiter"));
+        clerk.Press("cmdAutoLiter");
         EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "baMd");
         EXPECT_EQ(Reads(clerk, "txtLiters"), Litres("4.00"));
     });
@@ -315,7 +315,7 @@ TEST_P(CounterDevicesTest, AFatTypedBesideASilentTesterIsPricedWhenItIsSwitchedO
     Devices("NO", "naahI", "haoya");
     InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}2{ENTER}4.5");
-        clerk.Press(QStringLiteral("cmdAutoFat"));
+        clerk.Press("cmdAutoFat");
         EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "baMd");
         EXPECT_EQ(Reads(clerk, "txtRate"), "35.00");
         EXPECT_EQ(Reads(clerk, "txtAmount"), "70.00");
@@ -327,7 +327,7 @@ TEST_P(CounterDevicesTest, AFatAboveThirtyIsRefusedThoughItsTesterIsToBeSwitched
     Devices("NO", "naahI", "haoya");
     InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}2{ENTER}42");
-        clerk.Press(QStringLiteral("cmdAutoFat"));
+        clerk.Press("cmdAutoFat");
         EXPECT_EQ(Focus(clerk), "txtFat");
         EXPECT_EQ(Reads(clerk, "txtFat"), "42.0");
         EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "sau$");
@@ -339,11 +339,11 @@ TEST_P(CounterDevicesTest, AFieldThatWaitsIsLeftForTheSwitchOfItsOwnDeviceOnly)
     Devices("NO", "haoya", "haoya");
     InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}");
-        clerk.Press(QStringLiteral("cmdAutoFat"));
+        clerk.Press("cmdAutoFat");
         EXPECT_EQ(Focus(clerk), "txtLiters");
         EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "sau$");
         Type(clerk, "2{ENTER}");
-        clerk.Press(QStringLiteral("cmdAutoLiter"));
+        clerk.Press("cmdAutoLiter");
         EXPECT_EQ(Focus(clerk), "txtFat");
         EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "sau$");
     });
@@ -357,9 +357,9 @@ TEST_P(CounterDevicesTest, ARowWhoseLitresWereEmptiedForTheSwitchIsNotSavedWitho
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "1{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtLiters");
-        clerk.Press(QStringLiteral("cmdAutoLiter"));
+        clerk.Press("cmdAutoLiter");
         EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "baMd");
-        clerk.Press(QStringLiteral("cmdGo"));
+        clerk.Press("cmdGo");
         EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|5|4.5|35|175"}));
     });
 }
@@ -372,11 +372,11 @@ TEST_P(CounterDevicesTest, ARowWhoseFatWasEmptiedForTheSwitchIsNotSavedWithoutAF
         Type(clerk, "1{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
         Type(clerk, "0");
-        clerk.Press(QStringLiteral("cmdAutoFat"));
+        clerk.Press("cmdAutoFat");
         EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "baMd");
-        clerk.Press(QStringLiteral("cmdGo"));
+        clerk.Press("cmdGo");
         EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|5|4.5|35|175"}));
-        clerk.Press(QStringLiteral("txtFat"));
+        clerk.Press("txtFat");
         Type(clerk, "8{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtRate");
     });
@@ -388,8 +388,8 @@ TEST_P(CounterDevicesTest, TheDeviceThatDoesBothGivesLitresWithTheDecimalsOfTheC
     Reply("", "012345042\r\n");
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}{ENTER}{ENTER}{ENTER}");
-        EXPECT_EQ(Rows(QStringLiteral("select Liters,Fat from MilkCollections")),
-            Of({IsGate() ? "12.35|4.2" : "12.345|4.2"}));
+        EXPECT_EQ(
+            Rows("select Liters,Fat from MilkCollections"), Of({IsGate() ? "12.35|4.2" : "12.345|4.2"}));
     });
 }
 
@@ -415,7 +415,7 @@ TEST_P(CounterDevicesTest, AFatTypedBesideASilentTesterPasses)
 
 TEST_P(CounterDevicesTest, UdfreadReadsTheLitresASecondTimeAtTheFat)
 {
-    Run(QStringLiteral("update PortTable set LReceiverCommand='RD'"));
+    Run("update PortTable set LReceiverCommand='RD'");
     Devices("UDFREAD", "naahI", "haoya");
     Reply("RD", "12345 06.5");
     Reply("W", "ST,GS,00000000 4.5%");
@@ -444,10 +444,10 @@ TEST_P(CounterDevicesTest, ASaveSendsTheTareByTheSwitchAndNotByTheStoredSetting)
     InTheShift([this](Clerk& clerk) {
         Deliver(clerk, 1, "5", "4.5");
         EXPECT_EQ(Books().size(), 1);
-        EXPECT_TRUE(Ports.TakeLog().contains(QStringLiteral("write z")));
+        EXPECT_TRUE(Ports.TakeLog().contains("write z"));
         EXPECT_EQ(Reads(clerk, "txtLiters"), "");
     });
-    EXPECT_EQ(One(QStringLiteral("select AutoLiters from AutoSettings")), QStringLiteral("naahI"));
+    EXPECT_EQ(One("select AutoLiters from AutoSettings"), "naahI");
 }
 
 TEST_P(CounterDevicesTest, WithBothButtonsOffNothingIsSentAndNoTareEither)
@@ -455,9 +455,9 @@ TEST_P(CounterDevicesTest, WithBothButtonsOffNothingIsSentAndNoTareEither)
     Devices("ELECTRO", "haoya", "haoya");
     Set("AutoLiters", "haoya");
     AtThisCounter([this](Clerk& clerk) {
-        clerk.Press(QStringLiteral("cmdAutoLiter"));
-        clerk.Press(QStringLiteral("cmdAutoFat"));
-        clerk.Press(QStringLiteral("maskDate"));
+        clerk.Press("cmdAutoLiter");
+        clerk.Press("cmdAutoFat");
+        clerk.Press("maskDate");
         Type(clerk, "{ENTER}1{ENTER}");
         Deliver(clerk, 1, "5", "4.5");
         EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|5|4.5|35|175"}));

@@ -16,8 +16,7 @@ protected:
     }
     QStringList Balances()
     {
-        return Rows(QStringLiteral(
-            "select MemberNo,ClosingBalance,ClosingDorC from MembersMaster order by MemberNo"));
+        return Rows("select MemberNo,ClosingBalance,ClosingDorC from MembersMaster order by MemberNo");
     }
 
     // Opens a counter that is kept after it has closed, and returns what its fields read then.
@@ -48,7 +47,7 @@ TEST_P(CounterEdgesTest, AnUnknownNumberBesideASettledAnimalGoesToTheLitresAndIs
 {
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}5");
-        clerk.Press(QStringLiteral("txtMemberNo"));
+        clerk.Press("txtMemberNo");
         Type(clerk, "{END}{BS}77{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtLiters");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "");
@@ -69,7 +68,7 @@ TEST_P(CounterEdgesTest, ACowMemberCantHaveBuffaloMilkEntered)
     InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}5");
         EXPECT_FALSE(CanEnter(clerk, "txtAnimal"));
-        clerk.Press(QStringLiteral("txtAnimal"));
+        clerk.Press("txtAnimal");
         EXPECT_EQ(Focus(clerk), "txtLiters");
         Type(clerk, "2");
         EXPECT_EQ(Reads(clerk, "txtAnimal"), "gaaya");
@@ -81,9 +80,9 @@ TEST_P(CounterEdgesTest, ACowMemberCantHaveBuffaloMilkEntered)
 
 TEST_P(CounterEdgesTest, AnAnimalOfNeitherWordLeavesTheRateUntouched)
 {
-    AddMember(4, QStringLiteral("Aajaaobaa"), QString());
+    AddMember(4, "Aajaaobaa", QString());
     AddMorningDelivery(1);
-    Run(QStringLiteral("update MilkCollections set Rate=41"));
+    Run("update MilkCollections set Rate=41");
     InTheShift([](Clerk& clerk) {
         Type(clerk, "1{ENTER}4{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtLiters");
@@ -100,7 +99,7 @@ TEST_P(CounterEdgesTest, AnAnimalOfNeitherWordLeavesTheRateUntouched)
 
 TEST_P(CounterEdgesTest, AChartWithoutATableIsTheCaseOfNoChart)
 {
-    Run(QStringLiteral("update FatDates set FatFileName=null"));
+    Run("update FatDates set FatFileName=null");
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}5{ENTER}4.5{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
@@ -116,7 +115,7 @@ TEST_P(CounterEdgesTest, ARateOfZeroCantBeSavedAndTheLineStaysInSilence)
 {
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}5{ENTER}20");
-        clerk.Press(QStringLiteral("cmdGo"));
+        clerk.Press("cmdGo");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
         EXPECT_EQ(clerk.Message(), QString());
@@ -134,7 +133,7 @@ TEST_P(CounterEdgesTest, ATypedRateOfZeroIsHeldBackFromTheButtonToo)
 {
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}5{ENTER}4.5{ENTER}0");
-        clerk.Press(QStringLiteral("cmdGo"));
+        clerk.Press("cmdGo");
         EXPECT_EQ(Focus(clerk), "txtRate");
         EXPECT_EQ(Reads(clerk, "txtAmount"), "0.00");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
@@ -182,8 +181,8 @@ TEST_P(CounterEdgesTest, ARowMovedToAnotherMemberRefreshesOnlyTheNewOnesLitres)
 TEST_P(CounterEdgesTest, MembersOfOneNameAreBothGivenTheBalanceOfTheFirst)
 {
     Set("PurchaseEntry", "Collection");
-    AddMember(8, QStringLiteral("rama"), QStringLiteral("mhOsa"));
-    Run(QStringLiteral("update MembersMaster set ClosingBalance=10*MemberNo"));
+    AddMember(8, "rama", "mhOsa");
+    Run("update MembersMaster set ClosingBalance=10*MemberNo");
     InTheShift([](Clerk& clerk) { Deliver(clerk, 8, "1", "8"); });
     EXPECT_EQ(Balances(), Of({"1|59|C", "2|20|C", "3|30|C", "8|59|C"}));
 }
@@ -191,7 +190,7 @@ TEST_P(CounterEdgesTest, MembersOfOneNameAreBothGivenTheBalanceOfTheFirst)
 TEST_P(CounterEdgesTest, ANameWithABlankAtItsEndIsSavedAndPostedToNobody)
 {
     Set("PurchaseEntry", "Collection");
-    Run(QStringLiteral("update MembersMaster set MemberName='rama ' where MemberNo=1"));
+    Run("update MembersMaster set MemberName='rama ' where MemberNo=1");
     InTheShift([](Clerk& clerk) { Deliver(clerk, 1, "5", "4.5"); });
     EXPECT_EQ(Error(), "");
     EXPECT_EQ(Books(), Of({"1|1|rama |gaaya|5|4.5|35|175"}));
@@ -206,7 +205,7 @@ TEST_P(CounterEdgesTest, DeletingTidiesRowsNumberedZeroOutOfTheCopy)
     AddMorningDelivery(1);
     AddMorningDelivery(2);
     InTheShift([this](Clerk& clerk) {
-        Run(QStringLiteral("insert into MilkCollectionsTemp(CompanyId,CollectionNo) values(1,0)"));
+        Run("insert into MilkCollectionsTemp(CompanyId,CollectionNo) values(1,0)");
         Type(clerk, "1{ENTER}{F10}");
     });
     EXPECT_EQ(Copy(), Of({"2|1|rama|gaaya|5|4.5|35|175"}));
@@ -215,8 +214,8 @@ TEST_P(CounterEdgesTest, DeletingTidiesRowsNumberedZeroOutOfTheCopy)
 TEST_P(CounterEdgesTest, APaymentOfAnotherCompanyDoesNotStopADeletion)
 {
     AddMorningDelivery(1);
-    Run(QStringLiteral("insert into MilkPayments(CompanyId,FromDate,ToDate,MemberNo) "
-                       "values(2,'15/04/2026','15/04/2026',1)"));
+    Run("insert into MilkPayments(CompanyId,FromDate,ToDate,MemberNo) "
+        "values(2,'15/04/2026','15/04/2026',1)");
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "1{ENTER}{F10}");
         EXPECT_TRUE(TheBox.Shown.isEmpty());

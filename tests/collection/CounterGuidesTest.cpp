@@ -41,7 +41,7 @@ TEST_P(CounterGuidesTest, AnEmptyNameIsStillSaidAfterItsNotice)
 {
     InTheShift([](Clerk& clerk) {
         Type(clerk, "{ENTER}{ENTER}{ENTER}");
-        ASSERT_EQ(clerk.Message(), QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra"));
+        ASSERT_EQ(clerk.Message(), "maombarcao naaMva vyavaisqat Ta[-p kra");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboMemberName");
         EXPECT_EQ(Label(clerk, "lblFooter"), "नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : यादी बंद, मग बाहेर");
@@ -63,7 +63,7 @@ TEST_P(CounterGuidesTest, WhatWasWantedIsSaidNoLongerWhenItIsThere)
 TEST_P(CounterGuidesTest, ALineThatIsNotSavedIsSaid)
 {
     InTheShift([this](Clerk& clerk) {
-        clerk.Press(QStringLiteral("cmdGo"));
+        clerk.Press("cmdGo");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         EXPECT_EQ(Label(clerk, "lblFooter"), "रक्कम किंवा मेम्बर नाही : काहीही सेव्ह झाले नाही");
         EXPECT_TRUE(Books().isEmpty());

@@ -20,7 +20,7 @@ class EachCounterKeysTest : public EachCounterTest {
 protected:
     ~EachCounterKeysTest() override
     {
-        for (const QString& name : {QStringLiteral("frmMembers"), QStringLiteral("frmUchalVouchers")})
+        for (const QString name : {"frmMembers", "frmUchalVouchers"})
             ScreenDirectory::Add(name, {});
     }
 
@@ -57,7 +57,7 @@ TEST_P(EachCounterKeysTest, F3OpensTheMembersAndTheEntryStays)
     Register("frmMembers");
     AtTheLitres([](Clerk& clerk) {
         Type(clerk, "{F3}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
+        EXPECT_EQ(clerk.ScreenName(), "frmMembers");
         Type(clerk, "{ESC}");
         ExpectTheLitres(clerk);
     });
@@ -68,7 +68,7 @@ TEST_P(EachCounterKeysTest, F6OpensTheVouchersAndTheEntryStays)
     Register("frmUchalVouchers");
     AtTheLitres([](Clerk& clerk) {
         Type(clerk, "{F6}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmUchalVouchers"));
+        EXPECT_EQ(clerk.ScreenName(), "frmUchalVouchers");
         Type(clerk, "{ESC}");
         ExpectTheLitres(clerk);
     });
@@ -78,7 +78,7 @@ TEST_P(EachCounterKeysTest, F12OpensTheKeyboardTutorAndTheEntryStays)
 {
     AtTheLitres([](Clerk& clerk) {
         Type(clerk, "{F12}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
+        EXPECT_EQ(clerk.ScreenName(), "frmKeyboardTutor");
         Type(clerk, "{ESC}");
         ExpectTheLitres(clerk);
     });
@@ -89,7 +89,7 @@ TEST_P(EachCounterKeysTest, AScreenThatIsNotThereIsAMessageThatNamesItsEntry)
     AtTheLitres([this](Clerk& clerk) {
         Type(clerk, "{F6}");
         ASSERT_EQ(TheBox.Shown.size(), 1);
-        EXPECT_TRUE(TheBox.Shown[0].contains(Seen(QStringLiteral("]cala naaoMd"))));
+        EXPECT_TRUE(TheBox.Shown[0].contains(Seen("]cala naaoMd")));
         ExpectTheLitres(clerk);
     });
 }
@@ -137,8 +137,8 @@ TEST_F(CounterKeysTest, F9FillsTheLineWithTheMembersFirstRowAndOpensTheSearch)
     AddMorningDelivery(2);
     InTheMorning([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{F9}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmSearchCollections"));
-        EXPECT_EQ(gAppState.gCallerTag, QStringLiteral("MC"));
+        EXPECT_EQ(clerk.ScreenName(), "frmSearchCollections");
+        EXPECT_EQ(gAppState.gCallerTag, "MC");
         Type(clerk, "{ESC}");
         EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "1");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "rama");
@@ -155,8 +155,8 @@ TEST_F(CounterKeysTest, F9OnAMemberWithoutARowDoesNothing)
     Register("frmSearchCollections");
     InTheMorning([this](Clerk& clerk) {
         Type(clerk, "{ENTER}1{F9}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
-        EXPECT_EQ(gAppState.gCallerTag, QStringLiteral("N"));
+        EXPECT_EQ(clerk.ScreenName(), "frmMilkCollections");
+        EXPECT_EQ(gAppState.gCallerTag, "N");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
     });
 }
@@ -166,7 +166,7 @@ TEST_F(CounterKeysTest, TheKeysOfTheMembersNumberDoNothingElsewhere)
     AddMorningDelivery(1);
     InTheMorning([this](Clerk& clerk) {
         Type(clerk, "{F7}{F9}{F10}{F4}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+        EXPECT_EQ(clerk.ScreenName(), "frmMilkCollections");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
         EXPECT_EQ(Books().size(), 1);
     });

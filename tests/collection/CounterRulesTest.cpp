@@ -18,8 +18,8 @@ protected:
 
     void AddYesterdays(int number, int member, const char* name, const char* animal, double fat)
     {
-        AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("sakaL"), number, member,
-            QString::fromLatin1(name), QString::fromLatin1(animal), 5, fat, 35, 175);
+        AddDelivery("14/04/2026", "sakaL", number, member, QString::fromLatin1(name),
+            QString::fromLatin1(animal), 5, fat, 35, 175);
     }
 
     // From the number to the fat of a member with one animal; what he is offered there.
@@ -53,7 +53,7 @@ public:
 TEST_P(CounterRulesTest, ADuplicateIsFoundWhateverBlanksStandAroundItsAnimal)
 {
     AddMorningDelivery(1);
-    Run(QStringLiteral("update MilkCollections set Animal=' gaaya '"));
+    Run("update MilkCollections set Animal=' gaaya '");
     InTheShift([this](Clerk& clerk) {
         Deliver(clerk, 1, "2", "4.5");
         EXPECT_EQ(TheBox.Shown, Of({"Duplicate Record"}));
@@ -71,14 +71,14 @@ TEST_P(CounterRulesTest, ADuplicateIsToldWhileItsLineCanStillBeRead)
     });
     World::Current().messageBox = &TheBox;
     EXPECT_EQ(box.Line[QStringLiteral("Duplicate Record")],
-        QStringList({QStringLiteral("1"), QString::fromStdString(Litres("2.00")), QStringLiteral("70.00")}));
+        QStringList({"1", QString::fromStdString(Litres("2.00")), "70.00"}));
 }
 
 // The last fat
 
 TEST_P(CounterRulesTest, OfTwoMembersOfOneNameEachIsOfferedHisOwnFat)
 {
-    AddMember(8, QStringLiteral("rama"), QStringLiteral("gaaya"));
+    AddMember(8, "rama", "gaaya");
     AddYesterdays(1, 1, "rama", "gaaya", 4.2);
     AddYesterdays(2, 8, "rama", "gaaya", 5.5);
     InTheShift([](Clerk& clerk) { EXPECT_EQ(OfferedFat(clerk, "1"), "4.2"); });
@@ -114,7 +114,7 @@ TEST_P(CounterRulesTest, ANewNumberAfterAnExistingRowIsOfferedAFatAgain)
     InTheShift([](Clerk& clerk) {
         Type(clerk, "1{ENTER}{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtFat"), "4.5");
-        clerk.Press(QStringLiteral("txtCollectionNo"));
+        clerk.Press("txtCollectionNo");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         Type(clerk, "{HOME}+{END}2");
         EXPECT_EQ(OfferedFat(clerk, "2"), "8.1");
@@ -130,7 +130,7 @@ TEST_P(CounterRulesTest, ASilentScaleLeavesTheLitresThatStandThere)
     gAppState.gAutoLiters = QStringLiteral("haoya");
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "1{ENTER}{ENTER}");
-        EXPECT_TRUE(Ports.Log.contains(QStringLiteral("write W"))) << "it was asked";
+        EXPECT_TRUE(Ports.Log.contains("write W")) << "it was asked";
         EXPECT_EQ(Reads(clerk, "txtLiters"), Litres("5.00"));
         EXPECT_EQ(Focus(clerk), "txtFat");
     });
@@ -144,7 +144,7 @@ TEST_P(CounterRulesTest, ASilentTesterLeavesTheFatThatStandsThere)
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "1{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
-        EXPECT_TRUE(Ports.Log.contains(QStringLiteral("write W"))) << "it was asked";
+        EXPECT_TRUE(Ports.Log.contains("write W")) << "it was asked";
         EXPECT_EQ(Reads(clerk, "txtFat"), "4.5");
     });
 }
@@ -156,12 +156,12 @@ TEST_P(CounterRulesTest, NoTareIsSentForACanThatWasNotSaved)
     gAppState.gWeighScale = QStringLiteral("NO");
     gAppState.gAutoLiters = QStringLiteral("haoya");
     InTheShift([](Clerk& clerk) {
-        gCn.RunScript(QStringLiteral("create trigger NoRoom before insert on MilkReceipt "
-                                     "begin select raise(abort, 'no room'); end"));
+        gCn.RunScript("create trigger NoRoom before insert on MilkReceipt "
+                      "begin select raise(abort, 'no room'); end");
         Deliver(clerk, 1, "5", "4.5");
     });
     ASSERT_TRUE(Failure);
-    EXPECT_FALSE(Ports.Log.contains(QStringLiteral("write t")));
+    EXPECT_FALSE(Ports.Log.contains("write t"));
     Failure.reset();
 }
 
@@ -174,9 +174,9 @@ TEST_P(CounterRulesTest, AChangedRowSendsTheTareToo)
         Type(clerk, "1{ENTER}{ENTER}"); // the litres go on by themselves
         EXPECT_EQ(Focus(clerk), "txtFat");
         Type(clerk, "{ENTER}{ENTER}");
-        EXPECT_FALSE(Ports.Log.contains(QStringLiteral("write t"))) << "not yet";
+        EXPECT_FALSE(Ports.Log.contains("write t")) << "not yet";
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(Ports.Log.count(QStringLiteral("write t")), 1);
+        EXPECT_EQ(Ports.Log.count("write t"), 1);
     });
     EXPECT_EQ(Error(), "");
 }
@@ -187,8 +187,8 @@ TEST_P(CounterRulesTest, AnUnknownNameBesideANumberLoadsTheListAnew)
 {
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "{ENTER}3{ENTER}1{ENTER}2");
-        AddMember(4, QStringLiteral("Aajaaobaa"));
-        clerk.Press(QStringLiteral("ComboMemberName"));
+        AddMember(4, "Aajaaobaa");
+        clerk.Press("ComboMemberName");
         Type(clerk, "{END}+{HOME}raja{ENTER}");
         EXPECT_EQ(dynamic_cast<NameCombo&>(*clerk.Top().Find(u"ComboMemberName")).Items(),
             Of({"Aajaaobaa", "gaNaoSa", "rama", "saIta"}));
@@ -202,7 +202,7 @@ TEST_P(CounterRulesTest, ASlipOfNoCompanyIsGoneBeforeTheSlipIsPrinted)
     Set("PrintStatus", "haoya");
     QStringList atPrinting;
     TemplateReport::Engine() = [&](const TemplateReport::Run&) {
-        atPrinting.append(One(QStringLiteral("select count(*) from MilkReceipt")));
+        atPrinting.append(One("select count(*) from MilkReceipt"));
     };
     InTheShift([](Clerk& clerk) {
         gAppState.gCompanyId = 0;

@@ -13,9 +13,9 @@ class CounterTest : public SocietyTest {
 protected:
     CounterTest()
     {
-        AddMember(1, QStringLiteral("rama"), QStringLiteral("gaaya"));
-        AddMember(2, QStringLiteral("saIta"), QStringLiteral("mhOsa"));
-        AddMember(3, QStringLiteral("gaNaoSa"), QStringLiteral("daonhI"));
+        AddMember(1, "rama", "gaaya");
+        AddMember(2, "saIta", "mhOsa");
+        AddMember(3, "gaNaoSa", "daonhI");
         TemplateReport::Engine() = [this](const TemplateReport::Run& run) { Printed.push_back(run); };
     }
     ~CounterTest() override { TemplateReport::Engine() = m_engine; }
@@ -94,14 +94,13 @@ protected:
     // One that member 1 made in the morning of the 15th: 5 litres of 4.5.
     void AddMorningDelivery(int number)
     {
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), number, 1, QStringLiteral("rama"),
-            QStringLiteral("gaaya"), 5, 4.5, 35, 175);
+        AddDelivery("15/04/2026", "sakaL", number, 1, "rama", "gaaya", 5, 4.5, 35, 175);
     }
 
     void Set(const char* setting, const char* value);
 
-    QStringList Books() { return Lines(QStringLiteral("MilkCollections")); }
-    QStringList Copy() { return Lines(QStringLiteral("MilkCollectionsTemp")); }
+    QStringList Books() { return Lines("MilkCollections"); }
+    QStringList Copy() { return Lines("MilkCollectionsTemp"); }
 
     // What a test compares lists of lines with.
     static QStringList Of(std::initializer_list<const char*> lines);

@@ -19,9 +19,9 @@ protected:
     CounterWalksTest()
     {
         Set("RepeatCollection", "haoya");
-        gCn.RunScript(QStringLiteral("create table Fat140426 as select Fat, CowRate + 1 as CowRate, "
-                                     "BuffRate + 1 as BuffRate from Fat010426"));
-        Run(QStringLiteral("insert into FatDates(FromDate,FatFileName) values('14/04/2026','Fat140426')"));
+        gCn.RunScript("create table Fat140426 as select Fat, CowRate + 1 as CowRate, "
+                      "BuffRate + 1 as BuffRate from Fat010426");
+        Run("insert into FatDates(FromDate,FatFileName) values('14/04/2026','Fat140426')");
         AddPriced(1, 1, "rama", "gaaya", 5, 4.5);
         AddPriced(2, 2, "saIta", "mhOsa", 2, 8);
         AddPriced(3, 3, "gaNaoSa", "gaaya", 2, 4.5);
@@ -31,8 +31,8 @@ protected:
     {
         const QDate day(2026, 4, 15);
         const double rate = LookupFatRate(day, fat, QString::fromLatin1(animal)).rate;
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), number, member,
-            QString::fromLatin1(name), QString::fromLatin1(animal), liters, fat, rate, liters * rate);
+        AddDelivery("15/04/2026", "sakaL", number, member, QString::fromLatin1(name),
+            QString::fromLatin1(animal), liters, fat, rate, liters * rate);
     }
 
     // A tester that is silent, beside a scale that it makes weigh a second time.
@@ -40,15 +40,14 @@ protected:
     {
         gAppState.gWeighScale = QStringLiteral("UDFREAD");
         gAppState.gAutoFat = QStringLiteral("haoya");
-        Run(QStringLiteral("update PortTable set LReceiverCommand='RD'"));
+        Run("update PortTable set LReceiverCommand='RD'");
         Ports.Replies.insert("RD", {{QByteArray("12345 06.5"), 1ms}});
     }
 
     // The first delivery in the books whose rate isn't the chart's, or whose amount isn't made from it.
     QString Mispriced()
     {
-        for (Recordset row(gCn, QStringLiteral("select * from MilkCollections")); !row.Eof();
-             row.MoveNext()) {
+        for (Recordset row(gCn, "select * from MilkCollections"); !row.Eof(); row.MoveNext()) {
             const double rate = row[u"Rate"].Number();
             const FatRate chart =
                 LookupFatRate(row[u"CollectionDate"].Date(), row[u"Fat"].Number(), row[u"Animal"].Text());

@@ -17,8 +17,8 @@ protected:
 
     void Add(const char* date, const char* shift, int number, int member, double fat)
     {
-        AddDelivery(QString::fromLatin1(date), QString::fromLatin1(shift), number, member,
-            QStringLiteral("rama"), QStringLiteral("gaaya"), 5, fat, 35, 175);
+        AddDelivery(QString::fromLatin1(date), QString::fromLatin1(shift), number, member, "rama", "gaaya", 5,
+            fat, 35, 175);
     }
 
     // The row of the list that reads like this; -1 if there is none.
@@ -33,8 +33,8 @@ protected:
 
     static std::string MorningLine(const std::string& date, const std::string& number, const std::string& fat)
     {
-        return date + '|' + Seen(QStringLiteral("sakaL")).toStdString() + '|' + number + '|'
-            + Seen(QStringLiteral("gaaya")).toStdString() + "|5.000|" + fat + "|35.00|175.00";
+        return date + '|' + Seen("sakaL").toStdString() + '|' + number + '|' + Seen("gaaya").toStdString()
+            + "|5.000|" + fat + "|35.00|175.00";
     }
 
     // From the member's number to that row, with the list opened.
@@ -88,7 +88,7 @@ TEST_F(DailyCollectionChangesTest, LeavingTheNumberShowsTheRowWithoutFormats)
 
 TEST_F(DailyCollectionChangesTest, AFigureThatIsMissingCountsAsZero)
 {
-    Run(QStringLiteral("update MilkCollections set Rate=null where CollectionNo=7"));
+    Run("update MilkCollections set Rate=null where CollectionNo=7");
     InTheOffice([](Clerk& clerk) {
         GoTo(clerk, "%d", "15042026", 7);
         EXPECT_EQ(Reads(clerk, "txtRate"), "0");
@@ -108,7 +108,7 @@ TEST_F(DailyCollectionChangesTest, ARowThatIsNotThereIsToldAndCancels)
     for (const char* mode : {"%d", "%k"}) {
         InTheOffice([mode](Clerk& clerk) {
             GoTo(clerk, mode, "15042026", 99);
-            EXPECT_EQ(clerk.Message(), QStringLiteral("saMklana naM tpasaa.")) << mode;
+            EXPECT_EQ(clerk.Message(), "saMklana naM tpasaa.") << mode;
             Type(clerk, "{ENTER}");
             ExpectIdle(clerk, "cmdAdd");
         });
@@ -119,7 +119,7 @@ TEST_F(DailyCollectionChangesTest, ARowThatIsNotThereIsToldAndCancels)
 TEST_F(DailyCollectionChangesTest, AnEmptyNumberCountsAsZeroAndIsNoRow)
 {
     After("%d1{ENTER}{ENTER}15042026{ENTER}1{ENTER}{ENTER}",
-        [](Clerk& clerk) { EXPECT_EQ(clerk.Message(), QStringLiteral("saMklana naM tpasaa.")); });
+        [](Clerk& clerk) { EXPECT_EQ(clerk.Message(), "saMklana naM tpasaa."); });
 }
 
 TEST_F(DailyCollectionChangesTest, AChangeIsPricedAnewAndSavedFromTheRate)
@@ -193,7 +193,7 @@ TEST_F(DailyCollectionChangesTest, ANumberAndTheButtonAtOnceShowTheRowAndASecond
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         EXPECT_EQ(Reads(clerk, "txtFat"), "4.55");
         EXPECT_EQ(Books().size(), 5);
-        clerk.Press(QStringLiteral("cmdDelete"));
+        clerk.Press("cmdDelete");
         ExpectIdle(clerk, "cmdDelete");
         EXPECT_EQ(Books().size(), 4);
     });
@@ -227,9 +227,8 @@ TEST_F(DailyCollectionChangesTest, ADeletionTakesTheNumberOfMemberAndShiftOnEver
 {
     Add("17/04/2026", "saMQyaakaL", 5, 1, 4.5);
     Add("17/04/2026", "sakaL", 5, 2, 4.5);
-    Run(QStringLiteral(
-        "insert into MilkCollections(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo) "
-        "values(2,'18/04/2026','sakaL',5,1)"));
+    Run("insert into MilkCollections(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo) "
+        "values(2,'18/04/2026','sakaL',5,1)");
     InTheOffice([](Clerk& clerk) {
         GoTo(clerk, "%k", "15042026", 5);
         EXPECT_EQ(Focus(clerk), "cmdDelete");
@@ -239,15 +238,15 @@ TEST_F(DailyCollectionChangesTest, ADeletionTakesTheNumberOfMemberAndShiftOnEver
         ExpectIdle(clerk, "cmdDelete");
         EXPECT_EQ(Label(clerk, "lblGuide"), "");
     });
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo from "
-                                  "MilkCollections order by CompanyId,CollectionDate,CollectionNo,MemberNo")),
+    EXPECT_EQ(Rows("select CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo from "
+                   "MilkCollections order by CompanyId,CollectionDate,CollectionNo,MemberNo"),
         Of({"1|15/04/2026|saMQyaakaL|6|1", "1|15/04/2026|sakaL|7|1", "1|17/04/2026|saMQyaakaL|5|1",
             "1|17/04/2026|sakaL|5|2", "2|18/04/2026|sakaL|5|1"}));
 }
 
 TEST_F(DailyCollectionChangesTest, ADeletionLeavesTheMembersFiguresAlone)
 {
-    Run(QStringLiteral("update MembersMaster set ClosingBalance=525,ClosingDorC='C',CowClosingLits=15"));
+    Run("update MembersMaster set ClosingBalance=525,ClosingDorC='C',CowClosingLits=15");
     const QString members = QStringLiteral("select MemberNo,ClosingBalance,ClosingDorC,CowClosingLits,"
                                            "BuffClosingLits from MembersMaster");
     const QStringList before = Rows(members);
@@ -261,8 +260,8 @@ TEST_F(DailyCollectionChangesTest, ADeletionLeavesTheMembersFiguresAlone)
 
 TEST_F(DailyCollectionChangesTest, ADeletionAsksForNoPayment)
 {
-    Run(QStringLiteral("insert into MilkPayments(CompanyId,MemberNo,FromDate,ToDate) "
-                       "values(1,1,'15/04/2026','15/04/2026')"));
+    Run("insert into MilkPayments(CompanyId,MemberNo,FromDate,ToDate) "
+        "values(1,1,'15/04/2026','15/04/2026')");
     InTheOffice([](Clerk& clerk) {
         GoTo(clerk, "%k", "15042026", 5);
         Type(clerk, "{ENTER}");
@@ -291,7 +290,7 @@ TEST_F(DailyCollectionChangesTest, TheGuidesSayHowARowIsFoundAndWhatIsSaved)
         Type(clerk, "3{ENTER}{ENTER}15042026{ENTER}1{ENTER}");
         EXPECT_EQ(Label(clerk, "lblGuide"), "1 ते 32766");
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(Label(clerk, "lblGuide"), Seen(QStringLiteral("  1 ¹ gaaya    2 ¹ mhOsa")).toStdString());
+        EXPECT_EQ(Label(clerk, "lblGuide"), Seen("  1 ¹ gaaya    2 ¹ mhOsa").toStdString());
     });
 }
 
@@ -328,8 +327,8 @@ TEST_F(DailyCollectionChangesTest, CancelByItsKeyIsNotHeldByAFieldThatRefuses)
 TEST_F(DailyCollectionChangesTest, CancelByTheMouseAsksNoRuleOfTheFieldBefore)
 {
     After("%d1{ENTER}{ENTER}15042026{ENTER}1{ENTER}99", [](Clerk& clerk) {
-        clerk.Press(QStringLiteral("cmdCancel"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmDailyCollection")) << "no message";
+        clerk.Press("cmdCancel");
+        EXPECT_EQ(clerk.ScreenName(), "frmDailyCollection") << "no message";
         ExpectIdle(clerk, "cmdAdd");
     });
 }
@@ -338,8 +337,7 @@ TEST_F(DailyCollectionChangesTest, CancelByTheMouseAsksNoRuleOfTheFieldBefore)
 
 TEST_F(DailyCollectionChangesTest, F5ListsTheMembersRowsWhileAdding)
 {
-    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 8, 2, QStringLiteral("saIta"),
-        QStringLiteral("mhOsa"), 2, 8, 49, 98);
+    AddDelivery("15/04/2026", "sakaL", 8, 2, "saIta", "mhOsa", 2, 8, 49, 98);
     Adding([](Clerk& clerk) {
         Type(clerk, "1{F5}");
         EXPECT_EQ(Grid(clerk, "DataGrid1").Rows(), 5);
@@ -353,7 +351,7 @@ TEST_F(DailyCollectionChangesTest, F5ListsTheMembersRowsWhileAdding)
 
 TEST_F(DailyCollectionChangesTest, TheListHasItsCaptionsAndItsFiguresTheirDecimals)
 {
-    Run(QStringLiteral("update MilkCollections set Liters=5.5,Rate=35.5,Amount=195.25 where CollectionNo=7"));
+    Run("update MilkCollections set Liters=5.5,Rate=35.5,Amount=195.25 where CollectionNo=7");
     Adding([](Clerk& clerk) {
         Type(clerk, "1{F5}");
         const DataGrid& list = Grid(clerk, "DataGrid1");
@@ -381,7 +379,7 @@ TEST_F(DailyCollectionChangesTest, F5DoesNothingElsewhere)
 
 TEST_F(DailyCollectionChangesTest, F5ClearsTheCompanyThatIsNeverUsed)
 {
-    Run(QStringLiteral("insert into MilkCollections(CompanyId,CollectionNo,MemberNo) values(999,1,1)"));
+    Run("insert into MilkCollections(CompanyId,CollectionNo,MemberNo) values(999,1,1)");
     After("%n1{F5}", [](Clerk& clerk) { EXPECT_EQ(Grid(clerk, "DataGrid1").Rows(), 5); });
     EXPECT_EQ(Books().size(), 5);
 }
@@ -410,7 +408,7 @@ TEST_F(DailyCollectionChangesTest, ARowIsPickedByTheMouse)
 {
     Adding([](Clerk& clerk) {
         ListAndMoveTo(clerk, MorningLine("16/04/2026", "5", "4.50"));
-        clerk.Press(QStringLiteral("DataGrid1"));
+        clerk.Press("DataGrid1");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         EXPECT_EQ(Reads(clerk, "MasKCollectionDate"), "16/04/2026");
         EXPECT_FALSE(CanEnter(clerk, "DataGrid1"));
@@ -431,9 +429,9 @@ TEST_F(DailyCollectionChangesTest, TheListFollowsASaveAndGoesWithItsMember)
     Adding([](Clerk& clerk) {
         Type(clerk, "1{F5}{TAB}{ENTER}{ENTER}20042026{ENTER}1{ENTER}{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}");
         EXPECT_EQ(Grid(clerk, "DataGrid1").Rows(), 6);
-        clerk.Press(QStringLiteral("txtLiters"));
+        clerk.Press("txtLiters");
         Type(clerk, "1");
-        clerk.Press(QStringLiteral("txtMemberNo"));
+        clerk.Press("txtMemberNo");
         Type(clerk, "2");
         EXPECT_FALSE(CanEnter(clerk, "DataGrid1"));
     });

@@ -11,8 +11,8 @@ protected:
 
     void Add(const char* date, const char* shift, int number, int member, double liters)
     {
-        AddDelivery(QString::fromLatin1(date), QString::fromLatin1(shift), number, member,
-            QStringLiteral("rama"), QStringLiteral("gaaya"), liters, 4.5, 35, liters * 35);
+        AddDelivery(QString::fromLatin1(date), QString::fromLatin1(shift), number, member, "rama", "gaaya",
+            liters, 4.5, 35, liters * 35);
     }
 };
 
@@ -24,8 +24,8 @@ TEST_F(DailyCollectionKeysTest, AChangeReachesTheRowOfItsMemberDayAndShiftAlone)
     Add("16/04/2026", "saMQyaakaL", 5, 1, 5);
     After("%d1{ENTER}{ENTER}15042026{ENTER}2{ENTER}5{ENTER}",
         [](Clerk& clerk) { Type(clerk, "{ENTER}6{ENTER}4.5{ENTER}{ENTER}{ENTER}"); });
-    QStringList days = Rows(QStringLiteral("select CollectionDate,CollectionTime,MemberNo,Liters,Amount "
-                                           "from MilkCollections"));
+    QStringList days = Rows("select CollectionDate,CollectionTime,MemberNo,Liters,Amount "
+                            "from MilkCollections");
     days.sort();
     EXPECT_EQ(days,
         Of({"15/04/2026|saMQyaakaL|1|6|210", "15/04/2026|saMQyaakaL|2|5|175", "15/04/2026|sakaL|1|5|175",
@@ -58,7 +58,7 @@ TEST_F(DailyCollectionKeysTest, ACanOfAnotherMemberOrOfTheOtherCompanyIsNoDuplic
 {
     Add("15/04/2026", "sakaL", 1, 2, 5);
     Add("15/04/2026", "sakaL", 2, 1, 5);
-    Run(QStringLiteral("update MilkCollections set CompanyId=2 where CollectionNo=2"));
+    Run("update MilkCollections set CompanyId=2 where CollectionNo=2");
     AddingFor(1, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}6{ENTER}4.5{ENTER}{ENTER}"); });
     EXPECT_TRUE(TheBox.Shown.isEmpty());
     EXPECT_EQ(Books().size(), 3);
@@ -68,7 +68,7 @@ TEST_F(DailyCollectionKeysTest, TheListHasTheMembersRowsOfEveryCompany)
 {
     Add("15/04/2026", "sakaL", 1, 1, 5);
     Add("15/04/2026", "saMQyaakaL", 2, 1, 5);
-    Run(QStringLiteral("update MilkCollections set CompanyId=2 where CollectionNo=2"));
+    Run("update MilkCollections set CompanyId=2 where CollectionNo=2");
     Adding([](Clerk& clerk) {
         Type(clerk, "1{F5}");
         EXPECT_EQ(Grid(clerk, "DataGrid1").Rows(), 2);
@@ -78,23 +78,22 @@ TEST_F(DailyCollectionKeysTest, TheListHasTheMembersRowsOfEveryCompany)
 TEST_F(DailyCollectionKeysTest, AMemberAndARowOfTheOtherCompanyAreShownAndChanged)
 {
     gAppState.gCompanyId = 2;
-    AddMember(40, QStringLiteral("maaQava"), QStringLiteral("gaaya"));
+    AddMember(40, "maaQava", "gaaya");
     gAppState.gCompanyId = 1;
     Add("15/04/2026", "sakaL", 5, 40, 5);
-    Run(QStringLiteral("update MilkCollections set CompanyId=2"));
+    Run("update MilkCollections set CompanyId=2");
     After("%d40{ENTER}", [](Clerk& clerk) {
         EXPECT_EQ(Reads(clerk, "cmbMemberName"), "maaQava");
         Type(clerk, "{ENTER}15042026{ENTER}1{ENTER}5{ENTER}{ENTER}6{ENTER}4.5{ENTER}{ENTER}{ENTER}");
     });
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,MemberNo,Liters,Amount from MilkCollections")),
-        Of({"2|40|6|210"}));
+    EXPECT_EQ(Rows("select CompanyId,MemberNo,Liters,Amount from MilkCollections"), Of({"2|40|6|210"}));
 }
 
 TEST_F(DailyCollectionKeysTest, ANameOfTheOtherCompanyIsListedAndFoundAndStaysBesideItsNumber)
 {
-    AddMember(40, QStringLiteral("maaQava"), QStringLiteral("gaaya"));
-    AddMember(41, QStringLiteral("maaQava"), QStringLiteral("gaaya"));
-    Run(QStringLiteral("update MembersMaster set CompanyId=2 where MemberNo>3"));
+    AddMember(40, "maaQava", "gaaya");
+    AddMember(41, "maaQava", "gaaya");
+    Run("update MembersMaster set CompanyId=2 where MemberNo>3");
     Adding([](Clerk& clerk) {
         EXPECT_EQ(dynamic_cast<const NameCombo&>(*clerk.Top().Find(u"cmbMemberName")).Items().size(), 5);
         Type(clerk, "{ENTER}maaQava{ENTER}");

@@ -24,10 +24,7 @@ protected:
     }
 
     // The row that is keyed by WithAPricedRow, or changed by ChangingARow.
-    QStringList Figures()
-    {
-        return Rows(QStringLiteral("select Liters,Fat,Rate,Amount from MilkCollections"));
-    }
+    QStringList Figures() { return Rows("select Liters,Fat,Rate,Amount from MilkCollections"); }
 };
 
 }
@@ -35,10 +32,10 @@ protected:
 TEST_F(DailyCollectionPricingTest, LitresThatCameAfterTheAmountArePricedBeforeTheyAreSaved)
 {
     for (bool byMouse : {false, true}) {
-        Run(QStringLiteral("delete * from MilkCollections"));
+        Run("delete * from MilkCollections");
         WithAPricedRow(1, [&](Clerk& clerk) {
             Change(clerk, "txtLiters", "9");
-            byMouse ? clerk.Press(QStringLiteral("cmdAdd")) : Type(clerk, "%s");
+            byMouse ? clerk.Press("cmdAdd") : Type(clerk, "%s");
             EXPECT_EQ(Focus(clerk), "txtFat");
             EXPECT_TRUE(Books().isEmpty());
             Type(clerk, "{ENTER}");
@@ -66,7 +63,7 @@ TEST_F(DailyCollectionPricingTest, AFatOrARateIsPricedOnBeingLeftForTheSaveButto
 {
     for (const auto& [field, keys, saved] :
         {std::tuple("txtFat", "4.6", "5|4.6|35.12|175.6"), std::tuple("txtRate", "36", "5|4.5|36|180")}) {
-        Run(QStringLiteral("delete * from MilkCollections"));
+        Run("delete * from MilkCollections");
         WithAPricedRow(1, [&, field = field, keys = keys](Clerk& clerk) {
             Change(clerk, field, keys);
             Type(clerk, "%s");
@@ -113,11 +110,11 @@ TEST_F(DailyCollectionPricingTest, AnAmountTypedBeforeTheFiguresDoesNot)
 TEST_F(DailyCollectionPricingTest, ChangedLitresArePricedBeforeTheyAreSaved)
 {
     for (bool byMouse : {false, true}) {
-        Run(QStringLiteral("delete * from MilkCollections"));
+        Run("delete * from MilkCollections");
         AddMorningDelivery(5);
         ChangingARow([&](Clerk& clerk) {
             Change(clerk, "txtLiters", "9");
-            byMouse ? clerk.Press(QStringLiteral("cmdModify")) : Type(clerk, "%s");
+            byMouse ? clerk.Press("cmdModify") : Type(clerk, "%s");
             EXPECT_EQ(Focus(clerk), "txtFat");
             EXPECT_EQ(Figures(), Of({"5|4.5|35|175"}));
             Type(clerk, "{ENTER}{ENTER}{ENTER}");
@@ -130,7 +127,7 @@ TEST_F(DailyCollectionPricingTest, ChangedLitresArePricedBeforeTheyAreSaved)
 TEST_F(DailyCollectionPricingTest, ARowIsSavedAsItStoodAndWithTheAmountThatIsTyped)
 {
     AddMorningDelivery(5);
-    Run(QStringLiteral("update MilkCollections set Amount=171"));
+    Run("update MilkCollections set Amount=171");
     ChangingARow([](Clerk& clerk) {
         Type(clerk, "%s");
         ExpectIdle(clerk, "cmdModify");
@@ -145,32 +142,32 @@ TEST_F(DailyCollectionPricingTest, ARowIsSavedAsItStoodAndWithTheAmountThatIsTyp
 TEST_F(DailyCollectionPricingTest, ARowOfAnotherCompanyIsNoDuplicate)
 {
     AddMorningDelivery(5);
-    Run(QStringLiteral("update MilkCollections set CompanyId=2"));
+    Run("update MilkCollections set CompanyId=2");
     WithAPricedRow(1, [this](Clerk& clerk) {
         Type(clerk, "{ENTER}");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
     });
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,CollectionNo from MilkCollections order by CompanyId")),
-        Of({"1|1", "2|5"}));
+    EXPECT_EQ(
+        Rows("select CompanyId,CollectionNo from MilkCollections order by CompanyId"), Of({"1|1", "2|5"}));
 }
 
 TEST_F(DailyCollectionPricingTest, ARowOfAnotherCompanyIsShownAndChangedLikeAnyOther)
 {
     AddMorningDelivery(5);
-    Run(QStringLiteral("update MilkCollections set CompanyId=2"));
+    Run("update MilkCollections set CompanyId=2");
     ChangingARow([](Clerk& clerk) {
         EXPECT_EQ(Reads(clerk, "txtLiters"), "5");
         Type(clerk, "{ENTER}6{ENTER}4.5{ENTER}{ENTER}{ENTER}");
     });
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,Liters,Amount from MilkCollections")), Of({"2|6|210"}));
+    EXPECT_EQ(Rows("select CompanyId,Liters,Amount from MilkCollections"), Of({"2|6|210"}));
 }
 
 // Title
 
 TEST_F(DailyCollectionPricingTest, TheTitleTellsTheModeAndCancelTakesItBack)
 {
-    const std::pair<const char*, QString> titles[] = {{"%n", QStringLiteral(" navaIna roka^D-")},
-        {"%d", QStringLiteral(" roka^D-maQyao badla")}, {"%k", QStringLiteral(" roka^D- KaoDNao")}};
+    const std::pair<const char*, QString> titles[] = {
+        {"%n", " navaIna roka^D-"}, {"%d", " roka^D-maQyao badla"}, {"%k", " roka^D- KaoDNao"}};
     const QString idle = QStringLiteral("  raojacao saBaasadanausaar duQa saMklana");
     for (const auto& [keys, title] : titles) {
         After(keys, [&, words = title](Clerk& clerk) {

@@ -12,21 +12,20 @@ TEST_F(DailyCollectionTest, ASaveWritesTheRowAndNothingBesideIt)
     const QStringList before = Rows(members);
     AddingFor(1, [&](Clerk& clerk) {
         Type(clerk, "{ENTER}{ENTER}5.250{ENTER}4.5{ENTER}{ENTER}");
-        EXPECT_EQ(Rows(QStringLiteral("select CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
-                                      "MemberName,Animal,Liters,Fat,Rate,Amount,TranId,ActualCollectionTime "
-                                      "from MilkCollections")),
+        EXPECT_EQ(Rows("select CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
+                       "MemberName,Animal,Liters,Fat,Rate,Amount,TranId,ActualCollectionTime "
+                       "from MilkCollections"),
             Of({"1|15/04/2026|sakaL|1|1|rama|gaaya|5.25|4.5|35|183.75|NULL|NULL"}));
         EXPECT_EQ(Rows(members), before);
         EXPECT_TRUE(Copy().isEmpty());
-        EXPECT_EQ(One(QStringLiteral("select count(*) as n from MilkReceipt")), QStringLiteral("0"));
+        EXPECT_EQ(One("select count(*) as n from MilkReceipt"), "0");
         EXPECT_TRUE(Printed.empty());
     });
 }
 
 TEST_F(DailyCollectionTest, AfterASaveTheNextDayIsReadyAtTheLitres)
 {
-    AddDelivery(QStringLiteral("16/04/2026"), QStringLiteral("saMQyaakaL"), 3, 2, QStringLiteral("saIta"),
-        QStringLiteral("mhOsa"), 2, 8, 49, 98);
+    AddDelivery("16/04/2026", "saMQyaakaL", 3, 2, "saIta", "mhOsa", 2, 8, 49, 98);
     AddingFor(1, [](Clerk& clerk) {
         Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtLiters");
@@ -84,8 +83,7 @@ TEST_F(DailyCollectionTest, TheOtherAnimalAndTheOtherShiftAreNoDuplicates)
 
 TEST_F(DailyCollectionTest, ARowEnteredHereIsNotInTheCountersCopyUntilItsShiftIsLoaded)
 {
-    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 4, 2, QStringLiteral("saIta"),
-        QStringLiteral("mhOsa"), 2, 8, 49, 98);
+    AddDelivery("15/04/2026", "sakaL", 4, 2, "saIta", "mhOsa", 2, 8, 49, 98);
     InTheMorning([this](Clerk&) { EXPECT_EQ(Copy(), Books()); });
     const QStringList before = Copy();
     AddingFor(1, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}"); });
@@ -99,13 +97,12 @@ TEST_F(DailyCollectionTest, ARowEnteredHereIsNotInTheCountersCopyUntilItsShiftIs
 
 TEST_F(DailyCollectionTest, ACounterThatStaysOpenDoesNotSeeARowEnteredHereUntilItsShiftIsLeftAgain)
 {
-    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 4, 2, QStringLiteral("saIta"),
-        QStringLiteral("mhOsa"), 2, 8, 49, 98);
+    AddDelivery("15/04/2026", "sakaL", 4, 2, "saIta", "mhOsa", 2, 8, 49, 98);
     InTheMorning([this](Clerk& clerk) {
         const QStringList before = Copy();
         OverTheCounter(
             clerk, "%n1{ENTER}{ENTER}15042026{ENTER}1{ENTER}{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}{ESC}");
-        ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+        ASSERT_EQ(clerk.ScreenName(), "frmMilkCollections");
         ASSERT_EQ(Books().size(), 2);
         const auto expectUnseen = [&](const char* when) {
             EXPECT_EQ(Copy(), before) << when;
@@ -115,9 +112,9 @@ TEST_F(DailyCollectionTest, ACounterThatStaysOpenDoesNotSeeARowEnteredHereUntilI
         expectUnseen("as the counter comes back");
         Type(clerk, "5{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "") << "number 5 is no row of the shift that is open";
-        clerk.Press(QStringLiteral("txtCollectionNo"));
+        clerk.Press("txtCollectionNo");
         expectUnseen("after a look at its number");
-        clerk.Press(QStringLiteral("txtTime"));
+        clerk.Press("txtTime");
         expectUnseen("before the shift is left");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Copy(), Books());
@@ -129,8 +126,7 @@ TEST_F(DailyCollectionTest, ACounterThatStaysOpenDoesNotSeeARowEnteredHereUntilI
 
 TEST_F(DailyCollectionTest, TheCountersSeriesContinuesFromANumberMadeHere)
 {
-    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("saMQyaakaL"), 4, 2, QStringLiteral("saIta"),
-        QStringLiteral("mhOsa"), 2, 8, 49, 98);
+    AddDelivery("15/04/2026", "saMQyaakaL", 4, 2, "saIta", "mhOsa", 2, 8, 49, 98);
     AddingFor(1, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}"); });
     InTheMorning([](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "6"); });
 }
@@ -155,8 +151,8 @@ TEST_F(DailyCollectionTest, AnEarlySaveGoesToTheFieldThatIsMissing)
 
 TEST_F(DailyCollectionTest, AStatementThatFailsChangesNothing)
 {
-    AddMember(5, QStringLiteral("ok"), QStringLiteral("gaaya"));
-    gCn.RunScript(QStringLiteral("update MembersMaster set MemberName='o''k' where MemberNo=5"));
+    AddMember(5, "ok", "gaaya");
+    gCn.RunScript("update MembersMaster set MemberName='o''k' where MemberNo=5");
     AddingFor(5, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}{ENTER}"); });
     ASSERT_TRUE(Failure);
     EXPECT_TRUE(Books().isEmpty());
@@ -166,8 +162,7 @@ TEST_F(DailyCollectionTest, AStatementThatFailsChangesNothing)
 
 TEST_F(DailyCollectionTest, ADayOrShiftThatCameAfterTheNumberGetsItsOwnBeforeTheRowIsSaved)
 {
-    AddDelivery(QStringLiteral("18/04/2026"), QStringLiteral("sakaL"), 4, 2, QStringLiteral("saIta"),
-        QStringLiteral("mhOsa"), 2, 8, 49, 98);
+    AddDelivery("18/04/2026", "sakaL", 4, 2, "saIta", "mhOsa", 2, 8, 49, 98);
     AddingFor(1, [this](Clerk& clerk) {
         Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}");
         for (int step = 0; step < 8; ++step)
@@ -246,9 +241,8 @@ TEST_F(DailyCollectionTest, ANumberBeyondTheCountersIsNotSaved)
 TEST_F(DailyCollectionTest, ANumberThatTheScreenHasProposedItselfIsSaved)
 {
     for (const int highest : {32766, 123456}) {
-        Run(QStringLiteral("delete * from MilkCollections"));
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("saMQyaakaL"), highest, 2,
-            QStringLiteral("saIta"), QStringLiteral("mhOsa"), 2, 8, 49, 98);
+        Run("delete * from MilkCollections");
+        AddDelivery("15/04/2026", "saMQyaakaL", highest, 2, "saIta", "mhOsa", 2, 8, 49, 98);
         AddingFor(1, [&](Clerk& clerk) {
             const std::string proposed = std::to_string(highest + 1);
             EXPECT_EQ(Reads(clerk, "txtCollectionNo"), proposed);
@@ -297,7 +291,7 @@ TEST_F(DailyCollectionTest, AFieldThatKeepsTheFocusSaysWhatItWants)
             Type(clerk, keys);
             EXPECT_EQ(Label(clerk, "lblGuide"), guide) << keys;
         });
-    Run(QStringLiteral("delete * from FatDates"));
+    Run("delete * from FatDates");
     AddingFor(1, [](Clerk& clerk) {
         Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}");
         EXPECT_EQ(Label(clerk, "lblGuide"), "फॅट दराचा तक्ता नाही    Alt+R : रद्द");

@@ -6,7 +6,7 @@ TEST_F(DailyCollectionTest, OpensIdleWithItsTitleAndNothingToEnter)
 {
     InTheOffice([](Clerk& clerk) {
         ExpectIdle(clerk, "cmdAdd");
-        EXPECT_EQ(clerk.Top().Title().Text(), QStringLiteral("  raojacao saBaasadanausaar duQa saMklana"));
+        EXPECT_EQ(clerk.Top().Title().Text(), "  raojacao saBaasadanausaar duQa saMklana");
         EXPECT_EQ(Label(clerk, "lblAcYear"), "2026-2027");
         EXPECT_FALSE(CanEnter(clerk, "DataGrid1"));
     });
@@ -32,7 +32,7 @@ TEST_F(DailyCollectionTest, TheCalculatorAndTheKeyboardTutorAreAtHand)
         Type(clerk, "{F2}");
         EXPECT_EQ(TheCalculator.Started, Of({"C:\\Tarvel01\\Vetrolan\\calc.EXE maximised"}));
         Type(clerk, "{F12}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
+        EXPECT_EQ(clerk.ScreenName(), "frmKeyboardTutor");
     });
 }
 
@@ -78,7 +78,7 @@ TEST_F(DailyCollectionTest, ANumberShowsItsMemberAndHisAnimal)
 
 TEST_F(DailyCollectionTest, AnotherSpellingOfANameIsTheMember)
 {
-    AddMember(8, QStringLiteral("maa$tI"), QStringLiteral("gaaya"));
+    AddMember(8, "maa$tI", "gaaya");
     Adding([](Clerk& clerk) {
         Type(clerk, "{ENTER}maarutI{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "8");
@@ -89,8 +89,7 @@ TEST_F(DailyCollectionTest, AnotherSpellingOfANameIsTheMember)
 TEST_F(DailyCollectionTest, ATextThatIsNoNumberIsEmptied)
 {
     Adding([](Clerk& clerk) {
-        clerk.Do(
-            [&] { dynamic_cast<Field&>(*clerk.Top().Find(u"txtMemberNo")).SetText(QStringLiteral("1a")); });
+        clerk.Do([&] { dynamic_cast<Field&>(*clerk.Top().Find(u"txtMemberNo")).SetText("1a"); });
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "");
         EXPECT_EQ(Reads(clerk, "cmbMemberName"), "");
@@ -153,7 +152,7 @@ TEST_F(DailyCollectionTest, ANameThatIsNobodysGivesWayToThatOfTheNumber)
 
 TEST_F(DailyCollectionTest, TheNameTakesDigitsAndApostrophes)
 {
-    AddMember(8, QStringLiteral("saIta 2"));
+    AddMember(8, "saIta 2");
     Adding([](Clerk& clerk) {
         Type(clerk, "{ENTER}s'a1I2ta");
         EXPECT_EQ(Reads(clerk, "cmbMemberName"), "s'a1I2ta");
@@ -164,7 +163,7 @@ TEST_F(DailyCollectionTest, TheNameTakesDigitsAndApostrophes)
 
 TEST_F(DailyCollectionTest, AnApostropheInTheNameFailsTheSaveAndNothingIsWritten)
 {
-    gCn.RunScript(QStringLiteral("update MembersMaster set MemberName='ra''ma' where MemberNo=1"));
+    gCn.RunScript("update MembersMaster set MemberName='ra''ma' where MemberNo=1");
     const QStringList before = Days();
     Adding([](Clerk& clerk) {
         Type(clerk, "{ENTER}ra'ma{ENTER}");
@@ -176,13 +175,13 @@ TEST_F(DailyCollectionTest, AnApostropheInTheNameFailsTheSaveAndNothingIsWritten
     });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
-    EXPECT_TRUE(Failure->Statement().contains(QStringLiteral("'ra'ma'"))) << Failure->what();
+    EXPECT_TRUE(Failure->Statement().contains("'ra'ma'")) << Failure->what();
     EXPECT_EQ(Days(), before);
 }
 
 TEST_F(DailyCollectionTest, OfTwoNamesakesTheOneOfTheNumberStays)
 {
-    AddMember(8, QStringLiteral("rama"), QStringLiteral("mhOsa"));
+    AddMember(8, "rama", "mhOsa");
     Adding([](Clerk& clerk) {
         Type(clerk, "8{ENTER}{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "8");
@@ -199,7 +198,7 @@ TEST_F(DailyCollectionTest, ABadDateKeepsTheFocusWithoutAMessage)
             Type(clerk, "1{ENTER}{ENTER}");
             Type(clerk, date);
             EXPECT_EQ(Focus(clerk), "MasKCollectionDate") << date;
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmDailyCollection"));
+            EXPECT_EQ(clerk.ScreenName(), "frmDailyCollection");
             EXPECT_TRUE(TheBox.Shown.isEmpty());
         });
     }
@@ -234,12 +233,10 @@ TEST_F(DailyCollectionTest, TheShiftComesByItsFigureOrFromItsList)
 TEST_F(DailyCollectionTest, TheSeriesOfADayRunsOverBothShiftsOfTheCompany)
 {
     AddMorningDelivery(4);
-    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("saMQyaakaL"), 6, 2, QStringLiteral("saIta"),
-        QStringLiteral("mhOsa"), 2, 8, 49, 98);
-    AddDelivery(QStringLiteral("16/04/2026"), QStringLiteral("sakaL"), 90, 2, QStringLiteral("saIta"),
-        QStringLiteral("mhOsa"), 2, 8, 49, 98);
-    Run(QStringLiteral("insert into MilkCollections(CompanyId,CollectionDate,CollectionTime,CollectionNo) "
-                       "values(2,'15/04/2026','sakaL',50)"));
+    AddDelivery("15/04/2026", "saMQyaakaL", 6, 2, "saIta", "mhOsa", 2, 8, 49, 98);
+    AddDelivery("16/04/2026", "sakaL", 90, 2, "saIta", "mhOsa", 2, 8, 49, 98);
+    Run("insert into MilkCollections(CompanyId,CollectionDate,CollectionTime,CollectionNo) "
+        "values(2,'15/04/2026','sakaL',50)");
     AddingFor(3, [](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "7"); });
 }
 
@@ -280,7 +277,7 @@ TEST_F(DailyCollectionTest, WithoutLitresTheFocusStaysAndTheyAreNotReformatted)
 TEST_F(DailyCollectionTest, LitresWithoutAnAnimalGoBackToIt)
 {
     AddingFor(3, [](Clerk& clerk) {
-        clerk.Press(QStringLiteral("txtLiters"));
+        clerk.Press("txtLiters");
         Type(clerk, "5{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtAnimal");
     });
@@ -289,7 +286,7 @@ TEST_F(DailyCollectionTest, LitresWithoutAnAnimalGoBackToIt)
 TEST_F(DailyCollectionTest, FatWithoutLitresGoesBackToThem)
 {
     AddingFor(1, [](Clerk& clerk) {
-        clerk.Press(QStringLiteral("txtFat"));
+        clerk.Press("txtFat");
         Type(clerk, "4.5{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtLiters");
         Type(clerk, "1.2.3{ENTER}");
@@ -354,11 +351,11 @@ TEST_F(DailyCollectionTest, ShiftTabLeadsBackThroughTheFigures)
 
 TEST_F(DailyCollectionTest, WithoutAChartTheFocusStaysAndTheSharedFlagIsSet)
 {
-    Run(QStringLiteral("delete * from FatDates"));
+    Run("delete * from FatDates");
     AddingFor(1, [](Clerk& clerk) {
         Type(clerk, "{ENTER}{ENTER}5{ENTER}4.5{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
-        EXPECT_EQ(gAppState.gCallerTag, QStringLiteral("1"));
+        EXPECT_EQ(gAppState.gCallerTag, "1");
         EXPECT_EQ(Reads(clerk, "txtRate"), "0");
     });
 }

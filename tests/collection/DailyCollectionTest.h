@@ -50,9 +50,8 @@ protected:
     // All rows of the books, each with its day and shift.
     QStringList Days()
     {
-        return Rows(
-            QStringLiteral("select CollectionDate,CollectionTime,CollectionNo,MemberNo,Animal,Liters,Fat,"
-                           "Rate,Amount from MilkCollections order by CollectionDate,CollectionNo"));
+        return Rows("select CollectionDate,CollectionTime,CollectionNo,MemberNo,Animal,Liters,Fat,"
+                    "Rate,Amount from MilkCollections order by CollectionDate,CollectionNo");
     }
 
     static void ExpectIdle(Clerk& clerk, const char* focus)

@@ -8,8 +8,7 @@ class DateAndShiftTest : public CounterTest {
 protected:
     void AddEveningDelivery()
     {
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("saMQyaakaL"), 7, 2, QStringLiteral("saIta"),
-            QStringLiteral("mhOsa"), 2, 8, 49, 98);
+        AddDelivery("15/04/2026", "saMQyaakaL", 7, 2, "saIta", "mhOsa", 2, 8, 49, 98);
     }
 };
 
@@ -19,16 +18,16 @@ TEST_F(DateAndShiftTest, OpensWithTheWorkingDayAndTheWallClock)
     AtTheCounter([](Clerk& clerk) {
         EXPECT_EQ(Focus(clerk), "maskDate");
         EXPECT_EQ(Reads(clerk, "maskDate"), "15/04/2026");
-        EXPECT_EQ(LabelOf(clerk, "lblActualCollectionTime").text(), QStringLiteral("9.05"));
-        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle").text(), QStringLiteral("श्री गणेश दूध संस्था"));
-        EXPECT_EQ(LabelOf(clerk, "lblAcYear").text(), QStringLiteral("2026-2027"));
+        EXPECT_EQ(LabelOf(clerk, "lblActualCollectionTime").text(), "9.05");
+        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle").text(), "श्री गणेश दूध संस्था");
+        EXPECT_EQ(LabelOf(clerk, "lblAcYear").text(), "2026-2027");
     });
 }
 
 TEST_F(DateAndShiftTest, OpeningEmptiesTheCopyAndLeavesTheBooks)
 {
     AddMorningDelivery(1);
-    Run(QStringLiteral("insert into MilkCollectionsTemp select * from MilkCollections"));
+    Run("insert into MilkCollectionsTemp select * from MilkCollections");
     AtTheCounter([this](Clerk&) {
         EXPECT_TRUE(Copy().isEmpty());
         EXPECT_EQ(Books().size(), 1);
@@ -71,9 +70,9 @@ TEST_P(BadDateTest, KeepsTheFocusWithoutAMessage)
             Type(clerk, away);
             EXPECT_EQ(Focus(clerk), "maskDate");
         }
-        clerk.Press(QStringLiteral("txtTime"));
+        clerk.Press("txtTime");
         EXPECT_EQ(Focus(clerk), "maskDate");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+        EXPECT_EQ(clerk.ScreenName(), "frmMilkCollections");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
     });
 }
@@ -105,7 +104,7 @@ TEST_F(DateAndShiftTest, TheKeysOfTheShiftPutItsWordsAndAllOthersAreDropped)
 {
     AtTheCounter([](Clerk& clerk) {
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(LabelOf(clerk, "lblFooter").text(), Seen(QStringLiteral("  1 ¹ sakaL    2 ¹ saMQyaakaL")));
+        EXPECT_EQ(LabelOf(clerk, "lblFooter").text(), Seen("  1 ¹ sakaL    2 ¹ saMQyaakaL"));
         Type(clerk, "3a");
         EXPECT_EQ(Reads(clerk, "txtTime"), "");
         Type(clerk, "1");
@@ -115,7 +114,7 @@ TEST_F(DateAndShiftTest, TheKeysOfTheShiftPutItsWordsAndAllOthersAreDropped)
         Type(clerk, "2");
         EXPECT_EQ(Reads(clerk, "txtTime"), "saMQyaakaL");
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(LabelOf(clerk, "lblFooter").text(), QStringLiteral("↑ : आधीची नोंद    ↓ : पुढची नोंद"));
+        EXPECT_EQ(LabelOf(clerk, "lblFooter").text(), "↑ : आधीची नोंद    ↓ : पुढची नोंद");
     });
 }
 
@@ -124,7 +123,7 @@ TEST_F(DateAndShiftTest, WithoutAShiftTheFocusStays)
     AtTheCounter([](Clerk& clerk) {
         Type(clerk, "{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtTime");
-        clerk.Press(QStringLiteral("txtCollectionNo"));
+        clerk.Press("txtCollectionNo");
         EXPECT_EQ(Focus(clerk), "txtTime");
     });
 }
@@ -139,7 +138,7 @@ TEST_F(DateAndShiftTest, TheSeriesGoesOnFromTheHighestNumberOverAllCompanies)
 {
     AddMorningDelivery(1);
     AddMorningDelivery(9);
-    Run(QStringLiteral("update MilkCollections set CompanyId=2 where CollectionNo=9"));
+    Run("update MilkCollections set CompanyId=2 where CollectionNo=9");
     InTheMorning([](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "10"); });
 }
 
@@ -147,12 +146,11 @@ TEST_F(DateAndShiftTest, TheCopyHoldsTheRowsOfTheShiftOnly)
 {
     AddMorningDelivery(1);
     AddEveningDelivery();
-    AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("sakaL"), 3, 2, QStringLiteral("saIta"),
-        QStringLiteral("mhOsa"), 2, 8, 49, 98);
+    AddDelivery("14/04/2026", "sakaL", 3, 2, "saIta", "mhOsa", 2, 8, 49, 98);
     AtTheCounter([this](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}");
         EXPECT_EQ(Copy(), Of({"1|1|rama|gaaya|5|4.5|35|175"}));
-        clerk.Press(QStringLiteral("txtTime"));
+        clerk.Press("txtTime");
         Type(clerk, "2{ENTER}");
         EXPECT_EQ(Copy(), Of({"7|2|saIta|mhOsa|2|8|49|98"}));
         EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "8");
@@ -172,11 +170,10 @@ TEST_F(DateAndShiftTest, RowsNumberedZeroStayOutOfTheCopy)
 TEST_F(DateAndShiftTest, ChangingTheDateOpensAnEarlierDay)
 {
     AddMorningDelivery(4);
-    AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("sakaL"), 2, 2, QStringLiteral("saIta"),
-        QStringLiteral("mhOsa"), 2, 8, 49, 98);
+    AddDelivery("14/04/2026", "sakaL", 2, 2, "saIta", "mhOsa", 2, 8, 49, 98);
     InTheMorning([this](Clerk& clerk) {
         EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "5");
-        clerk.Press(QStringLiteral("maskDate"));
+        clerk.Press("maskDate");
         for (const char* field : {"txtCollectionNo", "txtMemberNo", "ComboMemberName", "txtAnimal",
                  "txtLiters", "txtFat", "txtRate", "cmdGo"})
             EXPECT_FALSE(CanEnter(clerk, field)) << field;
@@ -186,8 +183,7 @@ TEST_F(DateAndShiftTest, ChangingTheDateOpensAnEarlierDay)
         EXPECT_EQ(Copy(), Of({"2|2|saIta|mhOsa|2|8|49|98"}));
         Deliver(clerk, 1, "1", "4.5");
     });
-    EXPECT_EQ(One(QStringLiteral("select CollectionDate from MilkCollections where CollectionNo=3")),
-        QStringLiteral("14/04/2026"));
+    EXPECT_EQ(One("select CollectionDate from MilkCollections where CollectionNo=3"), "14/04/2026");
 }
 
 TEST_F(DateAndShiftTest, ShiftTabFromTheShiftLeadsBackToTheDate)

@@ -22,7 +22,7 @@ TEST_F(DeletingTest, TheRowIsGoneFromBothTablesWithoutAQuestion)
     AddMorningDelivery(2);
     InTheMorning([this](Clerk& clerk) {
         Delete(clerk, 1);
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+        EXPECT_EQ(clerk.ScreenName(), "frmMilkCollections");
         EXPECT_EQ(Books(), Of({"2|1|rama|gaaya|5|4.5|35|175"}));
         EXPECT_EQ(Copy(), Books());
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
@@ -69,8 +69,8 @@ TEST_F(DeletingTest, ClosingLitresFallAndTheClosingBalanceStays)
     InTheMorning([this](Clerk& clerk) {
         Deliver(clerk, 1, "2", "4.5");
         Delete(clerk, 1);
-        EXPECT_EQ(Rows(QStringLiteral("select ClosingBalance,ClosingDorC,CowClosingLits from MembersMaster "
-                                      "where MemberNo=1")),
+        EXPECT_EQ(Rows("select ClosingBalance,ClosingDorC,CowClosingLits from MembersMaster "
+                       "where MemberNo=1"),
             Of({"70|C|0"}));
     });
 }
@@ -128,8 +128,8 @@ TEST_F(DeletingTest, TheSameNumberOfAnotherShiftStays)
 {
     AddMorningDelivery(1);
     for (const auto& [date, shift] : {std::pair("15/04/2026", "saMQyaakaL"), {"14/04/2026", "sakaL"}})
-        AddDelivery(QString::fromLatin1(date), QString::fromLatin1(shift), 1, 1, QStringLiteral("rama"),
-            QStringLiteral("gaaya"), 5, 4.5, 35, 175);
+        AddDelivery(
+            QString::fromLatin1(date), QString::fromLatin1(shift), 1, 1, "rama", "gaaya", 5, 4.5, 35, 175);
     InTheMorning([this](Clerk& clerk) {
         Delete(clerk, 1);
         EXPECT_EQ(Books().size(), 2);
@@ -150,8 +150,8 @@ TEST_F(DeletingTest, AFailureTakesTheWholeDeletionBack)
 {
     AddMorningDelivery(1);
     InTheMorning([](Clerk& clerk) {
-        gCn.RunScript(QStringLiteral("create trigger NoRoom before update on MembersMaster "
-                                     "begin select raise(abort, 'no room'); end"));
+        gCn.RunScript("create trigger NoRoom before update on MembersMaster "
+                      "begin select raise(abort, 'no room'); end");
         Delete(clerk, 1);
     });
     ASSERT_TRUE(Failure);

@@ -31,7 +31,7 @@ TEST_F(EntryChainTest, ANumberOfZeroClearsTheLineAndStays)
     InTheMorning([](Clerk& clerk) {
         Type(clerk, "1{ENTER}{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtFat"), "4.5");
-        clerk.Press(QStringLiteral("txtCollectionNo"));
+        clerk.Press("txtCollectionNo");
         Type(clerk, "{END}{BS}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "2");
@@ -105,7 +105,7 @@ TEST_F(EntryChainTest, LeavingTheNumberReadsTheClock)
     InTheMorning([this](Clerk& clerk) {
         TheClock.Time.setTime(QTime(11, 5, 0));
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(LabelOf(clerk, "lblActualCollectionTime").text(), QStringLiteral("11.05"));
+        EXPECT_EQ(LabelOf(clerk, "lblActualCollectionTime").text(), "11.05");
     });
 }
 
@@ -128,7 +128,7 @@ TEST_F(EntryChainTest, AMemberOfBothLeavesTheAnimalToTheClerk)
         Type(clerk, "{ENTER}3{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtAnimal");
         EXPECT_EQ(Reads(clerk, "txtAnimal"), "");
-        EXPECT_EQ(LabelOf(clerk, "lblFooter").text(), Seen(QStringLiteral("  1 ¹ gaaya    2 ¹ mhOsa")));
+        EXPECT_EQ(LabelOf(clerk, "lblFooter").text(), Seen("  1 ¹ gaaya    2 ¹ mhOsa"));
         Type(clerk, "3x");
         EXPECT_EQ(Reads(clerk, "txtAnimal"), "");
         Type(clerk, "2");
@@ -144,7 +144,7 @@ TEST_F(EntryChainTest, AMemberOfBothKeepsTheAnimalThatStandsThere)
 {
     InTheMorning([](Clerk& clerk) {
         Type(clerk, "{ENTER}2{ENTER}2");
-        clerk.Press(QStringLiteral("txtMemberNo"));
+        clerk.Press("txtMemberNo");
         Type(clerk, "{END}{BS}3{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtAnimal");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "gaNaoSa");
@@ -175,7 +175,7 @@ TEST_F(EntryChainTest, AnUnknownNumberIsEmptiedAndAskedForAgain)
 TEST_F(EntryChainTest, TheAnimalWithoutAMemberSendsTheFocusToTheMember)
 {
     InTheMorning([](Clerk& clerk) {
-        clerk.Press(QStringLiteral("txtAnimal"));
+        clerk.Press("txtAnimal");
         EXPECT_EQ(Focus(clerk), "txtMemberNo");
         Type(clerk, "3{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtAnimal");
@@ -217,7 +217,7 @@ TEST_F(EntryChainTest, LitresTakeNineCharactersOfDigitsAndPoint)
 TEST_F(EntryChainTest, LitresWithoutAMemberAskForTheName)
 {
     InTheMorning([](Clerk& clerk) {
-        clerk.Press(QStringLiteral("txtLiters"));
+        clerk.Press("txtLiters");
         EXPECT_EQ(Focus(clerk), "txtLiters");
         Type(clerk, "5{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboMemberName");
@@ -245,14 +245,14 @@ TEST_F(EntryChainTest, AFatOfZeroOrAboveThirtyKeepsTheFocusWithoutAMessage)
             EXPECT_EQ(Reads(clerk, "txtFat"), shown) << typed;
             EXPECT_EQ(Reads(clerk, "txtRate"), "") << typed;
         }
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+        EXPECT_EQ(clerk.ScreenName(), "frmMilkCollections");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
     });
 }
 
 TEST_F(EntryChainTest, AFatOfExactlyThirtyIsPriced)
 {
-    Run(QStringLiteral("insert into Fat010426(Fat,CowRate,BuffRate) values(30,59.5,60)"));
+    Run("insert into Fat010426(Fat,CowRate,BuffRate) values(30,59.5,60)");
     AtTheFat([](Clerk& clerk) {
         Type(clerk, "30.0{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtRate");
@@ -297,7 +297,7 @@ TEST_F(EntryChainTest, SavingWithoutAnAmountGoesBackToTheNumber)
 {
     AtTheFat([this](Clerk& clerk) {
         Type(clerk, "20");
-        clerk.Press(QStringLiteral("cmdGo"));
+        clerk.Press("cmdGo");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         EXPECT_EQ(Reads(clerk, "txtAmount"), "0.00");
         EXPECT_TRUE(Books().isEmpty());
@@ -307,7 +307,7 @@ TEST_F(EntryChainTest, SavingWithoutAnAmountGoesBackToTheNumber)
 TEST_F(EntryChainTest, WithoutAChartTheLineIsGivenUpAndTheShiftOpenedAnew)
 {
     AtTheFat([this](Clerk& clerk) {
-        Run(QStringLiteral("delete * from FatDates"));
+        Run("delete * from FatDates");
         AddMorningDelivery(6);
         Type(clerk, "4.5{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
@@ -321,7 +321,7 @@ TEST_F(EntryChainTest, WithoutAChartTheLineIsGivenUpAndTheShiftOpenedAnew)
 TEST_F(EntryChainTest, AChartWhoseTableIsGoneEndsTheProgram)
 {
     AtTheFat([this](Clerk& clerk) {
-        gCn.RunScript(QStringLiteral("drop table Fat010426"));
+        gCn.RunScript("drop table Fat010426");
         Type(clerk, "4.5{ENTER}");
     });
     ASSERT_TRUE(Failure);
@@ -332,15 +332,13 @@ TEST_F(EntryChainTest, TheLastFatOfTheSameShiftAndAnimalIsOffered)
 {
     const QString rama = QStringLiteral("rama");
     const QString cow = QStringLiteral("gaaya");
-    AddDelivery(QStringLiteral("13/04/2026"), QStringLiteral("sakaL"), 9, 1, rama, cow, 5, 3.1, 30, 150);
-    AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("sakaL"), 1, 1, rama, cow, 5, 4.1, 30, 150);
-    AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("sakaL"), 2, 1, rama, cow, 5, 4.2, 30, 150);
-    AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("saMQyaakaL"), 3, 1, rama, cow, 5, 4.9, 30, 150);
-    AddDelivery(QStringLiteral("16/04/2026"), QStringLiteral("sakaL"), 1, 1, rama, cow, 5, 5.9, 30, 150);
-    AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("sakaL"), 4, 1, rama, QStringLiteral("mhOsa"), 5,
-        8, 49, 245);
-    AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("sakaL"), 5, 2, QStringLiteral("saIta"), cow, 5,
-        6, 30, 150);
+    AddDelivery("13/04/2026", "sakaL", 9, 1, rama, cow, 5, 3.1, 30, 150);
+    AddDelivery("14/04/2026", "sakaL", 1, 1, rama, cow, 5, 4.1, 30, 150);
+    AddDelivery("14/04/2026", "sakaL", 2, 1, rama, cow, 5, 4.2, 30, 150);
+    AddDelivery("14/04/2026", "saMQyaakaL", 3, 1, rama, cow, 5, 4.9, 30, 150);
+    AddDelivery("16/04/2026", "sakaL", 1, 1, rama, cow, 5, 5.9, 30, 150);
+    AddDelivery("14/04/2026", "sakaL", 4, 1, rama, "mhOsa", 5, 8, 49, 245);
+    AddDelivery("14/04/2026", "sakaL", 5, 2, "saIta", cow, 5, 6, 30, 150);
     AtTheFat([](Clerk& clerk) {
         EXPECT_EQ(Reads(clerk, "txtFat"), "4.2");
         Type(clerk, "{ENTER}");
@@ -350,8 +348,7 @@ TEST_F(EntryChainTest, TheLastFatOfTheSameShiftAndAnimalIsOffered)
 
 TEST_F(EntryChainTest, AnOfferedFatIsSelectedSoThatTypingReplacesIt)
 {
-    AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("sakaL"), 1, 1, QStringLiteral("rama"),
-        QStringLiteral("gaaya"), 5, 4.2, 30, 150);
+    AddDelivery("14/04/2026", "sakaL", 1, 1, "rama", "gaaya", 5, 4.2, 30, 150);
     AtTheFat([](Clerk& clerk) {
         Type(clerk, "4.5");
         EXPECT_EQ(Reads(clerk, "txtFat"), "4.5");
@@ -361,16 +358,14 @@ TEST_F(EntryChainTest, AnOfferedFatIsSelectedSoThatTypingReplacesIt)
 TEST_F(EntryChainTest, WithAFatTesterNoFatIsOffered)
 {
     Set("AutoFat", "haoya");
-    AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("sakaL"), 1, 1, QStringLiteral("rama"),
-        QStringLiteral("gaaya"), 5, 4.2, 30, 150);
+    AddDelivery("14/04/2026", "sakaL", 1, 1, "rama", "gaaya", 5, 4.2, 30, 150);
     AtTheFat([](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "txtFat"), "0"); });
 }
 
 TEST_F(EntryChainTest, AnExistingRowKeepsItsOwnFat)
 {
     AddMorningDelivery(1);
-    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 2, 1, QStringLiteral("rama"),
-        QStringLiteral("gaaya"), 5, 4.2, 30, 150);
+    AddDelivery("15/04/2026", "sakaL", 2, 1, "rama", "gaaya", 5, 4.2, 30, 150);
     InTheMorning([](Clerk& clerk) {
         Type(clerk, "1{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
@@ -447,11 +442,11 @@ TEST_F(EntryChainTest, TheColoursAreThoseOfTheCounter)
                 .color(QPalette::Base)
                 .name();
         };
-        EXPECT_EQ(background("txtCollectionNo"), QStringLiteral("#ffc0c0"));
-        EXPECT_EQ(background("txtMemberNo"), QStringLiteral("#afbfc9"));
+        EXPECT_EQ(background("txtCollectionNo"), "#ffc0c0");
+        EXPECT_EQ(background("txtMemberNo"), "#afbfc9");
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(background("txtCollectionNo"), QStringLiteral("#afbfc9"));
-        EXPECT_EQ(background("txtMemberNo"), QStringLiteral("#ffc0c0"));
+        EXPECT_EQ(background("txtCollectionNo"), "#afbfc9");
+        EXPECT_EQ(background("txtMemberNo"), "#ffc0c0");
     });
 }
 

@@ -47,7 +47,7 @@ TEST_F(GateSearchTest, ANewEntryNarrowsTheListAndIsSavedAgainstTheWholeShift)
 TEST_F(GateSearchTest, LitresFatAndRateAreSearchedByTheirValue)
 {
     Searching([](Clerk& clerk) {
-        clerk.Press(QStringLiteral("txtLiters"));
+        clerk.Press("txtLiters");
         Type(clerk, "2.5");
         EXPECT_EQ(Listed(clerk), "42");
     });
@@ -59,7 +59,7 @@ TEST_F(GateSearchTest, LitresFatAndRateAreSearchedByTheirValue)
         EXPECT_EQ(Listed(clerk), "4");
     });
     Searching([](Clerk& clerk) {
-        clerk.Press(QStringLiteral("txtRate"));
+        clerk.Press("txtRate");
         Type(clerk, "49");
         EXPECT_EQ(Listed(clerk), "2");
     });
@@ -67,7 +67,7 @@ TEST_F(GateSearchTest, LitresFatAndRateAreSearchedByTheirValue)
 
 TEST_F(GateSearchTest, ANamesFirstLettersShowAllThatBeginWithThem)
 {
-    AddMember(4, QStringLiteral("rajaa"));
+    AddMember(4, "rajaa");
     AddMilk(5, 4, "rajaa", "gaaya", 1, 4, 32, 32);
     Searching([](Clerk& clerk) {
         Type(clerk, "{ENTER}{ENTER}r");
@@ -79,8 +79,8 @@ TEST_F(GateSearchTest, ANamesFirstLettersShowAllThatBeginWithThem)
 
 TEST_F(GateSearchTest, ANameIsFoundInAnySpellingThatReadsSo)
 {
-    AddMember(4, QStringLiteral("maa$tI"));
-    AddMember(5, QStringLiteral("maarutI paaTIla"));
+    AddMember(4, "maa$tI");
+    AddMember(5, "maarutI paaTIla");
     AddMilk(5, 4, "maa$tI", "gaaya", 1, 4, 32, 32);
     AddMilk(6, 5, "maarutI paaTIla", "gaaya", 1, 4, 32, 32);
     Searching([](Clerk& clerk) {
@@ -95,9 +95,9 @@ TEST_F(GateSearchTest, ANameIsFoundInAnySpellingThatReadsSo)
 
 TEST_F(GateSearchTest, ARowOfTheOtherCompanyIsFoundAndListedInEachOrder)
 {
-    AddMember(4, QStringLiteral("maa$tI"), QStringLiteral("gaaya"));
+    AddMember(4, "maa$tI", "gaaya");
     AddMilk(5, 4, "maa$tI", "gaaya", 9, 3, 32, 288);
-    Run(QStringLiteral("update MilkCollections set CompanyId=2 where CollectionNo=5"));
+    Run("update MilkCollections set CompanyId=2 where CollectionNo=5");
     Searching([](Clerk& clerk) {
         EXPECT_EQ(Listed(clerk), "54321");
         Type(clerk, "{ENTER}4");
@@ -114,7 +114,7 @@ TEST_F(GateSearchTest, ARowOfTheOtherCompanyIsFoundAndListedInEachOrder)
     Searching([](Clerk& clerk) {
         Type(clerk, "{ENTER}3{ENTER}1");
         EXPECT_EQ(Listed(clerk), "531") << "by animal";
-        clerk.Press(QStringLiteral("cmdLtrOrder"));
+        clerk.Press("cmdLtrOrder");
         EXPECT_EQ(Listed(clerk).size(), 5U) << "in order";
     });
     EXPECT_FALSE(Failure);
@@ -146,7 +146,7 @@ TEST_F(GateSearchTest, SortingShowsTheWholeShiftAgain)
     Searching([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}5");
         EXPECT_EQ(Listed(clerk), "1");
-        clerk.Press(QStringLiteral("cmdLtrOrder"));
+        clerk.Press("cmdLtrOrder");
         EXPECT_EQ(Listed(clerk).size(), 4U);
     });
 }
@@ -164,7 +164,7 @@ TEST_F(GateSearchTest, TheFilterStaysWhenTheSearchIsTurnedOff)
 {
     Searching([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}5");
-        clerk.Press(QStringLiteral("chkSerachMode"));
+        clerk.Press("chkSerachMode");
         EXPECT_EQ(Reads(clerk, "chkSerachMode"), "0");
         EXPECT_EQ(Listed(clerk), "1");
     });
@@ -184,10 +184,10 @@ TEST_F(GateSearchTest, AnEmptiedAnimalShowsTheRowsWithoutOne)
 
 TEST_F(GateSearchTest, AMembersNameWithAnApostropheEndsTheProgram)
 {
-    gCn.RunScript(QStringLiteral("update MilkCollections set MemberName='ra''ma' where CollectionNo=1"));
+    gCn.RunScript("update MilkCollections set MemberName='ra''ma' where CollectionNo=1");
     Searching([](Clerk& clerk) { Type(clerk, "1{ENTER}"); });
     ASSERT_TRUE(Failure);
-    EXPECT_TRUE(Failure->Statement().contains(QStringLiteral("ra'ma")));
+    EXPECT_TRUE(Failure->Statement().contains("ra'ma"));
 }
 
 }

@@ -52,9 +52,8 @@ TEST_F(GateTest, SavesByTheRulesOfTheCounter)
         Set("RepeatCollection", "haoya");
         Type(clerk, "60{ENTER}{ENTER}");
         EXPECT_EQ(
-            Rows(QStringLiteral("select ClosingBalance,CowClosingLits from MembersMaster where MemberNo=1")),
-            Of({"60|6"}));
-        EXPECT_EQ(One(QStringLiteral("select Amount from MilkReceipt")), QStringLiteral("60"));
+            Rows("select ClosingBalance,CowClosingLits from MembersMaster where MemberNo=1"), Of({"60|6"}));
+        EXPECT_EQ(One("select Amount from MilkReceipt"), "60");
         Type(clerk, "5{ENTER}{F10}");
         EXPECT_EQ(Books().size(), 4);
     });
@@ -62,7 +61,7 @@ TEST_F(GateTest, SavesByTheRulesOfTheCounter)
 
 TEST_F(GateTest, OpensWithTheSocietysNameAndWithoutReadingTheSelectedCompany)
 {
-    Run(QStringLiteral("delete * from CompanySelected"));
+    Run("delete * from CompanySelected");
     AtTheGate([](Clerk& clerk) {
         EXPECT_EQ(Label(clerk, "lblCompanyName"), "श्री गणेश दूध संस्था");
         EXPECT_EQ(Reads(clerk, "chkSerachMode"), "0");
@@ -72,7 +71,7 @@ TEST_F(GateTest, OpensWithTheSocietysNameAndWithoutReadingTheSelectedCompany)
 TEST_F(GateTest, OpeningEmptiesTheCopyAndLeavesTheBooks)
 {
     const QStringList books = Books();
-    Run(QStringLiteral("insert into MilkCollectionsTemp select * from MilkCollections"));
+    Run("insert into MilkCollectionsTemp select * from MilkCollections");
     On<frmCollectionGate>([&](Clerk& clerk) {
         EXPECT_TRUE(Copy().isEmpty());
         EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 0);
@@ -84,7 +83,7 @@ TEST_F(GateTest, HasNoMemberFrameAndF7DoesNothing)
 {
     AtTheGate([this](Clerk& clerk) {
         Type(clerk, "{ENTER}1{F7}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmCollectionGate"));
+        EXPECT_EQ(clerk.ScreenName(), "frmCollectionGate");
         EXPECT_EQ(Focus(clerk), "txtMemberNo");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
         EXPECT_TRUE(Shows(clerk, "lblF9"));
@@ -103,7 +102,7 @@ TEST_F(GateTest, ItsButtonsAndItsBoxHaveTheirCaptions)
         EXPECT_EQ(Reads(clerk, "Command1"), "&baahor");
         EXPECT_EQ(Reads(clerk, "Command3"), " dUQa saMklana nasaNaaro saBaasad") << "with a blank before it";
         const auto& box = *static_cast<QCheckBox*>(clerk.Top().Find(u"chkSerachMode")->Widget());
-        EXPECT_EQ(box.text(), Seen(QStringLiteral("A^DvhansD saca-")));
+        EXPECT_EQ(box.text(), Seen("A^DvhansD saca-"));
     });
 }
 
@@ -113,7 +112,7 @@ TEST_F(GateTest, FieldsAreWhiteAndTheLeftSaveButtonIsYellow)
         EXPECT_EQ(ColourOf(clerk, "txtMemberNo", QPalette::Base), "#ffffff");
         EXPECT_EQ(ColourOf(clerk, "txtCollectionNo", QPalette::Base), "#ffc0c0");
         EXPECT_EQ(ColourOf(clerk, "cmdGo", QPalette::Button), "#ffffff");
-        clerk.Press(QStringLiteral("cmdGo"));
+        clerk.Press("cmdGo");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         EXPECT_EQ(ColourOf(clerk, "cmdGo", QPalette::Button), "#ffffc0");
     });
@@ -203,20 +202,19 @@ TEST_F(GateTest, TheDeviceButtonsAreReachedBackwardsFromTheDate)
             Type(clerk, "{ENTER}");
             EXPECT_EQ(Reads(clerk, button), after);
         }
-        EXPECT_EQ(gAppState.gAutoLiters, QStringLiteral("haoya"));
-        EXPECT_EQ(gAppState.gAutoFat, QStringLiteral("haoya"));
+        EXPECT_EQ(gAppState.gAutoLiters, "haoya");
+        EXPECT_EQ(gAppState.gAutoFat, "haoya");
     });
 }
 
 TEST_F(GateTest, AbsentMembersAreAScreenOfTheirOwn)
 {
-    ScreenDirectory::Add(
-        QStringLiteral("frmAbsenseMemberCollection"), [] { return std::make_unique<frmAbsent>(); });
+    ScreenDirectory::Add("frmAbsenseMemberCollection", [] { return std::make_unique<frmAbsent>(); });
     AtTheGate([](Clerk& clerk) {
-        clerk.Press(QStringLiteral("Command3"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmAbsenseMemberCollection"));
+        clerk.Press("Command3");
+        EXPECT_EQ(clerk.ScreenName(), "frmAbsenseMemberCollection");
     });
-    ScreenDirectory::Add(QStringLiteral("frmAbsenseMemberCollection"), {});
+    ScreenDirectory::Add("frmAbsenseMemberCollection", {});
 }
 
 // The order
@@ -225,9 +223,9 @@ TEST_F(GateTest, ASortButtonGivesDescendingThenAscendingThenDescending)
 {
     AtTheGate([](Clerk& clerk) {
         EXPECT_EQ(Listed(clerk), "4321");
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdFatOrder")), QStringLiteral("↑"));
+        EXPECT_EQ(clerk.Reads("cmdFatOrder"), "↑");
         for (const auto& [arrow, rows] : {std::pair("↓", "2413"), {"↑", "3142"}, {"↓", "2413"}}) {
-            clerk.Press(QStringLiteral("cmdFatOrder"));
+            clerk.Press("cmdFatOrder");
             EXPECT_EQ(Listed(clerk), rows);
             EXPECT_EQ(Reads(clerk, "cmdFatOrder"), arrow);
         }
@@ -242,7 +240,7 @@ TEST_F(GateTest, EachSortButtonSortsByItsOwnColumn)
             clerk.Press(QString::fromLatin1(button));
             EXPECT_EQ(Listed(clerk)[0], first) << button;
         }
-        clerk.Press(QStringLiteral("cmdRateOrder"));
+        clerk.Press("cmdRateOrder");
         EXPECT_EQ(Listed(clerk), "3142");
     });
 }
@@ -250,7 +248,7 @@ TEST_F(GateTest, EachSortButtonSortsByItsOwnColumn)
 TEST_F(GateTest, TheOrderStaysThroughASave)
 {
     AtTheGate([](Clerk& clerk) {
-        clerk.Press(QStringLiteral("cmdLtrOrder"));
+        clerk.Press("cmdLtrOrder");
         PressAndSelect(clerk, "txtCollectionNo");
         Type(clerk, "2{ENTER}{ENTER}9{ENTER}{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Listed(clerk)[0], '2');

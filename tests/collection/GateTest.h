@@ -16,8 +16,8 @@ protected:
     void AddMilk(int number, int member, const char* name, const char* animal, double liters, double fat,
         double rate, double amount)
     {
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), number, member,
-            QString::fromLatin1(name), QString::fromLatin1(animal), liters, fat, rate, amount);
+        AddDelivery("15/04/2026", "sakaL", number, member, QString::fromLatin1(name),
+            QString::fromLatin1(animal), liters, fat, rate, amount);
     }
 
     // The numbers in the list, from the top down.
@@ -34,7 +34,7 @@ protected:
     void Searching(const std::function<void(Clerk&)>& script)
     {
         AtTheGate([&](Clerk& clerk) {
-            clerk.Press(QStringLiteral("chkSerachMode"));
+            clerk.Press("chkSerachMode");
             PressAndSelect(clerk, "txtCollectionNo");
             script(clerk);
         });

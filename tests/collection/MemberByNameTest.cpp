@@ -31,7 +31,7 @@ TEST_F(MemberByNameTest, AnEmptyNumberOpensTheListOfNamesInOrder)
 TEST_F(MemberByNameTest, AMemberAddedMeanwhileIsInTheList)
 {
     InTheMorning([this](Clerk& clerk) {
-        AddMember(4, QStringLiteral("Aajaaobaa"));
+        AddMember(4, "Aajaaobaa");
         Type(clerk, "{ENTER}{ENTER}");
         EXPECT_EQ(Combo(clerk).Items().size(), 4);
     });
@@ -107,7 +107,7 @@ TEST_F(MemberByNameTest, AnUnknownNameBesideANumberChangesNothing)
 {
     InTheMorning([](Clerk& clerk) {
         Type(clerk, "{ENTER}3{ENTER}1{ENTER}2");
-        clerk.Press(QStringLiteral("ComboMemberName"));
+        clerk.Press("ComboMemberName");
         Type(clerk, "raja{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtAnimal");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "3");
@@ -118,7 +118,7 @@ TEST_F(MemberByNameTest, AnUnknownNameBesideANumberChangesNothing)
 
 TEST_F(MemberByNameTest, BlanksAroundANameDoNotCount)
 {
-    Run(QStringLiteral("update MembersMaster set MemberName='rama ' where MemberNo=1"));
+    Run("update MembersMaster set MemberName='rama ' where MemberNo=1");
     AtTheName([](Clerk& clerk) {
         Type(clerk, " rama{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "1");
@@ -128,23 +128,21 @@ TEST_F(MemberByNameTest, BlanksAroundANameDoNotCount)
 TEST_F(MemberByNameTest, AnotherSpellingOfANameFindsTheMemberAndGivesWayToHisOwn)
 {
     Set("PurchaseEntry", "Collection");
-    AddMember(8, QStringLiteral("maa$tI"), QStringLiteral("gaaya"));
+    AddMember(8, "maa$tI", "gaaya");
     AtTheName([this](Clerk& clerk) {
         Type(clerk, "maarutI{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "8");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "maa$tI");
         Type(clerk, "{ENTER}5{ENTER}4.5{ENTER}{ENTER}{ENTER}");
-        EXPECT_EQ(One(QStringLiteral("select MemberName from MilkCollections where MemberNo=8")),
-            QStringLiteral("maa$tI"));
-        EXPECT_EQ(One(QStringLiteral("select ClosingBalance from MembersMaster where MemberNo=8")),
-            QStringLiteral("175"))
+        EXPECT_EQ(One("select MemberName from MilkCollections where MemberNo=8"), "maa$tI");
+        EXPECT_EQ(One("select ClosingBalance from MembersMaster where MemberNo=8"), "175")
             << "the balance is kept under the member's own spelling";
     });
 }
 
 TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheFirstIsFound)
 {
-    AddMember(8, QStringLiteral("rama"), QStringLiteral("mhOsa"));
+    AddMember(8, "rama", "mhOsa");
     AtTheName([](Clerk& clerk) {
         Type(clerk, "rama{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "1");
@@ -154,7 +152,7 @@ TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheFirstIsFound)
 
 TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
 {
-    AddMember(12, QStringLiteral("rama"), QStringLiteral("gaaya"));
+    AddMember(12, "rama", "gaaya");
     for (const char* keys : {"{ENTER}12{ENTER}5+{TAB}+{TAB}", "{ENTER}12{ENTER}5+{TAB}rama+{TAB}"})
         InTheMorning([keys](Clerk& clerk) {
             Type(clerk, keys);
@@ -165,8 +163,8 @@ TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
 
 TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheTypedNumberStaysInWhateverCompany)
 {
-    AddMember(12, QStringLiteral("rama"), QStringLiteral("gaaya"));
-    Run(QStringLiteral("update MembersMaster set CompanyId=2 where MemberNo=12"));
+    AddMember(12, "rama", "gaaya");
+    Run("update MembersMaster set CompanyId=2 where MemberNo=12");
     InTheMorning([](Clerk& clerk) {
         Type(clerk, "{ENTER}12{ENTER}5+{TAB}rama+{TAB}");
         EXPECT_EQ(Focus(clerk), "txtMemberNo");
@@ -177,12 +175,11 @@ TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheTypedNumberStaysInWhateverCompa
 
 TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheOneOfAStoredRowStays)
 {
-    AddMember(12, QStringLiteral("rama"), QStringLiteral("gaaya"));
-    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 1, 12, QStringLiteral("rama"),
-        QStringLiteral("gaaya"), 5, 4.5, 35, 175);
+    AddMember(12, "rama", "gaaya");
+    AddDelivery("15/04/2026", "sakaL", 1, 12, "rama", "gaaya", 5, 4.5, 35, 175);
     InTheMorning([](Clerk& clerk) {
         Type(clerk, "1{ENTER}");
-        clerk.Press(QStringLiteral("ComboMemberName"));
+        clerk.Press("ComboMemberName");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "12");
     });
@@ -193,7 +190,7 @@ TEST_F(MemberByNameTest, AnEmptyNameIsAskedForAndHoldsTheFocus)
     AtTheName([](Clerk& clerk) {
         for (const char* empty : {"{ENTER}", " {ENTER}"}) {
             Type(clerk, empty);
-            EXPECT_EQ(clerk.Message(), QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra")) << empty;
+            EXPECT_EQ(clerk.Message(), "maombarcao naaMva vyavaisqat Ta[-p kra") << empty;
             Type(clerk, "{ENTER}");
             EXPECT_EQ(Focus(clerk), "ComboMemberName") << empty;
         }
@@ -223,7 +220,7 @@ TEST_F(MemberByNameTest, EscClosesTheListAndLeavesTheCounterOpen)
 {
     AtTheName([](Clerk& clerk) {
         Type(clerk, "ra{ESC}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+        EXPECT_EQ(clerk.ScreenName(), "frmMilkCollections");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "ra");
         EXPECT_FALSE(Combo(clerk).IsDroppedDown());
         Type(clerk, "{ESC}");
@@ -233,7 +230,7 @@ TEST_F(MemberByNameTest, EscClosesTheListAndLeavesTheCounterOpen)
 
 TEST_F(MemberByNameTest, OfTwoMembersOfOneNameTheOnePickedInTheListIsTaken)
 {
-    AddMember(8, QStringLiteral("rama"), QStringLiteral("mhOsa"));
+    AddMember(8, "rama", "mhOsa");
     AtTheName([](Clerk& clerk) {
         Type(clerk, "{DOWN}{DOWN}{DOWN}{ENTER}");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "rama");

@@ -42,8 +42,7 @@ TEST_F(MemberFrameTest, TheListHasItsCaptionsAndWidths)
 TEST_F(MemberFrameTest, ItsTitleAndItsButtonsHaveTheirCaptions)
 {
     InTheFrame([](Clerk& clerk) {
-        EXPECT_EQ(
-            LabelOf(clerk, "Label28").text(), Seen(QStringLiteral("]%padkacao vaOyai@tk dUQa saMklana")));
+        EXPECT_EQ(LabelOf(clerk, "Label28").text(), Seen("]%padkacao vaOyai@tk dUQa saMklana"));
         EXPECT_EQ(Reads(clerk, "cmdGoOn"), ">>");
         EXPECT_EQ(Reads(clerk, "Command1"), "&irpaoT-");
         EXPECT_EQ(Reads(clerk, "Command2"), "&baahor");
@@ -66,7 +65,7 @@ TEST_F(MemberFrameTest, ANumberOrANameFindsTheMember)
 
 TEST_F(MemberFrameTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
 {
-    AddMember(12, QStringLiteral("rama"), QStringLiteral("gaaya"));
+    AddMember(12, "rama", "gaaya");
     for (const char* keys : {"12{ENTER}{ENTER}", "12{ENTER}rama%{UP}{ENTER}"})
         InTheFrame([keys](Clerk& clerk) {
             Type(clerk, "13042026{ENTER}14042026{ENTER}");
@@ -78,7 +77,7 @@ TEST_F(MemberFrameTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
 
 TEST_F(MemberFrameTest, AnotherSpellingOfANameIsTheMember)
 {
-    AddMember(8, QStringLiteral("maa$tI"), QStringLiteral("gaaya"));
+    AddMember(8, "maa$tI", "gaaya");
     InTheFrame([](Clerk& clerk) {
         Type(clerk, "13042026{ENTER}14042026{ENTER}3{ENTER}maarutI{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtAccountId"), "8");
@@ -88,9 +87,9 @@ TEST_F(MemberFrameTest, AnotherSpellingOfANameIsTheMember)
 
 TEST_F(MemberFrameTest, AMemberOfTheOtherCompanyIsFoundByNumberAndByName)
 {
-    AddMember(40, QStringLiteral("paava-tI"), QStringLiteral("gaaya"));
-    AddMember(41, QStringLiteral("paava-tI"), QStringLiteral("gaaya"));
-    Run(QStringLiteral("update MembersMaster set CompanyId=2 where MemberNo=40"));
+    AddMember(40, "paava-tI", "gaaya");
+    AddMember(41, "paava-tI", "gaaya");
+    Run("update MembersMaster set CompanyId=2 where MemberNo=40");
     InTheFrame([](Clerk& clerk) {
         Type(clerk, "13042026{ENTER}14042026{ENTER}40{ENTER}");
         EXPECT_EQ(Reads(clerk, "cmbAccountName"), "paava-tI");
@@ -108,7 +107,7 @@ TEST_F(MemberFrameTest, AnUnknownNumberAndAnUnknownNameChangeNothing)
         Type(clerk, "13042026{ENTER}14042026{ENTER}3{ENTER}xyz{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtAccountId"), "3");
         EXPECT_EQ(Reads(clerk, "cmbAccountName"), "xyz");
-        clerk.Press(QStringLiteral("txtAccountId"));
+        clerk.Press("txtAccountId");
         Type(clerk, "{END}{BS}a88.{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtAccountId"), "88");
         EXPECT_EQ(Reads(clerk, "cmbAccountName"), "xyz");
@@ -136,7 +135,7 @@ TEST_F(MemberFrameTest, ABadDateKeepsTheFocus)
         EXPECT_EQ(Focus(clerk), "maskFromDate");
         Type(clerk, "{HOME}13042026{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "maskToDate");
-        clerk.Press(QStringLiteral("cmdGoOn"));
+        clerk.Press("cmdGoOn");
         EXPECT_EQ(Focus(clerk), "maskToDate");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
     });
@@ -147,7 +146,7 @@ TEST_F(MemberFrameTest, APeriodThatWasNeverEnteredIsAskedFor)
 {
     InTheFrame([this](Clerk& clerk) {
         Type(clerk, "13042026");
-        clerk.Press(QStringLiteral("txtAccountId"));
+        clerk.Press("txtAccountId");
         Type(clerk, "3{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "maskToDate");
         EXPECT_TRUE(TheBox.Shown.isEmpty());
@@ -192,7 +191,7 @@ TEST_F(MemberFrameTest, EscInABadDateClosesTheFrameAllTheSame)
 TEST_F(MemberFrameTest, TheReloadGoesByTheCompany)
 {
     AddMorningDelivery(5);
-    Run(QStringLiteral("update MilkCollections set CompanyId=2 where CollectionNo=5"));
+    Run("update MilkCollections set CompanyId=2 where CollectionNo=5");
     InTheFrame([this](Clerk& clerk) {
         EXPECT_EQ(Copy().size(), 2);
         EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 2);
@@ -243,7 +242,7 @@ TEST_F(MemberFrameTest, ItShowsItsOwnKeysInPlaceOfTheCounters)
         return std::any_of(labels.begin(), labels.end(),
             [&](const QLabel* label) { return label->isVisible() && label->text() == action; });
     };
-    const QString report = Seen(QStringLiteral("irpaoT-"));
+    const QString report = Seen("irpaoT-");
     InTheMorning([&](Clerk& clerk) {
         Type(clerk, "{ENTER}");
         EXPECT_FALSE(shown(clerk, report));
@@ -268,7 +267,7 @@ TEST_F(MemberFrameTest, TheKeysOfTheMemberAreToldWhileTheFrameIsOpenAndNoLongerB
         Type(clerk, "{ESC}");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         expect(clerk, false);
-        clerk.Press(QStringLiteral("txtMemberNo"));
+        clerk.Press("txtMemberNo");
         expect(clerk, true);
         Type(clerk, "1{ENTER}");
         expect(clerk, false);
@@ -305,7 +304,7 @@ TEST_F(MemberFrameTest, AReportWithoutAMemberAsksForTheMember)
         Type(clerk, "13042026{ENTER}14042026{ENTER}%i");
         EXPECT_EQ(Focus(clerk), "txtAccountId");
         EXPECT_TRUE(Printed.empty());
-        EXPECT_EQ(One(QStringLiteral("select count(*) from ReportDates")), QStringLiteral("0"));
+        EXPECT_EQ(One("select count(*) from ReportDates"), "0");
     });
 }
 
@@ -315,14 +314,13 @@ TEST_F(MemberFrameTest, TheReportIsRunOverTheCopyWithThePeriod)
         Ask(clerk, "3");
         Type(clerk, "%i");
         ASSERT_EQ(Printed.size(), 1U);
-        EXPECT_EQ(Printed[0].fileName, QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkPSReport.rpt"));
-        EXPECT_EQ(Printed[0].logon, QStringLiteral("dsn=VetrolanDSN;pwd=Doodh#26"));
+        EXPECT_EQ(Printed[0].fileName, "C:\\Tarvel01\\Vetrolan\\MilkPSReport.rpt");
+        EXPECT_EQ(Printed[0].logon, "dsn=VetrolanDSN;pwd=Doodh#26");
         EXPECT_EQ(Printed[0].destination, ReportDestination::Window);
-        EXPECT_EQ(Printed[0].subject, QStringLiteral("गणेश 13-04-2026 ते 14-04-2026"));
-        EXPECT_EQ(Rows(QStringLiteral("select CompanyId,FromDate,ToDate from ReportDates")),
-            Of({"1|13/04/2026|14/04/2026"}));
+        EXPECT_EQ(Printed[0].subject, "गणेश 13-04-2026 ते 14-04-2026");
+        EXPECT_EQ(Rows("select CompanyId,FromDate,ToDate from ReportDates"), Of({"1|13/04/2026|14/04/2026"}));
         EXPECT_EQ(Copy().size(), 4);
-        EXPECT_EQ(gAppState.gReportMode, QStringLiteral("ShowMilkCollection"));
+        EXPECT_EQ(gAppState.gReportMode, "ShowMilkCollection");
         EXPECT_TRUE(IsOpen(clerk));
     });
 }
@@ -331,38 +329,37 @@ TEST_F(MemberFrameTest, TheReportLeavesOutRowsAndPeriodsOfNoCompany)
 {
     InTheFrame([this](Clerk& clerk) {
         Ask(clerk, "3");
-        Run(QStringLiteral("update MilkCollectionsTemp set CompanyId=0 where CollectionNo=1"));
+        Run("update MilkCollectionsTemp set CompanyId=0 where CollectionNo=1");
         gAppState.gCompanyId = 0;
         Type(clerk, "%i");
         EXPECT_EQ(Printed.size(), 1U);
-        EXPECT_EQ(One(QStringLiteral("select count(*) from MilkCollectionsTemp")), QStringLiteral("3"));
-        EXPECT_EQ(One(QStringLiteral("select count(*) from ReportDates")), QStringLiteral("0"));
+        EXPECT_EQ(One("select count(*) from MilkCollectionsTemp"), "3");
+        EXPECT_EQ(One("select count(*) from ReportDates"), "0");
     });
 }
 
 TEST_F(MemberFrameTest, AbsentMembersAreAScreenOfTheirOwn)
 {
-    ScreenDirectory::Add(
-        QStringLiteral("frmAbsenseMemberCollection"), [] { return std::make_unique<frmAbsent>(); });
+    ScreenDirectory::Add("frmAbsenseMemberCollection", [] { return std::make_unique<frmAbsent>(); });
     InTheFrame([](Clerk& clerk) {
         Type(clerk, "13042026{ENTER}14042026");
-        clerk.Press(QStringLiteral("Command3"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmAbsenseMemberCollection"));
+        clerk.Press("Command3");
+        EXPECT_EQ(clerk.ScreenName(), "frmAbsenseMemberCollection");
         Type(clerk, "{ESC}");
         EXPECT_TRUE(IsOpen(clerk));
     });
-    ScreenDirectory::Add(QStringLiteral("frmAbsenseMemberCollection"), {});
+    ScreenDirectory::Add("frmAbsenseMemberCollection", {});
 }
 
 TEST_F(MemberFrameTest, ReturningFromTheMembersAddsTheFirstNameToItsList)
 {
-    ScreenDirectory::Add(QStringLiteral("frmMembers"), [] { return std::make_unique<frmAbsent>(); });
+    ScreenDirectory::Add("frmMembers", [] { return std::make_unique<frmAbsent>(); });
     InTheMorning([](Clerk& clerk) {
         Type(clerk, "{F3}{ESC}");
         EXPECT_EQ(dynamic_cast<NameCombo&>(*clerk.Top().Find(u"cmbAccountName")).Items(),
             Of({"gaNaoSa", "rama", "saIta", "rama"}));
     });
-    ScreenDirectory::Add(QStringLiteral("frmMembers"), {});
+    ScreenDirectory::Add("frmMembers", {});
 }
 
 }

@@ -17,8 +17,8 @@ protected:
     void AddMilk(const char* date, const char* shift, int number, const char* animal, double liters,
         double fat, double amount)
     {
-        AddDelivery(QString::fromLatin1(date), QString::fromLatin1(shift), number, 3,
-            QStringLiteral("gaNaoSa"), QString::fromLatin1(animal), liters, fat, 35, amount);
+        AddDelivery(QString::fromLatin1(date), QString::fromLatin1(shift), number, 3, "gaNaoSa",
+            QString::fromLatin1(animal), liters, fat, 35, amount);
     }
 
     // With the frame open and the focus on its first date.
@@ -40,7 +40,7 @@ protected:
     static const DataGrid& Milk(Clerk& clerk) { return Grid(clerk, "DataGridMilk"); }
     static bool IsOpen(Clerk& clerk)
     {
-        return clerk.Top().findChild<QWidget*>(QStringLiteral("FrameMilkCollection"))->isVisible();
+        return clerk.Top().findChild<QWidget*>("FrameMilkCollection")->isVisible();
     }
     static std::string Labels(Clerk& clerk, std::initializer_list<const char*> names)
     {

@@ -40,7 +40,7 @@ TEST_F(MemberPeriodTest, ShowsTheMembersRowsOfThePeriodNumberedAnew)
         EXPECT_EQ(Line(grid, 3), "4|14/04/2026|सकाळ|म्हैस|2.000|7.00|35.00|90.00");
     });
     EXPECT_EQ(Books().size(), 5) << "only the copy is numbered anew";
-    EXPECT_EQ(One(QStringLiteral("select max(CollectionNo) from MilkCollections")), QStringLiteral("7"));
+    EXPECT_EQ(One("select max(CollectionNo) from MilkCollections"), "7");
 }
 
 TEST_F(MemberPeriodTest, TheSumsAreByAnimalAndHalfOfTheDay)
@@ -78,7 +78,7 @@ TEST_F(MemberPeriodTest, AMemberWithoutMilkInThePeriodIsToldAndNothingChanges)
     InTheFrame([this](Clerk& clerk) {
         Ask(clerk, "3");
         const QStringList before = Copy();
-        clerk.Press(QStringLiteral("txtAccountId"));
+        clerk.Press("txtAccountId");
         Type(clerk, "{END}{BS}2{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(TheBox.Shown, Of({"No Records"}));
         EXPECT_EQ(Focus(clerk), "txtAccountId");
@@ -90,7 +90,7 @@ TEST_F(MemberPeriodTest, AMemberWithoutMilkInThePeriodIsToldAndNothingChanges)
 TEST_F(MemberPeriodTest, RowsOfAnotherCompanyStayOut)
 {
     AddMilk("14/04/2026", "sakaL", 3, "gaaya", 1, 4, 35);
-    Run(QStringLiteral("update MilkCollections set CompanyId=2 where CollectionNo=3"));
+    Run("update MilkCollections set CompanyId=2 where CollectionNo=3");
     InTheFrame([](Clerk& clerk) {
         Ask(clerk, "3");
         EXPECT_EQ(Milk(clerk).Rows(), 4);
@@ -122,7 +122,7 @@ TEST_F(MemberPeriodTest, TheRunningNumberHasSixteenBits)
 {
     constexpr int highest = 32767;
     AddMornings(highest - 1);
-    gCn.RunScript(QStringLiteral("create index Quicker on MilkCollectionsTemp (CollectionDate)"));
+    gCn.RunScript("create index Quicker on MilkCollectionsTemp (CollectionDate)");
     const auto wholeTime = [](Clerk& clerk) {
         Type(clerk, "01011900{ENTER}12042026{ENTER}3{ENTER}{ENTER}{ENTER}");
     };
@@ -134,8 +134,7 @@ TEST_F(MemberPeriodTest, TheRunningNumberHasSixteenBits)
     });
     EXPECT_FALSE(Failure);
 
-    AddDelivery(QStringLiteral("12/04/2026"), QStringLiteral("sakaL"), 1, 3, QStringLiteral("gaNaoSa"),
-        QStringLiteral("gaaya"), 1, 4, 30, 30);
+    AddDelivery("12/04/2026", "sakaL", 1, 3, "gaNaoSa", "gaaya", 1, 4, 30, 30);
     InTheFrame(wholeTime);
     ASSERT_TRUE(Failure) << "there is no number after the highest one";
     EXPECT_EQ(Failure->Number(), RunTimeError::Overflow);

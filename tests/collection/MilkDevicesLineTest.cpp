@@ -27,7 +27,7 @@ protected:
     void Use(const char* scale, int lPort)
     {
         gAppState.gWeighScale = Latin(scale);
-        Run(QStringLiteral("delete * from PortTable"));
+        Run("delete * from PortTable");
         Run(Sql(
             u"insert into PortTable(LComPortNo,LSetting,LReceiverCommand,LTareCommand,LCounter,FComPortNo,"
             u"FSetting) values(",

@@ -27,13 +27,13 @@ QStringList Steps(std::initializer_list<const char*> steps)
 TEST_F(MilkDevicesTest, ARowIsReadAndItsAbsenceTold)
 {
     EXPECT_TRUE(Devices.ReadPortTable());
-    Run(QStringLiteral("delete * from PortTable"));
+    Run("delete * from PortTable");
     EXPECT_FALSE(Devices.ReadPortTable());
 }
 
 TEST_F(MilkDevicesTest, WithoutARowOnlyTheDevicesThatNeedItAreHindered)
 {
-    Run(QStringLiteral("delete * from PortTable"));
+    Run("delete * from PortTable");
     EXPECT_FALSE(Devices.ReadPortTable());
     Ports.Replies = {{"", {{"+12.5\r\n"}}}};
     Scale("ACE CORP");
@@ -47,8 +47,8 @@ TEST_F(MilkDevicesTest, WithoutARowOnlyTheDevicesThatNeedItAreHindered)
 
 TEST_F(MilkDevicesTest, ARowOfNothingsIsARow)
 {
-    Run(QStringLiteral("delete * from PortTable"));
-    Run(QStringLiteral("insert into PortTable(LTareCommand) values('0')"));
+    Run("delete * from PortTable");
+    Run("insert into PortTable(LTareCommand) values('0')");
     EXPECT_TRUE(Devices.ReadPortTable());
     Scale("UDFREAD");
     EXPECT_EQ(Written(Devices.ReadLiters(ThreeDecimals)), "-");

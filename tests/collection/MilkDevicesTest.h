@@ -17,7 +17,7 @@ inline QString Latin(const char* text)
 // A text to be written, in the form that a test can print: "-" where the field stays as it is.
 inline std::string Written(const std::optional<QString>& text)
 {
-    return text.value_or(QStringLiteral("-")).toStdString();
+    return text.value_or("-").toStdString();
 }
 
 // A counter's devices on scripted ports, with the row of PortTable that the test wants.
@@ -30,7 +30,7 @@ protected:
     void PortRow(int lPort, const char* lSetting, const char* receiver, const char* tare, qint64 counter,
         int fPort, const char* fSetting)
     {
-        Run(QStringLiteral("delete * from PortTable"));
+        Run("delete * from PortTable");
         Run(Sql(
             u"insert into PortTable(LComPortNo,LSetting,LReceiverCommand,LTareCommand,LCounter,FComPortNo,"
             u"FSetting) values(",

@@ -26,10 +26,7 @@ protected:
     static void ChangeTheLitres(Clerk& clerk) { Type(clerk, "1{ENTER}{ENTER}7{ENTER}{ENTER}{ENTER}{ENTER}"); }
 
     // A row that is no delivery, for the tidying to take out of the copy.
-    void PlantARowToTidy()
-    {
-        Run(QStringLiteral("insert into MilkCollectionsTemp(CompanyId,CollectionNo) values(1,0)"));
-    }
+    void PlantARowToTidy() { Run("insert into MilkCollectionsTemp(CompanyId,CollectionNo) values(1,0)"); }
 
 private:
     int m_demands = 0;
@@ -101,8 +98,7 @@ TEST_P(OrderOfWritesTest, TheClosingLitresFollowTheNewRowsAndTheMoney)
     });
     EXPECT_EQ(Error(), "");
     EXPECT_EQ(
-        Rows(QStringLiteral("select ClosingBalance,CowClosingLits from MembersMaster where MemberNo=1")),
-        Of({"175|5"}));
+        Rows("select ClosingBalance,CowClosingLits from MembersMaster where MemberNo=1"), Of({"175|5"}));
 }
 
 TEST_P(OrderOfWritesTest, TheClosingLitresFollowTheChangedRows)
@@ -114,22 +110,20 @@ TEST_P(OrderOfWritesTest, TheClosingLitresFollowTheChangedRows)
         ChangeTheLitres(clerk);
     });
     EXPECT_EQ(Error(), "");
-    EXPECT_EQ(One(QStringLiteral("select CowClosingLits from MembersMaster where MemberNo=1")),
-        QStringLiteral("7"));
+    EXPECT_EQ(One("select CowClosingLits from MembersMaster where MemberNo=1"), "7");
 }
 
 TEST_P(OrderOfWritesTest, TheClosingLitresFollowTheDeletedRowsAndTheTidying)
 {
     AddMorningDelivery(1);
-    Run(QStringLiteral("update MembersMaster set CowClosingLits=5 where MemberNo=1"));
+    Run("update MembersMaster set CowClosingLits=5 where MemberNo=1");
     InTheShift([this](Clerk& clerk) {
         PlantARowToTidy();
         Demand("update of CowClosingLits on MembersMaster", "not exists(select 1 from MilkCollectionsTemp)");
         Type(clerk, "1{ENTER}{F10}");
     });
     EXPECT_EQ(Error(), "");
-    EXPECT_EQ(One(QStringLiteral("select CowClosingLits from MembersMaster where MemberNo=1")),
-        QStringLiteral("0"));
+    EXPECT_EQ(One("select CowClosingLits from MembersMaster where MemberNo=1"), "0");
 }
 
 TEST_P(OrderOfWritesTest, TheCopyIsTidiedWhenTheClosingLitresStand)
@@ -154,11 +148,11 @@ TEST_P(OrderOfWritesTest, TheReceiptIsStagedAfterTheCopyIsWrittenAndTidied)
             "and c.MemberNo=new.MemberNo and c.Liters=new.Liters) "
             "and not exists(select 1 from MilkCollectionsTemp where CollectionNo=0)");
         Deliver(clerk, 1, "5", "4.5");
-        EXPECT_EQ(One(QStringLiteral("select Liters from MilkReceipt")), QStringLiteral("5"));
+        EXPECT_EQ(One("select Liters from MilkReceipt"), "5");
         ChangeTheLitres(clerk);
     });
     EXPECT_EQ(Error(), "");
-    EXPECT_EQ(One(QStringLiteral("select Liters from MilkReceipt")), QStringLiteral("7"));
+    EXPECT_EQ(One("select Liters from MilkReceipt"), "7");
 }
 
 }

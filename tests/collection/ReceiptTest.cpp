@@ -10,9 +10,9 @@ class ReceiptTest : public EachCounterTest {
 protected:
     QStringList Receipt()
     {
-        return Rows(QStringLiteral("select CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
-                                   "MemberName,Animal,Liters,Fat,Rate,Amount,ActualCollectionTime "
-                                   "from MilkReceipt"));
+        return Rows("select CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
+                    "MemberName,Animal,Liters,Fat,Rate,Amount,ActualCollectionTime "
+                    "from MilkReceipt");
     }
     void PrintTo(const char* status) { Set("PrintStatus", status); }
 
@@ -60,11 +60,11 @@ TEST_P(ReceiptTest, OnScreenItGoesToTheWindowAndOnPaperToThePrinter)
     ASSERT_EQ(Printed.size(), 2U);
     EXPECT_EQ(Printed[0].destination, ReportDestination::Window);
     EXPECT_EQ(Printed[1].destination, ReportDestination::Printer);
-    EXPECT_EQ(Printed[0].subject, QStringLiteral("राम गाय सकाळ 15-04-2026"));
-    EXPECT_EQ(Printed[1].subject, QStringLiteral("सीता म्हैस सकाळ 15-04-2026"));
+    EXPECT_EQ(Printed[0].subject, "राम गाय सकाळ 15-04-2026");
+    EXPECT_EQ(Printed[1].subject, "सीता म्हैस सकाळ 15-04-2026");
     for (const TemplateReport::Run& run : Printed) {
-        EXPECT_EQ(run.fileName, QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt"));
-        EXPECT_EQ(run.logon, QStringLiteral("dsn=VetrolanDSN;pwd=Doodh#26"));
+        EXPECT_EQ(run.fileName, "C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt");
+        EXPECT_EQ(run.logon, "dsn=VetrolanDSN;pwd=Doodh#26");
     }
 }
 
@@ -72,16 +72,16 @@ TEST_P(ReceiptTest, WithThePrinterOffNothingIsPrintedUntilItIsOnAgain)
 {
     PrintTo("haoya");
     InTheShift([this](Clerk& clerk) {
-        clerk.Press(QStringLiteral("cmdPrinterOnOff"));
+        clerk.Press("cmdPrinterOnOff");
         EXPECT_EQ(Reads(clerk, "cmdPrinterOnOff"), "ip`MTr baMd");
-        clerk.Press(QStringLiteral("txtCollectionNo"));
+        clerk.Press("txtCollectionNo");
         Deliver(clerk, 1, "1", "4.5");
         EXPECT_TRUE(Printed.empty());
         EXPECT_TRUE(TheBox.Shown.isEmpty());
         EXPECT_EQ(Receipt().size(), 1);
-        clerk.Press(QStringLiteral("cmdPrinterOnOff"));
+        clerk.Press("cmdPrinterOnOff");
         EXPECT_EQ(Reads(clerk, "cmdPrinterOnOff"), "ip`MTr sau$");
-        clerk.Press(QStringLiteral("txtCollectionNo"));
+        clerk.Press("txtCollectionNo");
         Deliver(clerk, 2, "2", "8");
         EXPECT_EQ(Printed.size(), 1U);
     });
@@ -90,7 +90,7 @@ TEST_P(ReceiptTest, WithThePrinterOffNothingIsPrintedUntilItIsOnAgain)
 TEST_P(ReceiptTest, ThePrinterIsOnAgainWhenTheCounterIsOpenedAnew)
 {
     AtTheDoor([](Clerk& clerk) {
-        clerk.Press(QStringLiteral("cmdPrinterOnOff"));
+        clerk.Press("cmdPrinterOnOff");
         EXPECT_EQ(Reads(clerk, "cmdPrinterOnOff"), "ip`MTr baMd");
     });
     AtTheDoor([](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "cmdPrinterOnOff"), "ip`MTr sau$"); });
@@ -142,8 +142,7 @@ TEST_P(ReceiptTest, AnUnknownTypeKeepsTheTemplateOfTheSlipBefore)
     });
     ASSERT_EQ(Printed.size(), 2U);
     for (const TemplateReport::Run& run : Printed)
-        EXPECT_EQ(
-            run.fileName, QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkReceiptShenoli Epson LX 300.rpt"));
+        EXPECT_EQ(run.fileName, "C:\\Tarvel01\\Vetrolan\\MilkReceiptShenoli Epson LX 300.rpt");
 }
 
 TEST_P(ReceiptTest, AnUnknownStatusPrintsWhereTheSlipBeforeWent)
@@ -198,19 +197,19 @@ TEST_P(ReceiptTest, ACounterOpensEvenIfTheBooksCannotBeOpenedForItsSlips)
 TEST_P(ReceiptTest, TheFirstSettingsCountWhosesoeverTheyAre)
 {
     PrintTo("haoya");
-    Run(QStringLiteral("update AutoSettings set CompanyId=7"));
+    Run("update AutoSettings set CompanyId=7");
     InTheShift([](Clerk& clerk) { Deliver(clerk, 1, "2", "4.5"); });
     ASSERT_EQ(Printed.size(), 1U);
-    EXPECT_EQ(Printed[0].fileName, QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt"));
+    EXPECT_EQ(Printed[0].fileName, "C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt");
     EXPECT_EQ(Printed[0].destination, ReportDestination::Printer);
 }
 
 TEST_P(ReceiptTest, WithoutSettingsASlipIsToldToHaveNoLayout)
 {
-    Run(QStringLiteral("delete * from AutoSettings"));
+    Run("delete * from AutoSettings");
     InTheShift([this](Clerk& clerk) {
         Deliver(clerk, 1, "2", "4.5");
-        EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही.")));
+        EXPECT_EQ(TheBox.Shown, QStringList("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही."));
     });
     EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|2|4.5|35|70"}));
     EXPECT_TRUE(Printed.empty());
@@ -240,8 +239,8 @@ TEST_P(ReceiptTest, TheDeliveryIsOnDiskAndTheNumberHasSteppedOnBeforeTheSlipIsPr
                     other, QStringLiteral("select MemberName from %1").arg(QString::fromLatin1(table)))
                                       .At(0)
                                       .Text());
-            atPrinting.append(clerk.Reads(QStringLiteral("txtCollectionNo")));
-            atPrinting.append(clerk.Reads(QStringLiteral("txtMemberNo")));
+            atPrinting.append(clerk.Reads("txtCollectionNo"));
+            atPrinting.append(clerk.Reads("txtMemberNo"));
         };
         Deliver(clerk, 1, "2", "4.5");
     });
@@ -253,7 +252,7 @@ TEST_P(ReceiptTest, ATemplateThatFailsLosesNothing)
     PrintTo("haoya");
     InTheShift([](Clerk& clerk) {
         TemplateReport::Engine() = [](const TemplateReport::Run&) {
-            throw RunTimeError(RunTimeError::DatabaseFailure, QStringLiteral("no template"));
+            throw RunTimeError(RunTimeError::DatabaseFailure, "no template");
         };
         Deliver(clerk, 1, "2", "4.5");
     });
@@ -266,8 +265,8 @@ TEST_P(ReceiptTest, ATemplateThatFailsLosesNothing)
 TEST_P(ReceiptTest, AFailureOfTheStagingTakesTheWholeSaveBack)
 {
     InTheShift([](Clerk& clerk) {
-        gCn.RunScript(QStringLiteral("create trigger NoRoom before insert on MilkReceipt "
-                                     "begin select raise(abort, 'no room'); end"));
+        gCn.RunScript("create trigger NoRoom before insert on MilkReceipt "
+                      "begin select raise(abort, 'no room'); end");
         Deliver(clerk, 1, "2", "4.5");
     });
     ASSERT_TRUE(Failure);

@@ -5,11 +5,7 @@ namespace {
 // Member 1 brought cow milk of fat 4.1 on the morning before.
 class RefusedFatTest : public EachCounterTest {
 protected:
-    RefusedFatTest()
-    {
-        AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("sakaL"), 1, 1, QStringLiteral("rama"),
-            QStringLiteral("gaaya"), 5, 4.1, 30, 150);
-    }
+    RefusedFatTest() { AddDelivery("14/04/2026", "sakaL", 1, 1, "rama", "gaaya", 5, 4.1, 30, 150); }
 
     // With 2 litres of member 1 entered and the focus on the fat.
     void AtTheFat(const std::function<void(Clerk&)>& script)
@@ -90,7 +86,7 @@ TEST_P(RefusedFatTest, ANewVisitAfterARefusalOffersTheLastFatAgain)
 TEST_P(RefusedFatTest, TheLastFatIsThatOfTheNumberUnderTheSameName)
 {
     EXPECT_EQ(Offered(), "4.1");
-    Run(QStringLiteral("update MilkCollections set MemberName='ramaa'"));
+    Run("update MilkCollections set MemberName='ramaa'");
     EXPECT_EQ(Offered(), "0") << "a number that has changed hands";
 }
 
@@ -100,7 +96,7 @@ TEST_P(RefusedFatTest, TheLastFatIsOfferedOnlyWhereTheSettingDeniesATester)
         Set("AutoFat", tester);
         EXPECT_EQ(Offered(), "0") << '"' << tester << '"';
     }
-    Run(QStringLiteral("update AutoSettings set AutoFat=null"));
+    Run("update AutoSettings set AutoFat=null");
     EXPECT_EQ(Offered(), "0");
     Set("AutoFat", " naahI ");
     EXPECT_EQ(Offered(), "4.1");

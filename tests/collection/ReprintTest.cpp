@@ -13,9 +13,9 @@ class ReprintTest : public SearchCollectionsTest {
 protected:
     QStringList Receipt()
     {
-        return Rows(QStringLiteral("select CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
-                                   "MemberName,Animal,Liters,Fat,Rate,Amount,ActualCollectionTime "
-                                   "from MilkReceipt"));
+        return Rows("select CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,"
+                    "MemberName,Animal,Liters,Fat,Rate,Amount,ActualCollectionTime "
+                    "from MilkReceipt");
     }
 };
 
@@ -31,7 +31,7 @@ TEST_F(ReprintTest, OfTwoRowsOfAMemberTheOneUnderTheCursorIsPrintedWithoutItsClo
         EXPECT_EQ(Focus(clerk), "cmdGo");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Receipt(), Of({"1|15/04/2026|sakaL|1|1|rama|gaaya|5|4.5|35|175|NULL"}));
-        clerk.Press(QStringLiteral("DataGridInwards"));
+        clerk.Press("DataGridInwards");
         Type(clerk, "{UP}%p");
         EXPECT_EQ(Receipt(), Of({"1|15/04/2026|sakaL|3|1|rama|mhOsa|1.5|8|49|73.5|NULL"}));
     });
@@ -46,8 +46,8 @@ TEST_F(ReprintTest, ItShowsOnTheScreenWhateverTheSettingsSay)
         After(1, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}"); });
         ASSERT_EQ(Printed.size(), 1U) << status;
         EXPECT_EQ(Printed[0].destination, ReportDestination::Window);
-        EXPECT_TRUE(Printed[0].subject.endsWith(QStringLiteral(" 15-04-2026"))) << status;
-        EXPECT_EQ(Printed[0].logon, QStringLiteral("dsn=VetrolanDSN;pwd=Doodh#26"));
+        EXPECT_TRUE(Printed[0].subject.endsWith(" 15-04-2026")) << status;
+        EXPECT_EQ(Printed[0].logon, "dsn=VetrolanDSN;pwd=Doodh#26");
     }
 }
 
@@ -60,15 +60,14 @@ TEST_F(ReprintTest, ARowOfAnotherCompanyOrOfNoneBecomesOneOfThisForTheSlip)
             Type(clerk, "{ENTER}{ENTER}");
             EXPECT_EQ(Receipt(), Of({"1|15/04/2026|sakaL|2|2|saIta|mhOsa|2|8|49|98|NULL"}));
         });
-        EXPECT_EQ(One(QStringLiteral("select CompanyId from MilkCollections where MemberNo=2")),
-            QString::fromLatin1(company))
+        EXPECT_EQ(One("select CompanyId from MilkCollections where MemberNo=2"), QString::fromLatin1(company))
             << "the books keep what they have";
     }
 }
 
 TEST_F(ReprintTest, ASocietyThatIsNoneLeavesNoSlip)
 {
-    Run(QStringLiteral("delete * from AutoSettings"));
+    Run("delete * from AutoSettings");
     gAppState.gCompanyId = 0;
     After(1, [this](Clerk& clerk) {
         Type(clerk, "{ENTER}{ENTER}");
@@ -102,7 +101,7 @@ TEST_F(ReprintTest, WithoutATemplateTheSlipIsStagedAndTheClerkIsTold)
         TheBox.Shown.clear();
         After(1, [this](Clerk& clerk) {
             Type(clerk, "{ENTER}{ENTER}");
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmSearchCollections"));
+            EXPECT_EQ(clerk.ScreenName(), "frmSearchCollections");
             EXPECT_EQ(Receipt().size(), 1);
         });
         EXPECT_TRUE(Printed.empty()) << type;
@@ -117,7 +116,7 @@ TEST_F(ReprintTest, ATypeWithoutATemplateKeepsThatOfTheSlipBefore)
         Run(QString::fromUtf8("update AutoSettings set ReceiptType='Tašp 8'"));
         Type(clerk, "{ENTER}");
         ASSERT_EQ(Printed.size(), 2U);
-        EXPECT_EQ(Printed[1].fileName, QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt"));
+        EXPECT_EQ(Printed[1].fileName, "C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt");
     });
 }
 
@@ -126,7 +125,7 @@ TEST_F(ReprintTest, AMissingTemplateOfTheSiblingFolderEndsTheProgramWithTheSlipS
     ReportSurroundings::Current().localPath = [](const QString& path) { return LocalPath(path); };
     TemplateReport::Engine() = ThePrinting;
     Run(QString::fromUtf8("update AutoSettings set ReceiptType='Tašp 5'"));
-    QFile here(FolderFile(QStringLiteral("MilkReceiptAtk.rpt")));
+    QFile here(FolderFile("MilkReceiptAtk.rpt"));
     ASSERT_TRUE(here.open(QIODevice::WriteOnly))
         << "the one of this program's folder isn't taken in its place";
     After(1, [](Clerk& clerk) { Type(clerk, "{ENTER}{ENTER}"); });

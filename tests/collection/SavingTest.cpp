@@ -35,8 +35,7 @@ TEST_F(SavingTest, TheClockIsReadAtTheSave)
         TheClock.Time.setTime(QTime(10, 31, 0));
         Type(clerk, "{ENTER}");
     });
-    EXPECT_EQ(
-        One(QStringLiteral("select ActualCollectionTime from MilkCollections")), QStringLiteral("10.31"));
+    EXPECT_EQ(One("select ActualCollectionTime from MilkCollections"), "10.31");
 }
 
 TEST_F(SavingTest, TheLineIsReadyForTheNextMember)
@@ -112,8 +111,8 @@ TEST_F(SavingTest, AnExistingRowIsChangedInBothTables)
 {
     AddMorningDelivery(1);
     AddMorningDelivery(2);
-    Run(QStringLiteral("update MilkCollections set MemberNo=2,MemberName='saIta',Animal='mhOsa',CompanyId=9 "
-                       "where CollectionNo=2"));
+    Run("update MilkCollections set MemberNo=2,MemberName='saIta',Animal='mhOsa',CompanyId=9 "
+        "where CollectionNo=2");
     InTheMorning([](Clerk& clerk) {
         Type(clerk, "{UP}{ENTER}{ENTER}6.5{ENTER}8{ENTER}50{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
@@ -123,8 +122,7 @@ TEST_F(SavingTest, AnExistingRowIsChangedInBothTables)
     const QStringList rows = Of({"1|1|rama|gaaya|5|4.5|35|175", "2|2|saIta|mhOsa|6.5|8|50|325"});
     EXPECT_EQ(Books(), rows);
     EXPECT_EQ(Copy(), rows);
-    EXPECT_EQ(Rows(QStringLiteral(
-                  "select CompanyId,ActualCollectionTime from MilkCollections order by CollectionNo")),
+    EXPECT_EQ(Rows("select CompanyId,ActualCollectionTime from MilkCollections order by CollectionNo"),
         Of({"1|5.55", "1|6.05"}));
 }
 
@@ -140,20 +138,19 @@ TEST_F(SavingTest, AnExistingRowDoesNotCollideWithItself)
 
 TEST_F(SavingTest, AChangeOfAnEarlierDayStaysOnThatDay)
 {
-    AddDelivery(QStringLiteral("02/04/2026"), QStringLiteral("saMQyaakaL"), 1, 1, QStringLiteral("rama"),
-        QStringLiteral("gaaya"), 5, 4.5, 35, 175);
+    AddDelivery("02/04/2026", "saMQyaakaL", 1, 1, "rama", "gaaya", 5, 4.5, 35, 175);
     AddMorningDelivery(1);
     AtTheCounter([](Clerk& clerk) {
         Type(clerk, "02042026{ENTER}2{ENTER}1{ENTER}{ENTER}7{ENTER}{ENTER}{ENTER}{ENTER}");
     });
-    EXPECT_EQ(Rows(QStringLiteral("select CollectionDate,CollectionTime,Liters from MilkCollections "
-                                  "order by CollectionDate")),
+    EXPECT_EQ(Rows("select CollectionDate,CollectionTime,Liters from MilkCollections "
+                   "order by CollectionDate"),
         Of({"02/04/2026|saMQyaakaL|7", "15/04/2026|sakaL|5"}));
 }
 
 TEST_F(SavingTest, ClosingLitresAreKeptUpByNewAndByChangedRows)
 {
-    Run(QStringLiteral("update MembersMaster set CowOpeningLits=100 where MemberNo=1"));
+    Run("update MembersMaster set CowOpeningLits=100 where MemberNo=1");
     InTheMorning([this](Clerk& clerk) {
         Deliver(clerk, 1, "5.25", "4.5");
         EXPECT_EQ(MemberFigures(1), "0|C|105.25|0");
@@ -187,14 +184,14 @@ TEST_F(SavingTest, AChangedRowLeavesTheClosingBalanceAlone)
 TEST_F(SavingTest, AMissingClosingBalanceStaysAtZeroThroughASave)
 {
     Set("PurchaseEntry", "Collection");
-    Run(QStringLiteral("update MembersMaster set ClosingBalance=null where MemberNo=1"));
+    Run("update MembersMaster set ClosingBalance=null where MemberNo=1");
     InTheMorning([](Clerk& clerk) { Deliver(clerk, 1, "2", "4.5"); });
     EXPECT_EQ(MemberFigures(1), "0|D|2|0");
 }
 
 TEST_F(SavingTest, WithoutSettingsARowIsSavedWithoutBalance)
 {
-    Run(QStringLiteral("delete * from AutoSettings"));
+    Run("delete * from AutoSettings");
     InTheMorning([](Clerk& clerk) {
         Deliver(clerk, 1, "2", "4.5");
         Deliver(clerk, 1, "1", "4.5");
@@ -206,7 +203,7 @@ TEST_F(SavingTest, WithoutSettingsARowIsSavedWithoutBalance)
 TEST_F(SavingTest, RowsNumberedZeroAreTidiedOutOfTheCopy)
 {
     InTheMorning([this](Clerk& clerk) {
-        Run(QStringLiteral("insert into MilkCollectionsTemp(CompanyId,CollectionNo) values(1,0)"));
+        Run("insert into MilkCollectionsTemp(CompanyId,CollectionNo) values(1,0)");
         Deliver(clerk, 1, "2", "4.5");
         EXPECT_EQ(Copy(), Of({"1|1|rama|gaaya|2|4.5|35|70"}));
     });
@@ -216,14 +213,14 @@ TEST_F(SavingTest, AnApostropheInAMembersNameFailsTheStatementAndChangesNothing)
 {
     for (const char* tester : {"naahI", "haoya"}) {
         Set("AutoFat", tester);
-        gCn.RunScript(QStringLiteral("update MembersMaster set MemberName='ra''ma' where MemberNo=1"));
+        gCn.RunScript("update MembersMaster set MemberName='ra''ma' where MemberNo=1");
         InTheMorning([](Clerk& clerk) {
             Type(clerk, "{ENTER}1{ENTER}2{ENTER}");
             if (!clerk.ScreenName().isEmpty())
                 Type(clerk, "4.5{ENTER}{ENTER}{ENTER}");
         });
         ASSERT_TRUE(Failure) << tester;
-        EXPECT_TRUE(Failure->Statement().contains(QStringLiteral("ra'ma"))) << Failure->what();
+        EXPECT_TRUE(Failure->Statement().contains("ra'ma")) << Failure->what();
         EXPECT_TRUE(Books().isEmpty()) << tester;
         EXPECT_TRUE(Copy().isEmpty()) << tester;
     }
@@ -237,12 +234,12 @@ TEST_F(SavingTest, ANameThatReadsAsWordsOfTheStatementReachesNoOtherMember)
             Set("PurchaseEntry", entry);
             gCn.RunScript(QStringLiteral("update MembersMaster set MemberName='%1' where MemberNo=1")
                               .arg(QString::fromLatin1(name)));
-            const QStringList before = Rows(QStringLiteral("select * from MembersMaster order by MemberNo"));
+            const QStringList before = Rows("select * from MembersMaster order by MemberNo");
             InTheMorning([](Clerk& clerk) { Deliver(clerk, 1, "2", "4.5"); });
             ASSERT_TRUE(Failure) << name << entry;
             EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
             EXPECT_FALSE(Failure->Statement().isEmpty());
-            EXPECT_EQ(Rows(QStringLiteral("select * from MembersMaster order by MemberNo")), before);
+            EXPECT_EQ(Rows("select * from MembersMaster order by MemberNo"), before);
             EXPECT_TRUE(Books().isEmpty()) << name << entry;
         }
     }
@@ -251,8 +248,8 @@ TEST_F(SavingTest, ANameThatReadsAsWordsOfTheStatementReachesNoOtherMember)
 TEST_F(SavingTest, AFailureBetweenTheTwoTablesLeavesNeitherWithTheRow)
 {
     InTheMorning([](Clerk& clerk) {
-        gCn.RunScript(QStringLiteral("create trigger NoRoom before insert on MilkCollectionsTemp "
-                                     "begin select raise(abort, 'no room'); end"));
+        gCn.RunScript("create trigger NoRoom before insert on MilkCollectionsTemp "
+                      "begin select raise(abort, 'no room'); end");
         Deliver(clerk, 1, "2", "4.5");
     });
     ASSERT_TRUE(Failure);
@@ -265,8 +262,8 @@ TEST_F(SavingTest, AFailureBetweenTheTwoTablesLeavesNeitherWithTheRow)
 TEST_F(SavingTest, AFailureAfterTheRowsTakesThemBack)
 {
     InTheMorning([](Clerk& clerk) {
-        gCn.RunScript(QStringLiteral("create trigger NoRoom before update on MembersMaster "
-                                     "begin select raise(abort, 'no room'); end"));
+        gCn.RunScript("create trigger NoRoom before update on MembersMaster "
+                      "begin select raise(abort, 'no room'); end");
         Deliver(clerk, 1, "2", "4.5");
     });
     ASSERT_TRUE(Failure);

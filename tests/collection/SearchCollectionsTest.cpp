@@ -6,7 +6,7 @@
 
 TEST_F(SearchCollectionsTest, OpensFromTheMenuWithTheWorkingDayAndNoRows)
 {
-    Run(QStringLiteral("insert into MilkCollectionsTemp select * from MilkCollections"));
+    Run("insert into MilkCollectionsTemp select * from MilkCollections");
     FromTheMenu([this](Clerk& clerk) {
         EXPECT_EQ(Focus(clerk), "maskDate");
         EXPECT_EQ(Reads(clerk, "maskDate"), "15/04/2026");
@@ -54,7 +54,7 @@ TEST_F(SearchCollectionsTest, CalculatorTutorAndEscAnswer)
         Type(clerk, "{F2}");
         EXPECT_EQ(TheCalculator.Started, Of({"C:\\Tarvel01\\Vetrolan\\calc.EXE maximised"}));
         Type(clerk, "{F12}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
+        EXPECT_EQ(clerk.ScreenName(), "frmKeyboardTutor");
         Type(clerk, "{ESC}{ESC}");
         EXPECT_EQ(clerk.ScreenName(), QString());
     });
@@ -66,7 +66,7 @@ TEST_F(SearchCollectionsTest, EscClearsTheFieldsBeforeItCloses)
         [] {
             frmSearchCollections screen;
             screen.ShowModal();
-            EXPECT_EQ(screen.Find(u"maskDate")->Text(), QStringLiteral("__/__/____"));
+            EXPECT_EQ(screen.Find(u"maskDate")->Text(), "__/__/____");
             for (const char* field : {"txtTime", "txtMemberNo", "ComboMemberName"})
                 EXPECT_EQ(screen.Find(QString::fromLatin1(field))->Text(), QString()) << field;
         },
@@ -96,7 +96,7 @@ TEST_F(SearchCollectionsTest, ABadDateKeepsTheFocusWithoutAMessage)
             Type(clerk, date);
             Type(clerk, "{ENTER}");
             EXPECT_EQ(Focus(clerk), "maskDate") << date;
-            EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmSearchCollections"));
+            EXPECT_EQ(clerk.ScreenName(), "frmSearchCollections");
         });
     }
     EXPECT_TRUE(TheBox.Shown.isEmpty());
@@ -106,8 +106,7 @@ TEST_F(SearchCollectionsTest, TheShiftComesByItsKeysAndIsNeeded)
 {
     FromTheMenu([](Clerk& clerk) {
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(
-            Label(clerk, "lblFooter"), Seen(QStringLiteral("  1 ¹ sakaL    2 ¹ saMQyaakaL")).toStdString());
+        EXPECT_EQ(Label(clerk, "lblFooter"), Seen("  1 ¹ sakaL    2 ¹ saMQyaakaL").toStdString());
         Type(clerk, "3a{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtTime");
         Type(clerk, "2{BS}x");
@@ -182,7 +181,7 @@ TEST_F(SearchCollectionsTest, ANumberShowsItsMemberAndAnUnknownOneIsEmptied)
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "");
         EXPECT_TRUE(dynamic_cast<const NameCombo&>(*clerk.Top().Find(u"ComboMemberName")).IsDroppedDown());
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(clerk.Message(), QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra"));
+        EXPECT_EQ(clerk.Message(), "maombarcao naaMva vyavaisqat Ta[-p kra");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboMemberName");
     });
@@ -224,18 +223,14 @@ TEST_F(SearchCollectionsTest, ApostrophesAndDigitsAreDroppedFromTheName)
 
 TEST_F(SearchCollectionsTest, TheMembersRowsOfTheShiftAreShownNewestFirst)
 {
-    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("saMQyaakaL"), 1, 1, QStringLiteral("rama"),
-        QStringLiteral("gaaya"), 9, 4.5, 35, 315);
-    AddDelivery(QStringLiteral("14/04/2026"), QStringLiteral("sakaL"), 1, 1, QStringLiteral("rama"),
-        QStringLiteral("gaaya"), 9, 4.5, 35, 315);
+    AddDelivery("15/04/2026", "saMQyaakaL", 1, 1, "rama", "gaaya", 9, 4.5, 35, 315);
+    AddDelivery("14/04/2026", "sakaL", 1, 1, "rama", "gaaya", 9, 4.5, 35, 315);
     After(1, [this](Clerk& clerk) {
         EXPECT_EQ(Focus(clerk), "DataGridInwards");
         const DataGrid& grid = Grid(clerk, "DataGridInwards");
         ASSERT_EQ(grid.Rows(), 2);
-        EXPECT_EQ(
-            Line(grid, 0), "3|" + Seen(QStringLiteral("mhOsa")).toStdString() + "|1.500|8.00|49.00|73.50");
-        EXPECT_EQ(
-            Line(grid, 1), "1|" + Seen(QStringLiteral("gaaya")).toStdString() + "|5.000|4.50|35.00|175.00");
+        EXPECT_EQ(Line(grid, 0), "3|" + Seen("mhOsa").toStdString() + "|1.500|8.00|49.00|73.50");
+        EXPECT_EQ(Line(grid, 1), "1|" + Seen("gaaya").toStdString() + "|5.000|4.50|35.00|175.00");
         EXPECT_EQ(Copy(), Of({"1|1|rama|gaaya|5|4.5|35|175", "3|1|rama|mhOsa|1.5|8|49|73.5"}));
         EXPECT_TRUE(CanEnter(clerk, "cmdGo"));
     });
@@ -243,7 +238,7 @@ TEST_F(SearchCollectionsTest, TheMembersRowsOfTheShiftAreShownNewestFirst)
 
 TEST_F(SearchCollectionsTest, FromTheMenuTheCopyIsLeftWithTheMembersRows)
 {
-    Run(QStringLiteral("insert into MilkCollectionsTemp select * from MilkCollections"));
+    Run("insert into MilkCollectionsTemp select * from MilkCollections");
     After(1, [](Clerk& clerk) {
         Type(clerk, "{ESC}");
         EXPECT_EQ(clerk.ScreenName(), QString());
@@ -254,11 +249,10 @@ TEST_F(SearchCollectionsTest, FromTheMenuTheCopyIsLeftWithTheMembersRows)
 
 TEST_F(SearchCollectionsTest, ARowWithoutACompanyIsFoundLikeAnyOther)
 {
-    Run(QStringLiteral("update MilkCollections set CompanyId=0 where CollectionNo=3"));
+    Run("update MilkCollections set CompanyId=0 where CollectionNo=3");
     After(1, [this](Clerk& clerk) {
         EXPECT_EQ(Grid(clerk, "DataGridInwards").Rows(), 2);
-        EXPECT_EQ(One(QStringLiteral("select CompanyId from MilkCollectionsTemp where CollectionNo=3")),
-            QStringLiteral("0"));
+        EXPECT_EQ(One("select CompanyId from MilkCollectionsTemp where CollectionNo=3"), "0");
     });
 }
 
@@ -274,9 +268,8 @@ TEST_F(SearchCollectionsTest, AMemberIsFoundByNameWithBlanksAroundIt)
 
 TEST_F(SearchCollectionsTest, AnotherSpellingOfANameFindsTheMembersRows)
 {
-    AddMember(8, QStringLiteral("maa$tI"), QStringLiteral("gaaya"));
-    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 4, 8, QStringLiteral("maa$tI"),
-        QStringLiteral("gaaya"), 2, 4.5, 35, 70);
+    AddMember(8, "maa$tI", "gaaya");
+    AddDelivery("15/04/2026", "sakaL", 4, 8, "maa$tI", "gaaya", 2, 4.5, 35, 70);
     FromTheMenu([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}{ENTER}maarutI{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "8");
@@ -309,7 +302,7 @@ TEST_F(SearchCollectionsTest, ASearchThatFindsNothingSaysSo)
 
 TEST_F(SearchCollectionsTest, WhatIsNumberedZeroIsNoDelivery)
 {
-    Run(QStringLiteral("update MilkCollections set CollectionNo=0 where MemberNo=2"));
+    Run("update MilkCollections set CollectionNo=0 where MemberNo=2");
     After(2, [this](Clerk&) {
         EXPECT_EQ(TheBox.Shown, Of({"No Records"}));
         EXPECT_TRUE(Copy().isEmpty());
@@ -359,7 +352,7 @@ TEST_F(SearchCollectionsTest, F9OnAMemberWithoutARowOpensNothing)
 {
     InTheMorning([](Clerk& clerk) {
         Type(clerk, "{ENTER}3{F9}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+        EXPECT_EQ(clerk.ScreenName(), "frmMilkCollections");
     });
 }
 
@@ -369,7 +362,7 @@ TEST_F(SearchCollectionsTest, TheCountersListStaysAsLongAsItWasAfterTheCopyWasRe
         AddMorningDelivery(number);
     FromTheCounter<frmMilkCollections>(2, [](Clerk& clerk) {
         Type(clerk, "{ENTER}{ESC}");
-        ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+        ASSERT_EQ(clerk.ScreenName(), "frmMilkCollections");
         EXPECT_GT(Grid(clerk, "DataGridInwards").Rows(), 60);
     });
 }
@@ -378,16 +371,16 @@ TEST_F(SearchCollectionsTest, TheCounterGoesByWhatWasFoundUntilItsShiftIsLeftAga
 {
     FromTheCounter<frmMilkCollections>(1, [this](Clerk& clerk) {
         Type(clerk, "{ENTER}{ESC}");
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMilkCollections"));
+        EXPECT_EQ(clerk.ScreenName(), "frmMilkCollections");
         EXPECT_EQ(Copy().size(), 2);
-        clerk.Press(QStringLiteral("txtLiters"));
-        clerk.Press(QStringLiteral("txtCollectionNo"));
+        clerk.Press("txtLiters");
+        clerk.Press("txtCollectionNo");
         Type(clerk, "99");
         Deliver(clerk, 2, "3", "8");
         EXPECT_TRUE(TheBox.Shown.isEmpty()) << "her first row isn't in the copy";
         EXPECT_EQ(Books().size(), 4);
         EXPECT_EQ(Label(clerk, "lblTotalBuffLiters"), "4.500");
-        clerk.Press(QStringLiteral("txtTime"));
+        clerk.Press("txtTime");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Copy(), Books());
         EXPECT_EQ(Label(clerk, "lblTotalBuffLiters"), "6.500");

@@ -12,21 +12,17 @@ protected:
     SearchCollectionsTest()
     {
         AddMorningDelivery(1);
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 2, 2, QStringLiteral("saIta"),
-            QStringLiteral("mhOsa"), 2, 8, 49, 98);
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 3, 1, QStringLiteral("rama"),
-            QStringLiteral("mhOsa"), 1.5, 8, 49, 73.5);
-        ScreenDirectory::Add(
-            QStringLiteral("frmSearchCollections"), [] { return std::make_unique<frmSearchCollections>(); });
+        AddDelivery("15/04/2026", "sakaL", 2, 2, "saIta", "mhOsa", 2, 8, 49, 98);
+        AddDelivery("15/04/2026", "sakaL", 3, 1, "rama", "mhOsa", 1.5, 8, 49, 73.5);
+        ScreenDirectory::Add("frmSearchCollections", [] { return std::make_unique<frmSearchCollections>(); });
     }
-    ~SearchCollectionsTest() override { ScreenDirectory::Add(QStringLiteral("frmSearchCollections"), {}); }
+    ~SearchCollectionsTest() override { ScreenDirectory::Add("frmSearchCollections", {}); }
 
     // A second member of the name of member 1, with a row of his own.
     void AddSecondRama()
     {
-        AddMember(4, QStringLiteral("rama"), QStringLiteral("gaaya"));
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), 5, 4, QStringLiteral("rama"),
-            QStringLiteral("gaaya"), 7, 4.5, 35, 245);
+        AddMember(4, "rama", "gaaya");
+        AddDelivery("15/04/2026", "sakaL", 5, 4, "rama", "gaaya", 7, 4.5, 35, 245);
     }
 
     // Goes on as soon as the timer of the opening has ticked.
@@ -61,7 +57,7 @@ protected:
     {
         On<Counter>([&](Clerk& clerk) {
             clerk.Type(QStringLiteral("{ENTER}1{ENTER}{ENTER}%1{F9}").arg(member));
-            ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmSearchCollections"));
+            ASSERT_EQ(clerk.ScreenName(), "frmSearchCollections");
             AwaitTick(clerk);
             script(clerk);
         });

@@ -9,8 +9,8 @@ class ShiftViewTest : public CounterTest {
 protected:
     void AddMilk(int number, const char* animal, double liters, double fat, int company = 1)
     {
-        AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("sakaL"), number, 3,
-            QStringLiteral("gaNaoSa"), QString::fromLatin1(animal), liters, fat, 35, liters * 35);
+        AddDelivery("15/04/2026", "sakaL", number, 3, "gaNaoSa", QString::fromLatin1(animal), liters, fat, 35,
+            liters * 35);
         Run(QStringLiteral("update MilkCollections set CompanyId=%1 where CollectionNo=%2")
                 .arg(company)
                 .arg(number));
@@ -42,8 +42,7 @@ TEST_F(ShiftViewTest, OpeningAShiftShowsItsRowsWithTheNewestOnTop)
     AddMorningDelivery(1);
     AddMorningDelivery(2);
     AddMilk(3, "mhOsa", 2.5, 7.25);
-    AddDelivery(QStringLiteral("15/04/2026"), QStringLiteral("saMQyaakaL"), 9, 2, QStringLiteral("saIta"),
-        QStringLiteral("mhOsa"), 2, 8, 49, 98);
+    AddDelivery("15/04/2026", "saMQyaakaL", 9, 2, "saIta", "mhOsa", 2, 8, 49, 98);
     InTheMorning([](Clerk& clerk) {
         ASSERT_EQ(Inwards(clerk).Rows(), 3);
         EXPECT_EQ(Line(Inwards(clerk), 0), "3|3|गणेश|म्हैस|2.500|7.25|35.00|87.50");
@@ -69,10 +68,10 @@ TEST_F(ShiftViewTest, TheListHasItsCaptionsAndWidthsAtBothCounters)
 TEST_F(ShiftViewTest, TheTotalsHaveTheirCaptionsAtBothCounters)
 {
     const auto expect = [](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblTotalLitersTitle").text(), Seen(QStringLiteral("¹ ekUNa ilaTsa- ¹")));
+        EXPECT_EQ(LabelOf(clerk, "lblTotalLitersTitle").text(), Seen("¹ ekUNa ilaTsa- ¹"));
         EXPECT_EQ(Label(clerk, "lblTotalLitersC"), "गाय");
         EXPECT_EQ(Label(clerk, "lblTotalLitersB"), "म्हैस");
-        EXPECT_EQ(LabelOf(clerk, "Label4").text(), Seen(QStringLiteral("¹ sarasarI f^T ¹")));
+        EXPECT_EQ(LabelOf(clerk, "Label4").text(), Seen("¹ sarasarI f^T ¹"));
     };
     InTheMorning(expect);
     AtTheGate(expect);
@@ -81,7 +80,7 @@ TEST_F(ShiftViewTest, TheTotalsHaveTheirCaptionsAtBothCounters)
 TEST_F(ShiftViewTest, AnAmountOfLakhsIsNotCutOff)
 {
     AddMorningDelivery(1);
-    Run(QStringLiteral("update MilkCollections set Liters=9999.999,Amount=1234567.89"));
+    Run("update MilkCollections set Liters=9999.999,Amount=1234567.89");
     const auto fits = [](Clerk& clerk) {
         const auto* view = static_cast<QTableView*>(Inwards(clerk).Widget());
         for (int column = 0; column < view->model()->columnCount(); ++column)
@@ -102,7 +101,7 @@ TEST_F(ShiftViewTest, ASaveAndADeletionShowAtOnce)
         EXPECT_EQ(Line(Inwards(clerk), 0), "1|1|राम|गाय|5.250|4.50|35.00|183.75");
         EXPECT_EQ(Totals(clerk), "5.250|0.000|4.5|0.0");
         Deliver(clerk, 2, "2", "8");
-        EXPECT_EQ(Inwards(clerk).Cell(0, 0), QStringLiteral("2"));
+        EXPECT_EQ(Inwards(clerk).Cell(0, 0), "2");
         EXPECT_EQ(Totals(clerk), "5.250|2.000|4.5|8.0");
         Type(clerk, "1{ENTER}{ENTER}4{ENTER}{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Totals(clerk), "4.000|2.000|4.5|8.0");
@@ -167,7 +166,7 @@ TEST_F(ShiftViewTest, TheListCannotBeEnteredWhileTheShiftIsChosen)
         EXPECT_FALSE(CanEnter(clerk, "DataGridInwards"));
         Type(clerk, "{ENTER}1{ENTER}");
         EXPECT_TRUE(CanEnter(clerk, "DataGridInwards"));
-        clerk.Press(QStringLiteral("maskDate"));
+        clerk.Press("maskDate");
         EXPECT_FALSE(CanEnter(clerk, "DataGridInwards"));
     });
 }

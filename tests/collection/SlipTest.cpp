@@ -39,7 +39,7 @@ TEST_P(SlipTest, EachOfTheEightTypesHasItsTemplate)
     InTheShift([&](Clerk& clerk) {
         for (int type = 1; type <= 8; ++type) {
             ChooseLayout(QString(u'T') + QChar(0x61) + QChar(0x161) + u'p' + u' ' + QString::number(type));
-            AddMember(100 + type, Sql(u"saBaasad", type), QStringLiteral("gaaya"));
+            AddMember(100 + type, Sql(u"saBaasad", type), "gaaya");
             Deliver(clerk, 100 + type, "2", "4.5");
         }
     });
@@ -52,10 +52,10 @@ TEST_P(SlipTest, EachOfTheEightTypesHasItsTemplate)
 
 TEST_P(SlipTest, AFirstSlipOfAnUnknownTypeIsToldAndTheCounterGoesOn)
 {
-    ChooseLayout(QStringLiteral("9"));
+    ChooseLayout("9");
     InTheShift([this](Clerk& clerk) {
         Deliver(clerk, 1, "2", "4.5");
-        EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही.")));
+        EXPECT_EQ(TheBox.Shown, QStringList("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही."));
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
         Deliver(clerk, 2, "2", "8");
     });
@@ -100,8 +100,8 @@ TEST_P(SlipTest, ASlipForTheScreenOpensTheReport)
     QStringList texts;
     for (const PlacedItem& item : Window.Shown.front()->PageAt(0).items)
         texts.append(item.text);
-    EXPECT_TRUE(texts.join(u' ').contains(Seen(QStringLiteral("rama")))) << texts.join(u'|').toStdString();
-    EXPECT_TRUE(texts.contains(QStringLiteral("70.00"))) << texts.join(u'|').toStdString();
+    EXPECT_TRUE(texts.join(u' ').contains(Seen("rama"))) << texts.join(u'|').toStdString();
+    EXPECT_TRUE(texts.contains("70.00")) << texts.join(u'|').toStdString();
     Window.Shown.clear();
 }
 

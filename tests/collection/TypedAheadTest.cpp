@@ -10,7 +10,7 @@ protected:
     TypedAheadTest()
     {
         for (const int number : {4, 6, 7})
-            AddMember(number, QStringLiteral("rama %1").arg(number), QStringLiteral("gaaya"));
+            AddMember(number, QStringLiteral("rama %1").arg(number), "gaaya");
         ShowBoxesInTheWindow(); // where one waits for a key
     }
 
@@ -32,8 +32,8 @@ TEST_F(TypedAheadTest, WhatWasTypedBehindADuplicateIsThrownAwayAndNoOthersRowIsT
         Deliver(clerk, 6, "6", "4.5");
         const QStringList before = Books();
         ASSERT_EQ(before.size(), 2);
-        clerk.TypeAhead(QStringLiteral("{ENTER}4{ENTER}5{ENTER}4.0{ENTER}{ENTER}{ENTER}"
-                                       "{ENTER}2{ENTER}7{ENTER}6.5{ENTER}{ENTER}{ENTER}"));
+        clerk.TypeAhead("{ENTER}4{ENTER}5{ENTER}4.0{ENTER}{ENTER}{ENTER}"
+                        "{ENTER}2{ENTER}7{ENTER}6.5{ENTER}{ENTER}{ENTER}");
         EXPECT_TRUE(IsBoxUp(clerk)) << "the refusal waits to be read";
         EXPECT_EQ(Books(), before);
         Type(clerk, "{ENTER}");
@@ -49,8 +49,8 @@ TEST_F(TypedAheadTest, WhatWasTypedBehindADuplicateIsThrownAwayAndNoOthersRowIsT
 TEST_F(TypedAheadTest, TheNoticeOfAnEmptyNameTakesNoneOfTheKeysBehindIt)
 {
     InTheMorning([](Clerk& clerk) {
-        clerk.TypeAhead(QStringLiteral("{ENTER}{ENTER}{ENTER}{ENTER}4{ENTER}5{ENTER}"));
-        EXPECT_EQ(clerk.Message(), QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra"));
+        clerk.TypeAhead("{ENTER}{ENTER}{ENTER}{ENTER}4{ENTER}5{ENTER}");
+        EXPECT_EQ(clerk.Message(), "maombarcao naaMva vyavaisqat Ta[-p kra");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboMemberName");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "");
@@ -71,8 +71,8 @@ TEST_F(TypedAheadTest, AShiftTypedInOneGoIsTakenKeyByKey)
         CloseBox(clerk);
         const QStringList books = Books();
         ASSERT_EQ(books.size(), 20);
-        EXPECT_EQ(books.first(), QStringLiteral("1|6|rama 6|gaaya|1|4.5|35|35"));
-        EXPECT_EQ(books.last(), QStringLiteral("20|4|rama 4|gaaya|20|4.5|35|700"));
+        EXPECT_EQ(books.first(), "1|6|rama 6|gaaya|1|4.5|35|35");
+        EXPECT_EQ(books.last(), "20|4|rama 4|gaaya|20|4.5|35|700");
         EXPECT_EQ(Focus(clerk), "txtCollectionNo");
     });
 }
@@ -80,8 +80,8 @@ TEST_F(TypedAheadTest, AShiftTypedInOneGoIsTakenKeyByKey)
 TEST_F(TypedAheadTest, WhatIsTypedAheadOfAnotherScreenReachesIt)
 {
     InTheMorning([](Clerk& clerk) {
-        clerk.TypeAhead(QStringLiteral("{ENTER}4{ENTER}{F12}abc"));
-        EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmKeyboardTutor"));
+        clerk.TypeAhead("{ENTER}4{ENTER}{F12}abc");
+        EXPECT_EQ(clerk.ScreenName(), "frmKeyboardTutor");
         EXPECT_EQ(Reads(clerk, "txtEnglish"), "abc");
         CloseBox(clerk);
     });

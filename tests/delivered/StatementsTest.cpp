@@ -32,7 +32,7 @@ std::string Number(double number)
 StatementsTest::StatementsTest() : SocietyName(Shivaji01::FromUnicode(Plan().name).toStdString())
 {
     CopySociety(m_folder.path(), Plan());
-    DataSource::Register(QStringLiteral("StatementsDSN"), m_folder.filePath(DatabaseFileName.toString()));
+    DataSource::Register("StatementsDSN", m_folder.filePath(DatabaseFileName.toString()));
     m_connection.Open(QStringLiteral("dsn=StatementsDSN;pwd=") + Plan().password);
 }
 

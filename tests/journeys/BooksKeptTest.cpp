@@ -20,10 +20,7 @@ class BooksKeptTest : public ProgramTest {
 protected:
     BooksKeptTest() { FillBooks(); }
 
-    void ShowSlips()
-    {
-        Run(QStringLiteral("update AutoSettings set PrintStatus='f@t sËIna',ReceiptType='Tašp 2'"));
-    }
+    void ShowSlips() { Run("update AutoSettings set PrintStatus='f@t sËIna',ReceiptType='Tašp 2'"); }
 
     const QString Books = QStringLiteral("Morvelta.mdb");
     const QString Log = QStringLiteral("Morvelta.mdb-wal");
@@ -64,8 +61,8 @@ protected:
 
     QStringList Deliveries()
     {
-        return Rows(QStringLiteral("select CollectionNo,MemberNo,Liters from MilkCollections where "
-                                   "CollectionTime='saMQyaakaL' order by CollectionNo"));
+        return Rows("select CollectionNo,MemberNo,Liters from MilkCollections where "
+                    "CollectionTime='saMQyaakaL' order by CollectionNo");
     }
 
     // A flipped bit in the index of the gate's list: nothing of the start reads it.
@@ -84,7 +81,7 @@ protected:
     void StartOther()
     {
         gCn.Close();
-        m_other = Processes::Start(QStringLiteral("other_process"), {Drives(), QStringLiteral("keys")});
+        m_other = Processes::Start("other_process", {Drives(), "keys"});
     }
 
     // Types there, and returns the screen that it has led to.
@@ -99,7 +96,7 @@ protected:
                 break;
         }
         const QString said = QString::fromUtf8(m_other->readLine()).trimmed();
-        EXPECT_TRUE(said.startsWith(QStringLiteral("screen "))) << said.toStdString();
+        EXPECT_TRUE(said.startsWith("screen ")) << said.toStdString();
         return said.mid(7);
     }
 
@@ -114,7 +111,7 @@ protected:
     QString AskShell(const QString& query) const
     {
         QProcess shell;
-        shell.start(QStringLiteral("sqlcipher"), {FolderFile(Books)});
+        shell.start("sqlcipher", {FolderFile(Books)});
         EXPECT_TRUE(shell.waitForStarted()) << "the package sqlcipher is needed";
         shell.write("pragma key='Doodh#26';\n" + query.toUtf8() + "\n.quit\n");
         EXPECT_TRUE(Processes::WaitForEnd(shell));
@@ -138,13 +135,12 @@ TEST_F(BooksKeptTest, ALookWithTheShellAfterASlipAndAKillLoseNothing)
 {
     ShowSlips();
     StartOther();
-    EXPECT_EQ(TypeThere(OpeningKeys() + ToTheEvening + Delivery("1", "6", "4.1")),
-        QStringLiteral("frmReportPreview"));
-    EXPECT_EQ(TypeThere(QStringLiteral("{ESC}")), QStringLiteral("frmMilkCollections"));
-    EXPECT_TRUE(AskShell(QStringLiteral("select count(*) from MilkCollections;")).endsWith(u'4'));
+    EXPECT_EQ(TypeThere(OpeningKeys() + ToTheEvening + Delivery("1", "6", "4.1")), "frmReportPreview");
+    EXPECT_EQ(TypeThere("{ESC}"), "frmMilkCollections");
+    EXPECT_TRUE(AskShell("select count(*) from MilkCollections;").endsWith(u'4'));
     for (const char* member : {"2", "3"}) {
         TypeThere(Delivery(member, member[0] == '2' ? "4" : "1{ENTER}5", "7.1"));
-        TypeThere(QStringLiteral("{ESC}"));
+        TypeThere("{ESC}");
     }
     KillOther();
     Reopen();
@@ -155,11 +151,11 @@ TEST_F(BooksKeptTest, ALookWithTheShellAfterASlipAndAKillLoseNothing)
 TEST_F(BooksKeptTest, ABackupPutOverTheBooksOfAKilledProgramIsWhatOpens)
 {
     gCn.Close();
-    const QString backup = FolderFile(QStringLiteral("Backup/kept.mdb"));
+    const QString backup = FolderFile("Backup/kept.mdb");
     ASSERT_TRUE(QFile::copy(FolderFile(Books), backup));
     StartOther();
     TypeThere(OpeningKeys() + ToTheEvening + Delivery("1", "6", "4.1"));
-    EXPECT_EQ(TypeThere(QStringLiteral("{ESC}")), QStringLiteral("MainMenuFrm"));
+    EXPECT_EQ(TypeThere("{ESC}"), "MainMenuFrm");
     TypeThere(QStringLiteral("{ENTER}{ENTER}2{ENTER}") + Delivery("2", "4", "7.1"));
     KillOther();
     ASSERT_GT(LogSize(), 0);
@@ -174,7 +170,7 @@ TEST_F(BooksKeptTest, ABackupPutOverTheBooksOfAKilledProgramIsWhatOpens)
 
 TEST_F(BooksKeptTest, TheEnginesLockStandsAfterEachSlipPreviewFileAndScreen)
 {
-    const QString folder = FolderFile(QStringLiteral("Saved"));
+    const QString folder = FolderFile("Saved");
     ASSERT_TRUE(QDir().mkdir(folder));
     ShowSlips();
     Start([&](Clerk& clerk) {
@@ -238,13 +234,12 @@ TEST_F(BooksKeptTest, TheEnginesLockStandsAfterEachReportThatIsShownPrintedAndSa
 TEST_F(BooksKeptTest, TheEnginesLockStandsAfterASlipThatGoesToThePrinterAtOnce)
 {
     gAppState.gAppDate = QDate(2026, 4, 15);
-    Run(QStringLiteral("update AutoSettings set PrintStatus='haoya',ReceiptType='Tašp 2'"));
+    Run("update AutoSettings set PrintStatus='haoya',ReceiptType='Tašp 2'");
     auto made = std::make_unique<FakePrinter>();
     const FakePrinter& printer = *made;
     const ReportHandover handover(std::move(made));
     const QString counter = QStringLiteral("frmMilkCollections");
-    PlayOn(TheClerk,
-        {counter, QStringLiteral("{ENTER}2{ENTER}"), [&] { ScreenDirectory::Open(counter, {}); }},
+    PlayOn(TheClerk, {counter, "{ENTER}2{ENTER}", [&] { ScreenDirectory::Open(counter, {}); }},
         [&](Clerk& clerk) {
             for (const std::size_t jobs : {1U, 2U}) {
                 clerk.Type(Delivery(jobs == 1 ? "1" : "2", "6", "4.1"));
@@ -283,7 +278,7 @@ TEST_F(BooksKeptTest, KeysThatRestFoldTheLogToo)
 TEST_F(BooksKeptTest, BooksReplacedUnderTheRunningProgramEndItWithAWordAndStayAsTheyAre)
 {
     gCn.Close();
-    const QString backup = FolderFile(QStringLiteral("Backup/kept.mdb"));
+    const QString backup = FolderFile("Backup/kept.mdb");
     ASSERT_TRUE(QFile::copy(FolderFile(Books), backup));
     const int exitCode = Start([&](Clerk& clerk) {
         clerk.Type(OpeningKeys() + ToTheEvening);
@@ -302,7 +297,7 @@ TEST_F(BooksKeptTest, BooksReplacedUnderTheRunningProgramEndItWithAWordAndStayAs
 TEST_F(BooksKeptTest, AfterAWeekThePagesAreReadAndDamageIsNamedWithTheNewestBackup)
 {
     gCn.Close();
-    ASSERT_TRUE(QFile::copy(FolderFile(Books), FolderFile(QStringLiteral("Backup/kept.mdb"))));
+    ASSERT_TRUE(QFile::copy(FolderFile(Books), FolderFile("Backup/kept.mdb")));
     DamageAPage();
     EXPECT_NO_THROW(Reopen());
     gCn.Close();
@@ -311,8 +306,8 @@ TEST_F(BooksKeptTest, AfterAWeekThePagesAreReadAndDamageIsNamedWithTheNewestBack
         Reopen();
         FAIL() << "it opened";
     } catch (const RunTimeError& error) {
-        EXPECT_TRUE(error.Happened().contains(QStringLiteral("is damaged in the tables"))) << error.what();
-        EXPECT_TRUE(error.Happened().contains(QStringLiteral("kept.mdb"))) << error.what();
+        EXPECT_TRUE(error.Happened().contains("is damaged in the tables")) << error.what();
+        EXPECT_TRUE(error.Happened().contains("kept.mdb")) << error.what();
     }
 }
 
@@ -320,7 +315,7 @@ TEST_F(BooksKeptTest, AfterAnEndThatLeftItsLockThePagesAreReadToo)
 {
     gCn.Close();
     DamageAPage();
-    QFile lock(FolderFile(QStringLiteral("Vetrolan.lock")));
+    QFile lock(FolderFile("Vetrolan.lock"));
     ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
     lock.close();
     EXPECT_EQ(Start([](Clerk& clerk) { EXPECT_EQ(OnTop(clerk), ""); }), 1);
@@ -331,7 +326,7 @@ TEST_F(BooksKeptTest, DamagedBooksAreRefusedAtEveryStart)
 {
     gCn.Close();
     DamageAPage();
-    QFile lock(FolderFile(QStringLiteral("Vetrolan.lock")));
+    QFile lock(FolderFile("Vetrolan.lock"));
     ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
     lock.close();
     for (int start = 1; start <= 3; ++start) {
@@ -346,28 +341,28 @@ TEST_F(BooksKeptTest, DamagedBooksAreRefusedAtEveryStart)
 TEST_F(BooksKeptTest, BooksWithoutAWordOfWhenTheyWereReadAreReadAtOnce)
 {
     gCn.Close();
-    ASSERT_TRUE(QFile::remove(FolderFile(QStringLiteral("Checked.txt"))));
+    ASSERT_TRUE(QFile::remove(FolderFile("Checked.txt")));
     DamageAPage();
     try {
         Reopen();
         FAIL() << "it opened";
     } catch (const RunTimeError& error) {
-        EXPECT_TRUE(error.Happened().contains(QStringLiteral("is damaged in the tables"))) << error.what();
+        EXPECT_TRUE(error.Happened().contains("is damaged in the tables")) << error.what();
     }
 }
 
 TEST_F(BooksKeptTest, SoundBooksAreReadOnceAWeek)
 {
-    const QString checked = FolderFile(QStringLiteral("Checked.txt"));
+    const QString checked = FolderFile("Checked.txt");
     const auto day = [&] {
         QFile file(checked);
         return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
     };
-    EXPECT_EQ(day(), QStringLiteral("2026-04-15")) << "the day on which the books were made";
+    EXPECT_EQ(day(), "2026-04-15") << "the day on which the books were made";
     TheClock.Time = TheClock.Time.addDays(6);
     Reopen();
-    EXPECT_EQ(day(), QStringLiteral("2026-04-15"));
+    EXPECT_EQ(day(), "2026-04-15");
     TheClock.Time = TheClock.Time.addDays(1);
     Reopen();
-    EXPECT_EQ(day(), QStringLiteral("2026-04-22"));
+    EXPECT_EQ(day(), "2026-04-22");
 }

@@ -26,7 +26,7 @@ protected:
 
     void OnTheDate(const std::function<void(Clerk&)>& script) { On<frmMilkCollections>(script); }
 
-    QStringList Books() { return Rows(QStringLiteral("select * from MilkCollections")); }
+    QStringList Books() { return Rows("select * from MilkCollections"); }
 
     // Types all kinds of letters and signs into the field in focus, and expects it to stay as it is.
     static void ExpectLettersDropped(Clerk& clerk, const char* field)
@@ -49,7 +49,7 @@ protected:
                 EXPECT_EQ(Focus(clerk), "maskDate") << way;
                 EXPECT_EQ(Reads(clerk, "maskDate"), shown);
             }
-            EXPECT_FALSE(clerk.CanEnter(QStringLiteral("txtCollectionNo")));
+            EXPECT_FALSE(clerk.CanEnter("txtCollectionNo"));
         });
         EXPECT_FALSE(Failure);
         EXPECT_EQ(Books(), before);
@@ -237,7 +237,7 @@ TEST_F(CounterHostileTest, AnApostropheInANameIsDroppedAndAThousandLettersFindNo
         Type(clerk, "{ENTER}{ENTER}ra'm'1a");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "rama");
         clerk.Type(QString(1000, u'k'));
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")).size(), 1004);
+        EXPECT_EQ(clerk.Reads("ComboMemberName").size(), 1004);
         Type(clerk, "{ENTER}{ENTER}");
         EXPECT_EQ(OnTop(clerk), "frmMilkCollections");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "");

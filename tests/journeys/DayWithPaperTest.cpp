@@ -13,9 +13,9 @@ class DayWithPaperTest : public ProgramTest {
 protected:
     DayWithPaperTest()
     {
-        InsertMember(1, QStringLiteral("rama"), QStringLiteral("gaaya"));
-        InsertMember(2, QStringLiteral("saIta"), QStringLiteral("mhOsa"));
-        InsertMember(3, QStringLiteral("gaNaoSa"), QStringLiteral("daonhI"));
+        InsertMember(1, "rama", "gaaya");
+        InsertMember(2, "saIta", "mhOsa");
+        InsertMember(3, "gaNaoSa", "daonhI");
     }
 
     // The paper on the screen is of one page, holds the text so many times, and goes with Esc.
@@ -32,17 +32,15 @@ protected:
 
     QStringList Slip()
     {
-        return Rows(
-            QStringLiteral("select CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,Animal,"
-                           "Liters,Fat,Rate,Amount,ActualCollectionTime from MilkReceipt"));
+        return Rows("select CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,Animal,"
+                    "Liters,Fat,Rate,Amount,ActualCollectionTime from MilkReceipt");
     }
 
     QStringList Deliveries()
     {
-        return Rows(
-            QStringLiteral("select CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,Animal,"
-                           "Liters,Fat,Rate,Amount,ActualCollectionTime from MilkCollections "
-                           "order by CollectionDate,CollectionTime,CollectionNo"));
+        return Rows("select CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,Animal,"
+                    "Liters,Fat,Rate,Amount,ActualCollectionTime from MilkCollections "
+                    "order by CollectionDate,CollectionTime,CollectionNo");
     }
 
     // Slips on the screen, of the second layout, and a delivery goes onto the balance.
@@ -52,12 +50,11 @@ protected:
         ASSERT_EQ(OnTop(clerk), "frmAutoSettings");
         Type(clerk, "{ENTER}{ENTER}2{ENTER}45{ENTER}46{ENTER}2{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboPaymentDuration");
-        clerk.Press(QStringLiteral("CheckCNP"));
+        clerk.Press("CheckCNP");
         Type(clerk, "%s");
         EXPECT_EQ(
-            Rows(QStringLiteral(
-                "select PrintStatus,CanLimitCow,CanLimitBuff,ReceiptType,PurchaseEntry from AutoSettings")),
-            QStringList(QStringLiteral("f@t sËIna|45.000|46.000|Tašp 2|Collection")));
+            Rows("select PrintStatus,CanLimitCow,CanLimitBuff,ReceiptType,PurchaseEntry from AutoSettings"),
+            QStringList("f@t sËIna|45.000|46.000|Tašp 2|Collection"));
         Type(clerk, "%b");
         EXPECT_EQ(OnTop(clerk), "MainMenuFrm");
     }
@@ -101,7 +98,7 @@ protected:
     // The slip of the second delivery once more, from its row at the counter.
     void PrintAgain(Clerk& clerk)
     {
-        clerk.Press(QStringLiteral("txtMemberNo"));
+        clerk.Press("txtMemberNo");
         Type(clerk, "2{F9}");
         ASSERT_EQ(OnTop(clerk), "frmSearchCollections");
         const QDeadlineTimer limit(10000);
@@ -130,7 +127,7 @@ protected:
     {
         while (clerk.ScreenName() == u"MainMenuFrm")
             Type(clerk, "{ESC}");
-        EXPECT_EQ(clerk.Message(), QStringLiteral("saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ"));
+        EXPECT_EQ(clerk.Message(), "saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ");
         Type(clerk, "%h");
         EXPECT_EQ(OnTop(clerk), "");
     }
@@ -178,16 +175,12 @@ protected:
         const QStringList one = Lines({"15/04/2026|sakaL|1|1|rama|gaaya|12.5|4.2|34.64|433|6.05"});
         EXPECT_EQ(Deliveries(), one);
         EXPECT_EQ(Slip(), one);
-        EXPECT_EQ(
-            Rows(QStringLiteral("select ClosingBalance,CowClosingLits from MembersMaster where MemberNo=1")),
+        EXPECT_EQ(Rows("select ClosingBalance,CowClosingLits from MembersMaster where MemberNo=1"),
             Lines({"433|12.5"}));
         EXPECT_EQ(Integrity(), "ok");
     }
 
-    void ShowSlips()
-    {
-        Run(QStringLiteral("update AutoSettings set PrintStatus='f@t sËIna',PurchaseEntry='Collection'"));
-    }
+    void ShowSlips() { Run("update AutoSettings set PrintStatus='f@t sËIna',PurchaseEntry='Collection'"); }
 };
 
 }
@@ -210,12 +203,12 @@ TEST_F(DayWithPaperTest, ADayWithSlipsAReprintAStatementAndAListIsInTheBooks)
         "15/04/2026|sakaL|2|2|saIta|mhOsa|8.25|7.1|47.65|393.11|6.05",
         "15/04/2026|sakaL|3|3|gaNaoSa|gaaya|4|4.3|34.76|139.04|6.05"});
     EXPECT_EQ(Deliveries(), day);
-    EXPECT_EQ(Rows(QStringLiteral("select CollectionNo,MemberNo,Amount from MilkCollectionsTemp order by "
-                                  "CollectionNo")),
+    EXPECT_EQ(Rows("select CollectionNo,MemberNo,Amount from MilkCollectionsTemp order by "
+                   "CollectionNo"),
         Lines({"1|1|433", "2|2|393.11", "3|3|139.04"}))
         << "the list has staged the day";
-    EXPECT_EQ(Rows(QStringLiteral("select MemberNo,ClosingBalance,ClosingDorC,CowClosingLits,BuffClosingLits "
-                                  "from MembersMaster order by MemberNo")),
+    EXPECT_EQ(Rows("select MemberNo,ClosingBalance,ClosingDorC,CowClosingLits,BuffClosingLits "
+                   "from MembersMaster order by MemberNo"),
         Lines({"1|433|C|12.5|0", "2|393.11|C|0|8.25", "3|139.04|C|4|0"}));
     EXPECT_EQ(Integrity(), "ok");
 }

@@ -12,7 +12,7 @@ void DeliveredProgram::SetUp()
 {
     gCn.Close();
     // The delivered program finds its drives below the user's data.
-    const QString drives = m_data.filePath(QStringLiteral("vetrolan"));
+    const QString drives = m_data.filePath("vetrolan");
     ASSERT_TRUE(QDir().rename(Drives(), drives));
     SetDrivesRoot(drives);
 }
@@ -20,9 +20,9 @@ void DeliveredProgram::SetUp()
 std::unique_ptr<QProcess> DeliveredProgram::StartTheProgram()
 {
     QFileSystemWatcher watcher({LocalPath(AppFolder)});
-    auto program = Processes::Start(QStringLiteral("vetrolan"), {}, Environment());
+    auto program = Processes::Start("vetrolan", {}, Environment());
     QEventLoop waiting;
-    const auto isReady = [this] { return QFile::exists(FolderFile(QStringLiteral("Morvelta.mdb-shm"))); };
+    const auto isReady = [this] { return QFile::exists(FolderFile("Morvelta.mdb-shm")); };
     QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &waiting, [&] {
         if (isReady())
             waiting.quit();

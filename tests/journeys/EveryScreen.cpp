@@ -56,18 +56,16 @@ std::vector<ScreenState> All()
         Alone<frmAppDate>("frmAppDate", "15042026{ENTER}"),
         Alone<frmKeyboardTutor>("frmKeyboardTutor"),
         Alone<MainMenuFrm>("MainMenuFrm", "{ENTER}{ENTER}{ENTER}"),
-        {QStringLiteral("frmNarrations"), {},
+        {"frmNarrations", {},
             [] {
                 frmNarrations prompt(Plain(u"नाव"));
                 prompt.ShowModal();
             }},
-        {QStringLiteral("frmPlainBox"), {},
-            [] { PlainBoxCards().Show(QStringLiteral("Administrator LogIn Required")); }},
-        {QStringLiteral("frmPlainBox"), {},
+        {"frmPlainBox", {}, [] { PlainBoxCards().Show("Administrator LogIn Required"); }},
+        {"frmPlainBox", {},
             [] { PlainBoxCards().Show(QStringLiteral("insert into MilkCollections ").repeated(400)); }},
-        {QStringLiteral("frmInputBox"), {},
-            [] { InputBoxCards().Ask(QStringLiteral("Enter Folder Name"), QStringLiteral("Backup")); }},
-        {QStringLiteral("frmMessages"), {}, [] { Ask(Shivaji(u"roka^D- na@kI badlaayacao ka Æ")); }},
+        {"frmInputBox", {}, [] { InputBoxCards().Ask("Enter Folder Name", "Backup"); }},
+        {"frmMessages", {}, [] { Ask(Shivaji(u"roka^D- na@kI badlaayacao ka Æ")); }},
         ByName("frmMembers", ""),
         ByName("frmMembers", "%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}2{ENTER}"),
         ByName("frmMembers", "%d3{ENTER}"),

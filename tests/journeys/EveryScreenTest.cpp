@@ -35,8 +35,7 @@ protected:
     }
 
 private:
-    ReportHandover m_handover{
-        std::make_unique<FakePrinter>(QStringList{QStringLiteral("Office"), QStringLiteral("Store")})};
+    ReportHandover m_handover{std::make_unique<FakePrinter>(QStringList{"Office", "Store"})};
 };
 
 std::string NameOf(const ::testing::TestParamInfo<ScreenState>& info)
@@ -115,10 +114,9 @@ TEST_P(EveryScreenTest, ItsKeysAreNamedInTheListOrInTheGuide)
             if (!mnemonic.isNull() && control->CanTakeFocus())
                 expect(QStringLiteral("Alt+") + mnemonic);
             if (dynamic_cast<const NameCombo*>(control)) {
-                expect(QStringLiteral("↓"));
+                expect("↓");
                 for (const char* key : {"Enter Tab", "Esc", "Alt+↓ Alt+↑"})
-                    EXPECT_FALSE(
-                        Keys::Action(QStringLiteral("NameCombo.list"), QString::fromUtf8(key)).IsEmpty())
+                    EXPECT_FALSE(Keys::Action("NameCombo.list", QString::fromUtf8(key)).IsEmpty())
                         << key << " at " << control->Name().toStdString();
             }
             if (dynamic_cast<const ChoiceField*>(control)) {
@@ -126,7 +124,7 @@ TEST_P(EveryScreenTest, ItsKeysAreNamedInTheListOrInTheGuide)
                     << "1 at " << control->Name().toStdString();
             }
             if (dynamic_cast<const CheckBox*>(control))
-                expect(QStringLiteral("Space"));
+                expect("Space");
         }
     });
 }

@@ -62,8 +62,7 @@ protected:
     void ExpectSoundBooks()
     {
         EXPECT_EQ(Integrity(), "ok");
-        for (Recordset row(gCn, QStringLiteral("select * from MilkCollections")); !row.Eof();
-             row.MoveNext()) {
+        for (Recordset row(gCn, "select * from MilkCollections"); !row.Eof(); row.MoveNext()) {
             const double liters = row[u"Liters"].Number();
             const double rate = row[u"Rate"].Number();
             EXPECT_EQ(Val(Format(liters * rate, u"#########0.00")), row[u"Amount"].Number())
@@ -75,7 +74,7 @@ protected:
         }
     }
 
-    int Deliveries() { return One(QStringLiteral("select count(*) from MilkCollections")).toInt(); }
+    int Deliveries() { return One("select count(*) from MilkCollections").toInt(); }
 
     std::mt19937 m_dice{20260415};
 };
@@ -135,7 +134,7 @@ TEST_F(MashedKeysTest, TheCounterMashedAloneKeepsEveryAmountRight)
 {
     constexpr int Keys = 6000;
     Reopen();
-    Run(QStringLiteral("update AutoSettings set RepeatCollection='haoya'"));
+    Run("update AutoSettings set RepeatCollection='haoya'");
     int typed = 0;
     while (typed < Keys) {
         Start([&](Clerk& clerk) {

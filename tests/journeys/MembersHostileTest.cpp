@@ -42,7 +42,7 @@ protected:
             EXPECT_EQ(Focus(clerk), "cmdNew");
         });
         EXPECT_FALSE(Failure);
-        return One(QStringLiteral("select MemberName from MembersMaster where MemberNo=4"));
+        return One("select MemberName from MembersMaster where MemberNo=4");
     }
 
     // From the main menu: a new member with an apostrophe, up to the save.
@@ -63,7 +63,7 @@ TEST_F(MembersHostileTest, AThousandLettersOfANameAreSavedAndReadBackWhole)
     EXPECT_EQ(Saved(name), name);
     On<frmMembers>([&](Clerk& clerk) {
         Type(clerk, "%d4{ENTER}");
-        EXPECT_EQ(clerk.Reads(QStringLiteral("ComboMemberName")), name);
+        EXPECT_EQ(clerk.Reads("ComboMemberName"), name);
     });
     EXPECT_FALSE(Failure);
 }
@@ -76,14 +76,14 @@ TEST_F(MembersHostileTest, AThousandLettersOfAnAddressAreSavedWhole)
         EXPECT_EQ(Focus(clerk), "cmdNew");
     });
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(One(QStringLiteral("select Address from MembersMaster where MemberNo=4")), address);
+    EXPECT_EQ(One("select Address from MembersMaster where MemberNo=4"), address);
 }
 
 TEST_F(MembersHostileTest, LettersAreDroppedInEveryNumberField)
 {
     OnANewMember([](Clerk& clerk) {
         ExpectLettersDropped(clerk, "txtMemberNo");
-        Fill(clerk, QStringLiteral("gaIta"));
+        Fill(clerk, "gaIta");
         ExpectLettersDropped(clerk, NumberFields[0]);
         Type(clerk, "{ENTER}{ENTER}");
         for (std::size_t at = 1; at < std::size(NumberFields); ++at) {
@@ -99,7 +99,7 @@ TEST_F(MembersHostileTest, AMemberPast32767IsSavedAndTheNextOneOverflows)
 {
     OnANewMember([](Clerk& clerk) {
         Type(clerk, "32768");
-        Fill(clerk, QStringLiteral("gaIta"));
+        Fill(clerk, "gaIta");
         Type(clerk, "%s");
         EXPECT_EQ(Focus(clerk), "cmdNew");
         Type(clerk, "{ENTER}");
@@ -107,15 +107,14 @@ TEST_F(MembersHostileTest, AMemberPast32767IsSavedAndTheNextOneOverflows)
     });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), RunTimeError::Overflow);
-    EXPECT_EQ(One(QStringLiteral("select MemberName from MembersMaster where MemberNo=32768")),
-        QStringLiteral("gaIta"));
+    EXPECT_EQ(One("select MemberName from MembersMaster where MemberNo=32768"), "gaIta");
 }
 
 TEST_F(MembersHostileTest, AMemberOfEightDigitsIsSavedUnderThem)
 {
     OnANewMember([](Clerk& clerk) {
         Type(clerk, "99999999");
-        Fill(clerk, QStringLiteral("gaIta"));
+        Fill(clerk, "gaIta");
         Type(clerk, "%s%d99999999{ENTER}");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "gaIta");
     });
@@ -142,7 +141,7 @@ TEST_F(MembersHostileTest, FourHundredDigitsInANumberFieldAreAnOverflowAndNothin
     for (int field = -1; field < static_cast<int>(std::size(NumberFields)); ++field) {
         OnANewMember([&](Clerk& clerk) {
             if (field >= 0)
-                Fill(clerk, QStringLiteral("gaIta"));
+                Fill(clerk, "gaIta");
             for (int at = field > 0 ? -1 : 0; at < field; ++at)
                 Type(clerk, "{ENTER}");
             EXPECT_EQ(Focus(clerk), field < 0 ? "txtMemberNo" : NumberFields[field]);

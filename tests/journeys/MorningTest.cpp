@@ -5,7 +5,7 @@ namespace {
 class MorningTest : public ProgramTest {
 protected:
     // A delivery is put on the member's balance at once.
-    MorningTest() { Run(QStringLiteral("update AutoSettings set PurchaseEntry='Collection'")); }
+    MorningTest() { Run("update AutoSettings set PurchaseEntry='Collection'"); }
 
     // From the number through the line and back to it; a member of one animal.
     static void Deliver(Clerk& clerk, const char* member, const char* liters, const char* fat)
@@ -124,7 +124,7 @@ protected:
     static void Leave(Clerk& clerk)
     {
         Type(clerk, "{ESC}{ESC}{ESC}");
-        EXPECT_EQ(clerk.Message(), QStringLiteral("saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ"));
+        EXPECT_EQ(clerk.Message(), "saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ");
         Type(clerk, "%h");
         EXPECT_EQ(OnTop(clerk), "");
     }
@@ -152,9 +152,9 @@ protected:
 
     QStringList Members()
     {
-        return Rows(QStringLiteral("select MemberNo,MemberName,Animal,PaymentType,OpeningBalance,OpeningDorC,"
-                                   "ClosingBalance,ClosingDorC,CowClosingLits,BuffClosingLits "
-                                   "from MembersMaster order by MemberNo"));
+        return Rows("select MemberNo,MemberName,Animal,PaymentType,OpeningBalance,OpeningDorC,"
+                    "ClosingBalance,ClosingDorC,CowClosingLits,BuffClosingLits "
+                    "from MembersMaster order by MemberNo");
     }
 };
 
@@ -203,5 +203,5 @@ TEST_F(MorningTest, TheNextStartProposesTheLastDayAndGoesOnWithTheSeries)
     EXPECT_EQ(Deliveries("MilkCollectionsTemp"),
         Lines({"15/04/2026|saMQyaakaL|1|1|rama|gaaya|11|4.4|34.88|383.68|6.20",
             "15/04/2026|saMQyaakaL|2|2|saIta|mhOsa|2|7.1|47.65|95.3|6.20"}));
-    EXPECT_EQ(Members().value(1), QStringLiteral("2|saIta|mhOsa|raoK|0|C|631.36|C|0|13.25"));
+    EXPECT_EQ(Members().value(1), "2|saIta|mhOsa|raoK|0|C|631.36|C|0|13.25");
 }

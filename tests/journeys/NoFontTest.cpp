@@ -12,13 +12,13 @@ protected:
     QString StartWithFonts(const QByteArray& folders)
     {
         gCn.Close();
-        QFile file(m_fonts.filePath(QStringLiteral("fonts.conf")));
+        QFile file(m_fonts.filePath("fonts.conf"));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         file.write("<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM \"fonts.dtd\"><fontconfig>" + folders
             + "<cachedir>" + m_fonts.path().toUtf8() + "</cachedir></fontconfig>");
         file.close();
-        const auto program = Processes::Start(QStringLiteral("other_process"), {Drives()},
-            {QStringLiteral("FONTCONFIG_FILE=") + file.fileName()});
+        const auto program = Processes::Start(
+            "other_process", {Drives()}, {QStringLiteral("FONTCONFIG_FILE=") + file.fileName()});
         EXPECT_TRUE(Processes::WaitForEnd(*program));
         EXPECT_EQ(program->exitStatus(), QProcess::NormalExit)
             << program->readAllStandardError().toStdString();
@@ -35,13 +35,12 @@ private:
 TEST_F(NoFontTest, WithoutADevanagariFontTheProgramSaysSoAtTheStartAndGoesOn)
 {
     const QString said = StartWithFonts({});
-    EXPECT_TRUE(said.startsWith(QStringLiteral("box No Devanagari font was found"))) << said.toStdString();
-    EXPECT_TRUE(said.contains(QStringLiteral("Noto Sans Devanagari or Lohit Devanagari")))
-        << said.toStdString();
-    EXPECT_TRUE(said.trimmed().endsWith(QStringLiteral("screen frmAbout"))) << said.toStdString();
+    EXPECT_TRUE(said.startsWith("box No Devanagari font was found")) << said.toStdString();
+    EXPECT_TRUE(said.contains("Noto Sans Devanagari or Lohit Devanagari")) << said.toStdString();
+    EXPECT_TRUE(said.trimmed().endsWith("screen frmAbout")) << said.toStdString();
 }
 
 TEST_F(NoFontTest, WithOneTheStartIsQuiet)
 {
-    EXPECT_EQ(StartWithFonts("<dir>/usr/share/fonts</dir>").trimmed(), QStringLiteral("screen frmAbout"));
+    EXPECT_EQ(StartWithFonts("<dir>/usr/share/fonts</dir>").trimmed(), "screen frmAbout");
 }

@@ -100,8 +100,7 @@ protected:
     // Lets another process play the action and die at its n-th write.
     void PlayAndDie(int n)
     {
-        const auto other = Processes::Start(
-            QStringLiteral("other_process"), {Drives(), GetParam().name, QString::number(n)});
+        const auto other = Processes::Start("other_process", {Drives(), GetParam().name, QString::number(n)});
         ASSERT_TRUE(Processes::WaitForEnd(*other));
         EXPECT_EQ(other->exitStatus(), QProcess::CrashExit)
             << other->readAllStandardOutput().toStdString() << other->readAllStandardError().toStdString();
@@ -140,14 +139,14 @@ TEST_P(PowerCutTest, NeverIsItSaidThatNothingWasSavedOfWhatIsInTheBooks)
         Renew();
         const QString told = PlayOnUnreadableDisk(n);
         Reopen();
-        if (!IsWhole() || !told.contains(QStringLiteral("3146")))
+        if (!IsWhole() || !told.contains("3146"))
             continue;
         ++failedBehindTheSaving;
-        EXPECT_FALSE(told.contains(QStringLiteral("nothing was saved"))) << told.toStdString();
-        EXPECT_FALSE(told.contains(QStringLiteral("काहीही जतन झाले नाही"))) << told.toStdString();
-        EXPECT_TRUE(told.contains(QStringLiteral("शेवटची नोंद"))) << told.toStdString();
+        EXPECT_FALSE(told.contains("nothing was saved")) << told.toStdString();
+        EXPECT_FALSE(told.contains("काहीही जतन झाले नाही")) << told.toStdString();
+        EXPECT_TRUE(told.contains("शेवटची नोंद")) << told.toStdString();
     }
-    if (GetParam().name.contains(QStringLiteral("Delivery"))) {
+    if (GetParam().name.contains("Delivery")) {
         EXPECT_GT(failedBehindTheSaving, 0) << "the list is read behind each saving";
     }
 }

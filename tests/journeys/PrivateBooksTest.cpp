@@ -67,8 +67,8 @@ TEST_F(PrivateBooksTest, TheProgramLeavesNoCoreAndNewFilesAreItsOwnersAlone)
     const QString process = QStringLiteral("/proc/%1/").arg(program->processId());
     QFile limits(process + QStringLiteral("limits"));
     ASSERT_TRUE(limits.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(QString::fromLatin1(limits.readAll())
-                    .contains(QRegularExpression(QStringLiteral("Max core file size +0 +0 "))));
+    EXPECT_TRUE(
+        QString::fromLatin1(limits.readAll()).contains(QRegularExpression("Max core file size +0 +0 ")));
     QFile status(process + QStringLiteral("status"));
     ASSERT_TRUE(status.open(QIODevice::ReadOnly));
     EXPECT_TRUE(status.readAll().contains("Umask:\t0077\n"));

@@ -8,7 +8,7 @@ std::unique_ptr<QProcess> Processes::Start(
 {
     auto process = std::make_unique<QProcess>();
     QStringList all = QProcess::systemEnvironment();
-    all.append(QStringLiteral("QT_QPA_PLATFORM=offscreen"));
+    all.append("QT_QPA_PLATFORM=offscreen");
     process->setEnvironment(all + environment);
     process->start(QDir(QCoreApplication::applicationDirPath()).filePath(program), arguments);
     process->waitForStarted();

@@ -100,7 +100,7 @@ void LookForCutEntries(const QWidget& widget, Faults& faults)
 {
     const auto* list = qobject_cast<const QAbstractItemView*>(&widget);
     if (list && list->model() && list->sizeHintForColumn(0) > list->viewport()->width())
-        faults.Add(widget, QStringLiteral("its entries are cut off at the right"));
+        faults.Add(widget, "its entries are cut off at the right");
 }
 
 // A long name may end in an ellipsis; a figure that did would be another figure.
@@ -109,7 +109,7 @@ void LookForCutCells(const QTableView& table, Faults& faults)
     const QAbstractItemModel& model = *table.model();
     const QHeaderView& header = *table.horizontalHeader();
     if (header.length() > table.viewport()->width())
-        faults.Add(table, QStringLiteral("its columns are cut off at the right"));
+        faults.Add(table, "its columns are cut off at the right");
     for (int column = 0; column < model.columnCount(); ++column) {
         const int width = table.columnWidth(column);
         const QString head = model.headerData(column, Qt::Horizontal).toString();
@@ -157,7 +157,7 @@ void LookBelow(const QWidget& parent, Faults& faults)
     const std::vector<QWidget*> children = VisibleChildren(parent);
     for (const QWidget* child : children) {
         if (!parent.rect().contains(child->geometry()))
-            faults.Add(*child, QStringLiteral("hangs over the edge of what it lies in"));
+            faults.Add(*child, "hangs over the edge of what it lies in");
         for (const QWidget* other : children)
             if (other < child && !IsDropList(*child) && !IsDropList(*other)
                 && child->geometry().intersects(other->geometry()))
@@ -195,16 +195,16 @@ std::string UnreadableOn(const Screen& screen)
     if (least.width() > most.width() || least.height() > most.height())
         faults.Add(screen, QStringLiteral("is %1 x %2").arg(least.width()).arg(least.height()));
     if (!screen.isVisible())
-        faults.Add(screen, QStringLiteral("can't be seen"));
+        faults.Add(screen, "can't be seen");
     if (screen.Title().Seen().trimmed().isEmpty() || screen.windowTitle().isEmpty())
-        faults.Add(screen, QStringLiteral("has no title"));
+        faults.Add(screen, "has no title");
     for (const Control* control : screen.Controls()) {
         const QWidget& widget = *control->Widget();
         if (!qobject_cast<const QPushButton*>(&widget) && widget.accessibleName().trimmed().isEmpty())
-            faults.Add(widget, QStringLiteral("has no name for a screen reader"));
+            faults.Add(widget, "has no name for a screen reader");
         if (const auto* button = qobject_cast<const QPushButton*>(&widget);
             button && button->text().trimmed().isEmpty())
-            faults.Add(widget, QStringLiteral("has no caption"));
+            faults.Add(widget, "has no caption");
     }
     LookBelow(screen, faults);
     return faults.Text();

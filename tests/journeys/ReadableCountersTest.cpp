@@ -92,13 +92,13 @@ TEST_F(ReadableTest, TheGateWithTheSearchOnAndEachOrder)
 {
     On<frmCollectionGate>([](Clerk& clerk) {
         Type(clerk, "14042026{ENTER}1{ENTER}");
-        clerk.Press(QStringLiteral("chkSerachMode"));
+        clerk.Press("chkSerachMode");
         ExpectReadable(clerk, "searching");
         for (const char* button : {"cmdLtrOrder", "cmdFatOrder", "cmdRateOrder", "cmdAmtOrder"}) {
             clerk.Press(QString::fromLatin1(button));
             ExpectReadable(clerk, std::string("sorted by ") + button);
         }
-        clerk.Press(QStringLiteral("txtMemberNo"));
+        clerk.Press("txtMemberNo");
         TypeAndLook(clerk, {"3", "7"});
         EXPECT_EQ(RowsOf(clerk, "DataGridInwards"), 0);
     });

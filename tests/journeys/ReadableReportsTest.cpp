@@ -13,11 +13,8 @@ namespace {
 // Two printers that take nothing.
 class TwoPrinters final : public Printer {
 public:
-    QStringList Names() override
-    {
-        return {QStringLiteral("Epson_LX-300_Office"), QStringLiteral("HP_LaserJet_Professional_P1108")};
-    }
-    Outcome Print(const PrintJob&) override { return {QStringLiteral("प्रिंटरने काम घेतले नाही.")}; }
+    QStringList Names() override { return {"Epson_LX-300_Office", "HP_LaserJet_Professional_P1108"}; }
+    Outcome Print(const PrintJob&) override { return {"प्रिंटरने काम घेतले नाही."}; }
 };
 
 // The screens with reports that can be looked at.
@@ -54,8 +51,8 @@ private:
 
 TEST_F(ReadableReportsTest, TheSettingsAtEachFieldOfEachTab)
 {
-    Run(QStringLiteral("update AutoSettings set CanLimitCow='999999.999',CanLimitBuff='999999.999',"
-                       "SalesRateCow='99999.99',ThevKapatCow=99999.99,ThevKapatBuff=99999.99"));
+    Run("update AutoSettings set CanLimitCow='999999.999',CanLimitBuff='999999.999',"
+        "SalesRateCow='99999.99',ThevKapatCow=99999.99,ThevKapatBuff=99999.99");
     On<frmAutoSettings>([](Clerk& clerk) {
         TabAndLook(clerk);
         for (const char* turn : {"once", "twice", "thrice"}) {

@@ -97,13 +97,12 @@ private:
     NumberField txtBeyond{this, "txtBeyond", NumberField::Digits::Whole};
     CheckBox chkCut{this, "chkCut", Plain(u"far too long for so little room")};
     DataGrid grdCut{this, "grdCut",
-        {{QStringLiteral("Amount"), Plain(u"unbrokenhead"), 30, QStringLiteral("#######0.00"), true},
-            {QStringLiteral("AdvanceType"), Plain(u"b"), 0}}};
+        {{"Amount", Plain(u"unbrokenhead"), 30, "#######0.00", true}, {"AdvanceType", Plain(u"b"), 0}}};
 
     void Load() override
     {
-        gCn.Execute(QStringLiteral("insert into AdvanceTemp(AdvanceType,Amount) values('a',1234567.89)"));
-        grdCut.Bind(gCn, QStringLiteral("select * from AdvanceTemp"));
+        gCn.Execute("insert into AdvanceTemp(AdvanceType,Amount) values('a',1234567.89)");
+        grdCut.Bind(gCn, "select * from AdvanceTemp");
     }
 };
 
@@ -127,8 +126,7 @@ TEST_F(ReadableTest, WhatCantBeReadIsFound)
 TEST_F(ReadableTest, TheLettersHaveTheSizeThatThisRunIsFor)
 {
     Start([](Clerk& clerk) {
-        EXPECT_EQ(clerk.Top().devicePixelRatioF(),
-            qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble());
+        EXPECT_EQ(clerk.Top().devicePixelRatioF(), qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble());
         Type(clerk, "%x");
     });
 }
@@ -192,7 +190,7 @@ TEST_F(ReadableTest, TheMessagesWithTheLongestTexts)
 {
     const QString longest =
         QStringLiteral("maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ");
-    for (const QString& text : {longest, QString(longest + u' ' + longest), QStringLiteral("idnaaMk")}) {
+    for (const QString& text : QStringList{longest, QString(longest + u' ' + longest), "idnaaMk"}) {
         for (const auto mode : {frmMessages::Mode::Notice, frmMessages::Mode::Question}) {
             Failure = TheClerk.Play(
                 [&] {
@@ -233,7 +231,7 @@ TEST_F(ReadableTest, AMemberWithABankAndLargeFiguresAtEveryField)
 {
     On<frmMembers>([](Clerk& clerk) {
         Type(clerk, "%d3{ENTER}");
-        EXPECT_TRUE(clerk.CanEnter(QStringLiteral("txtBankAccountNo")));
+        EXPECT_TRUE(clerk.CanEnter("txtBankAccountNo"));
         WalkAndLook(clerk, "modify");
         EXPECT_EQ(OnTop(clerk), "frmMessages") << "the last of them is the button that saves";
     });

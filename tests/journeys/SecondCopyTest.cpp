@@ -13,7 +13,7 @@ protected:
     // Starts a copy that says what it shows, and returns that; `exitCode` is the one that it ended with.
     QString OtherCopy(int& exitCode)
     {
-        const auto other = Processes::Start(QStringLiteral("other_process"), {Drives()});
+        const auto other = Processes::Start("other_process", {Drives()});
         EXPECT_TRUE(Processes::WaitForEnd(*other));
         EXPECT_EQ(other->exitStatus(), QProcess::NormalExit);
         exitCode = other->exitCode();
@@ -25,24 +25,22 @@ protected:
         int exitCode = -1;
         const QString said = OtherCopy(exitCode);
         EXPECT_EQ(exitCode, 1);
-        EXPECT_TRUE(said.contains(QStringLiteral("हिशेबाची वही आधीच उघडी आहे."))) << said.toStdString();
-        EXPECT_FALSE(said.contains(QStringLiteral("screen frm"))) << said.toStdString();
+        EXPECT_TRUE(said.contains("हिशेबाची वही आधीच उघडी आहे.")) << said.toStdString();
+        EXPECT_FALSE(said.contains("screen frm")) << said.toStdString();
     }
 
     void ExpectTheInstallerKeptOut()
     {
-        const auto setup = Processes::Start(QStringLiteral("vetrolan-setup"),
-            {QStringLiteral("--society"), QStringLiteral("नवी संस्था"), QStringLiteral("--year"),
-                QStringLiteral("2026-2027"), QStringLiteral("--password"), QStringLiteral("other"),
-                QStringLiteral("--replace")},
+        const auto setup = Processes::Start("vetrolan-setup",
+            {"--society", "नवी संस्था", "--year", "2026-2027", "--password", "other", "--replace"},
             Environment());
         EXPECT_TRUE(Processes::WaitForEnd(*setup));
         EXPECT_EQ(setup->exitCode(), 1);
         EXPECT_TRUE(setup->readAllStandardError().contains("open in the program"));
-        EXPECT_EQ(QDir(LocalPath(AppFolder)).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 1);
+        EXPECT_EQ(QDir(LocalPath(AppFolder)).entryList({"Morvelta*.mdb"}).size(), 1);
     }
 
-    void RemoveTheLockFile() { ASSERT_TRUE(QFile::remove(FolderFile(QStringLiteral("Vetrolan.lock")))); }
+    void RemoveTheLockFile() { ASSERT_TRUE(QFile::remove(FolderFile("Vetrolan.lock"))); }
 };
 
 }
@@ -68,7 +66,7 @@ TEST_F(SecondCopyTest, WithItsLockFileRemovedTheRunningProgramKeepsAnotherCopyAn
 TEST_F(SecondCopyTest, WithItsBooksReplacedTheRunningProgramKeepsAnotherCopyAndTheInstallerOut)
 {
     const auto program = StartTheProgram();
-    const QString books = FolderFile(QStringLiteral("Morvelta.mdb"));
+    const QString books = FolderFile("Morvelta.mdb");
     ASSERT_TRUE(QFile::copy(books, books + QStringLiteral(".copy")));
     ASSERT_TRUE(QFile::remove(books));
     ASSERT_TRUE(QFile::rename(books + QStringLiteral(".copy"), books));
@@ -85,14 +83,14 @@ TEST_F(SecondCopyTest, AKilledProgramKeepsNobodyOut)
     int exitCode = -1;
     const QString said = OtherCopy(exitCode);
     EXPECT_EQ(exitCode, 0);
-    EXPECT_EQ(said.trimmed(), QStringLiteral("screen frmAbout"));
+    EXPECT_EQ(said.trimmed(), "screen frmAbout");
 }
 
 TEST_F(SecondCopyTest, CopiesOneAfterTheOtherAreNoHindrance)
 {
     for (int copy = 0; copy < 2; ++copy) {
         int exitCode = -1;
-        EXPECT_EQ(OtherCopy(exitCode).trimmed(), QStringLiteral("screen frmAbout"));
+        EXPECT_EQ(OtherCopy(exitCode).trimmed(), "screen frmAbout");
         EXPECT_EQ(exitCode, 0);
     }
 }

@@ -15,7 +15,7 @@ protected:
     // Plays the tour into a folder and returns its exit code.
     static int Play(const QStringList& arguments)
     {
-        const auto tour = Processes::Start(QStringLiteral("vetrolan-tour"), arguments);
+        const auto tour = Processes::Start("vetrolan-tour", arguments);
         EXPECT_TRUE(Processes::WaitForEnd(*tour));
         EXPECT_EQ(tour->exitStatus(), QProcess::NormalExit) << tour->readAllStandardError().toStdString();
         return tour->exitCode();
@@ -23,14 +23,14 @@ protected:
 
     QStringList Summary() const
     {
-        QFile file(m_folder.filePath(QStringLiteral("summary.txt")));
+        QFile file(m_folder.filePath("summary.txt"));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
     }
 
     QStringList Pictures() const
     {
-        return QDir(m_folder.path()).entryList({QStringLiteral("*.png")}, QDir::Files, QDir::Name);
+        return QDir(m_folder.path()).entryList({"*.png"}, QDir::Files, QDir::Name);
     }
 
     const QTemporaryDir m_folder;
@@ -44,8 +44,7 @@ TEST_F(TourTest, ItFindsEverythingRight)
     const QStringList summary = Summary();
     ASSERT_FALSE(summary.isEmpty());
     EXPECT_EQ(summary.last().toStdString(), "everything is right");
-    EXPECT_TRUE(summary.filter(QStringLiteral("WRONG")).isEmpty())
-        << summary.filter(QStringLiteral("WRONG")).join(u'\n').toStdString();
+    EXPECT_TRUE(summary.filter("WRONG").isEmpty()) << summary.filter("WRONG").join(u'\n').toStdString();
 }
 
 TEST_F(TourTest, ItSavesAPictureOfEachStepInOrder)
@@ -54,7 +53,7 @@ TEST_F(TourTest, ItSavesAPictureOfEachStepInOrder)
     const QStringList pictures = Pictures();
     EXPECT_GT(pictures.size(), 20);
     QStringList told;
-    for (const QString& line : Summary().filter(QStringLiteral("picture  ")))
+    for (const QString& line : Summary().filter("picture  "))
         told.append(line.section(u' ', -1));
     EXPECT_EQ(pictures, told);
     for (const QString& picture : pictures) {

@@ -13,15 +13,14 @@ protected:
     MembersApostropheTest()
     {
         int number = 0;
-        for (const QString& name :
-            {QStringLiteral("rama"), QStringLiteral("Xyaama"), QStringLiteral("gaNaoXa")}) {
+        for (const QString name : {"rama", "Xyaama", "gaNaoXa"}) {
             AddMember(++number, name);
             AddCollection(number, name, 10);
             AddPayment(number, name, 5);
             AddUchal(number, 3);
-            AddReceipt(number, QStringLiteral("Uchal Receipt"), 2);
-            AddDeduction(number, QStringLiteral("zova"), 1);
-            AddVoucher(name, QStringLiteral("raoK"));
+            AddReceipt(number, "Uchal Receipt", 2);
+            AddDeduction(number, "zova", 1);
+            AddVoucher(name, "raoK");
         }
     }
 
@@ -38,7 +37,7 @@ protected:
     void StoreName(int number, const QString& name)
     {
         QString quoted = name;
-        quoted.replace(QStringLiteral("'"), QStringLiteral("''"));
+        quoted.replace("'", "''");
         gCn.RunScript(QStringLiteral("update MembersMaster set MemberName='%1' where MemberNo=%2")
                           .arg(quoted)
                           .arg(number));

@@ -8,17 +8,17 @@ class MembersDeleteTest : public MembersTest {
 protected:
     MembersDeleteTest()
     {
-        AddMember(1, QStringLiteral("rama"));
-        AddMember(2, QStringLiteral("Xyaama"));
+        AddMember(1, "rama");
+        AddMember(2, "Xyaama");
         for (int number : {1, 2}) {
             const QString name = number == 1 ? QStringLiteral("rama") : QStringLiteral("Xyaama");
             AddCollection(number, name, 10);
             AddPayment(number, name, 10);
             AddUchal(number, 10);
-            AddReceipt(number, QStringLiteral("Uchal Receipt"), 10);
-            AddDeduction(number, QStringLiteral("gaaya zova"), 10);
-            AddVoucher(name, QStringLiteral("raoK"));
-            AddVoucher(QStringLiteral("raoK"), name);
+            AddReceipt(number, "Uchal Receipt", 10);
+            AddDeduction(number, "gaaya zova", 10);
+            AddVoucher(name, "raoK");
+            AddVoucher("raoK", name);
         }
     }
 
@@ -59,7 +59,7 @@ TEST_F(MembersDeleteTest, AFoundNameDoesTheSame)
 
 TEST_F(MembersDeleteTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedIsTheOne)
 {
-    AddMember(12, QStringLiteral("rama"));
+    AddMember(12, "rama");
     Play([](Clerk& clerk) {
         Type(clerk, "%k12{ENTER}+{TAB}{ENTER}");
         EXPECT_EQ(Focus(clerk), "cmdDelete");
@@ -71,7 +71,7 @@ TEST_F(MembersDeleteTest, AnUnknownNumberIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
         Type(clerk, "%k3{ENTER}");
-        GoOn(clerk, QStringLiteral("yaa maombar naMbarcao roka^D- ]plabQa naahI"));
+        GoOn(clerk, "yaa maombar naMbarcao roka^D- ]plabQa naahI");
         EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
 }
@@ -118,28 +118,27 @@ TEST_F(MembersDeleteTest, YesTakesTheMemberOutOfAllSevenTables)
         EXPECT_EQ(Reads(clerk, "cmdDelete"), "&KaoDNao");
         EXPECT_EQ(Focus(clerk), "cmdDelete");
     });
-    EXPECT_EQ(RowCounts().join(u' '), QStringLiteral("1 1 1 2 1 1 1"));
+    EXPECT_EQ(RowCounts().join(u' '), "1 1 1 2 1 1 1");
     for (const char* table : {"MembersMaster", "MilkCollections", "MilkPayments", "TransactionsDetails",
              "AdvanceReceipt", "MilkPaymentsDetails"})
-        EXPECT_EQ(One(QStringLiteral("select MemberNo from ") + QLatin1String(table)), QStringLiteral("2"))
-            << table;
+        EXPECT_EQ(One(QStringLiteral("select MemberNo from ") + QLatin1String(table)), "2") << table;
 }
 
 TEST_F(MembersDeleteTest, VouchersOfTheNameGoWhateverTheirOtherSide)
 {
-    AddVoucher(QStringLiteral("rama"), QStringLiteral("Xyaama"));
-    AddVoucher(QStringLiteral("Xyaama"), QStringLiteral("rama"));
+    AddVoucher("rama", "Xyaama");
+    AddVoucher("Xyaama", "rama");
     Play([](Clerk& clerk) { Type(clerk, "%k1{ENTER}{ENTER}%h"); });
-    EXPECT_EQ(Rows(QStringLiteral("select DAccountName,CAccountName from TransactionsMaster")).join(u' '),
-        QStringLiteral("Xyaama|raoK raoK|Xyaama"));
+    EXPECT_EQ(Rows("select DAccountName,CAccountName from TransactionsMaster").join(u' '),
+        "Xyaama|raoK raoK|Xyaama");
 }
 
 TEST_F(MembersDeleteTest, RowsOfAnotherCompanyStay)
 {
-    AddCollection(1, QStringLiteral("rama"), 10, 2);
-    AddVoucher(QStringLiteral("rama"), QStringLiteral("raoK"), 2);
+    AddCollection(1, "rama", 10, 2);
+    AddVoucher("rama", "raoK", 2);
     Play([](Clerk& clerk) { Type(clerk, "%k1{ENTER}{ENTER}%h"); });
-    EXPECT_EQ(RowCounts().join(u' '), QStringLiteral("1 2 1 3 1 1 1"));
+    EXPECT_EQ(RowCounts().join(u' '), "1 2 1 3 1 1 1");
 }
 
 TEST_F(MembersDeleteTest, NoKeepsTheRecord)
@@ -155,16 +154,14 @@ TEST_F(MembersDeleteTest, NoKeepsTheRecord)
 
 TEST_F(MembersDeleteTest, AFailureInTheLastTableKeepsTheRowsOfAllOthers)
 {
-    gCn.RunScript(QStringLiteral("drop table MilkPaymentsDetails"));
+    gCn.RunScript("drop table MilkPaymentsDetails");
     Play([](Clerk& clerk) { Type(clerk, "%k1{ENTER}{ENTER}%h"); });
     ASSERT_TRUE(Failure);
-    EXPECT_EQ(Failure->Statement(),
-        QStringLiteral("Delete * From MilkPaymentsDetails Where CompanyId=1 And MemberNo=1"));
+    EXPECT_EQ(Failure->Statement(), "Delete * From MilkPaymentsDetails Where CompanyId=1 And MemberNo=1");
     for (const char* table :
         {"MembersMaster", "MilkCollections", "MilkPayments", "TransactionsDetails", "AdvanceReceipt"})
-        EXPECT_EQ(One(QStringLiteral("select count(*) from ") + QLatin1String(table)), QStringLiteral("2"))
-            << table;
-    EXPECT_EQ(One(QStringLiteral("select count(*) from TransactionsMaster")), QStringLiteral("4"));
+        EXPECT_EQ(One(QStringLiteral("select count(*) from ") + QLatin1String(table)), "2") << table;
+    EXPECT_EQ(One("select count(*) from TransactionsMaster"), "4");
 }
 
 TEST_F(MembersDeleteTest, AfterTheLastMemberOnlyNewIsLeftAndHasTheFocus)
@@ -176,5 +173,5 @@ TEST_F(MembersDeleteTest, AfterTheLastMemberOnlyNewIsLeftAndHasTheFocus)
         EXPECT_FALSE(CanEnter(clerk, "cmdDelete"));
         EXPECT_EQ(Focus(clerk), "cmdNew");
     });
-    EXPECT_EQ(RowCounts().join(u' '), QStringLiteral("0 0 0 0 0 0 0"));
+    EXPECT_EQ(RowCounts().join(u' '), "0 0 0 0 0 0 0");
 }

@@ -9,8 +9,7 @@ protected:
     {
         Play([&](Clerk& clerk) {
             Type(clerk, "{ENTER}");
-            TypeEach(
-                clerk, {QString(), QStringLiteral("gaNaoXa"), QString(), QString(), QStringLiteral("3")});
+            TypeEach(clerk, {QString(), "gaNaoXa", QString(), QString(), "3"});
             GoTo(clerk, field);
             if (clerk.Focus() == field) // the payment type holds the focus until it is given
                 return script(clerk);
@@ -23,12 +22,12 @@ protected:
 
     QStringList CitiesAdded()
     {
-        return Rows(QStringLiteral("select CompanyId,CityName from CityMaster where CityName='Kod'"));
+        return Rows("select CompanyId,CityName from CityMaster where CityName='Kod'");
     }
 
     QStringList BanksAdded()
     {
-        return Rows(QStringLiteral("select CompanyId,BankName from BankMaster where BankName='sTuT'"));
+        return Rows("select CompanyId,BankName from BankMaster where BankName='sTuT'");
     }
 };
 
@@ -51,36 +50,34 @@ QString GuideOf(Clerk& clerk, const QString& field)
 TEST_F(MembersFieldsTest, EachFieldHasItsGuide)
 {
     Play([](Clerk& clerk) {
-        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtAnimal")),
-            QStringLiteral("1 ¹ gaaya    2 ¹ mhOsa    3 ¹ daonhI"));
-        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtPaymentType")), QStringLiteral("1 ¹ raoK    2 ¹ ba^nk"));
-        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtOpeningDorC")), QStringLiteral("1 ¹ doNao  2 ¹ yaoNao"));
-        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtMemberNo")), QStringLiteral("maombar naMbar"));
-        EXPECT_EQ(GuideOf(clerk, QStringLiteral("ComboMemberName")), QStringLiteral("maombarcao naaMva"));
-        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtAddress")), QStringLiteral("p<aa"));
-        EXPECT_EQ(GuideOf(clerk, QStringLiteral("ComboCity")), QStringLiteral("gaava"));
-        EXPECT_EQ(GuideOf(clerk, QStringLiteral("ComboBankName")), QStringLiteral("ba^nkocao naava"));
-        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtBankAccountNo")), QStringLiteral("ba^nk Kato naMbar"));
+        EXPECT_EQ(GuideOf(clerk, "txtAnimal"), "1 ¹ gaaya    2 ¹ mhOsa    3 ¹ daonhI");
+        EXPECT_EQ(GuideOf(clerk, "txtPaymentType"), "1 ¹ raoK    2 ¹ ba^nk");
+        EXPECT_EQ(GuideOf(clerk, "txtOpeningDorC"), "1 ¹ doNao  2 ¹ yaoNao");
+        EXPECT_EQ(GuideOf(clerk, "txtMemberNo"), "maombar naMbar");
+        EXPECT_EQ(GuideOf(clerk, "ComboMemberName"), "maombarcao naaMva");
+        EXPECT_EQ(GuideOf(clerk, "txtAddress"), "p<aa");
+        EXPECT_EQ(GuideOf(clerk, "ComboCity"), "gaava");
+        EXPECT_EQ(GuideOf(clerk, "ComboBankName"), "ba^nkocao naava");
+        EXPECT_EQ(GuideOf(clerk, "txtBankAccountNo"), "ba^nk Kato naMbar");
     });
 }
 
 TEST_F(MembersFieldsTest, TheGuideOfTheOpeningBalanceNamesTheFirstDayOfTheYear)
 {
-    Run(QStringLiteral("update CompanySelected set FromDate='02/04/2025'"));
+    Run("update CompanySelected set FromDate='02/04/2025'");
     Play([](Clerk& clerk) {
-        EXPECT_EQ(GuideOf(clerk, QStringLiteral("txtOpeningBalance")),
-            QStringLiteral("02.04.2025 raojaI doNao ikMvaa yaoNao AsalaolaI r@kma"));
+        EXPECT_EQ(
+            GuideOf(clerk, "txtOpeningBalance"), "02.04.2025 raojaI doNao ikMvaa yaoNao AsalaolaI r@kma");
     });
 }
 
 TEST_F(MembersFieldsTest, ADigitPutsTheWordInPlaceAndStaysThere)
 {
-    OnField(QStringLiteral("txtAnimal"), [](Clerk& clerk) {
-        const QStringList words = {
-            QStringLiteral("gaaya"), QStringLiteral("mhOsa"), QStringLiteral("daonhI")};
+    OnField("txtAnimal", [](Clerk& clerk) {
+        const QStringList words = {"gaaya", "mhOsa", "daonhI"};
         for (int digit = 1; digit <= 3; ++digit) {
             clerk.Type(QString::number(digit));
-            EXPECT_EQ(clerk.Reads(QStringLiteral("txtAnimal")), words[digit - 1]);
+            EXPECT_EQ(clerk.Reads("txtAnimal"), words[digit - 1]);
         }
         Type(clerk, "4x ");
         EXPECT_EQ(Reads(clerk, "txtAnimal"), "daonhI");
@@ -90,7 +87,7 @@ TEST_F(MembersFieldsTest, ADigitPutsTheWordInPlaceAndStaysThere)
 
 TEST_F(MembersFieldsTest, AnEmptyAnimalAndAnEmptyPaymentTypeHoldTheFocusInSilence)
 {
-    OnField(QStringLiteral("txtAnimal"), [](Clerk& clerk) {
+    OnField("txtAnimal", [](Clerk& clerk) {
         Type(clerk, "{BS}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtAnimal");
         Type(clerk, "1{ENTER}{BS}{ENTER}");
@@ -101,7 +98,7 @@ TEST_F(MembersFieldsTest, AnEmptyAnimalAndAnEmptyPaymentTypeHoldTheFocusInSilenc
 
 TEST_F(MembersFieldsTest, TheAnimalOpensItsOwnFiguresOnly)
 {
-    OnField(QStringLiteral("txtAnimal"), [](Clerk& clerk) {
+    OnField("txtAnimal", [](Clerk& clerk) {
         const auto expect = [&clerk](const QString& key, bool cow, bool buffalo) {
             clerk.Type(key + QStringLiteral("{ENTER}"));
             EXPECT_EQ(CanEnter(clerk, "txtCowOpeningLits"), cow);
@@ -110,15 +107,15 @@ TEST_F(MembersFieldsTest, TheAnimalOpensItsOwnFiguresOnly)
             EXPECT_EQ(CanEnter(clerk, "txtBuffOpeningThev"), buffalo);
             Type(clerk, "1+{TAB}");
         };
-        expect(QStringLiteral("1"), true, false);
-        expect(QStringLiteral("2"), false, true);
-        expect(QStringLiteral("3"), true, true);
+        expect("1", true, false);
+        expect("2", false, true);
+        expect("3", true, true);
     });
 }
 
 TEST_F(MembersFieldsTest, BankShowsTheBankFieldsAndGoesOnThere)
 {
-    OnField(QStringLiteral("txtPaymentType"), [](Clerk& clerk) {
+    OnField("txtPaymentType", [](Clerk& clerk) {
         EXPECT_FALSE(CanEnter(clerk, "ComboBankName"));
         Type(clerk, "2{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboBankName");
@@ -128,23 +125,22 @@ TEST_F(MembersFieldsTest, BankShowsTheBankFieldsAndGoesOnThere)
 
 TEST_F(MembersFieldsTest, CashEmptiesAndHidesTheBankFields)
 {
-    AddMember(1, QStringLiteral("rama"));
-    Run(QStringLiteral("update MembersMaster set PaymentType='ba^nk',BankName='sTuT',BankAccountNo='47'"));
+    AddMember(1, "rama");
+    Run("update MembersMaster set PaymentType='ba^nk',BankName='sTuT',BankAccountNo='47'");
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        GoTo(clerk, QStringLiteral("txtPaymentType"));
+        GoTo(clerk, "txtPaymentType");
         Type(clerk, "1{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtOpeningBalance");
         EXPECT_FALSE(CanEnter(clerk, "ComboBankName"));
         Type(clerk, "%s%h");
     });
-    EXPECT_EQ(Rows(QStringLiteral("select PaymentType,BankName,BankAccountNo from MembersMaster")),
-        QStringList{QStringLiteral("raoK||")});
+    EXPECT_EQ(Rows("select PaymentType,BankName,BankAccountNo from MembersMaster"), QStringList{"raoK||"});
 }
 
 TEST_F(MembersFieldsTest, AnEmptyAccountNumberNeverHoldsTheClerkUp)
 {
-    OnField(QStringLiteral("txtPaymentType"), [](Clerk& clerk) {
+    OnField("txtPaymentType", [](Clerk& clerk) {
         Type(clerk, "2{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtOpeningBalance");
         Type(clerk, "{ENTER}");
@@ -154,8 +150,8 @@ TEST_F(MembersFieldsTest, AnEmptyAccountNumberNeverHoldsTheClerkUp)
 
 TEST_F(MembersFieldsTest, AKnownCityPassesWhateverItsBlanks)
 {
-    Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,' Kod ')"));
-    OnField(QStringLiteral("ComboCity"), [](Clerk& clerk) {
+    Run("insert into CityMaster(CompanyId,CityName) values(1,' Kod ')");
+    OnField("ComboCity", [](Clerk& clerk) {
         Type(clerk, "Kod{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtAnimal");
         Type(clerk, "+{TAB}{BS}{ENTER}");
@@ -166,20 +162,20 @@ TEST_F(MembersFieldsTest, AKnownCityPassesWhateverItsBlanks)
 
 TEST_F(MembersFieldsTest, ANewCityIsAddedOnYesAndStandsOnTheList)
 {
-    OnField(QStringLiteral("ComboCity"), [](Clerk& clerk) {
+    OnField("ComboCity", [](Clerk& clerk) {
         Type(clerk, "Kod{ENTER}");
         EXPECT_EQ(clerk.Message(), CityQuestion);
         Type(clerk, "%h");
         EXPECT_EQ(Focus(clerk), "txtAnimal");
-        EXPECT_TRUE(ListOf(clerk, u"ComboCity").contains(QStringLiteral("Kod")));
+        EXPECT_TRUE(ListOf(clerk, u"ComboCity").contains("Kod"));
         EXPECT_EQ(Reads(clerk, "ComboCity"), "Kod");
     });
-    EXPECT_EQ(CitiesAdded(), QStringList{QStringLiteral("1|Kod")});
+    EXPECT_EQ(CitiesAdded(), QStringList{"1|Kod"});
 }
 
 TEST_F(MembersFieldsTest, ANewCityStaysOutOnNoAndTheFocusStays)
 {
-    OnField(QStringLiteral("ComboCity"), [](Clerk& clerk) {
+    OnField("ComboCity", [](Clerk& clerk) {
         Type(clerk, "Kod{ENTER}%n");
         EXPECT_EQ(Focus(clerk), "ComboCity");
     });
@@ -188,9 +184,9 @@ TEST_F(MembersFieldsTest, ANewCityStaysOutOnNoAndTheFocusStays)
 
 TEST_F(MembersFieldsTest, ACityOfAnotherCompanyIsNewHere)
 {
-    Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(2,'Kod')"));
-    OnField(QStringLiteral("ComboCity"), [](Clerk& clerk) {
-        EXPECT_FALSE(ListOf(clerk, u"ComboCity").contains(QStringLiteral("Kod")));
+    Run("insert into CityMaster(CompanyId,CityName) values(2,'Kod')");
+    OnField("ComboCity", [](Clerk& clerk) {
+        EXPECT_FALSE(ListOf(clerk, u"ComboCity").contains("Kod"));
         Type(clerk, "Kod{ENTER}");
         EXPECT_EQ(clerk.Message(), CityQuestion);
     });
@@ -198,22 +194,22 @@ TEST_F(MembersFieldsTest, ACityOfAnotherCompanyIsNewHere)
 
 TEST_F(MembersFieldsTest, ANewBankIsAddedOnYesAndStaysOutOnNo)
 {
-    OnField(QStringLiteral("txtPaymentType"), [](Clerk& clerk) {
+    OnField("txtPaymentType", [](Clerk& clerk) {
         Type(clerk, "2{ENTER}sTuT{ENTER}");
         EXPECT_EQ(clerk.Message(), BankQuestion);
         Type(clerk, "%n");
         EXPECT_EQ(Focus(clerk), "ComboBankName");
-        EXPECT_FALSE(ListOf(clerk, u"ComboBankName").contains(QStringLiteral("sTuT")));
+        EXPECT_FALSE(ListOf(clerk, u"ComboBankName").contains("sTuT"));
         Type(clerk, "{ENTER}%h");
         EXPECT_EQ(Focus(clerk), "txtBankAccountNo");
-        EXPECT_TRUE(ListOf(clerk, u"ComboBankName").contains(QStringLiteral("sTuT")));
+        EXPECT_TRUE(ListOf(clerk, u"ComboBankName").contains("sTuT"));
     });
-    EXPECT_EQ(BanksAdded(), QStringList{QStringLiteral("1|sTuT")});
+    EXPECT_EQ(BanksAdded(), QStringList{"1|sTuT"});
 }
 
 TEST_F(MembersFieldsTest, LettersAreDroppedInNumbersAndTheirTextTakesItsPattern)
 {
-    OnField(QStringLiteral("txtOpeningBalance"), [](Clerk& clerk) {
+    OnField("txtOpeningBalance", [](Clerk& clerk) {
         Type(clerk, "a1x2-.5{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtOpeningBalance"), "12.50");
         Type(clerk, "{ENTER}7.0005{ENTER}");
@@ -221,7 +217,7 @@ TEST_F(MembersFieldsTest, LettersAreDroppedInNumbersAndTheirTextTakesItsPattern)
         Type(clerk, "q8{ENTER}{BS}{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtBuffOpeningLits"), "8.000");
         EXPECT_EQ(Reads(clerk, "txtOpeningUchal"), "0.00");
-        GoTo(clerk, QStringLiteral("txtMemberNo"));
+        GoTo(clerk, "txtMemberNo");
         Type(clerk, "x4.5y");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "45");
     });
@@ -229,7 +225,7 @@ TEST_F(MembersFieldsTest, LettersAreDroppedInNumbersAndTheirTextTakesItsPattern)
 
 TEST_F(MembersFieldsTest, AnEmptyDirectionTakesPayable)
 {
-    OnField(QStringLiteral("txtOpeningDorC"), [](Clerk& clerk) {
+    OnField("txtOpeningDorC", [](Clerk& clerk) {
         Type(clerk, "2");
         EXPECT_EQ(Reads(clerk, "txtOpeningDorC"), "yaoNao");
         Type(clerk, "{BS}{ENTER}");
@@ -240,15 +236,15 @@ TEST_F(MembersFieldsTest, AnEmptyDirectionTakesPayable)
 TEST_F(MembersFieldsTest, TheLastFieldOfTheAnimalLeadsToTheSaveButton)
 {
     Play([](Clerk& clerk) {
-        FillNewMember(clerk, QStringLiteral("rama"), QStringLiteral("1"));
-        GoTo(clerk, QStringLiteral("txtCowOpeningThev"));
+        FillNewMember(clerk, "rama", "1");
+        GoTo(clerk, "txtCowOpeningThev");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Focus(clerk), "cmdNew");
         Type(clerk, "{ENTER}");
         CallUp(clerk, 1);
-        GoTo(clerk, QStringLiteral("txtAnimal"));
+        GoTo(clerk, "txtAnimal");
         Type(clerk, "3{ENTER}");
-        GoTo(clerk, QStringLiteral("txtCowOpeningThev"));
+        GoTo(clerk, "txtCowOpeningThev");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtBuffOpeningThev");
         Type(clerk, "{ENTER}");
@@ -259,23 +255,23 @@ TEST_F(MembersFieldsTest, TheLastFieldOfTheAnimalLeadsToTheSaveButton)
 TEST_F(MembersFieldsTest, DevanagariFromAnInputMethodIsWrittenAsTheSystemSpellsIt)
 {
     const QString seen = QStringLiteral("शिंदे वाडा");
-    OnField(QStringLiteral("txtAddress"), [&](Clerk& clerk) {
+    OnField("txtAddress", [&](Clerk& clerk) {
         clerk.Type(seen);
         const auto* address = dynamic_cast<TextField*>(clerk.Top().Find(u"txtAddress"));
         ASSERT_NE(address, nullptr);
         EXPECT_EQ(address->Seen(), seen);
-        GoTo(clerk, QStringLiteral("txtPaymentType"));
+        GoTo(clerk, "txtPaymentType");
         Type(clerk, "1%s");
     });
-    const QString stored = One(QStringLiteral("select Address from MembersMaster"));
-    EXPECT_EQ(stored, QStringLiteral("iSaMdo vaaDa"));
+    const QString stored = One("select Address from MembersMaster");
+    EXPECT_EQ(stored, "iSaMdo vaaDa");
     EXPECT_EQ(Seen(stored), seen);
 }
 
 TEST_F(MembersFieldsTest, ATownThatReadsLikeOneOfTheListIsNotAskedFor)
 {
-    Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'maa$tI')"));
-    Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(2,'saata$')"));
+    Run("insert into CityMaster(CompanyId,CityName) values(1,'maa$tI')");
+    Run("insert into CityMaster(CompanyId,CityName) values(2,'saata$')");
     Play([](Clerk& clerk) {
         Type(clerk, "{ENTER}{ENTER}rama{ENTER}{ENTER}maarutI{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtAnimal");

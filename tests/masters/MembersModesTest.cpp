@@ -4,15 +4,11 @@ namespace {
 
 using MembersModesTest = MembersTest;
 
-const QStringList EntryFields = {QStringLiteral("txtMemberNo"), QStringLiteral("ComboMemberName"),
-    QStringLiteral("txtAddress"), QStringLiteral("ComboCity"), QStringLiteral("txtAnimal"),
-    QStringLiteral("txtPaymentType"), QStringLiteral("txtOpeningBalance"), QStringLiteral("txtOpeningDorC"),
-    QStringLiteral("txtCowOpeningLits"), QStringLiteral("txtBuffOpeningLits"),
-    QStringLiteral("txtOpeningUchal"), QStringLiteral("txtCowOpeningThev"),
-    QStringLiteral("txtBuffOpeningThev")};
+const QStringList EntryFields = {"txtMemberNo", "ComboMemberName", "txtAddress", "ComboCity", "txtAnimal",
+    "txtPaymentType", "txtOpeningBalance", "txtOpeningDorC", "txtCowOpeningLits", "txtBuffOpeningLits",
+    "txtOpeningUchal", "txtCowOpeningThev", "txtBuffOpeningThev"};
 
-const QStringList Buttons = {QStringLiteral("cmdNew"), QStringLiteral("cmdModify"),
-    QStringLiteral("cmdDelete"), QStringLiteral("cmdCancel"), QStringLiteral("cmdExit")};
+const QStringList Buttons = {"cmdNew", "cmdModify", "cmdDelete", "cmdCancel", "cmdExit"};
 
 QStringList Open(const Clerk& clerk, const QStringList& controls)
 {
@@ -30,12 +26,12 @@ QString TitleOf(const Clerk& clerk)
 
 void ExpectIdle(const Clerk& clerk)
 {
-    EXPECT_EQ(clerk.ScreenName(), QStringLiteral("frmMembers"));
-    EXPECT_EQ(TitleOf(clerk), QStringLiteral(" ]%padkacao maasTr"));
-    EXPECT_EQ(clerk.Reads(QStringLiteral("cmdNew")), QStringLiteral("&navaIna"));
-    EXPECT_EQ(clerk.Reads(QStringLiteral("cmdModify")), QStringLiteral("ba&dla"));
-    EXPECT_EQ(clerk.Reads(QStringLiteral("cmdDelete")), QStringLiteral("&KaoDNao"));
-    EXPECT_FALSE(clerk.CanEnter(QStringLiteral("cmdCancel")));
+    EXPECT_EQ(clerk.ScreenName(), "frmMembers");
+    EXPECT_EQ(TitleOf(clerk), " ]%padkacao maasTr");
+    EXPECT_EQ(clerk.Reads("cmdNew"), "&navaIna");
+    EXPECT_EQ(clerk.Reads("cmdModify"), "ba&dla");
+    EXPECT_EQ(clerk.Reads("cmdDelete"), "&KaoDNao");
+    EXPECT_FALSE(clerk.CanEnter("cmdCancel"));
     EXPECT_TRUE(Open(clerk, EntryFields).isEmpty());
 }
 
@@ -43,10 +39,10 @@ void ExpectIdle(const Clerk& clerk)
 
 TEST_F(MembersModesTest, OpensIdleWithItsFieldsClosedAndTheFocusOnNew)
 {
-    AddMember(1, QStringLiteral("rama"));
+    AddMember(1, "rama");
     Play([](Clerk& clerk) {
         ExpectIdle(clerk);
-        EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdModify cmdDelete cmdExit"));
+        EXPECT_EQ(Open(clerk, Buttons).join(u' '), "cmdNew cmdModify cmdDelete cmdExit");
         EXPECT_EQ(Focus(clerk), "cmdNew");
         EXPECT_EQ(Reads(clerk, "cmdCancel"), "&r_");
         EXPECT_EQ(Reads(clerk, "cmdExit"), "&baahor");
@@ -62,10 +58,10 @@ TEST_F(MembersModesTest, TheFieldsOpenWithTheirEmptyValues)
         for (const char* name :
             {"txtOpeningBalance", "txtClosingBalance", "txtOpeningUchal", "txtClosingUchal",
                 "txtCowOpeningThev", "txtCowClosingThev", "txtBuffOpeningThev", "txtBuffClosingThev"})
-            EXPECT_EQ(clerk.Reads(QLatin1String(name)), QStringLiteral("0.00")) << name;
+            EXPECT_EQ(clerk.Reads(QLatin1String(name)), "0.00") << name;
         for (const char* name :
             {"txtCowOpeningLits", "txtCowClosingLits", "txtBuffOpeningLits", "txtBuffClosingLits"})
-            EXPECT_EQ(clerk.Reads(QLatin1String(name)), QStringLiteral("0.000")) << name;
+            EXPECT_EQ(clerk.Reads(QLatin1String(name)), "0.000") << name;
         EXPECT_EQ(Reads(clerk, "txtOpeningDorC"), "doNao");
     });
 }
@@ -73,22 +69,22 @@ TEST_F(MembersModesTest, TheFieldsOpenWithTheirEmptyValues)
 TEST_F(MembersModesTest, WithoutAnyMemberOnlyNewAndExitAreOpen)
 {
     Play([](Clerk& clerk) {
-        EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdExit"));
+        EXPECT_EQ(Open(clerk, Buttons).join(u' '), "cmdNew cmdExit");
         Type(clerk, "{ENTER}");
         Press(clerk, "cmdCancel");
-        EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdExit"));
+        EXPECT_EQ(Open(clerk, Buttons).join(u' '), "cmdNew cmdExit");
         EXPECT_EQ(Focus(clerk), "cmdNew");
     });
 }
 
 TEST_F(MembersModesTest, NewOpensAllFieldsAndLeavesOnlySaveAndCancelToPress)
 {
-    AddMember(1, QStringLiteral("rama"));
+    AddMember(1, "rama");
     Play([](Clerk& clerk) {
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(TitleOf(clerk), QStringLiteral(" ]%padkacao maasTr navaIna roka^D-"));
+        EXPECT_EQ(TitleOf(clerk), " ]%padkacao maasTr navaIna roka^D-");
         EXPECT_EQ(Reads(clerk, "cmdNew"), "&saovh");
-        EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdNew cmdCancel"));
+        EXPECT_EQ(Open(clerk, Buttons).join(u' '), "cmdNew cmdCancel");
         EXPECT_EQ(Open(clerk, EntryFields), EntryFields);
         EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
@@ -96,12 +92,12 @@ TEST_F(MembersModesTest, NewOpensAllFieldsAndLeavesOnlySaveAndCancelToPress)
 
 TEST_F(MembersModesTest, ModifyOpensAllFieldsWithTheNumberEmpty)
 {
-    AddMember(1, QStringLiteral("rama"));
+    AddMember(1, "rama");
     Play([](Clerk& clerk) {
         Type(clerk, "%d");
-        EXPECT_EQ(TitleOf(clerk), QStringLiteral(" ]%padkacao maasTr roka^D-maQyao badla"));
+        EXPECT_EQ(TitleOf(clerk), " ]%padkacao maasTr roka^D-maQyao badla");
         EXPECT_EQ(Reads(clerk, "cmdModify"), "&saovh");
-        EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdModify cmdCancel"));
+        EXPECT_EQ(Open(clerk, Buttons).join(u' '), "cmdModify cmdCancel");
         EXPECT_EQ(Open(clerk, EntryFields), EntryFields);
         EXPECT_EQ(Focus(clerk), "txtMemberNo");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "");
@@ -110,13 +106,13 @@ TEST_F(MembersModesTest, ModifyOpensAllFieldsWithTheNumberEmpty)
 
 TEST_F(MembersModesTest, DeleteOpensOnlyTheNumberAndTheName)
 {
-    AddMember(1, QStringLiteral("rama"));
+    AddMember(1, "rama");
     Play([](Clerk& clerk) {
         Type(clerk, "%k");
-        EXPECT_EQ(TitleOf(clerk), QStringLiteral(" ]%padkacao maasTr roka^D- KaoDNao"));
+        EXPECT_EQ(TitleOf(clerk), " ]%padkacao maasTr roka^D- KaoDNao");
         EXPECT_EQ(Reads(clerk, "cmdDelete"), "&KaoDa");
-        EXPECT_EQ(Open(clerk, Buttons).join(u' '), QStringLiteral("cmdDelete cmdCancel"));
-        EXPECT_EQ(Open(clerk, EntryFields).join(u' '), QStringLiteral("txtMemberNo ComboMemberName"));
+        EXPECT_EQ(Open(clerk, Buttons).join(u' '), "cmdDelete cmdCancel");
+        EXPECT_EQ(Open(clerk, EntryFields).join(u' '), "txtMemberNo ComboMemberName");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "");
         EXPECT_EQ(Focus(clerk), "txtMemberNo");
     });
@@ -124,7 +120,7 @@ TEST_F(MembersModesTest, DeleteOpensOnlyTheNumberAndTheName)
 
 TEST_F(MembersModesTest, CancelByMouseFromAnInvalidFieldShowsNothingAndReturnsToIdle)
 {
-    AddMember(1, QStringLiteral("rama"));
+    AddMember(1, "rama");
     Play([](Clerk& clerk) {
         Type(clerk, "{ENTER}1");
         Press(clerk, "cmdCancel");
@@ -139,10 +135,10 @@ TEST_F(MembersModesTest, CancelByMouseFromAnInvalidFieldShowsNothingAndReturnsTo
 
 TEST_F(MembersModesTest, CancelByItsKeyChecksTheFieldFirstAndIsPressedWhateverItSays)
 {
-    AddMember(1, QStringLiteral("rama"));
+    AddMember(1, "rama");
     Play([](Clerk& clerk) {
         Type(clerk, "{ENTER}1%r");
-        GoOn(clerk, QStringLiteral("yaa maombar naMbarcao roka^D- Agaaodrca Aaho"));
+        GoOn(clerk, "yaa maombar naMbarcao roka^D- Agaaodrca Aaho");
         ExpectIdle(clerk);
         Type(clerk, "%n2%r");
         ExpectIdle(clerk);
@@ -151,8 +147,8 @@ TEST_F(MembersModesTest, CancelByItsKeyChecksTheFieldFirstAndIsPressedWhateverIt
 
 TEST_F(MembersModesTest, CancelHidesTheBankFields)
 {
-    AddMember(1, QStringLiteral("rama"));
-    Run(QStringLiteral("update MembersMaster set PaymentType='ba^nk',BankName='sTuT'"));
+    AddMember(1, "rama");
+    Run("update MembersMaster set PaymentType='ba^nk',BankName='sTuT'");
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
         EXPECT_TRUE(CanEnter(clerk, "ComboBankName"));
@@ -164,13 +160,13 @@ TEST_F(MembersModesTest, CancelHidesTheBankFields)
 
 TEST_F(MembersModesTest, EscOnAnInvalidFieldClosesWithoutAMessage)
 {
-    AddMember(1, QStringLiteral("rama"));
+    AddMember(1, "rama");
     Play([](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ESC}");
         EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(One(QStringLiteral("select count(*) from MembersMaster")), QStringLiteral("1"));
+    EXPECT_EQ(One("select count(*) from MembersMaster"), "1");
 }
 
 TEST_F(MembersModesTest, EscClearsTheFieldsAndTheCloseBoxLeavesThem)
@@ -182,7 +178,7 @@ TEST_F(MembersModesTest, EscClearsTheFieldsAndTheCloseBoxLeavesThem)
         clerk.CloseBox();
         EXPECT_EQ(OnTop(clerk), "");
     });
-    EXPECT_EQ(screen.Find(u"txtMemberNo")->Text(), QStringLiteral("7"));
+    EXPECT_EQ(screen.Find(u"txtMemberNo")->Text(), "7");
     Failure = TheClerk.Play(open, [](Clerk& clerk) {
         Type(clerk, "{ENTER}8{ESC}");
         EXPECT_EQ(OnTop(clerk), "");

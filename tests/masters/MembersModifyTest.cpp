@@ -6,16 +6,16 @@ class MembersModifyTest : public MembersTest {
 protected:
     MembersModifyTest()
     {
-        AddMember(1, QStringLiteral("rama"), QStringLiteral("gaaya"));
-        AddMember(2, QStringLiteral("Xyaama"));
+        AddMember(1, "rama", "gaaya");
+        AddMember(2, "Xyaama");
     }
 
     // The places outside of the masters that hold a member's name, each with its company.
     QStringList NamesElsewhere()
     {
-        QStringList names = Rows(QStringLiteral("select CompanyId,MemberName from MilkCollections"));
-        names += Rows(QStringLiteral("select CompanyId,MemberName from MilkPayments"));
-        names += Rows(QStringLiteral("select CompanyId,DAccountName,CAccountName from TransactionsMaster"));
+        QStringList names = Rows("select CompanyId,MemberName from MilkCollections");
+        names += Rows("select CompanyId,MemberName from MilkPayments");
+        names += Rows("select CompanyId,DAccountName,CAccountName from TransactionsMaster");
         return names;
     }
 
@@ -24,8 +24,8 @@ protected:
         for (int company : {1, 2}) {
             AddCollection(1, name, 10, company);
             AddPayment(1, name, 10, company);
-            AddVoucher(name, QStringLiteral("raoK"), company);
-            AddVoucher(QStringLiteral("raoK"), name, company);
+            AddVoucher(name, "raoK", company);
+            AddVoucher("raoK", name, company);
         }
     }
 };
@@ -36,13 +36,12 @@ const QString SaveQuestion = QStringLiteral("roka^D- na@kI badlaayacao ka Æ");
 
 TEST_F(MembersModifyTest, ANumberCallsUpTheWholeRecord)
 {
-    Run(QStringLiteral(
-        "update MembersMaster set "
+    Run("update MembersMaster set "
         "Address='vaaDa',City='Kod',Animal='daonhI',PaymentType='ba^nk',BankName='sTuT',"
         "BankAccountNo='47',OpeningBalance=1.5,OpeningDorC='D',ClosingBalance=2,ClosingDorC='C',"
         "CowOpeningThev=3,"
         "CowClosingThev=4,BuffOpeningThev=5,BuffClosingThev=6,OpeningUchal=7,ClosingUchal=8,CowOpeningLits=9,"
-        "CowClosingLits=10,BuffOpeningLits=11,BuffClosingLits=12.3456 where MemberNo=2"));
+        "CowClosingLits=10,BuffOpeningLits=11,BuffClosingLits=12.3456 where MemberNo=2");
     Play([](Clerk& clerk) {
         CallUp(clerk, 2);
         EXPECT_EQ(Focus(clerk), "ComboMemberName");
@@ -64,7 +63,7 @@ TEST_F(MembersModifyTest, ANumberCallsUpTheWholeRecord)
 
 TEST_F(MembersModifyTest, NullsOnRecordReadAsEmptyAndZero)
 {
-    Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(1,9,'gaNaoXa')"));
+    Run("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(1,9,'gaNaoXa')");
     Play([](Clerk& clerk) {
         CallUp(clerk, 9);
         EXPECT_EQ(Reads(clerk, "txtAddress"), "");
@@ -95,7 +94,7 @@ TEST_F(MembersModifyTest, AnotherMembersNameCallsUpThatMember)
 
 TEST_F(MembersModifyTest, OfTwoMembersOfOneNameTheOneWhoseNumberWasTypedStays)
 {
-    AddMember(12, QStringLiteral("rama"), QStringLiteral("mhOsa"));
+    AddMember(12, "rama", "mhOsa");
     for (const char* keys : {"%d12{ENTER}{ENTER}", "%d12{ENTER}rama{ENTER}"})
         Play([keys](Clerk& clerk) {
             clerk.Type(QString::fromLatin1(keys));
@@ -119,7 +118,7 @@ TEST_F(MembersModifyTest, AnUnknownNumberIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 77);
-        GoOn(clerk, QStringLiteral("yaa maombar naMbarcao roka^D- ]plabQa naahI"));
+        GoOn(clerk, "yaa maombar naMbarcao roka^D- ]plabQa naahI");
         EXPECT_EQ(Focus(clerk), "txtMemberNo");
         Type(clerk, "2{ENTER}");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "Xyaama");
@@ -139,7 +138,7 @@ TEST_F(MembersModifyTest, AnEmptyNameIsRefusedWithANotice)
 {
     Play([](Clerk& clerk) {
         Type(clerk, "%d{ENTER}{ENTER}");
-        GoOn(clerk, QStringLiteral("maombarcao naaMva vyavaisqat Ta[-p kra"));
+        GoOn(clerk, "maombarcao naaMva vyavaisqat Ta[-p kra");
         EXPECT_EQ(Focus(clerk), "ComboMemberName");
     });
 }
@@ -156,14 +155,11 @@ TEST_F(MembersModifyTest, ACowMembersBuffaloFiguresAreClosedFromTheStart)
 
 TEST_F(MembersModifyTest, YesWritesTheRecordAndOnlyThat)
 {
-    const QString other = Rows(QStringLiteral("select * from MembersMaster where MemberNo=2")).join(u' ');
-    Run(QStringLiteral("update MembersMaster set AccountId=5 where MemberNo=1"));
+    const QString other = Rows("select * from MembersMaster where MemberNo=2").join(u' ');
+    Run("update MembersMaster set AccountId=5 where MemberNo=1");
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        TypeEach(clerk,
-            {QString(), QStringLiteral("vaaDa"), QString(), QStringLiteral("2"), QString(),
-                QStringLiteral("25"), QStringLiteral("2"), QStringLiteral("4"), QStringLiteral("30"),
-                QStringLiteral("6")});
+        TypeEach(clerk, {QString(), "vaaDa", QString(), "2", QString(), "25", "2", "4", "30", "6"});
         EXPECT_EQ(Focus(clerk), "cmdModify");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(clerk.Message(), SaveQuestion);
@@ -171,14 +167,14 @@ TEST_F(MembersModifyTest, YesWritesTheRecordAndOnlyThat)
         EXPECT_EQ(Reads(clerk, "cmdModify"), "ba&dla");
         EXPECT_EQ(Focus(clerk), "cmdModify");
     });
-    EXPECT_EQ(Rows(QStringLiteral("select * from MembersMaster where MemberNo=1")).join(u' '),
-        QStringLiteral("1|1|rama|5|vaaDa||mhOsa|raoK|||25|D|25|D|0|0|6|6|30|30|0|0|4|4"));
-    EXPECT_EQ(Rows(QStringLiteral("select * from MembersMaster where MemberNo=2")).join(u' '), other);
+    EXPECT_EQ(Rows("select * from MembersMaster where MemberNo=1").join(u' '),
+        "1|1|rama|5|vaaDa||mhOsa|raoK|||25|D|25|D|0|0|6|6|30|30|0|0|4|4");
+    EXPECT_EQ(Rows("select * from MembersMaster where MemberNo=2").join(u' '), other);
 }
 
 TEST_F(MembersModifyTest, NoReturnsToIdleWithNothingWritten)
 {
-    AddEntriesOf(QStringLiteral("rama"));
+    AddEntriesOf("rama");
     const QStringList before = NamesElsewhere();
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
@@ -186,62 +182,59 @@ TEST_F(MembersModifyTest, NoReturnsToIdleWithNothingWritten)
         EXPECT_EQ(Reads(clerk, "cmdModify"), "ba&dla");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "");
     });
-    EXPECT_EQ(
-        One(QStringLiteral("select MemberName from MembersMaster where MemberNo=1")), QStringLiteral("rama"));
+    EXPECT_EQ(One("select MemberName from MembersMaster where MemberNo=1"), "rama");
     EXPECT_EQ(NamesElsewhere(), before);
 }
 
 TEST_F(MembersModifyTest, ANewNameReachesAllFourPlacesInEveryCompany)
 {
-    AddEntriesOf(QStringLiteral("rama"));
-    AddCollection(2, QStringLiteral("Xyaama"), 10);
+    AddEntriesOf("rama");
+    AddCollection(2, "Xyaama", 10);
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
         Type(clerk, "gaNaoXa{ENTER}%s%h");
     });
     EXPECT_EQ(NamesElsewhere().join(u' '),
-        QStringLiteral("1|gaNaoXa 2|gaNaoXa 1|Xyaama 1|gaNaoXa 2|gaNaoXa 1|gaNaoXa|raoK 1|raoK|gaNaoXa "
-                       "2|gaNaoXa|raoK 2|raoK|gaNaoXa"));
-    EXPECT_EQ(One(QStringLiteral("select MemberName from MembersMaster where MemberNo=1")),
-        QStringLiteral("gaNaoXa"));
+        "1|gaNaoXa 2|gaNaoXa 1|Xyaama 1|gaNaoXa 2|gaNaoXa 1|gaNaoXa|raoK 1|raoK|gaNaoXa "
+        "2|gaNaoXa|raoK 2|raoK|gaNaoXa");
+    EXPECT_EQ(One("select MemberName from MembersMaster where MemberNo=1"), "gaNaoXa");
 }
 
 TEST_F(MembersModifyTest, AnUnchangedNameIsWrittenEverywhereAgain)
 {
-    Run(QStringLiteral("update MembersMaster set MemberName='rama ' where MemberNo=1"));
-    AddEntriesOf(QStringLiteral("rama "));
+    Run("update MembersMaster set MemberName='rama ' where MemberNo=1");
+    AddEntriesOf("rama ");
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
         Type(clerk, "%s%h");
     });
     EXPECT_EQ(NamesElsewhere().join(u' '),
-        QStringLiteral("1|rama 2|rama 1|rama 2|rama 1|rama|raoK 1|raoK|rama 2|rama|raoK 2|raoK|rama"));
+        "1|rama 2|rama 1|rama 2|rama 1|rama|raoK 1|raoK|rama 2|rama|raoK 2|raoK|rama");
 }
 
 TEST_F(MembersModifyTest, AFailureInTheLastRenameLeavesEverythingAsItWas)
 {
-    AddEntriesOf(QStringLiteral("rama"));
+    AddEntriesOf("rama");
     const QStringList before = NamesElsewhere();
-    gCn.RunScript(QStringLiteral("drop table TransactionsMaster"));
-    gCn.RunScript(QStringLiteral("create table TransactionsMaster(CompanyId INTEGER,DAccountName TEXT)"));
-    Run(QStringLiteral("insert into TransactionsMaster(CompanyId,DAccountName) values(1,'rama')"));
+    gCn.RunScript("drop table TransactionsMaster");
+    gCn.RunScript("create table TransactionsMaster(CompanyId INTEGER,DAccountName TEXT)");
+    Run("insert into TransactionsMaster(CompanyId,DAccountName) values(1,'rama')");
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
         Type(clerk, "gaNaoXa{ENTER}%s%h");
     });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Statement(),
-        QStringLiteral("Update TransactionsMaster Set CAccountName='gaNaoXa' Where CAccountName='rama'"));
-    EXPECT_EQ(
-        One(QStringLiteral("select MemberName from MembersMaster where MemberNo=1")), QStringLiteral("rama"));
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,MemberName from MilkCollections")), before.mid(0, 2));
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,MemberName from MilkPayments")), before.mid(2, 2));
-    EXPECT_EQ(One(QStringLiteral("select DAccountName from TransactionsMaster")), QStringLiteral("rama"));
+        "Update TransactionsMaster Set CAccountName='gaNaoXa' Where CAccountName='rama'");
+    EXPECT_EQ(One("select MemberName from MembersMaster where MemberNo=1"), "rama");
+    EXPECT_EQ(Rows("select CompanyId,MemberName from MilkCollections"), before.mid(0, 2));
+    EXPECT_EQ(Rows("select CompanyId,MemberName from MilkPayments"), before.mid(2, 2));
+    EXPECT_EQ(One("select DAccountName from TransactionsMaster"), "rama");
 }
 
 TEST_F(MembersModifyTest, AnApostropheInTheNewNameEndsTheProgramAndLeavesTheBooksAsTheyWere)
 {
-    AddEntriesOf(QStringLiteral("rama"));
+    AddEntriesOf("rama");
     const QStringList before = NamesElsewhere();
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
@@ -249,8 +242,7 @@ TEST_F(MembersModifyTest, AnApostropheInTheNewNameEndsTheProgramAndLeavesTheBook
     });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
-    EXPECT_EQ(
-        One(QStringLiteral("select MemberName from MembersMaster where MemberNo=1")), QStringLiteral("rama"));
+    EXPECT_EQ(One("select MemberName from MembersMaster where MemberNo=1"), "rama");
     EXPECT_EQ(NamesElsewhere(), before);
 }
 

@@ -12,10 +12,10 @@ protected:
         AddCollection(1, rama, 10);
         AddPayment(1, rama, 10);
         AddUchal(1, 10);
-        AddReceipt(1, QStringLiteral("Uchal Receipt"), 10);
-        AddDeduction(1, QStringLiteral("gaaya zova"), 10);
+        AddReceipt(1, "Uchal Receipt", 10);
+        AddDeduction(1, "gaaya zova", 10);
         AddVoucher(rama, rama);
-        gCn.RunScript(QStringLiteral("create table Written(Turn integer primary key,What text)"));
+        gCn.RunScript("create table Written(Turn integer primary key,What text)");
     }
 
     // Notes each of these events ("delete on T") down from now on.
@@ -28,25 +28,25 @@ protected:
                               .arg(events[at]));
     }
 
-    QStringList Written() { return Rows(QStringLiteral("select What from Written order by Turn")); }
+    QStringList Written() { return Rows("select What from Written order by Turn"); }
 };
 
 const QStringList Renames = {
-    QStringLiteral("update of MemberName on MembersMaster"),
-    QStringLiteral("update of MemberName on MilkCollections"),
-    QStringLiteral("update of MemberName on MilkPayments"),
-    QStringLiteral("update of DAccountName on TransactionsMaster"),
-    QStringLiteral("update of CAccountName on TransactionsMaster"),
+    "update of MemberName on MembersMaster",
+    "update of MemberName on MilkCollections",
+    "update of MemberName on MilkPayments",
+    "update of DAccountName on TransactionsMaster",
+    "update of CAccountName on TransactionsMaster",
 };
 
 const QStringList Deletes = {
-    QStringLiteral("delete on MembersMaster"),
-    QStringLiteral("delete on MilkCollections"),
-    QStringLiteral("delete on MilkPayments"),
-    QStringLiteral("delete on TransactionsMaster"),
-    QStringLiteral("delete on TransactionsDetails"),
-    QStringLiteral("delete on AdvanceReceipt"),
-    QStringLiteral("delete on MilkPaymentsDetails"),
+    "delete on MembersMaster",
+    "delete on MilkCollections",
+    "delete on MilkPayments",
+    "delete on TransactionsMaster",
+    "delete on TransactionsDetails",
+    "delete on AdvanceReceipt",
+    "delete on MilkPaymentsDetails",
 };
 
 // At the last opening field of a new or a called-up member.
@@ -54,10 +54,10 @@ void ExpectSaveAfter(Clerk& clerk, const QString& lastField, const QString& save
 {
     GoTo(clerk, lastField);
     ASSERT_EQ(clerk.Focus(), lastField);
-    clerk.Type(QStringLiteral("5{ENTER}"));
+    clerk.Type("5{ENTER}");
     EXPECT_EQ(clerk.Focus(), saveButton);
-    EXPECT_EQ(clerk.Reads(lastField), QStringLiteral("5.00"));
-    EXPECT_EQ(clerk.Reads(saveButton), QStringLiteral("&saovh")) << "the mode goes on";
+    EXPECT_EQ(clerk.Reads(lastField), "5.00");
+    EXPECT_EQ(clerk.Reads(saveButton), "&saovh") << "the mode goes on";
     EXPECT_EQ(clerk.Message(), QString()) << "nothing is saved yet";
 }
 
@@ -110,20 +110,20 @@ TEST_F(MembersOrderTest, LeavingTheLastOpeningFieldGivesTheFocusToSave)
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        ExpectSaveAfter(clerk, QStringLiteral("txtBuffOpeningThev"), QStringLiteral("cmdModify"));
+        ExpectSaveAfter(clerk, "txtBuffOpeningThev", "cmdModify");
     });
     Play([](Clerk& clerk) {
         Type(clerk, "{ENTER}");
-        ExpectSaveAfter(clerk, QStringLiteral("txtBuffOpeningThev"), QStringLiteral("cmdNew"));
+        ExpectSaveAfter(clerk, "txtBuffOpeningThev", "cmdNew");
     });
 }
 
 TEST_F(MembersOrderTest, ACowMembersLastOpeningFieldIsTheCowsDeposit)
 {
-    Run(QStringLiteral("update MembersMaster set Animal='gaaya'"));
+    Run("update MembersMaster set Animal='gaaya'");
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        ExpectSaveAfter(clerk, QStringLiteral("txtCowOpeningThev"), QStringLiteral("cmdModify"));
+        ExpectSaveAfter(clerk, "txtCowOpeningThev", "cmdModify");
     });
 }
 
@@ -131,15 +131,15 @@ TEST_F(MembersOrderTest, SteppingBackFromTheLastOpeningFieldLeadsToTheFieldBefor
 {
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        GoTo(clerk, QStringLiteral("txtBuffOpeningThev"));
+        GoTo(clerk, "txtBuffOpeningThev");
         Type(clerk, "5+{TAB}");
         EXPECT_EQ(Focus(clerk), "txtCowOpeningThev");
         EXPECT_EQ(Reads(clerk, "txtBuffOpeningThev"), "5.00");
     });
-    Run(QStringLiteral("update MembersMaster set Animal='gaaya'"));
+    Run("update MembersMaster set Animal='gaaya'");
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        GoTo(clerk, QStringLiteral("txtCowOpeningThev"));
+        GoTo(clerk, "txtCowOpeningThev");
         Type(clerk, "+{TAB}");
         EXPECT_EQ(Focus(clerk), "txtOpeningUchal");
     });

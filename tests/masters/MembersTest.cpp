@@ -61,10 +61,10 @@ void TypeEach(Clerk& clerk, const QStringList& keys)
 void FillNewMember(Clerk& clerk, const QString& name, const QString& animalKey)
 {
     const QString asItIs;
-    clerk.Type(QStringLiteral("{ENTER}"));
-    TypeEach(clerk, {asItIs, Typed(name), asItIs, asItIs, animalKey, QStringLiteral("1")});
-    for (int field = 0; field < 7 && clerk.Focus() != QStringLiteral("cmdNew"); ++field)
-        clerk.Type(QStringLiteral("{ENTER}"));
+    clerk.Type("{ENTER}");
+    TypeEach(clerk, {asItIs, Typed(name), asItIs, asItIs, animalKey, "1"});
+    for (int field = 0; field < 7 && clerk.Focus() != "cmdNew"; ++field)
+        clerk.Type("{ENTER}");
 }
 
 void CallUp(Clerk& clerk, int number)
@@ -75,11 +75,11 @@ void CallUp(Clerk& clerk, int number)
 void GoTo(Clerk& clerk, const QString& field)
 {
     clerk.Press(field);
-    clerk.Type(QStringLiteral("^a"));
+    clerk.Type("^a");
 }
 
 void GoOn(Clerk& clerk, const QString& expected)
 {
     EXPECT_EQ(clerk.Message(), expected);
-    clerk.Type(QStringLiteral("{ENTER}"));
+    clerk.Type("{ENTER}");
 }

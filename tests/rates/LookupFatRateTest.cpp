@@ -13,9 +13,9 @@ class LookupFatRateTest : public SocietyTest {
 protected:
     LookupFatRateTest()
     {
-        Run(QStringLiteral("delete * from FatDates"));
-        AddChart(QStringLiteral("01/04/2007"), QStringLiteral("Fat010407"), 20);
-        AddChart(QStringLiteral("01/07/2007"), QStringLiteral("Fat010707"), 30);
+        Run("delete * from FatDates");
+        AddChart("01/04/2007", "Fat010407", 20);
+        AddChart("01/07/2007", "Fat010707", 30);
     }
 
     // A chart of 4.0, 4.4, 4.5 and 30; a buffalo's rate is 5 more than a cow's.
@@ -49,14 +49,14 @@ TEST_F(LookupFatRateTest, EveryOtherDateGetsTheNewestChartEvenBeforeItBegins)
 
 TEST_F(LookupFatRateTest, ChartsAreWalkedByDateAndNotAsTheyWereEntered)
 {
-    AddChart(QStringLiteral("01/01/2007"), QStringLiteral("Fat010107"), 10);
+    AddChart("01/01/2007", "Fat010107", 10);
     EXPECT_DOUBLE_EQ(RateOn(QDate(2007, 8, 15)), 30.4);
     EXPECT_DOUBLE_EQ(RateOn(QDate(2007, 1, 1)), 10.4);
 }
 
 TEST_F(LookupFatRateTest, AnOnlyChartHoldsForEveryDate)
 {
-    Run(QStringLiteral("delete * from FatDates where FatFileName='Fat010407'"));
+    Run("delete * from FatDates where FatFileName='Fat010407'");
     EXPECT_DOUBLE_EQ(RateOn(QDate(2000, 1, 1)), 30.4);
     EXPECT_DOUBLE_EQ(RateOn(QDate(2030, 1, 1)), 30.4);
 }
@@ -64,15 +64,15 @@ TEST_F(LookupFatRateTest, AnOnlyChartHoldsForEveryDate)
 TEST_F(LookupFatRateTest, AChartSavedMeanwhileIsInForceAtTheNextCall)
 {
     EXPECT_DOUBLE_EQ(RateOn(QDate(2007, 8, 15)), 30.4);
-    AddChart(QStringLiteral("01/08/2007"), QStringLiteral("Fat010807"), 40);
+    AddChart("01/08/2007", "Fat010807", 40);
     EXPECT_DOUBLE_EQ(RateOn(QDate(2007, 8, 15)), 40.4);
-    Run(QStringLiteral("update Fat010807 set CowRate='41.5' where Fat='4'"));
+    Run("update Fat010807 set CowRate='41.5' where Fat='4'");
     EXPECT_DOUBLE_EQ(RateOn(QDate(2007, 8, 15)), 41.5);
 }
 
 TEST_F(LookupFatRateTest, AWholeFatIsFoundWithoutItsDecimal)
 {
-    EXPECT_EQ(One(QStringLiteral("select count(*) from Fat010707 where Fat='4'")), QStringLiteral("1"));
+    EXPECT_EQ(One("select count(*) from Fat010707 where Fat='4'"), "1");
     EXPECT_DOUBLE_EQ(InJuly(4.0).rate, 30.4);
     EXPECT_DOUBLE_EQ(InJuly(30.0).rate, 33.0);
 }
@@ -101,45 +101,45 @@ TEST_F(LookupFatRateTest, AFatBetweenTheRowsOrBeyondThemHasTheRateZero)
 
 TEST_F(LookupFatRateTest, AnAnimalThatIsNeitherWordLeavesTheRateAsItWas)
 {
-    for (const QString& animal : {QStringLiteral("daonhI"), QString(), QStringLiteral("Gaaya")})
+    for (const QString& animal : QStringList{"daonhI", QString(), "Gaaya"})
         EXPECT_EQ(InJuly(4.5, animal).outcome, FatRate::Outcome::Unchanged) << animal.toStdString();
 }
 
 TEST_F(LookupFatRateTest, AMissingRowIsZeroForAnyAnimal)
 {
-    const FatRate found = InJuly(4.2, QStringLiteral("daonhI"));
+    const FatRate found = InJuly(4.2, "daonhI");
     EXPECT_EQ(found.outcome, FatRate::Outcome::Priced);
     EXPECT_EQ(found.rate, 0);
 }
 
 TEST_F(LookupFatRateTest, NoChartsAtAllIsNoChart)
 {
-    Run(QStringLiteral("delete * from FatDates"));
+    Run("delete * from FatDates");
     EXPECT_EQ(InJuly(4.5).outcome, FatRate::Outcome::NoChart);
 }
 
 TEST_F(LookupFatRateTest, AChartWithoutATableNameIsNoChart)
 {
-    Run(QStringLiteral("update FatDates set FatFileName='' where FatFileName='Fat010707'"));
+    Run("update FatDates set FatFileName='' where FatFileName='Fat010707'");
     EXPECT_EQ(InJuly(4.5).outcome, FatRate::Outcome::NoChart);
     EXPECT_EQ(LookupFatRate(QDate(2007, 4, 1), 4.5, Cow).outcome, FatRate::Outcome::Priced);
 }
 
 TEST_F(LookupFatRateTest, AChartWhoseTableIsGoneIsARunTimeError)
 {
-    gCn.RunScript(QStringLiteral("drop table Fat010707"));
+    gCn.RunScript("drop table Fat010707");
     try {
         InJuly(4.5);
         FAIL() << "a missing chart was priced";
     } catch (const RunTimeError& error) {
         EXPECT_EQ(error.Number(), RunTimeError::DatabaseFailure);
-        EXPECT_EQ(error.Statement(), QStringLiteral("select * from Fat010707 where Fat='4.5'"));
+        EXPECT_EQ(error.Statement(), "select * from Fat010707 where Fat='4.5'");
     }
 }
 
 TEST_F(LookupFatRateTest, TheWorkingChartIsNeverRead)
 {
-    Run(QStringLiteral("insert into FatRates(Fat,CowRate,BuffRate) values(4.2,99,99)"));
+    Run("insert into FatRates(Fat,CowRate,BuffRate) values(4.2,99,99)");
     EXPECT_EQ(InJuly(4.2).rate, 0);
 }
 

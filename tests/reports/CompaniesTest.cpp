@@ -23,11 +23,11 @@ protected:
     StatementCompaniesTest()
     {
         InCompany(2, [this] {
-            AddMember(33, QStringLiteral("gaNaoSa"));
+            AddMember(33, "gaNaoSa");
             AddDelivery("13/04/2026", "sakaL", 1, 33, "gaNaoSa", "gaaya", 99, 4, 30);
             AddSale("13/04/2026", "sakaL", 1, "dUQa saMGa", "gaaya", 88, 4, 8.5);
         });
-        AddMember(3, QStringLiteral("gaNaoSa"));
+        AddMember(3, "gaNaoSa");
     }
 
     static void InCompany(int company, const std::function<void()>& action)
@@ -37,15 +37,12 @@ protected:
         gAppState.gCompanyId = before;
     }
 
-    QStringList Staged()
-    {
-        return Rows(QStringLiteral("select CompanyId,MemberNo,LitersM,LitersE from MilkCollectionsME"));
-    }
+    QStringList Staged() { return Rows("select CompanyId,MemberNo,LitersM,LitersE from MilkCollectionsME"); }
 
     // Lets a counter open the screen over what lies in the copy.
     void StageForACounter()
     {
-        Run(QStringLiteral("insert into MilkCollectionsTemp select * from MilkCollections"));
+        Run("insert into MilkCollectionsTemp select * from MilkCollections");
         gAppState.gReportMode = QStringLiteral("ShowMilkCollection");
         On<frmReportMilkPS>([](Clerk& clerk) { EXPECT_EQ(OnTop(clerk), ""); });
         EXPECT_FALSE(Failure);
@@ -57,10 +54,9 @@ TEST_F(StatementCompaniesTest, AMembersStatementHasTheRowsAndTheNumberOfItsOwnCo
     AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
     Type<frmReportMilkPS>(OfTheMember);
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(Staged(), QStringList(QStringLiteral("1|3|10|0")));
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,Liters from MilkCollectionsTemp")),
-        QStringList(QStringLiteral("1|10")));
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId from ReportDates")), QStringList(QStringLiteral("1")));
+    EXPECT_EQ(Staged(), QStringList("1|3|10|0"));
+    EXPECT_EQ(Rows("select CompanyId,Liters from MilkCollectionsTemp"), QStringList("1|10"));
+    EXPECT_EQ(Rows("select CompanyId from ReportDates"), QStringList("1"));
 }
 
 TEST_F(StatementCompaniesTest, ACustomersStatementHasTheSalesOfItsOwnCompany)
@@ -68,28 +64,26 @@ TEST_F(StatementCompaniesTest, ACustomersStatementHasTheSalesOfItsOwnCompany)
     AddSale("13/04/2026", "sakaL", 5, "dUQa saMGa", "gaaya", 10, 4, 8.5);
     Type<frmReportMilkPS>(OfTheCustomer);
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(Staged(), QStringList(QStringLiteral("1|0|10|0")));
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,Liters from MilkSalesTemp")),
-        QStringList(QStringLiteral("1|10")));
+    EXPECT_EQ(Staged(), QStringList("1|0|10|0"));
+    EXPECT_EQ(Rows("select CompanyId,Liters from MilkSalesTemp"), QStringList("1|10"));
 }
 
 TEST_F(StatementCompaniesTest, ACountersCopyMayHoldBothAndItsLinesAreThoseOfTheSelectedOne)
 {
     AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
     StageForACounter();
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,LitersM from MilkCollectionsME")),
-        QStringList(QStringLiteral("1|10")));
+    EXPECT_EQ(Rows("select CompanyId,LitersM from MilkCollectionsME"), QStringList("1|10"));
 }
 
 TEST_F(StatementCompaniesTest, TheDatesAreStagedWhenTheLinesStand)
 {
     AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
-    gCn.RunScript(QStringLiteral("create trigger Watch before insert on ReportDates begin "
-                                 "insert into KapatDetails(MemberNo) "
-                                 "select count(*) from MilkCollectionsME; end"));
+    gCn.RunScript("create trigger Watch before insert on ReportDates begin "
+                  "insert into KapatDetails(MemberNo) "
+                  "select count(*) from MilkCollectionsME; end");
     Type<frmReportMilkPS>(OfTheMember);
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(Rows(QStringLiteral("select MemberNo from KapatDetails")), QStringList(QStringLiteral("1")));
+    EXPECT_EQ(Rows("select MemberNo from KapatDetails"), QStringList("1"));
 }
 
 TEST_F(StatementCompaniesTest, LinesOfNoCompanyAreTidiedAway)
@@ -98,7 +92,7 @@ TEST_F(StatementCompaniesTest, LinesOfNoCompanyAreTidiedAway)
     AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
     Type<frmReportMilkPS>(OfTheMember);
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(One(QStringLiteral("select count(*) from MilkCollectionsTemp")), QStringLiteral("1"));
+    EXPECT_EQ(One("select count(*) from MilkCollectionsTemp"), "1");
     EXPECT_EQ(Staged(), QStringList());
     StageForACounter();
     EXPECT_EQ(Staged(), QStringList());
@@ -134,8 +128,7 @@ TEST_F(MembersCompaniesTest, TheListHasTheMembersOfBothAsRowsOfTheSelectedOne)
 {
     Type<frmReportMembersList>("%i");
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,MemberNo from MembersListReport")),
-        QStringList({QStringLiteral("1|33"), QStringLiteral("1|3")}));
+    EXPECT_EQ(Rows("select CompanyId,MemberNo from MembersListReport"), QStringList({"1|33", "1|3"}));
 }
 
 TEST_F(MembersCompaniesTest, RowsOfNoCompanyAreTidiedAway)
@@ -143,7 +136,7 @@ TEST_F(MembersCompaniesTest, RowsOfNoCompanyAreTidiedAway)
     gAppState.gCompanyId = 0;
     Type<frmReportMembersList>("%i");
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(One(QStringLiteral("select count(*) from MembersListReport")), QStringLiteral("0"));
+    EXPECT_EQ(One("select count(*) from MembersListReport"), "0");
     EXPECT_EQ(TheWindow.Shown.size(), 1U);
 }
 

@@ -50,8 +50,8 @@ TYPED_TEST_SUITE(ReportEscTest, Screens);
 
 TYPED_TEST(ReportEscTest, TheFieldsAreEmptyWhenTheScreenHasClosed)
 {
-    this->AddMember(3, QStringLiteral("gaNaoSa"));
-    this->Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'kraD')"));
+    this->AddMember(3, "gaNaoSa");
+    this->Run("insert into CityMaster(CompanyId,CityName) values(1,'kraD')");
     this->Failure = this->TheClerk.Play(
         [this] {
             typename TypeParam::Screen screen;
@@ -61,7 +61,7 @@ TYPED_TEST(ReportEscTest, TheFieldsAreEmptyWhenTheScreenHasClosed)
         [this](Clerk& clerk) {
             clerk.Type(QString::fromLatin1(TypeParam::Keys));
             EXPECT_EQ(this->Filled(clerk.Top()), TypeParam::Fields);
-            clerk.Type(QStringLiteral("{ESC}"));
+            clerk.Type("{ESC}");
             EXPECT_EQ(clerk.ScreenName(), QString());
         });
     EXPECT_FALSE(this->Failure);

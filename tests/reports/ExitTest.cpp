@@ -19,8 +19,8 @@ TYPED_TEST_SUITE(ReportExitTest, ReportScreens);
 TYPED_TEST(ReportExitTest, TheButtonLeavesTheScreenAndPrintsNothing)
 {
     this->template On<TypeParam>([](Clerk& clerk) {
-        EXPECT_EQ(clerk.Reads(QStringLiteral("cmdExit")), QStringLiteral("&baahor"));
-        clerk.Press(QStringLiteral("cmdExit"));
+        EXPECT_EQ(clerk.Reads("cmdExit"), "&baahor");
+        clerk.Press("cmdExit");
         EXPECT_EQ(clerk.Message(), QString());
         EXPECT_EQ(clerk.ScreenName(), QString());
     });
@@ -31,8 +31,8 @@ TYPED_TEST(ReportExitTest, TheButtonLeavesTheScreenAndPrintsNothing)
 TYPED_TEST(ReportExitTest, TheButtonLeavesTheScreenWhateverStandsInItsFirstField)
 {
     this->template On<TypeParam>([](Clerk& clerk) {
-        clerk.Type(QStringLiteral("3113"));
-        clerk.Press(QStringLiteral("cmdExit"));
+        clerk.Type("3113");
+        clerk.Press("cmdExit");
         EXPECT_EQ(clerk.Message(), QString());
         EXPECT_EQ(clerk.ScreenName(), QString());
     });
@@ -43,11 +43,11 @@ TYPED_TEST(ReportExitTest, ItsKeyLeavesTheScreen)
 {
     this->template On<TypeParam>([](Clerk& clerk) {
         if (std::is_same_v<TypeParam, frmReportMilkPS>)
-            clerk.Type(QStringLiteral("01042026{ENTER}10042026"));
+            clerk.Type("01042026{ENTER}10042026");
         else if (!std::is_same_v<TypeParam, frmReportMembersList>)
-            clerk.Type(QStringLiteral("15042026"));
+            clerk.Type("15042026");
         EXPECT_NE(clerk.ScreenName(), QString());
-        clerk.Type(QStringLiteral("%b"));
+        clerk.Type("%b");
         EXPECT_EQ(clerk.ScreenName(), QString());
     });
     EXPECT_FALSE(this->Failure);

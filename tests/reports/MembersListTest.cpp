@@ -13,26 +13,26 @@ class MembersListTest : public ReportsTest {
 protected:
     MembersListTest()
     {
-        AddMember(1, QStringLiteral("Anata"), QStringLiteral("gaaya"));
-        AddMember(2, QStringLiteral("gaNaoSa"), QStringLiteral("mhOsa"));
-        AddMember(3, QStringLiteral("maaQava"), QStringLiteral("daonhI"));
+        AddMember(1, "Anata", "gaaya");
+        AddMember(2, "gaNaoSa", "mhOsa");
+        AddMember(3, "maaQava", "daonhI");
         for (const char* town : {"kraD", "masaUr"})
             Run(QStringLiteral("update MembersMaster set City='%1' where MemberNo=%2")
                     .arg(QString::fromLatin1(town))
                     .arg(town[0] == 'k' ? 1 : 2));
-        Run(QStringLiteral("delete * from CityMaster"));
+        Run("delete * from CityMaster");
         for (const char* town : {"masaUr", "kraD"})
             Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'%1')")
                     .arg(QString::fromLatin1(town)));
-        Run(QStringLiteral("insert into MembersListReport(CompanyId,MemberNo) values(1,9)"));
+        Run("insert into MembersListReport(CompanyId,MemberNo) values(1,9)");
     }
 
     std::string Staged(const char* keys)
     {
         Type<frmReportMembersList>(keys);
         EXPECT_FALSE(Failure);
-        return Rows(QStringLiteral("select Crieteria,CrieteriaValue,MemberNo,MemberName,City,Animal from "
-                                   "MembersListReport where CompanyId=1"))
+        return Rows("select Crieteria,CrieteriaValue,MemberNo,MemberName,City,Animal from "
+                    "MembersListReport where CompanyId=1")
             .join(u' ')
             .toStdString();
     }
@@ -43,15 +43,15 @@ TEST_F(MembersListTest, TheFullListHoldsAllOfThemUnderNoValue)
     EXPECT_EQ(Staged("%i"),
         "Complete||1|Anata|kraD|gaaya Complete||2|gaNaoSa|masaUr|mhOsa "
         "Complete||3|maaQava||daonhI");
-    EXPECT_TRUE(ReportTexts().contains(QStringLiteral("एकूण सभासद : 3")));
+    EXPECT_TRUE(ReportTexts().contains("एकूण सभासद : 3"));
 }
 
 TEST_F(MembersListTest, AFileOfItIsNamedAfterWhatIsListedAndTheDay)
 {
     Staged("%i");
-    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("15-04-2026"));
+    EXPECT_EQ(TheWindow.Subject(), "15-04-2026");
     Staged("%2{ENTER}masaUr%i");
-    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("मसूर 15-04-2026"));
+    EXPECT_EQ(TheWindow.Subject(), "मसूर 15-04-2026");
 }
 
 TEST_F(MembersListTest, OneAreaHoldsItsOwn)
@@ -69,28 +69,28 @@ TEST_F(MembersListTest, AnAreaThatIsBegunIsTheOneThatTheListStandsAt)
 
 TEST_F(MembersListTest, AnAreaHoldsItsMembersInAnySpelling)
 {
-    AddMember(4, QStringLiteral("rama"), QStringLiteral("gaaya"));
-    AddMember(5, QStringLiteral("saIta"), QStringLiteral("gaaya"));
-    Run(QStringLiteral("update MembersMaster set City='vaaru' where MemberNo=4"));
-    Run(QStringLiteral("update MembersMaster set City='vaa$' where MemberNo=5"));
-    Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'vaa$')"));
+    AddMember(4, "rama", "gaaya");
+    AddMember(5, "saIta", "gaaya");
+    Run("update MembersMaster set City='vaaru' where MemberNo=4");
+    Run("update MembersMaster set City='vaa$' where MemberNo=5");
+    Run("insert into CityMaster(CompanyId,CityName) values(1,'vaa$')");
     EXPECT_EQ(Staged("%2{ENTER}vaaru%i"), "Area|vaa$|5|saIta|vaa$|gaaya Area|vaa$|4|rama|vaaru|gaaya");
 }
 
 TEST_F(MembersListTest, AnApostropheInTheAreaFailsTheListAndNothingIsStaged)
 {
-    const QStringList before = Rows(QStringLiteral("select * from MembersListReport"));
+    const QStringList before = Rows("select * from MembersListReport");
     for (const char* area : {"kr'aD", "kraD'' or ''a''=''a"}) {
         On<frmReportMembersList>([area](Clerk& clerk) {
             clerk.Type(QStringLiteral("%2{ENTER}") + QString::fromLatin1(area));
-            EXPECT_EQ(clerk.Reads(QStringLiteral("ComboArea")), QString::fromLatin1(area));
+            EXPECT_EQ(clerk.Reads("ComboArea"), QString::fromLatin1(area));
             Type(clerk, "%i");
             EXPECT_EQ(OnTop(clerk), "");
         });
         ASSERT_TRUE(Failure) << area;
         EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
         EXPECT_TRUE(Failure->Statement().contains(QString::fromLatin1(area))) << Failure->what();
-        EXPECT_EQ(Rows(QStringLiteral("select * from MembersListReport")), before);
+        EXPECT_EQ(Rows("select * from MembersListReport"), before);
         EXPECT_TRUE(TheWindow.Shown.empty());
     }
 }
@@ -114,8 +114,8 @@ TEST_F(MembersListTest, TheReportGroupsByArea)
 {
     Staged("%2%i");
     const QStringList texts = ReportTexts();
-    EXPECT_TRUE(texts.contains(QStringLiteral("विभाग : ") + Seen(QStringLiteral("kraD"))));
-    EXPECT_EQ(texts.count(QStringLiteral("सभासद : 1")), 3);
+    EXPECT_TRUE(texts.contains(QStringLiteral("विभाग : ") + Seen("kraD")));
+    EXPECT_EQ(texts.count("सभासद : 1"), 3);
 }
 
 TEST_F(MembersListTest, OnlyWhatBelongsToTheChosenListCanBeEntered)
@@ -130,8 +130,8 @@ TEST_F(MembersListTest, OnlyWhatBelongsToTheChosenListCanBeEntered)
         EXPECT_EQ(open(), "0000");
         Type(clerk, "%2");
         EXPECT_EQ(open(), "1000");
-        EXPECT_EQ(dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboArea"))->Items().join(u' '),
-            QStringLiteral("kraD masaUr"));
+        EXPECT_EQ(
+            dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboArea"))->Items().join(u' '), "kraD masaUr");
         Type(clerk, "%3");
         EXPECT_EQ(open(), "0111");
         Type(clerk, "%1{ENTER}");
@@ -144,11 +144,11 @@ TEST_F(MembersListTest, OnlyWhatBelongsToTheChosenListCanBeEntered)
 TEST_F(MembersListTest, TheAreasGuideSaysThatNoneMeansAll)
 {
     On<frmReportMembersList>([](Clerk& clerk) {
-        const auto guide = [&] { return clerk.Top().findChild<QLabel*>(QStringLiteral("lblGuide"))->text(); };
+        const auto guide = [&] { return clerk.Top().findChild<QLabel*>("lblGuide")->text(); };
         EXPECT_EQ(guide(), QString());
         Type(clerk, "%2{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboArea");
-        EXPECT_EQ(guide(), QStringLiteral("रिकामे ठेवल्यास सर्व विभाग"));
+        EXPECT_EQ(guide(), "रिकामे ठेवल्यास सर्व विभाग");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(guide(), QString());
     });
@@ -164,18 +164,18 @@ TEST_F(MembersListTest, TwoRunsGiveTheSame)
 
 TEST_F(MembersListTest, NoMemberAtAllIsAReportThatSaysSo)
 {
-    Run(QStringLiteral("delete * from MembersMaster"));
+    Run("delete * from MembersMaster");
     EXPECT_EQ(Staged("%i"), "");
-    EXPECT_TRUE(ReportTexts().contains(QStringLiteral("सभासद नाहीत.")));
+    EXPECT_TRUE(ReportTexts().contains("सभासद नाहीत."));
 }
 
 TEST_F(MembersListTest, AMissingTemplateEndsTheProgramWithTheStagingDone)
 {
-    RemoveTemplate(QStringLiteral("ReportListMembers.rpt"));
+    RemoveTemplate("ReportListMembers.rpt");
     Type<frmReportMembersList>("%i");
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), RunTimeError::FileNotFound);
-    EXPECT_EQ(Rows(QStringLiteral("select * from MembersListReport")).size(), 3);
+    EXPECT_EQ(Rows("select * from MembersListReport").size(), 3);
 }
 
 }

@@ -19,7 +19,7 @@ protected:
         AddDelivery("15/04/2026", "saMQyaakaL", 1, 3, "gaNaoSa", "gaaya", 3, 5, 30);
         AddDelivery("15/04/2026", "saMQyaakaL", 2, 3, "gaNaoSa", "mhOsa", 4, 8, 40);
         AddDelivery("05/01/2026", "sakaL", 1, 3, "gaNaoSa", "gaaya", 5, 4, 30);
-        Run(QStringLiteral("insert into MilkCollectionsTemp(CompanyId,Liters) values(1,9)"));
+        Run("insert into MilkCollectionsTemp(CompanyId,Liters) values(1,9)");
     }
 
     // The litres that a run has staged.
@@ -27,9 +27,7 @@ protected:
     {
         Type<frmReportMilkCollections>(keys);
         EXPECT_FALSE(Failure);
-        return Rows(QStringLiteral("select Liters from MilkCollectionsTemp order by Liters"))
-            .join(u' ')
-            .toStdString();
+        return Rows("select Liters from MilkCollectionsTemp order by Liters").join(u' ').toStdString();
     }
 };
 
@@ -48,9 +46,9 @@ TEST_F(MilkCollectionsListTest, EachChoiceOfShiftAndAnimalTakesItsRowsOfTheDay)
 TEST_F(MilkCollectionsListTest, AFileOfItIsNamedAfterTheMilkTheShiftAndTheDay)
 {
     Staged("15042026{ENTER}{ENTER}%i");
-    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("15-04-2026"));
+    EXPECT_EQ(TheWindow.Subject(), "15-04-2026");
     Staged("15042026{ENTER}mhOsa{ENTER}%s%i");
-    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("म्हैस सकाळ 15-04-2026"));
+    EXPECT_EQ(TheWindow.Subject(), "म्हैस सकाळ 15-04-2026");
 }
 
 TEST_F(MilkCollectionsListTest, TheDayIsComparedAsText)
@@ -61,8 +59,8 @@ TEST_F(MilkCollectionsListTest, TheDayIsComparedAsText)
 
 TEST_F(MilkCollectionsListTest, TheOtherCompanysRowsOfTheDayAreListedAndThoseOfNoneAreNot)
 {
-    Run(QStringLiteral("update MilkCollections set CompanyId=2 where Liters=1"));
-    Run(QStringLiteral("update MilkCollections set CompanyId=0 where Liters=2"));
+    Run("update MilkCollections set CompanyId=2 where Liters=1");
+    Run("update MilkCollections set CompanyId=0 where Liters=2");
     EXPECT_EQ(Staged("15042026{ENTER}{ENTER}%i"), "1 3 4");
 }
 
@@ -70,7 +68,7 @@ TEST_F(MilkCollectionsListTest, AnEmptyAnimalBecomesBoth)
 {
     On<frmReportMilkCollections>([](Clerk& clerk) {
         EXPECT_EQ(dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboAnimal"))->Items().join(u' '),
-            QStringLiteral("gaaya mhOsa daonhI"));
+            "gaaya mhOsa daonhI");
         Type(clerk, "15042026{ENTER}{ENTER}");
         EXPECT_EQ(Reads(clerk, "ComboAnimal"), "daonhI");
     });
@@ -86,7 +84,7 @@ TEST_F(MilkCollectionsListTest, AnEmptyAnimalBecomesBothStraightFromTheDateToo)
         Type(clerk, "%i");
         EXPECT_EQ(Reads(clerk, "ComboAnimal"), "daonhI");
     });
-    EXPECT_EQ(Rows(QStringLiteral("select Liters from MilkCollectionsTemp")).size(), 4);
+    EXPECT_EQ(Rows("select Liters from MilkCollectionsTemp").size(), 4);
 }
 
 TEST_F(MilkCollectionsListTest, AWordThatIsBegunIsTheOneThatTheListStandsAt)
@@ -97,7 +95,7 @@ TEST_F(MilkCollectionsListTest, AWordThatIsBegunIsTheOneThatTheListStandsAt)
         On<frmReportMilkCollections>([&, keys = typed, expected = word](Clerk& clerk) {
             clerk.Type(QStringLiteral("15042026{ENTER}") + QString::fromLatin1(keys));
             Type(clerk, "{ENTER}");
-            EXPECT_EQ(clerk.Reads(QStringLiteral("ComboAnimal")), QString::fromLatin1(expected)) << keys;
+            EXPECT_EQ(clerk.Reads("ComboAnimal"), QString::fromLatin1(expected)) << keys;
             EXPECT_EQ(Focus(clerk), "OptionBoth") << keys;
         });
         EXPECT_EQ(Staged((std::string("15042026{ENTER}") + typed + "%i").c_str()), liters) << typed;
@@ -122,8 +120,7 @@ TEST_F(MilkCollectionsListTest, AnAnimalThatIsNoneOfTheThreeIsEmptiedAndKeepsThe
         });
         EXPECT_FALSE(Failure) << typed;
     }
-    EXPECT_EQ(
-        Rows(QStringLiteral("select Liters from MilkCollectionsTemp")), QStringList(QStringLiteral("9")));
+    EXPECT_EQ(Rows("select Liters from MilkCollectionsTemp"), QStringList("9"));
 }
 
 TEST_F(MilkCollectionsListTest, TheListOfOneAnimalDoesntSpeakOfTheOther)
@@ -134,16 +131,16 @@ TEST_F(MilkCollectionsListTest, TheListOfOneAnimalDoesntSpeakOfTheOther)
     const auto sums = [this](const char* keys) {
         Type<frmReportMilkCollections>(keys);
         const QStringList texts = ReportTexts();
-        return texts.mid(texts.indexOf(QRegularExpression(QStringLiteral("^एकूण \\(\\d+\\)$"))));
+        return texts.mid(texts.indexOf(QRegularExpression("^एकूण \\(\\d+\\)$")));
     };
     QStringList below = sums("15042026{ENTER}gaaya%i");
     EXPECT_EQ(below.count(cow), 1);
     EXPECT_FALSE(below.contains(buffalo));
-    EXPECT_FALSE(below.contains(QStringLiteral("0.000")));
+    EXPECT_FALSE(below.contains("0.000"));
     below = sums("15042026{ENTER}mhOsa%i");
     EXPECT_EQ(below.count(buffalo), 1);
     EXPECT_FALSE(below.contains(cow));
-    EXPECT_FALSE(below.contains(QStringLiteral("0.000")));
+    EXPECT_FALSE(below.contains("0.000"));
     below = sums("15042026{ENTER}{ENTER}%i");
     EXPECT_TRUE(below.contains(cow));
     EXPECT_TRUE(below.contains(buffalo));
@@ -153,15 +150,15 @@ TEST_F(MilkCollectionsListTest, TheEndOfAListOfOneShiftOrOneAnimalDoesntSpeakOfT
 {
     EXPECT_EQ(Staged("15042026{ENTER}gaaya{ENTER}%k%i"), "3");
     const QStringList texts = ReportTexts();
-    EXPECT_TRUE(texts.contains(QStringLiteral("एकूण (1)")));
-    EXPECT_FALSE(texts.join(u' ').contains(QStringLiteral("दिवस ")));
+    EXPECT_TRUE(texts.contains("एकूण (1)"));
+    EXPECT_FALSE(texts.join(u' ').contains("दिवस "));
 }
 
 TEST_F(MilkCollectionsListTest, ABadDateIsToldAndTakesTheFocusBack)
 {
     On<frmReportMilkCollections>([this](Clerk& clerk) {
         Type(clerk, "3113{ENTER}");
-        EXPECT_EQ(clerk.Message(), QStringLiteral("idnaaMk vyavaisqat Ta[-p kra"));
+        EXPECT_EQ(clerk.Message(), "idnaaMk vyavaisqat Ta[-p kra");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Focus(clerk), "MaskUserDate");
         EXPECT_TRUE(TheWindow.Shown.empty());
@@ -174,38 +171,37 @@ TEST_F(MilkCollectionsListTest, TheReportGroupsByShiftMorningFirstAndWeighsTheFa
 {
     Type<frmReportMilkCollections>("15042026{ENTER}{ENTER}%i");
     const QStringList texts = ReportTexts();
-    const auto morning = texts.indexOf(QStringLiteral("एकूण सकाळ (2)"));
-    const auto evening = texts.indexOf(QStringLiteral("एकूण संध्याकाळ (2)"));
+    const auto morning = texts.indexOf("एकूण सकाळ (2)");
+    const auto evening = texts.indexOf("एकूण संध्याकाळ (2)");
     ASSERT_GE(morning, 0);
     EXPECT_LT(morning, evening);
-    EXPECT_EQ(texts.mid(morning + 1, 3).join(u' '), QStringLiteral("3.000 6.0 110.00"));
-    EXPECT_EQ(texts.mid(evening + 1, 3).join(u' '), QStringLiteral("7.000 6.7 250.00"));
-    const auto day = texts.indexOf(QStringLiteral("एकूण (4)"));
-    EXPECT_EQ(texts.mid(day + 1, 3).join(u' '), QStringLiteral("10.000 6.5 360.00"));
+    EXPECT_EQ(texts.mid(morning + 1, 3).join(u' '), "3.000 6.0 110.00");
+    EXPECT_EQ(texts.mid(evening + 1, 3).join(u' '), "7.000 6.7 250.00");
+    const auto day = texts.indexOf("एकूण (4)");
+    EXPECT_EQ(texts.mid(day + 1, 3).join(u' '), "10.000 6.5 360.00");
 }
 
 TEST_F(MilkCollectionsListTest, AnEmptyListSaysForWhichDateItIsEmpty)
 {
     EXPECT_EQ(Staged("15042026{ENTER}{ENTER}%i"), "1 2 3 4");
-    EXPECT_TRUE(ReportTexts().contains(QStringLiteral("दिनांक 15/04/2026")));
+    EXPECT_TRUE(ReportTexts().contains("दिनांक 15/04/2026"));
     EXPECT_EQ(Staged("16042026{ENTER}{ENTER}%i"), "");
     const QStringList texts = ReportTexts();
-    EXPECT_TRUE(texts.contains(QStringLiteral("दिनांक 16/04/2026")));
-    EXPECT_TRUE(texts.contains(QStringLiteral("दिनांक 16/04/2026 : निवडीप्रमाणे दुधाची नोंद नाही.")));
-    EXPECT_EQ(Rows(QStringLiteral("select * from ReportDates")).size(), 1);
+    EXPECT_TRUE(texts.contains("दिनांक 16/04/2026"));
+    EXPECT_TRUE(texts.contains("दिनांक 16/04/2026 : निवडीप्रमाणे दुधाची नोंद नाही."));
+    EXPECT_EQ(Rows("select * from ReportDates").size(), 1);
 }
 
 TEST_F(MilkCollectionsListTest, AListThatTheChoiceLeavesEmptyDoesntSayThatTheDayHadNoMilk)
 {
-    Run(QStringLiteral("delete from MilkCollections where Liters=3"));
+    Run("delete from MilkCollections where Liters=3");
     for (const char* keys :
         {"15042026{ENTER}gaaya{ENTER}%k%i", "05012026{ENTER}mhOsa%i", "05012026{ENTER}{ENTER}%k%i"}) {
         EXPECT_EQ(Staged(keys), "");
-        const QString empty = ReportTexts().filter(QStringLiteral("नोंद नाही")).join(u'|');
-        EXPECT_TRUE(
-            QRegularExpression(QStringLiteral("^दिनांक (15/04|05/01)/2026 : निवडीप्रमाणे दुधाची नोंद नाही\\.$"))
-                .match(empty)
-                .hasMatch())
+        const QString empty = ReportTexts().filter("नोंद नाही").join(u'|');
+        EXPECT_TRUE(QRegularExpression("^दिनांक (15/04|05/01)/2026 : निवडीप्रमाणे दुधाची नोंद नाही\\.$")
+                        .match(empty)
+                        .hasMatch())
             << empty.toStdString();
     }
 }
@@ -220,11 +216,11 @@ TEST_F(MilkCollectionsListTest, TwoRunsGiveTheSame)
 
 TEST_F(MilkCollectionsListTest, AMissingTemplateEndsTheProgramWithTheStagingDone)
 {
-    RemoveTemplate(QStringLiteral("MilkCollectionsReport.rpt"));
+    RemoveTemplate("MilkCollectionsReport.rpt");
     Type<frmReportMilkCollections>("15042026{ENTER}{ENTER}%i");
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), RunTimeError::FileNotFound);
-    EXPECT_EQ(Rows(QStringLiteral("select Liters from MilkCollectionsTemp")).size(), 4);
+    EXPECT_EQ(Rows("select Liters from MilkCollectionsTemp").size(), 4);
 }
 
 }

@@ -15,11 +15,10 @@ class MilkStatementTest : public ReportsTest {
 protected:
     MilkStatementTest()
     {
-        AddMember(3, QStringLiteral("gaNaoSa"));
-        AddMember(4, QStringLiteral("maaQava"));
-        Run(QStringLiteral(
-            "insert into CustomersMaster(CompanyId,CustomerNo,CustomerName,Animal,CustomerType) "
-            "values(1,1,'dUQa saMGa','daonhI','saMGa ivaËI')"));
+        AddMember(3, "gaNaoSa");
+        AddMember(4, "maaQava");
+        Run("insert into CustomersMaster(CompanyId,CustomerNo,CustomerName,Animal,CustomerType) "
+            "values(1,1,'dUQa saMGa','daonhI','saMGa ivaËI')");
     }
 
     void Report(const char* keys) { Type<frmReportMilkPS>(keys); }
@@ -45,16 +44,16 @@ TEST_F(MilkStatementTest, AMorningAloneHasEveningNoughtsAndADayWithoutMilkHasNoL
     EXPECT_EQ(Staged(),
         Texts({"13/04/2026|3|gaNaoSa|gaaya|10|4|30|300|0|0|0|0|0|0",
             "15/04/2026|3|gaNaoSa|gaaya|0|0|0|0|4.5|4.2|32|144|0|0"}));
-    EXPECT_EQ(Rows(QStringLiteral("select * from ReportDates")), Texts({"1|13/04/2026|15/04/2026"}));
-    EXPECT_TRUE(ReportTexts().contains(Seen(QStringLiteral("gaNaoSa"))));
+    EXPECT_EQ(Rows("select * from ReportDates"), Texts({"1|13/04/2026|15/04/2026"}));
+    EXPECT_TRUE(ReportTexts().contains(Seen("gaNaoSa")));
 }
 
 TEST_F(MilkStatementTest, AFileOfItIsNamedAfterTheMemberAndThePeriod)
 {
     Report(OfTheMember);
-    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("गणेश 13-04-2026 ते 15-04-2026"));
+    EXPECT_EQ(TheWindow.Subject(), "गणेश 13-04-2026 ते 15-04-2026");
     Report("13042026{ENTER}13042026{ENTER}%i");
-    EXPECT_EQ(TheWindow.Subject(), QStringLiteral("13-04-2026"));
+    EXPECT_EQ(TheWindow.Subject(), "13-04-2026");
 }
 
 TEST_F(MilkStatementTest, CowStandsBeforeBuffaloOnEachDayAndBothShiftsInOneLine)
@@ -75,10 +74,10 @@ TEST_F(MilkStatementTest, TheCopyHoldsTheMembersRowsOfTheRangeAndNoOthers)
     AddDelivery("13/04/2026", "sakaL", 2, 4, "maaQava", "gaaya", 3, 4, 30);
     AddDelivery("15/04/2026", "sakaL", 1, 3, "gaNaoSa", "gaaya", 4, 4, 30);
     AddDelivery("16/04/2026", "sakaL", 1, 3, "gaNaoSa", "gaaya", 5, 4, 30);
-    Run(QStringLiteral("insert into MilkSalesTemp(CompanyId,SalesNo) values(1,1)"));
+    Run("insert into MilkSalesTemp(CompanyId,SalesNo) values(1,1)");
     Report(OfTheMember);
-    EXPECT_EQ(Rows(QStringLiteral("select Liters from MilkCollectionsTemp")), Texts({"2", "4"}));
-    EXPECT_EQ(Rows(QStringLiteral("select * from MilkSalesTemp")), QStringList());
+    EXPECT_EQ(Rows("select Liters from MilkCollectionsTemp"), Texts({"2", "4"}));
+    EXPECT_EQ(Rows("select * from MilkSalesTemp"), QStringList());
 }
 
 TEST_F(MilkStatementTest, WithoutRepetitionOnlyTheFirstRowOfAShiftIsTold)
@@ -86,24 +85,24 @@ TEST_F(MilkStatementTest, WithoutRepetitionOnlyTheFirstRowOfAShiftIsTold)
     AddDelivery("13/04/2026", "sakaL", 7, 3, "gaNaoSa", "gaaya", 7, 4, 30);
     AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 5, 4, 30);
     Report(OfTheMember);
-    EXPECT_EQ(Rows(QStringLiteral("select LitersM from MilkCollectionsME")), Texts({"5"}));
+    EXPECT_EQ(Rows("select LitersM from MilkCollectionsME"), Texts({"5"}));
 }
 
 TEST_F(MilkStatementTest, WithRepetitionTheFurtherRowsFollowWithoutSnfUntilNeitherShiftHasOne)
 {
-    Run(QStringLiteral("update AutoSettings set RepeatCollection='haoya'"));
+    Run("update AutoSettings set RepeatCollection='haoya'");
     for (int number : {5, 7, 9})
         AddDelivery("13/04/2026", "sakaL", number, 3, "gaNaoSa", "gaaya", number, 4, 30);
     AddDelivery("13/04/2026", "saMQyaakaL", 2, 3, "gaNaoSa", "gaaya", 2, 4, 30);
     AddDelivery("13/04/2026", "saMQyaakaL", 3, 3, "gaNaoSa", "mhOsa", 3, 7, 40);
     Report(OfTheMember);
-    EXPECT_EQ(Rows(QStringLiteral("select Animal,LitersM,LitersE,SNFM,SNFE from MilkCollectionsME")),
+    EXPECT_EQ(Rows("select Animal,LitersM,LitersE,SNFM,SNFE from MilkCollectionsME"),
         Texts({"gaaya|5|2|0|0", "gaaya|7|0|NULL|NULL", "gaaya|9|0|NULL|NULL", "mhOsa|0|3|0|0"}));
 }
 
 TEST_F(MilkStatementTest, WithRepetitionNumbersOfAnySizeComeToAnEnd)
 {
-    Run(QStringLiteral("update AutoSettings set RepeatCollection='haoya'"));
+    Run("update AutoSettings set RepeatCollection='haoya'");
     for (int number : {1, 2, 3, 4})
         AddDelivery("13/04/2026", "sakaL", number, 3, "gaNaoSa", "gaaya", number, 4, 30);
     for (const auto& [number, large] :
@@ -112,15 +111,15 @@ TEST_F(MilkStatementTest, WithRepetitionNumbersOfAnySizeComeToAnEnd)
                 .arg(QString::fromLatin1(large), QString::fromLatin1(number)));
     Report(OfTheMember);
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(Rows(QStringLiteral("select LitersM from MilkCollectionsME")), Texts({"1", "2", "3", "4"}));
+    EXPECT_EQ(Rows("select LitersM from MilkCollectionsME"), Texts({"1", "2", "3", "4"}));
 }
 
 TEST_F(MilkStatementTest, AMembersLargeNumberIsStagedAsItIs)
 {
-    Run(QStringLiteral("update MembersMaster set MemberNo=3000000000 where MemberNo=3"));
+    Run("update MembersMaster set MemberNo=3000000000 where MemberNo=3");
     AddDelivery("13/04/2026", "sakaL", 1, 3, "gaNaoSa", "gaaya", 10, 4, 30);
     Report(OfTheMember);
-    EXPECT_EQ(Rows(QStringLiteral("select MemberNo from MilkCollectionsME")), Texts({"3000000000"}));
+    EXPECT_EQ(Rows("select MemberNo from MilkCollectionsME"), Texts({"3000000000"}));
 }
 
 TEST_F(MilkStatementTest, ACustomersPurchasesAreStagedInTheMembersShapeWithTheirSnf)
@@ -132,31 +131,30 @@ TEST_F(MilkStatementTest, ACustomersPurchasesAreStagedInTheMembersShapeWithTheir
     Report(OfTheCustomer);
     EXPECT_FALSE(Failure);
     EXPECT_EQ(Staged(), Texts({"13/04/2026|0|dUQa saMGa|gaaya|100|4|40|4000|90|4.1|40|3600|8.5|8.6"}));
-    EXPECT_EQ(Rows(QStringLiteral("select * from MilkCollectionsTemp")), QStringList());
-    EXPECT_TRUE(ReportTexts().contains(QStringLiteral("8.5")));
+    EXPECT_EQ(Rows("select * from MilkCollectionsTemp"), QStringList());
+    EXPECT_TRUE(ReportTexts().contains("8.5"));
 }
 
 TEST_F(MilkStatementTest, WithRepetitionAFurtherSaleIsFoundByItsOwnNumber)
 {
-    Run(QStringLiteral("update AutoSettings set RepeatCollection='haoya'"));
+    Run("update AutoSettings set RepeatCollection='haoya'");
     AddSale("13/04/2026", "sakaL", 1, "dUQa saMGa", "gaaya", 100, 4, 8.5);
     AddSale("13/04/2026", "sakaL", 2, "dUQa saMGa", "gaaya", 50, 4, 8.5);
     Report(OfTheCustomer);
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(
-        Rows(QStringLiteral("select LitersM,SNFM from MilkCollectionsME")), Texts({"100|8.5", "50|NULL"}));
+    EXPECT_EQ(Rows("select LitersM,SNFM from MilkCollectionsME"), Texts({"100|8.5", "50|NULL"}));
 }
 
 TEST_F(MilkStatementTest, TheDatesOfTheRunBeforeAreRemovedBeforeAnyRowIsStaged)
 {
     AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
-    Run(QStringLiteral("insert into ReportDates(CompanyId,FromDate) values(1,'01/01/2026')"));
-    gCn.RunScript(QStringLiteral("create trigger Watch after delete on ReportDates begin "
-                                 "insert into KapatDetails(MemberNo) "
-                                 "select count(*) from MilkCollectionsTemp; end"));
+    Run("insert into ReportDates(CompanyId,FromDate) values(1,'01/01/2026')");
+    gCn.RunScript("create trigger Watch after delete on ReportDates begin "
+                  "insert into KapatDetails(MemberNo) "
+                  "select count(*) from MilkCollectionsTemp; end");
     Report(OfTheMember);
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(Rows(QStringLiteral("select MemberNo from KapatDetails")), Texts({"0"}));
+    EXPECT_EQ(Rows("select MemberNo from KapatDetails"), Texts({"0"}));
     EXPECT_EQ(Staged().size(), 1);
 }
 
@@ -168,7 +166,7 @@ TEST_F(MilkStatementTest, TwoRunsGiveTheSame)
     const QStringList texts = ReportTexts();
     Report(OfTheMember);
     EXPECT_EQ(Staged(), staged);
-    EXPECT_EQ(Rows(QStringLiteral("select * from ReportDates")).size(), 1);
+    EXPECT_EQ(Rows("select * from ReportDates").size(), 1);
     EXPECT_EQ(ReportTexts(), texts);
 }
 
@@ -177,13 +175,13 @@ TEST_F(MilkStatementTest, NoMilkAtAllIsAReportThatSaysSo)
     Report(OfTheMember);
     EXPECT_FALSE(Failure);
     EXPECT_EQ(Staged(), QStringList());
-    EXPECT_TRUE(ReportTexts().contains(QStringLiteral("13/04/2026 ते 15/04/2026 या काळात दुधाची नोंद नाही.")));
+    EXPECT_TRUE(ReportTexts().contains("13/04/2026 ते 15/04/2026 या काळात दुधाची नोंद नाही."));
 }
 
 TEST_F(MilkStatementTest, AMissingTemplateEndsTheProgramWithTheStagingDone)
 {
     AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
-    RemoveTemplate(QStringLiteral("MilkPSReport.rpt"));
+    RemoveTemplate("MilkPSReport.rpt");
     Report(OfTheMember);
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), RunTimeError::FileNotFound);
@@ -193,17 +191,17 @@ TEST_F(MilkStatementTest, AMissingTemplateEndsTheProgramWithTheStagingDone)
 
 TEST_F(MilkStatementTest, ANameWithAnApostropheEndsTheProgramAndChangesNothing)
 {
-    Run(QStringLiteral("insert into MilkCollectionsME(CompanyId,MemberNo) values(1,9)"));
+    Run("insert into MilkCollectionsME(CompanyId,MemberNo) values(1,9)");
     Report("13042026{ENTER}15042026{ENTER}{ENTER}ga'Na%i");
     EXPECT_TRUE(Failure);
-    EXPECT_EQ(Rows(QStringLiteral("select MemberNo from MilkCollectionsME")), Texts({"9"}));
+    EXPECT_EQ(Rows("select MemberNo from MilkCollectionsME"), Texts({"9"}));
 }
 
 TEST_F(MilkStatementTest, ANameThatIsBegunIsTheOneThatTheListStandsAt)
 {
     AddDelivery("13/04/2026", "sakaL", 5, 3, "gaNaoSa", "gaaya", 10, 4, 30);
     for (const char* typed : {"gaNa", "g", " gaNaoSa"}) {
-        Run(QStringLiteral("delete * from MilkCollectionsME"));
+        Run("delete * from MilkCollectionsME");
         On<frmReportMilkPS>([&](Clerk& clerk) {
             clerk.Type(QStringLiteral("13042026{ENTER}15042026{ENTER}{ENTER}") + QString::fromLatin1(typed));
             Type(clerk, "{ENTER}");
@@ -217,18 +215,18 @@ TEST_F(MilkStatementTest, ANameThatIsBegunIsTheOneThatTheListStandsAt)
 
 TEST_F(MilkStatementTest, ANameOfTheListIsNotTakenForTheBeginningOfALongerOne)
 {
-    AddMember(5, QStringLiteral("gaNaoSarava"));
-    AddMember(6, QStringLiteral("gaNa"));
+    AddMember(5, "gaNaoSarava");
+    AddMember(6, "gaNa");
     On<frmReportMilkPS>([](Clerk& clerk) {
         const QString combo = QStringLiteral("ComboAccountName");
         Type(clerk, "13042026{ENTER}15042026{ENTER}{ENTER}gaNaoSa{ENTER}");
-        EXPECT_EQ(clerk.Reads(combo), QStringLiteral("gaNaoSa"));
+        EXPECT_EQ(clerk.Reads(combo), "gaNaoSa");
         Type(clerk, "+{TAB}gaNa +{TAB}");
-        EXPECT_EQ(clerk.Reads(combo), QStringLiteral("gaNa"));
+        EXPECT_EQ(clerk.Reads(combo), "gaNa");
         Type(clerk, "{ENTER}gaNaoSar{ENTER}");
-        EXPECT_EQ(clerk.Reads(combo), QStringLiteral("gaNaoSarava"));
+        EXPECT_EQ(clerk.Reads(combo), "gaNaoSarava");
         Type(clerk, "+{TAB}raja{ENTER}");
-        EXPECT_EQ(clerk.Reads(combo), QStringLiteral("raja")) << "what matches nothing stays";
+        EXPECT_EQ(clerk.Reads(combo), "raja") << "what matches nothing stays";
         Type(clerk, "+{TAB}{BS}{ENTER}");
         EXPECT_EQ(clerk.Reads(combo), QString()) << "and so does nothing";
     });
@@ -283,19 +281,19 @@ TEST_F(MilkStatementTest, ForACounterItStagesItsCopyPrintsNothingAndClosesItself
 {
     AddDelivery("13/04/2026", "sakaL", 1, 3, "gaNaoSa", "gaaya", 10, 4, 30);
     AddDelivery("14/04/2026", "saMQyaakaL", 2, 3, "gaNaoSa", "mhOsa", 6, 8, 50);
-    Run(QStringLiteral("insert into MilkCollectionsTemp select * from MilkCollections"));
-    Run(QStringLiteral("insert into MilkCollectionsME(CompanyId,MemberNo) values(1,9)"));
+    Run("insert into MilkCollectionsTemp select * from MilkCollections");
+    Run("insert into MilkCollectionsME(CompanyId,MemberNo) values(1,9)");
     gAppState.gReportMode = QStringLiteral("ShowMilkCollection");
-    const QStringList dates{QStringLiteral("2|NULL|NULL")};
-    Run(QStringLiteral("insert into ReportDates(CompanyId) values(2)"));
+    const QStringList dates{"2|NULL|NULL"};
+    Run("insert into ReportDates(CompanyId) values(2)");
     On<frmReportMilkPS>([](Clerk& clerk) { EXPECT_EQ(OnTop(clerk), ""); });
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(Rows(QStringLiteral("select * from ReportDates")), dates) << "the range is the counter's";
+    EXPECT_EQ(Rows("select * from ReportDates"), dates) << "the range is the counter's";
     EXPECT_TRUE(TheWindow.Shown.empty());
     EXPECT_EQ(Staged(),
         Texts({"13/04/2026|3|gaNaoSa|gaaya|10|4|30|300|0|0|0|0|0|0",
             "14/04/2026|3|gaNaoSa|mhOsa|0|0|0|0|6|8|50|300|0|0"}));
-    EXPECT_EQ(Rows(QStringLiteral("select * from MilkCollectionsTemp")).size(), 2);
+    EXPECT_EQ(Rows("select * from MilkCollectionsTemp").size(), 2);
     EXPECT_EQ(gAppState.gReportMode, QString());
 }
 

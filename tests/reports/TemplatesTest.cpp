@@ -81,11 +81,11 @@ protected:
     // Whoever reads the PDF finds each word that was placed, whole, and no other.
     void ComparePdfWithItems(Report& report) const
     {
-        const QString pdf = FolderFile(QStringLiteral("read.pdf"));
+        const QString pdf = FolderFile("read.pdf");
         ASSERT_EQ(report.SavePdf(pdf).fault, QString());
         QStringList placed = WordsOf(ReportTexts().join(u' '));
         placed.sort();
-        for (const QStringList& way : {QStringList(), QStringList(QStringLiteral("-layout"))}) {
+        for (const QStringList& way : {QStringList(), QStringList("-layout")}) {
             QStringList words = WordsOf(PdfText(pdf, way));
             words.sort();
             EXPECT_TRUE(words == placed) << Difference(placed, words) << way.join(u' ').toStdString();
@@ -120,8 +120,8 @@ protected:
     void PrintReceipt(const QString& templateName)
     {
         const Recordset row(gCn,
-            QStringLiteral("select * from MilkCollections where CollectionDate=#04/15/2026# and "
-                           "CollectionTime='sakaL' and Animal='mhOsa' order by CollectionNo"));
+            "select * from MilkCollections where CollectionDate=#04/15/2026# and "
+            "CollectionTime='sakaL' and Animal='mhOsa' order by CollectionNo");
         ASSERT_FALSE(row.Eof());
         Run(Sql(u"insert into "
                 u"MilkReceipt(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,"
@@ -139,9 +139,8 @@ protected:
     void PayTheFirstTenDays()
     {
         for (Recordset member(gCn,
-                 QStringLiteral(
-                     "select MemberNo,MemberName,sum(Liters) as Litres,sum(Amount) as Rupees from "
-                     "MilkCollections where CollectionDate<=#04/10/2026# group by MemberNo,MemberName"));
+                 "select MemberNo,MemberName,sum(Liters) as Litres,sum(Amount) as Rupees from "
+                 "MilkCollections where CollectionDate<=#04/10/2026# group by MemberNo,MemberName");
              !member.Eof(); member.MoveNext()) {
             const double amount = member[u"Rupees"].Number();
             const double kapat = 50 * member[u"MemberNo"].Number();
@@ -202,7 +201,7 @@ TEST_F(ShippedTemplatesTest, MilkPSReportShowsAMembersTenDays)
         clerk.Do([&] { dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboAccountName"))->SetText(name); });
         Type(clerk, "%i");
     });
-    CompareWithGolden(QStringLiteral("MilkPSReport"));
+    CompareWithGolden("MilkPSReport");
 }
 
 TEST_F(ShippedTemplatesTest, MilkPSReportShowsACustomersPurchasesInTheSameShape)
@@ -213,40 +212,40 @@ TEST_F(ShippedTemplatesTest, MilkPSReportShowsACustomersPurchasesInTheSameShape)
     }
     On<frmReportMilkPS>(
         [&](Clerk& clerk) { Type(clerk, "01042026{ENTER}10042026{ENTER}{DOWN}{ENTER}dUQa saMGa%i"); });
-    CompareWithGolden(QStringLiteral("MilkPSReport of a customer"));
+    CompareWithGolden("MilkPSReport of a customer");
 }
 
 TEST_F(ShippedTemplatesTest, MilkCollectionsReportShowsADay)
 {
     Type<frmReportMilkCollections>("15042026{ENTER}{ENTER}%i");
-    CompareWithGolden(QStringLiteral("MilkCollectionsReport"));
+    CompareWithGolden("MilkCollectionsReport");
 }
 
 TEST_F(ShippedTemplatesTest, ReportListMembersShowsTheAreas)
 {
     Type<frmReportMembersList>("%2%i");
-    CompareWithGolden(QStringLiteral("ReportListMembers"));
+    CompareWithGolden("ReportListMembers");
 }
 
 TEST_F(ShippedTemplatesTest, ReportListMembersShowsAllOfThem)
 {
     Type<frmReportMembersList>("%i");
-    CompareWithGolden(QStringLiteral("ReportListMembers complete"));
+    CompareWithGolden("ReportListMembers complete");
 }
 
 TEST_F(ShippedTemplatesTest, CashMilkPaymentShowsThoseWhoArePaidInCash)
 {
     PayTheFirstTenDays();
     Type<frmReportPaymentList>("11042026{ENTER}%i");
-    CompareWithGolden(QStringLiteral("CashMilkPayment"));
+    CompareWithGolden("CashMilkPayment");
 }
 
 TEST_F(ShippedTemplatesTest, BankMilkPaymentShowsTheAccounts)
 {
     PayTheFirstTenDays();
-    Run(QStringLiteral("update MembersMaster set BankName='' where MemberNo=11"));
+    Run("update MembersMaster set BankName='' where MemberNo=11");
     Type<frmReportPaymentList>("11042026{ENTER}{DOWN}%i");
-    CompareWithGolden(QStringLiteral("BankMilkPayment"));
+    CompareWithGolden("BankMilkPayment");
 }
 
 }

@@ -41,9 +41,9 @@ private:
 Keys::Places frmAddPlace::KeyPlaces()
 {
     using namespace KeyHints;
-    return {{QStringLiteral("frmAddPlace"), Plain(u"गाव जोडणे"),
+    return {{"frmAddPlace", Plain(u"गाव जोडणे"),
         {Next, Back, Leave, TutorKey(), Save, ExitButton,
-            {QStringLiteral("F5"), Plain(u"किती गावे"), &frmAddPlace::ShowCount}}}};
+            {"F5", Plain(u"किती गावे"), &frmAddPlace::ShowCount}}}};
 }
 
 frmAddPlace::frmAddPlace() : SocietyScreen(KeyPlaces(), Plain(u"गाव जोडणे"))
@@ -104,7 +104,7 @@ void frmAddPlace::LayOut()
 
 class ANewScreenTest : public SocietyTest {
 protected:
-    ANewScreenTest() { Run(QStringLiteral("delete * from CityMaster")); }
+    ANewScreenTest() { Run("delete * from CityMaster"); }
 };
 
 }
@@ -116,10 +116,9 @@ TEST_F(ANewScreenTest, APlaceIsAddedOnceAndTheClerkGoesOnWithTheNext)
         EXPECT_EQ(Focus(clerk), "txtName");
         EXPECT_EQ(Reads(clerk, "txtName"), "");
         Type(clerk, "pauNao%s");
-        EXPECT_EQ(clerk.Message(), QStringLiteral("हे गाव यादीत आहे."));
+        EXPECT_EQ(clerk.Message(), "हे गाव यादीत आहे.");
     });
-    EXPECT_EQ(Rows(QStringLiteral("select CompanyId,CityName from CityMaster")),
-        QStringList(QStringLiteral("1|pauNao")));
+    EXPECT_EQ(Rows("select CompanyId,CityName from CityMaster"), QStringList("1|pauNao"));
     EXPECT_FALSE(Failure);
 }
 
@@ -131,7 +130,7 @@ TEST_F(ANewScreenTest, AnEmptyNameKeepsTheFocusAndEscLeaves)
         Type(clerk, "{ESC}");
         EXPECT_EQ(OnTop(clerk), "");
     });
-    EXPECT_EQ(One(QStringLiteral("select count(*) from CityMaster")), QStringLiteral("0"));
+    EXPECT_EQ(One("select count(*) from CityMaster"), "0");
     EXPECT_FALSE(Failure);
 }
 
@@ -139,7 +138,7 @@ TEST_F(ANewScreenTest, ItsKeyCountsThePlaces)
 {
     On<frmAddPlace>([](Clerk& clerk) {
         Type(clerk, "pauNao%s{F5}");
-        EXPECT_EQ(clerk.Message(), QStringLiteral("यादीत 1 गावे आहेत."));
+        EXPECT_EQ(clerk.Message(), "यादीत 1 गावे आहेत.");
     });
     EXPECT_FALSE(Failure);
 }
@@ -153,7 +152,7 @@ TEST(ANewScreenPageTest, QuotesThisFileWordForWord)
     };
     const QString code = text(NEW_SCREEN);
     static const QRegularExpression block(
-        QStringLiteral("```cpp\\n(.*?)```"), QRegularExpression::DotMatchesEverythingOption);
+        "```cpp\\n(.*?)```", QRegularExpression::DotMatchesEverythingOption);
     int blocks = 0;
     for (auto quotes = block.globalMatch(text(NEW_SCREEN_PAGE)); quotes.hasNext(); ++blocks) {
         const QString quoted = quotes.next().captured(1);

@@ -14,7 +14,7 @@ QMap<QString, QString> Glossary()
 {
     QFile file(QStringLiteral(GLOSSARY));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    static const QRegularExpression row(QStringLiteral("^\\| `([^`]+)` \\| ([^|]+) \\| [^|]+ \\|$"));
+    static const QRegularExpression row("^\\| `([^`]+)` \\| ([^|]+) \\| [^|]+ \\|$");
     QMap<QString, QString> words;
     for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n'))
         if (const auto match = row.match(line); match.hasMatch())

@@ -26,40 +26,38 @@ constexpr std::pair<QStringView, QStringView> Syllables[] = {{u"$", u"ru"}, {u"Ã
 
 TEST_F(NamesTest, AMemberIsFoundByWhatIsRead)
 {
-    AddMember(3, QStringLiteral("maa$tI"));
+    AddMember(3, "maa$tI");
     AddMember(5, QStringView(u"A\u0945D. paaTIla").toString());
-    EXPECT_EQ(NumberOf(QStringLiteral("maarutI")), 3);
-    EXPECT_EQ(NumberOf(QStringLiteral(" maarutI ")), 3);
-    EXPECT_EQ(NumberOf(QStringLiteral("A^D. paaTIla")), 5) << "a letter stored in two pieces";
-    EXPECT_EQ(NumberOf(QStringLiteral("A^D.  paaTIla")), 5);
-    EXPECT_EQ(NumberOf(QStringLiteral("maartI")), 0);
+    EXPECT_EQ(NumberOf("maarutI"), 3);
+    EXPECT_EQ(NumberOf(" maarutI "), 3);
+    EXPECT_EQ(NumberOf("A^D. paaTIla"), 5) << "a letter stored in two pieces";
+    EXPECT_EQ(NumberOf("A^D.  paaTIla"), 5);
+    EXPECT_EQ(NumberOf("maartI"), 0);
 }
 
 TEST_F(NamesTest, OfTwoThatReadTheSameTheOneThatIsSpelledSoIsFound)
 {
-    AddMember(1, QStringLiteral("maarutI"));
-    AddMember(2, QStringLiteral("maa$tI "));
-    EXPECT_EQ(NumberOf(QStringLiteral("maa$tI")), 2);
-    EXPECT_EQ(NumberOf(QStringLiteral("maarutI")), 1);
+    AddMember(1, "maarutI");
+    AddMember(2, "maa$tI ");
+    EXPECT_EQ(NumberOf("maa$tI"), 2);
+    EXPECT_EQ(NumberOf("maarutI"), 1);
 }
 
 TEST_F(NamesTest, ANameOfBlanksIsNobodys)
 {
-    Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo) values(1,9)"));
+    Run("insert into MembersMaster(CompanyId,MemberNo) values(1,9)");
     EXPECT_EQ(NumberOf(QString()), 0);
-    EXPECT_EQ(NumberOf(QStringLiteral("  ")), 0);
+    EXPECT_EQ(NumberOf("  "), 0);
     EXPECT_EQ(NumberOf(QString(QChar(0x200D))), 0);
 }
 
 TEST_F(NamesTest, TheSpellingsOfANameAreItsOwnAndThoseThatReadTheSame)
 {
-    Run(QStringLiteral("delete * from CityMaster"));
+    Run("delete * from CityMaster");
     for (const char* city : {"maa$tI", "kraD", "maarutI", "maa$tI"})
         Run(Sql(u"insert into CityMaster(CompanyId,CityName) values(1,'", QString::fromLatin1(city), u"')"));
-    EXPECT_EQ(SpellingsOf(u"CityMaster", u"CityName", QStringLiteral("maarutI")),
-        QStringList({QStringLiteral("maarutI"), QStringLiteral("maa$tI")}));
-    EXPECT_EQ(SpellingsOf(u"CityMaster", u"CityName", QStringLiteral("gaava")),
-        QStringList(QStringLiteral("gaava")));
+    EXPECT_EQ(SpellingsOf(u"CityMaster", u"CityName", "maarutI"), QStringList({"maarutI", "maa$tI"}));
+    EXPECT_EQ(SpellingsOf(u"CityMaster", u"CityName", "gaava"), QStringList("gaava"));
 }
 
 TEST_F(NamesTest, AnyMemberIsFoundByAnySpellingOfHisName)

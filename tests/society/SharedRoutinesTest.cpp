@@ -40,7 +40,7 @@ using SharedRoutinesTest = SocietyTest;
 
 TEST_F(SharedRoutinesTest, FillComboTakesOneColumnInTheOrderOfTheQuery)
 {
-    Run(QStringLiteral("delete * from CityMaster"));
+    Run("delete * from CityMaster");
     for (const char* city : {"vaa[-", "pauNao", "sataara"})
         Run(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'%1')")
                 .arg(QLatin1String(city)));
@@ -48,8 +48,7 @@ TEST_F(SharedRoutinesTest, FillComboTakesOneColumnInTheOrderOfTheQuery)
         NameCombo& combo = clerk.On<frmProbe>().ComboName;
         clerk.Do(
             [&] { FillCombo(combo, u"CityMaster", u"CityName", u"where CompanyId=1 ORDER BY CityName"); });
-        EXPECT_EQ(combo.Items(),
-            QStringList({QStringLiteral("pauNao"), QStringLiteral("sataara"), QStringLiteral("vaa[-")}));
+        EXPECT_EQ(combo.Items(), QStringList({"pauNao", "sataara", "vaa[-"}));
         clerk.Do([&] { FillCombo(combo, u"CityMaster", u"CityName", u"where CompanyId=2"); });
         EXPECT_TRUE(combo.Items().isEmpty()) << "the list is cleared first";
     });
@@ -82,8 +81,7 @@ TEST_F(SharedRoutinesTest, SelectFieldTextSelectsWhatTheFocusHoldsSoThatTypingRe
 TEST_F(SharedRoutinesTest, F2StartsTheCalculatorOfAppFolderMaximised)
 {
     On<frmProbe>([](Clerk& clerk) { Type(clerk, "{F2}"); });
-    EXPECT_EQ(
-        TheCalculator.Started, QStringList(QStringLiteral("C:\\Tarvel01\\Vetrolan\\calc.EXE maximised")));
+    EXPECT_EQ(TheCalculator.Started, QStringList("C:\\Tarvel01\\Vetrolan\\calc.EXE maximised"));
     EXPECT_TRUE(TheBox.Shown.isEmpty());
 }
 
@@ -91,5 +89,5 @@ TEST_F(SharedRoutinesTest, WithoutAnyCalculatorAPlainMessageSaysSo)
 {
     TheCalculator.There = false;
     On<frmProbe>([](Clerk& clerk) { Type(clerk, "{F2}"); });
-    EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("या संगणकावर कॅलक्युलेटर सापडला नाही.")));
+    EXPECT_EQ(TheBox.Shown, QStringList("या संगणकावर कॅलक्युलेटर सापडला नाही."));
 }

@@ -15,12 +15,12 @@ public:
     {
         using namespace KeyHints;
         return {
-            {QStringLiteral("frmProbe"), Plain(u"a probe"),
+            {"frmProbe", Plain(u"a probe"),
                 {Next, Leave, CalculatorKey(), TutorKey(),
-                    {QStringLiteral("F3"), Plain(u"the screen's own"), &frmProbe::TellScreen}}},
-            {QStringLiteral("frmProbe.txtMemberNo"), Plain(u"its number"),
-                {{QStringLiteral("F3"), Plain(u"the field's own"), &frmProbe::TellField},
-                    {QStringLiteral("↑"), Plain(u"up"), &frmProbe::TellField}}},
+                    {"F3", Plain(u"the screen's own"), &frmProbe::TellScreen}}},
+            {"frmProbe.txtMemberNo", Plain(u"its number"),
+                {{"F3", Plain(u"the field's own"), &frmProbe::TellField},
+                    {"↑", Plain(u"up"), &frmProbe::TellField}}},
         };
     }
 
@@ -41,15 +41,14 @@ private:
     WholeField txtOther{this, "txtOther"};
     Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmProbe::cmdExit_Click};
 
-    void TellScreen() { Told.append(QStringLiteral("screen")); }
-    void TellField() { Told.append(QStringLiteral("field")); }
+    void TellScreen() { Told.append("screen"); }
+    void TellField() { Told.append("field"); }
 };
 
 // One whose strip has neither calculator nor tutor.
 class frmBare final : public SocietyScreen {
 public:
-    frmBare()
-        : SocietyScreen({{QStringLiteral("frmBare"), Plain(u"bare"), {KeyHints::Leave}}}, Plain(u"Bare"))
+    frmBare() : SocietyScreen({{"frmBare", Plain(u"bare"), {KeyHints::Leave}}}, Plain(u"Bare"))
     {
         auto* body = new QVBoxLayout;
         body->addWidget(txtMemberNo.Widget());
@@ -78,7 +77,7 @@ TEST_F(SocietyScreenTest, ItsBandHasTheTitleTheSocietyAndTheYearAndItsLineTheGui
 
 TEST_F(SocietyScreenTest, WithoutACompanyTheBandHasTheTitleAlone)
 {
-    Run(QStringLiteral("delete * from CompanySelected"));
+    Run("delete * from CompanySelected");
     On<frmProbe>([](Clerk& clerk) {
         EXPECT_EQ(Label(clerk, "lblCompanyTitle"), "");
         EXPECT_EQ(Label(clerk, "lblAcYear"), "");

@@ -22,15 +22,13 @@ namespace {
 QStringList WithoutPassword(const QString& folder)
 {
     QStringList arguments = Arguments(folder);
-    arguments.remove(arguments.indexOf(QStringLiteral("--password")), 2);
+    arguments.remove(arguments.indexOf("--password"), 2);
     return arguments;
 }
 
 bool OpensWith(const QString& folder, const char* password)
 {
-    return Shell(folder, QString::fromLatin1(password), QStringLiteral("select count(*) from CityMaster;"))
-               .value(0)
-               .toInt()
+    return Shell(folder, QString::fromLatin1(password), "select count(*) from CityMaster;").value(0).toInt()
         > 0;
 }
 
@@ -130,7 +128,7 @@ private:
 
 class AskedPasswordTest : public testing::Test {
 protected:
-    QString Folder() const { return m_dir.filePath(QStringLiteral("books")); }
+    QString Folder() const { return m_dir.filePath("books"); }
     bool HasBooks() const { return QFile::exists(QDir(Folder()).filePath(DatabaseFileName.toString())); }
 
 private:

@@ -20,19 +20,18 @@ TEST(DemoTest, IsTheSameEveryTime)
     SocietyPlan plan = GoodPlan();
     plan.demo = true;
     MakeSociety(again.path(), plan);
-    const QStringList first = AskDemo(QStringLiteral(".dump"));
-    const QStringList second = Shell(again.path(), plan.password, QStringLiteral(".dump"));
+    const QStringList first = AskDemo(".dump");
+    const QStringList second = Shell(again.path(), plan.password, ".dump");
     EXPECT_GT(first.size(), 5000);
     EXPECT_TRUE(first == second);
 }
 
 TEST(DemoTest, HasFortyMembersWithMarathiNames)
 {
-    const QStringList members = AskDemo(QStringLiteral("select MemberNo,MemberName from MembersMaster;"));
+    const QStringList members = AskDemo("select MemberNo,MemberName from MembersMaster;");
     ASSERT_EQ(members.size(), 40);
     QSet<QString> names;
-    const QRegularExpression threeWords(
-        QStringLiteral("^[\\x{0900}-\\x{097F}]+( [\\x{0900}-\\x{097F}]+){2}$"));
+    const QRegularExpression threeWords("^[\\x{0900}-\\x{097F}]+( [\\x{0900}-\\x{097F}]+){2}$");
     for (qsizetype i = 0; i < members.size(); ++i) {
         const QStringList cells = members[i].split(u'|');
         EXPECT_EQ(cells[0], QString::number(i + 1));
@@ -42,65 +41,56 @@ TEST(DemoTest, HasFortyMembersWithMarathiNames)
         names.insert(seen);
     }
     EXPECT_EQ(names.size(), 40);
-    EXPECT_TRUE(names.contains(QStringLiteral("ज्ञानेश्वर एकनाथ महाडिक")));
+    EXPECT_TRUE(names.contains("ज्ञानेश्वर एकनाथ महाडिक"));
 }
 
 TEST(DemoTest, HasMembersOfEveryKind)
 {
+    EXPECT_EQ(Rows("select Animal,count(*)>=8 from MembersMaster group by Animal order by Animal;"),
+        "daonhI|1\ngaaya|1\nmhOsa|1");
     EXPECT_EQ(
-        Rows(QStringLiteral("select Animal,count(*)>=8 from MembersMaster group by Animal order by Animal;")),
-        QStringLiteral("daonhI|1\ngaaya|1\nmhOsa|1"));
-    EXPECT_EQ(
-        Rows(QStringLiteral("select PaymentType,count(*)>=8 from MembersMaster group by 1 order by 1;")),
-        QStringLiteral("ba^nk|1\nraoK|1"));
-    EXPECT_EQ(Rows(QStringLiteral(
-                  "select count(*) from MembersMaster where (PaymentType='ba^nk')<>(BankName<>'' and "
-                  "BankAccountNo<>'');")),
-        QStringLiteral("0"));
-    EXPECT_EQ(Rows(QStringLiteral(
-                  "select count(*) from MembersMaster where City not in (select CityName from "
-                  "CityMaster) or (BankName<>'' and BankName not in (select BankName from BankMaster));")),
-        QStringLiteral("0"));
-    EXPECT_EQ(Rows(QStringLiteral("select count(*)-count(distinct CityName) from CityMaster;")),
-        QStringLiteral("0"));
+        Rows("select PaymentType,count(*)>=8 from MembersMaster group by 1 order by 1;"), "ba^nk|1\nraoK|1");
+    EXPECT_EQ(Rows("select count(*) from MembersMaster where (PaymentType='ba^nk')<>(BankName<>'' and "
+                   "BankAccountNo<>'');"),
+        "0");
+    EXPECT_EQ(Rows("select count(*) from MembersMaster where City not in (select CityName from "
+                   "CityMaster) or (BankName<>'' and BankName not in (select BankName from BankMaster));"),
+        "0");
+    EXPECT_EQ(Rows("select count(*)-count(distinct CityName) from CityMaster;"), "0");
 }
 
 TEST(DemoTest, HasLocalAndFederationCustomers)
 {
-    EXPECT_EQ(Rows(QStringLiteral("select CustomerType,count(*) from CustomersMaster group by CustomerType "
-                                  "order by CustomerType;")),
-        QStringLiteral("saMGa ivaËI|2\nsqaainak ivaËI|4"));
-    EXPECT_EQ(Rows(QStringLiteral(
-                  "select count(*) from CustomersMaster c join AccountsMaster a on "
-                  "a.AccountName=c.CustomerName where a.GroupCode='Debtors' and a.Category='saMGa';")),
-        QStringLiteral("2"));
+    EXPECT_EQ(Rows("select CustomerType,count(*) from CustomersMaster group by CustomerType "
+                   "order by CustomerType;"),
+        "saMGa ivaËI|2\nsqaainak ivaËI|4");
+    EXPECT_EQ(Rows("select count(*) from CustomersMaster c join AccountsMaster a on "
+                   "a.AccountName=c.CustomerName where a.GroupCode='Debtors' and a.Category='saMGa';"),
+        "2");
 }
 
 TEST(DemoTest, RunsThroughAprilAndMayTwiceADay)
 {
-    EXPECT_EQ(
-        Rows(QStringLiteral("select min(CollectionDate),max(CollectionDate),count(distinct CollectionDate||"
-                            "CollectionTime) from MilkCollections;")),
-        QStringLiteral("2026-04-01|2026-05-31|122"));
-    EXPECT_EQ(Rows(QStringLiteral("select distinct CollectionTime from MilkCollections order by 1;")),
-        QStringLiteral("saMQyaakaL\nsakaL"));
+    EXPECT_EQ(Rows("select min(CollectionDate),max(CollectionDate),count(distinct CollectionDate||"
+                   "CollectionTime) from MilkCollections;"),
+        "2026-04-01|2026-05-31|122");
+    EXPECT_EQ(Rows("select distinct CollectionTime from MilkCollections order by 1;"), "saMQyaakaL\nsakaL");
 }
 
 TEST(DemoTest, NumbersRunThroughEachShift)
 {
-    EXPECT_EQ(
-        Rows(QStringLiteral("select count(*) from (select min(CollectionNo) a,max(CollectionNo) b,count(*) n,"
-                            "count(distinct CollectionNo) d from MilkCollections group by CollectionDate,"
-                            "CollectionTime) where a<>1 or b<>n or d<>n or n<30;")),
-        QStringLiteral("0"));
+    EXPECT_EQ(Rows("select count(*) from (select min(CollectionNo) a,max(CollectionNo) b,count(*) n,"
+                   "count(distinct CollectionNo) d from MilkCollections group by CollectionDate,"
+                   "CollectionTime) where a<>1 or b<>n or d<>n or n<30;"),
+        "0");
 }
 
 TEST(DemoTest, EachDeliveryIsPricedAsTheCounterWould)
 {
-    const QStringList rows = AskDemo(QStringLiteral(
+    const QStringList rows = AskDemo(
         "select c.Liters,c.Fat,c.Rate,c.Amount,case c.Animal when 'gaaya' then f.CowRate when 'mhOsa' then "
         "f.BuffRate end from MilkCollections c left join Fat010426 f on f.Fat=rtrim(rtrim(cast(c.Fat as "
-        "text),'0'),'.');"));
+        "text),'0'),'.');");
     ASSERT_GT(rows.size(), 4000);
     for (const QString& row : rows) {
         const QStringList cells = row.split(u'|');
@@ -117,23 +107,21 @@ TEST(DemoTest, EachDeliveryIsPricedAsTheCounterWould)
 
 TEST(DemoTest, MembersBringWhatTheirAnimalsGiveOnceAShift)
 {
-    EXPECT_EQ(Rows(QStringLiteral(
-                  "select count(*) from MilkCollections c join MembersMaster m using (MemberNo) where "
-                  "m.MemberName<>c.MemberName or m.Animal not in ('daonhI',c.Animal);")),
-        QStringLiteral("0"));
-    EXPECT_EQ(
-        Rows(QStringLiteral("select count(*) from (select 1 from MilkCollections group by CollectionDate,"
-                            "CollectionTime,MemberNo,Animal having count(*)>1);")),
-        QStringLiteral("0"));
+    EXPECT_EQ(Rows("select count(*) from MilkCollections c join MembersMaster m using (MemberNo) where "
+                   "m.MemberName<>c.MemberName or m.Animal not in ('daonhI',c.Animal);"),
+        "0");
+    EXPECT_EQ(Rows("select count(*) from (select 1 from MilkCollections group by CollectionDate,"
+                   "CollectionTime,MemberNo,Animal having count(*)>1);"),
+        "0");
 }
 
 TEST(DemoTest, ClosingLitresAreTheOpeningAndTheDeliveries)
 {
-    const QStringList rows = AskDemo(QStringLiteral(
+    const QStringList rows = AskDemo(
         "select CowOpeningLits,CowClosingLits,(select total(Liters) from MilkCollections c where "
         "c.MemberNo=m.MemberNo and c.Animal='gaaya'),BuffOpeningLits,BuffClosingLits,(select total(Liters) "
         "from "
-        "MilkCollections c where c.MemberNo=m.MemberNo and c.Animal='mhOsa') from MembersMaster m;"));
+        "MilkCollections c where c.MemberNo=m.MemberNo and c.Animal='mhOsa') from MembersMaster m;");
     ASSERT_EQ(rows.size(), 40);
     for (const QString& row : rows) {
         const QStringList cells = row.split(u'|');
@@ -146,21 +134,19 @@ TEST(DemoTest, ClosingLitresAreTheOpeningAndTheDeliveries)
 
 TEST(DemoTest, BalancesStandAsOpenedBecauseThePaymentPostsThem)
 {
-    EXPECT_EQ(Rows(QStringLiteral("select PurchaseEntry from AutoSettings;")), QStringLiteral("Payment"));
-    EXPECT_EQ(
-        Rows(QStringLiteral("select count(*) from MembersMaster where ClosingBalance<>OpeningBalance or "
-                            "ClosingDorC<>OpeningDorC or OpeningDorC not in ('C','D') or OpeningBalance<0;")),
-        QStringLiteral("0"));
-    EXPECT_EQ(Rows(QStringLiteral("select count(*)>5 from MembersMaster where OpeningBalance>0;")),
-        QStringLiteral("1"));
+    EXPECT_EQ(Rows("select PurchaseEntry from AutoSettings;"), "Payment");
+    EXPECT_EQ(Rows("select count(*) from MembersMaster where ClosingBalance<>OpeningBalance or "
+                   "ClosingDorC<>OpeningDorC or OpeningDorC not in ('C','D') or OpeningBalance<0;"),
+        "0");
+    EXPECT_EQ(Rows("select count(*)>5 from MembersMaster where OpeningBalance>0;"), "1");
 }
 
 TEST(DemoTest, ClocksAreInTheCountersForm)
 {
-    const QStringList clocks = AskDemo(QStringLiteral(
-        "select distinct ActualCollectionTime from MilkCollections order by ActualCollectionTime;"));
+    const QStringList clocks =
+        AskDemo("select distinct ActualCollectionTime from MilkCollections order by ActualCollectionTime;");
     EXPECT_GT(clocks.size(), 40);
-    const QRegularExpression form(QStringLiteral("^[6-8]\\.[0-5][0-9]$"));
+    const QRegularExpression form("^[6-8]\\.[0-5][0-9]$");
     for (const QString& clock : clocks)
         EXPECT_TRUE(form.match(clock).hasMatch()) << clock.toStdString();
 }

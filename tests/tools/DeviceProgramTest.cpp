@@ -47,7 +47,7 @@ protected:
         return QString::fromUtf8(m_program.readLine()).trimmed();
     }
 
-    QString Link() const { return m_folder.filePath(QStringLiteral("COM1")); }
+    QString Link() const { return m_folder.filePath("COM1"); }
 
     QTemporaryDir m_folder;
     QProcess m_program;
@@ -67,9 +67,9 @@ TEST_F(DeviceProgramTest, PlaysOnALinkUntilItIsEnded)
 
 TEST_F(DeviceProgramTest, ALinkThatIsThereIsLeftAlone)
 {
-    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/null"), Link()));
+    ASSERT_TRUE(QFile::link("/dev/null", Link()));
     EXPECT_TRUE(Refusal(Words({"ELECTRO", "--link"}) << Link()).contains(Link()));
-    EXPECT_EQ(QFileInfo(Link()).symLinkTarget(), QStringLiteral("/dev/null"));
+    EXPECT_EQ(QFileInfo(Link()).symLinkTarget(), "/dev/null");
 }
 
 TEST_F(DeviceProgramTest, WrongUseIsRefusedWithASentence)

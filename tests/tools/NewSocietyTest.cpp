@@ -38,7 +38,7 @@ SocietyPlan Replacing()
 class NewSocietyTest : public testing::Test {
 protected:
     QTemporaryDir m_dir;
-    QString Folder() const { return m_dir.filePath(QStringLiteral("books")); }
+    QString Folder() const { return m_dir.filePath("books"); }
     QString File(QStringView name) const { return QDir(Folder()).filePath(name.toString()); }
 };
 
@@ -55,7 +55,7 @@ TEST_F(NewSocietyTest, BeginsTheWeekInWhichItsPagesAreKnownToBeSound)
 TEST_F(NewSocietyTest, HasADatabaseAPasswordABackupFolderTheTemplatesANoteOfSoundPagesAndNothingElse)
 {
     MakeSociety(Folder(), GoodPlan());
-    EXPECT_EQ(BooksIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+    EXPECT_EQ(BooksIn(Folder()).join(u' '), "Backup Morvelta.mdb PWD.TXT");
     EXPECT_TRUE(QFile::exists(File(u"Checked.txt")));
     EXPECT_EQ(FilesIn(Folder()).size() - BooksIn(Folder()).size(),
         static_cast<int>(Delivered::Templates().size()) + 1);
@@ -66,8 +66,8 @@ TEST_F(NewSocietyTest, OpensInTheStockShellWithThePasswordAndWithNoOther)
 {
     MakeSociety(Folder(), GoodPlan());
     const QString count = QStringLiteral("select count(*) from MembersMaster; pragma integrity_check;");
-    EXPECT_EQ(Shell(Folder(), GoodPlan().password, count).join(u' '), QStringLiteral("0 ok"));
-    EXPECT_TRUE(FirstLine(Folder(), QStringLiteral("wrong"), count).startsWith(u"Error"));
+    EXPECT_EQ(Shell(Folder(), GoodPlan().password, count).join(u' '), "0 ok");
+    EXPECT_TRUE(FirstLine(Folder(), "wrong", count).startsWith(u"Error"));
     EXPECT_FALSE(FileContent(File(DatabaseFileName)).contains("MembersMaster"));
 }
 
@@ -76,10 +76,10 @@ TEST_F(NewSocietyTest, OpensInTheProgramWithThePasswordOfItsFile)
     SocietyPlan plan = GoodPlan();
     plan.password = QStringLiteral("a=b|(c)!");
     MakeSociety(Folder(), plan);
-    DataSource::Register(QStringLiteral("SetupTest"), File(DatabaseFileName));
+    DataSource::Register("SetupTest", File(DatabaseFileName));
     Connection connection;
     connection.Open(QStringLiteral("dsn=SetupTest;pwd=") % plan.password);
-    const Recordset selected(connection, QStringLiteral("SELECT * FROM CompanySelected"));
+    const Recordset selected(connection, "SELECT * FROM CompanySelected");
     ASSERT_FALSE(selected.Eof());
     EXPECT_EQ(selected[u"AccountingYear"].Text(), plan.year);
     EXPECT_EQ(selected[u"FromDate"].Date(), QDate(2026, 4, 1));
@@ -87,15 +87,13 @@ TEST_F(NewSocietyTest, OpensInTheProgramWithThePasswordOfItsFile)
 
 TEST_F(NewSocietyTest, SurvivesACopyMadeForTests)
 {
-    CopySociety(m_dir.filePath(QStringLiteral("one")), GoodPlan());
-    CopySociety(m_dir.filePath(QStringLiteral("two")), GoodPlan());
-    for (const QString& folder :
-        {m_dir.filePath(QStringLiteral("one")), m_dir.filePath(QStringLiteral("two"))}) {
-        EXPECT_EQ(BooksIn(folder).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
-        EXPECT_EQ(FirstLine(folder, GoodPlan().password, QStringLiteral("select count(*) from rswords;")),
-            QStringLiteral("99"));
+    CopySociety(m_dir.filePath("one"), GoodPlan());
+    CopySociety(m_dir.filePath("two"), GoodPlan());
+    for (const QString& folder : {m_dir.filePath("one"), m_dir.filePath("two")}) {
+        EXPECT_EQ(BooksIn(folder).join(u' '), "Backup Morvelta.mdb PWD.TXT");
+        EXPECT_EQ(FirstLine(folder, GoodPlan().password, "select count(*) from rswords;"), "99");
     }
-    EXPECT_THROW(CopySociety(m_dir.filePath(QStringLiteral("one")), GoodPlan()), RunTimeError);
+    EXPECT_THROW(CopySociety(m_dir.filePath("one"), GoodPlan()), RunTimeError);
 }
 
 TEST_F(NewSocietyTest, AnotherOneIsNotMadeOverIt)
@@ -108,7 +106,7 @@ TEST_F(NewSocietyTest, AnotherOneIsNotMadeOverIt)
     EXPECT_TRUE(HappenedIn(Folder(), other).startsWith(u"There is a society already: "));
     EXPECT_EQ(FileContent(File(DatabaseFileName)), database);
     EXPECT_EQ(FileContent(File(PasswordFileName)), password);
-    EXPECT_EQ(BooksIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+    EXPECT_EQ(BooksIn(Folder()).join(u' '), "Backup Morvelta.mdb PWD.TXT");
 }
 
 TEST_F(NewSocietyTest, ReplacedIsKeptUnderADateAndOpensWithItsOwnPassword)
@@ -116,14 +114,11 @@ TEST_F(NewSocietyTest, ReplacedIsKeptUnderADateAndOpensWithItsOwnPassword)
     MakeSociety(Folder(), GoodPlan());
     MakeSociety(Folder(), Replacing());
     EXPECT_EQ(BooksIn(Folder()).join(u' '),
-        QStringLiteral(
-            "Backup Morvelta-2026-04-01-101530.mdb Morvelta.mdb PWD-2026-04-01-101530.TXT PWD.TXT"));
-    EXPECT_EQ(FirstLine(Folder(), QStringLiteral("another"), QStringLiteral("select count(*) from rswords;")),
-        QStringLiteral("99"));
+        "Backup Morvelta-2026-04-01-101530.mdb Morvelta.mdb PWD-2026-04-01-101530.TXT PWD.TXT");
+    EXPECT_EQ(FirstLine(Folder(), "another", "select count(*) from rswords;"), "99");
     ASSERT_TRUE(QFile::remove(File(DatabaseFileName)));
     ASSERT_TRUE(QFile::rename(File(u"Morvelta-2026-04-01-101530.mdb"), File(DatabaseFileName)));
-    EXPECT_EQ(FirstLine(Folder(), GoodPlan().password, QStringLiteral("select count(*) from rswords;")),
-        QStringLiteral("99"));
+    EXPECT_EQ(FirstLine(Folder(), GoodPlan().password, "select count(*) from rswords;"), "99");
 }
 
 TEST_F(NewSocietyTest, ReplacedTwiceInASecondKeepsBoth)
@@ -132,31 +127,29 @@ TEST_F(NewSocietyTest, ReplacedTwiceInASecondKeepsBoth)
     MakeSociety(Folder(), Replacing());
     MakeSociety(Folder(), Replacing());
     EXPECT_EQ(BooksIn(Folder()).join(u' '),
-        QStringLiteral("Backup Morvelta-2026-04-01-101530-2.mdb Morvelta-2026-04-01-101530.mdb Morvelta.mdb "
-                       "PWD-2026-04-01-101530-2.TXT PWD-2026-04-01-101530.TXT PWD.TXT"));
+        "Backup Morvelta-2026-04-01-101530-2.mdb Morvelta-2026-04-01-101530.mdb Morvelta.mdb "
+        "PWD-2026-04-01-101530-2.TXT PWD-2026-04-01-101530.TXT PWD.TXT");
 }
 
 TEST_F(NewSocietyTest, ReplacedAfterAPowerCutKeepsItsLastWriting)
 {
-    const QString running = m_dir.filePath(QStringLiteral("running"));
+    const QString running = m_dir.filePath("running");
     MakeSociety(running, GoodPlan());
     LeaveAsAfterAPowerCut(running, Folder());
     ASSERT_GT(QFileInfo(File(u"Morvelta.mdb-wal")).size(), 0);
     MakeSociety(Folder(), Replacing());
     EXPECT_FALSE(QFileInfo::exists(File(u"Morvelta.mdb-wal")));
-    EXPECT_EQ(
-        FirstLine(Folder(), QStringLiteral("another"), QStringLiteral("select count(*) from CityMaster;")),
-        QStringLiteral("2"));
+    EXPECT_EQ(FirstLine(Folder(), "another", "select count(*) from CityMaster;"), "2");
     ASSERT_TRUE(QFile::remove(File(DatabaseFileName)));
     ASSERT_TRUE(QFile::rename(File(u"Morvelta-2026-04-01-101530.mdb"), File(DatabaseFileName)));
-    EXPECT_EQ(FirstLine(Folder(), GoodPlan().password,
-                  QStringLiteral("select count(*) from CityMaster where CityName='masaUr';")),
-        QStringLiteral("1"));
+    EXPECT_EQ(
+        FirstLine(Folder(), GoodPlan().password, "select count(*) from CityMaster where CityName='masaUr';"),
+        "1");
 }
 
 TEST_F(NewSocietyTest, ReplacedWithoutItsPasswordTakesItsJournalAlong)
 {
-    const QString running = m_dir.filePath(QStringLiteral("running"));
+    const QString running = m_dir.filePath("running");
     MakeSociety(running, GoodPlan());
     LeaveAsAfterAPowerCut(running, Folder());
     ASSERT_TRUE(QFile::remove(File(PasswordFileName)));
@@ -166,9 +159,7 @@ TEST_F(NewSocietyTest, ReplacedWithoutItsPasswordTakesItsJournalAlong)
     MakeSociety(Folder(), Replacing());
     EXPECT_EQ(FileContent(File(u"Morvelta-2026-04-01-101530.mdb")), database);
     EXPECT_EQ(FileContent(File(u"Morvelta-2026-04-01-101530.mdb-wal")), journal);
-    EXPECT_EQ(
-        FirstLine(Folder(), QStringLiteral("another"), QStringLiteral("select count(*) from CityMaster;")),
-        QStringLiteral("2"));
+    EXPECT_EQ(FirstLine(Folder(), "another", "select count(*) from CityMaster;"), "2");
 }
 
 TEST_F(NewSocietyTest, ReplacedWhenDamagedIsKeptByteForByte)
@@ -180,8 +171,7 @@ TEST_F(NewSocietyTest, ReplacedWhenDamagedIsKeptByteForByte)
     damaged.close();
     MakeSociety(Folder(), Replacing());
     EXPECT_EQ(FileContent(File(u"Morvelta-2026-04-01-101530.mdb")), QByteArray("not a database any more"));
-    EXPECT_EQ(FirstLine(Folder(), QStringLiteral("another"), QStringLiteral("select count(*) from rswords;")),
-        QStringLiteral("99"));
+    EXPECT_EQ(FirstLine(Folder(), "another", "select count(*) from rswords;"), "99");
 }
 
 TEST_F(NewSocietyTest, APasswordFileWithoutADatabaseIsKept)
@@ -205,7 +195,7 @@ TEST_F(NewSocietyTest, LeftoversOfAnInterruptedMakingAreNoHindrance)
         leftover.write("half");
     }
     MakeSociety(Folder(), GoodPlan());
-    EXPECT_EQ(BooksIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+    EXPECT_EQ(BooksIn(Folder()).join(u' '), "Backup Morvelta.mdb PWD.TXT");
 }
 
 TEST_F(NewSocietyTest, WhereNoFolderCanBeNothingIsMade)
@@ -214,7 +204,7 @@ TEST_F(NewSocietyTest, WhereNoFolderCanBeNothingIsMade)
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     inTheWay.close();
     EXPECT_TRUE(HappenedIn(Folder(), GoodPlan()).startsWith(u"Can't make the folder "));
-    EXPECT_EQ(FilesIn(m_dir.path()).join(u' '), QStringLiteral("books"));
+    EXPECT_EQ(FilesIn(m_dir.path()).join(u' '), "books");
 }
 
 TEST_F(NewSocietyTest, WhenTheBackupFolderCannotBeTheOldBooksStayAndNoHalfOnesAreLeft)
@@ -226,7 +216,7 @@ TEST_F(NewSocietyTest, WhenTheBackupFolderCannotBeTheOldBooksStayAndNoHalfOnesAr
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     inTheWay.close();
     EXPECT_THROW(MakeSociety(Folder(), Replacing()), RunTimeError);
-    EXPECT_EQ(BooksIn(Folder()).join(u' '), QStringLiteral("Backup Morvelta.mdb PWD.TXT"));
+    EXPECT_EQ(BooksIn(Folder()).join(u' '), "Backup Morvelta.mdb PWD.TXT");
     EXPECT_EQ(FileContent(File(DatabaseFileName)), database);
 }
 
@@ -273,17 +263,16 @@ TEST_F(NewSocietyTest, LargeHasACanForEveryMemberInEveryShift)
 {
     MakeLargeSociety(Folder(), GoodPlan(), 45, 3);
     EXPECT_EQ(Shell(Folder(), GoodPlan().password,
-                  QStringLiteral(
-                      "select count(*),count(distinct CollectionDate),max(CollectionNo),count(distinct "
-                      "MemberName),max(CollectionDate) from MilkCollections;"
-                      "select count(*) from MilkCollections c left join Fat010426 f on f.Fat=rtrim("
-                      "rtrim(cast(c.Fat as text),'0'),'.') where f.Fat is null or Rate<>case Animal when "
-                      "'gaaya' then f.CowRate else f.BuffRate end+0 or abs(Amount-Liters*Rate)>0.00501;"
-                      "select count(*) from MembersMaster where CowClosingLits+BuffClosingLits<>(select "
-                      "round(sum(Liters),3) from MilkCollections c where c.MemberNo=MembersMaster.MemberNo);"
-                      "pragma integrity_check;"))
+                  "select count(*),count(distinct CollectionDate),max(CollectionNo),count(distinct "
+                  "MemberName),max(CollectionDate) from MilkCollections;"
+                  "select count(*) from MilkCollections c left join Fat010426 f on f.Fat=rtrim("
+                  "rtrim(cast(c.Fat as text),'0'),'.') where f.Fat is null or Rate<>case Animal when "
+                  "'gaaya' then f.CowRate else f.BuffRate end+0 or abs(Amount-Liters*Rate)>0.00501;"
+                  "select count(*) from MembersMaster where CowClosingLits+BuffClosingLits<>(select "
+                  "round(sum(Liters),3) from MilkCollections c where c.MemberNo=MembersMaster.MemberNo);"
+                  "pragma integrity_check;")
                   .join(u'\n'),
-        QStringLiteral("270|3|45|45|2026-04-03\n0\n0\nok"));
+        "270|3|45|45|2026-04-03\n0\n0\nok");
 }
 
 }

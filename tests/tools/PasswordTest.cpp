@@ -39,7 +39,7 @@ TEST(PasswordFileTest, EveryAllowedCharacterSurvives)
 
 TEST(PasswordFileTest, IsPlainAsciiAndDoesNotShowThePassword)
 {
-    const QByteArray file = PasswordFile::Written(QStringLiteral("Gokul#2026"));
+    const QByteArray file = PasswordFile::Written("Gokul#2026");
     for (const char c : file)
         EXPECT_TRUE(static_cast<unsigned char>(c) < 0x7F);
     QByteArray shown = file;
@@ -48,17 +48,15 @@ TEST(PasswordFileTest, IsPlainAsciiAndDoesNotShowThePassword)
 
 TEST(PasswordFileTest, RefusesWhatTheReadingWouldLose)
 {
-    const QStringList refused{QString(), QStringLiteral(" "), QStringLiteral("two words"),
-        QStringLiteral("a'b"), QStringLiteral("a\"b"), QStringLiteral("a,b"), QStringLiteral("a;b"),
-        QStringLiteral("a{b"), QStringLiteral("गोकुळ"), QStringLiteral("caf\u00e9"), QStringLiteral("tab\t"),
-        QString(65, u'x')};
+    const QStringList refused{QString(), " ", "two words", "a'b", "a\"b", "a,b", "a;b", "a{b", "गोकुळ",
+        "caf\u00e9", "tab\t", QString(65, u'x')};
     for (const QString& password : refused)
         EXPECT_NE(PasswordFile::WhyRefused(password), QString()) << password.toStdString();
 }
 
 TEST(PasswordFileTest, HasOneCharacterToALineAndTheKeyLast)
 {
-    EXPECT_EQ(PasswordFile::Written(QStringLiteral("ab1")), QByteArray("\"f\"\n\"g\"\n\"6\"\n\"\x05\"\n"));
+    EXPECT_EQ(PasswordFile::Written("ab1"), QByteArray("\"f\"\n\"g\"\n\"6\"\n\"\x05\"\n"));
 }
 
 // Every character of a password behind the key '!'.
@@ -72,8 +70,8 @@ QStringList Disguised(const QString& password)
 
 TEST(PasswordReadingTest, DropsBlanksAtTheEnds)
 {
-    EXPECT_EQ(PasswordOfItems(Disguised(QStringLiteral("  ab  "))), QStringLiteral("ab"));
-    EXPECT_EQ(PasswordOfItems(Disguised(QStringLiteral("a b"))), QStringLiteral("ab"))
+    EXPECT_EQ(PasswordOfItems(Disguised("  ab  ")), "ab");
+    EXPECT_EQ(PasswordOfItems(Disguised("a b")), "ab")
         << "each character is put to the trimmed ones before it";
 }
 

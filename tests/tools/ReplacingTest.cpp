@@ -32,7 +32,7 @@ QStringList Ask(const QString& database, const QString& password, const QString&
     const QTemporaryDir copy;
     const QString file = copy.filePath(DatabaseFileName.toString());
     if (!QFile::copy(database, file))
-        return {QStringLiteral("Error: no database")};
+        return {"Error: no database"};
     for (const QStringView ending : {u"-wal", u"-journal"})
         QFile::copy(database % ending, file % ending);
     return Shell(copy.path(), password, statements);
@@ -42,17 +42,17 @@ QStringList Ask(const QString& database, const QString& password, const QString&
 bool IsOld(const QString& database, const QString& password)
 {
     return Ask(database, password,
-               QStringLiteral("select count(*) from CityMaster where CityName='masaUr';"
-                              "pragma integrity_check;"))
-        == QStringList{QStringLiteral("1"), QStringLiteral("ok")};
+               "select count(*) from CityMaster where CityName='masaUr';"
+               "pragma integrity_check;")
+        == QStringList{"1", "ok"};
 }
 
 bool IsNew(const QString& database, const QString& password)
 {
     return Ask(database, password,
-               QStringLiteral("select count(*) from CityMaster where CityName='masaUr';"
-                              "select count(*) from rswords; pragma integrity_check;"))
-        == QStringList{QStringLiteral("0"), QStringLiteral("99"), QStringLiteral("ok")};
+               "select count(*) from CityMaster where CityName='masaUr';"
+               "select count(*) from rswords; pragma integrity_check;")
+        == QStringList{"0", "99", "ok"};
 }
 
 // An old society whose last writing is in its log, and another one that is put in its place.
@@ -61,9 +61,9 @@ protected:
     static void SetUpTestSuite()
     {
         s_old = std::make_unique<QTemporaryDir>();
-        const QString running = s_old->filePath(QStringLiteral("running"));
+        const QString running = s_old->filePath("running");
         MakeSociety(running, GoodPlan());
-        LeaveAsAfterAPowerCut(running, s_old->filePath(QStringLiteral("cut")));
+        LeaveAsAfterAPowerCut(running, s_old->filePath("cut"));
     }
     static void TearDownTestSuite() { s_old.reset(); }
 
@@ -73,20 +73,20 @@ protected:
     {
         QDir(Folder()).removeRecursively();
         ASSERT_TRUE(QDir().mkpath(Folder()));
-        const QDir old(s_old->filePath(QStringLiteral("cut")));
+        const QDir old(s_old->filePath("cut"));
         for (const QString& name : old.entryList(QDir::Files))
             ASSERT_TRUE(QFile::copy(old.filePath(name), File(name)));
-        ASSERT_GT(QFileInfo(File(QStringLiteral("Morvelta.mdb-wal"))).size(), 0);
+        ASSERT_GT(QFileInfo(File("Morvelta.mdb-wal")).size(), 0);
     }
 
     void SpoilThePassword() const
     {
-        QFile file(File(QStringLiteral("PWD.TXT")));
+        QFile file(File("PWD.TXT"));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         ASSERT_EQ(file.write("\"\"\n"), 3);
     }
 
-    QString Folder() const { return m_dir.filePath(QStringLiteral("books")); }
+    QString Folder() const { return m_dir.filePath("books"); }
     QString File(const QString& name) const { return QDir(Folder()).filePath(name); }
     QString Database() const { return File(DatabaseFileName.toString()); }
 
@@ -141,8 +141,8 @@ protected:
         SocietyPlan again = Replacing();
         again.now = again.now.addSecs(600);
         MakeSociety(Folder(), again);
-        EXPECT_TRUE(IsNew(Database(), PasswordIn(QStringLiteral("PWD.TXT"))));
-        EXPECT_EQ(PasswordIn(QStringLiteral("PWD.TXT")), NewPassword);
+        EXPECT_TRUE(IsNew(Database(), PasswordIn("PWD.TXT")));
+        EXPECT_EQ(PasswordIn("PWD.TXT"), NewPassword);
         EXPECT_FALSE(QFile::exists(Database() % QStringLiteral("-wal")));
     }
 
@@ -150,7 +150,7 @@ protected:
     bool IsOldKept() const
     {
         bool kept = false;
-        for (const QString& name : QDir(Folder()).entryList({QStringLiteral("Morvelta-*.mdb")}))
+        for (const QString& name : QDir(Folder()).entryList({"Morvelta-*.mdb"}))
             kept = kept || IsOld(File(name), GoodPlan().password);
         return kept;
     }
@@ -171,11 +171,11 @@ TEST_F(ReplacingTest, CutAnywhereItLeavesTheOldSocietyOrTheNewOneAndIsDoneByMaki
         if (!stands) {
             ++none;
             EXPECT_TRUE(IsOld(File(KeptDatabase), PasswordIn(KeptPassword)));
-        } else if (IsOld(Database(), PasswordIn(QStringLiteral("PWD.TXT")))) {
+        } else if (IsOld(Database(), PasswordIn("PWD.TXT"))) {
             ++oldOnes;
         } else {
             ++newOnes;
-            EXPECT_TRUE(IsNew(Database(), PasswordIn(QStringLiteral("PWD.TXT"))));
+            EXPECT_TRUE(IsNew(Database(), PasswordIn("PWD.TXT")));
             EXPECT_TRUE(IsOld(File(KeptDatabase), PasswordIn(KeptPassword)));
         }
         ExpectNewAfterMakingItAgain();
@@ -192,7 +192,7 @@ TEST_F(ReplacingTest, CutAnywhereWithALogThatCannotBeBroughtInItKeepsDatabaseAnd
         const bool isOld = IsOld(Database(), GoodPlan().password);
         EXPECT_TRUE(isOld || IsOld(File(KeptDatabase), GoodPlan().password));
         if (QFile::exists(Database()) && !isOld) {
-            EXPECT_TRUE(IsNew(Database(), PasswordIn(QStringLiteral("PWD.TXT"))));
+            EXPECT_TRUE(IsNew(Database(), PasswordIn("PWD.TXT")));
         }
         ExpectNewAfterMakingItAgain();
         EXPECT_TRUE(IsOldKept());
@@ -221,10 +221,10 @@ TEST_F(ReplacingTest, EveryChangeOfANameIsOnDiskBeforeTheNextIsMade)
 TEST_F(ReplacingTest, TheNewFilesAreOnDiskBeforeTheOldOnesAreTouched)
 {
     const QStringList changes = AllChanges(true);
-    const auto first = changes.indexOf(QRegularExpression(QStringLiteral("^(link|move|remove) .*")));
+    const auto first = changes.indexOf(QRegularExpression("^(link|move|remove) .*"));
     ASSERT_GE(first, 0);
-    EXPECT_TRUE(changes.mid(0, first).contains(QStringLiteral("sync Morvelta.mdb.new")));
-    EXPECT_TRUE(changes.mid(0, first).contains(QStringLiteral("sync PWD.TXT.new")));
+    EXPECT_TRUE(changes.mid(0, first).contains("sync Morvelta.mdb.new"));
+    EXPECT_TRUE(changes.mid(0, first).contains("sync PWD.TXT.new"));
 }
 
 TEST_F(ReplacingTest, AFailureAnywhereIsToldAndLosesNothing)
@@ -240,7 +240,7 @@ TEST_F(ReplacingTest, AFailureAnywhereIsToldAndLosesNothing)
             disk.FailAt = n;
             try {
                 MakeSociety(Folder(), Replacing());
-                copied = disk.Done().filter(QStringLiteral("copy ")).size() == 1;
+                copied = disk.Done().filter("copy ").size() == 1;
                 EXPECT_TRUE(copied) << "only a refused second name can be made up for";
             } catch (const RunTimeError& error) {
                 EXPECT_EQ(error.Number(), RunTimeError::FileAccess);
@@ -249,7 +249,7 @@ TEST_F(ReplacingTest, AFailureAnywhereIsToldAndLosesNothing)
             }
         }
         EXPECT_TRUE(IsOld(Database(), GoodPlan().password) || IsOldKept());
-        EXPECT_EQ(FilesIn(Folder()).filter(QStringLiteral(".new")), QStringList());
+        EXPECT_EQ(FilesIn(Folder()).filter(".new"), QStringList());
     }
 }
 
@@ -271,30 +271,29 @@ TEST_F(ReplacingTest, AFullDiskWhileTheLogIsBroughtInEndsItAndTheOldSocietyStays
     }
     EXPECT_TRUE(failed.contains(u"wal_checkpoint")) << failed.toStdString();
     FaultyDisk::Reset();
-    EXPECT_TRUE(IsOld(Database(), PasswordIn(QStringLiteral("PWD.TXT"))));
+    EXPECT_TRUE(IsOld(Database(), PasswordIn("PWD.TXT")));
     EXPECT_FALSE(QFile::exists(File(KeptDatabase)));
 }
 
 TEST_F(ReplacingTest, APasswordFileThatCannotBeReadEndsItAndTheOldSocietyStays)
 {
-    ASSERT_TRUE(QFile::remove(File(QStringLiteral("PWD.TXT"))));
-    ASSERT_TRUE(QDir(Folder()).mkdir(QStringLiteral("PWD.TXT")));
+    ASSERT_TRUE(QFile::remove(File("PWD.TXT")));
+    ASSERT_TRUE(QDir(Folder()).mkdir("PWD.TXT"));
     EXPECT_THROW(MakeSociety(Folder(), Replacing()), RunTimeError);
     EXPECT_TRUE(IsOld(Database(), GoodPlan().password));
 }
 
 TEST_F(ReplacingTest, ALogLeftWithoutItsDatabaseIsKeptAsideAndNeverReadIntoTheNewBooks)
 {
-    const QByteArray log = FileContent(File(QStringLiteral("Morvelta.mdb-wal")));
+    const QByteArray log = FileContent(File("Morvelta.mdb-wal"));
     ASSERT_TRUE(QFile::remove(Database()));
-    ASSERT_TRUE(QFile::copy(File(QStringLiteral("PWD.TXT")), File(QStringLiteral("Morvelta.mdb-journal"))));
-    ASSERT_TRUE(QFile::copy(File(QStringLiteral("PWD.TXT")), File(QStringLiteral("Morvelta.mdb-shm"))));
+    ASSERT_TRUE(QFile::copy(File("PWD.TXT"), File("Morvelta.mdb-journal")));
+    ASSERT_TRUE(QFile::copy(File("PWD.TXT"), File("Morvelta.mdb-shm")));
     SocietyPlan plan = GoodPlan(); // the password of the log, which could be read with it
     MakeSociety(Folder(), plan);
     EXPECT_EQ(BooksIn(Folder()).join(u' '),
-        QStringList({QStringLiteral("Backup"), KeptDatabase % QStringLiteral("-journal"),
-                        KeptDatabase % QStringLiteral("-wal"), QStringLiteral("Morvelta.mdb"), KeptPassword,
-                        QStringLiteral("PWD.TXT")})
+        QStringList({"Backup", KeptDatabase % QStringLiteral("-journal"),
+                        KeptDatabase % QStringLiteral("-wal"), "Morvelta.mdb", KeptPassword, "PWD.TXT"})
             .join(u' '));
     EXPECT_EQ(FileContent(File(KeptDatabase % QStringLiteral("-wal"))), log);
     EXPECT_TRUE(IsNew(Database(), plan.password));
@@ -308,8 +307,8 @@ TEST_F(ReplacingTest, NothingIsKeptUnderTheDateOfAnOlderLog)
     older.close();
     MakeSociety(Folder(), Replacing());
     EXPECT_FALSE(QFile::exists(File(KeptDatabase)));
-    EXPECT_TRUE(IsOld(File(QStringLiteral("Morvelta-2026-04-01-101530-2.mdb")), GoodPlan().password));
-    EXPECT_TRUE(QFile::exists(File(QStringLiteral("PWD-2026-04-01-101530-2.TXT"))));
+    EXPECT_TRUE(IsOld(File("Morvelta-2026-04-01-101530-2.mdb"), GoodPlan().password));
+    EXPECT_TRUE(QFile::exists(File("PWD-2026-04-01-101530-2.TXT")));
 }
 
 }

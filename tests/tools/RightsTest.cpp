@@ -17,12 +17,9 @@ protected:
     void SetUp() override { m_mask = umask(022); }
     void TearDown() override { umask(m_mask); }
 
-    QString Folder() const { return m_dir.filePath(QStringLiteral("books")); }
+    QString Folder() const { return m_dir.filePath("books"); }
     QString Home() const { return m_dir.path(); }
-    QString ProgramsFolder() const
-    {
-        return m_dir.filePath(QStringLiteral("vetrolan/drive_c/Tarvel01/Vetrolan"));
-    }
+    QString ProgramsFolder() const { return m_dir.filePath("vetrolan/drive_c/Tarvel01/Vetrolan"); }
 
     static QStringList WithoutFolder() { return Arguments({}).mid(0, 6); }
 
@@ -63,7 +60,7 @@ TEST_F(RightsTest, OfANewSocietyAreItsOwnersAlone)
     const Ran run = RunSetup(Arguments(Folder()));
     ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
     EXPECT_EQ(RightsOf(Folder()), mode_t{0700});
-    EXPECT_EQ(RightsOf(QDir(Folder()).filePath(QStringLiteral("Morvelta.mdb"))), mode_t{0600});
+    EXPECT_EQ(RightsOf(QDir(Folder()).filePath("Morvelta.mdb")), mode_t{0600});
     EXPECT_EQ(OpenToOthers(Folder()), QStringList());
 }
 
@@ -76,24 +73,24 @@ TEST_F(RightsTest, OfOlderBooksAreNarrowedWithAllThatLiesWhereTheProgramLooks)
         Give(folder.filePath(QLatin1String(name)), 0644);
     ASSERT_EQ(RunSetup(WithoutFolder() << QStringLiteral("--replace"), Home()).exitCode, 0);
     EXPECT_EQ(RightsOf(folder.path()), mode_t{0700});
-    EXPECT_EQ(folder.entryList({QStringLiteral("Morvelta*.mdb")}).size(), 2);
+    EXPECT_EQ(folder.entryList({"Morvelta*.mdb"}).size(), 2);
     EXPECT_EQ(OpenToOthers(folder.path()), QStringList());
 }
 
 TEST_F(RightsTest, OfWhatElseLiesInANamedFolderStay)
 {
     ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
-    QFile letter(QDir(Folder()).filePath(QStringLiteral("letter.txt")));
+    QFile letter(QDir(Folder()).filePath("letter.txt"));
     ASSERT_TRUE(letter.open(QIODevice::WriteOnly));
     letter.close();
     Give(letter.fileName(), 0644);
     Give(Folder(), 0755);
     for (const char* name : {"Morvelta.mdb", "PWD.TXT"})
         Give(QDir(Folder()).filePath(QLatin1String(name)), 0644);
-    Give(QDir(Folder()).filePath(QStringLiteral("Backup")), 0755);
+    Give(QDir(Folder()).filePath("Backup"), 0755);
     ASSERT_EQ(RunSetup(Arguments(Folder()) << QStringLiteral("--replace")).exitCode, 0);
     EXPECT_EQ(RightsOf(Folder()), mode_t{0755});
-    EXPECT_EQ(OpenToOthers(Folder()), QStringList(QStringLiteral("letter.txt")));
+    EXPECT_EQ(OpenToOthers(Folder()), QStringList("letter.txt"));
 }
 
 }

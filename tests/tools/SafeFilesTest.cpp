@@ -1,7 +1,7 @@
+#include "tools/setup/SafeFiles.h"
 #include "platform/text/RunTimeError.h"
 #include "tests/tools/SetupSupport.h"
 #include "tests/tools/TestDisk.h"
-#include "tools/setup/SafeFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ protected:
     {
         QStringList done = m_disk.Done();
         const QString folder = QFileInfo(m_dir.path()).fileName();
-        return done.replaceInStrings(folder, QStringLiteral("FOLDER"));
+        return done.replaceInStrings(folder, "FOLDER");
     }
 
     // What an error says that the disk's n-th change failing leads to; an empty text without an error.
@@ -51,7 +51,7 @@ TEST_F(SafeFilesTest, AWrittenFileAndItsNameAreOnDisk)
 {
     SafeFiles::Write(File("a"), "content");
     EXPECT_EQ(FileContent(File("a")), QByteArray("content"));
-    EXPECT_EQ(Done().join(u", "), QStringLiteral("sync a, sync FOLDER"));
+    EXPECT_EQ(Done().join(u", "), "sync a, sync FOLDER");
 }
 
 TEST_F(SafeFilesTest, AMovedFileReplacesTheOtherAndItsNameIsOnDisk)
@@ -61,7 +61,7 @@ TEST_F(SafeFilesTest, AMovedFileReplacesTheOtherAndItsNameIsOnDisk)
     SafeFiles::MoveInto(File("a"), File("b"));
     EXPECT_EQ(FileContent(File("b")), QByteArray("new"));
     EXPECT_FALSE(QFile::exists(File("a")));
-    EXPECT_EQ(Done().join(u", "), QStringLiteral("move a b, sync FOLDER"));
+    EXPECT_EQ(Done().join(u", "), "move a b, sync FOLDER");
 }
 
 TEST_F(SafeFilesTest, AKeptFileHasBothNames)
@@ -70,7 +70,7 @@ TEST_F(SafeFilesTest, AKeptFileHasBothNames)
     SafeFiles::Keep(File("a"), File("b"));
     EXPECT_EQ(FileContent(File("a")), QByteArray("content"));
     EXPECT_EQ(FileContent(File("b")), QByteArray("content"));
-    EXPECT_EQ(Done().join(u", "), QStringLiteral("link a b, sync FOLDER"));
+    EXPECT_EQ(Done().join(u", "), "link a b, sync FOLDER");
 }
 
 TEST_F(SafeFilesTest, WhereTheDiskKnowsNoSecondNamesAKeptFileIsCopiedAndOnDisk)
@@ -80,7 +80,7 @@ TEST_F(SafeFilesTest, WhereTheDiskKnowsNoSecondNamesAKeptFileIsCopiedAndOnDisk)
     SafeFiles::Keep(File("a"), File("b"));
     EXPECT_EQ(FileContent(File("a")), QByteArray("content"));
     EXPECT_EQ(FileContent(File("b")), QByteArray("content"));
-    EXPECT_EQ(Done().join(u", "), QStringLiteral("copy a b, sync b, sync FOLDER"));
+    EXPECT_EQ(Done().join(u", "), "copy a b, sync b, sync FOLDER");
 }
 
 TEST_F(SafeFilesTest, AFileIsNotKeptOverAnother)
@@ -95,7 +95,7 @@ TEST_F(SafeFilesTest, EveryFolderThatIsMadeIsOnDisk)
 {
     SafeFiles::MakeFolder(File("one/two"));
     EXPECT_TRUE(QDir(File("one/two")).exists());
-    EXPECT_EQ(Done().join(u", "), QStringLiteral("sync one, sync FOLDER"));
+    EXPECT_EQ(Done().join(u", "), "sync one, sync FOLDER");
     SafeFiles::MakeFolder(File("one/two"));
     EXPECT_EQ(Done().size(), 2);
 }

@@ -202,8 +202,8 @@ QString PlanOf(const QString& statement)
 
 TEST(SchemaTest, HasEveryTableWithEveryColumnInOrderAndOfItsType)
 {
-    const QHash<QString, QChar> letters{{QStringLiteral("INTEGER"), u'i'}, {QStringLiteral("REAL"), u'r'},
-        {QStringLiteral("NUMERIC"), u'n'}, {QStringLiteral("TEXT"), u't'}, {QStringLiteral("DATE"), u'd'}};
+    const QHash<QString, QChar> letters{
+        {"INTEGER", u'i'}, {"REAL", u'r'}, {"NUMERIC", u'n'}, {"TEXT", u't'}, {"DATE", u'd'}};
     for (const Table& table : Tables) {
         QStringList columns;
         for (const Column& column : ColumnsOf(table.name))
@@ -215,18 +215,18 @@ TEST(SchemaTest, HasEveryTableWithEveryColumnInOrderAndOfItsType)
 TEST(SchemaTest, AChartHoldsTexts)
 {
     QStringList columns;
-    for (const QString& line : AskDelivered(QStringLiteral("pragma table_info(Fat010426);")))
+    for (const QString& line : AskDelivered("pragma table_info(Fat010426);"))
         columns.append(line.section(u'|', 1, 2));
-    EXPECT_EQ(columns.join(u' '), QStringLiteral("Fat|TEXT CowRate|TEXT BuffRate|TEXT"));
+    EXPECT_EQ(columns.join(u' '), "Fat|TEXT CowRate|TEXT BuffRate|TEXT");
 }
 
 TEST(SchemaTest, HasNoOtherTablesThanTheseAndTheFirstChart)
 {
-    QStringList expected{QStringLiteral("Fat010426")};
+    QStringList expected{"Fat010426"};
     for (const Table& table : Tables)
         expected.append(QString::fromLatin1(table.name));
     expected.sort();
-    QStringList found = AskDelivered(QStringLiteral("select name from sqlite_master where type='table';"));
+    QStringList found = AskDelivered("select name from sqlite_master where type='table';");
     found.sort();
     EXPECT_EQ(found.join(u' '), expected.join(u' '));
 }
@@ -254,13 +254,12 @@ TEST(SchemaTest, DaysAreDatesAndNothingElseIs)
 
 TEST(SchemaTest, NumbersKeptAsTextAreText)
 {
-    const QStringList texts{QStringLiteral("CanLimitBuff"), QStringLiteral("CanLimitCow"),
-        QStringLiteral("SalesRateCow"), QStringLiteral("SalesRateBuff"), QStringLiteral("SalesRateMix"),
-        QStringLiteral("ShowTransportCharges")};
+    const QStringList texts{"CanLimitBuff", "CanLimitCow", "SalesRateCow", "SalesRateBuff", "SalesRateMix",
+        "ShowTransportCharges"};
     int found = 0;
     for (const Column& column : ColumnsOf("AutoSettings")) {
         if (texts.contains(column.name)) {
-            EXPECT_EQ(column.type, QStringLiteral("TEXT"));
+            EXPECT_EQ(column.type, "TEXT");
             ++found;
         }
     }
@@ -269,30 +268,30 @@ TEST(SchemaTest, NumbersKeptAsTextAreText)
 
 TEST(SchemaTest, WholeNumbersComeIntoAChartWithoutDecimals)
 {
-    const QStringList rows = AskDelivered(
-        QStringLiteral("begin; insert into FatRates values(4.0,35.0,40.5); delete from Fat010426;"
-                       "insert into Fat010426 select * from FatRates;"
-                       "select Fat,CowRate,BuffRate,typeof(Fat) from Fat010426; rollback;"));
-    EXPECT_EQ(rows.join(u'\n'), QStringLiteral("4|35|40.5|text"));
+    const QStringList rows =
+        AskDelivered("begin; insert into FatRates values(4.0,35.0,40.5); delete from Fat010426;"
+                     "insert into Fat010426 select * from FatRates;"
+                     "select Fat,CowRate,BuffRate,typeof(Fat) from Fat010426; rollback;");
+    EXPECT_EQ(rows.join(u'\n'), "4|35|40.5|text");
 }
 
 TEST(SchemaTest, TheSampleBillIsOneRowInTheShapeOfAReceipt)
 {
-    const QStringList rows = AskDelivered(
-        QStringLiteral("begin; delete from MilkReceipt; insert into MilkReceipt select * from MRView;"
-                       "select CompanyId,CollectionDate,CollectionTime,MemberName,Animal,Liters*Rate-Amount,"
-                       "ActualCollectionTime from MilkReceipt; rollback;"));
-    EXPECT_EQ(rows.join(u'\n'), QStringLiteral("1|2026-04-01|sakaL|namaunaa saBaasad|gaaya|0.0|6.45"));
-    const QStringList rate = AskDelivered(QStringLiteral(
-        "select cast(CowRate as real)-Rate from MRView, Fat010426 where Fat010426.Fat='4.5';"));
-    EXPECT_EQ(rate.join(u'\n'), QStringLiteral("0.0"));
+    const QStringList rows =
+        AskDelivered("begin; delete from MilkReceipt; insert into MilkReceipt select * from MRView;"
+                     "select CompanyId,CollectionDate,CollectionTime,MemberName,Animal,Liters*Rate-Amount,"
+                     "ActualCollectionTime from MilkReceipt; rollback;");
+    EXPECT_EQ(rows.join(u'\n'), "1|2026-04-01|sakaL|namaunaa saBaasad|gaaya|0.0|6.45");
+    const QStringList rate =
+        AskDelivered("select cast(CowRate as real)-Rate from MRView, Fat010426 where Fat010426.Fat='4.5';");
+    EXPECT_EQ(rate.join(u'\n'), "0.0");
 }
 
 TEST(IndexesTest, AMembersLastFatIsReadOffAnIndexInItsOrder)
 {
-    const QString plan = PlanOf(QStringLiteral(
+    const QString plan = PlanOf(
         "select * from MilkCollections where CollectionDate<='2026-05-01' and CollectionTime='sakaL' and "
-        "Animal='gaaya' and MemberNo=7 and MemberName='x' order by CollectionDate desc,CollectionNo desc"));
+        "Animal='gaaya' and MemberNo=7 and MemberName='x' order by CollectionDate desc,CollectionNo desc");
     EXPECT_TRUE(plan.contains(u"MilkCollectionsByMember (MemberNo=? AND Animal=? AND CollectionTime=?"))
         << plan.toStdString();
     EXPECT_FALSE(plan.contains(u"TEMP B-TREE")) << plan.toStdString();
@@ -300,8 +299,8 @@ TEST(IndexesTest, AMembersLastFatIsReadOffAnIndexInItsOrder)
 
 TEST(IndexesTest, AMembersLitresAreSummedFromAnIndexAlone)
 {
-    const QString plan = PlanOf(QStringLiteral(
-        "select sum(Liters) from MilkCollections where CompanyId=1 and Animal='gaaya' and MemberNo=7"));
+    const QString plan =
+        PlanOf("select sum(Liters) from MilkCollections where CompanyId=1 and Animal='gaaya' and MemberNo=7");
     EXPECT_TRUE(plan.contains(u"COVERING INDEX MilkCollectionsByMember (MemberNo=? AND Animal=?)"))
         << plan.toStdString();
 }
@@ -350,8 +349,7 @@ TEST(IndexesTest, TheStatementsOfEveryDayScanNoLongTable)
 
 TEST(IndexesTest, APaymentIsFoundByItsMemberNotByItsCompany)
 {
-    const QString plan =
-        PlanOf(QStringLiteral("select sum(NetAmount) from MilkPayments where CompanyId=1 and MemberNo=7"));
+    const QString plan = PlanOf("select sum(NetAmount) from MilkPayments where CompanyId=1 and MemberNo=7");
     EXPECT_TRUE(plan.contains(u"MilkPaymentsByMember")) << plan.toStdString();
 }
 

@@ -14,7 +14,7 @@ namespace {
 class SetupProgramTest : public testing::Test {
 protected:
     QTemporaryDir m_dir;
-    QString Folder() const { return m_dir.filePath(QStringLiteral("books")); }
+    QString Folder() const { return m_dir.filePath("books"); }
 };
 
 TEST_F(SetupProgramTest, MakesASociety)
@@ -22,18 +22,14 @@ TEST_F(SetupProgramTest, MakesASociety)
     const Ran run = RunSetup(Arguments(Folder()));
     EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
     EXPECT_TRUE(run.out.contains(u"Morvelta.mdb"));
-    EXPECT_EQ(Shell(Folder(), QStringLiteral("secret"), QStringLiteral("select count(*) from MembersMaster;"))
-                  .value(0),
-        QStringLiteral("0"));
+    EXPECT_EQ(Shell(Folder(), "secret", "select count(*) from MembersMaster;").value(0), "0");
 }
 
 TEST_F(SetupProgramTest, MakesTheDemonstration)
 {
     const Ran run = RunSetup(Arguments(Folder()) << QStringLiteral("--demo"));
     EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
-    EXPECT_EQ(Shell(Folder(), QStringLiteral("secret"), QStringLiteral("select count(*) from MembersMaster;"))
-                  .value(0),
-        QStringLiteral("40"));
+    EXPECT_EQ(Shell(Folder(), "secret", "select count(*) from MembersMaster;").value(0), "40");
 }
 
 TEST_F(SetupProgramTest, PutsTheBooksWhereTheProgramLooksForThem)
@@ -42,10 +38,8 @@ TEST_F(SetupProgramTest, PutsTheBooksWhereTheProgramLooksForThem)
     arguments.resize(6);
     const Ran run = RunSetup(arguments, m_dir.path());
     EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
-    EXPECT_TRUE(
-        QFileInfo::exists(m_dir.filePath(QStringLiteral("vetrolan/drive_c/Tarvel01/Vetrolan/Morvelta.mdb"))));
-    EXPECT_TRUE(
-        QFileInfo::exists(m_dir.filePath(QStringLiteral("vetrolan/drive_c/Tarvel01/Vetrolan/PWD.TXT"))));
+    EXPECT_TRUE(QFileInfo::exists(m_dir.filePath("vetrolan/drive_c/Tarvel01/Vetrolan/Morvelta.mdb")));
+    EXPECT_TRUE(QFileInfo::exists(m_dir.filePath("vetrolan/drive_c/Tarvel01/Vetrolan/PWD.TXT")));
 }
 
 TEST_F(SetupProgramTest, TouchesNoSocietyThatIsThere)
@@ -60,8 +54,8 @@ TEST_F(SetupProgramTest, ReplacesWhenToldTo)
 {
     ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
     EXPECT_EQ(RunSetup(Arguments(Folder()) << QStringLiteral("--replace")).exitCode, 0);
-    EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 2);
-    EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("PWD*.TXT")}).size(), 2);
+    EXPECT_EQ(QDir(Folder()).entryList({"Morvelta*.mdb"}).size(), 2);
+    EXPECT_EQ(QDir(Folder()).entryList({"PWD*.TXT"}).size(), 2);
 }
 
 TEST_F(SetupProgramTest, LeavesBooksAloneThatAreOpen)
@@ -70,20 +64,20 @@ TEST_F(SetupProgramTest, LeavesBooksAloneThatAreOpen)
     const SingleInstance running(Folder());
     ASSERT_TRUE(running.Taken());
     ExpectRefusal(RunSetup(Arguments(Folder()) << QStringLiteral("--replace")), 1, u"open in the program");
-    EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 1);
-    ASSERT_TRUE(QFile::remove(QDir(Folder()).filePath(QStringLiteral("Vetrolan.lock"))));
+    EXPECT_EQ(QDir(Folder()).entryList({"Morvelta*.mdb"}).size(), 1);
+    ASSERT_TRUE(QFile::remove(QDir(Folder()).filePath("Vetrolan.lock")));
     ExpectRefusal(RunSetup(Arguments(Folder()) << QStringLiteral("--replace")), 1, u"open in the program");
-    EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 1);
+    EXPECT_EQ(QDir(Folder()).entryList({"Morvelta*.mdb"}).size(), 1);
 }
 
 TEST_F(SetupProgramTest, LeavesTheTemplatesOfBooksAloneThatAreOpen)
 {
     ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
-    const QString slip = QDir(Folder()).filePath(QStringLiteral("MilkReceipt1.rpt"));
+    const QString slip = QDir(Folder()).filePath("MilkReceipt1.rpt");
     ASSERT_TRUE(QFile::remove(slip));
     const SingleInstance running(Folder());
     ASSERT_TRUE(running.Taken());
-    const QStringList renew{QStringLiteral("--templates"), QStringLiteral("--folder"), Folder()};
+    const QStringList renew{"--templates", "--folder", Folder()};
     ExpectRefusal(RunSetup(renew), 1, u"open in the program");
     EXPECT_FALSE(QFile::exists(slip));
 }
@@ -95,18 +89,18 @@ TEST_F(SetupProgramTest, IsNotRootBesideTheBooksOfAnotherUser)
     ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
     constexpr uid_t nobody = 65534;
     ASSERT_EQ(chown(QFile::encodeName(Folder()).constData(), nobody, nobody), 0);
-    const QString slip = QDir(Folder()).filePath(QStringLiteral("MilkReceipt1.rpt"));
+    const QString slip = QDir(Folder()).filePath("MilkReceipt1.rpt");
     ASSERT_TRUE(QFile::remove(slip));
-    const QStringList renew{QStringLiteral("--templates"), QStringLiteral("--folder"), Folder()};
+    const QStringList renew{"--templates", "--folder", Folder()};
     EXPECT_NE(RunSetup(renew).exitCode, 0);
     EXPECT_NE(RunSetup(Arguments(Folder()) << QStringLiteral("--replace")).exitCode, 0);
     EXPECT_FALSE(QFile::exists(slip));
-    EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("Morvelta*.mdb")}).size(), 1);
+    EXPECT_EQ(QDir(Folder()).entryList({"Morvelta*.mdb"}).size(), 1);
 }
 
 TEST_F(SetupProgramTest, TellsWhatItTakes)
 {
-    const Ran run = RunSetup({QStringLiteral("--help")});
+    const Ran run = RunSetup({"--help"});
     EXPECT_EQ(run.exitCode, 0);
     for (const QStringView option :
         {u"--society", u"--year", u"--password", u"--demo", u"--replace", u"--folder"})
@@ -121,11 +115,11 @@ TEST_F(SetupProgramTest, RefusesBadArgumentsInOneLine)
     ExpectRefusal(RunSetup(good.mid(0, 4)), 2, u"password is empty");
     ExpectRefusal(RunSetup(QStringList(good) << QStringLiteral("--nonsense")), 2, u"nonsense");
     ExpectRefusal(RunSetup(QStringList(good) << QStringLiteral("stray")), 2, u"stray");
-    ExpectRefusal(RunSetup(With(good, u"--year", QStringLiteral("2026"))), 2, u"2026-2027");
-    ExpectRefusal(RunSetup(With(good, u"--year", QStringLiteral("2026-2028"))), 2, u"year");
+    ExpectRefusal(RunSetup(With(good, u"--year", "2026")), 2, u"2026-2027");
+    ExpectRefusal(RunSetup(With(good, u"--year", "2026-2028")), 2, u"year");
     ExpectRefusal(RunSetup(With(good, u"--password", QString())), 2, u"password is empty");
-    ExpectRefusal(RunSetup(With(good, u"--password", QStringLiteral("two words"))), 2, u"password");
-    ExpectRefusal(RunSetup(With(good, u"--society", QStringLiteral("गो'कुळ"))), 2, u"apostrophe");
+    ExpectRefusal(RunSetup(With(good, u"--password", "two words")), 2, u"password");
+    ExpectRefusal(RunSetup(With(good, u"--society", "गो'कुळ")), 2, u"apostrophe");
     EXPECT_FALSE(QFileInfo::exists(Folder()));
 }
 
@@ -139,17 +133,17 @@ TEST_F(SetupProgramTest, SaysWhenTheFolderCannotBe)
 
 TEST_F(SetupProgramTest, WritesOnlyTheTemplatesBesideTheBooks)
 {
-    const QStringList renew{QStringLiteral("--templates"), QStringLiteral("--folder"), Folder()};
+    const QStringList renew{"--templates", "--folder", Folder()};
     ExpectRefusal(RunSetup(renew), 1, u"no society");
     ASSERT_EQ(RunSetup(Arguments(Folder())).exitCode, 0);
-    const QString slip = QDir(Folder()).filePath(QStringLiteral("MilkReceipt1.rpt"));
+    const QString slip = QDir(Folder()).filePath("MilkReceipt1.rpt");
     const QByteArray delivered = FileContent(slip);
-    const QByteArray books = FileContent(QDir(Folder()).filePath(QStringLiteral("Morvelta.mdb")));
+    const QByteArray books = FileContent(QDir(Folder()).filePath("Morvelta.mdb"));
     ASSERT_TRUE(QFile::remove(slip));
     const Ran run = RunSetup(renew);
     EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
     EXPECT_EQ(FileContent(slip), delivered);
-    EXPECT_EQ(FileContent(QDir(Folder()).filePath(QStringLiteral("Morvelta.mdb"))), books);
+    EXPECT_EQ(FileContent(QDir(Folder()).filePath("Morvelta.mdb")), books);
     ExpectRefusal(RunSetup(Arguments(Folder()) << QStringLiteral("--templates")), 2, u"--templates");
 }
 
@@ -157,15 +151,14 @@ TEST_F(SetupProgramTest, WritesTheSlipOfTheSearchIntoTheOlderFolderOnlyWhereTheP
 {
     QStringList arguments = Arguments(Folder());
     ASSERT_EQ(RunSetup(arguments, m_dir.path()).exitCode, 0);
-    EXPECT_EQ(FilesIn(m_dir.path()).join(u' '), QStringLiteral("books"));
+    EXPECT_EQ(FilesIn(m_dir.path()).join(u' '), "books");
     arguments.remove(arguments.size() - 2, 2);
     const Ran run = RunSetup(arguments, m_dir.path());
     EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
-    const QDir tarvel(m_dir.filePath(QStringLiteral("vetrolan/drive_c/Tarvel01")));
-    EXPECT_EQ(FilesIn(tarvel.filePath(QStringLiteral("Sorvelan"))).join(u' '),
-        QStringLiteral("MilkReceiptAtk.rpt"));
-    EXPECT_EQ(FileContent(tarvel.filePath(QStringLiteral("Sorvelan/MilkReceiptAtk.rpt"))),
-        FileContent(tarvel.filePath(QStringLiteral("Vetrolan/MilkReceiptAtk.rpt"))));
+    const QDir tarvel(m_dir.filePath("vetrolan/drive_c/Tarvel01"));
+    EXPECT_EQ(FilesIn(tarvel.filePath("Sorvelan")).join(u' '), "MilkReceiptAtk.rpt");
+    EXPECT_EQ(FileContent(tarvel.filePath("Sorvelan/MilkReceiptAtk.rpt")),
+        FileContent(tarvel.filePath("Vetrolan/MilkReceiptAtk.rpt")));
 }
 
 }

@@ -8,9 +8,9 @@ Ran RunSetup(const QStringList& arguments, const QString& home, const QByteArray
 {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    environment.insert("LC_ALL", "C.UTF-8");
     if (!home.isEmpty())
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), home);
+        environment.insert("XDG_DATA_HOME", home);
     program.setProcessEnvironment(environment);
     program.start(QStringLiteral(SETUP_PROGRAM), arguments);
     program.write(input);
@@ -23,9 +23,8 @@ Ran RunSetup(const QStringList& arguments, const QString& home, const QByteArray
 
 QStringList Arguments(const QString& folder)
 {
-    return {QStringLiteral("--society"), QStringLiteral("जय किसान दूध संस्था"), QStringLiteral("--year"),
-        QStringLiteral("2026-2027"), QStringLiteral("--password"), QStringLiteral("secret"),
-        QStringLiteral("--folder"), folder};
+    return {
+        "--society", "जय किसान दूध संस्था", "--year", "2026-2027", "--password", "secret", "--folder", folder};
 }
 
 QStringList With(QStringList arguments, QStringView option, const QString& value)

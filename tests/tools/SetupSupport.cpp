@@ -22,13 +22,12 @@ SocietyPlan GoodPlan()
 QStringList Shell(const QString& folder, const QString& password, const QString& statements)
 {
     QProcess shell;
-    shell.start(QStringLiteral("sqlcipher"),
-        {QStringLiteral("-batch"), QDir(folder).filePath(DatabaseFileName.toString())});
+    shell.start("sqlcipher", {"-batch", QDir(folder).filePath(DatabaseFileName.toString())});
     shell.write(
         (QStringLiteral("PRAGMA key='") % password % QStringLiteral("';\n") % statements % u'\n').toUtf8());
     shell.closeWriteChannel();
     if (!shell.waitForFinished())
-        return {QStringLiteral("Error: the shell doesn't run")};
+        return {"Error: the shell doesn't run"};
     const QString errors = QString::fromUtf8(shell.readAllStandardError());
     if (!errors.isEmpty())
         return {
@@ -93,18 +92,16 @@ QStringList FilesIn(const QString& folder)
 QStringList BooksIn(const QString& folder)
 {
     QStringList names = FilesIn(folder);
-    names.removeIf([](const QString& name) {
-        return name.endsWith(QStringLiteral(".rpt")) || name == QStringLiteral("Checked.txt");
-    });
+    names.removeIf([](const QString& name) { return name.endsWith(".rpt") || name == "Checked.txt"; });
     return names;
 }
 
 void LeaveAsAfterAPowerCut(const QString& from, const QString& to)
 {
-    DataSource::Register(QStringLiteral("SetupTestCut"), QDir(from).filePath(DatabaseFileName.toString()));
+    DataSource::Register("SetupTestCut", QDir(from).filePath(DatabaseFileName.toString()));
     Connection connection;
     connection.Open(QStringLiteral("dsn=SetupTestCut;pwd=") % GoodPlan().password);
-    connection.Execute(QStringLiteral("INSERT INTO CityMaster(CompanyId,CityName) VALUES(1,'masaUr')"));
+    connection.Execute("INSERT INTO CityMaster(CompanyId,CityName) VALUES(1,'masaUr')");
     ASSERT_TRUE(QDir().mkpath(to));
     for (const char* name : {"Morvelta.mdb", "Morvelta.mdb-wal", "PWD.TXT"}) {
         const QString file = QString::fromLatin1(name);

@@ -15,7 +15,7 @@ const QDateTime Now(QDate(2026, 4, 1), QTime(10, 15, 30));
 
 class TemplatesTest : public testing::Test {
 protected:
-    QString Folder() const { return m_dir.filePath(QStringLiteral("books")); }
+    QString Folder() const { return m_dir.filePath("books"); }
     QString File(const QString& name) const { return QDir(Folder()).filePath(name); }
 
     void Put(const QString& name, const QByteArray& content) const
@@ -55,7 +55,7 @@ TEST_F(TemplatesTest, DeliveredAreThoseOfTheFolderOfTemplates)
         EXPECT_EQ(file.content, FileContent(folder.filePath(file.name))) << file.name.toStdString();
     }
     delivered.sort();
-    QStringList shipped = folder.entryList({QStringLiteral("*.rpt")}, QDir::Files);
+    QStringList shipped = folder.entryList({"*.rpt"}, QDir::Files);
     shipped.sort();
     EXPECT_EQ(delivered.join(u'\n'), shipped.join(u'\n'));
 }
@@ -81,11 +81,11 @@ TEST_F(TemplatesTest, OneThatTheSocietyHasChangedIsKeptUnderADate)
     Put(Slip, "our own");
     WriteTemplates(Folder(), Now);
     EXPECT_EQ(Differing(), QStringList());
-    EXPECT_EQ(FileContent(File(QStringLiteral("MilkReceipt1-2026-04-01-101530.rpt"))), "our own");
+    EXPECT_EQ(FileContent(File("MilkReceipt1-2026-04-01-101530.rpt")), "our own");
     Put(Slip, "another");
     WriteTemplates(Folder(), Now);
-    EXPECT_EQ(FileContent(File(QStringLiteral("MilkReceipt1-2026-04-01-101530.rpt"))), "our own");
-    EXPECT_EQ(FileContent(File(QStringLiteral("MilkReceipt1-2026-04-01-101530-2.rpt"))), "another");
+    EXPECT_EQ(FileContent(File("MilkReceipt1-2026-04-01-101530.rpt")), "our own");
+    EXPECT_EQ(FileContent(File("MilkReceipt1-2026-04-01-101530-2.rpt")), "another");
 }
 
 TEST_F(TemplatesTest, CutAnywhereOneIsTheOldOneOrTheNewOneAndTheOldOneIsKept)
@@ -112,7 +112,7 @@ TEST_F(TemplatesTest, CutAnywhereOneIsTheOldOneOrTheNewOneAndTheOldOneIsKept)
             testing::ExitedWithCode(TestDisk::PowerCut), "");
         if (FileContent(File(Slip)) != "our own") {
             EXPECT_EQ(FileContent(File(Slip)), ContentOf(Slip));
-            EXPECT_EQ(FileContent(File(QStringLiteral("MilkReceipt1-2026-04-01-101530.rpt"))), "our own");
+            EXPECT_EQ(FileContent(File("MilkReceipt1-2026-04-01-101530.rpt")), "our own");
         }
         WriteTemplate(Folder(), Slip, Now);
         EXPECT_EQ(FileContent(File(Slip)), ContentOf(Slip));
@@ -134,7 +134,7 @@ TEST_F(TemplatesTest, ADiskThatFailsIsToldAndLeavesTheOldOneAndNothingHalf)
 
 TEST_F(TemplatesTest, OneThatIsNotDeliveredIsAnError)
 {
-    EXPECT_THROW(WriteTemplate(Folder(), QStringLiteral("Nothing.rpt"), Now), RunTimeError);
+    EXPECT_THROW(WriteTemplate(Folder(), "Nothing.rpt", Now), RunTimeError);
     EXPECT_FALSE(QDir(Folder()).exists());
 }
 

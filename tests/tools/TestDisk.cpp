@@ -27,7 +27,7 @@ std::error_code TestDisk::Next(const QStringList& words)
 
 std::error_code TestDisk::Sync(const QString& path)
 {
-    const std::error_code failed = Next({QStringLiteral("sync"), path});
+    const std::error_code failed = Next({"sync", path});
     return failed ? failed : Disk::Sync(path);
 }
 
@@ -35,24 +35,24 @@ std::error_code TestDisk::Link(const QString& file, const QString& name)
 {
     if (!KnowsSecondNames)
         return std::make_error_code(std::errc::operation_not_permitted);
-    const std::error_code failed = Next({QStringLiteral("link"), file, name});
+    const std::error_code failed = Next({"link", file, name});
     return failed ? failed : Disk::Link(file, name);
 }
 
 std::error_code TestDisk::Copy(const QString& file, const QString& name)
 {
-    const std::error_code failed = Next({QStringLiteral("copy"), file, name});
+    const std::error_code failed = Next({"copy", file, name});
     return failed ? failed : Disk::Copy(file, name);
 }
 
 std::error_code TestDisk::Move(const QString& from, const QString& to)
 {
-    const std::error_code failed = Next({QStringLiteral("move"), from, to});
+    const std::error_code failed = Next({"move", from, to});
     return failed ? failed : Disk::Move(from, to);
 }
 
 std::error_code TestDisk::Remove(const QString& file)
 {
-    const std::error_code failed = Next({QStringLiteral("remove"), file});
+    const std::error_code failed = Next({"remove", file});
     return failed ? failed : Disk::Remove(file);
 }

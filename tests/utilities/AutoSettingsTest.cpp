@@ -73,6 +73,6 @@ void AutoSettingsTest::PickFromList(Clerk& clerk, int row)
 
 QString AutoSettingsTest::Guide(Clerk& clerk)
 {
-    const auto* label = clerk.Top().findChild<QLabel*>(QStringLiteral("lblMessage"));
+    const auto* label = clerk.Top().findChild<QLabel*>("lblMessage");
     return label->isVisible() ? label->text() : QString();
 }

@@ -32,7 +32,7 @@ protected:
 
     void KeepCopy(const char* name, const QDateTime& time)
     {
-        const QString folder = FolderFile(QStringLiteral("Backup"));
+        const QString folder = FolderFile("Backup");
         QDir().mkpath(folder);
         QFile copy(folder + u'/' + QLatin1String(name));
         ASSERT_TRUE(copy.open(QIODevice::WriteOnly));
@@ -51,7 +51,7 @@ TEST_F(DayAtAGlanceTest, TheShiftsOfTheWorkingDayAreSummed)
     AddDelivery("15/04/2026", "saMQyaakaL", "7.250", "300.10");
     AddDelivery("15/04/2026", "saMQyaakaL", "9.000", "400.00", 2);
     Menu([](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblWorkingDay"), QStringLiteral("कामाचा दिवस  15/04/2026"));
+        EXPECT_EQ(LabelOf(clerk, "lblWorkingDay"), "कामाचा दिवस  15/04/2026");
         EXPECT_EQ(Shifts(clerk), "6.625 233.05 7.250 300.10");
     });
 }
@@ -62,8 +62,8 @@ TEST_F(DayAtAGlanceTest, TheShiftsAreNamedAsTheyAreRead)
         QStringList named;
         for (const QLabel* label : clerk.Top().findChildren<QLabel*>())
             named.append(label->text());
-        EXPECT_TRUE(named.contains(QStringLiteral("सकाळ"))) << named.join(u' ').toStdString();
-        EXPECT_TRUE(named.contains(QStringLiteral("संध्याकाळ"))) << named.join(u' ').toStdString();
+        EXPECT_TRUE(named.contains("सकाळ")) << named.join(u' ').toStdString();
+        EXPECT_TRUE(named.contains("संध्याकाळ")) << named.join(u' ').toStdString();
     });
 }
 
@@ -88,16 +88,12 @@ TEST_F(DayAtAGlanceTest, TheNewestCopyOfTheBooksTellsTheLastBackup)
     KeepCopy("first.mdb", QDateTime(QDate(2026, 4, 1), QTime(18, 0)));
     KeepCopy("second.mdb", QDateTime(QDate(2026, 4, 9), QTime(18, 0)));
     KeepCopy("note.txt", QDateTime(QDate(2026, 4, 12), QTime(18, 0)));
-    Menu([](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblLastBackup"), QStringLiteral("शेवटचा बॅकअप  09/04/2026"));
-    });
+    Menu([](Clerk& clerk) { EXPECT_EQ(LabelOf(clerk, "lblLastBackup"), "शेवटचा बॅकअप  09/04/2026"); });
 }
 
 TEST_F(DayAtAGlanceTest, WithoutACopyItIsSaid)
 {
-    Menu([](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblLastBackup"), QStringLiteral("बॅकअप अजून घेतलेला नाही"));
-    });
+    Menu([](Clerk& clerk) { EXPECT_EQ(LabelOf(clerk, "lblLastBackup"), "बॅकअप अजून घेतलेला नाही"); });
 }
 
 }

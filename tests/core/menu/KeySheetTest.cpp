@@ -13,7 +13,7 @@ namespace {
 
 bool IsFunctionKey(const QString& key)
 {
-    static const QRegularExpression functionKey(QStringLiteral("^F\\d+$"));
+    static const QRegularExpression functionKey("^F\\d+$");
     return functionKey.match(key).hasMatch();
 }
 
@@ -64,18 +64,17 @@ protected:
 TEST_F(KeySheetTest, TheMenusStripNamesItsSixFunctionKeys)
 {
     QStringList strip;
-    for (const KeyHint& hint : Keys::Of(QStringLiteral("MainMenuFrm")))
+    for (const KeyHint& hint : Keys::Of("MainMenuFrm"))
         if (IsFunctionKey(hint.key))
             strip.append(hint.key + u' ' + hint.action.Text());
     EXPECT_EQ(strip,
-        QStringList({QStringLiteral("F2 k^la@yaulaoTr"), QStringLiteral("F4 ]cala naaoMd"),
-            QStringLiteral("F7 Aa^Tao saoTIMgja"), QStringLiteral("F8 dUQa saMklana"),
-            QStringLiteral("F9 dUQa ivaËI"), QStringLiteral("F12 kIbaaoD- TyaUTr")}));
+        QStringList({"F2 k^la@yaulaoTr", "F4 ]cala naaoMd", "F7 Aa^Tao saoTIMgja", "F8 dUQa saMklana",
+            "F9 dUQa ivaËI", "F12 kIbaaoD- TyaUTr"}));
 }
 
 TEST_F(KeySheetTest, OfTheMenusKeysTheOneThatDoesNothingIsNotLit)
 {
-    for (const KeyHint& hint : Keys::Of(QStringLiteral("MainMenuFrm")))
+    for (const KeyHint& hint : Keys::Of("MainMenuFrm"))
         EXPECT_EQ(hint.lit, hint.key != u"F9") << hint.key.toStdString();
     Failure = TheClerk.Play(
         [] {
@@ -88,8 +87,7 @@ TEST_F(KeySheetTest, OfTheMenusKeysTheOneThatDoesNothingIsNotLit)
             for (const QLabel* label : clerk.Top().findChildren<QLabel*>())
                 if (!label->isEnabled()) {
                     ++dull;
-                    EXPECT_TRUE(
-                        label->text() == u"F9" || label->text() == Seen(QStringLiteral("dUQa ivaËI")));
+                    EXPECT_TRUE(label->text() == u"F9" || label->text() == Seen("dUQa ivaËI"));
                 }
             EXPECT_EQ(dull, 2);
         });
@@ -99,28 +97,26 @@ TEST_F(KeySheetTest, TheMenuAnswersTheFunctionKeysOfItsStripAndNoOthersAndF9Does
 {
     const QString menu = QStringLiteral("MainMenuFrm");
     QStringList expected = Listed(menu);
-    ASSERT_EQ(expected.removeAll(QStringLiteral("F9")), 1);
+    ASSERT_EQ(expected.removeAll("F9"), 1);
     EXPECT_EQ(Answered(
                   menu,
                   [] {
                       MainMenuFrm shown;
                       shown.ShowModal();
                   },
-                  QStringLiteral("{ENTER}{ENTER}")),
+                  "{ENTER}{ENTER}"),
         expected);
 }
 
 TEST_F(KeySheetTest, TheSmallScreensAnswerTheFunctionKeysOfTheirStripsAndNoOthers)
 {
-    EXPECT_EQ(Listed(QStringLiteral("frmNarrations")), QStringList(QStringLiteral("F12")));
-    EXPECT_EQ(Answered<frmNarrations>(QStringLiteral("frmNarrations"), Plain(u"नाव")),
-        Listed(QStringLiteral("frmNarrations")));
-    EXPECT_EQ(Answered<frmAppDate>(QStringLiteral("frmAppDate")), Listed(QStringLiteral("frmAppDate")));
-    EXPECT_EQ(Answered<frmKeyboardTutor>(QStringLiteral("frmKeyboardTutor")),
-        Listed(QStringLiteral("frmKeyboardTutor")));
+    EXPECT_EQ(Listed("frmNarrations"), QStringList("F12"));
+    EXPECT_EQ(Answered<frmNarrations>("frmNarrations", Plain(u"नाव")), Listed("frmNarrations"));
+    EXPECT_EQ(Answered<frmAppDate>("frmAppDate"), Listed("frmAppDate"));
+    EXPECT_EQ(Answered<frmKeyboardTutor>("frmKeyboardTutor"), Listed("frmKeyboardTutor"));
 }
 
 TEST_F(KeySheetTest, AnUnknownPlaceIsABug)
 {
-    EXPECT_DEBUG_DEATH(Keys::Of(QStringLiteral("frmNowhere")), "frmNowhere");
+    EXPECT_DEBUG_DEATH(Keys::Of("frmNowhere"), "frmNowhere");
 }

@@ -75,12 +75,12 @@ TEST_F(MainMenuTest, AClosedMasterSaysThatALoginIsRequiredWhileTheFunctionKeysSt
     gAppState.gAccessMaster = 0;
     Menu([&](Clerk& clerk) {
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("Administrator LogIn Required")));
+        EXPECT_EQ(TheBox.Shown, QStringList("Administrator LogIn Required"));
         EXPECT_FALSE(Shows(clerk, "ListMaster"));
         EXPECT_EQ(Focus(clerk), "ListMain");
         Type(clerk, "{F7}");
         ASSERT_EQ(TheBox.Shown.size(), 2);
-        EXPECT_TRUE(TheBox.Shown[1].contains(QStringLiteral("ऑटो सेटींग्ज")));
+        EXPECT_TRUE(TheBox.Shown[1].contains("ऑटो सेटींग्ज"));
     });
 }
 
@@ -103,7 +103,7 @@ TEST_F(MainMenuTest, AnAdministratorIsGrantedAccessToAClosedList)
     gAppState.gAdminLoggedIn = QStringLiteral("YES");
     Menu([&](Clerk& clerk) {
         ChooseMain(clerk, 4);
-        EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("Access Granted")));
+        EXPECT_EQ(TheBox.Shown, QStringList("Access Granted"));
         EXPECT_TRUE(Shows(clerk, "ListUtilities"));
     });
 }
@@ -121,7 +121,7 @@ TEST_F(MainMenuTest, AnEntryWhoseScreenIsNotThereNamesItInAPlainMessageAndNothin
     Menu([&](Clerk& clerk) {
         Type(clerk, "{ENTER}{DOWN}{ENTER}");
         ASSERT_EQ(TheBox.Shown.size(), 1);
-        EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("ग्राहकाचे रजिस्टर")));
+        EXPECT_TRUE(TheBox.Shown[0].contains("ग्राहकाचे रजिस्टर"));
         EXPECT_EQ(Focus(clerk), "ListMaster") << "the list stays as it was";
     });
 }
@@ -141,8 +141,8 @@ TEST_F(MainMenuTest, F4F7F8AndF12AnswerFromAnyList)
         ChooseMain(clerk, 1);
         Type(clerk, "{F4}{F8}");
         ASSERT_EQ(TheBox.Shown.size(), 2);
-        EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("उचल नोंद")));
-        EXPECT_TRUE(TheBox.Shown[1].contains(QStringLiteral("दूध संकलन")));
+        EXPECT_TRUE(TheBox.Shown[0].contains("उचल नोंद"));
+        EXPECT_TRUE(TheBox.Shown[1].contains("दूध संकलन"));
         Type(clerk, "{F12}");
         EXPECT_EQ(OnTop(clerk), "frmKeyboardTutor");
     });
@@ -153,8 +153,8 @@ TEST_F(MainMenuTest, LeavingOffersTheBackupAndAsksAndNoStays)
     Menu([&](Clerk& clerk) {
         Type(clerk, "{END}{ENTER}");
         ASSERT_EQ(TheBox.Shown.size(), 1) << "the backup is named first";
-        EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("बॅक अप्")));
-        EXPECT_EQ(clerk.Message(), QStringLiteral("saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ"));
+        EXPECT_TRUE(TheBox.Shown[0].contains("बॅक अप्"));
+        EXPECT_EQ(clerk.Message(), "saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ");
         Type(clerk, "%n");
         EXPECT_EQ(OnTop(clerk), "MainMenuFrm");
         Type(clerk, "{ESC}%h");
@@ -193,27 +193,25 @@ TEST_F(MainMenuTest, ADoubleClickChoosesAsEnterDoes)
         EXPECT_EQ(Focus(clerk), "ListMaster");
         DoubleClick(clerk, List(clerk, "ListMaster"));
         ASSERT_EQ(TheBox.Shown.size(), 1) << "the first entry has no screen in this program";
-        EXPECT_TRUE(TheBox.Shown[0].contains(QStringLiteral("उत्पादकाचे रजिस्टर")));
+        EXPECT_TRUE(TheBox.Shown[0].contains("उत्पादकाचे रजिस्टर"));
     });
 }
 
 TEST_F(MainMenuTest, F2StartsTheCalculatorMaximised)
 {
     Menu([](Clerk& clerk) { Type(clerk, "{F2}"); });
-    EXPECT_EQ(
-        TheCalculator.Started, QStringList(QStringLiteral("C:\\Tarvel01\\Vetrolan\\calc.EXE maximised")));
+    EXPECT_EQ(TheCalculator.Started, QStringList("C:\\Tarvel01\\Vetrolan\\calc.EXE maximised"));
 }
 
 TEST_F(MainMenuTest, ItsFaceShowsTitlesHeadingVersionTwiceAndTheSocietyButNoYear)
 {
     Menu([](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(QStringLiteral(" dUQa saMklana saa^FTvaoAr")));
-        EXPECT_EQ(
-            LabelOf(clerk, "lblSystem"), Seen(QStringLiteral(" dUQa saMklana va vyavasqaapna p`NaalaI")));
-        EXPECT_EQ(LabelOf(clerk, "lblMenu"), Seen(QStringLiteral("maona maonaU")));
-        EXPECT_EQ(LabelOf(clerk, "lblVersion"), QStringLiteral("Ver 2.0"));
-        EXPECT_EQ(LabelOf(clerk, "lblVersionFoot"), QStringLiteral("Ver 2.0"));
-        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), QStringLiteral("श्री गणेश दूध संस्था"));
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(" dUQa saMklana saa^FTvaoAr"));
+        EXPECT_EQ(LabelOf(clerk, "lblSystem"), Seen(" dUQa saMklana va vyavasqaapna p`NaalaI"));
+        EXPECT_EQ(LabelOf(clerk, "lblMenu"), Seen("maona maonaU"));
+        EXPECT_EQ(LabelOf(clerk, "lblVersion"), "Ver 2.0");
+        EXPECT_EQ(LabelOf(clerk, "lblVersionFoot"), "Ver 2.0");
+        EXPECT_EQ(LabelOf(clerk, "lblCompanyTitle"), "श्री गणेश दूध संस्था");
         EXPECT_EQ(LabelOf(clerk, "lblAcYear"), QString());
     });
 }
@@ -221,23 +219,23 @@ TEST_F(MainMenuTest, ItsFaceShowsTitlesHeadingVersionTwiceAndTheSocietyButNoYear
 TEST_F(MainMenuTest, TodaysDateIsTheMachinesAtLoadAndIsNotUpdated)
 {
     Menu([&](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblTodayDate"), QStringLiteral("15/04/2026"));
+        EXPECT_EQ(LabelOf(clerk, "lblTodayDate"), "15/04/2026");
         TheClock.Time = TheClock.Time.addDays(1);
         Type(clerk, "{ENTER}{ESC}{F12}{ESC}");
-        EXPECT_EQ(LabelOf(clerk, "lblTodayDate"), QStringLiteral("15/04/2026"));
+        EXPECT_EQ(LabelOf(clerk, "lblTodayDate"), "15/04/2026");
     });
 }
 
 TEST_F(MainMenuTest, WithoutACompanyTheDateAskedForIsEmptyThenTodayAndTheMenuNamesNoSociety)
 {
-    Run(QStringLiteral("delete * from CompanySelected"));
+    Run("delete * from CompanySelected");
     gCn.Close();
     ASSERT_TRUE(LoadAppState());
     On<MainMenuFrm>([](Clerk& clerk) {
         ASSERT_EQ(OnTop(clerk), "frmAppDate");
         EXPECT_EQ(Reads(clerk, "MaskAppDate"), "__/__/____");
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(clerk.Message(), QStringLiteral(" idnaaMk vyavaisqat Ta[-p kra."));
+        EXPECT_EQ(clerk.Message(), " idnaaMk vyavaisqat Ta[-p kra.");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Reads(clerk, "MaskAppDate"), "15/04/2026");
         Type(clerk, "{ENTER}{ENTER}");

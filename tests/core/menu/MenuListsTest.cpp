@@ -18,62 +18,56 @@ using Table = std::vector<Entry>;
 
 const QString Registers = QStringLiteral("frmReportMilkPaymentsRegister");
 const QString PurchaseSales = QStringLiteral("frmReportPurchaseSales");
-const Entry Back{QStringLiteral("baahor")};
+const Entry Back{"baahor"};
 
 const Table Master = {
-    {QStringLiteral("]%padkacao rijasTr"), QStringLiteral("frmMembers")},
-    {QStringLiteral("ga`ahkacao rijasTr"), QStringLiteral("frmCustomers")},
-    {QStringLiteral("f^T dr badla"), QStringLiteral("frmNewFatRates")},
+    {"]%padkacao rijasTr", "frmMembers"},
+    {"ga`ahkacao rijasTr", "frmCustomers"},
+    {"f^T dr badla", "frmNewFatRates"},
     Back,
 };
 
 const Table SVouchers = {
-    {QStringLiteral("dUQa saMklana 1"), QStringLiteral("frmMilkCollections")},
-    {QStringLiteral("dUQa saMklana 2"), QStringLiteral("frmCollectionGate")},
-    {QStringLiteral("dUQa saMklana 3"), QStringLiteral("frmDailyCollection")},
-    {QStringLiteral("]cala naaoMd"), QStringLiteral("frmUchalVouchers")},
-    {QStringLiteral("kpat zrvaa"), QStringLiteral("frmInstallment")},
-    {QStringLiteral("dUQa pomaonT"), QStringLiteral("frmNewMilkPayment")},
-    {QStringLiteral("dUQa ivaËI"), QStringLiteral("frmMilkSales")},
+    {"dUQa saMklana 1", "frmMilkCollections"},
+    {"dUQa saMklana 2", "frmCollectionGate"},
+    {"dUQa saMklana 3", "frmDailyCollection"},
+    {"]cala naaoMd", "frmUchalVouchers"},
+    {"kpat zrvaa", "frmInstallment"},
+    {"dUQa pomaonT", "frmNewMilkPayment"},
+    {"dUQa ivaËI", "frmMilkSales"},
     Back,
 };
 
 const Table MReports = {
-    {QStringLiteral("dUQa saMklana irpaoT-"), QStringLiteral("frmReportMilkCollections")},
-    {QStringLiteral("dUQa saMklana pavatI"), QStringLiteral("frmSearchCollections")},
-    {QStringLiteral("dUQa pomaonT irpaoT-"), QStringLiteral("frmReportMilkPayments")},
-    {QStringLiteral("dUQa pomaonT ilasT"), QStringLiteral("frmReportPaymentList")},
-    {QStringLiteral("dUQa pomaonT rijasTr"), Registers, QStringLiteral("PR"),
-        QStringLiteral(" dUQa pomaonT rijasTr irpaoT-")},
-    {QStringLiteral("zova rijasTr"), Registers, QStringLiteral("TR"),
-        QStringLiteral(" zova rijasTr irpaoT-")},
-    {QStringLiteral("]cala rijasTr"), Registers, QStringLiteral("UR"),
-        QStringLiteral(" ]cala rijasTr irpaoT-")},
-    {QStringLiteral("vaOyai@tk ]cala irpaoT-"), Registers, QStringLiteral("UD"),
-        QStringLiteral(" ]cala rijasTr irpaoT-")},
-    {QStringLiteral("vaaZÀtUT p~k"), QStringLiteral("frmVadhTootReport")},
-    {QStringLiteral("dUQa KrodI irpaoT-"), PurchaseSales, QStringLiteral("MP"),
-        QStringLiteral("  dUQa KrodI irpaoT-")},
-    {QStringLiteral("dUQa ivaËI irpaoT-"), PurchaseSales, QStringLiteral("MS"),
-        QStringLiteral("  dUQa ivaËI irpaoT-")},
-    {QStringLiteral("dUQa ivaËIcaI tulanaa%mak AakDovaarI"), QStringLiteral("frmReportCashBook"),
-        QStringLiteral("V"), QStringLiteral("  dUQa ivaËIcaI tulanaa%mak AakDovaarI")},
-    {QStringLiteral("dUQa saMklana À ivaËI irpaoT-"), QStringLiteral("frmReportMilkPS")},
-    {QStringLiteral("saBaasadaMcaI yaadI"), QStringLiteral("frmReportMembersList")},
+    {"dUQa saMklana irpaoT-", "frmReportMilkCollections"},
+    {"dUQa saMklana pavatI", "frmSearchCollections"},
+    {"dUQa pomaonT irpaoT-", "frmReportMilkPayments"},
+    {"dUQa pomaonT ilasT", "frmReportPaymentList"},
+    {"dUQa pomaonT rijasTr", Registers, "PR", " dUQa pomaonT rijasTr irpaoT-"},
+    {"zova rijasTr", Registers, "TR", " zova rijasTr irpaoT-"},
+    {"]cala rijasTr", Registers, "UR", " ]cala rijasTr irpaoT-"},
+    {"vaOyai@tk ]cala irpaoT-", Registers, "UD", " ]cala rijasTr irpaoT-"},
+    {"vaaZÀtUT p~k", "frmVadhTootReport"},
+    {"dUQa KrodI irpaoT-", PurchaseSales, "MP", "  dUQa KrodI irpaoT-"},
+    {"dUQa ivaËI irpaoT-", PurchaseSales, "MS", "  dUQa ivaËI irpaoT-"},
+    {"dUQa ivaËIcaI tulanaa%mak AakDovaarI", "frmReportCashBook", "V",
+        "  dUQa ivaËIcaI tulanaa%mak AakDovaarI"},
+    {"dUQa saMklana À ivaËI irpaoT-", "frmReportMilkPS"},
+    {"saBaasadaMcaI yaadI", "frmReportMembersList"},
     Back,
 };
 
 const Table YearlyReport = {
-    {QStringLiteral("]cala yaadI"), Registers, QStringLiteral("UchalBalanceStatement")},
-    {QStringLiteral("zova yaadI"), Registers, QStringLiteral("ThevBalanceStatement")},
+    {"]cala yaadI", Registers, "UchalBalanceStatement"},
+    {"zova yaadI", Registers, "ThevBalanceStatement"},
     Back,
 };
 
 const Table Utilities = {
-    {QStringLiteral("ba^k Ap\\ fa[-lsa"), QStringLiteral("frmBackup")},
-    {QStringLiteral("Aa^Tao saoTIMgja"), QStringLiteral("frmAutoSettings")},
-    {QStringLiteral("baaonasa TUla"), QStringLiteral("frmBonusPayments")},
-    {QStringLiteral("zovaIcaa kalaavaQaI"), QStringLiteral("frmThevDate")},
+    {"ba^k Ap\\ fa[-lsa", "frmBackup"},
+    {"Aa^Tao saoTIMgja", "frmAutoSettings"},
+    {"baaonasa TUla", "frmBonusPayments"},
+    {"zovaIcaa kalaavaQaI", "frmThevDate"},
     Back,
 };
 
@@ -145,9 +139,8 @@ TEST_F(MenuListsTest, HoldTheirEntriesInOrderAsTheyAreSpelt)
 {
     Menu([](Clerk& clerk) {
         EXPECT_EQ(Entries(clerk, "ListMain"),
-            QStringList({QStringLiteral("maasTr"), QStringLiteral("dUQa vyavahar"),
-                QStringLiteral("dUQa irpaoT-"), QStringLiteral("vaaiYa-k irpaoT-"),
-                QStringLiteral("[tr sauivaQaa À TUlsa"), QStringLiteral("baahor")}));
+            QStringList({"maasTr", "dUQa vyavahar", "dUQa irpaoT-", "vaaiYa-k irpaoT-",
+                "[tr sauivaQaa À TUlsa", "baahor"}));
         EXPECT_EQ(IndexOfMain(clerk), 0);
         for (int at = 0; at < 5; ++at)
             EXPECT_EQ(Entries(clerk, SubLists[at]), TextsOf(*Tables[at])) << SubLists[at];
@@ -184,9 +177,9 @@ TEST_F(MenuListsTest, TransportIsOfferedOnlyWhenTheSettingReadsTrueAndThenDoesNo
         Menu(
             [&](Clerk& clerk) { EXPECT_EQ(Entries(clerk, "ListSVouchers"), TextsOf(SVouchers)) << setting; });
     }
-    Run(QStringLiteral("update AutoSettings set ShowTransportCharges='True'"));
+    Run("update AutoSettings set ShowTransportCharges='True'");
     QStringList withTransport = TextsOf(SVouchers);
-    withTransport.insert(7, QStringLiteral("dUQa vaahtUk Kca-"));
+    withTransport.insert(7, "dUQa vaahtUk Kca-");
     Menu([&](Clerk& clerk) {
         ASSERT_EQ(Entries(clerk, "ListSVouchers"), withTransport);
         ChooseMain(clerk, 1);
@@ -199,7 +192,7 @@ TEST_F(MenuListsTest, TransportIsOfferedOnlyWhenTheSettingReadsTrueAndThenDoesNo
 
 TEST_F(MenuListsTest, WithoutASettingsRowNoTransportIsOffered)
 {
-    Run(QStringLiteral("delete * from AutoSettings"));
+    Run("delete * from AutoSettings");
     Menu([](Clerk& clerk) { EXPECT_EQ(Entries(clerk, "ListSVouchers"), TextsOf(SVouchers)); });
 }
 
@@ -229,7 +222,7 @@ TEST_F(MenuListsTest, LeavingTheSystemOpensTheBackupBeforeTheQuestionByBaahorAnd
             clerk.Type(QLatin1String(keys));
             EXPECT_EQ(OnTop(clerk), "frmBackup");
             Type(clerk, "{ESC}");
-            EXPECT_EQ(clerk.Message(), QStringLiteral("saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ"));
+            EXPECT_EQ(clerk.Message(), "saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ");
             Type(clerk, "%n");
             EXPECT_EQ(OnTop(clerk), "MainMenuFrm");
         }

@@ -11,9 +11,9 @@ protected:
     void Menu(const std::function<void(Clerk&)>& script)
     {
         On<MainMenuFrm>([&](Clerk& clerk) {
-            ASSERT_EQ(clerk.ScreenName(), QStringLiteral("frmAppDate"));
-            clerk.Type(QStringLiteral("{ENTER}{ENTER}"));
-            ASSERT_EQ(clerk.ScreenName(), QStringLiteral("MainMenuFrm"));
+            ASSERT_EQ(clerk.ScreenName(), "frmAppDate");
+            clerk.Type("{ENTER}{ENTER}");
+            ASSERT_EQ(clerk.ScreenName(), "MainMenuFrm");
             script(clerk);
         });
         EXPECT_FALSE(Failure);

@@ -20,11 +20,7 @@ protected:
     {
         QString answer = QStringLiteral("none");
         Failure = TheClerk.Play(
-            [&] {
-                answer = World::Current().inputBox->Ask(
-                    QStringLiteral("Enter Folder Name"), QStringLiteral("Backup"), title);
-            },
-            script);
+            [&] { answer = World::Current().inputBox->Ask("Enter Folder Name", "Backup", title); }, script);
         return answer;
     }
 
@@ -43,14 +39,14 @@ TEST_F(InputBoxTest, ProposesAnAnswerInItsLine)
 {
     Answer([](Clerk& clerk) {
         EXPECT_EQ(OnTop(clerk), "frmInputBox");
-        EXPECT_EQ(LabelOf(clerk, "lblTitle"), QStringLiteral("Vetrolan"));
-        EXPECT_EQ(LabelOf(clerk, "lblPrompt"), QStringLiteral("Enter Folder Name"));
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), "Vetrolan");
+        EXPECT_EQ(LabelOf(clerk, "lblPrompt"), "Enter Folder Name");
         EXPECT_EQ(Focus(clerk), "txtAnswer");
         EXPECT_EQ(Reads(clerk, "cmdOk"), "ठीक");
         EXPECT_EQ(Reads(clerk, "cmdCancel"), "रद्द");
         const auto* line = clerk.Top().findChild<QLineEdit*>();
-        EXPECT_EQ(line->selectedText(), QStringLiteral("Backup"));
-        EXPECT_EQ(line->accessibleName(), QStringLiteral("Enter Folder Name"));
+        EXPECT_EQ(line->selectedText(), "Backup");
+        EXPECT_EQ(line->accessibleName(), "Enter Folder Name");
     });
 }
 
@@ -65,14 +61,14 @@ TEST_F(InputBoxTest, ItIsACardOfTheOneWindow)
 
 TEST_F(InputBoxTest, EnterInTheLineOrOnTheButtonTakesWhatStandsThere)
 {
-    EXPECT_EQ(AnswerTo("{ENTER}"), QStringLiteral("Backup"));
-    EXPECT_EQ(AnswerTo("{TAB}{ENTER}"), QStringLiteral("Backup"));
-    EXPECT_EQ(AnswerTo("{TAB} "), QStringLiteral("Backup"));
+    EXPECT_EQ(AnswerTo("{ENTER}"), "Backup");
+    EXPECT_EQ(AnswerTo("{TAB}{ENTER}"), "Backup");
+    EXPECT_EQ(AnswerTo("{TAB} "), "Backup");
 }
 
 TEST_F(InputBoxTest, WhatIsTypedReplacesWhatIsProposedAndLosesTheBlanksAtItsEnds)
 {
-    EXPECT_EQ(AnswerTo(" a b {ENTER}"), QStringLiteral("a b"));
+    EXPECT_EQ(AnswerTo(" a b {ENTER}"), "a b");
 }
 
 TEST_F(InputBoxTest, EscTheSecondButtonAndTheCloseBoxAnswerNothing)
@@ -84,8 +80,7 @@ TEST_F(InputBoxTest, EscTheSecondButtonAndTheCloseBoxAnswerNothing)
 
 TEST_F(InputBoxTest, ItBearsTheTitleThatIsAskedFor)
 {
-    Answer([](Clerk& clerk) { EXPECT_EQ(LabelOf(clerk, "lblTitle"), QStringLiteral("Backup")); },
-        QStringLiteral("Backup"));
+    Answer([](Clerk& clerk) { EXPECT_EQ(LabelOf(clerk, "lblTitle"), "Backup"); }, "Backup");
 }
 
 TEST_F(InputBoxTest, KeysThatWereTypedAheadOfItAreThrownAway)
@@ -96,11 +91,11 @@ TEST_F(InputBoxTest, KeysThatWereTypedAheadOfItAreThrownAway)
 
 TEST_F(InputBoxTest, AWordThatAnInputMethodWroteAheadOfItIsThrownAwayToo)
 {
-    QueueComposed(QStringLiteral("कराड"));
+    QueueComposed("कराड");
     const QString answer = Answer([](Clerk& clerk) {
         EXPECT_EQ(Reads(clerk, "txtAnswer"), "Backup");
-        clerk.Do([] { QueueComposed(QStringLiteral("मसूर")); });
+        clerk.Do([] { QueueComposed("मसूर"); });
         Type(clerk, "{ENTER}");
     });
-    EXPECT_EQ(answer, QStringLiteral("मसूर"));
+    EXPECT_EQ(answer, "मसूर");
 }

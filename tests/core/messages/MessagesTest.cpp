@@ -63,7 +63,7 @@ TEST_F(MessagesTest, TheButtonsReadHaoyaNaahiAndPuzo)
         EXPECT_EQ(Reads(clerk, "cmdOkYes"), "&haoya");
         EXPECT_EQ(Reads(clerk, "cmdCancelNo"), "&naahI");
         EXPECT_EQ(Reads(clerk, "cmdExit"), "puZo");
-        EXPECT_EQ(LabelOf(clerk, "lblMessages"), Seen(QStringLiteral("roka^D- na@kI badlaayacao ka Æ")));
+        EXPECT_EQ(LabelOf(clerk, "lblMessages"), Seen("roka^D- na@kI badlaayacao ka Æ"));
     });
 }
 
@@ -85,12 +85,12 @@ TEST_F(MessagesTest, APlainQuestionIsReadAsItIsWrittenAndSoIsAPlainNotice)
 {
     Failure = TheClerk.Play([] { Ask(Plain(u"Are You Sure to Save ?")); },
         [](Clerk& clerk) {
-            EXPECT_EQ(LabelOf(clerk, "lblMessages"), QStringLiteral("Are You Sure to Save ?"));
+            EXPECT_EQ(LabelOf(clerk, "lblMessages"), "Are You Sure to Save ?");
             Type(clerk, "{ENTER}");
         });
     Failure = TheClerk.Play([] { ShowNotice(Plain(u"Saved")); },
         [](Clerk& clerk) {
-            EXPECT_EQ(LabelOf(clerk, "lblMessages"), QStringLiteral("Saved"));
+            EXPECT_EQ(LabelOf(clerk, "lblMessages"), "Saved");
             Type(clerk, "{ENTER}");
         });
 }
@@ -156,15 +156,15 @@ TEST_F(MessagesTest, ThePromptKeepsWhatWasTypedOnLeavingAndOnPuzo)
 {
     PromptOf([](Clerk& clerk) {
         EXPECT_EQ(Focus(clerk), "txtNarration");
-        EXPECT_EQ(LabelOf(clerk, "lblMessage"), QStringLiteral("नाव"));
+        EXPECT_EQ(LabelOf(clerk, "lblMessage"), "नाव");
         Type(clerk, "rama{ENTER}");
-        EXPECT_EQ(clerk.On<frmNarrations>().Narration, QStringLiteral("rama"));
+        EXPECT_EQ(clerk.On<frmNarrations>().Narration, "rama");
         EXPECT_EQ(Reads(clerk, "cmdExit"), "puZo");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(OnTop(clerk), "");
     });
-    EXPECT_EQ(m_narration, QStringLiteral("rama"));
-    EXPECT_EQ(m_field, QStringLiteral("rama"));
+    EXPECT_EQ(m_narration, "rama");
+    EXPECT_EQ(m_field, "rama");
 }
 
 TEST_F(MessagesTest, WhatWasTypedBehindTheEndOfAPromptAnswersNoBoxThatComesUpThen)
@@ -176,7 +176,7 @@ TEST_F(MessagesTest, WhatWasTypedBehindTheEndOfAPromptAnswersNoBoxThatComesUpThe
                 frmNarrations prompt(Plain(u"नाव"));
                 prompt.ShowModal();
                 if (isPlain)
-                    ShowPlain(QStringLiteral("text"));
+                    ShowPlain("text");
                 else
                     m_answer = Ask(Plain(u"प्रश्न"));
                 frmNarrations next(Plain(u"नाव"));
@@ -184,7 +184,7 @@ TEST_F(MessagesTest, WhatWasTypedBehindTheEndOfAPromptAnswersNoBoxThatComesUpThe
                 m_field = next.Find(u"txtNarration")->Text();
             },
             [&](Clerk& clerk) {
-                clerk.TypeAhead(QStringLiteral("{ESC}%hrama"));
+                clerk.TypeAhead("{ESC}%hrama");
                 if (!isPlain) {
                     EXPECT_EQ(OnTop(clerk), "frmMessages") << "nothing has answered it";
                     Type(clerk, "%n");
@@ -211,7 +211,7 @@ TEST_F(MessagesTest, EscClearsThePromptAndClosesItAndTheCloseBoxClosesWithoutCle
         clerk.CloseBox();
         EXPECT_EQ(OnTop(clerk), "");
     });
-    EXPECT_EQ(m_field, QStringLiteral("rama"));
+    EXPECT_EQ(m_field, "rama");
     EXPECT_EQ(m_narration, QString()) << "the field was never left";
 }
 

@@ -56,7 +56,7 @@ TEST_F(PlainBoxTest, ItIsACardOfTheOneWindowOverTheDimmedScreen)
 {
     Failure = TheClerk.Play([] { ShowNotice(Plain(u"प्रश्न")); },
         [](Clerk& clerk) {
-            clerk.Do([] { ShowPlain(QStringLiteral("Duplicate Record")); });
+            clerk.Do([] { ShowPlain("Duplicate Record"); });
             EXPECT_EQ(OnTop(clerk), "frmPlainBox");
             EXPECT_TRUE(clerk.Top().IsCard());
             EXPECT_EQ(clerk.Top().window(), &ProgramWindow::Current());
@@ -68,27 +68,27 @@ TEST_F(PlainBoxTest, ItIsACardOfTheOneWindowOverTheDimmedScreen)
 
 TEST_F(PlainBoxTest, ItsTitleIsTheOneAskedForBlanksAndAllOrElseTheNameOfTheProgram)
 {
-    Tell(QStringLiteral("Access Granted"), [](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblTitle"), QStringLiteral("Vetrolan"));
-        EXPECT_EQ(ProgramWindow::Current().windowTitle(), QStringLiteral("Vetrolan"));
+    Tell("Access Granted", [](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), "Vetrolan");
+        EXPECT_EQ(ProgramWindow::Current().windowTitle(), "Vetrolan");
     });
     Tell(
-        QStringLiteral("Records Not Available"),
+        "Records Not Available",
         [](Clerk& clerk) {
-            EXPECT_EQ(LabelOf(clerk, "lblTitle"), QStringLiteral(" Cash Book"));
-            EXPECT_EQ(ProgramWindow::Current().windowTitle(), QStringLiteral("Cash Book"));
+            EXPECT_EQ(LabelOf(clerk, "lblTitle"), " Cash Book");
+            EXPECT_EQ(ProgramWindow::Current().windowTitle(), "Cash Book");
         },
-        QStringLiteral(" Cash Book"));
+        " Cash Book");
 }
 
 TEST_F(PlainBoxTest, EnterSpaceEscAndTheCloseBoxCloseIt)
 {
     for (const char* key : {"{ENTER}", " ", "{ESC}"})
-        Tell(QStringLiteral("Access Granted"), [key](Clerk& clerk) {
+        Tell("Access Granted", [key](Clerk& clerk) {
             clerk.Type(QString::fromLatin1(key));
             EXPECT_EQ(OnTop(clerk), "") << key;
         });
-    Tell(QStringLiteral("Access Granted"), [](Clerk& clerk) {
+    Tell("Access Granted", [](Clerk& clerk) {
         clerk.CloseBox();
         EXPECT_EQ(OnTop(clerk), "");
     });
@@ -96,7 +96,7 @@ TEST_F(PlainBoxTest, EnterSpaceEscAndTheCloseBoxCloseIt)
 
 TEST_F(PlainBoxTest, OtherKeysLeaveItStanding)
 {
-    Tell(QStringLiteral("Access Granted"), [this](Clerk& clerk) {
+    Tell("Access Granted", [this](Clerk& clerk) {
         Type(clerk, "a1{TAB}{UP}{F2}{F12}");
         EXPECT_EQ(OnTop(clerk), "frmPlainBox");
         EXPECT_EQ(Focus(clerk), "cmdOk");
@@ -109,7 +109,7 @@ TEST_F(PlainBoxTest, KeysThatWereTypedAheadOfItAreThrownAwayAndSoAreThoseOfAKeyT
     Failure = TheClerk.Play(
         [] {
             QueueKeys(QStringLiteral("{ENTER}").repeated(5));
-            ShowPlain(QStringLiteral("Duplicate Record"));
+            ShowPlain("Duplicate Record");
         },
         [](Clerk& clerk) {
             ASSERT_EQ(OnTop(clerk), "frmPlainBox");
@@ -123,8 +123,8 @@ TEST_F(PlainBoxTest, KeysThatWereTypedAheadOfItAreThrownAwayAndSoAreThoseOfAKeyT
 
 TEST_F(PlainBoxTest, AFewWordsStandLarge)
 {
-    Tell(QStringLiteral("Duplicate Record"), [](Clerk& clerk) {
-        const auto* text = clerk.Top().findChild<QLabel*>(QStringLiteral("lblText"));
+    Tell("Duplicate Record", [](Clerk& clerk) {
+        const auto* text = clerk.Top().findChild<QLabel*>("lblText");
         EXPECT_EQ(text->font().pixelSize(), Look::PaintedFont(Look::Size::Large).pixelSize());
     });
 }
@@ -140,7 +140,7 @@ TEST_F(PlainBoxTest, AnErrorWithALongStatementIsReadWholeInASmallWindow)
             clerk.Do([window] { ProgramWindow::Current().resize(window); });
             EXPECT_EQ(TextOf(clerk), error);
             EXPECT_TRUE(ProgramWindow::Current().rect().contains(PlaceOf(clerk)));
-            const auto* text = clerk.Top().findChild<QLabel*>(QStringLiteral("lblText"));
+            const auto* text = clerk.Top().findChild<QLabel*>("lblText");
             EXPECT_GE(text->height(), text->heightForWidth(text->width())) << window.width();
             ExpectWhole(clerk, *text);
             ExpectWhole(clerk, *clerk.Top().Find(u"cmdOk")->Widget());
@@ -153,8 +153,8 @@ TEST_F(PlainBoxTest, ALongTextWithoutBlanksIsBrokenIntoLines)
     Tell(name, [&](Clerk& clerk) {
         EXPECT_EQ(TextOf(clerk), name);
         EXPECT_TRUE(ProgramWindow::Current().rect().contains(PlaceOf(clerk)));
-        ExpectWhole(clerk, *clerk.Top().findChild<QLabel*>(QStringLiteral("lblText")));
-        const QLabel& text = *clerk.Top().findChild<QLabel*>(QStringLiteral("lblText"));
+        ExpectWhole(clerk, *clerk.Top().findChild<QLabel*>("lblText"));
+        const QLabel& text = *clerk.Top().findChild<QLabel*>("lblText");
         EXPECT_GE(text.width() * text.height() / text.fontMetrics().height(),
             text.fontMetrics().horizontalAdvance(name))
             << "all of its lines have room";
@@ -169,7 +169,7 @@ TEST_F(PlainBoxTest, TheEndOfAVeryLongTextIsLeftOutAndTheBoxSaysSo)
         EXPECT_TRUE(shown.endsWith(QChar(0x2026)));
         EXPECT_TRUE(statement.startsWith(shown.chopped(1)));
         EXPECT_GT(shown.size(), 700);
-        ExpectWhole(clerk, *clerk.Top().findChild<QLabel*>(QStringLiteral("lblText")));
+        ExpectWhole(clerk, *clerk.Top().findChild<QLabel*>("lblText"));
         ExpectWhole(clerk, *clerk.Top().Find(u"cmdOk")->Widget());
     });
 }

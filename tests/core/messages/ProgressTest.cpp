@@ -66,7 +66,7 @@ private:
     void Note()
     {
         if (!IsBarSeen()) {
-            seen.append(QStringLiteral("hidden"));
+            seen.append("hidden");
             return;
         }
         const int whole = Bar.Widget()->contentsRect().width();
@@ -99,7 +99,7 @@ protected:
 TEST_F(ProgressTest, TheBarFillsRowByRow)
 {
     Walk(4, [](WalkingScreen& screen) {
-        EXPECT_EQ(screen.seen.join(u'|'), QStringLiteral("0 % 1px|25 % 25|50 % 50|75 % 75|100 % 100"));
+        EXPECT_EQ(screen.seen.join(u'|'), "0 % 1px|25 % 25|50 % 50|75 % 75|100 % 100");
         EXPECT_EQ(screen.Bar.Done(), 4);
         EXPECT_GE(screen.painted, 5) << "it is seen, not only set";
     });
@@ -108,14 +108,14 @@ TEST_F(ProgressTest, TheBarFillsRowByRow)
 TEST_F(ProgressTest, ThePercentIsItsWholePart)
 {
     Walk(3, [](WalkingScreen& screen) {
-        EXPECT_EQ(screen.seen.join(u'|'), QStringLiteral("0 % 1px|33 % 33|66 % 67|100 % 100"));
+        EXPECT_EQ(screen.seen.join(u'|'), "0 % 1px|33 % 33|66 % 67|100 % 100");
     });
 }
 
 TEST_F(ProgressTest, ManyRowsArePaintedOnceAPercent)
 {
     Walk(20000, [](WalkingScreen& screen) {
-        EXPECT_EQ(screen.seen.last(), QStringLiteral("100 % 100"));
+        EXPECT_EQ(screen.seen.last(), "100 % 100");
         EXPECT_LE(screen.painted, 250);
         EXPECT_GE(screen.painted, 100);
     });
@@ -123,14 +123,14 @@ TEST_F(ProgressTest, ManyRowsArePaintedOnceAPercent)
 
 TEST_F(ProgressTest, ForNoRowsThereIsNothingToShow)
 {
-    Walk(0, [](WalkingScreen& screen) { EXPECT_EQ(screen.seen, QStringList(QStringLiteral("hidden"))); });
+    Walk(0, [](WalkingScreen& screen) { EXPECT_EQ(screen.seen, QStringList("hidden")); });
 }
 
 TEST_F(ProgressTest, WhatIsTypedWhileItFillsIsTypedAfterwards)
 {
     QString during = QStringLiteral("none");
     Walk(
-        4, [](WalkingScreen& screen) { EXPECT_EQ(screen.txtNote.Text(), QStringLiteral("12")); },
+        4, [](WalkingScreen& screen) { EXPECT_EQ(screen.txtNote.Text(), "12"); },
         [&](WalkingScreen& screen, int row) {
             if (row == 0 || row == 2)
                 QMetaObject::invokeMethod(

@@ -25,26 +25,25 @@ void ReportPreviewTest::AddDeliveries(int count, const std::function<QString(int
 
 void ReportPreviewTest::WriteTemplate(const QString& text)
 {
-    QFile file(FolderFile(QStringLiteral("Deliveries.rpt")));
+    QFile file(FolderFile("Deliveries.rpt"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(text.toUtf8());
 }
 
 void ReportPreviewTest::WritePagesTemplate()
 {
-    WriteTemplate(QStringLiteral(
-        "<report name=\"Deliveries\" paper=\"A4\" font=\"Noto Sans Devanagari 12\">\n"
-        "<source name=\"c\" table=\"MilkCollectionsTemp\" order=\"CollectionNo\"/>\n"
-        "<pageheader><text bold=\"1\" size=\"16\" align=\"center\">{$society}</text></pageheader>\n"
-        "<pagefooter><text align=\"right\">पान {#page} पैकी {#pages}</text></pagefooter>\n"
-        "<each source=\"c\" newpage=\"1\"><text>{MemberName}</text>"
-        "<text>{CollectionDate}</text><text>{Liters|0.00}</text></each>\n"
-        "</report>"));
+    WriteTemplate("<report name=\"Deliveries\" paper=\"A4\" font=\"Noto Sans Devanagari 12\">\n"
+                  "<source name=\"c\" table=\"MilkCollectionsTemp\" order=\"CollectionNo\"/>\n"
+                  "<pageheader><text bold=\"1\" size=\"16\" align=\"center\">{$society}</text></pageheader>\n"
+                  "<pagefooter><text align=\"right\">पान {#page} पैकी {#pages}</text></pagefooter>\n"
+                  "<each source=\"c\" newpage=\"1\"><text>{MemberName}</text>"
+                  "<text>{CollectionDate}</text><text>{Liters|0.00}</text></each>\n"
+                  "</report>");
 }
 
 void ReportPreviewTest::WriteTableTemplate()
 {
-    WriteTemplate(QStringLiteral(
+    WriteTemplate(
         "<report name=\"Deliveries\" paper=\"A4\" margin=\"12\" font=\"Noto Sans Devanagari 9\">\n"
         "<source name=\"c\" table=\"MilkCollectionsTemp\" order=\"CollectionNo\"/>\n"
         "<pageheader><text bold=\"1\" size=\"16\" align=\"center\">{$society}</text>"
@@ -54,13 +53,13 @@ void ReportPreviewTest::WriteTableTemplate()
         "<col w=\"30\" head=\"दिनांक\">{CollectionDate}</col>"
         "<col w=\"30\" head=\"लिटर्स\" align=\"right\" total=\"sum\">{Liters|0.00}</col>"
         "<total label=\"एकूण\"/></table>\n"
-        "</report>"));
+        "</report>");
 }
 
 ReportControl ReportPreviewTest::Control() const
 {
     ReportControl control;
-    control.SetReportFileName(QStringLiteral("C:\\Tarvel01\\Vetrolan\\Deliveries.rpt"));
+    control.SetReportFileName("C:\\Tarvel01\\Vetrolan\\Deliveries.rpt");
     control.SetLogon(Logon());
     return control;
 }

@@ -26,10 +26,7 @@ protected:
     {
         if (event->type() == QEvent::Paint && Pages.isEmpty() && object->parent()
             && object->parent()->objectName() == u"picPage")
-            Pages = static_cast<QWidget*>(object)
-                        ->window()
-                        ->findChild<QLabel*>(QStringLiteral("lblPages"))
-                        ->text();
+            Pages = static_cast<QWidget*>(object)->window()->findChild<QLabel*>("lblPages")->text();
         return false;
     }
 };
@@ -74,17 +71,17 @@ protected:
 
 TEST_F(PreviewTest, TheFirstPageIsSeenBeforeTheLastOfThreeHundredIsLaidOut)
 {
-    AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
+    AddDeliveries(LongReport, [](int) { return "अशोक शिंदे"; });
     WriteTableTemplate();
     FirstPaint first;
     Show([&](Clerk& clerk) {
-        EXPECT_EQ(first.Pages, QStringLiteral("1 / …"));
-        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / …"));
-        TypeAtOnce(clerk, QStringLiteral("{F6}{PGDN}{PGDN}{END}"));
-        EXPECT_EQ(Pages(clerk), QStringLiteral("3 / …")) << "one can leaf before the last page is there";
-        EXPECT_EQ(State(clerk), QStringLiteral("शेवटचे पान तयार होत आहे …"));
+        EXPECT_EQ(first.Pages, "1 / …");
+        EXPECT_EQ(Pages(clerk), "1 / …");
+        TypeAtOnce(clerk, "{F6}{PGDN}{PGDN}{END}");
+        EXPECT_EQ(Pages(clerk), "3 / …") << "one can leaf before the last page is there";
+        EXPECT_EQ(State(clerk), "शेवटचे पान तयार होत आहे …");
         WaitForLastPage(clerk);
-        const QStringList pages = Pages(clerk).split(QStringLiteral(" / "));
+        const QStringList pages = Pages(clerk).split(" / ");
         EXPECT_EQ(pages.first(), pages.last()) << "End leads to the last page once it is there";
         EXPECT_GE(pages.last().toInt(), 300);
         EXPECT_EQ(State(clerk), QString());
@@ -93,13 +90,13 @@ TEST_F(PreviewTest, TheFirstPageIsSeenBeforeTheLastOfThreeHundredIsLaidOut)
 
 TEST_F(PreviewTest, ATurnOfThePageWhileTheLastIsAwaitedStays)
 {
-    AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
+    AddDeliveries(LongReport, [](int) { return "अशोक शिंदे"; });
     WriteTableTemplate();
     Show([](Clerk& clerk) {
-        TypeAtOnce(clerk, QStringLiteral("{F6}{END}{PGDN}"));
-        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / …"));
+        TypeAtOnce(clerk, "{F6}{END}{PGDN}");
+        EXPECT_EQ(Pages(clerk), "2 / …");
         WaitForLastPage(clerk);
-        EXPECT_TRUE(Pages(clerk).startsWith(QStringLiteral("2 / "))) << qPrintable(Pages(clerk));
+        EXPECT_TRUE(Pages(clerk).startsWith("2 / ")) << qPrintable(Pages(clerk));
     });
 }
 
@@ -108,7 +105,7 @@ TEST_F(PreviewTest, TheTitleIsTheReportsAndTheKeysFitIntoTheWindow)
     AddFivePages();
     Show([](Clerk& clerk) {
         EXPECT_EQ(OnTop(clerk), "frmReportPreview");
-        EXPECT_EQ(clerk.Top().Title().Seen(), QStringLiteral("Deliveries"));
+        EXPECT_EQ(clerk.Top().Title().Seen(), "Deliveries");
         EXPECT_LE(clerk.Top().minimumSizeHint().width(), Look::ScreenWidth);
         EXPECT_LE(clerk.Top().layout()->minimumHeightForWidth(Look::ScreenWidth), Look::ScreenHeight);
         EXPECT_EQ(Focus(clerk), "picPage");
@@ -117,12 +114,12 @@ TEST_F(PreviewTest, TheTitleIsTheReportsAndTheKeysFitIntoTheWindow)
 
 TEST_F(PreviewTest, AReportWithATitleShowsItInPlaceOfItsName)
 {
-    WriteTemplate(QStringLiteral("<report name=\"Deliveries\" title=\"दूध संकलन रिपोर्ट\" paper=\"A4\">"
-                                 "<text>एक</text></report>"));
+    WriteTemplate("<report name=\"Deliveries\" title=\"दूध संकलन रिपोर्ट\" paper=\"A4\">"
+                  "<text>एक</text></report>");
     Show([](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblTitle"), QStringLiteral("दूध संकलन रिपोर्ट"));
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), "दूध संकलन रिपोर्ट");
         WaitForLastPage(clerk);
-        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 1"));
+        EXPECT_EQ(Pages(clerk), "1 / 1");
     });
 }
 
@@ -152,13 +149,13 @@ TEST_F(PreviewTest, AnArrowScrollsAPageThatIsLargerThanTheWindowAndTurnsItAtItsE
         EXPECT_GT(once, 0);
         Type(clerk, "{DOWN}{UP}");
         EXPECT_EQ(Scrolled(clerk), once);
-        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
-        for (int presses = 0; presses < 100 && Pages(clerk) == QStringLiteral("1 / 5"); ++presses)
+        EXPECT_EQ(Pages(clerk), "1 / 5");
+        for (int presses = 0; presses < 100 && Pages(clerk) == "1 / 5"; ++presses)
             Type(clerk, "{DOWN}");
-        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
+        EXPECT_EQ(Pages(clerk), "2 / 5");
         EXPECT_EQ(Scrolled(clerk), 0) << "the next page from its top";
         Type(clerk, "{UP}");
-        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
+        EXPECT_EQ(Pages(clerk), "1 / 5");
         EXPECT_GT(Scrolled(clerk), once) << "the page before from its bottom";
     });
 }
@@ -169,15 +166,15 @@ TEST_F(PreviewTest, PgDnAndPgUpScrollALargerPageByTheWindowAndTurnItAtItsEdge)
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
         Type(clerk, "{F7}{PGDN}");
-        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
+        EXPECT_EQ(Pages(clerk), "1 / 5");
         EXPECT_GT(Scrolled(clerk), View(clerk).Widget()->height() / 4);
         EXPECT_LT(Scrolled(clerk), View(clerk).Widget()->height()) << "nothing is passed over";
-        for (int presses = 0; presses < 10 && Pages(clerk) == QStringLiteral("1 / 5"); ++presses)
+        for (int presses = 0; presses < 10 && Pages(clerk) == "1 / 5"; ++presses)
             Type(clerk, "{PGDN}");
-        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
+        EXPECT_EQ(Pages(clerk), "2 / 5");
         EXPECT_EQ(Scrolled(clerk), 0);
         Type(clerk, "{PGUP}");
-        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 5"));
+        EXPECT_EQ(Pages(clerk), "1 / 5");
         EXPECT_GT(Scrolled(clerk), 0) << "the page before from its bottom";
     });
 }
@@ -225,9 +222,9 @@ TEST_F(PreviewTest, ThePageIsFittedToTheWidthToTheWindowOrShownInItsOwnSize)
         const QString whole = Zoom(clerk);
         EXPECT_NE(whole, wide);
         Type(clerk, "{DOWN}");
-        EXPECT_EQ(View(clerk).Text(), QStringLiteral("2")) << "there is nothing to scroll in a whole page";
+        EXPECT_EQ(View(clerk).Text(), "2") << "there is nothing to scroll in a whole page";
         Type(clerk, "{F7}");
-        EXPECT_EQ(Zoom(clerk), QStringLiteral("100 %"));
+        EXPECT_EQ(Zoom(clerk), "100 %");
         Type(clerk, "{F5}");
         EXPECT_EQ(Zoom(clerk), wide);
     });
@@ -238,15 +235,15 @@ TEST_F(PreviewTest, PlusAndMinusGoThroughTheSizesAndStopAtTheLast)
     AddFivePages();
     Show([](Clerk& clerk) {
         Type(clerk, "{F7}{+}");
-        EXPECT_EQ(Zoom(clerk), QStringLiteral("125 %"));
+        EXPECT_EQ(Zoom(clerk), "125 %");
         Type(clerk, "--");
-        EXPECT_EQ(Zoom(clerk), QStringLiteral("75 %"));
+        EXPECT_EQ(Zoom(clerk), "75 %");
         for (int presses = 0; presses < 15; ++presses)
             Type(clerk, "-");
-        EXPECT_EQ(Zoom(clerk), QStringLiteral("25 %"));
+        EXPECT_EQ(Zoom(clerk), "25 %");
         for (int presses = 0; presses < 15; ++presses)
             Type(clerk, "{+}");
-        EXPECT_EQ(Zoom(clerk), QStringLiteral("300 %"));
+        EXPECT_EQ(Zoom(clerk), "300 %");
         Type(clerk, "{RIGHT}");
         const auto* area = static_cast<QAbstractScrollArea*>(View(clerk).Widget());
         EXPECT_GT(area->horizontalScrollBar()->value(), 0);
@@ -260,11 +257,11 @@ TEST_F(PreviewTest, ASearchGoesToThePageAndMarksTheHitAndF3GoesOn)
     AddFivePages();
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
-        Seek(clerk, QStringLiteral("कमल"));
+        Seek(clerk, "कमल");
         EXPECT_EQ(Focus(clerk), "picPage");
-        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
+        EXPECT_EQ(Pages(clerk), "2 / 5");
         EXPECT_FALSE(View(clerk).Marked().isEmpty());
-        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 2"));
+        EXPECT_EQ(State(clerk), "सापडले: 1 / 2");
         const std::pair<const char*, const char*> steps[] = {
             {"{F3}", "4 / 5"}, {"{F3}", "2 / 5"}, {"+{F3}", "4 / 5"}, {"+{F3}", "2 / 5"}};
         for (const auto& [key, pages] : steps) {
@@ -273,9 +270,9 @@ TEST_F(PreviewTest, ASearchGoesToThePageAndMarksTheHitAndF3GoesOn)
             EXPECT_FALSE(View(clerk).Marked().isEmpty()) << key;
         }
         Type(clerk, "{END}{F3}");
-        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5")) << "behind the last it begins anew";
+        EXPECT_EQ(Pages(clerk), "2 / 5") << "behind the last it begins anew";
         Type(clerk, "{F6}{PGDN}{F3}");
-        EXPECT_EQ(Pages(clerk), QStringLiteral("4 / 5")) << "it goes on from the page that is looked at";
+        EXPECT_EQ(Pages(clerk), "4 / 5") << "it goes on from the page that is looked at";
     });
 }
 
@@ -285,12 +282,12 @@ TEST_F(PreviewTest, ASearchThatFindsNothingSaysSoAndLeavesThePage)
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
         Type(clerk, "{F6}{PGDN}");
-        Seek(clerk, QStringLiteral("गणपत"));
-        EXPECT_EQ(State(clerk), QStringLiteral("सापडले नाही"));
-        EXPECT_EQ(Pages(clerk), QStringLiteral("2 / 5"));
+        Seek(clerk, "गणपत");
+        EXPECT_EQ(State(clerk), "सापडले नाही");
+        EXPECT_EQ(Pages(clerk), "2 / 5");
         EXPECT_TRUE(View(clerk).Marked().isEmpty());
         Type(clerk, "{F3}");
-        EXPECT_EQ(State(clerk), QStringLiteral("सापडले नाही"));
+        EXPECT_EQ(State(clerk), "सापडले नाही");
     });
 }
 
@@ -312,20 +309,20 @@ TEST_F(PreviewTest, FiguresAndDatesAreFoundAsTheyAreTyped)
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
         Type(clerk, "^f1.50{ENTER}");
-        EXPECT_EQ(Pages(clerk), QStringLiteral("3 / 5"));
-        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 1"));
+        EXPECT_EQ(Pages(clerk), "3 / 5");
+        EXPECT_EQ(State(clerk), "सापडले: 1 / 1");
         Type(clerk, "^f05/04/2026{ENTER}");
-        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 3 / 5"));
+        EXPECT_EQ(State(clerk), "सापडले: 3 / 5");
     });
 }
 
 TEST_F(PreviewTest, LatinLettersOnThePaperAreFoundAsTheyAreTyped)
 {
-    WriteTemplate(QStringLiteral("<report name=\"Deliveries\" paper=\"A4\"><text>SNF</text></report>"));
+    WriteTemplate("<report name=\"Deliveries\" paper=\"A4\"><text>SNF</text></report>");
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
         Type(clerk, "^fSNF{ENTER}");
-        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 1"));
+        EXPECT_EQ(State(clerk), "सापडले: 1 / 1");
     });
 }
 
@@ -334,9 +331,8 @@ TEST_F(PreviewTest, BlanksAroundTheTypedWordsAreNoPartOfThem)
     AddFivePages();
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
-        clerk.Type(QStringLiteral("^f ") + Shivaji01::FromUnicode(QStringLiteral("पाटील"))
-            + QStringLiteral(" {ENTER}"));
-        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 2"));
+        clerk.Type(QStringLiteral("^f ") + Shivaji01::FromUnicode(u"पाटील") + QStringLiteral(" {ENTER}"));
+        EXPECT_EQ(State(clerk), "सापडले: 1 / 2");
     });
 }
 
@@ -347,11 +343,11 @@ TEST_F(PreviewTest, ASearchBehindWhatIsLaidOutWaitsForTheRest)
     });
     WriteTableTemplate();
     Show([](Clerk& clerk) {
-        TypeAtOnce(clerk, QStringLiteral("^f") + Shivaji01::FromUnicode(QStringLiteral("कमल")) + u"{ENTER}");
-        EXPECT_EQ(State(clerk), QStringLiteral("शोधत आहे …"));
-        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / …"));
+        TypeAtOnce(clerk, QStringLiteral("^f") + Shivaji01::FromUnicode(u"कमल") + u"{ENTER}");
+        EXPECT_EQ(State(clerk), "शोधत आहे …");
+        EXPECT_EQ(Pages(clerk), "1 / …");
         WaitForLastPage(clerk);
-        EXPECT_EQ(State(clerk), QStringLiteral("सापडले: 1 / 1"));
+        EXPECT_EQ(State(clerk), "सापडले: 1 / 1");
         EXPECT_GE(View(clerk).Text().toInt(), 300);
         EXPECT_FALSE(View(clerk).Marked().isEmpty());
     });
@@ -371,14 +367,14 @@ TEST_F(PreviewTest, EscLeavesTheSearchFirstAndThenCloses)
 
 TEST_F(PreviewTest, EscClosesAReportWhoseLastPageIsNotYetThereAndTheNextReadsTheBooksAnew)
 {
-    AddDeliveries(LongReport, [](int) { return QStringLiteral("अशोक शिंदे"); });
+    AddDeliveries(LongReport, [](int) { return "अशोक शिंदे"; });
     WriteTableTemplate();
     Show([](Clerk& clerk) { Type(clerk, "{ESC}"); });
-    Run(QStringLiteral("delete * from MilkCollectionsTemp"));
-    AddDeliveries(1, [](int) { return QStringLiteral("कमल पाटील"); });
+    Run("delete * from MilkCollectionsTemp");
+    AddDeliveries(1, [](int) { return "कमल पाटील"; });
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
-        EXPECT_EQ(Pages(clerk), QStringLiteral("1 / 1"));
+        EXPECT_EQ(Pages(clerk), "1 / 1");
     });
 }
 
@@ -388,6 +384,6 @@ TEST_F(PreviewTest, ThePageNumbersOnThePagesAreCompleteOnceTheyAreKnown)
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
         Type(clerk, "^f5{ENTER}");
-        EXPECT_NE(State(clerk), QStringLiteral("सापडले नाही"));
+        EXPECT_NE(State(clerk), "सापडले नाही");
     });
 }

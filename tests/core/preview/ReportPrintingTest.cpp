@@ -12,7 +12,7 @@ class ReportPrintingTest : public ReportPreviewTest {
 protected:
     ReportPrintingTest()
     {
-        AddDeliveries(3, [](int) { return QStringLiteral("अशोक शिंदे"); });
+        AddDeliveries(3, [](int) { return "अशोक शिंदे"; });
         WriteTableTemplate();
     }
 
@@ -42,18 +42,18 @@ TEST_F(ReportPrintingTest, TheReportGoesToTheOnlyPrinterWithoutAQuestion)
     Show([this](Clerk& clerk) {
         Type(clerk, "^p");
         EXPECT_EQ(OnTop(clerk), "frmReportPreview");
-        EXPECT_EQ(State(clerk), QStringLiteral("छपाईला पाठवले: Office"));
+        EXPECT_EQ(State(clerk), "छपाईला पाठवले: Office");
         ASSERT_EQ(m_printer->Jobs.size(), 1U);
-        EXPECT_EQ(m_printer->Jobs.front().title, QStringLiteral("Deliveries"));
-        EXPECT_EQ(m_printer->Jobs.front().printer, QStringLiteral("Office"));
-        EXPECT_TRUE(m_printer->Printed.first().contains(QStringLiteral("अशोक शिंदे")));
+        EXPECT_EQ(m_printer->Jobs.front().title, "Deliveries");
+        EXPECT_EQ(m_printer->Jobs.front().printer, "Office");
+        EXPECT_TRUE(m_printer->Printed.first().contains("अशोक शिंदे"));
     });
     EXPECT_TRUE(TheBox.Shown.isEmpty());
 }
 
 TEST_F(ReportPrintingTest, OneOfSeveralPrintersIsChosen)
 {
-    m_printer->There = {QStringLiteral("Office"), QStringLiteral("Roll")};
+    m_printer->There = {"Office", "Roll"};
     Show([this](Clerk& clerk) {
         Type(clerk, "^p");
         EXPECT_EQ(OnTop(clerk), "frmReportPrinter");
@@ -61,13 +61,13 @@ TEST_F(ReportPrintingTest, OneOfSeveralPrintersIsChosen)
         Type(clerk, "{DOWN}{ENTER}");
         EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         ASSERT_EQ(m_printer->Jobs.size(), 1U);
-        EXPECT_EQ(m_printer->Jobs.front().printer, QStringLiteral("Roll"));
+        EXPECT_EQ(m_printer->Jobs.front().printer, "Roll");
     });
 }
 
 TEST_F(ReportPrintingTest, EscAmongThePrintersPrintsNothing)
 {
-    m_printer->There = {QStringLiteral("Office"), QStringLiteral("Roll")};
+    m_printer->There = {"Office", "Roll"};
     Show([this](Clerk& clerk) {
         Type(clerk, "^p{ESC}");
         EXPECT_EQ(OnTop(clerk), "frmReportPreview");
@@ -78,14 +78,14 @@ TEST_F(ReportPrintingTest, EscAmongThePrintersPrintsNothing)
 TEST_F(ReportPrintingTest, ARefusalIsAPlainMessageAndNothingOfTheBooksIsLost)
 {
     m_printer->Answer = {Refusal};
-    const QStringList before = Rows(QStringLiteral("select * from MilkCollectionsTemp"));
+    const QStringList before = Rows("select * from MilkCollectionsTemp");
     Show([](Clerk& clerk) {
         Type(clerk, "^p");
         EXPECT_EQ(OnTop(clerk), "frmReportPreview");
         EXPECT_EQ(State(clerk), QString());
     });
     EXPECT_EQ(TheBox.Shown, QStringList(Refusal));
-    EXPECT_EQ(Rows(QStringLiteral("select * from MilkCollectionsTemp")), before);
+    EXPECT_EQ(Rows("select * from MilkCollectionsTemp"), before);
 }
 
 TEST_F(ReportPrintingTest, WithoutAPrinterTheRefusalIsToldToo)
@@ -106,7 +106,7 @@ TEST_F(ReportPrintingTest, WhatIsPrintedLiesWithTheBooksAndIsSweptAtTheNextStart
     m_handover.reset();
     m_handover.emplace(std::make_unique<FakePrinter>());
     EXPECT_FALSE(QFile::exists(printed));
-    EXPECT_TRUE(QFile::exists(FolderFile(QStringLiteral("Morvelta.mdb"))));
+    EXPECT_TRUE(QFile::exists(FolderFile("Morvelta.mdb")));
 }
 
 TEST_F(ReportPrintingTest, APrintWithoutThePreviewTellsTheRefusalAndGoesOn)
@@ -123,13 +123,13 @@ TEST_F(ReportPrintingTest, APrintWithoutThePreviewTellsTheRefusalAndGoesOn)
 
 TEST_F(ReportPrintingTest, ATemplatesFaultsAreAllShownInTheBoxThatEndsTheProgram)
 {
-    WriteTemplate(QStringLiteral("<report name=\"Deliveries\" paper=\"A4\">\n"
-                                 "<source name=\"c\" table=\"MilkCollectionsTemp\"/>\n"
-                                 "<banner/>\n"
-                                 "<table source=\"c\">\n"
-                                 "<col>{Colour}</col>\n"
-                                 "<col w=\"900\">{MemberName}</col>\n"
-                                 "</table></report>"));
+    WriteTemplate("<report name=\"Deliveries\" paper=\"A4\">\n"
+                  "<source name=\"c\" table=\"MilkCollectionsTemp\"/>\n"
+                  "<banner/>\n"
+                  "<table source=\"c\">\n"
+                  "<col>{Colour}</col>\n"
+                  "<col w=\"900\">{MemberName}</col>\n"
+                  "</table></report>");
     const QString box = EndOfProgram(Control());
     for (const char* piece :
         {"Deliveries.rpt:3:", "banner", "Deliveries.rpt:5:", "Colour", "Deliveries.rpt:4:", "904"})
@@ -138,8 +138,8 @@ TEST_F(ReportPrintingTest, ATemplatesFaultsAreAllShownInTheBoxThatEndsTheProgram
 
 TEST_F(ReportPrintingTest, AMissingTemplateIsNamedInTheBoxThatEndsTheProgram)
 {
-    ASSERT_TRUE(QFile::remove(FolderFile(QStringLiteral("Deliveries.rpt"))));
-    EXPECT_TRUE(EndOfProgram(Control()).contains(QStringLiteral("Deliveries.rpt")));
+    ASSERT_TRUE(QFile::remove(FolderFile("Deliveries.rpt")));
+    EXPECT_TRUE(EndOfProgram(Control()).contains("Deliveries.rpt"));
 }
 
 TEST_F(ReportPrintingTest, AFormulaThatCantBeReadIsShownInTheBoxThatEndsTheProgram)
@@ -153,9 +153,9 @@ TEST_F(ReportPrintingTest, AFormulaThatCantBeReadIsShownInTheBoxThatEndsTheProgr
 TEST_F(ReportPrintingTest, ASelectionFormulaNarrowsWhatIsShown)
 {
     ReportControl control = Control();
-    control.SetSelectionFormula(QStringLiteral("{MilkCollectionsTemp.CollectionNo} = 2"));
+    control.SetSelectionFormula("{MilkCollectionsTemp.CollectionNo} = 2");
     control.SetDestination(ReportDestination::Printer);
     ASSERT_TRUE(control.Print());
-    EXPECT_TRUE(m_printer->Printed.first().contains(QStringLiteral("1.00")));
-    EXPECT_FALSE(m_printer->Printed.first().contains(QStringLiteral("1.50")));
+    EXPECT_TRUE(m_printer->Printed.first().contains("1.00"));
+    EXPECT_FALSE(m_printer->Printed.first().contains("1.50"));
 }

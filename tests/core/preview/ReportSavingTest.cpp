@@ -71,20 +71,20 @@ protected:
 TEST_F(ReportSavingTest, ThePdfReadsAsTheScreenDoes)
 {
     Show([this](Clerk& clerk) {
-        SaveAs(clerk, PdfKey, QStringLiteral("april.pdf"));
+        SaveAs(clerk, PdfKey, "april.pdf");
         EXPECT_EQ(OnTop(clerk), "frmReportPreview");
-        EXPECT_EQ(State(clerk), QStringLiteral("जतन केले: ") + Saved(QStringLiteral("april.pdf")));
+        EXPECT_EQ(State(clerk), QStringLiteral("जतन केले: ") + Saved("april.pdf"));
     });
-    const QString text = PdfText(Saved(QStringLiteral("april.pdf")), {QStringLiteral("-layout")});
+    const QString text = PdfText(Saved("april.pdf"), {"-layout"});
     for (const char* piece : {"श्री गणेश दूध संस्था", "क्षमा द्विवेदी", "कमल, पाटील", "पान 1 / 1", "3.00"})
         EXPECT_TRUE(text.contains(QString::fromUtf8(piece))) << piece << " in " << qPrintable(text);
-    EXPECT_EQ(InFolder(), QStringList(QStringLiteral("april.pdf")));
+    EXPECT_EQ(InFolder(), QStringList("april.pdf"));
 }
 
 TEST_F(ReportSavingTest, TheCsvIsUnicodeWithItsMarkAndOneRowARecord)
 {
-    Show([this](Clerk& clerk) { SaveAs(clerk, CsvKey, QStringLiteral("april.csv")); });
-    EXPECT_EQ(Content(QStringLiteral("april.csv")).toStdString(),
+    Show([this](Clerk& clerk) { SaveAs(clerk, CsvKey, "april.csv"); });
+    EXPECT_EQ(Content("april.csv").toStdString(),
         "\xEF\xBB\xBF"
         "क्र.,नाव,दिनांक,लिटर्स\r\n"
         "1,क्षमा द्विवेदी,05/04/2026,0.50\r\n"
@@ -98,8 +98,7 @@ TEST_F(ReportSavingTest, TheReportsNameAndTheDayAreProposedInTheClerksDocuments)
         clerk.Type(PdfKey);
         EXPECT_EQ(Reads(clerk, "txtFile"), "Deliveries 15-04-2026.pdf");
         const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-        EXPECT_EQ(clerk.Reads(QStringLiteral("txtFolder")),
-            QDir(documents).exists() ? documents : QDir::homePath());
+        EXPECT_EQ(clerk.Reads("txtFolder"), QDir(documents).exists() ? documents : QDir::homePath());
         clerk.Type(QStringLiteral("{ESC}") + CsvKey);
         EXPECT_EQ(Reads(clerk, "txtFile"), "Deliveries 15-04-2026.csv");
     });
@@ -107,8 +106,8 @@ TEST_F(ReportSavingTest, TheReportsNameAndTheDayAreProposedInTheClerksDocuments)
 
 TEST_F(ReportSavingTest, ATitleIsProposedInPlaceOfTheNameWithoutSignsThatNoFileTakes)
 {
-    WriteTemplate(QStringLiteral("<report name=\"Deliveries\" title=\"दूध यादी : बँक\" paper=\"A4\">"
-                                 "<text>एक</text></report>"));
+    WriteTemplate("<report name=\"Deliveries\" title=\"दूध यादी : बँक\" paper=\"A4\">"
+                  "<text>एक</text></report>");
     Show([](Clerk& clerk) {
         clerk.Type(PdfKey);
         EXPECT_EQ(Reads(clerk, "txtFile"), "दूध यादी - बँक 15-04-2026.pdf");
@@ -118,8 +117,7 @@ TEST_F(ReportSavingTest, ATitleIsProposedInPlaceOfTheNameWithoutSignsThatNoFileT
 TEST_F(ReportSavingTest, TheNameCarriesWhatTheReportIsAbout)
 {
     ReportControl control = Control();
-    control.SetSubject(
-        ReportSubject({QStringLiteral("saunaIta paTIla"), QString()}, QDate(2026, 4, 1), QDate(2026, 4, 10)));
+    control.SetSubject(ReportSubject({"saunaIta paTIla", QString()}, QDate(2026, 4, 1), QDate(2026, 4, 10)));
     Failure = TheClerk.Play([&] { control.Print(); },
         [](Clerk& clerk) {
             clerk.Type(CsvKey);
@@ -129,16 +127,15 @@ TEST_F(ReportSavingTest, TheNameCarriesWhatTheReportIsAbout)
 
 TEST_F(ReportSavingTest, OneDayIsNamedOnceAndWithoutAnyItIsToday)
 {
-    EXPECT_EQ(ReportSubject({QStringLiteral("gaaya")}, QDate(2026, 4, 1), QDate(2026, 4, 1)),
-        QStringLiteral("गाय 01-04-2026"));
-    EXPECT_EQ(ReportSubject({}, QDate(2026, 4, 1)), QStringLiteral("01-04-2026"));
-    EXPECT_EQ(ReportSubject({QStringLiteral("puNao")}), QStringLiteral("पुणे 15-04-2026"));
+    EXPECT_EQ(ReportSubject({"gaaya"}, QDate(2026, 4, 1), QDate(2026, 4, 1)), "गाय 01-04-2026");
+    EXPECT_EQ(ReportSubject({}, QDate(2026, 4, 1)), "01-04-2026");
+    EXPECT_EQ(ReportSubject({"puNao"}), "पुणे 15-04-2026");
 }
 
 TEST_F(ReportSavingTest, ANameWithoutItsEndingGetsIt)
 {
-    Show([this](Clerk& clerk) { SaveAs(clerk, PdfKey, QStringLiteral("april.2026")); });
-    EXPECT_EQ(InFolder(), QStringList(QStringLiteral("april.2026.pdf")));
+    Show([this](Clerk& clerk) { SaveAs(clerk, PdfKey, "april.2026"); });
+    EXPECT_EQ(InFolder(), QStringList("april.2026.pdf"));
 }
 
 TEST_F(ReportSavingTest, EscAndTheExitButtonSaveNothing)
@@ -158,39 +155,38 @@ TEST_F(ReportSavingTest, EscAndTheExitButtonSaveNothing)
 
 TEST_F(ReportSavingTest, AFileThatIsThereIsOnlyReplacedAfterAYes)
 {
-    Put(QStringLiteral("april.csv"), "old");
+    Put("april.csv", "old");
     Show([this](Clerk& clerk) {
-        SaveAs(clerk, CsvKey, QStringLiteral("april.csv"));
-        EXPECT_EQ(clerk.Message(), QStringLiteral("या नावाची फाइल आधीच आहे. ती बदलायची का?"));
+        SaveAs(clerk, CsvKey, "april.csv");
+        EXPECT_EQ(clerk.Message(), "या नावाची फाइल आधीच आहे. ती बदलायची का?");
         Type(clerk, "%h");
         EXPECT_EQ(OnTop(clerk), "frmReportPreview");
     });
-    EXPECT_TRUE(Content(QStringLiteral("april.csv")).contains("0.50"));
+    EXPECT_TRUE(Content("april.csv").contains("0.50"));
 }
 
 TEST_F(ReportSavingTest, ANoLeavesTheFileAndAsksForAnotherName)
 {
-    Put(QStringLiteral("april.csv"), "old");
+    Put("april.csv", "old");
     Show([this](Clerk& clerk) {
-        SaveAs(clerk, CsvKey, QStringLiteral("april.csv"));
+        SaveAs(clerk, CsvKey, "april.csv");
         Type(clerk, "{ENTER}"); // what replaces a file isn't done by an Enter too many
         EXPECT_EQ(OnTop(clerk), "frmReportFile");
         EXPECT_EQ(Focus(clerk), "txtFile");
-        EXPECT_EQ(Content(QStringLiteral("april.csv")).toStdString(), "old");
+        EXPECT_EQ(Content("april.csv").toStdString(), "old");
         Type(clerk, "may{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(OnTop(clerk), "frmReportPreview");
     });
-    EXPECT_EQ(InFolder(), QStringList({QStringLiteral("april.csv"), QStringLiteral("may.csv")}));
+    EXPECT_EQ(InFolder(), QStringList({"april.csv", "may.csv"}));
 }
 
 TEST_F(ReportSavingTest, AMissingFolderIsToldAndAskedForAgain)
 {
-    const QString missing = Saved(QStringLiteral("nowhere"));
+    const QString missing = Saved("nowhere");
     Show([&](Clerk& clerk) {
         clerk.Type(PdfKey + QStringLiteral("{ENTER}") + missing + QStringLiteral("{ENTER}{ENTER}"));
         ASSERT_EQ(TheBox.Shown.size(), 1);
-        EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("हा फोल्डर नाही")))
-            << qPrintable(TheBox.Shown.first());
+        EXPECT_TRUE(TheBox.Shown.first().contains("हा फोल्डर नाही")) << qPrintable(TheBox.Shown.first());
         EXPECT_TRUE(TheBox.Shown.first().contains(missing));
         EXPECT_EQ(OnTop(clerk), "frmReportFile");
         EXPECT_EQ(Focus(clerk), "txtFolder");
@@ -211,18 +207,18 @@ TEST_F(ReportSavingTest, AnEmptyNameOrFolderIsAskedForAgain)
 
 TEST_F(ReportSavingTest, AFolderOfThatNameIsNotWrittenOver)
 {
-    ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("april.pdf")));
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir("april.pdf"));
     Show([&](Clerk& clerk) {
-        SaveAs(clerk, PdfKey, QStringLiteral("april"));
+        SaveAs(clerk, PdfKey, "april");
         EXPECT_EQ(Focus(clerk), "txtFile");
         ASSERT_EQ(TheBox.Shown.size(), 1);
-        EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("या नावाचा फोल्डर आहे")));
+        EXPECT_TRUE(TheBox.Shown.first().contains("या नावाचा फोल्डर आहे"));
     });
 }
 
 TEST_F(ReportSavingTest, AFullDiskIsToldAndLeavesTheOldFileAndNothingElse)
 {
-    for (const QString& ending : {QStringLiteral("pdf"), QStringLiteral("csv")}) {
+    for (const QString ending : {"pdf", "csv"}) {
         const QString name = QStringLiteral("april.") + ending;
         Put(name, "old");
         TheBox.Shown.clear();
@@ -232,7 +228,7 @@ TEST_F(ReportSavingTest, AFullDiskIsToldAndLeavesTheOldFileAndNothingElse)
             const SmallDisk full(40);
             Type(clerk, "%h");
             ASSERT_EQ(TheBox.Shown.size(), 1);
-            EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("फाइल लिहिता आली नाही")))
+            EXPECT_TRUE(TheBox.Shown.first().contains("फाइल लिहिता आली नाही"))
                 << qPrintable(TheBox.Shown.first());
             EXPECT_EQ(OnTop(clerk), "frmReportPreview");
             EXPECT_EQ(State(clerk), QString());
@@ -241,5 +237,5 @@ TEST_F(ReportSavingTest, AFullDiskIsToldAndLeavesTheOldFileAndNothingElse)
         EXPECT_EQ(InFolder(), QStringList(name));
         QFile::remove(Saved(name));
     }
-    EXPECT_EQ(One(QStringLiteral("select count(*) from MilkCollectionsTemp")), QStringLiteral("3"));
+    EXPECT_EQ(One("select count(*) from MilkCollectionsTemp"), "3");
 }

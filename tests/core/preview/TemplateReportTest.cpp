@@ -23,9 +23,8 @@ private:
 TEST_F(TemplateReportTest, ItIsToldTheTemplateOfAppFolderTheBooksAndWhatTheScreenWants)
 {
     TemplateReport report(u"BankMilkPayment.rpt");
-    report.SetSubject(QStringLiteral("15-04-2026"));
-    report.SetSelectionFormula(
-        QStringLiteral("{MilkPayments.PaymentDate} = DateTime (2026,4,15,00, 00, 00)"));
+    report.SetSubject("15-04-2026");
+    report.SetSelectionFormula("{MilkPayments.PaymentDate} = DateTime (2026,4,15,00, 00, 00)");
     report.Print();
     report.SetDestination(ReportDestination::Printer);
     report.SetTemplate(u"CashMilkPayment.rpt");
@@ -47,23 +46,23 @@ TEST_F(TemplateReportTest, WithoutATemplateTheClerkIsToldAndNothingIsPrinted)
 {
     TemplateReport().Print();
     EXPECT_TRUE(Printed.empty());
-    EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही.")));
+    EXPECT_EQ(TheBox.Shown, QStringList("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही."));
 }
 
 TEST_F(TemplateReportTest, TheRecordsOfAReportAreCountedBeforeItsRun)
 {
     for (int number : {1, 2, 3})
-        AddMember(number, QStringLiteral("rama"));
-    EXPECT_EQ(TemplateReport().CountRecords(QStringLiteral("select * from MembersMaster")), 3);
+        AddMember(number, "rama");
+    EXPECT_EQ(TemplateReport().CountRecords("select * from MembersMaster"), 3);
     EXPECT_TRUE(TheBox.Shown.isEmpty());
 }
 
 TEST_F(TemplateReportTest, NoRecordsAreToldUnderTheTitleOfTheReportAndNothingIsPrinted)
 {
     TemplateReport report(u"MilkSalesComparisonReport.rpt");
-    report.SetTitle(QStringLiteral("Comparison Statement"));
-    EXPECT_EQ(report.CountRecords(QStringLiteral("select * from MilkSales")), 0);
-    EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("No Records in the Given Crieteria")));
-    EXPECT_EQ(TheBox.Titles, QStringList(QStringLiteral("Comparison Statement")));
+    report.SetTitle("Comparison Statement");
+    EXPECT_EQ(report.CountRecords("select * from MilkSales"), 0);
+    EXPECT_EQ(TheBox.Shown, QStringList("No Records in the Given Crieteria"));
+    EXPECT_EQ(TheBox.Titles, QStringList("Comparison Statement"));
     EXPECT_TRUE(Printed.empty());
 }

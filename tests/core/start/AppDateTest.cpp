@@ -26,14 +26,14 @@ protected:
 TEST_F(AppDateTest, WithoutCollectionsTheFirstOfAprilOfTheAccountingYearIsProposed)
 {
     gAppState.gAccountingYear = QStringLiteral("2010-2011");
-    On<frmAppDate>([&](Clerk& clerk) { EXPECT_EQ(clerk.Reads(Mask), QStringLiteral("01/04/2010")); });
+    On<frmAppDate>([&](Clerk& clerk) { EXPECT_EQ(clerk.Reads(Mask), "01/04/2010"); });
 }
 
 TEST_F(AppDateTest, TheLatestDayWithACollectionIsProposedThoughItLiesInThePast)
 {
-    AddDelivery(QStringLiteral("09/04/2026"), 1);
-    AddDelivery(QStringLiteral("30/03/2026"), 2);
-    On<frmAppDate>([&](Clerk& clerk) { EXPECT_EQ(clerk.Reads(Mask), QStringLiteral("09/04/2026")); });
+    AddDelivery("09/04/2026", 1);
+    AddDelivery("30/03/2026", 2);
+    On<frmAppDate>([&](Clerk& clerk) { EXPECT_EQ(clerk.Reads(Mask), "09/04/2026"); });
 }
 
 TEST_F(AppDateTest, TheDateTypedOverTheProposalBecomesTheWorkingDay)
@@ -59,10 +59,10 @@ TEST_F(AppDateTest, AnEmptyMaskRaisesTheNoticeAndFillsInTodaysDate)
 {
     On<frmAppDate>([&](Clerk& clerk) {
         Type(clerk, "{DEL}{ENTER}");
-        EXPECT_EQ(clerk.Message(), QStringLiteral(" idnaaMk vyavaisqat Ta[-p kra."));
+        EXPECT_EQ(clerk.Message(), " idnaaMk vyavaisqat Ta[-p kra.");
         EXPECT_FALSE(gAppState.gAppDate.isValid());
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(clerk.Reads(Mask), QStringLiteral("15/04/2026"));
+        EXPECT_EQ(clerk.Reads(Mask), "15/04/2026");
         EXPECT_EQ(clerk.Focus(), Mask);
         Type(clerk, "{ENTER}{ENTER}");
         EXPECT_EQ(OnTop(clerk), "");
@@ -93,7 +93,7 @@ TEST_F(AppDateTest, TheButtonDoesNotCloseOverAnEmptyMask)
     On<frmAppDate>([&](Clerk& clerk) {
         Type(clerk, "{DEL}");
         Press(clerk, "cmdExit");
-        EXPECT_EQ(clerk.Message(), QStringLiteral(" idnaaMk vyavaisqat Ta[-p kra."));
+        EXPECT_EQ(clerk.Message(), " idnaaMk vyavaisqat Ta[-p kra.");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(OnTop(clerk), "frmAppDate");
     });
@@ -115,9 +115,9 @@ TEST_F(AppDateTest, FieldAndButtonWearTheDateColourWithoutTheFocus)
 TEST_F(AppDateTest, ItsFaceNamesTheDateTwiceAndTheButtonPuzo)
 {
     On<frmAppDate>([](Clerk& clerk) {
-        EXPECT_EQ(clerk.Top().Title().Text(), QStringLiteral(" idnaaMk "));
-        EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(QStringLiteral(" idnaaMk ")));
-        EXPECT_EQ(LabelOf(clerk, "lblDate"), Seen(QStringLiteral("idnaaMk")));
+        EXPECT_EQ(clerk.Top().Title().Text(), " idnaaMk ");
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(" idnaaMk "));
+        EXPECT_EQ(LabelOf(clerk, "lblDate"), Seen("idnaaMk"));
         EXPECT_EQ(Reads(clerk, "cmdExit"), "puZo");
     });
 }

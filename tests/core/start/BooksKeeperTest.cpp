@@ -20,10 +20,7 @@ protected:
         writing.Commit();
     }
 
-    QString Written()
-    {
-        return One(QStringLiteral("select count(*) from CityMaster where CityName like 'aaa%'"));
-    }
+    QString Written() { return One("select count(*) from CityMaster where CityName like 'aaa%'"); }
 
     BooksKeeper Keeper;
 };
@@ -34,7 +31,7 @@ TEST_F(BooksKeeperTest, ALogAboveEightMegabytesIsFoldedOnTheWay)
     EXPECT_GT(gCn.LogSize(), 7 * 1024 * 1024);
     Write(1024 * 1024);
     EXPECT_EQ(gCn.LogSize(), 0);
-    EXPECT_EQ(Written(), QStringLiteral("2"));
+    EXPECT_EQ(Written(), "2");
 }
 
 TEST_F(BooksKeeperTest, LeavingAScreenFoldsWhatWasSaved)
@@ -56,8 +53,8 @@ TEST_F(BooksKeeperTest, ABoxIsAnsweredInTheMidstOfAnotherScreensWorkAndFoldsNoth
     const qint64 unfolded = gCn.LogSize();
     const std::function<void()> boxes[] = {
         [] { ShowNotice(Shivaji(u"yaa naavaacao roka^D- Agaaodrca Aaho")); },
-        [] { PlainBoxCards().Show(QStringLiteral("Duplicate Record")); },
-        [] { InputBoxCards().Ask(QStringLiteral("Enter Folder Name")); },
+        [] { PlainBoxCards().Show("Duplicate Record"); },
+        [] { InputBoxCards().Ask("Enter Folder Name"); },
     };
     for (const auto& box : boxes) {
         Failure = TheClerk.Play(box, [](Clerk& clerk) {

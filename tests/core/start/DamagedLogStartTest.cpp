@@ -28,7 +28,7 @@ protected:
     // Books and log as they are left when the power fails now.
     void LeaveBehind()
     {
-        const QStringList endings = {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")};
+        const QStringList endings = {QString(), "-wal", "-shm"};
         for (const QString& ending : endings)
             ASSERT_TRUE(QFile::copy(Books + ending, m_left.filePath(QStringLiteral("left") + ending)));
         gCn.Close();
@@ -49,12 +49,12 @@ protected:
 
     QString Towns()
     {
-        return Rows(QStringLiteral("select CityName from CityMaster where CityName like 'Lost%' or "
-                                   "CityName like 'Kept%'"))
+        return Rows("select CityName from CityMaster where CityName like 'Lost%' or "
+                    "CityName like 'Kept%'")
             .join(u' ');
     }
 
-    const QString Books = FolderFile(QStringLiteral("Morvelta.mdb"));
+    const QString Books = FolderFile("Morvelta.mdb");
 
 private:
     QTemporaryDir m_left;
@@ -70,7 +70,7 @@ TEST_F(DamagedLogStartTest, TheClerkReadsHowManyEntriesMayBeMissingAndSinceWhenB
         Add(town);
     LeaveBehind();
     DamageLog(kept + 500);
-    const QString since = QFileInfo(Books).lastModified().toString(QStringLiteral("dd/MM/yyyy HH"));
+    const QString since = QFileInfo(Books).lastModified().toString("dd/MM/yyyy HH");
     ShowBoxesInTheWindow();
     int exitCode = -1;
     Failure = TheClerk.Play([&] { exitCode = RunProgram(); },
@@ -79,15 +79,15 @@ TEST_F(DamagedLogStartTest, TheClerkReadsHowManyEntriesMayBeMissingAndSinceWhenB
             ASSERT_EQ(OnTop(clerk), "frmPlainBox");
             EXPECT_EQ(ModalStack::Current().Open().size(), 1) << "no screen is there yet";
             const QString text = LabelOf(clerk, "lblText");
-            EXPECT_TRUE(text.contains(QStringLiteral("सुमारे 3 नोंदी गेल्या असण्याची शक्यता"))) << qPrintable(text);
+            EXPECT_TRUE(text.contains("सुमारे 3 नोंदी गेल्या असण्याची शक्यता")) << qPrintable(text);
             EXPECT_TRUE(text.contains(since)) << qPrintable(text);
-            EXPECT_TRUE(text.contains(QStringLiteral("पुन्हा भरा"))) << qPrintable(text);
-            EXPECT_TRUE(text.contains(QStringLiteral("About 3 entries"))) << qPrintable(text);
+            EXPECT_TRUE(text.contains("पुन्हा भरा")) << qPrintable(text);
+            EXPECT_TRUE(text.contains("About 3 entries")) << qPrintable(text);
             Type(clerk, "{ENTER}");
             EXPECT_EQ(OnTop(clerk), "frmAbout");
             Type(clerk, "{ENTER}{ENTER}15042026{ENTER}{ENTER}");
             EXPECT_EQ(OnTop(clerk), "MainMenuFrm");
-            EXPECT_EQ(Towns(), QStringLiteral("Kept"));
+            EXPECT_EQ(Towns(), "Kept");
             clerk.CloseBox();
         });
     EXPECT_EQ(exitCode, 0);
@@ -102,7 +102,7 @@ TEST_F(DamagedLogStartTest, ASoundLogThatWasLeftBehindOpensTheProgramWithoutAWor
     Failure = TheClerk.Play([] { RunProgram(); },
         [&](Clerk& clerk) {
             EXPECT_EQ(OnTop(clerk), "frmAbout");
-            EXPECT_EQ(Towns(), QStringLiteral("Kept1 Kept2"));
+            EXPECT_EQ(Towns(), "Kept1 Kept2");
             EXPECT_EQ(TheBox.Shown, QStringList());
         });
 }

@@ -72,8 +72,8 @@ TEST_F(OpeningScreensTest, TheCautionColoursAcceptGreenAndRejectRedOnFocus)
 TEST_F(OpeningScreensTest, TheTitleScreenNamesTheSystemAndVersion1WithOkAndExit)
 {
     Start([](Clerk& clerk) {
-        EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(QStringLiteral(" dUQa saMklana saa^FTvaoAr")));
-        EXPECT_EQ(LabelOf(clerk, "lblVersion"), QStringLiteral("Version 1.0"));
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), Seen(" dUQa saMklana saa^FTvaoAr"));
+        EXPECT_EQ(LabelOf(clerk, "lblVersion"), "Version 1.0");
         EXPECT_EQ(Reads(clerk, "cmdOK"), "OK");
         EXPECT_EQ(Reads(clerk, "cmdExit"), "E&xit");
     });
@@ -83,13 +83,13 @@ TEST_F(OpeningScreensTest, TheCautionReadsAsItIsWordedBesideAPicture)
 {
     Start([](Clerk& clerk) {
         Type(clerk, "{ENTER}");
-        EXPECT_EQ(LabelOf(clerk, "lblTitle"), QStringLiteral(" Caution !"));
-        EXPECT_EQ(LabelOf(clerk, "lblTip").split(QStringLiteral("\n\n")),
-            QStringList({QStringLiteral(" It is necessary that You should take BACKUP of Company Data "
-                                        "frequently on ReWritable CD (Recommended)"),
-                QStringLiteral("We have given the facility to take the backup on Hard Disk / Floppy and CD "
-                               "also ( with the help of CD Writer)"),
-                QStringLiteral("We (Developer) will not take any responsibility for the loss of data.")}));
+        EXPECT_EQ(LabelOf(clerk, "lblTitle"), " Caution !");
+        EXPECT_EQ(LabelOf(clerk, "lblTip").split("\n\n"),
+            QStringList({" It is necessary that You should take BACKUP of Company Data "
+                         "frequently on ReWritable CD (Recommended)",
+                "We have given the facility to take the backup on Hard Disk / Floppy and CD "
+                "also ( with the help of CD Writer)",
+                "We (Developer) will not take any responsibility for the loss of data."}));
         EXPECT_EQ(Reads(clerk, "Command1"), "&Reject");
         EXPECT_EQ(Reads(clerk, "cmdOk"), "&Accept");
         const QList<QLabel*> labels = clerk.Top().findChildren<QLabel*>();

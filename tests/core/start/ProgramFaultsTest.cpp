@@ -87,7 +87,7 @@ TEST_F(ProgramFaultsTest, APasswordFileOfAMegabyteIsNamedInTheBox)
 {
     Overwrite(Password, Read(Password).repeated(1'000'000 / Read(Password).size()));
     const QString box = FailingStart();
-    EXPECT_TRUE(box.contains(QStringLiteral("PWD.TXT is too long"))) << qPrintable(box);
+    EXPECT_TRUE(box.contains("PWD.TXT is too long")) << qPrintable(box);
 }
 
 TEST_F(ProgramFaultsTest, AMissingDatabaseIsNamedInTheBox)
@@ -109,8 +109,8 @@ TEST_F(ProgramFaultsTest, AFileThatIsNoDatabaseIsToldFromABookCutShort)
         Overwrite(Database, QByteArray(size, 'x'));
         const QString box = FailingStart();
         EXPECT_TRUE(box.contains(Database)) << qPrintable(box);
-        EXPECT_TRUE(box.contains(QStringLiteral("is not a database"))) << qPrintable(box);
-        EXPECT_FALSE(box.contains(QStringLiteral("a part of it is missing"))) << qPrintable(box);
+        EXPECT_TRUE(box.contains("is not a database")) << qPrintable(box);
+        EXPECT_FALSE(box.contains("a part of it is missing")) << qPrintable(box);
     }
 }
 
@@ -122,8 +122,8 @@ TEST_F(ProgramFaultsTest, ABookCutShortIsToldSoWhetherTheCutFallsOnAPageOrWithin
         Overwrite(Database, whole.left(left));
         const QString box = FailingStart();
         EXPECT_TRUE(box.contains(Database)) << qPrintable(box);
-        EXPECT_TRUE(box.contains(QStringLiteral("is cut short"))) << left << qPrintable(box);
-        EXPECT_FALSE(box.contains(QStringLiteral("password"))) << qPrintable(box);
+        EXPECT_TRUE(box.contains("is cut short")) << left << qPrintable(box);
+        EXPECT_FALSE(box.contains("password")) << qPrintable(box);
     }
 }
 
@@ -131,7 +131,7 @@ TEST_F(ProgramFaultsTest, AWrongPasswordCantOpenTheBooks)
 {
     Overwrite(Password, OtherPassword);
     const QString wrong = FailingStart();
-    EXPECT_TRUE(wrong.contains(QStringLiteral("The password is wrong"))) << qPrintable(wrong);
+    EXPECT_TRUE(wrong.contains("The password is wrong")) << qPrintable(wrong);
 }
 
 TEST_F(ProgramFaultsTest, TheFaultsAreToldApartAndEachInMarathi)
@@ -154,7 +154,7 @@ TEST_F(ProgramFaultsTest, TheFaultsAreToldApartAndEachInMarathi)
         Overwrite(Password, password);
         fault();
         const QString box = FailingStart();
-        EXPECT_TRUE(box.contains(QRegularExpression(QStringLiteral("[\\x{0900}-\\x{097F}]{3}"))))
+        EXPECT_TRUE(box.contains(QRegularExpression("[\\x{0900}-\\x{097F}]{3}")))
             << name << ": " << qPrintable(box);
         EXPECT_FALSE(boxes.contains(box)) << name << ": " << qPrintable(box);
         boxes.append(box);
@@ -165,7 +165,7 @@ TEST_F(ProgramFaultsTest, ASecondCopySaysThatTheBooksAreOpenAndEnds)
 {
     const SingleInstance first(LocalPath(AppFolder));
     ASSERT_TRUE(first.Taken());
-    EXPECT_TRUE(FailingStart().contains(QStringLiteral("open in another window")));
+    EXPECT_TRUE(FailingStart().contains("open in another window"));
 }
 
 TEST_F(ProgramFaultsTest, AnErrorInAHandlerIsShownInABoxAndEndsTheProgramWithOne)
@@ -180,7 +180,7 @@ TEST_F(ProgramFaultsTest, AnErrorInAHandlerIsShownInABoxAndEndsTheProgramWithOne
         });
     EXPECT_EQ(exitCode, 1);
     ASSERT_EQ(TheBox.Shown.size(), 1);
-    EXPECT_TRUE(TheBox.Shown.first().contains(QStringLiteral("Run-time error '13'")));
+    EXPECT_TRUE(TheBox.Shown.first().contains("Run-time error '13'"));
     EXPECT_FALSE(gCn.IsOpen());
 }
 

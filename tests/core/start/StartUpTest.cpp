@@ -44,18 +44,18 @@ QStringList Disguised(const QString& password, QChar key)
 
 TEST_F(StartUpTest, TakesTheCompanyTheSettingsAndTheRightsFromTheBooks)
 {
-    Run(QStringLiteral("update AutoSettings set AutoFat=' haoya ',WeighScale=' MCS '"));
+    Run("update AutoSettings set AutoFat=' haoya ',WeighScale=' MCS '");
     ASSERT_TRUE(StartAgain());
     EXPECT_EQ(gAppState.gCompanyId, 1);
-    EXPECT_EQ(Seen(gAppState.gCompanyName), QStringLiteral("श्री गणेश दूध संस्था"));
-    EXPECT_EQ(gAppState.gAccountingYear.left(4), QStringLiteral("2026"));
+    EXPECT_EQ(Seen(gAppState.gCompanyName), "श्री गणेश दूध संस्था");
+    EXPECT_EQ(gAppState.gAccountingYear.left(4), "2026");
     EXPECT_EQ(gAppState.gFromDate, QDate(2026, 4, 1));
     EXPECT_EQ(gAppState.gToDate, QDate(2027, 3, 31));
-    EXPECT_EQ(gAppState.gAutoFat, QStringLiteral("haoya"));
-    EXPECT_EQ(gAppState.gWeighScale, QStringLiteral("MCS"));
-    EXPECT_EQ(gAppState.gExtraRsPerLtr, QStringLiteral("0"));
-    EXPECT_EQ(gAppState.gCallerTag, QStringLiteral("N"));
-    EXPECT_EQ(gAppState.gAdminLoggedIn, QStringLiteral("NO"));
+    EXPECT_EQ(gAppState.gAutoFat, "haoya");
+    EXPECT_EQ(gAppState.gWeighScale, "MCS");
+    EXPECT_EQ(gAppState.gExtraRsPerLtr, "0");
+    EXPECT_EQ(gAppState.gCallerTag, "N");
+    EXPECT_EQ(gAppState.gAdminLoggedIn, "NO");
     EXPECT_NE(gAppState.gAccessMaster, 0);
     EXPECT_NE(gAppState.gAccessUtilities, 0);
     EXPECT_FALSE(gAppState.gAppDate.isValid());
@@ -63,7 +63,7 @@ TEST_F(StartUpTest, TakesTheCompanyTheSettingsAndTheRightsFromTheBooks)
 
 TEST_F(StartUpTest, AnEmptyCompanySelectedTurnsTheCompanyIntoZeroAndGoesOn)
 {
-    Run(QStringLiteral("delete * from CompanySelected"));
+    Run("delete * from CompanySelected");
     ASSERT_TRUE(StartAgain());
     EXPECT_EQ(gAppState.gCompanyId, 0);
     EXPECT_TRUE(gAppState.gCompanyName.isEmpty());
@@ -73,17 +73,17 @@ TEST_F(StartUpTest, AnEmptyCompanySelectedTurnsTheCompanyIntoZeroAndGoesOn)
 
 TEST_F(StartUpTest, TheCompanyIs1BeforeItIsReadAndStays1WhenTheReadingStopsWithAnError)
 {
-    gCn.RunScript(QStringLiteral("drop table CompanySelected"));
+    gCn.RunScript("drop table CompanySelected");
     gAppState.gCompanyId = 7;
     EXPECT_EQ(ErrorOfStart(), RunTimeError::DatabaseFailure);
     EXPECT_EQ(gAppState.gCompanyId, 1);
-    EXPECT_EQ(gAppState.gDbPassword, QStringLiteral("Doodh#26")) << "the steps before it are done";
+    EXPECT_EQ(gAppState.gDbPassword, "Doodh#26") << "the steps before it are done";
     EXPECT_TRUE(gAppState.gCompanyName.isEmpty());
 }
 
 TEST_F(StartUpTest, WithoutASettingsRowTheSettingsStayEmpty)
 {
-    Run(QStringLiteral("delete * from AutoSettings"));
+    Run("delete * from AutoSettings");
     ASSERT_TRUE(StartAgain());
     EXPECT_TRUE(gAppState.gPaymentDuration.isEmpty());
     EXPECT_TRUE(gAppState.gAutoLiters.isEmpty());
@@ -92,17 +92,17 @@ TEST_F(StartUpTest, WithoutASettingsRowTheSettingsStayEmpty)
 
 TEST_F(StartUpTest, WithoutAnyRightTheMessageIsShownAndNoScreenComesUp)
 {
-    Run(QStringLiteral("delete * from MenuAccessTable"));
+    Run("delete * from MenuAccessTable");
     gCn.Close();
     Failure = Failure = TheClerk.Play([] { AppMain(); }, [](Clerk& clerk) { EXPECT_EQ(OnTop(clerk), ""); });
     EXPECT_FALSE(Failure);
-    EXPECT_EQ(TheBox.Shown, QStringList(QStringLiteral("Contact Service provider for Technical Support")));
+    EXPECT_EQ(TheBox.Shown, QStringList("Contact Service provider for Technical Support"));
 }
 
 TEST_F(StartUpTest, RightsWithoutARowForMasterLeaveTheMasterListClosed)
 {
-    Run(QStringLiteral("delete * from MenuAccessTable where MenuName='Master'"));
-    Run(QStringLiteral("insert into MenuAccessTable(MenuName,AccessYesNo) values('Milk Master',1)"));
+    Run("delete * from MenuAccessTable where MenuName='Master'");
+    Run("insert into MenuAccessTable(MenuName,AccessYesNo) values('Milk Master',1)");
     ASSERT_TRUE(StartAgain());
     EXPECT_EQ(gAppState.gAccessMaster, 0);
     EXPECT_NE(gAppState.gAccessStockVoucher, 0);
@@ -110,10 +110,9 @@ TEST_F(StartUpTest, RightsWithoutARowForMasterLeaveTheMasterListClosed)
 
 TEST_F(StartUpTest, EachMenuNameFillsItsOwnFlag)
 {
-    Run(QStringLiteral("delete * from MenuAccessTable"));
-    const QStringList names = {QStringLiteral("Master"), QStringLiteral("Account Voucher"),
-        QStringLiteral("Stock Voucher"), QStringLiteral("Account Report"), QStringLiteral("Stock Report"),
-        QStringLiteral("Statistical Report"), QStringLiteral("Utilities")};
+    Run("delete * from MenuAccessTable");
+    const QStringList names = {"Master", "Account Voucher", "Stock Voucher", "Account Report", "Stock Report",
+        "Statistical Report", "Utilities"};
     for (int i = 0; i < names.size(); ++i)
         Run(QStringLiteral("insert into MenuAccessTable(MenuName,AccessYesNo) values('%1',%2)")
                 .arg(names[i])
@@ -130,13 +129,13 @@ TEST_F(StartUpTest, EachMenuNameFillsItsOwnFlag)
 
 TEST_F(StartUpTest, TheBlanksAroundASettingAreNoPartOfIt)
 {
-    Run(QStringLiteral("update AutoSettings set PaymentDuration=' 7 idvasa ',AutoFat=' haoya ',"
-                       "AutoLiters=' haoya ',WeighScale=' MCS '"));
+    Run("update AutoSettings set PaymentDuration=' 7 idvasa ',AutoFat=' haoya ',"
+        "AutoLiters=' haoya ',WeighScale=' MCS '");
     ASSERT_TRUE(StartAgain());
-    EXPECT_EQ(gAppState.gPaymentDuration, QStringLiteral("7 idvasa"));
-    EXPECT_EQ(gAppState.gAutoFat, QStringLiteral("haoya"));
-    EXPECT_EQ(gAppState.gAutoLiters, QStringLiteral("haoya"));
-    EXPECT_EQ(gAppState.gWeighScale, QStringLiteral("MCS"));
+    EXPECT_EQ(gAppState.gPaymentDuration, "7 idvasa");
+    EXPECT_EQ(gAppState.gAutoFat, "haoya");
+    EXPECT_EQ(gAppState.gAutoLiters, "haoya");
+    EXPECT_EQ(gAppState.gWeighScale, "MCS");
 }
 
 TEST_F(StartUpTest, ARightBeyond16BitsOverflowsAndOneOfAnUnknownNameIsIgnored)
@@ -152,29 +151,27 @@ TEST_F(StartUpTest, ARightBeyond16BitsOverflowsAndOneOfAnUnknownNameIsIgnored)
         EXPECT_EQ(ErrorOfStart(), 0);
         EXPECT_EQ(gAppState.gAccessUtilities, within);
     }
-    Run(QStringLiteral("insert into MenuAccessTable(MenuName,AccessYesNo) values('Milk Master',99999)"));
+    Run("insert into MenuAccessTable(MenuName,AccessYesNo) values('Milk Master',99999)");
     EXPECT_EQ(ErrorOfStart(), 0);
 }
 
 TEST(PasswordItemsTest, CommasAndLineEndsSeparateItemsAndQuotesKeepThemTogether)
 {
-    EXPECT_EQ(ItemsOf(QStringLiteral("a,b\r\nc\n\",\",\"d\"\r\n")),
-        QStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral(","),
-            QStringLiteral("d")}));
+    EXPECT_EQ(ItemsOf("a,b\r\nc\n\",\",\"d\"\r\n"), QStringList({"a", "b", "c", ",", "d"}));
 }
 
 TEST(PasswordItemsTest, TheLastItemIsTheKeyThatEveryOtherIsShiftedUpBy)
 {
-    EXPECT_EQ(PasswordOfItems(Disguised(QStringLiteral("Doodh#26"), u'\x05')), QStringLiteral("Doodh#26"));
-    EXPECT_EQ(PasswordOfItems(Disguised(QStringLiteral("x"), u'!')), QStringLiteral("x"));
-    EXPECT_EQ(PasswordOfItems({QStringLiteral("k")}), QString()) << "a key alone hides no password";
+    EXPECT_EQ(PasswordOfItems(Disguised("Doodh#26", u'\x05')), "Doodh#26");
+    EXPECT_EQ(PasswordOfItems(Disguised("x", u'!')), "x");
+    EXPECT_EQ(PasswordOfItems({"k"}), QString()) << "a key alone hides no password";
 }
 
 TEST(PasswordItemsTest, OnlyTheFirstCharacterOfAnItemCounts)
 {
-    QStringList items = Disguised(QStringLiteral("ab"), u'!');
+    QStringList items = Disguised("ab", u'!');
     items[0] += QStringLiteral("zzz");
-    EXPECT_EQ(PasswordOfItems(items), QStringLiteral("ab"));
+    EXPECT_EQ(PasswordOfItems(items), "ab");
 }
 
 TEST(PasswordItemsTest, AByteOrderMarkInFrontIsNoCharacterOfThePassword)
@@ -212,6 +209,6 @@ TEST(PasswordItemsTest, AFileTooLongForAPasswordIsRefusedAndNotReadOn)
 TEST(PasswordItemsTest, ADamagedFileIsARunTimeError)
 {
     EXPECT_THROW(PasswordOfItems({}), RunTimeError);
-    EXPECT_THROW(PasswordOfItems({QStringLiteral("a"), QString()}), RunTimeError);
-    EXPECT_THROW(PasswordOfItems({QStringLiteral("!"), QStringLiteral("z")}), RunTimeError);
+    EXPECT_THROW(PasswordOfItems({"a", QString()}), RunTimeError);
+    EXPECT_THROW(PasswordOfItems({"!", "z"}), RunTimeError);
 }

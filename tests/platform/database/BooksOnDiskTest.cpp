@@ -82,7 +82,7 @@ TEST_F(BooksOnDiskTest, TheEnginesLockStandsWhileAnotherConnectionComesAndGoes)
         {
             Connection reader;
             reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
-            EXPECT_FALSE(Recordset(reader, QStringLiteral("select * from CityMaster")).Eof());
+            EXPECT_FALSE(Recordset(reader, "select * from CityMaster").Eof());
             EXPECT_EQ(LocksOn(), 1);
         }
         EXPECT_EQ(LocksOn(), 1);
@@ -98,10 +98,10 @@ TEST_F(BooksOnDiskTest, ARemovedLogIsToldAndWhatItHeldIsInTheBooks)
     Add(1);
     Add(2);
     ASSERT_TRUE(QFile::remove(Log()));
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("log beside the database file was removed")));
+    EXPECT_TRUE(Refusal().contains("log beside the database file was removed"));
     connection.Close();
     Open();
-    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("2"));
+    EXPECT_EQ(One("select count(*) from CityMaster"), "2");
     EXPECT_TRUE(IsSound(connection));
 }
 
@@ -111,13 +111,13 @@ TEST_F(BooksOnDiskTest, BooksThatWereReplacedAreToldAndLeftAsTheyAre)
     connection.Fold();
     const QByteArray backup = Bytes();
     Add(2);
-    const QString other = folder.filePath(QStringLiteral("other"));
+    const QString other = folder.filePath("other");
     QFile made(other);
     ASSERT_TRUE(made.open(QIODevice::WriteOnly));
     made.write(backup);
     made.close();
     ASSERT_EQ(rename(other.toLocal8Bit().constData(), file.toLocal8Bit().constData()), 0);
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    EXPECT_TRUE(Refusal().contains("was replaced"));
     connection.Close();
     EXPECT_EQ(Bytes(), backup);
 }
@@ -126,7 +126,7 @@ TEST_F(BooksOnDiskTest, BooksThatWereOverwrittenAreToldAndLeftAsTheyAre)
 {
     const QByteArray backup = BackupBehindTwoFolds();
     Overwrite(backup);
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    EXPECT_TRUE(Refusal().contains("was replaced"));
     connection.Close();
     EXPECT_EQ(Bytes(), backup);
 }
@@ -146,7 +146,7 @@ TEST_F(BooksOnDiskTest, NorDoesTheFoldOfTheConnectionThatReportsAreReadOn)
     reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
     const QByteArray backup = BackupBehindTwoFolds();
     Overwrite(backup);
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    EXPECT_TRUE(Refusal().contains("was replaced"));
     reader.Close();
     connection.Close();
     EXPECT_EQ(Bytes(), backup);
@@ -159,7 +159,7 @@ TEST_F(BooksOnDiskTest, BooksThatWereOverwrittenBeforeASecondConnectionCameAreTo
     Overwrite(backup);
     Connection reader;
     EXPECT_THROW(reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword), RunTimeError);
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    EXPECT_TRUE(Refusal().contains("was replaced"));
     connection.Close();
     EXPECT_EQ(Bytes(), backup);
 }
@@ -171,10 +171,10 @@ TEST_F(BooksOnDiskTest, ALogThatWasRemovedBeforeASecondConnectionCameIsTold)
     ASSERT_TRUE(QFile::remove(Log()));
     Connection reader;
     EXPECT_THROW(reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword), RunTimeError);
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("log beside the database file was removed")));
+    EXPECT_TRUE(Refusal().contains("log beside the database file was removed"));
     connection.Close();
     Open();
-    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("2"));
+    EXPECT_EQ(One("select count(*) from CityMaster"), "2");
     EXPECT_TRUE(IsSound(connection));
 }
 
@@ -186,14 +186,13 @@ TEST_F(BooksOnDiskTest, ARemovedLogThatAnotherProgramMadeAnewIsToldAllTheSame)
     ASSERT_TRUE(made.open(QIODevice::WriteOnly));
     made.close();
     connection.Fold();
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("log beside the database file was removed")));
-    const QString alone = folder.filePath(QStringLiteral("alone.mdb"));
+    EXPECT_TRUE(Refusal().contains("log beside the database file was removed"));
+    const QString alone = folder.filePath("alone.mdb");
     ASSERT_TRUE(QFile::copy(file, alone));
-    DataSource::Register(QStringLiteral("Alone"), alone);
+    DataSource::Register("Alone", alone);
     Connection again;
     again.Open(QStringLiteral("dsn=Alone;pwd=") + TestPassword);
-    EXPECT_EQ(
-        Recordset(again, QStringLiteral("select count(*) from CityMaster")).At(0).Text(), QStringLiteral("1"))
+    EXPECT_EQ(Recordset(again, "select count(*) from CityMaster").At(0).Text(), "1")
         << "what is said to be kept is in the file already";
 }
 
@@ -202,7 +201,7 @@ TEST_F(BooksOnDiskTest, ALogThatWasEmptiedIsToldBehindAFoldToo)
     Add(1);
     ASSERT_TRUE(QFile::resize(Log(), 0));
     EXPECT_FALSE(connection.Fold());
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    EXPECT_TRUE(Refusal().contains("was replaced"));
 }
 
 TEST_F(BooksOnDiskTest, BooksThatWereCutShortAreToldAndLeftAsTheyAre)
@@ -212,7 +211,7 @@ TEST_F(BooksOnDiskTest, BooksThatWereCutShortAreToldAndLeftAsTheyAre)
     Add(2);
     const qint64 size = QFileInfo(file).size() - DatabaseFile::PageSize;
     ASSERT_TRUE(QFile::resize(file, size));
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    EXPECT_TRUE(Refusal().contains("was replaced"));
     connection.Close();
     EXPECT_EQ(QFileInfo(file).size(), size);
 }
@@ -224,7 +223,7 @@ TEST_F(BooksOnDiskTest, ALogThatWasCutShortIsTold)
     const qint64 size = QFileInfo(file).size();
     Add(2);
     ASSERT_TRUE(QFile::resize(Log(), 100));
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    EXPECT_TRUE(Refusal().contains("was replaced"));
     connection.Close();
     EXPECT_EQ(QFileInfo(file).size(), size);
 }
@@ -233,7 +232,7 @@ TEST_F(BooksOnDiskTest, BooksThatAreGoneAreTold)
 {
     Add(1);
     ASSERT_TRUE(QFile::rename(file, file + QStringLiteral(".away")));
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")));
+    EXPECT_TRUE(Refusal().contains("was replaced"));
     connection.Close();
     EXPECT_FALSE(QFile::exists(file));
 }
@@ -244,8 +243,7 @@ TEST_F(BooksOnDiskTest, BooksThatWereGoneAreNotTrustedWhenTheyComeBack)
     ASSERT_TRUE(QFile::rename(file, file + QStringLiteral(".away")));
     EXPECT_NE(Refusal(), QString());
     ASSERT_TRUE(QFile::rename(file + QStringLiteral(".away"), file));
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("was replaced")))
-        << "nobody knows what was done to them meanwhile";
+    EXPECT_TRUE(Refusal().contains("was replaced")) << "nobody knows what was done to them meanwhile";
 }
 
 // The checkpoints that another program may run beside this one.
@@ -261,15 +259,14 @@ TEST_P(OtherFoldTest, IsNoHarm)
     FoldByAnother(GetParam());
     EXPECT_EQ(Refusal(), QString());
     Add(3);
-    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("4"));
-    const QString left = folder.filePath(QStringLiteral("left.mdb"));
+    EXPECT_EQ(One("select count(*) from CityMaster"), "4");
+    const QString left = folder.filePath("left.mdb");
     ASSERT_TRUE(QFile::copy(file, left));
     ASSERT_TRUE(QFile::copy(Log(), left + QStringLiteral("-wal")));
-    DataSource::Register(QStringLiteral("Left"), left);
+    DataSource::Register("Left", left);
     Connection again;
     EXPECT_EQ(again.Open(QStringLiteral("dsn=Left;pwd=") + TestPassword), QStringList());
-    EXPECT_EQ(Recordset(again, QStringLiteral("select count(*) from CityMaster")).At(0).Text(),
-        QStringLiteral("4"));
+    EXPECT_EQ(Recordset(again, "select count(*) from CityMaster").At(0).Text(), "4");
 }
 
 TEST_F(BooksOnDiskTest, AfterAFoldByAnotherProgramTheLogStillBelongsToItsOwnBooksOnly)
@@ -277,18 +274,17 @@ TEST_F(BooksOnDiskTest, AfterAFoldByAnotherProgramTheLogStillBelongsToItsOwnBook
     Add(1);
     FoldByAnother();
     Add(2);
-    const QString restored = folder.filePath(QStringLiteral("restored.mdb"));
+    const QString restored = folder.filePath("restored.mdb");
     ASSERT_TRUE(QFile::copy(file, restored));
     connection.Fold();
     Add(3);
     ASSERT_TRUE(QFile::copy(Log(), restored + QStringLiteral("-wal")));
-    DataSource::Register(QStringLiteral("Restored"), restored);
+    DataSource::Register("Restored", restored);
     Connection again;
     const QStringList notes = again.Open(QStringLiteral("dsn=Restored;pwd=") + TestPassword);
     ASSERT_EQ(notes.size(), 1);
-    EXPECT_TRUE(notes.first().contains(QStringLiteral("log of other books"))) << notes.first().toStdString();
-    EXPECT_EQ(Recordset(again, QStringLiteral("select count(*) from CityMaster")).At(0).Text(),
-        QStringLiteral("1"));
+    EXPECT_TRUE(notes.first().contains("log of other books")) << notes.first().toStdString();
+    EXPECT_EQ(Recordset(again, "select count(*) from CityMaster").At(0).Text(), "1");
 }
 
 TEST_F(BooksOnDiskTest, ALogThatWentAfterAFoldByAnotherProgramIsTold)
@@ -297,10 +293,10 @@ TEST_F(BooksOnDiskTest, ALogThatWentAfterAFoldByAnotherProgramIsTold)
     Add(2);
     FoldByAnother();
     ASSERT_TRUE(QFile::remove(Log()));
-    EXPECT_TRUE(Refusal().contains(QStringLiteral("log beside the database file was removed")));
+    EXPECT_TRUE(Refusal().contains("log beside the database file was removed"));
     connection.Close();
     Open();
-    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("2"));
+    EXPECT_EQ(One("select count(*) from CityMaster"), "2");
     EXPECT_TRUE(IsSound(connection));
 }
 

@@ -73,7 +73,7 @@ TEST_F(ConnectionTest, OpensWhatItMade)
     EXPECT_FALSE(Bytes().contains("gaava"));
     EXPECT_FALSE(Bytes().startsWith("SQLite format"));
     connection.Open(QStringLiteral("DSN=vetrolandsn;PWD=") + TestPassword);
-    EXPECT_EQ(One("select CityName from CityMaster"), QStringLiteral("gaava"));
+    EXPECT_EQ(One("select CityName from CityMaster"), "gaava");
 }
 
 TEST_F(ConnectionTest, IsSafeAgainstPowerCuts)
@@ -93,11 +93,11 @@ TEST_F(ConnectionTest, IsSafeAgainstPowerCuts)
 TEST_F(ConnectionTest, SaysThatThePasswordIsWrong)
 {
     connection.Close();
-    const QStringList others = {QStringLiteral("other"), QString(), TestPassword + QStringLiteral(" ")};
+    const QStringList others = {"other", QString(), TestPassword + QStringLiteral(" ")};
     for (const QString& password : others) {
         const RunTimeError error = Failure(password);
         EXPECT_EQ(error.Number(), RunTimeError::DatabaseFailure);
-        EXPECT_TRUE(error.Happened().contains(QStringLiteral("password is wrong"))) << error.what();
+        EXPECT_TRUE(error.Happened().contains("password is wrong")) << error.what();
     }
 }
 
@@ -106,7 +106,7 @@ TEST_F(ConnectionTest, SaysThatTheFileIsMissing)
     connection.Close();
     QFile::remove(file);
     EXPECT_EQ(Failure().Number(), RunTimeError::FileNotFound);
-    DataSource::Register(QStringLiteral("VetrolanDSN"), folder.path());
+    DataSource::Register("VetrolanDSN", folder.path());
     EXPECT_EQ(Failure().Number(), RunTimeError::FileAccess);
 }
 
@@ -121,16 +121,16 @@ TEST_F(ConnectionTest, SaysThatTheFileIsNoDatabase)
 {
     connection.Close();
     Replace({});
-    EXPECT_TRUE(Failure().Happened().contains(QStringLiteral("is empty")));
+    EXPECT_TRUE(Failure().Happened().contains("is empty"));
     QByteArray noise;
     for (int i = 0; i < 10000; ++i)
         noise += static_cast<char>((i * 7919 + i / 13) & 0xFF);
     Replace(noise);
-    EXPECT_TRUE(Failure().Happened().contains(QStringLiteral("is not a database, or it is cut short")));
+    EXPECT_TRUE(Failure().Happened().contains("is not a database, or it is cut short"));
     Replace(noise.left(8192));
-    EXPECT_TRUE(Failure().Happened().contains(QStringLiteral("is not a database")));
+    EXPECT_TRUE(Failure().Happened().contains("is not a database"));
     Replace("SQLite format 3");
-    EXPECT_TRUE(Failure().Happened().contains(QStringLiteral("is not a database")));
+    EXPECT_TRUE(Failure().Happened().contains("is not a database"));
 }
 
 TEST_F(ConnectionTest, SaysThatTheFileIsCutShort)
@@ -143,11 +143,11 @@ TEST_F(ConnectionTest, SaysThatTheFileIsCutShort)
         Replace(whole.left(size));
         const RunTimeError error = Failure();
         EXPECT_EQ(error.Number(), RunTimeError::DatabaseFailure);
-        EXPECT_TRUE(error.Happened().contains(QStringLiteral("is cut short"))) << error.what();
+        EXPECT_TRUE(error.Happened().contains("is cut short")) << error.what();
     }
     Replace(whole);
     Open();
-    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("2000"));
+    EXPECT_EQ(One("select count(*) from CityMaster"), "2000");
 }
 
 TEST_F(ConnectionTest, TakesTheLogIntoAccount)
@@ -155,24 +155,24 @@ TEST_F(ConnectionTest, TakesTheLogIntoAccount)
     // A copy of the file and its log as a power cut would leave them: the last pages are in the log alone.
     Fill();
     const QString log = file + QStringLiteral("-wal");
-    const QString left = folder.filePath(QStringLiteral("left"));
+    const QString left = folder.filePath("left");
     ASSERT_TRUE(QDir().mkdir(left));
     const QString copy = left + QStringLiteral("/Morvelta.mdb");
     ASSERT_TRUE(QFile::copy(file, copy));
     ASSERT_TRUE(QFile::copy(log, copy + QStringLiteral("-wal")));
     connection.Close();
-    DataSource::Register(QStringLiteral("VetrolanDSN"), copy);
-    EXPECT_TRUE(Failure(QStringLiteral("other")).Happened().contains(QStringLiteral("password is wrong")));
+    DataSource::Register("VetrolanDSN", copy);
+    EXPECT_TRUE(Failure("other").Happened().contains("password is wrong"));
     EXPECT_EQ(QDir(left).entryList(QDir::Files).size(), 2);
     Open();
-    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("2000"));
+    EXPECT_EQ(One("select count(*) from CityMaster"), "2000");
     EXPECT_TRUE(IsSound(connection));
 }
 
 TEST_F(ConnectionTest, OpensThoughTheFirstPageIsInTheLogAlone)
 {
     Fill();
-    const QString left = folder.filePath(QStringLiteral("left"));
+    const QString left = folder.filePath("left");
     ASSERT_TRUE(QDir().mkdir(left));
     const QString copy = left + QStringLiteral("/Morvelta.mdb");
     QByteArray torn = Bytes();
@@ -183,9 +183,9 @@ TEST_F(ConnectionTest, OpensThoughTheFirstPageIsInTheLogAlone)
     write.close();
     ASSERT_TRUE(QFile::copy(file + QStringLiteral("-wal"), copy + QStringLiteral("-wal")));
     connection.Close();
-    DataSource::Register(QStringLiteral("VetrolanDSN"), copy);
+    DataSource::Register("VetrolanDSN", copy);
     Open();
-    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("2000"));
+    EXPECT_EQ(One("select count(*) from CityMaster"), "2000");
     EXPECT_TRUE(IsSound(connection));
 }
 
@@ -195,8 +195,8 @@ TEST_F(ConnectionTest, MakesNoFileOverAnother)
     const QByteArray before = Bytes();
     EXPECT_THROW(connection.Create(file, TestPassword), RunTimeError);
     EXPECT_EQ(Bytes(), before);
-    EXPECT_THROW(connection.Create(folder.filePath(QStringLiteral("new.mdb")), QString()), RunTimeError);
-    EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("new.mdb"))));
+    EXPECT_THROW(connection.Create(folder.filePath("new.mdb"), QString()), RunTimeError);
+    EXPECT_FALSE(QFile::exists(folder.filePath("new.mdb")));
 }
 
 TEST_F(ConnectionTest, CountsTheRowsThatItChanges)
@@ -213,13 +213,13 @@ TEST_F(ConnectionTest, CountsTheRowsThatItChanges)
 TEST_F(ConnectionTest, CarriesTheFailedStatementInTheError)
 {
     try {
-        connection.Execute(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'O'Brien')"));
+        connection.Execute("insert into CityMaster(CompanyId,CityName) values(1,'O'Brien')");
         FAIL();
     } catch (const RunTimeError& error) {
         EXPECT_EQ(error.Number(), RunTimeError::DatabaseFailure);
-        EXPECT_TRUE(error.Statement().endsWith(QStringLiteral("'O'Brien')")));
+        EXPECT_TRUE(error.Statement().endsWith("'O'Brien')"));
     }
-    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("0"));
+    EXPECT_EQ(One("select count(*) from CityMaster"), "0");
 }
 
 }

@@ -21,7 +21,7 @@ TEST_F(DamagedLogTest, ATornFirstPageIsMendedFromTheLog)
         QByteArray bytes = Bytes(left);
         Write(left, bytes.replace(0, torn, QByteArray(torn, char(0x5A))));
         EXPECT_EQ(OpenAgain(left).size(), 1) << torn;
-        EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona"));
+        EXPECT_EQ(TownsOf(again), "ek dona");
         EXPECT_TRUE(IsSound(again));
         again.Close();
         EXPECT_EQ(OpenAgain(left), QStringList());
@@ -34,30 +34,29 @@ TEST_F(DamagedLogTest, WithoutALogATornFirstPageIsToldAndNothingIsTouched)
     connection.Close();
     const QByteArray torn = Bytes(file).replace(0, 512, QByteArray(512, '\x5A'));
     Write(file, torn);
-    EXPECT_TRUE(Failure(file).contains(QStringLiteral("not a database")));
+    EXPECT_TRUE(Failure(file).contains("not a database"));
     EXPECT_EQ(Bytes(file), torn);
 }
 
 TEST_F(DamagedLogTest, BooksOfAnotherPasswordAreNotMendedWithTheLogBesideThem)
 {
     Add("ek");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     Connection other;
-    const QString stranger = folder.filePath(QStringLiteral("stranger.mdb"));
-    other.Create(stranger, QStringLiteral("another"));
-    other.RunScript(QStringLiteral("create table CityMaster(CompanyId INTEGER, CityName TEXT)"));
+    const QString stranger = folder.filePath("stranger.mdb");
+    other.Create(stranger, "another");
+    other.RunScript("create table CityMaster(CompanyId INTEGER, CityName TEXT)");
     other.Close();
     const QByteArray bytes = Bytes(stranger);
     Write(left, bytes);
-    EXPECT_TRUE(Failure(left).contains(QStringLiteral("password is wrong")));
+    EXPECT_TRUE(Failure(left).contains("password is wrong"));
     EXPECT_EQ(Bytes(left), bytes);
 }
 
 // Each flipped bit behind which a commit stands is told; the entries before it are there.
 TEST_F(DamagedLogTest, ADamagedPlaceInTheLogIsToldWithTheEntriesBehindIt)
 {
-    const QStringList towns = {QStringLiteral("ek"), QStringLiteral("dona"), QStringLiteral("tIna"),
-        QStringLiteral("caar"), QStringLiteral("paaca")};
+    const QStringList towns = {"ek", "dona", "tIna", "caar", "paaca"};
     QList<qint64> ends = {0};
     for (const QString& town : towns) {
         Add(town.toLatin1().constData());
@@ -74,8 +73,7 @@ TEST_F(DamagedLogTest, ADamagedPlaceInTheLogIsToldWithTheEntriesBehindIt)
         EXPECT_EQ(TownsOf(again), towns.mid(0, hit).join(u' '));
         const auto lost = QStringLiteral("About %1 entries").arg(towns.size() - hit);
         EXPECT_TRUE(notes.first().contains(lost)) << notes.first().toStdString();
-        EXPECT_TRUE(
-            notes.first().contains(QFileInfo(left).lastModified().toString(QStringLiteral("dd/MM/yyyy HH"))));
+        EXPECT_TRUE(notes.first().contains(QFileInfo(left).lastModified().toString("dd/MM/yyyy HH")));
         EXPECT_EQ(LogsAside(left).size(), 1) << "for whoever can read more of it";
     }
 }
@@ -90,7 +88,7 @@ TEST_F(DamagedLogTest, AFoldWhoseBeginningIsHalfWrittenIsNoLostEntry)
     const qint64 entries = connection.LogSize();
     Connection reader;
     reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
-    const Recordset rows(reader, QStringLiteral("select * from CityMaster"));
+    const Recordset rows(reader, "select * from CityMaster");
     Add("tIna");
     const qint64 withTheLast = connection.LogSize();
     ASSERT_FALSE(connection.Fold());
@@ -101,23 +99,23 @@ TEST_F(DamagedLogTest, AFoldWhoseBeginningIsHalfWrittenIsNoLostEntry)
         Write(left + QStringLiteral("-wal"), bytes);
     };
 
-    const QString cut = Left(QStringLiteral("cut"));
+    const QString cut = Left("cut");
     ASSERT_TRUE(QFile::remove(cut + QStringLiteral("-shm")));
     broken(cut, withTheLast + FrameSize / 2);
     EXPECT_EQ(OpenAgain(cut), QStringList());
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona tIna"));
+    EXPECT_EQ(TownsOf(again), "ek dona tIna");
 
-    const QString damaged = Left(QStringLiteral("damaged"));
+    const QString damaged = Left("damaged");
     broken(damaged, withTheLast + FrameSize / 2);
     EXPECT_EQ(OpenAgain(damaged).size(), 1) << "the index knows of it";
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona tIna"));
+    EXPECT_EQ(TownsOf(again), "ek dona tIna");
 
-    const QString lost = Left(QStringLiteral("lost"));
+    const QString lost = Left("lost");
     ASSERT_TRUE(QFile::remove(lost + QStringLiteral("-shm")));
     broken(lost, entries + FrameSize / 2);
     const QStringList notes = OpenAgain(lost);
     ASSERT_EQ(notes.size(), 1);
-    EXPECT_TRUE(notes.first().contains(QStringLiteral("About 1 entries"))) << notes.first().toStdString();
+    EXPECT_TRUE(notes.first().contains("About 1 entries")) << notes.first().toStdString();
 }
 
 TEST_F(DamagedLogTest, SinceWhenEntriesAreMissingIsToldByTheFileUnlessAFoldWasCutOff)
@@ -131,17 +129,17 @@ TEST_F(DamagedLogTest, SinceWhenEntriesAreMissingIsToldByTheFileUnlessAFoldWasCu
         return OpenAgain(left).join(u'\n');
     };
     Add("ek");
-    const QString plain = cutShort(QStringLiteral("plain"), 0);
-    EXPECT_TRUE(plain.contains(QStringLiteral("made after"))) << plain.toStdString();
-    EXPECT_TRUE(plain.contains(QStringLiteral("नंतरच्या"))) << plain.toStdString();
+    const QString plain = cutShort("plain", 0);
+    EXPECT_TRUE(plain.contains("made after")) << plain.toStdString();
+    EXPECT_TRUE(plain.contains("नंतरच्या")) << plain.toStdString();
 
     BreakOffAFold();
     Add("caar");
-    const QString cutOff = cutShort(QStringLiteral("cutOff"), 3600);
-    EXPECT_TRUE(cutOff.contains(QStringLiteral("entries may be missing"))) << cutOff.toStdString();
-    EXPECT_FALSE(cutOff.contains(QStringLiteral("made after"))) << cutOff.toStdString();
-    EXPECT_FALSE(cutOff.contains(QStringLiteral("नंतरच्या"))) << cutOff.toStdString();
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek tIna"));
+    const QString cutOff = cutShort("cutOff", 3600);
+    EXPECT_TRUE(cutOff.contains("entries may be missing")) << cutOff.toStdString();
+    EXPECT_FALSE(cutOff.contains("made after")) << cutOff.toStdString();
+    EXPECT_FALSE(cutOff.contains("नंतरच्या")) << cutOff.toStdString();
+    EXPECT_EQ(TownsOf(again), "ek tIna");
 }
 
 TEST_F(DamagedLogTest, AFoldThatWasCutOffIsKnownByItsPagesThoughTheWordOfItIsLost)
@@ -149,17 +147,16 @@ TEST_F(DamagedLogTest, AFoldThatWasCutOffIsKnownByItsPagesThoughTheWordOfItIsLos
     Run("insert into BankMaster(CompanyId,BankName) values(1,'a bank')"); // the page that comes into the file
     Add("ek");
     BreakOffAFold();
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     QByteArray log = Bytes(left + QStringLiteral("-wal"));
     log.chop(FrameSize + 1);
     Write(left + QStringLiteral("-wal"), log);
     Age(left, 3600);
     const QStringList notes = OpenAgain(left);
     ASSERT_EQ(notes.size(), 1);
-    EXPECT_TRUE(notes.first().contains(QStringLiteral("entries may be missing")))
-        << notes.first().toStdString();
+    EXPECT_TRUE(notes.first().contains("entries may be missing")) << notes.first().toStdString();
     EXPECT_EQ(LogsAside(left).size(), 1) << "the damaged log is kept";
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
+    EXPECT_EQ(TownsOf(again), "ek");
 }
 
 TEST_F(DamagedLogTest, ADamagedHeadOfTheLogIsToldWithAllItsEntries)
@@ -168,14 +165,14 @@ TEST_F(DamagedLogTest, ADamagedHeadOfTheLogIsToldWithAllItsEntries)
     connection.Fold();
     Add("dona");
     Add("tIna");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     QByteArray log = Bytes(left + QStringLiteral("-wal"));
     log[20] = static_cast<char>(log[20] ^ 1);
     Write(left + QStringLiteral("-wal"), log);
     const QStringList notes = OpenAgain(left);
     ASSERT_EQ(notes.size(), 1);
-    EXPECT_TRUE(notes.first().contains(QStringLiteral("About 2 entries"))) << notes.first().toStdString();
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
+    EXPECT_TRUE(notes.first().contains("About 2 entries")) << notes.first().toStdString();
+    EXPECT_EQ(TownsOf(again), "ek");
 }
 
 TEST_F(DamagedLogTest, ALogThatWasCutShortIsToldByTheIndexBesideIt)
@@ -195,7 +192,7 @@ TEST_F(DamagedLogTest, AnUnfinishedEntryAtTheEndIsNoDamage)
 {
     Add("ek");
     const qint64 first = connection.LogSize();
-    const QString whole = Left(QStringLiteral("whole"));
+    const QString whole = Left("whole");
     Add("dona");
     const QByteArray log = Bytes(file + QStringLiteral("-wal"));
     for (qint64 size = first; size < log.size(); size += FrameSize / 3) {
@@ -205,7 +202,7 @@ TEST_F(DamagedLogTest, AnUnfinishedEntryAtTheEndIsNoDamage)
         ASSERT_TRUE(QFile::copy(whole + QStringLiteral("-shm"), left + Name + QStringLiteral("-shm")));
         Write(left + Name + QStringLiteral("-wal"), log.left(size));
         EXPECT_EQ(OpenAgain(left + Name), QStringList()) << size;
-        EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
+        EXPECT_EQ(TownsOf(again), "ek");
     }
 }
 
@@ -231,7 +228,7 @@ TEST_F(DamagedLogTest, ADamagedPageIsFoundAfterAnUncleanEndAndItsTableNamed)
         Write(left, QByteArray(sound).replace(at, 1, QByteArray(1, static_cast<char>(sound[at] ^ 4))));
         const QByteArray log = Bytes(left + QStringLiteral("-wal"));
         const QString told = Failure(left, plan);
-        named += told.contains(QStringLiteral("CityMaster")) ? 1 : 0;
+        named += told.contains("CityMaster") ? 1 : 0;
         EXPECT_TRUE(told.contains(plan.newestBackup));
         EXPECT_EQ(Bytes(left + QStringLiteral("-wal")), log) << "nothing is folded into damaged books";
     }
@@ -258,7 +255,7 @@ TEST_F(DamagedLogTest, WithNoRoomToLookAtItTheRightfulLogStaysWhereItIs)
     Add("ek");
     connection.Fold();
     Add("dona");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     // No file can grow any more, as on a full disk.
     signal(SIGXFSZ, SIG_IGN);
     rlimit usual{};
@@ -267,10 +264,10 @@ TEST_F(DamagedLogTest, WithNoRoomToLookAtItTheRightfulLogStaysWhereItIs)
     setrlimit(RLIMIT_FSIZE, &none);
     const QString told = Failure(left);
     setrlimit(RLIMIT_FSIZE, &usual);
-    EXPECT_TRUE(told.contains(QStringLiteral("disk is full"))) << told.toStdString();
+    EXPECT_TRUE(told.contains("disk is full")) << told.toStdString();
     EXPECT_EQ(LogsAside(left), QStringList());
     EXPECT_EQ(OpenAgain(left), QStringList());
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona"));
+    EXPECT_EQ(TownsOf(again), "ek dona");
 }
 
 TEST_F(DamagedLogTest, AFullDiskIsNoDamagedPage)
@@ -284,7 +281,7 @@ TEST_F(DamagedLogTest, AFullDiskIsNoDamagedPage)
     FaultyDisk::NoRoomForAnIndex();
     const QString told = Failure(file, plan);
     FaultyDisk::Reset();
-    EXPECT_TRUE(told.contains(QStringLiteral("disk is full"))) << told.toStdString();
+    EXPECT_TRUE(told.contains("disk is full")) << told.toStdString();
     EXPECT_EQ(OpenAgain(file, plan), QStringList());
 }
 
@@ -301,9 +298,9 @@ TEST_F(DamagedLogTest, WhatAFullDiskKeepsFromBeingFoldedStaysInTheLogAtTheEndToo
     connection.Close();
     FaultyDisk::Reset();
     EXPECT_EQ(Bytes(file), before) << "a closing that breaks off must not leave books that no log names";
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     EXPECT_EQ(OpenAgain(left), QStringList());
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
+    EXPECT_EQ(TownsOf(again), "ek");
 }
 
 TEST_F(DamagedLogTest, BooksThatMayNotBeWrittenAreRefusedAtTheStart)
@@ -311,7 +308,7 @@ TEST_F(DamagedLogTest, BooksThatMayNotBeWrittenAreRefusedAtTheStart)
     connection.Close();
     ASSERT_TRUE(QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
     const QByteArray before = Bytes(file);
-    EXPECT_TRUE(Failure(file).contains(QStringLiteral("can't be written")));
+    EXPECT_TRUE(Failure(file).contains("can't be written"));
     EXPECT_EQ(Bytes(file), before);
     EXPECT_FALSE(QFile::exists(file + QStringLiteral("-wal")));
 }
@@ -324,7 +321,7 @@ TEST_F(DamagedLogTest, ALogThatMayNotBeWrittenIsRefusedAtTheStartAndStaysAsItIs)
         const QString log = left + QLatin1String(ending);
         const QByteArray before = Bytes(log);
         ASSERT_TRUE(QFile::setPermissions(log, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
-        EXPECT_TRUE(Failure(left).contains(QStringLiteral("can't be written"))) << ending;
+        EXPECT_TRUE(Failure(left).contains("can't be written")) << ending;
         EXPECT_EQ(Bytes(log), before) << ending;
     }
 }

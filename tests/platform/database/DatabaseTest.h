@@ -75,7 +75,7 @@ protected:
     {
         connection.Create(file, TestPassword);
         connection.RunScript(QString::fromUtf8(TestTables));
-        DataSource::Register(QStringLiteral("VetrolanDSN"), file);
+        DataSource::Register("VetrolanDSN", file);
     }
 
     int Run(const char* statement) { return connection.Execute(QString::fromUtf8(statement)); }
@@ -103,7 +103,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    QString file = folder.filePath(QStringLiteral("Morvelta.mdb"));
+    QString file = folder.filePath("Morvelta.mdb");
     Connection connection;
 };
 

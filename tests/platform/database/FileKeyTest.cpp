@@ -46,7 +46,7 @@ protected:
 
     QString Another() const
     {
-        const QString name = folder.filePath(QStringLiteral("another.mdb"));
+        const QString name = folder.filePath("another.mdb");
         DatabaseFile::Create(name, TestPassword);
         return name;
     }
@@ -62,28 +62,28 @@ TEST_F(FileKeyTest, APasswordThatIsWrongStaysWrongBehindTheRightOne)
 {
     Open();
     connection.Close();
-    EXPECT_THROW(Open(QStringLiteral("another")), RunTimeError);
+    EXPECT_THROW(Open("another"), RunTimeError);
     Open();
     EXPECT_TRUE(connection.IsOpen());
 }
 
 TEST_F(FileKeyTest, EachPasswordAndEachFileHasAKeyOfItsOwn)
 {
-    const QString another = folder.filePath(QStringLiteral("another.mdb"));
+    const QString another = folder.filePath("another.mdb");
     ASSERT_TRUE(QFile::copy(file, another));
     QFile write(another);
     ASSERT_TRUE(write.open(QIODevice::ReadWrite));
     write.write("0123456789abcdef");
     write.close();
-    const QSet<QByteArray> keys{KeyOf(file, TestPassword), KeyOf(file, QStringLiteral("b")),
-        KeyOf(another, TestPassword), KeyOf(another, QStringLiteral("b"))};
+    const QSet<QByteArray> keys{
+        KeyOf(file, TestPassword), KeyOf(file, "b"), KeyOf(another, TestPassword), KeyOf(another, "b")};
     EXPECT_EQ(keys.size(), 4);
     EXPECT_TRUE(keys.contains(KeyOf(file, TestPassword))) << "and it stays the same";
 }
 
 TEST_F(FileKeyTest, BooksThatAreMadeGetASaltThatNoOthersHave)
 {
-    const QString empty = folder.filePath(QStringLiteral("empty.mdb"));
+    const QString empty = folder.filePath("empty.mdb");
     QFile made(empty);
     ASSERT_TRUE(made.open(QIODevice::WriteOnly));
     made.close();

@@ -14,8 +14,7 @@ protected:
     void ExpectRefused(const QString& statement)
     {
         EXPECT_NE(ErrorOf(statement), 0) << statement.left(200).toStdString();
-        EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("1"))
-            << statement.left(200).toStdString();
+        EXPECT_EQ(One("select count(*) from CityMaster"), "1") << statement.left(200).toStdString();
     }
 };
 
@@ -84,7 +83,7 @@ TEST_F(HostileTextTest, IsDoneWithAMegabyteQuickly)
         timer.start();
         ErrorOf(statement);
         EXPECT_LT(timer.elapsed(), 5000) << statement.left(80).toStdString();
-        EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("1"));
+        EXPECT_EQ(One("select count(*) from CityMaster"), "1");
     }
 }
 

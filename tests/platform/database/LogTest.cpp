@@ -21,10 +21,10 @@ TEST_F(LogTest, FoldingLeavesNothingInTheLogAndAllInTheFile)
     EXPECT_TRUE(connection.Fold());
     EXPECT_EQ(connection.LogSize(), 0);
     EXPECT_EQ(QFileInfo(file + QStringLiteral("-wal")).size(), 0);
-    const QString alone = folder.filePath(QStringLiteral("alone.mdb"));
+    const QString alone = folder.filePath("alone.mdb");
     ASSERT_TRUE(QFile::copy(file, alone));
     EXPECT_EQ(OpenAgain(alone), QStringList());
-    EXPECT_EQ(TownsOf(again), QStringLiteral("gaava"));
+    EXPECT_EQ(TownsOf(again), "gaava");
 }
 
 TEST_F(LogTest, NothingIsFoldedInTheMidstOfATransactionOrOfAReading)
@@ -41,7 +41,7 @@ TEST_F(LogTest, NothingIsFoldedInTheMidstOfATransactionOrOfAReading)
         EXPECT_FALSE(connection.Fold());
     }
     EXPECT_TRUE(connection.Fold());
-    EXPECT_EQ(Towns(), QStringLiteral("ek dona"));
+    EXPECT_EQ(Towns(), "ek dona");
 }
 
 TEST_F(LogTest, WhileAnotherReadsTheFoldWaitsWithoutWaitingForIt)
@@ -50,7 +50,7 @@ TEST_F(LogTest, WhileAnotherReadsTheFoldWaitsWithoutWaitingForIt)
     Connection reader;
     reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
     {
-        const Recordset rows(reader, QStringLiteral("select * from CityMaster"));
+        const Recordset rows(reader, "select * from CityMaster");
         Add("dona");
         EXPECT_FALSE(connection.Fold());
         const qint64 size = connection.LogSize();
@@ -59,9 +59,9 @@ TEST_F(LogTest, WhileAnotherReadsTheFoldWaitsWithoutWaitingForIt)
     }
     EXPECT_TRUE(connection.Fold());
     Add("tIna");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     EXPECT_EQ(OpenAgain(left), QStringList());
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona tIna"));
+    EXPECT_EQ(TownsOf(again), "ek dona tIna");
 }
 
 TEST_F(LogTest, WhatAKilledProgramLeftIsPlayedInAndFolded)
@@ -70,9 +70,9 @@ TEST_F(LogTest, WhatAKilledProgramLeftIsPlayedInAndFolded)
     connection.Fold();
     Add("dona");
     Add("tIna");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     EXPECT_EQ(OpenAgain(left), QStringList());
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona tIna"));
+    EXPECT_EQ(TownsOf(again), "ek dona tIna");
     EXPECT_EQ(again.LogSize(), 0) << "the start folds what it finds";
     EXPECT_TRUE(IsSound(again));
 }
@@ -92,13 +92,13 @@ TEST_F(LogTest, TheLogOfABackupsSuccessorIsPutAsideAndTold)
     Add("dona");
     connection.Fold();
     Add("tIna");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     Write(left, backup);
     const QStringList notes = OpenAgain(left);
     ASSERT_EQ(notes.size(), 1);
     EXPECT_EQ(LogsAside(left).size(), 1);
     EXPECT_TRUE(notes.first().contains(LogsAside(left).value(0))) << notes.first().toStdString();
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
+    EXPECT_EQ(TownsOf(again), "ek");
     EXPECT_TRUE(IsSound(again));
 }
 
@@ -108,11 +108,11 @@ TEST_F(LogTest, ABackupOfTheVeryFilePutThereLaterIsTakenAsItIs)
     connection.Fold();
     const QByteArray backup = Bytes(file);
     Add("dona");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     Write(left, backup);
     Age(left, 3600);
     EXPECT_EQ(OpenAgain(left).size(), 1);
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
+    EXPECT_EQ(TownsOf(again), "ek");
     EXPECT_EQ(LogsAside(left).size(), 1);
 }
 
@@ -121,7 +121,7 @@ TEST_F(LogTest, ABackupWithoutMarksPutBesideALogWithoutMarksLaterIsTakenAsItIs)
 {
     MakeUnmarkedBooks();
     RunRaw(connection, "insert into CityMaster(CompanyId,CityName) values(1,'ek')");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     Age(left, 3600);
     EXPECT_EQ(OpenAgain(left).size(), 1);
     EXPECT_EQ(TownsOf(again), QString());
@@ -132,9 +132,9 @@ TEST_F(LogTest, ALogWithoutMarksIsPlayedIntoItsBooksWithoutMarks)
 {
     MakeUnmarkedBooks();
     RunRaw(connection, "insert into CityMaster(CompanyId,CityName) values(1,'ek')");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     EXPECT_EQ(OpenAgain(left), QStringList());
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
+    EXPECT_EQ(TownsOf(again), "ek");
     EXPECT_EQ(LogsAside(left).size(), 0);
 }
 
@@ -142,7 +142,7 @@ TEST_F(LogTest, ALogWithoutMarksWhoseFoldWasCutOffIsStillItsBooks)
 {
     MakeUnmarkedBooks();
     RunRaw(connection, "insert into CityMaster(CompanyId,CityName) values(1,'ek')");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     FoldAsTheShellDoes();
     QByteArray books = Bytes(left);
     const QByteArray folded = Bytes(file);
@@ -159,7 +159,7 @@ TEST_F(LogTest, ALogWithoutMarksWhoseFoldWasCutOffIsStillItsBooks)
     Write(left, books);
     Age(left, 3600);
     EXPECT_EQ(OpenAgain(left), QStringList());
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
+    EXPECT_EQ(TownsOf(again), "ek");
 }
 
 TEST_F(LogTest, ALogThatIsInTheBooksAlreadyButWasNotEmptiedIsTheirs)
@@ -167,12 +167,12 @@ TEST_F(LogTest, ALogThatIsInTheBooksAlreadyButWasNotEmptiedIsTheirs)
     Add("ek");
     connection.Fold();
     Add("dona");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     connection.Fold();
     Write(left, Bytes(file));
     Age(left, 3600);
     EXPECT_EQ(OpenAgain(left), QStringList());
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona"));
+    EXPECT_EQ(TownsOf(again), "ek dona");
     EXPECT_TRUE(IsSound(again));
 }
 
@@ -184,23 +184,23 @@ TEST_F(LogTest, BooksWhoseClockWentBackAreTheirLogsAllTheSame)
     connection.Close();
     Open();
     Add("dona");
-    const QString left = folder.filePath(QStringLiteral("left"));
+    const QString left = folder.filePath("left");
     ASSERT_TRUE(QDir().mkdir(left));
     const QString books = left + Name;
     ASSERT_EQ(link(file.toLocal8Bit().constData(), books.toLocal8Bit().constData()), 0);
     ASSERT_TRUE(QFile::copy(file + QStringLiteral("-wal"), books + QStringLiteral("-wal")));
     EXPECT_EQ(OpenAgain(books), QStringList());
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona"));
+    EXPECT_EQ(TownsOf(again), "ek dona");
 }
 
 TEST_F(LogTest, TheLogOfAnotherSocietyIsPutAside)
 {
     Add("ek");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     Connection other;
-    const QString stranger = folder.filePath(QStringLiteral("stranger.mdb"));
+    const QString stranger = folder.filePath("stranger.mdb");
     other.Create(stranger, TestPassword);
-    other.RunScript(QStringLiteral("create table CityMaster(CompanyId INTEGER, CityName TEXT)"));
+    other.RunScript("create table CityMaster(CompanyId INTEGER, CityName TEXT)");
     other.Close();
     ASSERT_TRUE(QFile::remove(left));
     ASSERT_TRUE(QFile::copy(stranger, left));
@@ -215,7 +215,7 @@ TEST_F(LogTest, AfterAFoldThatWasInterruptedTheLogIsStillTheBooks)
     const QByteArray before = Bytes(file);
     Add("dona");
     BreakOffAFold();
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     const QByteArray after = Bytes(left);
     for (int page = 0; page * DatabaseFile::PageSize < after.size(); ++page) {
         const QString part = Left(QStringLiteral("left%1").arg(page));
@@ -225,7 +225,7 @@ TEST_F(LogTest, AfterAFoldThatWasInterruptedTheLogIsStillTheBooks)
         Write(part, mixed);
         Age(part, 3600);
         EXPECT_EQ(OpenAgain(part), QStringList()) << "without page " << page + 1;
-        EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona tIna"));
+        EXPECT_EQ(TownsOf(again), "ek dona tIna");
     }
 }
 
@@ -236,11 +236,11 @@ TEST_F(LogTest, ABackupThatALogBeingFoldedGoesOnFromIsBroughtToItsEnd)
     const QByteArray backup = Bytes(file);
     Add("dona");
     BreakOffAFold();
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     Write(left, backup);
     Age(left, 3600);
     EXPECT_EQ(OpenAgain(left), QStringList()) << "half folded books look the same, so nothing may be dropped";
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek dona tIna"));
+    EXPECT_EQ(TownsOf(again), "ek dona tIna");
     EXPECT_TRUE(IsSound(again));
 }
 
@@ -253,10 +253,10 @@ TEST_F(LogTest, AnOlderBackupIsTakenAsItIsThoughTheLogWasBeingFolded)
     connection.Fold();
     Add("dona");
     BreakOffAFold();
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     Write(left, backup);
     EXPECT_EQ(OpenAgain(left).size(), 1);
-    EXPECT_EQ(TownsOf(again), QStringLiteral("ek"));
+    EXPECT_EQ(TownsOf(again), "ek");
     EXPECT_EQ(LogsAside(left).size(), 1);
     EXPECT_TRUE(IsSound(again));
 }
@@ -270,12 +270,12 @@ TEST_F(LogTest, ALogThatWasPutAsideIsToldThoughTheBooksTurnOutToBeDamaged)
     Add("dona");
     connection.Fold();
     Add("tIna");
-    const QString left = Left(QStringLiteral("left"));
+    const QString left = Left("left");
     const qsizetype at = backup.size() - 50 * DatabaseFile::PageSize;
     backup[at] = static_cast<char>(backup[at] ^ 4);
     Write(left, backup);
     const QString told = Failure(left);
-    EXPECT_TRUE(told.contains(QStringLiteral("damaged"))) << told.toStdString();
+    EXPECT_TRUE(told.contains("damaged")) << told.toStdString();
     ASSERT_EQ(LogsAside(left).size(), 1);
     EXPECT_TRUE(told.contains(LogsAside(left).value(0))) << told.toStdString();
 }

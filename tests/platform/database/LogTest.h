@@ -27,8 +27,7 @@ protected:
     static QString TownsOf(Connection& books)
     {
         QStringList towns;
-        for (Recordset rows(books, QStringLiteral("select CityName from CityMaster")); !rows.Eof();
-             rows.MoveNext())
+        for (Recordset rows(books, "select CityName from CityMaster"); !rows.Eof(); rows.MoveNext())
             towns.append(rows.At(0).Text());
         return towns.join(u' ');
     }
@@ -56,7 +55,7 @@ protected:
     void BreakOffAFold()
     {
         m_reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
-        m_reading.emplace(m_reader, QStringLiteral("select * from CityMaster"));
+        m_reading.emplace(m_reader, "select * from CityMaster");
         Add("tIna");
         ASSERT_FALSE(connection.Fold());
     }
@@ -76,7 +75,7 @@ protected:
 
     QStringList OpenAgain(const QString& books, const OpeningPlan& plan = {})
     {
-        DataSource::Register(QStringLiteral("Left"), books);
+        DataSource::Register("Left", books);
         return again.Open(QStringLiteral("dsn=Left;pwd=") + TestPassword, plan);
     }
 
@@ -117,7 +116,7 @@ protected:
 
     static QStringList LogsAside(const QString& books)
     {
-        return QFileInfo(books).dir().entryList({QStringLiteral("Morvelta-*.mdb-wal")}, QDir::Files);
+        return QFileInfo(books).dir().entryList({"Morvelta-*.mdb-wal"}, QDir::Files);
     }
 
     const QString Name = QStringLiteral("/Morvelta.mdb");

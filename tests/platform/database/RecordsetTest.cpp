@@ -31,7 +31,7 @@ TEST_F(RecordsetTest, WalksForwardsAndEnds)
     QStringList seen;
     for (; !rows.Eof(); rows.MoveNext())
         seen += rows[u"cityname"].Text();
-    EXPECT_EQ(seen, QStringList({QStringLiteral("c1"), QStringLiteral("c2"), QStringLiteral("c3")}));
+    EXPECT_EQ(seen, QStringList({"c1", "c2", "c3"}));
     EXPECT_EQ(NumberOf([&] { rows.MoveNext(); }), RunTimeError::NoCurrentRecord);
     EXPECT_EQ(NumberOf([&] { rows[u"CityName"]; }), RunTimeError::NoCurrentRecord);
 }
@@ -41,8 +41,8 @@ TEST_F(RecordsetTest, KnowsItsColumns)
     AddCities(1);
     const Recordset rows = Rows("select CompanyId,CityName as Name from CityMaster");
     EXPECT_EQ(rows.Columns(), 2);
-    EXPECT_EQ(rows.Name(1), QStringLiteral("Name"));
-    EXPECT_EQ(rows[u"NAME"].Text(), QStringLiteral("c1"));
+    EXPECT_EQ(rows.Name(1), "Name");
+    EXPECT_EQ(rows[u"NAME"].Text(), "c1");
     EXPECT_EQ(rows[u"companyid"].Number(), 1);
     EXPECT_EQ(NumberOf([&] { rows[u"City"]; }), RunTimeError::ItemNotFound);
     EXPECT_EQ(NumberOf([&] { rows.At(2); }), RunTimeError::ItemNotFound);
@@ -72,7 +72,7 @@ TEST_F(RecordsetTest, ASumOverNoRowsIsNullAndReadAsNought)
         EXPECT_EQ(sum[u"Total"].Number(), 0) << query;
         EXPECT_EQ(sum[u"Total"].Text(), QString()) << query;
     }
-    EXPECT_EQ(One("select count(*) from MilkPayments"), QStringLiteral("0"));
+    EXPECT_EQ(One("select count(*) from MilkPayments"), "0");
 }
 
 TEST_F(RecordsetTest, ReadsTheRowsOfBeforeAWrite)
@@ -105,7 +105,7 @@ TEST_F(RecordsetTest, RenumbersWhatItWalks)
                                .arg(walked + 50)
                                .arg(rows[u"CollectionNo"].Text()));
     EXPECT_EQ(walked, 4);
-    EXPECT_EQ(One("select max(CollectionNo) from MilkCollections"), QStringLiteral("53"));
+    EXPECT_EQ(One("select max(CollectionNo) from MilkCollections"), "53");
 }
 
 TEST_F(RecordsetTest, SurvivesTheDroppingOfItsTable)
@@ -114,9 +114,9 @@ TEST_F(RecordsetTest, SurvivesTheDroppingOfItsTable)
     Run("insert into Fat150307 values(4,5,6)");
     Run("insert into Fat150307 values(7,8,9)");
     Recordset rows = Rows("select * from Fat150307");
-    connection.RunScript(QStringLiteral("drop table Fat150307"));
+    connection.RunScript("drop table Fat150307");
     rows.MoveNext();
-    EXPECT_EQ(rows.At(0).Text(), QStringLiteral("7"));
+    EXPECT_EQ(rows.At(0).Text(), "7");
 }
 
 TEST_F(RecordsetTest, IsClosedWithItsConnection)
@@ -138,7 +138,7 @@ TEST_F(RecordsetTest, RefusesWhatIsNoQuery)
 {
     AddCities(1);
     EXPECT_EQ(NumberOf([&] { Rows("delete * from CityMaster"); }), RunTimeError::DatabaseFailure);
-    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("1"));
+    EXPECT_EQ(One("select count(*) from CityMaster"), "1");
 }
 
 TEST_F(RecordsetTest, PreparesAShapeOnce)
@@ -158,22 +158,22 @@ TEST_F(RecordsetTest, HandsNoStatementOutTwice)
     AddCities(3);
     Recordset first = Rows("select CityName from CityMaster where CompanyId>=1 order by CompanyId");
     Recordset second = Rows("select CityName from CityMaster where CompanyId>=3 order by CompanyId");
-    EXPECT_EQ(second.At(0).Text(), QStringLiteral("c3"));
+    EXPECT_EQ(second.At(0).Text(), "c3");
     first.MoveNext();
-    EXPECT_EQ(first.At(0).Text(), QStringLiteral("c2"));
+    EXPECT_EQ(first.At(0).Text(), "c2");
     Recordset moved = std::move(second);
-    EXPECT_EQ(moved.At(0).Text(), QStringLiteral("c3"));
+    EXPECT_EQ(moved.At(0).Text(), "c3");
 }
 
 TEST_F(RecordsetTest, SeesATableMadeAnewUnderAnOldName)
 {
     Run("create table Fat150307(Fat TEXT,CowRate TEXT,BuffRate TEXT)");
     Run("insert into Fat150307 values(4.50,5,6)");
-    EXPECT_EQ(One("select * from Fat150307 where Fat='4.5'"), QStringLiteral("4.5"));
-    connection.RunScript(QStringLiteral("drop table Fat150307"));
+    EXPECT_EQ(One("select * from Fat150307 where Fat='4.5'"), "4.5");
+    connection.RunScript("drop table Fat150307");
     Run("create table Fat150307(Fat REAL,CowRate REAL)");
     Run("insert into Fat150307 values(4.50,5)");
-    EXPECT_EQ(One("select * from Fat150307 where Fat='4.5'"), QStringLiteral("4.5"));
+    EXPECT_EQ(One("select * from Fat150307 where Fat='4.5'"), "4.5");
     EXPECT_EQ(Rows("select * from Fat150307").Columns(), 2);
 }
 

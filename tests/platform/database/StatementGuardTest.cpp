@@ -48,12 +48,12 @@ TEST_F(StatementGuardTest, AFunctionThatRunsStatementsOrLoadsCodeIsDenied)
              "update CityMaster set CityName=load_extension('./x')", "select load_extension('./x','y')",
              "select * from CityMaster where CompanyId=(select sqlcipher_export('main'))"}) {
         EXPECT_EQ(ErrorOf(statement), RunTimeError::DatabaseFailure) << statement;
-        EXPECT_EQ(One("select CityName from CityMaster"), QStringLiteral("gaava")) << statement;
+        EXPECT_EQ(One("select CityName from CityMaster"), "gaava") << statement;
     }
     try {
         Run("select sqlcipher_export('main')");
     } catch (const RunTimeError& error) {
-        EXPECT_TRUE(error.Happened().contains(QStringLiteral("not authorized"))) << error.what();
+        EXPECT_TRUE(error.Happened().contains("not authorized")) << error.what();
     }
 }
 
@@ -81,8 +81,7 @@ TEST_F(StatementGuardTest, TheSchemaChangesByANewChartOnly)
 
 TEST_F(StatementGuardTest, OtherFilesAndSwitchesAreDenied)
 {
-    const QByteArray attach =
-        "attach '" + folder.filePath(QStringLiteral("other.mdb")).toUtf8() + "' as other";
+    const QByteArray attach = "attach '" + folder.filePath("other.mdb").toUtf8() + "' as other";
     for (const char* statement : {attach.constData(), "detach main", "pragma journal_mode=delete",
              "pragma journal_mode", "pragma writable_schema=1", "pragma synchronous=off", "pragma rekey='x'",
              "pragma key='x'", "pragma user_version=5", "pragma wal_checkpoint(truncate)",
@@ -91,7 +90,7 @@ TEST_F(StatementGuardTest, OtherFilesAndSwitchesAreDenied)
         EXPECT_EQ(ErrorOf(statement), RunTimeError::DatabaseFailure) << statement;
     }
     EXPECT_NE(sqlite3_exec(connection.Handle(), "vacuum", nullptr, nullptr, nullptr), SQLITE_OK);
-    EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("other.mdb"))));
+    EXPECT_FALSE(QFile::exists(folder.filePath("other.mdb")));
     EXPECT_NE(ErrorOf("select * from pragma_journal_mode"), 0);
 }
 
@@ -111,10 +110,9 @@ TEST_F(StatementGuardTest, StandsAsideForTheRoomItself)
         EXPECT_EQ(Asked("pragma wal_checkpoint(truncate)"), SQLITE_OK);
     }
     EXPECT_EQ(Asked("pragma wal_checkpoint(truncate)"), SQLITE_AUTH);
-    connection.RunScript(QStringLiteral("create index I on CityMaster(CityName)"));
+    connection.RunScript("create index I on CityMaster(CityName)");
     EXPECT_EQ(Asked("create index J on CityMaster(CityName)"), SQLITE_AUTH);
-    EXPECT_THROW(
-        connection.RunScript(QStringLiteral("create index I on CityMaster(CityName)")), RunTimeError);
+    EXPECT_THROW(connection.RunScript("create index I on CityMaster(CityName)"), RunTimeError);
     EXPECT_EQ(Asked("create index J on CityMaster(CityName)"), SQLITE_AUTH);
 }
 
@@ -138,7 +136,7 @@ TEST_F(StatementGuardTest, AStatementThatWorksForTooLongIsEnded)
             ADD_FAILURE() << "it wasn't ended";
         } catch (const RunTimeError& error) {
             EXPECT_EQ(error.Number(), RunTimeError::DatabaseFailure);
-            EXPECT_TRUE(error.Happened().contains(QStringLiteral("took too long"))) << error.what();
+            EXPECT_TRUE(error.Happened().contains("took too long")) << error.what();
             EXPECT_EQ(error.Statement(), QString::fromUtf8(Long));
         }
         EXPECT_THROW(Rows(Long), RunTimeError);
@@ -147,10 +145,9 @@ TEST_F(StatementGuardTest, AStatementThatWorksForTooLongIsEnded)
                 "CityMaster b, CityMaster c where a.CityName>='')"),
             RunTimeError);
         writing.reset();
-        EXPECT_EQ(
-            One("select count(*) from CityMaster where CityName in ('gaava','sahr')"), QStringLiteral("151"))
+        EXPECT_EQ(One("select count(*) from CityMaster where CityName in ('gaava','sahr')"), "151")
             << "a short one still answers";
-        EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("151"));
+        EXPECT_EQ(One("select count(*) from CityMaster"), "151");
     }
 }
 
@@ -171,7 +168,7 @@ TEST_F(StatementGuardTest, WhatIsLeftOfAListIsReadWithinTheBoundToo)
     Recordset list = Rows("select a.CityName from CityMaster a, CityMaster b");
     connection.d()->Guard().SetBound(std::chrono::seconds(0));
     EXPECT_EQ(ErrorOf("delete * from CityMaster"), RunTimeError::DatabaseFailure);
-    EXPECT_EQ(One("select count(*) from CityMaster"), QStringLiteral("701"));
+    EXPECT_EQ(One("select count(*) from CityMaster"), "701");
 }
 
 }

@@ -23,11 +23,11 @@ protected:
     static void Save(Connection& books)
     {
         Transaction transaction(books);
-        books.Execute(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'a')"));
-        books.Execute(QStringLiteral("insert into BankMaster(CompanyId,BankName) values(1,'b')"));
-        books.Execute(QStringLiteral("insert into FatDates(FromDate,FatFileName) values('15/04/2026','f')"));
-        books.Execute(QStringLiteral("update CityMaster set CityName='c' where CompanyId=1"));
-        books.Execute(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(2,'d')"));
+        books.Execute("insert into CityMaster(CompanyId,CityName) values(1,'a')");
+        books.Execute("insert into BankMaster(CompanyId,BankName) values(1,'b')");
+        books.Execute("insert into FatDates(FromDate,FatFileName) values('15/04/2026','f')");
+        books.Execute("update CityMaster set CityName='c' where CompanyId=1");
+        books.Execute("insert into CityMaster(CompanyId,CityName) values(2,'d')");
         transaction.Commit();
     }
 
@@ -36,8 +36,8 @@ protected:
         try {
             Save(books);
         } catch (const RunTimeError& error) {
-            EXPECT_TRUE(error.Happened().contains(QStringLiteral("disk is full"))
-                || error.Happened().contains(QStringLiteral("transaction was rolled back")))
+            EXPECT_TRUE(error.Happened().contains("disk is full")
+                || error.Happened().contains("transaction was rolled back"))
                 << error.what();
             return true;
         }
@@ -162,8 +162,8 @@ TEST_F(TransactionTest, ADiskWithoutRoomForTheIndexOfTheLogIsToldAsFullAtTheOpen
         Open();
         ADD_FAILURE() << "the books were opened";
     } catch (const RunTimeError& error) {
-        EXPECT_TRUE(error.Happened().contains(QStringLiteral("The disk is full"))) << error.what();
-        EXPECT_FALSE(error.Happened().contains(QStringLiteral("can't be read"))) << error.what();
+        EXPECT_TRUE(error.Happened().contains("The disk is full")) << error.what();
+        EXPECT_FALSE(error.Happened().contains("can't be read")) << error.what();
     }
     FaultyDisk::Reset();
     Open();
@@ -193,11 +193,10 @@ TEST_F(TransactionTest, AFailedCommitSaysThatItIsNotKnownWhetherTheEntryWasKept)
             Save(connection);
             ADD_FAILURE() << "full from " << n;
         } catch (const RunTimeError& error) {
-            EXPECT_TRUE(
-                error.Happened().contains(QStringLiteral("It is not known whether the last entry was kept")));
-            EXPECT_TRUE(error.Happened().contains(QStringLiteral("ते माहीत नाही")));
-            EXPECT_TRUE(error.Happened().contains(QStringLiteral("The disk is full")));
-            EXPECT_FALSE(error.Happened().contains(QStringLiteral("nothing was saved")));
+            EXPECT_TRUE(error.Happened().contains("It is not known whether the last entry was kept"));
+            EXPECT_TRUE(error.Happened().contains("ते माहीत नाही"));
+            EXPECT_TRUE(error.Happened().contains("The disk is full"));
+            EXPECT_FALSE(error.Happened().contains("nothing was saved"));
         }
     }
     FaultyDisk::Reset();
@@ -217,9 +216,9 @@ TEST_F(TransactionTest, ASyncThatFailsAtTheCommitSaysToCheckTheDiskAndToLookForT
             ADD_FAILURE() << "broken from " << n;
         } catch (const RunTimeError& error) {
             const QString told = error.Happened();
-            EXPECT_TRUE(told.contains(QStringLiteral("The disk can't be written. It is not known"))) << n;
-            EXPECT_TRUE(told.contains(QStringLiteral("डिस्क तपासा"))) << n;
-            EXPECT_FALSE(told.contains(QStringLiteral("full"))) << n;
+            EXPECT_TRUE(told.contains("The disk can't be written. It is not known")) << n;
+            EXPECT_TRUE(told.contains("डिस्क तपासा")) << n;
+            EXPECT_FALSE(told.contains("full")) << n;
         }
     }
     FaultyDisk::Reset();

@@ -73,7 +73,7 @@ TEST_F(TranslatorTest, FindsADateInEveryWayOfWritingIt)
         Recordset rows(connection,
             QStringLiteral("select CollectionNo from MilkCollections where ") + QString::fromUtf8(condition));
         ASSERT_FALSE(rows.Eof()) << condition;
-        EXPECT_EQ(rows.At(0).Text(), QStringLiteral("7")) << condition;
+        EXPECT_EQ(rows.At(0).Text(), "7") << condition;
         rows.MoveNext();
         EXPECT_TRUE(rows.Eof()) << condition;
     }
@@ -93,7 +93,7 @@ TEST_F(TranslatorTest, UsesTheIndexForADateUnderCstr)
         {"select * from MilkCollections where cstr(CollectionDate)=#04/15/2026# and CollectionTime='sakaL'",
             "select * from MilkCollections where cstr(CollectionDate)='15/04/2026'",
             "delete * from MilkCollections where CollectionDate='15/04/2026'"}) {
-        EXPECT_TRUE(Plan(statement).contains(QStringLiteral("USING INDEX MilkCollectionsByShift")))
+        EXPECT_TRUE(Plan(statement).contains("USING INDEX MilkCollectionsByShift"))
             << statement << "\n"
             << Plan(statement).toStdString();
     }
@@ -103,11 +103,11 @@ TEST_F(TranslatorTest, WritesNumbersIntoTextColumnsInShortestForm)
 {
     Run("create table Fat150307(Fat TEXT,CowRate TEXT,BuffRate TEXT)");
     Run("insert into Fat150307(Fat,CowRate,BuffRate) values(4.0,23.50,-30.00)");
-    EXPECT_EQ(One("select Fat from Fat150307"), QStringLiteral("4"));
-    EXPECT_EQ(One("select CowRate from Fat150307"), QStringLiteral("23.5"));
-    EXPECT_EQ(One("select BuffRate from Fat150307"), QStringLiteral("-30"));
-    EXPECT_EQ(One("select CowRate from Fat150307 where Fat=4.00"), QStringLiteral("23.5"));
-    EXPECT_EQ(One("select CowRate from Fat150307 where Fat='4'"), QStringLiteral("23.5"));
+    EXPECT_EQ(One("select Fat from Fat150307"), "4");
+    EXPECT_EQ(One("select CowRate from Fat150307"), "23.5");
+    EXPECT_EQ(One("select BuffRate from Fat150307"), "-30");
+    EXPECT_EQ(One("select CowRate from Fat150307 where Fat=4.00"), "23.5");
+    EXPECT_EQ(One("select CowRate from Fat150307 where Fat='4'"), "23.5");
     EXPECT_TRUE(Rows("select CowRate from Fat150307 where Fat='4.0'").Eof());
 }
 
@@ -116,10 +116,10 @@ TEST_F(TranslatorTest, CopiesNumbersIntoTextColumnsInShortestForm)
     Run("create table Fat150307(Fat TEXT,CowRate TEXT,BuffRate TEXT)");
     Run("insert into FatRates(Fat,CowRate,BuffRate) values(4.0,23.951,30.00)");
     Run("insert into Fat150307 select * from FatRates");
-    EXPECT_EQ(One("select CowRate from Fat150307 where Fat='4'"), QStringLiteral("23.951"));
+    EXPECT_EQ(One("select CowRate from Fat150307 where Fat='4'"), "23.951");
     Run("delete * from FatRates");
     Run("insert into FatRates select * from Fat150307");
-    EXPECT_EQ(One("select BuffRate from FatRates where Fat=4"), QStringLiteral("30"));
+    EXPECT_EQ(One("select BuffRate from FatRates where Fat=4"), "30");
     sqlite3_stmt* raw = nullptr;
     sqlite3_prepare_v2(connection.Handle(), "select typeof(Fat) from FatRates", -1, &raw, nullptr);
     ASSERT_EQ(sqlite3_step(raw), SQLITE_ROW);
@@ -143,8 +143,8 @@ TEST_F(TranslatorTest, RefusesLiteralsThatTheirColumnCannotHold)
             << statement;
     }
     EXPECT_EQ(ErrorOf("update MilkCollections set Liters=1e999"), RunTimeError::Overflow);
-    EXPECT_EQ(One("select Liters from MilkCollections"), QStringLiteral("1.5"));
-    EXPECT_EQ(One("select count(*) from FatDates"), QStringLiteral("0"));
+    EXPECT_EQ(One("select Liters from MilkCollections"), "1.5");
+    EXPECT_EQ(One("select count(*) from FatDates"), "0");
 }
 
 TEST_F(TranslatorTest, TakesAQuotedNumberForANumberColumn)
@@ -153,8 +153,8 @@ TEST_F(TranslatorTest, TakesAQuotedNumberForANumberColumn)
     EXPECT_FALSE(
         Rows("select * from MilkCollections where MemberNo='5' and Fat='4.3' and Liters=' 1.50 '").Eof());
     EXPECT_EQ(Run("update MilkCollections set Rate='24.35',TranId='-1'"), 1);
-    EXPECT_EQ(One("select Rate from MilkCollections"), QStringLiteral("24.35"));
-    EXPECT_EQ(One("select TranId from MilkCollections"), QStringLiteral("-1"));
+    EXPECT_EQ(One("select Rate from MilkCollections"), "24.35");
+    EXPECT_EQ(One("select TranId from MilkCollections"), "-1");
 }
 
 TEST_F(TranslatorTest, AnswersDatesAsDates)
@@ -163,30 +163,28 @@ TEST_F(TranslatorTest, AnswersDatesAsDates)
     AddDelivery("02/05/2026", 8);
     const QDate newest(2026, 5, 2);
     EXPECT_EQ(Rows("select max(CollectionDate) as d from MilkCollections").At(0).Date(), newest);
-    EXPECT_EQ(Rows("select max(CollectionDate) as d from MilkCollections").At(0).Text(),
-        QStringLiteral("02/05/2026"));
+    EXPECT_EQ(Rows("select max(CollectionDate) as d from MilkCollections").At(0).Text(), "02/05/2026");
     EXPECT_EQ(Rows("select count(*),max(CollectionDate) from MRView").At(1).Date(), newest);
-    EXPECT_EQ(Rows("select *,min(CollectionDate) as d from MilkCollections")[u"d"].Text(),
-        QStringLiteral("15/04/2026"));
+    EXPECT_EQ(Rows("select *,min(CollectionDate) as d from MilkCollections")[u"d"].Text(), "15/04/2026");
     EXPECT_EQ(
         Rows("select CollectionDate as d from MRView order by CollectionDate desc")[u"D"].Date(), newest);
-    EXPECT_EQ(One("select cstr(CollectionDate) from MilkCollections"), QStringLiteral("15/04/2026"));
-    EXPECT_EQ(One("select cstr(max(CollectionDate)) from MilkCollections"), QStringLiteral("02/05/2026"));
-    EXPECT_EQ(One("select cstr(Liters*2) from MilkCollections"), QStringLiteral("3"));
+    EXPECT_EQ(One("select cstr(CollectionDate) from MilkCollections"), "15/04/2026");
+    EXPECT_EQ(One("select cstr(max(CollectionDate)) from MilkCollections"), "02/05/2026");
+    EXPECT_EQ(One("select cstr(Liters*2) from MilkCollections"), "3");
 }
 
 TEST_F(TranslatorTest, LeavesATextThatLooksLikeADateAlone)
 {
     Run("insert into CityMaster(CompanyId,CityName) values(1,'2026-04-15')");
-    EXPECT_EQ(One("select max(CityName) from CityMaster"), QStringLiteral("2026-04-15"));
+    EXPECT_EQ(One("select max(CityName) from CityMaster"), "2026-04-15");
 }
 
 TEST_F(TranslatorTest, KeepsPositionsInAnOrder)
 {
     Run("insert into CityMaster(CompanyId,CityName) values(1,'k')");
     Run("insert into CityMaster(CompanyId,CityName) values(2,'a')");
-    EXPECT_EQ(One("select CityName,CompanyId from CityMaster order by 1"), QStringLiteral("a"));
-    EXPECT_EQ(One("select CityName,CompanyId from CityMaster order by 2"), QStringLiteral("k"));
+    EXPECT_EQ(One("select CityName,CompanyId from CityMaster order by 1"), "a");
+    EXPECT_EQ(One("select CityName,CompanyId from CityMaster order by 2"), "k");
 }
 
 TEST_F(TranslatorTest, CarriesAnyTextBetweenQuotes)
@@ -196,8 +194,7 @@ TEST_F(TranslatorTest, CarriesAnyTextBetweenQuotes)
     connection.Execute(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'") + text
         + QStringLiteral("')"));
     EXPECT_EQ(One("select CityName from CityMaster"), text);
-    EXPECT_EQ(One("select CompanyId from CityMaster where CityName=\"x\" or CityName<>'it''s'"),
-        QStringLiteral("1"));
+    EXPECT_EQ(One("select CompanyId from CityMaster where CityName=\"x\" or CityName<>'it''s'"), "1");
 }
 
 TEST_F(TranslatorTest, FollowsNoLocale)
@@ -207,9 +204,9 @@ TEST_F(TranslatorTest, FollowsNoLocale)
     const std::string old = setlocale(LC_ALL, nullptr);
     setlocale(LC_ALL, "de_DE.UTF-8");
     AddDelivery("15/04/2026", 7);
-    EXPECT_EQ(One("select Fat from MilkCollections where Fat=4.3"), QStringLiteral("4.3"));
-    EXPECT_EQ(One("select cstr(Fat) from MilkCollections"), QStringLiteral("4.3"));
-    EXPECT_EQ(One("select CollectionDate from MilkCollections"), QStringLiteral("15/04/2026"));
+    EXPECT_EQ(One("select Fat from MilkCollections where Fat=4.3"), "4.3");
+    EXPECT_EQ(One("select cstr(Fat) from MilkCollections"), "4.3");
+    EXPECT_EQ(One("select CollectionDate from MilkCollections"), "15/04/2026");
     setlocale(LC_ALL, old.c_str());
     QLocale::setDefault(before);
 }

@@ -30,8 +30,8 @@ private:
     NumberField txtNo{this, "txtNo", NumberField::Digits::Whole, &Declared::txtNo_LostFocus};
     NameCombo ComboName{this, "ComboName", &Declared::ComboName_LostFocus};
     TextField txtAddress{this, "txtAddress", &Declared::txtAddress_LostFocus};
-    ChoiceField txtTime{this, "txtTime", {{u'1', QStringLiteral("sakaL")}}, &Declared::txtTime_LostFocus};
-    ChoiceCombo ComboPrint{this, "ComboPrint", {QStringLiteral("haoya")}, &Declared::ComboPrint_LostFocus};
+    ChoiceField txtTime{this, "txtTime", {{u'1', "sakaL"}}, &Declared::txtTime_LostFocus};
+    ChoiceCombo ComboPrint{this, "ComboPrint", {"haoya"}, &Declared::ComboPrint_LostFocus};
     NumberField txtBare{this, "txtBare", NumberField::Digits::Whole};
     CheckBox CheckRepeat{this, "CheckRepeat", Plain(u"Repeat"), &Declared::CheckRepeat_Click};
     OptionButton OptionBoth{this, "OptionBoth", Plain(u"Both"), &Declared::OptionBoth_Click};
@@ -41,16 +41,16 @@ private:
 
     void Enter() override { lstPlaces.Choose(); }
 
-    void MaskDate_LostFocus() { Answered.append(QStringLiteral("date")); }
-    void txtNo_LostFocus() { Answered.append(QStringLiteral("number")); }
-    void ComboName_LostFocus() { Answered.append(QStringLiteral("name")); }
-    void txtAddress_LostFocus() { Answered.append(QStringLiteral("text")); }
-    void txtTime_LostFocus() { Answered.append(QStringLiteral("choice")); }
-    void ComboPrint_LostFocus() { Answered.append(QStringLiteral("list")); }
-    void CheckRepeat_Click() { Answered.append(QStringLiteral("box")); }
-    void OptionBoth_Click() { Answered.append(QStringLiteral("option")); }
-    void cmdGo_Click() { Answered.append(QStringLiteral("button")); }
-    void lstPlaces_Chosen() { Answered.append(QStringLiteral("entry")); }
+    void MaskDate_LostFocus() { Answered.append("date"); }
+    void txtNo_LostFocus() { Answered.append("number"); }
+    void ComboName_LostFocus() { Answered.append("name"); }
+    void txtAddress_LostFocus() { Answered.append("text"); }
+    void txtTime_LostFocus() { Answered.append("choice"); }
+    void ComboPrint_LostFocus() { Answered.append("list"); }
+    void CheckRepeat_Click() { Answered.append("box"); }
+    void OptionBoth_Click() { Answered.append("option"); }
+    void cmdGo_Click() { Answered.append("button"); }
+    void lstPlaces_Chosen() { Answered.append("entry"); }
 };
 
 class HandlersTest : public FormsTest { };

@@ -11,7 +11,7 @@ public:
     Sheet() : Screen("Sheet") { }
 
     NumberField txtOpening{this, "txtOpening", u"###0.00"};
-    ChoiceField txtOpeningWord{this, "txtOpeningWord", {{u'1', QStringLiteral("doNao")}}};
+    ChoiceField txtOpeningWord{this, "txtOpeningWord", {{u'1', "doNao"}}};
     NumberField txtClosing{this, "txtClosing", u"###0.00"};
     OptionButton OptionCash{this, "OptionCash", Plain(u"&Cash")};
     OptionButton OptionBank{this, "OptionBank", Plain(u"&Bank")};

@@ -127,11 +127,10 @@ public:
 
     PlainField txtBefore{this, "txtBefore"};
     DataGrid DataGridInwards{this, "DataGridInwards",
-        {{QStringLiteral("COLLECTIONNO"), Shivaji(u"k``."), 60, {}, true, false},
-            {QStringLiteral("membername"), Shivaji(u"naava"), 0, {}, false, true},
-            {QStringLiteral("Liters"), Plain(u"Liters"), 100, QStringLiteral("#####0.000"), true},
-            {QStringLiteral("InwardDate"), Plain(u"Date"), 120, QStringLiteral("dd/MM/yyyy")},
-            {QStringLiteral("NoSuchColumn"), Plain(u"?"), 50}}};
+        {{"COLLECTIONNO", Shivaji(u"k``."), 60, {}, true, false},
+            {"membername", Shivaji(u"naava"), 0, {}, false, true},
+            {"Liters", Plain(u"Liters"), 100, "#####0.000", true},
+            {"InwardDate", Plain(u"Date"), 120, "dd/MM/yyyy"}, {"NoSuchColumn", Plain(u"?"), 50}}};
 
     QTableView& View() const { return *static_cast<QTableView*>(DataGridInwards.Widget()); }
 };

@@ -108,7 +108,7 @@ TEST_F(LooksTest, TheGuideIsShownInItsFieldAndEmptiedOnLeaving)
             const auto* label = static_cast<QLabel*>(desk.lblGuide.Widget());
             EXPECT_TRUE(desk.lblGuide.Shown().IsEmpty());
             Type("{TAB}");
-            EXPECT_EQ(desk.lblGuide.Shown().Text(), QStringLiteral("1 ¹ doNao  2 ¹ yaoNao"));
+            EXPECT_EQ(desk.lblGuide.Shown().Text(), "1 ¹ doNao  2 ¹ yaoNao");
             EXPECT_EQ(label->text().toStdString(), "१ - देणे  २ - येणे");
             Type("{TAB}");
             EXPECT_TRUE(desk.lblGuide.Shown().IsEmpty());
@@ -202,8 +202,7 @@ public:
         SetTitleLabel(lblTitle);
         SetTitle(Shivaji(u"maombar"));
         Layout::Stack(*this, Layout::Header(lblTitle, lblCompanyTitle, lblAcYear), body,
-            Layout::KeyStrip(
-                {{QStringLiteral("F2"), Plain(u"कॅल्क्युलेटर")}, {QStringLiteral("Esc"), Shivaji(u"baahor")}}));
+            Layout::KeyStrip({{"F2", Plain(u"कॅल्क्युलेटर")}, {"Esc", Shivaji(u"baahor")}}));
         resize(Look::ScreenWidth, Look::ScreenHeight);
     }
 

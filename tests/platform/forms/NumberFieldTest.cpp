@@ -76,7 +76,7 @@ TEST_F(NumberFieldTest, TheCommaOfTheNumericPadIsAPoint)
     With(Decimals, [&](NumberField& field) {
         const auto comma = [&](Qt::KeyboardModifiers modifiers) {
             Do([&field, modifiers] {
-                QKeyEvent key(QEvent::KeyPress, Qt::Key_Comma, modifiers, QStringLiteral(","));
+                QKeyEvent key(QEvent::KeyPress, Qt::Key_Comma, modifiers, ",");
                 QCoreApplication::sendEvent(field.Widget(), &key);
             });
         };

@@ -72,8 +72,8 @@ public:
     }
 
     NumberField txtNote{this, "txtNote", NumberField::Digits::Whole};
-    QLabel* large = new QLabel(QStringLiteral("मोठे"));
-    QLabel* narrow = new QLabel(QStringLiteral("अरुंद"));
+    QLabel* large = new QLabel("मोठे");
+    QLabel* narrow = new QLabel("अरुंद");
     QVBoxLayout* body = new QVBoxLayout(this);
     QGridLayout* grid = new QGridLayout;
 
@@ -156,8 +156,7 @@ TEST_F(GrowingWindowTest, AStripKeepsToItsRowsWhenTypeGrows)
     public:
         Keyed() : Screen("Keyed") { Layout::Stack(*this, nullptr, new QVBoxLayout, strip); }
         NumberField txtNote{this, "txtNote", NumberField::Digits::Whole};
-        QWidget* strip = Layout::KeyStrip(
-            {{QStringLiteral("F2"), Plain(u"कॅल्क्युलेटर")}, {QStringLiteral("Esc"), Plain(u"बाहेर")}});
+        QWidget* strip = Layout::KeyStrip({{"F2", Plain(u"कॅल्क्युलेटर")}, {"Esc", Plain(u"बाहेर")}});
     };
     Open<Keyed>([](Keyed&) {},
         [&](Keyed& keyed) {
@@ -189,15 +188,13 @@ public:
     }
 
     DataGrid Figures{this, "Figures",
-        {{QStringLiteral("City"), Plain(u"गाव"), 300},
-            {QStringLiteral("Liters"), Plain(u"लिटर"), 100, {}, true},
-            {QStringLiteral("Amount"), Plain(u"रक्कम"), 0, {}, true}}};
-    DataGrid Names{this, "Names",
-        {{QStringLiteral("No"), Plain(u"नंबर"), 100}, {QStringLiteral("City"), Plain(u"गाव"), 0}}};
+        {{"City", Plain(u"गाव"), 300}, {"Liters", Plain(u"लिटर"), 100, {}, true},
+            {"Amount", Plain(u"रक्कम"), 0, {}, true}}};
+    DataGrid Names{this, "Names", {{"No", Plain(u"नंबर"), 100}, {"City", Plain(u"गाव"), 0}}};
     MenuList Menu{this, "Menu"};
     ColumnBar bar{Figures};
-    QLabel* first = new QLabel(QStringLiteral("a"));
-    QLabel* last = new QLabel(QStringLiteral("b"));
+    QLabel* first = new QLabel("a");
+    QLabel* last = new QLabel("b");
 
     static QTableView& ViewOf(const DataGrid& grid) { return *static_cast<QTableView*>(grid.Widget()); }
 };

@@ -20,8 +20,7 @@ public:
     }
 
     NumberField txtNumber{this, "txtNumber", NumberField::Digits::Decimals};
-    ChoiceField txtChoice{
-        this, "txtChoice", {{u'1', QStringLiteral("gaaya")}, {u'2', QStringLiteral("mhOsa")}}};
+    ChoiceField txtChoice{this, "txtChoice", {{u'1', "gaaya"}, {u'2', "mhOsa"}}};
     NameCombo cmbName{this, "cmbName"};
     DateField maskDate{this, "maskDate"};
     PlainField txtPlain{this, "txtPlain"};

@@ -52,20 +52,20 @@ protected:
 
 TEST_F(BlocksTest, AFrameStandsAroundWhatIsInIt)
 {
-    const std::unique_ptr<Report> report = Whole(
-        QStringLiteral("<text>वर</text><columns box=\"0.8\"><column box=\"0.4\"><text>अ</text></column>"
-                       "<column w=\"30\"><text>ब</text><text>क</text></column></columns><text>खाली</text>"));
+    const std::unique_ptr<Report> report =
+        Whole("<text>वर</text><columns box=\"0.8\"><column box=\"0.4\"><text>अ</text></column>"
+              "<column w=\"30\"><text>ब</text><text>क</text></column></columns><text>खाली</text>");
     const Page& page = report->PageAt(0);
     const std::vector<QRectF> frames = Frames(page);
     ASSERT_EQ(frames.size(), 2U);
     EXPECT_TRUE(frames[0].contains(frames[1]));
-    EXPECT_TRUE(frames[1].contains(Item(page, QStringLiteral("अ")).Rect()));
+    EXPECT_TRUE(frames[1].contains(Item(page, "अ").Rect()));
     for (const char16_t* text : {u"ब", u"क"}) {
         EXPECT_TRUE(frames[0].contains(Item(page, QString::fromUtf16(text)).Rect()));
         EXPECT_FALSE(frames[1].intersects(Item(page, QString::fromUtf16(text)).Rect()));
     }
-    EXPECT_LE(Bottom(page, QStringLiteral("वर")), frames[0].top() + 0.1);
-    EXPECT_GE(Item(page, QStringLiteral("खाली")).y, frames[0].bottom() - 0.1);
+    EXPECT_LE(Bottom(page, "वर"), frames[0].top() + 0.1);
+    EXPECT_GE(Item(page, "खाली").y, frames[0].bottom() - 0.1);
     EXPECT_NEAR(frames[0].width(), 90 * PointsPerMillimetre, 0.1);
 }
 
@@ -73,14 +73,14 @@ TEST_F(BlocksTest, WhatGoesOnOverThePageIsFramedOnEach)
 {
     AddRows(1, 60);
     const std::unique_ptr<Report> report =
-        Whole(QStringLiteral("<text>अ</text><columns box=\"0.5\"><column><table source=\"c\">"
-                             "<col>{CollectionNo}</col></table></column></columns>"));
+        Whole("<text>अ</text><columns box=\"0.5\"><column><table source=\"c\">"
+              "<col>{CollectionNo}</col></table></column></columns>");
     ASSERT_GT(report->PageCount(), 2U);
     for (std::size_t i = 0; i < report->PageCount(); ++i) {
         const std::vector<QRectF> frames = Frames(report->PageAt(i));
         ASSERT_EQ(frames.size(), 1U) << i;
         for (const PlacedItem& item : report->PageAt(i).items) {
-            if (item.kind == PlacedItem::Kind::Text && item.text != QStringLiteral("अ")) {
+            if (item.kind == PlacedItem::Kind::Text && item.text != "अ") {
                 EXPECT_TRUE(frames[0].contains(item.Rect())) << item.text.toStdString();
             }
         }
@@ -91,37 +91,35 @@ TEST_F(BlocksTest, SlipsOfAGivenHeightShareAPage)
 {
     AddRows(1, 7);
     const std::unique_ptr<Report> report =
-        Whole(QStringLiteral("<each source=\"c\"><columns h=\"92\"><column><text>{CollectionNo}</text>"
-                             "</column></columns></each>"),
-            QStringLiteral("paper=\"A4\" margin=\"8\""));
-    EXPECT_EQ(
-        Pages(*report), QStringList({QStringLiteral("1 2 3"), QStringLiteral("4 5 6"), QStringLiteral("7")}));
+        Whole("<each source=\"c\"><columns h=\"92\"><column><text>{CollectionNo}</text>"
+              "</column></columns></each>",
+            "paper=\"A4\" margin=\"8\"");
+    EXPECT_EQ(Pages(*report), QStringList({"1 2 3", "4 5 6", "7"}));
     const Page& page = report->PageAt(0);
-    EXPECT_NEAR(
-        Item(page, QStringLiteral("2")).y - Item(page, QStringLiteral("1")).y, 92 * PointsPerMillimetre, 0.1);
-    EXPECT_EQ(OnlyFault(QStringLiteral("<columns h=\"290\"><column/></columns>")),
-        QStringLiteral("the strip of columns is taller than the page"));
+    EXPECT_NEAR(Item(page, "2").y - Item(page, "1").y, 92 * PointsPerMillimetre, 0.1);
+    EXPECT_EQ(
+        OnlyFault("<columns h=\"290\"><column/></columns>"), "the strip of columns is taller than the page");
 }
 
 TEST_F(BlocksTest, ABlockOfAGivenHeightStaysWhole)
 {
     AddRows(1, 6);
     const std::unique_ptr<Report> report =
-        Whole(QStringLiteral("<space h=\"50\"/><columns h=\"30\"><column><table source=\"c\">"
-                             "<col>{CollectionNo}</col></table></column></columns>"));
-    EXPECT_EQ(Pages(*report), QStringList({QString(), QStringLiteral("1 2 3 4 5 6")}));
+        Whole("<space h=\"50\"/><columns h=\"30\"><column><table source=\"c\">"
+              "<col>{CollectionNo}</col></table></column></columns>");
+    EXPECT_EQ(Pages(*report), QStringList({QString(), "1 2 3 4 5 6"}));
 }
 
 TEST_F(BlocksTest, TheBottomsOfBlocksEndAtOneHeight)
 {
-    const std::unique_ptr<Report> report = Whole(QStringLiteral(
+    const std::unique_ptr<Report> report = Whole(
         "<columns h=\"40\"><column><text>अ</text><bottom><text>सही</text></bottom></column>"
         "<column><text>ब</text><text>क</text><bottom><rule/><text>एकूण</text></bottom></column></columns>"
-        "<text>खाली</text>"));
+        "<text>खाली</text>");
     const Page& page = report->PageAt(0);
-    EXPECT_EQ(Bottom(page, QStringLiteral("सही")), Bottom(page, QStringLiteral("एकूण")));
-    EXPECT_NEAR(Bottom(page, QStringLiteral("सही")), 45 * PointsPerMillimetre, 0.1);
-    EXPECT_NEAR(Item(page, QStringLiteral("खाली")).y, 45 * PointsPerMillimetre, 0.1);
+    EXPECT_EQ(Bottom(page, "सही"), Bottom(page, "एकूण"));
+    EXPECT_NEAR(Bottom(page, "सही"), 45 * PointsPerMillimetre, 0.1);
+    EXPECT_NEAR(Item(page, "खाली").y, 45 * PointsPerMillimetre, 0.1);
 }
 
 TEST_F(BlocksTest, TheBottomsOfTablesThatGoOnOverPagesEndAtOneHeight)
@@ -131,21 +129,21 @@ TEST_F(BlocksTest, TheBottomsOfTablesThatGoOnOverPagesEndAtOneHeight)
                        "<bottom><rule/><text>सही</text><text>क</text></bottom></column><column><text>ब</text>"
                        "<bottom><text>एकूण</text></bottom></column></columns><text>खाली</text>");
     for (int rows = 1; rows <= 40; ++rows) {
-        Run(QStringLiteral("delete * from MilkCollectionsTemp"));
+        Run("delete * from MilkCollectionsTemp");
         AddRows(1, rows);
         const std::unique_ptr<Report> report = Whole(element);
         const QStringList pages = Pages(*report);
         EXPECT_EQ(pages.join(u' ').split(u' ').size(), rows + 6) << "nothing is lost " << rows;
         for (std::size_t i = 0; i < report->PageCount(); ++i) {
             const Page& page = report->PageAt(i);
-            EXPECT_EQ(pages[static_cast<qsizetype>(i)].contains(QStringLiteral("सही")),
-                pages[static_cast<qsizetype>(i)].contains(QStringLiteral("एकूण")))
+            EXPECT_EQ(pages[static_cast<qsizetype>(i)].contains("सही"),
+                pages[static_cast<qsizetype>(i)].contains("एकूण"))
                 << rows;
             for (const PlacedItem& item : page.items)
                 EXPECT_LE(item.Rect().bottom(), 75 * PointsPerMillimetre + 0.1) << rows;
-            if (!pages[static_cast<qsizetype>(i)].contains(QStringLiteral("सही")))
+            if (!pages[static_cast<qsizetype>(i)].contains("सही"))
                 continue;
-            EXPECT_NEAR(Bottom(page, QStringLiteral("क")), Bottom(page, QStringLiteral("एकूण")), 0.01) << rows;
+            EXPECT_NEAR(Bottom(page, "क"), Bottom(page, "एकूण"), 0.01) << rows;
         }
     }
 }
@@ -153,12 +151,12 @@ TEST_F(BlocksTest, TheBottomsOfTablesThatGoOnOverPagesEndAtOneHeight)
 TEST_F(BlocksTest, ATextThatKeepsToABottomAsksForNoRoomBetween)
 {
     AddRows(1, 8);
-    const QStringList pages = Pages(*Whole(QStringLiteral(
+    const QStringList pages = Pages(*Whole(
         "<space h=\"40\"/><columns><column><table source=\"c\"><col>{CollectionNo}</col></table></column>"
-        "<column><text keep=\"1\">ब</text><bottom><text>एकूण</text></bottom></column></columns>")));
+        "<column><text keep=\"1\">ब</text><bottom><text>एकूण</text></bottom></column></columns>"));
     ASSERT_EQ(pages.size(), 2);
-    EXPECT_TRUE(pages[0].startsWith(QStringLiteral("1 2 3 "))) << pages[0].toStdString();
-    EXPECT_TRUE(pages[1].endsWith(QStringLiteral("8 एकूण"))) << pages[1].toStdString();
+    EXPECT_TRUE(pages[0].startsWith("1 2 3 ")) << pages[0].toStdString();
+    EXPECT_TRUE(pages[1].endsWith("8 एकूण")) << pages[1].toStdString();
 }
 
 TEST_F(BlocksTest, ABottomIsTheLastOfItsColumnAndHoldsNoRows)
@@ -167,19 +165,18 @@ TEST_F(BlocksTest, ABottomIsTheLastOfItsColumnAndHoldsNoRows)
         return OnlyFault(QStringLiteral("<columns><column>%1</column></columns>").arg(QLatin1String(inside)));
     };
     EXPECT_EQ(fault("<bottom><text>a</text></bottom><text>b</text>"),
-        QStringLiteral("a <bottom> must be the last element of its <column>"));
+        "a <bottom> must be the last element of its <column>");
     EXPECT_EQ(fault("<bottom><table source=\"c\"><col>a</col></table></bottom>"),
-        QStringLiteral("<table> can't stand in <columns> that stand in a <column>"));
-    EXPECT_EQ(fault("<bottom><text>{Nmae}</text></bottom>"),
-        QStringLiteral("there is no column \"Nmae\" in MilkCollectionsTemp"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<bottom><text>a</text></bottom>")),
-        QStringLiteral("<bottom> isn't known here"));
+        "<table> can't stand in <columns> that stand in a <column>");
+    EXPECT_EQ(
+        fault("<bottom><text>{Nmae}</text></bottom>"), "there is no column \"Nmae\" in MilkCollectionsTemp");
+    EXPECT_EQ(OnlyFault("<bottom><text>a</text></bottom>"), "<bottom> isn't known here");
 }
 
 TEST_F(BlocksTest, APartComesOnceForEachValue)
 {
-    AddRows(1, 2, QStringLiteral("A"));
-    AddRows(3, 5, QStringLiteral("B"));
+    AddRows(1, 2, "A");
+    AddRows(3, 5, "B");
     const QString inside = QStringLiteral(
         "<text>{CollectionTime|plain}: {sum(c.Liters)}</text>"
         "<table source=\"c\"><col w=\"30\">{CollectionNo}</col><col total=\"sum\">{Liters|0}</col>"
@@ -188,34 +185,33 @@ TEST_F(BlocksTest, APartComesOnceForEachValue)
                                           "</text>")
                                .arg(inside)))
                   .join(u' '),
-        QStringLiteral("A: 2 1 1 2 1 = 2 1 B: 3 3 1 4 1 5 1 = 3 3 5"));
+        "A: 2 1 1 2 1 = 2 1 B: 3 3 1 4 1 5 1 = 3 3 5");
     EXPECT_EQ(
         Pages(*Whole(QStringLiteral("<each source=\"c\" by=\"CollectionTime\" only=\"CollectionNo &gt; 2\" "
                                     "newpage=\"1\">%1</each>")
                          .arg(inside))),
-        QStringList(QStringLiteral("B: 3 3 1 4 1 5 1 = 3 3")));
+        QStringList("B: 3 3 1 4 1 5 1 = 3 3"));
 }
 
 TEST_F(BlocksTest, ValuesStandWithinValues)
 {
-    AddRows(1, 2, QStringLiteral("A"));
-    AddRows(3, 4, QStringLiteral("B"));
-    Run(QStringLiteral("update MilkCollectionsTemp set Fat=CollectionNo where CollectionTime='B'"));
-    Run(QStringLiteral("update MilkCollectionsTemp set Fat=9 where CollectionTime='A'"));
-    EXPECT_EQ(Pages(*Whole(QStringLiteral(
-                        "<each source=\"c\" by=\"CollectionTime\"><text>{CollectionTime|plain}</text>"
-                        "<each source=\"c\" by=\"Fat\"><text>{Fat}</text>"
-                        "<each source=\"c\"><text>n{CollectionNo}</text></each></each>"
-                        "<text>{count()}</text></each>")))
+    AddRows(1, 2, "A");
+    AddRows(3, 4, "B");
+    Run("update MilkCollectionsTemp set Fat=CollectionNo where CollectionTime='B'");
+    Run("update MilkCollectionsTemp set Fat=9 where CollectionTime='A'");
+    EXPECT_EQ(Pages(*Whole("<each source=\"c\" by=\"CollectionTime\"><text>{CollectionTime|plain}</text>"
+                           "<each source=\"c\" by=\"Fat\"><text>{Fat}</text>"
+                           "<each source=\"c\"><text>n{CollectionNo}</text></each></each>"
+                           "<text>{count()}</text></each>"))
                   .join(u' '),
-        QStringLiteral("A 9 n1 n2 2 B 3 n3 4 n4 2"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<each source=\"c\"><each source=\"c\"><text>a</text></each></each>")),
-        QStringLiteral("an <each> around this goes through the rows of \"c\" already"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<each source=\"c\" by=\"Fat\"><each source=\"c\"><table source=\"c\">"
-                                       "<col>a</col></table></each></each>")),
-        QStringLiteral("an <each> around this goes through the rows of \"c\" already"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<each source=\"c\" by=\"Fat &gt; 3\"><text>a</text></each>")),
-        QStringLiteral("rows can't be grouped by a condition; use if(…)"));
+        "A 9 n1 n2 2 B 3 n3 4 n4 2");
+    EXPECT_EQ(OnlyFault("<each source=\"c\"><each source=\"c\"><text>a</text></each></each>"),
+        "an <each> around this goes through the rows of \"c\" already");
+    EXPECT_EQ(OnlyFault("<each source=\"c\" by=\"Fat\"><each source=\"c\"><table source=\"c\">"
+                        "<col>a</col></table></each></each>"),
+        "an <each> around this goes through the rows of \"c\" already");
+    EXPECT_EQ(OnlyFault("<each source=\"c\" by=\"Fat &gt; 3\"><text>a</text></each>"),
+        "rows can't be grouped by a condition; use if(…)");
 }
 
 TEST_F(BlocksTest, ARecordOfSeveralPagesIsNumberedByItself)
@@ -225,19 +221,14 @@ TEST_F(BlocksTest, ARecordOfSeveralPagesIsNumberedByItself)
         "<pagefooter><text>({#page}/{#pages})</text></pagefooter><each source=\"c\" newpage=\"1\" "
         "%1><text>{CollectionNo}</text><space h=\"50\"/>"
         "<text>{if(CollectionNo = 2, 'अ', '')}</text><space h=\"{40}\"/></each>");
-    QString own = edge.arg(QStringLiteral("ownpages=\"1\""));
+    QString own = edge.arg("ownpages=\"1\"");
     QString all = edge.arg(QString());
     for (QString* text : {&own, &all})
-        text->replace(QStringLiteral("<space h=\"{40}\"/>"),
-            QStringLiteral("<space h=\"40\" if=\"CollectionNo = 2\"/>"));
-    EXPECT_EQ(Pages(*Whole(own)),
-        QStringList({QStringLiteral("1 (1/1)"), QStringLiteral("2 अ (1/2)"), QStringLiteral("(2/2)"),
-            QStringLiteral("3 (1/1)")}));
-    EXPECT_EQ(Pages(*Whole(all)),
-        QStringList({QStringLiteral("1 (1/4)"), QStringLiteral("2 अ (2/4)"), QStringLiteral("(3/4)"),
-            QStringLiteral("3 (4/4)")}));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<each source=\"c\" ownpages=\"1\"><text>a</text></each>")),
-        QStringLiteral("ownpages=\"1\" needs newpage=\"1\""));
+        text->replace("<space h=\"{40}\"/>", "<space h=\"40\" if=\"CollectionNo = 2\"/>");
+    EXPECT_EQ(Pages(*Whole(own)), QStringList({"1 (1/1)", "2 अ (1/2)", "(2/2)", "3 (1/1)"}));
+    EXPECT_EQ(Pages(*Whole(all)), QStringList({"1 (1/4)", "2 अ (2/4)", "(3/4)", "3 (4/4)"}));
+    EXPECT_EQ(OnlyFault("<each source=\"c\" ownpages=\"1\"><text>a</text></each>"),
+        "ownpages=\"1\" needs newpage=\"1\"");
 }
 
 // Three to a sheet: the days of each member and, beside them, what is kept back, over signatures at one
@@ -281,5 +272,5 @@ TEST_F(BlocksTest, TheItemsOfSlipsAreThoseOfTheGoldenFile)
   </each>
 </report>)xml"));
     report->Complete();
-    ExpectGolden(*report, QStringLiteral("slips.txt"));
+    ExpectGolden(*report, "slips.txt");
 }

@@ -35,9 +35,9 @@ protected:
             ReadSelectionFormula(formula, *connection);
         } catch (const RunTimeError& error) {
             EXPECT_TRUE(error.Happened().contains(formula));
-            return error.Happened().section(QStringLiteral("be read: "), 1).section(u'\n', 0, 0);
+            return error.Happened().section("be read: ", 1).section(u'\n', 0, 0);
         }
-        return QStringLiteral("it was taken");
+        return "it was taken";
     }
 };
 
@@ -45,87 +45,80 @@ protected:
 
 TEST_F(FormulaTest, TheDateOfThePaymentListSelectsItsRows)
 {
-    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.PaymentDate} = DateTime (2026,4,2,00, 00, 00)")),
-        QStringLiteral("2"));
-    EXPECT_EQ(
-        Selected(QStringLiteral("{milkpayments.paymentdate}>=Date(2026,04,02)")), QStringLiteral("2,3"));
+    EXPECT_EQ(Selected("{MilkPayments.PaymentDate} = DateTime (2026,4,2,00, 00, 00)"), "2");
+    EXPECT_EQ(Selected("{milkpayments.paymentdate}>=Date(2026,04,02)"), "2,3");
 }
 
 TEST_F(FormulaTest, TheReportKnowsTheDateThatItIsAskedForWhetherOrNotThereAreRows)
 {
     const auto dateOf = [this](const char* formula) {
         const std::unique_ptr<Report> report =
-            Make(QStringLiteral("<report name=\"T\" paper=\"A4\"><source name=\"p\" table=\"MilkPayments\"/>"
-                                "<text>{$date}|{count()}</text></report>"),
+            Make("<report name=\"T\" paper=\"A4\"><source name=\"p\" table=\"MilkPayments\"/>"
+                 "<text>{$date}|{count()}</text></report>",
                 ReadSelectionFormula(QString::fromLatin1(formula), *connection));
         report->Complete();
         return Texts(report->PageAt(0)).join(u' ');
     };
-    EXPECT_EQ(dateOf("{MilkPayments.PaymentDate} = DateTime (2026,4,2,00, 00, 00)"),
-        QStringLiteral("02/04/2026|1"));
+    EXPECT_EQ(dateOf("{MilkPayments.PaymentDate} = DateTime (2026,4,2,00, 00, 00)"), "02/04/2026|1");
     EXPECT_EQ(dateOf("{MilkPayments.PaymentDate} = Date(2026,10,31) and {MilkPayments.MemberNo} > 0"),
-        QStringLiteral("31/10/2026|0"));
+        "31/10/2026|0");
     for (const char* none :
         {"", "{MilkPayments.MemberNo} > 0", "{MilkPayments.PaymentDate} <= Date(2026,4,3)",
             "not {MilkPayments.PaymentDate} = Date(2026,5,3)",
             "{MilkPayments.PaymentDate} = Date(2026,4,1) or {MilkPayments.MemberNo} > 1",
             "{MilkPayments.PaymentDate} > Date(2026,3,1) and ({MilkPayments.PaymentDate} = Date(2026,4,1) or "
             "{MilkPayments.PaymentDate} <> Date(2026,4,1))"})
-        EXPECT_EQ(dateOf(none), QStringLiteral("|3")) << none;
+        EXPECT_EQ(dateOf(none), "|3") << none;
 }
 
 TEST_F(FormulaTest, ComparisonsJoinWithAndOrNotAndBrackets)
 {
-    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberNo} = 1 or {MilkPayments.MemberNo} > 1 and "
-                                      "{MilkPayments.NetAmount} < 250.5")),
-        QStringLiteral("1,2"));
-    EXPECT_EQ(Selected(QStringLiteral("({MilkPayments.MemberNo} = 1 or {MilkPayments.MemberNo} > 1) and "
-                                      "not ({MilkPayments.NetAmount} < 250.5)")),
-        QStringLiteral("3"));
-    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberNo} <> 2")), QStringLiteral("1,3"));
+    EXPECT_EQ(Selected("{MilkPayments.MemberNo} = 1 or {MilkPayments.MemberNo} > 1 and "
+                       "{MilkPayments.NetAmount} < 250.5"),
+        "1,2");
+    EXPECT_EQ(Selected("({MilkPayments.MemberNo} = 1 or {MilkPayments.MemberNo} > 1) and "
+                       "not ({MilkPayments.NetAmount} < 250.5)"),
+        "3");
+    EXPECT_EQ(Selected("{MilkPayments.MemberNo} <> 2"), "1,3");
 }
 
 TEST_F(FormulaTest, ATextIsComparedAsItIsStoredWhateverQuotesItHolds)
 {
-    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberName} = 'rama'")), QStringLiteral("1,2,3"));
-    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberName} = 'राम'")), QString());
-    connection->RunScript(QStringLiteral("update MilkPayments set MemberName='O''Neil' where MemberNo=2"));
-    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberName} = \"O'Neil\"")), QStringLiteral("2"));
+    EXPECT_EQ(Selected("{MilkPayments.MemberName} = 'rama'"), "1,2,3");
+    EXPECT_EQ(Selected("{MilkPayments.MemberName} = 'राम'"), QString());
+    connection->RunScript("update MilkPayments set MemberName='O''Neil' where MemberNo=2");
+    EXPECT_EQ(Selected("{MilkPayments.MemberName} = \"O'Neil\""), "2");
 }
 
 TEST_F(FormulaTest, AnEmptyFormulaSelectsEverything)
 {
-    EXPECT_TRUE(ReadSelectionFormula(QStringLiteral("  "), *connection).table.isEmpty());
+    EXPECT_TRUE(ReadSelectionFormula("  ", *connection).table.isEmpty());
 }
 
 TEST_F(FormulaTest, AFormulaThatCantBeReadIsAnErrorThatShowsIt)
 {
-    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.PaymentDate} =")),
-        QStringLiteral("the expression breaks off."));
-    EXPECT_EQ(Refused(QStringLiteral("PaymentDate = 1")),
-        QStringLiteral("a field such as {Table.Column} is missing."));
-    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.Surname} = 1")),
-        QStringLiteral("there is no field {MilkPayments.Surname}."));
-    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.PaymentDate} = DateTime (2026,2,30,00,00,00)")),
-        QStringLiteral("\"DateTime(2026,2,30)\" is no date."));
-    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.PaymentDate} = DateTime (2026,2,3,10,00,00)")),
-        QStringLiteral("the books hold dates without a time of day."));
-    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.PaymentDate} = 5")),
-        QStringLiteral("PaymentDate is compared with a value of another kind."));
-    EXPECT_EQ(Refused(QStringLiteral("({MilkPayments.MemberNo} = 5")), QStringLiteral("\")\" is missing."));
-    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.MemberNo} = 5; delete * from MilkPayments")),
-        QStringLiteral("\";\" has no meaning in an expression."));
-    EXPECT_EQ(Refused(QStringLiteral("{MilkPayments.MemberNo} = 5 and {MembersMaster.MemberNo} = 5")),
-        QStringLiteral("its fields are of more than one table."));
-    EXPECT_EQ(Refused(QString(1000, u'(')), QStringLiteral("the brackets are nested too deeply."));
+    EXPECT_EQ(Refused("{MilkPayments.PaymentDate} ="), "the expression breaks off.");
+    EXPECT_EQ(Refused("PaymentDate = 1"), "a field such as {Table.Column} is missing.");
+    EXPECT_EQ(Refused("{MilkPayments.Surname} = 1"), "there is no field {MilkPayments.Surname}.");
+    EXPECT_EQ(Refused("{MilkPayments.PaymentDate} = DateTime (2026,2,30,00,00,00)"),
+        "\"DateTime(2026,2,30)\" is no date.");
+    EXPECT_EQ(Refused("{MilkPayments.PaymentDate} = DateTime (2026,2,3,10,00,00)"),
+        "the books hold dates without a time of day.");
+    EXPECT_EQ(
+        Refused("{MilkPayments.PaymentDate} = 5"), "PaymentDate is compared with a value of another kind.");
+    EXPECT_EQ(Refused("({MilkPayments.MemberNo} = 5"), "\")\" is missing.");
+    EXPECT_EQ(Refused("{MilkPayments.MemberNo} = 5; delete * from MilkPayments"),
+        "\";\" has no meaning in an expression.");
+    EXPECT_EQ(Refused("{MilkPayments.MemberNo} = 5 and {MembersMaster.MemberNo} = 5"),
+        "its fields are of more than one table.");
+    EXPECT_EQ(Refused(QString(1000, u'(')), "the brackets are nested too deeply.");
 }
 
 TEST_F(FormulaTest, WordsMayStandInCapitals)
 {
-    EXPECT_EQ(
-        Selected(QStringLiteral("{MilkPayments.MemberNo} = 1 OR NOT {MilkPayments.NetAmount} < 250.5 And "
-                                "{MilkPayments.PaymentDate} > DATE(2026,4,1)")),
-        QStringLiteral("1,3"));
+    EXPECT_EQ(Selected("{MilkPayments.MemberNo} = 1 OR NOT {MilkPayments.NetAmount} < 250.5 And "
+                       "{MilkPayments.PaymentDate} > DATE(2026,4,1)"),
+        "1,3");
 }
 
 TEST_F(FormulaTest, OnlyAFieldIsComparedAndOnlyWithAValue)
@@ -142,5 +135,5 @@ TEST_F(FormulaTest, OnlyAFieldIsComparedAndOnlyWithAValue)
         {"not {MilkPayments.MemberNo}", noComparison}};
     for (const auto& [formula, fault] : refused)
         EXPECT_EQ(Refused(QString::fromLatin1(formula)), fault) << formula;
-    EXPECT_EQ(Selected(QStringLiteral("{MilkPayments.MemberNo} > -1")), QStringLiteral("1,2,3"));
+    EXPECT_EQ(Selected("{MilkPayments.MemberNo} > -1"), "1,2,3");
 }

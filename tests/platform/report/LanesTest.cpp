@@ -50,7 +50,7 @@ protected:
     {
         AddRows(1, 60);
         const QString first = Pages(QStringLiteral("<text>अ</text>") + InColumn(Table({}))).value(0);
-        Run(QStringLiteral("delete * from MilkCollectionsTemp"));
+        Run("delete * from MilkCollectionsTemp");
         return static_cast<int>(first.split(u' ').size()) - 1;
     }
 };
@@ -66,7 +66,7 @@ TEST_F(LanesTest, TablesBesideEachOtherBeginBehindTheTextBeforeThem)
     AddRows(1, 60);
     const QStringList pages = Pages(QStringLiteral("<text>अ</text><text>ब</text>") + InColumn(Table({})));
     ASSERT_GT(pages.size(), 2);
-    EXPECT_TRUE(pages[0].startsWith(QStringLiteral("अ ब 1 2 3 4"))) << pages[0].toStdString();
+    EXPECT_TRUE(pages[0].startsWith("अ ब 1 2 3 4")) << pages[0].toStdString();
     EXPECT_EQ(pages.join(u' ').split(u' ').size(), 62);
 }
 
@@ -76,43 +76,43 @@ TEST_F(LanesTest, ATableThatAPageCouldHoldBeginsBehindTheTextBeforeItToo)
     AddRows(1, rows);
     const QStringList pages = Pages(QStringLiteral("<text>अ</text>") + InColumn(Table({})));
     ASSERT_EQ(pages.size(), 2);
-    EXPECT_TRUE(pages[0].startsWith(QStringLiteral("अ 1 2 3"))) << pages[0].toStdString();
+    EXPECT_TRUE(pages[0].startsWith("अ 1 2 3")) << pages[0].toStdString();
     EXPECT_EQ(pages[1], QString::number(rows));
 }
 
 TEST_F(LanesTest, BlocksOfAFewLinesStayTogether)
 {
     const QString pages = Pages(QStringLiteral("<space h=\"60\"/>")
-        + InColumn(QStringLiteral("<text>अ</text><text>ब</text><text>क</text><text>ड</text>")))
+        + InColumn("<text>अ</text><text>ब</text><text>क</text><text>ड</text>"))
                               .join(u'|');
-    EXPECT_EQ(pages, QStringLiteral("|अ ब क ड"));
+    EXPECT_EQ(pages, "|अ ब क ड");
 }
 
 TEST_F(LanesTest, ATitleStaysWithTheBeginningOfTheTablesBelowIt)
 {
     AddRows(1, 60);
-    const QString table = InColumn(Table(QStringLiteral("<group by=\"CollectionTime\" head=\"गट\"/>")));
+    const QString table = InColumn(Table("<group by=\"CollectionTime\" head=\"गट\"/>"));
     for (const int before : {40, 50, 55, 58, 60, 62}) {
         const QStringList pages =
             Pages(QStringLiteral("<space h=\"%1\"/><text keep=\"1\">अ</text>").arg(before) + table);
         const QString joined = pages.join(u'|');
-        EXPECT_TRUE(joined.contains(QStringLiteral("अ गट 1"))) << before << ' ' << joined.toStdString();
+        EXPECT_TRUE(joined.contains("अ गट 1")) << before << ' ' << joined.toStdString();
     }
 }
 
 TEST_F(LanesTest, GroupsHoldTheirHeadsAndFeetInAColumn)
 {
     const int onPage = RowsOfAPage();
-    const QString table = Table(QStringLiteral(
-        "<col total=\"count\"/><group by=\"CollectionTime\" keep=\"3\" "
-        "head=\"{if(plain(CollectionTime)='B','गट','')}\" foot=\"तळ\"/><total label=\"एकूण\"/>"));
+    const QString table =
+        Table("<col total=\"count\"/><group by=\"CollectionTime\" keep=\"3\" "
+              "head=\"{if(plain(CollectionTime)='B','गट','')}\" foot=\"तळ\"/><total label=\"एकूण\"/>");
     for (int first = onPage - 6; first <= onPage + 1; ++first) {
-        Run(QStringLiteral("delete * from MilkCollectionsTemp"));
+        Run("delete * from MilkCollectionsTemp");
         AddRows(1, first);
-        AddRows(101, 104, QStringLiteral("B"));
+        AddRows(101, 104, "B");
         const QStringList pages = Pages(QStringLiteral("<text>अ</text>") + InColumn(table));
-        const QString all = pages.join(QStringLiteral(" | "));
-        EXPECT_TRUE(all.contains(QStringLiteral("गट 101 102 103"))) << all.toStdString();
+        const QString all = pages.join(" | ");
+        EXPECT_TRUE(all.contains("गट 101 102 103")) << all.toStdString();
         EXPECT_TRUE(all.contains(QStringLiteral("%1 तळ %1").arg(first))) << all.toStdString();
         EXPECT_TRUE(all.contains(QStringLiteral("104 तळ 4 एकूण %1").arg(first + 4))) << all.toStdString();
     }
@@ -121,18 +121,18 @@ TEST_F(LanesTest, GroupsHoldTheirHeadsAndFeetInAColumn)
 TEST_F(LanesTest, AKeptRowStaysOnOnePageInAColumn)
 {
     AddRows(1, 4);
-    EXPECT_EQ(Pages(InColumn(QStringLiteral("<each source=\"c\" keep=\"1\"><text>{CollectionNo}</text>"
-                                            "<space h=\"20\"/><text>।</text></each>"))),
-        QStringList({QStringLiteral("1 । 2 ।"), QStringLiteral("3 । 4 ।")}));
+    EXPECT_EQ(Pages(InColumn("<each source=\"c\" keep=\"1\"><text>{CollectionNo}</text>"
+                             "<space h=\"20\"/><text>।</text></each>")),
+        QStringList({"1 । 2 ।", "3 । 4 ।"}));
 }
 
 TEST_F(LanesTest, AGroupTallerThanAPageIsBrokenInAColumnAndLosesNothing)
 {
     AddRows(1, 60);
     const QStringList pages = Pages(QStringLiteral("<text>अ</text>")
-        + InColumn(Table(QStringLiteral("<group by=\"CollectionTime\" head=\"गट\" keep=\"100\"/>"))));
+        + InColumn(Table("<group by=\"CollectionTime\" head=\"गट\" keep=\"100\"/>")));
     EXPECT_GT(pages.size(), 2);
-    EXPECT_TRUE(pages[0].startsWith(QStringLiteral("अ गट 1 2 3"))) << pages[0].toStdString();
+    EXPECT_TRUE(pages[0].startsWith("अ गट 1 2 3")) << pages[0].toStdString();
     EXPECT_EQ(pages.join(u' ').split(u' ').size(), 62);
 }
 
@@ -146,10 +146,10 @@ TEST_F(LanesTest, ColumnsInAColumnGoOnOverPagesAndLoseNothing)
                            .arg(words, lines)));
     const QStringList all = pages.join(u' ').split(u' ', Qt::SkipEmptyParts);
     EXPECT_GT(pages.size(), 3);
-    EXPECT_EQ(all.count(QStringLiteral("शेतकरी")), 400);
-    EXPECT_EQ(all.count(QStringLiteral("ओळ")), 60);
-    EXPECT_EQ(all.count(QStringLiteral("वर")), 1);
-    EXPECT_EQ(all.last(), QStringLiteral("खाली"));
+    EXPECT_EQ(all.count("शेतकरी"), 400);
+    EXPECT_EQ(all.count("ओळ"), 60);
+    EXPECT_EQ(all.count("वर"), 1);
+    EXPECT_EQ(all.last(), "खाली");
 }
 
 TEST_F(LanesTest, NothingGoesOnOverPagesInColumnsOfAColumn)
@@ -163,19 +163,16 @@ TEST_F(LanesTest, NothingGoesOnOverPagesInColumnsOfAColumn)
     EXPECT_EQ(fault("<chart source=\"c\" kind=\"bar\" x=\"a\"><series value=\"1\"/></chart>"),
         QStringLiteral("<chart>") + end);
     EXPECT_EQ(fault("<pagebreak/>"), QStringLiteral("<pagebreak>") + end);
-    EXPECT_EQ(
-        Faults(Template(InColumn(InColumn(QStringLiteral("<text>a</text><rule/><space/>"))))), QStringList());
+    EXPECT_EQ(Faults(Template(InColumn(InColumn("<text>a</text><rule/><space/>")))), QStringList());
 }
 
 TEST_F(LanesTest, NoPageBeginsInAColumn)
 {
     const QString fault = QStringLiteral("no page can begin in a <column>");
-    EXPECT_EQ(OnlyFault(InColumn(QStringLiteral("<pagebreak/>"))), fault);
-    EXPECT_EQ(
-        OnlyFault(InColumn(QStringLiteral("<each source=\"c\" newpage=\"1\"><text>a</text></each>"))), fault);
-    EXPECT_EQ(OnlyFault(InColumn(QStringLiteral("<each source=\"c\"><pagebreak/></each>"))), fault);
-    EXPECT_EQ(
-        OnlyFault(InColumn(Table(QStringLiteral("<group by=\"CollectionTime\" newpage=\"1\"/>")))), fault);
+    EXPECT_EQ(OnlyFault(InColumn("<pagebreak/>")), fault);
+    EXPECT_EQ(OnlyFault(InColumn("<each source=\"c\" newpage=\"1\"><text>a</text></each>")), fault);
+    EXPECT_EQ(OnlyFault(InColumn("<each source=\"c\"><pagebreak/></each>")), fault);
+    EXPECT_EQ(OnlyFault(InColumn(Table("<group by=\"CollectionTime\" newpage=\"1\"/>"))), fault);
 }
 
 TEST_F(LanesTest, AChartThatHasNoRoomGoesToTheNextPageWhole)
@@ -185,7 +182,7 @@ TEST_F(LanesTest, AChartThatHasNoRoomGoesToTheNextPageWhole)
         const std::unique_ptr<Report> report = Whole(QStringLiteral("<space h=\"40\"/>") + chart);
         ASSERT_EQ(report->PageCount(), 2U);
         EXPECT_TRUE(report->PageAt(0).items.empty());
-        EXPECT_TRUE(Texts(report->PageAt(1)).contains(QStringLiteral("लिटर")));
+        EXPECT_TRUE(Texts(report->PageAt(1)).contains("लिटर"));
     }
 }
 
@@ -224,6 +221,6 @@ TEST_F(LanesTest, HeadsThatGrewTallerThanThePageAreLeftOutWhereTheyWouldComeAgai
                                                    "</column></columns>")
                                         .arg(head));
     const QStringList all = pages.join(u' ').split(u' ', Qt::SkipEmptyParts);
-    EXPECT_EQ(all.count(QStringLiteral("शीर्ष")), 60);
+    EXPECT_EQ(all.count("शीर्ष"), 60);
     EXPECT_EQ(all.size(), 100);
 }

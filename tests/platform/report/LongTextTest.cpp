@@ -7,7 +7,7 @@
 
 namespace {
 
-const FontSpec Letters{QStringLiteral("Noto Sans Devanagari"), 10, false};
+const FontSpec Letters{"Noto Sans Devanagari", 10, false};
 const QString Sentence = QStringLiteral("दूध स्वच्छ भांड्यात आणावे, 12.5 litres a day. ");
 
 class LongTextTest : public ReportTest {
@@ -31,7 +31,7 @@ protected:
     qsizetype WorkOf(const QString& text)
     {
         TemplateFaults faults;
-        ReportTemplate report = ReportTemplate::ReadText(text, QStringLiteral("test.rpt"), faults);
+        ReportTemplate report = ReportTemplate::ReadText(text, "test.rpt", faults);
         EXPECT_TRUE(CheckForLayout(report, *connection).empty() && faults.empty());
         FontTable fonts;
         ReportFiller filler(report, *connection, {}, fonts);
@@ -86,7 +86,7 @@ TEST_F(LongTextTest, ThePiecesOfALongTextBreakWhereTheWholeDoes)
 TEST_F(LongTextTest, LinesThatEndByThemselvesAreCountedOnce)
 {
     TextMeasure measure;
-    const float line = measure.Height(Letters, QStringLiteral("a"), 100);
+    const float line = measure.Height(Letters, "a", 100);
     for (const char16_t* end : {u"\n", u"\r\n", u"\r", u"\u2029"}) {
         const QString one = QStringLiteral("a") + QString::fromUtf16(end);
         for (const int count : {3999, 4000, 4001}) {
@@ -101,7 +101,7 @@ TEST_F(LongTextTest, ATextOfManyPagesIsThereOnceAndNothingStandsOverIt)
 {
     AddLong(2000);
     const std::unique_ptr<Report> report =
-        Make(Text(QStringLiteral("<text>{MemberName|plain}</text><text>{MemberNo} शेवट</text>")));
+        Make(Text("<text>{MemberName|plain}</text><text>{MemberNo} शेवट</text>"));
     report->Complete();
     EXPECT_GT(report->PageCount(), 10U);
     const float left = report->PageAt(0).items.front().x;
@@ -112,8 +112,8 @@ TEST_F(LongTextTest, LongCellsSideBySideEachGoOnBelowThemselves)
 {
     AddLong(800);
     const std::unique_ptr<Report> report =
-        Make(Text(QStringLiteral("<table source=\"m\"><col w=\"60\" wrap=\"1\">{MemberName|plain}</col>"
-                                 "<col wrap=\"1\">{City|plain}</col></table>")));
+        Make(Text("<table source=\"m\"><col w=\"60\" wrap=\"1\">{MemberName|plain}</col>"
+                  "<col wrap=\"1\">{City|plain}</col></table>"));
     report->Complete();
     const std::vector<PlacedItem>& items = report->PageAt(0).items;
     EXPECT_EQ(Column(*report, items.front().x), Sentence.repeated(800));
@@ -138,17 +138,17 @@ TEST_F(LongTextTest, ATextIsLaidOutOnceAndNotAnewForEachOfItsPages)
 
 TEST_F(LongTextTest, ALongTextInANarrowCellIsCutLikeAShortOne)
 {
-    const QString table = Text(QStringLiteral("<table source=\"m\"><col w=\"60\">{MemberName|plain}</col>"
-                                              "<col>{MemberNo}</col></table>"));
+    const QString table = Text("<table source=\"m\"><col w=\"60\">{MemberName|plain}</col>"
+                               "<col>{MemberNo}</col></table>");
     QStringList seen;
     for (const int times : {12, 12000}) {
-        Run(QStringLiteral("delete * from MembersListReport"));
+        Run("delete * from MembersListReport");
         AddLong(times);
-        const QString pdf = File(QStringLiteral("a.pdf"));
+        const QString pdf = File("a.pdf");
         EXPECT_TRUE(Make(table)->SavePdf(pdf).Done());
         seen.append(PdfText(pdf).trimmed());
     }
-    EXPECT_TRUE(seen[0].startsWith(QStringLiteral("दूध स्वच्छ"))) << seen[0].toStdString();
+    EXPECT_TRUE(seen[0].startsWith("दूध स्वच्छ")) << seen[0].toStdString();
     EXPECT_TRUE(seen[0].endsWith(u'…')) << seen[0].toStdString();
     EXPECT_EQ(seen[1], seen[0]);
 }

@@ -44,14 +44,11 @@ protected:
     {
         AddRows(1, 60);
         const int rows = static_cast<int>(Pages(Rows()).value(0).split(u' ').size());
-        Run(QStringLiteral("delete * from MilkCollectionsTemp"));
+        Run("delete * from MilkCollectionsTemp");
         return rows;
     }
 
-    static QString Rows()
-    {
-        return Template(QStringLiteral("<table source=\"c\"><col>{CollectionNo}</col></table>"), Small);
-    }
+    static QString Rows() { return Template("<table source=\"c\"><col>{CollectionNo}</col></table>", Small); }
 };
 
 }
@@ -60,21 +57,21 @@ TEST_F(PaginationTest, HeadsAndEdgesAreRepeatedOnEveryPage)
 {
     AddRows(1, 40);
     const QStringList pages =
-        Pages(Template(QStringLiteral("<pageheader><text>वर {#page}/{#pages}</text></pageheader>"
-                                      "<pagefooter><text>खाली</text></pagefooter>"
-                                      "<table source=\"c\"><col head=\"क्र.\">{CollectionNo}</col></table>"),
+        Pages(Template("<pageheader><text>वर {#page}/{#pages}</text></pageheader>"
+                       "<pagefooter><text>खाली</text></pagefooter>"
+                       "<table source=\"c\"><col head=\"क्र.\">{CollectionNo}</col></table>",
             Small));
     ASSERT_GT(pages.size(), 2);
     const QString count = QString::number(pages.size());
     for (qsizetype i = 0; i < pages.size(); ++i) {
         const QString head = QStringLiteral("वर %1/%2 क्र. ").arg(i + 1).arg(count);
         EXPECT_TRUE(pages[i].startsWith(head)) << pages[i].toStdString();
-        EXPECT_TRUE(pages[i].endsWith(QStringLiteral(" खाली")));
+        EXPECT_TRUE(pages[i].endsWith(" खाली"));
     }
     QStringList all;
     for (const QString& page : pages)
         all += page.split(u' ').mid(3);
-    all.removeAll(QStringLiteral("खाली"));
+    all.removeAll("खाली");
     QStringList expected;
     for (int i = 1; i <= 40; ++i)
         expected.append(QString::number(i));
@@ -85,8 +82,8 @@ TEST_F(PaginationTest, TheFirstPageIsThereBeforeTheLastIsLaidOut)
 {
     AddRows(1, 200);
     const std::unique_ptr<Report> report =
-        Make(Template(QStringLiteral("<pageheader><text>{#page}/{#pages}</text></pageheader>"
-                                     "<table source=\"c\"><col>{CollectionNo}</col></table>"),
+        Make(Template("<pageheader><text>{#page}/{#pages}</text></pageheader>"
+                      "<table source=\"c\"><col>{CollectionNo}</col></table>",
             Small));
     EXPECT_TRUE(report->LayOutNext());
     EXPECT_EQ(report->PageCount(), 1U);
@@ -100,17 +97,16 @@ TEST_F(PaginationTest, AGroupsHeadGoesOnToTheNextPageWithItsFirstRows)
 {
     const int onPage = RowsOfAPage();
     for (const int first : {onPage - 3, onPage - 2, onPage - 1}) {
-        Run(QStringLiteral("delete * from MilkCollectionsTemp"));
+        Run("delete * from MilkCollectionsTemp");
         AddRows(1, first);
-        AddRows(101, 104, QStringLiteral("B"));
+        AddRows(101, 104, "B");
         const QStringList pages = Pages(Template(
-            QStringLiteral(
-                "<table source=\"c\"><col>{CollectionNo}</col>"
-                "<group by=\"CollectionTime\" head=\"{if(plain(CollectionTime)='B','गट','')}\" keep=\"3\"/>"
-                "</table>"),
+            "<table source=\"c\"><col>{CollectionNo}</col>"
+            "<group by=\"CollectionTime\" head=\"{if(plain(CollectionTime)='B','गट','')}\" keep=\"3\"/>"
+            "</table>",
             Small));
         ASSERT_EQ(pages.size(), 2) << first;
-        EXPECT_TRUE(pages[1].startsWith(QStringLiteral("गट 101 102 103 104"))) << pages[1].toStdString();
+        EXPECT_TRUE(pages[1].startsWith("गट 101 102 103 104")) << pages[1].toStdString();
     }
 }
 
@@ -118,10 +114,10 @@ TEST_F(PaginationTest, ATotalNeverStandsAlone)
 {
     const int onPage = RowsOfAPage();
     AddRows(1, onPage);
-    const QStringList pages = Pages(
-        Template(QStringLiteral("<table source=\"c\"><col w=\"40\">{CollectionNo}</col>"
-                                "<col total=\"count\">{Fat}</col><group by=\"CollectionTime\" foot=\"गट\"/>"
-                                "<total label=\"एकूण\"/></table>"),
+    const QStringList pages =
+        Pages(Template("<table source=\"c\"><col w=\"40\">{CollectionNo}</col>"
+                       "<col total=\"count\">{Fat}</col><group by=\"CollectionTime\" foot=\"गट\"/>"
+                       "<total label=\"एकूण\"/></table>",
             Small));
     ASSERT_EQ(pages.size(), 2);
     EXPECT_EQ(pages[1], QStringLiteral("%1 गट %1 एकूण %1").arg(onPage));
@@ -148,36 +144,32 @@ TEST_F(PaginationTest, KeptPartsStayTogetherAndNewPagesBeginWhereTheyAreAsked)
     AddRows(1, 4);
     const QString part = QStringLiteral("<text>{CollectionNo}</text><space h=\"20\"/><text>।</text></each>");
     const QStringList kept = Pages(Template(QStringLiteral("<each source=\"c\" keep=\"1\">") + part, Small));
-    EXPECT_EQ(kept, QStringList({QStringLiteral("1 । 2 ।"), QStringLiteral("3 । 4 ।")}));
+    EXPECT_EQ(kept, QStringList({"1 । 2 ।", "3 । 4 ।"}));
     const QStringList alone =
         Pages(Template(QStringLiteral("<each source=\"c\" newpage=\"1\">") + part, Small));
-    EXPECT_EQ(alone,
-        QStringList(
-            {QStringLiteral("1 ।"), QStringLiteral("2 ।"), QStringLiteral("3 ।"), QStringLiteral("4 ।")}));
-    EXPECT_EQ(Pages(Template(QStringLiteral("<text>अ</text><pagebreak/><text>ब</text>"), Small)),
-        QStringList({QStringLiteral("अ"), QStringLiteral("ब")}));
+    EXPECT_EQ(alone, QStringList({"1 ।", "2 ।", "3 ।", "4 ।"}));
+    EXPECT_EQ(Pages(Template("<text>अ</text><pagebreak/><text>ब</text>", Small)), QStringList({"अ", "ब"}));
 }
 
 TEST_F(PaginationTest, AGroupCanBeginAPage)
 {
     AddRows(1, 2);
-    AddRows(3, 4, QStringLiteral("B"));
-    EXPECT_EQ(Pages(Template(QStringLiteral("<table source=\"c\"><col head=\"न\">{CollectionNo}</col>"
-                                            "<group by=\"CollectionTime\" newpage=\"1\"/></table>"),
+    AddRows(3, 4, "B");
+    EXPECT_EQ(Pages(Template("<table source=\"c\"><col head=\"न\">{CollectionNo}</col>"
+                             "<group by=\"CollectionTime\" newpage=\"1\"/></table>",
                   Small)),
-        QStringList({QStringLiteral("न 1 2"), QStringLiteral("न 3 4")}));
+        QStringList({"न 1 2", "न 3 4"}));
 }
 
 TEST_F(PaginationTest, AKeptPartTallerThanAPageIsBrokenAndLosesNothing)
 {
     AddRows(1, 40);
-    const QStringList pages =
-        Pages(Template(QStringLiteral("<table source=\"c\"><col>{CollectionNo}</col><group "
-                                      "by=\"CollectionTime\" head=\"गट\" keep=\"100\"/>"
-                                      "</table>"),
-            Small));
+    const QStringList pages = Pages(Template("<table source=\"c\"><col>{CollectionNo}</col><group "
+                                             "by=\"CollectionTime\" head=\"गट\" keep=\"100\"/>"
+                                             "</table>",
+        Small));
     EXPECT_GT(pages.size(), 1);
-    EXPECT_TRUE(pages[0].startsWith(QStringLiteral("गट 1 2 3"))) << pages[0].toStdString();
+    EXPECT_TRUE(pages[0].startsWith("गट 1 2 3")) << pages[0].toStdString();
     EXPECT_EQ(pages.join(u' ').split(u' ').size(), 41);
 }
 
@@ -187,7 +179,7 @@ TEST_F(PaginationTest, ATextTallerThanAPageIsSplitBetweenItsLines)
     const QStringList pages =
         Pages(Template(QStringLiteral("<text>") + word.repeated(600) + QStringLiteral("</text>"), Small));
     EXPECT_GT(pages.size(), 2);
-    EXPECT_EQ(pages.join(QString()).count(QStringLiteral("शेतकरी")), 600);
+    EXPECT_EQ(pages.join(QString()).count("शेतकरी"), 600);
 }
 
 TEST_F(PaginationTest, ALineTallerThanAPageIsReportedAndNotRetried)
@@ -195,33 +187,33 @@ TEST_F(PaginationTest, ALineTallerThanAPageIsReportedAndNotRetried)
     const QString strip = QStringLiteral("<space h=\"3.5\" if=\"#page &gt; 0\"/>");
     const std::unique_ptr<Report> report = Make(Template(QStringLiteral("<pageheader>") + strip + strip
             + QStringLiteral("</pageheader><text size=\"26\">ॐ</text>"),
-        QStringLiteral("paper=\"100x22mm\" margin=\"2\"")));
+        "paper=\"100x22mm\" margin=\"2\""));
     EXPECT_THROW(report->Complete(), RunTimeError);
 }
 
 TEST_F(PaginationTest, AnEdgeThatLeavesNoRoomIsReported)
 {
-    const std::unique_ptr<Report> report = Make(Template(
-        QStringLiteral("<pageheader><text size=\"72\">{$society}</text></pageheader><text>ब</text>"), Small));
+    const std::unique_ptr<Report> report =
+        Make(Template("<pageheader><text size=\"72\">{$society}</text></pageheader><text>ब</text>", Small));
     EXPECT_THROW(report->LayOutNext(), RunTimeError);
 }
 
 TEST_F(PaginationTest, BlocksSideBySideGoOnOverThePages)
 {
     AddRows(1, 40);
-    AddRows(41, 60, QStringLiteral("B"));
-    const QStringList pages = Pages(Template(
-        QStringLiteral("<columns><column><table source=\"c\" only=\"plain(CollectionTime)='A'\">"
+    AddRows(41, 60, "B");
+    const QStringList pages =
+        Pages(Template("<columns><column><table source=\"c\" only=\"plain(CollectionTime)='A'\">"
                        "<col head=\"अ\">{CollectionNo}</col></table></column>"
                        "<column><table source=\"c\" only=\"plain(CollectionTime)='B'\">"
-                       "<col head=\"ब\">{CollectionNo}</col></table></column></columns><text>शेवट</text>"),
-        Small));
+                       "<col head=\"ब\">{CollectionNo}</col></table></column></columns><text>शेवट</text>",
+            Small));
     ASSERT_GT(pages.size(), 2);
     QStringList all = pages.join(u' ').split(u' ');
-    EXPECT_EQ(all.count(QStringLiteral("अ")), pages.size()) << "the heads again on every page";
-    EXPECT_EQ(all.takeLast(), QStringLiteral("शेवट"));
-    all.removeAll(QStringLiteral("अ"));
-    all.removeAll(QStringLiteral("ब"));
+    EXPECT_EQ(all.count("अ"), pages.size()) << "the heads again on every page";
+    EXPECT_EQ(all.takeLast(), "शेवट");
+    all.removeAll("अ");
+    all.removeAll("ब");
     EXPECT_EQ(all.size(), 60);
     all.removeDuplicates();
     EXPECT_EQ(all.size(), 60);
@@ -230,16 +222,15 @@ TEST_F(PaginationTest, BlocksSideBySideGoOnOverThePages)
 TEST_F(PaginationTest, ARollIsAsLongAsItsContent)
 {
     const auto length = [this](const QString& elements) {
-        const std::unique_ptr<Report> report =
-            Make(Template(elements, QStringLiteral("paper=\"58mm\" margin=\"3\"")));
+        const std::unique_ptr<Report> report = Make(Template(elements, "paper=\"58mm\" margin=\"3\""));
         report->Complete();
         EXPECT_EQ(report->PageCount(), 1U);
         EXPECT_NEAR(report->PageAt(0).width, 58 * PointsPerMillimetre, 0.01);
         ExpectWithinPaper(report->PageAt(0));
         return report->PageAt(0).height;
     };
-    const float one = length(QStringLiteral("<space h=\"40\"/><pagefooter><space h=\"10\"/></pagefooter>"));
+    const float one = length("<space h=\"40\"/><pagefooter><space h=\"10\"/></pagefooter>");
     EXPECT_NEAR(one, (40 + 10 + 2 * 3) * PointsPerMillimetre, 0.01);
     AddRows(1, 500);
-    EXPECT_GT(length(QStringLiteral("<table source=\"c\"><col>{CollectionNo}</col></table>")), 500 * 10);
+    EXPECT_GT(length("<table source=\"c\"><col>{CollectionNo}</col></table>"), 500 * 10);
 }

@@ -86,16 +86,16 @@ TEST(SystemPrinterTest, APrintServiceThatDoesntAnswerIsGivenUpAndTold)
     constexpr std::chrono::milliseconds Patience(200);
     constexpr qint64 AtMost = 5000;
     const QTemporaryDir folder;
-    const QByteArray path = folder.filePath(QStringLiteral("s")).toLocal8Bit();
+    const QByteArray path = folder.filePath("s").toLocal8Bit();
     const SilentService service(path);
     WithService(path, [&] {
         const std::unique_ptr<Printer> printer = MakeSystemPrinter(Patience);
         for (const char* name : {"", "lp"}) {
             QElapsedTimer clock;
             clock.start();
-            const Outcome outcome = printer->Print(
-                {QStringLiteral("/dev/null"), {}, QString::fromLatin1(name), QSizeF(100, 100)});
-            EXPECT_TRUE(outcome.fault.endsWith(QStringLiteral("\nThe print service doesn't answer.")))
+            const Outcome outcome =
+                printer->Print({"/dev/null", {}, QString::fromLatin1(name), QSizeF(100, 100)});
+            EXPECT_TRUE(outcome.fault.endsWith("\nThe print service doesn't answer."))
                 << outcome.fault.toStdString();
             EXPECT_LT(clock.elapsed(), AtMost) << name;
         }
@@ -110,12 +110,11 @@ TEST(SystemPrinterTest, APrinterThatRefusesAJobIsToldWithItsReason)
 {
     constexpr std::chrono::milliseconds Patience(5000);
     const QTemporaryDir folder;
-    const QByteArray path = folder.filePath(QStringLiteral("s")).toLocal8Bit();
+    const QByteArray path = folder.filePath("s").toLocal8Bit();
     const RefusingService service(path);
     WithService(path, [&] {
         const std::unique_ptr<Printer> printer = MakeSystemPrinter(Patience);
-        const Outcome outcome =
-            printer->Print({QStringLiteral("/dev/null"), {}, QStringLiteral("lp"), QSizeF(100, 100)});
+        const Outcome outcome = printer->Print({"/dev/null", {}, "lp", QSizeF(100, 100)});
         const QString told = QStringLiteral("प्रिंटरने काम घेतले नाही. छपाई झाली नाही; नोंदी सुरक्षित आहेत.\n"
                                             "The printer lp refused: ");
         EXPECT_TRUE(outcome.fault.startsWith(told)) << outcome.fault.toStdString();

@@ -10,12 +10,10 @@
 
 ReportTest::ReportTest()
 {
-    DataSource::Register(QStringLiteral("VetrolanDSN"), File(QStringLiteral("books.mdb")));
-    RunSeen(
-        QStringLiteral("insert into CompanySelected(CompanyId,CompanyName,AccountingYear,FromDate,ToDate) "
-                       "values(1,'[श्री महालक्ष्मी दूध संस्था]','2026-2027','01/04/2026','31/03/2027')"));
-    Run(QStringLiteral(
-        "insert into ReportDates(CompanyId,FromDate,ToDate) values(1,'01/04/2026','10/04/2026')"));
+    DataSource::Register("VetrolanDSN", File("books.mdb"));
+    RunSeen("insert into CompanySelected(CompanyId,CompanyName,AccountingYear,FromDate,ToDate) "
+            "values(1,'[श्री महालक्ष्मी दूध संस्था]','2026-2027','01/04/2026','31/03/2027')");
+    Run("insert into ReportDates(CompanyId,FromDate,ToDate) values(1,'01/04/2026','10/04/2026')");
 }
 
 int ReportTest::RunSeen(QString statement)
@@ -48,7 +46,7 @@ TemplateFaults ReportTest::CheckFile(const QString& file)
 std::unique_ptr<Report> ReportTest::Make(const QString& text, const Selection& selection)
 {
     TemplateFaults faults;
-    ReportTemplate report = ReportTemplate::ReadText(text, QStringLiteral("test.rpt"), faults);
+    ReportTemplate report = ReportTemplate::ReadText(text, "test.rpt", faults);
     const TemplateFaults more = CheckForLayout(report, *connection);
     faults.insert(faults.end(), more.begin(), more.end());
     for (const TemplateFault& fault : faults)

@@ -11,9 +11,9 @@ class TableLinesTest : public ReportTest {
 protected:
     void AddShifts()
     {
-        AddDelivery(1, Morning, QStringLiteral("अशोक"), 10, 4.0, 350.5);
-        AddDelivery(2, Morning, QStringLiteral("बाबू"), 5, 3.5, 180.25);
-        AddDelivery(3, QStringLiteral("संध्याकाळ"), QStringLiteral("कमल"), 20, 5.0, 800);
+        AddDelivery(1, Morning, "अशोक", 10, 4.0, 350.5);
+        AddDelivery(2, Morning, "बाबू", 5, 3.5, 180.25);
+        AddDelivery(3, "संध्याकाळ", "कमल", 20, 5.0, 800);
     }
 
     void AddRows(int count)
@@ -38,8 +38,7 @@ protected:
     // The texts of each page of a small sheet.
     QStringList Pages(const QString& elements)
     {
-        const std::unique_ptr<Report> report =
-            Make(Template(elements, QStringLiteral("paper=\"100x60mm\" margin=\"5\"")));
+        const std::unique_ptr<Report> report = Make(Template(elements, "paper=\"100x60mm\" margin=\"5\""));
         report->Complete();
         QStringList pages;
         for (std::size_t i = 0; i < report->PageCount(); ++i)
@@ -61,106 +60,101 @@ TEST_F(TableLinesTest, AColumnCanBeLeftOut)
         "<col head=\"ब\" if=\"sum(c.Fat) &gt; %1\">{Fat|0.0}</col>"
         "<col head=\"क\" total=\"sum\">{Liters|0}</col>"
         "<col head=\"ड\" if=\"sum(c.SNF) &gt; 0\">{SNF|0.0}</col><total label=\"=\"/>");
-    EXPECT_EQ(Table(columns.arg(0)), QStringLiteral("A B अ ब क 1 4.0 10 2 3.5 5 3 5.0 20 = 35"));
-    EXPECT_EQ(Table(columns.arg(99)), QStringLiteral("A B अ क 1 10 2 5 3 20 = 35"));
+    EXPECT_EQ(Table(columns.arg(0)), "A B अ ब क 1 4.0 10 2 3.5 5 3 5.0 20 = 35");
+    EXPECT_EQ(Table(columns.arg(99)), "A B अ क 1 10 2 5 3 20 = 35");
     const std::unique_ptr<Report> report =
         Make(Template(QStringLiteral("<table source=\"c\">%1</table>").arg(columns.arg(99))));
     report->Complete();
     const Page& page = report->PageAt(0);
-    EXPECT_NEAR(Item(page, QStringLiteral("क")).x, page.width / 2, 3) << "two columns share the paper";
-    EXPECT_NEAR(Item(page, QStringLiteral("B")).x, Item(page, QStringLiteral("क")).x, 0.1);
+    EXPECT_NEAR(Item(page, "क").x, page.width / 2, 3) << "two columns share the paper";
+    EXPECT_NEAR(Item(page, "B").x, Item(page, "क").x, 0.1);
 }
 
 TEST_F(TableLinesTest, ATableIsNeverWithoutAColumn)
 {
-    EXPECT_EQ(TableFault(QStringLiteral("<col if=\"count() &gt; 0\">a</col>")),
-        QStringLiteral("every column has an \"if\", so there may be none"));
-    EXPECT_EQ(TableFault(QStringLiteral("<col if=\"count() &gt; 0\">a</col><col total=\"sum\">{Liters}</col>"
-                                        "<total label=\"=\"/>")),
-        QStringLiteral("the first column has a total, so there is no room for its label"));
-    EXPECT_EQ(TableFault(QStringLiteral("<col>a</col><col if=\"Liters\">b</col>")),
-        QStringLiteral("this must be a condition, such as Liters > 0"));
+    EXPECT_EQ(
+        TableFault("<col if=\"count() &gt; 0\">a</col>"), "every column has an \"if\", so there may be none");
+    EXPECT_EQ(TableFault("<col if=\"count() &gt; 0\">a</col><col total=\"sum\">{Liters}</col>"
+                         "<total label=\"=\"/>"),
+        "the first column has a total, so there is no room for its label");
+    EXPECT_EQ(
+        TableFault("<col>a</col><col if=\"Liters\">b</col>"), "this must be a condition, such as Liters > 0");
 }
 
 TEST_F(TableLinesTest, ASummaryHasARowForEachGroup)
 {
     AddShifts();
-    EXPECT_EQ(Table(QStringLiteral("<col>{CollectionTime}</col><col total=\"count\">{count()}</col>"
-                                   "<col total=\"sum\">{sum(Amount)|0}</col><col>{running(Liters)|0}</col>"
-                                   "<group by=\"CollectionTime\"/><total label=\"=\"/>"),
-                  QStringLiteral("rows=\"groups\"")),
-        QStringLiteral("सकाळ 2 531 15 संध्याकाळ 1 800 35 = 2 1331")); // 531 + 800, as printed
-    EXPECT_EQ(TableFault(QStringLiteral("<col>a</col>"), QStringLiteral("rows=\"groups\"")),
-        QStringLiteral("rows=\"groups\" needs a <group>"));
-    EXPECT_EQ(TableFault(QStringLiteral("<col>a</col>"), QStringLiteral("rows=\"0\"")),
-        QStringLiteral("rows=\"0\" isn't \"groups\""));
+    EXPECT_EQ(Table("<col>{CollectionTime}</col><col total=\"count\">{count()}</col>"
+                    "<col total=\"sum\">{sum(Amount)|0}</col><col>{running(Liters)|0}</col>"
+                    "<group by=\"CollectionTime\"/><total label=\"=\"/>",
+                  "rows=\"groups\""),
+        "सकाळ 2 531 15 संध्याकाळ 1 800 35 = 2 1331"); // 531 + 800, as printed
+    EXPECT_EQ(TableFault("<col>a</col>", "rows=\"groups\""), "rows=\"groups\" needs a <group>");
+    EXPECT_EQ(TableFault("<col>a</col>", "rows=\"0\""), "rows=\"0\" isn't \"groups\"");
 }
 
 TEST_F(TableLinesTest, ASummaryStandsInItsOuterGroupsAndInTheSpreadsheet)
 {
     AddShifts();
-    AddDelivery(4, QStringLiteral("संध्याकाळ"), QStringLiteral("कमल"), 1, 5.0, 40);
+    AddDelivery(4, "संध्याकाळ", "कमल", 1, 5.0, 40);
     const QString table = QStringLiteral(
         "<col head=\"फॅट\">{Fat|0.0}</col><col head=\"लि.\" total=\"sum\">{sum(Liters)|0.0}</col>"
         "<group by=\"CollectionTime\" head=\"{CollectionTime}\" foot=\"एकूण\"/><group by=\"Fat\"/>");
-    EXPECT_EQ(Table(table, QStringLiteral("rows=\"groups\"")),
-        QStringLiteral("फॅट लि. सकाळ 4.0 10.0 3.5 5.0 एकूण 15.0 संध्याकाळ 5.0 21.0 एकूण 21.0"));
+    EXPECT_EQ(
+        Table(table, "rows=\"groups\""), "फॅट लि. सकाळ 4.0 10.0 3.5 5.0 एकूण 15.0 संध्याकाळ 5.0 21.0 एकूण 21.0");
     const std::unique_ptr<Report> report =
         Make(Template(QStringLiteral("<table source=\"c\" rows=\"groups\">%1</table>").arg(table)));
-    ASSERT_TRUE(report->SaveCsv(File(QStringLiteral("a.csv"))).Done());
-    QFile csv(File(QStringLiteral("a.csv")));
+    ASSERT_TRUE(report->SaveCsv(File("a.csv")).Done());
+    QFile csv(File("a.csv"));
     ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
     EXPECT_EQ(QString::fromUtf8(csv.readAll().mid(3)),
-        QStringLiteral("CollectionTime,Fat,फॅट,लि.\r\nसकाळ,4,4.0,10.0\r\nसकाळ,3.5,3.5,5.0\r\n"
-                       "संध्याकाळ,5,5.0,21.0\r\n"));
+        "CollectionTime,Fat,फॅट,लि.\r\nसकाळ,4,4.0,10.0\r\nसकाळ,3.5,3.5,5.0\r\n"
+        "संध्याकाळ,5,5.0,21.0\r\n");
 }
 
 TEST_F(TableLinesTest, AGroupsHeadHasFiguresInItsOwnColumns)
 {
     AddShifts();
-    const std::unique_ptr<Report> report = Make(Template(QStringLiteral(
+    const std::unique_ptr<Report> report = Make(Template(
         "<table source=\"c\"><col>{MemberName}</col><col w=\"30\" align=\"right\">{Liters|0}</col>"
         "<col w=\"30\" align=\"right\">{Amount|0.00}</col><group by=\"CollectionTime\">"
-        "<head><cell>{CollectionTime}</cell><cell/><cell>{Amount + 1|0.00}</cell></head></group></table>")));
+        "<head><cell>{CollectionTime}</cell><cell/><cell>{Amount + 1|0.00}</cell></head></group></table>"));
     report->Complete();
     const Page& page = report->PageAt(0);
-    EXPECT_EQ(Texts(page).mid(0, 5).join(u' '), QStringLiteral("सकाळ 351.50 अशोक 10 350.50"));
-    const PlacedItem figure = Item(page, QStringLiteral("351.50"));
-    EXPECT_EQ(figure.x, Item(page, QStringLiteral("350.50")).x);
+    EXPECT_EQ(Texts(page).mid(0, 5).join(u' '), "सकाळ 351.50 अशोक 10 350.50");
+    const PlacedItem figure = Item(page, "351.50");
+    EXPECT_EQ(figure.x, Item(page, "350.50").x);
     EXPECT_EQ(figure.align, Align::Right);
     EXPECT_TRUE(report->Fonts().At(figure.font).isBold);
     EXPECT_EQ(figure.fit, Fit::Shrink);
-    EXPECT_EQ(TableFault(QStringLiteral("<col>a</col><group by=\"CollectionTime\"><head><cell>{sum(Liters)}"
-                                        "</cell></head></group>")),
-        QStringLiteral("a total can't be used here"));
+    EXPECT_EQ(TableFault("<col>a</col><group by=\"CollectionTime\"><head><cell>{sum(Liters)}"
+                         "</cell></head></group>"),
+        "a total can't be used here");
 }
 
 TEST_F(TableLinesTest, AFootHasSeveralLinesWithCellsOfTheirOwn)
 {
     AddShifts();
-    EXPECT_EQ(
-        Table(QStringLiteral("<col>{MemberNo}</col><col>{Fat|0.0}</col><col total=\"sum\">{Liters|0}</col>"
-                             "<group by=\"CollectionTime\" foot=\"पाळी\">"
-                             "<foot if=\"sum(Liters) &lt; 20\"><cell "
-                             "span=\"2\">सरासरी</cell><cell>{average(Fat)|0.00}</cell></foot>"
-                             "<foot><cell span=\"3\">{count()} नोंदी</cell></foot></group>"
-                             "<total label=\"=\"><foot><cell "
-                             "span=\"2\">कमाल</cell><cell>{max(Liters)|0}</cell></foot></total>")),
-        QStringLiteral("1 4.0 10 2 3.5 5 पाळी 15 सरासरी 3.75 2 नोंदी 3 5.0 20 पाळी 20 1 नोंदी = 35 कमाल 20"));
-    EXPECT_EQ(Table(QStringLiteral("<col>{MemberNo}</col><total><foot><cell>शेवट</cell></foot></total>")),
-        QStringLiteral("1 2 3 शेवट"));
-    EXPECT_EQ(TableFault(QStringLiteral("<col>a</col><total><foot/></total>")),
-        QStringLiteral("the line has no <cell>"));
-    EXPECT_EQ(TableFault(QStringLiteral("<col>a</col><total><foot><cell span=\"2\">a</cell></foot></total>")),
-        QStringLiteral("the cells span 2 columns, but there are 1"));
+    EXPECT_EQ(Table("<col>{MemberNo}</col><col>{Fat|0.0}</col><col total=\"sum\">{Liters|0}</col>"
+                    "<group by=\"CollectionTime\" foot=\"पाळी\">"
+                    "<foot if=\"sum(Liters) &lt; 20\"><cell "
+                    "span=\"2\">सरासरी</cell><cell>{average(Fat)|0.00}</cell></foot>"
+                    "<foot><cell span=\"3\">{count()} नोंदी</cell></foot></group>"
+                    "<total label=\"=\"><foot><cell "
+                    "span=\"2\">कमाल</cell><cell>{max(Liters)|0}</cell></foot></total>"),
+        "1 4.0 10 2 3.5 5 पाळी 15 सरासरी 3.75 2 नोंदी 3 5.0 20 पाळी 20 1 नोंदी = 35 कमाल 20");
+    EXPECT_EQ(Table("<col>{MemberNo}</col><total><foot><cell>शेवट</cell></foot></total>"), "1 2 3 शेवट");
+    EXPECT_EQ(TableFault("<col>a</col><total><foot/></total>"), "the line has no <cell>");
+    EXPECT_EQ(TableFault("<col>a</col><total><foot><cell span=\"2\">a</cell></foot></total>"),
+        "the cells span 2 columns, but there are 1");
 }
 
 TEST_F(TableLinesTest, TheLinesOfAFootStayTogetherWithTheLastRow)
 {
-    const QString table = Numbered.arg(QString(),
-        QStringLiteral("<total label=\"=\"><foot><cell>क</cell></foot><foot><cell>ख</cell></foot></total>"));
+    const QString table = Numbered.arg(
+        QString(), "<total label=\"=\"><foot><cell>क</cell></foot><foot><cell>ख</cell></foot></total>");
     for (int rows = 5; rows <= 16; ++rows) {
-        Run(QStringLiteral("delete * from MilkCollectionsTemp"));
+        Run("delete * from MilkCollectionsTemp");
         AddRows(rows);
         EXPECT_TRUE(Pages(table).last().endsWith(QStringLiteral("%1 1 = %1 क ख").arg(rows))) << rows;
     }
@@ -168,10 +162,10 @@ TEST_F(TableLinesTest, TheLinesOfAFootStayTogetherWithTheLastRow)
 
 TEST_F(TableLinesTest, APageHasItsOwnTotalAndCarriesOver)
 {
-    const QString table = Numbered.arg(
-        QString(), QStringLiteral("<page foot=\"पान\" carry=\"पुढे\" head=\"मागील\"/><total label=\"एकूण\"/>"));
+    const QString table =
+        Numbered.arg(QString(), "<page foot=\"पान\" carry=\"पुढे\" head=\"मागील\"/><total label=\"एकूण\"/>");
     for (int rows = 1; rows <= 40; ++rows) {
-        Run(QStringLiteral("delete * from MilkCollectionsTemp"));
+        Run("delete * from MilkCollectionsTemp");
         AddRows(rows);
         int row = 0;
         int before = 0; // rows on the pages before
@@ -198,9 +192,8 @@ TEST_F(TableLinesTest, NothingStandsBelowTheFootOfAPage)
 {
     AddRows(40);
     const std::unique_ptr<Report> report =
-        Make(Template(Numbered.arg(QStringLiteral("lines=\"1\""),
-                          QStringLiteral("<page foot=\"पान\" carry=\"पुढे\" head=\"मागील\"/>")),
-            QStringLiteral("paper=\"100x60mm\" margin=\"5\"")));
+        Make(Template(Numbered.arg("lines=\"1\"", "<page foot=\"पान\" carry=\"पुढे\" head=\"मागील\"/>"),
+            "paper=\"100x60mm\" margin=\"5\""));
     report->Complete();
     ASSERT_GT(report->PageCount(), 3U);
     const double end = (60 - 5) * PointsPerMillimetre + 0.1;
@@ -214,13 +207,13 @@ TEST_F(TableLinesTest, ASummaryHasPageTotalsOfWhatIsPrinted)
 {
     AddRows(30);
     const QStringList pages =
-        Pages(QStringLiteral("<table source=\"c\" rows=\"groups\"><col w=\"40\">{CollectionNo}</col>"
-                             "<col total=\"sum\">{sum(Liters) + 0.4|0}</col><group by=\"CollectionNo\"/>"
-                             "<page carry=\"पुढे\"/><total label=\"एकूण\"/></table>"));
+        Pages("<table source=\"c\" rows=\"groups\"><col w=\"40\">{CollectionNo}</col>"
+              "<col total=\"sum\">{sum(Liters) + 0.4|0}</col><group by=\"CollectionNo\"/>"
+              "<page carry=\"पुढे\"/><total label=\"एकूण\"/></table>");
     ASSERT_GT(pages.size(), 2);
     const int first = pages[0].section(u' ', -1).toInt();
     EXPECT_TRUE(pages[0].endsWith(QStringLiteral("%1 1 पुढे %1").arg(first))) << pages[0].toStdString();
-    EXPECT_TRUE(pages.last().endsWith(QStringLiteral("एकूण 30")));
+    EXPECT_TRUE(pages.last().endsWith("एकूण 30"));
 }
 
 TEST_F(TableLinesTest, ATotalOfAPageKnowsNoRow)
@@ -229,18 +222,17 @@ TEST_F(TableLinesTest, ATotalOfAPageKnowsNoRow)
         return TableFault(QStringLiteral("<col w=\"40\">{MemberNo}</col>") + QString::fromUtf8(inside));
     };
     const QString row = QStringLiteral("\"%1\" is a field, and a <page> can use totals only");
-    EXPECT_EQ(fault("<page foot=\"{MemberName}\"/>"), row.arg(QStringLiteral("MemberName")));
-    EXPECT_EQ(fault("<col total=\"Fat + sum(Liters)\">{Liters}</col><page foot=\"=\"/>"),
-        row.arg(QStringLiteral("Fat")));
-    EXPECT_EQ(fault("<page/>"), QStringLiteral("<page> needs \"foot\", \"carry\" or \"head\""));
-    EXPECT_EQ(fault("<page foot=\"a\"/><page foot=\"b\"/>"), QStringLiteral("there is a second <page>"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<columns><column><table source=\"c\"><col>a</col><page foot=\"a\"/>"
-                                       "</table></column></columns>")),
-        QStringLiteral("the table of a <page> can't stand in a <column>"));
+    EXPECT_EQ(fault("<page foot=\"{MemberName}\"/>"), row.arg("MemberName"));
+    EXPECT_EQ(fault("<col total=\"Fat + sum(Liters)\">{Liters}</col><page foot=\"=\"/>"), row.arg("Fat"));
+    EXPECT_EQ(fault("<page/>"), "<page> needs \"foot\", \"carry\" or \"head\"");
+    EXPECT_EQ(fault("<page foot=\"a\"/><page foot=\"b\"/>"), "there is a second <page>");
+    EXPECT_EQ(OnlyFault("<columns><column><table source=\"c\"><col>a</col><page foot=\"a\"/>"
+                        "</table></column></columns>"),
+        "the table of a <page> can't stand in a <column>");
     EXPECT_EQ(
-        Faults(Template(QStringLiteral(
+        Faults(Template(
             "<source name=\"o\" table=\"MilkPayments\"/><table source=\"c\"><col w=\"40\">{MemberNo}</col>"
-            "<col total=\"o.Amount + sum(Amount)\">{Amount}</col><page foot=\"{count()}\"/></table>"))),
+            "<col total=\"o.Amount + sum(Amount)\">{Amount}</col><page foot=\"{count()}\"/></table>")),
         QStringList());
 }
 
@@ -295,5 +287,5 @@ TEST_F(TableLinesTest, TheItemsOfABookAreThoseOfTheGoldenFile)
   <pagefooter><text size="7" align="center">पान {#page} / {#pages}</text></pagefooter>
 </report>)xml"));
     report->Complete();
-    ExpectGolden(*report, QStringLiteral("book.txt"));
+    ExpectGolden(*report, "book.txt");
 }

@@ -8,9 +8,9 @@ class TotalsTest : public ReportTest {
 protected:
     void AddShifts()
     {
-        AddDelivery(1, Morning, QStringLiteral("अशोक"), 10.125, 4.0, 350.55);
-        AddDelivery(2, Morning, QStringLiteral("बाबू"), 5.5, 3.5, 180.1);
-        AddDelivery(3, Evening, QStringLiteral("कमल"), 20, 5.0, 800.01);
+        AddDelivery(1, Morning, "अशोक", 10.125, 4.0, 350.55);
+        AddDelivery(2, Morning, "बाबू", 5.5, 3.5, 180.1);
+        AddDelivery(3, Evening, "कमल", 20, 5.0, 800.01);
     }
 };
 
@@ -19,17 +19,14 @@ protected:
 TEST_F(TotalsTest, GroupsAndTheWholeTableHaveTheirSums)
 {
     AddShifts();
-    const QStringList texts = AllTexts(Template(QStringLiteral(
-        "<table source=\"c\"><col>{MemberName}</col>"
-        "<col total=\"sum\">{Liters|0.000}</col><col total=\"sum\">{Amount|0.00}</col>"
-        "<group by=\"CollectionTime\" head=\"{CollectionTime}\" foot=\"एकूण {CollectionTime}\"/>"
-        "<total label=\"एकंदर\"/></table>")));
-    const QStringList expected{Morning, QStringLiteral("अशोक"), QStringLiteral("10.125"),
-        QStringLiteral("350.55"), QStringLiteral("बाबू"), QStringLiteral("5.500"), QStringLiteral("180.10"),
-        QStringLiteral("एकूण सकाळ"), QStringLiteral("15.625"), QStringLiteral("530.65"), Evening,
-        QStringLiteral("कमल"), QStringLiteral("20.000"), QStringLiteral("800.01"),
-        QStringLiteral("एकूण संध्याकाळ"), QStringLiteral("20.000"), QStringLiteral("800.01"),
-        QStringLiteral("एकंदर"), QStringLiteral("35.625"), QStringLiteral("1330.66")};
+    const QStringList texts = AllTexts(
+        Template("<table source=\"c\"><col>{MemberName}</col>"
+                 "<col total=\"sum\">{Liters|0.000}</col><col total=\"sum\">{Amount|0.00}</col>"
+                 "<group by=\"CollectionTime\" head=\"{CollectionTime}\" foot=\"एकूण {CollectionTime}\"/>"
+                 "<total label=\"एकंदर\"/></table>"));
+    const QStringList expected{Morning, "अशोक", "10.125", "350.55", "बाबू", "5.500", "180.10", "एकूण सकाळ",
+        "15.625", "530.65", Evening, "कमल", "20.000", "800.01", "एकूण संध्याकाळ", "20.000", "800.01", "एकंदर",
+        "35.625", "1330.66"};
     EXPECT_EQ(texts, expected);
 }
 
@@ -43,112 +40,105 @@ TEST_F(TotalsTest, AWeightedAverageWeighsAndOneOfNothingIsZero)
                                          "<total label=\"सरासरी\"/></table>");
     const QStringList texts = AllTexts(Template(table));
     // (10.125 x 4 + 5.5 x 3.5 + 20 x 5) / 35.625
-    EXPECT_EQ(texts.mid(texts.indexOf(QStringLiteral("सरासरी"))),
-        QStringList({QStringLiteral("सरासरी"), QStringLiteral("4.48"), QStringLiteral("0.0"),
-            QStringLiteral("4.167")}));
+    EXPECT_EQ(texts.mid(texts.indexOf("सरासरी")), QStringList({"सरासरी", "4.48", "0.0", "4.167"}));
 }
 
 TEST_F(TotalsTest, ARunningSumGoesOnOrBeginsAnewWithItsGroup)
 {
     AddShifts();
-    AddDelivery(4, Evening, QStringLiteral("दत्ता"), 1, 4, 40);
-    const QStringList texts = AllTexts(Template(QStringLiteral(
+    AddDelivery(4, Evening, "दत्ता", 1, 4, 40);
+    const QStringList texts = AllTexts(Template(
         "<table source=\"c\"><col>{running(Amount)|0.00}</col>"
-        "<col>{running(Amount by CollectionTime)|0.00}</col><group by=\"CollectionTime\"/></table>")));
+        "<col>{running(Amount by CollectionTime)|0.00}</col><group by=\"CollectionTime\"/></table>"));
     EXPECT_EQ(texts,
-        QStringList({QStringLiteral("350.55"), QStringLiteral("350.55"), QStringLiteral("530.65"),
-            QStringLiteral("530.65"), QStringLiteral("1330.66"), QStringLiteral("800.01"),
-            QStringLiteral("1370.66"), QStringLiteral("840.01")}));
+        QStringList({"350.55", "350.55", "530.65", "530.65", "1330.66", "800.01", "1370.66", "840.01"}));
 }
 
 TEST_F(TotalsTest, RowsAreGroupedByTheirMonths)
 {
     AddShifts();
-    Run(QStringLiteral("update MilkCollectionsTemp set CollectionDate='30/04/2026' where CollectionNo=2"));
-    Run(QStringLiteral("update MilkCollectionsTemp set CollectionDate='01/05/2026' where CollectionNo=3"));
+    Run("update MilkCollectionsTemp set CollectionDate='30/04/2026' where CollectionNo=2");
+    Run("update MilkCollectionsTemp set CollectionDate='01/05/2026' where CollectionNo=3");
     const QString table = QStringLiteral(
         "<table source=\"c\"><col>{MemberNo}</col><col total=\"sum\">{Amount|0.00}</col>"
         "<group by=\"format(CollectionDate, 'MMMM yyyy')\" label=\"महिना\" head=\"{CollectionDate|MMMM}\" "
         "foot=\"=\"/></table>");
-    EXPECT_EQ(AllTexts(Template(table)).join(u' '),
-        QStringLiteral("एप्रिल 1 350.55 2 180.10 = 530.65 मे 3 800.01 = 800.01"));
+    EXPECT_EQ(AllTexts(Template(table)).join(u' '), "एप्रिल 1 350.55 2 180.10 = 530.65 मे 3 800.01 = 800.01");
 }
 
 TEST_F(TotalsTest, NestedGroupsEndFromTheInnermost)
 {
     AddShifts();
-    AddDelivery(4, Evening, QStringLiteral("दत्ता"), 1, 5, 40);
-    const QStringList texts = AllTexts(Template(QStringLiteral(
-        "<table source=\"c\"><col>{MemberNo}</col><col total=\"count\">{Fat|0.0}</col>"
-        "<group by=\"CollectionTime\" foot=\"पाळी\"/><group by=\"Fat\" foot=\"फॅट\"/></table>")));
-    EXPECT_EQ(texts.join(u' '), QStringLiteral("1 4.0 फॅट 1 2 3.5 फॅट 1 पाळी 2 3 5.0 4 5.0 फॅट 2 पाळी 2"));
+    AddDelivery(4, Evening, "दत्ता", 1, 5, 40);
+    const QStringList texts = AllTexts(
+        Template("<table source=\"c\"><col>{MemberNo}</col><col total=\"count\">{Fat|0.0}</col>"
+                 "<group by=\"CollectionTime\" foot=\"पाळी\"/><group by=\"Fat\" foot=\"फॅट\"/></table>"));
+    EXPECT_EQ(texts.join(u' '), "1 4.0 फॅट 1 2 3.5 फॅट 1 पाळी 2 3 5.0 4 5.0 फॅट 2 पाळी 2");
 }
 
 TEST_F(TotalsTest, ATotalIsTheSumOfTheFiguresAsTheyArePrinted)
 {
     for (int i = 1; i <= 3; ++i)
-        AddDelivery(i, Morning, QStringLiteral("अ"), 1, 4, 0.125);
+        AddDelivery(i, Morning, "अ", 1, 4, 0.125);
     const QStringList texts =
-        AllTexts(Template(QStringLiteral("<table source=\"c\"><col>{MemberNo}</col><col "
-                                         "total=\"sum\">{Amount|0.00}</col><total label=\"=\"/></table>")));
-    EXPECT_EQ(texts.last(), QStringLiteral("0.39")); // 3 x 0.13
+        AllTexts(Template("<table source=\"c\"><col>{MemberNo}</col><col "
+                          "total=\"sum\">{Amount|0.00}</col><total label=\"=\"/></table>"));
+    EXPECT_EQ(texts.last(), "0.39"); // 3 x 0.13
 }
 
 TEST_F(TotalsTest, ThousandsOfPaiseAddUpExactly)
 {
-    connection->RunScript(QStringLiteral(
+    connection->RunScript(
         "with recursive n(i) as (select 1 union all select i+1 from n where i<10000) "
-        "insert into MilkCollectionsTemp(CollectionNo,MemberName,Amount) select i,'A',0.1 from n"));
-    const QStringList texts =
-        AllTexts(Template(QStringLiteral("<table source=\"c\"><col>{CollectionNo}</col><col "
-                                         "total=\"sum\">{Amount}</col><total label=\"=\"/></table>")));
-    EXPECT_EQ(texts.last(), QStringLiteral("1000"));
+        "insert into MilkCollectionsTemp(CollectionNo,MemberName,Amount) select i,'A',0.1 from n");
+    const QStringList texts = AllTexts(Template("<table source=\"c\"><col>{CollectionNo}</col><col "
+                                                "total=\"sum\">{Amount}</col><total label=\"=\"/></table>"));
+    EXPECT_EQ(texts.last(), "1000");
 }
 
 TEST_F(TotalsTest, ATotalCanBeReckonedFromOthers)
 {
     AddShifts();
-    const QStringList texts = AllTexts(Template(QStringLiteral(
+    const QStringList texts = AllTexts(Template(
         "<table source=\"c\"><col>{MemberNo}</col><col total=\"sum(Amount) / sum(Liters)\">{Rate|0.00}</col>"
-        "<total label=\"{count()} नोंदी, कमाल {max(Liters)|0.0}\"/></table>")));
-    EXPECT_EQ(texts.mid(texts.size() - 2),
-        QStringList({QStringLiteral("3 नोंदी, कमाल 20.0"), QStringLiteral("37.35")}));
+        "<total label=\"{count()} नोंदी, कमाल {max(Liters)|0.0}\"/></table>"));
+    EXPECT_EQ(texts.mid(texts.size() - 2), QStringList({"3 नोंदी, कमाल 20.0", "37.35"}));
 }
 
 TEST_F(TotalsTest, AnEmptyTableHasItsHeadsAndNoTotal)
 {
     const QStringList texts =
-        AllTexts(Template(QStringLiteral("<table source=\"c\"><col head=\"नाव\">{MemberName}</col><col "
-                                         "head=\"रक्कम\" total=\"sum\">{Amount|0.00}</col>"
-                                         "<total label=\"एकूण\"/></table>")));
-    EXPECT_EQ(texts, QStringList({QStringLiteral("नाव"), QStringLiteral("रक्कम")}));
+        AllTexts(Template("<table source=\"c\"><col head=\"नाव\">{MemberName}</col><col "
+                          "head=\"रक्कम\" total=\"sum\">{Amount|0.00}</col>"
+                          "<total label=\"एकूण\"/></table>"));
+    EXPECT_EQ(texts, QStringList({"नाव", "रक्कम"}));
 }
 
 TEST_F(TotalsTest, RowsThatAreLeftOutAreNotAdded)
 {
     AddShifts();
-    const QStringList texts = AllTexts(
-        Template(QStringLiteral("<table source=\"c\" only=\"CollectionTime = 'सकाळ'\"><col>{MemberNo}</col>"
-                                "<col total=\"sum\">{Amount|0.00}</col><total label=\"=\"/></table>")));
-    EXPECT_EQ(texts.join(u' '), QStringLiteral("1 350.55 2 180.10 = 530.65"));
+    const QStringList texts =
+        AllTexts(Template("<table source=\"c\" only=\"CollectionTime = 'सकाळ'\"><col>{MemberNo}</col>"
+                          "<col total=\"sum\">{Amount|0.00}</col><total label=\"=\"/></table>"));
+    EXPECT_EQ(texts.join(u' '), "1 350.55 2 180.10 = 530.65");
 }
 
 TEST_F(TotalsTest, TheLeastAndTheGreatestAreOfNumbersAndDates)
 {
     AddShifts();
-    Run(QStringLiteral("update MilkCollectionsTemp set CollectionDate='12/11/2026' where CollectionNo=2"));
-    EXPECT_EQ(AllTexts(Template(QStringLiteral("<text>{min(CollectionDate)} {max(CollectionDate)} "
-                                               "{max(CollectionDate)|dd MM} {min(Liters)}</text>"))),
-        QStringList({QStringLiteral("05/04/2026 12/11/2026 12 11 5.5")}));
+    Run("update MilkCollectionsTemp set CollectionDate='12/11/2026' where CollectionNo=2");
+    EXPECT_EQ(AllTexts(Template("<text>{min(CollectionDate)} {max(CollectionDate)} "
+                                "{max(CollectionDate)|dd MM} {min(Liters)}</text>")),
+        QStringList({"05/04/2026 12/11/2026 12 11 5.5"}));
     EXPECT_EQ(
-        AllTexts(Template(QStringLiteral(
-                     "<table source=\"c\" only=\"CollectionNo = 2\"><col w=\"40\">{MemberNo}</col>"
-                     "<col total=\"max(CollectionDate)\">{Liters|0.0}</col><total label=\"=\"/></table>")))
+        AllTexts(
+            Template("<table source=\"c\" only=\"CollectionNo = 2\"><col w=\"40\">{MemberNo}</col>"
+                     "<col total=\"max(CollectionDate)\">{Liters|0.0}</col><total label=\"=\"/></table>"))
             .last(),
-        QStringLiteral("12/11/2026"));
+        "12/11/2026");
     for (const char* text : {"{max(MemberName)}", "{min(MemberName)|0.00}"})
         EXPECT_EQ(OnlyFault(QStringLiteral("<text>%1</text>").arg(QLatin1String(text))),
-            QStringLiteral("min and max need numbers or dates"));
+            "min and max need numbers or dates");
 }
 
 TEST_F(TotalsTest, ATotalHasTheFormatAndTheWordsOfItsCells)
@@ -160,11 +150,11 @@ TEST_F(TotalsTest, ATotalHasTheFormatAndTheWordsOfItsCells)
                                      .arg(QString::fromUtf8(column))))
             .last();
     };
-    EXPECT_EQ(total("<col total=\"average(Fat)\">{Fat|0.0} %</col>"), QStringLiteral("4.2 %"));
-    EXPECT_EQ(total("<col total=\"sum(Liters)\">लि. {Liters|0.00}</col>"), QStringLiteral("लि. 35.63"));
-    EXPECT_EQ(total("<col total=\"average(Fat)\">{MemberNo}: {Fat|0.00} %</col>"), QStringLiteral("4.17"));
-    EXPECT_EQ(total("<col total=\"count\">{Fat|0.0} %</col>"), QStringLiteral("3"));
-    EXPECT_EQ(total("<col total=\"max(Liters)\"></col>"), QStringLiteral("20"));
+    EXPECT_EQ(total("<col total=\"average(Fat)\">{Fat|0.0} %</col>"), "4.2 %");
+    EXPECT_EQ(total("<col total=\"sum(Liters)\">लि. {Liters|0.00}</col>"), "लि. 35.63");
+    EXPECT_EQ(total("<col total=\"average(Fat)\">{MemberNo}: {Fat|0.00} %</col>"), "4.17");
+    EXPECT_EQ(total("<col total=\"count\">{Fat|0.0} %</col>"), "3");
+    EXPECT_EQ(total("<col total=\"max(Liters)\"></col>"), "20");
 }
 
 TEST_F(TotalsTest, WhatHangsOnARowIsTotalledForThatRowOnly)
@@ -172,7 +162,7 @@ TEST_F(TotalsTest, WhatHangsOnARowIsTotalledForThatRowOnly)
     const QString linked =
         QStringLiteral("<source name=\"k\" table=\"KapatDetails\" link=\"MemberNo\" to=\"c\"/>");
     EXPECT_EQ(OnlyFault(linked + QStringLiteral("<text>{sum(k.Value1)}</text>")),
-        QStringLiteral("the rows of \"k\" can be gone through only inside an <each> of \"c\""));
+        "the rows of \"k\" can be gone through only inside an <each> of \"c\"");
     EXPECT_EQ(
         Faults(Template(linked + QStringLiteral("<each source=\"c\"><text>{sum(k.Value1)}</text></each>"))),
         QStringList());

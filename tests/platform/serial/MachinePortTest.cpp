@@ -129,10 +129,10 @@ TEST_F(MachinePortTest, IsNotOpenedWhereThereIsNoneOrTheSettingsCannotBeRead)
     const auto port = SerialPorts::Current().Make();
     EXPECT_FALSE(port->Open(0, Settings));
     EXPECT_FALSE(port->SetDtr(true));
-    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/there-is-no-such-adapter"), Link("COM7")));
+    ASSERT_TRUE(QFile::link("/dev/there-is-no-such-adapter", Link("COM7")));
     EXPECT_FALSE(port->Open(7, Settings));
     const auto device = Play("ELECTRO", Manner::Prompt);
-    EXPECT_FALSE(port->Open(1, QStringLiteral("2400")));
+    EXPECT_FALSE(port->Open(1, "2400"));
     EXPECT_TRUE(port->Open(1, Settings));
 }
 

@@ -23,22 +23,22 @@ private:
 
 TEST_F(PortDeviceTest, WithoutALinkIsThePortOfTheMachine)
 {
-    EXPECT_EQ(PortDevice(1), QStringLiteral("/dev/ttyS0"));
-    EXPECT_EQ(PortDevice(3), QStringLiteral("/dev/ttyS2"));
+    EXPECT_EQ(PortDevice(1), "/dev/ttyS0");
+    EXPECT_EQ(PortDevice(3), "/dev/ttyS2");
 }
 
 TEST_F(PortDeviceTest, IsTheLinkOfItsNumberInTheFolderOfLinks)
 {
     const QString link = Link("COM3");
-    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/null"), link));
+    ASSERT_TRUE(QFile::link("/dev/null", link));
     EXPECT_EQ(PortDevice(3), link);
-    EXPECT_EQ(PortDevice(1), QStringLiteral("/dev/ttyS0"));
+    EXPECT_EQ(PortDevice(1), "/dev/ttyS0");
 }
 
 TEST_F(PortDeviceTest, StaysTheLinkWhileTheAdapterIsUnplugged)
 {
     const QString link = Link("COM1");
-    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/there-is-no-such-adapter"), link));
+    ASSERT_TRUE(QFile::link("/dev/there-is-no-such-adapter", link));
     EXPECT_EQ(PortDevice(1), link);
 }
 

@@ -30,9 +30,7 @@ TEST_F(SerialLineTest, OpensSetsDtrWritesReadsAndCloses)
 {
     Ports.Replies["W"] = {{"12345"}};
     EXPECT_EQ(Ask(5), QByteArray("12345"));
-    EXPECT_EQ(Ports.Log,
-        (QStringList{QStringLiteral("open 1 2400,n,8,1"), QStringLiteral("dtr"), QStringLiteral("write W"),
-            QStringLiteral("close")}));
+    EXPECT_EQ(Ports.Log, (QStringList{"open 1 2400,n,8,1", "dtr", "write W", "close"}));
 }
 
 TEST_F(SerialLineTest, ReturnsAsSoonAsTheReplyIsWhole)
@@ -63,7 +61,7 @@ TEST_F(SerialLineTest, DoesNotWaitForAPortThatIsNotThere)
     const auto start = Ports.Now();
     EXPECT_FALSE(Ask(1));
     EXPECT_EQ(Ports.Now(), start);
-    EXPECT_EQ(Ports.Log, QStringList{QStringLiteral("open 1 2400,n,8,1")});
+    EXPECT_EQ(Ports.Log, QStringList{"open 1 2400,n,8,1"});
 }
 
 TEST_F(SerialLineTest, GoesOnWithoutADtrSignal)

@@ -21,10 +21,10 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(m_folder.isValid());
-        ASSERT_TRUE(QDir().mkpath(m_folder.filePath(QStringLiteral("bin"))));
+        ASSERT_TRUE(QDir().mkpath(m_folder.filePath("bin")));
         SetDrivesRoot(m_folder.path());
         ASSERT_TRUE(QDir().mkpath(LocalPath(AppFolder)));
-        qputenv("PATH", QFile::encodeName(m_folder.filePath(QStringLiteral("bin"))));
+        qputenv("PATH", QFile::encodeName(m_folder.filePath("bin")));
         const QByteArray pipe = QFile::encodeName(Pipe());
         ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
         m_pipe = open(pipe.constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
@@ -72,7 +72,7 @@ protected:
     static bool Start() { return World::Real().calculator->Start(Own(), true); }
 
 private:
-    QString Pipe() const { return m_folder.filePath(QStringLiteral("said")); }
+    QString Pipe() const { return m_folder.filePath("said"); }
 
     QTemporaryDir m_folder;
     QByteArray m_path = qgetenv("PATH");

@@ -22,7 +22,7 @@ TEST(FontsTest, LohitIsChosenWhereThereIsNoNoto)
 
 TEST(FontsTest, AnyOtherFamilyIsBetterThanNone)
 {
-    EXPECT_EQ(ChooseDevanagariFamily({other, QStringLiteral("Mukta")}), other);
+    EXPECT_EQ(ChooseDevanagariFamily({other, "Mukta"}), other);
 }
 
 TEST(FontsTest, WithoutAFontThatShowsDevanagariTheAnswerIsEmpty)

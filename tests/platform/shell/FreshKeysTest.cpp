@@ -95,7 +95,7 @@ TEST(FreshKeysTest, WhatAnInputMethodWroteAheadOfABoxIsThrownAway)
     box.ShowAndWait();
     EXPECT_EQ(box.Composed, QStringList());
     box.Compose("", "मसूर");
-    EXPECT_EQ(box.Composed, QStringList(QStringLiteral("|मसूर")));
+    EXPECT_EQ(box.Composed, QStringList("|मसूर"));
 }
 
 TEST(FreshKeysTest, AWordThatAnInputMethodBeganAheadOfABoxIsThrownAwayWhole)
@@ -108,7 +108,7 @@ TEST(FreshKeysTest, AWordThatAnInputMethodBeganAheadOfABoxIsThrownAwayWhole)
     EXPECT_EQ(box.Composed, QStringList());
     box.Compose("म");
     box.Compose("", "मसूर");
-    EXPECT_EQ(box.Composed, QStringList({QStringLiteral("म|"), QStringLiteral("|मसूर")}));
+    EXPECT_EQ(box.Composed, QStringList({"म|", "|मसूर"}));
 }
 
 TEST(FreshKeysTest, AWordThatIsLeftBehindWithItsBoxIsNoneOfTheNextScreens)
@@ -119,7 +119,7 @@ TEST(FreshKeysTest, AWordThatIsLeftBehindWithItsBoxIsNoneOfTheNextScreens)
     box.ShowAndWait();
     box.hide();
     next.Compose("", "मसूर");
-    EXPECT_EQ(next.Composed, QStringList(QStringLiteral("|मसूर")));
+    EXPECT_EQ(next.Composed, QStringList("|मसूर"));
 }
 
 TEST(FreshKeysTest, AKeyThatIsHeldDownIsNoneForABox)

@@ -24,7 +24,7 @@ protected:
     void SetUp() override { ASSERT_TRUE(m_folder.isValid()); }
 
     QString Folder() const { return m_folder.path(); }
-    QString LockFile() const { return m_folder.filePath(QStringLiteral("Vetrolan.lock")); }
+    QString LockFile() const { return m_folder.filePath("Vetrolan.lock"); }
 
 private:
     QTemporaryDir m_folder;
@@ -180,7 +180,7 @@ TEST_F(SingleInstanceTest, AProgramThatWasStartedFromTheHolderKeepsNobodyOutAfte
     {
         const SingleInstance first(Folder());
         ASSERT_TRUE(first.Taken());
-        calculator.start(QStringLiteral("cat"), {}); // runs until its input is closed
+        calculator.start("cat", {}); // runs until its input is closed
         ASSERT_TRUE(calculator.waitForStarted());
     }
     EXPECT_TRUE(SingleInstance(Folder()).Taken());
@@ -268,8 +268,8 @@ TEST_F(SingleInstanceTest, RootIsKeptOutOfAClerksBooksSoThatItsFilesDoNotShutThe
         FAIL() << "root was let in";
     } catch (const RunTimeError& error) {
         EXPECT_EQ(error.Number(), RunTimeError::FileAccess);
-        EXPECT_TRUE(error.Happened().contains(QStringLiteral("sudo न लावता"))) << error.what();
-        EXPECT_TRUE(error.Happened().contains(QStringLiteral("without sudo"))) << error.what();
+        EXPECT_TRUE(error.Happened().contains("sudo न लावता")) << error.what();
+        EXPECT_TRUE(error.Happened().contains("without sudo")) << error.what();
     }
     EXPECT_FALSE(QFile::exists(LockFile()));
     EXPECT_EQ(clerk.Starts(), "taken");

@@ -30,7 +30,7 @@ TEST(ExpressionReadingTest, BracketsWithoutEndAreRefusedAndDontOverflow)
     ExpressionFault fault;
     for (const char16_t sign : {u'(', u'-'}) {
         EXPECT_FALSE(ReadExpression(QString(Expression::LongestText, sign), fault).has_value());
-        EXPECT_EQ(fault.text, QStringLiteral("the brackets are nested too deeply"));
+        EXPECT_EQ(fault.text, "the brackets are nested too deeply");
     }
 }
 
@@ -58,10 +58,10 @@ TEST(ExpressionReadingTest, AFormulaReadsItsFieldsAndDaysIntoTheSameTree)
     const Expression& comparison = formula->arguments.front();
     ASSERT_EQ(comparison.operation, Operation::Equal);
     EXPECT_EQ(comparison.arguments[0].operation, Operation::Field);
-    EXPECT_EQ(comparison.arguments[0].qualifier, QStringLiteral("p"));
-    EXPECT_EQ(comparison.arguments[0].text, QStringLiteral("PaymentDate"));
+    EXPECT_EQ(comparison.arguments[0].qualifier, "p");
+    EXPECT_EQ(comparison.arguments[0].text, "PaymentDate");
     EXPECT_EQ(comparison.arguments[1].operation, Operation::Date);
-    EXPECT_EQ(comparison.arguments[1].text, QStringLiteral("2026-04-01"));
+    EXPECT_EQ(comparison.arguments[1].text, "2026-04-01");
     for (const char16_t* text :
         {u"{p.Day} = Date(2026,4)", u"{p.Day} = Date(2026,4,1.5)", u"{p.Day = 1", u"{.Day} = 1"})
         EXPECT_FALSE(ReadFormula(QStringView(text), fault).has_value())

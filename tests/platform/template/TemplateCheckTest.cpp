@@ -10,26 +10,20 @@ class TemplateCheckTest : public TemplateTest { };
 
 TEST_F(TemplateCheckTest, AllFaultsAreToldAtOnceWithTheirLines)
 {
-    const QStringList faults =
-        Faults(QStringLiteral("<report name=\"T\" paper=\"A9\">\n"
-                              "<source name=\"c\" table=\"NoSuchTable\"/>\n"
-                              "<source name=\"m\" table=\"MembersMaster\" order=\"Nmae\"/>\n"
-                              "<text colour=\"red\">{m.Surname}</text>\n"
-                              "<blink/>\n"
-                              "<text>{m.MemberNo|0,00} {1 +}</text>\n"
-                              "<table source=\"x\"><col w=\"wide\">a</col></table>\n"
-                              "</report>"),
-            QStringLiteral("T"));
-    const QStringList expected{QStringLiteral("1: \"A9\" is no paper"),
-        QStringLiteral("2: there is no table \"NoSuchTable\""),
-        QStringLiteral("3: there is no column \"Nmae\" in MembersMaster"),
-        QStringLiteral("4: <text> has no attribute \"colour\""),
-        QStringLiteral("4: there is no column \"Surname\" in MembersMaster"),
-        QStringLiteral("5: <blink> isn't known here"),
-        QStringLiteral("6: \"0,00\" is no format of a number or a date"),
-        QStringLiteral("6: {1 +}: the expression breaks off"),
-        QStringLiteral("7: w=\"wide\" is neither millimetres nor *"),
-        QStringLiteral("7: there is no source \"x\"")};
+    const QStringList faults = Faults("<report name=\"T\" paper=\"A9\">\n"
+                                      "<source name=\"c\" table=\"NoSuchTable\"/>\n"
+                                      "<source name=\"m\" table=\"MembersMaster\" order=\"Nmae\"/>\n"
+                                      "<text colour=\"red\">{m.Surname}</text>\n"
+                                      "<blink/>\n"
+                                      "<text>{m.MemberNo|0,00} {1 +}</text>\n"
+                                      "<table source=\"x\"><col w=\"wide\">a</col></table>\n"
+                                      "</report>",
+        "T");
+    const QStringList expected{"1: \"A9\" is no paper", "2: there is no table \"NoSuchTable\"",
+        "3: there is no column \"Nmae\" in MembersMaster", "4: <text> has no attribute \"colour\"",
+        "4: there is no column \"Surname\" in MembersMaster", "5: <blink> isn't known here",
+        "6: \"0,00\" is no format of a number or a date", "6: {1 +}: the expression breaks off",
+        "7: w=\"wide\" is neither millimetres nor *", "7: there is no source \"x\""};
     EXPECT_EQ(faults, expected);
 }
 
@@ -49,19 +43,19 @@ TEST_F(TemplateCheckTest, NothingIsDeclaredBeforeATemplate)
     EXPECT_EQ(Faults(QStringLiteral("<!DOCTYPE report [<!ENTITY a \"%1\">]>\n"
                                     "<report name=\"Test\" paper=\"A4\"><text>%2</text></report>")
                          .arg(QString(4000, u'x'), many)),
-        QStringList(QStringLiteral("1: a template has no <!DOCTYPE>")));
+        QStringList("1: a template has no <!DOCTYPE>"));
     EXPECT_EQ(Faults(QStringLiteral("<?xml version=\"1.0\"?>\n<!DOCTYPE report>\n") + Template({})),
-        QStringList(QStringLiteral("2: a template has no <!DOCTYPE>")));
+        QStringList("2: a template has no <!DOCTYPE>"));
 }
 
 TEST_F(TemplateCheckTest, ATemplateIsNoLargerThanAMegabyte)
 {
-    const QString text = Template(QStringLiteral("<text>a</text>"));
+    const QString text = Template("<text>a</text>");
     const QString comment = QStringLiteral("<!--%1-->");
     const qsizetype room = 1024 * 1024 - text.size() - comment.arg(QString()).size();
     EXPECT_EQ(Faults(text + comment.arg(QString(room, u'x'))), QStringList());
-    EXPECT_EQ(Faults(text + comment.arg(QString(room + 1, u'x'))),
-        QStringList(QStringLiteral("0: the file is larger than 1 MB")));
+    EXPECT_EQ(
+        Faults(text + comment.arg(QString(room + 1, u'x'))), QStringList("0: the file is larger than 1 MB"));
 }
 
 TEST_F(TemplateCheckTest, OfManyFaultsTheFirstHundredAreTold)
@@ -72,7 +66,7 @@ TEST_F(TemplateCheckTest, OfManyFaultsTheFirstHundredAreTold)
         for (int i = 0; i < count; ++i)
             EXPECT_EQ(faults[i].section(u':', 0, 0), QString::number(first + i)) << fault;
         EXPECT_TRUE(faults[count > 100 ? 99 : count - 1].contains(QLatin1String(fault)));
-        EXPECT_EQ(faults.last().endsWith(QStringLiteral("there are more faults than 100")), count > 100);
+        EXPECT_EQ(faults.last().endsWith("there are more faults than 100"), count > 100);
     };
     const QString unknown = QStringLiteral("<blink/>\n");
     expect(unknown.repeated(100), 3, 100, "<blink> isn't known here");
@@ -85,31 +79,30 @@ TEST_F(TemplateCheckTest, OfManyFaultsTheFirstHundredAreTold)
 
 TEST_F(TemplateCheckTest, ATemplateThatIsNoXmlIsToldWithItsLine)
 {
-    const QStringList faults =
-        Faults(QStringLiteral("<report name=\"Test\" paper=\"A4\">\n<text>\n</report>"));
+    const QStringList faults = Faults("<report name=\"Test\" paper=\"A4\">\n<text>\n</report>");
     ASSERT_EQ(faults.size(), 1) << faults.join(u'\n').toStdString();
-    EXPECT_TRUE(faults.first().startsWith(QStringLiteral("3: no XML: "))) << faults.first().toStdString();
+    EXPECT_TRUE(faults.first().startsWith("3: no XML: ")) << faults.first().toStdString();
     EXPECT_EQ(Faults(QString()).size(), 1);
-    EXPECT_EQ(Faults(QStringLiteral("<html/>")), QStringList({QStringLiteral("1: <html> isn't known here")}));
+    EXPECT_EQ(Faults("<html/>"), QStringList({"1: <html> isn't known here"}));
 }
 
 TEST_F(TemplateCheckTest, WhereTheXmlBreaksOffNoFaultsAreInvented)
 {
-    const QStringList faults = Faults(QStringLiteral("<report name=\"Test\" paper=\"A4\">\n"
-                                                     "<blink/>\n"
-                                                     "<text>{c.Liters}</text>\n"
-                                                     "<table source=\"c\">{Liters & Fat}\n"
-                                                     "<source name=\"c\" table=\"MilkCollectionsTemp\"/>\n"
-                                                     "</report>"));
+    const QStringList faults = Faults("<report name=\"Test\" paper=\"A4\">\n"
+                                      "<blink/>\n"
+                                      "<text>{c.Liters}</text>\n"
+                                      "<table source=\"c\">{Liters & Fat}\n"
+                                      "<source name=\"c\" table=\"MilkCollectionsTemp\"/>\n"
+                                      "</report>");
     ASSERT_EQ(faults.size(), 2) << faults.join(u'\n').toStdString();
-    EXPECT_EQ(faults[0], QStringLiteral("2: <blink> isn't known here"));
-    EXPECT_TRUE(faults[1].startsWith(QStringLiteral("4: no XML: "))) << faults[1].toStdString();
+    EXPECT_EQ(faults[0], "2: <blink> isn't known here");
+    EXPECT_TRUE(faults[1].startsWith("4: no XML: ")) << faults[1].toStdString();
 }
 
 TEST_F(TemplateCheckTest, AFileThatIsntUtf8IsToldWithItsLine)
 {
     const auto faults = [this](const QByteArray& bytes) {
-        QFile file(File(QStringLiteral("Test.rpt")));
+        QFile file(File("Test.rpt"));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bytes);
         file.close();
@@ -119,44 +112,43 @@ TEST_F(TemplateCheckTest, AFileThatIsntUtf8IsToldWithItsLine)
     const QByteArray end = "</text>\n</report>";
     EXPECT_EQ(faults(begin + "caf\xC3\xA9 \xEF\xBF\xBD" + end), QStringList());
     EXPECT_EQ(faults("\xEF\xBB\xBF" + begin + "a" + end), QStringList());
-    const QStringList second{QStringLiteral("2: the file isn't written in UTF-8")};
+    const QStringList second{"2: the file isn't written in UTF-8"};
     EXPECT_EQ(faults(begin + "caf\xE9" + end), second);
     EXPECT_EQ(faults("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>" + begin + "caf\xE9" + end), second);
     EXPECT_EQ(faults(begin + "\xE0\xA4\n" + end), second) << "a sign that breaks off with its line";
-    EXPECT_EQ(faults("\xFF\xFE<\0r\0"), QStringList({QStringLiteral("1: the file isn't written in UTF-8")}));
+    EXPECT_EQ(faults("\xFF\xFE<\0r\0"), QStringList({"1: the file isn't written in UTF-8"}));
 }
 
 TEST_F(TemplateCheckTest, TheReportHasTheNameOfItsFile)
 {
-    const QString text = Template(QStringLiteral("<text>a</text>"));
-    EXPECT_EQ(Faults(text, QStringLiteral("Other")),
-        QStringList({QStringLiteral("1: the report is called \"Test\", but its file \"Other\"")}));
-    EXPECT_EQ(Faults(text, QStringLiteral("TEST")), QStringList());
+    const QString text = Template("<text>a</text>");
+    EXPECT_EQ(
+        Faults(text, "Other"), QStringList({"1: the report is called \"Test\", but its file \"Other\""}));
+    EXPECT_EQ(Faults(text, "TEST"), QStringList());
 }
 
 TEST_F(TemplateCheckTest, TextThatWouldNotBePrintedIsAFault)
 {
-    EXPECT_EQ(Faults(Template(QStringLiteral("\nदूध\nलिटर <text>a</text>\n"))),
-        QStringList({QStringLiteral("4: \"दूध लिटर\" stands where no text is printed")}));
+    EXPECT_EQ(Faults(Template("\nदूध\nलिटर <text>a</text>\n")),
+        QStringList({"4: \"दूध लिटर\" stands where no text is printed"}));
     for (const char16_t* elements :
         {u"<table source=\"c\">दूध<col>a</col></table>", u"<columns><column>दूध</column></columns>",
             u"<columns>दूध<column/></columns>", u"<pairs><pair label=\"a\">b</pair>दूध</pairs>",
             u"<each source=\"c\">दूध</each>", u"<rule>दूध</rule>", u"<pageheader><![CDATA[दूध]]></pageheader>"})
-        EXPECT_EQ(
-            OnlyFault(QString::fromUtf16(elements)), QStringLiteral("\"दूध\" stands where no text is printed"))
+        EXPECT_EQ(OnlyFault(QString::fromUtf16(elements)), "\"दूध\" stands where no text is printed")
             << QString::fromUtf16(elements).toStdString();
-    EXPECT_EQ(Faults(Template(QStringLiteral("<!-- दूध --><table source=\"c\"> <!-- दूध -->\n<col>a</col>"
-                                             "</table>"))),
+    EXPECT_EQ(Faults(Template("<!-- दूध --><table source=\"c\"> <!-- दूध -->\n<col>a</col>"
+                              "</table>")),
         QStringList());
 }
 
 TEST_F(TemplateCheckTest, ABraceThatClosesNothingIsAFault)
 {
     const QString fault = QStringLiteral("a } closes nothing; as a sign it is written {'}'}");
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>a } b {MemberNo}</text>")), fault);
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{MemberNo}}</text>")), fault);
-    EXPECT_EQ(OnlyFault(QStringLiteral("<pairs><pair label=\"}\">a</pair></pairs>")), fault);
-    EXPECT_EQ(Faults(Template(QStringLiteral("<text>{'}'}{'{'}</text>"))), QStringList());
+    EXPECT_EQ(OnlyFault("<text>a } b {MemberNo}</text>"), fault);
+    EXPECT_EQ(OnlyFault("<text>{MemberNo}}</text>"), fault);
+    EXPECT_EQ(OnlyFault("<pairs><pair label=\"}\">a</pair></pairs>"), fault);
+    EXPECT_EQ(Faults(Template("<text>{'}'}{'{'}</text>")), QStringList());
 }
 
 TEST_F(TemplateCheckTest, EveryPartOfAnOrderIsAColumn)
@@ -165,13 +157,12 @@ TEST_F(TemplateCheckTest, EveryPartOfAnOrderIsAColumn)
         return OnlyFault(QStringLiteral("<source name=\"m\" table=\"MembersMaster\" order=\"%1\"/>")
                              .arg(QLatin1String(order)));
     };
-    EXPECT_EQ(fault("MemberNo,"), QStringLiteral("\"\" is no order"));
-    EXPECT_EQ(fault(",MemberNo desc"), QStringLiteral("\"\" is no order"));
-    EXPECT_EQ(fault("MemberNo,,City"), QStringLiteral("\"\" is no order"));
-    EXPECT_EQ(fault("MemberNo up"), QStringLiteral("\"MemberNo up\" is no order"));
-    EXPECT_EQ(
-        OnlyFault(QStringLiteral("<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo,\" to=\"c\"/>")),
-        QStringLiteral("the two sources don't share a column \"\""));
+    EXPECT_EQ(fault("MemberNo,"), "\"\" is no order");
+    EXPECT_EQ(fault(",MemberNo desc"), "\"\" is no order");
+    EXPECT_EQ(fault("MemberNo,,City"), "\"\" is no order");
+    EXPECT_EQ(fault("MemberNo up"), "\"MemberNo up\" is no order");
+    EXPECT_EQ(OnlyFault("<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo,\" to=\"c\"/>"),
+        "the two sources don't share a column \"\"");
 }
 
 TEST_F(TemplateCheckTest, RowsThatAreKeptCantBeChosenByARowThatMovesOn)
@@ -218,34 +209,27 @@ TEST_F(TemplateCheckTest, ASourceReadByItsFirstRowCantBeChosenByARowThatMovesOn)
         QStringList())
         << "its rows are chosen anew each time";
     EXPECT_EQ(OnlyFault(members + QStringLiteral("<each source=\"c\"><text>{m.City}</text></each>")),
-        QStringLiteral(
-            "the rows of \"m\" are chosen once and not for each row of \"c\", so its \"only\" "
-            "can't use c.MemberNo; use \"link\", or the \"only\" of the element that goes through the rows"));
+        "the rows of \"m\" are chosen once and not for each row of \"c\", so its \"only\" "
+        "can't use c.MemberNo; use \"link\", or the \"only\" of the element that goes through the rows");
 }
 
 TEST_F(TemplateCheckTest, KindsOfValuesMustSuit)
 {
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{CollectionDate|0.00}</text>")),
-        QStringLiteral("the format \"0.00\" needs a number"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{Liters|dd/MM/yyyy}</text>")),
-        QStringLiteral("the format \"dd/MM/yyyy\" needs a date"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{CollectionDate + 1}</text>")),
-        QStringLiteral("dates and conditions can't be added or multiplied"));
+    EXPECT_EQ(OnlyFault("<text>{CollectionDate|0.00}</text>"), "the format \"0.00\" needs a number");
+    EXPECT_EQ(OnlyFault("<text>{Liters|dd/MM/yyyy}</text>"), "the format \"dd/MM/yyyy\" needs a date");
+    EXPECT_EQ(
+        OnlyFault("<text>{CollectionDate + 1}</text>"), "dates and conditions can't be added or multiplied");
     const QString noText =
         QStringLiteral("texts can't be added or multiplied; words are written outside of the braces");
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{'रु. ' + Amount}</text>")), noText);
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{MemberName * 2}</text>")), noText);
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{-plain(MemberName)} {abs(Amount)}</text>")), noText);
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{sum(MemberName)} {count(MemberName)}</text>")),
-        QStringLiteral("a total needs numbers"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text if=\"Liters = 'दोन'\">a</text>")),
-        QStringLiteral("values of different kinds can't be compared"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text if=\"Liters\">a</text>")),
-        QStringLiteral("this must be a condition, such as Liters > 0"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{Liters = 2}</text>")),
-        QStringLiteral("a condition can't be printed; use if(…)"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{Liters|plain}</text>")),
-        QStringLiteral("\"Liters\" isn't a text, so it can't be \"plain\""));
+    EXPECT_EQ(OnlyFault("<text>{'रु. ' + Amount}</text>"), noText);
+    EXPECT_EQ(OnlyFault("<text>{MemberName * 2}</text>"), noText);
+    EXPECT_EQ(OnlyFault("<text>{-plain(MemberName)} {abs(Amount)}</text>"), noText);
+    EXPECT_EQ(OnlyFault("<text>{sum(MemberName)} {count(MemberName)}</text>"), "a total needs numbers");
+    EXPECT_EQ(
+        OnlyFault("<text if=\"Liters = 'दोन'\">a</text>"), "values of different kinds can't be compared");
+    EXPECT_EQ(OnlyFault("<text if=\"Liters\">a</text>"), "this must be a condition, such as Liters > 0");
+    EXPECT_EQ(OnlyFault("<text>{Liters = 2}</text>"), "a condition can't be printed; use if(…)");
+    EXPECT_EQ(OnlyFault("<text>{Liters|plain}</text>"), "\"Liters\" isn't a text, so it can't be \"plain\"");
 }
 
 TEST_F(TemplateCheckTest, AChoiceThatMayBeATextOrADateIsNotReckonedWith)
@@ -253,54 +237,46 @@ TEST_F(TemplateCheckTest, AChoiceThatMayBeATextOrADateIsNotReckonedWith)
     const QString noText =
         QStringLiteral("texts can't be added or multiplied; words are written outside of the braces");
     const QString noDate = QStringLiteral("dates and conditions can't be added or multiplied");
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{if(MemberNo = 1, 'x', Amount) * 2}</text>")), noText);
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{2 + if(MemberNo = 1, Amount, MemberName)}</text>")), noText);
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{abs(if(MemberNo = 1, '', if(Liters = 1, 1, 'x')))}</text>")),
-        noText);
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{sum(if(MemberNo = 1, 'x', Amount))}</text>")),
-        QStringLiteral("a total needs numbers"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text if=\"if(MemberNo = 1, 'x', Amount) = 2\">a</text>")),
-        QStringLiteral("values of different kinds can't be compared"));
-    EXPECT_EQ(
-        OnlyFault(QStringLiteral("<text>{if(MemberNo = 1, CollectionDate, Amount) * 2}</text>")), noDate);
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{if(MemberNo = 1, CollectionDate, 'x') * 2}</text>")), noDate);
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{if(MemberNo = 1, '', CollectionDate)|0.00}</text>")),
-        QStringLiteral("the format \"0.00\" needs a number"));
-    EXPECT_EQ(Faults(Template(QStringLiteral(
-                  "<text>{if(MemberNo = 1, '', Amount) * 2} "
-                  "{if(MemberNo = 1, '-', CollectionDate)|dd/MM/yyyy} "
-                  "{if(MemberNo = 1, '-', Amount)|0.00} {if(MemberNo = 1, 1, Amount)}</text>"))),
+    EXPECT_EQ(OnlyFault("<text>{if(MemberNo = 1, 'x', Amount) * 2}</text>"), noText);
+    EXPECT_EQ(OnlyFault("<text>{2 + if(MemberNo = 1, Amount, MemberName)}</text>"), noText);
+    EXPECT_EQ(OnlyFault("<text>{abs(if(MemberNo = 1, '', if(Liters = 1, 1, 'x')))}</text>"), noText);
+    EXPECT_EQ(OnlyFault("<text>{sum(if(MemberNo = 1, 'x', Amount))}</text>"), "a total needs numbers");
+    EXPECT_EQ(OnlyFault("<text if=\"if(MemberNo = 1, 'x', Amount) = 2\">a</text>"),
+        "values of different kinds can't be compared");
+    EXPECT_EQ(OnlyFault("<text>{if(MemberNo = 1, CollectionDate, Amount) * 2}</text>"), noDate);
+    EXPECT_EQ(OnlyFault("<text>{if(MemberNo = 1, CollectionDate, 'x') * 2}</text>"), noDate);
+    EXPECT_EQ(OnlyFault("<text>{if(MemberNo = 1, '', CollectionDate)|0.00}</text>"),
+        "the format \"0.00\" needs a number");
+    EXPECT_EQ(Faults(Template("<text>{if(MemberNo = 1, '', Amount) * 2} "
+                              "{if(MemberNo = 1, '-', CollectionDate)|dd/MM/yyyy} "
+                              "{if(MemberNo = 1, '-', Amount)|0.00} {if(MemberNo = 1, 1, Amount)}</text>")),
         QStringList())
         << "an empty text counts as 0, and a word may stand for what is printed";
 }
 
 TEST_F(TemplateCheckTest, TotalsStandOnlyWhereTheyAreKnown)
 {
-    EXPECT_EQ(OnlyFault(QStringLiteral("<table source=\"c\"><col>{sum(Liters)}</col></table>")),
-        QStringLiteral("a total can't be used here"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{running(Liters)}</text>")),
-        QStringLiteral("a running sum stands in a table's columns only"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<table source=\"c\"><col>{running(Liters by Fat)}</col></table>")),
-        QStringLiteral("no group of this table is by \"Fat\""));
-    EXPECT_EQ(OnlyFault(QStringLiteral(
-                  "<table source=\"c\"><col>a</col><col total=\"sum\">{Liters}</col></table>")),
-        QStringLiteral("the total is never printed: there is no <total> and no group's foot"));
-    EXPECT_EQ(OnlyFault(QStringLiteral(
-                  "<table source=\"c\"><col total=\"sum\">{Liters}</col><total label=\"a\"/></table>")),
-        QStringLiteral("the first column has a total, so there is no room for its label"));
-    EXPECT_EQ(OnlyFault(QStringLiteral(
-                  "<table source=\"c\"><col>a</col><col total=\"sum\">{Liters} ली.</col><total/></table>")),
-        QStringLiteral("total=\"sum\" needs a column of one {expression}"));
+    EXPECT_EQ(
+        OnlyFault("<table source=\"c\"><col>{sum(Liters)}</col></table>"), "a total can't be used here");
+    EXPECT_EQ(OnlyFault("<text>{running(Liters)}</text>"), "a running sum stands in a table's columns only");
+    EXPECT_EQ(OnlyFault("<table source=\"c\"><col>{running(Liters by Fat)}</col></table>"),
+        "no group of this table is by \"Fat\"");
+    EXPECT_EQ(OnlyFault("<table source=\"c\"><col>a</col><col total=\"sum\">{Liters}</col></table>"),
+        "the total is never printed: there is no <total> and no group's foot");
+    EXPECT_EQ(OnlyFault("<table source=\"c\"><col total=\"sum\">{Liters}</col><total label=\"a\"/></table>"),
+        "the first column has a total, so there is no room for its label");
+    EXPECT_EQ(
+        OnlyFault("<table source=\"c\"><col>a</col><col total=\"sum\">{Liters} ली.</col><total/></table>"),
+        "total=\"sum\" needs a column of one {expression}");
 }
 
 TEST_F(TemplateCheckTest, PageNumbersBelongToTheEdgesOfThePage)
 {
-    EXPECT_EQ(OnlyFault(QStringLiteral("<text>{#page}</text>")),
-        QStringLiteral("#page stands in a pageheader or a pagefooter only"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<pagefooter><text>{#pages + 1}</text></pagefooter>")),
-        QStringLiteral("#pages must be alone in its braces"));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<pageheader><table source=\"c\"><col>a</col></table></pageheader>")),
-        QStringLiteral("<table> isn't known here"));
+    EXPECT_EQ(OnlyFault("<text>{#page}</text>"), "#page stands in a pageheader or a pagefooter only");
+    EXPECT_EQ(OnlyFault("<pagefooter><text>{#pages + 1}</text></pagefooter>"),
+        "#pages must be alone in its braces");
+    EXPECT_EQ(OnlyFault("<pageheader><table source=\"c\"><col>a</col></table></pageheader>"),
+        "<table> isn't known here");
 }
 
 TEST_F(TemplateCheckTest, ASourceThatHangsOnAnotherIsWalkedWithinIt)
@@ -308,30 +284,28 @@ TEST_F(TemplateCheckTest, ASourceThatHangsOnAnotherIsWalkedWithinIt)
     const QString linked =
         QStringLiteral("<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\"/>");
     EXPECT_EQ(OnlyFault(linked + QStringLiteral("<table source=\"m\"><col>{City}</col></table>")),
-        QStringLiteral("the rows of \"m\" can be gone through only inside an <each> of \"c\""));
+        "the rows of \"m\" can be gone through only inside an <each> of \"c\"");
     EXPECT_EQ(
         Faults(Template(linked
             + QStringLiteral("<each source=\"c\"><table source=\"m\"><col>{City}</col></table></each>"))),
         QStringList());
-    EXPECT_EQ(
-        OnlyFault(QStringLiteral("<source name=\"m\" table=\"MembersMaster\" link=\"Liters\" to=\"c\"/>")),
-        QStringLiteral("the two sources don't share a column \"Liters\""));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<source name=\"c\" table=\"MembersMaster\"/>")),
-        QStringLiteral("there is a second source \"c\""));
-    EXPECT_EQ(OnlyFault(QStringLiteral("<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo\"/>")),
-        QStringLiteral("\"link\" and \"to\" go together"));
+    EXPECT_EQ(OnlyFault("<source name=\"m\" table=\"MembersMaster\" link=\"Liters\" to=\"c\"/>"),
+        "the two sources don't share a column \"Liters\"");
+    EXPECT_EQ(OnlyFault("<source name=\"c\" table=\"MembersMaster\"/>"), "there is a second source \"c\"");
+    EXPECT_EQ(OnlyFault("<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo\"/>"),
+        "\"link\" and \"to\" go together");
 }
 
 TEST_F(TemplateCheckTest, EveryPaperIsKnownByItsName)
 {
     for (const char16_t* paper : {u"A4", u"A5", u"A6", u"58mm", u"80mm", u"10x12in", u"105x148mm"}) {
         const QString attributes = QStringLiteral("paper=\"%1\" margin=\"3\"").arg(QString::fromUtf16(paper));
-        EXPECT_EQ(Faults(Template(QStringLiteral("<text>a</text>"), attributes)), QStringList());
+        EXPECT_EQ(Faults(Template("<text>a</text>", attributes)), QStringList());
     }
-    EXPECT_EQ(Faults(Template(QString(), QStringLiteral("paper=\"80mm\" landscape=\"1\""))),
-        QStringList({QStringLiteral("1: a roll can't lie on its side")}));
-    EXPECT_EQ(Faults(Template(QString(), QStringLiteral("paper=\"58mm\" margin=\"30\""))),
-        QStringList({QStringLiteral("1: the margins leave nothing of the paper")}));
+    EXPECT_EQ(Faults(Template(QString(), "paper=\"80mm\" landscape=\"1\"")),
+        QStringList({"1: a roll can't lie on its side"}));
+    EXPECT_EQ(Faults(Template(QString(), "paper=\"58mm\" margin=\"30\"")),
+        QStringList({"1: the margins leave nothing of the paper"}));
 }
 
 TEST_F(TemplateCheckTest, LettersOfAChartTakeASizeAndNoPlace)
@@ -342,7 +316,7 @@ TEST_F(TemplateCheckTest, LettersOfAChartTakeASizeAndNoPlace)
             .arg(QLatin1String(look));
     };
     EXPECT_EQ(Faults(Template(chart("size=\"7\""))), QStringList());
-    EXPECT_EQ(OnlyFault(chart("align=\"right\"")), QStringLiteral("<chart> has no attribute \"align\""));
+    EXPECT_EQ(OnlyFault(chart("align=\"right\"")), "<chart> has no attribute \"align\"");
 }
 
 TEST_F(TemplateCheckTest, ElementsStandInOneAnotherToADepthOnly)
@@ -352,13 +326,12 @@ TEST_F(TemplateCheckTest, ElementsStandInOneAnotherToADepthOnly)
             + QStringLiteral("</column></columns>").repeated(depth);
     };
     EXPECT_EQ(Faults(Template(nested(40))), QStringList());
-    EXPECT_EQ(OnlyFault(nested(41)), QStringLiteral("there are more than 40 elements around this one"));
-    EXPECT_EQ(OnlyFault(nested(20000)), QStringLiteral("there are more than 40 elements around this one"));
+    EXPECT_EQ(OnlyFault(nested(41)), "there are more than 40 elements around this one");
+    EXPECT_EQ(OnlyFault(nested(20000)), "there are more than 40 elements around this one");
 }
 
 TEST_F(TemplateCheckTest, RowsArentGroupedByACondition)
 {
-    EXPECT_EQ(OnlyFault(QStringLiteral(
-                  "<table source=\"c\"><col>{MemberNo}</col><group by=\"MemberNo &gt; 75\"/></table>")),
-        QStringLiteral("rows can't be grouped by a condition; use if(…)"));
+    EXPECT_EQ(OnlyFault("<table source=\"c\"><col>{MemberNo}</col><group by=\"MemberNo &gt; 75\"/></table>"),
+        "rows can't be grouped by a condition; use if(…)");
 }

@@ -17,7 +17,7 @@ void PrintTo(const QStringList& texts, std::ostream* out)
 
 TemplateTest::TemplateTest()
 {
-    connection->Create(File(QStringLiteral("books.mdb")), QStringLiteral("secret"));
+    connection->Create(File("books.mdb"), "secret");
     connection->RunScript(Delivered::Schema());
 }
 
@@ -48,7 +48,7 @@ QString TemplateTest::OnlyFault(const QString& elements)
 {
     const QStringList faults = Faults(Template(elements));
     EXPECT_EQ(faults.size(), 1) << faults.join(u'\n').toStdString();
-    return faults.value(0).section(QStringLiteral(": "), 1);
+    return faults.value(0).section(": ", 1);
 }
 
 QString TemplateTest::Write(const QString& name, const QString& text) const

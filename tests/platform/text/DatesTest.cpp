@@ -37,13 +37,13 @@ TEST(ToDateTest, ATextThatIsNoneIsATypeMismatch)
 {
     EXPECT_EQ(ToDate(u"29/02/2024"), QDate(2024, 2, 29));
     for (const QString& text :
-        {QString(), EmptyDateMask.toString(), QStringLiteral("31/02/2026"), QString(1000, u'7')}) {
+        QStringList{QString(), EmptyDateMask.toString(), "31/02/2026", QString(1000, u'7')}) {
         try {
             ToDate(text);
             FAIL() << qPrintable(text);
         } catch (const RunTimeError& error) {
             EXPECT_EQ(error.Number(), RunTimeError::TypeMismatch);
-            EXPECT_TRUE(error.Happened().contains(QStringLiteral("\nType mismatch")));
+            EXPECT_TRUE(error.Happened().contains("\nType mismatch"));
             EXPECT_TRUE(error.Happened().contains(text.left(60)));
             EXPECT_LT(error.Happened().size(), 150);
         }

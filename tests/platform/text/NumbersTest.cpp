@@ -65,17 +65,16 @@ TEST(ValTest, ANegativeZeroHasNoSign)
 
 TEST(ValTest, ANumberBeyondDoubleIsAnOverflow)
 {
-    for (const QString& text : {QString(400, u'9'), QStringLiteral("1e400"), QStringLiteral("-1e309"),
-             QString(QString(400, u'0') + QString(400, u'1')),
-             QStringLiteral("0.0001e999999999999999999999")}) {
+    for (const QString& text : QStringList{QString(400, u'9'), "1e400", "-1e309",
+             QString(QString(400, u'0') + QString(400, u'1')), "0.0001e999999999999999999999"}) {
         EXPECT_EQ(ErrorOf([&] { Val(text); }), RunTimeError::Overflow) << qPrintable(text);
     }
 }
 
 TEST(ValTest, ANumberTooSmallForDoubleIsZero)
 {
-    for (const QString& text : {QStringLiteral("1e-400"), QStringLiteral("-1e-99999999999999999999"),
-             QStringLiteral("0e999999"), QString(QStringLiteral("0.") + QString(400, u'0') + u'1'),
+    for (const QString& text : QStringList{"1e-400", "-1e-99999999999999999999", "0e999999",
+             QString(QStringLiteral("0.") + QString(400, u'0') + u'1'),
              QString(QString(400, u'0') + QStringLiteral(".") + QString(400, u'0') + QStringLiteral("5"))}) {
         EXPECT_EQ(Val(text), 0) << qPrintable(text);
     }
@@ -88,7 +87,7 @@ TEST(ValTest, TheErrorNamesTheValueButNotAllOfIt)
         Val(QString(400, u'7'));
         FAIL() << "no error";
     } catch (const RunTimeError& error) {
-        EXPECT_TRUE(error.Happened().contains(QStringLiteral("\nOverflow")));
+        EXPECT_TRUE(error.Happened().contains("\nOverflow"));
         EXPECT_TRUE(error.Happened().contains(QString(60, u'7')));
         EXPECT_FALSE(error.Happened().contains(QString(61, u'7')));
     }

@@ -4,7 +4,7 @@
 
 TEST(RunTimeErrorTest, TellsItsNumberAndWhatHappened)
 {
-    const RunTimeError error(RunTimeError::Overflow, QStringLiteral("Overflow: 99 is too large."));
+    const RunTimeError error(RunTimeError::Overflow, "Overflow: 99 is too large.");
     EXPECT_EQ(error.Number(), 6);
     EXPECT_EQ(error.Text(), u"Run-time error '6':\n\nOverflow: 99 is too large.");
     EXPECT_TRUE(error.Statement().isEmpty());
@@ -13,8 +13,8 @@ TEST(RunTimeErrorTest, TellsItsNumberAndWhatHappened)
 
 TEST(RunTimeErrorTest, NamesTheStatementThatFailed)
 {
-    const RunTimeError error(RunTimeError::DatabaseFailure, QStringLiteral("No such table: %1 %2"),
-        QStringLiteral("select * from Nowhere where Name='%1'"));
+    const RunTimeError error(
+        RunTimeError::DatabaseFailure, "No such table: %1 %2", "select * from Nowhere where Name='%1'");
     EXPECT_EQ(error.Text(),
         u"Run-time error '3146':\n\nNo such table: %1 %2\n\nselect * from Nowhere where Name='%1'");
 }

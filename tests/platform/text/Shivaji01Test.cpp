@@ -161,10 +161,7 @@ TEST(Shivaji01WordsTest, EveryReadingReadsBackFromItsCanonicalSpelling)
 TEST(Shivaji01WordsTest, TheCanonicalSpellingIsTheSystemsOwn)
 {
     // Two of its words the system itself spells in two ways.
-    const auto oneWay = [](QString stored) {
-        return stored.replace(QStringLiteral("Tašp"), QStringLiteral("Ta[-p"))
-            .replace(QStringLiteral("k`M"), QStringLiteral("ËM"));
-    };
+    const auto oneWay = [](QString stored) { return stored.replace("Tašp", "Ta[-p").replace("k`M", "ËM"); };
     std::size_t equal = 0;
     const std::vector<Row> rows = ReadRows(WordsFile);
     for (const Row& row : rows) {
@@ -281,13 +278,8 @@ TEST(Shivaji01Test, SyllablesRead)
 
 TEST(Shivaji01Test, VowelsRead)
 {
-    const Row vowels[] = {{QStringLiteral("A"), QStringLiteral("अ")},
-        {QStringLiteral("Aa"), QStringLiteral("आ")}, {QStringLiteral("["), QStringLiteral("इ")},
-        {QStringLiteral("[-"), QStringLiteral("ई")}, {QStringLiteral("]"), QStringLiteral("उ")},
-        {QStringLiteral("}"), QStringLiteral("ऊ")}, {QStringLiteral("?"), QStringLiteral("ऋ")},
-        {QStringLiteral("e"), QStringLiteral("ए")}, {QStringLiteral("eo"), QStringLiteral("ऐ")},
-        {QStringLiteral("Aao"), QStringLiteral("ओ")}, {QStringLiteral("AaO"), QStringLiteral("औ")},
-        {QStringLiteral("Aa^"), QStringLiteral("ऑ")}, {QStringLiteral("A^"), QStringLiteral("ॲ")}};
+    const Row vowels[] = {{"A", "अ"}, {"Aa", "आ"}, {"[", "इ"}, {"[-", "ई"}, {"]", "उ"}, {"}", "ऊ"},
+        {"?", "ऋ"}, {"e", "ए"}, {"eo", "ऐ"}, {"Aao", "ओ"}, {"AaO", "औ"}, {"Aa^", "ऑ"}, {"A^", "ॲ"}};
     for (const Row& vowel : vowels) {
         ExpectSpelling(vowel.first, vowel.second);
         ExpectSpelling(QString(vowel.first + u'M'), QString(vowel.second + u"ं"));
@@ -400,8 +392,8 @@ TEST(Shivaji01Test, AnyOrderOfDevanagariReadsBack)
         QString text;
         for (int length = std::uniform_int_distribution<int>(1, 8)(random); length > 0; --length)
             text += all[std::uniform_int_distribution<qsizetype>(0, all.size() - 1)(random)];
-        text.replace(QStringLiteral("र\u093C"), QStringLiteral("\u0931"));
-        text.replace(QStringLiteral("र्\u200D"), QStringLiteral("ऱ्"));
+        text.replace("र\u093C", "\u0931");
+        text.replace("र्\u200D", "ऱ्");
         ASSERT_EQ(Utf8(ToUnicode(FromUnicode(text))), Utf8(PutTogether(text))) << Utf8(FromUnicode(text));
     }
 }
@@ -414,9 +406,7 @@ TEST(Shivaji01PiecesTest, AreTheSyllablesSeen)
     QStringList parts;
     for (const Piece& piece : pieces)
         parts += seen.mid(piece.seenStart, piece.seenLength);
-    EXPECT_EQ(parts,
-        (QStringList{QStringLiteral("प्रिं"), QStringLiteral("ट"), QStringLiteral(" "), QStringLiteral("१"),
-            QStringLiteral("२"), QStringLiteral("/")}));
+    EXPECT_EQ(parts, (QStringList{"प्रिं", "ट", " ", "१", "२", "/"}));
     EXPECT_EQ(pieces[0].storedLength, 4);
     EXPECT_EQ(pieces[5].storedStart, 8);
 
