@@ -33,15 +33,14 @@ std::vector<DataGrid::Column> FoundColumns()
     };
 }
 
-// The template of a slip that is printed again. Two layouts have one of their own here, and the last two
-// none.
+// The template of a slip that is printed again; empty if it can't be.
 QString ReprintTemplate(QStringView receiptType)
 {
-    if (receiptType == u"Tašp 7" || receiptType == u"Tašp 8")
+    const ReceiptLayout layout = ReceiptLayoutOf(receiptType);
+    if (layout.reprint == ReceiptLayout::Reprint::None)
         return {};
-    const QStringView name = ReceiptLayoutOf(receiptType).sampleTemplate;
-    const QStringView folder = receiptType == u"Tašp 5" ? SiblingFolder : AppFolder;
-    return name.isEmpty() ? QString() : folder.toString() + name;
+    const bool isHere = layout.reprint == ReceiptLayout::Reprint::InAppFolder;
+    return (isHere ? AppFolder : SiblingFolder).toString() + layout.sampleTemplate;
 }
 
 }

@@ -17,14 +17,6 @@ QStringList YesNo()
     return {Word::Yes.toString(), Word::No.toString()};
 }
 
-QStringList ReceiptTypes()
-{
-    QStringList types;
-    for (int number = 1; number <= 8; ++number)
-        types.append(QStringLiteral("Tašp %1").arg(number));
-    return types;
-}
-
 QString SettingsQuery()
 {
     return Sql(u"select * from AutoSettings where CompanyId=", gAppState.gCompanyId);

@@ -1,8 +1,22 @@
 #include "utilities/frmAutoSettings.h"
 
 #include "platform/forms/Questions.h"
+#include "society/ReceiptLayouts.h"
 
 #include <QVBoxLayout>
+
+namespace {
+
+// The number and the name of each layout.
+QString GuideToReceipts()
+{
+    QStringList choices;
+    for (const QString& type : ReceiptTypes())
+        choices.append(QStringLiteral("%1–%2").arg(QString::number(choices.size() + 1), type));
+    return QStringLiteral("  ") + choices.join(QStringLiteral("   "));
+}
+
+}
 
 void frmAutoSettings::LayOut()
 {
@@ -69,8 +83,7 @@ void frmAutoSettings::SetGuides()
     ComboAutoLiters.SetGuide(Shivaji(u"  1– haoya  2– naahI "));
     ComboAutoFat.SetGuide(Shivaji(u"  1–haoya   2–naahI"));
     ComboPrintStatus.SetGuide(Shivaji(u"  1–saovh  2–saovh va sËIna  3–saovh va ip`MT"));
-    ComboReceipt.SetGuide(Shivaji(u"  1–Tašp 1   2–Tašp 2   3–Tašp 3   4–Tašp 4   5–Tašp 5   6–Tašp 6   "
-                                  u"7–Tašp 7   8–Tašp 8"));
+    ComboReceipt.SetGuide(Shivaji(GuideToReceipts()));
     ComboPaymentDuration.SetGuide(
         Shivaji(u"  1Á– 1 idvasa    2Á– 7 idvasa    3Á– 10 idvasa    4Á– 15 idvasa    5Á– 1 maihnaa"));
     ComboMSRPrintStatus.SetGuide(Shivaji(u"  1–saovh  2–saovh va sËIna  3–saovh va ip`MT"));

@@ -26,3 +26,19 @@ TEST(ReceiptLayoutsTest, AnUnknownTypeHasNone)
     EXPECT_TRUE(ReceiptLayoutOf(u"Tašp 9").type.isEmpty());
     EXPECT_TRUE(ReceiptLayoutOf(u"").counterTemplate.isEmpty());
 }
+
+TEST(ReceiptLayoutsTest, TheSettingsOfferTheEightInTheirOrder)
+{
+    EXPECT_EQ(
+        ReceiptTypes().join(u','), QStringLiteral("Tašp 1,Tašp 2,Tašp 3,Tašp 4,Tašp 5,Tašp 6,Tašp 7,Tašp 8"));
+}
+
+TEST(ReceiptLayoutsTest, ASlipIsPrintedAgainFromTheFolderOfItsTemplateOrNotAtAll)
+{
+    using Reprint = ReceiptLayout::Reprint;
+    for (const QStringView type : {u"Tašp 1", u"Tašp 2", u"Tašp 3", u"Tašp 4", u"Tašp 6"})
+        EXPECT_EQ(ReceiptLayoutOf(type).reprint, Reprint::InAppFolder);
+    EXPECT_EQ(ReceiptLayoutOf(u"Tašp 5").reprint, Reprint::InSiblingFolder);
+    for (const QStringView type : {u"Tašp 7", u"Tašp 8", u"Tašp 9"})
+        EXPECT_EQ(ReceiptLayoutOf(type).reprint, Reprint::None);
+}

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/menu/Keys.h"
-#include "core/preview/ReportPreviewPage.h"
+#include "core/preview/ReportPageView.h"
 #include "platform/forms/Screen.h"
 #include "platform/forms/TextField.h"
 

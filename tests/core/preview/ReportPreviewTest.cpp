@@ -1,7 +1,7 @@
 #include "tests/core/preview/ReportPreviewTest.h"
 
 #include "core/menu/Keys.h"
-#include "core/preview/ReportPreviewPage.h"
+#include "core/preview/ReportPageView.h"
 #include "platform/forms/Look.h"
 #include "platform/text/Shivaji01.h"
 #include "tests/core/ScreenFace.h"

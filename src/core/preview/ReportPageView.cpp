@@ -1,4 +1,4 @@
-#include "core/preview/ReportPreviewPage.h"
+#include "core/preview/ReportPageView.h"
 
 #include "platform/forms/Look.h"
 
