@@ -7,6 +7,7 @@
 #include "collection/frmSearchCollections.h"
 #include "core/menu/Keys.h"
 #include "core/menu/ScreenDirectory.h"
+#include "masters/frmCustomers.h"
 #include "masters/frmMembers.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
@@ -29,6 +30,7 @@ template <class S> void Register()
 void RegisterScreens()
 {
     Register<frmMembers>();
+    Register<frmCustomers>();
     Register<frmMilkCollections>();
     Register<frmCollectionGate>();
     Register<frmDailyCollection>();
