@@ -8,6 +8,7 @@
 #include "core/menu/ScreenDirectory.h"
 #include "core/preview/ReportPreview.h"
 #include "core/preview/ReportPreviewDialogs.h"
+#include "masters/frmCustomers.h"
 #include "masters/frmMembers.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
@@ -30,6 +31,7 @@ template <class S> void Register()
 void RegisterScreens()
 {
     Register<frmMembers>();
+    Register<frmCustomers>();
     Register<frmMilkCollections>();
     Register<frmCollectionGate>();
     Register<frmDailyCollection>();

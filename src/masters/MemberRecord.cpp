@@ -30,20 +30,6 @@ MemberRecord::MemberRecord(const Recordset& row)
 {
 }
 
-Recordset MemberRecord::RowOf(double memberNo)
-{
-    Recordset row(gCn, QStringLiteral("SELECT * FROM MembersMaster"));
-    while (!row.Eof() && row[u"MemberNo"].Number() != memberNo)
-        row.MoveNext();
-    return row;
-}
-
-int MemberRecord::NextNo()
-{
-    const Recordset last(gCn, u"SELECT max(MemberNo) as MaxMemberNo FROM MembersMaster");
-    return ToInt16(last.Eof() ? 1 : last[u"MaxMemberNo"].Number() + 1);
-}
-
 void MemberRecord::Insert() const
 {
     gCn.Execute(Sql(

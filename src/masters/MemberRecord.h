@@ -38,12 +38,6 @@ struct MemberRecord {
     // From a row of MembersMaster; Null is an empty text, or 0.
     explicit MemberRecord(const Recordset& row);
 
-    // Stands on the row of a number, in any company; at the end if there is none.
-    static Recordset RowOf(double memberNo);
-
-    // One more than the highest number of all companies. Beyond 32767 it is an overflow error.
-    static int NextNo();
-
     // Adds the row to the selected company, or changes its row of this number.
     void Insert() const;
     void Update() const;

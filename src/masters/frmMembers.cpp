@@ -1,44 +1,34 @@
 #include "masters/frmMembers.h"
 
-#include "core/messages/Messages.h"
-#include "core/state/AppState.h"
-#include "platform/database/Transaction.h"
-#include "society/FieldRoutines.h"
-#include "society/Names.h"
-#include "society/Queries.h"
-#include "society/Words.h"
-
-#include <cmath>
-
 namespace {
 
-constexpr QStringView IdleTitle = u" ]%padkacao maasTr";
-
-QString Trimmed(const Field& field)
-{
-    return field.Text().trimmed();
-}
+constexpr MasterKind MembersKind{
+    .people = People::Members,
+    .title = u" ]%padkacao maasTr",
+    .numberWanted = u"maombar naMbar vyavaisqat Ta[-p kra",
+    .numberTaken = u"yaa maombar naMbarcao roka^D- Agaaodrca Aaho",
+    .numberUnknown = u"yaa maombar naMbarcao roka^D- ]plabQa naahI",
+    .nameWanted = u"maombarcao naaMva vyavaisqat Ta[-p kra",
+    .deleteQuestion = u"maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ",
+};
 
 }
 
 Keys::Places frmMembers::KeyPlaces()
 {
-    using namespace KeyHints;
-    return {
-        {QStringLiteral("frmMembers"), Shivaji(u"]%padkacao rijasTr"),
-            {Next, Back, Leave, TutorKey(), New, Modify, Delete, Save, Cancel, ExitButton, OneOfThree,
-                ListOfNames}},
-    };
+    return {{QStringLiteral("frmMembers"), Shivaji(u"]%padkacao rijasTr"), MasterKeys()}};
 }
 
 frmMembers::frmMembers()
-    : SocietyScreen(KeyPlaces(), Shivaji(IdleTitle))
-    , Modes(*this, IdleTitle, {cmdNew, cmdModify, cmdDelete, cmdCancel, cmdExit})
+    : MasterScreen(KeyPlaces(), MembersKind, {txtMemberNo, ComboMemberName, txtAnimal, Modes})
+    , Modes(*this, MembersKind.title, {cmdNew, cmdModify, cmdDelete, cmdCancel, cmdExit})
 {
     Modes.SetFields({&txtMemberNo, &ComboMemberName},
         {&txtAddress, &ComboCity, &txtAnimal, &txtPaymentType, &ComboBankName, &txtBankAccountNo,
             &txtOpeningBalance, &txtOpeningDorC, &txtCowOpeningLits, &txtBuffOpeningLits, &txtOpeningUchal,
             &txtCowOpeningThev, &txtBuffOpeningThev});
+    SetRequired({&ComboMemberName, &txtAnimal, &txtPaymentType});
+    SetFigures({&txtCowOpeningLits, &txtCowOpeningThev}, {&txtBuffOpeningLits, &txtBuffOpeningThev});
     for (Control* shown :
         std::initializer_list<Control*>{&txtClosingBalance, &txtClosingDorC, &txtCowClosingLits,
             &txtBuffClosingLits, &txtClosingUchal, &txtCowClosingThev, &txtBuffClosingThev})
@@ -49,21 +39,14 @@ frmMembers::frmMembers()
 void frmMembers::Load()
 {
     SetGuides();
-    LoadLists();
-    ShowIdle();
-}
-
-void frmMembers::Escape()
-{
-    ClearFields();
-    Close();
+    MasterScreen::Load();
 }
 
 // The record and its fields
 
 void frmMembers::LoadLists()
 {
-    FillCombo(ComboMemberName, u"MembersMaster", u"MemberName", u"order by MemberName");
+    MasterScreen::LoadLists();
     Cities.Load();
     Banks.Load();
 }
@@ -72,8 +55,6 @@ void frmMembers::LoadRecord(const Recordset& row)
 {
     Loaded = MemberRecord(row);
     Show(Loaded);
-    if (Modes.IsModify())
-        EnableFiguresOfAnimal();
 }
 
 void frmMembers::Show(const MemberRecord& member)
@@ -142,181 +123,24 @@ void frmMembers::ClearFields()
     ComboMemberName.Clear();
 }
 
-bool frmMembers::AreRequiredFieldsFilled()
+void frmMembers::InsertRecord()
 {
-    if (MemberNo() == 0) {
-        Hold(txtMemberNo);
-        return false;
-    }
-    for (Field* field : std::initializer_list<Field*>{&ComboMemberName, &txtAnimal, &txtPaymentType}) {
-        if (Trimmed(*field).isEmpty()) {
-            Hold(*field);
-            return false;
-        }
-    }
-    return true;
-}
-
-// Modes
-
-// At rest there is nothing to cancel, and without a member nothing to change or delete.
-void frmMembers::ShowIdle()
-{
-    Modes.Rest();
-    cmdCancel.SetEnabled(false);
-    const bool hasMembers = Finds(QStringLiteral("SELECT * FROM MembersMaster"));
-    for (Button* button : {&cmdModify, &cmdDelete})
-        button->SetEnabled(hasMembers);
-    ClearFields();
-}
-
-// The focus goes to the button of the mode that was open, so that Enter begins the next record.
-void frmMembers::ReturnToIdle()
-{
-    Button& mode = Modes.Open();
-    ShowIdle();
-    LoadLists();
-    (mode.CanTakeFocus() ? mode : cmdNew).SetFocus();
-}
-
-void frmMembers::cmdNew_Click()
-{
-    if (Modes.IsNew()) {
-        SaveNew();
-        return;
-    }
-    const int next = MemberRecord::NextNo();
-    Modes.EnterNew();
-    ClearFields();
-    txtMemberNo.Show(next);
-    txtMemberNo.SetFocus();
-}
-
-void frmMembers::SaveNew()
-{
-    if (!AreRequiredFieldsFilled())
-        return;
-    ComputeClosingBalance();
-    Transaction saving(gCn);
     Entered().Insert();
-    saving.Commit();
-    ReturnToIdle();
 }
 
-void frmMembers::cmdModify_Click()
+void frmMembers::UpdateRecord()
 {
-    if (Modes.IsModify()) {
-        SaveModified();
-        return;
-    }
-    Modes.EnterModify();
-    ClearFields();
-    txtMemberNo.SetFocus();
+    const MemberRecord changed = Entered();
+    changed.Update();
+    changed.RenameEverywhere(Loaded.memberName);
 }
 
-void frmMembers::SaveModified()
+void frmMembers::DeleteRecord()
 {
-    if (!AreRequiredFieldsFilled())
-        return;
-    if (Ask(Shivaji(u"roka^D- na@kI badlaayacao ka Æ"))) {
-        ComputeClosingBalance();
-        const MemberRecord changed = Entered();
-        Transaction saving(gCn);
-        changed.Update();
-        changed.RenameEverywhere(Loaded.memberName);
-        saving.Commit();
-    }
-    ReturnToIdle();
-}
-
-void frmMembers::cmdDelete_Click()
-{
-    if (Modes.IsDelete()) {
-        DeleteFound();
-        return;
-    }
-    Modes.EnterDelete();
-    ClearFields();
-    txtMemberNo.SetFocus();
-}
-
-void frmMembers::DeleteFound()
-{
-    if (MemberNo() == 0) {
-        Hold(txtMemberNo);
-        return;
-    }
-    if (Ask(Shivaji(u"maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ"),
-            OnEnter::No)) {
-        Transaction deleting(gCn);
-        MemberRecord::DeleteEverywhere(MemberNo(), Loaded.memberName);
-        deleting.Commit();
-    }
-    ReturnToIdle();
-}
-
-void frmMembers::cmdCancel_Click()
-{
-    ReturnToIdle();
+    MemberRecord::DeleteEverywhere(MemberNo(), Loaded.memberName);
 }
 
 // Leaving the fields
-
-void frmMembers::Refuse(Field& field, QStringView message)
-{
-    ShowNotice(Shivaji(message));
-    Hold(field);
-}
-
-// The guide line adds which key gives up the record.
-void frmMembers::Hold(Field& field)
-{
-    field.SetFocus(Plain(QString(field.Guide().Seen().trimmed() + QStringLiteral("    Alt+R : रद्द"))));
-}
-
-void frmMembers::txtMemberNo_LostFocus()
-{
-    if (Modes.IsNew() && !txtMemberNo.HoldsNumber()) {
-        Refuse(txtMemberNo, u"maombar naMbar vyavaisqat Ta[-p kra");
-        return;
-    }
-    if (txtMemberNo.IsEmpty())
-        return; // the name will tell the member
-    const Recordset member = MemberRecord::RowOf(MemberNo());
-    if (Modes.IsNew()) {
-        if (!member.Eof())
-            Refuse(txtMemberNo, u"yaa maombar naMbarcao roka^D- Agaaodrca Aaho");
-    } else if (member.Eof()) {
-        Refuse(txtMemberNo, u"yaa maombar naMbarcao roka^D- ]plabQa naahI");
-    } else {
-        LoadRecord(member);
-        if (Modes.IsDelete() && !IsSteppingBack())
-            cmdDelete.SetFocus();
-    }
-}
-
-void frmMembers::ComboMemberName_LostFocus()
-{
-    const QString name = ComboMemberName.Text().trimmed();
-    if (name.isEmpty()) {
-        Refuse(ComboMemberName, u"maombarcao naaMva vyavaisqat Ta[-p kra");
-        return;
-    }
-    const Recordset member =
-        Modes.IsNew() ? MemberOfName(ComboMemberName) : MemberOfName(ComboMemberName, MemberNo());
-    if (member.Eof()) {
-        if (!Modes.IsNew() && txtMemberNo.IsEmpty())
-            Hold(ComboMemberName);
-    } else if (Modes.IsNew()) {
-        Refuse(ComboMemberName, u"yaa naavaacao roka^D- Agaaodrca Aaho");
-    } else if (Modes.IsDelete()) {
-        LoadRecord(member);
-        if (!IsSteppingBack())
-            cmdDelete.SetFocus();
-    } else if (member[u"MemberNo"].Number() != MemberNo()) {
-        LoadRecord(member);
-    }
-}
 
 void frmMembers::ComboCity_LostFocus()
 {
@@ -328,24 +152,6 @@ void frmMembers::ComboBankName_LostFocus()
 {
     if (!Banks.TakeIn())
         Hold(ComboBankName);
-}
-
-void frmMembers::txtAnimal_LostFocus()
-{
-    if (txtAnimal.IsEmpty())
-        Hold(txtAnimal);
-    else
-        EnableFiguresOfAnimal();
-}
-
-void frmMembers::EnableFiguresOfAnimal()
-{
-    const bool cow = txtAnimal.Text() != Word::Buffalo;
-    const bool buffalo = txtAnimal.Text() != Word::Cow;
-    for (NumberField* field : std::initializer_list<NumberField*>{&txtCowOpeningLits, &txtCowOpeningThev})
-        field->SetEnabled(cow);
-    for (NumberField* field : std::initializer_list<NumberField*>{&txtBuffOpeningLits, &txtBuffOpeningThev})
-        field->SetEnabled(buffalo);
 }
 
 void frmMembers::txtPaymentType_LostFocus()
@@ -391,10 +197,10 @@ void frmMembers::txtOpeningDorC_LostFocus()
 {
     if (txtOpeningDorC.IsEmpty())
         txtOpeningDorC.SetText(Direction::Payable.toString());
-    ComputeClosingBalance();
+    ComputeClosing();
 }
 
-void frmMembers::ComputeClosingBalance()
+void frmMembers::ComputeClosing()
 {
     const MemberClosing::Balance closing =
         MemberClosing::BalanceOf(MemberNo(), txtOpeningBalance.Value(), txtOpeningDorC.Text());
@@ -405,13 +211,13 @@ void frmMembers::ComputeClosingBalance()
 void frmMembers::txtCowOpeningLits_LostFocus()
 {
     const double opening = txtCowOpeningLits.Reformat();
-    txtCowClosingLits.Show(std::abs(Loaded.cowClosingLits) - Loaded.cowOpeningLits + opening);
+    txtCowClosingLits.Show(ClosingLits(Loaded.cowClosingLits, Loaded.cowOpeningLits, opening));
 }
 
 void frmMembers::txtBuffOpeningLits_LostFocus()
 {
     const double opening = txtBuffOpeningLits.Reformat();
-    txtBuffClosingLits.Show(std::abs(Loaded.buffClosingLits) - Loaded.buffOpeningLits + opening);
+    txtBuffClosingLits.Show(ClosingLits(Loaded.buffClosingLits, Loaded.buffOpeningLits, opening));
 }
 
 void frmMembers::txtOpeningUchal_LostFocus()
@@ -433,10 +239,4 @@ void frmMembers::txtBuffOpeningThev_LostFocus()
     const double opening = txtBuffOpeningThev.Reformat();
     txtBuffClosingThev.Show(MemberClosing::ThevOf(MemberNo(), opening, Word::BuffThev));
     ToSaveButton();
-}
-
-void frmMembers::ToSaveButton()
-{
-    if (!IsSteppingBack())
-        (Modes.IsNew() ? cmdNew : cmdModify).SetFocus();
 }

@@ -1,30 +1,23 @@
 #pragma once
 
 #include "masters/GrowingList.h"
+#include "masters/MasterScreen.h"
 #include "masters/MemberRecord.h"
 #include "platform/forms/Button.h"
-#include "platform/forms/NameCombo.h"
-#include "society/Fields.h"
-#include "society/RecordModes.h"
-#include "society/SocietyScreen.h"
 
 // The members of the society: who they are, how they are paid, and their figures at the opening and now.
-class frmMembers final : public SocietyScreen {
+class frmMembers final : public MasterScreen {
 public:
     frmMembers();
 
     static Keys::Places KeyPlaces();
 
-protected:
-    void Load() override;
-    void Escape() override;
-
 private:
     Label lblBankName{this, "lblBankName", Shivaji(u"ba^nkocao naava")};
     Label lblBankAccountNo{this, "lblBankAccountNo", Shivaji(u"ba^nk Kato naMbar")};
 
-    WholeField txtMemberNo{this, "txtMemberNo", &frmMembers::txtMemberNo_LostFocus};
-    NameCombo ComboMemberName{this, "ComboMemberName", &frmMembers::ComboMemberName_LostFocus};
+    WholeField txtMemberNo{this, "txtMemberNo", &frmMembers::Number_LostFocus};
+    NameCombo ComboMemberName{this, "ComboMemberName", &frmMembers::Name_LostFocus};
     TextField txtAddress{this, "txtAddress"};
     NameCombo ComboCity{this, "ComboCity", &frmMembers::ComboCity_LostFocus};
     ChoiceField txtAnimal{this, "txtAnimal", ChoicesOf({Word::Cow, Word::Buffalo, Word::Both}),
@@ -70,31 +63,18 @@ private:
 
     // The record and its fields
     double MemberNo() const { return txtMemberNo.Value(); }
-    void LoadLists();
-    void LoadRecord(const Recordset& row);
+    void Load() override;
+    void LoadLists() override;
+    void LoadRecord(const Recordset& row) override;
     void Show(const MemberRecord& member);
     MemberRecord Entered() const;
-    void ClearFields();
-    bool AreRequiredFieldsFilled();
-
-    // Modes
-    void ShowIdle();
-    void ReturnToIdle();
-
-    void cmdNew_Click();
-    void cmdModify_Click();
-    void cmdDelete_Click();
-    void cmdCancel_Click();
-
-    void SaveNew();
-    void SaveModified();
-    void DeleteFound();
+    void ClearFields() override;
+    void InsertRecord() override;
+    void UpdateRecord() override;
+    void DeleteRecord() override;
 
     // Leaving the fields
-    void txtMemberNo_LostFocus();
-    void ComboMemberName_LostFocus();
     void ComboCity_LostFocus();
-    void txtAnimal_LostFocus();
     void txtPaymentType_LostFocus();
     void ComboBankName_LostFocus();
     void txtBankAccountNo_LostFocus();
@@ -106,11 +86,7 @@ private:
     void txtCowOpeningThev_LostFocus();
     void txtBuffOpeningThev_LostFocus();
 
-    void Refuse(Field& field, QStringView message);
-    void Hold(Field& field);
     bool IsAccountNoMissing() const;
-    void EnableFiguresOfAnimal();
     void ShowBankFields(bool shown);
-    void ComputeClosingBalance();
-    void ToSaveButton();
+    void ComputeClosing() override;
 };

@@ -5,15 +5,17 @@
 #include "platform/forms/DateField.h"
 #include "platform/forms/ModalStack.h"
 #include "platform/forms/NameCombo.h"
+#include "society/Names.h"
 
 namespace {
 
 // The column with the numbers that the clerk knows the names of a table by; empty if there is none.
 QStringView NumberColumn(QStringView tableName)
 {
-    if (tableName == u"MembersMaster")
-        return u"MemberNo";
-    return tableName == u"CustomersMaster" ? QStringView(u"CustomerNo") : QStringView();
+    for (const PeopleTable& people : {People::Members, People::Customers})
+        if (tableName == people.table)
+            return people.number;
+    return {};
 }
 
 }

@@ -18,21 +18,26 @@ template <typename Test> Recordset FirstRow(Recordset row, Test isIt)
     return row;
 }
 
-// The member with this number, provided that the name in the list is theirs and no other row was picked.
-Recordset MemberNumbered(const NameCombo& list, double number)
+// The person with this number, provided that the name in the list is theirs and no other row was picked.
+Recordset PersonNumbered(const PeopleTable& people, const NameCombo& list, double number)
 {
     const QString name = list.Text().trimmed();
-    return FirstRow(MemberOfNumber(number), [&](const Recordset& row) {
-        return !name.isEmpty() && row[u"MemberName"].Text().trimmed() == name
-            && list.MayMean(row[u"MemberNo"].Text());
+    return FirstRow(PersonOfNumber(people, number), [&](const Recordset& row) {
+        return !name.isEmpty() && row[people.name].Text().trimmed() == name
+            && list.MayMean(row[people.number].Text());
     });
 }
 
 }
 
+Recordset PersonOfNumber(const PeopleTable& people, double number)
+{
+    return {gCn, Sql(u"SELECT * FROM ", people.table, u" where ", people.number, u"=", number)};
+}
+
 Recordset MemberOfNumber(double number)
 {
-    return {gCn, Sql(u"SELECT * FROM MembersMaster where MemberNo=", number)};
+    return PersonOfNumber(People::Members, number);
 }
 
 Recordset RowOfName(const QString& query, QStringView column, const QString& name, const IsMeant& isMeant)
@@ -50,6 +55,18 @@ Recordset RowOfName(const QString& query, QStringView column, const QString& nam
     return found;
 }
 
+Recordset PersonOfName(const PeopleTable& people, const NameCombo& list)
+{
+    return RowOfName(Sql(u"SELECT * FROM ", people.table), people.name, list.Text(),
+        [&](const Recordset& row) { return list.MayMean(row[people.number].Text()); });
+}
+
+Recordset PersonOfName(const PeopleTable& people, const NameCombo& list, double number)
+{
+    Recordset numbered = PersonNumbered(people, list, number);
+    return numbered.Eof() ? PersonOfName(people, list) : std::move(numbered);
+}
+
 Recordset MemberOfName(const QString& name)
 {
     return RowOfName(QStringLiteral("SELECT * FROM MembersMaster"), u"MemberName", name);
@@ -57,19 +74,17 @@ Recordset MemberOfName(const QString& name)
 
 Recordset MemberOfName(const NameCombo& list)
 {
-    return RowOfName(QStringLiteral("SELECT * FROM MembersMaster"), u"MemberName", list.Text(),
-        [&](const Recordset& row) { return list.MayMean(row[u"MemberNo"].Text()); });
+    return PersonOfName(People::Members, list);
 }
 
 Recordset MemberOfName(const NameCombo& list, double number)
 {
-    Recordset numbered = MemberNumbered(list, number);
-    return numbered.Eof() ? MemberOfName(list) : std::move(numbered);
+    return PersonOfName(People::Members, list, number);
 }
 
 bool IsNameOf(const NameCombo& list, double number)
 {
-    return !MemberNumbered(list, number).Eof();
+    return !PersonNumbered(People::Members, list, number).Eof();
 }
 
 void ShowMember(NameCombo& list, const Recordset& row)

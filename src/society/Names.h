@@ -8,7 +8,22 @@
 // Look-ups by number and by name. Spellings that read the same are the same name to the clerk; statements
 // need the spelling that is stored.
 
-// The member with this number, in any company; at the end if there is none.
+// A table of people, whom the clerk knows by number and by name, with the columns of both.
+struct PeopleTable {
+    QStringView table;
+    QStringView number;
+    QStringView name;
+};
+
+namespace People {
+
+inline constexpr PeopleTable Members{u"MembersMaster", u"MemberNo", u"MemberName"};
+inline constexpr PeopleTable Customers{u"CustomersMaster", u"CustomerNo", u"CustomerName"};
+
+}
+
+// The person with this number, in any company; at the end if there is none.
+Recordset PersonOfNumber(const PeopleTable& people, double number);
 Recordset MemberOfNumber(double number);
 
 // Picks one among several rows of the same name.
@@ -19,14 +34,17 @@ using IsMeant = std::function<bool(const Recordset& row)>;
 Recordset RowOfName(
     const QString& query, QStringView column, const QString& name, const IsMeant& isMeant = {});
 
-// The member of a name, in any company.
-Recordset MemberOfName(const QString& name);
-
-// The member in the field of a list of names. Of several with one name, the one whose row was picked.
-Recordset MemberOfName(const NameCombo& list);
+// The person in the field of a list of names, in any company. Of several with one name, the one whose row was
+// picked.
+Recordset PersonOfName(const PeopleTable& people, const NameCombo& list);
 
 // The same, with a field for the number beside the list: as long as the name fits that number, it means that
-// member and not another of the same name.
+// person and not another of the same name.
+Recordset PersonOfName(const PeopleTable& people, const NameCombo& list, double number);
+
+// The same for members; the first takes any name.
+Recordset MemberOfName(const QString& name);
+Recordset MemberOfName(const NameCombo& list);
 Recordset MemberOfName(const NameCombo& list, double number);
 
 // Whether the name in the field fits the number.

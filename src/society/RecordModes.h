@@ -41,6 +41,8 @@ public:
     // The button of the open mode; at rest, the one of a new record.
     Button& Open() const;
 
+    const Buttons& All() const { return m_buttons; }
+
 private:
     void Enter(Button& button, QStringView caption, QStringView title);
 

@@ -107,6 +107,10 @@ void FillBooks()
     InsertMember(2, QStringLiteral("saIta"), QStringLiteral("mhOsa"));
     InsertMember(3, QStringLiteral("gaNaoSa"), QStringLiteral("daonhI"));
     InsertDeliveries();
+    Execute(
+        "insert into CustomersMaster(CompanyId,CustomerNo,CustomerName,Animal,CustomerType,CowOpeningLits,"
+        "CowClosingLits,BuffOpeningLits,BuffClosingLits) "
+        "values(1,1,'ha^Tola','daonhI','sqaainak ivaËI',1000,123456.75,500.5,98765.25)");
     Execute("update AutoSettings set PurchaseEntry='Collection'");
     Execute("insert into "
             "MilkPayments(CompanyId,FromDate,ToDate,PaymentDate,TranId,MemberNo,MemberName,NetAmount) "

@@ -199,17 +199,15 @@ TEST_F(BooksKeptTest, TheEnginesLockStandsAfterEachSlipPreviewFileAndScreen)
 TEST_F(BooksKeptTest, TheEnginesLockStandsAfterEveryScreen)
 {
     gAppState.gAppDate = QDate(2026, 4, 15);
-    for (const char* name : {"frmMembers", "frmCollectionGate", "frmMilkCollections", "frmDailyCollection",
-             "frmSearchCollections", "frmAbsenseMemberCollection", "frmAutoSettings", "frmReportMilkPS",
-             "frmReportMilkCollections", "frmReportMembersList", "frmReportPaymentList"}) {
-        const QString screen = QString::fromLatin1(name);
+    ASSERT_FALSE(ScreenDirectory::Names().isEmpty());
+    for (const QString& screen : ScreenDirectory::Names()) {
         Failure = TheClerk.Play([&] { ScreenDirectory::Open(screen, Plain(screen)); },
             [&](Clerk& clerk) {
                 EXPECT_EQ(clerk.ScreenName(), screen);
                 Type(clerk, "{ENTER}{ESC}");
             });
-        EXPECT_FALSE(Failure) << name;
-        EXPECT_TRUE(IsLocked()) << name;
+        EXPECT_FALSE(Failure) << screen.toStdString();
+        EXPECT_TRUE(IsLocked()) << screen.toStdString();
     }
 }
 

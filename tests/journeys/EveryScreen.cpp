@@ -70,6 +70,10 @@ std::vector<ScreenState> All()
         ByName("frmMembers", "%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}2{ENTER}"),
         ByName("frmMembers", "%d3{ENTER}"),
         ByName("frmMembers", "%k1{ENTER}"),
+        ByName("frmCustomers", ""),
+        ByName("frmCustomers", "%n{ENTER}gaIta{ENTER}3{ENTER}2{ENTER}"),
+        ByName("frmCustomers", "%d1{ENTER}"),
+        ByName("frmCustomers", "%k1{ENTER}"),
         ByName("frmMilkCollections", line),
         ByName(
             "frmMilkCollections", "{ENTER}1{ENTER}{ENTER}3{F7}14042026{ENTER}15042026{ENTER}3{ENTER}{ENTER}"),

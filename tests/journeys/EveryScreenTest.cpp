@@ -6,6 +6,7 @@
 #include "tests/support/FakePrinter.h"
 
 #include "core/menu/Keys.h"
+#include "core/menu/MainMenu.h"
 #include "core/menu/ScreenDirectory.h"
 #include "core/preview/ReportHandover.h"
 #include "platform/forms/Button.h"
@@ -162,6 +163,32 @@ TEST_P(EveryScreenTest, TheKeysOfItsFixedWordsAreNamed)
     });
 }
 
+// Whether the list has them all
+
+using ListOfScreensTest = ProgramTest;
+
+TEST_F(ListOfScreensTest, EveryScreenOfTheProgramIsOnIt)
+{
+    const std::vector<ScreenState>& states = EveryScreen();
+    ASSERT_FALSE(ScreenDirectory::Names().isEmpty());
+    for (const QString& screen : ScreenDirectory::Names())
+        EXPECT_TRUE(std::any_of(states.begin(), states.end(),
+            [&screen](const ScreenState& state) { return state.screen == screen; }))
+            << screen.toStdString() << ": its states are missing in tests/journeys/EveryScreen.cpp";
+}
+
+TEST_F(ListOfScreensTest, TheMenuOpensTheCustomersBelowTheMembers)
+{
+    for (const auto& [keys, screen] : {std::pair("15042026{ENTER}{ENTER}{ENTER}{ENTER}", "frmMembers"),
+             std::pair("15042026{ENTER}{ENTER}{ENTER}{DOWN}{ENTER}", "frmCustomers")}) {
+        On<MainMenuFrm>([keys = keys, screen = screen](Clerk& clerk) {
+            Type(clerk, keys);
+            EXPECT_EQ(OnTop(clerk), screen);
+        });
+        EXPECT_FALSE(Failure) << screen;
+    }
+}
+
 // Where a field keeps the focus without a message
 
 class WantedOnEveryScreenTest : public ProgramTest {
@@ -198,6 +225,17 @@ TEST_F(WantedOnEveryScreenTest, TheMembers)
     expect("%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}{ENTER}", "txtAnimal",
         "१ - गाय    २ - म्हैस    ३ - दोन्ही    Alt+R : रद्द");
     expect("%n{ENTER}gaIta{ENTER}%s", "txtAnimal", "१ - गाय    २ - म्हैस    ३ - दोन्ही    Alt+R : रद्द");
+}
+
+TEST_F(WantedOnEveryScreenTest, TheCustomers)
+{
+    const auto expect = [this](const char* keys, const char* focus, const char* guide) {
+        Expect("frmCustomers", keys, focus, "lblGuide", guide);
+    };
+    expect("%n1{ENTER}", "txtCustomerNo", "ग्राहक नंबर    Alt+R : रद्द");
+    expect("%d{ENTER}xyz{ENTER}", "ComboCustomerName", "ग्राहकाचे नांव    Alt+R : रद्द");
+    expect("%n{ENTER}gaIta{ENTER}{ENTER}", "txtAnimal", "१ - गाय    २ - म्हैस    ३ - दोन्ही    Alt+R : रद्द");
+    expect("%n{ENTER}gaIta{ENTER}1%s", "txtCustomerType", "१ - स्थानिक विक्री    २ - संघ विक्री    Alt+R : रद्द");
 }
 
 TEST_F(WantedOnEveryScreenTest, TheMembersFrameOfTheCounter)

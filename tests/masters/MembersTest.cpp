@@ -40,24 +40,6 @@ void MembersTest::AddVoucher(const QString& debit, const QString& credit, int co
         company, u",1,'", debit, u"','", credit, u"',100)"));
 }
 
-QString Typed(const QString& stored)
-{
-    QString keys;
-    for (QChar c : stored) {
-        if (QStringView(u"+^%{").contains(c))
-            keys += QStringLiteral("{") + c + QStringLiteral("}");
-        else
-            keys += c;
-    }
-    return keys;
-}
-
-void TypeEach(Clerk& clerk, const QStringList& keys)
-{
-    for (const QString& each : keys)
-        clerk.Type(each + QStringLiteral("{ENTER}"));
-}
-
 void FillNewMember(Clerk& clerk, const QString& name, const QString& animalKey)
 {
     const QString asItIs;
@@ -65,21 +47,4 @@ void FillNewMember(Clerk& clerk, const QString& name, const QString& animalKey)
     TypeEach(clerk, {asItIs, Typed(name), asItIs, asItIs, animalKey, "1"});
     for (int field = 0; field < 7 && clerk.Focus() != "cmdNew"; ++field)
         clerk.Type("{ENTER}");
-}
-
-void CallUp(Clerk& clerk, int number)
-{
-    clerk.Type(QStringLiteral("%d") + QString::number(number) + QStringLiteral("{ENTER}"));
-}
-
-void GoTo(Clerk& clerk, const QString& field)
-{
-    clerk.Press(field);
-    clerk.Type("^a");
-}
-
-void GoOn(Clerk& clerk, const QString& expected)
-{
-    EXPECT_EQ(clerk.Message(), expected);
-    clerk.Type("{ENTER}");
 }

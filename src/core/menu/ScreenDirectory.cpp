@@ -20,6 +20,16 @@ void ScreenDirectory::Add(const QString& name, const Maker& maker)
     Makers().insert(name, maker);
 }
 
+QStringList ScreenDirectory::Names()
+{
+    QStringList names;
+    for (auto maker = Makers().cbegin(); maker != Makers().cend(); ++maker)
+        if (maker.value())
+            names.append(maker.key());
+    names.sort();
+    return names;
+}
+
 void ScreenDirectory::Open(const QString& name, const Caption& entry, const Caption& title)
 {
     const Maker maker = Makers().value(name);

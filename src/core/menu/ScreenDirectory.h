@@ -15,6 +15,9 @@ using Maker = std::function<std::unique_ptr<Screen>()>;
 // Registers the maker of a screen. Registering a name again replaces its maker; an empty maker removes it.
 void Add(const QString& name, const Maker& maker);
 
+// The names of all screens that are registered.
+QStringList Names();
+
 // Opens a screen modally; `title`, if given, replaces the screen's own. For a screen that the program doesn't
 // have yet, a plain box names the entry.
 void Open(const QString& name, const Caption& entry, const Caption& title = {});

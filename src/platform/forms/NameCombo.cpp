@@ -108,6 +108,13 @@ void NameCombo::AddNames(const std::vector<Entry>& names)
     ShowRows();
 }
 
+void NameCombo::PutFirst(const QString& word)
+{
+    m_given.insert(m_given.begin(), {word, {}});
+    m_rows.insert(m_rows.begin(), {word, {}});
+    ShowRows();
+}
+
 QStringList NameCombo::Items() const
 {
     QStringList names;

@@ -31,6 +31,9 @@ public:
     // is shown once.
     void SetNames(const std::vector<Entry>& names);
     void AddNames(const std::vector<Entry>& names);
+
+    // Puts a word ahead of the names that were set, such as one for whoever pays in cash.
+    void PutFirst(const QString& word);
     void ClearItems() { SetItems({}); }
 
     // All names or words in the order in which they were set.

@@ -391,6 +391,25 @@ TEST_F(NameComboTest, OnePersonIsShownOnceHoweverOftenAdded)
     });
 }
 
+TEST_F(NameComboTest, AWordPutFirstStandsAheadOfTheNamesUntilTheyAreSetAgain)
+{
+    WithNames([&](NameCombo& combo) {
+        const std::vector<NameCombo::Entry> names{{Q("yamaunaa"), Q("2")}, {Q("gaMgaa"), Q("1")}};
+        for (int time = 0; time < 2; ++time) {
+            Do([&] {
+                combo.SetNames(names);
+                combo.PutFirst(Q("raoK"));
+            });
+            EXPECT_EQ(combo.Items(), (QStringList{Q("raoK"), Q("yamaunaa"), Q("gaMgaa")}));
+            EXPECT_EQ(List(combo).model()->rowCount(), 3);
+        }
+        Type("{Down}");
+        EXPECT_EQ(Text(combo), "raoK");
+        Type("{Down}");
+        EXPECT_EQ(Text(combo), "gaMgaa") << "the others by the alphabet";
+    });
+}
+
 TEST_F(NameComboTest, TheDarkRowStandsInTheMiddleOfTheList)
 {
     With(

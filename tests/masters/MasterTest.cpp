@@ -1,0 +1,36 @@
+#include "tests/masters/MasterTest.h"
+
+QString Typed(const QString& stored)
+{
+    QString keys;
+    for (QChar c : stored) {
+        if (QStringView(u"+^%{").contains(c))
+            keys += QStringLiteral("{") + c + QStringLiteral("}");
+        else
+            keys += c;
+    }
+    return keys;
+}
+
+void TypeEach(Clerk& clerk, const QStringList& keys)
+{
+    for (const QString& each : keys)
+        clerk.Type(each + QStringLiteral("{ENTER}"));
+}
+
+void CallUp(Clerk& clerk, int number)
+{
+    clerk.Type(QStringLiteral("%d") + QString::number(number) + QStringLiteral("{ENTER}"));
+}
+
+void GoTo(Clerk& clerk, const QString& field)
+{
+    clerk.Press(field);
+    clerk.Type("^a");
+}
+
+void GoOn(Clerk& clerk, const QString& expected)
+{
+    EXPECT_EQ(clerk.Message(), expected);
+    clerk.Type("{ENTER}");
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "tests/support/SocietyTest.h"
+
+// The hands of a clerk at a register, of members or of customers.
+
+// The keys that type a stored text; signs that stand for Shift, Ctrl and Alt are typed as themselves.
+QString Typed(const QString& stored);
+
+// Types `keys`, and Enter after each.
+void TypeEach(Clerk& clerk, const QStringList& keys);
+
+// Opens the mode of Modify and calls up a record by number; the focus is on the name.
+void CallUp(Clerk& clerk, int number);
+
+// Goes to a field with the mouse and selects what is in it.
+void GoTo(Clerk& clerk, const QString& field);
+
+// Answers a notice that is expected on top.
+void GoOn(Clerk& clerk, const QString& expected);
