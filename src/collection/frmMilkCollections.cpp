@@ -22,9 +22,11 @@ Keys::Places frmMilkCollections::KeyPlaces()
                  &frmMilkCollections::ShowMemberFrame},
                 SearchKey(), DeleteKey()}},
         {QStringLiteral("FrameMilkCollection"), Shivaji(u"]%padkacao vaOyai@tk dUQa saMklana"),
-            {Next, Back, Leave, ListOfNames, {QStringLiteral("Alt+I"), Shivaji(u"irpaoT-")},
+            {Next, Back, Leave, {QStringLiteral("Alt+I"), Shivaji(u"irpaoT-")},
                 {QStringLiteral("Alt+B"), Shivaji(u"baahor")}, CalculatorKey(), MembersKey(), AdvanceKey(),
                 TutorKey()}},
+        {QStringLiteral("FrameMilkCollection.cmbAccountName"), Plain(u"उत्पादकाचे वैयक्तिक दूध संकलन, नावात"),
+            {ListOfNames}},
     };
 }
 

@@ -89,7 +89,7 @@ QString KeysNamedOn(Clerk& clerk)
     QString named;
     for (const Keys::Place& place : Keys::Sheet()) {
         const bool isScreen = place.name == screen || place.name.startsWith(QString(screen + u'.'));
-        if (inFrame ? place.name != u"FrameMilkCollection" : !isScreen)
+        if (inFrame ? !place.name.startsWith(u"FrameMilkCollection") : !isScreen)
             continue;
         for (const KeyHint& hint : place.keys)
             named += u' ' + hint.key + u' ';
