@@ -146,7 +146,7 @@ TEST_F(CustomersNewTest, SavingStopsAtTheFirstThatIsMissing)
 
 TEST_F(CustomersNewTest, AnApostropheInTheNameEndsTheProgramAndLeavesTheBooksAsTheyWere)
 {
-    for (const QString& name : {"ra'ma", "x'' or ''a''=''a"}) {
+    for (const QString name : {"ra'ma", "x'' or ''a''=''a"}) {
         Play([&](Clerk& clerk) {
             Type(clerk, "%n{ENTER}");
             clerk.Type(Typed(name));
