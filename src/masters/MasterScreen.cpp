@@ -7,6 +7,8 @@
 #include "society/FieldRoutines.h"
 #include "society/Queries.h"
 
+#include <QVBoxLayout>
+
 #include <cmath>
 
 MasterScreen::MasterScreen(const Keys::Places& keys, const MasterKind& kind, const Parts& parts)
@@ -272,6 +274,22 @@ void MasterScreen::ToSaveButton()
 {
     if (!IsSteppingBack())
         m_modes.Open().SetFocus();
+}
+
+void MasterScreen::LayRegister(QLayout* identity, QLayout* figures, std::initializer_list<Control*> buttons)
+{
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(34);
+    columns->addLayout(identity, 1);
+    columns->addLayout(figures);
+
+    auto* body = new QVBoxLayout;
+    body->setSpacing(10);
+    body->addLayout(columns);
+    body->addStretch(1);
+    body->addWidget(lblGuide.Widget());
+    body->addLayout(Layout::ButtonRow(buttons));
+    Stack(body);
 }
 
 double MasterScreen::ClosingLits(double closingOnRecord, double openingOnRecord, double opening)

@@ -72,6 +72,9 @@ protected:
     // For the last field: goes to the button that saves.
     void ToSaveButton();
 
+    // Lays out who somebody is beside the figures, with the guide line and the buttons below.
+    void LayRegister(QLayout* identity, QLayout* figures, std::initializer_list<Control*> buttons);
+
     static QString Trimmed(const Field& field) { return field.Text().trimmed(); }
 
     // The closing litres move by as much as the opening ones, from what both were on record.

@@ -4,7 +4,7 @@
 #include "platform/database/Sql.h"
 #include "platform/forms/FigureTable.h"
 
-#include <QVBoxLayout>
+#include <QGridLayout>
 
 namespace {
 
@@ -158,18 +158,7 @@ void frmCustomers::LayOut()
     table.Line(Plain(u"गाय लिटर्स"), {txtCowOpeningLits}, {txtCowClosingLits});
     table.Line(Plain(u"म्हैस लिटर्स"), {txtBuffOpeningLits}, {txtBuffClosingLits});
 
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(34);
-    columns->addLayout(form.Grid(), 1);
-    columns->addLayout(table.Grid());
-
-    auto* body = new QVBoxLayout;
-    body->setSpacing(10);
-    body->addLayout(columns);
-    body->addStretch(1);
-    body->addWidget(lblGuide.Widget());
-    body->addLayout(Layout::ButtonRow({&cmdNew, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit}));
-    Stack(body);
+    LayRegister(form.Grid(), table.Grid(), {&cmdNew, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit});
 }
 
 void frmCustomers::SetGuides()

@@ -4,7 +4,7 @@
 #include "platform/forms/FigureTable.h"
 #include "platform/text/Dates.h"
 
-#include <QVBoxLayout>
+#include <QGridLayout>
 
 namespace {
 
@@ -15,18 +15,7 @@ constexpr int WordWidth = 150;
 
 void frmMembers::LayOut()
 {
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(34);
-    columns->addLayout(IdentityColumn(), 1);
-    columns->addLayout(FiguresColumn());
-
-    auto* body = new QVBoxLayout;
-    body->setSpacing(10);
-    body->addLayout(columns);
-    body->addStretch(1);
-    body->addWidget(lblGuide.Widget());
-    body->addLayout(Layout::ButtonRow({&cmdNew, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit}));
-    Stack(body);
+    LayRegister(IdentityColumn(), FiguresColumn(), {&cmdNew, &cmdModify, &cmdDelete, &cmdCancel, &cmdExit});
 }
 
 QLayout* frmMembers::IdentityColumn()

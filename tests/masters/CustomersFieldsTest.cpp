@@ -12,22 +12,6 @@ protected:
 const QStringList EntryFields = {"txtCustomerNo", "ComboCustomerName", "txtAnimal", "txtCustomerType",
     "txtCowOpeningLits", "txtBuffOpeningLits"};
 
-const QStringList Buttons = {"cmdNew", "cmdModify", "cmdDelete", "cmdCancel", "cmdExit"};
-
-QStringList Open(const Clerk& clerk, const QStringList& controls)
-{
-    QStringList open;
-    for (const QString& control : controls)
-        if (clerk.CanEnter(control))
-            open.append(control);
-    return open;
-}
-
-QString TitleOf(const Clerk& clerk)
-{
-    return clerk.Top().Title().Text();
-}
-
 bool IsListOpen(const Clerk& clerk)
 {
     const auto* names = dynamic_cast<NameCombo*>(clerk.Top().Find(u"ComboCustomerName"));

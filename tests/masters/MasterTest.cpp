@@ -1,5 +1,19 @@
 #include "tests/masters/MasterTest.h"
 
+QStringList Open(const Clerk& clerk, const QStringList& controls)
+{
+    QStringList open;
+    for (const QString& control : controls)
+        if (clerk.CanEnter(control))
+            open.append(control);
+    return open;
+}
+
+QString TitleOf(const Clerk& clerk)
+{
+    return clerk.Top().Title().Text();
+}
+
 QString Typed(const QString& stored)
 {
     QString keys;

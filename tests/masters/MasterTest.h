@@ -4,6 +4,15 @@
 
 // The hands of a clerk at a register, of members or of customers.
 
+// The buttons of a register.
+inline const QStringList Buttons = {"cmdNew", "cmdModify", "cmdDelete", "cmdCancel", "cmdExit"};
+
+// Those of the controls that can be entered.
+QStringList Open(const Clerk& clerk, const QStringList& controls);
+
+// The title of the screen on top, as it is stored.
+QString TitleOf(const Clerk& clerk);
+
 // The keys that type a stored text; signs that stand for Shift, Ctrl and Alt are typed as themselves.
 QString Typed(const QString& stored);
 

@@ -8,22 +8,6 @@ const QStringList EntryFields = {"txtMemberNo", "ComboMemberName", "txtAddress",
     "txtPaymentType", "txtOpeningBalance", "txtOpeningDorC", "txtCowOpeningLits", "txtBuffOpeningLits",
     "txtOpeningUchal", "txtCowOpeningThev", "txtBuffOpeningThev"};
 
-const QStringList Buttons = {"cmdNew", "cmdModify", "cmdDelete", "cmdCancel", "cmdExit"};
-
-QStringList Open(const Clerk& clerk, const QStringList& controls)
-{
-    QStringList open;
-    for (const QString& control : controls)
-        if (clerk.CanEnter(control))
-            open.append(control);
-    return open;
-}
-
-QString TitleOf(const Clerk& clerk)
-{
-    return clerk.Top().Title().Text();
-}
-
 void ExpectIdle(const Clerk& clerk)
 {
     EXPECT_EQ(clerk.ScreenName(), "frmMembers");
