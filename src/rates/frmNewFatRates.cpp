@@ -28,7 +28,7 @@ constexpr double FatStep = 0.1;
 constexpr double LeastFat = 1.0;
 constexpr double MostFat = 30.0;
 
-constexpr int LongestNumber = 10;
+constexpr int LongestNumber = 9;
 
 // Buffalo stands before cow on this screen.
 std::vector<DataGrid::Column> ChartColumns()
@@ -62,7 +62,7 @@ frmNewFatRates::frmNewFatRates()
 {
     When(maskOldDate.TextChanged, &frmNewFatRates::maskOldDate_Change);
     When(DataGridBuffRates.GotFocus, &frmNewFatRates::DataGridBuffRates_GotFocus);
-    DataGridBuffRates.LostFocus = [this] { DataGridBuffRates_LostFocus(); };
+    When(DataGridBuffRates.LostFocus, &frmNewFatRates::DataGridBuffRates_LostFocus);
     DataGridBuffRates.SetTabStop(false); // it passes the clerk on, who could never go back through it
     txtFat.KeyDown = [this](const QKeyEvent& key) { return txtFat_KeyDown(key); };
     for (Field* field : std::initializer_list<Field*>{&txtFat, &txtBuffRate, &txtCowRate, &txtBuffIncrement,
@@ -73,10 +73,10 @@ frmNewFatRates::frmNewFatRates()
     txtFat.SetGuide(Plain(u"↑ : मागची फॅट    ↓ : पुढची फॅट"));
     cmdGo.SetGuide(Plain(u"Enter : हे दर ठेवा आणि पुढची फॅट घ्या"));
     cmdFatdar.SetGuide(Plain(u"Enter : सर्व फॅटचे दर असे करा"));
+    LayOut();
     FrameFatDarBadla.SetVisible(false);
     ShowWayOut(false);
     lblMessage.SetVisible(false);
-    LayOut();
 }
 
 void frmNewFatRates::Load()

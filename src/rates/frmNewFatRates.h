@@ -33,10 +33,10 @@ private:
         this, "txtCowRate", NumberField::Digits::Decimals, &frmNewFatRates::txtCowRate_LostFocus};
     NumberField txtBuffIncrement{this, "txtBuffIncrement", NumberField::Digits::Decimals};
     NumberField txtCowIncrement{this, "txtCowIncrement", NumberField::Digits::Decimals};
-    Button cmdGo{this, "cmdGo", Shivaji(u" >"), &frmNewFatRates::cmdGo_Click};
+    Button cmdGo{this, "cmdGo", Plain(u" >"), &frmNewFatRates::cmdGo_Click};
     NumberField txtBasicBuffRate{this, "txtBasicBuffRate", NumberField::Digits::Decimals};
     NumberField txtBasicCowRate{this, "txtBasicCowRate", NumberField::Digits::Decimals};
-    Button cmdFatdar{this, "cmdFatdar", Shivaji(u">>"), &frmNewFatRates::cmdFatdar_Click};
+    Button cmdFatdar{this, "cmdFatdar", Plain(u">>"), &frmNewFatRates::cmdFatdar_Click};
     Button cmdAdd{this, "cmdAdd", Shivaji(u"&dr badla"), &frmNewFatRates::cmdAdd_Click};
     Button Command1{this, "Command1", Shivaji(u"irpaoT-"), &frmNewFatRates::Command1_Click};
     Button cmdCancel{this, "cmdCancel", Shivaji(u"&r_"), &frmNewFatRates::cmdCancel_Click};

@@ -4,8 +4,11 @@
 #include "platform/forms/Pieces.h"
 
 #include <QFrame>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace Pieces;
 
@@ -13,7 +16,7 @@ namespace {
 
 constexpr int RateRow = 32;
 constexpr int ChartWidth = 350;
-constexpr int RateWidth = 140;
+constexpr int RateWidth = 165;
 
 QHBoxLayout* Line()
 {
@@ -107,28 +110,27 @@ QWidget* frmNewFatRates::RowPanel()
     return panel;
 }
 
+// One grid without rows of its own, whose heights would be those from when the fields were hidden.
 QWidget* frmNewFatRates::FramePanel()
 {
-    auto* line = new QHBoxLayout;
-    line->setSpacing(10);
-    line->addLayout(
-        Under(Shivaji(u"mhOsa dr $."), txtBasicBuffRate, RateWidth, Look::Size::Large, LineField));
-    line->addLayout(Under(Shivaji(u"gaaya dr $."), txtBasicCowRate, RateWidth, Look::Size::Large, LineField));
-    line->addWidget(Sized(cmdFatdar, 90, LineField, Look::Size::Large, true), 0, Qt::AlignBottom);
-    cmdFatdar.SetAccessibleName(Shivaji(u"duQaacaa p`it f^T dr"));
-    line->addStretch(1);
-
-    auto* panel = Sheet();
-    auto* rows = new QVBoxLayout(panel);
-    rows->setContentsMargins(16, 6, 16, 10);
-    rows->setSpacing(2);
-    rows->addWidget(Heading(Shivaji(u"duQaacaa p`it f^T dr"), Look::Size::Normal, true));
-    rows->addLayout(line);
-
-    auto* around = new QVBoxLayout;
-    around->setContentsMargins(0, 0, 0, 0);
-    around->addWidget(panel);
-    return FrameFatDarBadla.LaidOut(around);
+    const Caption title = Shivaji(u"duQaacaa p`it f^T dr");
+    auto* grid = new QGridLayout;
+    grid->setContentsMargins(16, 0, 16, 0);
+    grid->setHorizontalSpacing(10);
+    grid->setVerticalSpacing(2);
+    grid->addWidget(Heading(title, Look::Size::Normal, true), 0, 0, 1, 4);
+    int column = 0;
+    for (const auto& [caption, field] :
+        {std::pair<Caption, Field*>(Shivaji(u"mhOsa dr $."), &txtBasicBuffRate),
+            std::pair<Caption, Field*>(Shivaji(u"gaaya dr $."), &txtBasicCowRate)}) {
+        field->SetAccessibleName(caption);
+        grid->addWidget(Heading(caption), 1, column);
+        grid->addWidget(Sized(*field, RateWidth, LineField, Look::Size::Large), 2, column++);
+    }
+    grid->addWidget(Sized(cmdFatdar, 90, LineField, Look::Size::Large, true), 2, column++);
+    cmdFatdar.SetAccessibleName(title);
+    grid->setColumnStretch(column, 1);
+    return FrameFatDarBadla.LaidOut(grid);
 }
 
 QLayout* frmNewFatRates::ProgressLine()
