@@ -8,6 +8,7 @@
 #include "core/menu/Keys.h"
 #include "core/menu/ScreenDirectory.h"
 #include "masters/frmMembers.h"
+#include "rates/frmNewFatRates.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
@@ -29,6 +30,7 @@ template <class S> void Register()
 void RegisterScreens()
 {
     Register<frmMembers>();
+    Register<frmNewFatRates>();
     Register<frmMilkCollections>();
     Register<frmCollectionGate>();
     Register<frmDailyCollection>();
