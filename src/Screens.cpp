@@ -10,6 +10,7 @@
 #include "core/preview/ReportPreviewDialogs.h"
 #include "masters/frmCustomers.h"
 #include "masters/frmMembers.h"
+#include "rates/frmNewFatRates.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
@@ -32,6 +33,7 @@ void RegisterScreens()
 {
     Register<frmMembers>();
     Register<frmCustomers>();
+    Register<frmNewFatRates>();
     Register<frmMilkCollections>();
     Register<frmCollectionGate>();
     Register<frmDailyCollection>();

@@ -8,6 +8,7 @@
 namespace {
 
 const QString ToTheMembers = QStringLiteral("{ENTER}{ENTER}");
+const QString ToTheRates = QStringLiteral("{ENTER}{DOWN}{DOWN}{ENTER}%d");
 const QString ToTheCounter = QStringLiteral("{DOWN}{ENTER}{ENTER}");
 const QString ToTheNumber = QString(ToTheCounter + QStringLiteral("{ENTER}1{ENTER}"));
 const QString ToTheDays = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{ENTER}");
@@ -66,6 +67,12 @@ const std::vector<Action>& Actions()
             QStringLiteral("{F7}{ENTER}{ENTER}2{ENTER}45{ENTER}46.5{ENTER}3{ENTER} {ENTER}4{ENTER}0.75{ENTER}"
                            ".8{ENTER}49{ENTER}59.5{ENTER}53{ENTER}"),
             QStringLiteral("{ENTER}")},
+        {QStringLiteral("NewChart"), ToTheRates + QStringLiteral("16042026{ENTER}"), QStringLiteral("%s")},
+        {QStringLiteral("ReplacedChart"),
+            ToTheRates + QStringLiteral("{ENTER}4.5{ENTER}31{ENTER}21{ENTER}{ENTER}{ENTER}{ENTER}"),
+            QStringLiteral("%s")},
+        {QStringLiteral("ReRating"),
+            ToTheRates + QStringLiteral("15042026{ENTER}{F5}8{ENTER}7{ENTER}{ENTER}%s"), Yes},
         {QStringLiteral("NewMember"),
             ToTheMembers
                 + QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}1{ENTER}250.5{ENTER}{ENTER}"),

@@ -74,6 +74,9 @@ std::vector<ScreenState> All()
         ByName("frmCustomers", "%n{ENTER}gaIta{ENTER}3{ENTER}2{ENTER}"),
         ByName("frmCustomers", "%d1{ENTER}"),
         ByName("frmCustomers", "%k1{ENTER}"),
+        ByName("frmNewFatRates", ""),
+        ByName("frmNewFatRates", "%d{ENTER}4.5{ENTER}"),
+        ByName("frmNewFatRates", "%d{ENTER}4.5{ENTER}{F5}"),
         ByName("frmMilkCollections", line),
         ByName(
             "frmMilkCollections", "{ENTER}1{ENTER}{ENTER}3{F7}14042026{ENTER}15042026{ENTER}3{ENTER}{ENTER}"),

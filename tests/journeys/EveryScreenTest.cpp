@@ -249,6 +249,13 @@ TEST_F(WantedOnEveryScreenTest, TheMembersFrameOfTheCounter)
     expect("14042026{ENTER}15042026{ENTER}%i", "txtAccountId", "मेम्बर नंबर टाका");
 }
 
+TEST_F(WantedOnEveryScreenTest, TheFatRates)
+{
+    Expect("frmNewFatRates", "%d{BS}{ENTER}", "maskDate", "lblGuide", DateWanted);
+    Expect("frmNewFatRates", "%d31032026{ENTER}", "maskDate", "lblGuide",
+        "01/04/2026 किंवा त्यानंतरचा दिनांक टाका    Alt+R : रद्द");
+}
+
 TEST_F(WantedOnEveryScreenTest, TheSearchAndTheAbsentMembers)
 {
     Expect("frmSearchCollections", "31022026{ENTER}", "maskDate", "lblFooter", DateWanted);

@@ -11,6 +11,7 @@
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/DataGrid.h"
 #include "platform/text/Shivaji01.h"
+#include "rates/frmNewFatRates.h"
 
 ReadableTest::ReadableTest()
 {
@@ -225,6 +226,19 @@ TEST_F(ReadableTest, TheMembersAtRestAndInEveryMode)
         });
         EXPECT_FALSE(Failure);
     }
+}
+
+TEST_F(ReadableTest, TheFatRatesAtRestInAChangeAndWithTheFrame)
+{
+    On<frmNewFatRates>([](Clerk& clerk) {
+        ExpectReadable(clerk, "at rest");
+        for (const char* keys :
+            {"%d", "31032026{ENTER}", "01042026{ENTER}", "{ENTER}999999.99{ENTER}999999.99", "{F5}"}) {
+            Type(clerk, keys);
+            ExpectReadable(clerk, std::string("after ") + keys);
+        }
+    });
+    EXPECT_FALSE(Failure);
 }
 
 TEST_F(ReadableTest, AMemberWithABankAndLargeFiguresAtEveryField)

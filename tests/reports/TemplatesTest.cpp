@@ -9,6 +9,7 @@
 #include "platform/database/Sql.h"
 #include "platform/report/LayoutCheck.h"
 #include "platform/shell/AppFolder.h"
+#include "rates/frmNewFatRates.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
@@ -192,6 +193,32 @@ INSTANTIATE_TEST_SUITE_P(All, ReceiptTemplatesTest,
     testing::Values("MilkReceipt1", "MilkReceipt2", "MilkReceiptBhl", "MilkReceiptGhlp", "MilkReceiptAtk",
         "MilkReceiptShenoli Epson LX 300", "MilkReceiptShenoli", "MilkReceiptNerli With Time",
         "MilkReceiptNerli Minimised With Time XP", "MilkReceiptNerli Minimised With Time"));
+
+TEST_F(ShippedTemplatesTest, FatRateListShowsTheWholeChartOnOneSheet)
+{
+    On<frmNewFatRates>([](Clerk& clerk) {
+        Type(clerk, "%d{ENTER}");
+        Press(clerk, "Command1");
+    });
+    CompareWithGolden(QStringLiteral("FatRateList"));
+    EXPECT_EQ(TheWindow.Shown.back()->PageCount(), 1U);
+    EXPECT_EQ(One(QStringLiteral("select count(*) from FatRates")), QStringLiteral("131"));
+}
+
+TEST_F(ShippedTemplatesTest, FatRateListHasRoomForThreeHundredFats)
+{
+    const QString chart = One(QStringLiteral("select FatFileName from FatDates order by FromDate desc"));
+    Run(Sql(u"delete * from ", chart));
+    for (int tenths = 10; tenths <= 309; ++tenths)
+        Run(Sql(u"insert into ", chart, u"(Fat,CowRate,BuffRate) values(", tenths / 10.0, u",",
+            20 + tenths / 20.0, u",", 30 + tenths / 16.0, u")"));
+    On<frmNewFatRates>([](Clerk& clerk) {
+        Type(clerk, "%d{ENTER}");
+        Press(clerk, "Command1");
+    });
+    CompareWithGolden(QStringLiteral("FatRateList of 300 fats"));
+    EXPECT_EQ(TheWindow.Shown.back()->PageCount(), 1U);
+}
 
 TEST_F(ShippedTemplatesTest, MilkPSReportShowsAMembersTenDays)
 {
