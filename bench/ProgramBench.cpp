@@ -120,14 +120,21 @@ void MeasureReport(benchmark::State& state, const QString& drives, Pair& pair)
     MeasurePeak(state, QStringLiteral("--play-report"), drives, pair);
 }
 
-// The floor of the longest key is the usual key among those that save.
+// A maximum meets whatever else the machine does, so the quietest of some shifts counts. The floor of the
+// longest key is the usual key among those that save.
 void MeasureSlips(benchmark::State& state, const QString& drives, Pair& pair)
 {
+    constexpr int shifts = 5;
     for ([[maybe_unused]] auto _ : state) {
-        const QByteArray printed = Child(QStringLiteral("--play-slips"), drives).WaitForEnd();
-        pair.Measured.Add(NumberIn(printed, "longest:"));
-        pair.Floor.Add(NumberIn(printed, "usual:"));
-        state.SetLabel(printed.left(printed.indexOf('\n')).toStdString());
+        QByteArray quietest;
+        for (int shift = 0; shift < shifts; ++shift) {
+            const QByteArray printed = Child(QStringLiteral("--play-slips"), drives).WaitForEnd();
+            if (quietest.isEmpty() || NumberIn(printed, "longest:") < NumberIn(quietest, "longest:"))
+                quietest = printed;
+        }
+        pair.Measured.Add(NumberIn(quietest, "longest:"));
+        pair.Floor.Add(NumberIn(quietest, "usual:"));
+        state.SetLabel(quietest.left(quietest.indexOf('\n')).toStdString());
         state.SetIterationTime(pair.Measured.Last());
     }
 }
@@ -158,7 +165,7 @@ void RegisterProgramCases(const QString& drives)
     const ProgramCase day{"memory after 1,000 deliveries", MeasureDay, Megabytes, {.below = 120.0}};
     const ProgramCase report{"memory of a report of 20,000 rows", MeasureReport, Megabytes, {.below = 150.0}};
     const ProgramCase slips{
-        "a shift of 200 with receipts: longest key", MeasureSlips, Milliseconds, {.below = 50.0}};
+        "a shift of 200 with receipts: longest key", MeasureSlips, Milliseconds, {.below = 16.0}};
     benchmark::RegisterBenchmark("program/start", Run, drives, start)
         ->UseManualTime()
         ->Iterations(11)

@@ -83,6 +83,12 @@ void RequireRows(const QDate& day, int rows)
     Require(found.At(0).Number() == rows, "All deliveries of the day are in the books.");
 }
 
+void RemoveRows(const QDate& day)
+{
+    gCn.Execute(Sql(u"delete * from MilkCollections where CollectionDate=#",
+        day.toString(QStringLiteral("MM/dd/yyyy")), u"#"));
+}
+
 void PlayShift(Clerk& clerk, const QString& opening)
 {
     clerk.Type(opening);
@@ -218,6 +224,7 @@ int PlaySlips(const QString& drives)
 {
     return Play(drives, [](Clerk& clerk) {
         GoToMenu(clerk);
+        clerk.Do([] { RemoveRows(SlipsDay); }); // of the shift that was played before
         clerk.Do([] { gCn.Execute(QStringLiteral("update AutoSettings set PrintStatus='f@t sËIna'")); });
         OpenCounter(clerk, SlipsDay);
         clerk.Type(QStringLiteral("{ENTER}1{ENTER}"));
