@@ -260,4 +260,52 @@ TEST_F(LooksTest, NothingOnAFormIsCutOff)
     EXPECT_FALSE(Failure);
 }
 
+// How a key of the strip looks: the colour of its cap, and how far right its ink reaches.
+struct SeenHint {
+    std::string cap;
+    int inkEnd = 0;
+    int width = 0;
+};
+
+SeenHint LookAt(QWidget& piece)
+{
+    const QImage picture = piece.grab().toImage();
+    const QColor ground(Look::Band);
+    SeenHint seen{picture.pixelColor(1, 1).name().toStdString(), 0, picture.width()};
+    for (int x = 0; x < picture.width(); ++x) {
+        for (int y = 0; y < picture.height(); ++y) {
+            if (picture.pixelColor(x, y) != ground)
+                seen.inkEnd = x + 1;
+        }
+    }
+    return seen;
+}
+
+TEST_F(LooksTest, AKeyOfTheStripIsACapWithItsMeaningBesideItAndDullWhereItDoesNothing)
+{
+    class Keyed : public Screen {
+    public:
+        Keyed() : Screen("Keyed") { Layout::Stack(*this, nullptr, new QVBoxLayout, strip); }
+        NumberField txtNote{this, "txtNote", NumberField::Digits::Whole};
+        QWidget* strip =
+            Layout::KeyStrip({{"F9", Plain(u"शोधा")}, {"F9", Plain(u"शोधा"), {}, false}, {"F9", Plain(u"")}});
+    };
+    Open<Keyed>([](Keyed&) {},
+        [&](Keyed& keyed) {
+            const auto pieces = keyed.strip->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+            ASSERT_EQ(pieces.size(), 3);
+            EXPECT_EQ(pieces[0]->accessibleName().toStdString(), "F9 शोधा");
+            const SeenHint lit = LookAt(*pieces[0]);
+            const SeenHint dull = LookAt(*pieces[1]);
+            const SeenHint bare = LookAt(*pieces[2]);
+            EXPECT_EQ(lit.cap, QColor(Look::PlainColour).name().toStdString());
+            EXPECT_EQ(dull.cap, QColor(Look::DullColour).name().toStdString());
+            EXPECT_GT(lit.inkEnd, bare.inkEnd + 20) << "the meaning can be read";
+            EXPECT_EQ(lit.inkEnd, dull.inkEnd);
+            EXPECT_LE(lit.inkEnd, lit.width);
+            EXPECT_GE(lit.inkEnd, lit.width - 4) << "no more room than its texts need";
+        });
+    EXPECT_FALSE(Failure);
+}
+
 }

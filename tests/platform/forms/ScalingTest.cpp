@@ -161,11 +161,13 @@ TEST_F(GrowingWindowTest, AStripKeepsToItsRowsWhenTypeGrows)
     Open<Keyed>([](Keyed&) {},
         [&](Keyed& keyed) {
             const int before = keyed.strip->height();
+            const auto pieces = keyed.strip->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+            const int widthBefore = pieces.front()->width();
             Resize({2048, 1536});
+            EXPECT_GT(pieces.front()->width(), widthBefore * 3 / 2) << "its type grows too";
             EXPECT_EQ(keyed.strip->height(), before * 185 / 100);
             int right = 0;
-            for (const auto* piece :
-                keyed.strip->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            for (const auto* piece : pieces) {
                 EXPECT_GE(piece->x(), right) << "one beside the other";
                 EXPECT_GE(piece->width(), piece->sizeHint().width());
                 right = piece->geometry().right();
