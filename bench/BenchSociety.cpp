@@ -28,7 +28,7 @@ BenchSociety::BenchSociety()
     : m_drives(QCoreApplication::applicationDirPath() + QStringLiteral("/society-XXXXXX"))
 {
     SetDrivesRoot(Drives());
-    const QString folder = LocalPath(AppFolder);
+    const QString folder = LocalPath(Paths::AppFolder);
     QDir().mkpath(folder);
     SocietyPlan plan;
     plan.name = QStringLiteral("श्री गणेश दूध संस्था");

@@ -40,7 +40,7 @@ QString ReprintTemplate(QStringView receiptType)
     if (layout.reprint == ReceiptLayout::Reprint::None)
         return {};
     const bool isHere = layout.reprint == ReceiptLayout::Reprint::InAppFolder;
-    return (isHere ? AppFolder : SiblingFolder).toString() + layout.sampleTemplate;
+    return (isHere ? Paths::AppFolder : SiblingFolder).toString() + layout.sampleTemplate;
 }
 
 }

@@ -19,7 +19,7 @@ void DeliveredProgram::SetUp()
 
 std::unique_ptr<QProcess> DeliveredProgram::StartTheProgram()
 {
-    QFileSystemWatcher watcher({LocalPath(AppFolder)});
+    QFileSystemWatcher watcher({LocalPath(Paths::AppFolder)});
     auto program = Processes::Start("vetrolan", {}, Environment());
     QEventLoop waiting;
     const auto isReady = [this] { return QFile::exists(FolderFile("Morvelta.mdb-shm")); };

@@ -29,7 +29,7 @@ protected:
 
     static void GiveToAll()
     {
-        const QString folder = LocalPath(AppFolder);
+        const QString folder = LocalPath(Paths::AppFolder);
         ASSERT_EQ(chmod(QFile::encodeName(folder).constData(), 0755), 0);
         for (QDirIterator below(folder, QDir::Files, QDirIterator::Subdirectories); below.hasNext();)
             ASSERT_EQ(chmod(QFile::encodeName(below.next()).constData(), 0644), 0);
@@ -45,10 +45,10 @@ TEST_F(PrivateBooksTest, WhatLiesBelowTheFolderIsTheOwnersAloneAsSoonAsTheProgra
 {
     GiveToAll();
     const auto program = StartTheProgram();
-    EXPECT_EQ(RightsOf(LocalPath(AppFolder)), mode_t{0700});
+    EXPECT_EQ(RightsOf(LocalPath(Paths::AppFolder)), mode_t{0700});
     QStringList seen;
-    for (QDirIterator below(LocalPath(AppFolder), QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
-             QDirIterator::Subdirectories);
+    for (QDirIterator below(LocalPath(Paths::AppFolder),
+             QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden, QDirIterator::Subdirectories);
          below.hasNext();) {
         const QString path = below.next();
         EXPECT_EQ(RightsOf(path), below.fileInfo().isDir() ? mode_t{0700} : mode_t{0600})

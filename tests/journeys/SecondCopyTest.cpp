@@ -37,7 +37,7 @@ protected:
         EXPECT_TRUE(Processes::WaitForEnd(*setup));
         EXPECT_EQ(setup->exitCode(), 1);
         EXPECT_TRUE(setup->readAllStandardError().contains("open in the program"));
-        EXPECT_EQ(QDir(LocalPath(AppFolder)).entryList({"Morvelta*.mdb"}).size(), 1);
+        EXPECT_EQ(QDir(LocalPath(Paths::AppFolder)).entryList({"Morvelta*.mdb"}).size(), 1);
     }
 
     void RemoveTheLockFile() { ASSERT_TRUE(QFile::remove(FolderFile("Vetrolan.lock"))); }

@@ -27,7 +27,7 @@ SocietyTest::SocietyTest()
 {
     SetDrivesRoot(m_drives.path());
     World::Current() = {&TheClock, &TheCalculator, &TheBox, &TheInputBox, World::Real().fileSystem};
-    const QString folder = LocalPath(AppFolder);
+    const QString folder = LocalPath(Paths::AppFolder);
     QDir().mkpath(folder);
     SocietyPlan plan;
     plan.name = QStringLiteral("श्री गणेश दूध संस्था");

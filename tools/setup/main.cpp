@@ -78,7 +78,7 @@ class Place {
 public:
     explicit Place(const QString& named) : m_named(named) { }
 
-    QString Folder() const { return m_named.isEmpty() ? LocalPath(AppFolder) : m_named; }
+    QString Folder() const { return m_named.isEmpty() ? LocalPath(Paths::AppFolder) : m_named; }
 
     // Takes the rights to existing files from other users. A folder that the user named may hold other
     // things, so there only the files of a society are changed.

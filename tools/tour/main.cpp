@@ -60,7 +60,7 @@ void ConnectScale(Connection& books)
 void MakeItsOwnSociety(const QString& drives)
 {
     SetDrivesRoot(drives);
-    const QString folder = LocalPath(AppFolder);
+    const QString folder = LocalPath(Paths::AppFolder);
     QDir().mkpath(folder);
     SocietyPlan plan;
     plan.name = QStringLiteral("श्री गणेश सहकारी दूध उत्पादक संस्था, मसूर");

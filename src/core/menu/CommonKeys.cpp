@@ -7,7 +7,7 @@
 
 void CommonKeys::Calculator(bool maximised)
 {
-    if (!World::Current().calculator->Start(AppFolder.toString() + u"calc.EXE", maximised))
+    if (!World::Current().calculator->Start(Paths::AppFolder.toString() + u"calc.EXE", maximised))
         ShowPlain(QStringLiteral("या संगणकावर कॅलक्युलेटर सापडला नाही."));
 }
 

@@ -9,7 +9,7 @@ ReportHandover::ReportHandover(std::unique_ptr<Printer> printer) : m_printer(std
 {
     ReportSurroundings::Current() = {
         &m_window, m_printer.get(), [](const QString& path) { return LocalPath(path); }};
-    PrintFiles::KeepIn(LocalPath(AppFolder));
+    PrintFiles::KeepIn(LocalPath(Paths::AppFolder));
 }
 
 ReportHandover::~ReportHandover()

@@ -28,7 +28,7 @@ std::function<void(const TemplateReport::Run&)>& TemplateReport::Engine()
 
 void TemplateReport::SetTemplate(QStringView name)
 {
-    m_run.fileName = AppFolder.toString() + name;
+    m_run.fileName = Paths::AppFolder.toString() + name;
 }
 
 int TemplateReport::CountRecords(const QString& query) const

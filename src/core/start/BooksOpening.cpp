@@ -26,7 +26,7 @@ QDate Today()
 
 void OpenBooks()
 {
-    const QString folder = LocalPath(AppFolder);
+    const QString folder = LocalPath(Paths::AppFolder);
     std::optional<CheckingLine> line;
     OpeningPlan plan;
     plan.checksPages = std::exchange(g_checksNext, false) || CheckedNote::IsDue(folder, Today());

@@ -40,7 +40,7 @@ void ChooseFont()
 void RegisterPlaces()
 {
     DataSource::Register(QStringLiteral("VetrolanDSN"), LocalAppFile(u"Morvelta.mdb"));
-    SetPortLinksFolder(LocalPath(AppFolder));
+    SetPortLinksFolder(LocalPath(Paths::AppFolder));
 }
 
 void ShowBoxesInTheWindow()
@@ -55,7 +55,7 @@ int RunProgram()
 {
     QApplication::setWindowIcon(ProgramIcon());
     ChooseFont();
-    const QString folder = LocalPath(AppFolder);
+    const QString folder = LocalPath(Paths::AppFolder);
     std::optional<SingleInstance> instance; // held until the books are closed
     try {
         const bool wasLeftBehind = SingleInstance::IsLeftBehind(folder);

@@ -73,7 +73,7 @@ void DataGrid::CellEditor::Close()
     if (!IsOpen())
         return;
     QString text = Current().Text();
-    if (text == EmptyDateMask)
+    if (text == DateMask::Empty)
         text.clear();
     if (text != m_grid.m_model->Written(m_row, m_column))
         m_grid.m_model->Type(m_row, m_column, text);

@@ -33,7 +33,7 @@ QString DateField::Text() const
 void DateField::SetText(const QString& text)
 {
     const QString before = Text();
-    Line().setText(text.size() == Length ? text : EmptyDateMask.toString());
+    Line().setText(text.size() == Length ? text : DateMask::Empty.toString());
     Line().setCursorPosition(0);
     TellChange(before);
 }
@@ -58,7 +58,7 @@ bool DateField::InsistOnDate(const Caption& wanted)
 
 bool DateField::IsEmptyMask() const
 {
-    return Text() == EmptyDateMask;
+    return Text() == DateMask::Empty;
 }
 
 QDate DateField::Date() const

@@ -55,7 +55,7 @@ void SetDrivesRoot(const QString& folder)
 
 QString LocalAppFile(QStringView name)
 {
-    QString path = AppFolder.toString();
+    QString path = Paths::AppFolder.toString();
     path += name;
     return LocalPath(path);
 }

@@ -2,9 +2,13 @@
 
 #include <QString>
 
+namespace Paths {
+
 // The application folder. It is fixed: every file that the program reads or writes is named by its full path
 // in it. See LocalPath for where that is on this machine.
 inline constexpr QStringView AppFolder = u"C:\\Tarvel01\\Vetrolan\\";
+
+}
 
 // Where a path with a drive letter is on this machine. On Windows it is that path itself; elsewhere drive X:
 // is the folder drive_x in the drives' root (see SetDrivesRoot), and '/' separates the parts. A path without

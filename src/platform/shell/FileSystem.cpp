@@ -19,7 +19,8 @@ QString FileSystem::AbsolutePath(QStringView path)
 {
     QString whole = path.toString().replace(u'/', u'\\');
     if (DriveOf(whole).isEmpty())
-        whole.prepend(whole.startsWith(u'\\') ? AppFolder.left(2).toString() : AppFolder.toString());
+        whole.prepend(
+            whole.startsWith(u'\\') ? Paths::AppFolder.left(2).toString() : Paths::AppFolder.toString());
     const QString drive = DriveOf(whole);
     QStringList parts;
     for (const QString& part : whole.mid(drive.size()).split(u'\\', Qt::SkipEmptyParts)) {

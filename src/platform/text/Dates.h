@@ -6,8 +6,12 @@
 
 #include <optional>
 
+namespace DateMask {
+
 // The text of an empty date field.
-inline constexpr QStringView EmptyDateMask = u"__/__/____";
+inline constexpr QStringView Empty = u"__/__/____";
+
+}
 
 // Reads dd/MM/yyyy, whatever the locale: two, two and four digits that make a valid date from the year 100
 // on. Blanks at the ends are allowed; any other text gives nothing.

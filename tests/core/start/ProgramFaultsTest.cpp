@@ -32,12 +32,13 @@ protected:
     // Starts the program, expects it to fail with one box, and returns the box's text.
     QString FailingStart()
     {
-        const QMap<QString, QByteArray> before = Contents(LocalPath(AppFolder));
+        const QMap<QString, QByteArray> before = Contents(LocalPath(Paths::AppFolder));
         TheBox.Shown.clear();
         int exitCode = -1;
         Failure = TheClerk.Play([&] { exitCode = RunProgram(); }, [](Clerk&) {});
         EXPECT_EQ(exitCode, 1);
-        EXPECT_EQ(Contents(LocalPath(AppFolder)), before) << "a failed start leaves the folder as it was";
+        EXPECT_EQ(Contents(LocalPath(Paths::AppFolder)), before)
+            << "a failed start leaves the folder as it was";
         return TheBox.Shown.size() == 1 ? TheBox.Shown.first()
                                         : QStringLiteral("%1 boxes").arg(TheBox.Shown.size());
     }
@@ -98,9 +99,9 @@ TEST_F(ProgramFaultsTest, AMissingDatabaseIsNamedInTheBox)
 
 TEST_F(ProgramFaultsTest, AFolderThatIsMissingIsNotMade)
 {
-    ASSERT_TRUE(QDir(LocalPath(AppFolder)).removeRecursively());
+    ASSERT_TRUE(QDir(LocalPath(Paths::AppFolder)).removeRecursively());
     EXPECT_TRUE(FailingStart().contains(Password));
-    EXPECT_FALSE(QDir(LocalPath(AppFolder)).exists());
+    EXPECT_FALSE(QDir(LocalPath(Paths::AppFolder)).exists());
 }
 
 TEST_F(ProgramFaultsTest, AFileThatIsNoDatabaseIsToldFromABookCutShort)
@@ -163,7 +164,7 @@ TEST_F(ProgramFaultsTest, TheFaultsAreToldApartAndEachInMarathi)
 
 TEST_F(ProgramFaultsTest, ASecondCopySaysThatTheBooksAreOpenAndEnds)
 {
-    const SingleInstance first(LocalPath(AppFolder));
+    const SingleInstance first(LocalPath(Paths::AppFolder));
     ASSERT_TRUE(first.Taken());
     EXPECT_TRUE(FailingStart().contains("open in another window"));
 }

@@ -19,7 +19,7 @@ TEST_F(AppFolderTest, APathUnderADriveLiesInTheFolderOfThatDrive)
 
 TEST_F(AppFolderTest, TheFolderItselfKeepsItsClosingSeparator)
 {
-    EXPECT_EQ(LocalPath(AppFolder), "/society/drive_c/Tarvel01/Vetrolan/");
+    EXPECT_EQ(LocalPath(Paths::AppFolder), "/society/drive_c/Tarvel01/Vetrolan/");
 }
 
 TEST_F(AppFolderTest, TheLetterOfTheDriveIsWrittenSmallAndTheRestStaysAsItIs)
@@ -48,7 +48,8 @@ TEST_F(AppFolderTest, WithoutAMovedRootTheDrivesLieInTheUsersSharedDataFolder)
     SetDrivesRoot(QString());
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     ASSERT_FALSE(data.isEmpty());
-    EXPECT_EQ(LocalPath(AppFolder), QString(data + QStringLiteral("/vetrolan/drive_c/Tarvel01/Vetrolan/")));
+    EXPECT_EQ(
+        LocalPath(Paths::AppFolder), QString(data + QStringLiteral("/vetrolan/drive_c/Tarvel01/Vetrolan/")));
 }
 #endif
 

@@ -23,7 +23,7 @@ protected:
         ASSERT_TRUE(m_folder.isValid());
         ASSERT_TRUE(QDir().mkpath(m_folder.filePath("bin")));
         SetDrivesRoot(m_folder.path());
-        ASSERT_TRUE(QDir().mkpath(LocalPath(AppFolder)));
+        ASSERT_TRUE(QDir().mkpath(LocalPath(Paths::AppFolder)));
         qputenv("PATH", QFile::encodeName(m_folder.filePath("bin")));
         const QByteArray pipe = QFile::encodeName(Pipe());
         ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);

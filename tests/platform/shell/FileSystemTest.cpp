@@ -24,7 +24,7 @@ protected:
     FileSystemTest()
     {
         SetDrivesRoot(m_drives.path());
-        QDir().mkpath(LocalPath(AppFolder));
+        QDir().mkpath(LocalPath(Paths::AppFolder));
         QDir().mkpath(LocalPath(u"E:\\"));
     }
     ~FileSystemTest() override { SetDrivesRoot({}); }

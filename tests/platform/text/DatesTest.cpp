@@ -28,7 +28,7 @@ TEST(ParseDateTest, RefusesOtherShapes)
         {u"", u" ", u"1/4/2026", u"01/04/26", u"01-04-2026", u"01.04.2026", u"2026/04/01", u"01/04/2026x",
             u"01/04/ 026", u"+1/04/2026", u"०१/०४/२०२६", u"1_/04/2026", u"01/04/20261", u"01 04 2026"})
         EXPECT_FALSE(IsDate(text)) << qPrintable(text.toString());
-    EXPECT_FALSE(IsDate(EmptyDateMask));
+    EXPECT_FALSE(IsDate(DateMask::Empty));
     EXPECT_FALSE(IsDate(QString(1000, u'1')));
     EXPECT_TRUE(IsDate(u"01/04/2026"));
 }
@@ -37,7 +37,7 @@ TEST(ToDateTest, ATextThatIsNoneIsATypeMismatch)
 {
     EXPECT_EQ(ToDate(u"29/02/2024"), QDate(2024, 2, 29));
     for (const QString& text :
-        QStringList{QString(), EmptyDateMask.toString(), "31/02/2026", QString(1000, u'7')}) {
+        QStringList{QString(), DateMask::Empty.toString(), "31/02/2026", QString(1000, u'7')}) {
         try {
             ToDate(text);
             FAIL() << qPrintable(text);
