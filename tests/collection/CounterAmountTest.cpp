@@ -29,8 +29,8 @@ protected:
     void AtTheFatOfARow(const std::function<void(Clerk&)>& script)
     {
         AddMorningDelivery(1);
-        gAppState.gWeighScale = QStringLiteral("NO");
-        gAppState.gAutoFat = QStringLiteral("haoya");
+        gAppState.gWeighScale = "NO";
+        gAppState.gAutoFat = "haoya";
         Set("AutoFat", "haoya");
         InTheShift([&](Clerk& clerk) {
             Type(clerk, "1{ENTER}{ENTER}{ENTER}0");

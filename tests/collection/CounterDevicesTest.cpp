@@ -47,7 +47,7 @@ TEST_P(CounterDevicesTest, WithoutARowOfPortsTheClerkIsToldAndTheCounterOpens)
 
 TEST_P(CounterDevicesTest, TheSwitchesFollowTheSettingAndTurnItForThisRunOnly)
 {
-    gAppState.gAutoLiters = QStringLiteral("haoya");
+    gAppState.gAutoLiters = "haoya";
     AtThisCounter([](Clerk& clerk) {
         EXPECT_EQ(Reads(clerk, "cmdAutoLiter"), "sau$");
         EXPECT_EQ(Reads(clerk, "cmdAutoFat"), "baMd");

@@ -70,8 +70,8 @@ TEST_P(CounterRulesTest, ADuplicateIsToldWhileItsLineCanStillBeRead)
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "") << "it is cleared afterwards";
     });
     World::Current().messageBox = &TheBox;
-    EXPECT_EQ(box.Line[QStringLiteral("Duplicate Record")],
-        QStringList({"1", QString::fromStdString(Litres("2.00")), "70.00"}));
+    EXPECT_EQ(
+        box.Line["Duplicate Record"], QStringList({"1", QString::fromStdString(Litres("2.00")), "70.00"}));
 }
 
 // The last fat
@@ -101,8 +101,8 @@ TEST_P(CounterRulesTest, TheFatIsOfferedWithOneDecimal)
 TEST_P(CounterRulesTest, WhatTheTesterSaysStandsInPlaceOfTheOffer)
 {
     AddYesterdays(1, 1, "rama", "gaaya", 4.2);
-    gAppState.gWeighScale = QStringLiteral("NO");
-    gAppState.gAutoFat = QStringLiteral("haoya"); // by the switch: the stored setting says no
+    gAppState.gWeighScale = "NO";
+    gAppState.gAutoFat = "haoya"; // by the switch: the stored setting says no
     Ports.Replies.insert("W", {{"ST,GS,00000000 5.1%", 1ms}});
     InTheShift([](Clerk& clerk) { EXPECT_EQ(OfferedFat(clerk, "1"), "5.1"); });
 }
@@ -126,8 +126,8 @@ TEST_P(CounterRulesTest, ANewNumberAfterAnExistingRowIsOfferedAFatAgain)
 TEST_P(CounterRulesTest, ASilentScaleLeavesTheLitresThatStandThere)
 {
     AddMorningDelivery(1);
-    gAppState.gWeighScale = QStringLiteral("ELECTRO");
-    gAppState.gAutoLiters = QStringLiteral("haoya");
+    gAppState.gWeighScale = "ELECTRO";
+    gAppState.gAutoLiters = "haoya";
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "1{ENTER}{ENTER}");
         EXPECT_TRUE(Ports.Log.contains("write W")) << "it was asked";
@@ -139,8 +139,8 @@ TEST_P(CounterRulesTest, ASilentScaleLeavesTheLitresThatStandThere)
 TEST_P(CounterRulesTest, ASilentTesterLeavesTheFatThatStandsThere)
 {
     AddMorningDelivery(1);
-    gAppState.gWeighScale = QStringLiteral("NO");
-    gAppState.gAutoFat = QStringLiteral("haoya");
+    gAppState.gWeighScale = "NO";
+    gAppState.gAutoFat = "haoya";
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "1{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
@@ -153,8 +153,8 @@ TEST_P(CounterRulesTest, ASilentTesterLeavesTheFatThatStandsThere)
 
 TEST_P(CounterRulesTest, NoTareIsSentForACanThatWasNotSaved)
 {
-    gAppState.gWeighScale = QStringLiteral("NO");
-    gAppState.gAutoLiters = QStringLiteral("haoya");
+    gAppState.gWeighScale = "NO";
+    gAppState.gAutoLiters = "haoya";
     InTheShift([](Clerk& clerk) {
         gCn.RunScript("create trigger NoRoom before insert on MilkReceipt "
                       "begin select raise(abort, 'no room'); end");
@@ -168,8 +168,8 @@ TEST_P(CounterRulesTest, NoTareIsSentForACanThatWasNotSaved)
 TEST_P(CounterRulesTest, AChangedRowSendsTheTareToo)
 {
     AddMorningDelivery(1);
-    gAppState.gWeighScale = QStringLiteral("NO");
-    gAppState.gAutoLiters = QStringLiteral("haoya");
+    gAppState.gWeighScale = "NO";
+    gAppState.gAutoLiters = "haoya";
     InTheShift([this](Clerk& clerk) {
         Type(clerk, "1{ENTER}{ENTER}"); // the litres go on by themselves
         EXPECT_EQ(Focus(clerk), "txtFat");

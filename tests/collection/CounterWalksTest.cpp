@@ -38,8 +38,8 @@ protected:
     // A tester that is silent, beside a scale that it makes weigh a second time.
     void UseSilentTester()
     {
-        gAppState.gWeighScale = QStringLiteral("UDFREAD");
-        gAppState.gAutoFat = QStringLiteral("haoya");
+        gAppState.gWeighScale = "UDFREAD";
+        gAppState.gAutoFat = "haoya";
         Run("update PortTable set LReceiverCommand='RD'");
         Ports.Replies.insert("RD", {{QByteArray("12345 06.5"), 1ms}});
     }

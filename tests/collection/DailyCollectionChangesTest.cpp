@@ -42,7 +42,7 @@ protected:
     {
         Type(clerk, "1{F5}");
         ASSERT_GE(RowOf(clerk, line), 0);
-        clerk.Type(QStringLiteral("{HOME}") + QStringLiteral("{DOWN}").repeated(RowOf(clerk, line)));
+        clerk.Type("{HOME}" + QStringLiteral("{DOWN}").repeated(RowOf(clerk, line)));
     }
 
     // Leads from the button to the row of a morning of member 1 and leaves its number.
@@ -143,8 +143,7 @@ TEST_F(DailyCollectionChangesTest, AChangeIsPricedAnewAndSavedFromTheRate)
 
 TEST_F(DailyCollectionChangesTest, AChangeLeavesTheMembersFiguresAlone)
 {
-    const QString member =
-        QStringLiteral("select ClosingBalance,CowClosingLits from MembersMaster where MemberNo=1");
+    const QString member = "select ClosingBalance,CowClosingLits from MembersMaster where MemberNo=1";
     const QStringList before = Rows(member);
     InTheOffice([](Clerk& clerk) {
         GoTo(clerk, "%d", "15042026", 5);
@@ -247,8 +246,8 @@ TEST_F(DailyCollectionChangesTest, ADeletionTakesTheNumberOfMemberAndShiftOnEver
 TEST_F(DailyCollectionChangesTest, ADeletionLeavesTheMembersFiguresAlone)
 {
     Run("update MembersMaster set ClosingBalance=525,ClosingDorC='C',CowClosingLits=15");
-    const QString members = QStringLiteral("select MemberNo,ClosingBalance,ClosingDorC,CowClosingLits,"
-                                           "BuffClosingLits from MembersMaster");
+    const QString members = "select MemberNo,ClosingBalance,ClosingDorC,CowClosingLits,"
+                            "BuffClosingLits from MembersMaster";
     const QStringList before = Rows(members);
     InTheOffice([](Clerk& clerk) {
         GoTo(clerk, "%k", "15042026", 5);

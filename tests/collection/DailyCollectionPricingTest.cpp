@@ -168,7 +168,7 @@ TEST_F(DailyCollectionPricingTest, TheTitleTellsTheModeAndCancelTakesItBack)
 {
     const std::pair<const char*, QString> titles[] = {
         {"%n", " navaIna roka^D-"}, {"%d", " roka^D-maQyao badla"}, {"%k", " roka^D- KaoDNao"}};
-    const QString idle = QStringLiteral("  raojacao saBaasadanausaar duQa saMklana");
+    const QString idle = "  raojacao saBaasadanausaar duQa saMklana";
     for (const auto& [keys, title] : titles) {
         After(keys, [&, words = title](Clerk& clerk) {
             EXPECT_EQ(clerk.Top().Title().Text(), QString(idle + words));

@@ -6,8 +6,8 @@
 
 TEST_F(DailyCollectionTest, ASaveWritesTheRowAndNothingBesideIt)
 {
-    const QString members = QStringLiteral("select MemberNo,ClosingBalance,ClosingDorC,CowClosingLits,"
-                                           "BuffClosingLits from MembersMaster");
+    const QString members = "select MemberNo,ClosingBalance,ClosingDorC,CowClosingLits,"
+                            "BuffClosingLits from MembersMaster";
     Set("PurchaseEntry", "Collection");
     const QStringList before = Rows(members);
     AddingFor(1, [&](Clerk& clerk) {

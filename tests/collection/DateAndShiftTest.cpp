@@ -65,7 +65,7 @@ class BadDateTest : public DateAndShiftTest, public ::testing::WithParamInterfac
 TEST_P(BadDateTest, KeepsTheFocusWithoutAMessage)
 {
     AtTheCounter([this](Clerk& clerk) {
-        clerk.Type(QStringLiteral("{BS}") + QString::fromLatin1(GetParam()));
+        clerk.Type("{BS}" + QString::fromLatin1(GetParam()));
         for (const char* away : {"{ENTER}", "+{TAB}"}) {
             Type(clerk, away);
             EXPECT_EQ(Focus(clerk), "maskDate");

@@ -240,7 +240,7 @@ TEST_F(EntryChainTest, AFatOfZeroOrAboveThirtyKeepsTheFocusWithoutAMessage)
     AtTheFat([this](Clerk& clerk) {
         for (const auto& [typed, shown] :
             {std::pair("0", "0.0"), {"30.1", "30.1"}, {"99", "99.0"}, {"30.04", "30.0"}}) {
-            clerk.Type(QString::fromLatin1(typed) + QStringLiteral("{ENTER}"));
+            clerk.Type(QString::fromLatin1(typed) + "{ENTER}");
             EXPECT_EQ(Focus(clerk), "txtFat") << typed;
             EXPECT_EQ(Reads(clerk, "txtFat"), shown) << typed;
             EXPECT_EQ(Reads(clerk, "txtRate"), "") << typed;
@@ -330,8 +330,8 @@ TEST_F(EntryChainTest, AChartWhoseTableIsGoneEndsTheProgram)
 
 TEST_F(EntryChainTest, TheLastFatOfTheSameShiftAndAnimalIsOffered)
 {
-    const QString rama = QStringLiteral("rama");
-    const QString cow = QStringLiteral("gaaya");
+    const QString rama = "rama";
+    const QString cow = "gaaya";
     AddDelivery("13/04/2026", "sakaL", 9, 1, rama, cow, 5, 3.1, 30, 150);
     AddDelivery("14/04/2026", "sakaL", 1, 1, rama, cow, 5, 4.1, 30, 150);
     AddDelivery("14/04/2026", "sakaL", 2, 1, rama, cow, 5, 4.2, 30, 150);
@@ -391,7 +391,7 @@ TEST_F(EntryChainTest, ARateOfZeroOrAboveSixtyKeepsTheFocus)
         Type(clerk, "4.5{ENTER}");
         for (const auto& [typed, rate, amount] :
             {std::tuple("60.01", "60.01", "120.02"), {"0", "0.00", "0.00"}, {"100", "100.00", "200.00"}}) {
-            clerk.Type(QString::fromLatin1(typed) + QStringLiteral("{ENTER}"));
+            clerk.Type(QString::fromLatin1(typed) + "{ENTER}");
             EXPECT_EQ(Focus(clerk), "txtRate") << typed;
             EXPECT_EQ(Reads(clerk, "txtRate"), rate) << typed;
             EXPECT_EQ(Reads(clerk, "txtAmount"), amount) << typed;

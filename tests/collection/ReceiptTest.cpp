@@ -179,14 +179,14 @@ TEST_P(ReceiptTest, TheFirstSlipIsMadeReadyUnlessTheSettingsWantNone)
         AtTheDoor([](Clerk&) {});
     }
     ReportSurroundings::Current() = {};
-    const QString slip = QStringLiteral("C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt");
+    const QString slip = "C:\\Tarvel01\\Vetrolan\\MilkReceipt1.rpt";
     EXPECT_EQ(asked, QStringList({slip, slip, slip}));
 }
 
 TEST_P(ReceiptTest, ACounterOpensEvenIfTheBooksCannotBeOpenedForItsSlips)
 {
     PrintTo("haoya");
-    gAppState.gDbPassword = QStringLiteral("wrong");
+    gAppState.gDbPassword = "wrong";
     InTheShift([this](Clerk& clerk) {
         Deliver(clerk, 1, "2", "4.5");
         EXPECT_EQ(Books(), Of({"1|1|rama|gaaya|2|4.5|35|70"}));

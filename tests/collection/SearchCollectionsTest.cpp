@@ -41,7 +41,7 @@ TEST_F(SearchCollectionsTest, TheTickSwitchesItselfOffAndLeavesTheClerkWhereHeIs
 
 TEST_F(SearchCollectionsTest, ACallersTagWithoutACounterIsAsFromTheMenu)
 {
-    gAppState.gCallerTag = QStringLiteral("MC");
+    gAppState.gCallerTag = "MC";
     FromTheMenu([](Clerk& clerk) {
         EXPECT_EQ(Focus(clerk), "maskDate");
         EXPECT_EQ(Reads(clerk, "ComboMemberName"), "");

@@ -46,8 +46,7 @@ TEST_P(SlipTest, EachOfTheEightTypesHasItsTemplate)
     EXPECT_EQ(Error(), "");
     ASSERT_EQ(Printed.size(), 8U);
     for (std::size_t at = 0; at < Printed.size(); ++at)
-        EXPECT_EQ(Printed[at].fileName,
-            QStringLiteral("C:\\Tarvel01\\Vetrolan\\") + templates[static_cast<qsizetype>(at)]);
+        EXPECT_EQ(Printed[at].fileName, "C:\\Tarvel01\\Vetrolan\\" + templates[static_cast<qsizetype>(at)]);
 }
 
 TEST_P(SlipTest, AFirstSlipOfAnUnknownTypeIsToldAndTheCounterGoesOn)
@@ -67,7 +66,7 @@ TEST_P(SlipTest, AFirstSlipOfAnUnknownTypeIsToldAndTheCounterGoesOn)
 TEST_P(SlipTest, APrinterThatRefusesIsToldAndTheCounterGoesOn)
 {
     FakePrinter printer;
-    printer.Answer.fault = QStringLiteral("no paper");
+    printer.Answer.fault = "no paper";
     PrintOn(printer);
     InTheShift([&](Clerk& clerk) {
         Deliver(clerk, 1, "2", "4.5");

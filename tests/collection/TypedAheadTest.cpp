@@ -62,7 +62,7 @@ TEST_F(TypedAheadTest, AShiftTypedInOneGoIsTakenKeyByKey)
 {
     Set("RepeatCollection", "haoya");
     AtTheCounter([this](Clerk& clerk) {
-        QString keys = QStringLiteral("{ENTER}1{ENTER}");
+        QString keys = "{ENTER}1{ENTER}";
         for (int row = 1; row <= 20; ++row)
             keys += QStringLiteral("{ENTER}%1{ENTER}%2{ENTER}4.5{ENTER}{ENTER}{ENTER}")
                         .arg(row % 2 == 0 ? 4 : 6)

@@ -11,9 +11,9 @@ namespace {
 SocietyPlan Plan()
 {
     SocietyPlan plan;
-    plan.name = QStringLiteral("दूध संस्था");
-    plan.year = QStringLiteral("2026-2027");
-    plan.password = QStringLiteral("Gokul#2026");
+    plan.name = "दूध संस्था";
+    plan.year = "2026-2027";
+    plan.password = "Gokul#2026";
     return plan;
 }
 
@@ -33,7 +33,7 @@ StatementsTest::StatementsTest() : SocietyName(Shivaji01::FromUnicode(Plan().nam
 {
     CopySociety(m_folder.path(), Plan());
     DataSource::Register("StatementsDSN", m_folder.filePath(DatabaseFileName.toString()));
-    m_connection.Open(QStringLiteral("dsn=StatementsDSN;pwd=") + Plan().password);
+    m_connection.Open("dsn=StatementsDSN;pwd=" + Plan().password);
 }
 
 int StatementsTest::Run(const std::string& statement)

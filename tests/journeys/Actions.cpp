@@ -7,14 +7,13 @@
 
 namespace {
 
-const QString ToTheMembers = QStringLiteral("{ENTER}{ENTER}");
-const QString ToTheRates = QStringLiteral("{ENTER}{DOWN}{DOWN}{ENTER}%d");
-const QString ToTheCounter = QStringLiteral("{DOWN}{ENTER}{ENTER}");
-const QString ToTheNumber = QString(ToTheCounter + QStringLiteral("{ENTER}1{ENTER}"));
-const QString ToTheDays = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{ENTER}");
-const QString ToTheFrame =
-    QString(ToTheNumber + QStringLiteral("{ENTER}1{F7}14042026{ENTER}15042026{ENTER}"));
-const QString Yes = QStringLiteral("%h");
+const QString ToTheMembers = "{ENTER}{ENTER}";
+const QString ToTheRates = "{ENTER}{DOWN}{DOWN}{ENTER}%d";
+const QString ToTheCounter = "{DOWN}{ENTER}{ENTER}";
+const QString ToTheNumber = QString(ToTheCounter + "{ENTER}1{ENTER}");
+const QString ToTheDays = "{DOWN}{ENTER}{DOWN}{DOWN}{ENTER}";
+const QString ToTheFrame = QString(ToTheNumber + "{ENTER}1{F7}14042026{ENTER}15042026{ENTER}");
+const QString Yes = "%h";
 
 void Execute(const char* statement)
 {
@@ -24,12 +23,12 @@ void Execute(const char* statement)
 void InsertDeliveries()
 {
     const QString columns =
-        QStringLiteral("(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,Animal,"
-                       "Liters,Fat,Rate,Amount,TranId,ActualCollectionTime) values(1,");
+        "(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,Animal,"
+        "Liters,Fat,Rate,Amount,TranId,ActualCollectionTime) values(1,";
     for (const char* values : {"'14/04/2026','sakaL',1,1,'rama','gaaya',5,4.5,35,175,0,'6.01')",
              "'15/04/2026','sakaL',1,1,'rama','gaaya',6,4.5,35,210,0,'6.02')",
              "'15/04/2026','sakaL',2,2,'saIta','mhOsa',4,7.1,47.65,190.6,0,'6.03')"})
-        gCn.Execute(QStringLiteral("insert into MilkCollections") + columns + QString::fromLatin1(values));
+        gCn.Execute("insert into MilkCollections" + columns + QString::fromLatin1(values));
     gCn.Execute(Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where CollectionNo=2"));
 }
 
@@ -38,49 +37,30 @@ void InsertDeliveries()
 const std::vector<Action>& Actions()
 {
     static const std::vector<Action> actions = {
-        {QStringLiteral("NewDelivery"),
-            ToTheNumber + QStringLiteral("{ENTER}3{ENTER}1{ENTER}6.4{ENTER}4.1{ENTER}{ENTER}"),
-            QStringLiteral("{ENTER}")},
-        {QStringLiteral("ChangedDelivery"),
-            ToTheNumber + QStringLiteral("1{ENTER}{ENTER}9.5{ENTER}{ENTER}{ENTER}"),
-            QStringLiteral("{ENTER}")},
-        {QStringLiteral("DeletedDelivery"), ToTheNumber + QStringLiteral("1{ENTER}"),
-            QStringLiteral("{F10}")},
-        {QStringLiteral("DeliveryAtTheGate"),
-            QStringLiteral("{F8}{ENTER}1{ENTER}{ENTER}3{ENTER}1{ENTER}6.4{ENTER}4.1{ENTER}{ENTER}"),
-            QStringLiteral("{ENTER}")},
-        {QStringLiteral("OpenedCounter"), QStringLiteral("{DOWN}{ENTER}"), QStringLiteral("{ENTER}")},
-        {QStringLiteral("OpenedShift"), ToTheCounter + QStringLiteral("{ENTER}1"), QStringLiteral("{ENTER}")},
-        {QStringLiteral("PeriodOfAMember"), ToTheFrame + QStringLiteral("1{ENTER}{ENTER}"),
-            QStringLiteral("{ENTER}")},
-        {QStringLiteral("NewDay"),
-            ToTheDays
-                + QStringLiteral("%n1{ENTER}{ENTER}16042026{ENTER}2{ENTER}{ENTER}{ENTER}5{ENTER}4.5{ENTER}"),
-            QStringLiteral("{ENTER}")},
-        {QStringLiteral("ChangedDay"),
-            ToTheDays + QStringLiteral("%d1{ENTER}{ENTER}15042026{ENTER}1{ENTER}1{ENTER}{ENTER}7.5{ENTER}"),
-            QStringLiteral("%s")},
-        {QStringLiteral("DeletedDay"),
-            ToTheDays + QStringLiteral("%k1{ENTER}{ENTER}14042026{ENTER}1{ENTER}1{ENTER}"),
-            QStringLiteral("{ENTER}")},
-        {QStringLiteral("Settings"),
-            QStringLiteral("{F7}{ENTER}{ENTER}2{ENTER}45{ENTER}46.5{ENTER}3{ENTER} {ENTER}4{ENTER}0.75{ENTER}"
-                           ".8{ENTER}49{ENTER}59.5{ENTER}53{ENTER}"),
-            QStringLiteral("{ENTER}")},
-        {QStringLiteral("NewChart"), ToTheRates + QStringLiteral("16042026{ENTER}"), QStringLiteral("%s")},
-        {QStringLiteral("ReplacedChart"),
-            ToTheRates + QStringLiteral("{ENTER}4.5{ENTER}31{ENTER}21{ENTER}{ENTER}{ENTER}{ENTER}"),
-            QStringLiteral("%s")},
-        {QStringLiteral("ReRating"),
-            ToTheRates + QStringLiteral("15042026{ENTER}{F5}8{ENTER}7{ENTER}{ENTER}%s"), Yes},
-        {QStringLiteral("NewMember"),
-            ToTheMembers
-                + QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}1{ENTER}250.5{ENTER}{ENTER}"),
-            QStringLiteral("%s")},
-        {QStringLiteral("NewVillage"),
-            ToTheMembers + QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}vaDgaava{ENTER}"), Yes},
-        {QStringLiteral("ChangedMember"), ToTheMembers + QStringLiteral("%d1{ENTER}ramaa{ENTER}%s"), Yes},
-        {QStringLiteral("DeletedMember"), ToTheMembers + QStringLiteral("%K1{ENTER}{ENTER}"), Yes},
+        {"NewDelivery", ToTheNumber + "{ENTER}3{ENTER}1{ENTER}6.4{ENTER}4.1{ENTER}{ENTER}", "{ENTER}"},
+        {"ChangedDelivery", ToTheNumber + "1{ENTER}{ENTER}9.5{ENTER}{ENTER}{ENTER}", "{ENTER}"},
+        {"DeletedDelivery", ToTheNumber + "1{ENTER}", "{F10}"},
+        {"DeliveryAtTheGate", "{F8}{ENTER}1{ENTER}{ENTER}3{ENTER}1{ENTER}6.4{ENTER}4.1{ENTER}{ENTER}",
+            "{ENTER}"},
+        {"OpenedCounter", "{DOWN}{ENTER}", "{ENTER}"},
+        {"OpenedShift", ToTheCounter + "{ENTER}1", "{ENTER}"},
+        {"PeriodOfAMember", ToTheFrame + "1{ENTER}{ENTER}", "{ENTER}"},
+        {"NewDay", ToTheDays + "%n1{ENTER}{ENTER}16042026{ENTER}2{ENTER}{ENTER}{ENTER}5{ENTER}4.5{ENTER}",
+            "{ENTER}"},
+        {"ChangedDay", ToTheDays + "%d1{ENTER}{ENTER}15042026{ENTER}1{ENTER}1{ENTER}{ENTER}7.5{ENTER}", "%s"},
+        {"DeletedDay", ToTheDays + "%k1{ENTER}{ENTER}14042026{ENTER}1{ENTER}1{ENTER}", "{ENTER}"},
+        {"Settings",
+            "{F7}{ENTER}{ENTER}2{ENTER}45{ENTER}46.5{ENTER}3{ENTER} {ENTER}4{ENTER}0.75{ENTER}"
+            ".8{ENTER}49{ENTER}59.5{ENTER}53{ENTER}",
+            "{ENTER}"},
+        {"NewChart", ToTheRates + "16042026{ENTER}", "%s"},
+        {"ReplacedChart", ToTheRates + "{ENTER}4.5{ENTER}31{ENTER}21{ENTER}{ENTER}{ENTER}{ENTER}", "%s"},
+        {"ReRating", ToTheRates + "15042026{ENTER}{F5}8{ENTER}7{ENTER}{ENTER}%s", Yes},
+        {"NewMember", ToTheMembers + "%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}1{ENTER}250.5{ENTER}{ENTER}",
+            "%s"},
+        {"NewVillage", ToTheMembers + "%n{ENTER}gaIta{ENTER}{ENTER}vaDgaava{ENTER}", Yes},
+        {"ChangedMember", ToTheMembers + "%d1{ENTER}ramaa{ENTER}%s", Yes},
+        {"DeletedMember", ToTheMembers + "%K1{ENTER}{ENTER}", Yes},
     };
     return actions;
 }
@@ -95,7 +75,7 @@ const Action& ActionOf(const QString& name)
 
 QString OpeningKeys()
 {
-    return QStringLiteral("{ENTER}{ENTER}15042026{ENTER}{ENTER}");
+    return "{ENTER}{ENTER}15042026{ENTER}{ENTER}";
 }
 
 void InsertMember(int number, const QString& name, const QString& animal)
@@ -110,9 +90,9 @@ void InsertMember(int number, const QString& name, const QString& animal)
 
 void FillBooks()
 {
-    InsertMember(1, QStringLiteral("rama"), QStringLiteral("gaaya"));
-    InsertMember(2, QStringLiteral("saIta"), QStringLiteral("mhOsa"));
-    InsertMember(3, QStringLiteral("gaNaoSa"), QStringLiteral("daonhI"));
+    InsertMember(1, "rama", "gaaya");
+    InsertMember(2, "saIta", "mhOsa");
+    InsertMember(3, "gaNaoSa", "daonhI");
     InsertDeliveries();
     Execute(
         "insert into CustomersMaster(CompanyId,CustomerNo,CustomerName,Animal,CustomerType,CowOpeningLits,"

@@ -22,8 +22,8 @@ protected:
 
     void ShowSlips() { Run("update AutoSettings set PrintStatus='f@t sËIna',ReceiptType='Tašp 2'"); }
 
-    const QString Books = QStringLiteral("Morvelta.mdb");
-    const QString Log = QStringLiteral("Morvelta.mdb-wal");
+    const QString Books = "Morvelta.mdb";
+    const QString Log = "Morvelta.mdb-wal";
 
     // Whether the engine's lock stands on the books, for every other program to see.
     bool IsLocked() const { return BooksFile::LocksOn(FolderFile(Books).toStdString()) > 0; }
@@ -46,8 +46,7 @@ protected:
                 EXPECT_TRUE(IsLocked()) << screen << " was printed";
                 for (const auto& [key, file] : {std::pair{"^s", "paper.pdf"}, std::pair{"^e", "paper.csv"}}) {
                     Type(clerk, key);
-                    clerk.Type(
-                        QStringLiteral("paper{ENTER}") + folder.path() + QStringLiteral("{ENTER}{ENTER}"));
+                    clerk.Type("paper{ENTER}" + folder.path() + "{ENTER}{ENTER}");
                     EXPECT_TRUE(QFile::exists(folder.filePath(QString::fromLatin1(file)))) << screen;
                     EXPECT_TRUE(IsLocked()) << screen << " was saved as " << file;
                 }
@@ -121,7 +120,7 @@ protected:
     std::unique_ptr<QProcess> m_other;
 };
 
-const QString ToTheEvening = QStringLiteral("{DOWN}{ENTER}{ENTER}{ENTER}2{ENTER}");
+const QString ToTheEvening = "{DOWN}{ENTER}{ENTER}{ENTER}2{ENTER}";
 
 QString Delivery(const char* member, const char* litres, const char* fat)
 {
@@ -156,7 +155,7 @@ TEST_F(BooksKeptTest, ABackupPutOverTheBooksOfAKilledProgramIsWhatOpens)
     StartOther();
     TypeThere(OpeningKeys() + ToTheEvening + Delivery("1", "6", "4.1"));
     EXPECT_EQ(TypeThere("{ESC}"), "MainMenuFrm");
-    TypeThere(QStringLiteral("{ENTER}{ENTER}2{ENTER}") + Delivery("2", "4", "7.1"));
+    TypeThere("{ENTER}{ENTER}2{ENTER}" + Delivery("2", "4", "7.1"));
     KillOther();
     ASSERT_GT(LogSize(), 0);
     ASSERT_TRUE(QFile::remove(FolderFile(Books)));
@@ -181,7 +180,7 @@ TEST_F(BooksKeptTest, TheEnginesLockStandsAfterEachSlipPreviewFileAndScreen)
         EXPECT_TRUE(IsLocked()) << "a slip";
         for (const char* key : {"^s", "^e"}) {
             Type(clerk, key);
-            clerk.Type(QStringLiteral("slip{ENTER}") + folder + QStringLiteral("{ENTER}{ENTER}"));
+            clerk.Type("slip{ENTER}" + folder + "{ENTER}{ENTER}");
             ASSERT_EQ(OnTop(clerk), "frmReportPreview");
             EXPECT_TRUE(IsLocked()) << "a PDF, a CSV";
         }
@@ -236,7 +235,7 @@ TEST_F(BooksKeptTest, TheEnginesLockStandsAfterASlipThatGoesToThePrinterAtOnce)
     auto made = std::make_unique<FakePrinter>();
     const FakePrinter& printer = *made;
     const ReportHandover handover(std::move(made));
-    const QString counter = QStringLiteral("frmMilkCollections");
+    const QString counter = "frmMilkCollections";
     PlayOn(TheClerk, {counter, "{ENTER}2{ENTER}", [&] { ScreenDirectory::Open(counter, {}); }},
         [&](Clerk& clerk) {
             for (const std::size_t jobs : {1U, 2U}) {

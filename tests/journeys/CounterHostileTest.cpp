@@ -115,7 +115,7 @@ TEST_F(CounterHostileTest, ANumberBeyondTheSeriesSnapsBack)
 {
     InTheMorning([](Clerk& clerk) {
         for (const char* number : {"4", "32768", "99999999", "0"}) {
-            clerk.Type(QLatin1String(number) + QStringLiteral("{ENTER}"));
+            clerk.Type(QLatin1String(number) + "{ENTER}");
             EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "3") << number;
             if (Focus(clerk) != "txtCollectionNo")
                 Type(clerk, "+{TAB}");
@@ -163,7 +163,7 @@ TEST_F(CounterHostileTest, FourHundredDigitsOfFatAreAnOverflow)
 {
     InTheMorning([](Clerk& clerk) {
         Type(clerk, ToFat);
-        clerk.Type(QString(400, u'9') + QStringLiteral("{ENTER}"));
+        clerk.Type(QString(400, u'9') + "{ENTER}");
         EXPECT_EQ(OnTop(clerk), "");
     });
     ASSERT_TRUE(Failure);
@@ -175,7 +175,7 @@ TEST_F(CounterHostileTest, ThreeHundredDigitsOfFatAreRefused)
 {
     InTheMorning([](Clerk& clerk) {
         Type(clerk, ToFat);
-        clerk.Type(QString(300, u'9') + QStringLiteral("{ENTER}"));
+        clerk.Type(QString(300, u'9') + "{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
         Type(clerk, "4.5{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtAmount"), "175.00");
@@ -188,7 +188,7 @@ TEST_F(CounterHostileTest, FourHundredDigitsOfRateAreAnOverflow)
     InTheMorning([](Clerk& clerk) {
         Type(clerk, ToFat);
         Type(clerk, "4.5{ENTER}");
-        clerk.Type(QString(400, u'1') + QStringLiteral("{ENTER}"));
+        clerk.Type(QString(400, u'1') + "{ENTER}");
     });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), RunTimeError::Overflow);
@@ -200,7 +200,7 @@ TEST_F(CounterHostileTest, FourHundredDigitsOfANumberAreAnOverflow)
     for (const char* way : {"", "{ENTER}"}) {
         InTheMorning([way](Clerk& clerk) {
             Type(clerk, way);
-            clerk.Type(QString(400, u'7') + QStringLiteral("{ENTER}"));
+            clerk.Type(QString(400, u'7') + "{ENTER}");
         });
         ASSERT_TRUE(Failure) << way;
         EXPECT_EQ(Failure->Number(), RunTimeError::Overflow) << way;
@@ -211,9 +211,9 @@ TEST_F(CounterHostileTest, FourHundredDigitsOfANumberAreAnOverflow)
 TEST_F(CounterHostileTest, ThreeHundredDigitsOfANumberAreNobodys)
 {
     InTheMorning([](Clerk& clerk) {
-        clerk.Type(QString(300, u'7') + QStringLiteral("{ENTER}"));
+        clerk.Type(QString(300, u'7') + "{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "3");
-        clerk.Type(QString(300, u'7') + QStringLiteral("{ENTER}"));
+        clerk.Type(QString(300, u'7') + "{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtMemberNo"), "");
     });
     EXPECT_FALSE(Failure);

@@ -23,7 +23,7 @@ protected:
     {
         ASSERT_EQ(OnTop(clerk), "frmReportPreview");
         Type(clerk, "{END}^f");
-        clerk.Type(QString::fromUtf8(stored) + QStringLiteral("{ENTER}"));
+        clerk.Type(QString::fromUtf8(stored) + "{ENTER}");
         EXPECT_EQ(Label(clerk, "lblPages"), "1 / 1");
         EXPECT_EQ(Label(clerk, "lblState"), "सापडले: 1 / " + std::to_string(times)) << stored;
         Type(clerk, "{ESC}");
@@ -163,7 +163,7 @@ protected:
     void ExpectTheDeliveryIsThere()
     {
         const int exitCode = Start([this](Clerk& clerk) {
-            clerk.Type(OpeningKeys() + QStringLiteral("{F8}{ENTER}1{ENTER}"));
+            clerk.Type(OpeningKeys() + "{F8}{ENTER}1{ENTER}");
             EXPECT_EQ(Reads(clerk, "txtCollectionNo"), "2");
             EXPECT_EQ(dynamic_cast<const DataGrid&>(*clerk.Top().Find(u"DataGridInwards")).Rows(), 1);
             Type(clerk, "{ESC}");
@@ -234,7 +234,7 @@ TEST_F(DayWithPaperTest, ALostTemplateOfAListEndsTheProgramAndTheBooksStay)
     TakeTemplate("MilkCollectionsReport.rpt");
     const QStringList before = AllRows();
     const int exitCode = Start([](Clerk& clerk) {
-        clerk.Type(OpeningKeys() + QStringLiteral("{DOWN}{DOWN}{ENTER}{ENTER}15042026{ENTER}{ENTER}%i"));
+        clerk.Type(OpeningKeys() + "{DOWN}{DOWN}{ENTER}{ENTER}15042026{ENTER}{ENTER}%i");
         EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_EQ(exitCode, 1);

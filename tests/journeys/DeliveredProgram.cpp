@@ -38,7 +38,7 @@ std::unique_ptr<QProcess> DeliveredProgram::StartTheProgram()
 
 QStringList DeliveredProgram::Environment() const
 {
-    return {QStringLiteral("XDG_DATA_HOME=") + m_data.path()};
+    return {"XDG_DATA_HOME=" + m_data.path()};
 }
 
 void DeliveredProgram::Kill(QProcess& process)

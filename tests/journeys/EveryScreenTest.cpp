@@ -113,7 +113,7 @@ TEST_P(EveryScreenTest, ItsKeysAreNamedInTheListOrInTheGuide)
             else if (const auto* option = dynamic_cast<const OptionButton*>(control))
                 mnemonic = option->Shown().Mnemonic();
             if (!mnemonic.isNull() && control->CanTakeFocus())
-                expect(QStringLiteral("Alt+") + mnemonic);
+                expect("Alt+" + mnemonic);
             if (dynamic_cast<const NameCombo*>(control)) {
                 expect("↓");
                 for (const char* key : {"Enter Tab", "Esc", "Alt+↓ Alt+↑"})

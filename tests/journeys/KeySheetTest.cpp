@@ -9,8 +9,8 @@ namespace {
 // The key sheet as it is printed: a table of every screen's keys.
 QString TheSheet()
 {
-    QString sheet = QStringLiteral("# The keys\n\nMade from the program's own list of keys; "
-                                   "`VETROLAN_RENEW=1 ctest --preset check -R KeySheet` writes it anew.\n");
+    QString sheet = "# The keys\n\nMade from the program's own list of keys; "
+                    "`VETROLAN_RENEW=1 ctest --preset check -R KeySheet` writes it anew.\n";
     for (const Keys::Place& place : Keys::Sheet()) {
         sheet += QStringLiteral("\n## %1\n\n| key | what it does |\n|---|---|\n")
                      .arg(place.heading.Seen().trimmed());

@@ -140,7 +140,7 @@ TEST_F(MashedKeysTest, TheCounterMashedAloneKeepsEveryAmountRight)
     int typed = 0;
     while (typed < Keys) {
         Start([&](Clerk& clerk) {
-            clerk.Type(OpeningKeys() + QStringLiteral("{DOWN}{ENTER}{ENTER}{ENTER}1{ENTER}"));
+            clerk.Type(OpeningKeys() + "{DOWN}{ENTER}{ENTER}{ENTER}1{ENTER}");
             while (typed < Keys && clerk.ScreenName() != u"MainMenuFrm" && !clerk.ScreenName().isEmpty()) {
                 const int kind = Throw(20);
                 const QString keys = kind == 0 ? Sensible()
@@ -178,7 +178,7 @@ TEST_F(MashedKeysTest, EnterHeldDownAtTheCounterSavesNothing)
     Reopen();
     const int before = Deliveries();
     Start([](Clerk& clerk) {
-        clerk.Type(OpeningKeys() + QStringLiteral("{DOWN}{ENTER}{ENTER}{ENTER}1{ENTER}"));
+        clerk.Type(OpeningKeys() + "{DOWN}{ENTER}{ENTER}{ENTER}1{ENTER}");
         Hold(clerk, Qt::Key_Return, 500);
         EXPECT_TRUE(OnTop(clerk) == "frmMilkCollections" || OnTop(clerk) == "frmMessages") << OnTop(clerk);
     });
@@ -191,8 +191,7 @@ TEST_F(MashedKeysTest, EnterHeldDownOnAFilledLineSavesItOnce)
     Reopen();
     const int before = Deliveries();
     Start([](Clerk& clerk) {
-        clerk.Type(OpeningKeys()
-            + QStringLiteral("{DOWN}{ENTER}{ENTER}{ENTER}1{ENTER}{ENTER}3{ENTER}1{ENTER}6.4{ENTER}4.1"));
+        clerk.Type(OpeningKeys() + "{DOWN}{ENTER}{ENTER}{ENTER}1{ENTER}{ENTER}3{ENTER}1{ENTER}6.4{ENTER}4.1");
         Hold(clerk, Qt::Key_Return, 500);
     });
     Reopen();

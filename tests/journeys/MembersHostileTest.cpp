@@ -46,7 +46,7 @@ protected:
     }
 
     // From the main menu: a new member with an apostrophe, up to the save.
-    static QString WayToAnApostrophe() { return OpeningKeys() + QStringLiteral("{ENTER}{ENTER}%n{ENTER}"); }
+    static QString WayToAnApostrophe() { return OpeningKeys() + "{ENTER}{ENTER}%n{ENTER}"; }
 };
 
 constexpr const char* NumberFields[] = {"txtOpeningBalance", "txtCowOpeningLits", "txtBuffOpeningLits",
@@ -58,7 +58,7 @@ TEST_F(MembersHostileTest, AThousandLettersOfANameAreSavedAndReadBackWhole)
 {
     QString name;
     while (name.size() < 1000)
-        name += QStringLiteral("rama ");
+        name += "rama ";
     name = name.left(999) + u'a';
     EXPECT_EQ(Saved(name), name);
     On<frmMembers>([&](Clerk& clerk) {
@@ -125,7 +125,7 @@ TEST_F(MembersHostileTest, ANumberThatNobodyHasIsSaidToBeNobodys)
 {
     for (const char* number : {"32768", "99999999"}) {
         On<frmMembers>([number](Clerk& clerk) {
-            clerk.Type(QStringLiteral("%d") + QLatin1String(number) + QStringLiteral("{ENTER}"));
+            clerk.Type(QStringLiteral("%d") + QLatin1String(number) + "{ENTER}");
             EXPECT_EQ(clerk.Message().toStdString(), "yaa maombar naMbarcao roka^D- ]plabQa naahI");
             Type(clerk, "{ENTER}");
             EXPECT_EQ(Focus(clerk), "txtMemberNo");
@@ -137,7 +137,7 @@ TEST_F(MembersHostileTest, ANumberThatNobodyHasIsSaidToBeNobodys)
 TEST_F(MembersHostileTest, FourHundredDigitsInANumberFieldAreAnOverflowAndNothingIsSaved)
 {
     const QStringList before = AllRows();
-    const QString digits = QString(400, u'8') + QStringLiteral("{ENTER}");
+    const QString digits = QString(400, u'8') + "{ENTER}";
     for (int field = -1; field < static_cast<int>(std::size(NumberFields)); ++field) {
         OnANewMember([&](Clerk& clerk) {
             if (field >= 0)
@@ -178,7 +178,7 @@ TEST_F(MembersHostileTest, AnApostropheInAChangedNameEndsTheProgramAndTheBooksAr
 {
     const QStringList before = AllRows();
     const int exitCode = Start([](Clerk& clerk) {
-        clerk.Type(OpeningKeys() + QStringLiteral("{ENTER}{ENTER}%d1{ENTER}ra'ma{ENTER}%s%h"));
+        clerk.Type(OpeningKeys() + "{ENTER}{ENTER}%d1{ENTER}ra'ma{ENTER}%s%h");
         EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_EQ(exitCode, 1);
@@ -192,7 +192,7 @@ TEST_F(MembersHostileTest, AnApostropheInANewVillageEndsTheProgramAndTheBooksAre
 {
     const QStringList before = AllRows();
     const int exitCode = Start([](Clerk& clerk) {
-        clerk.Type(WayToAnApostrophe() + QStringLiteral("gaIta{ENTER}{ENTER}ma'sUr{ENTER}"));
+        clerk.Type(WayToAnApostrophe() + "gaIta{ENTER}{ENTER}ma'sUr{ENTER}");
         EXPECT_EQ(OnTop(clerk), "");
     });
     EXPECT_EQ(exitCode, 1);

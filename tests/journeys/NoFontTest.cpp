@@ -17,8 +17,8 @@ protected:
         file.write("<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM \"fonts.dtd\"><fontconfig>" + folders
             + "<cachedir>" + m_fonts.path().toUtf8() + "</cachedir></fontconfig>");
         file.close();
-        const auto program = Processes::Start(
-            "other_process", {Drives()}, {QStringLiteral("FONTCONFIG_FILE=") + file.fileName()});
+        const auto program =
+            Processes::Start("other_process", {Drives()}, {"FONTCONFIG_FILE=" + file.fileName()});
         EXPECT_TRUE(Processes::WaitForEnd(*program));
         EXPECT_EQ(program->exitStatus(), QProcess::NormalExit)
             << program->readAllStandardError().toStdString();

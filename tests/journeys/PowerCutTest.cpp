@@ -108,7 +108,7 @@ protected:
         EXPECT_EQ(other->exitCode(), SIGKILL);
     }
 
-    const QString Database = QStringLiteral("Morvelta.mdb");
+    const QString Database = "Morvelta.mdb";
     QStringList m_before;
     QStringList m_after;
     int m_writes = 0;

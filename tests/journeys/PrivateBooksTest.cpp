@@ -65,11 +65,11 @@ TEST_F(PrivateBooksTest, TheProgramLeavesNoCoreAndNewFilesAreItsOwnersAlone)
 {
     const auto program = StartTheProgram();
     const QString process = QStringLiteral("/proc/%1/").arg(program->processId());
-    QFile limits(process + QStringLiteral("limits"));
+    QFile limits(process + "limits");
     ASSERT_TRUE(limits.open(QIODevice::ReadOnly));
     EXPECT_TRUE(
         QString::fromLatin1(limits.readAll()).contains(QRegularExpression("Max core file size +0 +0 ")));
-    QFile status(process + QStringLiteral("status"));
+    QFile status(process + "status");
     ASSERT_TRUE(status.open(QIODevice::ReadOnly));
     EXPECT_TRUE(status.readAll().contains("Umask:\t0077\n"));
     Kill(*program);

@@ -70,7 +70,7 @@ std::string ProgramTest::Integrity()
 
 QString ProgramTest::Drives()
 {
-    return QDir::cleanPath(LocalPath(u"C:\\") + QStringLiteral("/.."));
+    return QDir::cleanPath(LocalPath(u"C:\\") + "/..");
 }
 
 int ProgramTest::Boxes(const char* text) const

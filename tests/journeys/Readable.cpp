@@ -161,7 +161,7 @@ void LookBelow(const QWidget& parent, Faults& faults)
         for (const QWidget* other : children)
             if (other < child && !IsDropList(*child) && !IsDropList(*other)
                 && child->geometry().intersects(other->geometry()))
-                faults.Add(*child, QStringLiteral("lies over ") + other->objectName());
+                faults.Add(*child, "lies over " + other->objectName());
         LookForCutText(*child, faults);
         if (const auto* table = qobject_cast<const QTableView*>(child))
             LookForCutCells(*table, faults);

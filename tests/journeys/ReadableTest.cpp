@@ -154,7 +154,7 @@ TEST_F(ReadableTest, TheMenuWithEachOfItsLists)
         QStringList lists;
         for (int entry = 0; entry < 5; ++entry) {
             Type(clerk, "{HOME}");
-            clerk.Type(QStringLiteral("{DOWN}").repeated(entry) + QStringLiteral("{ENTER}"));
+            clerk.Type(QStringLiteral("{DOWN}").repeated(entry) + "{ENTER}");
             lists.append(clerk.Focus());
             ExpectReadable(clerk, "with " + Focus(clerk));
             Type(clerk, "{END}");
@@ -169,7 +169,7 @@ TEST_F(ReadableTest, TheMenuWithEachOfItsLists)
 TEST_F(ReadableTest, TheQuestionOfTheEnd)
 {
     Start([](Clerk& clerk) {
-        clerk.Type(OpeningKeys() + QStringLiteral("{ESC}"));
+        clerk.Type(OpeningKeys() + "{ESC}");
         EXPECT_EQ(OnTop(clerk), "frmMessages");
         ExpectReadable(clerk, "leaving");
         Type(clerk, "%h");
@@ -179,7 +179,7 @@ TEST_F(ReadableTest, TheQuestionOfTheEnd)
 TEST_F(ReadableTest, TheKeyboardTutor)
 {
     Start([](Clerk& clerk) {
-        clerk.Type(OpeningKeys() + QStringLiteral("{F12}"));
+        clerk.Type(OpeningKeys() + "{F12}");
         EXPECT_EQ(OnTop(clerk), "frmKeyboardTutor");
         ExpectReadable(clerk, "as it opens");
         Type(clerk, "gaayaIcao dUQa");
@@ -189,8 +189,7 @@ TEST_F(ReadableTest, TheKeyboardTutor)
 
 TEST_F(ReadableTest, TheMessagesWithTheLongestTexts)
 {
-    const QString longest =
-        QStringLiteral("maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ");
+    const QString longest = "maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ";
     for (const QString& text : QStringList{longest, QString(longest + u' ' + longest), "idnaaMk"}) {
         for (const auto mode : {frmMessages::Mode::Notice, frmMessages::Mode::Question}) {
             Failure = TheClerk.Play(

@@ -67,9 +67,9 @@ TEST_F(SecondCopyTest, WithItsBooksReplacedTheRunningProgramKeepsAnotherCopyAndT
 {
     const auto program = StartTheProgram();
     const QString books = FolderFile("Morvelta.mdb");
-    ASSERT_TRUE(QFile::copy(books, books + QStringLiteral(".copy")));
+    ASSERT_TRUE(QFile::copy(books, books + ".copy"));
     ASSERT_TRUE(QFile::remove(books));
-    ASSERT_TRUE(QFile::rename(books + QStringLiteral(".copy"), books));
+    ASSERT_TRUE(QFile::rename(books + ".copy", books));
     RemoveTheLockFile();
     ExpectAnotherCopyKeptOut();
     ExpectTheInstallerKeptOut();

@@ -19,9 +19,8 @@ protected:
     QStringList Books() { return Customers() + Sales(); }
 };
 
-const QString SaveQuestion = QStringLiteral("roka^D- na@kI badlaayacao ka Æ");
-const QString DeleteQuestion =
-    QStringLiteral("ga`akacaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ");
+const QString SaveQuestion = "roka^D- na@kI badlaayacao ka Æ";
+const QString DeleteQuestion = "ga`akacaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ";
 
 }
 
@@ -183,7 +182,7 @@ TEST_F(CustomersChangeTest, AnApostropheInTheOldOrTheNewNameEndsTheProgramAndLea
         const QStringList before = Books();
         Play([&newName](Clerk& clerk) {
             CallUp(clerk, 1);
-            clerk.Type(Typed(newName) + QStringLiteral("{ENTER}%s%h"));
+            clerk.Type(Typed(newName) + "{ENTER}%s%h");
         });
         ASSERT_TRUE(Failure);
         EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);

@@ -19,7 +19,7 @@ QString Typed(const QString& stored)
     QString keys;
     for (QChar c : stored) {
         if (QStringView(u"+^%{").contains(c))
-            keys += QStringLiteral("{") + c + QStringLiteral("}");
+            keys += "{" + c + "}";
         else
             keys += c;
     }
@@ -29,12 +29,12 @@ QString Typed(const QString& stored)
 void TypeEach(Clerk& clerk, const QStringList& keys)
 {
     for (const QString& each : keys)
-        clerk.Type(each + QStringLiteral("{ENTER}"));
+        clerk.Type(each + "{ENTER}");
 }
 
 void CallUp(Clerk& clerk, int number)
 {
-    clerk.Type(QStringLiteral("%d") + QString::number(number) + QStringLiteral("{ENTER}"));
+    clerk.Type("%d" + QString::number(number) + "{ENTER}");
 }
 
 void GoTo(Clerk& clerk, const QString& field)

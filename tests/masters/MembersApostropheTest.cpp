@@ -4,8 +4,8 @@ namespace {
 
 // A name that would end its own quotes in a statement and go on as the statement's words: as it is typed,
 // doubled, and as it would stand in the books then.
-const QString Doubled = QStringLiteral("x'' or ''a''=''a");
-const QString Single = QStringLiteral("x' or 'a'='a");
+const QString Doubled = "x'' or ''a''=''a";
+const QString Single = "x' or 'a'='a";
 
 // Three members, each with an entry in every table that knows members by number or by name.
 class MembersApostropheTest : public MembersTest {
@@ -70,7 +70,7 @@ TEST_F(MembersApostropheTest, NoMemberIsRenamedToSuchAName)
     const QStringList before = Books();
     Play([](Clerk& clerk) {
         CallUp(clerk, 1);
-        clerk.Type(Typed(Doubled) + QStringLiteral("{ENTER}%s%h"));
+        clerk.Type(Typed(Doubled) + "{ENTER}%s%h");
     });
     ExpectFailureAndBooks(before);
 }
@@ -97,10 +97,7 @@ TEST_F(MembersApostropheTest, TheDeletionOfAMemberWhoIsStoredSoTakesNobodysVouch
 TEST_F(MembersApostropheTest, NoVillageIsAddedUnderSuchAName)
 {
     const QStringList before = Books();
-    Play([](Clerk& clerk) {
-        clerk.Type(
-            QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}") + Typed(Doubled) + QStringLiteral("{ENTER}%h"));
-    });
+    Play([](Clerk& clerk) { clerk.Type("%n{ENTER}gaIta{ENTER}{ENTER}" + Typed(Doubled) + "{ENTER}%h"); });
     ExpectFailureAndBooks(before);
 }
 

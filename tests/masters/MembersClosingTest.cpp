@@ -28,7 +28,7 @@ protected:
         Play([&](Clerk& clerk) {
             CallUp(clerk, 1);
             GoTo(clerk, opening);
-            clerk.Type(typed + QStringLiteral("{ENTER}"));
+            clerk.Type(typed + "{ENTER}");
             shown = clerk.Reads(closing);
         });
         return shown;

@@ -33,8 +33,7 @@ protected:
     }
 };
 
-const QString DeleteQuestion =
-    QStringLiteral("maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ");
+const QString DeleteQuestion = "maombarcaI sava- maaihtI KaoDlaI jaa[-la¸ roka^D- na@kI KaoDayacao ka Æ";
 
 }
 

@@ -31,8 +31,8 @@ protected:
     }
 };
 
-const QString CityQuestion = QStringLiteral("navaIna Sahr A^D kravao ka Æ");
-const QString BankQuestion = QStringLiteral("navaIna baÐk A^D kravaI ka Æ");
+const QString CityQuestion = "navaIna Sahr A^D kravao ka Æ";
+const QString BankQuestion = "navaIna baÐk A^D kravaI ka Æ";
 
 QStringList ListOf(const Clerk& clerk, QStringView combo)
 {
@@ -100,7 +100,7 @@ TEST_F(MembersFieldsTest, TheAnimalOpensItsOwnFiguresOnly)
 {
     OnField("txtAnimal", [](Clerk& clerk) {
         const auto expect = [&clerk](const QString& key, bool cow, bool buffalo) {
-            clerk.Type(key + QStringLiteral("{ENTER}"));
+            clerk.Type(key + "{ENTER}");
             EXPECT_EQ(CanEnter(clerk, "txtCowOpeningLits"), cow);
             EXPECT_EQ(CanEnter(clerk, "txtCowOpeningThev"), cow);
             EXPECT_EQ(CanEnter(clerk, "txtBuffOpeningLits"), buffalo);
@@ -254,7 +254,7 @@ TEST_F(MembersFieldsTest, TheLastFieldOfTheAnimalLeadsToTheSaveButton)
 
 TEST_F(MembersFieldsTest, DevanagariFromAnInputMethodIsWrittenAsTheSystemSpellsIt)
 {
-    const QString seen = QStringLiteral("शिंदे वाडा");
+    const QString seen = "शिंदे वाडा";
     OnField("txtAddress", [&](Clerk& clerk) {
         clerk.Type(seen);
         const auto* address = dynamic_cast<TextField*>(clerk.Top().Find(u"txtAddress"));

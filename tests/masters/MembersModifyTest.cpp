@@ -30,7 +30,7 @@ protected:
     }
 };
 
-const QString SaveQuestion = QStringLiteral("roka^D- na@kI badlaayacao ka Æ");
+const QString SaveQuestion = "roka^D- na@kI badlaayacao ka Æ";
 
 }
 

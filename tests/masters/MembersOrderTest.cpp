@@ -7,7 +7,7 @@ class MembersOrderTest : public MembersTest {
 protected:
     MembersOrderTest()
     {
-        const QString rama = QStringLiteral("rama");
+        const QString rama = "rama";
         AddMember(1, rama);
         AddCollection(1, rama, 10);
         AddPayment(1, rama, 10);

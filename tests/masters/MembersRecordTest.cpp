@@ -129,7 +129,7 @@ TEST_F(MembersRecordTest, AChangeLeavesTheMemberOfThatNumberInTheOtherCompany)
 
 TEST_F(MembersRecordTest, ADeletionLeavesEveryRowOfTheNamesakeInTheOtherCompany)
 {
-    const QString rama = QStringLiteral("rama");
+    const QString rama = "rama";
     AddMember(1, rama);
     AddCollection(1, rama, 10);
     AddPayment(1, rama, 10);

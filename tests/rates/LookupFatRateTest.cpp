@@ -5,8 +5,8 @@
 
 namespace {
 
-const QString Cow = QStringLiteral("gaaya");
-const QString Buffalo = QStringLiteral("mhOsa");
+const QString Cow = "gaaya";
+const QString Buffalo = "mhOsa";
 
 // The charts of the first of April and of the first of July, told apart by their rates.
 class LookupFatRateTest : public SocietyTest {

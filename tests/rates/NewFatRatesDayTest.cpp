@@ -39,16 +39,16 @@ TEST_F(NewFatRatesDayTest, TheDayOfTheNewestChartIsShownAndProposed)
 TEST_F(NewFatRatesDayTest, TheNewestChartIsTakenWhateverTheDay)
 {
     for (const char* day : {"01072007", "02072007", "15042026"}) {
-        Run(QStringLiteral("delete * from FatRates"));
+        Run("delete * from FatRates");
         PlayOnChart(day, [](Clerk&) {});
-        EXPECT_EQ(WorkingChart(), Chart(QStringLiteral("Fat010707"))) << day;
-        EXPECT_EQ(WorkingRow("4.5"), QStringLiteral("4.5|30.45|35.45")) << day;
+        EXPECT_EQ(WorkingChart(), Chart("Fat010707")) << day;
+        EXPECT_EQ(WorkingRow("4.5"), "4.5|30.45|35.45") << day;
     }
 }
 
 TEST_F(NewFatRatesDayTest, ARowOfFatZeroIsNotTaken)
 {
-    Run(QStringLiteral("insert into Fat010707(Fat,CowRate,BuffRate) values(0,1,2)"));
+    Run("insert into Fat010707(Fat,CowRate,BuffRate) values(0,1,2)");
     PlayOnChart("", [](Clerk&) {});
     EXPECT_EQ(WorkingChart().size(), 8);
     EXPECT_EQ(WorkingRow("0"), QString());
@@ -86,34 +86,34 @@ TEST_F(NewFatRatesDayTest, GoingBackThroughTheDayTakesTheNewestChartAnew)
 {
     PlayOnChart("02072007", [this](Clerk& clerk) {
         Type(clerk, "4.5{ENTER}30{ENTER}20{ENTER}{ENTER}{ENTER}{ENTER}");
-        EXPECT_EQ(WorkingRow("4.5"), QStringLiteral("4.5|20|30"));
+        EXPECT_EQ(WorkingRow("4.5"), "4.5|20|30");
         Type(clerk, "+{TAB}+{TAB}");
         EXPECT_EQ(Focus(clerk), "maskDate");
         Type(clerk, "{ENTER}");
     });
-    EXPECT_EQ(WorkingRow("4.5"), QStringLiteral("4.5|30.45|35.45"));
+    EXPECT_EQ(WorkingRow("4.5"), "4.5|30.45|35.45");
 }
 
 TEST_F(NewFatRatesDayTest, ASocietyWithoutAChartTakesAnyDayAndKeepsTheRowsThatItHas)
 {
-    Run(QStringLiteral("delete * from FatDates"));
-    Run(QStringLiteral("insert into FatRates(Fat,CowRate,BuffRate) values(4,20,30)"));
+    Run("delete * from FatDates");
+    Run("insert into FatRates(Fat,CowRate,BuffRate) values(4,20,30)");
     PlayOnChart("01012000", [](Clerk& clerk) {
         EXPECT_EQ(Reads(clerk, "maskOldDate"), "__/__/____");
         Type(clerk, "%s");
     });
-    EXPECT_EQ(ChartDates(), QStringList(QStringLiteral("01/01/2000|Fat010100")));
-    EXPECT_EQ(Chart(QStringLiteral("Fat010100")), QStringList(QStringLiteral("4|20|30")));
+    EXPECT_EQ(ChartDates(), QStringList("01/01/2000|Fat010100"));
+    EXPECT_EQ(Chart("Fat010100"), QStringList("4|20|30"));
 }
 
 TEST_F(NewFatRatesDayTest, AChartWhoseTableIsGoneFailsItsStatementAndLeavesTheRows)
 {
-    Run(QStringLiteral("insert into FatRates(Fat,CowRate,BuffRate) values(4,20,30)"));
-    gCn.RunScript(QStringLiteral("drop table Fat010707"));
+    Run("insert into FatRates(Fat,CowRate,BuffRate) values(4,20,30)");
+    gCn.RunScript("drop table Fat010707");
     Play([](Clerk& clerk) { Type(clerk, "%d{ENTER}"); });
     ASSERT_TRUE(Failure);
-    EXPECT_EQ(Failure->Statement(), QStringLiteral("insert into FatRates select * from Fat010707"));
-    EXPECT_EQ(WorkingChart(), QStringList(QStringLiteral("4|20|30")));
+    EXPECT_EQ(Failure->Statement(), "insert into FatRates select * from Fat010707");
+    EXPECT_EQ(WorkingChart(), QStringList("4|20|30"));
 }
 
 }

@@ -40,7 +40,7 @@ TEST_F(NewFatRatesKeysTest, ItOpensAtRestWithTheWorkingDay)
         ExpectRest(clerk);
         EXPECT_EQ(Reads(clerk, "maskDate"), "15/04/2026");
         EXPECT_EQ(Focus(clerk), "cmdAdd");
-        EXPECT_EQ(QString::fromStdString(Label(clerk, "lblTitle")).trimmed(), QStringLiteral("फॅट दर बदल"));
+        EXPECT_EQ(QString::fromStdString(Label(clerk, "lblTitle")).trimmed(), "फॅट दर बदल");
     });
 }
 
@@ -61,11 +61,11 @@ TEST_F(NewFatRatesKeysTest, TheChartShowsBuffaloBeforeCowWithTheirDecimals)
     PlayOnChart("", [](Clerk& clerk) {
         const auto& rows = dynamic_cast<const DataGrid&>(*clerk.Top().Find(u"DataGridBuffRates"));
         EXPECT_EQ(rows.Rows(), 8);
-        EXPECT_EQ(rows.Cell(0, 0), QStringLiteral("1.0"));
-        EXPECT_EQ(rows.Cell(4, 0), QStringLiteral("4.5"));
-        EXPECT_EQ(rows.Cell(4, 1), QStringLiteral("35.45"));
-        EXPECT_EQ(rows.Cell(4, 2), QStringLiteral("30.45"));
-        EXPECT_EQ(rows.Cell(7, 1), QStringLiteral("38.00"));
+        EXPECT_EQ(rows.Cell(0, 0), "1.0");
+        EXPECT_EQ(rows.Cell(4, 0), "4.5");
+        EXPECT_EQ(rows.Cell(4, 1), "35.45");
+        EXPECT_EQ(rows.Cell(4, 2), "30.45");
+        EXPECT_EQ(rows.Cell(7, 1), "38.00");
     });
 }
 
@@ -77,8 +77,7 @@ TEST_F(NewFatRatesKeysTest, TheChartPassesTheClerkOnToTheFat)
         EXPECT_EQ(Focus(clerk), "txtFat");
         EXPECT_FALSE(IsShown(clerk, "lblExit"));
         EXPECT_FALSE(IsShown(clerk, "lblEsc"));
-        EXPECT_EQ(
-            Label(clerk, "lblExit"), Seen(QStringLiteral("iga`DmaQaUna baahor pDNyaasaazI")).toStdString());
+        EXPECT_EQ(Label(clerk, "lblExit"), Seen("iga`DmaQaUna baahor pDNyaasaazI").toStdString());
     });
 }
 
@@ -104,7 +103,7 @@ TEST_F(NewFatRatesKeysTest, CancelEmptiesTheRowsAndTheNextChangeTakesThemAgain)
         ExpectEmptied(clerk);
         EXPECT_EQ(Focus(clerk), "cmdAdd");
         Type(clerk, "%d{ENTER}");
-        EXPECT_EQ(WorkingRow("4.5"), QStringLiteral("4.5|30.45|35.45"));
+        EXPECT_EQ(WorkingRow("4.5"), "4.5|30.45|35.45");
     });
     EXPECT_EQ(ChartDates().size(), 2);
 }
@@ -133,7 +132,7 @@ TEST_F(NewFatRatesKeysTest, CancelFromTheDayNeverGoesThroughTheChart)
 
 TEST_F(NewFatRatesKeysTest, F5ShowsTheFrameWithTheBasesAndEscClosesItFirst)
 {
-    Run(QStringLiteral("update AutoSettings set BasicCowRate=5.57,BasicBuffRate=6.2"));
+    Run("update AutoSettings set BasicCowRate=5.57,BasicBuffRate=6.2");
     PlayOnChart("", [](Clerk& clerk) {
         EXPECT_FALSE(CanEnter(clerk, "txtBasicBuffRate"));
         Type(clerk, "{F5}");
@@ -166,9 +165,9 @@ TEST_F(NewFatRatesKeysTest, BasesThatAreMissingAreZero)
             EXPECT_EQ(Reads(clerk, "txtBasicCowRate"), "0");
         });
     };
-    Run(QStringLiteral("update AutoSettings set BasicCowRate=Null,BasicBuffRate=Null"));
+    Run("update AutoSettings set BasicCowRate=Null,BasicBuffRate=Null");
     expectZero();
-    Run(QStringLiteral("delete * from AutoSettings"));
+    Run("delete * from AutoSettings");
     expectZero();
 }
 
@@ -201,11 +200,11 @@ TEST_F(NewFatRatesKeysTest, TheChartUnderEditIsPrintedAsItStands)
     PlayOnChart("02072007", [](Clerk& clerk) { Press(clerk, "Command1"); });
     TemplateReport::Engine() = engine;
     ASSERT_EQ(runs.size(), 1U);
-    EXPECT_TRUE(runs[0].fileName.endsWith(QStringLiteral("\\FatRateList.rpt")));
-    EXPECT_EQ(runs[0].logon, QStringLiteral("dsn=VetrolanDSN;pwd=Doodh#26"));
+    EXPECT_TRUE(runs[0].fileName.endsWith("\\FatRateList.rpt"));
+    EXPECT_EQ(runs[0].logon, "dsn=VetrolanDSN;pwd=Doodh#26");
     EXPECT_EQ(runs[0].formula, QString());
     EXPECT_EQ(runs[0].destination, ReportDestination::Window);
-    EXPECT_EQ(WorkingChart(), Chart(QStringLiteral("Fat010707")));
+    EXPECT_EQ(WorkingChart(), Chart("Fat010707"));
 }
 
 }

@@ -19,7 +19,7 @@ constexpr const char* Go = "{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}"; // from the bu
 
 TEST_F(NewFatRatesRowsTest, AFatShowsItsRatesAsTheyAreStored)
 {
-    Run(QStringLiteral("update Fat010707 set BuffRate='35',CowRate='30.4567' where Fat='4.5'"));
+    Run("update Fat010707 set BuffRate='35',CowRate='30.4567' where Fat='4.5'");
     PlayOnChart("", [](Clerk& clerk) {
         Type(clerk, "4.5{ENTER}");
         EXPECT_EQ(Row(clerk), "4.5|35|30.4567");
@@ -37,7 +37,7 @@ TEST_F(NewFatRatesRowsTest, AFatWithoutARowBecomesZeroWithoutAWord)
             EXPECT_EQ(Row(clerk), "0||") << keys;
             EXPECT_TRUE(CanEnter(clerk, "txtFat"));
         });
-        EXPECT_EQ(WorkingChart(), Chart(QStringLiteral("Fat010707")));
+        EXPECT_EQ(WorkingChart(), Chart("Fat010707"));
     }
 }
 
@@ -67,7 +67,7 @@ TEST_F(NewFatRatesRowsTest, DownGoesATenthUpAndUpATenthDown)
 
 TEST_F(NewFatRatesRowsTest, TheKeysShowTheRatesWithTwoDecimals)
 {
-    Run(QStringLiteral("update Fat010707 set BuffRate='35',CowRate='30.4567' where Fat='4.5'"));
+    Run("update Fat010707 set BuffRate='35',CowRate='30.4567' where Fat='4.5'");
     PlayOnChart("", [](Clerk& clerk) {
         Type(clerk, "4.4{DOWN}");
         EXPECT_EQ(Row(clerk), "4.5|35.00|30.46");
@@ -114,10 +114,10 @@ TEST_F(NewFatRatesRowsTest, GoProposesTheNextFatWithTheIncrementsAndTheyAddUp)
         EXPECT_EQ(Focus(clerk), "txtBuffRate");
         Type(clerk, Go);
         EXPECT_EQ(Row(clerk), "4.7|30.4|20.6");
-        EXPECT_EQ(WorkingRow("4.4"), QStringLiteral("4.4|30.44|35.44"));
-        EXPECT_EQ(WorkingRow("4.5"), QStringLiteral("4.5|20|30"));
-        EXPECT_EQ(WorkingRow("4.6"), QStringLiteral("4.6|20.3|30.2"));
-        EXPECT_EQ(WorkingRow("4.7"), QStringLiteral("4.7|30.47|35.47"));
+        EXPECT_EQ(WorkingRow("4.4"), "4.4|30.44|35.44");
+        EXPECT_EQ(WorkingRow("4.5"), "4.5|20|30");
+        EXPECT_EQ(WorkingRow("4.6"), "4.6|20.3|30.2");
+        EXPECT_EQ(WorkingRow("4.7"), "4.7|30.47|35.47");
     });
 }
 
@@ -150,7 +150,7 @@ TEST_F(NewFatRatesRowsTest, GoOnFatZeroDoesNothingButAskForTheFat)
         Type(clerk, "4.2{ENTER}50{ENTER}50{ENTER}{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
         EXPECT_EQ(Row(clerk), "0|50|50");
-        EXPECT_EQ(WorkingChart(), Chart(QStringLiteral("Fat010707")));
+        EXPECT_EQ(WorkingChart(), Chart("Fat010707"));
     });
 }
 
@@ -170,25 +170,22 @@ TEST_F(NewFatRatesRowsTest, TheRateForEachPercentGivesAllRowsInFullAndIsRemember
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFat");
         EXPECT_FALSE(CanEnter(clerk, "cmdFatdar")) << "the frame is closed";
-        EXPECT_EQ(WorkingRow("4.3"), QStringLiteral("4.3|23.951|26.3289"));
+        EXPECT_EQ(WorkingRow("4.3"), "4.3|23.951|26.3289");
     });
     EXPECT_EQ(WorkingChart(),
-        (QStringList{QStringLiteral("1|5.57|6.123"), QStringLiteral("4|22.28|24.492"),
-            QStringLiteral("4.3|23.951|26.3289"), QStringLiteral("4.4|24.508|26.9412"),
-            QStringLiteral("4.5|25.065|27.5535"), QStringLiteral("4.6|25.622|28.1658"),
-            QStringLiteral("4.7|26.179|28.7781"), QStringLiteral("30|167.1|183.69")}));
-    EXPECT_EQ(Rows(QStringLiteral("Select BasicCowRate,BasicBuffRate From Autosettings")),
-        QStringList(QStringLiteral("5.57|6.123")));
+        (QStringList{"1|5.57|6.123", "4|22.28|24.492", "4.3|23.951|26.3289", "4.4|24.508|26.9412",
+            "4.5|25.065|27.5535", "4.6|25.622|28.1658", "4.7|26.179|28.7781", "30|167.1|183.69"}));
+    EXPECT_EQ(Rows("Select BasicCowRate,BasicBuffRate From Autosettings"), QStringList("5.57|6.123"));
 }
 
 TEST_F(NewFatRatesRowsTest, TheRateForEachPercentWorksAtRestAndLeavesTheClerkAtRest)
 {
-    Run(QStringLiteral("insert into FatRates(Fat,CowRate,BuffRate) values(4.3,1,2)"));
+    Run("insert into FatRates(Fat,CowRate,BuffRate) values(4.3,1,2)");
     Play([](Clerk& clerk) {
         Type(clerk, "{F5}6{ENTER}5.57{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "cmdAdd");
     });
-    EXPECT_EQ(WorkingChart(), QStringList(QStringLiteral("4.3|23.951|25.8")));
+    EXPECT_EQ(WorkingChart(), QStringList("4.3|23.951|25.8"));
 }
 
 }

@@ -6,9 +6,9 @@
 
 NewFatRatesTest::NewFatRatesTest()
 {
-    Run(QStringLiteral("delete * from FatDates"));
-    AddChart(QStringLiteral("01/04/2007"), QStringLiteral("Fat010407"), 20);
-    AddChart(QStringLiteral("01/07/2007"), QStringLiteral("Fat010707"), 30);
+    Run("delete * from FatDates");
+    AddChart("01/04/2007", "Fat010407", 20);
+    AddChart("01/07/2007", "Fat010707", 30);
 }
 
 void NewFatRatesTest::PlayOnChart(const char* day, const std::function<void(Clerk&)>& script)
@@ -38,7 +38,7 @@ QStringList NewFatRatesTest::Chart(const QString& table)
 
 QStringList NewFatRatesTest::WorkingChart()
 {
-    return Rows(QStringLiteral("select Fat,CowRate,BuffRate from FatRates order by Fat"));
+    return Rows("select Fat,CowRate,BuffRate from FatRates order by Fat");
 }
 
 QString NewFatRatesTest::WorkingRow(const char* fat)
@@ -49,7 +49,7 @@ QString NewFatRatesTest::WorkingRow(const char* fat)
 
 QStringList NewFatRatesTest::ChartDates()
 {
-    return Rows(QStringLiteral("select FromDate,FatFileName from FatDates order by FromDate"));
+    return Rows("select FromDate,FatFileName from FatDates order by FromDate");
 }
 
 void NewFatRatesTest::AddDelivery(const QString& day, const QString& animal, double liters, double fat,

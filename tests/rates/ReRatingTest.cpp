@@ -11,8 +11,8 @@
 
 namespace {
 
-const QString Cow = QStringLiteral("gaaya");
-const QString Buffalo = QStringLiteral("mhOsa");
+const QString Cow = "gaaya";
+const QString Buffalo = "mhOsa";
 
 class ReRatingTest : public NewFatRatesTest {
 protected:
@@ -22,8 +22,7 @@ protected:
         PlayOnChart(day, [&](Clerk& clerk) {
             Type(clerk, before);
             Type(clerk, "%s");
-            ASSERT_EQ(clerk.Message(),
-                QStringLiteral("dUQa saMklana roka^D-sa\\ navaIna f^T drap`maaNao badlaayacaI ka Æ"));
+            ASSERT_EQ(clerk.Message(), "dUQa saMklana roka^D-sa\\ navaIna f^T drap`maaNao badlaayacaI ka Æ");
             Type(clerk, answer);
             if (OnTop(clerk) == "frmMessages")
                 return;
@@ -36,8 +35,8 @@ protected:
 
 TEST_F(ReRatingTest, WithoutDeliveriesFromTheDayOnNothingIsAsked)
 {
-    AddDelivery(QStringLiteral("01/07/2007"), Cow, 2, 4.5, 30, 60);
-    AddDelivery(QStringLiteral("02/07/2007"), Cow, 2, 4.5, 30, 60, 2);
+    AddDelivery("01/07/2007", Cow, 2, 4.5, 30, 60);
+    AddDelivery("02/07/2007", Cow, 2, 4.5, 30, 60, 2);
     PlayOnChart("02072007", [](Clerk& clerk) {
         Type(clerk, "%s");
         EXPECT_EQ(OnTop(clerk), "frmNewFatRates");
@@ -47,7 +46,7 @@ TEST_F(ReRatingTest, WithoutDeliveriesFromTheDayOnNothingIsAsked)
 
 TEST_F(ReRatingTest, ANoLeavesTheDeliveriesAndTheChartIsSaved)
 {
-    AddDelivery(QStringLiteral("02/07/2007"), Cow, 2, 4.5, 30, 60);
+    AddDelivery("02/07/2007", Cow, 2, 4.5, 30, 60);
     const QStringList before = Deliveries();
     SaveAndAnswer("02072007", "%n");
     EXPECT_EQ(Deliveries(), before);
@@ -56,7 +55,7 @@ TEST_F(ReRatingTest, ANoLeavesTheDeliveriesAndTheChartIsSaved)
 
 TEST_F(ReRatingTest, EnterAndTheCloseBoxAreANo)
 {
-    AddDelivery(QStringLiteral("01/07/2007"), Cow, 2, 4.5, 30, 60);
+    AddDelivery("01/07/2007", Cow, 2, 4.5, 30, 60);
     const QStringList before = Deliveries();
     SaveAndAnswer("01072007", "{ENTER}");
     EXPECT_EQ(Deliveries(), before);
@@ -71,70 +70,65 @@ TEST_F(ReRatingTest, EnterAndTheCloseBoxAreANo)
 
 TEST_F(ReRatingTest, TheChartIsSavedBeforeTheQuestion)
 {
-    AddDelivery(QStringLiteral("02/07/2007"), Cow, 2, 4.5, 30, 60);
+    AddDelivery("02/07/2007", Cow, 2, 4.5, 30, 60);
     PlayOnChart("02072007", [](Clerk& clerk) {
         Type(clerk, "%s");
         ASSERT_EQ(OnTop(clerk), "frmMessages");
     }); // the clerk never answers
     Connection other; // sees what is committed only
     other.Open(Logon());
-    const Recordset charts(other, QStringLiteral("select count(*) as Charts from FatDates"));
+    const Recordset charts(other, "select count(*) as Charts from FatDates");
     EXPECT_EQ(charts[u"Charts"].Number(), 3);
-    const Recordset rows(other, QStringLiteral("select count(*) as Fats from Fat020707"));
+    const Recordset rows(other, "select count(*) as Fats from Fat020707");
     EXPECT_EQ(rows[u"Fats"].Number(), 8);
 }
 
 TEST_F(ReRatingTest, AYesGivesTheDeliveriesOfTheCompanyFromTheDayOnTheRatesOfTheChart)
 {
-    AddDelivery(QStringLiteral("30/06/2007"), Cow, 2, 4.5, 1, 2);
-    AddDelivery(QStringLiteral("01/07/2007"), Cow, 2, 4.5, 1, 2);
-    AddDelivery(QStringLiteral("01/07/2007"), Buffalo, 2.5, 4.5, 1, 2);
-    AddDelivery(QStringLiteral("31/12/2030"), Cow, 1.5, 4, 1, 2);
-    AddDelivery(QStringLiteral("01/07/2007"), Cow, 2, 4.5, 1, 2, 2);
+    AddDelivery("30/06/2007", Cow, 2, 4.5, 1, 2);
+    AddDelivery("01/07/2007", Cow, 2, 4.5, 1, 2);
+    AddDelivery("01/07/2007", Buffalo, 2.5, 4.5, 1, 2);
+    AddDelivery("31/12/2030", Cow, 1.5, 4, 1, 2);
+    AddDelivery("01/07/2007", Cow, 2, 4.5, 1, 2, 2);
     SaveAndAnswer("01072007", "%h");
     EXPECT_EQ(Deliveries(),
-        (QStringList{QStringLiteral("30/06/2007|gaaya|4.5|1|2"),
-            QStringLiteral("01/07/2007|gaaya|4.5|30.45|60.9"),
-            QStringLiteral("01/07/2007|mhOsa|4.5|35.45|88.625"),
-            QStringLiteral("31/12/2030|gaaya|4|30.4|45.6")}));
-    EXPECT_EQ(Deliveries(2), QStringList(QStringLiteral("01/07/2007|gaaya|4.5|1|2")));
+        (QStringList{"30/06/2007|gaaya|4.5|1|2", "01/07/2007|gaaya|4.5|30.45|60.9",
+            "01/07/2007|mhOsa|4.5|35.45|88.625", "31/12/2030|gaaya|4|30.4|45.6"}));
+    EXPECT_EQ(Deliveries(2), QStringList("01/07/2007|gaaya|4.5|1|2"));
 }
 
 TEST_F(ReRatingTest, AFatWithoutARowAndARateOfZeroKeepTheirRateAndGetTheirAmount)
 {
-    Run(QStringLiteral("update Fat010707 set CowRate='0' where Fat='4.5'"));
-    Run(QStringLiteral("update Fat010707 set BuffRate='0' where Fat='4.6'"));
-    AddDelivery(QStringLiteral("01/07/2007"), Cow, 2, 4.5, 31.25, 7);
-    AddDelivery(QStringLiteral("01/07/2007"), Buffalo, 2, 4.5, 31.25, 7);
-    AddDelivery(QStringLiteral("01/07/2007"), Buffalo, 2, 4.6, 31.25, 7);
-    AddDelivery(QStringLiteral("01/07/2007"), Cow, 2.125, 5.5, 31.25, 7);
-    AddDelivery(QStringLiteral("01/07/2007"), QStringLiteral("daonhI"), 2, 4.5, 31.25, 7);
+    Run("update Fat010707 set CowRate='0' where Fat='4.5'");
+    Run("update Fat010707 set BuffRate='0' where Fat='4.6'");
+    AddDelivery("01/07/2007", Cow, 2, 4.5, 31.25, 7);
+    AddDelivery("01/07/2007", Buffalo, 2, 4.5, 31.25, 7);
+    AddDelivery("01/07/2007", Buffalo, 2, 4.6, 31.25, 7);
+    AddDelivery("01/07/2007", Cow, 2.125, 5.5, 31.25, 7);
+    AddDelivery("01/07/2007", "daonhI", 2, 4.5, 31.25, 7);
     SaveAndAnswer("01072007", "%h");
     EXPECT_EQ(Deliveries(),
-        (QStringList{QStringLiteral("01/07/2007|daonhI|4.5|31.25|62.5"),
-            QStringLiteral("01/07/2007|gaaya|4.5|31.25|62.5"),
-            QStringLiteral("01/07/2007|gaaya|5.5|31.25|66.40625"),
-            QStringLiteral("01/07/2007|mhOsa|4.5|35.45|70.9"),
-            QStringLiteral("01/07/2007|mhOsa|4.6|31.25|62.5")}));
+        (QStringList{"01/07/2007|daonhI|4.5|31.25|62.5", "01/07/2007|gaaya|4.5|31.25|62.5",
+            "01/07/2007|gaaya|5.5|31.25|66.40625", "01/07/2007|mhOsa|4.5|35.45|70.9",
+            "01/07/2007|mhOsa|4.6|31.25|62.5"}));
 }
 
 TEST_F(ReRatingTest, TheRateIsThatUnderEditWithAllItsDecimalsAndNotThatOfTheNewChart)
 {
-    AddDelivery(QStringLiteral("02/07/2007"), Cow, 2, 4.3, 30, 60);
+    AddDelivery("02/07/2007", Cow, 2, 4.3, 30, 60);
     SaveAndAnswer("02072007", "%h", "{F5}6{ENTER}5.57{ENTER}{ENTER}");
-    EXPECT_EQ(One(QStringLiteral("select CowRate from Fat020707 where Fat='4.3'")), QStringLiteral("23.95"));
-    EXPECT_EQ(Deliveries(), QStringList(QStringLiteral("02/07/2007|gaaya|4.3|23.951|47.902")));
+    EXPECT_EQ(One("select CowRate from Fat020707 where Fat='4.3'"), "23.95");
+    EXPECT_EQ(Deliveries(), QStringList("02/07/2007|gaaya|4.3|23.951|47.902"));
 }
 
 TEST_F(ReRatingTest, APaymentThatEndsOnTheDayBlocksIt)
 {
-    AddDelivery(QStringLiteral("02/07/2007"), Cow, 2, 4.5, 30, 60);
-    AddPayment(QStringLiteral("02/07/2007"));
+    AddDelivery("02/07/2007", Cow, 2, 4.5, 30, 60);
+    AddPayment("02/07/2007");
     const QStringList before = Deliveries();
     PlayOnChart("02072007", [](Clerk& clerk) {
         Type(clerk, "%s%h");
-        EXPECT_EQ(
-            clerk.Message(), QStringLiteral("f^T dr badlalyaanaMtrcaI pomaonT roka^D-sa\\ Agaaodr KaoDa"));
+        EXPECT_EQ(clerk.Message(), "f^T dr badlalyaanaMtrcaI pomaonT roka^D-sa\\ Agaaodr KaoDa");
         EXPECT_TRUE(CanEnter(clerk, "cmdExit"));
         EXPECT_FALSE(CanEnter(clerk, "cmdOkYes"));
         Type(clerk, "{ENTER}");
@@ -147,32 +141,32 @@ TEST_F(ReRatingTest, APaymentThatEndsOnTheDayBlocksIt)
 
 TEST_F(ReRatingTest, APaymentThatEndsTheDayBeforeOrOfAnotherCompanyDoesNotBlockIt)
 {
-    AddDelivery(QStringLiteral("02/07/2007"), Cow, 2, 4.5, 30, 60);
-    AddPayment(QStringLiteral("01/07/2007"));
-    AddPayment(QStringLiteral("31/07/2007"), 2);
+    AddDelivery("02/07/2007", Cow, 2, 4.5, 30, 60);
+    AddPayment("01/07/2007");
+    AddPayment("31/07/2007", 2);
     SaveAndAnswer("02072007", "%h");
-    EXPECT_EQ(Deliveries(), QStringList(QStringLiteral("02/07/2007|gaaya|4.5|30.45|60.9")));
+    EXPECT_EQ(Deliveries(), QStringList("02/07/2007|gaaya|4.5|30.45|60.9"));
 }
 
 TEST_F(ReRatingTest, SalesAndPaymentsStayAsTheyAre)
 {
-    AddDelivery(QStringLiteral("02/07/2007"), Cow, 2, 4.5, 30, 60);
-    AddPayment(QStringLiteral("01/07/2007"));
-    Run(QStringLiteral("insert into MilkSales(CompanyId,SalesDate,SalesTime,SalesNo,Animal,Liters) "
-                       "values(1,'02/07/2007','sakaL',1,'gaaya',2)"));
-    const QStringList sales = Rows(QStringLiteral("select * from MilkSales"));
-    const QStringList payments = Rows(QStringLiteral("select * from MilkPayments"));
+    AddDelivery("02/07/2007", Cow, 2, 4.5, 30, 60);
+    AddPayment("01/07/2007");
+    Run("insert into MilkSales(CompanyId,SalesDate,SalesTime,SalesNo,Animal,Liters) "
+        "values(1,'02/07/2007','sakaL',1,'gaaya',2)");
+    const QStringList sales = Rows("select * from MilkSales");
+    const QStringList payments = Rows("select * from MilkPayments");
     SaveAndAnswer("02072007", "%h");
-    EXPECT_EQ(Rows(QStringLiteral("select * from MilkSales")), sales);
-    EXPECT_EQ(Rows(QStringLiteral("select * from MilkPayments")), payments);
+    EXPECT_EQ(Rows("select * from MilkSales"), sales);
+    EXPECT_EQ(Rows("select * from MilkPayments"), payments);
 }
 
 // Writes down what is painted of the bar while the deliveries are priced.
 class PaintedBar final : public QObject {
 public:
     explicit PaintedBar(const Screen& screen)
-        : m_percent(screen.findChild<QLabel*>(QStringLiteral("lblPercent")))
-        , m_fat(screen.findChild<QLabel*>(QStringLiteral("lblMessage")))
+        : m_percent(screen.findChild<QLabel*>("lblPercent"))
+        , m_fat(screen.findChild<QLabel*>("lblMessage"))
     {
         m_percent->installEventFilter(this);
     }
@@ -193,7 +187,7 @@ private:
 
 TEST_F(ReRatingTest, TheBarShowsPercentAndFatWhileItRunsAndIsGoneBehindIt)
 {
-    AddDelivery(QStringLiteral("02/07/2007"), Cow, 2, 4.5, 30, 60);
+    AddDelivery("02/07/2007", Cow, 2, 4.5, 30, 60);
     std::unique_ptr<PaintedBar> bar;
     PlayOnChart("02072007", [&](Clerk& clerk) {
         clerk.Do([&] { bar = std::make_unique<PaintedBar>(clerk.Top()); });
@@ -257,8 +251,7 @@ protected:
     {
         std::mt19937 dice(20070702);
         const auto upTo = [&](int most) { return static_cast<int>(dice() % static_cast<unsigned>(most)); };
-        const QStringList days{QStringLiteral("30/06/2007"), QStringLiteral("01/07/2007"),
-            QStringLiteral("02/07/2007"), QStringLiteral("03/07/2007"), QStringLiteral("15/04/2026")};
+        const QStringList days{"30/06/2007", "01/07/2007", "02/07/2007", "03/07/2007", "15/04/2026"};
         const QList<double> fats{1, 4, 4.1, 4.3, 4.4, 4.5, 4.6, 4.7, 5.2, 30};
         for (int number = 0; number < 300; ++number) {
             const double liters = (1 + upTo(20000)) / 1000.0;
@@ -272,14 +265,14 @@ TEST_F(ReckonedReRatingTest, EveryRowAgreesWithItsReckoningInWholeNumbers)
 {
     AddManyDeliveries();
     const QString query =
-        QStringLiteral("select CompanyId,CollectionDate,Animal,Liters,Fat,Rate,Amount from MilkCollections");
+        "select CompanyId,CollectionDate,Animal,Liters,Fat,Rate,Amount from MilkCollections";
     const QStringList before = Rows(query);
     SaveAndAnswer("02072007", "%h", "{F5}6.123{ENTER}5.57{ENTER}{ENTER}");
 
     QStringList expected;
     for (const QString& row : before) {
         QStringList field = row.split(u'|');
-        const QDate day = QDate::fromString(field[1], QStringLiteral("dd/MM/yyyy"));
+        const QDate day = QDate::fromString(field[1], "dd/MM/yyyy");
         if (field[0] == u"1" && day >= QDate(2007, 7, 2)) {
             if (field[4] != u"4.1" && field[4] != u"5.2") // the chart hasn't these
                 field[5] = (Decimal::Of(field[4]) * Decimal{field[2] == Cow ? 5570 : 6123, 3}).Text();
@@ -290,7 +283,7 @@ TEST_F(ReckonedReRatingTest, EveryRowAgreesWithItsReckoningInWholeNumbers)
     EXPECT_NE(expected, before);
     EXPECT_EQ(Rows(query), expected);
 
-    for (const QString& row : Rows(QStringLiteral("select Fat,CowRate,BuffRate from Fat020707"))) {
+    for (const QString& row : Rows("select Fat,CowRate,BuffRate from Fat020707")) {
         const QStringList field = row.split(u'|');
         EXPECT_EQ(field[1], (Decimal::Of(field[0]) * Decimal{557, 2}).Rounded(2).Text());
         EXPECT_EQ(field[2], (Decimal::Of(field[0]) * Decimal{6123, 3}).Rounded(2).Text());

@@ -43,7 +43,7 @@ protected:
     void StageForACounter()
     {
         Run("insert into MilkCollectionsTemp select * from MilkCollections");
-        gAppState.gReportMode = QStringLiteral("ShowMilkCollection");
+        gAppState.gReportMode = "ShowMilkCollection";
         On<frmReportMilkPS>([](Clerk& clerk) { EXPECT_EQ(OnTop(clerk), ""); });
         EXPECT_FALSE(Failure);
     }

@@ -82,7 +82,7 @@ TEST_F(MembersListTest, AnApostropheInTheAreaFailsTheListAndNothingIsStaged)
     const QStringList before = Rows("select * from MembersListReport");
     for (const char* area : {"kr'aD", "kraD'' or ''a''=''a"}) {
         On<frmReportMembersList>([area](Clerk& clerk) {
-            clerk.Type(QStringLiteral("%2{ENTER}") + QString::fromLatin1(area));
+            clerk.Type("%2{ENTER}" + QString::fromLatin1(area));
             EXPECT_EQ(clerk.Reads("ComboArea"), QString::fromLatin1(area));
             Type(clerk, "%i");
             EXPECT_EQ(OnTop(clerk), "");
@@ -114,7 +114,7 @@ TEST_F(MembersListTest, TheReportGroupsByArea)
 {
     Staged("%2%i");
     const QStringList texts = ReportTexts();
-    EXPECT_TRUE(texts.contains(QStringLiteral("विभाग : ") + Seen("kraD")));
+    EXPECT_TRUE(texts.contains("विभाग : " + Seen("kraD")));
     EXPECT_EQ(texts.count("सभासद : 1"), 3);
 }
 

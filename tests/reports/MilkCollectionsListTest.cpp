@@ -93,7 +93,7 @@ TEST_F(MilkCollectionsListTest, AWordThatIsBegunIsTheOneThatTheListStandsAt)
         {std::tuple("ga", "gaaya", "1 3"), std::tuple("mhO", "mhOsa", "2 4"),
             std::tuple("dao", "daonhI", "1 2 3 4"), std::tuple(" gaaya ", "gaaya", "1 3")}) {
         On<frmReportMilkCollections>([&, keys = typed, expected = word](Clerk& clerk) {
-            clerk.Type(QStringLiteral("15042026{ENTER}") + QString::fromLatin1(keys));
+            clerk.Type("15042026{ENTER}" + QString::fromLatin1(keys));
             Type(clerk, "{ENTER}");
             EXPECT_EQ(clerk.Reads("ComboAnimal"), QString::fromLatin1(expected)) << keys;
             EXPECT_EQ(Focus(clerk), "OptionBoth") << keys;
@@ -106,7 +106,7 @@ TEST_F(MilkCollectionsListTest, AnAnimalThatIsNoneOfTheThreeIsEmptiedAndKeepsThe
 {
     for (const char* typed : {"ga'", "'", "gaayaa", "Gaaya", "x"}) {
         On<frmReportMilkCollections>([&](Clerk& clerk) {
-            clerk.Type(QStringLiteral("15042026{ENTER}") + QString::fromLatin1(typed));
+            clerk.Type("15042026{ENTER}" + QString::fromLatin1(typed));
             Type(clerk, "{ENTER}");
             EXPECT_EQ(Focus(clerk), "ComboAnimal") << typed;
             EXPECT_EQ(Reads(clerk, "ComboAnimal"), "") << typed;
@@ -125,8 +125,8 @@ TEST_F(MilkCollectionsListTest, AnAnimalThatIsNoneOfTheThreeIsEmptiedAndKeepsThe
 
 TEST_F(MilkCollectionsListTest, TheListOfOneAnimalDoesntSpeakOfTheOther)
 {
-    const QString cow = QStringLiteral("गाय");
-    const QString buffalo = QStringLiteral("म्हैस");
+    const QString cow = "गाय";
+    const QString buffalo = "म्हैस";
     // What stands below the total of the list.
     const auto sums = [this](const char* keys) {
         Type<frmReportMilkCollections>(keys);

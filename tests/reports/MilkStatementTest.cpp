@@ -203,7 +203,7 @@ TEST_F(MilkStatementTest, ANameThatIsBegunIsTheOneThatTheListStandsAt)
     for (const char* typed : {"gaNa", "g", " gaNaoSa"}) {
         Run("delete * from MilkCollectionsME");
         On<frmReportMilkPS>([&](Clerk& clerk) {
-            clerk.Type(QStringLiteral("13042026{ENTER}15042026{ENTER}{ENTER}") + QString::fromLatin1(typed));
+            clerk.Type("13042026{ENTER}15042026{ENTER}{ENTER}" + QString::fromLatin1(typed));
             Type(clerk, "{ENTER}");
             EXPECT_EQ(Reads(clerk, "ComboAccountName"), "gaNaoSa") << typed;
             EXPECT_EQ(Focus(clerk), "cmdReport");
@@ -218,7 +218,7 @@ TEST_F(MilkStatementTest, ANameOfTheListIsNotTakenForTheBeginningOfALongerOne)
     AddMember(5, "gaNaoSarava");
     AddMember(6, "gaNa");
     On<frmReportMilkPS>([](Clerk& clerk) {
-        const QString combo = QStringLiteral("ComboAccountName");
+        const QString combo = "ComboAccountName";
         Type(clerk, "13042026{ENTER}15042026{ENTER}{ENTER}gaNaoSa{ENTER}");
         EXPECT_EQ(clerk.Reads(combo), "gaNaoSa");
         Type(clerk, "+{TAB}gaNa +{TAB}");
@@ -283,7 +283,7 @@ TEST_F(MilkStatementTest, ForACounterItStagesItsCopyPrintsNothingAndClosesItself
     AddDelivery("14/04/2026", "saMQyaakaL", 2, 3, "gaNaoSa", "mhOsa", 6, 8, 50);
     Run("insert into MilkCollectionsTemp select * from MilkCollections");
     Run("insert into MilkCollectionsME(CompanyId,MemberNo) values(1,9)");
-    gAppState.gReportMode = QStringLiteral("ShowMilkCollection");
+    gAppState.gReportMode = "ShowMilkCollection";
     const QStringList dates{"2|NULL|NULL"};
     Run("insert into ReportDates(CompanyId) values(2)");
     On<frmReportMilkPS>([](Clerk& clerk) { EXPECT_EQ(OnTop(clerk), ""); });
@@ -299,7 +299,7 @@ TEST_F(MilkStatementTest, ForACounterItStagesItsCopyPrintsNothingAndClosesItself
 
 TEST_F(MilkStatementTest, AfterACounterTheNextOpeningIsTheClerksOwn)
 {
-    gAppState.gReportMode = QStringLiteral("ShowMilkCollection");
+    gAppState.gReportMode = "ShowMilkCollection";
     Report("");
     EXPECT_EQ(Staged(), QStringList());
     Report(OfTheMember);

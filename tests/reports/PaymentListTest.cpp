@@ -96,7 +96,7 @@ TEST_F(PaymentListTest, AnAccountNumberStandsInWesternDigits)
 
 TEST_F(PaymentListTest, AnAccountNumberOfEighteenFiguresStandsWholeOnOneLine)
 {
-    const QString number = QStringLiteral("501001234567891234");
+    const QString number = "501001234567891234";
     Run(QStringLiteral("update MembersMaster set BankAccountNo='%1' where MemberNo=4").arg(number));
     ASSERT_TRUE(Listed("05042026{ENTER}{DOWN}%i").contains(number));
     Report& report = *TheWindow.Shown.back();

@@ -131,7 +131,7 @@ protected:
             u"','mhOsa',", row[u"Liters"].Number(), u",", row[u"Fat"].Number(), u",", row[u"Rate"].Number(),
             u",", row[u"Amount"].Number(), u",'", row[u"ActualCollectionTime"].Text(), u"')"));
         ReportControl report;
-        report.SetReportFileName(AppFolder.toString() + templateName);
+        report.SetReportFileName(Paths::AppFolder.toString() + templateName);
         report.SetLogon(Logon());
         report.Print();
     }

@@ -49,9 +49,9 @@ public:
 TEST_F(FieldsTest, TheGuideOfAChoiceNamesEachFigureWithItsWord)
 {
     Choices screen;
-    EXPECT_EQ(screen.txtTime.Guide().Text(), QStringLiteral("  1 ¹ sakaL    2 ¹ saMQyaakaL"));
-    EXPECT_EQ(screen.txtAnimal.Guide().Text(), QStringLiteral("  1 ¹ gaaya    2 ¹ mhOsa"));
-    EXPECT_EQ(screen.txtAnyAnimal.Guide().Text(), QStringLiteral("1 ¹ gaaya    2 ¹ mhOsa    3 ¹ daonhI"));
+    EXPECT_EQ(screen.txtTime.Guide().Text(), "  1 ¹ sakaL    2 ¹ saMQyaakaL");
+    EXPECT_EQ(screen.txtAnimal.Guide().Text(), "  1 ¹ gaaya    2 ¹ mhOsa");
+    EXPECT_EQ(screen.txtAnyAnimal.Guide().Text(), "1 ¹ gaaya    2 ¹ mhOsa    3 ¹ daonhI");
     screen.txtAnyAnimal.SetGuide(Plain(u"1 ते 3"));
-    EXPECT_EQ(screen.txtAnyAnimal.Guide().Text(), QStringLiteral("1 ते 3"));
+    EXPECT_EQ(screen.txtAnyAnimal.Guide().Text(), "1 ते 3");
 }

@@ -36,8 +36,8 @@ class MemberComboTest : public SocietyTest {
 protected:
     void AtTheNames(const std::function<void(Clerk&, frmAsks&)>& script)
     {
-        AddMember(3, QStringLiteral("rama"));
-        AddMember(5, QStringLiteral("sakaarama"));
+        AddMember(3, "rama");
+        AddMember(5, "sakaarama");
         On<frmAsks>([&](Clerk& clerk) { script(clerk, static_cast<frmAsks&>(clerk.Top())); });
         EXPECT_FALSE(Failure);
     }
@@ -51,8 +51,7 @@ TEST_F(MemberComboTest, ItOpensByItselfWithAllMembersAsLongAsThereIsNoNumber)
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboMemberName");
         EXPECT_TRUE(screen.ComboMemberName.IsDroppedDown());
-        EXPECT_EQ(screen.ComboMemberName.Items(),
-            QStringList({QStringLiteral("rama"), QStringLiteral("sakaarama")}));
+        EXPECT_EQ(screen.ComboMemberName.Items(), QStringList({"rama", "sakaarama"}));
         EXPECT_EQ(screen.Loaded, 1);
         Type(clerk, "+{TAB}7{ENTER}");
         EXPECT_EQ(Focus(clerk), "ComboMemberName");
@@ -80,7 +79,7 @@ TEST_F(MemberComboTest, DigitsAndApostrophesAreDroppedAndItsGuideIsThatOfNames)
         Type(clerk, "{ENTER}r'1a2");
         EXPECT_EQ(screen.ComboMemberName.Text().toStdString(), "ra");
         EXPECT_EQ(screen.ComboMemberName.Guide().Seen().toStdString(),
-            Keys::Guide(QStringLiteral("NameCombo")).Seen().toStdString());
+            Keys::Guide("NameCombo").Seen().toStdString());
         EXPECT_FALSE(screen.ComboMemberName.Guide().IsEmpty());
     });
 }

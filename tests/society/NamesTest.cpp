@@ -86,9 +86,9 @@ TEST_F(NamesTest, AnyMemberIsFoundByAnySpellingOfHisName)
 
 TEST_F(NamesTest, AMemberIsFoundByNumberInAnyCompany)
 {
-    AddMember(3, QStringLiteral("rama"));
-    Run(QStringLiteral("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(2,9,'sakaarama')"));
-    EXPECT_EQ(MemberOfNumber(3)[u"MemberName"].Text(), QStringLiteral("rama"));
-    EXPECT_EQ(MemberOfNumber(9)[u"MemberName"].Text(), QStringLiteral("sakaarama"));
+    AddMember(3, "rama");
+    Run("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(2,9,'sakaarama')");
+    EXPECT_EQ(MemberOfNumber(3)[u"MemberName"].Text(), "rama");
+    EXPECT_EQ(MemberOfNumber(9)[u"MemberName"].Text(), "sakaarama");
     EXPECT_TRUE(MemberOfNumber(4).Eof());
 }

@@ -29,8 +29,7 @@ TEST(ReceiptLayoutsTest, AnUnknownTypeHasNone)
 
 TEST(ReceiptLayoutsTest, TheSettingsOfferTheEightInTheirOrder)
 {
-    EXPECT_EQ(
-        ReceiptTypes().join(u','), QStringLiteral("Tašp 1,Tašp 2,Tašp 3,Tašp 4,Tašp 5,Tašp 6,Tašp 7,Tašp 8"));
+    EXPECT_EQ(ReceiptTypes().join(u','), "Tašp 1,Tašp 2,Tašp 3,Tašp 4,Tašp 5,Tašp 6,Tašp 7,Tašp 8");
 }
 
 TEST(ReceiptLayoutsTest, ASlipIsPrintedAgainFromTheFolderOfItsTemplateOrNotAtAll)

@@ -32,7 +32,7 @@ public:
         for (const Control* control : Controls())
             if (control->Enabled())
                 open.append(control->Name());
-        return QString(captions.join(u' ') + QStringLiteral(" | ") + open.join(u' ')).toStdString();
+        return QString(captions.join(u' ') + " | " + open.join(u' ')).toStdString();
     }
 };
 

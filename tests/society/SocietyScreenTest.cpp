@@ -87,7 +87,7 @@ TEST_F(SocietyScreenTest, WithoutACompanyTheBandHasTheTitleAlone)
 
 TEST_F(SocietyScreenTest, EscEmptiesTheFieldsAndCloses)
 {
-    QString left = QStringLiteral("never closed");
+    QString left = "never closed";
     Failure = TheClerk.Play(
         [&] {
             frmProbe screen;

@@ -14,7 +14,7 @@ public:
     {
         m_application = std::make_unique<Application>(m_argc, m_argv);
         Application::setQuitOnLastWindowClosed(false);
-        Look::Apply(*m_application, QStringLiteral("Noto Sans Devanagari"));
+        Look::Apply(*m_application, "Noto Sans Devanagari");
     }
 
     void TearDown() override { m_application.reset(); }

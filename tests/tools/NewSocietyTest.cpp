@@ -30,7 +30,7 @@ QString HappenedIn(const QString& folder, const SocietyPlan& plan)
 SocietyPlan Replacing()
 {
     SocietyPlan plan = GoodPlan();
-    plan.password = QStringLiteral("another");
+    plan.password = "another";
     plan.replace = true;
     return plan;
 }
@@ -65,7 +65,7 @@ TEST_F(NewSocietyTest, HasADatabaseAPasswordABackupFolderTheTemplatesANoteOfSoun
 TEST_F(NewSocietyTest, OpensInTheStockShellWithThePasswordAndWithNoOther)
 {
     MakeSociety(Folder(), GoodPlan());
-    const QString count = QStringLiteral("select count(*) from MembersMaster; pragma integrity_check;");
+    const QString count = "select count(*) from MembersMaster; pragma integrity_check;";
     EXPECT_EQ(Shell(Folder(), GoodPlan().password, count).join(u' '), "0 ok");
     EXPECT_TRUE(FirstLine(Folder(), "wrong", count).startsWith(u"Error"));
     EXPECT_FALSE(FileContent(File(DatabaseFileName)).contains("MembersMaster"));
@@ -74,7 +74,7 @@ TEST_F(NewSocietyTest, OpensInTheStockShellWithThePasswordAndWithNoOther)
 TEST_F(NewSocietyTest, OpensInTheProgramWithThePasswordOfItsFile)
 {
     SocietyPlan plan = GoodPlan();
-    plan.password = QStringLiteral("a=b|(c)!");
+    plan.password = "a=b|(c)!";
     MakeSociety(Folder(), plan);
     DataSource::Register("SetupTest", File(DatabaseFileName));
     Connection connection;
@@ -228,12 +228,10 @@ TEST(SocietyPlansTest, AreRefusedInOneSentence)
         return WhyRefused(plan);
     };
     EXPECT_EQ(WhyRefused(GoodPlan()), QString());
-    EXPECT_TRUE(refusal([](SocietyPlan& p) { p.name = QStringLiteral("  "); }).contains(u"name is empty"));
-    EXPECT_TRUE(refusal([](SocietyPlan& p) { p.name = QStringLiteral("दूध'संस्था"); }).contains(u"apostrophe"));
-    EXPECT_TRUE(refusal([](SocietyPlan& p) {
-        p.name = QStringLiteral("Gokul");
-    }).contains(u"write it in Devanagari"));
-    EXPECT_EQ(refusal([](SocietyPlan& p) { p.name = QStringLiteral("गोकुळ (नं. 1)"); }), QString());
+    EXPECT_TRUE(refusal([](SocietyPlan& p) { p.name = "  "; }).contains(u"name is empty"));
+    EXPECT_TRUE(refusal([](SocietyPlan& p) { p.name = "दूध'संस्था"; }).contains(u"apostrophe"));
+    EXPECT_TRUE(refusal([](SocietyPlan& p) { p.name = "Gokul"; }).contains(u"write it in Devanagari"));
+    EXPECT_EQ(refusal([](SocietyPlan& p) { p.name = "गोकुळ (नं. 1)"; }), QString());
     EXPECT_TRUE(refusal([](SocietyPlan& p) { p.name = QString(101, u'अ'); }).contains(u"longer than"));
     EXPECT_TRUE(refusal([](SocietyPlan& p) { p.password = QString(); }).contains(u"password is empty"));
     for (const char* year : {"", "2026", "2026-27", "26-27", "2026-2027 ", "२०२६-२०२७"})
@@ -253,7 +251,7 @@ TEST(SocietyPlansTest, AreRefusedInOneSentence)
 TEST_F(NewSocietyTest, IsNotMadeOfARefusedPlan)
 {
     SocietyPlan plan = GoodPlan();
-    plan.year = QStringLiteral("2026-2028");
+    plan.year = "2026-2028";
     plan.demo = true;
     EXPECT_EQ(HappenedIn(Folder(), plan), WhyRefused(plan));
     EXPECT_FALSE(QFileInfo::exists(Folder()));

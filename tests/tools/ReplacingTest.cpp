@@ -14,9 +14,9 @@
 
 namespace {
 
-const QString KeptDatabase = QStringLiteral("Morvelta-2026-04-01-101530.mdb");
-const QString KeptPassword = QStringLiteral("PWD-2026-04-01-101530.TXT");
-const QString NewPassword = QStringLiteral("another");
+const QString KeptDatabase = "Morvelta-2026-04-01-101530.mdb";
+const QString KeptPassword = "PWD-2026-04-01-101530.TXT";
+const QString NewPassword = "another";
 
 SocietyPlan Replacing()
 {

@@ -104,7 +104,7 @@ TEST_F(SafeFilesTest, WhatCannotBeBroughtToTheDiskIsAnErrorThatNamesIt)
 {
     const QString file = QDir::toNativeSeparators(File("a"));
     const QString folder = QDir::toNativeSeparators(m_dir.path());
-    const QString why = QStringLiteral(": Input/output error.");
+    const QString why = ": Input/output error.";
     const auto write = [&] { SafeFiles::Write(File("a"), "content"); };
     EXPECT_EQ(HappenedWhenFailing(1, write), QStringLiteral("Can't bring to the disk ") % file % why);
     EXPECT_EQ(HappenedWhenFailing(2, write), QStringLiteral("Can't bring to the disk ") % folder % why);

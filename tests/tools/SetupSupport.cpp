@@ -12,9 +12,9 @@
 SocietyPlan GoodPlan()
 {
     SocietyPlan plan;
-    plan.name = QStringLiteral("श्री दत्त सहकारी दूध संस्था");
-    plan.year = QStringLiteral("2026-2027");
-    plan.password = QStringLiteral("Gokul#2026");
+    plan.name = "श्री दत्त सहकारी दूध संस्था";
+    plan.year = "2026-2027";
+    plan.password = "Gokul#2026";
     plan.now = QDateTime(QDate(2026, 4, 1), QTime(10, 15, 30));
     return plan;
 }

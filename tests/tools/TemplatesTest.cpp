@@ -10,7 +10,7 @@
 
 namespace {
 
-const QString Slip = QStringLiteral("MilkReceipt1.rpt");
+const QString Slip = "MilkReceipt1.rpt";
 const QDateTime Now(QDate(2026, 4, 1), QTime(10, 15, 30));
 
 class TemplatesTest : public testing::Test {

@@ -71,15 +71,15 @@ TEST_F(AutoSettingsCaptionsTest, TheCollectionPage)
                 {"txtCowLimit", "k^nacaI  xamata gaaya"}, {"txtBuffLimit", "k^nacaI  xamata mhOsa"},
                 {"ComboReceipt", "pavatI p`kar inavaDa"}});
         EXPECT_EQ(dynamic_cast<CheckBox&>(*clerk.Top().Find(u"CheckRepeatCol")).Shown().Text(),
-            Q("eka maombarcaI eka vaoLI ekapoxaa jaast vaoLa dUQa saMklana naaoMd kÉ VayacaI ka Æ"));
-        EXPECT_EQ(Reads(clerk, "cmdReceipt"), Q("pavatI p`kar"));
+            "eka maombarcaI eka vaoLI ekapoxaa jaast vaoLa dUQa saMklana naaoMd kÉ VayacaI ka Æ");
+        EXPECT_EQ(Reads(clerk, "cmdReceipt"), "pavatI p`kar");
     });
 }
 
 TEST_F(AutoSettingsCaptionsTest, ThePaymentPage)
 {
     Settings([](Clerk& clerk) {
-        clerk.Type(Q("^{PGDN}"));
+        clerk.Type("^{PGDN}");
         EXPECT_EQ(Labels(clerk),
             AsSeen({"pomaoMT kalaavaQaI", "zova kpat", "gaaya", "p`it ilaTr", "zova kpat", "mhOsa",
                 "p`it ilaTr", "dracaa p`kar", "dUQa pomaoMT pOSaat yaot Asalyaasa "}));
@@ -104,7 +104,7 @@ TEST_F(AutoSettingsCaptionsTest, ThePaymentPage)
 TEST_F(AutoSettingsCaptionsTest, TheSalePage)
 {
     Settings([](Clerk& clerk) {
-        clerk.Type(Q("^{PGUP}"));
+        clerk.Type("^{PGUP}");
         EXPECT_EQ(Labels(clerk),
             AsSeen({"sqaainak dUQa ivaËI dr", "gaaya dUQa", "p`it ilaTr", "mhOsa dUQa", "p`it ilaTr",
                 "eki~t dUQa", "p`it ilaTr", "ivaËI pavatIÀip`MT"}));
@@ -117,13 +117,13 @@ TEST_F(AutoSettingsCaptionsTest, TheSalePage)
 TEST_F(AutoSettingsCaptionsTest, TheTitleTheTabsAndTheButtons)
 {
     Settings([](Clerk& clerk) {
-        EXPECT_EQ(clerk.Top().Title().Text(), Q("Aa^Tao saoTIMgja"));
+        EXPECT_EQ(clerk.Top().Title().Text(), "Aa^Tao saoTIMgja");
         const auto& tabs = dynamic_cast<QTabBar&>(*clerk.Top().Find(u"SSTab")->Widget());
-        EXPECT_EQ(tabs.tabText(0), Q("संकलन"));
-        EXPECT_EQ(tabs.tabText(1), Q("पेमेंट"));
-        EXPECT_EQ(tabs.tabText(2), Seen(Q("dUQa ivaËI")));
-        EXPECT_EQ(Reads(clerk, "CmdSave"), Q("&saovh"));
-        EXPECT_EQ(Reads(clerk, "CmdCancel"), Q("&r_"));
-        EXPECT_EQ(Reads(clerk, "CmdExit"), Q("&baahor"));
+        EXPECT_EQ(tabs.tabText(0), "संकलन");
+        EXPECT_EQ(tabs.tabText(1), "पेमेंट");
+        EXPECT_EQ(tabs.tabText(2), Seen("dUQa ivaËI"));
+        EXPECT_EQ(Reads(clerk, "CmdSave"), "&saovh");
+        EXPECT_EQ(Reads(clerk, "CmdCancel"), "&r_");
+        EXPECT_EQ(Reads(clerk, "CmdExit"), "&baahor");
     });
 }

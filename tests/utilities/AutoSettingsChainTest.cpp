@@ -9,7 +9,7 @@ protected:
     {
         GoTo(clerk, control);
         Put(clerk, control, text);
-        clerk.Type(Q("{ENTER}"));
+        clerk.Type("{ENTER}");
         return Focus(clerk);
     }
 };
@@ -51,11 +51,11 @@ TEST_F(AutoSettingsChainTest, EnterLeadsFromTheFirstFieldToTheSaveButton)
             EXPECT_EQ(Focus(clerk), Q(control));
             clerk.Type(Q(Focus(clerk) == u"CmdSave" ? "" : "{ENTER}"));
         }
-        EXPECT_EQ(Page(clerk), Q("1"));
-        clerk.Type(Q("{TAB}{TAB}{TAB}"));
-        EXPECT_EQ(Focus(clerk), Q("cmdReceipt"));
-        clerk.Type(Q("{TAB}"));
-        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+        EXPECT_EQ(Page(clerk), "1");
+        clerk.Type("{TAB}{TAB}{TAB}");
+        EXPECT_EQ(Focus(clerk), "cmdReceipt");
+        clerk.Type("{TAB}");
+        EXPECT_EQ(Focus(clerk), "ComboAutoLiters");
     });
 }
 
@@ -63,21 +63,21 @@ TEST_F(AutoSettingsChainTest, TheRestOfThePaymentPageIsWalkedInItsOrder)
 {
     for (const char* figures : {"{ENTER}", "{ENTER}{ENTER}"}) {
         Settings([&](Clerk& clerk) {
-            clerk.Type(Q("^{PGDN}"));
+            clerk.Type("^{PGDN}");
             clerk.Type(Q(figures));
-            EXPECT_TRUE(Guide(clerk).contains(Q("↓ : दराचा प्रकार व पुढील प्रश्न"))) << figures;
-            clerk.Type(Q("{DOWN}"));
-            EXPECT_EQ(Focus(clerk), Q("cmbFatRateType")) << figures;
+            EXPECT_TRUE(Guide(clerk).contains("↓ : दराचा प्रकार व पुढील प्रश्न")) << figures;
+            clerk.Type("{DOWN}");
+            EXPECT_EQ(Focus(clerk), "cmbFatRateType") << figures;
             for (const char* control : {"CheckCNP", "CheckSNU", "OptionPayIt"}) {
-                clerk.Type(Q("{ENTER}"));
+                clerk.Type("{ENTER}");
                 EXPECT_EQ(Focus(clerk), Q(control));
             }
-            clerk.Type(Q("{DOWN}"));
-            EXPECT_EQ(Focus(clerk), Q("OptionDiscount"));
-            EXPECT_EQ(Reads(clerk, "OptionDiscount"), Q("1"));
-            clerk.Type(Q("{ENTER}"));
-            EXPECT_EQ(Focus(clerk), Q("CmdSave"));
-            EXPECT_EQ(Page(clerk), Q("2"));
+            clerk.Type("{DOWN}");
+            EXPECT_EQ(Focus(clerk), "OptionDiscount");
+            EXPECT_EQ(Reads(clerk, "OptionDiscount"), "1");
+            clerk.Type("{ENTER}");
+            EXPECT_EQ(Focus(clerk), "CmdSave");
+            EXPECT_EQ(Page(clerk), "2");
         });
     }
 }
@@ -86,11 +86,11 @@ TEST_F(AutoSettingsChainTest, TheFiguresGuideNamesBothWaysOn)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "txtCow");
-        EXPECT_EQ(Guide(clerk), Q("↓ : दराचा प्रकार व पुढील प्रश्न"));
-        clerk.Type(Q("{ENTER}"));
-        EXPECT_EQ(Guide(clerk), Q("Enter : दूध विक्री    ↓ : दराचा प्रकार व पुढील प्रश्न"));
-        clerk.Type(Q("{ENTER}"));
-        EXPECT_EQ(Focus(clerk), Q("txtCowSaleRate"));
+        EXPECT_EQ(Guide(clerk), "↓ : दराचा प्रकार व पुढील प्रश्न");
+        clerk.Type("{ENTER}");
+        EXPECT_EQ(Guide(clerk), "Enter : दूध विक्री    ↓ : दराचा प्रकार व पुढील प्रश्न");
+        clerk.Type("{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtCowSaleRate");
     });
 }
 
@@ -98,31 +98,31 @@ TEST_F(AutoSettingsChainTest, TheTabThatIsPressedOnceMoreSaysWhereItsOwnPageGoes
 {
     Settings([&](Clerk& clerk) {
         PressTab(clerk, 1);
-        EXPECT_EQ(Focus(clerk), Q("SSTab"));
+        EXPECT_EQ(Focus(clerk), "SSTab");
         EXPECT_EQ(Guide(clerk), QString());
         PressTab(clerk, 2);
-        EXPECT_EQ(Focus(clerk), Q("ComboPaymentDuration"));
+        EXPECT_EQ(Focus(clerk), "ComboPaymentDuration");
         PressTab(clerk, 2);
-        EXPECT_EQ(Focus(clerk), Q("SSTab"));
-        EXPECT_EQ(Guide(clerk), Q("Enter : पेमेंट कालावधी    ↓ : दराचा प्रकार व पुढील प्रश्न"));
-        clerk.Type(Q("{ENTER}"));
-        EXPECT_EQ(Focus(clerk), Q("ComboPaymentDuration"));
+        EXPECT_EQ(Focus(clerk), "SSTab");
+        EXPECT_EQ(Guide(clerk), "Enter : पेमेंट कालावधी    ↓ : दराचा प्रकार व पुढील प्रश्न");
+        clerk.Type("{ENTER}");
+        EXPECT_EQ(Focus(clerk), "ComboPaymentDuration");
         PressTab(clerk, 2);
-        clerk.Type(Q("{DOWN}"));
-        EXPECT_EQ(Focus(clerk), Q("cmbFatRateType"));
-        clerk.Type(Q("^{PGDN}"));
-        EXPECT_EQ(Focus(clerk), Q("SSTab"));
-        EXPECT_EQ(Guide(clerk), Q("Enter : दर    ↓ : विक्री पावती/प्रिंट"));
+        clerk.Type("{DOWN}");
+        EXPECT_EQ(Focus(clerk), "cmbFatRateType");
+        clerk.Type("^{PGDN}");
+        EXPECT_EQ(Focus(clerk), "SSTab");
+        EXPECT_EQ(Guide(clerk), "Enter : दर    ↓ : विक्री पावती/प्रिंट");
     });
 }
 
 TEST_F(AutoSettingsChainTest, TheFirstChoiceIsNeverLeftEmpty)
 {
     Settings([&](Clerk& clerk) {
-        EXPECT_EQ(Leave(clerk, "ComboAutoLiters", ""), Q("ComboAutoLiters"));
-        EXPECT_EQ(Leave(clerk, "ComboAutoLiters", "saovh"), Q("ComboAutoLiters"));
+        EXPECT_EQ(Leave(clerk, "ComboAutoLiters", ""), "ComboAutoLiters");
+        EXPECT_EQ(Leave(clerk, "ComboAutoLiters", "saovh"), "ComboAutoLiters");
         EXPECT_EQ(Reads(clerk, "ComboAutoLiters"), QString());
-        EXPECT_EQ(Leave(clerk, "ComboAutoLiters", "haoya"), Q("ComboAutoFat"));
+        EXPECT_EQ(Leave(clerk, "ComboAutoLiters", "haoya"), "ComboAutoFat");
     });
 }
 
@@ -131,10 +131,10 @@ TEST_F(AutoSettingsChainTest, AnEmptyChoiceTakesTheFocusAgain)
     for (const Choice& choice : Choices) {
         Settings([&](Clerk& clerk) {
             EXPECT_EQ(Leave(clerk, choice.combo, ""), Q(choice.combo));
-            clerk.Type(Q("+{TAB}"));
+            clerk.Type("+{TAB}");
             EXPECT_EQ(Focus(clerk), Q(choice.combo)) << "nor is it left backwards";
             Put(clerk, choice.combo, choice.word);
-            clerk.Type(Q("{ENTER}"));
+            clerk.Type("{ENTER}");
             EXPECT_EQ(Focus(clerk), Q(choice.next));
         });
     }
@@ -193,9 +193,9 @@ TEST_F(AutoSettingsChainTest, AFigureBehindAnEmptyFieldIsNotChecked)
             GoTo(clerk, figure.field);
             Put(clerk, figure.before, "");
             Put(clerk, figure.field, "0");
-            clerk.Type(Q("+{TAB}"));
+            clerk.Type("+{TAB}");
             EXPECT_EQ(Focus(clerk), Q(figure.before)) << "a step back isn't caught";
-            EXPECT_EQ(Reads(clerk, figure.field), Q("0"));
+            EXPECT_EQ(Reads(clerk, figure.field), "0");
         });
     }
 }
@@ -203,20 +203,20 @@ TEST_F(AutoSettingsChainTest, AFigureBehindAnEmptyFieldIsNotChecked)
 TEST_F(AutoSettingsChainTest, TheSaleRateOfCowMilkIsNeverZero)
 {
     Settings([&](Clerk& clerk) {
-        EXPECT_EQ(Leave(clerk, "txtCowSaleRate", "0"), Q("txtCowSaleRate"));
-        EXPECT_EQ(Reads(clerk, "txtCowSaleRate"), Q("0.00"));
-        EXPECT_EQ(Leave(clerk, "txtCowSaleRate", "12.345"), Q("txtBuffSaleRate"));
-        EXPECT_EQ(Reads(clerk, "txtCowSaleRate"), Q("12.35"));
+        EXPECT_EQ(Leave(clerk, "txtCowSaleRate", "0"), "txtCowSaleRate");
+        EXPECT_EQ(Reads(clerk, "txtCowSaleRate"), "0.00");
+        EXPECT_EQ(Leave(clerk, "txtCowSaleRate", "12.345"), "txtBuffSaleRate");
+        EXPECT_EQ(Reads(clerk, "txtCowSaleRate"), "12.35");
     });
 }
 
 TEST_F(AutoSettingsChainTest, ThePeriodMustBeChosen)
 {
     Settings([&](Clerk& clerk) {
-        EXPECT_EQ(Leave(clerk, "ComboPaymentDuration", ""), Q("ComboPaymentDuration"));
-        EXPECT_EQ(Leave(clerk, "ComboPaymentDuration", "2 idvasa"), Q("ComboPaymentDuration"));
+        EXPECT_EQ(Leave(clerk, "ComboPaymentDuration", ""), "ComboPaymentDuration");
+        EXPECT_EQ(Leave(clerk, "ComboPaymentDuration", "2 idvasa"), "ComboPaymentDuration");
         EXPECT_EQ(Reads(clerk, "ComboPaymentDuration"), QString());
-        EXPECT_EQ(Leave(clerk, "ComboPaymentDuration", "7 idvasa"), Q("txtCow"));
+        EXPECT_EQ(Leave(clerk, "ComboPaymentDuration", "7 idvasa"), "txtCow");
     });
 }
 
@@ -225,8 +225,8 @@ TEST_F(AutoSettingsChainTest, ADepositOfZeroStaysWhereThePeriodIsChosen)
     Settings([&](Clerk& clerk) {
         for (const char* field : {"txtCow", "txtBuff"}) {
             EXPECT_EQ(Leave(clerk, field, "0"), Q(field));
-            EXPECT_EQ(Reads(clerk, field), Q("0.00"));
-            clerk.Type(Q("1"));
+            EXPECT_EQ(Reads(clerk, field), "0.00");
+            clerk.Type("1");
         }
     });
 }
@@ -236,12 +236,12 @@ TEST_F(AutoSettingsChainTest, ADepositOfZeroPassesWithoutAPeriod)
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "txtCow");
         Put(clerk, "ComboPaymentDuration", "");
-        clerk.Type(Q("0{ENTER}"));
-        EXPECT_EQ(Focus(clerk), Q("txtBuff"));
-        clerk.Type(Q("0{ENTER}"));
-        EXPECT_EQ(Focus(clerk), Q("txtCowSaleRate"));
-        EXPECT_EQ(Reads(clerk, "txtCow"), Q("0.00"));
-        EXPECT_EQ(Reads(clerk, "txtBuff"), Q("0.00"));
+        clerk.Type("0{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtBuff");
+        clerk.Type("0{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtCowSaleRate");
+        EXPECT_EQ(Reads(clerk, "txtCow"), "0.00");
+        EXPECT_EQ(Reads(clerk, "txtBuff"), "0.00");
     });
 }
 
@@ -253,10 +253,10 @@ TEST_F(AutoSettingsChainTest, ANegativeDepositStaysEvenWithoutAPeriod)
                 GoTo(clerk, field);
                 Put(clerk, "ComboPaymentDuration", period);
                 EXPECT_EQ(Leave(clerk, field, "-1"), Q(field));
-                EXPECT_EQ(Reads(clerk, field), Q("-1.00"));
+                EXPECT_EQ(Reads(clerk, field), "-1.00");
             }
             Put(clerk, "ComboPaymentDuration", "7 idvasa");
-            clerk.Type(Q("1"));
+            clerk.Type("1");
         }
     });
 }
@@ -264,9 +264,9 @@ TEST_F(AutoSettingsChainTest, ANegativeDepositStaysEvenWithoutAPeriod)
 TEST_F(AutoSettingsChainTest, TheBuffaloDepositLeadsToTheThirdPage)
 {
     Settings([&](Clerk& clerk) {
-        EXPECT_EQ(Leave(clerk, "txtBuff", "0.755"), Q("txtCowSaleRate"));
-        EXPECT_EQ(Page(clerk), Q("3"));
-        EXPECT_EQ(Reads(clerk, "txtBuff"), Q("0.76"));
+        EXPECT_EQ(Leave(clerk, "txtBuff", "0.755"), "txtCowSaleRate");
+        EXPECT_EQ(Page(clerk), "3");
+        EXPECT_EQ(Reads(clerk, "txtBuff"), "0.76");
     });
 }
 
@@ -276,9 +276,9 @@ TEST_F(AutoSettingsChainTest, TheBuffaloDepositBehindAnEmptyOneIsNotChecked)
         GoTo(clerk, "txtBuff");
         Put(clerk, "txtCow", "");
         Put(clerk, "txtBuff", "0");
-        clerk.Type(Q("+{TAB}"));
-        EXPECT_EQ(Focus(clerk), Q("txtCow"));
-        EXPECT_EQ(Page(clerk), Q("2"));
+        clerk.Type("+{TAB}");
+        EXPECT_EQ(Focus(clerk), "txtCow");
+        EXPECT_EQ(Page(clerk), "2");
     });
 }
 
@@ -287,9 +287,9 @@ TEST_F(AutoSettingsChainTest, TheBuffaloDepositBehindAnEmptyOneLeadsOnUnchecked)
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "txtBuff");
         Put(clerk, "txtCow", "");
-        EXPECT_EQ(Leave(clerk, "txtBuff", "0"), Q("txtCowSaleRate"));
-        EXPECT_EQ(Page(clerk), Q("3"));
-        EXPECT_EQ(Reads(clerk, "txtBuff"), Q("0"));
+        EXPECT_EQ(Leave(clerk, "txtBuff", "0"), "txtCowSaleRate");
+        EXPECT_EQ(Page(clerk), "3");
+        EXPECT_EQ(Reads(clerk, "txtBuff"), "0");
     });
 }
 
@@ -299,8 +299,8 @@ TEST_F(AutoSettingsChainTest, TheBoxOfRepeatedDeliveriesLeadsToTheSecondPage)
         Settings([&](Clerk& clerk) {
             GoTo(clerk, "CheckRepeatCol");
             clerk.Type(Q(key));
-            EXPECT_EQ(Focus(clerk), Q("ComboPaymentDuration")) << key;
-            EXPECT_EQ(Page(clerk), Q("2"));
+            EXPECT_EQ(Focus(clerk), "ComboPaymentDuration") << key;
+            EXPECT_EQ(Page(clerk), "2");
         });
     }
 }
@@ -313,7 +313,7 @@ TEST_F(AutoSettingsChainTest, ShiftTabLeadsBackFromTheFieldsThatTurnThePage)
         Settings([&, name = field, expected = before](Clerk& clerk) {
             GoTo(clerk, name);
             const QString page = Page(clerk);
-            clerk.Type(Q("+{TAB}"));
+            clerk.Type("+{TAB}");
             EXPECT_EQ(Focus(clerk), Q(expected));
             EXPECT_EQ(Page(clerk), page);
         });
@@ -327,7 +327,7 @@ TEST_F(AutoSettingsChainTest, ThePageBeforeIsTurnedToFromThoseFieldsToo)
     for (const auto& [field, page] : fields) {
         Settings([&, name = field, expected = page](Clerk& clerk) {
             GoTo(clerk, name);
-            clerk.Type(Q("^{PGUP}"));
+            clerk.Type("^{PGUP}");
             EXPECT_EQ(Page(clerk), Q(expected)) << name;
         });
     }
@@ -336,8 +336,8 @@ TEST_F(AutoSettingsChainTest, ThePageBeforeIsTurnedToFromThoseFieldsToo)
 TEST_F(AutoSettingsChainTest, TheMixedRateLeadsBackToTheFirstPageAndToSave)
 {
     Settings([&](Clerk& clerk) {
-        EXPECT_EQ(Leave(clerk, "txtMixSaleRate", "50"), Q("CmdSave"));
-        EXPECT_EQ(Page(clerk), Q("1"));
+        EXPECT_EQ(Leave(clerk, "txtMixSaleRate", "50"), "CmdSave");
+        EXPECT_EQ(Page(clerk), "1");
     });
 }
 
@@ -346,9 +346,9 @@ TEST_F(AutoSettingsChainTest, TheMixedRateBehindAnEmptyOneLeadsToSaveUnchecked)
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "txtMixSaleRate");
         Put(clerk, "txtBuffSaleRate", "");
-        EXPECT_EQ(Leave(clerk, "txtMixSaleRate", "0"), Q("CmdSave"));
-        EXPECT_EQ(Page(clerk), Q("1"));
-        EXPECT_EQ(Reads(clerk, "txtMixSaleRate"), Q("0"));
+        EXPECT_EQ(Leave(clerk, "txtMixSaleRate", "0"), "CmdSave");
+        EXPECT_EQ(Page(clerk), "1");
+        EXPECT_EQ(Reads(clerk, "txtMixSaleRate"), "0");
     });
 }
 
@@ -356,11 +356,11 @@ TEST_F(AutoSettingsChainTest, DownLeadsToThePrintOfTheSalesFromAnywhereOnItsPage
 {
     for (const char* control : {"SSTab", "txtCowSaleRate", "txtMixSaleRate", "CmdSave"}) {
         Settings([&](Clerk& clerk) {
-            clerk.Type(Q("^{PGUP}"));
+            clerk.Type("^{PGUP}");
             GoTo(clerk, control);
-            clerk.Type(Q("{DOWN}"));
-            EXPECT_EQ(Focus(clerk), Q("ComboMSRPrintStatus")) << control;
-            EXPECT_EQ(Page(clerk), Q("3"));
+            clerk.Type("{DOWN}");
+            EXPECT_EQ(Focus(clerk), "ComboMSRPrintStatus") << control;
+            EXPECT_EQ(Page(clerk), "3");
         });
     }
 }
@@ -369,8 +369,8 @@ TEST_F(AutoSettingsChainTest, DownPassesNoRateThatIsRefused)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "txtMixSaleRate");
-        clerk.Type(Q("0{DOWN}"));
-        EXPECT_EQ(Focus(clerk), Q("txtMixSaleRate"));
+        clerk.Type("0{DOWN}");
+        EXPECT_EQ(Focus(clerk), "txtMixSaleRate");
     });
 }
 
@@ -379,9 +379,9 @@ TEST_F(AutoSettingsChainTest, DownPassesNoDepositThatIsRefused)
     Settings([&](Clerk& clerk) {
         for (const char* field : {"txtCow", "txtBuff"}) {
             GoTo(clerk, field);
-            clerk.Type(Q("0{DOWN}"));
+            clerk.Type("0{DOWN}");
             EXPECT_EQ(Focus(clerk), Q(field));
-            clerk.Type(Q("1"));
+            clerk.Type("1");
         }
     });
 }
@@ -392,7 +392,7 @@ TEST_F(AutoSettingsChainTest, DownDoesNothingElsewhere)
         for (const char* control : {"ComboAutoLiters", "txtCowLimit", "ComboPaymentDuration",
                  "cmbFatRateType", "CheckCNP", "CheckSNU"}) {
             GoTo(clerk, control);
-            clerk.Type(Q("{DOWN}"));
+            clerk.Type("{DOWN}");
             EXPECT_EQ(Focus(clerk), Q(control));
         }
     });
@@ -401,16 +401,16 @@ TEST_F(AutoSettingsChainTest, DownDoesNothingElsewhere)
 TEST_F(AutoSettingsChainTest, TurningThePageEntersItsFirstFieldOnTheFirstTwo)
 {
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("^{PGDN}"));
-        EXPECT_EQ(Focus(clerk), Q("ComboPaymentDuration"));
-        clerk.Type(Q("^{PGDN}"));
-        EXPECT_EQ(Page(clerk), Q("3"));
-        EXPECT_EQ(Focus(clerk), Q("SSTab"));
-        clerk.Type(Q("^{PGDN}"));
-        EXPECT_EQ(Page(clerk), Q("1"));
-        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
-        clerk.Type(Q("^{PGUP}{ENTER}"));
-        EXPECT_EQ(Focus(clerk), Q("txtCowSaleRate"));
+        clerk.Type("^{PGDN}");
+        EXPECT_EQ(Focus(clerk), "ComboPaymentDuration");
+        clerk.Type("^{PGDN}");
+        EXPECT_EQ(Page(clerk), "3");
+        EXPECT_EQ(Focus(clerk), "SSTab");
+        clerk.Type("^{PGDN}");
+        EXPECT_EQ(Page(clerk), "1");
+        EXPECT_EQ(Focus(clerk), "ComboAutoLiters");
+        clerk.Type("^{PGUP}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtCowSaleRate");
     });
 }
 
@@ -418,17 +418,17 @@ TEST_F(AutoSettingsChainTest, PressingTheTabOfThePaymentsEntersThePeriod)
 {
     Settings([&](Clerk& clerk) {
         PressTab(clerk, 2);
-        EXPECT_EQ(Page(clerk), Q("2"));
-        EXPECT_EQ(Focus(clerk), Q("ComboPaymentDuration"));
+        EXPECT_EQ(Page(clerk), "2");
+        EXPECT_EQ(Focus(clerk), "ComboPaymentDuration");
     });
 }
 
 TEST_F(AutoSettingsChainTest, AnEmptyChoiceKeepsItsPage)
 {
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("{BS}^{PGDN}"));
-        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
-        EXPECT_EQ(Page(clerk), Q("1"));
+        clerk.Type("{BS}^{PGDN}");
+        EXPECT_EQ(Focus(clerk), "ComboAutoLiters");
+        EXPECT_EQ(Page(clerk), "1");
     });
 }
 

@@ -37,8 +37,8 @@ TEST_F(AutoSettingsFieldsTest, OpenOnTheFirstPageWithEachColumnInItsField)
           "DecimalPayment='Payable',SalesRateCow='47',SalesRateBuff='57.5',SalesRateMix='51.255',"
           "MSRPrintStatus='saovh va sËIna'");
     Settings([&](Clerk& clerk) {
-        EXPECT_EQ(Page(clerk), Q("1"));
-        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+        EXPECT_EQ(Page(clerk), "1");
+        EXPECT_EQ(Focus(clerk), "ComboAutoLiters");
         const std::pair<const char*, const char*> expected[] = {{"ComboAutoLiters", "haoya"},
             {"ComboAutoFat", "naahI"}, {"ComboPrintStatus", "f@t sËIna"}, {"txtCowLimit", "41.500"},
             {"txtBuffLimit", "42.000"}, {"ComboReceipt", "Tašp 7"}, {"CheckRepeatCol", "1"},
@@ -57,7 +57,7 @@ TEST_F(AutoSettingsFieldsTest, TheOtherWordsLeaveTheBoxesWithoutATick)
     Given("RepeatCollection='naahI',PurchaseEntry='Payment',UchalEntry='Uchal'");
     Settings([&](Clerk& clerk) {
         for (const char* box : {"CheckRepeatCol", "CheckCNP", "CheckSNU"})
-            EXPECT_EQ(Reads(clerk, box), Q("0")) << box;
+            EXPECT_EQ(Reads(clerk, box), "0") << box;
     });
 }
 
@@ -78,7 +78,7 @@ TEST_F(AutoSettingsFieldsTest, WithoutARowTheyAreEmptyAndTheReceiptIsToBePrinted
 {
     WithoutARow();
     Settings([&](Clerk& clerk) {
-        EXPECT_EQ(Reads(clerk, "ComboPrintStatus"), Q("haoya"));
+        EXPECT_EQ(Reads(clerk, "ComboPrintStatus"), "haoya");
         for (const char* field : {"ComboAutoLiters", "ComboAutoFat", "txtCowLimit", "txtBuffLimit",
                  "ComboReceipt", "ComboPaymentDuration", "txtCow", "txtBuff", "cmbFatRateType",
                  "txtCowSaleRate", "txtBuffSaleRate", "txtMixSaleRate", "ComboMSRPrintStatus"})
@@ -95,7 +95,7 @@ TEST_F(AutoSettingsFieldsTest, TheRowOfAnotherCompanyIsNotRead)
 TEST_F(AutoSettingsFieldsTest, NoTypeOfRateIsRateByFat)
 {
     Given("FatRateType=Null");
-    Settings([&](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "cmbFatRateType"), Q("f^T nausaar")); });
+    Settings([&](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "cmbFatRateType"), "f^T nausaar"); });
 }
 
 TEST_F(AutoSettingsFieldsTest, AColumnWithoutAFigureLeavesItsFieldEmpty)
@@ -134,10 +134,10 @@ TEST_F(AutoSettingsFieldsTest, TheFieldInFocusHasTheColourOfTheFocus)
             const QPalette& palette = clerk.Top().Find(Q(control))->Widget()->palette();
             return palette.color(QPalette::Active, QPalette::Base).name();
         };
-        EXPECT_EQ(colour("ComboAutoLiters"), Q("#ffc0c0"));
-        clerk.Type(Q("{ENTER}"));
-        EXPECT_EQ(colour("ComboAutoLiters"), Q("#b4c4cd"));
-        EXPECT_EQ(colour("ComboAutoFat"), Q("#ffc0c0"));
+        EXPECT_EQ(colour("ComboAutoLiters"), "#ffc0c0");
+        clerk.Type("{ENTER}");
+        EXPECT_EQ(colour("ComboAutoLiters"), "#b4c4cd");
+        EXPECT_EQ(colour("ComboAutoFat"), "#ffc0c0");
     });
 }
 
@@ -146,8 +146,8 @@ TEST_F(AutoSettingsFieldsTest, DigitsChooseYesOrNo)
     Settings([&](Clerk& clerk) {
         for (const char* combo : {"ComboAutoLiters", "ComboAutoFat"}) {
             GoTo(clerk, combo);
-            EXPECT_EQ(ByDigit(clerk, combo), QStringList({Q(""), Q("haoya"), Q("naahI")}));
-            clerk.Type(Q("1"));
+            EXPECT_EQ(ByDigit(clerk, combo), QStringList({"", "haoya", "naahI"}));
+            clerk.Type("1");
         }
     });
 }
@@ -156,12 +156,11 @@ TEST_F(AutoSettingsFieldsTest, DigitsChooseWhatBecomesOfTheReceipts)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "ComboPrintStatus");
-        EXPECT_EQ(
-            ByDigit(clerk, "ComboPrintStatus"), QStringList({Q(""), Q("naahI"), Q("f@t sËIna"), Q("haoya")}));
-        clerk.Type(Q("1"));
+        EXPECT_EQ(ByDigit(clerk, "ComboPrintStatus"), QStringList({"", "naahI", "f@t sËIna", "haoya"}));
+        clerk.Type("1");
         GoTo(clerk, "ComboMSRPrintStatus");
         EXPECT_EQ(ByDigit(clerk, "ComboMSRPrintStatus"),
-            QStringList({Q(""), Q("saovh"), Q("saovh va sËIna"), Q("saovh va ip`MT")}));
+            QStringList({"", "saovh", "saovh va sËIna", "saovh va ip`MT"}));
     });
 }
 
@@ -170,12 +169,11 @@ TEST_F(AutoSettingsFieldsTest, TheLayoutTakesTheDigits1To6AndTheMousePicksTheOth
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "ComboReceipt");
         EXPECT_EQ(ByDigit(clerk, "ComboReceipt"),
-            QStringList(
-                {Q(""), Q("Tašp 1"), Q("Tašp 2"), Q("Tašp 3"), Q("Tašp 4"), Q("Tašp 5"), Q("Tašp 6")}));
-        EXPECT_EQ(Picked(clerk, "ComboReceipt", 6), Q("Tašp 7"));
-        EXPECT_EQ(Picked(clerk, "ComboReceipt", 7), Q("Tašp 8"));
-        clerk.Type(Q("{ENTER}"));
-        EXPECT_EQ(Focus(clerk), Q("CheckRepeatCol"));
+            QStringList({"", "Tašp 1", "Tašp 2", "Tašp 3", "Tašp 4", "Tašp 5", "Tašp 6"}));
+        EXPECT_EQ(Picked(clerk, "ComboReceipt", 6), "Tašp 7");
+        EXPECT_EQ(Picked(clerk, "ComboReceipt", 7), "Tašp 8");
+        clerk.Type("{ENTER}");
+        EXPECT_EQ(Focus(clerk), "CheckRepeatCol");
     });
 }
 
@@ -184,20 +182,20 @@ TEST_F(AutoSettingsFieldsTest, ThePeriodTakesTheDigits1To4AndTheMousePicksTheMon
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "ComboPaymentDuration");
         EXPECT_EQ(ByDigit(clerk, "ComboPaymentDuration"),
-            QStringList({Q(""), Q("1 idvasa"), Q("7 idvasa"), Q("10 idvasa"), Q("15 idvasa")}));
-        clerk.Type(Q("15"));
-        EXPECT_EQ(Reads(clerk, "ComboPaymentDuration"), Q("1 idvasa")) << "5 is dropped";
-        EXPECT_EQ(Picked(clerk, "ComboPaymentDuration", 4), Q("1 maihnaa"));
-        clerk.Type(Q("{ENTER}"));
-        EXPECT_EQ(Focus(clerk), Q("txtCow"));
+            QStringList({"", "1 idvasa", "7 idvasa", "10 idvasa", "15 idvasa"}));
+        clerk.Type("15");
+        EXPECT_EQ(Reads(clerk, "ComboPaymentDuration"), "1 idvasa") << "5 is dropped";
+        EXPECT_EQ(Picked(clerk, "ComboPaymentDuration", 4), "1 maihnaa");
+        clerk.Type("{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtCow");
     });
 }
 
 TEST_F(AutoSettingsFieldsTest, LettersAreDroppedInAChoice)
 {
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("1haoya.x"));
-        EXPECT_EQ(Reads(clerk, "ComboAutoLiters"), Q("haoya"));
+        clerk.Type("1haoya.x");
+        EXPECT_EQ(Reads(clerk, "ComboAutoLiters"), "haoya");
     });
 }
 
@@ -205,10 +203,10 @@ TEST_F(AutoSettingsFieldsTest, TheTypeOfRateTakesNoKeyButEnter)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "cmbFatRateType");
-        clerk.Type(Q("2{BS}{DEL}x%{DOWN}{DOWN}"));
-        EXPECT_EQ(Reads(clerk, "cmbFatRateType"), Q("f^T nausaar"));
-        clerk.Type(Q("{ENTER}"));
-        EXPECT_EQ(Focus(clerk), Q("CheckCNP"));
+        clerk.Type("2{BS}{DEL}x%{DOWN}{DOWN}");
+        EXPECT_EQ(Reads(clerk, "cmbFatRateType"), "f^T nausaar");
+        clerk.Type("{ENTER}");
+        EXPECT_EQ(Focus(clerk), "CheckCNP");
         EXPECT_EQ(TheBox.Shown, QStringList());
     });
 }
@@ -217,11 +215,11 @@ TEST_F(AutoSettingsFieldsTest, RateByFatAndSnfIsNotYetToBeHad)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "cmbFatRateType");
-        EXPECT_EQ(Picked(clerk, "cmbFatRateType", 1), Q("f^T va esa ena ef nausaar"));
-        clerk.Type(Q("{ENTER}"));
-        EXPECT_EQ(TheBox.Shown, QStringList(Q("This Facility is available in the next version.")));
-        EXPECT_EQ(Reads(clerk, "cmbFatRateType"), Q("f^T nausaar"));
-        EXPECT_EQ(Focus(clerk), Q("CheckCNP"));
+        EXPECT_EQ(Picked(clerk, "cmbFatRateType", 1), "f^T va esa ena ef nausaar");
+        clerk.Type("{ENTER}");
+        EXPECT_EQ(TheBox.Shown, QStringList("This Facility is available in the next version."));
+        EXPECT_EQ(Reads(clerk, "cmbFatRateType"), "f^T nausaar");
+        EXPECT_EQ(Focus(clerk), "CheckCNP");
     });
 }
 
@@ -231,8 +229,8 @@ TEST_F(AutoSettingsFieldsTest, AnEmptyTypeOfRateBecomesRateByFatOnLeaving)
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "cmbFatRateType");
         EXPECT_EQ(Reads(clerk, "cmbFatRateType"), QString());
-        clerk.Type(Q("{ENTER}"));
-        EXPECT_EQ(Reads(clerk, "cmbFatRateType"), Q("f^T nausaar"));
+        clerk.Type("{ENTER}");
+        EXPECT_EQ(Reads(clerk, "cmbFatRateType"), "f^T nausaar");
         EXPECT_EQ(TheBox.Shown, QStringList());
     });
 }
@@ -242,11 +240,11 @@ TEST_F(AutoSettingsFieldsTest, TheBoxOfThePurchaseEntryTellsWhatItMeans)
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "CheckCNP");
         EXPECT_EQ(Guide(clerk), QString());
-        clerk.Type(Q(" "));
-        EXPECT_EQ(Guide(clerk), Seen(Q("dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kolaI jaa[-la")));
-        clerk.Press(Q("CheckCNP"));
-        EXPECT_EQ(Guide(clerk), Seen(Q("dUQa KrodIcaI enT/I dUQa pomaonT krtovaoLIca kolaI jaa[-la")));
-        clerk.Type(Q("{ENTER}"));
+        clerk.Type(" ");
+        EXPECT_EQ(Guide(clerk), Seen("dUQa KrodIcaI enT/I dUQa saMklana krtovaoLIca kolaI jaa[-la"));
+        clerk.Press("CheckCNP");
+        EXPECT_EQ(Guide(clerk), Seen("dUQa KrodIcaI enT/I dUQa pomaonT krtovaoLIca kolaI jaa[-la"));
+        clerk.Type("{ENTER}");
         EXPECT_EQ(Guide(clerk), QString());
     });
 }
@@ -254,61 +252,61 @@ TEST_F(AutoSettingsFieldsTest, TheBoxOfThePurchaseEntryTellsWhatItMeans)
 TEST_F(AutoSettingsFieldsTest, CancelReadsTheRowAgainAndSavesNothing)
 {
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("1{ENTER}1{ENTER}"));
+        clerk.Type("1{ENTER}1{ENTER}");
         GoTo(clerk, "txtCow");
-        clerk.Type(Q("9{ENTER}"));
-        clerk.Press(Q("CmdCancel"));
-        EXPECT_EQ(Reads(clerk, "ComboAutoLiters"), Q("naahI"));
-        EXPECT_EQ(Reads(clerk, "ComboAutoFat"), Q("naahI"));
-        EXPECT_EQ(Reads(clerk, "txtCow"), Q("0.50"));
-        EXPECT_EQ(Page(clerk), Q("1"));
-        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+        clerk.Type("9{ENTER}");
+        clerk.Press("CmdCancel");
+        EXPECT_EQ(Reads(clerk, "ComboAutoLiters"), "naahI");
+        EXPECT_EQ(Reads(clerk, "ComboAutoFat"), "naahI");
+        EXPECT_EQ(Reads(clerk, "txtCow"), "0.50");
+        EXPECT_EQ(Page(clerk), "1");
+        EXPECT_EQ(Focus(clerk), "ComboAutoLiters");
     });
-    EXPECT_EQ(One(Q("select AutoLiters from AutoSettings")), Q("naahI"));
+    EXPECT_EQ(One("select AutoLiters from AutoSettings"), "naahI");
 }
 
 TEST_F(AutoSettingsFieldsTest, CancelTakesTheChoiceForPaiseBackToo)
 {
     Given("DecimalPayment=''");
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("^{PGDN}"));
-        clerk.Press(Q("OptionDiscount"));
-        EXPECT_EQ(Reads(clerk, "OptionDiscount"), Q("1"));
-        clerk.Press(Q("CmdCancel"));
-        EXPECT_EQ(Reads(clerk, "OptionDiscount"), Q("0"));
+        clerk.Type("^{PGDN}");
+        clerk.Press("OptionDiscount");
+        EXPECT_EQ(Reads(clerk, "OptionDiscount"), "1");
+        clerk.Press("CmdCancel");
+        EXPECT_EQ(Reads(clerk, "OptionDiscount"), "0");
     });
 }
 
 TEST_F(AutoSettingsFieldsTest, PressingCancelWithTheMouseLetsAnEmptyFieldGo)
 {
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("{ENTER}{BS}"));
-        clerk.Press(Q("CmdCancel"));
-        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
-        EXPECT_EQ(Reads(clerk, "ComboAutoFat"), Q("naahI"));
+        clerk.Type("{ENTER}{BS}");
+        clerk.Press("CmdCancel");
+        EXPECT_EQ(Focus(clerk), "ComboAutoLiters");
+        EXPECT_EQ(Reads(clerk, "ComboAutoFat"), "naahI");
     });
 }
 
 TEST_F(AutoSettingsFieldsTest, EscAndTheExitButtonCloseWithoutASave)
 {
-    const QStringList before = Rows(Q("select * from AutoSettings"));
+    const QStringList before = Rows("select * from AutoSettings");
     for (const char* way : {"{ESC}", "%b"}) {
         Settings([&](Clerk& clerk) {
-            clerk.Type(Q("1"));
+            clerk.Type("1");
             clerk.Type(Q(way));
             EXPECT_EQ(clerk.ScreenName(), QString()) << way;
         });
-        EXPECT_EQ(Rows(Q("select * from AutoSettings")), before) << way;
+        EXPECT_EQ(Rows("select * from AutoSettings"), before) << way;
     }
-    EXPECT_EQ(gAppState.gAutoLiters, Q("naahI"));
+    EXPECT_EQ(gAppState.gAutoLiters, "naahI");
 }
 
 TEST_F(AutoSettingsFieldsTest, EscAndTheExitButtonLeaveEvenAFieldThatRefuses)
 {
     for (const char* way : {"{ESC}", "%b"}) {
         Settings([&](Clerk& clerk) {
-            clerk.Type(Q("{BS}{ENTER}"));
-            ASSERT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+            clerk.Type("{BS}{ENTER}");
+            ASSERT_EQ(Focus(clerk), "ComboAutoLiters");
             clerk.Type(Q(way));
             EXPECT_EQ(clerk.ScreenName(), QString()) << way;
         });
@@ -318,9 +316,9 @@ TEST_F(AutoSettingsFieldsTest, EscAndTheExitButtonLeaveEvenAFieldThatRefuses)
 TEST_F(AutoSettingsFieldsTest, CancelByItsKeyReadsTheRowAgainFromAFieldThatRefuses)
 {
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("{BS}%r"));
-        EXPECT_EQ(Reads(clerk, "ComboAutoLiters"), Q("naahI"));
-        EXPECT_EQ(Focus(clerk), Q("ComboAutoLiters"));
+        clerk.Type("{BS}%r");
+        EXPECT_EQ(Reads(clerk, "ComboAutoLiters"), "naahI");
+        EXPECT_EQ(Focus(clerk), "ComboAutoLiters");
     });
 }
 
@@ -335,8 +333,8 @@ TEST_F(AutoSettingsFieldsTest, EscClearsTheFieldsBeforeItCloses)
                 EXPECT_EQ(screen.Find(Q(field))->Text(), QString()) << field;
         },
         [](Clerk& clerk) {
-            ASSERT_NE(clerk.Reads(Q("ComboReceipt")), QString());
-            clerk.Type(Q("{ESC}"));
+            ASSERT_NE(clerk.Reads("ComboReceipt"), QString());
+            clerk.Type("{ESC}");
             EXPECT_EQ(clerk.ScreenName(), QString());
         });
 }

@@ -11,8 +11,8 @@ protected:
     // Presses Save from wherever the clerk is.
     static void Save(Clerk& clerk)
     {
-        clerk.Type(Q("%s"));
-        ASSERT_EQ(clerk.Focus(), Q("CmdSave"));
+        clerk.Type("%s");
+        ASSERT_EQ(clerk.Focus(), "CmdSave");
     }
 
     static const char* All() { return "select * from AutoSettings"; }
@@ -24,21 +24,21 @@ TEST_F(AutoSettingsSaveTest, WritesEachColumnAsTheFieldsShowItAndLosesTheOthers)
 {
     Given("BasicCowRate=30,BasicBuffRate=40,CowBonusRate=1,BuffBonusRate=2,FixedKapat=5,"
           "ShowTransportCharges='True'");
-    gAppState.gWeighScale = Q("DILIGENT");
+    gAppState.gWeighScale = "DILIGENT";
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("1{ENTER}1{ENTER}2{ENTER}45{ENTER}46.5{ENTER}3{ENTER} {ENTER}"));
-        clerk.Type(Q("4{ENTER}0.75{ENTER}.8{ENTER}49{ENTER}59.5{ENTER}53{ENTER}"));
+        clerk.Type("1{ENTER}1{ENTER}2{ENTER}45{ENTER}46.5{ENTER}3{ENTER} {ENTER}");
+        clerk.Type("4{ENTER}0.75{ENTER}.8{ENTER}49{ENTER}59.5{ENTER}53{ENTER}");
         GoTo(clerk, "CheckCNP");
-        clerk.Type(Q(" {ENTER} {ENTER}"));
-        clerk.Press(Q("OptionDiscount"));
+        clerk.Type(" {ENTER} {ENTER}");
+        clerk.Press("OptionDiscount");
         GoTo(clerk, "ComboMSRPrintStatus");
-        clerk.Type(Q("3"));
+        clerk.Type("3");
         Save(clerk);
     });
     EXPECT_EQ(Rows(Q(All())),
-        QStringList(Q("1|haoya|haoya|f@t sËIna|saovh va ip`MT|46.500|45.000|Tašp 3|haoya|15 idvasa|"
-                      "Collection|Sales|Discount|0.75|0.8|49.00|59.50|53.00|DILIGENT|f^T nausaar|"
-                      "NULL|NULL|NULL|NULL|NULL|NULL")));
+        QStringList("1|haoya|haoya|f@t sËIna|saovh va ip`MT|46.500|45.000|Tašp 3|haoya|15 idvasa|"
+                    "Collection|Sales|Discount|0.75|0.8|49.00|59.50|53.00|DILIGENT|f^T nausaar|"
+                    "NULL|NULL|NULL|NULL|NULL|NULL"));
 }
 
 TEST_F(AutoSettingsSaveTest, BoxesWithoutATickAndEachOptionHaveTheirWords)
@@ -47,41 +47,39 @@ TEST_F(AutoSettingsSaveTest, BoxesWithoutATickAndEachOptionHaveTheirWords)
         {"OptionPayable", "Payable"}, {"OptionPayIt", "PayIt"}, {"OptionDiscount", "Discount"}};
     for (const auto& [option, word] : options) {
         Settings([&](Clerk& clerk) {
-            clerk.Type(Q("^{PGDN}"));
+            clerk.Type("^{PGDN}");
             clerk.Press(Q(option));
             Save(clerk);
         });
-        EXPECT_EQ(
-            Rows(Q("select RepeatCollection,PurchaseEntry,UchalEntry,DecimalPayment from AutoSettings")),
-            QStringList(Q("naahI|Payment|Uchal|") + Q(word)));
+        EXPECT_EQ(Rows("select RepeatCollection,PurchaseEntry,UchalEntry,DecimalPayment from AutoSettings"),
+            QStringList("naahI|Payment|Uchal|" + Q(word)));
     }
 }
 
 TEST_F(AutoSettingsSaveTest, ThePrintOfTheSalesIsSetAndSavedByKeysAlone)
 {
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("^{PGUP}{ENTER}{ENTER}{ENTER}{DOWN}3{ENTER}"));
-        EXPECT_EQ(Focus(clerk), Q("CmdSave"));
-        clerk.Type(Q("{ENTER}"));
+        clerk.Type("^{PGUP}{ENTER}{ENTER}{ENTER}{DOWN}3{ENTER}");
+        EXPECT_EQ(Focus(clerk), "CmdSave");
+        clerk.Type("{ENTER}");
     });
-    EXPECT_EQ(One(Q("select MSRPrintStatus from AutoSettings")), Q("saovh va ip`MT"));
+    EXPECT_EQ(One("select MSRPrintStatus from AutoSettings"), "saovh va ip`MT");
 }
 
 TEST_F(AutoSettingsSaveTest, TheRowIsDeletedBeforeTheNewOneIsWrittenAndTheTypeOfRateComesLast)
 {
-    gCn.RunScript(Q("create trigger Inserted before insert on AutoSettings "
-                    "begin select raise(abort, 'the row is still there') "
-                    "where exists(select 1 from AutoSettings); end"));
-    gCn.RunScript(Q("create trigger Updated before update on AutoSettings "
-                    "begin select raise(abort, 'the row is not there yet') where old.ReceiptType<>'Tašp 3'; "
-                    "end"));
+    gCn.RunScript("create trigger Inserted before insert on AutoSettings "
+                  "begin select raise(abort, 'the row is still there') "
+                  "where exists(select 1 from AutoSettings); end");
+    gCn.RunScript("create trigger Updated before update on AutoSettings "
+                  "begin select raise(abort, 'the row is not there yet') where old.ReceiptType<>'Tašp 3'; "
+                  "end");
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "ComboReceipt");
-        clerk.Type(Q("3"));
+        clerk.Type("3");
         Save(clerk);
     });
-    EXPECT_EQ(
-        Rows(Q("select ReceiptType,FatRateType from AutoSettings")), QStringList(Q("Tašp 3|f^T nausaar")));
+    EXPECT_EQ(Rows("select ReceiptType,FatRateType from AutoSettings"), QStringList("Tašp 3|f^T nausaar"));
 }
 
 TEST_F(AutoSettingsSaveTest, ASavedRowIsReadBackAsItWas)
@@ -95,44 +93,44 @@ TEST_F(AutoSettingsSaveTest, ASavedRowIsReadBackAsItWas)
 
 TEST_F(AutoSettingsSaveTest, TheStateTakesThreeOfTheFields)
 {
-    gAppState.gWeighScale = Q("ELECTRO");
+    gAppState.gWeighScale = "ELECTRO";
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("1{ENTER}1{ENTER}"));
+        clerk.Type("1{ENTER}1{ENTER}");
         GoTo(clerk, "ComboPaymentDuration");
-        clerk.Type(Q("2"));
-        EXPECT_EQ(gAppState.gAutoLiters, Q("naahI"));
+        clerk.Type("2");
+        EXPECT_EQ(gAppState.gAutoLiters, "naahI");
         Save(clerk);
     });
-    EXPECT_EQ(gAppState.gAutoLiters, Q("haoya"));
-    EXPECT_EQ(gAppState.gAutoFat, Q("haoya"));
-    EXPECT_EQ(gAppState.gPaymentDuration, Q("7 idvasa"));
-    EXPECT_EQ(gAppState.gWeighScale, Q("ELECTRO"));
+    EXPECT_EQ(gAppState.gAutoLiters, "haoya");
+    EXPECT_EQ(gAppState.gAutoFat, "haoya");
+    EXPECT_EQ(gAppState.gPaymentDuration, "7 idvasa");
+    EXPECT_EQ(gAppState.gWeighScale, "ELECTRO");
 }
 
 TEST_F(AutoSettingsSaveTest, TheScaleIsWrittenBackFromTheStateAndNotFromTheRow)
 {
-    gAppState.gWeighScale = Q("MCS");
+    gAppState.gWeighScale = "MCS";
     Given("WeighScale='ACE CORP'");
     Settings([&](Clerk& clerk) { Save(clerk); });
-    EXPECT_EQ(One(Q("select WeighScale from AutoSettings")), Q("MCS"));
+    EXPECT_EQ(One("select WeighScale from AutoSettings"), "MCS");
 }
 
 TEST_F(AutoSettingsSaveTest, WithAnEmptyRequiredFieldTheRowGoesUntilALaterSave)
 {
-    const QStringList required = {Q("ComboAutoFat"), Q("ComboAutoLiters"), Q("ComboPrintStatus"),
-        Q("ComboReceipt"), Q("ComboPaymentDuration"), Q("txtCow"), Q("txtBuff")};
+    const QStringList required = {"ComboAutoFat", "ComboAutoLiters", "ComboPrintStatus", "ComboReceipt",
+        "ComboPaymentDuration", "txtCow", "txtBuff"};
     for (const QString& field : required) {
         Settings([&](Clerk& clerk) {
             const QByteArray name = field.toLatin1();
             const QByteArray text = clerk.Reads(field).toUtf8();
             GoTo(clerk, "CmdSave");
             Put(clerk, name, "");
-            clerk.Type(Q("{ENTER}"));
+            clerk.Type("{ENTER}");
             EXPECT_FALSE(HasRow()) << name.data();
-            EXPECT_EQ(clerk.ScreenName(), Q("frmAutoSettings")) << "there is no message";
+            EXPECT_EQ(clerk.ScreenName(), "frmAutoSettings") << "there is no message";
             EXPECT_EQ(TheBox.Shown, QStringList());
             Put(clerk, name, text);
-            clerk.Type(Q("{ENTER}"));
+            clerk.Type("{ENTER}");
             EXPECT_TRUE(HasRow()) << name.data();
         });
     }
@@ -145,22 +143,22 @@ TEST_F(AutoSettingsSaveTest, TheOtherFieldsMayBeEmpty)
         for (const char* field : {"txtCowLimit", "txtBuffLimit", "cmbFatRateType", "txtCowSaleRate",
                  "txtBuffSaleRate", "txtMixSaleRate", "ComboMSRPrintStatus"})
             Put(clerk, field, "");
-        clerk.Type(Q("{ENTER}"));
+        clerk.Type("{ENTER}");
     });
-    EXPECT_EQ(Rows(Q("select CanLimitCow,CanLimitBuff,FatRateType,SalesRateCow,SalesRateBuff,SalesRateMix,"
-                     "MSRPrintStatus from AutoSettings")),
-        QStringList(Q("||||||")));
+    EXPECT_EQ(Rows("select CanLimitCow,CanLimitBuff,FatRateType,SalesRateCow,SalesRateBuff,SalesRateMix,"
+                   "MSRPrintStatus from AutoSettings"),
+        QStringList("||||||"));
 }
 
 TEST_F(AutoSettingsSaveTest, ARowWithoutALayoutIsGoneAfterASaveAndTheNextStartFindsNone)
 {
     Given("ReceiptType=''");
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("1"));
+        clerk.Type("1");
         Save(clerk);
     });
     EXPECT_FALSE(HasRow());
-    EXPECT_EQ(gAppState.gAutoLiters, Q("naahI")) << "a refused save changes nothing else";
+    EXPECT_EQ(gAppState.gAutoLiters, "naahI") << "a refused save changes nothing else";
     gCn.Close();
     ASSERT_TRUE(LoadAppState());
     EXPECT_EQ(gAppState.gPaymentDuration, QString());
@@ -171,44 +169,44 @@ TEST_F(AutoSettingsSaveTest, FilledAnewTheScreenWritesTheRowOfASocietyThatHasNon
 {
     WithoutARow();
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("2{ENTER}2{ENTER}{ENTER}40{ENTER}40{ENTER}1{ENTER}{ENTER}"));
-        clerk.Type(Q("3{ENTER}.5{ENTER}.5{ENTER}48{ENTER}58{ENTER}52{ENTER}{ENTER}"));
+        clerk.Type("2{ENTER}2{ENTER}{ENTER}40{ENTER}40{ENTER}1{ENTER}{ENTER}");
+        clerk.Type("3{ENTER}.5{ENTER}.5{ENTER}48{ENTER}58{ENTER}52{ENTER}{ENTER}");
     });
-    EXPECT_EQ(Rows(Q("select PrintStatus,ReceiptType,PaymentDuration,ThevKapatCow,SalesRateMix,FatRateType "
-                     "from AutoSettings")),
-        QStringList(Q("haoya|Tašp 1|10 idvasa|0.5|52.00|")));
+    EXPECT_EQ(Rows("select PrintStatus,ReceiptType,PaymentDuration,ThevKapatCow,SalesRateMix,FatRateType "
+                   "from AutoSettings"),
+        QStringList("haoya|Tašp 1|10 idvasa|0.5|52.00|"));
 }
 
 TEST_F(AutoSettingsSaveTest, TheTypeOfRateIsWrittenForEveryCompany)
 {
-    Run(Q("insert into AutoSettings(CompanyId,AutoFat,FatRateType,FixedKapat) values(2,'haoya','',7)"));
+    Run("insert into AutoSettings(CompanyId,AutoFat,FatRateType,FixedKapat) values(2,'haoya','',7)");
     Settings([&](Clerk& clerk) { Save(clerk); });
-    EXPECT_EQ(Rows(Q("select CompanyId,AutoFat,FatRateType,FixedKapat from AutoSettings order by CompanyId")),
-        QStringList({Q("1|naahI|f^T nausaar|NULL"), Q("2|haoya|f^T nausaar|7")}));
+    EXPECT_EQ(Rows("select CompanyId,AutoFat,FatRateType,FixedKapat from AutoSettings order by CompanyId"),
+        QStringList({"1|naahI|f^T nausaar|NULL", "2|haoya|f^T nausaar|7"}));
 }
 
 TEST_F(AutoSettingsSaveTest, RateByFatAndSnfCannotBeSaved)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "cmbFatRateType");
-        clerk.Press(Q("cmbFatRateType"));
+        clerk.Press("cmbFatRateType");
         PickFromList(clerk, 1);
         Save(clerk);
     });
-    EXPECT_EQ(TheBox.Shown, QStringList(Q("This Facility is available in the next version.")));
-    EXPECT_EQ(One(Q("select FatRateType from AutoSettings")), Q("f^T nausaar"));
+    EXPECT_EQ(TheBox.Shown, QStringList("This Facility is available in the next version."));
+    EXPECT_EQ(One("select FatRateType from AutoSettings"), "f^T nausaar");
 }
 
 TEST_F(AutoSettingsSaveTest, ASaveThatBreaksOffLeavesTheRowAsItWas)
 {
     const QStringList before = Rows(Q(All()));
-    gAppState.gWeighScale = Q("ACE'CORP");
-    On<frmAutoSettings>([&](Clerk& clerk) { clerk.Type(Q("1%s")); });
+    gAppState.gWeighScale = "ACE'CORP";
+    On<frmAutoSettings>([&](Clerk& clerk) { clerk.Type("1%s"); });
     ASSERT_TRUE(Failure);
     EXPECT_TRUE(Failure->Statement().startsWith(u"insert into AutoSettings("))
         << Failure->Statement().toStdString();
     EXPECT_EQ(Rows(Q(All())), before);
-    EXPECT_EQ(gAppState.gAutoLiters, Q("naahI"));
+    EXPECT_EQ(gAppState.gAutoLiters, "naahI");
 }
 
 TEST_F(AutoSettingsSaveTest, TheTransportEntryOfTheMenuDisappears)
@@ -216,7 +214,7 @@ TEST_F(AutoSettingsSaveTest, TheTransportEntryOfTheMenuDisappears)
     const auto entries = [this] {
         qsizetype count = 0;
         On<MainMenuFrm>([&](Clerk& clerk) {
-            clerk.Type(Q("{ENTER}{ENTER}"));
+            clerk.Type("{ENTER}{ENTER}");
             count = qsizetype(dynamic_cast<MenuList&>(*clerk.Top().Find(u"ListSVouchers")).Entries().size());
         });
         return count;

@@ -16,12 +16,12 @@ void AutoSettingsTest::Settings(const std::function<void(Clerk&)>& script)
 
 void AutoSettingsTest::Given(const char* columns)
 {
-    Run(Q("update AutoSettings set ") + Q(columns));
+    Run("update AutoSettings set " + Q(columns));
 }
 
 void AutoSettingsTest::WithoutARow()
 {
-    Run(Q("delete * from AutoSettings"));
+    Run("delete * from AutoSettings");
 }
 
 void AutoSettingsTest::GoTo(Clerk& clerk, const char* control)

@@ -11,7 +11,7 @@ protected:
 
     // A save loses this column.
     void MarkTheRow() { Given("ShowTransportCharges='True'"); }
-    bool IsSaved() { return One(Q("select ShowTransportCharges from AutoSettings")) != u"True"; }
+    bool IsSaved() { return One("select ShowTransportCharges from AutoSettings") != u"True"; }
 };
 
 }
@@ -27,8 +27,8 @@ TEST_F(AutoSettingsWaysOutTest, SaveIsPressedFromEachFieldByItsKeyAndByTheMouse)
                 MarkTheRow();
                 GoTo(clerk, field);
                 const QString page = Page(clerk);
-                byMouse ? clerk.Press(Q("CmdSave")) : clerk.Type(Q("%s"));
-                EXPECT_EQ(Focus(clerk), Q("CmdSave")) << field << byMouse;
+                byMouse ? clerk.Press("CmdSave") : clerk.Type("%s");
+                EXPECT_EQ(Focus(clerk), "CmdSave") << field << byMouse;
                 EXPECT_EQ(Page(clerk), page) << field << byMouse;
                 EXPECT_TRUE(IsSaved()) << field << byMouse;
             }
@@ -40,15 +40,15 @@ TEST_F(AutoSettingsWaysOutTest, WhatStandsInTheFieldIsFormattedAndSaved)
 {
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "CheckRepeatCol");
-        clerk.Type(Q(" %s"));
+        clerk.Type(" %s");
         GoTo(clerk, "txtBuff");
-        clerk.Type(Q("0.755%s"));
+        clerk.Type("0.755%s");
         GoTo(clerk, "txtMixSaleRate");
-        clerk.Type(Q("53.5"));
-        clerk.Press(Q("CmdSave"));
+        clerk.Type("53.5");
+        clerk.Press("CmdSave");
     });
-    EXPECT_EQ(Rows(Q("select RepeatCollection,ThevKapatBuff,SalesRateMix from AutoSettings")),
-        QStringList(Q("haoya|0.76|53.50")));
+    EXPECT_EQ(Rows("select RepeatCollection,ThevKapatBuff,SalesRateMix from AutoSettings"),
+        QStringList("haoya|0.76|53.50"));
 }
 
 TEST_F(AutoSettingsWaysOutTest, AFigureThatIsRefusedIsNotSaved)
@@ -57,11 +57,11 @@ TEST_F(AutoSettingsWaysOutTest, AFigureThatIsRefusedIsNotSaved)
     Settings([&](Clerk& clerk) {
         for (const char* field : {"txtBuff", "txtMixSaleRate"}) {
             GoTo(clerk, field);
-            clerk.Type(Q("0%s"));
+            clerk.Type("0%s");
             EXPECT_EQ(Focus(clerk), Q(field));
-            clerk.Press(Q("CmdSave"));
+            clerk.Press("CmdSave");
             EXPECT_EQ(Focus(clerk), Q(field));
-            clerk.Type(Q("1"));
+            clerk.Type("1");
         }
     });
     EXPECT_FALSE(IsSaved());
@@ -73,7 +73,7 @@ TEST_F(AutoSettingsWaysOutTest, ExitIsPressedFromTheLeadingFieldsByItsKeyAndByTh
         for (bool byMouse : {false, true}) {
             Settings([&](Clerk& clerk) {
                 GoTo(clerk, field);
-                byMouse ? clerk.Press(Q("CmdExit")) : clerk.Type(Q("%b"));
+                byMouse ? clerk.Press("CmdExit") : clerk.Type("%b");
                 EXPECT_EQ(clerk.ScreenName(), QString()) << field << byMouse;
             });
         }
@@ -113,8 +113,8 @@ TEST_F(AutoSettingsWaysOutTest, AFieldThatIsPressedIsEnteredAndItsPageStays)
 TEST_F(AutoSettingsWaysOutTest, ShiftTabLeadsFromTheFirstFieldToTheSampleWhoseGuideSaysSo)
 {
     Settings([&](Clerk& clerk) {
-        clerk.Type(Q("+{TAB}"));
-        EXPECT_EQ(Focus(clerk), Q("cmdReceipt"));
-        EXPECT_EQ(Guide(clerk), Q("Enter : नमुना पावती"));
+        clerk.Type("+{TAB}");
+        EXPECT_EQ(Focus(clerk), "cmdReceipt");
+        EXPECT_EQ(Guide(clerk), "Enter : नमुना पावती");
     });
 }

@@ -25,7 +25,7 @@ protected:
 
     void AddTemplate(const QString& name)
     {
-        QFile file(FolderFile(name + QStringLiteral(".rpt")));
+        QFile file(FolderFile(name + ".rpt"));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(QStringLiteral(
             "<report name=\"%1\" paper=\"A4\">\n<source name=\"r\" table=\"MilkReceipt\"/>\n"
@@ -38,7 +38,7 @@ protected:
     static void PrintSample(Clerk& clerk)
     {
         GoTo(clerk, "cmdReceipt");
-        clerk.Type(Q("{ENTER}"));
+        clerk.Type("{ENTER}");
     }
 
     FakeReportWindow Window;
@@ -58,9 +58,9 @@ TEST_F(SampleReceiptTest, EachLayoutHasItsTemplate)
     Settings([&](Clerk& clerk) {
         for (int layout = 0; layout < 8; ++layout) {
             GoTo(clerk, "ComboReceipt");
-            clerk.Press(Q("ComboReceipt"));
+            clerk.Press("ComboReceipt");
             PickFromList(clerk, layout);
-            clerk.Press(Q("cmdReceipt"));
+            clerk.Press("cmdReceipt");
             EXPECT_EQ(Window.Titles(), QStringList(Q(Samples[layout]))) << "layout " << layout + 1;
             Window.Shown.clear();
         }
@@ -69,43 +69,43 @@ TEST_F(SampleReceiptTest, EachLayoutHasItsTemplate)
 
 TEST_F(SampleReceiptTest, StagesTheRowOfTheSampleBillInPlaceOfTheLastSlip)
 {
-    AddTemplate(Q("MilkReceipt1"));
-    Run(Q("insert into MilkReceipt(CompanyId,MemberNo,MemberName) values(1,77,'rama')"));
-    const QString columns = Q("CollectionTime,CollectionNo,MemberNo,MemberName,Animal,Liters,Fat,Rate,Amount,"
-                              "ActualCollectionTime");
+    AddTemplate("MilkReceipt1");
+    Run("insert into MilkReceipt(CompanyId,MemberNo,MemberName) values(1,77,'rama')");
+    const QString columns = "CollectionTime,CollectionNo,MemberNo,MemberName,Animal,Liters,Fat,Rate,Amount,"
+                            "ActualCollectionTime";
     Settings([&](Clerk& clerk) {
         PrintSample(clerk);
         EXPECT_EQ(Rows(Sql(u"select ", columns, u" from MilkReceipt")),
             Rows(Sql(u"select ", columns, u" from MRView")));
-        EXPECT_EQ(Rows(Q("select count(*),min(CompanyId) from MilkReceipt")), QStringList(Q("1|1")));
+        EXPECT_EQ(Rows("select count(*),min(CompanyId) from MilkReceipt"), QStringList("1|1"));
         PrintSample(clerk);
-        EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("1")) << "a second sample takes its place";
+        EXPECT_EQ(One("select count(*) from MilkReceipt"), "1") << "a second sample takes its place";
     });
     EXPECT_EQ(Window.Shown.size(), 2U);
 }
 
 TEST_F(SampleReceiptTest, TheRowsTakeTheCompanyOfTheScreen)
 {
-    AddTemplate(Q("MilkReceipt1"));
+    AddTemplate("MilkReceipt1");
     gAppState.gCompanyId = 4;
     Given("CompanyId=4");
     Settings([&](Clerk& clerk) { PrintSample(clerk); });
-    EXPECT_EQ(Rows(Q("select CompanyId from MilkReceipt")), QStringList(Q("4")));
+    EXPECT_EQ(Rows("select CompanyId from MilkReceipt"), QStringList("4"));
 }
 
 TEST_F(SampleReceiptTest, WithoutACompanyTheSampleIsTidiedAwayBeforeItIsShown)
 {
-    AddTemplate(Q("MilkReceipt1"));
+    AddTemplate("MilkReceipt1");
     gAppState.gCompanyId = 0;
     Given("CompanyId=0");
     Settings([&](Clerk& clerk) { PrintSample(clerk); });
     EXPECT_EQ(Window.Shown.size(), 1U);
-    EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("0"));
+    EXPECT_EQ(One("select count(*) from MilkReceipt"), "0");
 }
 
 TEST_F(SampleReceiptTest, TheReportReadsWhatIsStaged)
 {
-    AddTemplate(Q("MilkReceipt1"));
+    AddTemplate("MilkReceipt1");
     Settings([&](Clerk& clerk) { PrintSample(clerk); });
     ASSERT_EQ(Window.Shown.size(), 1U);
     Report& report = *Window.Shown.front();
@@ -113,31 +113,31 @@ TEST_F(SampleReceiptTest, TheReportReadsWhatIsStaged)
     QStringList texts;
     for (const PlacedItem& item : report.PageAt(0).items)
         texts.append(item.text);
-    EXPECT_TRUE(texts.contains(One(Q("select MemberNo from MRView")))) << texts.join(u'|').toStdString();
+    EXPECT_TRUE(texts.contains(One("select MemberNo from MRView"))) << texts.join(u'|').toStdString();
 }
 
 TEST_F(SampleReceiptTest, IsMadeFromTheFieldAndSavesNothing)
 {
-    AddTemplate(Q("MilkReceiptBhl"));
-    const QStringList before = Rows(Q("select * from AutoSettings"));
+    AddTemplate("MilkReceiptBhl");
+    const QStringList before = Rows("select * from AutoSettings");
     Settings([&](Clerk& clerk) {
         GoTo(clerk, "ComboReceipt");
-        clerk.Type(Q("3"));
-        clerk.Press(Q("cmdReceipt"));
+        clerk.Type("3");
+        clerk.Press("cmdReceipt");
     });
-    EXPECT_EQ(Window.Titles(), QStringList(Q("MilkReceiptBhl")));
-    EXPECT_EQ(Rows(Q("select * from AutoSettings")), before);
+    EXPECT_EQ(Window.Titles(), QStringList("MilkReceiptBhl"));
+    EXPECT_EQ(Rows("select * from AutoSettings"), before);
 }
 
 TEST_F(SampleReceiptTest, WithoutALayoutTheTemplateBeforeIsTakenAgain)
 {
-    AddTemplate(Q("MilkReceipt1"));
+    AddTemplate("MilkReceipt1");
     Settings([&](Clerk& clerk) {
         PrintSample(clerk);
         Put(clerk, "ComboReceipt", "");
-        clerk.Type(Q("{ENTER}"));
+        clerk.Type("{ENTER}");
     });
-    EXPECT_EQ(Window.Titles(), QStringList({Q("MilkReceipt1"), Q("MilkReceipt1")}));
+    EXPECT_EQ(Window.Titles(), QStringList({"MilkReceipt1", "MilkReceipt1"}));
 }
 
 TEST_F(SampleReceiptTest, BeforeALayoutWasEverChosenTheClerkIsTold)
@@ -145,19 +145,19 @@ TEST_F(SampleReceiptTest, BeforeALayoutWasEverChosenTheClerkIsTold)
     Given("ReceiptType=''");
     Settings([&](Clerk& clerk) {
         PrintSample(clerk);
-        EXPECT_EQ(TheBox.Shown, QStringList(Q("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही.")));
-        EXPECT_EQ(clerk.ScreenName(), Q("frmAutoSettings"));
+        EXPECT_EQ(TheBox.Shown, QStringList("निवडलेल्या पावती प्रकाराचा नमुना येथे नाही."));
+        EXPECT_EQ(clerk.ScreenName(), "frmAutoSettings");
     });
     EXPECT_EQ(Window.Titles(), QStringList());
-    EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("1"));
+    EXPECT_EQ(One("select count(*) from MilkReceipt"), "1");
 }
 
 TEST_F(SampleReceiptTest, AMissingTemplateEndsTheProgramWithTheRowStaged)
 {
-    QFile::remove(FolderFile(Q("MilkReceipt1.rpt")));
+    QFile::remove(FolderFile("MilkReceipt1.rpt"));
     On<frmAutoSettings>([&](Clerk& clerk) { PrintSample(clerk); });
     ASSERT_TRUE(Failure);
     EXPECT_EQ(Failure->Number(), int(RunTimeError::FileNotFound));
-    EXPECT_EQ(One(Q("select count(*) from MilkReceipt")), Q("1"));
+    EXPECT_EQ(One("select count(*) from MilkReceipt"), "1");
     EXPECT_EQ(Window.Titles(), QStringList());
 }

@@ -14,7 +14,7 @@ class AmountInWordsTest : public SocietyTest {
 protected:
     AmountInWordsTest()
     {
-        for (const QString& row : Rows(QStringLiteral("select no1,word1 from rswords")))
+        for (const QString& row : Rows("select no1,word1 from rswords"))
             m_words.insert(row.section(u'|', 0, 0).toInt(), row.section(u'|', 1));
     }
 
@@ -68,27 +68,26 @@ TEST_F(AmountInWordsTest, TheTableHasAWordForEachNumberFromOneToNinetyNine)
         different.insert(Word(number));
     }
     EXPECT_EQ(different.size(), 99U);
-    EXPECT_EQ(One(QStringLiteral("select count(*) from rswords")), QStringLiteral("99"));
+    EXPECT_EQ(One("select count(*) from rswords"), "99");
 }
 
 TEST_F(AmountInWordsTest, SevenIsTheWordForSevenAndRupees)
 {
     EXPECT_EQ(In("7"), (Word(7) + " $pyao  "));
-    EXPECT_EQ(Seen(AmountInWords(QStringLiteral("7"))), QStringLiteral("सात रुपये  "));
+    EXPECT_EQ(Seen(AmountInWords("7")), "सात रुपये  ");
 }
 
 TEST_F(AmountInWordsTest, TwoHundredAndFiftyIsTwoHundredsAndFifty)
 {
     EXPECT_EQ(In("250.00"), (Word(2) + "Sao " + Word(50) + " $pyao  "));
-    EXPECT_EQ(Seen(AmountInWords(QStringLiteral("250.00"))), QStringLiteral("दोनशे पन्नास रुपये  "));
+    EXPECT_EQ(Seen(AmountInWords("250.00")), "दोनशे पन्नास रुपये  ");
 }
 
 TEST_F(AmountInWordsTest, OneThousandTwoHundredAndFiftyAndAHalfHasItsPaise)
 {
     EXPECT_EQ(In("1250.50"),
         (Word(1) + " hjaar " + Word(2) + "Sao " + Word(50) + " $pyao  " + Word(50) + " pOsao"));
-    EXPECT_EQ(
-        Seen(AmountInWords(QStringLiteral("1250.50"))), QStringLiteral("एक हजार दोनशे पन्नास रुपये  पन्नास पैसे"));
+    EXPECT_EQ(Seen(AmountInWords("1250.50")), "एक हजार दोनशे पन्नास रुपये  पन्नास पैसे");
 }
 
 TEST_F(AmountInWordsTest, OneLakhTwentyThreeThousandHasTheOtherSpellingOfThousand)
@@ -153,7 +152,7 @@ TEST_F(AmountInWordsTest, PaiseAreTheLastTwoCharactersOfTheAmountWithTwoDecimals
 
 TEST_F(AmountInWordsTest, ANumberWithoutARowAddsNothing)
 {
-    Run(QStringLiteral("delete * from rswords where no1=23 or no1=50"));
+    Run("delete * from rswords where no1=23 or no1=50");
     EXPECT_EQ(In("23"), " $pyao  ");
     EXPECT_EQ(In("123456"), (Word(1) + " laaK " + Word(4) + "Sao " + Word(56) + " $pyao  "));
     EXPECT_EQ(In("7.50"), (Word(7) + " $pyao  "));
@@ -180,7 +179,7 @@ TEST_F(AmountInWordsTest, TenThousandAmountsReadAsTheyAreSaidAnotherWay)
     for (int drawn = 0; drawn < 10000; ++drawn) {
         std::uniform_int_distribution<int> one(1, below[drawn % 5] - 1);
         const int rupees = one(dice);
-        ASSERT_EQ(RupeeWords(QString::number(rupees) + QStringLiteral(".00")), Said(rupees)) << rupees;
+        ASSERT_EQ(RupeeWords(QString::number(rupees) + ".00"), Said(rupees)) << rupees;
     }
 }
 

@@ -95,7 +95,7 @@ TEST_F(KeySheetTest, OfTheMenusKeysTheOneThatDoesNothingIsNotLit)
 
 TEST_F(KeySheetTest, TheMenuAnswersTheFunctionKeysOfItsStripAndNoOthersAndF9DoesNothing)
 {
-    const QString menu = QStringLiteral("MainMenuFrm");
+    const QString menu = "MainMenuFrm";
     QStringList expected = Listed(menu);
     ASSERT_EQ(expected.removeAll("F9"), 1);
     EXPECT_EQ(Answered(

@@ -8,8 +8,8 @@ namespace {
 
 using KeyboardTutorTest = SocietyTest;
 
-const QString English = QStringLiteral("txtEnglish");
-const QString Marathi = QStringLiteral("txtMarathi");
+const QString English = "txtEnglish";
+const QString Marathi = "txtMarathi";
 
 // The picture of the keyboard as it is seen; none if it isn't.
 QImage KeyboardPicture(Clerk& clerk)

@@ -26,11 +26,11 @@ private:
     {
         using S = frmKeys;
         const Caption any = Plain(u"something");
-        return {{QStringLiteral("F3"), any, &S::TellOn}, {QStringLiteral("Shift+F3"), any, &S::TellBack},
-            {QStringLiteral("Ctrl+PgDn"), any, &S::TellPage}, {QStringLiteral("Ctrl+S"), any, &S::TellSave},
-            {QStringLiteral("↑ ↓ ← →"), any, {&S::TellUp, &S::TellDown, &S::TellLeft, &S::TellRight}},
-            {QStringLiteral("+"), any, &S::TellLarger}, {QStringLiteral("−"), any, &S::TellSmaller},
-            {QStringLiteral("Enter"), any, &S::TellEnter}, {QStringLiteral("Esc"), any}};
+        return {{"F3", any, &S::TellOn}, {"Shift+F3", any, &S::TellBack}, {"Ctrl+PgDn", any, &S::TellPage},
+            {"Ctrl+S", any, &S::TellSave},
+            {"↑ ↓ ← →", any, {&S::TellUp, &S::TellDown, &S::TellLeft, &S::TellRight}},
+            {"+", any, &S::TellLarger}, {"−", any, &S::TellSmaller}, {"Enter", any, &S::TellEnter},
+            {"Esc", any}};
     }
 
     void TellOn() { m_told = "on"; }
@@ -103,5 +103,5 @@ TEST_F(KeysTest, EveryKeyOfThePreviewIsAnsweredWhereItIsDeclaredButEscWhichTheSc
         for (const KeyHint& hint : place.keys)
             if (hint.pressed.AreNone())
                 told.append(hint.key);
-    EXPECT_EQ(told, QStringList(QStringLiteral("Esc")));
+    EXPECT_EQ(told, QStringList("Esc"));
 }

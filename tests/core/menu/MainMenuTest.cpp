@@ -100,7 +100,7 @@ TEST_F(MainMenuTest, WithEverythingClosedOnlyTheYearlyListOpens)
 TEST_F(MainMenuTest, AnAdministratorIsGrantedAccessToAClosedList)
 {
     gAppState.gAccessUtilities = 0;
-    gAppState.gAdminLoggedIn = QStringLiteral("YES");
+    gAppState.gAdminLoggedIn = "YES";
     Menu([&](Clerk& clerk) {
         ChooseMain(clerk, 4);
         EXPECT_EQ(TheBox.Shown, QStringList("Access Granted"));

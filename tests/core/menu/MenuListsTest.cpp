@@ -16,8 +16,8 @@ struct Entry {
 
 using Table = std::vector<Entry>;
 
-const QString Registers = QStringLiteral("frmReportMilkPaymentsRegister");
-const QString PurchaseSales = QStringLiteral("frmReportPurchaseSales");
+const QString Registers = "frmReportMilkPaymentsRegister";
+const QString PurchaseSales = "frmReportPurchaseSales";
 const Entry Back{"baahor"};
 
 const Table Master = {
@@ -73,8 +73,8 @@ const Table Utilities = {
 
 const Table* const Tables[] = {&Master, &SVouchers, &MReports, &YearlyReport, &Utilities};
 
-const QString OwnTitle = QStringLiteral("its own title");
-const QString NoMode = QStringLiteral("as it was");
+const QString OwnTitle = "its own title";
+const QString NoMode = "as it was";
 
 // A screen that stands in for one of the rooms above the menu. It notes what it finds on opening.
 class StandIn final : public Screen {
@@ -112,9 +112,8 @@ protected:
     {
         Found.clear();
         gAppState.gReportMode = NoMode;
-        gAppState.gCallerTag = QStringLiteral("MC");
-        clerk.Type(
-            QStringLiteral("{HOME}") + QStringLiteral("{DOWN}").repeated(index) + QStringLiteral("{ENTER}"));
+        gAppState.gCallerTag = "MC";
+        clerk.Type("{HOME}" + QStringLiteral("{DOWN}").repeated(index) + "{ENTER}");
         if (!Found.isEmpty())
             Type(clerk, "{ESC}");
     }

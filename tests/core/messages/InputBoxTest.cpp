@@ -18,7 +18,7 @@ protected:
     // What the prompt answers when the script has played on it.
     QString Answer(const std::function<void(Clerk&)>& script, const QString& title = {})
     {
-        QString answer = QStringLiteral("none");
+        QString answer = "none";
         Failure = TheClerk.Play(
             [&] { answer = World::Current().inputBox->Ask("Enter Folder Name", "Backup", title); }, script);
         return answer;

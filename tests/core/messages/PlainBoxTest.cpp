@@ -42,7 +42,7 @@ protected:
 
 TEST_F(PlainBoxTest, ShowsTheTextAsItStandsAboveOneButton)
 {
-    const QString text = QStringLiteral("a < b & <b>c</b> R&D\nsecond line");
+    const QString text = "a < b & <b>c</b> R&D\nsecond line";
     Tell(text, [&](Clerk& clerk) {
         EXPECT_EQ(OnTop(clerk), "frmPlainBox");
         EXPECT_EQ(LabelOf(clerk, "lblText"), text);
@@ -131,9 +131,8 @@ TEST_F(PlainBoxTest, AFewWordsStandLarge)
 
 TEST_F(PlainBoxTest, AnErrorWithALongStatementIsReadWholeInASmallWindow)
 {
-    const QString error =
-        QStringLiteral("हिशेबाच्या वहीत लिहिता आले नाही. डिस्क भरली आहे. जागा करा आणि पुन्हा सुरू करा. "
-                       "शेवटची नोंद राहिली का ते पाहा.\nRun-time error '3050'\n")
+    const QString error = "हिशेबाच्या वहीत लिहिता आले नाही. डिस्क भरली आहे. जागा करा आणि पुन्हा सुरू करा. "
+                          "शेवटची नोंद राहिली का ते पाहा.\nRun-time error '3050'\n"
         + QStringLiteral("insert into MilkCollections(CompanyId) values(1) ").repeated(10);
     for (const QSize window : {QSize(1024, 600), QSize(1366, 768), QSize(3840, 2160)})
         Tell(error, [&](Clerk& clerk) {

@@ -128,7 +128,7 @@ TEST_F(ProgressTest, ForNoRowsThereIsNothingToShow)
 
 TEST_F(ProgressTest, WhatIsTypedWhileItFillsIsTypedAfterwards)
 {
-    QString during = QStringLiteral("none");
+    QString during = "none";
     Walk(
         4, [](WalkingScreen& screen) { EXPECT_EQ(screen.txtNote.Text(), "12"); },
         [&](WalkingScreen& screen, int row) {

@@ -97,7 +97,7 @@ void ReportPreviewTest::SaveAs(Clerk& clerk, const QString& key, const QString& 
 {
     clerk.Type(key);
     ASSERT_EQ(OnTop(clerk), "frmReportFile");
-    clerk.Type(name + QStringLiteral("{ENTER}") + m_folder.path() + QStringLiteral("{ENTER}"));
+    clerk.Type(name + "{ENTER}" + m_folder.path() + "{ENTER}");
     ASSERT_EQ(Focus(clerk), "cmdSave");
     Type(clerk, "{ENTER}");
 }

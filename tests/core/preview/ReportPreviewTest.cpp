@@ -63,7 +63,7 @@ protected:
     {
         Type(clerk, "^f");
         EXPECT_EQ(Focus(clerk), "txtSearch");
-        clerk.Type(Shivaji01::FromUnicode(words) + QStringLiteral("{ENTER}"));
+        clerk.Type(Shivaji01::FromUnicode(words) + "{ENTER}");
     }
 };
 
@@ -331,7 +331,7 @@ TEST_F(PreviewTest, BlanksAroundTheTypedWordsAreNoPartOfThem)
     AddFivePages();
     Show([](Clerk& clerk) {
         WaitForLastPage(clerk);
-        clerk.Type(QStringLiteral("^f ") + Shivaji01::FromUnicode(u"पाटील") + QStringLiteral(" {ENTER}"));
+        clerk.Type("^f " + Shivaji01::FromUnicode(u"पाटील") + " {ENTER}");
         EXPECT_EQ(State(clerk), "सापडले: 1 / 2");
     });
 }
@@ -343,7 +343,7 @@ TEST_F(PreviewTest, ASearchBehindWhatIsLaidOutWaitsForTheRest)
     });
     WriteTableTemplate();
     Show([](Clerk& clerk) {
-        TypeAtOnce(clerk, QStringLiteral("^f") + Shivaji01::FromUnicode(u"कमल") + u"{ENTER}");
+        TypeAtOnce(clerk, "^f" + Shivaji01::FromUnicode(u"कमल") + u"{ENTER}");
         EXPECT_EQ(State(clerk), "शोधत आहे …");
         EXPECT_EQ(Pages(clerk), "1 / …");
         WaitForLastPage(clerk);

@@ -6,7 +6,7 @@
 
 namespace {
 
-const QString Refusal = QStringLiteral("प्रिंटरने काम घेतले नाही.");
+const QString Refusal = "प्रिंटरने काम घेतले नाही.";
 
 class ReportPrintingTest : public ReportPreviewTest {
 protected:
@@ -145,7 +145,7 @@ TEST_F(ReportPrintingTest, AMissingTemplateIsNamedInTheBoxThatEndsTheProgram)
 TEST_F(ReportPrintingTest, AFormulaThatCantBeReadIsShownInTheBoxThatEndsTheProgram)
 {
     ReportControl control = Control();
-    const QString formula = QStringLiteral("{MilkCollectionsTemp.CollectionNo} near 5");
+    const QString formula = "{MilkCollectionsTemp.CollectionNo} near 5";
     control.SetSelectionFormula(formula);
     EXPECT_TRUE(EndOfProgram(control).contains(formula));
 }

@@ -33,8 +33,8 @@ private:
     void (*m_handler)(int);
 };
 
-const QString PdfKey = QStringLiteral("^s");
-const QString CsvKey = QStringLiteral("^e");
+const QString PdfKey = "^s";
+const QString CsvKey = "^e";
 
 class ReportSavingTest : public ReportPreviewTest {
 protected:
@@ -73,7 +73,7 @@ TEST_F(ReportSavingTest, ThePdfReadsAsTheScreenDoes)
     Show([this](Clerk& clerk) {
         SaveAs(clerk, PdfKey, "april.pdf");
         EXPECT_EQ(OnTop(clerk), "frmReportPreview");
-        EXPECT_EQ(State(clerk), QStringLiteral("जतन केले: ") + Saved("april.pdf"));
+        EXPECT_EQ(State(clerk), "जतन केले: " + Saved("april.pdf"));
     });
     const QString text = PdfText(Saved("april.pdf"), {"-layout"});
     for (const char* piece : {"श्री गणेश दूध संस्था", "क्षमा द्विवेदी", "कमल, पाटील", "पान 1 / 1", "3.00"})
@@ -99,7 +99,7 @@ TEST_F(ReportSavingTest, TheReportsNameAndTheDayAreProposedInTheClerksDocuments)
         EXPECT_EQ(Reads(clerk, "txtFile"), "Deliveries 15-04-2026.pdf");
         const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
         EXPECT_EQ(clerk.Reads("txtFolder"), QDir(documents).exists() ? documents : QDir::homePath());
-        clerk.Type(QStringLiteral("{ESC}") + CsvKey);
+        clerk.Type("{ESC}" + CsvKey);
         EXPECT_EQ(Reads(clerk, "txtFile"), "Deliveries 15-04-2026.csv");
     });
 }
@@ -141,10 +141,9 @@ TEST_F(ReportSavingTest, ANameWithoutItsEndingGetsIt)
 TEST_F(ReportSavingTest, EscAndTheExitButtonSaveNothing)
 {
     Show([this](Clerk& clerk) {
-        clerk.Type(PdfKey + QStringLiteral("april{ENTER}") + m_folder.path() + QStringLiteral("{ESC}"));
+        clerk.Type(PdfKey + "april{ENTER}" + m_folder.path() + "{ESC}");
         EXPECT_EQ(OnTop(clerk), "frmReportPreview");
-        clerk.Type(
-            PdfKey + QStringLiteral("april{ENTER}") + m_folder.path() + QStringLiteral("{ENTER}{TAB}"));
+        clerk.Type(PdfKey + "april{ENTER}" + m_folder.path() + "{ENTER}{TAB}");
         EXPECT_EQ(Focus(clerk), "cmdExit");
         Type(clerk, "{ENTER}");
         EXPECT_EQ(OnTop(clerk), "frmReportPreview");
@@ -184,7 +183,7 @@ TEST_F(ReportSavingTest, AMissingFolderIsToldAndAskedForAgain)
 {
     const QString missing = Saved("nowhere");
     Show([&](Clerk& clerk) {
-        clerk.Type(PdfKey + QStringLiteral("{ENTER}") + missing + QStringLiteral("{ENTER}{ENTER}"));
+        clerk.Type(PdfKey + "{ENTER}" + missing + "{ENTER}{ENTER}");
         ASSERT_EQ(TheBox.Shown.size(), 1);
         EXPECT_TRUE(TheBox.Shown.first().contains("हा फोल्डर नाही")) << qPrintable(TheBox.Shown.first());
         EXPECT_TRUE(TheBox.Shown.first().contains(missing));
@@ -197,7 +196,7 @@ TEST_F(ReportSavingTest, AMissingFolderIsToldAndAskedForAgain)
 TEST_F(ReportSavingTest, AnEmptyNameOrFolderIsAskedForAgain)
 {
     Show([&](Clerk& clerk) {
-        clerk.Type(PdfKey + QStringLiteral("{DEL}{ENTER}{ENTER}{ENTER}"));
+        clerk.Type(PdfKey + "{DEL}{ENTER}{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFile");
         Type(clerk, "april{ENTER}{DEL}{ENTER}{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtFolder");
@@ -219,7 +218,7 @@ TEST_F(ReportSavingTest, AFolderOfThatNameIsNotWrittenOver)
 TEST_F(ReportSavingTest, AFullDiskIsToldAndLeavesTheOldFileAndNothingElse)
 {
     for (const QString ending : {"pdf", "csv"}) {
-        const QString name = QStringLiteral("april.") + ending;
+        const QString name = "april." + ending;
         Put(name, "old");
         TheBox.Shown.clear();
         Show([&](Clerk& clerk) {

@@ -18,14 +18,14 @@ protected:
                 .arg(number));
     }
 
-    const QString Mask = QStringLiteral("MaskAppDate");
+    const QString Mask = "MaskAppDate";
 };
 
 }
 
 TEST_F(AppDateTest, WithoutCollectionsTheFirstOfAprilOfTheAccountingYearIsProposed)
 {
-    gAppState.gAccountingYear = QStringLiteral("2010-2011");
+    gAppState.gAccountingYear = "2010-2011";
     On<frmAppDate>([&](Clerk& clerk) { EXPECT_EQ(clerk.Reads(Mask), "01/04/2010"); });
 }
 
@@ -74,7 +74,7 @@ TEST_F(AppDateTest, ADateThatIsNoneStopsWithTheRunTimeErrorBeforeTheNotice)
 {
     for (const char* typed : {"31022026", "25132026", "13252026", "1"}) {
         On<frmAppDate>([&](Clerk& clerk) {
-            clerk.Type(QLatin1String(typed) + QStringLiteral("{ENTER}"));
+            clerk.Type(QLatin1String(typed) + "{ENTER}");
             EXPECT_EQ(OnTop(clerk), "");
         });
         ASSERT_TRUE(Failure) << typed;

@@ -30,17 +30,17 @@ protected:
     {
         const QStringList endings = {QString(), "-wal", "-shm"};
         for (const QString& ending : endings)
-            ASSERT_TRUE(QFile::copy(Books + ending, m_left.filePath(QStringLiteral("left") + ending)));
+            ASSERT_TRUE(QFile::copy(Books + ending, m_left.filePath("left" + ending)));
         gCn.Close();
         for (const QString& ending : endings) {
             QFile::remove(Books + ending);
-            ASSERT_TRUE(QFile::copy(m_left.filePath(QStringLiteral("left") + ending), Books + ending));
+            ASSERT_TRUE(QFile::copy(m_left.filePath("left" + ending), Books + ending));
         }
     }
 
     void DamageLog(qint64 at) const
     {
-        QFile log(Books + QStringLiteral("-wal"));
+        QFile log(Books + "-wal");
         ASSERT_TRUE(log.open(QIODevice::ReadWrite) && log.seek(at));
         const char byte = log.read(1).at(0);
         ASSERT_TRUE(log.seek(at));

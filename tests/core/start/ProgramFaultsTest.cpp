@@ -57,8 +57,8 @@ protected:
         return file.readAll();
     }
 
-    const QString Database = QStringLiteral("Morvelta.mdb");
-    const QString Password = QStringLiteral("PWD.TXT");
+    const QString Database = "Morvelta.mdb";
+    const QString Password = "PWD.TXT";
     const QByteArray OtherPassword = "b\r\nc\r\n!\r\n";
     static constexpr int PageSize = 1024; // of the books
 };

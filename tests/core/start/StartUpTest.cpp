@@ -140,8 +140,7 @@ TEST_F(StartUpTest, TheBlanksAroundASettingAreNoPartOfIt)
 
 TEST_F(StartUpTest, ARightBeyond16BitsOverflowsAndOneOfAnUnknownNameIsIgnored)
 {
-    const QString set =
-        QStringLiteral("update MenuAccessTable set AccessYesNo=%1 where MenuName='Utilities'");
+    const QString set = "update MenuAccessTable set AccessYesNo=%1 where MenuName='Utilities'";
     for (const char* beyond : {"32768", "-32769", "3000000000"}) {
         Run(set.arg(QLatin1String(beyond)));
         EXPECT_EQ(ErrorOfStart(), RunTimeError::Overflow) << beyond;
@@ -170,14 +169,14 @@ TEST(PasswordItemsTest, TheLastItemIsTheKeyThatEveryOtherIsShiftedUpBy)
 TEST(PasswordItemsTest, OnlyTheFirstCharacterOfAnItemCounts)
 {
     QStringList items = Disguised("ab", u'!');
-    items[0] += QStringLiteral("zzz");
+    items[0] += "zzz";
     EXPECT_EQ(PasswordOfItems(items), "ab");
 }
 
 TEST(PasswordItemsTest, AByteOrderMarkInFrontIsNoCharacterOfThePassword)
 {
-    const QString text = QStringLiteral("\"\u00FC\"\r\n\"e\"\r\n\"!\"\r\n");
-    const QString password = QStringLiteral("\u00DBD");
+    const QString text = "\"\u00FC\"\r\n\"e\"\r\n\"!\"\r\n";
+    const QString password = "\u00DBD";
     QByteArray latin1 = text.toLatin1();
     QBuffer unmarked(&latin1);
     ASSERT_TRUE(unmarked.open(QIODevice::ReadOnly));

@@ -71,7 +71,7 @@ protected:
     }
 
     int LocksOn() const { return BooksFile::LocksOn(file.toStdString()); }
-    QString Log() const { return file + QStringLiteral("-wal"); }
+    QString Log() const { return file + "-wal"; }
 };
 
 TEST_F(BooksOnDiskTest, TheEnginesLockStandsWhileAnotherConnectionComesAndGoes)
@@ -81,7 +81,7 @@ TEST_F(BooksOnDiskTest, TheEnginesLockStandsWhileAnotherConnectionComesAndGoes)
     for (int i = 0; i < 3; ++i) {
         {
             Connection reader;
-            reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
+            reader.Open("dsn=VetrolanDSN;pwd=" + TestPassword);
             EXPECT_FALSE(Recordset(reader, "select * from CityMaster").Eof());
             EXPECT_EQ(LocksOn(), 1);
         }
@@ -143,7 +143,7 @@ TEST_F(BooksOnDiskTest, AFoldGoesIntoNoBooksThatWereOverwritten)
 TEST_F(BooksOnDiskTest, NorDoesTheFoldOfTheConnectionThatReportsAreReadOn)
 {
     Connection reader;
-    reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
+    reader.Open("dsn=VetrolanDSN;pwd=" + TestPassword);
     const QByteArray backup = BackupBehindTwoFolds();
     Overwrite(backup);
     EXPECT_TRUE(Refusal().contains("was replaced"));
@@ -158,7 +158,7 @@ TEST_F(BooksOnDiskTest, BooksThatWereOverwrittenBeforeASecondConnectionCameAreTo
     const QByteArray backup = BackupBehindTwoFolds();
     Overwrite(backup);
     Connection reader;
-    EXPECT_THROW(reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword), RunTimeError);
+    EXPECT_THROW(reader.Open("dsn=VetrolanDSN;pwd=" + TestPassword), RunTimeError);
     EXPECT_TRUE(Refusal().contains("was replaced"));
     connection.Close();
     EXPECT_EQ(Bytes(), backup);
@@ -170,7 +170,7 @@ TEST_F(BooksOnDiskTest, ALogThatWasRemovedBeforeASecondConnectionCameIsTold)
     Add(2);
     ASSERT_TRUE(QFile::remove(Log()));
     Connection reader;
-    EXPECT_THROW(reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword), RunTimeError);
+    EXPECT_THROW(reader.Open("dsn=VetrolanDSN;pwd=" + TestPassword), RunTimeError);
     EXPECT_TRUE(Refusal().contains("log beside the database file was removed"));
     connection.Close();
     Open();
@@ -191,7 +191,7 @@ TEST_F(BooksOnDiskTest, ARemovedLogThatAnotherProgramMadeAnewIsToldAllTheSame)
     ASSERT_TRUE(QFile::copy(file, alone));
     DataSource::Register("Alone", alone);
     Connection again;
-    again.Open(QStringLiteral("dsn=Alone;pwd=") + TestPassword);
+    again.Open("dsn=Alone;pwd=" + TestPassword);
     EXPECT_EQ(Recordset(again, "select count(*) from CityMaster").At(0).Text(), "1")
         << "what is said to be kept is in the file already";
 }
@@ -231,7 +231,7 @@ TEST_F(BooksOnDiskTest, ALogThatWasCutShortIsTold)
 TEST_F(BooksOnDiskTest, BooksThatAreGoneAreTold)
 {
     Add(1);
-    ASSERT_TRUE(QFile::rename(file, file + QStringLiteral(".away")));
+    ASSERT_TRUE(QFile::rename(file, file + ".away"));
     EXPECT_TRUE(Refusal().contains("was replaced"));
     connection.Close();
     EXPECT_FALSE(QFile::exists(file));
@@ -240,9 +240,9 @@ TEST_F(BooksOnDiskTest, BooksThatAreGoneAreTold)
 TEST_F(BooksOnDiskTest, BooksThatWereGoneAreNotTrustedWhenTheyComeBack)
 {
     Add(1);
-    ASSERT_TRUE(QFile::rename(file, file + QStringLiteral(".away")));
+    ASSERT_TRUE(QFile::rename(file, file + ".away"));
     EXPECT_NE(Refusal(), QString());
-    ASSERT_TRUE(QFile::rename(file + QStringLiteral(".away"), file));
+    ASSERT_TRUE(QFile::rename(file + ".away", file));
     EXPECT_TRUE(Refusal().contains("was replaced")) << "nobody knows what was done to them meanwhile";
 }
 
@@ -262,10 +262,10 @@ TEST_P(OtherFoldTest, IsNoHarm)
     EXPECT_EQ(One("select count(*) from CityMaster"), "4");
     const QString left = folder.filePath("left.mdb");
     ASSERT_TRUE(QFile::copy(file, left));
-    ASSERT_TRUE(QFile::copy(Log(), left + QStringLiteral("-wal")));
+    ASSERT_TRUE(QFile::copy(Log(), left + "-wal"));
     DataSource::Register("Left", left);
     Connection again;
-    EXPECT_EQ(again.Open(QStringLiteral("dsn=Left;pwd=") + TestPassword), QStringList());
+    EXPECT_EQ(again.Open("dsn=Left;pwd=" + TestPassword), QStringList());
     EXPECT_EQ(Recordset(again, "select count(*) from CityMaster").At(0).Text(), "4");
 }
 
@@ -278,10 +278,10 @@ TEST_F(BooksOnDiskTest, AfterAFoldByAnotherProgramTheLogStillBelongsToItsOwnBook
     ASSERT_TRUE(QFile::copy(file, restored));
     connection.Fold();
     Add(3);
-    ASSERT_TRUE(QFile::copy(Log(), restored + QStringLiteral("-wal")));
+    ASSERT_TRUE(QFile::copy(Log(), restored + "-wal"));
     DataSource::Register("Restored", restored);
     Connection again;
-    const QStringList notes = again.Open(QStringLiteral("dsn=Restored;pwd=") + TestPassword);
+    const QStringList notes = again.Open("dsn=Restored;pwd=" + TestPassword);
     ASSERT_EQ(notes.size(), 1);
     EXPECT_TRUE(notes.first().contains("log of other books")) << notes.first().toStdString();
     EXPECT_EQ(Recordset(again, "select count(*) from CityMaster").At(0).Text(), "1");

@@ -72,7 +72,7 @@ TEST_F(ConnectionTest, OpensWhatItMade)
     EXPECT_FALSE(connection.IsOpen());
     EXPECT_FALSE(Bytes().contains("gaava"));
     EXPECT_FALSE(Bytes().startsWith("SQLite format"));
-    connection.Open(QStringLiteral("DSN=vetrolandsn;PWD=") + TestPassword);
+    connection.Open("DSN=vetrolandsn;PWD=" + TestPassword);
     EXPECT_EQ(One("select CityName from CityMaster"), "gaava");
 }
 
@@ -93,7 +93,7 @@ TEST_F(ConnectionTest, IsSafeAgainstPowerCuts)
 TEST_F(ConnectionTest, SaysThatThePasswordIsWrong)
 {
     connection.Close();
-    const QStringList others = {"other", QString(), TestPassword + QStringLiteral(" ")};
+    const QStringList others = {"other", QString(), TestPassword + " "};
     for (const QString& password : others) {
         const RunTimeError error = Failure(password);
         EXPECT_EQ(error.Number(), RunTimeError::DatabaseFailure);
@@ -154,12 +154,12 @@ TEST_F(ConnectionTest, TakesTheLogIntoAccount)
 {
     // A copy of the file and its log as a power cut would leave them: the last pages are in the log alone.
     Fill();
-    const QString log = file + QStringLiteral("-wal");
+    const QString log = file + "-wal";
     const QString left = folder.filePath("left");
     ASSERT_TRUE(QDir().mkdir(left));
-    const QString copy = left + QStringLiteral("/Morvelta.mdb");
+    const QString copy = left + "/Morvelta.mdb";
     ASSERT_TRUE(QFile::copy(file, copy));
-    ASSERT_TRUE(QFile::copy(log, copy + QStringLiteral("-wal")));
+    ASSERT_TRUE(QFile::copy(log, copy + "-wal"));
     connection.Close();
     DataSource::Register("VetrolanDSN", copy);
     EXPECT_TRUE(Failure("other").Happened().contains("password is wrong"));
@@ -174,14 +174,14 @@ TEST_F(ConnectionTest, OpensThoughTheFirstPageIsInTheLogAlone)
     Fill();
     const QString left = folder.filePath("left");
     ASSERT_TRUE(QDir().mkdir(left));
-    const QString copy = left + QStringLiteral("/Morvelta.mdb");
+    const QString copy = left + "/Morvelta.mdb";
     QByteArray torn = Bytes();
     torn.replace(2048, 2048, QByteArray(2048, '\0'));
     QFile write(copy);
     ASSERT_TRUE(write.open(QIODevice::WriteOnly));
     write.write(torn);
     write.close();
-    ASSERT_TRUE(QFile::copy(file + QStringLiteral("-wal"), copy + QStringLiteral("-wal")));
+    ASSERT_TRUE(QFile::copy(file + "-wal", copy + "-wal"));
     connection.Close();
     DataSource::Register("VetrolanDSN", copy);
     Open();

@@ -64,10 +64,10 @@ TEST_F(DamagedLogTest, ADamagedPlaceInTheLogIsToldWithTheEntriesBehindIt)
     }
     for (int hit = 0; hit < towns.size(); ++hit) {
         const QString left = Left(QStringLiteral("left%1").arg(hit));
-        QByteArray log = Bytes(left + QStringLiteral("-wal"));
+        QByteArray log = Bytes(left + "-wal");
         const qint64 at = (ends[hit] == 0 ? 32 : ends[hit]) + FrameSize / 2;
         log[at] = static_cast<char>(log[at] ^ 0x10);
-        Write(left + QStringLiteral("-wal"), log);
+        Write(left + "-wal", log);
         const QStringList notes = OpenAgain(left);
         ASSERT_EQ(notes.size(), 1) << hit;
         EXPECT_EQ(TownsOf(again), towns.mid(0, hit).join(u' '));
@@ -87,20 +87,20 @@ TEST_F(DamagedLogTest, AFoldWhoseBeginningIsHalfWrittenIsNoLostEntry)
     Add("dona");
     const qint64 entries = connection.LogSize();
     Connection reader;
-    reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
+    reader.Open("dsn=VetrolanDSN;pwd=" + TestPassword);
     const Recordset rows(reader, "select * from CityMaster");
     Add("tIna");
     const qint64 withTheLast = connection.LogSize();
     ASSERT_FALSE(connection.Fold());
     ASSERT_EQ(connection.LogSize(), withTheLast + FrameSize);
     const auto broken = [&](const QString& left, qint64 at) {
-        QByteArray bytes = Bytes(left + QStringLiteral("-wal"));
+        QByteArray bytes = Bytes(left + "-wal");
         bytes[at] = static_cast<char>(bytes[at] ^ 0x10);
-        Write(left + QStringLiteral("-wal"), bytes);
+        Write(left + "-wal", bytes);
     };
 
     const QString cut = Left("cut");
-    ASSERT_TRUE(QFile::remove(cut + QStringLiteral("-shm")));
+    ASSERT_TRUE(QFile::remove(cut + "-shm"));
     broken(cut, withTheLast + FrameSize / 2);
     EXPECT_EQ(OpenAgain(cut), QStringList());
     EXPECT_EQ(TownsOf(again), "ek dona tIna");
@@ -111,7 +111,7 @@ TEST_F(DamagedLogTest, AFoldWhoseBeginningIsHalfWrittenIsNoLostEntry)
     EXPECT_EQ(TownsOf(again), "ek dona tIna");
 
     const QString lost = Left("lost");
-    ASSERT_TRUE(QFile::remove(lost + QStringLiteral("-shm")));
+    ASSERT_TRUE(QFile::remove(lost + "-shm"));
     broken(lost, entries + FrameSize / 2);
     const QStringList notes = OpenAgain(lost);
     ASSERT_EQ(notes.size(), 1);
@@ -122,9 +122,9 @@ TEST_F(DamagedLogTest, SinceWhenEntriesAreMissingIsToldByTheFileUnlessAFoldWasCu
 {
     const auto cutShort = [&](const QString& name, int seconds) {
         const QString left = Left(name);
-        QByteArray log = Bytes(left + QStringLiteral("-wal"));
+        QByteArray log = Bytes(left + "-wal");
         log.chop(1);
-        Write(left + QStringLiteral("-wal"), log);
+        Write(left + "-wal", log);
         Age(left, seconds);
         return OpenAgain(left).join(u'\n');
     };
@@ -148,9 +148,9 @@ TEST_F(DamagedLogTest, AFoldThatWasCutOffIsKnownByItsPagesThoughTheWordOfItIsLos
     Add("ek");
     BreakOffAFold();
     const QString left = Left("left");
-    QByteArray log = Bytes(left + QStringLiteral("-wal"));
+    QByteArray log = Bytes(left + "-wal");
     log.chop(FrameSize + 1);
-    Write(left + QStringLiteral("-wal"), log);
+    Write(left + "-wal", log);
     Age(left, 3600);
     const QStringList notes = OpenAgain(left);
     ASSERT_EQ(notes.size(), 1);
@@ -166,9 +166,9 @@ TEST_F(DamagedLogTest, ADamagedHeadOfTheLogIsToldWithAllItsEntries)
     Add("dona");
     Add("tIna");
     const QString left = Left("left");
-    QByteArray log = Bytes(left + QStringLiteral("-wal"));
+    QByteArray log = Bytes(left + "-wal");
     log[20] = static_cast<char>(log[20] ^ 1);
-    Write(left + QStringLiteral("-wal"), log);
+    Write(left + "-wal", log);
     const QStringList notes = OpenAgain(left);
     ASSERT_EQ(notes.size(), 1);
     EXPECT_TRUE(notes.first().contains("About 2 entries")) << notes.first().toStdString();
@@ -182,7 +182,7 @@ TEST_F(DamagedLogTest, ALogThatWasCutShortIsToldByTheIndexBesideIt)
     const qint64 whole = connection.LogSize();
     for (const qint64 size : {whole - 1, whole - FrameSize, whole / 2, qint64(32 + FrameSize)}) {
         const QString left = Left(QStringLiteral("left%1").arg(size));
-        ASSERT_TRUE(QFile::resize(left + QStringLiteral("-wal"), size));
+        ASSERT_TRUE(QFile::resize(left + "-wal", size));
         EXPECT_EQ(OpenAgain(left).size(), 1) << size;
         EXPECT_TRUE(IsSound(again));
     }
@@ -194,13 +194,13 @@ TEST_F(DamagedLogTest, AnUnfinishedEntryAtTheEndIsNoDamage)
     const qint64 first = connection.LogSize();
     const QString whole = Left("whole");
     Add("dona");
-    const QByteArray log = Bytes(file + QStringLiteral("-wal"));
+    const QByteArray log = Bytes(file + "-wal");
     for (qint64 size = first; size < log.size(); size += FrameSize / 3) {
         const QString left = folder.filePath(QStringLiteral("left%1").arg(size));
         ASSERT_TRUE(QDir().mkdir(left));
         ASSERT_TRUE(QFile::copy(whole, left + Name));
-        ASSERT_TRUE(QFile::copy(whole + QStringLiteral("-shm"), left + Name + QStringLiteral("-shm")));
-        Write(left + Name + QStringLiteral("-wal"), log.left(size));
+        ASSERT_TRUE(QFile::copy(whole + "-shm", left + Name + "-shm"));
+        Write(left + Name + "-wal", log.left(size));
         EXPECT_EQ(OpenAgain(left + Name), QStringList()) << size;
         EXPECT_EQ(TownsOf(again), "ek");
     }
@@ -219,18 +219,18 @@ TEST_F(DamagedLogTest, ADamagedPageIsFoundAfterAnUncleanEndAndItsTableNamed)
     const QByteArray sound = Bytes(file);
     Add("ek");
     OpeningPlan plan;
-    plan.newestBackup = QStringLiteral("D:/Backup/2026.mdb");
+    plan.newestBackup = "D:/Backup/2026.mdb";
     int checks = 0;
     plan.checking = [&] { ++checks; };
     int named = 0;
     for (qint64 at = sound.size() * 3 / 4; at > sound.size() / 2; at -= 3 * DatabaseFile::PageSize + 100) {
         const QString left = Left(QStringLiteral("left%1").arg(at));
         Write(left, QByteArray(sound).replace(at, 1, QByteArray(1, static_cast<char>(sound[at] ^ 4))));
-        const QByteArray log = Bytes(left + QStringLiteral("-wal"));
+        const QByteArray log = Bytes(left + "-wal");
         const QString told = Failure(left, plan);
         named += told.contains("CityMaster") ? 1 : 0;
         EXPECT_TRUE(told.contains(plan.newestBackup));
-        EXPECT_EQ(Bytes(left + QStringLiteral("-wal")), log) << "nothing is folded into damaged books";
+        EXPECT_EQ(Bytes(left + "-wal"), log) << "nothing is folded into damaged books";
     }
     EXPECT_GT(named, 3);
     EXPECT_GE(checks, named);
@@ -310,7 +310,7 @@ TEST_F(DamagedLogTest, BooksThatMayNotBeWrittenAreRefusedAtTheStart)
     const QByteArray before = Bytes(file);
     EXPECT_TRUE(Failure(file).contains("can't be written"));
     EXPECT_EQ(Bytes(file), before);
-    EXPECT_FALSE(QFile::exists(file + QStringLiteral("-wal")));
+    EXPECT_FALSE(QFile::exists(file + "-wal"));
 }
 
 TEST_F(DamagedLogTest, ALogThatMayNotBeWrittenIsRefusedAtTheStartAndStaysAsItIs)

@@ -20,7 +20,7 @@ TEST_F(LogTest, FoldingLeavesNothingInTheLogAndAllInTheFile)
     EXPECT_GT(connection.LogSize(), 0);
     EXPECT_TRUE(connection.Fold());
     EXPECT_EQ(connection.LogSize(), 0);
-    EXPECT_EQ(QFileInfo(file + QStringLiteral("-wal")).size(), 0);
+    EXPECT_EQ(QFileInfo(file + "-wal").size(), 0);
     const QString alone = folder.filePath("alone.mdb");
     ASSERT_TRUE(QFile::copy(file, alone));
     EXPECT_EQ(OpenAgain(alone), QStringList());
@@ -48,7 +48,7 @@ TEST_F(LogTest, WhileAnotherReadsTheFoldWaitsWithoutWaitingForIt)
 {
     Add("ek");
     Connection reader;
-    reader.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
+    reader.Open("dsn=VetrolanDSN;pwd=" + TestPassword);
     {
         const Recordset rows(reader, "select * from CityMaster");
         Add("dona");
@@ -81,7 +81,7 @@ TEST_F(LogTest, ACleanEndLeavesNoLog)
 {
     Add("ek");
     connection.Close();
-    EXPECT_FALSE(QFile::exists(file + QStringLiteral("-wal")));
+    EXPECT_FALSE(QFile::exists(file + "-wal"));
 }
 
 TEST_F(LogTest, TheLogOfABackupsSuccessorIsPutAsideAndTold)
@@ -188,7 +188,7 @@ TEST_F(LogTest, BooksWhoseClockWentBackAreTheirLogsAllTheSame)
     ASSERT_TRUE(QDir().mkdir(left));
     const QString books = left + Name;
     ASSERT_EQ(link(file.toLocal8Bit().constData(), books.toLocal8Bit().constData()), 0);
-    ASSERT_TRUE(QFile::copy(file + QStringLiteral("-wal"), books + QStringLiteral("-wal")));
+    ASSERT_TRUE(QFile::copy(file + "-wal", books + "-wal"));
     EXPECT_EQ(OpenAgain(books), QStringList());
     EXPECT_EQ(TownsOf(again), "ek dona");
 }

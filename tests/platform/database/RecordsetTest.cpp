@@ -83,8 +83,7 @@ TEST_F(RecordsetTest, ReadsTheRowsOfBeforeAWrite)
     for (; !rows.Eof(); rows.MoveNext(), ++walked) {
         connection.Execute(
             QStringLiteral("insert into CityMaster(CompanyId,CityName) values(%1,'new')").arg(9 + walked));
-        connection.Execute(
-            QStringLiteral("delete * from CityMaster where CompanyId=") + QString::number(walked + 2));
+        connection.Execute("delete * from CityMaster where CompanyId=" + QString::number(walked + 2));
         EXPECT_EQ(rows[u"CompanyId"].Number(), walked + 1);
     }
     EXPECT_EQ(walked, 5);

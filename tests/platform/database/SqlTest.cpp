@@ -33,10 +33,9 @@ TEST_F(SqlTest, AnApostropheInAValueFailsTheStatement)
              "'gaava", "''''", "x'';", "1' --"}) {
         const QString name = QString::fromUtf8(value);
         EXPECT_EQ(Told(Sql(u"delete * from CityMaster where CityName='", name, u"'")),
-            QStringLiteral("delete * from CityMaster where CityName='") + name + u'\'');
+            "delete * from CityMaster where CityName='" + name + u'\'');
         EXPECT_EQ(Told(Sql(u"update CityMaster set CityName='", QStringView(name), u"' where CompanyId=", 1)),
-            QStringLiteral("update CityMaster set CityName='") + name
-                + QStringLiteral("' where CompanyId=1"));
+            "update CityMaster set CityName='" + name + "' where CompanyId=1");
         EXPECT_FALSE(Told(Sql(u"delete * from ", name)).isEmpty()) << "no quotes around it: " << value;
         EXPECT_EQ(Cities(), "2") << value;
     }
@@ -53,7 +52,7 @@ TEST_F(SqlTest, AnApostropheThatStandsInTheBooksFailsTheNextStatement)
 
 TEST_F(SqlTest, APieceThatSqlHasMadeKeepsItsQuotes)
 {
-    const QString name = QStringLiteral("gaava");
+    const QString name = "gaava";
     const SqlText condition = Sql(u" where CityName='", name, u"'");
     EXPECT_EQ(
         connection.Execute(Sql(u"update CityMaster set CompanyId=7", condition, u" and CompanyId=1")), 1);
@@ -63,7 +62,7 @@ TEST_F(SqlTest, APieceThatSqlHasMadeKeepsItsQuotes)
 
 TEST_F(SqlTest, APieceWithABrokenValueBreaksTheWholeStatement)
 {
-    const QString name = QStringLiteral("ga'ava");
+    const QString name = "ga'ava";
     const SqlText condition = Sql(u" where CityName='", name, u"'");
     EXPECT_EQ(Told(Sql(Sql(u"delete * from CityMaster", condition), u" and CompanyId=", 1)),
         "delete * from CityMaster where CityName='ga'ava' and CompanyId=1");
@@ -72,7 +71,7 @@ TEST_F(SqlTest, APieceWithABrokenValueBreaksTheWholeStatement)
 
 TEST_F(SqlTest, AQuotedValueIsAPieceWithItsQuotes)
 {
-    const QString name = QStringLiteral("gaava");
+    const QString name = "gaava";
     EXPECT_EQ(QString(Sql(u"where CityName=", Quoted(name), u" and CompanyId=", 1)),
         "where CityName='gaava' and CompanyId=1");
     EXPECT_EQ(QString(Quoted(u"sakaL")), "'sakaL'");
@@ -84,7 +83,7 @@ TEST_F(SqlTest, AQuotedValueIsAPieceWithItsQuotes)
 
 TEST_F(SqlTest, ValuesAreListedAsTheirKindWantsThem)
 {
-    const QString name = QStringLiteral("gaava");
+    const QString name = "gaava";
     EXPECT_EQ(
         QString(Values(1, 0.1 + 0.2, 36.525F, name, QStringView(name), QDate(2026, 4, 5), u"raoK", -0.0)),
         "1,0.3,36.525,'gaava','gaava','05/04/2026','raoK',0");
@@ -97,7 +96,7 @@ TEST_F(SqlTest, ValuesAreListedAsTheirKindWantsThem)
 
 TEST_F(SqlTest, AnApostropheInAQuotedOrListedValueFailsTheStatement)
 {
-    const QString name = QStringLiteral("ga'ava");
+    const QString name = "ga'ava";
     EXPECT_EQ(Told(Sql(u"delete * from CityMaster where CityName=", Quoted(name))),
         "delete * from CityMaster where CityName='ga'ava'");
     EXPECT_EQ(Told(Sql(u"insert into CityMaster(CompanyId,CityName) values(", Values(1, name), u")")),
@@ -119,7 +118,7 @@ TEST_F(SqlTest, AStatementWithoutValuesIsRunAsItIsWrittenOut)
 
 TEST_F(SqlTest, EveryOtherSignOfAValueIsCarried)
 {
-    const QString name = QStringLiteral("a\" or \"1\"=\"1 # ; -- /* ? %_ [x] \\ ") + QChar(0x2019);
+    const QString name = "a\" or \"1\"=\"1 # ; -- /* ? %_ [x] \\ " + QChar(0x2019);
     connection.Execute(Sql(u"insert into CityMaster(CompanyId,CityName) values(", 3, u",'", name, u"')"));
     EXPECT_EQ(One("select CityName from CityMaster where CompanyId=3"), name);
     EXPECT_EQ(connection.Execute(Sql(u"delete * from CityMaster where CityName='", name, u"'")), 1);

@@ -245,7 +245,7 @@ TEST_F(TransactionTest, IsAllOrNothingWhenThePowerFails)
             if (killAt > 0)
                 FaultyDisk::KillAt(killAt);
             Connection books;
-            books.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + TestPassword);
+            books.Open("dsn=VetrolanDSN;pwd=" + TestPassword);
             Save(books);
             books.Close();
             _exit(FaultyDisk::Count());

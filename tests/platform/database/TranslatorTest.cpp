@@ -70,8 +70,8 @@ TEST_F(TranslatorTest, FindsADateInEveryWayOfWritingIt)
         "cstr(CollectionDate)<>'05/11/2026'", "CollectionDate in ('15/04/2026','16/04/2026')",
         "left(CollectionDate,2)='15'", "MilkCollections.CollectionDate='15/04/2026'"};
     for (const char* condition : conditions) {
-        Recordset rows(connection,
-            QStringLiteral("select CollectionNo from MilkCollections where ") + QString::fromUtf8(condition));
+        Recordset rows(
+            connection, "select CollectionNo from MilkCollections where " + QString::fromUtf8(condition));
         ASSERT_FALSE(rows.Eof()) << condition;
         EXPECT_EQ(rows.At(0).Text(), "7") << condition;
         rows.MoveNext();
@@ -189,10 +189,8 @@ TEST_F(TranslatorTest, KeepsPositionsInAnOrder)
 
 TEST_F(TranslatorTest, CarriesAnyTextBetweenQuotes)
 {
-    const QString text =
-        QStringLiteral("Tašp ]cala #; -- /* ? \"@ ") + QChar(0x0917) + QString::fromUtf8("😀");
-    connection.Execute(QStringLiteral("insert into CityMaster(CompanyId,CityName) values(1,'") + text
-        + QStringLiteral("')"));
+    const QString text = "Tašp ]cala #; -- /* ? \"@ " + QChar(0x0917) + QString::fromUtf8("😀");
+    connection.Execute("insert into CityMaster(CompanyId,CityName) values(1,'" + text + "')");
     EXPECT_EQ(One("select CityName from CityMaster"), text);
     EXPECT_EQ(One("select CompanyId from CityMaster where CityName=\"x\" or CityName<>'it''s'"), "1");
 }

@@ -38,7 +38,7 @@ TEST_F(CheckBoxTest, BeginsWithoutTheTickUnderItsCaption)
 {
     AtBox([](BoxScreen& screen) {
         EXPECT_FALSE(screen.chkSearch.Checked());
-        EXPECT_EQ(screen.chkSearch.Text(), Q("0"));
+        EXPECT_EQ(screen.chkSearch.Text(), "0");
         EXPECT_EQ(screen.Box().text(), Shivaji(u"A^DvhansD saca-").Seen());
         EXPECT_EQ(screen.Box().accessibleName(), screen.Box().text());
     });
@@ -48,7 +48,7 @@ TEST_F(CheckBoxTest, SpaceTurnsItAndEnterGoesOn)
 {
     AtBox([this](BoxScreen& screen) {
         Type("{TAB} ");
-        EXPECT_EQ(screen.chkSearch.Text(), Q("1"));
+        EXPECT_EQ(screen.chkSearch.Text(), "1");
         Type(" ");
         EXPECT_EQ(screen.turned, "10");
         Type("x1{Down}");
@@ -62,7 +62,7 @@ TEST_F(CheckBoxTest, SpaceTurnsItAndEnterGoesOn)
 TEST_F(CheckBoxTest, AClickTurnsItAndTakesTheFocus)
 {
     AtBox([this](BoxScreen& screen) {
-        TheClerk.Press(Q("chkSearch"));
+        TheClerk.Press("chkSearch");
         EXPECT_TRUE(screen.chkSearch.Checked());
         EXPECT_EQ(FocusName(), "chkSearch");
         EXPECT_EQ(screen.turned, "1");
@@ -73,7 +73,7 @@ TEST_F(CheckBoxTest, AClickThatTheFieldBeforeRefusesDoesNotTurnIt)
 {
     AtBox([this](BoxScreen& screen) {
         Do([&] { screen.txtBefore.LostFocus = [&] { screen.txtBefore.SetFocus(); }; });
-        TheClerk.Press(Q("chkSearch"));
+        TheClerk.Press("chkSearch");
         EXPECT_FALSE(screen.chkSearch.Checked());
         EXPECT_EQ(FocusName(), "txtBefore");
     });
@@ -94,7 +94,7 @@ TEST_F(CheckBoxTest, DisabledItIsNoStop)
         Do([&] { screen.chkSearch.SetEnabled(false); });
         Type("{TAB}");
         EXPECT_EQ(FocusName(), "txtAfter");
-        TheClerk.Press(Q("chkSearch"));
+        TheClerk.Press("chkSearch");
         EXPECT_FALSE(screen.chkSearch.Checked());
     });
 }

@@ -10,7 +10,7 @@ protected:
     static std::unique_ptr<ChoiceCombo> Make(Screen* screen)
     {
         return std::make_unique<ChoiceCombo>(
-            screen, "ComboReceipt", QStringList{Q("naahI"), Q("f@t sËIna"), Q("haoya")});
+            screen, "ComboReceipt", QStringList{"naahI", "f@t sËIna", "haoya"});
     }
 
     void WithWords(const std::function<void(ChoiceCombo&)>& script) { With(Make, script); }
@@ -139,7 +139,7 @@ TEST_F(ChoiceComboTest, ForTheMouseOnlyItDropsEveryKeyButEnter)
 {
     WithWords([&](ChoiceCombo& combo) {
         combo.SetMouseOnly(true);
-        combo.SetText(Q("naahI"));
+        combo.SetText("naahI");
         Type("2{BS}{DEL}%{DOWN}");
         Compose("२");
         EXPECT_EQ(Text(combo), "naahI");
@@ -155,7 +155,7 @@ TEST_F(ChoiceComboTest, ForTheMouseOnlyItDropsEveryKeyButEnter)
 TEST_F(ChoiceComboTest, ATextFromOutsideNeedNotBeOneOfTheWords)
 {
     WithWords([&](ChoiceCombo& combo) {
-        Do([&] { combo.SetText(Q("saovh")); });
+        Do([&] { combo.SetText("saovh"); });
         EXPECT_EQ(Text(combo), "saovh");
         EXPECT_FALSE(combo.HoldsAWord());
         Type("%{DOWN}{DOWN}");
@@ -166,7 +166,7 @@ TEST_F(ChoiceComboTest, ATextFromOutsideNeedNotBeOneOfTheWords)
 TEST_F(ChoiceComboTest, OtherWordsReplaceTheList)
 {
     WithWords([&](ChoiceCombo& combo) {
-        Do([&] { combo.SetWords({Q("saovh")}); });
+        Do([&] { combo.SetWords({"saovh"}); });
         EXPECT_EQ(Typed(combo, "1"), "saovh");
         EXPECT_EQ(Typed(combo, "2"), "");
         EXPECT_EQ(List(combo).model()->rowCount(), 1);

@@ -23,17 +23,17 @@ public:
         column->addWidget(grid.Widget());
         column->addWidget(cmdExit.Widget());
         resize(800, 400);
-        grid.Bind(books, Q("select MemberNo,MemberName,Kapat,Since from Installments order by MemberNo"));
+        grid.Bind(books, "select MemberNo,MemberName,Kapat,Since from Installments order by MemberNo");
         grid.Edit({[this](const GridRow& row) { return Write(row); },
             [this](const GridRow& row) { return Remove(row); }});
     }
 
     Connection& books;
     DataGrid grid{this, "DataGrid1",
-        {{Q("MemberNo"), Shivaji(u"maombar naM."), 120, Q("#######0"), true},
-            {Q("membername"), Shivaji(u"maombarcao naava"), 250},
-            {Q("Kapat"), Shivaji(u"kpat r@kma"), 150, Q("#####0.00"), true},
-            {Q("Since"), Shivaji(u"idnaaMk"), 150, Q("dd/MM/yyyy")}}};
+        {{"MemberNo", Shivaji(u"maombar naM."), 120, "#######0", true},
+            {"membername", Shivaji(u"maombarcao naava"), 250},
+            {"Kapat", Shivaji(u"kpat r@kma"), 150, "#####0.00", true},
+            {"Since", Shivaji(u"idnaaMk"), 150, "dd/MM/yyyy"}}};
     Button cmdExit{this, "cmdExit", Shivaji(u"&baahor")};
 
     bool refuses = false;
@@ -82,9 +82,9 @@ class DataGridEditTest : public FormsTest {
 protected:
     DataGridEditTest()
     {
-        books.Create(folder.filePath(Q("books.mdb")), Q("word"));
+        books.Create(folder.filePath("books.mdb"), "word");
         books.RunScript(
-            Q("create table Installments (MemberNo INTEGER, MemberName TEXT, Kapat REAL, Since DATE)"));
+            "create table Installments (MemberNo INTEGER, MemberName TEXT, Kapat REAL, Since DATE)");
         books.Execute(u"insert into Installments values(1,'rama',100,'15/04/2026')");
         books.Execute(u"insert into Installments values(3,'sakaLo',250.5,Null)");
     }
@@ -158,7 +158,7 @@ TEST_F(DataGridEditTest, AFigureTypedIntoACellIsWrittenWhenTheRowIsLeft)
         Type("{Right}{Right}500");
         EXPECT_EQ(Rows(), AsItWas) << "not before the row is left";
         ASSERT_TRUE(screen.Cell());
-        EXPECT_EQ(screen.Cell()->text(), Q("500"));
+        EXPECT_EQ(screen.Cell()->text(), "500");
         Type("{Down}");
         EXPECT_EQ(Rows(), "1 rama 500 15/04/2026|3 sakaLo 250.5");
         EXPECT_EQ(Place(screen), "1,2");
@@ -304,7 +304,7 @@ TEST_F(DataGridEditTest, AnApostropheIsTakenIntoATextAndTheRowsStatementFails)
         TryAtGrid([&](EditScreen&) { Type(keys); });
         ASSERT_TRUE(Failure) << keys;
         EXPECT_EQ(Failure->Number(), RunTimeError::DatabaseFailure);
-        EXPECT_TRUE(Failure->Statement().contains(Q("ra'"))) << Failure->what();
+        EXPECT_TRUE(Failure->Statement().contains("ra'")) << Failure->what();
         EXPECT_EQ(Rows(), AsItWas);
     }
 }
@@ -342,7 +342,7 @@ TEST_F(DataGridEditTest, TheMouseGoesToACellAndTwiceOpensIt)
         EXPECT_FALSE(screen.Cell());
         Press(screen, 1, 2, QEvent::MouseButtonDblClick);
         ASSERT_TRUE(screen.Cell());
-        EXPECT_EQ(screen.Cell()->text(), Q("250.50"));
+        EXPECT_EQ(screen.Cell()->text(), "250.50");
         Type("{End}{BS}5");
         Press(screen, 0, 1);
         EXPECT_EQ(Rows(), "1 rama 100 15/04/2026|3 sakaLo 250.55");
@@ -384,8 +384,8 @@ public:
         grid.Widget()->setFixedSize(300, 300);
     }
     DataGrid grid{this, "DataGrid1",
-        {{Q("MemberNo"), Plain(u"1"), 150, {}, true, false}, {Q("MemberName"), Plain(u"2"), 150},
-            {Q("Kapat"), Plain(u"3"), 150, Q("#####0.00"), true}, {Q("Since"), Plain(u"4"), 150}}};
+        {{"MemberNo", Plain(u"1"), 150, {}, true, false}, {"MemberName", Plain(u"2"), 150},
+            {"Kapat", Plain(u"3"), 150, "#####0.00", true}, {"Since", Plain(u"4"), 150}}};
     QTableView& View() const { return *static_cast<QTableView*>(grid.Widget()); }
 };
 
@@ -393,7 +393,7 @@ TEST_F(DataGridEditTest, ColumnsThatDontFitInAreScrolledTo)
 {
     Open<WideScreen>(
         [&](WideScreen& screen) {
-            screen.grid.Bind(books, Q("select * from Installments order by MemberNo"));
+            screen.grid.Bind(books, "select * from Installments order by MemberNo");
             screen.grid.SetSideways(true);
         },
         [&](WideScreen& screen) {
@@ -412,7 +412,7 @@ TEST_F(DataGridEditTest, ColumnsThatDontFitInAreScrolledTo)
             EXPECT_TRUE(isSeen(3)) << "another row stays at the column";
             Type("{Left}{Left}{Left}{Left}");
             EXPECT_TRUE(isSeen(0));
-            EXPECT_EQ(screen.grid.Cell(0, 3), Q("15/04/2026")) << "a date is no text of the encoding";
+            EXPECT_EQ(screen.grid.Cell(0, 3), "15/04/2026") << "a date is no text of the encoding";
         });
     EXPECT_FALSE(Failure);
 }
@@ -422,7 +422,7 @@ TEST_F(DataGridEditTest, ADoubleClickIsTold)
     std::string told;
     Open<WideScreen>(
         [&](WideScreen& screen) {
-            screen.grid.Bind(books, Q("select * from Installments order by MemberNo"));
+            screen.grid.Bind(books, "select * from Installments order by MemberNo");
             screen.grid.DoubleClick = [&] { told += std::to_string(screen.grid.CurrentRow()); };
         },
         [&](WideScreen& screen) {

@@ -54,15 +54,15 @@ TEST_F(FocusTest, WhatIsLeftCanTellAStepFromAWayStraightToAControl)
         [&](Desk& desk) {
             for (const char* keys : {"{TAB}", "{ENTER}", "+{TAB}"}) {
                 Type(keys);
-                EXPECT_EQ(to, Q("a step")) << keys;
+                EXPECT_EQ(to, "a step") << keys;
             }
-            TheClerk.Press(Q("txtA"));
-            EXPECT_EQ(to, Q("txtA"));
+            TheClerk.Press("txtA");
+            EXPECT_EQ(to, "txtA");
             Do([&] { desk.txtC.SetFocus(); });
-            EXPECT_EQ(to, Q("txtC"));
+            EXPECT_EQ(to, "txtC");
             EXPECT_EQ(desk.GoingTo(), nullptr) << "nothing is being left";
             Type("%s");
-            EXPECT_EQ(to, Q("cmdGo"));
+            EXPECT_EQ(to, "cmdGo");
         });
 }
 
@@ -75,7 +75,7 @@ TEST_F(FocusTest, EveryKindOfMoveRunsLostFocusAndThenGotFocus)
         EXPECT_EQ(desk.Happened(), "-txtB +txtC");
         Type("+{TAB}");
         EXPECT_EQ(desk.Happened(), "-txtC +txtB");
-        TheClerk.Press(Q("txtA"));
+        TheClerk.Press("txtA");
         EXPECT_EQ(desk.Happened(), "-txtB +txtA");
         Do([&] { desk.txtC.SetFocus(); });
         EXPECT_EQ(desk.Happened(), "-txtA +txtC");
@@ -107,7 +107,7 @@ TEST_F(FocusTest, SetFocusOnTheHolderIsNoMove)
 {
     AtDesk(Plain, [&](Desk& desk) {
         Do([&] { desk.txtA.SetFocus(); });
-        TheClerk.Press(Q("txtA"));
+        TheClerk.Press("txtA");
         EXPECT_EQ(desk.Happened(), "");
     });
 }
@@ -145,7 +145,7 @@ TEST_F(FocusTest, ARefusalGetsTheFocusBackWithoutASecondValidation)
             EXPECT_EQ(desk.Happened(), "-txtA +txtA");
             EXPECT_EQ(FocusName(), "txtA");
             Type("8");
-            EXPECT_EQ(TheClerk.Reads(Q("txtA")).toStdString(), "8") << "the text is selected anew";
+            EXPECT_EQ(TheClerk.Reads("txtA").toStdString(), "8") << "the text is selected anew";
         });
 }
 
@@ -157,7 +157,7 @@ TEST_F(FocusTest, TwoRefusingFieldsNeverFight)
             desk.Also("-txtB", [&] { desk.txtB.SetFocus(); });
         },
         [&](Desk& desk) {
-            TheClerk.Press(Q("txtB"));
+            TheClerk.Press("txtB");
             EXPECT_EQ(desk.Happened(), "-txtA +txtA");
             Do([&] { desk.Also("-txtA", {}); });
         });
@@ -171,9 +171,9 @@ TEST_F(FocusTest, FieldsThatSendTheFocusToEachOtherComeToRest)
             desk.Also("-txtB", [&] { desk.txtA.SetFocus(); });
         },
         [&](Desk& desk) {
-            TheClerk.Press(Q("txtC"));
+            TheClerk.Press("txtC");
             EXPECT_EQ(desk.Happened(), "-txtA +txtB");
-            TheClerk.Press(Q("txtC"));
+            TheClerk.Press("txtC");
             EXPECT_EQ(desk.Happened(), "-txtB +txtA");
         });
 }
@@ -243,7 +243,7 @@ TEST_F(FocusTest, AMessageBetweenKeysLeavesTheFocusWhereItWas)
         [&](Desk& desk) {
             Type("{F2}{ENTER}5");
             EXPECT_EQ(desk.Happened(), "F2");
-            EXPECT_EQ(TheClerk.Reads(Q("txtA")).toStdString(), "5");
+            EXPECT_EQ(TheClerk.Reads("txtA").toStdString(), "5");
         });
 }
 
@@ -312,7 +312,7 @@ TEST_F(FocusTest, MousePressOnCancelSkipsTheValidationOfTheFieldThatIsLeft)
 {
     AtDesk([](Desk& desk) { desk.Also("-txtA", [&] { desk.txtA.SetFocus(); }); },
         [&](Desk& desk) {
-            TheClerk.Press(Q("cmdCancel"));
+            TheClerk.Press("cmdCancel");
             EXPECT_EQ(desk.Happened(), "+cmdCancel !cmdCancel");
         });
 }
@@ -320,7 +320,7 @@ TEST_F(FocusTest, MousePressOnCancelSkipsTheValidationOfTheFieldThatIsLeft)
 TEST_F(FocusTest, MousePressOnAnotherButtonValidatesFirst)
 {
     AtDesk(Plain, [&](Desk& desk) {
-        TheClerk.Press(Q("cmdGo"));
+        TheClerk.Press("cmdGo");
         EXPECT_EQ(desk.Happened(), "-txtA +cmdGo !cmdGo");
     });
 }
@@ -329,7 +329,7 @@ TEST_F(FocusTest, MousePressThatIsRefusedPressesNothing)
 {
     AtDesk([](Desk& desk) { desk.Also("-txtA", [&] { desk.txtA.SetFocus(); }); },
         [&](Desk& desk) {
-            TheClerk.Press(Q("cmdGo"));
+            TheClerk.Press("cmdGo");
             EXPECT_EQ(desk.Happened(), "-txtA +txtA");
         });
 }
@@ -338,7 +338,7 @@ TEST_F(FocusTest, MousePressOnADisabledControlIsNothing)
 {
     AtDesk([](Desk& desk) { desk.cmdGo.SetEnabled(false); },
         [&](Desk& desk) {
-            TheClerk.Press(Q("cmdGo"));
+            TheClerk.Press("cmdGo");
             EXPECT_EQ(desk.Happened(), "");
         });
 }

@@ -24,9 +24,9 @@ public:
         for (Control* control : Controls())
             column->addWidget(control->Widget());
         resize(500, 500);
-        Drive1.SetDrives({Q("C:\\"), Q("E:\\")});
-        Drive1.SetDrive(Q("C:\\"));
-        Dir1.SetFolder(Q("C:\\Tarvel01\\Vetrolan"));
+        Drive1.SetDrives({"C:\\", "E:\\"});
+        Drive1.SetDrive("C:\\");
+        Dir1.SetFolder("C:\\Tarvel01\\Vetrolan");
         Drive1.Change = [this] { Dir1.SetFolder(Drive1.Drive()); };
         Dir1.Change = [this] { told += Dir1.Folder().toStdString() + ";"; };
     }
@@ -34,8 +34,8 @@ public:
     static QStringList FoldersIn(const QString& folder)
     {
         if (folder == u"C:\\Tarvel01\\Vetrolan")
-            return {Q("Backup"), Q("Reports")};
-        return folder == u"E:\\" ? QStringList{Q("Milk")} : QStringList();
+            return {"Backup", "Reports"};
+        return folder == u"E:\\" ? QStringList{"Milk"} : QStringList();
     }
 
     DriveList Drive1{this, "Drive1"};
@@ -118,13 +118,13 @@ TEST_F(FolderListTest, ADriveIsGoneToWithEnter)
     AtFolders([&](FolderScreen& screen) {
         EXPECT_EQ(screen.Drive1.CurrentIndex(), 0);
         Type("{Down}{Up}{Down}");
-        EXPECT_EQ(screen.Drive1.Drive(), Q("C:\\")) << "not before Enter";
+        EXPECT_EQ(screen.Drive1.Drive(), "C:\\") << "not before Enter";
         Type("{ENTER}");
-        EXPECT_EQ(screen.Drive1.Drive(), Q("E:\\"));
+        EXPECT_EQ(screen.Drive1.Drive(), "E:\\");
         EXPECT_EQ(screen.Entries(), "E:\\|    Milk");
         Type("{ENTER}{Down}{ENTER}");
-        EXPECT_EQ(screen.Dir1.Folder(), Q("E:\\Milk"));
-        Do([&] { screen.Drive1.SetDrives({Q("C:\\")}); });
+        EXPECT_EQ(screen.Dir1.Folder(), "E:\\Milk");
+        Do([&] { screen.Drive1.SetDrives({"C:\\"}); });
         EXPECT_EQ(screen.Drive1.Drive(), QString()) << "the drive was taken out";
         EXPECT_EQ(screen.Drive1.CurrentIndex(), -1);
     });
@@ -148,7 +148,7 @@ TEST_F(FolderListTest, TheRightButtonOpensTheMenuAndAnEntryIsChosenByKey)
         ASSERT_TRUE(Menu());
         EXPECT_EQ(FocusName(), "Dir1") << "the press brings the focus";
         ASSERT_EQ(Menu()->actions().size(), 2);
-        EXPECT_EQ(Menu()->actions()[0]->text(), Q("&Create Folder"));
+        EXPECT_EQ(Menu()->actions()[0]->text(), "&Create Folder");
         Strike(Qt::Key_Down);
         Strike(Qt::Key_Return);
         EXPECT_EQ(screen.told, "create;");

@@ -139,9 +139,9 @@ class DataGridTest : public FormsTest {
 protected:
     DataGridTest()
     {
-        books.Create(folder.filePath(Q("books.mdb")), Q("word"));
+        books.Create(folder.filePath("books.mdb"), "word");
         books.RunScript(
-            Q("create table Inwards (CollectionNo INTEGER, MemberName TEXT, Liters REAL, InwardDate DATE)"));
+            "create table Inwards (CollectionNo INTEGER, MemberName TEXT, Liters REAL, InwardDate DATE)");
         Add("1,'rama',1.5,'15/04/2026'");
         Add("2,'sakaLo',12.3456,'16/04/2026'");
         Add("3,Null,Null,Null");
@@ -156,7 +156,7 @@ protected:
     {
         Open<GridScreen>(
             [&](GridScreen& screen) {
-                screen.DataGridInwards.Bind(books, Q("select * from Inwards order by CollectionNo"));
+                screen.DataGridInwards.Bind(books, "select * from Inwards order by CollectionNo");
             },
             [&](GridScreen& screen) { script(screen.DataGridInwards, screen); });
         EXPECT_FALSE(Failure);
@@ -205,7 +205,7 @@ TEST_F(DataGridTest, WhatWasWrittenIsSeenAfterARefresh)
         ASSERT_EQ(grid.Rows(), 4);
         EXPECT_EQ(Row(grid, 3), "4|किसन|2.000|17/04/2026|");
         Do([&] {
-            books.Execute(Q("delete * from Inwards"));
+            books.Execute("delete * from Inwards");
             grid.Refresh();
         });
         EXPECT_EQ(grid.Rows(), 0);
@@ -296,7 +296,7 @@ TEST_F(DataGridTest, NoHandCanDrawAColumnAwayFromItsCaption)
 TEST_F(DataGridTest, AQueryThatFailsIsARunTimeError)
 {
     AtGrid([&](DataGrid& grid, GridScreen&) {
-        Do([&] { EXPECT_THROW(grid.Bind(books, Q("select * from Nowhere")), RunTimeError); });
+        Do([&] { EXPECT_THROW(grid.Bind(books, "select * from Nowhere"), RunTimeError); });
     });
 }
 
@@ -304,8 +304,8 @@ class LongGridTest : public DataGridTest {
 protected:
     LongGridTest()
     {
-        books.RunScript(Q("with recursive n(i) as (select 4 union all select i+1 from n where i<2000) "
-                          "insert into Inwards select i,'rama',i/10.0,'2026-04-15' from n"));
+        books.RunScript("with recursive n(i) as (select 4 union all select i+1 from n where i<2000) "
+                        "insert into Inwards select i,'rama',i/10.0,'2026-04-15' from n");
     }
 
     static int Read(const GridScreen& screen) { return screen.View().model()->rowCount(); }
@@ -319,7 +319,7 @@ TEST_F(LongGridTest, ReadsAFewRowsAtFirstAndAllWhenAskedForThem)
         EXPECT_EQ(Read(screen), 2000);
         Do([&] { grid.Refresh(); });
         EXPECT_LT(Read(screen), 200);
-        EXPECT_EQ(grid.Cell(1999, 0), Q("2000"));
+        EXPECT_EQ(grid.Cell(1999, 0), "2000");
     });
 }
 
@@ -357,7 +357,7 @@ TEST_F(LongGridTest, WhenTheRowsHaveGoneMeanwhileTheListEndsWhereItWasRead)
 {
     AtGrid([&](DataGrid& grid, GridScreen& screen) {
         const int first = Read(screen);
-        Do([&] { books.Execute(Q("delete * from Inwards where CollectionNo>5")); });
+        Do([&] { books.Execute("delete * from Inwards where CollectionNo>5"); });
         Type("{TAB}{End}");
         EXPECT_EQ(grid.CurrentRow(), first - 1);
         Do([&] { grid.Refresh(); });

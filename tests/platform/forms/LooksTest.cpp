@@ -161,16 +161,16 @@ TEST(CaptionTest, InStoredWordsTheSignIsTheLetterThatItIs)
     const Caption name = Words(u"&aanaoSvar");
     EXPECT_TRUE(name.Mnemonic().isNull());
     EXPECT_EQ(name.Seen(), Shivaji01::ToUnicode(u"&aanaoSvar"));
-    EXPECT_TRUE(name.Seen().startsWith(Q("ज्ञ")));
+    EXPECT_TRUE(name.Seen().startsWith("ज्ञ"));
 }
 
 TEST_F(LooksTest, ANameInALabelKeepsAllItsLetters)
 {
-    AtDesk([](Desk& desk) { desk.lblTitle.SetText(Q("&aanaoSvar")); },
+    AtDesk([](Desk& desk) { desk.lblTitle.SetText("&aanaoSvar"); },
         [&](Desk& desk) {
             EXPECT_EQ(desk.lblTitle.Shown().Text().toStdString(), "&aanaoSvar");
-            EXPECT_TRUE(static_cast<QLabel*>(desk.lblTitle.Widget())->text().startsWith(Q("ज्ञ")));
-            Do([&] { desk.lblTitle.SetFigure(Q("<b>1.50</b>")); });
+            EXPECT_TRUE(static_cast<QLabel*>(desk.lblTitle.Widget())->text().startsWith("ज्ञ"));
+            Do([&] { desk.lblTitle.SetFigure("<b>1.50</b>"); });
             EXPECT_EQ(static_cast<QLabel*>(desk.lblTitle.Widget())->textFormat(), Qt::PlainText);
         });
 }

@@ -9,7 +9,7 @@ struct Guard {
 
 [[noreturn]] void Break()
 {
-    throw RunTimeError(RunTimeError::DatabaseFailure, Q("The statement failed."), Q("delete from T"));
+    throw RunTimeError(RunTimeError::DatabaseFailure, "The statement failed.", "delete from T");
 }
 
 class ModalStackTest : public FormsTest {
@@ -129,7 +129,7 @@ TEST_F(ModalStackTest, AFailureInLostFocusEntersNothing)
 
 TEST_F(ModalStackTest, AFailureInAClickByTheMouseEndsTheProgram)
 {
-    Open<Desk>([&](Desk& desk) { desk.Also("!cmdGo", Break); }, [&](Desk&) { TheClerk.Press(Q("cmdGo")); });
+    Open<Desk>([&](Desk& desk) { desk.Also("!cmdGo", Break); }, [&](Desk&) { TheClerk.Press("cmdGo"); });
     ExpectBroken();
 }
 
@@ -158,7 +158,7 @@ TEST_F(ModalStackTest, NoKeyThatWasSentIsTypedAfterAFailure)
     Open<Desk>(
         [&](Desk& desk) {
             desk.Also("F2", [] {
-                SendKeys(Q("{TAB}"));
+                SendKeys("{TAB}");
                 Break();
             });
             desk.Also("-txtA", [&] { told = "left"; });
@@ -178,7 +178,7 @@ TEST_F(ModalStackTest, TheFirstFailureIsTheOneThatIsTold)
                 try {
                     notice.ShowModal();
                 } catch (const RunTimeError&) {
-                    throw RunTimeError(RunTimeError::Overflow, Q("Later."));
+                    throw RunTimeError(RunTimeError::Overflow, "Later.");
                 }
             });
         },

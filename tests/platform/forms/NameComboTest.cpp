@@ -11,7 +11,7 @@ protected:
     static std::unique_ptr<NameCombo> Make(Screen* screen)
     {
         auto combo = std::make_unique<NameCombo>(screen, "ComboMemberName");
-        combo->SetItems({Q("rama"), Q("sakaarama"), Q("svaatI"), Q("svaatI"), Q("ikSaaor")});
+        combo->SetItems({"rama", "sakaarama", "svaatI", "svaatI", "ikSaaor"});
         return combo;
     }
 
@@ -113,8 +113,8 @@ TEST_F(NameComboTest, NamesOfAnotherSpellingMatchByWhatTheyRead)
 {
     WithNames([&](NameCombo& combo) {
         Do([&] {
-            combo.SetItems({Q("Ad"), Q("अ\xE0\xA5\x85ड. kdma"), Q("अ\xE2\x80\x8D\xE0\xA5\x85ड. paaTIla"),
-                Q("ramaa"), Q("rama  paaTIla")});
+            combo.SetItems({"Ad", "अ\xE0\xA5\x85ड. kdma", "अ\xE2\x80\x8D\xE0\xA5\x85ड. paaTIla", "ramaa",
+                "rama  paaTIla"});
         });
         Type("%{Down}");
         Compose("ॲड");
@@ -201,8 +201,8 @@ TEST_F(NameComboTest, NamesAreAddedOneByOne)
     WithNames([&](NameCombo& combo) {
         Do([&] {
             combo.ClearItems();
-            combo.AddNames({{Q("yamaunaa"), {}}});
-            combo.AddNames({{Q("gaMgaa"), {}}});
+            combo.AddNames({{"yamaunaa", {}}});
+            combo.AddNames({{"gaMgaa", {}}});
         });
         Type("{Down}{Down}");
         EXPECT_EQ(Text(combo), "yamaunaa");
@@ -213,7 +213,7 @@ TEST_F(NameComboTest, NamesAreAddedOneByOne)
 TEST_F(NameComboTest, ANameThatReadsTheSameComesBeforeOneThatOnlyBeginsSo)
 {
     WithNames([&](NameCombo& combo) {
-        Do([&] { combo.SetItems({Q("maarutI paaTIla"), Q("maa$tI")}); });
+        Do([&] { combo.SetItems({"maarutI paaTIla", "maa$tI"}); });
         Type("maarutI");
         Do([&] { combo.TakeMatch(); });
         EXPECT_EQ(Text(combo), "maa$tI");
@@ -318,9 +318,9 @@ TEST_F(NameComboTest, EscClosesTheListAndNothingElse)
 std::unique_ptr<NameCombo> Village(Screen* screen)
 {
     auto combo = std::make_unique<NameCombo>(screen, "ComboMemberName");
-    combo->SetNames({{Q("AaSaa"), Q("9")}, {Q("gaMgaa"), Q("4")}, {Q("kmala"), Q("2")},
-        {Q("ikSaaor"), Q("5")}, {Q("saunaIta"), Q("30")}, {Q("saunaIta"), Q("7")}, {Q("saunaIta"), Q("12")},
-        {Q("sauroSa"), Q("3")}, {Q("saIta"), Q("1")}, {Q("rama"), Q("8")}, {Q("ima`"), Q("6")}});
+    combo->SetNames({{"AaSaa", "9"}, {"gaMgaa", "4"}, {"kmala", "2"}, {"ikSaaor", "5"}, {"saunaIta", "30"},
+        {"saunaIta", "7"}, {"saunaIta", "12"}, {"sauroSa", "3"}, {"saIta", "1"}, {"rama", "8"},
+        {"ima`", "6"}});
     return combo;
 }
 
@@ -332,8 +332,8 @@ TEST_F(NameComboTest, TheListIsInTheOrderOfTheAlphabetAsItIsRead)
         for (int row = 0; row < rows.rowCount(); ++row)
             shown += rows.index(row, 0).data().toString().toStdString() + " ";
         EXPECT_EQ(shown, "आशा कमल किशोर गंगा म्रि राम सीता सुनीता सुनीता सुनीता सुरेश ");
-        EXPECT_EQ(combo.Items().first(), Q("AaSaa")) << "what was given stays as it was given";
-        EXPECT_EQ(combo.Items()[3], Q("ikSaaor"));
+        EXPECT_EQ(combo.Items().first(), "AaSaa") << "what was given stays as it was given";
+        EXPECT_EQ(combo.Items()[3], "ikSaaor");
     });
 }
 
@@ -355,7 +355,7 @@ TEST_F(NameComboTest, OfPeopleOfOneNameTheNumberOfTheRowIsMeant)
         Type("{ENTER}");
         EXPECT_EQ(Text(combo), "saunaIta");
         EXPECT_EQ(meant(), "12 ");
-        Do([&] { combo.SetText(Q("saunaIta")); });
+        Do([&] { combo.SetText("saunaIta"); });
         EXPECT_EQ(meant(), "7 12 30 ");
     });
 }
@@ -369,13 +369,13 @@ TEST_F(NameComboTest, SomebodyShownByHisNumberIsTheOneThatIsMeant)
             EXPECT_EQ(Text(combo), "saunaIta");
             EXPECT_EQ(Row(combo), row);
         };
-        Do([&] { combo.SetEntry({Q("saunaIta"), Q("12")}); });
+        Do([&] { combo.SetEntry({"saunaIta", "12"}); });
         expect("12", 8);
         Type("%{Down}");
         expect("12", 8);
-        Do([&] { combo.SetEntry({Q("saunaIta"), Q("30")}); });
+        Do([&] { combo.SetEntry({"saunaIta", "30"}); });
         expect("30", 9);
-        Do([&] { combo.SetNames({{Q("rama"), Q("8")}, {Q("saunaIta"), Q("30")}, {Q("saunaIta"), Q("7")}}); });
+        Do([&] { combo.SetNames({{"rama", "8"}, {"saunaIta", "30"}, {"saunaIta", "7"}}); });
         expect("30", 2);
         Type("{ENTER}");
         expect("30", 2);
@@ -394,13 +394,13 @@ TEST_F(NameComboTest, OnePersonIsShownOnceHoweverOftenAdded)
 TEST_F(NameComboTest, AWordPutFirstStandsAheadOfTheNamesUntilTheyAreSetAgain)
 {
     WithNames([&](NameCombo& combo) {
-        const std::vector<NameCombo::Entry> names{{Q("yamaunaa"), Q("2")}, {Q("gaMgaa"), Q("1")}};
+        const std::vector<NameCombo::Entry> names{{"yamaunaa", "2"}, {"gaMgaa", "1"}};
         for (int time = 0; time < 2; ++time) {
             Do([&] {
                 combo.SetNames(names);
-                combo.PutFirst(Q("raoK"));
+                combo.PutFirst("raoK");
             });
-            EXPECT_EQ(combo.Items(), (QStringList{Q("raoK"), Q("yamaunaa"), Q("gaMgaa")}));
+            EXPECT_EQ(combo.Items(), (QStringList{"raoK", "yamaunaa", "gaMgaa"}));
             EXPECT_EQ(List(combo).model()->rowCount(), 3);
         }
         Type("{Down}");
@@ -455,7 +455,7 @@ TEST_F(NameComboTest, TheNumberStandsAtTheEdgeOfItsRow)
             return ink;
         };
         EXPECT_GT(edge(), 0);
-        Do([&] { combo.SetItems({Q("AaSaa"), Q("kmala")}); });
+        Do([&] { combo.SetItems({"AaSaa", "kmala"}); });
         EXPECT_EQ(edge(), 0);
     });
 }

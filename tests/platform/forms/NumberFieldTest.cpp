@@ -178,7 +178,7 @@ TEST_F(NumberFieldTest, AThousandFiguresAreHeld)
 TEST_F(NumberFieldTest, TheTextIsSetAsItIsAndStandsAtTheRight)
 {
     With(Decimals, [&](NumberField& field) {
-        Do([&] { field.SetText(Q("24.350")); });
+        Do([&] { field.SetText("24.350"); });
         EXPECT_EQ(Text(field), "24.350");
         EXPECT_EQ(Seen(field), "24.350");
         EXPECT_TRUE(Line(field).alignment().testFlag(Qt::AlignRight));
@@ -190,7 +190,7 @@ protected:
     static std::unique_ptr<ChoiceField> Animal(Screen* screen)
     {
         return std::make_unique<ChoiceField>(screen, "txtAnimal",
-            std::vector<ChoiceField::Choice>{{u'1', Q("gaaya")}, {u'2', Q("mhOsa")}, {u'3', Q("daonhI")}});
+            std::vector<ChoiceField::Choice>{{u'1', "gaaya"}, {u'2', "mhOsa"}, {u'3', "daonhI"}});
     }
 };
 
@@ -249,7 +249,7 @@ TEST_F(ChoiceFieldTest, EnterTabAndShiftTabPass)
 TEST_F(ChoiceFieldTest, AWordThatIsNoChoiceCanBeSetByTheScreen)
 {
     With(Animal, [&](ChoiceField& field) {
-        Do([&] { field.SetText(Q("roKD")); });
+        Do([&] { field.SetText("roKD"); });
         EXPECT_EQ(Text(field), "roKD");
     });
 }
@@ -277,7 +277,7 @@ TEST_F(PlainFieldTest, EveryChangeByTheClerkIsToldAndNoneByTheScreen)
         Compose("w");
         EXPECT_EQ(Text(field), "axyzw");
         EXPECT_EQ(changes, 7);
-        Do([&] { field.SetText(Q("new")); });
+        Do([&] { field.SetText("new"); });
         EXPECT_EQ(changes, 7);
     });
 }
@@ -294,7 +294,7 @@ TEST_F(NumberFieldTest, APressOfTheMouseSelectsItAllAndItsMovesChangeNothing)
 {
     With(Decimals, [&](NumberField& field) {
         for (const char* before : {"{TAB}", "", "{Home}"}) {
-            Do([&] { field.SetText(Q("12.5")); });
+            Do([&] { field.SetText("12.5"); });
             Type(before);
             Do([&] {
                 QLineEdit& line = Line(field);

@@ -152,9 +152,9 @@ TEST_F(OptionButtonTest, TheMouseChoosesItAndAClickOnTheChosenOneLeavesItChosen)
 TEST_F(OptionButtonTest, ItsCaptionShowsTheLetterOfItsKeyAndAFigureOnlyOnce)
 {
     AtOptions([](OptionScreen& screen) {
-        EXPECT_EQ(screen.Radio(screen.OptionMorning).text(), Q("सकाळ  (S)"));
-        EXPECT_EQ(screen.Radio(screen.OptionBoth).text(), Q("३ दोन्ही"));
-        EXPECT_EQ(screen.Radio(screen.OptionMorning).accessibleName(), Q("सकाळ"));
+        EXPECT_EQ(screen.Radio(screen.OptionMorning).text(), "सकाळ  (S)");
+        EXPECT_EQ(screen.Radio(screen.OptionBoth).text(), "३ दोन्ही");
+        EXPECT_EQ(screen.Radio(screen.OptionMorning).accessibleName(), "सकाळ");
     });
 }
 

@@ -81,7 +81,7 @@ TEST_F(PaintingTest, KeysThatComeMeanwhileAreTypedAfterTheHandlerInTheirOrder)
         Type("%s");
         EXPECT_EQ(during, "");
         EXPECT_EQ(FocusName(), "txtB");
-        EXPECT_EQ(desk.txtB.Text(), Q("123")) << "into whoever holds the focus then";
+        EXPECT_EQ(desk.txtB.Text(), "123") << "into whoever holds the focus then";
     });
 }
 

@@ -60,7 +60,7 @@ TEST_F(PanelTest, WhatIsShownIsSeenAndEntered)
         EXPECT_TRUE(screen.lblInside.Widget()->isVisible());
         Type("{TAB}x");
         EXPECT_EQ(FocusName(), "txtInside");
-        EXPECT_EQ(screen.txtInside.Text(), Q("x"));
+        EXPECT_EQ(screen.txtInside.Text(), "x");
     });
 }
 

@@ -60,7 +60,7 @@ TEST_F(ProgramWindowTest, ACardStandsInTheMiddleOverTheShadedScreenBeneath)
 {
     OverACard([&](Desk& desk) {
         const Screen& card = TheClerk.Top();
-        EXPECT_EQ(card.Name(), Q("Card"));
+        EXPECT_EQ(card.Name(), "Card");
         EXPECT_EQ(card.width(), 300);
         EXPECT_LE(std::abs((card.geometry().center() - Window().rect().center()).manhattanLength()), 2);
         EXPECT_EQ(At({5, 5})->parentWidget(), &Window()) << "the shade lies over the screen beneath";
@@ -100,11 +100,11 @@ TEST_F(ProgramWindowTest, ACardGrowsWithWhatItShows)
 TEST_F(ProgramWindowTest, ItBearsTheTitleOfTheScreenOnTop)
 {
     OverACard([&](Desk& desk) {
-        EXPECT_EQ(Window().windowTitle(), Q("कार्ड"));
+        EXPECT_EQ(Window().windowTitle(), "कार्ड");
         Do([&] { TheClerk.Top().SetTitle(Plain(u"दुसरे")); });
-        EXPECT_EQ(Window().windowTitle(), Q("दुसरे"));
+        EXPECT_EQ(Window().windowTitle(), "दुसरे");
         Type("{ESC}");
-        EXPECT_EQ(Window().windowTitle(), Q("टेबल"));
+        EXPECT_EQ(Window().windowTitle(), "टेबल");
         EXPECT_EQ(&desk, &TheClerk.Top());
     });
 }
@@ -135,9 +135,9 @@ TEST_F(ProgramWindowTest, F11ChangesToTheWholeScreenAndBack)
 TEST_F(ProgramWindowTest, KeysTypedBehindTheOneThatClosesACardReachTheScreenBeneath)
 {
     OverACard([&](Desk& desk) {
-        TheClerk.TypeAhead(Q("{ESC}12{TAB}3"));
-        EXPECT_EQ(desk.txtA.Text(), Q("12"));
-        EXPECT_EQ(desk.txtB.Text(), Q("3"));
+        TheClerk.TypeAhead("{ESC}12{TAB}3");
+        EXPECT_EQ(desk.txtA.Text(), "12");
+        EXPECT_EQ(desk.txtB.Text(), "3");
     });
 }
 
@@ -152,9 +152,9 @@ TEST_F(ProgramWindowTest, KeysTypedBehindTheLastScreensEndReachTheNextOne)
             typed = next.txtNote.Text().toStdString();
         },
         [&](Clerk& clerk) {
-            clerk.TypeAhead(Q("1{ESC}27"));
-            EXPECT_EQ(clerk.Reads(Q("txtNote")), Q("27"));
-            clerk.Type(Q("{ESC}"));
+            clerk.TypeAhead("1{ESC}27");
+            EXPECT_EQ(clerk.Reads("txtNote"), "27");
+            clerk.Type("{ESC}");
         });
     EXPECT_EQ(typed, "27");
 }
@@ -174,9 +174,9 @@ TEST_F(ProgramWindowTest, KeysTypedBehindAScreensEndReachTheCardThatTheNextOneOp
             desk.ShowModal();
         },
         [&](Clerk& clerk) {
-            clerk.TypeAhead(Q("1{ESC}27{ESC}3{TAB}4"));
-            EXPECT_EQ(clerk.Reads(Q("txtA")), Q("3"));
-            EXPECT_EQ(clerk.Reads(Q("txtB")), Q("4"));
+            clerk.TypeAhead("1{ESC}27{ESC}3{TAB}4");
+            EXPECT_EQ(clerk.Reads("txtA"), "3");
+            EXPECT_EQ(clerk.Reads("txtB"), "4");
         });
     EXPECT_EQ(typed, "27");
 }
@@ -192,10 +192,10 @@ TEST_F(ProgramWindowTest, WhatIsForgottenOfTheKeysTypedAheadReachesNobody)
         },
         [&](Desk& desk) {
             Type("{F2}");
-            TheClerk.TypeAhead(Q("{ESC}12"));
+            TheClerk.TypeAhead("{ESC}12");
             EXPECT_EQ(desk.txtA.Text(), QString());
             Type("7");
-            EXPECT_EQ(desk.txtA.Text(), Q("7"));
+            EXPECT_EQ(desk.txtA.Text(), "7");
         });
 }
 
@@ -204,10 +204,10 @@ TEST_F(ProgramWindowTest, AKeyThatMeetsNoControlIsTheScreensOnTop)
     Open<Desk>([](Desk&) {},
         [&](Desk& desk) {
             Do([] {
-                QKeyEvent press(QEvent::KeyPress, Qt::Key_4, Qt::NoModifier, Q("4"));
+                QKeyEvent press(QEvent::KeyPress, Qt::Key_4, Qt::NoModifier, "4");
                 QCoreApplication::sendEvent(&Window(), &press);
             });
-            EXPECT_EQ(desk.txtA.Text(), Q("4"));
+            EXPECT_EQ(desk.txtA.Text(), "4");
         });
 }
 

@@ -33,7 +33,7 @@ TEST(ParseKeysTest, LettersAndFiguresAreThemselves)
 {
     EXPECT_EQ(Parsed("aZ7.*"), "A=a Z=Z 7=7 .=. *=*");
     EXPECT_EQ(Parsed(""), "");
-    EXPECT_EQ(Parsed("क"), Written({0x0915, {}, Q("क")}));
+    EXPECT_EQ(Parsed("क"), Written({0x0915, {}, "क"}));
 }
 
 TEST(ParseKeysTest, NamesInAnySpelling)
@@ -75,7 +75,7 @@ TEST_F(SendKeysTest, KeysWaitUntilTheRunningEventHasEnded)
     AtDesk(
         [](Desk& desk) {
             desk.Also("F2", [&] {
-                SendKeys(Q("1{TAB}2"));
+                SendKeys("1{TAB}2");
                 desk.Tell("sent");
             });
         },
@@ -93,10 +93,10 @@ TEST_F(SendKeysTest, TheOrderIsKeptAlsoForWhatTheKeysThemselvesSend)
     AtDesk(
         [](Desk& desk) {
             desk.Also("F2", [] {
-                SendKeys(Q("1{TAB}"));
-                SendKeys(Q("3"));
+                SendKeys("1{TAB}");
+                SendKeys("3");
             });
-            desk.Also("+txtB", [] { SendKeys(Q("4")); });
+            desk.Also("+txtB", [] { SendKeys("4"); });
         },
         [&](Desk& desk) {
             Type("{F2}");
@@ -110,7 +110,7 @@ TEST_F(SendKeysTest, KeysGoToWhoeverHoldsTheFocusThen)
     AtDesk(
         [](Desk& desk) {
             desk.Also("-txtA", [&] {
-                SendKeys(Q("9"));
+                SendKeys("9");
                 desk.txtC.SetFocus();
             });
         },
@@ -123,7 +123,7 @@ TEST_F(SendKeysTest, KeysGoToWhoeverHoldsTheFocusThen)
 
 TEST_F(SendKeysTest, ATabSentWhileLeavingMovesOnFromTheDestination)
 {
-    AtDesk([](Desk& desk) { desk.Also("-txtA", [] { SendKeys(Q("{TAB}")); }); },
+    AtDesk([](Desk& desk) { desk.Also("-txtA", [] { SendKeys("{TAB}"); }); },
         [&](Desk& desk) {
             desk.Happened();
             Type("{ENTER}");
@@ -135,8 +135,8 @@ TEST_F(SendKeysTest, KeysSentInGotFocusEditTheFieldJustEntered)
 {
     AtDesk(
         [](Desk& desk) {
-            desk.txtB.SetText(Q("250"));
-            desk.Also("+txtB", [] { SendKeys(Q("{Home}+{Right}7")); });
+            desk.txtB.SetText("250");
+            desk.Also("+txtB", [] { SendKeys("{Home}+{Right}7"); });
         },
         [&](Desk& desk) {
             Type("{TAB}");
@@ -146,7 +146,7 @@ TEST_F(SendKeysTest, KeysSentInGotFocusEditTheFieldJustEntered)
 
 TEST_F(SendKeysTest, KeysSentWhileLoadingAreTypedWhenTheScreenStands)
 {
-    AtDesk([](Desk& desk) { desk.Also("load", [] { SendKeys(Q("1{TAB}2")); }); },
+    AtDesk([](Desk& desk) { desk.Also("load", [] { SendKeys("1{TAB}2"); }); },
         [&](Desk& desk) {
             EXPECT_EQ(desk.Happened(), "load +txtA shown -txtA +txtB");
             EXPECT_EQ(A(desk), "1");
@@ -159,7 +159,7 @@ TEST_F(SendKeysTest, KeysSentByTheHandlerThatThenOpensADialogWaitForThatHandler)
     AtDesk(
         [](Desk& desk) {
             desk.Also("F2", [] {
-                SendKeys(Q("6"));
+                SendKeys("6");
                 ShowTestNotice();
             });
         },
@@ -168,7 +168,7 @@ TEST_F(SendKeysTest, KeysSentByTheHandlerThatThenOpensADialogWaitForThatHandler)
             EXPECT_EQ(ScreenName(), "Notice");
             EXPECT_EQ(A(desk), "");
             Type("{TAB}8");
-            EXPECT_EQ(TheClerk.Reads(Q("txtNote")).toStdString(), "8");
+            EXPECT_EQ(TheClerk.Reads("txtNote").toStdString(), "8");
             Type("{TAB}{ENTER}");
             EXPECT_EQ(A(desk), "6");
         });
@@ -179,8 +179,8 @@ TEST_F(SendKeysTest, KeysSentInADialogAreTypedThere)
     AtDesk([](Desk& desk) { desk.Also("F2", ShowTestNotice); },
         [&](Desk& desk) {
             Type("{F2}");
-            Do([] { SendKeys(Q("{TAB}42")); });
-            EXPECT_EQ(TheClerk.Reads(Q("txtNote")).toStdString(), "42");
+            Do([] { SendKeys("{TAB}42"); });
+            EXPECT_EQ(TheClerk.Reads("txtNote").toStdString(), "42");
             EXPECT_EQ(A(desk), "");
         });
 }
@@ -190,7 +190,7 @@ TEST_F(SendKeysTest, WhatADialogLeavesUntypedGoesToTheScreenBelow)
     AtDesk([](Desk& desk) { desk.Also("F2", ShowTestNotice); },
         [&](Desk& desk) {
             Type("{F2}");
-            Do([] { SendKeys(Q("{ENTER}42")); });
+            Do([] { SendKeys("{ENTER}42"); });
             EXPECT_EQ(ScreenName(), "Desk");
             EXPECT_EQ(A(desk), "42");
         });
@@ -198,18 +198,18 @@ TEST_F(SendKeysTest, WhatADialogLeavesUntypedGoesToTheScreenBelow)
 
 TEST_F(SendKeysTest, KeysForAScreenThatClosesAndForNobodyAreLost)
 {
-    AtDesk([](Desk& desk) { desk.Also("F2", [] { SendKeys(Q("{ESC}1")); }); },
+    AtDesk([](Desk& desk) { desk.Also("F2", [] { SendKeys("{ESC}1"); }); },
         [&](Desk&) {
             Type("{F2}");
             EXPECT_EQ(ScreenName(), "");
-            Do([] { SendKeys(Q("2")); });
+            Do([] { SendKeys("2"); });
         });
     Open<Desk>([](Desk&) {}, [&](Desk& desk) { EXPECT_EQ(A(desk), ""); });
 }
 
 TEST_F(SendKeysTest, AltAndALetterInBracesPressTheButton)
 {
-    AtDesk([](Desk& desk) { desk.Also("F2", [] { SendKeys(Q("%{S}")); }); },
+    AtDesk([](Desk& desk) { desk.Also("F2", [] { SendKeys("%{S}"); }); },
         [&](Desk& desk) {
             desk.Happened();
             Type("{F2}");
@@ -223,10 +223,10 @@ TEST_F(SendKeysTest, AltDownOpensTheListOfAComboJustEntered)
     public:
         ComboScreen() : Screen("Combo")
         {
-            ComboName.SetItems({Q("rama"), Q("sauroSa")});
+            ComboName.SetItems({"rama", "sauroSa"});
             // Asked for twice, as a field does that refuses and is then entered anew.
-            ComboName.GotFocus = [] { SendKeys(Q("%{Down}")); };
-            txtNo.LostFocus = [] { SendKeys(Q("%{Down}")); };
+            ComboName.GotFocus = [] { SendKeys("%{Down}"); };
+            txtNo.LostFocus = [] { SendKeys("%{Down}"); };
         }
         NumberField txtNo{this, "txtNo", NumberField::Digits::Whole};
         NameCombo ComboName{this, "ComboName"};

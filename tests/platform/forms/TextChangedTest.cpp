@@ -31,11 +31,7 @@ class TextChangedTest : public FormsTest {
 protected:
     void With(const std::function<void(ChangeScreen&)>& script)
     {
-        Open<ChangeScreen>(
-            [](ChangeScreen& screen) {
-                screen.cmbName.SetItems({Q("rama"), Q("saIta")});
-            },
-            script);
+        Open<ChangeScreen>([](ChangeScreen& screen) { screen.cmbName.SetItems({"rama", "saIta"}); }, script);
         EXPECT_FALSE(Failure);
     }
 
@@ -88,11 +84,11 @@ TEST_F(TextChangedTest, TheScreensOwnChangesAreToldAndTheSameTextIsNone)
     With([&](ChangeScreen& screen) {
         Do([&] {
             for (int twice = 0; twice < 2; ++twice) {
-                screen.txtNumber.SetText(Q("7"));
-                screen.txtChoice.SetText(Q("mhOsa"));
-                screen.cmbName.SetText(Q("rama"));
-                screen.maskDate.SetText(Q("01/04/2026"));
-                screen.txtPlain.SetText(Q("x"));
+                screen.txtNumber.SetText("7");
+                screen.txtChoice.SetText("mhOsa");
+                screen.cmbName.SetText("rama");
+                screen.maskDate.SetText("01/04/2026");
+                screen.txtPlain.SetText("x");
             }
         });
         EXPECT_EQ(Told(screen), "7;mhOsa;rama;01/04/2026;x;");
@@ -109,7 +105,7 @@ TEST_F(TextChangedTest, AFailureInItEndsTheScreen)
 {
     Open<ChangeScreen>(
         [](ChangeScreen& screen) {
-            screen.txtNumber.TextChanged = [] { throw RunTimeError(RunTimeError::Overflow, Q("too much")); };
+            screen.txtNumber.TextChanged = [] { throw RunTimeError(RunTimeError::Overflow, "too much"); };
         },
         [&](ChangeScreen&) { Type("4"); });
     EXPECT_TRUE(Failure);

@@ -120,7 +120,7 @@ TEST_F(TextFieldTest, BackspaceEmptiesAnyNameAndSeesLessEachTime)
 TEST_F(TextFieldTest, LeftAndRightGoBySyllables)
 {
     WithText([&](TextField& field) {
-        Do([&] { field.SetText(Q("saMQyaakaL")); }); // सं ध्या का ळ
+        Do([&] { field.SetText("saMQyaakaL"); }); // सं ध्या का ळ
         EXPECT_EQ(Walk(field, "{Left}", 5), (std::vector{8, 6, 2, 0, 0}));
         EXPECT_EQ(Walk(field, "{Right}", 5), (std::vector{2, 6, 8, 9, 9}));
         EXPECT_EQ(Walk(field, "{Home}", 1), (std::vector{0}));
@@ -131,7 +131,7 @@ TEST_F(TextFieldTest, LeftAndRightGoBySyllables)
 TEST_F(TextFieldTest, ASyllableWhoseSignIsTypedFirstIsOneStep)
 {
     WithText([&](TextField& field) {
-        Do([&] { field.SetText(Q("ikma")); });
+        Do([&] { field.SetText("ikma"); });
         EXPECT_EQ(Walk(field, "{Left}", 2), (std::vector{2, 0}));
     });
 }
@@ -283,7 +283,7 @@ TEST_F(TextFieldTest, AFieldEnteredAnewGoesOnAsWasWrittenLast)
         EXPECT_EQ(After(field, "gaaoDbaaolao", "{End}{(}"), "gaaoDbaaolao(")
             << "keys of the old layout at first";
         Compose("राम");
-        Do([&] { field.SetText(Q("gaaoDbaaolao")); });
+        Do([&] { field.SetText("gaaoDbaaolao"); });
         EnterAnew();
         Type("{End}-");
         Compose("पाटील");
@@ -522,7 +522,7 @@ TEST_F(TextFieldTest, ChangesByTheClerkAreToldAndNoneByTheScreen)
         Do([&] { field.Change = [&] { ++changes; }; });
         Type("ga{Left}{Right}{BS}");
         EXPECT_EQ(changes, 3);
-        Do([&] { field.SetText(Q("rama")); });
+        Do([&] { field.SetText("rama"); });
         EXPECT_EQ(changes, 3);
     });
 }
@@ -530,7 +530,7 @@ TEST_F(TextFieldTest, ChangesByTheClerkAreToldAndNoneByTheScreen)
 TEST_F(TextFieldTest, TheMouseSetsTheCaretBetweenSyllables)
 {
     WithText([&](TextField& field) {
-        Do([&] { field.SetText(Q("saMQyaakaL")); });
+        Do([&] { field.SetText("saMQyaakaL"); });
         ClickBehind(field, 2);
         EXPECT_EQ(After(field, "saMQyaakaL", ""), "saMQyaakaL");
         ClickBehind(field, 3);
@@ -573,14 +573,14 @@ TEST_F(TextFieldTest, TheFirstPressOfTheMouseSelectsItAllAndTheNextSetsTheCaret)
 {
     WithText([&](TextField& field) {
         for (const char* before : {"{TAB}", "{TAB}+{TAB}{Home}"}) {
-            Do([&] { field.SetText(Q("rama")); });
+            Do([&] { field.SetText("rama"); });
             Type(before);
-            TheClerk.Press(Q("txtMemberName"));
+            TheClerk.Press("txtMemberName");
             EXPECT_EQ(Selected(field), "राम") << "after " << before;
-            TheClerk.Press(Q("txtMemberName"));
+            TheClerk.Press("txtMemberName");
             EXPECT_EQ(Selected(field), "") << "after " << before;
-            TheClerk.Press(Q("next"));
-            TheClerk.Press(Q("txtMemberName"));
+            TheClerk.Press("next");
+            TheClerk.Press("txtMemberName");
             Type("k");
             EXPECT_EQ(Text(field), "k") << "after " << before;
         }

@@ -56,7 +56,7 @@ TEST_F(WantedTest, AWishThatGivesWayToAnotherFieldIsForgotten)
         Type("5{ENTER}{ENTER}");
         EXPECT_EQ(FocusName(), "txtC");
         EXPECT_EQ(Guide(desk), "");
-        TheClerk.Press(Q("txtA"));
+        TheClerk.Press("txtA");
         EXPECT_EQ(Guide(desk), "guide");
     });
 }

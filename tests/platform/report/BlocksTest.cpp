@@ -7,7 +7,7 @@ namespace {
 // Blocks: their frames and heights, what stands at their bottom, and which rows they are made for.
 class BlocksTest : public ReportTest {
 protected:
-    void AddRows(int from, int to, const QString& group = QStringLiteral("A"))
+    void AddRows(int from, int to, const QString& group = "A")
     {
         for (int i = from; i <= to; ++i)
             Run(Sql(u"insert into MilkCollectionsTemp(CollectionNo,MemberNo,CollectionTime,Liters) values(",
@@ -15,7 +15,7 @@ protected:
     }
 
     std::unique_ptr<Report> Whole(
-        const QString& elements, const QString& sheet = QStringLiteral("paper=\"100x80mm\" margin=\"5\""))
+        const QString& elements, const QString& sheet = "paper=\"100x80mm\" margin=\"5\"")
     {
         std::unique_ptr<Report> report = Make(Template(elements, sheet));
         report->Complete();
@@ -125,9 +125,9 @@ TEST_F(BlocksTest, TheBottomsOfBlocksEndAtOneHeight)
 TEST_F(BlocksTest, TheBottomsOfTablesThatGoOnOverPagesEndAtOneHeight)
 {
     const QString element =
-        QStringLiteral("<text>वर</text><columns><column><table source=\"c\"><col>{CollectionNo}</col></table>"
-                       "<bottom><rule/><text>सही</text><text>क</text></bottom></column><column><text>ब</text>"
-                       "<bottom><text>एकूण</text></bottom></column></columns><text>खाली</text>");
+        "<text>वर</text><columns><column><table source=\"c\"><col>{CollectionNo}</col></table>"
+        "<bottom><rule/><text>सही</text><text>क</text></bottom></column><column><text>ब</text>"
+        "<bottom><text>एकूण</text></bottom></column></columns><text>खाली</text>";
     for (int rows = 1; rows <= 40; ++rows) {
         Run("delete * from MilkCollectionsTemp");
         AddRows(1, rows);

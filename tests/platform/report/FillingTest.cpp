@@ -62,10 +62,8 @@ TEST_F(FillingTest, AFieldOfALinkedSourceIsThatOfItsFirstRow)
     AddDelivery(3, Morning, "कमल", 3, 4, 90);
     RunSeen("insert into MembersMaster(MemberNo,City,PaymentType) values(1,'[कोल्हापूर]','[रोख]')");
     RunSeen("insert into MembersMaster(MemberNo,City,PaymentType) values(2,'[सांगली]','[बँक]')");
-    const QString source =
-        QStringLiteral("<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\"/>");
-    EXPECT_EQ(Joined(Template(
-                  source + QStringLiteral("<table source=\"c\"><col>{MemberNo} {m.City}</col></table>"))),
+    const QString source = "<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\"/>";
+    EXPECT_EQ(Joined(Template(source + "<table source=\"c\"><col>{MemberNo} {m.City}</col></table>")),
         "1 कोल्हापूर | 2 सांगली | 3 ");
     EXPECT_EQ(Joined(Template(source
                   + QStringLiteral(
@@ -265,13 +263,11 @@ TEST_F(FillingTest, AColumnOfAViewWithoutATypeIsTakenAsItIsStored)
     AddDelivery(2, Morning, "बाबू", 12.5, 4, 60);
     connection->RunScript("create view Reckoned as select CollectionNo, Liters + 0 as Twice, "
                           "MemberName || '' as Named from MilkCollectionsTemp");
-    const QString view =
-        QStringLiteral("<source name=\"v\" table=\"Reckoned\" order=\"CollectionNo desc\"/>");
-    EXPECT_EQ(
-        Joined(Template(view
-            + QStringLiteral("<text>{v.Twice} {v.Named} {v.Twice|0.00}</text>"
-                             "<text if=\"v.Twice &gt; 9\">जास्त</text><text if=\"v.Twice &lt; 9\">कमी</text>"
-                             "<text>{min(v.Twice)} {max(v.Twice)} {sum(v.Twice)}</text>"
-                             "<each source=\"v\" only=\"v.Twice &lt; 10\"><text>{v.Twice}</text></each>"))),
+    const QString view = "<source name=\"v\" table=\"Reckoned\" order=\"CollectionNo desc\"/>";
+    EXPECT_EQ(Joined(Template(view
+                  + "<text>{v.Twice} {v.Named} {v.Twice|0.00}</text>"
+                    "<text if=\"v.Twice &gt; 9\">जास्त</text><text if=\"v.Twice &lt; 9\">कमी</text>"
+                    "<text>{min(v.Twice)} {max(v.Twice)} {sum(v.Twice)}</text>"
+                    "<each source=\"v\" only=\"v.Twice &lt; 10\"><text>{v.Twice}</text></each>")),
         "12.5 बाबू 12.50 | जास्त | 9.5 12.5 22 | 9.5");
 }

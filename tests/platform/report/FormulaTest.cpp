@@ -21,9 +21,8 @@ protected:
     {
         const Selection selection = ReadSelectionFormula(formula, *connection);
         QStringList members;
-        Recordset rows(*connection,
-            QStringLiteral("select MemberNo from ") + selection.table + QStringLiteral(" where ")
-                + selection.condition);
+        Recordset rows(
+            *connection, "select MemberNo from " + selection.table + " where " + selection.condition);
         for (; !rows.Eof(); rows.MoveNext())
             members.append(rows.At(0).Text());
         return members.join(u',');
@@ -123,9 +122,9 @@ TEST_F(FormulaTest, WordsMayStandInCapitals)
 
 TEST_F(FormulaTest, OnlyAFieldIsComparedAndOnlyWithAValue)
 {
-    const QString noValue = QStringLiteral("a number, a text or a date is missing.");
-    const QString noField = QStringLiteral("a field such as {Table.Column} is missing.");
-    const QString noComparison = QStringLiteral("a comparison is missing.");
+    const QString noValue = "a number, a text or a date is missing.";
+    const QString noField = "a field such as {Table.Column} is missing.";
+    const QString noComparison = "a comparison is missing.";
     const std::pair<const char*, QString> refused[] = {
         {"{MilkPayments.MemberNo} = {MilkPayments.NetAmount}", noValue},
         {"{MilkPayments.MemberNo} = 1 + 1", noValue}, {"{MilkPayments.MemberNo} = $year", noValue},

@@ -4,12 +4,12 @@
 
 namespace {
 
-const QString Small = QStringLiteral("paper=\"100x80mm\" margin=\"5\"");
+const QString Small = "paper=\"100x80mm\" margin=\"5\"";
 
 // Blocks side by side, and what is never torn.
 class LanesTest : public ReportTest {
 protected:
-    void AddRows(int from, int to, const QString& group = QStringLiteral("A"))
+    void AddRows(int from, int to, const QString& group = "A")
     {
         for (int i = from; i <= to; ++i)
             Run(Sql(u"insert into MilkCollectionsTemp(CollectionNo,MemberNo,CollectionTime,Liters) values(",
@@ -35,36 +35,34 @@ protected:
 
     static QString InColumn(const QString& elements)
     {
-        return QStringLiteral("<columns><column>") + elements
-            + QStringLiteral("</column><column w=\"10\"/></columns>");
+        return "<columns><column>" + elements + "</column><column w=\"10\"/></columns>";
     }
 
     static QString Table(const QString& inside)
     {
-        return QStringLiteral("<table source=\"c\"><col w=\"30\">{CollectionNo}</col>") + inside
-            + QStringLiteral("</table>");
+        return "<table source=\"c\"><col w=\"30\">{CollectionNo}</col>" + inside + "</table>";
     }
 
     // The most rows that stand on a page behind a text.
     int RowsOfAPage()
     {
         AddRows(1, 60);
-        const QString first = Pages(QStringLiteral("<text>अ</text>") + InColumn(Table({}))).value(0);
+        const QString first = Pages("<text>अ</text>" + InColumn(Table({}))).value(0);
         Run("delete * from MilkCollectionsTemp");
         return static_cast<int>(first.split(u' ').size()) - 1;
     }
 };
 
 // A chart whose plot, from its scale to its bars, has to be on one page.
-const QString Chart = QStringLiteral("<chart source=\"c\" kind=\"bar\" x=\"{MemberNo}\" h=\"%1\">"
-                                     "<series label=\"लिटर\" value=\"Liters\"/></chart>");
+const QString Chart = "<chart source=\"c\" kind=\"bar\" x=\"{MemberNo}\" h=\"%1\">"
+                      "<series label=\"लिटर\" value=\"Liters\"/></chart>";
 
 }
 
 TEST_F(LanesTest, TablesBesideEachOtherBeginBehindTheTextBeforeThem)
 {
     AddRows(1, 60);
-    const QStringList pages = Pages(QStringLiteral("<text>अ</text><text>ब</text>") + InColumn(Table({})));
+    const QStringList pages = Pages("<text>अ</text><text>ब</text>" + InColumn(Table({})));
     ASSERT_GT(pages.size(), 2);
     EXPECT_TRUE(pages[0].startsWith("अ ब 1 2 3 4")) << pages[0].toStdString();
     EXPECT_EQ(pages.join(u' ').split(u' ').size(), 62);
@@ -74,7 +72,7 @@ TEST_F(LanesTest, ATableThatAPageCouldHoldBeginsBehindTheTextBeforeItToo)
 {
     const int rows = RowsOfAPage() + 1;
     AddRows(1, rows);
-    const QStringList pages = Pages(QStringLiteral("<text>अ</text>") + InColumn(Table({})));
+    const QStringList pages = Pages("<text>अ</text>" + InColumn(Table({})));
     ASSERT_EQ(pages.size(), 2);
     EXPECT_TRUE(pages[0].startsWith("अ 1 2 3")) << pages[0].toStdString();
     EXPECT_EQ(pages[1], QString::number(rows));
@@ -82,9 +80,9 @@ TEST_F(LanesTest, ATableThatAPageCouldHoldBeginsBehindTheTextBeforeItToo)
 
 TEST_F(LanesTest, BlocksOfAFewLinesStayTogether)
 {
-    const QString pages = Pages(QStringLiteral("<space h=\"60\"/>")
-        + InColumn("<text>अ</text><text>ब</text><text>क</text><text>ड</text>"))
-                              .join(u'|');
+    const QString pages =
+        Pages("<space h=\"60\"/>" + InColumn("<text>अ</text><text>ब</text><text>क</text><text>ड</text>"))
+            .join(u'|');
     EXPECT_EQ(pages, "|अ ब क ड");
 }
 
@@ -110,7 +108,7 @@ TEST_F(LanesTest, GroupsHoldTheirHeadsAndFeetInAColumn)
         Run("delete * from MilkCollectionsTemp");
         AddRows(1, first);
         AddRows(101, 104, "B");
-        const QStringList pages = Pages(QStringLiteral("<text>अ</text>") + InColumn(table));
+        const QStringList pages = Pages("<text>अ</text>" + InColumn(table));
         const QString all = pages.join(" | ");
         EXPECT_TRUE(all.contains("गट 101 102 103")) << all.toStdString();
         EXPECT_TRUE(all.contains(QStringLiteral("%1 तळ %1").arg(first))) << all.toStdString();
@@ -129,8 +127,8 @@ TEST_F(LanesTest, AKeptRowStaysOnOnePageInAColumn)
 TEST_F(LanesTest, AGroupTallerThanAPageIsBrokenInAColumnAndLosesNothing)
 {
     AddRows(1, 60);
-    const QStringList pages = Pages(QStringLiteral("<text>अ</text>")
-        + InColumn(Table("<group by=\"CollectionTime\" head=\"गट\" keep=\"100\"/>")));
+    const QStringList pages =
+        Pages("<text>अ</text>" + InColumn(Table("<group by=\"CollectionTime\" head=\"गट\" keep=\"100\"/>")));
     EXPECT_GT(pages.size(), 2);
     EXPECT_TRUE(pages[0].startsWith("अ गट 1 2 3")) << pages[0].toStdString();
     EXPECT_EQ(pages.join(u' ').split(u' ').size(), 62);
@@ -157,18 +155,18 @@ TEST_F(LanesTest, NothingGoesOnOverPagesInColumnsOfAColumn)
     const auto fault = [this](const char* element) {
         return OnlyFault(InColumn(InColumn(QLatin1String(element))));
     };
-    const QString end = QStringLiteral(" can't stand in <columns> that stand in a <column>");
-    EXPECT_EQ(fault("<table source=\"c\"><col>a</col></table>"), QStringLiteral("<table>") + end);
-    EXPECT_EQ(fault("<each source=\"c\"><text>a</text></each>"), QStringLiteral("<each>") + end);
-    EXPECT_EQ(fault("<chart source=\"c\" kind=\"bar\" x=\"a\"><series value=\"1\"/></chart>"),
-        QStringLiteral("<chart>") + end);
-    EXPECT_EQ(fault("<pagebreak/>"), QStringLiteral("<pagebreak>") + end);
+    const QString end = " can't stand in <columns> that stand in a <column>";
+    EXPECT_EQ(fault("<table source=\"c\"><col>a</col></table>"), "<table>" + end);
+    EXPECT_EQ(fault("<each source=\"c\"><text>a</text></each>"), "<each>" + end);
+    EXPECT_EQ(
+        fault("<chart source=\"c\" kind=\"bar\" x=\"a\"><series value=\"1\"/></chart>"), "<chart>" + end);
+    EXPECT_EQ(fault("<pagebreak/>"), "<pagebreak>" + end);
     EXPECT_EQ(Faults(Template(InColumn(InColumn("<text>a</text><rule/><space/>")))), QStringList());
 }
 
 TEST_F(LanesTest, NoPageBeginsInAColumn)
 {
-    const QString fault = QStringLiteral("no page can begin in a <column>");
+    const QString fault = "no page can begin in a <column>";
     EXPECT_EQ(OnlyFault(InColumn("<pagebreak/>")), fault);
     EXPECT_EQ(OnlyFault(InColumn("<each source=\"c\" newpage=\"1\"><text>a</text></each>")), fault);
     EXPECT_EQ(OnlyFault(InColumn("<each source=\"c\"><pagebreak/></each>")), fault);
@@ -179,7 +177,7 @@ TEST_F(LanesTest, AChartThatHasNoRoomGoesToTheNextPageWhole)
 {
     AddRows(1, 3);
     for (const QString& chart : {Chart.arg(40), InColumn(Chart.arg(40))}) {
-        const std::unique_ptr<Report> report = Whole(QStringLiteral("<space h=\"40\"/>") + chart);
+        const std::unique_ptr<Report> report = Whole("<space h=\"40\"/>" + chart);
         ASSERT_EQ(report->PageCount(), 2U);
         EXPECT_TRUE(report->PageAt(0).items.empty());
         EXPECT_TRUE(Texts(report->PageAt(1)).contains("लिटर"));
@@ -189,8 +187,8 @@ TEST_F(LanesTest, AChartThatHasNoRoomGoesToTheNextPageWhole)
 TEST_F(LanesTest, AChartIsMadeLowerWhereTheHeadOfThePageIsTallerThanWasReckoned)
 {
     AddRows(1, 3);
-    const QString header = QStringLiteral("<pageheader><text size=\"16\">{$society} {$society} {$society} "
-                                          "{$society}</text></pageheader>");
+    const QString header = "<pageheader><text size=\"16\">{$society} {$society} {$society} "
+                           "{$society}</text></pageheader>";
     for (const QString& chart : {Chart.arg(60), InColumn(Chart.arg(60))}) {
         const std::unique_ptr<Report> report = Whole(header + chart);
         ASSERT_EQ(report->PageCount(), 1U);

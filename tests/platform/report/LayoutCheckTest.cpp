@@ -68,9 +68,8 @@ TEST_F(LayoutCheckTest, AChartHasRoomForItsScaleItsLabelsAndItsLegend)
 
 TEST_F(LayoutCheckTest, HeadAndFootOfThePageLeaveRoomForTheReport)
 {
-    const QString tooTall =
-        QStringLiteral("the head and the foot of the page need %1 mm, and 10.6 mm for the "
-                       "report between them, but there are 277.0 mm");
+    const QString tooTall = "the head and the foot of the page need %1 mm, and 10.6 mm for the "
+                            "report between them, but there are 277.0 mm";
     EXPECT_EQ(
         OnlyFault("<pageheader><space h=\"200\"/><space h=\"200\"/></pageheader>"), tooTall.arg("400.0"));
     EXPECT_EQ(OnlyFault("<pageheader><space h=\"200\"/></pageheader>"
@@ -78,8 +77,8 @@ TEST_F(LayoutCheckTest, HeadAndFootOfThePageLeaveRoomForTheReport)
                         "<column><space h=\"20\"/></column></columns></pagefooter>"),
         tooTall.arg("270.0"));
     const auto texts = [](int count) -> QString {
-        return QStringLiteral("<pageheader>") + QStringLiteral("<text size=\"72\">a</text>").repeated(count)
-            + QStringLiteral("</pageheader>");
+        return "<pageheader>" + QStringLiteral("<text size=\"72\">a</text>").repeated(count)
+            + "</pageheader>";
     };
     EXPECT_EQ(Faults(Template(texts(3))), QStringList());
     EXPECT_TRUE(OnlyFault(texts(12)).startsWith("the head and the foot of the page need "));
@@ -87,8 +86,8 @@ TEST_F(LayoutCheckTest, HeadAndFootOfThePageLeaveRoomForTheReport)
 
 TEST_F(LayoutCheckTest, StripsOfThePageEdgeThatAreThereAtTimesAreReckonedOneByOne)
 {
-    const QString either = QStringLiteral("<pageheader><space h=\"140\" if=\"#page = 1\"/>"
-                                          "<space h=\"140\" if=\"#page &gt; 1\"/></pageheader>");
+    const QString either = "<pageheader><space h=\"140\" if=\"#page = 1\"/>"
+                           "<space h=\"140\" if=\"#page &gt; 1\"/></pageheader>";
     EXPECT_EQ(Faults(Template(either)), QStringList());
     EXPECT_TRUE(OnlyFault("<pageheader><space h=\"140\"/>"
                           "<space h=\"140\" if=\"#page = 1\"/></pageheader>")
@@ -97,9 +96,9 @@ TEST_F(LayoutCheckTest, StripsOfThePageEdgeThatAreThereAtTimesAreReckonedOneByOn
 
 TEST_F(LayoutCheckTest, WhatCannotBreakFitsBetweenHeadAndFootOfThePage)
 {
-    const QString header = QStringLiteral("<pageheader><space h=\"200\"/></pageheader>");
-    EXPECT_EQ(OnlyFault(header + QStringLiteral("<space h=\"80\"/>")), "the space is taller than the page");
-    EXPECT_EQ(Faults(Template(header + QStringLiteral("<space h=\"70\"/>"))), QStringList());
+    const QString header = "<pageheader><space h=\"200\"/></pageheader>";
+    EXPECT_EQ(OnlyFault(header + "<space h=\"80\"/>"), "the space is taller than the page");
+    EXPECT_EQ(Faults(Template(header + "<space h=\"70\"/>")), QStringList());
     EXPECT_EQ(Faults(Template("<text size=\"72\">a</text>", "paper=\"100x22mm\" margin=\"2\"")),
         QStringList({"3: a line of the text is taller than the page"}));
     EXPECT_EQ(OnlyFault("<chart source=\"c\" kind=\"bar\" x=\"{MemberNo}\" h=\"300\">"
@@ -109,9 +108,9 @@ TEST_F(LayoutCheckTest, WhatCannotBreakFitsBetweenHeadAndFootOfThePage)
 
 TEST_F(LayoutCheckTest, TheHeadsOfATableLeaveRoomForARow)
 {
-    const QString table = QStringLiteral("<table source=\"c\"><col w=\"12\" head=\"%1\">{CollectionNo}</col>"
-                                         "<col>{MemberName}</col></table>");
-    const QString fault = QStringLiteral("the head of the table with a row is taller than the page");
+    const QString table = "<table source=\"c\"><col w=\"12\" head=\"%1\">{CollectionNo}</col>"
+                          "<col>{MemberName}</col></table>";
+    const QString fault = "the head of the table with a row is taller than the page";
     const QString tall = table.arg(QStringLiteral("विस्तारित माहिती ").repeated(40));
     EXPECT_EQ(OnlyFault(tall), fault);
     EXPECT_EQ(OnlyFault(QStringLiteral("<columns><column>%1</column></columns>").arg(tall)), fault);
@@ -129,7 +128,7 @@ TEST_F(LayoutCheckTest, TheExamplesOfTheManualHaveNoFaultsAndThoseThatAreShipped
     for (const QString& part : parts) {
         const QString example = part.section("```", 0, 0);
         EXPECT_EQ(Faults(example, example.section(u'"', 1, 1)), QStringList());
-        const QString name = example.section(u'"', 1, 1) + QStringLiteral(".rpt");
+        const QString name = example.section(u'"', 1, 1) + ".rpt";
         for (const Delivered::File& file : Delivered::Templates()) {
             if (file.name != name)
                 continue;
@@ -152,9 +151,8 @@ TEST_F(LayoutCheckTest, TheShellToolTellsEachFaultOnALineAndAnswersWithItsExitCo
         return std::pair(tool.exitCode(), QString::fromUtf8(tool.readAllStandardOutput()));
     };
     EXPECT_EQ(check({good}), std::pair(0, QString()));
-    const QString expected = bad + QStringLiteral(":1: the report is called \"Test\", but its file \"bad\"\n")
-        + bad + QStringLiteral(":3: there is no column \"Nmae\" in MilkCollectionsTemp\n") + bad
-        + QStringLiteral(":4: <blink> isn't known here\n");
+    const QString expected = bad + ":1: the report is called \"Test\", but its file \"bad\"\n" + bad
+        + ":3: there is no column \"Nmae\" in MilkCollectionsTemp\n" + bad + ":4: <blink> isn't known here\n";
     EXPECT_EQ(check({good, bad}), std::pair(1, expected));
     EXPECT_EQ(check({File("missing.rpt")}).first, 1);
     EXPECT_EQ(check({}).first, 2);

@@ -8,7 +8,7 @@
 namespace {
 
 const FontSpec Letters{"Noto Sans Devanagari", 10, false};
-const QString Sentence = QStringLiteral("दूध स्वच्छ भांड्यात आणावे, 12.5 litres a day. ");
+const QString Sentence = "दूध स्वच्छ भांड्यात आणावे, 12.5 litres a day. ";
 
 class LongTextTest : public ReportTest {
 protected:
@@ -88,9 +88,9 @@ TEST_F(LongTextTest, LinesThatEndByThemselvesAreCountedOnce)
     TextMeasure measure;
     const float line = measure.Height(Letters, "a", 100);
     for (const char16_t* end : {u"\n", u"\r\n", u"\r", u"\u2029"}) {
-        const QString one = QStringLiteral("a") + QString::fromUtf16(end);
+        const QString one = "a" + QString::fromUtf16(end);
         for (const int count : {3999, 4000, 4001}) {
-            const QString text = one.repeated(count) + QStringLiteral("a");
+            const QString text = one.repeated(count) + "a";
             EXPECT_NEAR(measure.Height(Letters, text, 100), line * static_cast<float>(count + 1), line / 2)
                 << count;
         }
@@ -105,7 +105,7 @@ TEST_F(LongTextTest, ATextOfManyPagesIsThereOnceAndNothingStandsOverIt)
     report->Complete();
     EXPECT_GT(report->PageCount(), 10U);
     const float left = report->PageAt(0).items.front().x;
-    EXPECT_EQ(Column(*report, left), Sentence.repeated(2000) + QStringLiteral(" शेवट"));
+    EXPECT_EQ(Column(*report, left), Sentence.repeated(2000) + " शेवट");
 }
 
 TEST_F(LongTextTest, LongCellsSideBySideEachGoOnBelowThemselves)

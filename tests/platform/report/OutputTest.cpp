@@ -15,10 +15,9 @@
 
 namespace {
 
-const QString Conjuncts =
-    QStringLiteral("श्री ज्ञानेश्वर क्षीरसागर, राष्ट्रीय विद्यार्थी, कऱ्हाड, पुण्यस्मृती, द्ध्य महादेव शंकर शिंदे "
-                   "नामदेव यशवंत काळे शोभा हणमंत साळुंखे शालन जयवंत डुबल तानाजी रघुनाथ देसाई देय रक्कम (लिटर) "
-                   "बँक नोंदलेली नाही रु. 148.20 Fat-दर मूळ/एकूण");
+const QString Conjuncts = "श्री ज्ञानेश्वर क्षीरसागर, राष्ट्रीय विद्यार्थी, कऱ्हाड, पुण्यस्मृती, द्ध्य महादेव शंकर शिंदे "
+                          "नामदेव यशवंत काळे शोभा हणमंत साळुंखे शालन जयवंत डुबल तानाजी रघुनाथ देसाई देय रक्कम (लिटर) "
+                          "बँक नोंदलेली नाही रु. 148.20 Fat-दर मूळ/एकूण";
 
 // A disk on which no file can grow beyond a size, as long as it stands.
 class NarrowDisk {
@@ -79,7 +78,7 @@ class OutputTest : public ReportTest {
 protected:
     std::unique_ptr<Report> MakeText(const QString& text)
     {
-        return Make(Template(QStringLiteral("<text>") + text + QStringLiteral("</text>")));
+        return Make(Template("<text>" + text + "</text>"));
     }
 
     // What lies in a folder of its own for the outputs.
@@ -87,7 +86,7 @@ protected:
     QString Output(const QString& name) const
     {
         QDir(folder.path()).mkpath("out");
-        return File(QStringLiteral("out/") + name);
+        return File("out/" + name);
     }
     // The rights of a file as the shell shows them: 0644.
     static unsigned Rights(const QString& file)
@@ -109,13 +108,13 @@ protected:
 TEST_F(OutputTest, ThePdfReadsAsThePageIsSeenConjunctsIncluded)
 {
     AddDelivery(1, "सकाळ", "ज्ञानेश्वर साळुंखे", 12.5, 4, 350.5);
-    const std::unique_ptr<Report> report = Make(Template(QStringLiteral("<text>") + Conjuncts
-        + QStringLiteral("</text><text bold=\"1\" size=\"15\">") + Conjuncts
-        + QStringLiteral("</text><table source=\"c\"><col w=\"60\">{MemberName}</col>"
-                         "<col align=\"right\">{Amount|0.00}</col></table>")));
+    const std::unique_ptr<Report> report =
+        Make(Template("<text>" + Conjuncts + "</text><text bold=\"1\" size=\"15\">" + Conjuncts
+            + "</text><table source=\"c\"><col w=\"60\">{MemberName}</col>"
+              "<col align=\"right\">{Amount|0.00}</col></table>"));
     const QString file = Output("a.pdf");
     EXPECT_TRUE(report->SavePdf(file).Done());
-    const QString seen = Conjuncts + u' ' + Conjuncts + QStringLiteral(" ज्ञानेश्वर साळुंखे 350.50");
+    const QString seen = Conjuncts + u' ' + Conjuncts + " ज्ञानेश्वर साळुंखे 350.50";
     for (const QStringList& way : {QStringList(), QStringList("-layout")})
         EXPECT_EQ(PdfText(file, way).simplified(), seen) << way.join(u' ').toStdString();
 }
@@ -411,7 +410,7 @@ TEST_F(OutputTest, APageThatCantBeDrawnIsTold)
     item.font = fonts.Add({"Noto Sans Devanagari", 10, false});
     item.fit = Fit::Shrink;
     item.width = 50;
-    item.text = QStringLiteral("1234.50");
+    item.text = "1234.50";
     page.items.push_back(item);
     PagePainter painter(fonts);
     const auto isWritten = [&] {

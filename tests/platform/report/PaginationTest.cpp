@@ -4,11 +4,11 @@
 
 namespace {
 
-const QString Small = QStringLiteral("paper=\"100x80mm\" margin=\"5\"");
+const QString Small = "paper=\"100x80mm\" margin=\"5\"";
 
 class PaginationTest : public ReportTest {
 protected:
-    void AddRows(int from, int to, const QString& group = QStringLiteral("A"))
+    void AddRows(int from, int to, const QString& group = "A")
     {
         for (int i = from; i <= to; ++i)
             Run(Sql(u"insert into MilkCollectionsTemp(CollectionNo,MemberNo,CollectionTime,Liters) values(",
@@ -142,11 +142,10 @@ TEST_F(PaginationTest, AReportWithoutRowsIsOnePage)
 TEST_F(PaginationTest, KeptPartsStayTogetherAndNewPagesBeginWhereTheyAreAsked)
 {
     AddRows(1, 4);
-    const QString part = QStringLiteral("<text>{CollectionNo}</text><space h=\"20\"/><text>।</text></each>");
-    const QStringList kept = Pages(Template(QStringLiteral("<each source=\"c\" keep=\"1\">") + part, Small));
+    const QString part = "<text>{CollectionNo}</text><space h=\"20\"/><text>।</text></each>";
+    const QStringList kept = Pages(Template("<each source=\"c\" keep=\"1\">" + part, Small));
     EXPECT_EQ(kept, QStringList({"1 । 2 ।", "3 । 4 ।"}));
-    const QStringList alone =
-        Pages(Template(QStringLiteral("<each source=\"c\" newpage=\"1\">") + part, Small));
+    const QStringList alone = Pages(Template("<each source=\"c\" newpage=\"1\">" + part, Small));
     EXPECT_EQ(alone, QStringList({"1 ।", "2 ।", "3 ।", "4 ।"}));
     EXPECT_EQ(Pages(Template("<text>अ</text><pagebreak/><text>ब</text>", Small)), QStringList({"अ", "ब"}));
 }
@@ -175,19 +174,18 @@ TEST_F(PaginationTest, AKeptPartTallerThanAPageIsBrokenAndLosesNothing)
 
 TEST_F(PaginationTest, ATextTallerThanAPageIsSplitBetweenItsLines)
 {
-    const QString word = QStringLiteral("शेतकरी ");
-    const QStringList pages =
-        Pages(Template(QStringLiteral("<text>") + word.repeated(600) + QStringLiteral("</text>"), Small));
+    const QString word = "शेतकरी ";
+    const QStringList pages = Pages(Template("<text>" + word.repeated(600) + "</text>", Small));
     EXPECT_GT(pages.size(), 2);
     EXPECT_EQ(pages.join(QString()).count("शेतकरी"), 600);
 }
 
 TEST_F(PaginationTest, ALineTallerThanAPageIsReportedAndNotRetried)
 {
-    const QString strip = QStringLiteral("<space h=\"3.5\" if=\"#page &gt; 0\"/>");
-    const std::unique_ptr<Report> report = Make(Template(QStringLiteral("<pageheader>") + strip + strip
-            + QStringLiteral("</pageheader><text size=\"26\">ॐ</text>"),
-        "paper=\"100x22mm\" margin=\"2\""));
+    const QString strip = "<space h=\"3.5\" if=\"#page &gt; 0\"/>";
+    const std::unique_ptr<Report> report =
+        Make(Template("<pageheader>" + strip + strip + "</pageheader><text size=\"26\">ॐ</text>",
+            "paper=\"100x22mm\" margin=\"2\""));
     EXPECT_THROW(report->Complete(), RunTimeError);
 }
 

@@ -115,8 +115,8 @@ TEST(SystemPrinterTest, APrinterThatRefusesAJobIsToldWithItsReason)
     WithService(path, [&] {
         const std::unique_ptr<Printer> printer = MakeSystemPrinter(Patience);
         const Outcome outcome = printer->Print({"/dev/null", {}, "lp", QSizeF(100, 100)});
-        const QString told = QStringLiteral("प्रिंटरने काम घेतले नाही. छपाई झाली नाही; नोंदी सुरक्षित आहेत.\n"
-                                            "The printer lp refused: ");
+        const QString told = "प्रिंटरने काम घेतले नाही. छपाई झाली नाही; नोंदी सुरक्षित आहेत.\n"
+                             "The printer lp refused: ";
         EXPECT_TRUE(outcome.fault.startsWith(told)) << outcome.fault.toStdString();
         EXPECT_GT(outcome.fault.size(), told.size()) << "the service's own word is told";
     });

@@ -93,17 +93,17 @@ TEST_F(RecordsTest, ARowWithoutRowsInsideStandsByItself)
     const QStringList names{
         "MemberNo,MemberName,MemberNo,Label1", "1,अशोक,1,A", "1,अशोक,1,B", "2,बाबू,,", "3,कमल,3,C"};
     EXPECT_EQ(Lines(Linked()
-                  + QStringLiteral("<each source=\"c\"><text>{MemberName}</text><each source=\"k\">"
-                                   "<text>{k.Label1|plain}</text></each></each>")),
+                  + "<each source=\"c\"><text>{MemberName}</text><each source=\"k\">"
+                    "<text>{k.Label1|plain}</text></each></each>"),
         names);
-    const QString chosen = QStringLiteral("<each source=\"c\"><text>{MemberName}</text>"
-                                          "<each source=\"k\" only=\"plain(k.Label1) &lt;&gt; 'C'\">"
-                                          "<text>{k.Label1|plain}</text></each></each>");
+    const QString chosen = "<each source=\"c\"><text>{MemberName}</text>"
+                           "<each source=\"k\" only=\"plain(k.Label1) &lt;&gt; 'C'\">"
+                           "<text>{k.Label1|plain}</text></each></each>";
     EXPECT_EQ(Lines(Linked() + chosen).last(), "3,कमल,,");
     EXPECT_EQ(Lines(Linked()
-                  + QStringLiteral("<each source=\"c\"><columns><column><text>{MemberName}</text></column>"
-                                   "<column><table source=\"k\"><col head=\"a\">{Label1|plain}</col>"
-                                   "<col head=\"b\">{Value1|0.0}</col></table></column></columns></each>")),
+                  + "<each source=\"c\"><columns><column><text>{MemberName}</text></column>"
+                    "<column><table source=\"k\"><col head=\"a\">{Label1|plain}</col>"
+                    "<col head=\"b\">{Value1|0.0}</col></table></column></columns></each>"),
         QStringList({"MemberNo,MemberName,a,b", "1,अशोक,A,5.0", "1,अशोक,B,6.0", "2,बाबू,,", "3,कमल,C,7.0"}));
 }
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-const QString Logon = QStringLiteral("dsn=VetrolanDSN;pwd=secret");
+const QString Logon = "dsn=VetrolanDSN;pwd=secret";
 
 class ReportControlTest : public ReportTest {
 protected:
@@ -184,8 +184,8 @@ TEST_F(ReportControlTest, PreparingLeavesAWrongPasswordForThePrintingToTellAndTh
 
 TEST_F(ReportControlTest, PreparingLeavesAMissingOrFaultyTemplateForThePrintingToTell)
 {
-    const QString missing = QStringLiteral("C:\\Tarvel01\\Vetrolan\\Missing.rpt");
-    const QString faulty = QStringLiteral("C:\\Tarvel01\\Vetrolan\\Faulty.rpt");
+    const QString missing = "C:\\Tarvel01\\Vetrolan\\Missing.rpt";
+    const QString faulty = "C:\\Tarvel01\\Vetrolan\\Faulty.rpt";
     Write("Faulty.rpt", "<report name=\"Faulty\" paper=\"A9\"/>");
     for (const QString& file : {missing, faulty}) {
         Control.SetReportFileName(file);

@@ -89,7 +89,7 @@ void ReportTest::ExpectGolden(const Report& report, const QString& name)
     QStringList lines;
     for (std::size_t i = 0; i < report.PageCount(); ++i)
         lines += Describe(report.PageAt(i), report.Fonts());
-    const QString seen = lines.join(u'\n') + QStringLiteral("\n");
+    const QString seen = lines.join(u'\n') + "\n";
     QFile golden(QStringLiteral(GOLDEN_FOLDER "/") + name);
     if (qEnvironmentVariableIsSet("VETROLAN_RENEW")) {
         ASSERT_TRUE(golden.open(QIODevice::WriteOnly));

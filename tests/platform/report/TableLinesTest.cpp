@@ -47,8 +47,8 @@ protected:
     }
 };
 
-const QString Numbered = QStringLiteral("<table source=\"c\" %1><col w=\"40\">{CollectionNo}</col>"
-                                        "<col total=\"sum\">{Liters|0}</col>%2</table>");
+const QString Numbered = "<table source=\"c\" %1><col w=\"40\">{CollectionNo}</col>"
+                         "<col total=\"sum\">{Liters|0}</col>%2</table>";
 
 }
 
@@ -219,9 +219,9 @@ TEST_F(TableLinesTest, ASummaryHasPageTotalsOfWhatIsPrinted)
 TEST_F(TableLinesTest, ATotalOfAPageKnowsNoRow)
 {
     const auto fault = [this](const char* inside) {
-        return TableFault(QStringLiteral("<col w=\"40\">{MemberNo}</col>") + QString::fromUtf8(inside));
+        return TableFault("<col w=\"40\">{MemberNo}</col>" + QString::fromUtf8(inside));
     };
-    const QString row = QStringLiteral("\"%1\" is a field, and a <page> can use totals only");
+    const QString row = "\"%1\" is a field, and a <page> can use totals only";
     EXPECT_EQ(fault("<page foot=\"{MemberName}\"/>"), row.arg("MemberName"));
     EXPECT_EQ(fault("<col total=\"Fat + sum(Liters)\">{Liters}</col><page foot=\"=\"/>"), row.arg("Fat"));
     EXPECT_EQ(fault("<page/>"), "<page> needs \"foot\", \"carry\" or \"head\"");

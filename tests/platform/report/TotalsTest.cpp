@@ -2,7 +2,7 @@
 
 namespace {
 
-const QString Evening = QStringLiteral("संध्याकाळ");
+const QString Evening = "संध्याकाळ";
 
 class TotalsTest : public ReportTest {
 protected:
@@ -33,11 +33,11 @@ TEST_F(TotalsTest, GroupsAndTheWholeTableHaveTheirSums)
 TEST_F(TotalsTest, AWeightedAverageWeighsAndOneOfNothingIsZero)
 {
     AddShifts();
-    const QString table = QStringLiteral("<table source=\"c\"><col>{MemberName}</col>"
-                                         "<col total=\"average(Fat by Liters)\">{Fat|0.00}</col>"
-                                         "<col total=\"average(Fat by SNF)\">{Fat|0.0}</col>"
-                                         "<col total=\"average(Fat)\">{Fat|0.000}</col>"
-                                         "<total label=\"सरासरी\"/></table>");
+    const QString table = "<table source=\"c\"><col>{MemberName}</col>"
+                          "<col total=\"average(Fat by Liters)\">{Fat|0.00}</col>"
+                          "<col total=\"average(Fat by SNF)\">{Fat|0.0}</col>"
+                          "<col total=\"average(Fat)\">{Fat|0.000}</col>"
+                          "<total label=\"सरासरी\"/></table>";
     const QStringList texts = AllTexts(Template(table));
     // (10.125 x 4 + 5.5 x 3.5 + 20 x 5) / 35.625
     EXPECT_EQ(texts.mid(texts.indexOf("सरासरी")), QStringList({"सरासरी", "4.48", "0.0", "4.167"}));
@@ -159,11 +159,9 @@ TEST_F(TotalsTest, ATotalHasTheFormatAndTheWordsOfItsCells)
 
 TEST_F(TotalsTest, WhatHangsOnARowIsTotalledForThatRowOnly)
 {
-    const QString linked =
-        QStringLiteral("<source name=\"k\" table=\"KapatDetails\" link=\"MemberNo\" to=\"c\"/>");
-    EXPECT_EQ(OnlyFault(linked + QStringLiteral("<text>{sum(k.Value1)}</text>")),
+    const QString linked = "<source name=\"k\" table=\"KapatDetails\" link=\"MemberNo\" to=\"c\"/>";
+    EXPECT_EQ(OnlyFault(linked + "<text>{sum(k.Value1)}</text>"),
         "the rows of \"k\" can be gone through only inside an <each> of \"c\"");
     EXPECT_EQ(
-        Faults(Template(linked + QStringLiteral("<each source=\"c\"><text>{sum(k.Value1)}</text></each>"))),
-        QStringList());
+        Faults(Template(linked + "<each source=\"c\"><text>{sum(k.Value1)}</text></each>")), QStringList());
 }

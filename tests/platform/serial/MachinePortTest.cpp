@@ -12,7 +12,7 @@ using Manner = DeviceSimulator::Manner;
 
 namespace {
 
-const QString Settings = QStringLiteral("2400,n,8,1");
+const QString Settings = "2400,n,8,1";
 
 // The driver of the machine against a device on a pseudo-terminal, linked as the first port.
 class MachinePortTest : public testing::Test {

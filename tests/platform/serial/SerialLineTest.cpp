@@ -9,7 +9,7 @@ using Step = FakeSerialPorts::Step;
 
 namespace {
 
-const QString Settings = QStringLiteral("2400,n,8,1");
+const QString Settings = "2400,n,8,1";
 
 class SerialLineTest : public testing::Test {
 protected:

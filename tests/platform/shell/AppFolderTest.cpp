@@ -48,8 +48,7 @@ TEST_F(AppFolderTest, WithoutAMovedRootTheDrivesLieInTheUsersSharedDataFolder)
     SetDrivesRoot(QString());
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     ASSERT_FALSE(data.isEmpty());
-    EXPECT_EQ(
-        LocalPath(Paths::AppFolder), QString(data + QStringLiteral("/vetrolan/drive_c/Tarvel01/Vetrolan/")));
+    EXPECT_EQ(LocalPath(Paths::AppFolder), QString(data + "/vetrolan/drive_c/Tarvel01/Vetrolan/"));
 }
 #endif
 

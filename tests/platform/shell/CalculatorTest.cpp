@@ -37,7 +37,7 @@ protected:
         SetDrivesRoot(QString());
     }
 
-    static QString Own() { return AppFolder.toString() + QStringLiteral("calc.EXE"); }
+    static QString Own() { return Paths::AppFolder.toString() + QStringLiteral("calc.EXE"); }
     QString Bin(const char* name) const
     {
         return m_folder.filePath(QStringLiteral("bin/") + QLatin1String(name));

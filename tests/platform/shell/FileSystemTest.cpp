@@ -53,7 +53,7 @@ protected:
         return 0;
     }
 
-    QStringList InE() const { return files.Files(Q("E:\\"), Q("*")); }
+    QStringList InE() const { return files.Files("E:\\", "*"); }
 
     MachineFileSystem files;
 
@@ -81,7 +81,7 @@ TEST_F(FileSystemTest, ACopyGoesOverWhatHasItsName)
     EXPECT_EQ(Copy("Morvelta.mdb", "E:\\Morvelta.mdb"), 0);
     EXPECT_EQ(Read("E:\\Morvelta.mdb"), "the books of today");
     EXPECT_EQ(Read("C:\\Tarvel01\\Vetrolan\\Morvelta.mdb"), "the books of today");
-    EXPECT_EQ(InE(), QStringList(Q("Morvelta.mdb"))) << "nothing lies beside it";
+    EXPECT_EQ(InE(), QStringList("Morvelta.mdb")) << "nothing lies beside it";
 }
 
 TEST_F(FileSystemTest, ACopyOfManyMegabytesIsWhole)
@@ -107,12 +107,12 @@ TEST_F(FileSystemTest, ACopyThatIsRefusedLeavesThePlaceAsItWas)
                       QFile file(copy);
                       EXPECT_TRUE(file.open(QIODevice::ReadOnly));
                       looked = QString::fromUtf8(file.readAll());
-                      throw RunTimeError(RunTimeError::DatabaseFailure, Q("not sound"));
+                      throw RunTimeError(RunTimeError::DatabaseFailure, "not sound");
                   }),
         RunTimeError::DatabaseFailure);
-    EXPECT_EQ(looked, Q("new")) << "the copy is finished when it is looked at";
+    EXPECT_EQ(looked, "new") << "the copy is finished when it is looked at";
     EXPECT_EQ(Read("E:\\kept"), "kept");
-    EXPECT_EQ(InE(), QStringList({Q("kept"), Q("new")}));
+    EXPECT_EQ(InE(), QStringList({"kept", "new"}));
     EXPECT_EQ(Copy("E:\\new", "E:\\kept", [](const QString&) {}), 0);
     EXPECT_EQ(Read("E:\\kept"), "new");
 }
@@ -123,7 +123,7 @@ TEST_F(FileSystemTest, WhatAnInterruptedCopyHasLeftIsNoHindrance)
     Write("E:\\copy.part", "half of an older and longer copy");
     EXPECT_EQ(Copy("E:\\new", "E:\\copy"), 0);
     EXPECT_EQ(Read("E:\\copy"), "new");
-    EXPECT_EQ(InE(), QStringList({Q("copy"), Q("new")}));
+    EXPECT_EQ(InE(), QStringList({"copy", "new"}));
 }
 
 TEST_F(FileSystemTest, WhatCanNotBeCopiedIsARunTimeError)
@@ -134,21 +134,21 @@ TEST_F(FileSystemTest, WhatCanNotBeCopiedIsARunTimeError)
     EXPECT_EQ(Copy("E:\\a", "E:\\no folder\\a"), RunTimeError::FileAccess);
     EXPECT_EQ(Copy("E:\\a", "X:\\a"), RunTimeError::FileAccess);
     EXPECT_EQ(Copy("E:\\a", "e:/./a"), RunTimeError::FileAccess) << "onto itself";
-    ASSERT_TRUE(files.CreateFolder(Q("E:\\folder")));
+    ASSERT_TRUE(files.CreateFolder("E:\\folder"));
     EXPECT_EQ(Copy("E:\\a", "E:\\folder"), RunTimeError::FileAccess);
     EXPECT_EQ(Read("E:\\a"), "a");
-    EXPECT_EQ(InE(), QStringList(Q("a")));
+    EXPECT_EQ(InE(), QStringList("a"));
 }
 
 #ifndef Q_OS_WIN
 TEST_F(FileSystemTest, ADiskThatIsFullIsARunTimeErrorAndLeavesNothing)
 {
-    if (!QFile::exists(Q("/dev/full")))
+    if (!QFile::exists("/dev/full"))
         GTEST_SKIP() << "this machine has no disk that is always full";
     Write("E:\\a", "a");
     ASSERT_TRUE(QFile::link(Q("/dev/full"), LocalPath(Q("E:\\b.part"))));
     EXPECT_EQ(Copy("E:\\a", "E:\\b"), RunTimeError::FileAccess);
-    EXPECT_EQ(InE(), QStringList(Q("a")));
+    EXPECT_EQ(InE(), QStringList("a"));
 }
 
 TEST_F(FileSystemTest, ACopyIsForItsOwnerAlone)
@@ -167,8 +167,8 @@ TEST_F(FileSystemTest, NothingIsCopiedOutOfOrIntoBooksThatAreOpen)
     const QString file = LocalAppFile(u"Morvelta.mdb");
     Write("E:\\copy", "copy");
     Connection books;
-    books.Create(file, Q("word"));
-    books.RunScript(Q("create table T(A); insert into T values(1)"));
+    books.Create(file, "word");
+    books.RunScript("create table T(A); insert into T values(1)");
     for (const char* name : {"Morvelta.mdb", "c:/tarvel01/../Tarvel01/Vetrolan/Morvelta.mdb",
              "Morvelta.mdb-wal", "Morvelta.mdb-shm"}) {
         EXPECT_EQ(Copy(name, "E:\\b"), RunTimeError::FileAccess) << name;
@@ -182,21 +182,21 @@ TEST_F(FileSystemTest, NothingIsCopiedOutOfOrIntoBooksThatAreOpen)
     EXPECT_EQ(Recordset(books, u"select A from T").At(0).Number(), 1);
     books.Close();
     EXPECT_EQ(Copy("Morvelta.mdb", "E:\\b"), 0);
-    EXPECT_EQ(InE(), QStringList({Q("b"), Q("copy")}));
+    EXPECT_EQ(InE(), QStringList({"b", "copy"}));
 }
 
 TEST_F(FileSystemTest, AFolderIsMadeInOneThatIsThere)
 {
-    EXPECT_TRUE(files.CreateFolder(Q("E:\\Backup")));
-    EXPECT_TRUE(files.HasFolder(Q("E:\\Backup")));
-    EXPECT_TRUE(files.CreateFolder(Q("E:\\Backup"))) << "it is there";
-    EXPECT_FALSE(files.CreateFolder(Q("E:\\a\\b")));
-    EXPECT_FALSE(files.HasFolder(Q("E:\\a")));
+    EXPECT_TRUE(files.CreateFolder("E:\\Backup"));
+    EXPECT_TRUE(files.HasFolder("E:\\Backup"));
+    EXPECT_TRUE(files.CreateFolder("E:\\Backup")) << "it is there";
+    EXPECT_FALSE(files.CreateFolder("E:\\a\\b"));
+    EXPECT_FALSE(files.HasFolder("E:\\a"));
     Write("E:\\file", "x");
-    EXPECT_FALSE(files.CreateFolder(Q("E:\\file")));
-    EXPECT_FALSE(files.HasFolder(Q("E:\\file")));
-    EXPECT_TRUE(files.CreateFolder(Q("E:\\..\\..\\out")));
-    EXPECT_TRUE(files.HasFolder(Q("E:\\out"))) << "no path leads out of its drive";
+    EXPECT_FALSE(files.CreateFolder("E:\\file"));
+    EXPECT_FALSE(files.HasFolder("E:\\file"));
+    EXPECT_TRUE(files.CreateFolder("E:\\..\\..\\out"));
+    EXPECT_TRUE(files.HasFolder("E:\\out")) << "no path leads out of its drive";
 }
 
 TEST_F(FileSystemTest, FoldersAndFilesAreListedByTheAlphabet)
@@ -205,17 +205,17 @@ TEST_F(FileSystemTest, FoldersAndFilesAreListedByTheAlphabet)
         ASSERT_TRUE(files.CreateFolder(Q(folder)));
     for (const char* file : {"E:\\z.mdb", "E:\\Y2026C1.MDB", "E:\\note.txt", "E:\\c\\inner.mdb"})
         Write(file, "x");
-    EXPECT_EQ(files.Folders(Q("E:\\")), QStringList({Q("A"), Q("b"), Q("c")}));
-    EXPECT_EQ(files.Files(Q("E:\\"), Q("*.mdb")), QStringList({Q("Y2026C1.MDB"), Q("z.mdb")}));
-    EXPECT_EQ(files.Folders(Q("E:\\nothing")), QStringList());
-    EXPECT_EQ(files.Files(Q("E:\\nothing"), Q("*")), QStringList());
+    EXPECT_EQ(files.Folders("E:\\"), QStringList({"A", "b", "c"}));
+    EXPECT_EQ(files.Files("E:\\", "*.mdb"), QStringList({"Y2026C1.MDB", "z.mdb"}));
+    EXPECT_EQ(files.Folders("E:\\nothing"), QStringList());
+    EXPECT_EQ(files.Files("E:\\nothing", "*"), QStringList());
 }
 
 TEST_F(FileSystemTest, TheDrivesAreThoseThatAreThere)
 {
-    EXPECT_EQ(files.Drives(), QStringList({Q("C:\\"), Q("E:\\")}));
-    EXPECT_EQ(files.KindOfDrive(Q("X:\\Backup")), FileSystem::DriveKind::Unknown);
-    EXPECT_NE(files.KindOfDrive(Q("C:\\no such folder")), FileSystem::DriveKind::Unknown);
+    EXPECT_EQ(files.Drives(), QStringList({"C:\\", "E:\\"}));
+    EXPECT_EQ(files.KindOfDrive("X:\\Backup"), FileSystem::DriveKind::Unknown);
+    EXPECT_NE(files.KindOfDrive("C:\\no such folder"), FileSystem::DriveKind::Unknown);
 }
 
 // What the fake of the screens' tests is asked, the real one answers alike.
@@ -226,28 +226,28 @@ std::string Deeds(FileSystem& files)
     const auto copy = [&](const char* from, const char* to, const FileSystem::Check& check = {}) {
         try {
             files.CopyFile(Q(from), Q(to), check);
-            said.append(Q("copied"));
+            said.append("copied");
         } catch (const RunTimeError& error) {
             said.append(QString::number(error.Number()));
         }
     };
-    tell(files.CreateFolder(Q("E:\\Backup")));
-    tell(files.CreateFolder(Q("E:\\Backup\\b")));
-    tell(files.CreateFolder(Q("E:/Backup/A/")));
-    tell(files.CreateFolder(Q("E:\\Backup\\b")));
-    tell(files.CreateFolder(Q("E:\\none\\b")));
-    tell(files.HasFolder(Q("E:\\Backup\\x\\..")));
-    tell(files.HasFolder(Q("X:\\")));
+    tell(files.CreateFolder("E:\\Backup"));
+    tell(files.CreateFolder("E:\\Backup\\b"));
+    tell(files.CreateFolder("E:/Backup/A/"));
+    tell(files.CreateFolder("E:\\Backup\\b"));
+    tell(files.CreateFolder("E:\\none\\b"));
+    tell(files.HasFolder("E:\\Backup\\x\\.."));
+    tell(files.HasFolder("X:\\"));
     copy("E:\\a.mdb", "E:\\Backup\\b.MDB");
     copy("E:\\a.mdb", "E:\\none\\b.mdb");
     copy("E:\\none.mdb", "E:\\Backup\\b.mdb");
     copy("E:\\a.mdb", "E:\\A\\..\\a.mdb");
-    copy("E:\\a.mdb", "E:\\refused.mdb", [](const QString&) { throw RunTimeError(1, Q("no")); });
-    tell(files.CreateFolder(Q("E:\\a.mdb")));
-    for (const QStringList& list : {files.Folders(Q("E:\\Backup")), files.Files(Q("E:\\Backup"), Q("*.mdb")),
-             files.Files(Q("E:\\"), Q("*")), files.Folders(Q("E:\\none")), files.Drives()})
+    copy("E:\\a.mdb", "E:\\refused.mdb", [](const QString&) { throw RunTimeError(1, "no"); });
+    tell(files.CreateFolder("E:\\a.mdb"));
+    for (const QStringList& list : {files.Folders("E:\\Backup"), files.Files("E:\\Backup", "*.mdb"),
+             files.Files("E:\\", "*"), files.Folders("E:\\none"), files.Drives()})
         said.append(list.join(u'+'));
-    tell(files.KindOfDrive(Q("X:\\")) == FileSystem::DriveKind::Unknown);
+    tell(files.KindOfDrive("X:\\") == FileSystem::DriveKind::Unknown);
     return said.join(u' ').toStdString();
 }
 
@@ -255,12 +255,12 @@ TEST_F(FileSystemTest, TheFakeAnswersAsTheRealOneDoes)
 {
     Write("E:\\a.mdb", "a");
     FakeFileSystem fake;
-    fake.Kinds[Q("E:\\")] = FileSystem::DriveKind::Removable;
-    fake.Contents[Q("E:\\a.mdb")] = "a";
+    fake.Kinds["E:\\"] = FileSystem::DriveKind::Removable;
+    fake.Contents["E:\\a.mdb"] = "a";
     EXPECT_EQ(Deeds(files), Deeds(fake));
-    EXPECT_EQ(fake.KindOfDrive(Q("e:/Backup")), FileSystem::DriveKind::Removable);
-    fake.Refusal = Q("the disk is full");
-    EXPECT_THROW(fake.CopyFile(Q("E:\\a.mdb"), Q("E:\\c.mdb")), RunTimeError);
+    EXPECT_EQ(fake.KindOfDrive("e:/Backup"), FileSystem::DriveKind::Removable);
+    fake.Refusal = "the disk is full";
+    EXPECT_THROW(fake.CopyFile("E:\\a.mdb", "E:\\c.mdb"), RunTimeError);
 }
 
 TEST_F(FileSystemTest, WhatIsMountedSaysWhatKindOfDriveItIs)
@@ -280,11 +280,11 @@ TEST_F(FileSystemTest, WhatIsMountedSaysWhatKindOfDriveItIs)
 #ifdef Q_OS_LINUX
 TEST_F(FileSystemTest, ADriveInMemoryIsFoundThroughItsLink)
 {
-    if (!QDir(Q("/dev/shm")).exists())
+    if (!QDir("/dev/shm").exists())
         GTEST_SKIP() << "this machine has no disk in memory";
-    ASSERT_TRUE(QFile::link(Q("/dev/shm"), LocalPath(u"F:").chopped(1)));
-    EXPECT_EQ(files.KindOfDrive(Q("F:\\Backup")), FileSystem::DriveKind::Memory);
-    EXPECT_TRUE(files.Drives().contains(Q("F:\\")));
+    ASSERT_TRUE(QFile::link("/dev/shm", LocalPath(u"F:").chopped(1)));
+    EXPECT_EQ(files.KindOfDrive("F:\\Backup"), FileSystem::DriveKind::Memory);
+    EXPECT_TRUE(files.Drives().contains("F:\\"));
 }
 #endif
 

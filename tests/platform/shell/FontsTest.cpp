@@ -6,9 +6,9 @@
 
 namespace {
 
-const QString noto = QStringLiteral("Noto Sans Devanagari");
-const QString lohit = QStringLiteral("Lohit Devanagari");
-const QString other = QStringLiteral("Chandas");
+const QString noto = "Noto Sans Devanagari";
+const QString lohit = "Lohit Devanagari";
+const QString other = "Chandas";
 
 TEST(FontsTest, NotoIsChosenBeforeEveryOther)
 {

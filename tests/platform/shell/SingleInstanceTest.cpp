@@ -78,7 +78,7 @@ TEST_F(SingleInstanceTest, TwoFoldersAreTwoBooks)
 
 TEST_F(SingleInstanceTest, AFolderThatIsNotThereIsARunTimeErrorThatNamesIt)
 {
-    const QString missing = Folder() + QStringLiteral("/none");
+    const QString missing = Folder() + "/none";
     try {
         const SingleInstance lock(missing);
         FAIL() << "the lock of a missing folder was given";

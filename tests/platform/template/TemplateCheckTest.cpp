@@ -44,14 +44,14 @@ TEST_F(TemplateCheckTest, NothingIsDeclaredBeforeATemplate)
                                     "<report name=\"Test\" paper=\"A4\"><text>%2</text></report>")
                          .arg(QString(4000, u'x'), many)),
         QStringList("1: a template has no <!DOCTYPE>"));
-    EXPECT_EQ(Faults(QStringLiteral("<?xml version=\"1.0\"?>\n<!DOCTYPE report>\n") + Template({})),
+    EXPECT_EQ(Faults("<?xml version=\"1.0\"?>\n<!DOCTYPE report>\n" + Template({})),
         QStringList("2: a template has no <!DOCTYPE>"));
 }
 
 TEST_F(TemplateCheckTest, ATemplateIsNoLargerThanAMegabyte)
 {
     const QString text = Template("<text>a</text>");
-    const QString comment = QStringLiteral("<!--%1-->");
+    const QString comment = "<!--%1-->";
     const qsizetype room = 1024 * 1024 - text.size() - comment.arg(QString()).size();
     EXPECT_EQ(Faults(text + comment.arg(QString(room, u'x'))), QStringList());
     EXPECT_EQ(
@@ -68,7 +68,7 @@ TEST_F(TemplateCheckTest, OfManyFaultsTheFirstHundredAreTold)
         EXPECT_TRUE(faults[count > 100 ? 99 : count - 1].contains(QLatin1String(fault)));
         EXPECT_EQ(faults.last().endsWith("there are more faults than 100"), count > 100);
     };
-    const QString unknown = QStringLiteral("<blink/>\n");
+    const QString unknown = "<blink/>\n";
     expect(unknown.repeated(100), 3, 100, "<blink> isn't known here");
     expect(unknown.repeated(101), 3, 101, "<blink> isn't known here");
     expect(unknown.repeated(50000), 3, 101, "<blink> isn't known here");
@@ -144,7 +144,7 @@ TEST_F(TemplateCheckTest, TextThatWouldNotBePrintedIsAFault)
 
 TEST_F(TemplateCheckTest, ABraceThatClosesNothingIsAFault)
 {
-    const QString fault = QStringLiteral("a } closes nothing; as a sign it is written {'}'}");
+    const QString fault = "a } closes nothing; as a sign it is written {'}'}";
     EXPECT_EQ(OnlyFault("<text>a } b {MemberNo}</text>"), fault);
     EXPECT_EQ(OnlyFault("<text>{MemberNo}}</text>"), fault);
     EXPECT_EQ(OnlyFault("<pairs><pair label=\"}\">a</pair></pairs>"), fault);
@@ -172,43 +172,39 @@ TEST_F(TemplateCheckTest, RowsThatAreKeptCantBeChosenByARowThatMovesOn)
             "<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\" only=\"%1\"/>")
             .arg(QLatin1String(only));
     };
-    const QString end =
-        QStringLiteral("; use \"link\", or the \"only\" of the element that goes through the rows");
+    const QString end = "; use \"link\", or the \"only\" of the element that goes through the rows";
     EXPECT_EQ(OnlyFault(linked("City = 'a' and c.Liters &gt; 3")),
-        QStringLiteral("the rows of \"m\" are chosen once and not for each row of \"c\", so its \"only\" "
-                       "can't use c.Liters")
+        "the rows of \"m\" are chosen once and not for each row of \"c\", so its \"only\" "
+        "can't use c.Liters"
             + end);
     EXPECT_EQ(OnlyFault(linked("City = 'a'")
-                  + QStringLiteral("<source name=\"n\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\" "
-                                   "only=\"m.City = 'a'\"/>")),
-        QStringLiteral("the rows of \"n\" are chosen once and not for each row of \"m\", so its \"only\" "
-                       "can't use m.City")
+                  + "<source name=\"n\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\" "
+                    "only=\"m.City = 'a'\"/>"),
+        "the rows of \"n\" are chosen once and not for each row of \"m\", so its \"only\" "
+        "can't use m.City"
             + end);
-    const QString dates = QStringLiteral("<source name=\"d\" table=\"ReportDates\"/>");
+    const QString dates = "<source name=\"d\" table=\"ReportDates\"/>";
     const QString ofDate = linked("CompanyId = d.CompanyId");
     EXPECT_EQ(Faults(Template(dates + ofDate)), QStringList()) << "it stands still";
-    EXPECT_EQ(OnlyFault(dates + ofDate + QStringLiteral("<each source=\"d\"><text>{m.City}</text></each>")),
-        QStringLiteral("the rows of \"m\" are chosen once and not for each row of \"d\", so its \"only\" "
-                       "can't use d.CompanyId")
+    EXPECT_EQ(OnlyFault(dates + ofDate + "<each source=\"d\"><text>{m.City}</text></each>"),
+        "the rows of \"m\" are chosen once and not for each row of \"d\", so its \"only\" "
+        "can't use d.CompanyId"
             + end);
-    EXPECT_EQ(
-        Faults(Template(linked("City = 'a'")
-            + QStringLiteral("<source name=\"p\" table=\"MilkPayments\" only=\"k.City = 'a'\"/>"
-                             "<source name=\"k\" table=\"MembersMaster\" link=\"MemberNo\" to=\"p\"/>"))),
+    EXPECT_EQ(Faults(Template(linked("City = 'a'")
+                  + "<source name=\"p\" table=\"MilkPayments\" only=\"k.City = 'a'\"/>"
+                    "<source name=\"k\" table=\"MembersMaster\" link=\"MemberNo\" to=\"p\"/>")),
         QStringList())
         << "what hangs on a row goes with it";
 }
 
 TEST_F(TemplateCheckTest, ASourceReadByItsFirstRowCantBeChosenByARowThatMovesOn)
 {
-    const QString members =
-        QStringLiteral("<source name=\"m\" table=\"MembersMaster\" only=\"MemberNo = c.MemberNo\"/>");
+    const QString members = "<source name=\"m\" table=\"MembersMaster\" only=\"MemberNo = c.MemberNo\"/>";
     EXPECT_EQ(
-        Faults(Template(members
-            + QStringLiteral("<each source=\"c\"><table source=\"m\"><col>{City}</col></table></each>"))),
+        Faults(Template(members + "<each source=\"c\"><table source=\"m\"><col>{City}</col></table></each>")),
         QStringList())
         << "its rows are chosen anew each time";
-    EXPECT_EQ(OnlyFault(members + QStringLiteral("<each source=\"c\"><text>{m.City}</text></each>")),
+    EXPECT_EQ(OnlyFault(members + "<each source=\"c\"><text>{m.City}</text></each>"),
         "the rows of \"m\" are chosen once and not for each row of \"c\", so its \"only\" "
         "can't use c.MemberNo; use \"link\", or the \"only\" of the element that goes through the rows");
 }
@@ -219,8 +215,7 @@ TEST_F(TemplateCheckTest, KindsOfValuesMustSuit)
     EXPECT_EQ(OnlyFault("<text>{Liters|dd/MM/yyyy}</text>"), "the format \"dd/MM/yyyy\" needs a date");
     EXPECT_EQ(
         OnlyFault("<text>{CollectionDate + 1}</text>"), "dates and conditions can't be added or multiplied");
-    const QString noText =
-        QStringLiteral("texts can't be added or multiplied; words are written outside of the braces");
+    const QString noText = "texts can't be added or multiplied; words are written outside of the braces";
     EXPECT_EQ(OnlyFault("<text>{'रु. ' + Amount}</text>"), noText);
     EXPECT_EQ(OnlyFault("<text>{MemberName * 2}</text>"), noText);
     EXPECT_EQ(OnlyFault("<text>{-plain(MemberName)} {abs(Amount)}</text>"), noText);
@@ -234,9 +229,8 @@ TEST_F(TemplateCheckTest, KindsOfValuesMustSuit)
 
 TEST_F(TemplateCheckTest, AChoiceThatMayBeATextOrADateIsNotReckonedWith)
 {
-    const QString noText =
-        QStringLiteral("texts can't be added or multiplied; words are written outside of the braces");
-    const QString noDate = QStringLiteral("dates and conditions can't be added or multiplied");
+    const QString noText = "texts can't be added or multiplied; words are written outside of the braces";
+    const QString noDate = "dates and conditions can't be added or multiplied";
     EXPECT_EQ(OnlyFault("<text>{if(MemberNo = 1, 'x', Amount) * 2}</text>"), noText);
     EXPECT_EQ(OnlyFault("<text>{2 + if(MemberNo = 1, Amount, MemberName)}</text>"), noText);
     EXPECT_EQ(OnlyFault("<text>{abs(if(MemberNo = 1, '', if(Liters = 1, 1, 'x')))}</text>"), noText);
@@ -281,13 +275,11 @@ TEST_F(TemplateCheckTest, PageNumbersBelongToTheEdgesOfThePage)
 
 TEST_F(TemplateCheckTest, ASourceThatHangsOnAnotherIsWalkedWithinIt)
 {
-    const QString linked =
-        QStringLiteral("<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\"/>");
-    EXPECT_EQ(OnlyFault(linked + QStringLiteral("<table source=\"m\"><col>{City}</col></table>")),
+    const QString linked = "<source name=\"m\" table=\"MembersMaster\" link=\"MemberNo\" to=\"c\"/>";
+    EXPECT_EQ(OnlyFault(linked + "<table source=\"m\"><col>{City}</col></table>"),
         "the rows of \"m\" can be gone through only inside an <each> of \"c\"");
     EXPECT_EQ(
-        Faults(Template(linked
-            + QStringLiteral("<each source=\"c\"><table source=\"m\"><col>{City}</col></table></each>"))),
+        Faults(Template(linked + "<each source=\"c\"><table source=\"m\"><col>{City}</col></table></each>")),
         QStringList());
     EXPECT_EQ(OnlyFault("<source name=\"m\" table=\"MembersMaster\" link=\"Liters\" to=\"c\"/>"),
         "the two sources don't share a column \"Liters\"");
@@ -322,7 +314,7 @@ TEST_F(TemplateCheckTest, LettersOfAChartTakeASizeAndNoPlace)
 TEST_F(TemplateCheckTest, ElementsStandInOneAnotherToADepthOnly)
 {
     const auto nested = [](int depth) -> QString {
-        return QStringLiteral("<columns><column>").repeated(depth) + QStringLiteral("<text>a</text>")
+        return QStringLiteral("<columns><column>").repeated(depth) + "<text>a</text>"
             + QStringLiteral("</column></columns>").repeated(depth);
     };
     EXPECT_EQ(Faults(Template(nested(40))), QStringList());

@@ -23,14 +23,14 @@ TemplateTest::TemplateTest()
 
 QStringList TemplateTest::Faults(const QString& text, const QString& name)
 {
-    return FaultsOfFile(Write(name + QStringLiteral(".rpt"), text));
+    return FaultsOfFile(Write(name + ".rpt", text));
 }
 
 QStringList TemplateTest::FaultsOfFile(const QString& file)
 {
     QStringList lines;
     for (const TemplateFault& fault : CheckFile(file))
-        lines.append(QString::number(fault.line) + QStringLiteral(": ") + fault.text);
+        lines.append(QString::number(fault.line) + ": " + fault.text);
     return lines;
 }
 
@@ -61,7 +61,7 @@ QString TemplateTest::Write(const QString& name, const QString& text) const
 
 QString Template(const QString& elements, const QString& attributes)
 {
-    return QStringLiteral("<report name=\"Test\" ") + attributes
-        + QStringLiteral(">\n<source name=\"c\" table=\"MilkCollectionsTemp\" order=\"CollectionNo\"/>\n")
-        + elements + QStringLiteral("\n</report>");
+    return "<report name=\"Test\" " + attributes
+        + ">\n<source name=\"c\" table=\"MilkCollectionsTemp\" order=\"CollectionNo\"/>\n" + elements
+        + "\n</report>";
 }

@@ -37,7 +37,7 @@ TEST_F(WidthCheckTest, WhatIsTooNarrowToBeReadIsAFault)
         QStringList({"3: the labels leave 12.0 mm for their values, which need 28.2 mm"}));
     EXPECT_EQ(slip("<pairs labelw=\"2\"><pair label=\"a\">{MemberNo}</pair></pairs>"),
         QStringList({"3: the labels have 2.0 mm, but need 4.0 mm"}));
-    const QString narrow = QStringLiteral("w=\"0.2\" is too narrow for what stands there: it needs 4.0 mm");
+    const QString narrow = "w=\"0.2\" is too narrow for what stands there: it needs 4.0 mm";
     EXPECT_EQ(OnlyFault("<table source=\"c\"><col w=\"0.2\">{Liters}</col><col>a</col></table>"), narrow);
     EXPECT_EQ(OnlyFault("<columns><column w=\"0.2\"><text>a</text></column><column/></columns>"), narrow);
     EXPECT_EQ(Faults(Template("<table source=\"c\"><col>a</col><col w=\"1\"/></table>"
@@ -48,7 +48,7 @@ TEST_F(WidthCheckTest, WhatIsTooNarrowToBeReadIsAFault)
 
 TEST_F(WidthCheckTest, ALetterHasRoomInItsPlace)
 {
-    const QString inColumn = QStringLiteral("<columns><column w=\"%1\">%2</column><column/></columns>");
+    const QString inColumn = "<columns><column w=\"%1\">%2</column><column/></columns>";
     EXPECT_EQ(OnlyFault(inColumn.arg("4", "<text size=\"40\">W</text>")),
         "letters of 40 points don't fit into a place of 4.0 mm");
     EXPECT_EQ(Faults(Template(inColumn.arg("15", "<text size=\"40\">W</text>"))), QStringList());
@@ -72,8 +72,7 @@ TEST_F(WidthCheckTest, ATotalHasRoomForItsLabel)
             "<col>{MemberName}</col>%2</table>")
             .arg(QLatin1String(first), QLatin1String(end));
     };
-    const QString fault =
-        QStringLiteral("before the first total there are 1.0 mm for its label, which needs 14.1 mm");
+    const QString fault = "before the first total there are 1.0 mm for its label, which needs 14.1 mm";
     EXPECT_EQ(OnlyFault(table("1", "<total label=\"GRAND TOTAL\"/>")), fault);
     EXPECT_EQ(OnlyFault(table("1", "<group by=\"MemberNo\" foot=\"a\"/>")), fault);
     EXPECT_EQ(Faults(Template(table("1", "<total/>"))), QStringList());

@@ -74,8 +74,8 @@ TEST(ValTest, ANumberBeyondDoubleIsAnOverflow)
 TEST(ValTest, ANumberTooSmallForDoubleIsZero)
 {
     for (const QString& text : QStringList{"1e-400", "-1e-99999999999999999999", "0e999999",
-             QString(QStringLiteral("0.") + QString(400, u'0') + u'1'),
-             QString(QString(400, u'0') + QStringLiteral(".") + QString(400, u'0') + QStringLiteral("5"))}) {
+             QString("0." + QString(400, u'0') + u'1'),
+             QString(QString(400, u'0') + "." + QString(400, u'0') + "5")}) {
         EXPECT_EQ(Val(text), 0) << qPrintable(text);
     }
     EXPECT_EQ(Val(QString(QString(400, u'0') + u'5')), 5);
@@ -180,8 +180,7 @@ TEST(FormatTest, LargeAndTinyValues)
     EXPECT_EQ(Format(123456789012345.0, u"0.00"), u"123456789012345.00");
     EXPECT_EQ(Format(999999999999999.0, u"0.0"), u"999999999999999.0");
     EXPECT_EQ(Format(5e-324, u"0.000"), u"0.000");
-    EXPECT_EQ(
-        Format(1e300, u"0.0"), QString(QStringLiteral("1") + QString(300, u'0') + QStringLiteral(".0")));
+    EXPECT_EQ(Format(1e300, u"0.0"), QString("1" + QString(300, u'0') + ".0"));
 }
 
 TEST(FormatTest, AValueThatIsNoneIsAnOverflow)
