@@ -7,6 +7,7 @@
 void RegisterCounterCases(const QString& drives); // leaving the fat, opening a shift
 void RegisterSaveCases(const QString& drives);
 void RegisterListCases(const QString& drives); // a long list after a write
+void RegisterRatesCases(const QString& drives); // deliveries priced anew
 void RegisterStatementCases(const QString& drives);
 void RegisterReportCases(const QString& drives);
 void RegisterProgramCases(const QString& drives); // start to menu, memory, a shift with slips

@@ -21,6 +21,7 @@ int Measure(int argc, char* argv[])
     RegisterCounterCases(society.Drives());
     RegisterSaveCases(society.Drives());
     RegisterListCases(society.Drives());
+    RegisterRatesCases(society.Drives());
     RegisterReportCases(society.Drives());
     RegisterProgramCases(society.Drives());
     benchmark::RunSpecifiedBenchmarks();

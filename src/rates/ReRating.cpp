@@ -50,6 +50,7 @@ void ReRating::Run(const QDate& from, const std::function<void(double)>& done)
     for (Recordset row(gCn, Chart); !row.Eof(); row.MoveNext()) {
         const double fat = row[u"Fat"].Number();
         SetRate(from, Word::Cow, fat, row[u"CowRate"].Number());
+        done(fat);
         SetRate(from, Word::Buffalo, fat, row[u"BuffRate"].Number());
         done(fat);
     }

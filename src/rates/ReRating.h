@@ -18,7 +18,7 @@ bool IsPaid(const QDate& from);
 int Fats();
 
 // Sets the rate of each fat of the chart that has one, for its animal, and then all amounts, unrounded: whole
-// or not at all. `done` is called behind each fat.
+// or not at all. `done` is called twice for each fat, behind each animal.
 void Run(const QDate& from, const std::function<void(double fat)>& done);
 
 }
