@@ -1,5 +1,6 @@
 #include "platform/forms/DropList.h"
 
+#include "platform/forms/Look.h"
 #include "platform/forms/Screen.h"
 #include "platform/forms/WholeRows.h"
 
@@ -11,11 +12,19 @@
 namespace {
 
 constexpr int MarkMargin = 8; // between a text, its mark, and the edge of the list
+constexpr int RowMargin = 3; // above and below a text, for the marks over its letters
 
-// Paints the mark of a row at its right edge, in the colour of its text.
+// Gives a row room for its letters, and paints its mark at the right edge, in the colour of its text.
 class RowLook final : public QStyledItemDelegate {
 public:
     explicit RowLook(const QStringList& marks) : m_marks(marks) { }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QSize usual = QStyledItemDelegate::sizeHint(option, index);
+        const int text = option.fontMetrics.boundingRect(index.data().toString()).height();
+        return {usual.width(), std::max(usual.height(), text) + 2 * Look::Pixels(RowMargin)};
+    }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
