@@ -60,6 +60,7 @@ frmDailyCollection::frmDailyCollection()
     txtAmount.TextChanged = std::bind_front(&DailyRules::PriceIsGiven, &Rules);
     When(List.DataGrid1.Click, &frmDailyCollection::DataGrid1_Click);
     cmbCollectionTime.KeyDown = [this](const QKeyEvent& key) { return cmbCollectionTime_KeyDown(key); };
+    cmbCollectionTime.AddOwnKey(KeyHints::OneOfTwo.key);
     cmbCollectionTime.SetGuide(ShiftField::UsualGuide());
     cmbMemberName.SetGuide(Keys::Guide(QStringLiteral("NameCombo")));
     LayOut();

@@ -54,10 +54,10 @@ inline const KeyHint Save{QStringLiteral("Alt+S"), Shivaji(u"saovh")};
 inline const KeyHint Cancel{QStringLiteral("Alt+R"), Shivaji(u"r_")};
 inline const KeyHint ExitButton{QStringLiteral("Alt+B"), Shivaji(u"baahor")};
 inline const KeyHint PrintReport{QStringLiteral("Alt+I"), Shivaji(u"irpaoT-")};
-inline const KeyHint ListOfNames{QStringLiteral("↓"), Plain(u"यादी")};
-inline const KeyHint ChooseOption{QStringLiteral("↑ ↓"), Plain(u"निवडा")};
-inline const KeyHint OneOfTwo{QStringLiteral("1 2"), Plain(u"निवडा")};
-inline const KeyHint OneOfThree{QStringLiteral("1 2 3"), Plain(u"निवडा")};
-inline const KeyHint Tick{QStringLiteral("Space"), Plain(u"खूण")};
+inline const KeyHint ListOfNames{QStringLiteral("↓"), Plain(u"यादी"), {}, true, true};
+inline const KeyHint ChooseOption{QStringLiteral("↑ ↓"), Plain(u"निवडा"), {}, true, true};
+inline const KeyHint OneOfTwo{QStringLiteral("1 2"), Plain(u"निवडा"), {}, true, true};
+inline const KeyHint OneOfThree{QStringLiteral("1 2 3"), Plain(u"निवडा"), {}, true, true};
+inline const KeyHint Tick{QStringLiteral("Space"), Plain(u"खूण"), {}, true, true};
 
 }

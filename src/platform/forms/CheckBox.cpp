@@ -19,6 +19,7 @@ CheckBox::CheckBox(Screen* screen, const char* name, const Caption& caption, con
 {
     Box(*this).setText(caption.Seen().trimmed().replace(u'&', QStringLiteral("&&")));
     SetAccessibleName(Plain(caption.Seen()));
+    AddOwnKey(QStringLiteral("Space"));
     CheckBox::ShowFocus(false);
     // The widget never gets keys, so a click always comes from the mouse.
     QObject::connect(&Box(*this), &QCheckBox::clicked, &Box(*this), [this] {

@@ -43,6 +43,8 @@ ChoiceCombo::ChoiceCombo(Screen* screen, const char* name, const QStringList& wo
     Line().setReadOnly(true);
     PutArrow(Line());
     SetWords(words);
+    for (const char* key : {"Alt+↓", "↑ ↓", "1 2 3 …"})
+        AddOwnKey(QString::fromUtf8(key));
 }
 
 void ChoiceCombo::SetWords(const QStringList& words)

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QLabel>
+#include <QStringList>
 #include <QWidget>
 
 #include <functional>
@@ -87,6 +88,11 @@ public:
     const Caption& Guide() const { return m_guide; }
     void SetGuide(const Caption& guide);
 
+    // A key of the strip that this control answers itself, such as "1 2": the strip shows it lit only where
+    // such a control has the focus.
+    void AddOwnKey(const QString& key) { m_ownKeys.append(key); }
+    bool HasOwnKey(const QString& key) const { return m_ownKeys.contains(key); }
+
     // The name that a screen reader says.
     void SetAccessibleName(const Caption& name);
 
@@ -139,6 +145,7 @@ private:
     Screen* m_screen;
     std::unique_ptr<QWidget> m_widget;
     Caption m_guide;
+    QStringList m_ownKeys;
     std::optional<std::pair<QColor, QColor>> m_colours;
     bool m_enabled = true;
     bool m_visible = true;

@@ -203,6 +203,8 @@ ChoiceField::ChoiceField(
 {
     Line().setReadOnly(true);
     SetGuide(Shivaji(GuideTo(m_choices)));
+    AddOwnKey(QStringLiteral("1 2"));
+    AddOwnKey(QStringLiteral("1 2 3"));
 }
 
 QString ChoiceField::GuideTo(const std::vector<Choice>& choices)

@@ -58,10 +58,22 @@ public:
         : QWidget(parent)
         , m_key(hint.key)
         , m_action(hint.action.Seen().trimmed())
-        , m_isLit(hint.lit)
+        , m_isOfField(hint.ofField)
+        , m_isOfButton(!hint.ofField && hint.pressed.AreNone() && m_key.startsWith(u"Alt+"))
     {
+        setEnabled(hint.lit);
         setAccessibleName(m_key + u' ' + m_action);
         Measure();
+    }
+
+    // Dulls a key that does nothing on the screen as it is now.
+    void Light(const Screen& screen)
+    {
+        const Control* focus = screen.FocusHolder();
+        if (m_isOfField)
+            setEnabled(focus && focus->HasOwnKey(m_key));
+        else if (m_isOfButton)
+            setEnabled(screen.AnswersLetter(m_key.back()));
     }
 
     // Takes the size of the type as it is now.
@@ -74,6 +86,7 @@ public:
         m_actionLeft = m_capWidth + Look::Pixels(CapGap);
         m_size = QSize(m_actionLeft + actions.horizontalAdvance(m_action),
             std::max(keys.height(), actions.height()) + 2 * margin);
+        m_baseline = margin + std::max(keys.ascent(), actions.ascent());
     }
 
     QSize sizeHint() const override { return m_size; }
@@ -83,13 +96,13 @@ protected:
     {
         QPainter painter(this);
         const QRect cap(0, 0, m_capWidth, height());
-        painter.fillRect(cap, QColor(m_isLit ? Look::PlainColour : Look::DullColour));
+        painter.fillRect(cap, QColor(isEnabled() ? Look::PlainColour : Look::DullColour));
         painter.setFont(KeyFont());
-        painter.setPen(QColor(m_isLit ? Look::Ink : Look::Band));
-        painter.drawText(cap, Qt::AlignCenter, m_key);
+        painter.setPen(QColor(isEnabled() ? Look::Ink : Look::Band));
+        painter.drawText(Look::Pixels(CapMargin), m_baseline, m_key);
         painter.setFont(ActionFont());
-        painter.setPen(QColor(m_isLit ? Look::BandText : Look::DullColour));
-        painter.drawText(rect().adjusted(m_actionLeft, 0, 0, 0), Qt::AlignVCenter, m_action);
+        painter.setPen(QColor(isEnabled() ? Look::BandText : Look::DullColour));
+        painter.drawText(m_actionLeft, m_baseline, m_action);
     }
 
 private:
@@ -101,9 +114,11 @@ private:
 
     QString m_key;
     QString m_action;
-    bool m_isLit;
+    bool m_isOfField;
+    bool m_isOfButton;
     int m_capWidth = 0;
     int m_actionLeft = 0;
+    int m_baseline = 0; // one for all, whichever fonts their letters come from
     QSize m_size;
 };
 
@@ -118,6 +133,12 @@ public:
         QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         policy.setHeightForWidth(true);
         setSizePolicy(policy);
+    }
+
+    void Light(const Screen& screen)
+    {
+        for (HintWidget* piece : m_pieces)
+            piece->Light(screen);
     }
 
     bool hasHeightForWidth() const override { return true; }
@@ -139,29 +160,46 @@ protected:
     }
 
 private:
-    // Returns the height of the rows; moves the hints to their places if isPlaced.
+    // Returns the height of the rows; moves the hints to their places if isPlaced. What the least height
+    // leaves over stands above and below them alike.
     int Flow(int width, bool isPlaced) const
     {
         const int margin = Look::Pixels(StripMargin);
         const int rowMargin = Look::Pixels(RowMargin);
         QPoint at(margin, rowMargin);
         int rowHeight = 0;
-        for (HintWidget* piece : m_pieces) {
+        std::vector<QRect> places;
+        for (const HintWidget* piece : m_pieces) {
             const QSize size = piece->sizeHint();
             if (at.x() > margin && at.x() + size.width() > width - margin) {
                 at = QPoint(margin, at.y() + rowHeight + rowMargin);
                 rowHeight = 0;
             }
-            if (isPlaced)
-                piece->setGeometry(QRect(at, size));
+            places.emplace_back(at, size);
             at.rx() += size.width() + Look::Pixels(StripSpacing);
             rowHeight = std::max(rowHeight, size.height());
         }
-        return std::max(Look::Pixels(StripHeight), at.y() + rowHeight + rowMargin);
+        const int rows = at.y() + rowHeight + rowMargin;
+        const int height = std::max(Look::Pixels(StripHeight), rows);
+        for (std::size_t piece = 0; isPlaced && piece < places.size(); ++piece)
+            m_pieces[piece]->setGeometry(places[piece].translated(0, (height - rows) / 2));
+        return height;
     }
 
     std::vector<HintWidget*> m_pieces;
 };
+
+// The strip, or those of a screen that shows one of several.
+std::vector<Strip*> StripsIn(QWidget& keys)
+{
+    if (auto* only = dynamic_cast<Strip*>(&keys))
+        return {only};
+    std::vector<Strip*> strips;
+    for (QWidget* widget : keys.findChildren<QWidget*>())
+        if (auto* strip = dynamic_cast<Strip*>(widget))
+            strips.push_back(strip);
+    return strips;
+}
 
 QWidget* HeaderBand(Label& title, std::initializer_list<Label*> society)
 {
@@ -214,8 +252,13 @@ void Layout::Stack(Screen& screen, QWidget* header, QLayout* body, QWidget* keys
         stack->addWidget(header);
     body->setContentsMargins(24, 16, 24, 16);
     stack->addLayout(body, 1);
-    if (keys)
-        stack->addWidget(keys);
+    if (!keys)
+        return;
+    stack->addWidget(keys);
+    screen.Settled = [&screen, strips = StripsIn(*keys)] {
+        for (Strip* strip : strips)
+            strip->Light(screen);
+    };
 }
 
 QLayout* Layout::ButtonRow(std::initializer_list<Control*> buttons)

@@ -31,7 +31,8 @@ struct KeyHint {
     QString key; // "F2", "Ctrl+PgDn"; several of one meaning with blanks between, "↑ ↓"
     Caption action;
     KeyHandlers pressed = {};
-    bool lit = true; // whether it does something now; if not, it is shown in a dull colour
+    bool lit = true; // whether it does something; if not, it is shown in a dull colour
+    bool ofField = false; // a control answers it, and it is dull while one without it has the focus
 };
 
 // The parts that every screen is made of, so that all screens look alike.
@@ -67,7 +68,8 @@ QWidget* Header(Label& title, Label& company, Label& year);
 QWidget* Header(Label& title, Label& company);
 QWidget* Header(Label& title);
 
-// The strip of keys at the bottom of a screen. It takes as many rows as it needs.
+// The strip of keys at the bottom of a screen. It takes as many rows as it needs. A key that does nothing now
+// is dull: a letter whose button can't be pressed, a key of fields that the one in focus hasn't.
 QWidget* KeyStrip(const std::vector<KeyHint>& hints);
 
 // Puts the parts of a screen below each other without gaps; `body` takes the remaining room.

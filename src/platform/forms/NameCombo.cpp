@@ -54,6 +54,7 @@ NameCombo::NameCombo(Screen* screen, const char* name, const Handler& lostFocus)
         });
     })
 {
+    AddOwnKey(QStringLiteral("↓"));
 }
 
 void NameCombo::OpenOnFocus(const std::function<bool()>& fill)

@@ -21,6 +21,7 @@ OptionButton::OptionButton(Screen* screen, const char* name, const Caption& capt
 {
     QString seen = caption.Seen().trimmed();
     SetAccessibleName(Plain(seen));
+    AddOwnKey(QStringLiteral("↑ ↓"));
     // A digit is part of the caption already.
     if (const QChar key = caption.Mnemonic(); key.isLetter())
         seen += QStringLiteral("  (%1)").arg(key);

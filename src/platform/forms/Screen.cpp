@@ -126,6 +126,8 @@ void Screen::Run(const Event& event)
         MendFocus();
         if (m_running == 1)
             RunWaiting();
+        if (m_running == 1 && Settled)
+            Settled();
     } catch (const RunTimeError& error) {
         ModalStack::Current().Fail(error);
     }
@@ -506,20 +508,25 @@ bool Screen::Answer(const QKeyEvent& key)
 
 bool Screen::AnswerMnemonic(const QKeyEvent& key)
 {
-    for (Control* control : m_controls) {
-        const QChar mnemonic = control->Mnemonic();
-        if (!control->CanTakeFocus() || mnemonic.isNull() || mnemonic.unicode() != key.key())
-            continue;
-        MoveTo(control);
-        // The LostFocus of the field runs before a Cancel button is pressed, but can't keep the clerk in the
-        // field.
-        if (m_holder != control && IsCancel(*control) && control->CanTakeFocus())
-            MoveTo(control, false);
-        if (m_holder == control)
-            control->AnswerMnemonic();
-        return true;
-    }
-    return false;
+    Control* control = key.key() > 0xFFFF ? nullptr : OfLetter(QChar(key.key()));
+    if (!control)
+        return false;
+    MoveTo(control);
+    // The LostFocus of the field runs before a Cancel button is pressed, but can't keep the clerk in the
+    // field.
+    if (m_holder != control && IsCancel(*control) && control->CanTakeFocus())
+        MoveTo(control, false);
+    if (m_holder == control)
+        control->AnswerMnemonic();
+    return true;
+}
+
+Control* Screen::OfLetter(QChar letter) const
+{
+    const auto found = std::find_if(m_controls.begin(), m_controls.end(), [&](const Control* control) {
+        return control->CanTakeFocus() && !letter.isNull() && control->Mnemonic() == letter;
+    });
+    return found == m_controls.end() ? nullptr : *found;
 }
 
 // Returns whether the widget is to get the press: the control has the focus now, and doesn't keep the press.

@@ -56,6 +56,13 @@ public:
     // The controls in tab order.
     const std::vector<Control*>& Controls() const { return m_controls; }
 
+    // Whether Alt with this letter or digit does something now.
+    bool AnswersLetter(QChar letter) const { return OfLetter(letter) != nullptr; }
+
+    // Runs when an event, and whatever it led to, has ended: what shows the state of the screen is to show it
+    // anew.
+    Event Settled;
+
     // The control with this name, in upper or lower case; null if there is none.
     Control* Find(QStringView name) const;
 
@@ -141,6 +148,7 @@ private:
     void Take(QKeyEvent& key);
     bool Answer(const QKeyEvent& key);
     bool AnswerMnemonic(const QKeyEvent& key);
+    Control* OfLetter(QChar letter) const;
     bool PressedByMouse(Control& control);
     void Compose(const QInputMethodEvent& event);
     Control* OfWidget(const QObject* widget) const;

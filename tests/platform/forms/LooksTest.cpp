@@ -308,4 +308,41 @@ TEST_F(LooksTest, AKeyOfTheStripIsACapWithItsMeaningBesideItAndDullWhereItDoesNo
     EXPECT_FALSE(Failure);
 }
 
+TEST_F(LooksTest, AKeyOfTheStripIsLitOnlyWhereItDoesSomethingNow)
+{
+    class Keyed : public Screen {
+    public:
+        Keyed() : Screen("Keyed")
+        {
+            Layout::Stack(*this, nullptr, new QVBoxLayout,
+                Layout::KeyStrip({{"Alt+S", Plain(u"सेव्ह")}, {"Alt+D", Plain(u"बदल"), {}},
+                    {"↓", Plain(u"यादी"), {}, true, true}, {"F2", Plain(u"गणक")}}));
+            cmdGo.SetEnabled(false);
+        }
+        NumberField txtNote{this, "txtNote", NumberField::Digits::Whole, &Keyed::txtNote_LostFocus};
+        NameCombo ComboName{this, "ComboName"};
+        Button cmdGo{this, "cmdGo", Shivaji(u"&saovh")};
+        void txtNote_LostFocus() { cmdGo.SetEnabled(true); }
+    };
+    const auto lit = [](const Keyed& keyed) {
+        QStringList names;
+        for (const auto* piece : keyed.findChildren<QWidget*>())
+            if (piece->accessibleName().contains(u' ') && piece->isEnabled())
+                names.append(piece->accessibleName().section(u' ', 0, 0));
+        return names.join(u' ').toStdString();
+    };
+    Open<Keyed>([](Keyed&) {},
+        [&](Keyed& keyed) {
+            EXPECT_EQ(lit(keyed), "F2");
+            Type("{TAB}");
+            EXPECT_EQ(lit(keyed), "Alt+S ↓ F2");
+            Type("{TAB}");
+            EXPECT_EQ(lit(keyed), "Alt+S F2");
+            Do([&] { keyed.cmdGo.SetCaption(Shivaji(u"ba&dla")); });
+            Type("{TAB}");
+            EXPECT_EQ(lit(keyed), "Alt+D F2");
+        });
+    EXPECT_FALSE(Failure);
+}
+
 }
