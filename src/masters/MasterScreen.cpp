@@ -6,6 +6,7 @@
 #include "platform/database/Transaction.h"
 #include "society/FieldRoutines.h"
 #include "society/Queries.h"
+#include "society/Wanted.h"
 
 #include <QVBoxLayout>
 
@@ -203,7 +204,7 @@ void MasterScreen::Refuse(Field& field, QStringView message)
 
 void MasterScreen::Hold(Field& field)
 {
-    field.SetFocus(Plain(QString(field.Guide().Seen().trimmed() + QStringLiteral("    Alt+R : रद्द"))));
+    field.SetFocus(Wanted::OrCancel(field.Guide()));
 }
 
 void MasterScreen::Number_LostFocus()

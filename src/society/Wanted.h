@@ -26,4 +26,10 @@ inline Caption Name()
     return Plain(u"नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : यादी बंद, मग बाहेर");
 }
 
+// In a mode, which Cancel gives up.
+inline Caption OrCancel(const Caption& wanted)
+{
+    return Plain(QString(wanted.Seen().trimmed() + QStringLiteral("    Alt+R : रद्द")));
+}
+
 }
