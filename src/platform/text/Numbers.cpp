@@ -234,6 +234,16 @@ template <typename Value> QString Shortest(Value value)
     return Lay(decimal, 1, decimals, decimals > 0);
 }
 
+// ---- Rounding ----
+
+template <typename Whole> Whole ToWhole(double value)
+{
+    const double whole = std::nearbyint(value);
+    if (whole >= std::numeric_limits<Whole>::min() && whole <= std::numeric_limits<Whole>::max())
+        return static_cast<Whole>(whole);
+    ThrowOverflow(std::isfinite(value) ? ShortestDecimal(value) : QStringLiteral("an infinite value"));
+}
+
 }
 
 double Val(QStringView text)
@@ -291,9 +301,10 @@ QString ShortestDecimal(int value)
 
 std::int16_t ToInt16(double value)
 {
-    const double whole = std::nearbyint(value);
-    if (whole >= std::numeric_limits<std::int16_t>::min()
-        && whole <= std::numeric_limits<std::int16_t>::max())
-        return static_cast<std::int16_t>(whole);
-    ThrowOverflow(std::isfinite(value) ? ShortestDecimal(value) : QStringLiteral("an infinite value"));
+    return ToWhole<std::int16_t>(value);
+}
+
+std::int32_t ToInt32(double value)
+{
+    return ToWhole<std::int32_t>(value);
 }

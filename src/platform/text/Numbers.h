@@ -29,3 +29,6 @@ QString ShortestDecimal(int value);
 
 // Rounds to a 16-bit number, half to even. A value outside -32768..32767 is an overflow error.
 std::int16_t ToInt16(double value);
+
+// The same for 32 bits.
+std::int32_t ToInt32(double value);

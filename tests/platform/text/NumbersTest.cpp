@@ -240,3 +240,12 @@ TEST(ToInt16Test, BeyondTheRangeIsAnOverflow)
     for (const double value : {32768.0, 32767.5, -32769.0, -32768.51, 1e300, Infinite, NoNumber})
         EXPECT_EQ(ErrorOf([value] { ToInt16(value); }), RunTimeError::Overflow) << value;
 }
+
+TEST(ToInt32Test, RoundsAndRefusesWhatIsBeyondItsRange)
+{
+    EXPECT_EQ(ToInt32(2.5), 2);
+    EXPECT_EQ(ToInt32(2147483647.4), 2147483647);
+    EXPECT_EQ(ToInt32(-2147483648.0), std::numeric_limits<std::int32_t>::min());
+    for (const double value : {2147483647.5, 2147483648.0, -2147483649.0, 1e300, Infinite, NoNumber})
+        EXPECT_EQ(ErrorOf([value] { ToInt32(value); }), RunTimeError::Overflow) << value;
+}
