@@ -16,11 +16,24 @@ inline constexpr QStringView FederationSale = u"saMGa ivaËI"; // संघ व�
 inline constexpr QStringView Yes = u"haoya"; // होय
 inline constexpr QStringView No = u"naahI"; // नाही
 
-// The heads of deposits, and of an advance that is kept back from a payment; that one is in Latin letters.
+// The heads that an advance can be given under; the first is also what the whole is called.
+inline constexpr QStringView Uchal = u"]cala"; // उचल
+inline constexpr QStringView Khadya = u"KaV"; // खाद्य
+inline constexpr QStringView Kirana = u"ikraNaa maalaÀroSana"; // किराणा माल/रेशन
+inline constexpr QStringView OtherUchal = u"[tr"; // इतर
+inline constexpr QStringView UchalJama = u"]cala jamaa"; // उचल जमा
+
+// The kinds of a voucher: money that goes out, and money that comes in.
+inline constexpr QStringView PaymentVoucher = u"pomaonT"; // पेमेन्ट
+inline constexpr QStringView ReceiptVoucher = u"irsaIT"; // रिसीट
+
+// The heads of deposits, and in Latin letters those of an advance that comes back: kept from a payment, or
+// by a voucher.
 inline constexpr QStringView CowThev = u"gaaya zova"; // गाय ठेव
 inline constexpr QStringView BuffThev = u"mhOsa zova"; // म्हैस ठेव
 inline constexpr QStringView Thev = u"zova"; // ठेव
 inline constexpr QStringView UchalKapat = u"Uchal Kapat"; // उचल कपात
+inline constexpr QStringView UchalReceipt = u"Uchal Receipt"; // उचल जमा
 
 }
 

@@ -36,6 +36,7 @@ TEST(GlossaryTest, TheNamedWordsAreInIt)
 {
     const QMap<QString, QString> words = Glossary();
     for (const QStringView word : {Word::Morning, Word::Evening, Word::Cow, Word::Buffalo, Word::Both,
-             Word::Cash, Word::Bank, Word::Yes, Word::No, Word::CowThev, Word::BuffThev, Word::Thev})
+             Word::Cash, Word::Bank, Word::Yes, Word::No, Word::CowThev, Word::BuffThev, Word::Thev,
+             Word::Uchal, Word::UchalJama, Word::Khadya})
         EXPECT_TRUE(words.contains(word.toString())) << word.toString().toStdString();
 }
