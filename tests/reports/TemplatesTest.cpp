@@ -136,6 +136,22 @@ protected:
         report.Print();
     }
 
+    // Prints a voucher with the longest words that an amount has.
+    void PrintVoucher(
+        const QString& templateName, const QString& debit, const QString& credit, const QString& narration)
+    {
+        Run(Sql(u"insert into TransactionsMasterTemp(CompanyId,TranDate,TranId,TranType,DAccountName,"
+                u"CAccountName,Amount,BillNo,Narration,RsInWords,Printname) values(1,'15/04/2026',12,"
+                u"'pomaonT',",
+            Values(debit, credit), u",9877887.00,']cala',", Quoted(narration),
+            u",'A{yaaNNava laaK sa%yaah%tr Hajaar AazSao sa%yaaeoMSaI $pyao  ',",
+            Quoted(NameOfMember("gaaya")), u")"));
+        ReportControl report;
+        report.SetReportFileName(AppFolder.toString() + templateName + u".rpt");
+        report.SetLogon(Logon());
+        report.Print();
+    }
+
     // The payments of the first ten days, made on the 11th.
     void PayTheFirstTenDays()
     {
@@ -265,6 +281,26 @@ TEST_F(ShippedTemplatesTest, CashMilkPaymentShowsThoseWhoArePaidInCash)
     PayTheFirstTenDays();
     Type<frmReportPaymentList>("11042026{ENTER}%i");
     CompareWithGolden("CashMilkPayment");
+}
+
+TEST_F(ShippedTemplatesTest, PaymentVoucherShowsTheHeadsOfAnAdvance)
+{
+    for (const QString head : {"]cala", "KaV", "ikraNaa maalaÀroSana", "[tr"})
+        Run(Sql(u"insert into TransactionsDetailsTemp(CompanyId,TranDate,TranId,MemberNo,AdvanceType,"
+                u"Amount) values(1,'15/04/2026',12,3,",
+            Quoted(head), u",2469471.75)"));
+    PrintVoucher("PaymentVoucher", NameOfMember("daonhI"), "raoK", "]cala idlaI.");
+    CompareWithGolden("PaymentVoucher");
+}
+
+TEST_F(ShippedTemplatesTest, ReceiptVoucherShowsWhatAMemberGivesBack)
+{
+    for (const QString values : {"2,'Uchal Kapat',75", "3,'Uchal Receipt',9877887"})
+        Run("insert into AdvanceReceipt(CompanyId,TranDate,TranId,MemberNo,AdvanceType,Amount) "
+            "values(1,'15/04/2026',12,"
+            + values + ')');
+    PrintVoucher("ReceiptVoucher", "raoK", NameOfMember("daonhI"), "]cala jamaa JaalaI.");
+    CompareWithGolden("ReceiptVoucher");
 }
 
 TEST_F(ShippedTemplatesTest, BankMilkPaymentShowsTheAccounts)
