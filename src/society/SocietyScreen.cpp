@@ -7,6 +7,7 @@
 
 SocietyScreen::SocietyScreen(const Keys::Places& keys, const Caption& title, const LabelNames& labels)
     : Screen(keys.front().name.toLatin1().constData())
+    , lblTitle(this, labels.title)
     , lblCompanyTitle(this, labels.company)
     , lblGuide(this, labels.guide)
     , m_keys(keys)

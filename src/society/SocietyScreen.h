@@ -15,6 +15,7 @@ protected:
     struct LabelNames {
         const char* guide = "lblGuide";
         const char* company = "lblCompanyTitle";
+        const char* title = "lblTitle";
     };
 
     // `keys` are the keys of the screen and of its fields; the name of the first place is the screen's.
@@ -23,7 +24,7 @@ protected:
     {
     }
 
-    Label lblTitle{this, "lblTitle"};
+    Label lblTitle;
     Label lblCompanyTitle;
     Label lblAcYear{this, "lblAcYear"};
     Label lblGuide;
