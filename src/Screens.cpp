@@ -16,6 +16,8 @@
 #include "reports/frmReportMilkPS.h"
 #include "reports/frmReportPaymentList.h"
 #include "utilities/frmAutoSettings.h"
+#include "vouchers/frmSelectInwards.h"
+#include "vouchers/frmUchalVouchers.h"
 
 namespace {
 
@@ -39,6 +41,8 @@ void RegisterScreens()
     Register<frmDailyCollection>();
     Register<frmSearchCollections>();
     Register<frmAbsenseMemberCollection>();
+    Register<frmUchalVouchers>();
+    Keys::Add(frmSelectInwards::KeyPlaces());
     Keys::Add(frmReportPreview::KeyPlaces());
     Keys::Add(frmReportFile::KeyPlaces());
     Keys::Add(frmReportPrinter::KeyPlaces());

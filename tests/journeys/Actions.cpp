@@ -7,13 +7,16 @@
 
 namespace {
 
-const QString ToTheMembers = "{ENTER}{ENTER}";
-const QString ToTheRates = "{ENTER}{DOWN}{DOWN}{ENTER}%d";
-const QString ToTheCounter = "{DOWN}{ENTER}{ENTER}";
-const QString ToTheNumber = QString(ToTheCounter + "{ENTER}1{ENTER}");
-const QString ToTheDays = "{DOWN}{ENTER}{DOWN}{DOWN}{ENTER}";
-const QString ToTheFrame = QString(ToTheNumber + "{ENTER}1{F7}14042026{ENTER}15042026{ENTER}");
-const QString Yes = "%h";
+const QString ToTheMembers = QStringLiteral("{ENTER}{ENTER}");
+const QString ToTheRates = QStringLiteral("{ENTER}{DOWN}{DOWN}{ENTER}%d");
+const QString ToTheCounter = QStringLiteral("{DOWN}{ENTER}{ENTER}");
+const QString ToTheNumber = QString(ToTheCounter + QStringLiteral("{ENTER}1{ENTER}"));
+const QString ToTheDays = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{ENTER}");
+const QString ToTheFrame =
+    QString(ToTheNumber + QStringLiteral("{ENTER}1{F7}14042026{ENTER}15042026{ENTER}"));
+const QString ToAnAdvance = QStringLiteral(
+    "{F4}%n15042026{ENTER}{ENTER}1{ENTER}{ENTER}KaV{ENTER}100{ENTER}{ENTER}]cala{ENTER}50{ENTER}");
+const QString Yes = QStringLiteral("%h");
 
 void Execute(const char* statement)
 {
@@ -37,30 +40,61 @@ void InsertDeliveries()
 const std::vector<Action>& Actions()
 {
     static const std::vector<Action> actions = {
-        {"NewDelivery", ToTheNumber + "{ENTER}3{ENTER}1{ENTER}6.4{ENTER}4.1{ENTER}{ENTER}", "{ENTER}"},
-        {"ChangedDelivery", ToTheNumber + "1{ENTER}{ENTER}9.5{ENTER}{ENTER}{ENTER}", "{ENTER}"},
-        {"DeletedDelivery", ToTheNumber + "1{ENTER}", "{F10}"},
-        {"DeliveryAtTheGate", "{F8}{ENTER}1{ENTER}{ENTER}3{ENTER}1{ENTER}6.4{ENTER}4.1{ENTER}{ENTER}",
-            "{ENTER}"},
-        {"OpenedCounter", "{DOWN}{ENTER}", "{ENTER}"},
-        {"OpenedShift", ToTheCounter + "{ENTER}1", "{ENTER}"},
-        {"PeriodOfAMember", ToTheFrame + "1{ENTER}{ENTER}", "{ENTER}"},
-        {"NewDay", ToTheDays + "%n1{ENTER}{ENTER}16042026{ENTER}2{ENTER}{ENTER}{ENTER}5{ENTER}4.5{ENTER}",
-            "{ENTER}"},
-        {"ChangedDay", ToTheDays + "%d1{ENTER}{ENTER}15042026{ENTER}1{ENTER}1{ENTER}{ENTER}7.5{ENTER}", "%s"},
-        {"DeletedDay", ToTheDays + "%k1{ENTER}{ENTER}14042026{ENTER}1{ENTER}1{ENTER}", "{ENTER}"},
-        {"Settings",
-            "{F7}{ENTER}{ENTER}2{ENTER}45{ENTER}46.5{ENTER}3{ENTER} {ENTER}4{ENTER}0.75{ENTER}"
-            ".8{ENTER}49{ENTER}59.5{ENTER}53{ENTER}",
-            "{ENTER}"},
-        {"NewChart", ToTheRates + "16042026{ENTER}", "%s"},
-        {"ReplacedChart", ToTheRates + "{ENTER}4.5{ENTER}31{ENTER}21{ENTER}{ENTER}{ENTER}{ENTER}", "%s"},
-        {"ReRating", ToTheRates + "15042026{ENTER}{F5}8{ENTER}7{ENTER}{ENTER}%s", Yes},
-        {"NewMember", ToTheMembers + "%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}1{ENTER}250.5{ENTER}{ENTER}",
-            "%s"},
-        {"NewVillage", ToTheMembers + "%n{ENTER}gaIta{ENTER}{ENTER}vaDgaava{ENTER}", Yes},
-        {"ChangedMember", ToTheMembers + "%d1{ENTER}ramaa{ENTER}%s", Yes},
-        {"DeletedMember", ToTheMembers + "%K1{ENTER}{ENTER}", Yes},
+        {QStringLiteral("NewDelivery"),
+            ToTheNumber + QStringLiteral("{ENTER}3{ENTER}1{ENTER}6.4{ENTER}4.1{ENTER}{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("ChangedDelivery"),
+            ToTheNumber + QStringLiteral("1{ENTER}{ENTER}9.5{ENTER}{ENTER}{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("DeletedDelivery"), ToTheNumber + QStringLiteral("1{ENTER}"),
+            QStringLiteral("{F10}")},
+        {QStringLiteral("DeliveryAtTheGate"),
+            QStringLiteral("{F8}{ENTER}1{ENTER}{ENTER}3{ENTER}1{ENTER}6.4{ENTER}4.1{ENTER}{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("OpenedCounter"), QStringLiteral("{DOWN}{ENTER}"), QStringLiteral("{ENTER}")},
+        {QStringLiteral("OpenedShift"), ToTheCounter + QStringLiteral("{ENTER}1"), QStringLiteral("{ENTER}")},
+        {QStringLiteral("PeriodOfAMember"), ToTheFrame + QStringLiteral("1{ENTER}{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("NewDay"),
+            ToTheDays
+                + QStringLiteral("%n1{ENTER}{ENTER}16042026{ENTER}2{ENTER}{ENTER}{ENTER}5{ENTER}4.5{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("ChangedDay"),
+            ToTheDays + QStringLiteral("%d1{ENTER}{ENTER}15042026{ENTER}1{ENTER}1{ENTER}{ENTER}7.5{ENTER}"),
+            QStringLiteral("%s")},
+        {QStringLiteral("DeletedDay"),
+            ToTheDays + QStringLiteral("%k1{ENTER}{ENTER}14042026{ENTER}1{ENTER}1{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("Settings"),
+            QStringLiteral("{F7}{ENTER}{ENTER}2{ENTER}45{ENTER}46.5{ENTER}3{ENTER} {ENTER}4{ENTER}0.75{ENTER}"
+                           ".8{ENTER}49{ENTER}59.5{ENTER}53{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("NewChart"), ToTheRates + QStringLiteral("16042026{ENTER}"), QStringLiteral("%s")},
+        {QStringLiteral("ReplacedChart"),
+            ToTheRates + QStringLiteral("{ENTER}4.5{ENTER}31{ENTER}21{ENTER}{ENTER}{ENTER}{ENTER}"),
+            QStringLiteral("%s")},
+        {QStringLiteral("ReRating"),
+            ToTheRates + QStringLiteral("15042026{ENTER}{F5}8{ENTER}7{ENTER}{ENTER}%s"), Yes},
+        {QStringLiteral("NewMember"),
+            ToTheMembers
+                + QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}1{ENTER}250.5{ENTER}{ENTER}"),
+            QStringLiteral("%s")},
+        {QStringLiteral("NewVillage"),
+            ToTheMembers + QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}vaDgaava{ENTER}"), Yes},
+        {QStringLiteral("ChangedMember"), ToTheMembers + QStringLiteral("%d1{ENTER}ramaa{ENTER}%s"), Yes},
+        {QStringLiteral("DeletedMember"), ToTheMembers + QStringLiteral("%K1{ENTER}{ENTER}"), Yes},
+        {QStringLiteral("HeadOfAnAdvance"), ToAnAdvance, QStringLiteral("{ENTER}")},
+        {QStringLiteral("NewAdvance"), ToAnAdvance + QStringLiteral("{ENTER}{F4}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("ChangedAdvance"),
+            QStringLiteral("{F4}%d{ENTER}{ENTER}{ENTER}]cala{ENTER}70{ENTER}{ENTER}{F4}{ENTER}"), Yes},
+        {QStringLiteral("DeletedAdvance"), QStringLiteral("{F4}%k{ENTER}{ENTER}"), Yes},
+        {QStringLiteral("NewReceipt"),
+            QStringLiteral("{F4}{DOWN}%n15042026{ENTER}{ENTER}1{ENTER}{ENTER}40{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("ChangedReceipt"),
+            ToTheCounter + QStringLiteral("{F6}{DOWN}%d{ENTER}{ENTER}{ENTER}60{ENTER}{ENTER}"), Yes},
+        {QStringLiteral("DeletedReceipt"), ToTheCounter + QStringLiteral("{F6}{DOWN}%k{ENTER}{ENTER}"), Yes},
     };
     return actions;
 }
@@ -104,14 +138,14 @@ void FillBooks()
             "values(1,'01/04/2026','10/04/2026','11/04/2026',1,1,'rama',100)");
     Execute("insert into MilkPaymentsDetails(CompanyId,TranDate,TranId,MemberNo,AdvanceType,Amount) "
             "values(1,'11/04/2026',1,1,'gaaya zova',5)");
-    Execute(
-        "insert into TransactionsMaster(CompanyId,TranDate,TranId,TranType,DAccountName,CAccountName,Amount) "
-        "values(1,'12/04/2026',1,'P','rama','raoK',40)");
-    Execute(
-        "insert into TransactionsMaster(CompanyId,TranDate,TranId,TranType,DAccountName,CAccountName,Amount) "
-        "values(1,'12/04/2026',2,'R','raoK','rama',30)");
+    Execute("insert into TransactionsMaster(CompanyId,TranDate,TranId,TranType,DAccountName,CAccountName,"
+            "Amount,BillNo,Narration) "
+            "values(1,'12/04/2026',1,'pomaonT','rama','raoK',40,']cala',']cala idlaI.')");
+    Execute("insert into TransactionsMaster(CompanyId,TranDate,TranId,TranType,DAccountName,CAccountName,"
+            "Amount,BillNo,Narration) "
+            "values(1,'12/04/2026',2,'irsaIT','raoK','rama',30,']cala jamaa',']cala jamaa JaalaI.')");
     Execute("insert into TransactionsDetails(CompanyId,TranDate,TranId,MemberNo,AdvanceType,Amount) "
             "values(1,'12/04/2026',1,1,']cala',40)");
     Execute("insert into AdvanceReceipt(CompanyId,TranDate,TranId,MemberNo,AdvanceType,Amount) "
-            "values(1,'13/04/2026',1,1,']cala',30)");
+            "values(1,'12/04/2026',2,1,'Uchal Receipt',30)");
 }

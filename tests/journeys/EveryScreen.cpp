@@ -50,6 +50,8 @@ void WaitForTheSearch(Clerk& clerk)
 std::vector<ScreenState> All()
 {
     constexpr const char* line = "{ENTER}1{ENTER}{ENTER}3{ENTER}1{ENTER}5{ENTER}4.5{ENTER}{ENTER}";
+    constexpr const char* advance =
+        "%n15042026{ENTER}{ENTER}1{ENTER}{ENTER}KaV{ENTER}100{ENTER}{ENTER}]cala{ENTER}50{ENTER}";
     return {
         Alone<frmAbout>("frmAbout"),
         Alone<frmTip>("frmTip"),
@@ -88,6 +90,13 @@ std::vector<ScreenState> All()
         ByName("frmDailyCollection", "%k1{ENTER}{ENTER}15042026{ENTER}1{ENTER}1{ENTER}"),
         ByName("frmSearchCollections", "15042026{ENTER}1{ENTER}1{ENTER}{ENTER}"),
         ByName("frmAbsenseMemberCollection", "15042026{ENTER}1{ENTER}"),
+        ByName("frmUchalVouchers", ""),
+        ByName("frmUchalVouchers", advance),
+        ByName("frmUchalVouchers", "{DOWN}%n15042026{ENTER}{ENTER}1{ENTER}{ENTER}40"),
+        ByName("frmUchalVouchers", "%d{ENTER}{ENTER}"),
+        ByName("frmUchalVouchers", "%k{ENTER}"),
+        From("frmUchalVouchers", "frmSelectInwards", "%d"),
+        From("frmUchalVouchers", "frmSelectInwards", "{DOWN}%d"),
         ByName("frmAutoSettings", ""),
         ByName("frmAutoSettings", "^{PGDN}"),
         ByName("frmAutoSettings", "^{PGDN}^{PGDN}{ENTER}"),

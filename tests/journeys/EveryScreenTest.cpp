@@ -69,6 +69,8 @@ TEST_P(EveryScreenTest, ShiftTabLeadsFromEachFieldToTheOneBeforeIt)
             const QString from = clerk.Focus();
             const QString asItStood = Before(clerk.Top(), from);
             Type(clerk, "+{TAB}");
+            if (clerk.ScreenName() != GetParam().screen)
+                Type(clerk, "{ESC}"); // the field before it opens its look-up when it is entered
             ASSERT_EQ(clerk.ScreenName(), GetParam().screen) << "from " << from.toStdString();
             const QString asItStands = Before(clerk.Top(), from);
             EXPECT_TRUE(clerk.Focus() == asItStood || clerk.Focus() == asItStands)
@@ -254,6 +256,23 @@ TEST_F(WantedOnEveryScreenTest, TheFatRates)
     Expect("frmNewFatRates", "%d{BS}{ENTER}", "maskDate", "lblGuide", DateWanted);
     Expect("frmNewFatRates", "%d31032026{ENTER}", "maskDate", "lblGuide",
         "01/04/2026 किंवा त्यानंतरचा दिनांक टाका    Alt+R : रद्द");
+}
+
+TEST_F(WantedOnEveryScreenTest, TheVouchers)
+{
+    const auto expect = [this](const char* keys, const char* focus, const char* guide) {
+        Expect("frmUchalVouchers", keys, focus, "lblGuide", guide);
+    };
+    expect("%n{ENTER}", "MaskTranDate", DateWanted);
+    expect("%n31022026{ENTER}", "MaskTranDate", DateWanted);
+    expect("%n12042026{ENTER}1{ENTER}", "txtTranNo", "व्हाउचर नंबर    Alt+R : रद्द");
+    expect("%n12042026{ENTER}{ENTER}88{ENTER}", "txtMemberNo", "मेम्बर नंबर    Alt+R : रद्द");
+    expect("%n12042026{ENTER}{ENTER}1{ENTER}{ENTER}{ENTER}", "ComboUchalTypes",
+        "↓ ने यादीतून प्रकार निवडा    F4 : प्रकार झाले    Alt+R : रद्द");
+    expect("%n12042026{ENTER}%s", "txtMemberNo", "मेम्बर नंबर टाका    Alt+R : रद्द");
+    expect("%n12042026{ENTER}{ENTER}1{ENTER}{ENTER}KaV{ENTER}100%s", "cmdGo",
+        "Enter : हा प्रकार घ्या    Alt+R : रद्द");
+    expect("{DOWN}%n12042026{ENTER}{ENTER}1%s", "txtAmount1", "जमा रक्कम टाका    Alt+R : रद्द");
 }
 
 TEST_F(WantedOnEveryScreenTest, TheSearchAndTheAbsentMembers)

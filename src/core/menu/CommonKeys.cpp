@@ -7,7 +7,12 @@
 
 void CommonKeys::Calculator(bool maximised)
 {
-    if (!World::Current().calculator->Start(Paths::AppFolder.toString() + u"calc.EXE", maximised))
+    StartCalculator(Paths::AppFolder.toString() + u"calc.EXE", maximised);
+}
+
+void CommonKeys::StartCalculator(const QString& program, bool maximised)
+{
+    if (!World::Current().calculator->Start(program, maximised))
         ShowPlain(QStringLiteral("या संगणकावर कॅलक्युलेटर सापडला नाही."));
 }
 

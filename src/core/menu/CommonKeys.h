@@ -9,6 +9,9 @@ namespace CommonKeys {
 // told.
 void Calculator(bool maximised = true);
 
+// The same with a program by its path on the society's machine.
+void StartCalculator(const QString& program, bool maximised);
+
 // F12: the keyboard tutor.
 void Tutor();
 
