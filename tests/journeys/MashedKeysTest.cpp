@@ -56,6 +56,18 @@ protected:
         return QLatin1String(Phrases[Throw(std::size(Phrases))]);
     }
 
+    // The keys of a voucher, of a change and of a deletion, wherever they are typed.
+    QString SensibleAtVouchers()
+    {
+        static constexpr const char* Phrases[] = {
+            "%r%n15042026{ENTER}{ENTER}1{ENTER}{ENTER}KaV{ENTER}12.35{ENTER}{ENTER}{F4}{ENTER}%n",
+            "%r%n15042026{ENTER}{ENTER}2{ENTER}{ENTER}4.05{ENTER}{ENTER}%n",
+            "%r%d{ENTER}{ENTER}{ENTER}]cala{ENTER}7.25{ENTER}{ENTER}{F4}{ENTER}%h%n",
+            "%r%d{ENTER}{ENTER}{ENTER}61.15{ENTER}{ENTER}%h", "%r%k{DOWN}{ENTER}{ENTER}%h", "%r", "%r%b",
+            "%r+{TAB}{DOWN}"};
+        return QLatin1String(Phrases[Throw(std::size(Phrases))]);
+    }
+
     int Throw(std::size_t sides) { return static_cast<int>(m_dice() % sides); }
 
     // Every delivery's amount is its litres at its rate, and the copy has nothing that the books haven't.
@@ -72,6 +84,25 @@ protected:
             EXPECT_LE(row[u"Fat"].Number(), 30);
             EXPECT_LE(rate, 60);
         }
+    }
+
+    // Each advance is the sum of its heads, each receipt has its row, and what a voucher adds to one balance
+    // of a member it has taken from the other.
+    void ExpectSoundVouchers()
+    {
+        for (Recordset row(gCn, "select * from TransactionsMaster"); !row.Eof(); row.MoveNext()) {
+            const bool isReceipt = row[u"TranType"].Text() == u"irsaIT";
+            const QString details = isReceipt
+                ? QStringLiteral("AdvanceReceipt where AdvanceType='Uchal Receipt' and")
+                : QStringLiteral("TransactionsDetails where");
+            const QString sum =
+                One(QStringLiteral("select sum(Amount) from %1 TranId=%2 and cstr(TranDate)='%3'")
+                        .arg(details, row[u"TranId"].Text(), row[u"TranDate"].Text()));
+            EXPECT_NEAR(row[u"Amount"].Number(), sum.toDouble(), 0.001)
+                << qPrintable(row[u"TranDate"].Text()) << ' ' << row[u"TranId"].Number();
+        }
+        for (Recordset row(gCn, "select * from MembersMaster"); !row.Eof(); row.MoveNext())
+            EXPECT_NEAR(row[u"ClosingBalance"].Number(), -row[u"ClosingUchal"].Number(), 0.001);
     }
 
     int Deliveries() { return One("select count(*) from MilkCollections").toInt(); }
@@ -155,6 +186,32 @@ TEST_F(MashedKeysTest, TheCounterMashedAloneKeepsEveryAmountRight)
         ExpectSoundBooks();
     }
     EXPECT_GT(Deliveries(), 10);
+}
+
+TEST_F(MashedKeysTest, TheVouchersMashedAloneKeepTheBalancesRight)
+{
+    constexpr int Keys = 2500;
+    Reopen();
+    const QStringList before = AllRows();
+    int typed = 0;
+    while (typed < Keys) {
+        Start([&](Clerk& clerk) {
+            clerk.Type(OpeningKeys() + QStringLiteral("{F4}") + (Throw(2) == 0 ? "{DOWN}" : ""));
+            while (typed < Keys && clerk.ScreenName() != u"MainMenuFrm" && !clerk.ScreenName().isEmpty()) {
+                const int kind = Throw(20);
+                const QString keys = kind < 3 ? SensibleAtVouchers()
+                    : kind < 5                ? NextKeys()
+                    : kind < 13               ? QStringLiteral("{ENTER}")
+                                              : QString(QChar(u'0' + Throw(6)));
+                clerk.Type(keys);
+                typed += static_cast<int>(ParseKeys(keys).size());
+            }
+        });
+        Reopen();
+        ExpectSoundBooks();
+        ExpectSoundVouchers();
+    }
+    EXPECT_NE(Difference(before, AllRows()), "") << "the keys have come as far as the books";
 }
 
 TEST_F(MashedKeysTest, EnterHeldDownFromTheTitleOnWritesNothing)
