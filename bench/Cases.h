@@ -10,4 +10,5 @@ void RegisterListCases(const QString& drives); // a long list after a write
 void RegisterRatesCases(const QString& drives); // deliveries priced anew
 void RegisterStatementCases(const QString& drives);
 void RegisterReportCases(const QString& drives);
+void RegisterVoucherCases(const QString& drives); // the look-up of many vouchers
 void RegisterProgramCases(const QString& drives); // start to menu, memory, a shift with slips

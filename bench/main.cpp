@@ -23,6 +23,7 @@ int Measure(int argc, char* argv[])
     RegisterListCases(society.Drives());
     RegisterRatesCases(society.Drives());
     RegisterReportCases(society.Drives());
+    RegisterVoucherCases(society.Drives());
     RegisterProgramCases(society.Drives());
     benchmark::RunSpecifiedBenchmarks();
     return Outcomes::Print() ? 0 : 1;

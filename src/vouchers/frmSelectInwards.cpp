@@ -11,8 +11,6 @@
 
 namespace {
 
-enum Columns { Number, Day, Amount };
-
 // What is listed in a mode.
 struct ListKind {
     QStringView title;
@@ -82,6 +80,7 @@ frmSelectInwards::frmSelectInwards()
     for (Field* box : std::initializer_list<Field*>{&txtNo, &MaskDate, &txtAmount})
         When(box->TextChanged, &frmSelectInwards::Search);
     ListViewInwards.DoubleClick = [] { SendKeys(QStringLiteral("{ENTER}")); };
+    ListViewInwards.SetSearched();
     ListViewInwards.SetGuide(KeyGuide(ListViewInwards));
     LayOut();
 }
@@ -102,27 +101,26 @@ void frmSelectInwards::Timer1_Timer()
         return;
     }
     ListViewInwards.SetFocus();
-    After(0, [this] { ListViewInwards.ReadAll(); }); // the first key of a search needn't wait for it
 }
 
 // The first row that begins with what the boxes hold.
 void frmSelectInwards::Search()
 {
+    const QStringList typed{txtNo.Text(), TypedInto(MaskDate), txtAmount.Text()}; // by column
     for (int row = 0; row < ListViewInwards.Rows(); ++row) {
-        if (Matches(row)) {
+        if (BeginsWith(row, typed)) {
             ListViewInwards.SetCurrentRow(row);
             return;
         }
     }
 }
 
-bool frmSelectInwards::Matches(int row) const
+bool frmSelectInwards::BeginsWith(int row, const QStringList& typed) const
 {
-    const auto begins = [&](int column, const QString& typed) {
-        return typed.isEmpty() || ListViewInwards.Cell(row, column).startsWith(typed);
-    };
-    return begins(Number, txtNo.Text()) && begins(Day, TypedInto(MaskDate))
-        && begins(Amount, txtAmount.Text());
+    for (int column = 0; column < typed.size(); ++column)
+        if (!typed[column].isEmpty() && !ListViewInwards.Cell(row, column).startsWith(typed[column]))
+            return false;
+    return true;
 }
 
 void frmSelectInwards::PickVoucher()

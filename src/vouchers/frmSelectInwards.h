@@ -28,6 +28,6 @@ private:
     void PickVoucher();
     void Search();
 
-    bool Matches(int row) const;
+    bool BeginsWith(int row, const QStringList& typed) const;
     void LayOut();
 };

@@ -154,6 +154,11 @@ void DataGrid::SetSideways(bool sideways)
     View().setHorizontalScrollBarPolicy(sideways ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
 }
 
+void DataGrid::SetSearched()
+{
+    m_model->MakeSearched();
+}
+
 void DataGrid::ReadAll()
 {
     m_model->ReadRest();

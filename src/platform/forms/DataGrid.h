@@ -83,6 +83,10 @@ public:
     // If on, columns may be wider than the grid, and Left and Right scroll to them.
     void SetSideways(bool sideways);
 
+    // For a long list that is searched: from the next Bind on all rows are read at once, and of each only the
+    // fields of the columns.
+    void SetSearched();
+
     // Reads all remaining rows now, before the tables that the query reads are changed.
     void ReadAll();
 

@@ -32,9 +32,8 @@ public:
         m_typed.clear();
         if (m_connection) {
             Recordset rows(*m_connection, m_query);
-            for (int i = 0; i < rows.Columns(); ++i)
-                m_names.push_back(rows.Name(i).toLower());
-            m_rows = Take(rows, m_isEditable ? AllRows : FirstRows);
+            ChooseColumns(rows);
+            m_rows = Take(rows, m_isEditable || m_isSearched ? AllRows : FirstRows);
             m_hasMore = !rows.Eof();
         }
         m_places.clear();
@@ -42,6 +41,9 @@ public:
             m_places.push_back(PlaceOf(column.field));
         endResetModel();
     }
+
+    // From now on all rows are read at once, and of each only what is shown.
+    void MakeSearched() { m_isSearched = true; }
 
     // Reads the rows that Read left out.
     void ReadRest()
@@ -179,15 +181,30 @@ private:
     static constexpr std::size_t FirstRows = 40; // a screenful and some
     static constexpr std::size_t AllRows = std::numeric_limits<std::size_t>::max();
 
+    // Notes which columns of the query are kept, and their names.
+    void ChooseColumns(const Recordset& rows)
+    {
+        m_kept.clear();
+        for (int i = 0; i < rows.Columns(); ++i) {
+            const QString name = rows.Name(i).toLower();
+            const bool isShown = std::any_of(m_columns.begin(), m_columns.end(),
+                [&](const Column& column) { return column.field.toLower() == name; });
+            if (m_isSearched && !isShown)
+                continue;
+            m_kept.push_back(i);
+            m_names.push_back(name);
+        }
+    }
+
     // Reads at most so many rows.
-    static std::vector<Row> Take(Recordset& rows, std::size_t atMost)
+    std::vector<Row> Take(Recordset& rows, std::size_t atMost) const
     {
         std::vector<Row> taken;
         for (; !rows.Eof() && taken.size() < atMost; rows.MoveNext()) {
             Row& row = taken.emplace_back();
-            row.reserve(static_cast<std::size_t>(rows.Columns()));
-            for (int i = 0; i < rows.Columns(); ++i)
-                row.push_back(rows.At(i));
+            row.reserve(m_kept.size());
+            for (const int column : m_kept)
+                row.push_back(rows.At(column));
         }
         return taken;
     }
@@ -218,11 +235,13 @@ private:
     std::vector<Column> m_columns;
     Connection* m_connection = nullptr;
     QString m_query;
-    std::vector<QString> m_names;
+    std::vector<int> m_kept; // the columns of the query that a row holds
+    std::vector<QString> m_names; // of these, in lower case
     std::vector<int> m_places;
     std::vector<Row> m_rows;
     bool m_hasMore = false; // the query has rows that haven't been read
     bool m_isEditable = false;
+    bool m_isSearched = false;
     int m_typedRow = -1;
     std::map<int, QString> m_typed; // by column
 };

@@ -323,6 +323,22 @@ TEST_F(LongGridTest, ReadsAFewRowsAtFirstAndAllWhenAskedForThem)
     });
 }
 
+TEST_F(LongGridTest, ReadsAllAtOnceForASearchAndOnlyWhatIsShown)
+{
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        Do([&] {
+            grid.SetSearched();
+            grid.Bind(books,
+                Q("select Liters*2 as Twice,MemberName,CollectionNo from Inwards "
+                  "order by CollectionNo"));
+        });
+        EXPECT_EQ(Read(screen), 2000);
+        EXPECT_EQ(Row(grid, 1999), "2000|राम|||");
+        EXPECT_EQ(grid.Value(1999, u"CollectionNo").Number(), 2000);
+        EXPECT_TRUE(grid.Value(1999, u"Twice").IsNull());
+    });
+}
+
 TEST_F(LongGridTest, TheLastRowIsAKeyAway)
 {
     AtGrid([&](DataGrid& grid, GridScreen&) {
