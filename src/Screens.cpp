@@ -14,6 +14,7 @@
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
+#include "reports/frmReportMilkPayments.h"
 #include "reports/frmReportPaymentList.h"
 #include "utilities/frmAutoSettings.h"
 #include "vouchers/frmSelectInwards.h"
@@ -50,5 +51,6 @@ void RegisterScreens()
     Register<frmReportMilkCollections>();
     Register<frmReportMembersList>();
     Register<frmReportPaymentList>();
+    Register<frmReportMilkPayments>();
     Register<frmAutoSettings>();
 }

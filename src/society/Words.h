@@ -35,6 +35,9 @@ inline constexpr QStringView Thev = u"zova"; // ठेव
 inline constexpr QStringView UchalKapat = u"Uchal Kapat"; // उचल कपात
 inline constexpr QStringView UchalReceipt = u"Uchal Receipt"; // उचल जमा
 
+// What stays unpaid from before a period, among the heads of a payment.
+inline constexpr QStringView PreviousBalance = u"maagaIla baakI"; // मागील बाकी
+
 }
 
 // Whether a text is one of the two shifts of a day.

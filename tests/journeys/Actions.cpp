@@ -16,6 +16,7 @@ const QString ToTheFrame =
     QString(ToTheNumber + QStringLiteral("{ENTER}1{F7}14042026{ENTER}15042026{ENTER}"));
 const QString ToAnAdvance = QStringLiteral(
     "{F4}%n15042026{ENTER}{ENTER}1{ENTER}{ENTER}KaV{ENTER}100{ENTER}{ENTER}]cala{ENTER}50{ENTER}");
+const QString ToTheSlips = QStringLiteral("{DOWN}{DOWN}{ENTER}{DOWN}{DOWN}{ENTER}");
 const QString Yes = QStringLiteral("%h");
 
 void Execute(const char* statement)
@@ -82,6 +83,8 @@ const std::vector<Action>& Actions()
         {QStringLiteral("NewVillage"),
             ToTheMembers + QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}vaDgaava{ENTER}"), Yes},
         {QStringLiteral("ChangedMember"), ToTheMembers + QStringLiteral("%d1{ENTER}ramaa{ENTER}%s"), Yes},
+        {QStringLiteral("StagedSlips"), ToTheSlips + QStringLiteral("11042026{ENTER}1{ENTER}{ENTER}"),
+            QStringLiteral("%i")},
         {QStringLiteral("DeletedMember"), ToTheMembers + QStringLiteral("%K1{ENTER}{ENTER}"), Yes},
         {QStringLiteral("HeadOfAnAdvance"), ToAnAdvance, QStringLiteral("{ENTER}")},
         {QStringLiteral("NewAdvance"), ToAnAdvance + QStringLiteral("{ENTER}{F4}"),

@@ -106,6 +106,7 @@ std::vector<ScreenState> All()
         ByName("frmReportMembersList", "%2"),
         ByName("frmReportMembersList", "%3"),
         ByName("frmReportPaymentList", "11042026{ENTER}"),
+        ByName("frmReportMilkPayments", "11042026{ENTER}1{ENTER}{ENTER}"),
         From("frmReportMembersList", "frmReportPreview", "%i"),
         From("frmReportMembersList", "frmReportFile", "%i^s"),
         From("frmReportMembersList", "frmReportPrinter", "%i^p"),

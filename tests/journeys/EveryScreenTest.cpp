@@ -301,6 +301,9 @@ TEST_F(WantedOnEveryScreenTest, TheReports)
     Expect("frmReportMilkCollections", "14042026{ENTER}xyz{ENTER}", "ComboAnimal", "lblGuide",
         "↓ ने यादीतून निवडा    Esc : बाहेर");
     Expect("frmReportPaymentList", "{ENTER}", "MaskFromDate", "lblGuide", DateWanted);
+    Expect("frmReportMilkPayments", "{ENTER}", "MaskUserDate", "lblGuide", DateWanted);
+    Expect("frmReportMilkPayments", "12042026{ENTER}", "MaskUserDate", "lblGuide",
+        "ज्या दिवशी दुधाचे पेमेंट झाले तो दिनांक टाका    Esc : बाहेर");
 }
 
 }

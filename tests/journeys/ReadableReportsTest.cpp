@@ -4,6 +4,7 @@
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
+#include "reports/frmReportMilkPayments.h"
 #include "reports/frmReportPaymentList.h"
 #include "tests/journeys/ReadableTest.h"
 #include "utilities/frmAutoSettings.h"
@@ -101,6 +102,16 @@ TEST_F(ReadableReportsTest, TheListOfThePaymentsAndItsPreview)
     On<frmReportPaymentList>([](Clerk& clerk) { TypeAndLook(clerk, {"", "11042026{ENTER}", "{DOWN}"}); });
     EXPECT_FALSE(Failure);
     LookAtReport<frmReportPaymentList>("11042026{ENTER}%i");
+}
+
+TEST_F(ReadableReportsTest, ThePaySlipsAndTheirPreview)
+{
+    On<frmReportMilkPayments>([](Clerk& clerk) {
+        TypeAndLook(clerk, {"", "12042026{ENTER}", "11042026{ENTER}", "1{ENTER}", "{ENTER}"});
+    });
+    EXPECT_FALSE(Failure);
+    TheBox.Shown.clear();
+    LookAtReport<frmReportMilkPayments>("11042026{ENTER}1{ENTER}{ENTER}%i");
 }
 
 TEST_F(ReadableReportsTest, AReportWithItsSearchItsFilesAndItsPrinters)

@@ -5,6 +5,7 @@
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
+#include "reports/frmReportMilkPayments.h"
 #include "reports/frmReportPaymentList.h"
 
 namespace {
@@ -30,6 +31,11 @@ struct PaymentList {
     static constexpr const char* Keys = "15042026{ENTER}";
     static constexpr int Fields = 1;
 };
+struct PaySlipList {
+    using Screen = frmReportMilkPayments;
+    static constexpr const char* Keys = "15042026{ENTER}3{ENTER}{ENTER}";
+    static constexpr int Fields = 3;
+};
 
 template <class S> class ReportEscTest : public ReportsTest {
 protected:
@@ -45,13 +51,14 @@ protected:
     }
 };
 
-using Screens = testing::Types<Statement, CollectionList, MembersList, PaymentList>;
+using Screens = testing::Types<Statement, CollectionList, MembersList, PaymentList, PaySlipList>;
 TYPED_TEST_SUITE(ReportEscTest, Screens);
 
 TYPED_TEST(ReportEscTest, TheFieldsAreEmptyWhenTheScreenHasClosed)
 {
     this->AddMember(3, "gaNaoSa");
     this->Run("insert into CityMaster(CompanyId,CityName) values(1,'kraD')");
+    this->Run("insert into MilkPayments(CompanyId,PaymentDate,MemberNo) values(1,'15/04/2026',3)");
     this->Failure = this->TheClerk.Play(
         [this] {
             typename TypeParam::Screen screen;

@@ -5,6 +5,7 @@
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
+#include "reports/frmReportMilkPayments.h"
 #include "reports/frmReportPaymentList.h"
 
 namespace {
@@ -12,8 +13,8 @@ namespace {
 template <class S> class ReportExitTest : public ReportsTest {
 };
 
-using ReportScreens =
-    testing::Types<frmReportMilkPS, frmReportMilkCollections, frmReportMembersList, frmReportPaymentList>;
+using ReportScreens = testing::Types<frmReportMilkPS, frmReportMilkCollections, frmReportMembersList,
+    frmReportPaymentList, frmReportMilkPayments>;
 TYPED_TEST_SUITE(ReportExitTest, ReportScreens);
 
 TYPED_TEST(ReportExitTest, TheButtonLeavesTheScreenAndPrintsNothing)
@@ -41,6 +42,7 @@ TYPED_TEST(ReportExitTest, TheButtonLeavesTheScreenWhateverStandsInItsFirstField
 
 TYPED_TEST(ReportExitTest, ItsKeyLeavesTheScreen)
 {
+    this->Run("insert into MilkPayments(CompanyId,PaymentDate,MemberNo) values(1,'15/04/2026',3)");
     this->template On<TypeParam>([](Clerk& clerk) {
         if (std::is_same_v<TypeParam, frmReportMilkPS>)
             clerk.Type("01042026{ENTER}10042026");

@@ -1,10 +1,8 @@
 // Every template that is shipped: sound against the tables, and laid out with the demonstration's figures as
 // the golden file of its placed items says.
 
-#include "core/start/MdlAccounts.h"
-#include "tests/reports/ReportsTest.h"
+#include "tests/reports/TemplateGoldenTest.h"
 
-#include "core/start/Program.h"
 #include "delivered/Delivered.h"
 #include "platform/database/Sql.h"
 #include "platform/report/LayoutCheck.h"
@@ -14,109 +12,14 @@
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
 #include "reports/frmReportPaymentList.h"
-#include "tests/support/PdfText.h"
-#include "tools/setup/Society.h"
 
-#include <QDir>
 #include <QFile>
-
-#include <algorithm>
 
 namespace {
 
-constexpr const char* Renewal = "VETROLAN_RENEW=1 ctest --preset check -R ShippedTemplates";
-
-// The lines of both texts that the other one lacks, the first few of them.
-std::string Difference(const QStringList& golden, const QStringList& now)
-{
-    constexpr int Most = 12;
-    std::string lines;
-    int told = 0;
-    for (qsizetype i = 0; i < std::max(golden.size(), now.size()) && told < Most; ++i) {
-        if (golden.value(i) == now.value(i))
-            continue;
-        ++told;
-        lines += std::to_string(i + 1) + "\n- " + golden.value(i).toStdString() + "\n+ "
-            + now.value(i).toStdString() + "\n";
-    }
-    return lines;
-}
-
 // The demonstration, with payments and sales besides.
-class ShippedTemplatesTest : public ReportsTest {
+class ShippedTemplatesTest : public TemplateGoldenTest {
 protected:
-    ShippedTemplatesTest()
-    {
-        gCn.Close();
-        const QString folder = LocalPath(Paths::AppFolder);
-        QDir(folder).removeRecursively();
-        SocietyPlan plan;
-        plan.name = QStringLiteral("श्री महालक्ष्मी सहकारी दूध उत्पादक संस्था");
-        plan.year = QStringLiteral("2026-2027");
-        plan.password = QStringLiteral("Doodh#26");
-        plan.demo = true;
-        CopySociety(folder, plan);
-        LoadAppState();
-    }
-
-    static QString FileOfGolden(const QString& name)
-    {
-        return QDir(QStringLiteral(GOLDEN_FOLDER)).filePath(name + QStringLiteral(".txt"));
-    }
-
-    static QStringList Lines(Report& report)
-    {
-        report.Complete();
-        QStringList lines;
-        for (std::size_t at = 0; at < report.PageCount(); ++at) {
-            const Page& page = report.PageAt(at);
-            lines.append(QStringLiteral("page %1 %2x%3")
-                             .arg(at + 1)
-                             .arg(static_cast<double>(page.width), 0, 'f', 0)
-                             .arg(static_cast<double>(page.height), 0, 'f', 0));
-            lines += Describe(page, report.Fonts());
-        }
-        return lines;
-    }
-
-    // Whoever reads the PDF finds each word that was placed, whole, and no other.
-    void ComparePdfWithItems(Report& report) const
-    {
-        const QString pdf = FolderFile("read.pdf");
-        ASSERT_EQ(report.SavePdf(pdf).fault, QString());
-        QStringList placed = WordsOf(ReportTexts().join(u' '));
-        placed.sort();
-        for (const QStringList& way : {QStringList(), QStringList("-layout")}) {
-            QStringList words = WordsOf(PdfText(pdf, way));
-            words.sort();
-            EXPECT_TRUE(words == placed) << Difference(placed, words) << way.join(u' ').toStdString();
-        }
-    }
-
-    // Compares the last report with its PDF and its golden file, or writes the file anew. VETROLAN_PDFS names
-    // a folder that gets the report as a PDF, to be looked at.
-    void CompareWithGolden(const QString& name) const
-    {
-        ASSERT_FALSE(Failure) << Failure->Text().toStdString();
-        ASSERT_EQ(TheWindow.Shown.size(), 1U);
-        Report& report = *TheWindow.Shown.back();
-        const QStringList now = Lines(report);
-        ComparePdfWithItems(report);
-        if (qEnvironmentVariableIsSet("VETROLAN_PDFS")) {
-            const QString pdf = QDir(qEnvironmentVariable("VETROLAN_PDFS")).filePath(name + u".pdf");
-            EXPECT_EQ(report.SavePdf(pdf).fault, QString());
-        }
-        QFile file(FileOfGolden(name));
-        if (qEnvironmentVariableIsSet("VETROLAN_RENEW")) {
-            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-            file.write(now.join(u'\n').toUtf8() + '\n');
-            return;
-        }
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << "no golden file; made by: " << Renewal;
-        const QStringList golden = QString::fromUtf8(file.readAll()).chopped(1).split(u'\n');
-        EXPECT_TRUE(golden == now) << Difference(golden, now) << "renewed by: " << Renewal;
-    }
-
     // Prints a slip for a delivery of the demonstration, with a long name on it.
     void PrintReceipt(const QString& templateName)
     {

@@ -300,6 +300,20 @@ void Layout::Form::Row(const Caption& caption, Control& field, int width)
     ++m_row;
 }
 
+void Layout::Form::Row(const Caption& caption, Control& field, int width, Label& told)
+{
+    SizeField(field, width);
+    field.SetAccessibleName(caption);
+    told.Widget()->setFixedWidth(NameWidth);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    row->addWidget(field.Widget());
+    row->addWidget(told.Widget());
+    m_grid->addWidget(Text(caption, Qt::AlignRight), m_row, 0);
+    m_grid->addLayout(row, m_row, 1);
+    ++m_row;
+}
+
 void Layout::Form::Row(
     const Caption& caption, std::initializer_list<std::pair<Control*, Caption>> fields, int width)
 {

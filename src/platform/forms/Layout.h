@@ -87,6 +87,9 @@ public:
     // One field with its caption; `width` in pixels, 0 for the width of the form.
     void Row(const Caption& caption, Control& field, int width = 0);
 
+    // One field, and beside it what is told of it, in the room of a name.
+    void Row(const Caption& caption, Control& field, int width, Label& told);
+
     // Several fields after one caption. Each has another caption of its own for a screen reader.
     void Row(const Caption& caption, std::initializer_list<std::pair<Control*, Caption>> fields, int width);
 

@@ -1,0 +1,56 @@
+#include "reports/StagingProgress.h"
+
+#include "platform/text/Numbers.h"
+#include "platform/text/Shivaji01.h"
+
+#include <QVBoxLayout>
+
+StagingProgress::StagingProgress(Screen* screen)
+    : m_bar(screen)
+    , lblMessage(screen, "lblMessage")
+    , lblMember(screen, "lblMember")
+{
+    for (Label* label : {&lblMessage, &lblMember}) {
+        QSizePolicy place = label->Widget()->sizePolicy();
+        place.setRetainSizeWhenHidden(true);
+        label->Widget()->setSizePolicy(place);
+        label->Widget()->setAlignment(Qt::AlignCenter);
+    }
+    End();
+}
+
+QLayout* StagingProgress::Line()
+{
+    auto* lines = new QVBoxLayout;
+    lines->addWidget(lblMessage.Widget());
+    lines->addWidget(m_bar.Widget());
+    lines->addWidget(lblMember.Widget());
+    return lines;
+}
+
+void StagingProgress::Begin(int rows)
+{
+    lblMessage.SetFigure(QStringLiteral("Generating the Report"));
+    lblMessage.SetVisible(true);
+    lblMember.SetVisible(true);
+    m_bar.Begin(rows);
+}
+
+void StagingProgress::Tell(double memberNo, const QString& name)
+{
+    lblMember.SetFigure(ShortestDecimal(memberNo) + u' ' + Shivaji01::ToUnicode(name));
+}
+
+void StagingProgress::Step()
+{
+    m_bar.Step();
+}
+
+void StagingProgress::End()
+{
+    m_bar.End();
+    lblMessage.SetFigure({});
+    lblMember.SetFigure({});
+    lblMessage.SetVisible(false);
+    lblMember.SetVisible(false);
+}

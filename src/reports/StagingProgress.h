@@ -1,0 +1,29 @@
+#pragma once
+
+#include "core/messages/Progress.h"
+
+class QLayout;
+
+// Shows how far the staging of a report is: a bar with its percent, and the member in hand. Hidden at rest.
+class StagingProgress {
+public:
+    explicit StagingProgress(Screen* screen);
+
+    // What is shown, to be laid out below what the screen asks for.
+    QLayout* Line();
+
+    void Begin(int rows);
+
+    // The member whose row is staged now.
+    void Tell(double memberNo, const QString& name);
+
+    // His row is done.
+    void Step();
+
+    void End();
+
+private:
+    Progress m_bar;
+    Label lblMessage;
+    Label lblMember;
+};
