@@ -15,6 +15,7 @@
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
 #include "reports/frmReportMilkPayments.h"
+#include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
 #include "utilities/frmAutoSettings.h"
 #include "vouchers/frmSelectInwards.h"
@@ -52,5 +53,6 @@ void RegisterScreens()
     Register<frmReportMembersList>();
     Register<frmReportPaymentList>();
     Register<frmReportMilkPayments>();
+    Register<frmReportMilkPaymentsRegister>();
     Register<frmAutoSettings>();
 }

@@ -17,6 +17,10 @@ const QString ToTheFrame =
 const QString ToAnAdvance = QStringLiteral(
     "{F4}%n15042026{ENTER}{ENTER}1{ENTER}{ENTER}KaV{ENTER}100{ENTER}{ENTER}]cala{ENTER}50{ENTER}");
 const QString ToTheSlips = QStringLiteral("{DOWN}{DOWN}{ENTER}{DOWN}{DOWN}{ENTER}");
+const QString ToTheRegister = QStringLiteral("{DOWN}{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
+const QString ToTheStatement =
+    QStringLiteral("{DOWN}{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
+const QString ToTheBalances = QStringLiteral("{DOWN}{DOWN}{DOWN}{ENTER}{ENTER}");
 const QString Yes = QStringLiteral("%h");
 
 void Execute(const char* statement)
@@ -84,6 +88,13 @@ const std::vector<Action>& Actions()
             ToTheMembers + QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}vaDgaava{ENTER}"), Yes},
         {QStringLiteral("ChangedMember"), ToTheMembers + QStringLiteral("%d1{ENTER}ramaa{ENTER}%s"), Yes},
         {QStringLiteral("StagedSlips"), ToTheSlips + QStringLiteral("11042026{ENTER}1{ENTER}{ENTER}"),
+            QStringLiteral("%i")},
+        {QStringLiteral("StagedRegister"),
+            ToTheRegister + QStringLiteral("01042026{ENTER}{ENTER}1{ENTER}{ENTER}"), QStringLiteral("%i")},
+        {QStringLiteral("StagedStatement"),
+            ToTheStatement + QStringLiteral("01042026{ENTER}15042026{ENTER}1{ENTER}"), QStringLiteral("%i")},
+        {QStringLiteral("StagedBalances"),
+            ToTheBalances + QStringLiteral("01042026{ENTER}15042026{ENTER}1{ENTER}{ENTER}"),
             QStringLiteral("%i")},
         {QStringLiteral("DeletedMember"), ToTheMembers + QStringLiteral("%K1{ENTER}{ENTER}"), Yes},
         {QStringLiteral("HeadOfAnAdvance"), ToAnAdvance, QStringLiteral("{ENTER}")},

@@ -10,6 +10,7 @@
 #include "core/messages/PlainBox.h"
 #include "core/start/AppDate.h"
 #include "core/start/OpeningScreens.h"
+#include "core/state/AppState.h"
 #include "platform/text/RunTimeError.h"
 
 #include <QDeadlineTimer>
@@ -29,6 +30,16 @@ ScreenState From(const char* opening, const char* screen, const char* keys)
     ScreenState state = ByName(opening, keys);
     state.screen = QString::fromLatin1(screen);
     return state;
+}
+
+// The screen of the registers in a mode, as the menu opens it.
+ScreenState Register(const char* mode, const char* keys)
+{
+    const QString word = QString::fromLatin1(mode);
+    return {QStringLiteral("frmReportMilkPaymentsRegister"), QString::fromUtf8(keys), [word] {
+                gAppState.gReportMode = word;
+                ScreenDirectory::Open(QStringLiteral("frmReportMilkPaymentsRegister"), {});
+            }};
 }
 
 template <class S> ScreenState Alone(const char* screen, const char* keys = "")
@@ -107,6 +118,12 @@ std::vector<ScreenState> All()
         ByName("frmReportMembersList", "%3"),
         ByName("frmReportPaymentList", "11042026{ENTER}"),
         ByName("frmReportMilkPayments", "11042026{ENTER}1{ENTER}{ENTER}"),
+        Register("PR", "01042026{ENTER}{ENTER}1{ENTER}{ENTER}"),
+        Register("TR", "01042026{ENTER}{ENTER}1{ENTER}{ENTER}"),
+        Register("UR", "01042026{ENTER}"),
+        Register("UD", "01042026{ENTER}20042026{ENTER}1{ENTER}"),
+        Register("UchalBalanceStatement", "01042026{ENTER}20042026{ENTER}1{ENTER}{ENTER}"),
+        Register("ThevBalanceStatement", "01042026{ENTER}20042026{ENTER}"),
         From("frmReportMembersList", "frmReportPreview", "%i"),
         From("frmReportMembersList", "frmReportFile", "%i^s"),
         From("frmReportMembersList", "frmReportPrinter", "%i^p"),

@@ -304,6 +304,8 @@ TEST_F(WantedOnEveryScreenTest, TheReports)
     Expect("frmReportMilkPayments", "{ENTER}", "MaskUserDate", "lblGuide", DateWanted);
     Expect("frmReportMilkPayments", "12042026{ENTER}", "MaskUserDate", "lblGuide",
         "ज्या दिवशी दुधाचे पेमेंट झाले तो दिनांक टाका    Esc : बाहेर");
+    Expect("frmReportMilkPaymentsRegister", "{ENTER}", "maskFromDate", "lblGuide", DateWanted);
+    Expect("frmReportMilkPaymentsRegister", "05042026{ENTER}{ENTER}", "maskToDate", "lblGuide", DateWanted);
 }
 
 }

@@ -5,6 +5,7 @@
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
 #include "reports/frmReportMilkPayments.h"
+#include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
 #include "tests/journeys/ReadableTest.h"
 #include "utilities/frmAutoSettings.h"
@@ -112,6 +113,18 @@ TEST_F(ReadableReportsTest, ThePaySlipsAndTheirPreview)
     EXPECT_FALSE(Failure);
     TheBox.Shown.clear();
     LookAtReport<frmReportMilkPayments>("11042026{ENTER}1{ENTER}{ENTER}%i");
+}
+
+TEST_F(ReadableReportsTest, TheRegistersAndTheirPreviews)
+{
+    for (const char* mode : {"PR", "TR", "UR", "UD", "UchalBalanceStatement", "ThevBalanceStatement"}) {
+        gAppState.gReportMode = QString::fromLatin1(mode);
+        On<frmReportMilkPaymentsRegister>([](Clerk& clerk) {
+            TypeAndLook(clerk, {"", "01042026{ENTER}", "10042026{ENTER}", "1{ENTER}", "{ENTER}"});
+        });
+        EXPECT_FALSE(Failure);
+        LookAtReport<frmReportMilkPaymentsRegister>("01042026{ENTER}10042026{ENTER}1{ENTER}%i");
+    }
 }
 
 TEST_F(ReadableReportsTest, AReportWithItsSearchItsFilesAndItsPrinters)

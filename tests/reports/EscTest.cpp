@@ -6,6 +6,7 @@
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
 #include "reports/frmReportMilkPayments.h"
+#include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
 
 namespace {
@@ -36,6 +37,11 @@ struct PaySlipList {
     static constexpr const char* Keys = "15042026{ENTER}3{ENTER}{ENTER}";
     static constexpr int Fields = 3;
 };
+struct PaymentRegisters {
+    using Screen = frmReportMilkPaymentsRegister;
+    static constexpr const char* Keys = "11042026{ENTER}{ENTER}3{ENTER}{ENTER}";
+    static constexpr int Fields = 4;
+};
 
 template <class S> class ReportEscTest : public ReportsTest {
 protected:
@@ -51,7 +57,8 @@ protected:
     }
 };
 
-using Screens = testing::Types<Statement, CollectionList, MembersList, PaymentList, PaySlipList>;
+using Screens =
+    testing::Types<Statement, CollectionList, MembersList, PaymentList, PaySlipList, PaymentRegisters>;
 TYPED_TEST_SUITE(ReportEscTest, Screens);
 
 TYPED_TEST(ReportEscTest, TheFieldsAreEmptyWhenTheScreenHasClosed)

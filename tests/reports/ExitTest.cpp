@@ -6,6 +6,7 @@
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
 #include "reports/frmReportMilkPayments.h"
+#include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
 
 namespace {
@@ -14,7 +15,7 @@ template <class S> class ReportExitTest : public ReportsTest {
 };
 
 using ReportScreens = testing::Types<frmReportMilkPS, frmReportMilkCollections, frmReportMembersList,
-    frmReportPaymentList, frmReportMilkPayments>;
+    frmReportPaymentList, frmReportMilkPayments, frmReportMilkPaymentsRegister>;
 TYPED_TEST_SUITE(ReportExitTest, ReportScreens);
 
 TYPED_TEST(ReportExitTest, TheButtonLeavesTheScreenAndPrintsNothing)
@@ -44,7 +45,8 @@ TYPED_TEST(ReportExitTest, ItsKeyLeavesTheScreen)
 {
     this->Run("insert into MilkPayments(CompanyId,PaymentDate,MemberNo) values(1,'15/04/2026',3)");
     this->template On<TypeParam>([](Clerk& clerk) {
-        if (std::is_same_v<TypeParam, frmReportMilkPS>)
+        if (std::is_same_v<TypeParam,
+                frmReportMilkPS> || std::is_same_v<TypeParam, frmReportMilkPaymentsRegister>)
             clerk.Type("01042026{ENTER}10042026");
         else if (!std::is_same_v<TypeParam, frmReportMembersList>)
             clerk.Type("15042026");

@@ -1,10 +1,11 @@
-// The templates of the pay slips, laid out as their golden files say.
+// The templates of the pay slips, the registers and the balances, laid out as their golden files say.
 
 #include "tests/reports/TemplateGoldenTest.h"
 
 #include "platform/database/Sql.h"
 #include "platform/text/Numbers.h"
 #include "reports/frmReportMilkPayments.h"
+#include "reports/frmReportMilkPaymentsRegister.h"
 #include "society/Words.h"
 #include "tests/support/PdfText.h"
 
@@ -105,6 +106,13 @@ protected:
     {
         gAppState.gPaymentDuration = QString::fromLatin1(duration);
         Type<frmReportMilkPayments>(keys);
+        ASSERT_FALSE(Failure) << Failure->Text().toStdString();
+    }
+
+    void PrintRegister(const char* mode, const char* keys)
+    {
+        gAppState.gReportMode = QString::fromLatin1(mode);
+        Type<frmReportMilkPaymentsRegister>(keys);
         ASSERT_FALSE(Failure) << Failure->Text().toStdString();
     }
 
@@ -249,6 +257,111 @@ TEST_F(ShippedTemplatesOfPaymentsTest, ASlipOfSeveralPeriodsOfADateHasTheDaysOfI
         EXPECT_EQ(texts.count(QStringLiteral("%1/04").arg(day, 2, 10, QLatin1Char('0'))), 2) << day;
     EXPECT_LT(texts.indexOf("10/04"), texts.indexOf("11/04/2026 ते 20/04/2026"));
     EXPECT_GT(texts.indexOf("11/04"), texts.indexOf("11/04/2026 ते 20/04/2026"));
+}
+
+// The registers, of enough members for more than a page.
+
+class ShippedTemplatesOfRegistersTest : public ShippedTemplatesOfPaymentsTest {
+protected:
+    ShippedTemplatesOfRegistersTest()
+    {
+        Run("delete * from MembersMaster where MemberNo>3");
+        const QStringList names{NameOf(1), NameOf(2), NameOf(3)};
+        for (int member = 4; member <= 60; ++member)
+            Run(Sql(u"insert into MembersMaster(CompanyId,MemberNo,MemberName,Animal,CowOpeningThev,"
+                    u"BuffOpeningThev) values(",
+                Values(1, member, names[member % 3], Word::Both, 100 * member, 0), u")"));
+    }
+
+    void PayEverybody()
+    {
+        PayAll("10/04/2026");
+        for (int member = 4; member <= 60; ++member) {
+            Run(Sql(u"insert into MilkCollections(CompanyId,CollectionDate,CollectionTime,CollectionNo,"
+                    u"MemberNo,Animal,Liters,Amount) values(",
+                Values(1, QDate(2026, 4, 5), Word::Morning, member, member, Word::Cow, 100 + member,
+                    3000 + member * 10.25),
+                u")"));
+            Pay(member, "01/04/2026", "10/04/2026");
+        }
+    }
+
+    void GiveAdvances()
+    {
+        for (int member = 1; member <= 60; ++member) {
+            AddHeads("TransactionsDetails", QDate(2026, 3, 20), member, {{u"]cala", 1000.0 + member}});
+            if (member % 4 == 0)
+                AddHeads("AdvanceReceipt", QDate(2026, 3, 25), member, {{Word::UchalReceipt, 250.5}});
+        }
+    }
+
+    static constexpr const char* Keys = "01042026{ENTER}10042026{ENTER}1{ENTER}{ENTER}%i";
+};
+
+TEST_F(ShippedTemplatesOfRegistersTest, MilkPaymentsRegisterPortraitCarriesItsPageTotalsForward)
+{
+    PayEverybody();
+    PrintRegister("PR", Keys);
+    CompareWithGolden("MilkPaymentsRegisterPortrait");
+    const QStringList texts = ReportTexts();
+    EXPECT_EQ(Pages(), 3U);
+    for (const char* line : {"पानाची बेरीज", "पुढील पानावर", "मागील पानावरून"})
+        EXPECT_EQ(texts.count(QString::fromUtf8(line)), 2) << line;
+    EXPECT_TRUE(texts.contains("एकूण (60)"));
+    EXPECT_TRUE(texts.contains(Format(Val(One("select sum(NetAmount) from MilkPayments")), u"0.00")));
+}
+
+TEST_F(ShippedTemplatesOfRegistersTest, MilkPaymentsRegisterLandscapeTellsTheHeadsToo)
+{
+    PayEverybody();
+    PrintRegister("PR", "01042026{ENTER}10042026{ENTER}1{ENTER}{ENTER}{DOWN}%i");
+    CompareWithGolden("MilkPaymentsRegisterLandscape");
+    EXPECT_TRUE(ReportTexts().contains("पुढील पानावर"));
+}
+
+TEST_F(ShippedTemplatesOfRegistersTest, ThevRegisterTellsTheDepositBeforeOfAndAfterThePeriod)
+{
+    PayEverybody();
+    PrintRegister("TR", Keys);
+    CompareWithGolden("ThevRegister");
+}
+
+TEST_F(ShippedTemplatesOfRegistersTest, UchalRegisterNewTellsWhatIsOwedBeforeAndAfterThePeriod)
+{
+    PayEverybody();
+    GiveAdvances();
+    PrintRegister("UR", Keys);
+    CompareWithGolden("UchalRegisterNew");
+}
+
+TEST_F(ShippedTemplatesOfRegistersTest, UchalBalanceStatementListsThoseWhoOwe)
+{
+    GiveAdvances();
+    PrintRegister("UchalBalanceStatement", Keys);
+    CompareWithGolden("UchalBalanceStatement");
+}
+
+TEST_F(ShippedTemplatesOfRegistersTest, ThevBalanceStatementListsTheDeposits)
+{
+    PayEverybody();
+    PrintRegister("ThevBalanceStatement", Keys);
+    CompareWithGolden("ThevBalanceStatement");
+}
+
+TEST_F(ShippedTemplatesOfRegistersTest, PersonalUchalReportRunsABalanceOverItsPages)
+{
+    GiveAdvances();
+    for (int day = 1; day <= 30; ++day) {
+        AddHeads("TransactionsDetails", QDate(2026, 4, day), BothMember, {{u"]cala", 100.25 * day}});
+        AddHeads("AdvanceReceipt", QDate(2026, 4, day), BothMember, {{Word::UchalKapat, 95.5 * day}});
+    }
+    AddHeads("AdvanceReceipt", QDate(2026, 4, 30), BothMember, {{Word::UchalReceipt, 5000}});
+    PrintRegister("UD", "01042026{ENTER}30042026{ENTER}3{ENTER}%i");
+    CompareWithGolden("PersonalUchalReport");
+    const QStringList texts = ReportTexts();
+    EXPECT_TRUE(texts.contains("मागील पानावरून"));
+    EXPECT_TRUE(texts.contains("आरंभीची शिल्लक"));
+    EXPECT_TRUE(texts.contains(Format(1003 + (100.25 - 95.5) * 465 - 5000, u"0.00")));
 }
 
 }
