@@ -137,8 +137,11 @@ TEST_F(BalancesTest, AGuardTakesAwayTheRowsOfACompanyThatIsNone)
     gAppState.gCompanyId = 992;
     AddHead("TransactionsDetails", "10/04/2026", 1, "]cala", 100, 992);
     Pay({.company = 992});
-    for (const char* mode : {"UchalBalanceStatement", "ThevBalanceStatement"})
-        EXPECT_EQ(Balances(mode), QStringList()) << mode;
+    for (const char* mode : {"UchalBalanceStatement", "ThevBalanceStatement"}) {
+        Print(mode, "01042026{ENTER}20042026{ENTER}1{ENTER}9{ENTER}%i");
+        EXPECT_EQ(Rows("select * from ReportDates"), Lines({"992|01/04/2026|20/04/2026"})) << mode;
+        EXPECT_EQ(Rows("select * from MilkPaymentsRegister"), QStringList()) << mode;
+    }
 }
 
 TEST_F(BalancesTest, ARangeWithoutMembersIsTold)

@@ -63,7 +63,7 @@ TEST_F(PaySlipsTest, MorningAndEveningStandInOneRowForEachDayAndAnimal)
     AddDelivery("20/04/2026", "sakaL", 1, 1, "rama", "mhOsa", 3, 7.5, 46);
     AddDelivery("10/04/2026", "sakaL", 1, 1, "rama", "gaaya", 99, 4, 30);
     AddDelivery("21/04/2026", "sakaL", 1, 1, "rama", "gaaya", 99, 4, 30);
-    AddDelivery("11/04/2026", "sakaL", 9, 5, "saIta", "gaaya", 77, 4, 30);
+    AddDelivery("11/04/2026", "sakaL", 1, 5, "saIta", "gaaya", 77, 4, 30);
     Print();
     EXPECT_EQ(Days("CollectionDate=#04/11/2026#"),
         Lines({"11/04/2026|1|rama|gaaya|10|4|30|300|8|4.1|31|248",
@@ -96,6 +96,17 @@ TEST_F(PaySlipsTest, APaymentPeriodThatStartsBeforeTheCompanysFromDateReadsTheOl
     EXPECT_EQ(Rows("select CollectionDate,LitersM from MilkCollectionsME where LitersM>0"),
         Lines({"30/03/2026|10", "01/04/2026|5"}));
     EXPECT_EQ(Rows("select Liters from MilkCollectionsTemp order by Liters"), Lines({"5", "10"}));
+}
+
+TEST_F(PaySlipsTest, OfAShiftThatIsInBothTablesTheLowestNumberIsTold)
+{
+    Pay({.from = "29/03/2026", .to = "07/04/2026"});
+    AddDelivery("30/03/2026", "sakaL", 7, 1, "rama", "gaaya", 7, 4, 30);
+    Run("insert into MilkCollectionsOld select * from MilkCollections");
+    Run("delete * from MilkCollections");
+    AddDelivery("30/03/2026", "sakaL", 5, 1, "rama", "gaaya", 5, 4, 30);
+    Print();
+    EXPECT_EQ(Rows("select LitersM from MilkCollectionsME where LitersM>0"), Lines({"5"}));
 }
 
 TEST_F(PaySlipsTest, APaymentPeriodWithinTheCurrentDataLeavesTheOldTableAlone)

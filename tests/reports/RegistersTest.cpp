@@ -45,7 +45,8 @@ TEST_F(PaymentRegisterTest, RowsOfNoCompanyAreTidiedAway)
     gAppState.gCompanyId = 0;
     Pay({.company = 0});
     for (const char* mode : {"PR", "TR", "UR"}) {
-        Print(mode);
+        Print(mode, "11042026{ENTER}{ENTER}1{ENTER}9{ENTER}%i");
+        EXPECT_EQ(Rows("select MemberNo from MilkPaymentsTemp"), Lines({"1"})) << mode;
         EXPECT_EQ(Rows(Registered), QStringList()) << mode;
     }
 }
