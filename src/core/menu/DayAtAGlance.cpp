@@ -38,6 +38,7 @@ QLabel* Told(const char* name, Qt::Alignment align, bool bold)
 
 DayAtAGlance::DayAtAGlance()
     : m_day(Told("lblWorkingDay", Qt::AlignLeft, true))
+    , m_payment(Told("lblLastPayment", Qt::AlignLeft, false))
     , m_backup(Told("lblLastBackup", Qt::AlignLeft, false))
 {
     setFrameShape(QFrame::NoFrame);
@@ -63,6 +64,7 @@ DayAtAGlance::DayAtAGlance()
         grid->addWidget(m_litres[shift], row, 1);
         grid->addWidget(m_amount[shift], row++, 2);
     }
+    grid->addWidget(m_payment, row++, 0, 1, 3);
     grid->addWidget(m_backup, row, 0, 1, 3);
 }
 
@@ -72,6 +74,7 @@ void DayAtAGlance::Show()
             ? QStringLiteral("कामाचा दिवस  ") + DateText(gAppState.gAppDate)
             : QString());
     ShowShifts();
+    ShowPayment();
     ShowBackup();
 }
 
@@ -91,6 +94,17 @@ void DayAtAGlance::ShowShifts()
         m_litres[shift]->setText(Format(litres, u"#######0.000"));
         m_amount[shift]->setText(Format(amount, u"#########0.00"));
     }
+}
+
+// The newest by the date of the bill.
+void DayAtAGlance::ShowPayment()
+{
+    const Recordset newest(gCn,
+        Sql(u"select FromDate,ToDate from MilkPayments where CompanyId=", gAppState.gCompanyId,
+            u" order by PaymentDate desc"));
+    m_payment->setText(newest.Eof()
+            ? QStringLiteral("पेमेंट अजून झालेले नाही")
+            : QStringLiteral("शेवटचे पेमेंट  %1 ते %2").arg(newest[u"FromDate"].Text(), newest[u"ToDate"].Text()));
 }
 
 void DayAtAGlance::ShowBackup()

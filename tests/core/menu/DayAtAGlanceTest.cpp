@@ -96,4 +96,18 @@ TEST_F(DayAtAGlanceTest, WithoutACopyItIsSaid)
     Menu([](Clerk& clerk) { EXPECT_EQ(LabelOf(clerk, "lblLastBackup"), "बॅकअप अजून घेतलेला नाही"); });
 }
 
+TEST_F(DayAtAGlanceTest, ThePeriodThatWasPaidLastIsToldByTheDateOfItsBill)
+{
+    Menu([](Clerk& clerk) { EXPECT_EQ(LabelOf(clerk, "lblLastPayment"), "पेमेंट अजून झालेले नाही"); });
+    for (const char* row :
+        {"1,'01/04/2026','10/04/2026','12/04/2026'", "1,'11/04/2026','20/04/2026','20/04/2026'",
+            "1,'01/05/2026','10/05/2026','11/04/2026'", "2,'21/04/2026','30/04/2026','30/04/2026'"})
+        Run(QStringLiteral(
+                "insert into MilkPayments(CompanyId,FromDate,ToDate,PaymentDate,TranId,MemberNo) values(")
+            + QLatin1String(row) + QStringLiteral(",1,1)"));
+    Menu([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblLastPayment"), "शेवटचे पेमेंट  11/04/2026 ते 20/04/2026");
+    });
+}
+
 }
