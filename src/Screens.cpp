@@ -10,6 +10,9 @@
 #include "core/preview/ReportPreviewDialogs.h"
 #include "masters/frmCustomers.h"
 #include "masters/frmMembers.h"
+#include "payments/frmInstallment.h"
+#include "payments/frmNewMilkPayment.h"
+#include "payments/frmThevDate.h"
 #include "rates/frmNewFatRates.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
@@ -45,6 +48,8 @@ void RegisterScreens()
     Register<frmAbsenseMemberCollection>();
     Register<frmUchalVouchers>();
     Keys::Add(frmSelectInwards::KeyPlaces());
+    Register<frmInstallment>();
+    Register<frmNewMilkPayment>();
     Keys::Add(frmReportPreview::KeyPlaces());
     Keys::Add(frmReportFile::KeyPlaces());
     Keys::Add(frmReportPrinter::KeyPlaces());
@@ -55,4 +60,5 @@ void RegisterScreens()
     Register<frmReportMilkPayments>();
     Register<frmReportMilkPaymentsRegister>();
     Register<frmAutoSettings>();
+    Register<frmThevDate>();
 }

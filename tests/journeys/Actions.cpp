@@ -3,8 +3,6 @@
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
 
-#include <algorithm>
-
 namespace {
 
 const QString ToTheMembers = QStringLiteral("{ENTER}{ENTER}");
@@ -21,6 +19,9 @@ const QString ToTheRegister = QStringLiteral("{DOWN}{DOWN}{ENTER}{DOWN}{DOWN}{DO
 const QString ToTheStatement =
     QStringLiteral("{DOWN}{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
 const QString ToTheBalances = QStringLiteral("{DOWN}{DOWN}{DOWN}{ENTER}{ENTER}");
+const QString ToTheInstallments = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
+const QString ToThePayments = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
+const QString ToOnePayment = QString(ToThePayments + QStringLiteral("{DOWN}{ENTER}{ENTER}"));
 const QString Yes = QStringLiteral("%h");
 
 void Execute(const char* statement)
@@ -80,6 +81,18 @@ const std::vector<Action>& Actions()
             QStringLiteral("%s")},
         {QStringLiteral("ReRating"),
             ToTheRates + QStringLiteral("15042026{ENTER}{F5}8{ENTER}7{ENTER}{ENTER}%s"), Yes},
+        {QStringLiteral("WorkedOutPayment"), ToOnePayment + QStringLiteral("%n11042026{ENTER}{ENTER}1"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("StagedPayment"), ToOnePayment + QStringLiteral("%n11042026{ENTER}{ENTER}1{ENTER}"),
+            QStringLiteral("%s")},
+        {QStringLiteral("SavedPayment"), ToOnePayment + QStringLiteral("%n11042026{ENTER}{ENTER}1{ENTER}%s"),
+            Yes},
+        {QStringLiteral("ReversedPayment"), ToOnePayment + QStringLiteral("%k01042026{ENTER}1{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("ExtraRate"), ToOnePayment + QStringLiteral("{F5}2.5"), QStringLiteral("{F5}")},
+        {QStringLiteral("InstallmentsTicked"), ToThePayments + QStringLiteral("+{TAB}"), QStringLiteral(" ")},
+        {QStringLiteral("NewInstallment"), ToTheInstallments + QStringLiteral("1{ENTER}{ENTER}50"),
+            QStringLiteral("{ENTER}")},
         {QStringLiteral("NewMember"),
             ToTheMembers
                 + QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}1{ENTER}250.5{ENTER}{ENTER}"),
@@ -113,12 +126,23 @@ const std::vector<Action>& Actions()
     return actions;
 }
 
+const std::vector<Action>& Runs()
+{
+    static const std::vector<Action> runs = {
+        {QStringLiteral("PaidMany"),
+            ToThePayments + QStringLiteral("{DOWN}{DOWN}{ENTER}11042026{ENTER}{ENTER}1{ENTER}3{ENTER}"),
+            QStringLiteral("{ENTER}")},
+    };
+    return runs;
+}
+
 const Action& ActionOf(const QString& name)
 {
-    const auto at = std::find_if(
-        Actions().begin(), Actions().end(), [&](const Action& action) { return action.name == name; });
-    Q_ASSERT(at != Actions().end());
-    return *at;
+    for (const std::vector<Action>* list : {&Actions(), &Runs()})
+        for (const Action& action : *list)
+            if (action.name == name)
+                return action;
+    qFatal("no such action: %s", qPrintable(name));
 }
 
 QString OpeningKeys()

@@ -17,6 +17,11 @@ struct Action {
 
 // Every action of the screens that writes, as it is played on the books of FillBooks.
 const std::vector<Action>& Actions();
+
+// Those that write part by part, each part whole or not at all.
+const std::vector<Action>& Runs();
+
+// One of all these.
 const Action& ActionOf(const QString& name);
 
 // From the title to the main menu; the working day is 15/04/2026.

@@ -293,6 +293,22 @@ TEST_F(WantedOnEveryScreenTest, TheSettings)
         "0 पेक्षा जास्त टाका    Alt+R : रद्द");
 }
 
+TEST_F(WantedOnEveryScreenTest, ThePayments)
+{
+    const auto expect = [this](const char* keys, const char* focus, const char* guide) {
+        Expect("frmNewMilkPayment", keys, focus, "lblGuide", guide);
+    };
+    expect("{DOWN}{DOWN}{ENTER}{ENTER}", "maskFromDate1", DateWanted);
+    expect("{DOWN}{DOWN}{ENTER}01042026{ENTER}{ENTER}{ENTER}", "txtFromAc",
+        "1 ते 3 मधील मेम्बर नंबर टाका    Esc : बाहेर");
+    expect("{DOWN}{ENTER}{ENTER}%n{ENTER}", "maskFromDate", DateWanted);
+    expect("{DOWN}{ENTER}{ENTER}%n02042026{ENTER}", "maskFromDate",
+        "पेमेंटचा पहिला दिवस 01, 11 किंवा 21 तारीख असावी    Esc : बाहेर");
+    expect(
+        "{DOWN}{ENTER}{ENTER}%n01042026{ENTER}{ENTER}{ENTER}", "txtMemberNo", "मेम्बर नंबर टाका    Alt+R : रद्द");
+    Expect("frmThevDate", "{BS}%s", "maskFromDate", "lblGuide", DateWanted);
+}
+
 TEST_F(WantedOnEveryScreenTest, TheReports)
 {
     Expect("frmReportMilkPS", "{ENTER}", "maskFromDate", "lblGuide", DateWanted);

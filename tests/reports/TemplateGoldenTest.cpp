@@ -51,7 +51,7 @@ QStringList PlacedLines(Report& report)
 TemplateGoldenTest::TemplateGoldenTest()
 {
     gCn.Close();
-    const QString folder = LocalPath(AppFolder);
+    const QString folder = LocalPath(Paths::AppFolder);
     QDir(folder).removeRecursively();
     SocietyPlan plan;
     plan.name = QStringLiteral("श्री महालक्ष्मी सहकारी दूध उत्पादक संस्था");

@@ -50,7 +50,7 @@ protected:
             u",'A{yaaNNava laaK sa%yaah%tr Hajaar AazSao sa%yaaeoMSaI $pyao  ',",
             Quoted(NameOfMember("gaaya")), u")"));
         ReportControl report;
-        report.SetReportFileName(AppFolder.toString() + templateName + u".rpt");
+        report.SetReportFileName(Paths::AppFolder.toString() + templateName + u".rpt");
         report.SetLogon(Logon());
         report.Print();
     }
