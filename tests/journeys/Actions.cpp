@@ -32,12 +32,12 @@ void Execute(const char* statement)
 void InsertDeliveries()
 {
     const QString columns =
-        "(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,Animal,"
-        "Liters,Fat,Rate,Amount,TranId,ActualCollectionTime) values(1,";
+        QStringLiteral("(CompanyId,CollectionDate,CollectionTime,CollectionNo,MemberNo,MemberName,Animal,"
+                       "Liters,Fat,Rate,Amount,TranId,ActualCollectionTime) values(1,");
     for (const char* values : {"'14/04/2026','sakaL',1,1,'rama','gaaya',5,4.5,35,175,0,'6.01')",
              "'15/04/2026','sakaL',1,1,'rama','gaaya',6,4.5,35,210,0,'6.02')",
              "'15/04/2026','sakaL',2,2,'saIta','mhOsa',4,7.1,47.65,190.6,0,'6.03')"})
-        gCn.Execute("insert into MilkCollections" + columns + QString::fromLatin1(values));
+        gCn.Execute(QStringLiteral("insert into MilkCollections") + columns + QString::fromLatin1(values));
     gCn.Execute(Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where CollectionNo=2"));
 }
 
@@ -147,7 +147,7 @@ const Action& ActionOf(const QString& name)
 
 QString OpeningKeys()
 {
-    return "{ENTER}{ENTER}15042026{ENTER}{ENTER}";
+    return QStringLiteral("{ENTER}{ENTER}15042026{ENTER}{ENTER}");
 }
 
 void InsertMember(int number, const QString& name, const QString& animal)
@@ -162,9 +162,9 @@ void InsertMember(int number, const QString& name, const QString& animal)
 
 void FillBooks()
 {
-    InsertMember(1, "rama", "gaaya");
-    InsertMember(2, "saIta", "mhOsa");
-    InsertMember(3, "gaNaoSa", "daonhI");
+    InsertMember(1, QStringLiteral("rama"), QStringLiteral("gaaya"));
+    InsertMember(2, QStringLiteral("saIta"), QStringLiteral("mhOsa"));
+    InsertMember(3, QStringLiteral("gaNaoSa"), QStringLiteral("daonhI"));
     InsertDeliveries();
     Execute(
         "insert into CustomersMaster(CompanyId,CustomerNo,CustomerName,Animal,CustomerType,CowOpeningLits,"
