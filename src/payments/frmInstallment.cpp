@@ -23,7 +23,7 @@ std::vector<DataGrid::Column> InstallmentColumns()
 // A row without a name gets that of the number.
 QString NameOf(const GridRow& row)
 {
-    const QString typed = row.Text(u"MemberName");
+    QString typed = row.Text(u"MemberName");
     if (!typed.trimmed().isEmpty())
         return typed;
     const Recordset member = MemberOfNumber(row.Number(u"MemberNo"));

@@ -33,10 +33,10 @@ void Print(const Voucher& voucher, QStringView templateName)
     frmNarrations prompt(Shivaji(u"pavatI ilahUna doNaar "));
     prompt.ShowModal();
     Stage(voucher, prompt.Narration);
-    TemplateReport CRTVoucher(templateName);
-    CRTVoucher.SetSubject(
+    TemplateReport report(templateName);
+    report.SetSubject(
         ReportSubject({voucher.memberName, voucher.kind->billNo.toString()}, ToDate(voucher.tranDate)));
-    CRTVoucher.Print();
+    report.Print();
     gCn.Execute(QStringLiteral("delete * from TransactionsMasterTemp where companyId=0 "));
 }
 

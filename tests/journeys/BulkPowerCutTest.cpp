@@ -57,7 +57,8 @@ protected:
     void Renew()
     {
         gCn.Close();
-        for (const QString& name : QDir(LocalPath(Paths::AppFolder)).entryList({Database + u'*'}, QDir::Files))
+        for (const QString& name :
+            QDir(LocalPath(Paths::AppFolder)).entryList({Database + u'*'}, QDir::Files))
             ASSERT_TRUE(QFile::remove(FolderFile(name)));
         ASSERT_TRUE(QFile::copy(m_kept.filePath(Database), FolderFile(Database)));
     }

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr int MarkMargin = 8; // between a text, its mark, and the edge of the list
-constexpr int RowMargin = 3; // above and below a text, for the marks over its letters
+constexpr int LetterMargin = 3; // above and below a text, for the marks over its letters
 
 // Gives a row room for its letters, and paints its mark at the right edge, in the colour of its text.
 class RowLook final : public QStyledItemDelegate {
@@ -23,7 +23,7 @@ public:
     {
         const QSize usual = QStyledItemDelegate::sizeHint(option, index);
         const int text = option.fontMetrics.boundingRect(index.data().toString()).height();
-        return {usual.width(), std::max(usual.height(), text) + 2 * Look::Pixels(RowMargin)};
+        return {usual.width(), std::max(usual.height(), text) + 2 * Look::Pixels(LetterMargin)};
     }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
