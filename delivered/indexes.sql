@@ -8,6 +8,10 @@ create index MilkCollectionsByShift on MilkCollections (CollectionDate, Collecti
 create index MilkCollectionsByMember
     on MilkCollections (MemberNo, Animal, CollectionTime, CollectionDate, CollectionNo, CompanyId, Liters);
 
+-- A member's milk of a period, four sums and a copy of it for every member of a payment run: without this a
+-- run would read all that the member has ever brought.
+create index MilkCollectionsByMemberDay on MilkCollections (MemberNo, CollectionDate);
+
 -- The counter's list shows the newest rows of the copy after every save, and reads no others.
 create index MilkCollectionsTempByNumber on MilkCollectionsTemp (CollectionNo);
 

@@ -305,6 +305,20 @@ TEST(IndexesTest, AMembersLitresAreSummedFromAnIndexAlone)
         << plan.toStdString();
 }
 
+TEST(IndexesTest, AMembersPeriodIsReadOffItsDaysAlone)
+{
+    const QString period = QStringLiteral(" from MilkCollections where CompanyId=1 and MemberNo=7 and "
+                                          "CollectionDate>='2026-05-01' and CollectionDate<='2026-05-10'");
+    for (const QString& statement : QStringList{QStringLiteral("select *") + period,
+             QStringLiteral("select sum(Liters)") + period + QStringLiteral(" and Animal='gaaya'"),
+             QStringLiteral("select sum(Amount)") + period + QStringLiteral(" and Animal='gaaya'")}) {
+        const QString plan = PlanOf(statement);
+        EXPECT_TRUE(plan.contains(
+            u"MilkCollectionsByMemberDay (MemberNo=? AND CollectionDate>? AND CollectionDate<?)"))
+            << plan.toStdString();
+    }
+}
+
 TEST(IndexesTest, TheStatementsOfEveryDayScanNoLongTable)
 {
     const std::array statements{
