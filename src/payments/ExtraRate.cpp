@@ -60,7 +60,7 @@ QWidget* ExtraRate::LaidOut()
              std::pair(Plain(u"जादा रक्कम"), &txtExtraAmount)}) {
         field->SetAccessibleName(caption);
         row->addWidget(Pieces::Heading(caption));
-        row->addWidget(Pieces::Sized(*field, 90, Pieces::NarrowField, Look::Size::Normal));
+        row->addWidget(Pieces::Sized(*field, 116, Pieces::NarrowField, Look::Size::Normal));
     }
     return m_panel.LaidOut(row);
 }

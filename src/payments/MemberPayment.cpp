@@ -190,7 +190,9 @@ void MemberPayment::Clear()
 QLayout* MemberPayment::Row()
 {
     QHBoxLayout* row = Days.Row();
-    row->addLayout(Pieces::InLine(Shivaji(u"maombar naMbar"), txtMemberNo, 100));
-    row->addLayout(Pieces::InLine(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0), 1);
+    row->addLayout(Pieces::InLine(Shivaji(u"maombar naMbar"), txtMemberNo, 92));
+    row->addLayout(Pieces::Under(Shivaji(u"maombarcao naaMva"), ComboMemberName, 0, Look::Size::Normal,
+                       Pieces::LineField),
+        1);
     return row;
 }

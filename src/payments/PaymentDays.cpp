@@ -107,6 +107,6 @@ QHBoxLayout* PaymentDays::Row()
     row->addLayout(Pieces::InLine(Plain(u"पासून"), maskFromDate, dateWidth));
     row->addLayout(Pieces::InLine(Plain(u"पर्यंत"), maskToDate, dateWidth));
     row->addLayout(Pieces::InLine(Shivaji(u"pomaonT idnaaMk"), MaskBillDate, dateWidth));
-    row->addLayout(Pieces::InLine(Plain(u"बिल नं."), txtBillNo, 66));
+    row->addLayout(Pieces::InLine(Plain(u"बिल नं."), txtBillNo, 60));
     return row;
 }

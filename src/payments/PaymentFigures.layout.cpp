@@ -4,13 +4,16 @@
 
 #include <QFrame>
 #include <QGridLayout>
+#include <QHBoxLayout>
+
+#include <tuple>
 
 using namespace Pieces;
 
 namespace {
 
-constexpr int MilkWidth = 128;
-constexpr int SumWidth = 144;
+constexpr int MilkWidth = 118;
+constexpr int SumWidth = 156;
 
 }
 
@@ -39,6 +42,13 @@ QWidget* PaymentFigures::MilkSheet()
     put(1, Shivaji(u"ilaTsa-"), {&txtCowlitres, &txtBufflitres});
     put(2, Shivaji(u"r@kma"), {&txtCowAmount, &txtBuffAmount, &txtTotalMilkPurchaseAmount});
     put(3, Shivaji(u"zova kpat"), {&txtCowDepositkapat, &txtBuffDep0sitKapat});
+    for (const auto& [row, balance, side] :
+        {std::tuple(1, &lblPreviousBalance, &lblPreDC), std::tuple(3, &lblCurrentBalance, &lblCurDC)}) {
+        auto* both = new QHBoxLayout;
+        both->addWidget(balance->Widget(), 1);
+        both->addWidget(side->Widget());
+        grid->addLayout(both, row, 3);
+    }
     grid->setColumnStretch(0, 1);
     return sheet;
 }
@@ -57,17 +67,13 @@ QLayout* PaymentFigures::Sums()
     for (const Label* label : {&lblUchalAmount, &lblKapat})
         Figure(*label, Look::Size::Large)->setFixedSize(SumWidth, NarrowField);
     put(Plain(u"एकूण येणे"), lblUchalAmount.Widget());
-    put(Shivaji(u"kpat"), Sized(txtUchal, SumWidth, LineField, Look::Size::Large, true));
+    put(Shivaji(u"kpat"), Sized(txtUchal, SumWidth, NarrowField, Look::Size::Large, true));
     put(Plain(u"एकूण कपात"), lblKapat.Widget());
     put(Plain(u"देय रक्कम"), Sized(txtTotalPayment, SumWidth, NarrowField, Look::Size::Large));
-    put(Plain(u"निव्वळ देय"), Sized(txtNetPayable, SumWidth, LineField, Look::Size::Large, true));
+    put(Plain(u"निव्वळ देय"), Sized(txtNetPayable, SumWidth, NarrowField, Look::Size::Large, true));
     txtUchal.SetAccessibleName(Shivaji(u"kpat"));
     txtTotalPayment.SetAccessibleName(Plain(u"देय रक्कम"));
     txtNetPayable.SetAccessibleName(Plain(u"निव्वळ देय"));
-    grid->addWidget(lblPreviousBalance.Widget(), row, 0);
-    grid->addWidget(lblPreDC.Widget(), row++, 1);
-    grid->addWidget(lblCurrentBalance.Widget(), row, 0);
-    grid->addWidget(lblCurDC.Widget(), row++, 1);
     grid->setRowStretch(row, 1);
     grid->setColumnStretch(0, 1);
     return grid;

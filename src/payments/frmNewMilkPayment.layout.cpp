@@ -8,6 +8,12 @@
 
 using namespace Pieces;
 
+namespace {
+
+constexpr int DeliveriesWidth = 464; // with the bar at its side
+
+}
+
 void frmNewMilkPayment::LayOut()
 {
     auto* told = new QHBoxLayout;
@@ -17,7 +23,7 @@ void frmNewMilkPayment::LayOut()
     told->addWidget(Extra.LaidOut());
 
     auto* body = new QVBoxLayout;
-    body->setSpacing(8);
+    body->setSpacing(6);
     body->addWidget(Frame1.LaidOut(), 1);
     body->addWidget(SinglePanel(), 1);
     body->addLayout(told);
@@ -49,19 +55,21 @@ QWidget* frmNewMilkPayment::SinglePanel()
     DataGridUchals.SetAccessibleName(Shivaji(u"]cala"));
 
     auto* right = new QVBoxLayout;
-    right->setSpacing(8);
+    right->setSpacing(6);
     right->addWidget(Payment.Figures.MilkSheet());
     right->addLayout(deducted, 1);
 
     auto* both = new QHBoxLayout;
     both->setSpacing(14);
-    both->addWidget(List(DataGrid1, 25, Look::Size::Small, 30), 46);
+    QWidget* list = List(DataGrid1, 25, Look::Size::Small, 30);
+    list->setMinimumWidth(DeliveriesWidth);
+    both->addWidget(list, 46);
     both->addLayout(right, 52);
     DataGrid1.SetAccessibleName(Shivaji(u"dUQa saMklana"));
 
     auto* column = new QVBoxLayout;
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(8);
+    column->setSpacing(6);
     column->addLayout(Payment.Row());
     column->addLayout(both, 1);
     return Single.LaidOut(column);

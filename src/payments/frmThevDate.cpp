@@ -45,6 +45,8 @@ void frmThevDate::Command2_Click()
 
 void frmThevDate::LayOut()
 {
+    constexpr int guideWidth = 520; // the form is narrower than what the guide line says
+    lblGuide.Widget()->setMinimumWidth(guideWidth);
     Layout::Form form;
     form.Row(lblGuide);
     form.Row(Plain(u"दिनांक पासून"), maskFromDate, Layout::DateWidth);

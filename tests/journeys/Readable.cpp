@@ -142,6 +142,12 @@ bool IsDropList(const QWidget& widget)
     return qobject_cast<const QAbstractItemView*>(&widget) && widget.focusPolicy() == Qt::NoFocus;
 }
 
+// The filled part of a bar lies below its percent.
+bool IsFillOfABar(const QWidget& widget)
+{
+    return widget.objectName() == u"lblProgress";
+}
+
 std::vector<QWidget*> VisibleChildren(const QWidget& parent)
 {
     std::vector<QWidget*> children;
@@ -159,8 +165,8 @@ void LookBelow(const QWidget& parent, Faults& faults)
         if (!parent.rect().contains(child->geometry()))
             faults.Add(*child, "hangs over the edge of what it lies in");
         for (const QWidget* other : children)
-            if (other < child && !IsDropList(*child) && !IsDropList(*other)
-                && child->geometry().intersects(other->geometry()))
+            if (other < child && !IsDropList(*child) && !IsDropList(*other) && !IsFillOfABar(*child)
+                && !IsFillOfABar(*other) && child->geometry().intersects(other->geometry()))
                 faults.Add(*child, "lies over " + other->objectName());
         LookForCutText(*child, faults);
         if (const auto* table = qobject_cast<const QTableView*>(child))

@@ -2,6 +2,11 @@
 
 #include "tests/payments/PaymentsTest.h"
 
+#include <QEvent>
+#include <QLabel>
+
+#include <memory>
+
 namespace {
 
 class BulkPaymentTest : public PaymentsTest {
@@ -78,12 +83,13 @@ TEST_F(BulkPaymentTest, ASecondRunAddsNothingAndTellsEachMemberThatIsPaid)
 TEST_F(BulkPaymentTest, OnlyTheRangeIsPaidAndSummed)
 {
     Play([](Clerk& clerk) {
-        PayMany(clerk, "01042026", "1", "1");
+        PayMany(clerk, "01042026", "5", "5");
+        Type(clerk, "{ENTER}{ENTER}{ENTER}1{ENTER}1{ENTER}{ENTER}");
         Type(clerk, "{ENTER}{ENTER}{ENTER}2{ENTER}4{ENTER}{ENTER}");
-        EXPECT_EQ(Seen(clerk, "DataGridPayment", 2), QStringList("2|2"));
+        EXPECT_EQ(Seen(clerk, "DataGridPayment", 2), QStringList("3|2"));
         EXPECT_EQ(Label(clerk, "lblNetAmount"), "199.00");
     });
-    EXPECT_EQ(Paid("TranId,MemberNo"), "1|1\n2|2");
+    EXPECT_EQ(Paid("TranId,MemberNo"), "2|1\n3|2\n1|5");
 }
 
 TEST_F(BulkPaymentTest, NothingToPayShowsNoughts)
@@ -302,6 +308,53 @@ TEST_F(BulkPaymentTest, KeysTypedDuringTheRunWaitForItsEnd)
         clerk.TypeAhead("{ENTER}{ESC}{ESC}");
     });
     EXPECT_EQ(One("select count(*) from MilkPayments"), "58") << "all of them, before the screen was left";
+}
+
+// Keeps the texts that a label was painted with.
+class PaintedTexts final : public QObject {
+public:
+    explicit PaintedTexts(QLabel& label) { label.installEventFilter(this); }
+    QStringList Texts;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const QString text = static_cast<QLabel*>(watched)->text();
+        if (event->type() == QEvent::Paint && !text.isEmpty() && !Texts.contains(text))
+            Texts.append(text);
+        return false;
+    }
+};
+
+TEST_F(BulkPaymentTest, TheMemberAtHandAndTheFiguresAreSeenToMove)
+{
+    for (int member = 6; member <= 200; ++member) {
+        AddMember(member, "naava");
+        AddMilk(member, "02/04/2026", "gaaya", 10, 500);
+    }
+    Play([](Clerk& clerk) {
+        Type(clerk, "{DOWN}{DOWN}{ENTER}01042026{ENTER}{ENTER}1{ENTER}200{ENTER}");
+        std::unique_ptr<PaintedTexts> member;
+        std::unique_ptr<PaintedTexts> net;
+        std::unique_ptr<PaintedTexts> percent;
+        clerk.Do([&] {
+            for (const auto& [watched, label] : {std::pair(&member, "lblMember"),
+                     std::pair(&net, "lblNetAmount"), std::pair(&percent, "lblPercent")})
+                *watched = std::make_unique<PaintedTexts>(*clerk.Top().findChild<QLabel*>(label));
+        });
+        Type(clerk, "{ENTER}");
+        clerk.Do([&] {
+            EXPECT_GT(member->Texts.size(), 2);
+            EXPECT_GT(net->Texts.size(), 2);
+            EXPECT_GT(percent->Texts.size(), 20);
+            for (const QString& text : member->Texts)
+                EXPECT_TRUE(text.contains(::Seen("naava"))) << text.toStdString();
+            member.reset();
+            net.reset();
+            percent.reset();
+        });
+    });
+    EXPECT_FALSE(Failure);
 }
 
 TEST_F(BulkPaymentTest, TheExitLeavesWhateverStandsInAField)

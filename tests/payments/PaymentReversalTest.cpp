@@ -227,15 +227,4 @@ TEST_F(PaymentReversalTest, LargeClosingFiguresKeepAResidueOfSinglePrecision)
     EXPECT_NEAR(One("select ClosingBalance from MembersMaster where MemberNo=5").toDouble(), 1234567.89, 1);
 }
 
-TEST_F(PaymentReversalTest, TheDeductionsOfALoadedPaymentAreNotRecalculated)
-{
-    PlaySingle([](Clerk& clerk) {
-        Work(clerk, "01042026", 5);
-        Type(clerk, "{ENTER}{ENTER}{ENTER}800{ENTER}{ENTER}%h");
-        Load(clerk, "01042026", 5);
-        EXPECT_EQ(Label(clerk, "lblKapat"), "820.10");
-        EXPECT_EQ(Reads(clerk, "txtTotalPayment"), "");
-    });
-}
-
 }
