@@ -1,5 +1,6 @@
 #include "core/menu/ScreenDirectory.h"
 #include "core/preview/ReportHandover.h"
+#include "platform/database/DatabaseFile.h"
 #include "tests/journeys/Actions.h"
 #include "tests/journeys/EveryScreen.h"
 #include "tests/journeys/Processes.h"
@@ -18,7 +19,11 @@ namespace {
 // What was keyed stays, whatever is looked at, printed, killed or put in its place meanwhile.
 class BooksKeptTest : public ProgramTest {
 protected:
-    BooksKeptTest() { FillBooks(); }
+    BooksKeptTest()
+    {
+        FillBooks();
+        m_pageOfTheGate = BooksFile::PageOf(gCn.Handle(), "MilkCollectionsTempByAmount");
+    }
 
     void ShowSlips() { Run("update AutoSettings set PrintStatus='f@t sËIna',ReceiptType='Tašp 2'"); }
 
@@ -69,7 +74,7 @@ protected:
     {
         QFile books(FolderFile(Books));
         ASSERT_TRUE(books.open(QIODevice::ReadWrite));
-        const qint64 at = books.size() - 500;
+        const qint64 at = qint64{m_pageOfTheGate} * DatabaseFile::PageSize - 500;
         books.seek(at);
         const QByteArray byte = books.read(1);
         books.seek(at);
@@ -118,6 +123,9 @@ protected:
     }
 
     std::unique_ptr<QProcess> m_other;
+
+private:
+    int m_pageOfTheGate = 0; // of that index
 };
 
 const QString ToTheEvening = "{DOWN}{ENTER}{ENTER}{ENTER}2{ENTER}";

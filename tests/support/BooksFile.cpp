@@ -41,6 +41,12 @@ std::vector<std::string> BooksFile::TablesOf(sqlite3* handle)
         "select name from sqlite_master where type='table' and name not like 'sqlite%' order by name");
 }
 
+int BooksFile::PageOf(sqlite3* handle, const std::string& name)
+{
+    const std::string query = "select rootpage from sqlite_master where name='" + name + "'";
+    return std::stoi(FirstColumn(handle, query.c_str()).front());
+}
+
 int BooksFile::LocksOn(const std::string& path)
 {
     struct stat found { };

@@ -14,6 +14,9 @@ std::string IntegrityOf(sqlite3* handle);
 // The names of all tables, in the order of the alphabet.
 std::vector<std::string> TablesOf(sqlite3* handle);
 
+// The first page of a table or an index, counted from 1.
+int PageOf(sqlite3* handle, const std::string& name);
+
 // How many locks this process has on a file, as the system lists them for every program.
 int LocksOn(const std::string& path);
 
