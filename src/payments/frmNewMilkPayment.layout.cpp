@@ -50,7 +50,7 @@ QWidget* frmNewMilkPayment::SinglePanel()
 {
     auto* deducted = new QHBoxLayout;
     deducted->setSpacing(12);
-    deducted->addWidget(List(DataGridUchals, 28, Look::Size::Normal, 30), 1);
+    deducted->addWidget(List(DataGridUchals, 28, Look::Size::Small, 30), 1);
     deducted->addLayout(Payment.Figures.Sums());
     DataGridUchals.SetAccessibleName(Shivaji(u"]cala"));
 
