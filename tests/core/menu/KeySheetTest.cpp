@@ -6,7 +6,6 @@
 #include "core/messages/Narrations.h"
 #include "core/start/AppDate.h"
 
-#include <QLabel>
 #include <QRegularExpression>
 
 namespace {
@@ -83,13 +82,11 @@ TEST_F(KeySheetTest, OfTheMenusKeysTheOneThatDoesNothingIsNotLit)
         },
         [](Clerk& clerk) {
             Type(clerk, "{ENTER}{ENTER}");
-            int dull = 0;
-            for (const QLabel* label : clerk.Top().findChildren<QLabel*>())
-                if (!label->isEnabled()) {
-                    ++dull;
-                    EXPECT_TRUE(label->text() == u"F9" || label->text() == Seen("dUQa ivaËI"));
-                }
-            EXPECT_EQ(dull, 2);
+            QStringList dull;
+            for (const QWidget* key : clerk.Top().findChildren<QWidget*>())
+                if (!key->isEnabled() && !key->accessibleName().isEmpty())
+                    dull.append(key->accessibleName());
+            EXPECT_EQ(dull, QStringList("F9 " + Seen("dUQa ivaËI")));
         });
 }
 
