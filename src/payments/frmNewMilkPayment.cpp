@@ -118,11 +118,7 @@ void frmNewMilkPayment::cmdNew_Click()
         BeginAtPeriod();
         return;
     }
-    if (Payment.txtMemberNo.Value() == 0) {
-        Payment.txtMemberNo.SetFocus();
-    } else if (Payment.Days.txtBillNo.Value() == 0) {
-        Payment.Days.MaskBillDate.SetFocus();
-    } else if (InsistOnFigures(Plain(u"दिनांक बदलला : Enter ने हिशोब पुन्हा करा"))) {
+    if (InsistOnFigures(Plain(u"दिनांक बदलला : Enter ने हिशोब पुन्हा करा"))) {
         Payment.Posting.PostPayment(PaymentMode::Single);
         ResetPaymentScreen();
     }
@@ -148,11 +144,7 @@ void frmNewMilkPayment::cmdDelete_Click()
         BeginAtPeriod();
         return;
     }
-    if (Payment.txtMemberNo.Value() == 0) {
-        Payment.txtMemberNo.SetFocus();
-    } else if (Payment.Days.txtBillNo.Value() == 0) {
-        Payment.Days.MaskBillDate.SetFocus();
-    } else if (InsistOnFigures(Plain(u"पेमेंट पाहा, मग पुन्हा दाबा"))) {
+    if (InsistOnFigures(Plain(u"पेमेंट पाहा, मग पुन्हा दाबा"))) {
         Payment.Posting.ReversePayment();
         ResetPaymentScreen();
     }
@@ -164,12 +156,18 @@ void frmNewMilkPayment::cmdCancel_Click()
     cmdNew.SetFocus();
 }
 
-// What is written must have been worked out, or looked up, for the days and the member that stand there.
+// What is written is of a member and a bill, and was worked out, or looked up, for the days and the member
+// that stand there.
 bool frmNewMilkPayment::InsistOnFigures(const Caption& wanted)
 {
-    if (Payment.IsWorkedOut())
+    if (Payment.txtMemberNo.Value() == 0)
+        Payment.txtMemberNo.SetFocus();
+    else if (Payment.Days.txtBillNo.Value() == 0)
+        Payment.Days.MaskBillDate.SetFocus();
+    else if (!Payment.IsWorkedOut())
+        Payment.txtMemberNo.SetFocus(wanted);
+    else
         return true;
-    Payment.txtMemberNo.SetFocus(wanted);
     return false;
 }
 
