@@ -205,10 +205,7 @@ void frmDailyCollection::txtCollectionNo_LostFocus()
     const bool isSeen = Rules.IsRowShown();
     if ((Modes.IsNew() && !isPicked) || !Rules.InsistOnDay())
         return;
-    const Recordset row(gCn,
-        Sql(u"SELECT * FROM MilkCollections WHERE CollectionNo=", txtCollectionNo.Value(), u" AND MemberNo=",
-            txtMemberNo.Value(), u" AND CollectionDate=", Row.Day()));
-    if (!row.Eof()) {
+    if (const Recordset row = RowOfNumber(); !row.Eof()) {
         Row.Show(row);
         Rules.RowIsShown();
         if (!isSeen && (GoingTo() == &cmdModify || GoingTo() == &cmdDelete))
@@ -219,6 +216,17 @@ void frmDailyCollection::txtCollectionNo_LostFocus()
         ShowNotice(Shivaji(u"saMklana naM tpasaa."));
         BackToIdle();
     }
+}
+
+// Of two rows with one number on one day, that of the shift in its field.
+Recordset frmDailyCollection::RowOfNumber() const
+{
+    const SqlText rows = Sql(u"SELECT * FROM MilkCollections WHERE CollectionNo=", txtCollectionNo.Value(),
+        u" AND MemberNo=", txtMemberNo.Value(), u" AND CollectionDate=", Row.Day());
+    for (Recordset row(gCn, rows); !row.Eof(); row.MoveNext())
+        if (row[u"CollectionTime"].Text() == cmbCollectionTime.Text())
+            return row;
+    return {gCn, rows};
 }
 
 // Milk

@@ -58,6 +58,7 @@ private:
     void cmbCollectionTime_LostFocus();
     void txtCollectionNo_Change();
     void txtCollectionNo_LostFocus();
+    Recordset RowOfNumber() const;
     void txtAnimal_LostFocus();
     void txtLiters_LostFocus();
     void txtFat_LostFocus();

@@ -32,6 +32,16 @@ TEST_F(DailyCollectionKeysTest, AChangeReachesTheRowOfItsMemberDayAndShiftAlone)
             "16/04/2026|saMQyaakaL|1|5|175"}));
 }
 
+TEST_F(DailyCollectionKeysTest, OfOneNumberInBothShiftsTheRowOfTheKeyedShiftIsShown)
+{
+    Add("15/04/2026", "sakaL", 5, 1, 5);
+    Add("15/04/2026", "saMQyaakaL", 5, 1, 6);
+    After("%d1{ENTER}{ENTER}15042026{ENTER}1{ENTER}5{ENTER}",
+        [](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "txtLiters"), "5"); });
+    After("%d1{ENTER}{ENTER}15042026{ENTER}2{ENTER}5{ENTER}",
+        [](Clerk& clerk) { EXPECT_EQ(Reads(clerk, "txtLiters"), "6"); });
+}
+
 TEST_F(DailyCollectionKeysTest, ANumberShowsTheRowOfItsMember)
 {
     Add("15/04/2026", "sakaL", 7, 2, 9);

@@ -238,9 +238,10 @@ TEST_F(MemberFrameTest, ItsOwnButtonLeadsBackWhateverStandsInItsDates)
 TEST_F(MemberFrameTest, ItShowsItsOwnKeysInPlaceOfTheCounters)
 {
     const auto shown = [](Clerk& clerk, const QString& action) {
-        const QList<QLabel*> labels = clerk.Top().findChildren<QLabel*>();
-        return std::any_of(labels.begin(), labels.end(),
-            [&](const QLabel* label) { return label->isVisible() && label->text() == action; });
+        const QList<QWidget*> keys = clerk.Top().findChildren<QWidget*>();
+        return std::any_of(keys.begin(), keys.end(), [&](const QWidget* key) {
+            return key->isVisible() && key->accessibleName() == "Alt+I " + action;
+        });
     };
     const QString report = Seen("irpaoT-");
     InTheMorning([&](Clerk& clerk) {

@@ -41,9 +41,9 @@ private:
 Keys::Places frmAddPlace::KeyPlaces()
 {
     using namespace KeyHints;
-    return {{"frmAddPlace", Plain(u"गाव जोडणे"),
+    return {{QStringLiteral("frmAddPlace"), Plain(u"गाव जोडणे"),
         {Next, Back, Leave, TutorKey(), Save, ExitButton,
-            {"F5", Plain(u"किती गावे"), &frmAddPlace::ShowCount}}}};
+            {QStringLiteral("F5"), Plain(u"किती गावे"), &frmAddPlace::ShowCount}}}};
 }
 
 frmAddPlace::frmAddPlace() : SocietyScreen(KeyPlaces(), Plain(u"गाव जोडणे"))
