@@ -1,28 +1,22 @@
 #include "masters/MemberClosing.h"
 
 #include "core/state/AppState.h"
-#include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
+#include "society/Queries.h"
 #include "society/Words.h"
 
 #include <cmath>
 
 namespace {
 
-// The result of a query of one sum. Without rows the sum is Null, which is read as 0.
-double Sum(const QString& query)
-{
-    return Recordset(gCn, query).At(0).Number();
-}
-
 float SingleSum(const QString& query)
 {
-    return static_cast<float>(Sum(query));
+    return static_cast<float>(Figure(query));
 }
 
 double UchalPaid(double memberNo)
 {
-    return Sum(Sql(u"Select sum(Amount) as UchalPaid From TransactionsDetails Where CompanyId=",
+    return Figure(Sql(u"Select sum(Amount) as UchalPaid From TransactionsDetails Where CompanyId=",
         gAppState.gCompanyId, u" And Memberno=", memberNo));
 }
 
@@ -69,13 +63,13 @@ MemberClosing::Balance MemberClosing::BalanceOf(double memberNo, double opening,
 double MemberClosing::UchalOf(double memberNo, double opening)
 {
     return opening + UchalPaid(memberNo)
-        - Sum(Sql(u"Select sum(Amount) as UchalReceived From AdvanceReceipt Where CompanyId=",
+        - Figure(Sql(u"Select sum(Amount) as UchalReceived From AdvanceReceipt Where CompanyId=",
             gAppState.gCompanyId, u" And MemberNo=", memberNo));
 }
 
 double MemberClosing::ThevOf(double memberNo, double opening, QStringView advanceType)
 {
     return opening
-        + Sum(Sql(u"Select Sum(Amount) as ThevAmount From MilkPaymentsDetails Where CompanyId=",
+        + Figure(Sql(u"Select Sum(Amount) as ThevAmount From MilkPaymentsDetails Where CompanyId=",
             gAppState.gCompanyId, u" And MemberNo=", memberNo, u" And AdvanceType=", Quoted(advanceType)));
 }

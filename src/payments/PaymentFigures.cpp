@@ -32,8 +32,8 @@ PaymentFigures::PaymentFigures(Screen* screen, const CheckBox& installments, Ext
     , m_extra(extra)
 {
     txtTotalMilkPurchaseAmount.TextChanged = [this] { RecalcTotals(); };
-    for (NumberField* field : {static_cast<NumberField*>(&txtCowDepositkapat),
-             static_cast<NumberField*>(&txtBuffDep0sitKapat), static_cast<NumberField*>(&txtUchal)})
+    for (NumberField* field :
+        std::initializer_list<NumberField*>{&txtCowDepositkapat, &txtBuffDep0sitKapat, &txtUchal})
         field->TextChanged = [this] { DeductionIsChanged(); };
     for (Control* entry : Entries()) {
         auto& field = static_cast<NumberField&>(*entry);

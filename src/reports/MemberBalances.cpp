@@ -38,12 +38,6 @@ SqlText SumOfAmounts(QStringView name, QStringView table, const SqlText& dates, 
         dates, u" And MemberNo=", memberNo);
 }
 
-// Null is 0.
-double Figure(const SqlText& query, int column = 0)
-{
-    return Recordset(gCn, query).At(column).Number();
-}
-
 Pair AdvancesOf(double memberNo, const QDate& day)
 {
     const SqlText dates = Sql(u" And Trandate<=", SqlDay(day));

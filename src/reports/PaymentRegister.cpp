@@ -16,14 +16,9 @@
 
 namespace {
 
-double SumOf(const SqlText& query)
-{
-    return Recordset(gCn, query).At(0).Number();
-}
-
 double LitersOf(double memberNo, QStringView animal)
 {
-    return SumOf(Sql(u"select sum(Liters) as ", animal == Word::Cow ? u"CLit" : u"BLit",
+    return Figure(Sql(u"select sum(Liters) as ", animal == Word::Cow ? u"CLit" : u"BLit",
         u" from MilkCollectionsTemp where MemberNo=", memberNo, u" and Animal=", Quoted(animal)));
 }
 
@@ -41,7 +36,7 @@ SqlText ButDeposits()
 // What the payments kept back under all heads but the deposits.
 double SumOfHeads(double memberNo, const SqlText& dates)
 {
-    return SumOf(Sql(
+    return Figure(Sql(
         u"select sum(Amount) as UKapat from MilkPaymentsDetails", OfMember(memberNo, dates), ButDeposits()));
 }
 
@@ -158,9 +153,9 @@ void PaymentRegister::StageDeposit(const Payment& payment) const
 void PaymentRegister::StageAdvance(const Payment& payment) const
 {
     const SqlText before = Sql(u" and TranDate<", SqlDay(m_wanted.from));
-    const double given = SumOf(Sql(u"select sum(Amount) as TUchal from TransactionsDetails",
+    const double given = Figure(Sql(u"select sum(Amount) as TUchal from TransactionsDetails",
         OfMember(payment.memberNo, before), ButDeposits()));
-    const double received = SumOf(
+    const double received = Figure(
         Sql(u"Select Sum(Amount) as UchalPaid From AdvanceReceipt", OfMember(payment.memberNo, before)));
     const double previous = given - received - SumOfHeads(payment.memberNo, before);
     const double current = SumOfHeads(payment.memberNo, Sql(u" and TranDate=", SqlDay(payment.date)));

@@ -13,3 +13,8 @@ bool Finds(const QString& query)
 {
     return !Recordset(gCn, query).Eof();
 }
+
+double Figure(const QString& query)
+{
+    return Recordset(gCn, query).At(0).Number();
+}

@@ -7,3 +7,6 @@ QString Setting(QStringView column);
 
 // Whether a query finds anything.
 bool Finds(const QString& query);
+
+// The one figure that a query asks for, such as a sum, which is always found; Null is 0.
+double Figure(const QString& query);
