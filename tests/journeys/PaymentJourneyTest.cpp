@@ -2,8 +2,8 @@
 
 #include "payments/frmNewMilkPayment.h"
 #include "platform/database/Sql.h"
-#include "tests/journeys/PaymentReckoning.h"
 #include "tests/support/SocietyTest.h"
+#include "tools/reckoning/PaymentReckoning.h"
 
 #include <random>
 #include <tuple>

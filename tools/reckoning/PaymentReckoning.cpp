@@ -1,9 +1,8 @@
-#include "tests/journeys/PaymentReckoning.h"
+#include "tools/reckoning/PaymentReckoning.h"
 
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
-
-#include <gtest/gtest.h>
+#include "platform/text/RunTimeError.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,6 +12,7 @@ namespace {
 
 constexpr std::int64_t One = 100000;
 constexpr std::int64_t Paisa = One / 100;
+constexpr int InvalidCall = 5;
 
 const QString PreviousHead = QStringLiteral("maagaIla baakI");
 const QString OtherHead = QStringLiteral("[tr");
@@ -28,6 +28,13 @@ QString Day(const QDate& day)
     return day.toString(QStringLiteral("dd/MM/yyyy"));
 }
 
+// What the reckoning can't work out would be no proof of anything.
+void Insist(bool holds, const QString& otherwise)
+{
+    if (!holds)
+        throw RunTimeError(InvalidCall, QStringLiteral("The reckoning: ") + otherwise);
+}
+
 QStringList Sorted(QStringList lines)
 {
     lines.sort();
@@ -38,16 +45,22 @@ QStringList Sorted(QStringList lines)
 
 Exact Exact::Of(double figure)
 {
-    const double thousandths = std::round(figure * 1000);
-    EXPECT_LT(std::abs(figure * 1000 - thousandths), 1e-4) << figure << " has more than three decimals";
-    return Exact(static_cast<std::int64_t>(thousandths) * (One / 1000));
+    const double units = std::round(figure * One);
+    Insist(std::abs(figure * One - units) < 1e-3,
+        QStringLiteral("%1 has more than five decimals").arg(figure, 0, 'g', 17));
+    return Exact(static_cast<std::int64_t>(units));
 }
 
 Exact Exact::Times(Exact rate) const
 {
     const std::int64_t product = m_units / (One / 1000) * (rate.m_units / Paisa); // in hundred-thousandths
-    const std::int64_t half = product < 0 ? -Paisa / 2 : Paisa / 2;
-    return Exact((product + half) / Paisa * Paisa);
+    return Exact(product).ToThePaisa();
+}
+
+Exact Exact::ToThePaisa() const
+{
+    const std::int64_t half = m_units < 0 ? -Paisa / 2 : Paisa / 2;
+    return Exact((m_units + half) / Paisa * Paisa);
 }
 
 Exact Exact::Paise() const
@@ -90,6 +103,21 @@ void PaymentReckoning::ReadClosing()
         m_closing[static_cast<int>(row[u"MemberNo"].Number())] = {Exact::Of(row[u"ClosingBalance"].Number()),
             Exact::Of(row[u"CowClosingThev"].Number()), Exact::Of(row[u"BuffClosingThev"].Number()),
             Exact::Of(row[u"ClosingUchal"].Number())};
+}
+
+void PaymentReckoning::ReadOpening()
+{
+    for (Recordset row(gCn, QStringLiteral("select * from MembersMaster")); !row.Eof(); row.MoveNext()) {
+        const int member = static_cast<int>(row[u"MemberNo"].Number());
+        Exact owed;
+        for (const Row& given : RowsOf("TransactionsDetails", member))
+            owed += given.amount;
+        for (const Row& back : RowsOf("AdvanceReceipt", member))
+            owed = owed - back.amount;
+        m_closing[member] = {Exact::Of(row[u"OpeningBalance"].Number()) - owed,
+            Exact::Of(row[u"CowOpeningThev"].Number()), Exact::Of(row[u"BuffOpeningThev"].Number()),
+            Exact::Of(row[u"OpeningUchal"].Number()) + owed};
+    }
 }
 
 // The recoveries in the books are left out: they are those that are to be checked.
@@ -153,7 +181,7 @@ PaymentReckoning::Heads PaymentReckoning::HeadsOf(int member, const Period& peri
 
     for (const Row& head : heads.rows)
         heads.owed += head.amount;
-    EXPECT_LT(heads.owed, Exact::Of(100000)) << "single precision rounds it";
+    Insist(heads.owed < Exact::Of(100000), QStringLiteral("single precision rounds what is owed"));
     heads.deducted = heads.owed;
     if (!m_installments || !m_installments->contains(member))
         return heads;
@@ -210,8 +238,8 @@ void PaymentReckoning::Pay(int member, const Period& period, const std::optional
     paid.fixed = m_fixed;
     paid.cowLitres = Milk("Liters", member, period, "gaaya");
     paid.buffLitres = Milk("Liters", member, period, "mhOsa");
-    paid.cowAmount = Milk("Amount", member, period, "gaaya");
-    paid.buffAmount = Milk("Amount", member, period, "mhOsa");
+    paid.cowAmount = Milk("Amount", member, period, "gaaya").ToThePaisa();
+    paid.buffAmount = Milk("Amount", member, period, "mhOsa").ToThePaisa();
     paid.amount = paid.cowAmount + paid.buffAmount;
     paid.animal = paid.buffLitres == Exact() ? QStringLiteral("gaaya")
         : paid.cowLitres == Exact()          ? QStringLiteral("mhOsa")
@@ -233,7 +261,7 @@ void PaymentReckoning::Pay(int member, const Period& period, const std::optional
         deducted = paid.uchal + deposits;
     }
     if (uchal) {
-        EXPECT_LE(*uchal, heads.owed) << "the clerk can't take more";
+        Insist(*uchal <= heads.owed, QStringLiteral("more is taken than is owed"));
         paid.uchal = *uchal - uchal->Paise();
         deducted = paid.uchal + deposits;
     }
@@ -286,7 +314,7 @@ void PaymentReckoning::TakeBack(int member, const QDate& from)
 {
     const auto taken = std::find_if(m_payments.begin(), m_payments.end(),
         [&](const Payment& payment) { return payment.member == member && payment.period.from == from; });
-    ASSERT_NE(taken, m_payments.end());
+    Insist(taken != m_payments.end(), QStringLiteral("there is no payment to take back"));
     const Payment payment = *taken;
     m_payments.erase(taken);
     MoveClosing(payment, -1);

@@ -12,7 +12,7 @@
 class Exact {
 public:
     Exact() = default;
-    static Exact Of(double figure); // one of at most three decimals
+    static Exact Of(double figure); // one of at most five decimals
     static Exact OfUnits(std::int64_t units) { return Exact(units); }
 
     Exact operator+(Exact other) const { return Exact(m_units + other.m_units); }
@@ -23,6 +23,9 @@ public:
 
     // Litres at a rate, to the paisa, half away from zero.
     Exact Times(Exact rate) const;
+
+    // Half a paisa goes away from zero.
+    Exact ToThePaisa() const;
 
     // The digits behind the point, whatever the sign.
     Exact Paise() const;
@@ -45,6 +48,10 @@ public:
 
     // The closing columns as they stand in the books before the first payment.
     void ReadClosing();
+
+    // The closing columns before the first payment as the members' opening columns and all vouchers and
+    // receipts make them, for books where members are paid already.
+    void ReadOpening();
 
     // The clerk has opened the screen.
     void OpenScreen() { m_currentBalance = Exact(); }
