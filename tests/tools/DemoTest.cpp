@@ -132,11 +132,18 @@ TEST(DemoTest, ClosingLitresAreTheOpeningAndTheDeliveries)
     }
 }
 
-TEST(DemoTest, BalancesStandAsOpenedBecauseThePaymentPostsThem)
+TEST(DemoTest, ClosingBalancesAreTheOpeningTheVouchersAndThePayment)
 {
     EXPECT_EQ(Rows("select PurchaseEntry from AutoSettings;"), "Payment");
-    EXPECT_EQ(Rows("select count(*) from MembersMaster where ClosingBalance<>OpeningBalance or "
-                   "ClosingDorC<>OpeningDorC or OpeningDorC not in ('C','D') or OpeningBalance<0;"),
+    EXPECT_EQ(
+        Rows("select count(*) from MembersMaster m join MilkPayments p using (MemberNo) where "
+             "abs(m.ClosingBalance-(m.OpeningBalance-(select total(Amount) from TransactionsDetails t where "
+             "t.MemberNo=m.MemberNo)+(select total(Amount) from AdvanceReceipt a where "
+             "a.MemberNo=m.MemberNo and a.AdvanceType='Uchal Receipt')-p.NetAmount-p.ThevKapatCow-"
+             "p.ThevKapatBuff+p.TotalUchal))<0.0001;"),
+        "40");
+    EXPECT_EQ(Rows("select count(*) from MembersMaster where ClosingDorC<>OpeningDorC or "
+                   "OpeningDorC not in ('C','D') or OpeningBalance<0;"),
         "0");
     EXPECT_EQ(Rows("select count(*)>5 from MembersMaster where OpeningBalance>0;"), "1");
 }

@@ -71,3 +71,44 @@ inline constexpr std::array<DemoCustomer, 6> DemoCustomers{{
     {u"प्राथमिक आरोग्य केंद्र", u"gaaya", false},
     {u"गणेश भोजनालय", u"daonhI", false},
 }};
+
+// An advance, in paise by head. Days are counted from the first of the accounting year.
+struct DemoVoucher {
+    int day = 0;
+    int member = 0;
+    qint64 advance = 0;
+    qint64 feed = 0;
+    qint64 groceries = 0;
+    qint64 other = 0;
+};
+
+inline constexpr std::array<DemoVoucher, 14> DemoVouchers{{
+    {3, 1, 200000, 0, 0, 0},
+    {5, 4, 0, 124550, 0, 0},
+    {8, 7, 150000, 0, 64025, 0},
+    {12, 12, 0, 98000, 0, 0},
+    {14, 2, 120000, 0, 0, 0},
+    {14, 38, 2500000, 0, 0, 0}, // more than his milk brings in ten days
+    {17, 20, 0, 0, 45575, 0},
+    {19, 15, 0, 0, 0, 25000},
+    {22, 1, 0, 113000, 0, 0},
+    {23, 9, 100000, 86550, 0, 0},
+    {25, 30, 50000, 0, 0, 0},
+    {26, 17, 0, 0, 0, 12000},
+    {44, 5, 0, 210050, 0, 0},
+    {53, 11, 120000, 0, 38575, 0},
+}};
+
+// Money that came back, in paise.
+struct DemoReceipt {
+    int day = 0;
+    int member = 0;
+    qint64 paise = 0;
+};
+
+inline constexpr std::array<DemoReceipt, 4> DemoReceipts{{
+    {10, 1, 50000},
+    {18, 20, 45575},
+    {24, 7, 30000},
+    {45, 38, 100000},
+}};

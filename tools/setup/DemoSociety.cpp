@@ -1,4 +1,5 @@
 #include "platform/text/Numbers.h"
+#include "tools/setup/DemoMoney.h"
 #include "tools/setup/DemoPeople.h"
 #include "tools/setup/Filling.h"
 #include "tools/setup/Society.h"
@@ -46,6 +47,7 @@ struct Member {
     Yield buffalo;
     qint64 cowMillilitres = 0;
     qint64 buffaloMillilitres = 0;
+    DemoMilk paid;
 };
 
 std::vector<Member> Members(Dice& dice)
@@ -71,8 +73,9 @@ QString Insert(QStringView table, const QStringList& rows)
 // Makes the rows of the society.
 class Deliveries {
 public:
-    Deliveries(const QDate& from, Dice& dice, std::vector<Member>& members)
+    Deliveries(const QDate& from, const DemoMoney& money, Dice& dice, std::vector<Member>& members)
         : m_from(from)
+        , m_money(money)
         , m_dice(dice)
         , m_members(members)
         , m_chart(ReadFirstChart())
@@ -121,13 +124,17 @@ private:
         const int millilitres = usual.millilitres * m_dice.Between(85, 115) / 100 / 10 * 10;
         const int tenths = usual.tenths + m_dice.Between(-2, 2);
         const int rate = (cow ? m_chart.cow : m_chart.buffalo).at(static_cast<std::size_t>(tenths));
+        const qint64 amount = AmountInPaise(millilitres, rate);
         (cow ? member.cowMillilitres : member.buffaloMillilitres) += millilitres;
+        if (m_money.IsPaid(day)) {
+            (cow ? member.paid.cowMillilitres : member.paid.buffaloMillilitres) += millilitres;
+            (cow ? member.paid.cowPaise : member.paid.buffaloPaise) += amount;
+        }
         m_minute += m_dice.Between(1, 2);
         const QStringList values{QStringLiteral("1"), Quoted(day.toString(Qt::ISODate)), Quoted(shift),
             QString::number(++m_number), QString::number(member.number), Quoted(member.person->name),
-            Quoted(animal), Decimal(millilitres, 3), Decimal(tenths, 1), Decimal(rate, 2),
-            Decimal(AmountInPaise(millilitres, rate), 2), QStringLiteral("0"), Quoted(Clock()),
-            QStringLiteral("null")};
+            Quoted(animal), Decimal(millilitres, 3), Decimal(tenths, 1), Decimal(rate, 2), Decimal(amount, 2),
+            QStringLiteral("0"), Quoted(Clock()), QStringLiteral("null")};
         m_rows.append(u'(' % values.join(u',') % u')');
     }
 
@@ -139,6 +146,7 @@ private:
     }
 
     QDate m_from;
+    const DemoMoney& m_money;
     Dice& m_dice;
     std::vector<Member>& m_members;
     FirstChart m_chart;
@@ -207,9 +215,15 @@ Filling DemoFilling(const SocietyPlan& plan)
 {
     Dice dice(20260401);
     std::vector<Member> members = Members(dice);
-    const QString deliveries = Deliveries(FirstDay(plan.year), dice, members).Script();
+    const DemoMoney money(FirstDay(plan.year));
+    const QString deliveries = Deliveries(FirstDay(plan.year), money, dice, members).Script();
     QStringList rows;
-    for (const Member& member : members)
+    std::vector<DemoMilk> paid;
+    for (const Member& member : members) {
         rows.append(MemberRow(member, dice));
-    return {Spelled(VillageScript() % Insert(u"MembersMaster", rows) % CustomerScript() % deliveries), {}};
+        paid.push_back(member.paid);
+    }
+    return {Spelled(VillageScript() % Insert(u"MembersMaster", rows) % CustomerScript() % deliveries
+                % money.Script(paid)),
+        {}};
 }

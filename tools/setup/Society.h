@@ -8,7 +8,7 @@ struct SocietyPlan {
     QString name; // in Devanagari, without apostrophes, which would break statements
     QString year; // "2026-2027": from 1 April of the first year to 31 March of the second
     QString password; // ASCII letters, digits and marks
-    bool demo = false; // with 40 members, 6 customers and two months of deliveries, always the same
+    bool demo = false; // with members, customers, deliveries, advances and a payment, always the same
     bool replace = false; // keep an older database under a dated name; otherwise it is an error
     QDateTime now = QDateTime::currentDateTime(); // the date in those names
 };

@@ -28,7 +28,8 @@ struct Options {
         QStringLiteral("WORD")};
     QCommandLineOption demo{QStringLiteral("demo"),
         QStringLiteral(
-            "Add 40 members, their customers and two months of deliveries to try the program on.")};
+            "Add 40 members, their customers, two months of deliveries, advances and the last payment "
+            "of April, to try the program on.")};
     QCommandLineOption replace{QStringLiteral("replace"),
         QStringLiteral("Keep an older database under a dated name, and make a new one in its place.")};
     QCommandLineOption folder{QStringLiteral("folder"),

@@ -1,0 +1,75 @@
+// What the demonstration society's members were paid, worked out again from its raw rows.
+
+#include "core/start/MdlAccounts.h"
+#include "platform/shell/AppFolder.h"
+#include "tests/support/SocietyTest.h"
+#include "tools/reckoning/PaymentReckoning.h"
+#include "tools/setup/Society.h"
+
+namespace {
+
+class DemoPaymentTest : public SocietyTest {
+protected:
+    DemoPaymentTest()
+    {
+        gCn.Close();
+        SocietyPlan plan;
+        plan.name = "श्री गणेश दूध संस्था";
+        plan.year = "2026-2027";
+        plan.password = "Doodh#26";
+        plan.demo = true;
+        plan.replace = true;
+        MakeSociety(LocalPath(Paths::AppFolder), plan);
+        LoadAppState();
+    }
+
+    std::string Sorted(const char* query) { return Joined(Rows(QString::fromUtf8(query))); }
+
+    static std::string Joined(QStringList rows)
+    {
+        rows.sort();
+        return rows.join(u'\n').toStdString();
+    }
+
+    int Count(const char* from) { return One("select count(*) from " + QString::fromUtf8(from)).toInt(); }
+};
+
+TEST_F(DemoPaymentTest, TheLastTenDaysOfAprilWerePaidAsTheReckoningSays)
+{
+    PaymentReckoning reckoning;
+    reckoning.ReadSettings(false);
+    reckoning.ReadOpening();
+    reckoning.PayMany(1, 40, {QDate(2026, 4, 21), QDate(2026, 4, 30), QDate(2026, 4, 30)});
+    EXPECT_EQ(Count("MilkPayments"), 40);
+    EXPECT_EQ(Joined(reckoning.Payments()), Sorted("select * from MilkPayments"));
+    EXPECT_EQ(Joined(reckoning.Details()), Sorted("select * from MilkPaymentsDetails"));
+    EXPECT_EQ(Joined(reckoning.Recoveries()),
+        Sorted("select * from AdvanceReceipt where AdvanceType='Uchal Kapat'"));
+    EXPECT_EQ(Joined(reckoning.Closing()),
+        Sorted(
+            "select MemberNo,ClosingBalance,CowClosingThev,BuffClosingThev,ClosingUchal from MembersMaster"));
+}
+
+TEST_F(DemoPaymentTest, ThereAreAdvancesOfEachHeadAndMoneyThatCameBack)
+{
+    EXPECT_EQ(Sorted("select distinct AdvanceType from TransactionsDetails"),
+        Joined({"]cala", "KaV", "ikraNaa maalaÀroSana", "[tr"}));
+    EXPECT_EQ(Count("AdvanceReceipt where AdvanceType='Uchal Receipt'"), 4);
+    EXPECT_EQ(Count("TransactionsMaster where TranType='pomaonT'"), 14);
+    EXPECT_EQ(Count("TransactionsMaster where TranType='irsaIT'"), 4);
+}
+
+TEST_F(DemoPaymentTest, AVouchersHeadsComeToItsAmount)
+{
+    EXPECT_EQ(Count("TransactionsMaster m where TranType='pomaonT' and round(Amount*100)<>(select "
+                    "round(sum(d.Amount)*100) from TransactionsDetails d where d.TranDate=m.TranDate and "
+                    "d.TranId=m.TranId)"),
+        0);
+}
+
+TEST_F(DemoPaymentTest, OneOwesMoreThanHisMilkBrings)
+{
+    EXPECT_EQ(Count("MilkPayments where MemberNo=38 and NetAmount<1 and CurrentBalance>15000"), 1);
+}
+
+}
