@@ -20,7 +20,7 @@ void ListADaysDeliveries(Tour& tour)
 void ListPayments(Tour& tour)
 {
     tour.Step(QStringLiteral("report-payments"), QStringLiteral("{DOWN}{DOWN}{DOWN}") + Enter);
-    tour.Type(QStringLiteral("01062026") + Enter + Report);
+    tour.Type(QStringLiteral("30042026") + Enter + Report);
     tour.KeepReport(QStringLiteral("payments-in-cash"), Shivaji01::FromUnicode(u"लक्ष्मी बाळू मोरे"), 1);
     tour.Type(QStringLiteral("+{TAB}{DOWN}") + Report);
     tour.KeepReport(QStringLiteral("payments-by-bank"), Shivaji01::FromUnicode(u"रामचंद्र विठ्ठल पाटील"), 1);

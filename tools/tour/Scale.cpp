@@ -41,7 +41,7 @@ void WeighADelivery(Tour& tour)
     tour.CheckRows(QStringLiteral("delivery from the scale"),
         QStringLiteral("select CollectionNo,MemberName,Animal,Liters,Fat,Rate,Amount from MilkCollections "
                        "where CollectionDate=#06/01/2026# and CollectionTime='sakaL' and MemberNo=11"),
-        {u"11|" + Shivaji01::FromUnicode(u"मंगल दिनकर यादव") + u"|gaaya|8.35|4.3|34.76|290.25"});
+        {u"11|" + Shivaji01::FromUnicode(u"मंगल दिनकर यादव") + u"|gaaya|8.35|4.3|35.45|296.01"});
 }
 
 #endif

@@ -82,6 +82,13 @@ void PlayBackOffice(Tour& tour);
 // Four reports from the list of reports, and back to it.
 void PlayReports(Tour& tour);
 
+// A period of the money, from the list of reports on: a chart, advances, a receipt, installments, and the
+// payments of all members against the reckoning; ends on the list of transactions.
+void PlayMoney(Tour& tour);
+
+// Slips, registers, statement and balances of that period; ends at the list of reports.
+void PlayMoneyPaper(Tour& tour);
+
 // From the menu to a delivery that a scale fills; ends at the counter.
 void PlayScale(Tour& tour);
 

@@ -39,18 +39,6 @@ private:
     PlainBoxCards m_cards;
 };
 
-// Records that the members were paid this morning for their milk from the 21st on.
-void PayTheLastDaysOfMay(Connection& books)
-{
-    books.RunScript(QStringLiteral(
-        "insert into MilkPayments "
-        "(CompanyId,FromDate,ToDate,PaymentDate,TranId,MemberNo,MemberName,Liters,Amount,"
-        "Kapat,NetAmount) select 1,'2026-05-21','2026-05-31','2026-06-01',MemberNo,MemberNo,MemberName,"
-        "round(sum(Liters),3),round(sum(Amount),2),round(sum(Liters)*0.5,2),"
-        "round(sum(Amount),2)-round(sum(Liters)*0.5,2) from MilkCollections "
-        "where CollectionDate between '2026-05-21' and '2026-05-31' group by MemberNo,MemberName;"));
-}
-
 // Writes the name of the scale into the settings; no screen asks for it.
 void ConnectScale(Connection& books)
 {
@@ -72,7 +60,6 @@ void MakeItsOwnSociety(const QString& drives)
     RegisterPlaces();
     Connection books;
     books.Open(QStringLiteral("dsn=VetrolanDSN;pwd=") + plan.password);
-    PayTheLastDaysOfMay(books);
     ConnectScale(books);
 }
 
@@ -83,6 +70,8 @@ void Play(Tour& tour, TourBox& box)
     PlayPaper(tour);
     PlayBackOffice(tour);
     PlayReports(tour);
+    PlayMoney(tour);
+    PlayMoneyPaper(tour);
     PlayScale(tour);
     PlayLeaving(tour);
 }

@@ -1,0 +1,75 @@
+#include "platform/text/Shivaji01.h"
+#include "tools/tour/Tour.h"
+
+namespace {
+
+const QString Report = QStringLiteral("%i");
+const QString FirstOfMay = QStringLiteral("01052026");
+const QString TenthOfMay = QStringLiteral("10052026");
+const QString AllMembers = QString(QStringLiteral("1") + Enter + Enter);
+
+// Opens an entry of the list of reports, by its place.
+void OpenReport(Tour& tour, const QString& picture, int place)
+{
+    tour.Step(picture, QStringLiteral("{HOME}") + QStringLiteral("{DOWN}").repeated(place) + Enter);
+}
+
+void PrintSlips(Tour& tour)
+{
+    OpenReport(tour, QStringLiteral("report-slips"), 2);
+    tour.Type(TenthOfMay + Enter + AllMembers + Report);
+    tour.KeepReport(QStringLiteral("slips"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
+    tour.Type(Escape);
+}
+
+void PrintRegisters(Tour& tour)
+{
+    const QString period = FirstOfMay + Enter + Enter + AllMembers;
+    OpenReport(tour, QStringLiteral("report-payment-register"), 4);
+    tour.Type(period + Report);
+    tour.KeepReport(QStringLiteral("payment-register"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
+    tour.Type(Escape);
+    OpenReport(tour, QStringLiteral("report-deposit-register"), 5);
+    tour.Type(period + Report);
+    tour.KeepReport(QStringLiteral("deposit-register"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
+    tour.Type(Escape);
+    OpenReport(tour, QStringLiteral("report-advance-register"), 6);
+    tour.Type(period + Report);
+    tour.KeepReport(QStringLiteral("advance-register"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
+    tour.Type(Escape);
+}
+
+void StateAMembersAdvances(Tour& tour)
+{
+    OpenReport(tour, QStringLiteral("report-advances-of-a-member"), 7);
+    tour.Type(FirstOfMay + Enter + TenthOfMay + Enter + QStringLiteral("3") + Enter + Report);
+    tour.KeepReport(QStringLiteral("advances-of-a-member"), QStringLiteral("642.50"), 1);
+    tour.Type(Escape);
+}
+
+// From the list of reports to that of the yearly ones.
+void StateBalances(Tour& tour)
+{
+    const QString year = QStringLiteral("01042026") + Enter + TenthOfMay + Enter + AllMembers;
+    tour.Type(Escape + QStringLiteral("{HOME}{DOWN}{DOWN}{DOWN}") + Enter);
+    tour.Step(QStringLiteral("report-advance-balances"), QStringLiteral("{HOME}") + Enter);
+    tour.Type(year + Report);
+    tour.KeepReport(QStringLiteral("advance-balances"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
+    tour.Type(Escape);
+    tour.Step(QStringLiteral("report-deposit-balances"), QStringLiteral("{HOME}{DOWN}") + Enter);
+    tour.Type(year + Report);
+    tour.KeepReport(QStringLiteral("deposit-balances"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
+    tour.Type(Escape + Escape);
+}
+
+}
+
+void PlayMoneyPaper(Tour& tour)
+{
+    tour.Type(Escape + QStringLiteral("{HOME}{DOWN}{DOWN}") + Enter);
+    PrintSlips(tour);
+    PrintRegisters(tour);
+    StateAMembersAdvances(tour);
+    StateBalances(tour);
+    tour.Type(QStringLiteral("{HOME}{DOWN}{DOWN}") + Enter);
+}
