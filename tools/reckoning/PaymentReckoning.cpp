@@ -2,17 +2,12 @@
 
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
-#include "platform/text/RunTimeError.h"
+#include "platform/text/Numbers.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
 namespace {
-
-constexpr std::int64_t One = 100000;
-constexpr std::int64_t Paisa = One / 100;
-constexpr int InvalidCall = 5;
 
 const QString PreviousHead = QStringLiteral("maagaIla baakI");
 const QString OtherHead = QStringLiteral("[tr");
@@ -23,16 +18,28 @@ const QString RecoveryType = QStringLiteral("Uchal Kapat");
 const QStringList PeriodHeads = {
     AdvanceHead, QStringLiteral("KaV"), QStringLiteral("ikraNaa maalaÀroSana"), PreviousHead, OtherHead};
 
-QString Day(const QDate& day)
-{
-    return day.toString(QStringLiteral("dd/MM/yyyy"));
-}
+constexpr double MostOfASingle = 65536; // what it holds to the paisa
 
-// What the reckoning can't work out would be no proof of anything.
-void Insist(bool holds, const QString& otherwise)
+// The rows of a query as sorted lines. The columns `singles` are told to the paisa.
+QStringList Stored(const char* query, const std::vector<int>& singles = {})
 {
-    if (!holds)
-        throw RunTimeError(InvalidCall, QStringLiteral("The reckoning: ") + otherwise);
+    constexpr double mostLeft = 0.005; // of what single precision leaves behind the paise
+    QStringList lines;
+    for (Recordset rows(gCn, QString::fromLatin1(query)); !rows.Eof(); rows.MoveNext()) {
+        QStringList cells;
+        for (int at = 0; at < rows.Columns(); ++at) {
+            const FieldValue value = rows.At(at);
+            cells.append(value.IsNull() ? QStringLiteral("NULL") : value.Text());
+            if (std::find(singles.begin(), singles.end(), at) == singles.end())
+                continue;
+            const double toThePaisa = Val(Format(value.Number(), u"0.00"));
+            if (std::abs(value.Number() - toThePaisa) < mostLeft)
+                cells.back() = ShortestDecimal(toThePaisa);
+        }
+        lines.append(cells.join(u'|'));
+    }
+    lines.sort();
+    return lines;
 }
 
 QStringList Sorted(QStringList lines)
@@ -41,42 +48,6 @@ QStringList Sorted(QStringList lines)
     return lines;
 }
 
-}
-
-Exact Exact::Of(double figure)
-{
-    const double units = std::round(figure * One);
-    Insist(std::abs(figure * One - units) < 1e-3,
-        QStringLiteral("%1 has more than five decimals").arg(figure, 0, 'g', 17));
-    return Exact(static_cast<std::int64_t>(units));
-}
-
-Exact Exact::Times(Exact rate) const
-{
-    const std::int64_t product = m_units / (One / 1000) * (rate.m_units / Paisa); // in hundred-thousandths
-    return Exact(product).ToThePaisa();
-}
-
-Exact Exact::ToThePaisa() const
-{
-    const std::int64_t half = m_units < 0 ? -Paisa / 2 : Paisa / 2;
-    return Exact((m_units + half) / Paisa * Paisa);
-}
-
-Exact Exact::Paise() const
-{
-    return Exact(std::abs(m_units) % One);
-}
-
-QString Exact::Text() const
-{
-    QString text = QString::number(std::abs(m_units) / One);
-    QString decimals = QString::number(std::abs(m_units) % One).rightJustified(5, u'0');
-    while (decimals.endsWith(u'0'))
-        decimals.chop(1);
-    if (!decimals.isEmpty())
-        text += u'.' + decimals;
-    return m_units < 0 ? u'-' + text : text;
 }
 
 // The raw rows
@@ -97,8 +68,9 @@ void PaymentReckoning::ReadSettings(bool byInstallments)
             static_cast<int>(row[u"MemberNo"].Number()), Exact::Of(row[u"Kapat"].Number()));
 }
 
-void PaymentReckoning::ReadClosing()
+void PaymentReckoning::ReadMembers()
 {
+    Vouchers.ReadMembers();
     for (Recordset row(gCn, QStringLiteral("select * from MembersMaster")); !row.Eof(); row.MoveNext())
         m_closing[static_cast<int>(row[u"MemberNo"].Number())] = {Exact::Of(row[u"ClosingBalance"].Number()),
             Exact::Of(row[u"CowClosingThev"].Number()), Exact::Of(row[u"BuffClosingThev"].Number()),
@@ -107,41 +79,39 @@ void PaymentReckoning::ReadClosing()
 
 void PaymentReckoning::ReadOpening()
 {
-    for (Recordset row(gCn, QStringLiteral("select * from MembersMaster")); !row.Eof(); row.MoveNext()) {
-        const int member = static_cast<int>(row[u"MemberNo"].Number());
-        Exact owed;
-        for (const Row& given : RowsOf("TransactionsDetails", member))
-            owed += given.amount;
-        for (const Row& back : RowsOf("AdvanceReceipt", member))
-            owed = owed - back.amount;
-        m_closing[member] = {Exact::Of(row[u"OpeningBalance"].Number()) - owed,
+    Vouchers.ReadMembers();
+    Vouchers.ReadVouchers();
+    for (Recordset row(gCn, QStringLiteral("select * from MembersMaster")); !row.Eof(); row.MoveNext())
+        m_closing[static_cast<int>(row[u"MemberNo"].Number())] = {Exact::Of(row[u"OpeningBalance"].Number()),
             Exact::Of(row[u"CowOpeningThev"].Number()), Exact::Of(row[u"BuffOpeningThev"].Number()),
-            Exact::Of(row[u"OpeningUchal"].Number()) + owed};
-    }
+            Exact::Of(row[u"OpeningUchal"].Number())};
 }
 
-// The recoveries in the books are left out: they are those that are to be checked.
-std::vector<PaymentReckoning::Row> PaymentReckoning::RowsOf(const char* table, int member)
+// Some days around the period are read, too, and left out here: where it begins and ends is not asked of the
+// books.
+void PaymentReckoning::ReadMilk(const Period& period)
 {
-    std::vector<Row> rows;
-    for (Recordset row(gCn, QStringLiteral("select * from ") + QLatin1String(table)); !row.Eof();
-         row.MoveNext())
-        if (static_cast<int>(row[u"MemberNo"].Number()) == member
-            && row[u"AdvanceType"].Text() != RecoveryType)
-            rows.push_back({row[u"TranDate"].Date(), member, row[u"AdvanceType"].Text(),
-                Exact::Of(row[u"Amount"].Number()), 0});
-    return rows;
+    constexpr int around = 12;
+    const QString first = period.from.addDays(-around).toString(QStringLiteral("MM/dd/yyyy"));
+    const QString last = period.to.addDays(around).toString(QStringLiteral("MM/dd/yyyy"));
+    m_deliveries.clear();
+    for (Recordset row(gCn,
+             QStringLiteral(
+                 "select * from MilkCollections where CollectionDate>=#%1# and CollectionDate<=#%2#")
+                 .arg(first, last));
+         !row.Eof(); row.MoveNext())
+        m_deliveries.push_back({row[u"CollectionDate"].Date(), static_cast<int>(row[u"MemberNo"].Number()),
+            row[u"Animal"].Text(), Exact::Of(row[u"Liters"].Number()), Exact::Of(row[u"Amount"].Number())});
 }
 
-Exact PaymentReckoning::Milk(const char* column, int member, const Period& period, const char* animal)
+Exact PaymentReckoning::Milk(
+    Exact Delivery::*figure, int member, const Period& period, const char* animal) const
 {
     Exact sum;
-    for (Recordset row(gCn, QStringLiteral("select * from MilkCollections")); !row.Eof(); row.MoveNext()) {
-        const QDate day = row[u"CollectionDate"].Date();
-        if (static_cast<int>(row[u"MemberNo"].Number()) == member && day >= period.from && day <= period.to
-            && row[u"Animal"].Text() == QLatin1String(animal))
-            sum += Exact::Of(row[QString::fromLatin1(column)].Number());
-    }
+    for (const Delivery& delivery : m_deliveries)
+        if (delivery.member == member && delivery.day >= period.from && delivery.day <= period.to
+            && delivery.animal == QLatin1String(animal))
+            sum += delivery.*figure;
     return sum;
 }
 
@@ -151,13 +121,13 @@ PaymentReckoning::Heads PaymentReckoning::HeadsOf(int member, const Period& peri
 {
     Heads heads;
     std::map<QString, Exact> sums;
-    for (const Row& given : RowsOf("TransactionsDetails", member)) {
+    for (const Row& given : Vouchers.Given(member)) {
         if (given.day < period.from)
             heads.previous += given.amount;
         else if (given.day <= period.to)
             sums[given.type] += given.amount;
     }
-    for (const Row& back : RowsOf("AdvanceReceipt", member))
+    for (const Row& back : Vouchers.Back(member))
         if (back.day < period.from)
             heads.previous = heads.previous - back.amount;
     for (const Row& back : m_recoveries)
@@ -181,7 +151,7 @@ PaymentReckoning::Heads PaymentReckoning::HeadsOf(int member, const Period& peri
 
     for (const Row& head : heads.rows)
         heads.owed += head.amount;
-    Insist(heads.owed < Exact::Of(100000), QStringLiteral("single precision rounds what is owed"));
+    InsistOn(heads.owed < Exact::Of(MostOfASingle), QStringLiteral("single precision rounds what is owed"));
     heads.deducted = heads.owed;
     if (!m_installments || !m_installments->contains(member))
         return heads;
@@ -198,7 +168,7 @@ void PaymentReckoning::TakeReceiptsOff(std::vector<Row>& heads, int member, cons
 {
     Exact left;
     bool some = false;
-    for (const Row& back : RowsOf("AdvanceReceipt", member)) {
+    for (const Row& back : Vouchers.Back(member)) {
         if (back.day < period.from || back.day > period.to)
             continue;
         left += back.amount;
@@ -229,43 +199,57 @@ int PaymentReckoning::NextNumber(const QDate& bill) const
     return highest + 1;
 }
 
-void PaymentReckoning::Pay(int member, const Period& period, const std::optional<Exact>& uchal)
+// The milk of a payment, without what is deducted from it.
+PaymentReckoning::Payment PaymentReckoning::MilkOf(int member, const Period& period) const
 {
-    Payment paid;
-    paid.period = period;
-    paid.number = NextNumber(period.bill);
-    paid.member = member;
-    paid.fixed = m_fixed;
-    paid.cowLitres = Milk("Liters", member, period, "gaaya");
-    paid.buffLitres = Milk("Liters", member, period, "mhOsa");
-    paid.cowAmount = Milk("Amount", member, period, "gaaya").ToThePaisa();
-    paid.buffAmount = Milk("Amount", member, period, "mhOsa").ToThePaisa();
-    paid.amount = paid.cowAmount + paid.buffAmount;
-    paid.animal = paid.buffLitres == Exact() ? QStringLiteral("gaaya")
-        : paid.cowLitres == Exact()          ? QStringLiteral("mhOsa")
+    Payment milk;
+    milk.period = period;
+    milk.member = member;
+    milk.fixed = m_fixed;
+    milk.cowLitres = Milk(&Delivery::litres, member, period, "gaaya");
+    milk.buffLitres = Milk(&Delivery::litres, member, period, "mhOsa");
+    milk.cowAmount = Milk(&Delivery::amount, member, period, "gaaya").ToThePaisa();
+    milk.buffAmount = Milk(&Delivery::amount, member, period, "mhOsa").ToThePaisa();
+    milk.amount = milk.cowAmount + milk.buffAmount;
+    milk.animal = milk.buffLitres == Exact() ? QStringLiteral("gaaya")
+        : milk.cowLitres == Exact()          ? QStringLiteral("mhOsa")
                                              : QStringLiteral("daonhI");
-    paid.cowDeposit = paid.cowLitres.Times(m_cowRate);
-    paid.buffDeposit = paid.buffLitres.Times(m_buffRate);
-    for (Recordset row(gCn, QStringLiteral("select * from MembersMaster")); !row.Eof(); row.MoveNext())
-        if (static_cast<int>(row[u"MemberNo"].Number()) == member)
-            paid.name = row[u"MemberName"].Text();
+    milk.cowDeposit = milk.cowLitres.Times(m_cowRate);
+    milk.buffDeposit = milk.buffLitres.Times(m_buffRate);
+    return milk;
+}
+
+Exact PaymentReckoning::Proposed(int member, const Period& period) const
+{
+    const Payment milk = MilkOf(member, period);
+    const Exact owed = HeadsOf(member, period).owed;
+    const Exact most = milk.amount - milk.cowDeposit - milk.buffDeposit;
+    return owed - owed.Paise() > most ? most - most.Paise() : owed - owed.Paise();
+}
+
+// What is keyed is held to what the milk and the old balance bring, even to less than nothing if more came
+// back than was ever given.
+void PaymentReckoning::Pay(int member, const Period& period, const Keyed& keyed)
+{
+    Payment paid = MilkOf(member, period);
+    paid.number = NextNumber(period.bill);
+    paid.name = Vouchers.NameOf(member);
 
     const Heads heads = HeadsOf(member, period);
-    const Exact deposits = paid.cowDeposit + paid.buffDeposit;
-    const Exact most = paid.amount - deposits;
+    const Exact most = paid.amount - paid.cowDeposit - paid.buffDeposit;
     paid.previous = heads.previous;
-    paid.uchal = heads.owed - heads.owed.Paise();
-    Exact deducted = heads.deducted + deposits;
-    if (paid.uchal > most) {
-        paid.uchal = most - most.Paise();
-        deducted = paid.uchal + deposits;
+    paid.uchal = Proposed(member, period);
+    const bool isCapped = heads.owed - heads.owed.Paise() > most;
+    if (keyed.cowDeposit)
+        paid.cowDeposit = *keyed.cowDeposit;
+    if (keyed.uchal) {
+        InsistOn(*keyed.uchal <= heads.owed, QStringLiteral("more is taken than is owed"));
+        const Exact taken = std::min(*keyed.uchal, most + heads.previous);
+        paid.uchal = taken - taken.Paise();
     }
-    if (uchal) {
-        Insist(*uchal <= heads.owed, QStringLiteral("more is taken than is owed"));
-        paid.uchal = *uchal - uchal->Paise();
-        deducted = paid.uchal + deposits;
-    }
-    paid.net = paid.amount - deducted;
+    const bool isEdited = keyed.cowDeposit || keyed.uchal;
+    const Exact deposits = paid.cowDeposit + paid.buffDeposit;
+    paid.net = paid.amount - deposits - (isCapped || isEdited ? paid.uchal : heads.deducted);
     const Exact paise = paid.net.Paise();
     if (m_paise != u"PayIt")
         paid.net = paid.net - paise;
@@ -286,18 +270,30 @@ void PaymentReckoning::Pay(int member, const Period& period, const std::optional
     MoveClosing(paid, 1);
 }
 
-void PaymentReckoning::PayMany(int first, int last, const Period& period)
+// A first day that lies in a period that is paid for is paid for.
+bool PaymentReckoning::IsPaid(int member, const Period& period) const
 {
+    return std::any_of(m_payments.begin(), m_payments.end(), [&](const Payment& payment) {
+        return payment.member == member && payment.period.from <= period.from
+            && payment.period.to >= period.from;
+    });
+}
+
+PaymentReckoning::Passed PaymentReckoning::PayMany(int first, int last, const Period& period)
+{
+    Passed passed;
     for (int member = first; member <= last; ++member) {
-        const bool isPaid = std::any_of(m_payments.begin(), m_payments.end(), [&](const Payment& payment) {
-            return payment.member == member && payment.period.from <= period.from
-                && payment.period.to >= period.from;
-        });
-        const Exact litres =
-            Milk("Liters", member, period, "gaaya") + Milk("Liters", member, period, "mhOsa");
-        if (!isPaid && litres != Exact())
+        const Payment milk = MilkOf(member, period);
+        if (!m_closing.contains(member))
+            continue;
+        if (IsPaid(member, period))
+            passed.paidBefore.push_back(member);
+        else if (milk.cowLitres + milk.buffLitres == Exact())
+            passed.withoutMilk.push_back(member);
+        else
             Pay(member, period);
     }
+    return passed;
 }
 
 void PaymentReckoning::MoveClosing(const Payment& payment, int sign)
@@ -314,7 +310,7 @@ void PaymentReckoning::TakeBack(int member, const QDate& from)
 {
     const auto taken = std::find_if(m_payments.begin(), m_payments.end(),
         [&](const Payment& payment) { return payment.member == member && payment.period.from == from; });
-    Insist(taken != m_payments.end(), QStringLiteral("there is no payment to take back"));
+    InsistOn(taken != m_payments.end(), QStringLiteral("there is no payment to take back"));
     const Payment payment = *taken;
     m_payments.erase(taken);
     MoveClosing(payment, -1);
@@ -325,15 +321,17 @@ void PaymentReckoning::TakeBack(int member, const QDate& from)
     });
 }
 
-Exact PaymentReckoning::Owed(int member) const
+Exact PaymentReckoning::Owed(int member, const QDate& at) const
 {
     Exact owed;
-    for (const Row& given : RowsOf("TransactionsDetails", member))
-        owed += given.amount;
-    for (const Row& back : RowsOf("AdvanceReceipt", member))
-        owed = owed - back.amount;
+    for (const Row& given : Vouchers.Given(member))
+        if (given.day <= at)
+            owed += given.amount;
+    for (const Row& back : Vouchers.Back(member))
+        if (back.day <= at)
+            owed = owed - back.amount;
     for (const Row& back : m_recoveries)
-        if (back.member == member)
+        if (back.member == member && back.day <= at)
             owed = owed - back.amount;
     return owed;
 }
@@ -344,8 +342,8 @@ QStringList PaymentReckoning::Payments() const
 {
     QStringList lines;
     for (const Payment& p : m_payments)
-        lines.append(QStringList{QStringLiteral("1"), Day(p.period.from), Day(p.period.to),
-            Day(p.period.bill), QString::number(p.number), QString::number(p.member), p.name, p.animal,
+        lines.append(QStringList{QStringLiteral("1"), DayText(p.period.from), DayText(p.period.to),
+            DayText(p.period.bill), QString::number(p.number), QString::number(p.member), p.name, p.animal,
             (p.cowLitres + p.buffLitres).Text(), p.amount.Text(),
             (p.cowDeposit + p.buffDeposit + p.uchal).Text(), p.net.Text(), p.previous.Text(),
             p.current.Text(), p.uchal.Text(), p.cowDeposit.Text(), p.buffDeposit.Text(), p.cowLitres.Text(),
@@ -358,8 +356,7 @@ QStringList PaymentReckoning::Details() const
 {
     QStringList lines;
     for (const Row& row : m_details)
-        lines.append(QStringLiteral("1|%1|0|%2|%3|%4")
-                         .arg(Day(row.day), QString::number(row.member), row.type, row.amount.Text()));
+        lines.append(row.Line(0));
     return Sorted(lines);
 }
 
@@ -367,18 +364,46 @@ QStringList PaymentReckoning::Recoveries() const
 {
     QStringList lines;
     for (const Row& row : m_recoveries)
-        lines.append(QStringLiteral("1|%1|%2|%3|%4|%5")
-                         .arg(Day(row.day), QString::number(row.number), QString::number(row.member),
-                             row.type, row.amount.Text()));
+        lines.append(row.Line(row.number));
     return Sorted(lines);
 }
 
 QStringList PaymentReckoning::Closing() const
 {
     QStringList lines;
-    for (const auto& [member, columns] : m_closing)
-        lines.append(QStringLiteral("%1|%2|%3|%4|%5")
-                         .arg(QString::number(member), columns.balance.Text(), columns.cow.Text(),
-                             columns.buff.Text(), columns.uchal.Text()));
+    for (const auto& [member, columns] : m_closing) {
+        const Exact moved = Vouchers.Moved(member);
+        const Exact balance = columns.balance - moved;
+        InsistOn(balance < Exact::Of(MostOfASingle) && -balance < Exact::Of(MostOfASingle),
+            QStringLiteral("single precision rounds a closing balance"));
+        lines.append(QStringList{QString::number(member), balance.Text(), columns.cow.Text(),
+            columns.buff.Text(), (columns.uchal + moved).Text()}
+                         .join(u'|'));
+    }
     return Sorted(lines);
+}
+
+std::vector<PaymentReckoning::Compared> PaymentReckoning::Comparison() const
+{
+    constexpr int previousBalance = 12;
+    constexpr int previousAdvance = 22;
+    constexpr int amount = 5;
+    return {
+        {QStringLiteral("payment"), Payments(),
+            Stored("select * from MilkPayments", {previousBalance, previousAdvance})},
+        {QStringLiteral("head or deposit"), Details(), Stored("select * from MilkPaymentsDetails", {amount})},
+        {QStringLiteral("recovery"), Recoveries(),
+            Stored("select * from AdvanceReceipt where AdvanceType='Uchal Kapat'")},
+        {QStringLiteral("receipt"), Vouchers.Receipts(),
+            Stored("select * from AdvanceReceipt where AdvanceType<>'Uchal Kapat'")},
+        {QStringLiteral("voucher"), Vouchers.Masters(),
+            Stored("select CompanyId,TranDate,TranId,TranType,DAccountName,CAccountName,Amount,BillNo,"
+                   "Narration from TransactionsMaster")},
+        {QStringLiteral("head of a voucher"), Vouchers.Details(),
+            Stored("select * from TransactionsDetails")},
+        {QStringLiteral("closing columns"), Closing(),
+            Stored("select MemberNo,ClosingBalance,CowClosingThev,BuffClosingThev,ClosingUchal from "
+                   "MembersMaster",
+                {1, 2, 3, 4})},
+    };
 }

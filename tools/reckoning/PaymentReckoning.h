@@ -1,91 +1,80 @@
 #pragma once
 
-#include <QDate>
-#include <QStringList>
+#include "tools/reckoning/VoucherReckoning.h"
 
-#include <cstdint>
-#include <map>
 #include <optional>
-#include <vector>
 
-// A figure in exact decimals, in hundred-thousandths: rupees, litres, rupees a litre.
-class Exact {
-public:
-    Exact() = default;
-    static Exact Of(double figure); // one of at most five decimals
-    static Exact OfUnits(std::int64_t units) { return Exact(units); }
-
-    Exact operator+(Exact other) const { return Exact(m_units + other.m_units); }
-    Exact operator-(Exact other) const { return Exact(m_units - other.m_units); }
-    Exact operator-() const { return Exact(-m_units); }
-    Exact& operator+=(Exact other) { return *this = *this + other; }
-    auto operator<=>(const Exact& other) const = default;
-
-    // Litres at a rate, to the paisa, half away from zero.
-    Exact Times(Exact rate) const;
-
-    // Half a paisa goes away from zero.
-    Exact ToThePaisa() const;
-
-    // The digits behind the point, whatever the sign.
-    Exact Paise() const;
-
-    // Its shortest form: "12.5".
-    QString Text() const;
-
-private:
-    explicit Exact(std::int64_t units) : m_units(units) { }
-    std::int64_t m_units = 0;
-};
-
-// The payments of a society worked out a second time, from the raw rows of deliveries, vouchers and receipts,
-// and by other means than the screens: in exact decimals. It is told what the clerk does, and says what has
-// to stand in the books. Sums are of less than 100000 rupees, which single precision holds to the paisa.
+// The payments of a society worked out a second time, from the raw rows of the deliveries and from the
+// vouchers, and by other means than the screens: in exact decimals. It is told what the clerk does, and says
+// what has to stand in the books. Sums are of less than 65536 rupees, which single precision holds to the
+// paisa.
 class PaymentReckoning {
 public:
+    VoucherReckoning Vouchers;
+
     // The settings of the payments as they stand in the open books. `byInstallments`: the box is ticked.
     void ReadSettings(bool byInstallments);
 
-    // The closing columns as they stand in the books before the first payment.
-    void ReadClosing();
+    // The members with their closing columns as they stand in the books before the first voucher and payment.
+    void ReadMembers();
 
-    // The closing columns before the first payment as the members' opening columns and all vouchers and
-    // receipts make them, for books where members are paid already.
+    // The same for books where members have vouchers and are paid already: the closing columns before all of
+    // that are the opening ones, and the vouchers are those in the books.
     void ReadOpening();
 
     // The clerk has opened the screen.
     void OpenScreen() { m_currentBalance = Exact(); }
 
-    // Pays a member for a period. `uchal`: what the clerk has keyed as the deduction.
     struct Period {
         QDate from;
         QDate to;
         QDate bill;
     };
-    void Pay(int member, const Period& period, const std::optional<Exact>& uchal = std::nullopt);
 
-    // Pays those of a range who have milk and aren't paid yet.
-    void PayMany(int first, int last, const Period& period);
+    // Reads the deliveries of a period, before any of it is paid.
+    void ReadMilk(const Period& period);
+
+    // What the clerk has keyed over the figures that were proposed.
+    struct Keyed {
+        std::optional<Exact> cowDeposit;
+        std::optional<Exact> uchal;
+    };
+
+    void Pay(int member, const Period& period, const Keyed& keyed = {});
+
+    // What is proposed to be deducted.
+    Exact Proposed(int member, const Period& period) const;
+
+    // Pays those of a range who have milk and aren't paid yet. Tells of each of the others why he isn't.
+    struct Passed {
+        std::vector<int> paidBefore;
+        std::vector<int> withoutMilk;
+    };
+    Passed PayMany(int first, int last, const Period& period);
 
     void TakeBack(int member, const QDate& from);
 
-    // What has to stand in the books, as rows of "select *" in an order of their own.
+    // What has to stand in the books, as sorted lines of "select *". What the books hold in single precision
+    // is told to the paisa.
     QStringList Payments() const;
     QStringList Details() const;
     QStringList Recoveries() const;
     QStringList Closing() const; // MemberNo and the four columns
 
-    // What a member owes: what was given less what came back, by voucher or by payments.
-    Exact Owed(int member) const;
+    // All of it, beside the rows that stand in the open books: sorted lines, too, in which columns of single
+    // precision are told to the paisa, and a Null as NULL.
+    struct Compared {
+        QString what;
+        QStringList reckoned;
+        QStringList stored;
+    };
+    std::vector<Compared> Comparison() const;
+
+    // What a member owes at the end of a day: what was given less what came back, by voucher or by payments.
+    Exact Owed(int member, const QDate& at) const;
 
 private:
-    struct Row { // of a voucher, a receipt, a recovery or a detail
-        QDate day;
-        int member = 0;
-        QString type;
-        Exact amount;
-        int number = 0;
-    };
+    using Row = MoneyRow;
     struct Payment {
         Period period;
         int number = 0;
@@ -105,8 +94,16 @@ private:
         Exact deducted; // the same for the sum of what is deducted
     };
 
-    static std::vector<Row> RowsOf(const char* table, int member);
-    static Exact Milk(const char* column, int member, const Period& period, const char* animal);
+    struct Delivery {
+        QDate day;
+        int member = 0;
+        QString animal;
+        Exact litres, amount;
+    };
+
+    bool IsPaid(int member, const Period& period) const;
+    Exact Milk(Exact Delivery::*figure, int member, const Period& period, const char* animal) const;
+    Payment MilkOf(int member, const Period& period) const;
     Heads HeadsOf(int member, const Period& period) const;
     void TakeReceiptsOff(std::vector<Row>& heads, int member, const Period& period) const;
     int NextNumber(const QDate& bill) const;
@@ -116,6 +113,7 @@ private:
     QString m_paise;
     std::optional<std::map<int, Exact>> m_installments;
     Exact m_currentBalance;
+    std::vector<Delivery> m_deliveries;
     std::vector<Payment> m_payments;
     std::vector<Row> m_details;
     std::vector<Row> m_recoveries;

@@ -1,5 +1,3 @@
-#include "core/state/AppState.h"
-#include "platform/database/Recordset.h"
 #include "platform/text/Shivaji01.h"
 #include "tools/reckoning/PaymentReckoning.h"
 #include "tools/tour/Tour.h"
@@ -144,7 +142,7 @@ void PayOneMember(Tour& tour, PaymentReckoning& reckoning)
         + Enter + Enter + Enter);
     tour.Step(QStringLiteral("payment-less-deducted"), QStringLiteral("1000") + Enter);
     tour.Type(QStringLiteral("%s") + Yes);
-    reckoning.Pay(3, FirstOfMay, Exact::Of(1000));
+    reckoning.Pay(3, FirstOfMay, {.cowDeposit = {}, .uchal = Exact::Of(1000)});
     tour.Type(Escape);
 }
 
@@ -163,32 +161,15 @@ void PayTheRest(Tour& tour, PaymentReckoning& reckoning)
     tour.Type(Escape + Escape); // the list of the two choices, and the screen
 }
 
-// Notes each row of a query beside what was reckoned from the raw rows.
-void CheckReckoned(Tour& tour, const QString& what, const QStringList& reckoned, const char* query)
-{
-    QStringList found;
-    for (Recordset rows(gCn, QString::fromLatin1(query)); !rows.Eof(); rows.MoveNext()) {
-        QStringList fields;
-        for (int at = 0; at < rows.Columns(); ++at)
-            fields.append(rows.At(at).Text());
-        found.append(fields.join(u'|'));
-    }
-    found.sort();
-    tour.Check(
-        what + QStringLiteral(", rows"), QString::number(found.size()), QString::number(reckoned.size()));
-    for (qsizetype at = 0; at < std::max(found.size(), reckoned.size()); ++at)
-        tour.Check(what, found.value(at), reckoned.value(at));
-}
-
+// Notes each row beside what was reckoned from the raw rows.
 void CheckAllPayments(Tour& tour, const PaymentReckoning& reckoning)
 {
-    CheckReckoned(tour, QStringLiteral("payment"), reckoning.Payments(), "select * from MilkPayments");
-    CheckReckoned(
-        tour, QStringLiteral("head or deposit"), reckoning.Details(), "select * from MilkPaymentsDetails");
-    CheckReckoned(tour, QStringLiteral("recovery"), reckoning.Recoveries(),
-        "select * from AdvanceReceipt where AdvanceType='Uchal Kapat'");
-    CheckReckoned(tour, QStringLiteral("closing columns"), reckoning.Closing(),
-        "select MemberNo,ClosingBalance,CowClosingThev,BuffClosingThev,ClosingUchal from MembersMaster");
+    for (const PaymentReckoning::Compared& rows : reckoning.Comparison()) {
+        tour.Check(rows.what + QStringLiteral(", rows"), QString::number(rows.stored.size()),
+            QString::number(rows.reckoned.size()));
+        for (qsizetype at = 0; at < std::max(rows.stored.size(), rows.reckoned.size()); ++at)
+            tour.Check(rows.what, rows.stored.value(at), rows.reckoned.value(at));
+    }
 }
 
 }
@@ -202,8 +183,10 @@ void PlayMoney(Tour& tour)
     PaymentReckoning reckoning;
     reckoning.ReadSettings(false);
     reckoning.ReadOpening();
+    reckoning.ReadMilk(LastOfApril);
     reckoning.PayMany(1, 40, LastOfApril);
     reckoning.ReadSettings(true);
+    reckoning.ReadMilk(FirstOfMay);
     PayOneMember(tour, reckoning);
     PayTheRest(tour, reckoning);
     CheckAllPayments(tour, reckoning);
