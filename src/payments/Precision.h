@@ -3,8 +3,6 @@
 #include "platform/text/Currency.h"
 #include "platform/text/Numbers.h"
 
-#include <cmath>
-
 // Sums and caps of a payment are held in single precision. What such a figure says are its seven digits.
 
 inline float ToSingle(double value)
@@ -18,12 +16,11 @@ inline double Decimal(float value)
     return Val(ShortestDecimal(value));
 }
 
-// A sum of rupees and paise in single precision, to which one more figure comes. What binary arithmetic
-// leaves behind the paise isn't part of it.
-inline float AddSingle(float sum, double rupees)
+// A sum in single precision to which one more figure comes. It is rounded to what a single holds each time, so
+// that its last digits may be off; the patterns of the fields hide them.
+inline float AddSingle(float sum, double figure)
 {
-    constexpr double paise = 100;
-    return ToSingle(std::round((sum + rupees) * paise) / paise);
+    return ToSingle(sum + figure);
 }
 
 // A sum or a difference of figures without what binary arithmetic leaves behind: 0.45 for 828.45 - 828.

@@ -216,15 +216,4 @@ TEST_F(PaymentReversalTest, WhatWasLookedUpForOtherDatesIsNotTakenBack)
     EXPECT_EQ(One("select ClosingUchal from MembersMaster where MemberNo=5"), "2172.5");
 }
 
-// In single precision figures of more than seven digits lose paise, and get others back.
-TEST_F(PaymentReversalTest, LargeClosingFiguresKeepAResidueOfSinglePrecision)
-{
-    Run("update MembersMaster set ClosingBalance=1234567.89 where MemberNo=5");
-    PlaySingle([](Clerk& clerk) {
-        Pay(clerk, "01042026", 5);
-        TakeBack(clerk, "01042026", 5);
-    });
-    EXPECT_NEAR(One("select ClosingBalance from MembersMaster where MemberNo=5").toDouble(), 1234567.89, 1);
-}
-
 }
