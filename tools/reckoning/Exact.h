@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <compare>
 #include <cstdint>
 
 // A figure in exact decimals, in hundred-thousandths: rupees, litres, rupees a litre.
@@ -16,7 +15,11 @@ public:
     Exact operator-(Exact other) const { return Exact(m_units - other.m_units); }
     Exact operator-() const { return Exact(-m_units); }
     Exact& operator+=(Exact other) { return *this = *this + other; }
-    auto operator<=>(const Exact& other) const = default;
+    bool operator==(Exact other) const { return m_units == other.m_units; }
+    bool operator<(Exact other) const { return m_units < other.m_units; }
+    bool operator>(Exact other) const { return other < *this; }
+    bool operator<=(Exact other) const { return !(other < *this); }
+    bool operator>=(Exact other) const { return !(*this < other); }
 
     // Litres at a rate, to the paisa, half away from zero.
     Exact Times(Exact rate) const;

@@ -117,24 +117,31 @@ Exact PaymentReckoning::Milk(
 
 // The heads
 
-PaymentReckoning::Heads PaymentReckoning::HeadsOf(int member, const Period& period) const
+// What was given in the period by head, and what was unpaid before it.
+std::map<QString, Exact> PaymentReckoning::SumsOf(int member, const Period& period) const
 {
-    Heads heads;
     std::map<QString, Exact> sums;
+    Exact& previous = sums[PreviousHead];
     for (const Row& given : Vouchers.Given(member)) {
         if (given.day < period.from)
-            heads.previous += given.amount;
+            previous += given.amount;
         else if (given.day <= period.to)
             sums[given.type] += given.amount;
     }
     for (const Row& back : Vouchers.Back(member))
         if (back.day < period.from)
-            heads.previous = heads.previous - back.amount;
+            previous += -back.amount;
     for (const Row& back : m_recoveries)
         if (back.member == member && back.day < period.from)
-            heads.previous = heads.previous - back.amount;
-    sums[PreviousHead] = heads.previous;
+            previous += -back.amount;
+    return sums;
+}
 
+PaymentReckoning::Heads PaymentReckoning::HeadsOf(int member, const Period& period) const
+{
+    Heads heads;
+    std::map<QString, Exact> sums = SumsOf(member, period);
+    heads.previous = sums[PreviousHead];
     for (const QString& head : PeriodHeads)
         if (head == AdvanceHead ? sums[head] != Exact() : sums[head] > Exact())
             heads.rows.push_back({period.bill, member, head, sums[head], 0});

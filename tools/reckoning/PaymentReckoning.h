@@ -104,6 +104,7 @@ private:
     bool IsPaid(int member, const Period& period) const;
     Exact Milk(Exact Delivery::*figure, int member, const Period& period, const char* animal) const;
     Payment MilkOf(int member, const Period& period) const;
+    std::map<QString, Exact> SumsOf(int member, const Period& period) const;
     Heads HeadsOf(int member, const Period& period) const;
     void TakeReceiptsOff(std::vector<Row>& heads, int member, const Period& period) const;
     int NextNumber(const QDate& bill) const;

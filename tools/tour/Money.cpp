@@ -48,8 +48,8 @@ void RaiseTheRates(Tour& tour)
 }
 
 struct Advance {
-    const char* day;
-    int member;
+    const char* day = nullptr;
+    int member = 0;
     std::initializer_list<std::pair<QString, QString>> heads; // and rupees
 };
 

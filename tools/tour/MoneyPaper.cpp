@@ -3,9 +3,8 @@
 
 namespace {
 
-const QString Report = QStringLiteral("%i");
-const QString FirstOfMay = QStringLiteral("01052026");
-const QString TenthOfMay = QStringLiteral("10052026");
+const QString PeriodBegins = QStringLiteral("01052026");
+const QString PeriodEnds = QStringLiteral("10052026");
 const QString AllMembers = QString(QStringLiteral("1") + Enter + Enter);
 
 // Opens an entry of the list of reports, by its place.
@@ -17,24 +16,28 @@ void OpenReport(Tour& tour, const QString& picture, int place)
 void PrintSlips(Tour& tour)
 {
     OpenReport(tour, QStringLiteral("report-slips"), 2);
-    tour.Type(TenthOfMay + Enter + AllMembers + Report);
+    tour.Type(PeriodEnds + Enter + AllMembers + ShowReport);
     tour.KeepReport(QStringLiteral("slips"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.Type(Escape);
 }
 
 void PrintRegisters(Tour& tour)
 {
-    const QString period = FirstOfMay + Enter + Enter + AllMembers;
+    const QString period = PeriodBegins + Enter + Enter + AllMembers;
     OpenReport(tour, QStringLiteral("report-payment-register"), 4);
-    tour.Type(period + Report);
+    tour.Type(period + ShowReport);
     tour.KeepReport(QStringLiteral("payment-register"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
+    tour.TheClerk().Press(QStringLiteral("OptionLS"));
+    tour.Type(ShowReport);
+    tour.KeepReport(
+        QStringLiteral("payment-register-across"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.Type(Escape);
     OpenReport(tour, QStringLiteral("report-deposit-register"), 5);
-    tour.Type(period + Report);
+    tour.Type(period + ShowReport);
     tour.KeepReport(QStringLiteral("deposit-register"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.Type(Escape);
     OpenReport(tour, QStringLiteral("report-advance-register"), 6);
-    tour.Type(period + Report);
+    tour.Type(period + ShowReport);
     tour.KeepReport(QStringLiteral("advance-register"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.Type(Escape);
 }
@@ -42,7 +45,7 @@ void PrintRegisters(Tour& tour)
 void StateAMembersAdvances(Tour& tour)
 {
     OpenReport(tour, QStringLiteral("report-advances-of-a-member"), 7);
-    tour.Type(FirstOfMay + Enter + TenthOfMay + Enter + QStringLiteral("3") + Enter + Report);
+    tour.Type(PeriodBegins + Enter + PeriodEnds + Enter + QStringLiteral("3") + Enter + ShowReport);
     tour.KeepReport(QStringLiteral("advances-of-a-member"), QStringLiteral("642.50"), 1);
     tour.Type(Escape);
 }
@@ -50,14 +53,14 @@ void StateAMembersAdvances(Tour& tour)
 // From the list of reports to that of the yearly ones.
 void StateBalances(Tour& tour)
 {
-    const QString year = QStringLiteral("01042026") + Enter + TenthOfMay + Enter + AllMembers;
+    const QString year = QStringLiteral("01042026") + Enter + PeriodEnds + Enter + AllMembers;
     tour.Type(Escape + QStringLiteral("{HOME}{DOWN}{DOWN}{DOWN}") + Enter);
     tour.Step(QStringLiteral("report-advance-balances"), QStringLiteral("{HOME}") + Enter);
-    tour.Type(year + Report);
+    tour.Type(year + ShowReport);
     tour.KeepReport(QStringLiteral("advance-balances"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.Type(Escape);
     tour.Step(QStringLiteral("report-deposit-balances"), QStringLiteral("{HOME}{DOWN}") + Enter);
-    tour.Type(year + Report);
+    tour.Type(year + ShowReport);
     tour.KeepReport(QStringLiteral("deposit-balances"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.Type(Escape + Escape);
 }

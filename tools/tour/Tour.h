@@ -63,6 +63,7 @@ QString KeysOf(const char16_t* seen);
 
 inline const QString Enter = QStringLiteral("{ENTER}");
 inline const QString Escape = QStringLiteral("{ESC}");
+inline const QString ShowReport = QStringLiteral("%i"); // the button that shows a report
 
 // The keys of a delivery from the member number on: member, litres, fat, and past the rate to the save
 // button.
