@@ -1,0 +1,49 @@
+#pragma once
+
+#include "tests/support/FakeReportWindow.h"
+#include "tests/support/SocietyTest.h"
+
+#include <map>
+#include <random>
+
+// Walks without sense over the screens of the money: a walk is five throws of keys, each of them a move, a
+// figure, an order, or a stretch that leads somewhere. A screen that was left is opened again, and what has
+// to hold is looked at then. The dice always fall the same way.
+class ScreenWalks : public SocietyTest {
+protected:
+    ScreenWalks();
+    ~ScreenWalks() override;
+
+    void OverTheFatRates(int walks);
+    void OverTheSlips(int walks);
+    void OverTheRegisters(int walks);
+    void OverTheLookUp(int walks);
+    void OverTheSpan(int walks);
+    void OverTheVouchers(int walks);
+    void OverTheInstallments(int walks);
+
+private:
+    struct Walked {
+        const char* name;
+        std::function<void()> open;
+        std::vector<const char*> phrases;
+        std::function<void()> check; // once it was left
+    };
+    void Walk(const Walked& screen, int walks);
+    QString NextKeys(const Walked& screen);
+    int Throw(std::size_t sides) { return static_cast<int>(m_dice() % sides); }
+    template <class List> const auto& AnyOf(const List& list)
+    {
+        return list[static_cast<std::size_t>(Throw(std::size(list)))];
+    }
+
+    // The rows that a screen which only reads leaves alone.
+    std::string Kept();
+
+    void ForgetCharts();
+    void ExpectSoundRates();
+    void ExpectSoundVouchers();
+
+    FakeReportWindow TheWindow;
+    std::mt19937 m_dice{20260415};
+};
