@@ -219,6 +219,7 @@ void BulkPayment::Run(MemberPayment& payment)
     cmdCalculate.SetEnabled(false);
     Command2.SetEnabled(false);
     EmptyShortMemberList();
+    DataGridMembers.Refresh();
     BindPayments();
     Label43.SetCaption(Shivaji(Running));
     for (const auto& [from, to] : {std::pair(&maskFromDate1, &payment.Days.maskFromDate),

@@ -1,35 +1,8 @@
 // The run over many members.
 
-#include "tests/payments/PaymentsTest.h"
-
-#include <QEvent>
-#include <QLabel>
-
-#include <memory>
+#include "tests/payments/BulkPaymentTest.h"
 
 namespace {
-
-class BulkPaymentTest : public PaymentsTest {
-protected:
-    BulkPaymentTest()
-    {
-        Run("delete * from MembersMaster");
-        for (const int member : {1, 2, 4, 5})
-            AddMember(member, QStringLiteral("naava") + QString::number(member));
-        for (const int member : {1, 2, 5})
-            AddMilk(member, "02/04/2026", "gaaya", 10, 100 * member);
-    }
-
-    // At the fields of a run.
-    void AtFields(const std::function<void(Clerk&)>& script)
-    {
-        Play([&](Clerk& clerk) {
-            Type(clerk, "{DOWN}{DOWN}{ENTER}");
-            ASSERT_EQ(Focus(clerk), "maskFromDate1");
-            script(clerk);
-        });
-    }
-};
 
 TEST_F(BulkPaymentTest, GapsAndMembersWithoutMilkArePassed)
 {
@@ -294,66 +267,6 @@ TEST_F(BulkPaymentTest, TheRunWantsAChoiceAndEveryField)
         EXPECT_EQ(Focus(clerk), "txtFromAc");
     });
     EXPECT_EQ(Paid("MemberNo"), "");
-    EXPECT_FALSE(Failure);
-}
-
-TEST_F(BulkPaymentTest, KeysTypedDuringTheRunWaitForItsEnd)
-{
-    for (int member = 6; member <= 60; ++member) {
-        AddMember(member, "naava");
-        AddMilk(member, "02/04/2026", "gaaya", 10, 500);
-    }
-    Play([](Clerk& clerk) {
-        Type(clerk, "{DOWN}{DOWN}{ENTER}01042026{ENTER}{ENTER}1{ENTER}60{ENTER}");
-        clerk.TypeAhead("{ENTER}{ESC}{ESC}");
-    });
-    EXPECT_EQ(One("select count(*) from MilkPayments"), "58") << "all of them, before the screen was left";
-}
-
-// Keeps the texts that a label was painted with.
-class PaintedTexts final : public QObject {
-public:
-    explicit PaintedTexts(QLabel& label) { label.installEventFilter(this); }
-    QStringList Texts;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        const QString text = static_cast<QLabel*>(watched)->text();
-        if (event->type() == QEvent::Paint && !text.isEmpty() && !Texts.contains(text))
-            Texts.append(text);
-        return false;
-    }
-};
-
-TEST_F(BulkPaymentTest, TheMemberAtHandAndTheFiguresAreSeenToMove)
-{
-    for (int member = 6; member <= 200; ++member) {
-        AddMember(member, "naava");
-        AddMilk(member, "02/04/2026", "gaaya", 10, 500);
-    }
-    Play([](Clerk& clerk) {
-        Type(clerk, "{DOWN}{DOWN}{ENTER}01042026{ENTER}{ENTER}1{ENTER}200{ENTER}");
-        std::unique_ptr<PaintedTexts> member;
-        std::unique_ptr<PaintedTexts> net;
-        std::unique_ptr<PaintedTexts> percent;
-        clerk.Do([&] {
-            for (const auto& [watched, label] : {std::pair(&member, "lblMember"),
-                     std::pair(&net, "lblNetAmount"), std::pair(&percent, "lblPercent")})
-                *watched = std::make_unique<PaintedTexts>(*clerk.Top().findChild<QLabel*>(label));
-        });
-        Type(clerk, "{ENTER}");
-        clerk.Do([&] {
-            EXPECT_GT(member->Texts.size(), 2);
-            EXPECT_GT(net->Texts.size(), 2);
-            EXPECT_GT(percent->Texts.size(), 20);
-            for (const QString& text : member->Texts)
-                EXPECT_TRUE(text.contains(::Seen("naava"))) << text.toStdString();
-            member.reset();
-            net.reset();
-            percent.reset();
-        });
-    });
     EXPECT_FALSE(Failure);
 }
 
