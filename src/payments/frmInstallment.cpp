@@ -36,6 +36,12 @@ SqlText KapatOf(const GridRow& row)
     return row.Text(u"Kapat").trimmed().isEmpty() ? SqlText(u"null") : Sql(row.Number(u"Kapat"));
 }
 
+// Books of long ago may have a member twice, even in rows that are alike.
+SqlText TheOne(const GridRow& row)
+{
+    return Sql(u" where rowid=", row.Before(u"rowid").Number());
+}
+
 }
 
 Keys::Places frmInstallment::KeyPlaces()
@@ -61,8 +67,8 @@ frmInstallment::frmInstallment()
 
 void frmInstallment::Load()
 {
-    DataGrid1.Bind(
-        gCn, QStringLiteral("select MemberNo,MemberName,Kapat from InstallmentTable order By MemberNo"));
+    DataGrid1.Bind(gCn,
+        QStringLiteral("select MemberNo,MemberName,Kapat,rowid from InstallmentTable order By MemberNo"));
 }
 
 bool frmInstallment::Write(const GridRow& row)
@@ -75,8 +81,7 @@ bool frmInstallment::Write(const GridRow& row)
             Values(row.Number(u"MemberNo"), NameOf(row)), u",", KapatOf(row), u")"));
     else
         gCn.Execute(Sql(u"update InstallmentTable set MemberNo=", row.Number(u"MemberNo"), u",MemberName=",
-            Quoted(NameOf(row)), u",Kapat=", KapatOf(row), u" where MemberNo=",
-            row.Before(u"MemberNo").Number()));
+            Quoted(NameOf(row)), u",Kapat=", KapatOf(row), TheOne(row)));
     writing.Commit();
     return true;
 }
@@ -84,7 +89,7 @@ bool frmInstallment::Write(const GridRow& row)
 bool frmInstallment::Remove(const GridRow& row)
 {
     Transaction removing(gCn);
-    gCn.Execute(Sql(u"delete * from InstallmentTable where MemberNo=", row.Before(u"MemberNo").Number()));
+    gCn.Execute(Sql(u"delete * from InstallmentTable", TheOne(row)));
     removing.Commit();
     return true;
 }

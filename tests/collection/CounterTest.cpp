@@ -1,6 +1,7 @@
 #include "tests/collection/CounterTest.h"
 
 #include "platform/database/Sql.h"
+#include "tests/support/GridHeads.h"
 
 #include <QHeaderView>
 #include <QTableView>
@@ -32,11 +33,7 @@ std::string CounterTest::Line(const DataGrid& grid, int row)
 
 std::string CounterTest::Heads(const DataGrid& grid)
 {
-    const QAbstractItemModel& model = *static_cast<QTableView*>(grid.Widget())->model();
-    QStringList heads;
-    for (int column = 0; column < model.columnCount(); ++column)
-        heads.append(model.headerData(column, Qt::Horizontal).toString());
-    return heads.join(u'|').toStdString();
+    return HeadsOf(grid);
 }
 
 std::vector<int> CounterTest::Widths(const DataGrid& grid)

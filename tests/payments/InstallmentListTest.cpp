@@ -2,6 +2,7 @@
 
 #include "payments/frmInstallment.h"
 #include "payments/frmThevDate.h"
+#include "tests/support/GridHeads.h"
 #include "tests/support/SocietyTest.h"
 
 namespace {
@@ -17,7 +18,7 @@ protected:
 
     QStringList List()
     {
-        return Rows("select MemberNo,MemberName,Kapat from InstallmentTable order by MemberNo");
+        return Rows("select MemberNo,MemberName,Kapat from InstallmentTable order by MemberNo,rowid");
     }
 };
 
@@ -57,6 +58,32 @@ TEST_F(InstallmentListTest, ARowWithoutANumberOrOfAMemberThatIsThereIsRefused)
         EXPECT_NE(OnTop(clerk), "frmInstallment");
     });
     EXPECT_EQ(List(), QStringList("12|saIta|75"));
+}
+
+TEST_F(InstallmentListTest, TheListHasItsCaptions)
+{
+    On<frmInstallment>([](Clerk& clerk) {
+        EXPECT_EQ(HeadsOf(dynamic_cast<const DataGrid&>(*clerk.Top().Find(u"DataGrid1"))),
+            "मेम्बर नं.|मेम्बरचे नाव|कपात रक्कम");
+    });
+    EXPECT_FALSE(Failure);
+}
+
+// The screen lets no member in twice, but books of long ago may have one so.
+TEST_F(InstallmentListTest, OfTwoRowsOfAMemberOneIsChangedOrRemovedAlone)
+{
+    for (const char* kapat : {"20", "20", "30"})
+        Run(QStringLiteral("insert into InstallmentTable(MemberNo,MemberName,Kapat) values(5,'rama',%1)")
+                .arg(QLatin1String(kapat)));
+    On<frmInstallment>([this](Clerk& clerk) {
+        Type(clerk, "{DOWN}{RIGHT}{RIGHT}45{ENTER}");
+        EXPECT_EQ(List(), (QStringList{"5|rama|20", "5|rama|45", "5|rama|30", "12|saIta|75"}));
+        Type(clerk, "{HOME}{DEL}");
+        EXPECT_EQ(List(), (QStringList{"5|rama|45", "5|rama|30", "12|saIta|75"}));
+        Type(clerk, "{END}{UP}{DEL}");
+    });
+    EXPECT_EQ(List(), (QStringList{"5|rama|45", "12|saIta|75"}));
+    EXPECT_FALSE(Failure);
 }
 
 class ThevDateTest : public SocietyTest { };
