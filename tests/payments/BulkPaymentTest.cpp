@@ -133,6 +133,108 @@ TEST_F(BulkPaymentTest, NumbersStopAtTheEndOfSixteenBits)
     EXPECT_EQ(Paid("MemberNo"), "32767");
 }
 
+// What belongs to the run
+
+TEST_F(BulkPaymentTest, ADateOfTheBillThatIsKeyedHoldsForAll)
+{
+    AddVoucher("02/04/2026", 5, "]cala", 20);
+    AtFields([](Clerk& clerk) {
+        Type(clerk, "01042026{ENTER}12042026{ENTER}1{ENTER}5{ENTER}{ENTER}");
+        EXPECT_EQ(Seen(clerk, "DataGridPayment", 2), (QStringList{"3|5", "2|2", "1|1"}));
+        EXPECT_EQ(Label(clerk, "lblNetAmount"), "777.00");
+    });
+    EXPECT_EQ(Paid("MemberNo,ToDate,PaymentDate"),
+        "1|10/04/2026|12/04/2026\n2|10/04/2026|12/04/2026\n5|10/04/2026|12/04/2026");
+    EXPECT_EQ(Rows("select TranDate,TranId from AdvanceReceipt"), QStringList("12/04/2026|4"));
+    EXPECT_EQ(Rows("select distinct TranDate from MilkPaymentsDetails"), QStringList("12/04/2026"));
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(BulkPaymentTest, ALastDayThatIsKeyedHoldsForAll)
+{
+    gAppState.gPaymentDuration.clear();
+    AddMilk(5, "06/04/2026", "gaaya", 64, 640);
+    AtFields([](Clerk& clerk) {
+        Type(clerk, "01042026{ENTER}05042026{ENTER}07042026{ENTER}1{ENTER}5{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "cmbPaymentType");
+    });
+    EXPECT_EQ(Paid("MemberNo,FromDate,ToDate,PaymentDate,Liters"),
+        "1|01/04/2026|05/04/2026|07/04/2026|10\n2|01/04/2026|05/04/2026|07/04/2026|10\n"
+        "5|01/04/2026|05/04/2026|07/04/2026|10");
+    EXPECT_FALSE(Failure);
+}
+
+// The fields of one member's payment are empty behind a run.
+TEST_F(BulkPaymentTest, ASecondRunStraightFromTheChoiceTakesTheDaysThatStandThere)
+{
+    Play([this](Clerk& clerk) {
+        PayMany(clerk, "01042026", "1", "5");
+        ASSERT_EQ(Focus(clerk), "cmbPaymentType");
+        Run("delete * from MilkPayments");
+        Press(clerk, "cmdCalculate");
+        EXPECT_EQ(TheBox.Shown, QStringList());
+        EXPECT_EQ(Label(clerk, "lblNetAmount"), "797.00");
+    });
+    EXPECT_EQ(Paid("MemberNo,FromDate,ToDate,PaymentDate"),
+        "1|01/04/2026|10/04/2026|10/04/2026\n2|01/04/2026|10/04/2026|10/04/2026\n"
+        "5|01/04/2026|10/04/2026|10/04/2026");
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(BulkPaymentTest, OnlyPaymentsOfTheDateAndTheCompanyAreListedAndSummed)
+{
+    for (const char* other : {"1,'11/04/2026',1,3", "2,'10/04/2026',1,3"})
+        Run(QStringLiteral(
+            "insert into MilkPayments(CompanyId,PaymentDate,TranId,MemberNo,MemberName,FromDate,"
+            "ToDate,Liters,Amount,Kapat,NetAmount) "
+            "values(%1,'para','01/03/2026','10/03/2026',64,640,6,634)")
+                .arg(QLatin1String(other)));
+    Play([](Clerk& clerk) {
+        PayMany(clerk, "01042026", "1", "5");
+        EXPECT_EQ(Seen(clerk, "DataGridPayment", 2), (QStringList{"3|5", "2|2", "1|1"}));
+        EXPECT_EQ(Label(clerk, "lblLiters"), "30.000");
+        EXPECT_EQ(Label(clerk, "lblAmount"), "800.00");
+        EXPECT_EQ(Label(clerk, "lblAdvance"), "3.00");
+        EXPECT_EQ(Label(clerk, "lblNetAmount"), "797.00");
+    });
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(BulkPaymentTest, AMemberOfAnotherCompanyIsNobody)
+{
+    for (const int member : {3, 9}) {
+        AddMember(member, QStringLiteral("para"));
+        Run(QStringLiteral("update MembersMaster set CompanyId=2 where MemberNo=%1").arg(member));
+    }
+    AtFields([this](Clerk& clerk) {
+        Type(clerk, "01042026{ENTER}{ENTER}9{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtFromAc") << "the highest number of this company is 5";
+        Type(clerk, "1{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtToAc"), "5");
+        Type(clerk, "9{ENTER}");
+        EXPECT_EQ(TheBox.Shown, QStringList("Please Enter Valid Range"));
+        Type(clerk, "5{ENTER}{ENTER}");
+        EXPECT_EQ(Seen(clerk, "DataGridMembers", 2), QStringList("4|नाव४")) << "3 is a gap in the numbers";
+    });
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(BulkPaymentTest, NumbersTakeTheLetterNAsWell)
+{
+    AtFields([](Clerk& clerk) {
+        Type(clerk, "01042026{ENTER}{ENTER}x2Nn");
+        EXPECT_EQ(Reads(clerk, "txtFromAc"), "2n");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtFromAc"), "2");
+        Type(clerk, "x4Nn");
+        EXPECT_EQ(Reads(clerk, "txtToAc"), "4n");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtToAc"), "4");
+        EXPECT_EQ(Focus(clerk), "cmdCalculate");
+    });
+    EXPECT_FALSE(Failure);
+}
+
 // The fields
 
 TEST_F(BulkPaymentTest, TheListAloneChoosesBetweenOneAndMany)
