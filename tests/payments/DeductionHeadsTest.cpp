@@ -366,16 +366,18 @@ TEST_F(UchalTest, TheCapOfTheClerkIsHigherByThePreviousBalance)
     });
 }
 
-// A cap of more than seven digits is a rounded one: it must pass nevertheless.
+// A cap of more than seven digits is a rounded one, here above the real one: it must pass nevertheless.
 TEST_F(UchalTest, WhatTheProgramItselfPutInIsNeverRefused)
 {
-    AddMilk(5, "05/04/2026", "gaaya", 1, 1234567.80);
+    AddMilk(5, "05/04/2026", "gaaya", 1, 1234568.30);
     AddVoucher("04/04/2026", 5, "]cala", 90000000);
     AtUchal([](Clerk& clerk) {
         Type(clerk, "80000000{ENTER}");
         EXPECT_EQ(Focus(clerk), "txtUchal");
+        EXPECT_EQ(Reads(clerk, "txtUchal"), "1239349") << "for 1239348.60";
         Type(clerk, "{ENTER}");
         EXPECT_EQ(Focus(clerk), "cmdNew");
+        EXPECT_EQ(Reads(clerk, "txtUchal"), "1239349.00");
     });
 }
 
