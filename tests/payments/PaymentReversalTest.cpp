@@ -24,6 +24,14 @@ protected:
         return rows;
     }
 
+    // "CompanyId,FromDate,ToDate,PaymentDate,TranId,MemberNo" of a payment made elsewhere.
+    void AddPayment(const char* values)
+    {
+        Run(QStringLiteral("insert into MilkPayments(CompanyId,FromDate,ToDate,PaymentDate,TranId,MemberNo) "
+                           "values(%1)")
+                .arg(QLatin1String(values)));
+    }
+
     static void TakeBack(Clerk& clerk, const char* from, int member)
     {
         Load(clerk, from, member);
@@ -121,6 +129,69 @@ TEST_F(PaymentReversalTest, ALaterPaymentOfAnotherFreezesNothing)
     EXPECT_EQ(Paid("MemberNo"), "12");
 }
 
+TEST_F(PaymentReversalTest, ALaterPaymentInAnotherCompanyFreezesNothing)
+{
+    PlaySingle([this](Clerk& clerk) {
+        Pay(clerk, "01042026", 5);
+        AddPayment("2,'11/04/2026','20/04/2026','20/04/2026',1,5");
+        TakeBack(clerk, "01042026", 5);
+        EXPECT_EQ(TheBox.Shown, QStringList());
+    });
+    EXPECT_EQ(Paid("CompanyId"), "2");
+}
+
+TEST_F(PaymentReversalTest, APaymentOfOneDayDoesNotFreezeItself)
+{
+    gAppState.gPaymentDuration = QStringLiteral("1 idvasa");
+    PlaySingle([this](Clerk& clerk) {
+        Pay(clerk, "01042026", 5);
+        EXPECT_EQ(Paid("FromDate,ToDate"), "01/04/2026|01/04/2026");
+        TakeBack(clerk, "01042026", 5);
+        EXPECT_EQ(TheBox.Shown, QStringList());
+    });
+    EXPECT_EQ(Paid("MemberNo"), "");
+}
+
+TEST_F(PaymentReversalTest, APaymentIsFoundByBothItsDaysOnly)
+{
+    AddPayment("1,'01/04/2026','05/04/2026','05/04/2026',1,5");
+    AddPayment("1,'06/04/2026','10/04/2026','10/04/2026',1,5");
+    PlaySingle([this](Clerk& clerk) {
+        Load(clerk, "01042026", 5);
+        EXPECT_EQ(TheBox.Shown, QStringList("No MilkPayment is found. Please Check Dates and MemberNo."));
+        EXPECT_EQ(Focus(clerk), "cmdNew");
+    });
+    EXPECT_EQ(Paid("ToDate"), "05/04/2026\n10/04/2026");
+}
+
+TEST_F(PaymentReversalTest, OnlyThePaymentOfThisBillAndTheseDaysIsTakenBack)
+{
+    PlaySingle([this](Clerk& clerk) {
+        Pay(clerk, "01042026", 5);
+        AddPayment("1,'01/04/2026','10/04/2026','12/04/2026',9,5");
+        AddPayment("1,'01/04/2026','05/04/2026','10/04/2026',1,5");
+        TakeBack(clerk, "01042026", 5);
+        EXPECT_EQ(TheBox.Shown, QStringList());
+    });
+    EXPECT_EQ(Paid("ToDate,TranId"), "10/04/2026|9\n05/04/2026|1");
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(PaymentReversalTest, OnlyThePaiseOfItsOwnBillAreAddedToTheDeductionShown)
+{
+    Set("DecimalPayment='AddThev'");
+    AddMilk(5, "12/04/2026", "gaaya", 10, 500.75);
+    PlaySingle([this](Clerk& clerk) {
+        Pay(clerk, "01042026", 5);
+        Pay(clerk, "11042026", 5);
+        ASSERT_EQ(Rows("select TranDate,Amount from MilkPaymentsDetails where AdvanceType='zova'"),
+            (QStringList{"10/04/2026|0.95", "20/04/2026|0.3"}));
+        Load(clerk, "11042026", 5);
+        EXPECT_EQ(Label(clerk, "lblKapat"), "6.30") << "1 of deposit, 5 and the 0.30";
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(PaymentReversalTest, APaymentThatIsNotThereIsTold)
 {
     PlaySingle([this](Clerk& clerk) {
@@ -152,6 +223,7 @@ TEST_F(PaymentReversalTest, TwoPaymentsOnOneBillDateLoseBothTheirRecoveries)
 
 TEST_F(PaymentReversalTest, DetailsOfABillOutsideItsPeriodStayForGood)
 {
+    Set("DecimalPayment='AddThev'");
     PlaySingle([](Clerk& clerk) {
         Begin(clerk, "01042026");
         Type(clerk, "+{TAB}15042026{ENTER}5{ENTER}%s%h");
@@ -159,7 +231,26 @@ TEST_F(PaymentReversalTest, DetailsOfABillOutsideItsPeriodStayForGood)
     });
     EXPECT_EQ(Paid("MemberNo"), "");
     EXPECT_EQ(Rows("select * from AdvanceReceipt"), QStringList());
-    EXPECT_EQ(Rows("select distinct TranDate from MilkPaymentsDetails"), QStringList("15/04/2026"));
+    EXPECT_EQ(Rows("select CompanyId,TranDate,TranId,MemberNo,AdvanceType,Amount from MilkPaymentsDetails"),
+        (QStringList{"1|15/04/2026|0|5|]cala|200", "1|15/04/2026|0|5|KaV|123.45",
+            "1|15/04/2026|0|5|maagaIla baakI|500", "1|15/04/2026|0|5|[tr|5", "1|15/04/2026|0|5|gaaya zova|10",
+            "1|15/04/2026|0|5|mhOsa zova|10.1", "1|15/04/2026|0|5|zova|0.95"}));
+}
+
+TEST_F(PaymentReversalTest, TheDetailsOfEveryBillOfThePeriodGoWithIt)
+{
+    AddMilk(5, "12/04/2026", "gaaya", 10, 500);
+    PlaySingle([this](Clerk& clerk) {
+        Begin(clerk, "01042026");
+        Type(clerk, "+{TAB}15042026{ENTER}5{ENTER}%s%h");
+        Pay(clerk, "11042026", 5);
+        ASSERT_EQ(Rows("select distinct TranDate from MilkPaymentsDetails order by TranDate"),
+            (QStringList{"15/04/2026", "20/04/2026"}));
+        TakeBack(clerk, "11042026", 5);
+    });
+    EXPECT_EQ(Paid("FromDate"), "01/04/2026");
+    EXPECT_EQ(Rows("select * from MilkPaymentsDetails"), QStringList());
+    EXPECT_EQ(Rows("select TranDate,Amount from AdvanceReceipt"), QStringList("15/04/2026|823"));
 }
 
 TEST_F(PaymentReversalTest, DeletingOpensTheFirstDayAndTheMemberOnly)
