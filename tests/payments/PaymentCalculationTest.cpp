@@ -54,6 +54,22 @@ TEST_F(PaymentCalculationTest, TheDeliveriesOfThePeriodAreListedAndCopied)
         (QStringList{"1|5|3.25", "1|5|4"}));
 }
 
+TEST_F(PaymentCalculationTest, TheDeliveriesAreListedByDayAndShift)
+{
+    AddMilk(5, "02/04/2026", "gaaya", 2, 20, 1, "sakaL");
+    AddMilk(5, "02/04/2026", "gaaya", 1, 10, 1, "saMQyaakaL");
+    AddMilk(5, "01/04/2026", "gaaya", 3, 30, 1, "sakaL");
+    AddMilk(5, "01/04/2026", "gaaya", 4, 40, 1, "saMQyaakaL");
+    PlaySingle([](Clerk& clerk) {
+        Work(clerk, "01042026", 5);
+        EXPECT_EQ(Seen(clerk, "DataGrid1", 4),
+            (QStringList{"01/04/26|संध्याकाळ|गाय|4.000", "01/04/26|सकाळ|गाय|3.000",
+                "02/04/26|संध्याकाळ|गाय|1.000", "02/04/26|सकाळ|गाय|2.000"}))
+            << "the evening comes first, as it is spelled";
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(PaymentCalculationTest, TheDepositIsOfLitresToThreeDecimals)
 {
     Set("ThevKapatCow=0.35");
@@ -213,6 +229,19 @@ TEST_F(PaymentCalculationTest, ANumberThatIsNobodysResetsTheScreenInSilence)
         EXPECT_EQ(Reads(clerk, "cmdNew"), "&navaIna");
         EXPECT_EQ(Reads(clerk, "maskFromDate"), "__/__/____");
     });
+}
+
+TEST_F(PaymentCalculationTest, TheNumberTakesTheLetterNAsWell)
+{
+    AddExample();
+    PlaySingle([](Clerk& clerk) {
+        Begin(clerk, "01042026");
+        Type(clerk, "x5Nn");
+        EXPECT_EQ(Reads(clerk, "txtMemberNo"), "5n");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Reads(clerk, "ComboMemberName"), "rama");
+    });
+    EXPECT_FALSE(Failure);
 }
 
 TEST_F(PaymentCalculationTest, AnEmptyNumberKeepsTheFocusAndTheGuideSaysWhatIsWanted)

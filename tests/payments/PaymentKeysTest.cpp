@@ -1,6 +1,7 @@
 // The buttons and keys of the payments.
 
 #include "tests/payments/PaymentsTest.h"
+#include "tests/support/GridHeads.h"
 
 namespace {
 
@@ -11,6 +12,19 @@ TEST_F(PaymentKeysTest, OpeningEmptiesTheListOfMembersWithoutMilk)
     Run("insert into ShortMemberList(CompanyId,MemberNo,MemberName) values(1,5,'rama')");
     Play([](Clerk& clerk) { EXPECT_EQ(Seen(clerk, "DataGridMembers", 1), QStringList()); });
     EXPECT_EQ(Rows("select * from ShortMemberList"), QStringList());
+}
+
+TEST_F(PaymentKeysTest, TheListsHaveTheirCaptions)
+{
+    Play([](Clerk& clerk) {
+        const auto heads = [&](const char* list) {
+            return HeadsOf(dynamic_cast<const DataGrid&>(*clerk.Top().Find(QString::fromLatin1(list))));
+        };
+        EXPECT_EQ(heads("DataGrid1"), "दिनांक|वेळ|दुध|लिटर्स|फॅट|दर|रक्कम");
+        EXPECT_EQ(heads("DataGridUchals"), "उचल|रक्कम");
+        EXPECT_EQ(heads("DataGridMembers"), "मेम्बर नं.|मेम्बरचे नाव");
+    });
+    EXPECT_FALSE(Failure);
 }
 
 TEST_F(PaymentKeysTest, NewOpensTheFields)

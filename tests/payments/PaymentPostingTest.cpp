@@ -58,6 +58,52 @@ TEST_F(PaymentPostingTest, APaymentIsWrittenToAllItsTables)
     EXPECT_EQ(Rows("select * from TransactionsMaster"), QStringList()) << "a payment writes no voucher";
 }
 
+TEST_F(PaymentPostingTest, APaymentTouchesNoAccountAndNoVoucher)
+{
+    AddExample();
+    const auto accounts = [this] {
+        return Rows("select * from AccountsMaster") + Rows("select * from TransactionsMaster")
+            + Rows("select * from TransactionsDetails");
+    };
+    const QStringList before = accounts();
+    ASSERT_FALSE(Rows("select * from AccountsMaster").isEmpty());
+    PlaySingle([&](Clerk& clerk) {
+        Pay(clerk, "01042026", 5);
+        EXPECT_EQ(accounts(), before);
+        Load(clerk, "01042026", 5);
+        Type(clerk, "{ENTER}");
+    });
+    EXPECT_EQ(accounts(), before) << "nor does taking it back";
+    EXPECT_EQ(Paid("MemberNo"), "");
+}
+
+TEST_F(PaymentPostingTest, TheDetailsOfEveryPaymentHaveTheNumberNought)
+{
+    AddExample();
+    Set("DecimalPayment='AddThev'");
+    AddMilk(12, "02/04/2026", "mhOsa", 10, 500);
+    AddMilk(12, "12/04/2026", "gaaya", 10, 500);
+    PlaySingle([](Clerk& clerk) {
+        Pay(clerk, "01042026", 5);
+        Pay(clerk, "01042026", 12);
+    });
+    Play([](Clerk& clerk) { PayMany(clerk, "11042026", "1", "12"); });
+    EXPECT_EQ(Paid("TranId,MemberNo"), "1|5\n2|12\n1|12");
+    EXPECT_EQ(Rows("select MemberNo,TranDate,count(*),max(TranId),min(TranId) from MilkPaymentsDetails "
+                   "group by MemberNo,TranDate order by MemberNo,TranDate"),
+        (QStringList{"5|10/04/2026|7|0|0", "12|10/04/2026|2|0|0", "12|20/04/2026|2|0|0"}));
+}
+
+TEST_F(PaymentPostingTest, AnEmptyClosingColumnCountsAsNought)
+{
+    AddExample();
+    Run("update MembersMaster set ClosingBalance=null,CowClosingThev=null,BuffClosingThev=null,"
+        "ClosingUchal=null");
+    PlaySingle([](Clerk& clerk) { Pay(clerk, "01042026", 5); });
+    EXPECT_EQ(Closing(), "-2644.05|10|10.1|-828");
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(PaymentPostingTest, WithoutADeductionNoRecoveryIsWritten)
 {
     AddMilk(5, "02/04/2026", "gaaya", 10, 500);
