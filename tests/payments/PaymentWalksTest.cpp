@@ -2,11 +2,205 @@
 
 #include "tests/payments/PaymentsTest.h"
 
+#include "platform/database/Sql.h"
+
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <random>
+#include <tuple>
 
 namespace {
+
+// Follows the payments that come and go, and says what has to stand behind them in the recoveries and in the
+// details. The vouchers and receipts of the society stay as they are.
+class PaymentTrail {
+public:
+    // Looks at the payments: at most one was saved or taken back since the last look, or a run was made.
+    void Follow()
+    {
+        const Payments now = Read();
+        for (const auto& [key, payment] : m_payments)
+            if (!now.contains(key))
+                TakeBack(payment);
+        for (const auto& [key, payment] : now)
+            if (!m_payments.contains(key))
+                Pay(payment);
+        m_payments = now;
+    }
+
+    // Whether the recoveries are those of the payments, the details too, and each member owes what he was
+    // given less what came back.
+    void ExpectBooks() const
+    {
+        ExpectAlike(m_recoveries, RowsOf(u"AdvanceReceipt", u" where AdvanceType='Uchal Kapat'"));
+        ExpectAlike(m_details, RowsOf(u"MilkPaymentsDetails", u""));
+        for (const int member : {5, 12}) {
+            double recovered = 0;
+            for (const Row& row : m_recoveries)
+                recovered += row.member == member ? row.amount : 0;
+            const SqlText his = Sql(u" where MemberNo=", member);
+            const double received = Sum(u"AdvanceReceipt", Sql(his, u" and AdvanceType='Uchal Receipt'"));
+            EXPECT_NEAR(Sum(u"TransactionsDetails", his) - Sum(u"AdvanceReceipt", his),
+                Sum(u"TransactionsDetails", his) - received - recovered, Near);
+        }
+    }
+
+private:
+    static constexpr double Near = 0.005;
+
+    struct Payment {
+        int member = 0;
+        QDate from, to, bill;
+        int number = 0;
+        double amount = 0, kapat = 0, net = 0, uchal = 0, cow = 0, buff = 0, fixed = 0, previous = 0;
+    };
+    using Payments = std::map<std::pair<int, QDate>, Payment>;
+    struct Row {
+        int member = 0;
+        QDate day;
+        int number = 0;
+        QString type; // the heads of what is owed have none
+        double amount = 0;
+    };
+
+    static Payments Read()
+    {
+        Payments payments;
+        for (Recordset row(gCn, u"select * from MilkPayments"); !row.Eof(); row.MoveNext()) {
+            const auto number = [&](QStringView column) { return row[column].Number(); };
+            const Payment payment{static_cast<int>(number(u"MemberNo")), row[u"FromDate"].Date(),
+                row[u"ToDate"].Date(), row[u"PaymentDate"].Date(), static_cast<int>(number(u"TranId")),
+                number(u"Amount"), number(u"Kapat"), number(u"NetAmount"), number(u"TotalUchal"),
+                number(u"ThevKapatCow"), number(u"ThevKapatBuff"), number(u"FixedKapat"),
+                number(u"PreviousAdvance")};
+            payments[{payment.member, payment.from}] = payment;
+        }
+        return payments;
+    }
+
+    static double Sum(QStringView table, const SqlText& rows)
+    {
+        return Recordset(gCn, Sql(u"select sum(Amount) as TAmount from ", table, rows))[u"TAmount"].Number();
+    }
+
+    // As they stand in the books, those of the heads in one.
+    static std::vector<Row> RowsOf(QStringView table, const SqlText& which)
+    {
+        std::vector<Row> rows;
+        for (Recordset row(gCn, Sql(u"select * from ", table, which)); !row.Eof(); row.MoveNext()) {
+            QString type = row[u"AdvanceType"].Text();
+            if (!type.endsWith(u"zova") && type != u"Uchal Kapat")
+                type.clear();
+            Add(rows,
+                {static_cast<int>(row[u"MemberNo"].Number()), row[u"TranDate"].Date(),
+                    static_cast<int>(row[u"TranId"].Number()), type, row[u"Amount"].Number()});
+        }
+        return rows;
+    }
+
+    static bool AreAlike(const Row& one, const Row& other)
+    {
+        return std::tie(one.member, one.day, one.number, one.type)
+            == std::tie(other.member, other.day, other.number, other.type);
+    }
+
+    static void Add(std::vector<Row>& rows, const Row& added)
+    {
+        for (Row& row : rows)
+            if (AreAlike(row, added)) {
+                row.amount += added.amount;
+                return;
+            }
+        rows.push_back(added);
+    }
+
+    static void ExpectAlike(const std::vector<Row>& wanted, const std::vector<Row>& found)
+    {
+        EXPECT_EQ(found.size(), wanted.size());
+        for (const Row& row : wanted) {
+            const auto same =
+                std::ranges::find_if(found, [&](const Row& other) { return AreAlike(row, other); });
+            ASSERT_NE(same, found.end()) << row.member << " on " << DateText(row.day).toStdString()
+                                         << " number " << row.number << ' ' << row.type.toStdString();
+            EXPECT_NEAR(same->amount, row.amount, Near) << row.type.toStdString();
+        }
+    }
+
+    // What was given before or in a period, less what came back then, recoveries as they stood at that time.
+    double Owed(const Payment& payment) const
+    {
+        const SqlText before =
+            Sql(u" where MemberNo=", payment.member, u" and TranDate<", SqlDay(payment.from));
+        double owed = Sum(u"TransactionsDetails", before)
+            - Sum(u"AdvanceReceipt", Sql(before, u" and AdvanceType='Uchal Receipt'"));
+        for (const Row& row : m_recoveries)
+            if (row.member == payment.member && row.day < payment.from)
+                owed -= row.amount;
+        return owed;
+    }
+
+    double HeadsOf(const Payment& payment) const
+    {
+        const SqlText within = Sql(u" where MemberNo=", payment.member, u" and TranDate>=",
+            SqlDay(payment.from), u" and TranDate<=", SqlDay(payment.to));
+        double heads = std::max(Owed(payment), 0.0) + Sum(u"TransactionsDetails", within);
+        if (payment.bill >= payment.from && payment.bill <= payment.to)
+            heads -= Sum(u"AdvanceReceipt", Sql(within, u" and AdvanceType='Uchal Receipt'"));
+        return std::max(heads, 0.0) + payment.fixed;
+    }
+
+    void Pay(const Payment& payment)
+    {
+        EXPECT_NEAR(payment.previous, Owed(payment), Near);
+        const auto detail = [&](const QString& type, double amount) {
+            if (amount > 0)
+                Add(m_details, {payment.member, payment.bill, 0, type, amount});
+        };
+        const double heads = HeadsOf(payment);
+        detail({}, heads);
+        detail(QStringLiteral("gaaya zova"), payment.cow);
+        detail(QStringLiteral("mhOsa zova"), payment.buff);
+        detail(QStringLiteral("zova"), PaiseToDeposit(payment, heads));
+        if (payment.uchal != 0)
+            Add(m_recoveries,
+                {payment.member, payment.bill, payment.number + 1, QStringLiteral("Uchal Kapat"),
+                    payment.uchal - payment.fixed});
+    }
+
+    // What of the milk is neither deducted nor paid out: the paise. A deduction that the clerk has left as it
+    // was proposed leaves out the paise of the heads, too.
+    double PaiseToDeposit(const Payment& payment, double heads) const
+    {
+        double had = 0;
+        for (const Row& row : m_details)
+            if (row.member == payment.member && row.day == payment.bill && row.type == u"zova")
+                had = row.amount;
+        const double paise = Sum(u"MilkPaymentsDetails",
+                                 Sql(u" where MemberNo=", payment.member, u" and TranDate=",
+                                     SqlDay(payment.bill), u" and AdvanceType='zova'"))
+            - had;
+        EXPECT_GE(paise, -Near);
+        EXPECT_LT(paise, 1);
+        const double rest = payment.amount - payment.kapat - payment.net - paise;
+        EXPECT_TRUE(std::abs(rest) < Near || std::abs(rest - (heads - std::floor(heads))) < Near) << rest;
+        return paise;
+    }
+
+    // All recoveries of the bill's date go, and the details by the days of the period.
+    void TakeBack(const Payment& payment)
+    {
+        std::erase_if(m_recoveries,
+            [&](const Row& row) { return row.member == payment.member && row.day == payment.bill; });
+        std::erase_if(m_details, [&](const Row& row) {
+            return row.member == payment.member && row.day >= payment.from && row.day <= payment.to;
+        });
+    }
+
+    Payments m_payments;
+    std::vector<Row> m_recoveries;
+    std::vector<Row> m_details;
+};
 
 class PaymentWalksTest : public PaymentsTest, public ::testing::WithParamInterface<unsigned> {
 protected:
@@ -87,6 +281,7 @@ TEST_P(PaymentWalksTest, FiveThousandKeysNeverBreakItAndTheBalancesHold)
     int saved = 0;
     int reversed = 0;
     double largest = 0;
+    PaymentTrail trail;
     while (typed < Keys) {
         Play([&](Clerk& clerk) {
             clerk.Type(QLatin1String(Throw(4) > 0 ? "{DOWN}{ENTER}{ENTER}" : "{DOWN}{DOWN}{ENTER}"));
@@ -98,6 +293,8 @@ TEST_P(PaymentWalksTest, FiveThousandKeysNeverBreakItAndTheBalancesHold)
                 const int now = One("select count(*) from MilkPayments").toInt();
                 saved += now > payments ? 1 : 0;
                 reversed += now < payments ? 1 : 0;
+                if (now != payments)
+                    trail.Follow();
                 payments = now;
                 for (const char* column :
                     {"Amount", "TotalUchal", "ThevKapatCow", "ThevKapatBuff", "NetAmount"})
@@ -108,6 +305,8 @@ TEST_P(PaymentWalksTest, FiveThousandKeysNeverBreakItAndTheBalancesHold)
         });
         ASSERT_FALSE(Failure) << "after " << typed << " keys";
         ExpectBalances(largest);
+        trail.ExpectBooks();
+        ASSERT_FALSE(HasFailure()) << "after " << typed << " keys";
     }
     EXPECT_GT(saved, 5);
     EXPECT_GT(reversed, 3);
