@@ -6,6 +6,7 @@
 #include "platform/database/Transaction.h"
 #include "platform/forms/Painting.h"
 #include "platform/forms/Screen.h"
+#include "platform/text/Shivaji01.h"
 #include "society/Wanted.h"
 
 #include <QKeyEvent>
@@ -254,7 +255,8 @@ void BulkPayment::PayMember(MemberPayment& payment, int number)
     payment.txtMemberNo.Show(number);
     if (!payment.FindMember())
         return;
-    lblMember.SetText(QString::number(number) + u"  " + payment.ComboMemberName.Text());
+    lblMember.SetFigure(
+        QString::number(number) + u' ' + Shivaji01::ToUnicode(payment.ComboMemberName.Text()));
     payment.Days.NextBillNo();
     if (!payment.InsistOnUnpaid())
         return;
