@@ -11,9 +11,12 @@
 namespace {
 
 // The engine doesn't fold the log by itself (wal_autocheckpoint=0), as a save would have to wait for that.
+// The pages that it keeps in memory, in KiB, hold a month of deliveries with their indexes: a page that was
+// pushed out has to be read and deciphered again.
 void MakeReady(KeyedFile& opened)
 {
     sqlite3_busy_timeout(opened.Handle(), DatabaseFile::BusyMilliseconds);
+    opened.RunOrThrow("pragma cache_size=-32768");
     opened.RunOrThrow("pragma temp_store=memory");
     opened.RunOrThrow("pragma foreign_keys=off");
     opened.RunOrThrow("pragma journal_mode=wal");
