@@ -12,6 +12,10 @@ create index MilkCollectionsByMember
 -- run would read all that the member has ever brought.
 create index MilkCollectionsByMemberDay on MilkCollections (MemberNo, CollectionDate);
 
+-- Deliveries are priced anew by fat and animal, once for each fat of a chart. The animal doesn't lead, or sums
+-- of one animal over some days would go through all its deliveries.
+create index MilkCollectionsByFat on MilkCollections (Fat, Animal, CollectionDate);
+
 -- The counter's list shows the newest rows of the copy after every save, and reads no others.
 create index MilkCollectionsTempByNumber on MilkCollectionsTemp (CollectionNo);
 
@@ -30,14 +34,16 @@ create index MilkSalesByShift on MilkSales (SalesDate, SalesTime, SalesNo);
 -- The counter and the payment find a member by number, and write the closing columns by it.
 create index MembersMasterByNumber on MembersMaster (MemberNo);
 
--- Whether a member's period is paid, which payment is the latest, what has been paid to a member.
-create index MilkPaymentsByMember on MilkPayments (MemberNo, CompanyId, FromDate);
+-- Whether a member's period is paid, which payment is the latest, what has been paid to a member; with all the
+-- days of a payment, so that of his years only the rows that are meant are read.
+create index MilkPaymentsByMember on MilkPayments (MemberNo, CompanyId, FromDate, ToDate, PaymentDate);
 
 -- The bill number of a day and the day's list; the run over many members empties company 0 after each one.
 create index MilkPaymentsByDay on MilkPayments (CompanyId, PaymentDate, MemberNo);
 
--- The deductions of a member's payment, and the deposits up to a day.
-create index MilkPaymentsDetailsByMember on MilkPaymentsDetails (MemberNo, TranDate);
+-- The deductions of a member's payment, and the deposits up to a day; summed up from it alone.
+create index MilkPaymentsDetailsByMember
+    on MilkPaymentsDetails (MemberNo, TranDate, CompanyId, AdvanceType, Amount);
 
 -- Voucher numbers of a day, a voucher by its number, the newest date, the cash book in its order.
 create index TransactionsMasterByDay on TransactionsMaster (TranDate, TranId);
@@ -45,11 +51,13 @@ create index TransactionsMasterByDay on TransactionsMaster (TranDate, TranId);
 -- The advances given to a member are found by name, once for every member of a bonus run.
 create index TransactionsMasterByDebit on TransactionsMaster (DAccountName, TranDate);
 
--- The advances of a member before and within a period, once for every member of a payment run.
-create index TransactionsDetailsByMember on TransactionsDetails (MemberNo, TranDate);
+-- The advances of a member before and within a period, once for every member of a payment run. Those of all his
+-- years before are summed up from it alone.
+create index TransactionsDetailsByMember
+    on TransactionsDetails (MemberNo, TranDate, CompanyId, AdvanceType, Amount);
 
 -- The repayments of a member before and within a period, likewise.
-create index AdvanceReceiptByMember on AdvanceReceipt (MemberNo, TranDate);
+create index AdvanceReceiptByMember on AdvanceReceipt (MemberNo, TranDate, CompanyId, Amount);
 
 -- The gate's list in the order of a column shows its first rows after every save, and reads no others.
 create index MilkCollectionsTempByLiters on MilkCollectionsTemp (Liters);

@@ -319,6 +319,34 @@ TEST(IndexesTest, AMembersPeriodIsReadOffItsDaysAlone)
     }
 }
 
+TEST(IndexesTest, DeliveriesArePricedAnewByTheirFatAlone)
+{
+    const QString plan = PlanOf("update MilkCollections set Rate=30 where CompanyId=1 and "
+                                "CollectionDate>='2026-05-01' and Animal='gaaya' and Fat=4.5");
+    EXPECT_TRUE(plan.contains(u"MilkCollectionsByFat (Fat=? AND Animal=? AND CollectionDate>?)"))
+        << plan.toStdString();
+    const QString ofDays = PlanOf("select sum(Liters) from MilkCollections where CompanyId=1 and "
+                                  "CollectionDate>='2026-05-01' and CollectionDate<='2026-05-10' and "
+                                  "Animal='gaaya'");
+    EXPECT_TRUE(ofDays.contains(u"MilkCollectionsByShift")) << ofDays.toStdString();
+}
+
+TEST(IndexesTest, WhatAMemberOwesFromAllHisYearsIsSummedFromIndexesAlone)
+{
+    const QString before = QStringLiteral(" where CompanyId=1 and MemberNo=7 and TranDate<'2026-05-01'");
+    for (const QString& sum :
+        QStringList{QStringLiteral("select sum(Amount) from TransactionsDetails") + before,
+            QStringLiteral("select sum(Amount) from AdvanceReceipt") + before,
+            QStringLiteral("select sum(Amount) from TransactionsDetails") + before
+                + QStringLiteral(" and trim(AdvanceType)<>'gaaya zova'"),
+            QStringLiteral("select sum(Amount) from MilkPaymentsDetails") + before
+                + QStringLiteral(" and trim(AdvanceType)<>'gaaya zova'")}) {
+        const QString plan = PlanOf(sum);
+        EXPECT_TRUE(plan.contains(u"COVERING INDEX")) << plan.toStdString();
+        EXPECT_TRUE(plan.contains(u"(MemberNo=? AND TranDate<?)")) << plan.toStdString();
+    }
+}
+
 TEST(IndexesTest, TheStatementsOfEveryDayScanNoLongTable)
 {
     const std::array statements{
