@@ -64,6 +64,12 @@ void Connection::SetWritten(std::function<void()> written)
         m_d->SetWritten(std::move(written));
 }
 
+void Connection::SetWorking(std::function<void()> working)
+{
+    if (m_d)
+        m_d->SetWorking(std::move(working));
+}
+
 void Connection::Close()
 {
     m_d.reset();

@@ -39,6 +39,10 @@ public:
     // Sets a function that is called after each committed transaction.
     void SetWritten(std::function<void()> written);
 
+    // Sets a function that is called every few milliseconds while Execute works on a statement. It must not
+    // use the connection, nor throw.
+    void SetWorking(std::function<void()> working);
+
     // Runs a statement that returns no rows. Returns how many rows it has changed.
     int Execute(const QString& statement);
     int Execute(QStringView statement) { return Execute(statement.toString()); }

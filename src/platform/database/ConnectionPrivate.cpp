@@ -119,6 +119,7 @@ int Connection::Private::Run(Loan& loan, const QString& statement)
         KeepRests(isSchema ? nullptr : &loan->Made());
     }
     m_guard.Begin();
+    const StatementGuard::Telling telling(m_guard, m_working);
     int code = SQLITE_ROW;
     while (code == SQLITE_ROW)
         code = sqlite3_step(loan.Handle());

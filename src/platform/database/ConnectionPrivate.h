@@ -96,6 +96,8 @@ public:
     qint64 LogSize() const { return m_onDisk->LogSize(); }
     void SetWritten(std::function<void()> written) { m_written = std::move(written); }
 
+    void SetWorking(std::function<void()> working) { m_working = std::move(working); }
+
     void Add(Recordset::Private* recordset) { m_recordsets.push_back(recordset); }
     void Remove(Recordset::Private* recordset);
 
@@ -122,6 +124,7 @@ private:
     ScannedStatement m_scanned;
     std::vector<Recordset::Private*> m_recordsets;
     std::function<void()> m_written;
+    std::function<void()> m_working;
     int m_depth = 0;
     bool m_isDoomed = false;
     std::optional<LogMark>

@@ -8,9 +8,9 @@
 
 namespace {
 
-// The engine asks whether to go on after so many of its virtual machine instructions, which take some
+// The engine asks whether to go on after so many of its virtual machine instructions, which take at most some
 // milliseconds.
-constexpr int StepsBetweenQuestions = 500'000;
+constexpr int StepsBetweenQuestions = 5000;
 
 // Functions that could do more than read and write rows: run statements, or load code.
 constexpr std::array DeniedFunctions{"sqlcipher_export", "load_extension", "fts3_tokenizer"};
@@ -73,7 +73,10 @@ int StatementGuard::Authorize(
 
 int StatementGuard::Progress(void* guard)
 {
-    return static_cast<StatementGuard*>(guard)->IsOverdue() ? 1 : 0;
+    auto& self = *static_cast<StatementGuard*>(guard);
+    if (self.m_working)
+        (*self.m_working)();
+    return self.IsOverdue() ? 1 : 0;
 }
 
 // The clock is read here, not at the beginning of each run, since nearly all runs end before the first

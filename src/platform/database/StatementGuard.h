@@ -3,6 +3,7 @@
 #include <QtGlobal>
 
 #include <chrono>
+#include <functional>
 
 struct sqlite3;
 
@@ -24,6 +25,21 @@ public:
     // Sets how long the engine may work without returning. The time between two rows of a list, while the
     // clerk looks at it, doesn't count.
     void SetBound(Clock::duration bound) { m_bound = bound; }
+
+    // Calls a function every few milliseconds while the engine works, during the lifetime of this object.
+    class Telling {
+    public:
+        Telling(StatementGuard& guard, const std::function<void()>& working) : m_guard(guard)
+        {
+            guard.m_working = working ? &working : nullptr;
+        }
+        ~Telling() { m_guard.m_working = nullptr; }
+        Telling(const Telling&) = delete;
+        Telling& operator=(const Telling&) = delete;
+
+    private:
+        StatementGuard& m_guard;
+    };
 
     // Suspends the guard during its lifetime, for the statements of the database room itself (checks, folding
     // the log) and for the scripts of the installer.
@@ -49,4 +65,5 @@ private:
     quint64 m_run = 0; // counts the times that the engine was set to work
     quint64 m_timedRun = 0;
     Clock::time_point m_since; // when the run that is timed was first asked after
+    const std::function<void()>* m_working = nullptr;
 };
