@@ -23,7 +23,6 @@ constexpr QStringView Finished = u"pomaonT kaZNyaacaI p`aosaosa saMplaI.";
 
 constexpr int LastNumber = 32767; // the members are counted in 16 bits
 constexpr int LongestNumber = 9;
-constexpr int PaintEach = 50; // milliseconds
 
 std::vector<DataGrid::Column> PaymentColumns()
 {
@@ -231,11 +230,11 @@ void BulkPayment::Run(MemberPayment& payment)
     const int first = static_cast<int>(std::min<double>(txtFromAc.Value(), LastNumber + 1));
     const int last = static_cast<int>(std::min<double>(txtToAc.Value(), LastNumber));
     ProgressBar1.Begin(last - first + 1);
-    m_sincePainted.start();
     for (int number = first; number <= last; ++number) {
         PayMember(payment, number);
+        if (Painting::IsDue())
+            ShowSoFar();
         ProgressBar1.Step();
-        PaintInTime();
     }
 
     payment.Clear();
@@ -281,16 +280,7 @@ void BulkPayment::BindPayments()
     DataGridPayment.Bind(gCn, Sql(u"Select *", InRange(), u" order by MemberNo DESC"));
 }
 
-// The lists and the totals move as members are paid. They are read anew only as often as the eye can follow.
-void BulkPayment::PaintInTime()
-{
-    if (m_sincePainted.elapsed() < PaintEach)
-        return;
-    ShowSoFar();
-    Painting::LetIn();
-    m_sincePainted.restart();
-}
-
+// The lists and the totals move as members are paid. They are read anew only as often as they are painted.
 void BulkPayment::ShowSoFar()
 {
     DataGridPayment.Refresh();

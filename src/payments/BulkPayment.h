@@ -9,8 +9,6 @@
 #include "platform/forms/Panel.h"
 #include "society/Fields.h"
 
-#include <QElapsedTimer>
-
 // Frame1: whether one member is paid or many, and the run over a range of members. It lies over the payment
 // of one member until that is chosen.
 class BulkPayment {
@@ -63,7 +61,6 @@ private:
     void PayMember(MemberPayment& payment, int number);
     void BindPayments();
     void ShowSoFar();
-    void PaintInTime();
     void UpdateTotals();
     SqlText InRange() const;
 
@@ -79,5 +76,4 @@ private:
     Label lblAdvance{m_screen, "lblAdvance"};
     Label lblNetAmount{m_screen, "lblNetAmount"};
     Panel m_panel;
-    QElapsedTimer m_sincePainted;
 };

@@ -374,9 +374,9 @@ void frmNewFatRates::ReRate(const QDate& from)
     lblMessage.SetVisible(true);
     ReRated.Begin(2 * ReRating::Fats());
     ReRating::Run(from, [this](double fat) {
-        lblMessage.SetFigure(QStringLiteral("फॅट %1").arg(Format(fat, u"####0.0")));
+        if (Painting::IsDue())
+            lblMessage.SetFigure(QStringLiteral("फॅट %1").arg(Format(fat, u"####0.0")));
         ReRated.Step();
-        Painting::LetIn(); // in a long chart the percent doesn't change at every animal of a fat
     });
     ReRated.End();
     lblMessage.SetVisible(false);

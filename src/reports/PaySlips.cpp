@@ -58,6 +58,7 @@ bool PaySlips::Any() const
 void PaySlips::Stage(StagingProgress& progress) const
 {
     const bool repeats = ReportRun::RepeatsCollections();
+    progress.Announce();
     Transaction staging(gCn);
     ReportRun::Empty({u"MilkPaymentsTemp", u"MilkCollectionsTemp", u"MilkCollectionsME", u"KapatSummary",
         u"KapatDetails"});

@@ -63,6 +63,7 @@ bool PaymentRegister::Any() const
 
 void PaymentRegister::Stage(StagingProgress& progress) const
 {
+    progress.Announce();
     Transaction staging(gCn);
     ReportRun::Empty({u"ReportDates", u"MilkPaymentsTemp", u"MilkPaymentsRegister", u"KapatSummary",
         u"MilkCollectionsTemp"});

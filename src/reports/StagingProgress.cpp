@@ -1,5 +1,6 @@
 #include "reports/StagingProgress.h"
 
+#include "platform/forms/Painting.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/Shivaji01.h"
 
@@ -28,21 +29,30 @@ QLayout* StagingProgress::Line()
     return lines;
 }
 
-void StagingProgress::Begin(int rows)
+void StagingProgress::Announce()
 {
     lblMessage.SetFigure(QStringLiteral("Generating the Report"));
     lblMessage.SetVisible(true);
+    Painting::LetIn();
+}
+
+void StagingProgress::Begin(int rows)
+{
+    Announce();
     lblMember.SetVisible(true);
     m_bar.Begin(rows);
 }
 
 void StagingProgress::Tell(double memberNo, const QString& name)
 {
-    lblMember.SetFigure(ShortestDecimal(memberNo) + u' ' + Shivaji01::ToUnicode(name));
+    m_memberNo = memberNo;
+    m_name = name;
 }
 
 void StagingProgress::Step()
 {
+    if (Painting::IsDue())
+        lblMember.SetFigure(ShortestDecimal(m_memberNo) + u' ' + Shivaji01::ToUnicode(m_name));
     m_bar.Step();
 }
 

@@ -12,6 +12,9 @@ public:
     // What is shown, to be laid out below what the screen asks for.
     QLayout* Line();
 
+    // Says that the report is in hand, while its rows are still gathered.
+    void Announce();
+
     void Begin(int rows);
 
     // The member whose row is staged now.
@@ -26,4 +29,6 @@ private:
     Progress m_bar;
     Label lblMessage;
     Label lblMember;
+    double m_memberNo = 0;
+    QString m_name;
 };

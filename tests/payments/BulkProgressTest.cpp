@@ -1,6 +1,7 @@
 // What the clerk sees of a run over many members while it goes on.
 
 #include "tests/payments/BulkPaymentTest.h"
+#include "tests/support/EachPainting.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -87,6 +88,7 @@ protected:
     }
 
 private:
+    const EachPainting m_each;
     std::vector<std::unique_ptr<PaintedTexts>> m_watches;
 };
 

@@ -3,6 +3,7 @@
 #include "tests/rates/NewFatRatesTest.h"
 
 #include "platform/database/Sql.h"
+#include "tests/support/EachPainting.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -181,6 +182,7 @@ public:
     }
 
 private:
+    const EachPainting m_each;
     QLabel* m_percent;
     QLabel* m_fat;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/reports/ReportsTest.h"
+#include "tests/support/EachPainting.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -68,6 +69,7 @@ public:
     bool IsShown() const { return m_percent->isVisible() || m_message->isVisible() || m_member->isVisible(); }
 
 private:
+    const EachPainting m_each;
     QLabel* m_percent;
     QLabel* m_message;
     QLabel* m_member;

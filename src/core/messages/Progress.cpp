@@ -53,16 +53,20 @@ void Progress::Begin(int rows)
     for (Label* part : {&lblBack, &lblProgress, &lblPercent})
         part->SetVisible(true);
     Show();
+    Painting::LetIn();
 }
 
-// Painted only when the percent changes: a run of ten thousand rows must not wait for ten thousand paintings.
+// Painted no more often than the eye can follow: a run of ten thousand rows must not wait for as many
+// paintings.
 void Progress::Step()
 {
     ++m_done;
     const auto percent = static_cast<int>(std::int64_t{m_done} * 100 / std::max(m_rows, 1));
-    if (m_rows <= 0 || std::exchange(m_percent, percent) == percent)
+    if (m_rows <= 0)
         return;
-    Show();
+    if (std::exchange(m_percent, percent) != percent)
+        Show();
+    Painting::KeepUp();
 }
 
 void Progress::Show()
@@ -72,7 +76,6 @@ void Progress::Show()
     lblProgress.Widget()->setGeometry(inside.x(), inside.y(), std::max(filled, 1), inside.height());
     lblPercent.Widget()->setGeometry(inside);
     lblPercent.SetFigure(QStringLiteral("%1 %").arg(m_percent));
-    Painting::LetIn();
 }
 
 void Progress::End()

@@ -3,7 +3,7 @@
 #include "platform/forms/Control.h"
 
 // Shows how far a run over many rows is: a bar that fills, with the percent on it, hidden at rest. The screen
-// lays it out and calls Step in its handler, which paints the window and lets no key or click in.
+// lays it out and calls Step in its handler, which paints the window in time and lets no key or click in.
 class Progress {
 public:
     explicit Progress(Screen* screen);

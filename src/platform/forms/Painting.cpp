@@ -14,6 +14,9 @@ namespace {
 
 int g_underWay = 0; // open gates, and kept keys that are still to be typed
 
+using Clock = std::chrono::steady_clock;
+Clock::time_point g_painted; // when the windows were painted last
+
 // Types a key event into the screen on top, after everything that waits in the queue of the application.
 void TypeLater(const std::shared_ptr<QEvent>& event)
 {
@@ -80,6 +83,34 @@ void Painting::LetIn()
 {
     const Gate gate;
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    g_painted = Clock::now();
+}
+
+std::chrono::milliseconds& Painting::Interval()
+{
+    static std::chrono::milliseconds interval{50};
+    return interval;
+}
+
+bool Painting::IsDue()
+{
+    return Clock::now() - g_painted >= Interval();
+}
+
+void Painting::KeepUp()
+{
+    if (IsDue())
+        LetIn();
+}
+
+void Painting::RepaintInTime()
+{
+    if (!IsDue())
+        return;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible())
+            window->repaint();
+    g_painted = Clock::now();
 }
 
 bool Painting::IsUnderWay()

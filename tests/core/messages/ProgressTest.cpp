@@ -3,12 +3,15 @@
 #include "platform/forms/Button.h"
 #include "platform/forms/Field.h"
 #include "platform/forms/Screen.h"
+#include "tests/support/EachPainting.h"
 #include "tests/support/SocietyTest.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
+
+#include <optional>
 
 namespace {
 
@@ -78,6 +81,8 @@ private:
 
 class ProgressTest : public SocietyTest {
 protected:
+    std::optional<EachPainting> m_each{std::in_place};
+
     // Opens the screen, lets it walk so many rows, and looks at it afterwards.
     void Walk(int rows, const std::function<void(WalkingScreen&)>& look,
         const std::function<void(WalkingScreen&, int)>& atRow = {})
@@ -119,6 +124,48 @@ TEST_F(ProgressTest, ManyRowsArePaintedOnceAPercent)
         EXPECT_LE(screen.painted, 250);
         EXPECT_GE(screen.painted, 100);
     });
+}
+
+TEST_F(ProgressTest, AQuickRunDoesNotWaitForPaintings)
+{
+    m_each.reset();
+    Painting::Interval() = std::chrono::hours(1);
+    Walk(20000, [](WalkingScreen& screen) {
+        EXPECT_EQ(screen.seen.last(), "100 % 100") << "set, though not painted";
+        EXPECT_EQ(screen.painted, 1) << "as it begins";
+    });
+    Painting::Interval() = std::chrono::milliseconds(50);
+}
+
+// What is painted while one statement of the books is at work, and what is let in.
+TEST_F(ProgressTest, AStatementThatWorksForLongLetsTheWindowBePaintedAndNoKeyIn)
+{
+    Run("insert into MilkCollections(CompanyId,CollectionDate,MemberNo) values(1,'01/04/2026',1)");
+    for (int doublings = 0; doublings < 14; ++doublings)
+        Run("insert into MilkCollections select * from MilkCollections");
+    int painted = 0;
+    QString during = "none";
+    Walk(
+        1,
+        [&](WalkingScreen& screen) {
+            EXPECT_GT(painted, 3);
+            EXPECT_EQ(during, QString());
+            EXPECT_EQ(screen.txtNote.Text(), "1") << "typed afterwards";
+        },
+        [&](WalkingScreen& screen, int) {
+            QMetaObject::invokeMethod(
+                qApp,
+                [&screen] {
+                    QKeyEvent press(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier, "1");
+                    QCoreApplication::sendEvent(screen.KeyTarget(), &press);
+                },
+                Qt::QueuedConnection);
+            screen.painted = 0;
+            gCn.Execute(u"update MilkCollections set Liters=2");
+            painted = screen.painted;
+            during = screen.txtNote.Text();
+            screen.txtNote.SetFocus();
+        });
 }
 
 TEST_F(ProgressTest, ForNoRowsThereIsNothingToShow)

@@ -1,11 +1,15 @@
 #include "platform/forms/Painting.h"
 #include "tests/platform/forms/FormsTest.h"
+#include "tests/support/EachPainting.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QTimer>
+
+#include <utility>
 
 namespace {
 
@@ -101,6 +105,57 @@ TEST_F(PaintingTest, TheKeyThatStartedTheHandlerDoesNotStartItAgainInside)
         Type("%s");
         EXPECT_EQ(deepest, 1);
         EXPECT_EQ(runs, 2) << "the Enter was kept";
+    });
+}
+
+TEST_F(PaintingTest, ALoopThatComesByOftenPaintsOnlyWhenTheTimeIsUp)
+{
+    AtDesk([&](Desk& desk) {
+        int early = -1;
+        int due = -1;
+        desk.Also("!cmdGo", [&] {
+            PaintCounter counter;
+            desk.lblTitle.Widget()->installEventFilter(&counter);
+            const auto interval = std::exchange(Painting::Interval(), std::chrono::hours(1));
+            Painting::LetIn();
+            counter.painted = 0;
+            desk.lblTitle.SetFigure("1 %");
+            Painting::KeepUp();
+            Painting::RepaintInTime();
+            EXPECT_FALSE(Painting::IsDue());
+            early = counter.painted;
+            Painting::Interval() = std::chrono::milliseconds(0);
+            EXPECT_TRUE(Painting::IsDue());
+            Painting::KeepUp();
+            due = counter.painted;
+            Painting::Interval() = interval;
+        });
+        Type("%s");
+        EXPECT_EQ(early, 0);
+        EXPECT_GT(due, 0);
+    });
+}
+
+TEST_F(PaintingTest, ARepaintingLetsNothingElseHappen)
+{
+    AtDesk([&](Desk& desk) {
+        int painted = 0;
+        int happened = 0;
+        desk.Also("!cmdGo", [&] {
+            const EachPainting each;
+            PaintCounter counter;
+            desk.lblTitle.Widget()->installEventFilter(&counter);
+            StrikeLater(desk, Qt::Key_1, "1");
+            QTimer::singleShot(0, qApp, [&] { ++happened; });
+            Painting::RepaintInTime();
+            painted = counter.painted;
+            EXPECT_EQ(happened, 0);
+            EXPECT_EQ(desk.txtA.Text(), "");
+            EXPECT_FALSE(Painting::IsUnderWay());
+        });
+        Type("%s");
+        EXPECT_GT(painted, 0) << "though nothing has changed";
+        EXPECT_EQ(happened, 1);
     });
 }
 
