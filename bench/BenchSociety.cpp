@@ -1,5 +1,6 @@
 #include "bench/BenchSociety.h"
 
+#include "bench/PaidPeriods.h"
 #include "core/start/MdlAccounts.h"
 #include "core/start/Program.h"
 #include "core/state/AppState.h"
@@ -12,6 +13,8 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <cstdio>
+
 namespace {
 
 void AddCharts()
@@ -19,12 +22,12 @@ void AddCharts()
     const QString table = Recordset(gCn, QStringLiteral("select * from FatDates"))[u"FatFileName"].Text();
     for (int month = 1; month < 12; ++month)
         gCn.Execute(Sql(u"insert into FatDates(FromDate,FatFileName) values('",
-            DateText(QDate(2026, 4, 1).addMonths(month)), u"','", table, u"')"));
+            DateText(YearBegins.addMonths(month)), u"','", table, u"')"));
 }
 
 }
 
-BenchSociety::BenchSociety()
+BenchSociety::BenchSociety(int years)
     : m_drives(QCoreApplication::applicationDirPath() + QStringLiteral("/society-XXXXXX"))
 {
     SetDrivesRoot(Drives());
@@ -32,13 +35,27 @@ BenchSociety::BenchSociety()
     QDir().mkpath(folder);
     SocietyPlan plan;
     plan.name = QStringLiteral("श्री गणेश दूध संस्था");
-    plan.year = QStringLiteral("2026-2027");
+    const QDate from(YearBegins.addYears(1 - years));
+    plan.year = QStringLiteral("%1-%2").arg(from.year()).arg(from.year() + 1);
     plan.password = QStringLiteral("Doodh#26");
-    MakeLargeSociety(folder, plan, SocietyMembers);
+    MakeLargeSociety(folder, plan, SocietyMembers, static_cast<int>(from.daysTo(YearBegins.addYears(1))));
     const OpenBooks books(Drives());
     gCn.Execute(
         QStringLiteral("update AutoSettings set RepeatCollection='naahI',PurchaseEntry='Collection'"));
+    gCn.Execute(Sql(u"update CompanySelected set FromDate='", DateText(YearBegins), u"',ToDate='",
+        DateText(YearBegins.addYears(1).addDays(-1)), u"'"));
     AddCharts();
+    FillPayments(from);
+}
+
+const BenchSociety& TenYears()
+{
+    static const BenchSociety society = [] {
+        std::printf("Making the society of ten years: 3,652,000 deliveries.\n");
+        std::fflush(stdout);
+        return BenchSociety(10);
+    }();
+    return society;
 }
 
 OpenBooks::OpenBooks(const QString& drives)

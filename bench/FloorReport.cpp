@@ -70,6 +70,13 @@ int FloorReport::ReadAndLayOut()
             numbers += m_rows.NumberAt(column);
     }
     m_rows.Reset();
+    LayOut();
+    Require(texts > 0 && numbers > 0, "The floor reads rows.");
+    return rows;
+}
+
+void FloorReport::LayOut()
+{
     double width = 0;
     for (const Sheet& sheet : m_sheets) {
         for (const Text& text : sheet.texts) {
@@ -77,8 +84,7 @@ int FloorReport::ReadAndLayOut()
             width += WidthOf(text.layout);
         }
     }
-    Require(texts > 0 && numbers > 0 && width > 0, "The floor reads rows and lays out texts.");
-    return rows;
+    Require(width > 0, "The floor lays out texts.");
 }
 
 void FloorReport::SavePdf(const QString& file)

@@ -15,6 +15,9 @@ public:
     // Reads the rows of the list and lays out each of its texts once. Returns the number of rows.
     int ReadAndLayOut();
 
+    // Lays out each text once.
+    void LayOut();
+
     // Writes the same pages as a PDF, with the same care for durability.
     void SavePdf(const QString& file);
 

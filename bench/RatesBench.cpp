@@ -4,20 +4,12 @@
 #include "bench/Cases.h"
 #include "bench/CounterPlay.h"
 #include "bench/FloorStatement.h"
-#include "bench/Outcomes.h"
-#include "core/menu/ScreenDirectory.h"
+#include "bench/Work.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
-#include "platform/text/RunTimeError.h"
-#include "rates/WorkingChart.h"
-#include "tools/clerk/Clerk.h"
 
-#include <QCoreApplication>
-#include <QEvent>
-
-#include <algorithm>
 #include <vector>
 
 namespace {
@@ -56,32 +48,6 @@ void FillNewestChart()
     filling.Commit();
 }
 
-// The longest time in which nothing was painted while the program was at work.
-class PaintGaps final : public QObject {
-public:
-    PaintGaps() { qApp->installEventFilter(this); }
-    double Longest() const { return m_longest; }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint) {
-            m_longest = std::max(m_longest, SecondsSince(m_last));
-            m_last = Clock::now();
-        }
-        return false;
-    }
-
-private:
-    using Clock = std::chrono::steady_clock;
-    static double SecondsSince(Clock::time_point from)
-    {
-        return std::chrono::duration<double>(Clock::now() - from).count();
-    }
-
-    Clock::time_point m_last = Clock::now();
-    double m_longest = 0;
-};
-
 // The same writes in prepared statements and one durable transaction.
 double FloorSeconds()
 {
@@ -114,71 +80,47 @@ double SumOfAmounts()
         .Number();
 }
 
-struct Measured {
-    Pair Seconds;
-    Pair Gaps; // their floor is a tenth of a second
-};
-
-void MeasureReRating(benchmark::State& state, Clerk& clerk, Measured& measured)
-{
-    constexpr double tenth = 0.1;
-    for ([[maybe_unused]] auto _ : state) {
-        double longestGap = 0;
-        const auto byScreen = [&] {
-            clerk.Type(QStringLiteral("%d{ENTER}%s")); // the newest chart, saved over itself
-            std::optional<PaintGaps> gaps; // lives on the program's thread
-            clerk.Do([&] { gaps.emplace(); });
-            const double seconds = SecondsOf([&] { clerk.Type(QStringLiteral("%h")); });
-            clerk.Do([&] {
-                longestGap = gaps->Longest();
-                gaps.reset();
-            });
-            return seconds;
-        };
-        const auto byFloor = [&] {
-            double seconds = 0;
-            clerk.Do([&] { seconds = FloorSeconds(); });
-            return seconds;
-        };
-        measured.Seconds.Turn(byScreen, byFloor);
-        measured.Gaps.Measured.Add(longestGap);
-        measured.Gaps.Floor.Add(tenth);
-        state.SetIterationTime(measured.Seconds.Measured.Last());
-    }
-}
-
-void ReRate(benchmark::State& state, const QString& drives)
-{
-    constexpr const char* what = "a month of 31,000 deliveries priced anew";
-    Measured measured;
-    try {
-        const OpenBooks books(drives);
+class ReRated final : public Work {
+public:
+    ReRated()
+    {
         FillNewestChart();
-        const double before = SumOfAmounts();
-        Clerk clerk;
-        const auto failure = clerk.Play([] { ScreenDirectory::Open(QStringLiteral("frmNewFatRates"), {}); },
-            [&](Clerk& self) {
-                MeasureReRating(state, self, measured);
-                self.Type(QStringLiteral("{ESC}"));
-            });
-        if (failure)
-            throw RunTimeError(*failure);
-        Require(SumOfAmounts() != before, "The deliveries have other amounts.");
-        Outcomes::Add(state, what, measured.Seconds, Milliseconds, {.ratio = 1.4});
-        Outcomes::Add(
-            state, "its longest wait between paintings", measured.Gaps, Milliseconds, {.below = 100.0});
-    } catch (const RunTimeError& error) {
-        Outcomes::Fail(state, what, error.Text().toStdString());
+        m_before = SumOfAmounts();
     }
-}
+
+    double ByScreen() override
+    {
+        double seconds = 0;
+        Play("frmNewFatRates", [&](Clerk& clerk) {
+            clerk.Type(QStringLiteral("%d{ENTER}%s")); // the newest chart, saved over itself
+            seconds = Timed(clerk, QStringLiteral("%h"));
+        });
+        Require(SumOfAmounts() != m_before, "The deliveries have other amounts.");
+        gCn.Fold();
+        return seconds;
+    }
+
+    double ByFloor() override
+    {
+        const double seconds = FloorSeconds();
+        gCn.Fold();
+        return seconds;
+    }
+
+private:
+    double m_before = 0;
+};
 
 }
 
 void RegisterRatesCases(const QString& drives)
 {
-    constexpr int runs = 3;
-    benchmark::RegisterBenchmark("rates/re-rating", ReRate, drives)
-        ->UseManualTime()
-        ->Iterations(runs)
-        ->Unit(benchmark::kMillisecond);
+    RegisterWork(drives,
+        {.name = "rates/re-rating",
+            .what = "a month of 31,000 deliveries priced anew",
+            .turns = 5,
+            .target = {.ratio = 1.4},
+            .hasGaps = true,
+            .hasYears = true,
+            .make = [] { return std::make_unique<ReRated>(); }});
 }

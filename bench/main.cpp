@@ -22,6 +22,8 @@ int Measure(int argc, char* argv[])
     RegisterSaveCases(society.Drives());
     RegisterListCases(society.Drives());
     RegisterRatesCases(society.Drives());
+    RegisterPaymentCases(society.Drives());
+    RegisterSlipsCases(society.Drives());
     RegisterReportCases(society.Drives());
     RegisterVoucherCases(society.Drives());
     RegisterProgramCases(society.Drives());
