@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <algorithm>
 #include <utility>
 
 Field::Field(Screen* screen, const char* name, const Handler& lostFocus)
@@ -192,6 +193,8 @@ void NumberField::Insert(const QString& text)
     QString figures = FigureOf(text, false);
     if (const qsizetype point = figures.indexOf(u'.'); m_digits == Digits::Whole && point >= 0)
         figures.truncate(point);
+    if (m_maxLength > 0)
+        figures.truncate(std::max(m_maxLength - Text().size() + Line().selectedText().size(), qsizetype{0}));
     if (!figures.isEmpty()) // inserting an empty text would erase the selection
         Line().insert(figures);
 }

@@ -20,7 +20,8 @@ public:
     // Selects the whole text.
     virtual void SelectAll();
 
-    // The greatest number of characters that can be typed; 0 for no limit.
+    // The greatest number of characters that can be typed; 0 for no limit. A number that the screen shows may
+    // be longer.
     virtual void SetMaxLength(int characters);
 
     void SetAlignRight();
@@ -61,6 +62,7 @@ public:
 
     QString Text() const override;
     void SetText(const QString& text) override;
+    void SetMaxLength(int characters) override { m_maxLength = characters; }
 
     void SetPattern(QStringView pattern) { m_pattern = pattern.toString(); }
 
@@ -89,6 +91,7 @@ private:
 
     Digits m_digits;
     QString m_pattern;
+    int m_maxLength = 0;
     bool m_takesN = false;
 };
 

@@ -123,6 +123,22 @@ TEST_F(NumberFieldTest, NothingLongerThanItsLengthCanBeTypedOrPasted)
     });
 }
 
+TEST_F(NumberFieldTest, WhatIsShownMayBeLongerThanWhatCanBeTyped)
+{
+    With(Decimals, [&](NumberField& field) {
+        Do([&] {
+            field.SetMaxLength(4);
+            field.SetText("22.9333319");
+        });
+        EXPECT_EQ(Text(field), "22.9333319");
+        Type("{END}7");
+        EXPECT_EQ(Text(field), "22.9333319") << "and no longer";
+        EnterAnew();
+        Type("98765");
+        EXPECT_EQ(Text(field), "9876");
+    });
+}
+
 TEST_F(NumberFieldTest, EntrySelectsTheWholeTextAndTheNextFigureReplacesIt)
 {
     With(Decimals, [&](NumberField& field) {
