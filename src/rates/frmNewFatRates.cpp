@@ -162,6 +162,7 @@ void frmNewFatRates::maskOldDate_Change()
     maskOldDate.SetDate(NewestDate);
 }
 
+// Whoever passes the grid by has the chart as well: it isn't taken again over what was made of it.
 void frmNewFatRates::maskDate_LostFocus()
 {
     if (GoingTo() == &cmdCancel || !InsistOnDay())
@@ -169,7 +170,9 @@ void frmNewFatRates::maskDate_LostFocus()
     FindChartOfDay();
     DataGridBuffRates.SetEnabled(true);
     TakeNewestChart();
-    if (!IsSteppingBack() && GoingTo() != &txtBasicBuffRate)
+    if (IsSteppingBack() || GoingTo() == &txtBasicBuffRate)
+        WasInGrid = true;
+    else
         DataGridBuffRates.SetFocus();
 }
 

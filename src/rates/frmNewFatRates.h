@@ -52,7 +52,7 @@ private:
     QDate NewestDate; // of the newest chart
     bool IsExisting = false; // maskDate is the day of a chart, whose table is ExistingTable
     QString ExistingTable;
-    bool WasInGrid = false; // since the screen was opened
+    bool WasInGrid = false; // or passed by it from the day, since the screen was opened
 
     void maskOldDate_Change();
     void maskDate_LostFocus();

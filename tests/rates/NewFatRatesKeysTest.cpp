@@ -4,6 +4,9 @@
 
 #include "core/preview/TemplateReport.h"
 
+#include <QLabel>
+#include <QTableView>
+
 #include <utility>
 
 namespace {
@@ -78,6 +81,61 @@ TEST_F(NewFatRatesKeysTest, TheChartPassesTheClerkOnToTheFat)
         EXPECT_FALSE(IsShown(clerk, "lblExit"));
         EXPECT_FALSE(IsShown(clerk, "lblEsc"));
         EXPECT_EQ(Label(clerk, "lblExit"), Seen("iga`DmaQaUna baahor pDNyaasaazI").toStdString());
+    });
+}
+
+TEST_F(NewFatRatesKeysTest, WhatStandsOnTheScreenIsNamedByItsCaption)
+{
+    PlayOnChart("", [](Clerk& clerk) {
+        Type(clerk, "{F5}");
+        QStringList told;
+        for (const QLabel* label : clerk.Top().findChildren<QLabel*>())
+            if (label->isVisible())
+                told.append(label->text());
+        for (const char* caption : {"puvaI-cyaa drpHakacaa idnaaMk", "navaIna drpHakacaa idnaaMk",
+                 "duQaacaa p`it f^T dr", "mhOsa dr $.", "gaaya dr $."})
+            EXPECT_EQ(told.count(Seen(caption)), 1) << caption;
+        const auto& chart = *static_cast<QTableView*>(clerk.Top().Find(u"DataGridBuffRates")->Widget());
+        for (const auto& [column, heading] :
+            {std::pair(0, "    f^T    "), {1, "    mhOsa   "}, {2, "    gaaya    "}})
+            EXPECT_EQ(chart.model()->headerData(column, Qt::Horizontal).toString().trimmed(),
+                Seen(heading).trimmed());
+        for (const auto& [button, caption] : {std::pair("Command1", "irpaoT-"), {"cmdGo", " >"},
+                 {"cmdFatdar", ">>"}, {"cmdCancel", "&r_"}, {"cmdExit", "&baahor"}})
+            EXPECT_EQ(Reads(clerk, button), caption);
+    });
+}
+
+TEST_F(NewFatRatesKeysTest, EnteringTheChartAgainKeepsWhatWasChanged)
+{
+    PlayOnChart("", [this](Clerk& clerk) {
+        Type(clerk, "4.5{ENTER}30{ENTER}20{ENTER}{ENTER}{ENTER}{ENTER}");
+        Press(clerk, "DataGridBuffRates");
+        EXPECT_EQ(Focus(clerk), "txtFat");
+        EXPECT_EQ(WorkingRow("4.5"), "4.5|20|30");
+    });
+}
+
+TEST_F(NewFatRatesKeysTest, RatesThatWereMadeBeforeTheChartWasEnteredStay)
+{
+    Play([this](Clerk& clerk) {
+        Type(clerk, "%d{F5}6{ENTER}5.57{ENTER}{ENTER}");
+        EXPECT_EQ(WorkingRow("4.3"), "4.3|23.951|25.8");
+        Press(clerk, "DataGridBuffRates");
+        EXPECT_EQ(Focus(clerk), "txtFat");
+        EXPECT_EQ(WorkingRow("4.3"), "4.3|23.951|25.8");
+    });
+}
+
+TEST_F(NewFatRatesKeysTest, ARateThatWasChangedWithoutTheChartBeingEnteredStays)
+{
+    Play([this](Clerk& clerk) {
+        Type(clerk, "%d+{TAB}");
+        EXPECT_EQ(Focus(clerk), "maskOldDate");
+        Press(clerk, "txtFat");
+        Type(clerk, "4.5{ENTER}30{ENTER}20{ENTER}{ENTER}{ENTER}{ENTER}");
+        Press(clerk, "DataGridBuffRates");
+        EXPECT_EQ(WorkingRow("4.5"), "4.5|20|30");
     });
 }
 

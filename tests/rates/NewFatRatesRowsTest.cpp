@@ -104,6 +104,54 @@ TEST_F(NewFatRatesRowsTest, UpEndsBelowOne)
     });
 }
 
+TEST_F(NewFatRatesRowsTest, TheKeysShowNoRatesBelowFatOneNorAboveThirtyThoughTheChartHasThem)
+{
+    Run("insert into Fat010707(Fat,CowRate,BuffRate) values(0.9,1,2)");
+    Run("insert into Fat010707(Fat,CowRate,BuffRate) values(30.1,3,4)");
+    PlayOnChart("", [](Clerk& clerk) {
+        Type(clerk, "1.1{UP}{UP}");
+        EXPECT_EQ(Row(clerk), "0.9|35.10|30.10") << "those of fat 1";
+        Type(clerk, "30.1{UP}{DOWN}");
+        EXPECT_EQ(Row(clerk), "30.1|38.00|33.00") << "those of fat 30";
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Row(clerk), "30.1|4|3") << "on leaving the fat its row shows";
+    });
+}
+
+TEST_F(NewFatRatesRowsTest, TheChartIsShownByFatInWhateverOrderItWasSaved)
+{
+    Run("delete * from Fat010707");
+    for (const char* fat : {"10", "4.4", "4.3"})
+        Run(QStringLiteral("insert into Fat010707(Fat,CowRate,BuffRate) values(%1,1,2)")
+                .arg(QLatin1String(fat)));
+    PlayOnChart("", [](Clerk& clerk) {
+        const auto& rows = dynamic_cast<const DataGrid&>(*clerk.Top().Find(u"DataGridBuffRates"));
+        EXPECT_EQ((QStringList{rows.Cell(0, 0), rows.Cell(1, 0), rows.Cell(2, 0)}),
+            (QStringList{"4.3", "4.4", "10.0"}));
+    });
+}
+
+TEST_F(NewFatRatesRowsTest, ARowOfFatZeroGoesWithTheNextRowThatIsKept)
+{
+    PlayOnChart("", [this](Clerk& clerk) {
+        Type(clerk, "4.5{ENTER}");
+        Run("insert into FatRates(Fat,CowRate,BuffRate) values(0,1,2)");
+        Type(clerk, Go);
+        EXPECT_EQ(WorkingRow("0"), "");
+        EXPECT_EQ(WorkingChart().size(), 8);
+    });
+}
+
+TEST_F(NewFatRatesRowsTest, ARowOfFatZeroGoesWithTheRateForEachPercent)
+{
+    PlayOnChart("", [this](Clerk& clerk) {
+        Run("insert into FatRates(Fat,CowRate,BuffRate) values(0,1,2)");
+        Type(clerk, "{F5}6{ENTER}5{ENTER}{ENTER}");
+        EXPECT_EQ(WorkingRow("0"), "");
+        EXPECT_EQ(WorkingChart().size(), 8);
+    });
+}
+
 TEST_F(NewFatRatesRowsTest, GoProposesTheNextFatWithTheIncrementsAndTheyAddUp)
 {
     PlayOnChart("", [this](Clerk& clerk) {
@@ -176,6 +224,29 @@ TEST_F(NewFatRatesRowsTest, TheRateForEachPercentGivesAllRowsInFullAndIsRemember
         (QStringList{"1|5.57|6.123", "4|22.28|24.492", "4.3|23.951|26.3289", "4.4|24.508|26.9412",
             "4.5|25.065|27.5535", "4.6|25.622|28.1658", "4.7|26.179|28.7781", "30|167.1|183.69"}));
     EXPECT_EQ(Rows("Select BasicCowRate,BasicBuffRate From Autosettings"), QStringList("5.57|6.123"));
+}
+
+TEST_F(NewFatRatesRowsTest, RatesOfManyDecimalsAreShownAndWrittenBackInFull)
+{
+    PlayOnChart("", [this](Clerk& clerk) {
+        Type(clerk, "{F5}5.333333{ENTER}5.333333{ENTER}{ENTER}4.3{ENTER}");
+        EXPECT_EQ(Row(clerk), "4.3|22.9333319|22.9333319");
+        Type(clerk, Go);
+        EXPECT_EQ(WorkingRow("4.3"), "4.3|22.9333319|22.9333319");
+    });
+}
+
+TEST_F(NewFatRatesRowsTest, BasesOfManyDecimalsAreShownAndTakenInFull)
+{
+    Run("update AutoSettings set BasicCowRate=5.33333333333,BasicBuffRate=6.66666666667");
+    PlayOnChart("", [this](Clerk& clerk) {
+        Type(clerk, "{F5}");
+        EXPECT_EQ(Reads(clerk, "txtBasicBuffRate"), "6.66666666667");
+        Type(clerk, "{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(WorkingRow("30"), "30|159.9999999999|200.0000000001");
+    });
+    EXPECT_EQ(Rows("Select BasicCowRate,BasicBuffRate From Autosettings"),
+        QStringList("5.33333333333|6.66666666667"));
 }
 
 TEST_F(NewFatRatesRowsTest, TheRateForEachPercentWorksAtRestAndLeavesTheClerkAtRest)
