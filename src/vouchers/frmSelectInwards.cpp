@@ -2,11 +2,11 @@
 
 #include "core/state/AppState.h"
 #include "platform/database/Sql.h"
+#include "platform/forms/ColumnBar.h"
 #include "platform/forms/Layout.h"
 #include "platform/forms/Pieces.h"
 #include "vouchers/VoucherKind.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace {
@@ -57,6 +57,15 @@ std::vector<DataGrid::Column> VoucherColumns()
 QString TypedInto(const DateField& mask)
 {
     return mask.IsEmptyMask() ? QString() : mask.Text().section(u'_', 0, 0);
+}
+
+// A box with its caption, to stand above a column.
+QWidget* Part(QLayout* box)
+{
+    auto* part = new QWidget;
+    box->setContentsMargins(0, 0, 0, 0);
+    part->setLayout(box);
+    return part;
 }
 
 }
@@ -135,27 +144,25 @@ void frmSelectInwards::PickVoucher()
 
 void frmSelectInwards::LayOut()
 {
+    using namespace Pieces;
     txtNo.SetAccessibleName(lblInwardNo.Shown());
-    Pieces::SetInk(*lblInwardNo.Widget());
+    SetInk(*lblInwardNo.Widget());
     auto* number = new QVBoxLayout;
     number->setSpacing(0);
     number->addWidget(lblInwardNo.Widget());
-    number->addWidget(Pieces::Sized(txtNo, 200, Pieces::LineField, Look::Size::Normal));
+    number->addWidget(Sized(txtNo, 0, LineField, Look::Size::Normal));
 
-    auto* boxes = new QHBoxLayout;
-    boxes->setSpacing(16);
-    boxes->addLayout(number);
-    boxes->addLayout(
-        Pieces::Under(Shivaji(u"idnaaMk"), MaskDate, 200, Look::Size::Normal, Pieces::LineField));
-    boxes->addLayout(Pieces::Under(Shivaji(u"r@kma"), txtAmount, 200, Look::Size::Normal, Pieces::LineField));
-    boxes->addStretch(1);
+    auto* boxes = new ColumnBar(ListViewInwards);
+    boxes->Put(*Part(number), 0, 0);
+    boxes->Put(*Part(Under(Shivaji(u"idnaaMk"), MaskDate, 0, Look::Size::Normal, LineField)), 1, 1);
+    boxes->Put(*Part(Under(Shivaji(u"r@kma"), txtAmount, 0, Look::Size::Normal, LineField)), 2, 2);
 
     auto* body = new QVBoxLayout;
     body->setSpacing(8);
-    body->addLayout(boxes);
-    body->addWidget(lblGuide.Widget());
-    body->addWidget(Pieces::List(ListViewInwards, 34, Look::Size::Large), 1);
+    body->addWidget(boxes);
+    body->addWidget(List(ListViewInwards, 34, Look::Size::Large), 1);
     ListViewInwards.SetAccessibleName(Plain(u"व्हाऊचरची यादी"));
+    body->addWidget(lblGuide.Widget());
     body->addLayout(Layout::ButtonRow({&cmdExit}));
     Stack(body);
 }

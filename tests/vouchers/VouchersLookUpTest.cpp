@@ -1,7 +1,10 @@
 #include "tests/vouchers/VouchersTest.h"
 
 #include "platform/database/Sql.h"
+#include "platform/forms/ProgramWindow.h"
 #include "vouchers/frmSelectInwards.h"
+
+#include <QTableView>
 
 namespace {
 
@@ -21,9 +24,14 @@ protected:
         AddVoucher(date, number, amount, "pomaonT", "]cala ");
     }
 
+    static DataGrid& ListOf(Clerk& clerk)
+    {
+        return dynamic_cast<DataGrid&>(*clerk.Top().Find(u"ListViewInwards"));
+    }
+
     static std::string Current(Clerk& clerk)
     {
-        const auto& list = dynamic_cast<DataGrid&>(*clerk.Top().Find(u"ListViewInwards"));
+        const DataGrid& list = ListOf(clerk);
         QStringList cells;
         for (int column = 0; column < 3; ++column)
             cells.append(list.Cell(list.CurrentRow(), column));
@@ -85,6 +93,45 @@ TEST_F(VouchersLookUpTest, EnterOnARowFillsBothGlobals)
     EXPECT_EQ(gAppState.gSelectedVoucherNo, 3);
     EXPECT_EQ(gAppState.gSelectedVoucherDate, QDate(2026, 4, 15));
     EXPECT_EQ(gAppState.gReportMode, "U");
+}
+
+TEST_F(VouchersLookUpTest, ADoubleClickOnARowFillsBothGlobals)
+{
+    AddAdvance("14/04/2026", 7, 100);
+    AddAdvance("15/04/2026", 3, 250);
+    On<frmSelectInwards>([](Clerk& clerk) {
+        clerk.Do([&] {
+            ListOf(clerk).SetCurrentRow(1);
+            auto& view = *static_cast<QTableView*>(ListOf(clerk).Widget());
+            view.doubleClicked(view.currentIndex());
+        });
+        EXPECT_EQ(OnTop(clerk), "");
+    });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(gAppState.gSelectedVoucherNo, 3);
+    EXPECT_EQ(gAppState.gSelectedVoucherDate, QDate(2026, 4, 15));
+}
+
+TEST_F(VouchersLookUpTest, TheBoxesStandAboveTheirColumnsInEveryWindow)
+{
+    AddAdvance("14/04/2026", 7, 100);
+    On<frmSelectInwards>([](Clerk& clerk) {
+        const auto& view = *static_cast<QTableView*>(ListOf(clerk).Widget());
+        for (const QSize size : {QSize(1024, 768), QSize(1920, 1080), QSize(1366, 768)}) {
+            clerk.Do([&] { ProgramWindow::Current().resize(size); });
+            int column = 0;
+            for (const char16_t* name : {u"txtNo", u"MaskDate", u"txtAmount"}) {
+                const QWidget& box = *clerk.Top().Find(name)->Widget();
+                const int edge = view.mapTo(&clerk.Top(), QPoint(view.frameWidth(), 0)).x();
+                EXPECT_EQ(box.mapTo(&clerk.Top(), QPoint()).x(), edge + view.columnViewportPosition(column));
+                EXPECT_EQ(box.width(), view.columnWidth(column));
+                EXPECT_LT(box.mapTo(&clerk.Top(), QPoint(0, box.height())).y(),
+                    view.mapTo(&clerk.Top(), QPoint()).y() + 1);
+                ++column;
+            }
+        }
+    });
+    EXPECT_FALSE(Failure);
 }
 
 TEST_F(VouchersLookUpTest, EscAndExitFillNeither)
