@@ -113,6 +113,17 @@ TEST_F(VouchersFieldsTest, AHeadThatIsNotInTheTableIsClearedAndKeepsTheFocus)
     EXPECT_FALSE(Failure);
 }
 
+TEST_F(VouchersFieldsTest, AHeadIsFoundThoughItStandsBetweenBlanksInTheTable)
+{
+    Run("update UchalTypes set UchalType='  KaV ' where UchalType='KaV'");
+    Play([](Clerk& clerk) {
+        Type(clerk, "%n15042026{ENTER}{ENTER}1{ENTER}{ENTER}KaV{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtUchalAmount");
+        EXPECT_EQ(Reads(clerk, "ComboUchalTypes"), "KaV");
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(VouchersFieldsTest, AHeadThatWasTypedAndNotTakenIsNotLostAtTheSaving)
 {
     Play([](Clerk& clerk) {

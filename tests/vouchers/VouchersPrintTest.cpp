@@ -73,6 +73,20 @@ TEST_F(VouchersPrintTest, OfTwoVouchersTheSecondAloneIsStaged)
     EXPECT_EQ(Rows("select Printname from TransactionsMaster order by TranId"), (QStringList{"gaNaoSa", ""}));
 }
 
+TEST_F(VouchersPrintTest, OfTwoVouchersOfOneNumberOnlyThatOfTheDateIsNamedAndStaged)
+{
+    Play([](Clerk& clerk) {
+        KeyAdvance(clerk, "15042026", 1, "KaV", "100");
+        Type(clerk, "%hgaNaoSa{ENTER}{ENTER}");
+        KeyAdvance(clerk, "16042026", 2, "KaV", "50");
+        Type(clerk, "%hgaIta{ENTER}{ENTER}");
+    });
+    ASSERT_FALSE(Failure) << Failure->Text().toStdString();
+    EXPECT_EQ(Rows("select TranDate,TranId,Printname from TransactionsMaster order by TranDate"),
+        (QStringList{"15/04/2026|1|gaNaoSa", "16/04/2026|1|gaIta"}));
+    EXPECT_EQ(Rows("select TranDate,Printname from TransactionsMasterTemp"), QStringList("16/04/2026|gaIta"));
+}
+
 TEST_F(VouchersPrintTest, TheVoucherIsInTheBooksBeforeItIsAskedAbout)
 {
     Play([this](Clerk& clerk) {

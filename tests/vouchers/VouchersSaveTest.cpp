@@ -84,6 +84,22 @@ TEST_F(VouchersSaveTest, AReceiptOfFortyLowersTheAdvanceAndRaisesTheBalanceByFor
     EXPECT_EQ(Owed(1), "-40");
 }
 
+// In single precision a balance of this size would lose the paise.
+TEST_F(VouchersSaveTest, BalancesOfLakhsMoveToThePaisa)
+{
+    Run("update MembersMaster set ClosingBalance=123456.78,ClosingUchal=654321.09 where MemberNo=1");
+    Play([this](Clerk& clerk) {
+        KeyAdvance(clerk, "15042026", 1, "KaV", "0.05");
+        Type(clerk, "%n");
+        EXPECT_EQ(Closing(1), "123456.73|654321.14");
+        Type(clerk, "%d{ENTER}{ENTER}{ENTER}KaV{ENTER}1234567.89{ENTER}{ENTER}{F4}{ENTER}%h%n");
+        EXPECT_EQ(Closing(1), "-1111111.11|1888888.98");
+        Type(clerk, "%k{ENTER}{ENTER}%h");
+    });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Closing(1), "123456.78|654321.09");
+}
+
 TEST_F(VouchersSaveTest, AHeadThatIsEnteredAgainGetsTheNewAmount)
 {
     Play([](Clerk& clerk) {
