@@ -96,12 +96,12 @@ void DayAtAGlance::ShowShifts()
     }
 }
 
-// The newest by the date of the bill.
+// The newest by the date of the bill; of several periods on one date, the one that ends last.
 void DayAtAGlance::ShowPayment()
 {
     const Recordset newest(gCn,
         Sql(u"select FromDate,ToDate from MilkPayments where CompanyId=", gAppState.gCompanyId,
-            u" order by PaymentDate desc"));
+            u" order by PaymentDate desc,ToDate desc"));
     m_payment->setText(newest.Eof()
             ? QStringLiteral("पेमेंट अजून झालेले नाही")
             : QStringLiteral("शेवटचे पेमेंट  %1 ते %2").arg(newest[u"FromDate"].Text(), newest[u"ToDate"].Text()));

@@ -110,4 +110,16 @@ TEST_F(DayAtAGlanceTest, ThePeriodThatWasPaidLastIsToldByTheDateOfItsBill)
     });
 }
 
+TEST_F(DayAtAGlanceTest, OfSeveralPeriodsPaidOnOneDateTheLatestIsTold)
+{
+    for (const char* row :
+        {"'01/04/2026','10/04/2026'", "'11/04/2026','20/04/2026'", "'21/03/2026','31/03/2026'"})
+        Run(QStringLiteral("insert into MilkPayments(CompanyId,FromDate,ToDate,PaymentDate,TranId,MemberNo) "
+                           "values(1,")
+            + QLatin1String(row) + QStringLiteral(",'20/04/2026',1,1)"));
+    Menu([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblLastPayment"), "शेवटचे पेमेंट  11/04/2026 ते 20/04/2026");
+    });
+}
+
 }
