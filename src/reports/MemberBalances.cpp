@@ -90,7 +90,6 @@ void StageMembers(const MemberBalances::Wanted& wanted, StagingProgress& progres
     gCn.Execute(u"DELETE * FROM MilkPaymentsRegister WHERE CompanyID=992");
     ReportRun::StageDates(DateText(wanted.from), DateText(wanted.to));
     staging.Commit();
-    progress.End();
 }
 
 }

@@ -80,7 +80,6 @@ void PaySlips::Stage(StagingProgress& progress) const
         at = next;
     }
     staging.Commit();
-    progress.End();
 }
 
 PaySlips::Payments PaySlips::CopyPayments() const

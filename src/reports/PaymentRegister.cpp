@@ -84,7 +84,6 @@ void PaymentRegister::Stage(StagingProgress& progress) const
     ReportRun::StageDates(DateText(m_wanted.from), DateText(m_wanted.to));
     ReportRun::Tidy(u"MilkpaymentsRegister");
     staging.Commit();
-    progress.End();
 }
 
 void PaymentRegister::CopyCollections() const

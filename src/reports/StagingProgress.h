@@ -23,6 +23,7 @@ public:
     // His row is done.
     void Step();
 
+    // The report is out of hand.
     void End();
 
 private:

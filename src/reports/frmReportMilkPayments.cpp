@@ -75,6 +75,12 @@ void frmReportMilkPayments::CmdReport_Click()
         return;
     }
     slips.Stage(Staging);
+    PrintSlips();
+    Staging.End();
+}
+
+void frmReportMilkPayments::PrintSlips()
+{
     const QStringView name = TemplateOf(gAppState.gPaymentDuration);
     if (name.isEmpty()) {
         ShowNotice(Plain(u"ऑटो सेटींग्जमध्ये पेमेंटचा कालावधी निवडा."));

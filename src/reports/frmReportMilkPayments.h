@@ -29,5 +29,6 @@ private:
     void CmdReport_Click();
 
     bool HoldPaymentDate();
+    void PrintSlips();
     void LayOut();
 };

@@ -169,4 +169,5 @@ void frmReportMilkPaymentsRegister::cmdReport_Click()
     CRMilkPaymentsRegister.SetTemplate(Template());
     CRMilkPaymentsRegister.SetSubject(ReportSubject({}, maskFromDate.Date(), maskToDate.Date()));
     CRMilkPaymentsRegister.Print();
+    Staging.End();
 }

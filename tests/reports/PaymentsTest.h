@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/preview/TemplateReport.h"
 #include "tests/reports/ReportsTest.h"
 #include "tests/support/EachPainting.h"
 
@@ -73,6 +74,21 @@ private:
     QLabel* m_percent;
     QLabel* m_message;
     QLabel* m_member;
+};
+
+// Looks at what is shown in the moment in which a report is printed, in place of printing it.
+class AtThePrint final {
+public:
+    explicit AtThePrint(std::function<void()> look)
+        : m_engine(std::exchange(
+            TemplateReport::Engine(), [look = std::move(look)](const TemplateReport::Run&) { look(); }))
+    {
+    }
+    ~AtThePrint() { TemplateReport::Engine() = m_engine; }
+    Q_DISABLE_COPY_MOVE(AtThePrint)
+
+private:
+    std::function<void(const TemplateReport::Run&)> m_engine;
 };
 
 // Literals in the books' encoding as lines to compare.

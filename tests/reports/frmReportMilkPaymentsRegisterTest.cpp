@@ -141,6 +141,23 @@ TEST_F(RegisterScreenTest, AMissingTemplateEndsTheProgramWhenTheRowsAreStaged)
     EXPECT_EQ(One("select count(*) from MilkPaymentsRegister"), "1");
 }
 
+TEST_F(RegisterScreenTest, TheBarStaysUntilTheListIsPrinted)
+{
+    Pay({});
+    for (const char* mode : {"PR", "TR", "UR", "UchalBalanceStatement", "ThevBalanceStatement"}) {
+        std::unique_ptr<PaintedStaging> bar;
+        bool shown = false;
+        const AtThePrint look([&] { shown = bar->IsShown(); });
+        InMode(mode, [&](Clerk& clerk) {
+            Type(clerk, "11042026{ENTER}20042026{ENTER}1{ENTER}{ENTER}");
+            clerk.Do([&] { bar = std::make_unique<PaintedStaging>(clerk.Top()); });
+            Type(clerk, "%i");
+            EXPECT_TRUE(shown) << mode;
+            EXPECT_FALSE(bar->IsShown()) << mode;
+        });
+    }
+}
+
 TEST_F(RegisterScreenTest, TheBarAndTheMemberInHandAreShownWhileTheRowsAreStaged)
 {
     for (const char* mode : {"PR", "TR", "UR", "UchalBalanceStatement", "ThevBalanceStatement"}) {

@@ -130,6 +130,21 @@ TEST_F(frmReportMilkPaymentsTest, ANameWithAnApostropheFailsItsStatementAndStage
     EXPECT_EQ(Rows("select * from MilkCollectionsME"), staged);
 }
 
+TEST_F(frmReportMilkPaymentsTest, TheBarStaysUntilTheSlipsArePrinted)
+{
+    std::unique_ptr<PaintedStaging> bar;
+    bool shown = false;
+    const AtThePrint look([&] { shown = bar->IsShown(); });
+    On<frmReportMilkPayments>([&](Clerk& clerk) {
+        Type(clerk, "20042026{ENTER}1{ENTER}{ENTER}");
+        clerk.Do([&] { bar = std::make_unique<PaintedStaging>(clerk.Top()); });
+        Type(clerk, "%i");
+        EXPECT_TRUE(shown);
+        EXPECT_FALSE(bar->IsShown());
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(frmReportMilkPaymentsTest, TheBarAndTheMemberInHandAreShownWhileTheSlipsAreStaged)
 {
     for (int member = 2; member <= 11; ++member)
