@@ -26,10 +26,15 @@ struct Pair {
 };
 using PairOf = std::function<Pair(double memberNo)>;
 
-SqlText Members(const MemberBalances::Wanted& wanted)
+std::vector<Member> MembersOf(const MemberBalances::Wanted& wanted)
 {
-    return Sql(u"SELECT * FROM MembersMaster WHERE MemberNo>=", wanted.fromNo, u" AND MemberNo<=",
-        wanted.toNo, u" ORDER BY MemberNo");
+    std::vector<Member> members;
+    for (Recordset row(gCn,
+             Sql(u"SELECT * FROM MembersMaster WHERE MemberNo>=", wanted.fromNo, u" AND MemberNo<=",
+                 wanted.toNo, u" ORDER BY MemberNo"));
+         !row.Eof(); row.MoveNext())
+        members.push_back({row[u"MemberNo"].Number(), row[u"MemberName"].Text()});
+    return members;
 }
 
 SqlText SumOfAmounts(QStringView name, QStringView table, const SqlText& dates, double memberNo)
@@ -69,15 +74,19 @@ void StageRow(
             u")"));
 }
 
-// Writes a row for each member; those with nothing in the column are dropped again.
-void StageMembers(const MemberBalances::Wanted& wanted, StagingProgress& progress, const PairOf& figuresOf,
+// Writes a row for each member; those with nothing in the column are dropped again. Without members only the
+// old rows are deleted, and it returns false.
+bool StageMembers(const MemberBalances::Wanted& wanted, StagingProgress& progress, const PairOf& figuresOf,
     bool areDeposits)
 {
     Transaction staging(gCn);
-    ReportRun::Empty({u"ReportDates", u"MilkPaymentsRegister"});
-    std::vector<Member> members;
-    for (Recordset row(gCn, Members(wanted)); !row.Eof(); row.MoveNext())
-        members.push_back({row[u"MemberNo"].Number(), row[u"MemberName"].Text()});
+    ReportRun::Empty({u"MilkPaymentsRegister"});
+    const std::vector<Member> members = MembersOf(wanted);
+    if (members.empty()) {
+        staging.Commit();
+        return false;
+    }
+    ReportRun::Empty({u"ReportDates"});
     progress.Begin(static_cast<int>(members.size()));
     for (const Member& member : members) {
         progress.Tell(member.number, member.name);
@@ -90,24 +99,20 @@ void StageMembers(const MemberBalances::Wanted& wanted, StagingProgress& progres
     gCn.Execute(u"DELETE * FROM MilkPaymentsRegister WHERE CompanyID=992");
     ReportRun::StageDates(DateText(wanted.from), DateText(wanted.to));
     staging.Commit();
+    return true;
 }
 
 }
 
-bool MemberBalances::AnyMember(const Wanted& wanted)
+bool MemberBalances::StageAdvances(const Wanted& wanted, StagingProgress& progress)
 {
-    return Finds(Members(wanted));
-}
-
-void MemberBalances::StageAdvances(const Wanted& wanted, StagingProgress& progress)
-{
-    StageMembers(
+    return StageMembers(
         wanted, progress, [&](double memberNo) { return AdvancesOf(memberNo, wanted.to); }, false);
 }
 
-void MemberBalances::StageDeposits(const Wanted& wanted, StagingProgress& progress)
+bool MemberBalances::StageDeposits(const Wanted& wanted, StagingProgress& progress)
 {
-    StageMembers(
+    return StageMembers(
         wanted, progress, [&](double memberNo) { return DepositsOf(memberNo, wanted); }, true);
 }
 

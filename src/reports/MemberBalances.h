@@ -17,13 +17,11 @@ struct Wanted {
 // The advance statement of the member `fromNo`: the opening balance, and what was given and taken back.
 void StageStatement(const Wanted& wanted);
 
-// Whether there are members in the range.
-bool AnyMember(const Wanted& wanted);
+// The advances that are open at the end of `to`. Without members in the range the register is emptied, and it
+// returns false.
+bool StageAdvances(const Wanted& wanted, StagingProgress& progress);
 
-// The advances that are open at the end of `to`.
-void StageAdvances(const Wanted& wanted, StagingProgress& progress);
-
-// The deposits of the payments made from `from` to `to`.
-void StageDeposits(const Wanted& wanted, StagingProgress& progress);
+// The same for the deposits of the payments made from `from` to `to`.
+bool StageDeposits(const Wanted& wanted, StagingProgress& progress);
 
 }

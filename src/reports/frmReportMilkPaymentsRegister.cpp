@@ -125,15 +125,12 @@ bool frmReportMilkPaymentsRegister::StageBalances()
         MemberBalances::StageStatement(wanted);
         return true;
     }
-    if (!MemberBalances::AnyMember(wanted)) {
+    const bool anyMember = m_mode == Mode::UchalBalanceStatement
+        ? MemberBalances::StageAdvances(wanted, Staging)
+        : MemberBalances::StageDeposits(wanted, Staging);
+    if (!anyMember)
         ShowPlain(QStringLiteral("No members found!"));
-        return false;
-    }
-    if (m_mode == Mode::UchalBalanceStatement)
-        MemberBalances::StageAdvances(wanted, Staging);
-    else
-        MemberBalances::StageDeposits(wanted, Staging);
-    return true;
+    return anyMember;
 }
 
 bool frmReportMilkPaymentsRegister::Stage()

@@ -18,6 +18,15 @@ protected:
         Print(mode, Keys);
         return Rows("select * from MilkPaymentsRegister");
     }
+
+    // All three members owe and have deposited something.
+    void AddBalances()
+    {
+        for (int member : {1, 5, 9}) {
+            AddHead("TransactionsDetails", "10/04/2026", member, "]cala", 100 + member);
+            Pay({.member = member});
+        }
+    }
 };
 
 using AdvanceBalanceTest = BalancesTest;
@@ -66,6 +75,15 @@ TEST_F(AdvanceStatementTest, WhatWasGivenAndTakenBackInTheDaysFollowsTheOpening)
         {"80.25", "130.25", "100.25", "5.25", "दूध पेमेंटमधून कपात", "उचल जमा", "खाद्य", "सभासद 1 राम"})
         EXPECT_TRUE(texts.contains(QString::fromUtf8(text))) << text;
     EXPECT_EQ(TheWindow.Subject(), "11-04-2026 ते 20-04-2026");
+}
+
+TEST_F(AdvanceStatementTest, WhatWasGivenAndTakenBackInTheDaysIsThatOfEveryCompany)
+{
+    AddHead("TransactionsDetails", "15/04/2026", 1, "KaV", 50, 2);
+    AddHead("AdvanceReceipt", "16/04/2026", 1, "Uchal Receipt", 30, 2);
+    Print("UD", Statement);
+    EXPECT_EQ(Rows("select CompanyId,TranDate,Amount from AdvanceTemp order by TranDate"),
+        Lines({"1|01/01/1940|0", "2|15/04/2026|50", "2|16/04/2026|30"}));
 }
 
 // The advances of all
@@ -144,12 +162,45 @@ TEST_F(BalancesTest, AGuardTakesAwayTheRowsOfACompanyThatIsNone)
     }
 }
 
-TEST_F(BalancesTest, ARangeWithoutMembersIsTold)
+TEST_F(BalancesTest, ARangeWithoutMembersIsToldAndTheOldRowsAreGone)
 {
     for (const char* mode : {"UchalBalanceStatement", "ThevBalanceStatement"}) {
+        Run("insert into MilkPaymentsRegister(CompanyId,MemberNo) values(1,1)");
         TheBox.Shown.clear();
         Print(mode, "01042026{ENTER}20042026{ENTER}10{ENTER}{ENTER}%i");
         EXPECT_EQ(TheBox.Shown, QStringList("No members found!")) << mode;
         EXPECT_TRUE(TheWindow.Shown.empty());
+        EXPECT_EQ(Rows("select * from MilkPaymentsRegister"), QStringList()) << mode;
+    }
+}
+
+TEST_F(BalancesTest, TheRangeOfTheMembersBoundsTheRows)
+{
+    AddBalances();
+    for (const char* mode : {"UchalBalanceStatement", "ThevBalanceStatement"}) {
+        Print(mode, "01042026{ENTER}20042026{ENTER}5{ENTER}5{ENTER}%i");
+        EXPECT_EQ(Rows("select MemberNo from MilkPaymentsRegister"), Lines({"5"})) << mode;
+    }
+}
+
+TEST_F(BalancesTest, TwoRunsInARowGiveTheSame)
+{
+    AddBalances();
+    for (const char* mode : {"UchalBalanceStatement", "ThevBalanceStatement"}) {
+        const QStringList rows = Balances(mode);
+        EXPECT_EQ(rows.size(), 3) << mode;
+        EXPECT_EQ(Balances(mode), rows) << mode;
+        EXPECT_EQ(Rows("select * from ReportDates"), Lines({"1|01/04/2026|20/04/2026"})) << mode;
+    }
+}
+
+TEST_F(BalancesTest, TheMembersAreThoseOfEveryCompanyAndTheirFiguresThoseOfTheSelectedOne)
+{
+    AddBalances();
+    Run("update MembersMaster set CompanyId=2 where MemberNo=5");
+    for (const char* mode : {"UchalBalanceStatement", "ThevBalanceStatement"}) {
+        Print(mode, Keys);
+        EXPECT_EQ(Rows("select CompanyId,MemberNo from MilkPaymentsRegister"), Lines({"1|1", "1|5", "1|9"}))
+            << mode;
     }
 }
