@@ -79,6 +79,8 @@ void PaySlips::Stage(StagingProgress& progress) const
         std::for_each(at, next, [this](const Payment& payment) { RemoveEmptyAnimals(payment); });
         at = next;
     }
+    ReportRun::Tidy(u"MilkPaymentsTemp");
+    ReportRun::Tidy(u"MilkCollectionsTemp");
     staging.Commit();
 }
 

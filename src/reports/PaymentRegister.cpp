@@ -82,7 +82,8 @@ void PaymentRegister::Stage(StagingProgress& progress) const
         std::for_each(payments.begin(), payments.end(),
             [this](const Payment& payment) { AddPreviousBalances(payment); });
     ReportRun::StageDates(DateText(m_wanted.from), DateText(m_wanted.to));
-    ReportRun::Tidy(u"MilkpaymentsRegister");
+    for (const QStringView table : {u"MilkPaymentsTemp", u"MilkCollectionsTemp", u"MilkpaymentsRegister"})
+        ReportRun::Tidy(table);
     staging.Commit();
 }
 

@@ -32,11 +32,14 @@ TEST_F(PaymentRegisterTest, AMemberWithNoPaymentInThePeriodHasNoRow)
 
 TEST_F(PaymentRegisterTest, TheRangeOfTheMembersBoundsTheRows)
 {
-    for (int member : {1, 5, 9})
+    for (int member : {1, 5, 9}) {
         Pay({.member = member});
+        AddDelivery("11/04/2026", "sakaL", member, member, "rama", "gaaya", member, 4, 30);
+    }
     for (const char* mode : {"PR", "TR", "UR"}) {
         Print(mode, "11042026{ENTER}{ENTER}5{ENTER}5{ENTER}%i");
         EXPECT_EQ(Rows("select MemberNo from MilkPaymentsRegister"), Lines({"5"})) << mode;
+        EXPECT_EQ(Rows("select MemberNo from MilkCollectionsTemp"), Lines({"5"})) << mode;
     }
 }
 
@@ -44,10 +47,17 @@ TEST_F(PaymentRegisterTest, RowsOfNoCompanyAreTidiedAway)
 {
     gAppState.gCompanyId = 0;
     Pay({.company = 0});
+    AddDelivery("11/04/2026", "sakaL", 1, 1, "rama", "gaaya", 5, 4, 30);
+    gCn.RunScript("create trigger Watch before insert on MilkPaymentsRegister begin "
+                  "insert into KapatDetails(MemberNo,Value1) "
+                  "select new.MemberNo,(select count(*) from MilkCollectionsTemp); end");
     for (const char* mode : {"PR", "TR", "UR"}) {
+        Run("delete * from KapatDetails");
         Print(mode, "11042026{ENTER}{ENTER}1{ENTER}9{ENTER}%i");
-        EXPECT_EQ(Rows("select MemberNo from MilkPaymentsTemp"), Lines({"1"})) << mode;
+        EXPECT_EQ(Rows("select MemberNo,Value1 from KapatDetails"), Lines({"1|1"})) << mode << ": was there";
         EXPECT_EQ(Rows(Registered), QStringList()) << mode;
+        EXPECT_EQ(Rows("select * from MilkPaymentsTemp"), QStringList()) << mode;
+        EXPECT_EQ(Rows("select * from MilkCollectionsTemp"), QStringList()) << mode;
     }
 }
 
