@@ -1,11 +1,15 @@
-// What the four report screens call themselves and their choices.
+// What the report screens call themselves, their fields and their choices.
 
 #include "platform/forms/OptionButton.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
+#include "reports/frmReportMilkPayments.h"
+#include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
 #include "tests/reports/ReportsTest.h"
+
+#include <QLabel>
 
 namespace {
 
@@ -21,6 +25,15 @@ protected:
         return dynamic_cast<const OptionButton&>(*clerk.Top().Find(QString::fromLatin1(option)))
             .Shown()
             .Text();
+    }
+
+    // Whether a caption stands on the screen on top.
+    static bool Tells(Clerk& clerk, const char* caption)
+    {
+        for (const QLabel* label : clerk.Top().findChildren<QLabel*>())
+            if (label->isVisible() && label->text() == Seen(caption))
+                return true;
+        return false;
     }
 
     template <class S> void Expect(const char* title, std::initializer_list<Choice> choices)
@@ -53,6 +66,27 @@ TEST_F(CaptionsTest, TheMembersList)
 {
     Expect<frmReportMembersList>(" maombar yaadI",
         {{"OptionList", "  &1 pUNa- yaadI"}, {"OptionArea", "  &2 ivaBaaga"}, {"OptionMilk", "  &3 dUQa"}});
+}
+
+TEST_F(CaptionsTest, ThePaySlips)
+{
+    On<frmReportMilkPayments>([](Clerk& clerk) {
+        for (const char* caption : {"pomaonT idnaaMk", "pasaUna", "pya-nt"})
+            EXPECT_TRUE(Tells(clerk, caption)) << caption;
+    });
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(CaptionsTest, TheRegisters)
+{
+    gAppState.gReportMode = "PR";
+    Expect<frmReportMilkPaymentsRegister>(
+        " dUQa pomaonT rijasTr irpaoT-", {{"OptionPT", "paoT/o-T"}, {"OptionLS", "la^nDskop"}});
+    On<frmReportMilkPaymentsRegister>([](Clerk& clerk) {
+        for (const char* caption : {"kalaavaQaI", "pasaUna", "pya-nt"})
+            EXPECT_TRUE(Tells(clerk, caption)) << caption;
+    });
+    EXPECT_FALSE(Failure);
 }
 
 TEST_F(CaptionsTest, ThePaymentList)

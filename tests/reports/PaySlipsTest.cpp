@@ -1,42 +1,8 @@
 // What is staged for the pay slips of a payment date.
 
-#include "tests/reports/PaymentsTest.h"
-
-#include "reports/frmReportMilkPayments.h"
+#include "tests/reports/PaySlipsTest.h"
 
 namespace {
-
-constexpr const char* DayColumns = "select CollectionDate,MemberNo,MemberName,Animal,LitersM,FatM,RateM,"
-                                   "AmountM,LitersE,FatE,RateE,AmountE from MilkCollectionsME where ";
-
-class PaySlipsTest : public PaymentsTest {
-protected:
-    PaySlipsTest()
-    {
-        AddMember(1, "rama");
-        AddMember(5, "saIta");
-        AddMember(9, "gaNaoSa");
-    }
-
-    // Prints the slips of all members for the 20th, or for another date.
-    void Print(const char* keys = "20042026{ENTER}1{ENTER}{ENTER}%i")
-    {
-        Type<frmReportMilkPayments>(keys);
-        EXPECT_FALSE(Failure);
-    }
-
-    QStringList Days(const char* condition)
-    {
-        return Rows(QString::fromUtf8(DayColumns) + QString::fromUtf8(condition));
-    }
-
-    QStringList Pairs(int member)
-    {
-        return Rows(QStringLiteral("select CollectionDate,Label1,Value1 from KapatDetails where MemberNo=%1 "
-                                   "order by CollectionDate")
-                        .arg(member));
-    }
-};
 
 TEST_F(PaySlipsTest, ThePaymentsOfTheDateAndTheRangeAreCopied)
 {
