@@ -16,8 +16,8 @@ inline double Decimal(float value)
     return Val(ShortestDecimal(value));
 }
 
-// A sum in single precision to which one more figure comes. It is rounded to what a single holds each time, so
-// that its last digits may be off; the patterns of the fields hide them.
+// A sum in single precision to which one more figure comes. It is rounded to what a single holds each time,
+// so that its last digits may be off; the patterns of the fields hide them.
 inline float AddSingle(float sum, double figure)
 {
     return ToSingle(sum + figure);

@@ -29,8 +29,7 @@ void PrintRegisters(Tour& tour)
     tour.KeepReport(QStringLiteral("payment-register"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.TheClerk().Press(QStringLiteral("OptionLS"));
     tour.Type(ShowReport);
-    tour.KeepReport(
-        QStringLiteral("payment-register-across"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
+    tour.KeepReport(QStringLiteral("payment-register-across"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.Type(Escape);
     OpenReport(tour, QStringLiteral("report-deposit-register"), 5);
     tour.Type(period + ShowReport);
