@@ -145,6 +145,20 @@ TEST_F(PaymentPostingTest, ADepositOfNothingHasNoDetail)
     EXPECT_EQ(Details(), QStringList("1|10/04/2026|0|5|mhOsa zova|2"));
 }
 
+TEST_F(PaymentPostingTest, TheDetailsOfAnyPaymentHaveTheNumberZero)
+{
+    AddExample();
+    Set("DecimalPayment='AddThev'");
+    AddMilk(12, "02/04/2026", "gaaya", 10, 500.50);
+    PlaySingle([](Clerk& clerk) {
+        Pay(clerk, "01042026", 12);
+        Pay(clerk, "01042026", 5);
+    });
+    EXPECT_EQ(Rows("select TranId from MilkPayments order by TranId"), (QStringList{"1", "2"}));
+    EXPECT_EQ(Rows("select distinct TranId from MilkPaymentsDetails"), QStringList("0"));
+    EXPECT_EQ(One("select count(*) from MilkPaymentsDetails"), "10");
+}
+
 TEST_F(PaymentPostingTest, ADeductionOfAllLeavesTheBalanceOfThePaymentBefore)
 {
     AddMilk(5, "02/04/2026", "gaaya", 10, 500);
