@@ -10,8 +10,6 @@
 #include <QApplication>
 #include <QEvent>
 
-#include <utility>
-
 namespace {
 
 constexpr const char* OfTheMember = "13042026{ENTER}15042026{ENTER}{ENTER}gaNaoSa%i";
@@ -28,13 +26,6 @@ protected:
             AddSale("13/04/2026", "sakaL", 1, "dUQa saMGa", "gaaya", 88, 4, 8.5);
         });
         AddMember(3, "gaNaoSa");
-    }
-
-    static void InCompany(int company, const std::function<void()>& action)
-    {
-        const int before = std::exchange(gAppState.gCompanyId, company);
-        action();
-        gAppState.gCompanyId = before;
     }
 
     QStringList Staged() { return Rows("select CompanyId,MemberNo,LitersM,LitersE from MilkCollectionsME"); }

@@ -13,13 +13,6 @@ protected:
         Run("insert into MilkCollectionsOld select * from MilkCollections");
         Run("delete * from MilkCollections");
     }
-
-    void InCompany(int company, const std::function<void()>& action)
-    {
-        const int before = std::exchange(gAppState.gCompanyId, company);
-        action();
-        gAppState.gCompanyId = before;
-    }
 };
 
 // Periods

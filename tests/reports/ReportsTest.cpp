@@ -5,6 +5,8 @@
 
 #include <QFile>
 
+#include <utility>
+
 void PrintTo(const QStringList& texts, std::ostream* out)
 {
     *out << texts.join(u'\n').toStdString();
@@ -21,6 +23,13 @@ ReportsTest::~ReportsTest()
     TheWindow.Shown.clear();
     ReportControl::CloseConnections();
     ReportSurroundings::Current() = {};
+}
+
+void ReportsTest::InCompany(int company, const std::function<void()>& action)
+{
+    const int before = std::exchange(gAppState.gCompanyId, company);
+    action();
+    gAppState.gCompanyId = before;
 }
 
 QStringList ReportsTest::ReportTexts() const

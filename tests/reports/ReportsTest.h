@@ -22,6 +22,9 @@ protected:
         On<S>([keys](Clerk& clerk) { clerk.Type(QString::fromUtf8(keys)); });
     }
 
+    // Does something with another society selected.
+    static void InCompany(int company, const std::function<void()>& action);
+
     // The texts of the last report, page by page; the test fails if none was shown.
     QStringList ReportTexts() const;
 
