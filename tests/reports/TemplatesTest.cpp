@@ -39,6 +39,20 @@ protected:
         report.Print();
     }
 
+    // Prints the receipt of a sale to the federation, with what the society measured itself.
+    void PrintSalesReceipt(const QString& ours)
+    {
+        Run("insert into MilkSalesReceipt(CompanyId,SalesDate,SalesTime,SalesType,SalesNo,CustomerNo,"
+            "CustomerName,Animal,Liters,Fat,Rate,Amount,OurLiters,SNF,OurFat,OurRate,OurAmount) values(1,"
+            "'15/04/2026','saMQyaakaL','saMGa ivaËI',12,104,'EaI mahalaxmaI sahkarI dUQa saMGa mayaa-idt',"
+            "'mhOsa',10250.125,6.8,60,615007.5,"
+            + ours + ')');
+        ReportControl report;
+        report.SetReportFileName(Paths::AppFolder.toString() + QStringLiteral("MilkSalesReceiptShenoli.rpt"));
+        report.SetLogon(Logon());
+        report.Print();
+    }
+
     // Prints a voucher with the longest words that an amount has.
     void PrintVoucher(
         const QString& templateName, const QString& debit, const QString& credit, const QString& narration)
@@ -204,6 +218,24 @@ TEST_F(ShippedTemplatesTest, ReceiptVoucherShowsWhatAMemberGivesBack)
             + values + ')');
     PrintVoucher("ReceiptVoucher", "raoK", NameOfMember("daonhI"), "]cala jamaa JaalaI.");
     CompareWithGolden("ReceiptVoucher");
+}
+
+TEST_F(ShippedTemplatesTest, MilkSalesReceiptShenoliHasAHalfForTheBuyerAndOneWithTheSocietysMeasure)
+{
+    PrintSalesReceipt("10251.5,8.75,6.85,57.25,586898.38");
+    CompareWithGolden("MilkSalesReceiptShenoli");
+    EXPECT_EQ(TheWindow.Shown.back()->PageCount(), 1U);
+    const QStringList texts = ReportTexts();
+    EXPECT_EQ(texts.count("615007.50"), 2);
+    EXPECT_EQ(texts.count("586898.38"), 1) << "not for the buyer";
+}
+
+TEST_F(ShippedTemplatesTest, MilkSalesReceiptShenoliIsSilentWhereTheSocietyHasNoMeasureOfItsOwn)
+{
+    PrintSalesReceipt("10250.125,0,0,0,0");
+    CompareWithGolden("MilkSalesReceiptShenoli without our measure");
+    EXPECT_EQ(TheWindow.Shown.back()->PageCount(), 1U);
+    EXPECT_FALSE(ReportTexts().contains("आपले मोजमाप"));
 }
 
 TEST_F(ShippedTemplatesTest, BankMilkPaymentShowsTheAccounts)
