@@ -20,6 +20,7 @@
 #include "reports/frmReportMilkPayments.h"
 #include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
+#include "sales/frmMilkSales.h"
 #include "utilities/frmAutoSettings.h"
 #include "vouchers/frmSelectInwards.h"
 #include "vouchers/frmUchalVouchers.h"
@@ -50,6 +51,7 @@ void RegisterScreens()
     Keys::Add(frmSelectInwards::KeyPlaces());
     Register<frmInstallment>();
     Register<frmNewMilkPayment>();
+    Register<frmMilkSales>();
     Keys::Add(frmReportPreview::KeyPlaces());
     Keys::Add(frmReportFile::KeyPlaces());
     Keys::Add(frmReportPrinter::KeyPlaces());

@@ -22,6 +22,8 @@ const QString ToTheBalances = QStringLiteral("{DOWN}{DOWN}{DOWN}{ENTER}{ENTER}")
 const QString ToTheInstallments = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
 const QString ToThePayments = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
 const QString ToOnePayment = QString(ToThePayments + QStringLiteral("{DOWN}{ENTER}{ENTER}"));
+const QString ToTheSales = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
+const QString ToASale = QString(ToTheSales + QStringLiteral("{ENTER}1{ENTER}"));
 const QString Yes = QStringLiteral("%h");
 
 void Execute(const char* statement)
@@ -99,6 +101,19 @@ const std::vector<Action>& Actions()
         {QStringLiteral("InstallmentsTicked"), ToThePayments + QStringLiteral("+{TAB}"), QStringLiteral(" ")},
         {QStringLiteral("NewInstallment"), ToTheInstallments + QStringLiteral("1{ENTER}{ENTER}50"),
             QStringLiteral("{ENTER}")},
+        {QStringLiteral("OpenedSales"), ToTheSales.chopped(7), QStringLiteral("{ENTER}")},
+        {QStringLiteral("OpenedShiftOfSales"), ToTheSales + QStringLiteral("{ENTER}1"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("NewSale"),
+            ToASale
+                + QStringLiteral(
+                    "{ENTER}ha{^}Tola{ENTER}1{ENTER}6.4{F9}6.5{ENTER}{ENTER}4.2{ENTER}33{ENTER}8.5"
+                    "{ENTER}{ENTER}4.1{ENTER}{ENTER}{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("ChangedSale"),
+            ToASale + QStringLiteral("{UP}{ENTER}{ENTER}{ENTER}9.5{ENTER}{ENTER}{ENTER}{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("DeletedSale"), ToASale + QStringLiteral("{UP}{ENTER}"), QStringLiteral("{F10}")},
         {QStringLiteral("NewMember"),
             ToTheMembers
                 + QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}1{ENTER}250.5{ENTER}{ENTER}"),
@@ -182,6 +197,15 @@ void FillBooks()
         "insert into CustomersMaster(CompanyId,CustomerNo,CustomerName,Animal,CustomerType,CowOpeningLits,"
         "CowClosingLits,BuffOpeningLits,BuffClosingLits) "
         "values(1,1,'ha^Tola','daonhI','sqaainak ivaËI',1000,123456.75,500.5,98765.25)");
+    for (const char* sale : {"1,'15/04/2026','sakaL','raoK',1,0,'raoK','gaaya',1.5,4.2,48,72,1.5,0,0,0,0)",
+             "1,'15/04/2026','sakaL','sqaainak ivaËI',2,1,'ha^Tola','mhOsa',12345.678,7.1,58,716049.32,12340,"
+             "8.5,7.2,48.25,595405)",
+             "1,'14/04/2026','sakaL','raoK',1,0,'raoK','mhOsa',2,7,58,116,2,0,0,0,0)"})
+        gCn.Execute(QStringLiteral("insert into MilkSales(CompanyId,SalesDate,SalesTime,SalesType,SalesNo,"
+                                   "CustomerNo,CustomerName,Animal,Liters,Fat,Rate,Amount,OurLiters,SNF,"
+                                   "OurFat,OurRate,OurAmount) values(")
+            + QString::fromUtf8(sale));
+    Execute("insert into MilkSalesTemp select * from MilkSales where SalesDate=#04/14/2026#");
     Execute("update AutoSettings set PurchaseEntry='Collection'");
     Execute("insert into "
             "MilkPayments(CompanyId,FromDate,ToDate,PaymentDate,TranId,MemberNo,MemberName,NetAmount) "

@@ -61,6 +61,8 @@ void WaitForTheSearch(Clerk& clerk)
 std::vector<ScreenState> All()
 {
     constexpr const char* line = "{ENTER}1{ENTER}{ENTER}3{ENTER}1{ENTER}5{ENTER}4.5{ENTER}{ENTER}";
+    constexpr const char* sale =
+        "{ENTER}1{ENTER}{ENTER}ha{^}Tola{ENTER}1{ENTER}10{ENTER}4.5{ENTER}{ENTER}{ENTER}";
     constexpr const char* advance =
         "%n15042026{ENTER}{ENTER}1{ENTER}{ENTER}KaV{ENTER}100{ENTER}{ENTER}]cala{ENTER}50{ENTER}";
     return {
@@ -116,6 +118,10 @@ std::vector<ScreenState> All()
         ByName("frmNewMilkPayment", "{DOWN}{ENTER}{ENTER}%n11042026{ENTER}{ENTER}1{ENTER}"),
         ByName("frmNewMilkPayment", "{DOWN}{ENTER}{ENTER}%n11042026{ENTER}{ENTER}1{ENTER}{F5}"),
         ByName("frmNewMilkPayment", "{DOWN}{ENTER}{ENTER}%k01042026{ENTER}1{ENTER}"),
+        ByName("frmMilkSales", ""),
+        ByName("frmMilkSales", "{ENTER}1{ENTER}{UP}"),
+        ByName("frmMilkSales", sale),
+        ByName("frmMilkSales", "{ENTER}1{ENTER}{ENTER}raoK{ENTER}1{ENTER}10{F9}10.5{ENTER} "),
         ByName("frmThevDate", ""),
         ByName("frmAutoSettings", ""),
         ByName("frmAutoSettings", "^{PGDN}"),

@@ -309,6 +309,21 @@ TEST_F(WantedOnEveryScreenTest, ThePayments)
     Expect("frmThevDate", "{BS}%s", "maskFromDate", "lblGuide", DateWanted);
 }
 
+TEST_F(WantedOnEveryScreenTest, TheSales)
+{
+    const auto expect = [this](const char* keys, const char* focus, const char* guide) {
+        Expect("frmMilkSales", keys, focus, "lblGuide", guide);
+    };
+    expect("31022026{ENTER}", "maskDate", DateWanted);
+    expect("{ENTER}{ENTER}", "maskDate", "Enter, मग वेळ निवडा : 1 सकाळ, 2 संध्याकाळ    Esc : बाहेर");
+    expect("{ENTER}1{ENTER}{ENTER}xyz{ENTER}", "ComboCustName",
+        "नाव टाका, किंवा ↓ ने यादीतून निवडा    Esc : यादी बंद, मग बाहेर");
+    expect("{ENTER}1{ENTER}{ENTER}raoK{ENTER}1{ENTER}{ENTER}", "txtLiters",
+        "लिटर टाका    F9 : आपण मोजलेले    Esc : बाहेर");
+    expect("{ENTER}1{ENTER}{ENTER}raoK{ENTER}1{ENTER}2{ENTER}4{ENTER}0{ENTER}", "txtRate",
+        "दर टाका : 0.01 ते 60.00    Esc : बाहेर");
+}
+
 TEST_F(WantedOnEveryScreenTest, TheReports)
 {
     Expect("frmReportMilkPS", "{ENTER}", "maskFromDate", "lblGuide", DateWanted);
