@@ -1,7 +1,5 @@
 #include "tests/support/FakeFileSystem.h"
 
-#include "platform/text/RunTimeError.h"
-
 #include <QDir>
 
 namespace {
@@ -24,21 +22,6 @@ QStringList Sorted(QStringList names)
     return names;
 }
 
-}
-
-void FakeFileSystem::CopyFile(const QString& from, const QString& to, const Check& check)
-{
-    const QString source = AbsolutePath(from);
-    const QString target = AbsolutePath(to);
-    if (!Refusal.isEmpty())
-        throw RunTimeError(RunTimeError::FileAccess, Refusal);
-    if (!Contents.contains(source))
-        throw RunTimeError(RunTimeError::FileNotFound, source);
-    if (source == target || !HasFolder(FolderOf(target)))
-        throw RunTimeError(RunTimeError::FileAccess, target);
-    if (check)
-        check(target);
-    Contents[target] = Contents[source];
 }
 
 bool FakeFileSystem::CreateFolder(const QString& path)

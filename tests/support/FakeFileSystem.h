@@ -12,9 +12,7 @@ public:
         {QStringLiteral("C:\\"), DriveKind::Fixed}}; // of the drives, by their roots
     QStringList MadeFolders; // besides the roots of the drives
     QMap<QString, QByteArray> Contents; // of the files, by their paths
-    QString Refusal; // what the next copies fail with; empty lets them succeed
 
-    void CopyFile(const QString& from, const QString& to, const Check& check = {}) override;
     bool CreateFolder(const QString& path) override;
     bool HasFolder(const QString& path) const override;
     QStringList Folders(const QString& path) const override;

@@ -1,10 +1,14 @@
 #include "tests/support/FaultyDisk.h"
 
+#include "platform/database/Disk.h"
 #include "tests/support/WatchedDisk.h"
 
 #include <sqlcipher/sqlite3.h>
 
+#include <QFile>
+
 #include <csignal>
+#include <functional>
 #include <limits>
 #include <unistd.h>
 
@@ -47,12 +51,51 @@ public:
     bool HasRoomForAnIndex() override { return g_hasRoomForAnIndex; }
 };
 
+// The same for what is copied without the engine.
+class FailingFiles final : public Disk {
+public:
+    std::error_code Write(QFile& file, const QByteArray& bytes) override
+    {
+        return Change(
+            [&] { return Disk::Write(file, bytes); }, [&] { file.write(bytes.left(bytes.size() / 2)); });
+    }
+    std::error_code Sync(const QString& path) override
+    {
+        return Change([&] { return Disk::Sync(path); });
+    }
+    std::error_code Copy(const QString& file, const QString& name) override
+    {
+        return Change([&] { return Disk::Copy(file, name); });
+    }
+    std::error_code Move(const QString& from, const QString& to) override
+    {
+        return Change([&] { return Disk::Move(from, to); });
+    }
+
+private:
+    // `half` is what a kill leaves of it.
+    static std::error_code Change(
+        const std::function<std::error_code()>& make, const std::function<void()>& half = [] {})
+    {
+        ++g_count;
+        if (g_count >= g_killAt) {
+            half();
+            Die();
+        }
+        if (g_count >= g_brokenFrom)
+            return std::make_error_code(std::errc::io_error);
+        return g_count >= g_fullFrom ? std::make_error_code(std::errc::no_space_on_device) : make();
+    }
+};
+
 }
 
 void FaultyDisk::Install()
 {
     static FailingWatcher watcher;
+    static FailingFiles files;
     WatchedDisk::Install(watcher);
+    Disk::Use(&files);
 }
 
 void FaultyDisk::Reset()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/setup/Disk.h"
+#include "platform/database/Disk.h"
 
 #include <QStringList>
 

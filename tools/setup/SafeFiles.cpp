@@ -1,7 +1,7 @@
 #include "tools/setup/SafeFiles.h"
 
+#include "platform/database/Disk.h"
 #include "platform/text/RunTimeError.h"
-#include "tools/setup/Disk.h"
 
 #include <QDir>
 #include <QFile>

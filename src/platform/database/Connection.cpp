@@ -42,7 +42,7 @@ QStringList Connection::Open(const QString& connectionString, const OpeningPlan&
     Close();
     const bool isFirst = !BooksOnDisk::AreOpen(target.file);
     const OpenedFile opened = DatabaseFile::Open(target.file, target.password, plan);
-    m_d = std::make_unique<Private>(opened);
+    Hold(opened);
     if (isFirst)
         m_d->Fold();
     return opened.notes;
@@ -60,8 +60,15 @@ qint64 Connection::LogSize() const
 
 void Connection::SetWritten(std::function<void()> written)
 {
+    m_written = std::move(written);
     if (m_d)
-        m_d->SetWritten(std::move(written));
+        m_d->SetWritten(m_written);
+}
+
+void Connection::Hold(const OpenedFile& opened)
+{
+    m_d = std::make_unique<Private>(opened);
+    m_d->SetWritten(m_written);
 }
 
 void Connection::SetWorking(std::function<void()> working)
@@ -90,7 +97,7 @@ int Connection::Execute(const QString& statement)
 void Connection::Create(const QString& file, const QString& password)
 {
     Close();
-    m_d = std::make_unique<Private>(DatabaseFile::Create(file, password));
+    Hold(DatabaseFile::Create(file, password));
 }
 
 void Connection::RunScript(const QString& script)

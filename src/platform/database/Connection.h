@@ -36,7 +36,8 @@ public:
     // The size of the log in bytes; 0 if everything is in the database file.
     qint64 LogSize() const;
 
-    // Sets a function that is called after each committed transaction.
+    // Sets a function that is called after each committed transaction, also when it was closed and opened
+    // again.
     void SetWritten(std::function<void()> written);
 
     // Sets a function that is called every few milliseconds while Execute works on a statement. It must not
@@ -60,5 +61,8 @@ public:
     Private* d() const { return m_d.get(); }
 
 private:
+    void Hold(const OpenedFile& opened);
+
     std::unique_ptr<Private> m_d;
+    std::function<void()> m_written;
 };

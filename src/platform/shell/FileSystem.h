@@ -3,8 +3,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
-
 // Drives, folders and files, named by Windows paths on every machine: "C:\Tarvel01\Vetrolan\Backup". A path
 // without a drive is relative to AppFolder. "." and ".." are resolved but never lead out of the drive, and
 // '/' may be written for '\'.
@@ -12,17 +10,7 @@ class FileSystem {
 public:
     enum class DriveKind { Unknown, Removable, Fixed, Network, Optical, Memory };
 
-    // Checks a finished copy, given by its path on this machine, before it replaces the target. If it throws,
-    // the target stays as it was.
-    using Check = std::function<void(const QString& localCopy)>;
-
     virtual ~FileSystem() = default;
-
-    // Copies a file and replaces the target, if there is one. Afterwards either the whole copy is on the
-    // disk, or the target is as it was. Only the owner may read the copy. It is a RunTimeError if the source
-    // or the target's folder doesn't exist, the disk is full, both paths name the same file, or either of
-    // them is a database that this process has open: its connection must be closed first.
-    virtual void CopyFile(const QString& from, const QString& to, const Check& check = {}) = 0;
 
     // Makes a folder; its parent must exist. Returns whether the folder exists afterwards: false if the
     // machine refuses the name.

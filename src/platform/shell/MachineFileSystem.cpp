@@ -1,26 +1,17 @@
 #include "platform/shell/MachineFileSystem.h"
 
-#include "platform/database/BooksOnDisk.h"
-#include "platform/database/FileState.h"
 #include "platform/shell/AppFolder.h"
-#include "platform/text/RunTimeError.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QScopeGuard>
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
 #else
 #include <QStorageInfo>
-
-#include <fcntl.h>
-#include <unistd.h>
 #endif
 
 namespace {
@@ -28,56 +19,6 @@ namespace {
 QString Local(const QString& path)
 {
     return LocalPath(FileSystem::AbsolutePath(path));
-}
-
-[[noreturn]] void ThrowNotCopied(const QString& file, const QString& why)
-{
-    throw RunTimeError(RunTimeError::FileAccess,
-        Sentences(u"फाइलची प्रत करता आली नाही. डिस्कवर जागा आहे का ते पाहा.",
-            QStringLiteral("%1 could not be copied: %2").arg(QDir::toNativeSeparators(file), why)));
-}
-
-// While the database engine has a file open, nobody else may open it: closing it would drop the engine's
-// locks.
-void RequireClosed(const QString& file)
-{
-    if (BooksOnDisk::AreReachedBy(file))
-        throw RunTimeError(RunTimeError::FileAccess,
-            Sentences(u"हिशेबाची वही उघडी आहे; तिची प्रत करता येत नाही.",
-                QStringLiteral("%1 belongs to books that are open.").arg(QDir::toNativeSeparators(file))));
-}
-
-// Whether both names lead to the same file.
-bool IsOneFile(const QString& first, const QString& second)
-{
-    const QString canonical = QFileInfo(first).canonicalFilePath();
-    return canonical == QFileInfo(second).canonicalFilePath() && !canonical.isEmpty();
-}
-
-void CopyBytes(QFile& source, QFile& target)
-{
-    constexpr qint64 pieceSize = 1 << 20;
-    while (!source.atEnd()) {
-        const QByteArray piece = source.read(pieceSize);
-        if (piece.isEmpty())
-            ThrowNotCopied(source.fileName(), source.errorString());
-        if (target.write(piece) != piece.size())
-            ThrowNotCopied(source.fileName(), target.errorString());
-    }
-    if (!target.flush() || !SyncToDisk(target))
-        ThrowNotCopied(source.fileName(), target.errorString());
-}
-
-// Writes the names in a folder through to the disk. File systems that can't do this are left as they are.
-void SyncFolder([[maybe_unused]] const QString& folder)
-{
-#ifndef Q_OS_WIN
-    const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0)
-        return;
-    fsync(handle);
-    close(handle);
-#endif
 }
 
 #ifndef Q_OS_WIN
@@ -97,43 +38,6 @@ bool IsRemovable(const QByteArray& device)
 }
 #endif
 
-}
-
-void MachineFileSystem::CopyFile(const QString& from, const QString& to, const Check& check)
-{
-    const QString source = Local(from);
-    const QString target = Local(to);
-    RequireClosed(source);
-    RequireClosed(target);
-    if (!QFileInfo(source).isFile())
-        throw RunTimeError(RunTimeError::FileNotFound,
-            Sentences(u"फाइल सापडली नाही.",
-                QStringLiteral("%1 is not there.").arg(QDir::toNativeSeparators(source))));
-    if (IsOneFile(source, target))
-        ThrowNotCopied(source, QStringLiteral("it is its own target."));
-
-    QFile reading(source);
-    if (!reading.open(QIODevice::ReadOnly))
-        ThrowNotCopied(source, reading.errorString());
-    QFile copy(target + QStringLiteral(".part")); // overwrites one that a power cut left behind
-    auto leavings = qScopeGuard([&copy] {
-        copy.close();
-        QFile::remove(copy.fileName()); // copy.remove() would give up if closing fails
-    });
-    if (!copy.open(QIODevice::WriteOnly, QFileDevice::ReadOwner | QFileDevice::WriteOwner))
-        ThrowNotCopied(source, copy.errorString());
-    CopyBytes(reading, copy);
-    copy.close();
-    if (check)
-        check(copy.fileName());
-
-    std::error_code failure;
-    std::filesystem::rename(
-        QFileInfo(copy.fileName()).filesystemFilePath(), QFileInfo(target).filesystemFilePath(), failure);
-    if (failure)
-        ThrowNotCopied(source, QString::fromLocal8Bit(failure.message().c_str()));
-    leavings.dismiss();
-    SyncFolder(QFileInfo(target).path());
 }
 
 bool MachineFileSystem::CreateFolder(const QString& path)

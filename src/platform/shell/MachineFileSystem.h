@@ -8,7 +8,6 @@
 // to where a disk is mounted.
 class MachineFileSystem final : public FileSystem {
 public:
-    void CopyFile(const QString& from, const QString& to, const Check& check = {}) override;
     bool CreateFolder(const QString& path) override;
     bool HasFolder(const QString& path) const override;
     QStringList Folders(const QString& path) const override;

@@ -210,6 +210,21 @@ TEST_F(ConnectionTest, CountsTheRowsThatItChanges)
     EXPECT_EQ(Run("Delete * From CityMaster;"), 3);
 }
 
+TEST_F(ConnectionTest, WhoeverListensToTheSavesStillDoesWhenItIsOpenedAgain)
+{
+    int saves = 0;
+    connection.SetWritten([&] { ++saves; });
+    Run("insert into CityMaster(CompanyId,CityName) values(1,'a')");
+    EXPECT_EQ(saves, 1);
+    connection.Close();
+    Open();
+    Run("insert into CityMaster(CompanyId,CityName) values(1,'b')");
+    EXPECT_EQ(saves, 2);
+    connection.SetWritten({});
+    Run("insert into CityMaster(CompanyId,CityName) values(1,'c')");
+    EXPECT_EQ(saves, 2);
+}
+
 TEST_F(ConnectionTest, CarriesTheFailedStatementInTheError)
 {
     try {

@@ -1,12 +1,14 @@
-#include "tools/setup/Disk.h"
+#include "platform/database/Disk.h"
+
+#include "platform/database/FileState.h"
 
 #include <QFile>
+#include <QFileInfo>
 
+#include <cerrno>
 #include <filesystem>
 
 #ifdef Q_OS_UNIX
-#include <cerrno>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -37,6 +39,14 @@ bool IsFolderThatNeedsNone(int handle, const std::error_code& failed)
 
 }
 
+std::error_code Disk::Write(QFile& file, const QByteArray& bytes)
+{
+    errno = 0;
+    if (file.write(bytes) == bytes.size())
+        return {};
+    return {errno == 0 ? EIO : errno, std::generic_category()};
+}
+
 std::error_code Disk::Sync(const QString& path)
 {
 #ifdef Q_OS_UNIX
@@ -49,8 +59,11 @@ std::error_code Disk::Sync(const QString& path)
     ::close(handle);
     return failed;
 #else
-    Q_UNUSED(path)
-    return {};
+    if (QFileInfo(path).isDir()) // its names are written in order
+        return {};
+    QFile file(path);
+    const bool synced = file.open(QIODevice::ReadWrite) && SyncToDisk(file);
+    return synced ? std::error_code() : std::make_error_code(std::errc::io_error);
 #endif
 }
 

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <system_error>
+
+class QFile;
 
 // The changes to a disk that safe writing needs. Each returns an error code. Tests replace it by a disk that
 // fails.
@@ -12,6 +15,9 @@ public:
     virtual ~Disk() = default;
     Disk(const Disk&) = delete;
     Disk& operator=(const Disk&) = delete;
+
+    // Writes the next bytes of a file that is open without a buffer.
+    virtual std::error_code Write(QFile& file, const QByteArray& bytes);
 
     // When this returns, the content of a file, or the names in a folder, are on the disk.
     virtual std::error_code Sync(const QString& path);
