@@ -7,6 +7,7 @@
 #include "platform/database/Sql.h"
 #include "platform/forms/Layout.h"
 #include "platform/forms/Look.h"
+#include "platform/shell/World.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
 
@@ -25,6 +26,21 @@ struct Shift {
 };
 constexpr Shift Shifts[] = {{Word::Morning, "lblMorningLiters", "lblMorningAmount"},
     {Word::Evening, "lblEveningLiters", "lblEveningAmount"}};
+
+constexpr qint64 DaysUntilBackup = 7;
+
+// A day to come is a clock that was put back.
+QString BackupLine(QDate made, qint64 days)
+{
+    if (days >= DaysUntilBackup)
+        return QStringLiteral("बॅकअप %1 दिवस जुना आहे; नवीन घ्या").arg(days);
+    QString age;
+    if (days == 0)
+        age = QStringLiteral(", आज");
+    else if (days > 0)
+        age = days == 1 ? QStringLiteral(", काल") : QStringLiteral(", %1 दिवसांपूर्वी").arg(days);
+    return QStringLiteral("शेवटचा बॅकअप  ") + DateText(made) + age;
+}
 
 // A label whose text Show sets; tests find it by its name.
 QLabel* Told(const char* name, Qt::Alignment align, bool bold)
@@ -110,7 +126,11 @@ void DayAtAGlance::ShowPayment()
 void DayAtAGlance::ShowBackup()
 {
     const QString newest = NewestBackup();
-    m_backup->setText(newest.isEmpty()
-            ? QStringLiteral("बॅकअप अजून घेतलेला नाही")
-            : QStringLiteral("शेवटचा बॅकअप  ") + DateText(QFileInfo(newest).lastModified().date()));
+    const QDate made = QFileInfo(newest).lastModified().date();
+    const qint64 days =
+        newest.isEmpty() ? DaysUntilBackup : made.daysTo(World::Current().clock->Now().date());
+    m_backup->setText(newest.isEmpty() ? QStringLiteral("बॅकअप अजून घेतलेला नाही") : BackupLine(made, days));
+    QPalette ink = m_backup->palette();
+    ink.setColor(QPalette::WindowText, QColor(days >= DaysUntilBackup ? Look::GuideInk : Look::Ink));
+    m_backup->setPalette(ink);
 }

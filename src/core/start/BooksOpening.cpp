@@ -1,14 +1,14 @@
 #include "core/start/BooksOpening.h"
 
+#include "backups/BooksCopies.h"
 #include "core/messages/Messages.h"
 #include "core/start/CheckingLine.h"
 #include "core/state/AppState.h"
 #include "platform/database/CheckedNote.h"
+#include "platform/report/ReportControl.h"
 #include "platform/shell/AppFolder.h"
 #include "platform/shell/World.h"
 #include "platform/text/RunTimeError.h"
-
-#include <QDir>
 
 #include <optional>
 #include <utility>
@@ -47,6 +47,18 @@ void OpenBooks()
         ShowPlain(note);
 }
 
+void ReopenBooks()
+{
+    for (const QString& note : gCn.Open(Logon()))
+        ShowPlain(note);
+}
+
+void CloseBooks()
+{
+    ReportControl::CloseConnections();
+    gCn.Close();
+}
+
 void CheckNextOpening()
 {
     g_checksNext = true;
@@ -54,7 +66,5 @@ void CheckNextOpening()
 
 QString NewestBackup()
 {
-    const QDir folder(LocalAppFile(u"Backup"));
-    const QStringList copies = folder.entryList({QStringLiteral("*.mdb")}, QDir::Files, QDir::Time);
-    return copies.isEmpty() ? QString() : folder.filePath(copies.first());
+    return BooksCopies::Newest(LocalPath(Paths::AppFolder));
 }

@@ -1,6 +1,8 @@
 #include "tests/core/ScreenFace.h"
 #include "tests/core/menu/MenuTest.h"
 
+#include "platform/forms/Look.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -88,7 +90,27 @@ TEST_F(DayAtAGlanceTest, TheNewestCopyOfTheBooksTellsTheLastBackup)
     KeepCopy("first.mdb", QDateTime(QDate(2026, 4, 1), QTime(18, 0)));
     KeepCopy("second.mdb", QDateTime(QDate(2026, 4, 9), QTime(18, 0)));
     KeepCopy("note.txt", QDateTime(QDate(2026, 4, 12), QTime(18, 0)));
-    Menu([](Clerk& clerk) { EXPECT_EQ(LabelOf(clerk, "lblLastBackup"), "शेवटचा बॅकअप  09/04/2026"); });
+    Menu([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblLastBackup"), "शेवटचा बॅकअप  09/04/2026, 6 दिवसांपूर्वी");
+    });
+}
+
+TEST_F(DayAtAGlanceTest, TheAgeOfTheBackupIsToldAndAfterSevenDaysThatItIsOld)
+{
+    const std::initializer_list<std::pair<int, const char*>> ages = {{16, "शेवटचा बॅकअप  16/04/2026"},
+        {15, "शेवटचा बॅकअप  15/04/2026, आज"}, {14, "शेवटचा बॅकअप  14/04/2026, काल"},
+        {13, "शेवटचा बॅकअप  13/04/2026, 2 दिवसांपूर्वी"}, {9, "शेवटचा बॅकअप  09/04/2026, 6 दिवसांपूर्वी"},
+        {8, "बॅकअप 7 दिवस जुना आहे; नवीन घ्या"}, {1, "बॅकअप 14 दिवस जुना आहे; नवीन घ्या"}};
+    for (const auto& [day, line] : ages) {
+        KeepCopy("copy.mdb", QDateTime(QDate(2026, 4, day), QTime(18, 0)));
+        Menu([line = line, isOld = day <= 8](Clerk& clerk) {
+            EXPECT_EQ(LabelOf(clerk, "lblLastBackup"), QString::fromUtf8(line));
+            const auto* label = clerk.Top().findChild<QLabel*>("lblLastBackup");
+            EXPECT_EQ(
+                label->palette().color(QPalette::WindowText), QColor(isOld ? Look::GuideInk : Look::Ink))
+                << line;
+        });
+    }
 }
 
 TEST_F(DayAtAGlanceTest, WithoutACopyItIsSaid)
