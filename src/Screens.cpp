@@ -22,6 +22,7 @@
 #include "reports/frmReportPaymentList.h"
 #include "sales/frmMilkSales.h"
 #include "utilities/frmAutoSettings.h"
+#include "utilities/frmBackup.h"
 #include "vouchers/frmSelectInwards.h"
 #include "vouchers/frmUchalVouchers.h"
 
@@ -61,6 +62,7 @@ void RegisterScreens()
     Register<frmReportPaymentList>();
     Register<frmReportMilkPayments>();
     Register<frmReportMilkPaymentsRegister>();
+    Register<frmBackup>();
     Register<frmAutoSettings>();
     Register<frmThevDate>();
 }

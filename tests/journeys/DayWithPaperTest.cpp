@@ -125,8 +125,7 @@ protected:
 
     static void Leave(Clerk& clerk)
     {
-        while (clerk.ScreenName() == u"MainMenuFrm")
-            Type(clerk, "{ESC}");
+        clerk.AskToLeave();
         EXPECT_EQ(clerk.Message(), "saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ");
         Type(clerk, "%h");
         EXPECT_EQ(OnTop(clerk), "");

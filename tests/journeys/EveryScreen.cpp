@@ -123,6 +123,8 @@ std::vector<ScreenState> All()
         ByName("frmMilkSales", sale),
         ByName("frmMilkSales", "{ENTER}1{ENTER}{ENTER}raoK{ENTER}1{ENTER}10{F9}10.5{ENTER} "),
         ByName("frmThevDate", ""),
+        ByName("frmBackup", ""),
+        ByName("frmBackup", "2{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}"),
         ByName("frmAutoSettings", ""),
         ByName("frmAutoSettings", "^{PGDN}"),
         ByName("frmAutoSettings", "^{PGDN}^{PGDN}{ENTER}"),

@@ -225,7 +225,8 @@ TEST_F(MashedKeysTest, EnterHeldDownFromTheTitleOnWritesNothing)
         EXPECT_NE(OnTop(clerk), "");
         while (!clerk.ScreenName().isEmpty() && clerk.ScreenName() != u"MainMenuFrm")
             Type(clerk, clerk.ScreenName() == u"frmMessages" ? "{ENTER}" : "{ESC}");
-        Type(clerk, "{ESC}{ESC}%h");
+        clerk.AskToLeave();
+        Type(clerk, "%h");
     });
     EXPECT_EQ(exitCode, 0);
     Reopen();

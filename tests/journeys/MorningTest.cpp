@@ -123,7 +123,8 @@ protected:
 
     static void Leave(Clerk& clerk)
     {
-        Type(clerk, "{ESC}{ESC}{ESC}");
+        Type(clerk, "{ESC}");
+        clerk.AskToLeave();
         EXPECT_EQ(clerk.Message(), "saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ");
         Type(clerk, "%h");
         EXPECT_EQ(OnTop(clerk), "");

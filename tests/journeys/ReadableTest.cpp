@@ -12,6 +12,9 @@
 #include "platform/forms/DataGrid.h"
 #include "platform/text/Shivaji01.h"
 #include "rates/frmNewFatRates.h"
+#include "utilities/frmBackup.h"
+
+#include <QFile>
 
 ReadableTest::ReadableTest()
 {
@@ -169,11 +172,41 @@ TEST_F(ReadableTest, TheMenuWithEachOfItsLists)
 TEST_F(ReadableTest, TheQuestionOfTheEnd)
 {
     Start([](Clerk& clerk) {
-        clerk.Type(OpeningKeys() + "{ESC}");
+        clerk.Type(OpeningKeys());
+        clerk.AskToLeave();
         EXPECT_EQ(OnTop(clerk), "frmMessages");
         ExpectReadable(clerk, "leaving");
         Type(clerk, "%h");
     });
+}
+
+TEST_F(ReadableTest, TheMenuWithAnOldBackup)
+{
+    QFile copy(FolderFile("Backup/Morvelta.mdb"));
+    ASSERT_TRUE(copy.open(QIODevice::WriteOnly));
+    for (const int days : {3, 365}) {
+        copy.setFileTime(TheClock.Time.addDays(-days), QFileDevice::FileModificationTime);
+        Start([days](Clerk& clerk) {
+            clerk.Type(OpeningKeys());
+            EXPECT_NE(Label(clerk, "lblLastBackup").find(std::to_string(days)), std::string::npos);
+            ExpectReadable(clerk, "with an old backup");
+        });
+    }
+}
+
+TEST_F(ReadableTest, TheBackupAtEachFieldAndBehindACopy)
+{
+    On<frmBackup>([](Clerk& clerk) {
+        ExpectReadable(clerk, "as it opens");
+        WalkAndLook(clerk, "walking");
+        Press(clerk, "cmdBackup");
+        EXPECT_NE(Label(clerk, "lblContent"), "");
+        ExpectReadable(clerk, "behind a copy");
+        clerk.Do([&] { clerk.Top().Find(u"cmdRestore")->SetFocus(); });
+        ExpectReadable(clerk, "before a restore");
+        Type(clerk, "{ESC}");
+    });
+    EXPECT_FALSE(Failure);
 }
 
 TEST_F(ReadableTest, TheKeyboardTutor)

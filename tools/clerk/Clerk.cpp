@@ -152,6 +152,14 @@ void Clerk::TypeAhead(const QString& keys)
     });
 }
 
+void Clerk::AskToLeave()
+{
+    while (ScreenName() == u"MainMenuFrm")
+        Type(QStringLiteral("{ESC}"));
+    if (ScreenName() == u"frmBackup")
+        Type(QStringLiteral("{ESC}"));
+}
+
 void Clerk::Press(const QString& control)
 {
     Do([this, control] {

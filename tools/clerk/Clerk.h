@@ -33,6 +33,9 @@ public:
     // to the screen that is on top by then. Returns when the program is at rest.
     void TypeAhead(const QString& keys);
 
+    // From the menu to the question whether to leave the program, past the backup that is offered.
+    void AskToLeave();
+
     // Clicks a control of the screen on top; in a list its current row.
     void Press(const QString& control);
 

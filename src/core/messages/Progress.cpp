@@ -58,9 +58,9 @@ void Progress::Begin(int rows)
 
 // Painted no more often than the eye can follow: a run of ten thousand rows must not wait for as many
 // paintings.
-void Progress::Step()
+void Progress::StepTo(int rows)
 {
-    ++m_done;
+    m_done = rows;
     const auto percent = static_cast<int>(std::int64_t{m_done} * 100 / std::max(m_rows, 1));
     if (m_rows <= 0)
         return;

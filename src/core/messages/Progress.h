@@ -15,7 +15,10 @@ public:
     void Begin(int rows);
 
     // Another row is done.
-    void Step();
+    void Step() { StepTo(m_done + 1); }
+
+    // So many rows are done.
+    void StepTo(int rows);
 
     // Hides it.
     void End();

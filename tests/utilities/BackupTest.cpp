@@ -1,0 +1,377 @@
+#include "tests/utilities/BackupTest.h"
+
+#include "core/start/BooksKeeper.h"
+#include "core/start/BooksOpening.h"
+#include "platform/database/DatabaseFile.h"
+#include "platform/database/Disk.h"
+#include "platform/forms/ModalStack.h"
+#include "platform/report/ReportBooks.h"
+#include "tests/support/BooksFile.h"
+
+#include <QFile>
+#include <QKeyEvent>
+#include <QLabel>
+
+namespace {
+
+TEST_F(BackupTest, ItOpensOnARegularBackupInTheDefaultFolderWithTheDatedName)
+{
+    gAppState.gBackupFolder = "D:\\";
+    OnBackup([](Clerk& clerk) {
+        EXPECT_EQ(Reads(clerk, "cmbBackupType"), "rogyaular");
+        EXPECT_EQ(Name(clerk), DatedCopy);
+        EXPECT_EQ(gAppState.gBackupFolder.toStdString(), Folder);
+        EXPECT_EQ(Reads(clerk, "cmdBackup"), "ba^k Ap\\");
+        EXPECT_EQ(Reads(clerk, "cmdRestore"), "rIsTaoAr");
+        EXPECT_EQ(Reads(clerk, "cmdExit"), "&baahor");
+        EXPECT_EQ(Focus(clerk), "cmbBackupType");
+    });
+}
+
+TEST_F(BackupTest, ARegularBackupWritesThePlainNameAndLeavesTheConnectionClosed)
+{
+    OnBackup([](Clerk& clerk) {
+        Type(clerk, "{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "frmBackup") << "no question, no message";
+        EXPECT_FALSE(gCn.IsOpen());
+        EXPECT_TRUE(Bytes(PlainCopy) == Bytes(Books));
+        EXPECT_EQ(FilesIn(Folder), QStringList("Morvelta.mdb"));
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(OnTop(clerk), "");
+        EXPECT_TRUE(gCn.IsOpen());
+    });
+    EXPECT_TRUE(TheBox.Shown.isEmpty());
+}
+
+TEST_F(BackupTest, ItSaysInOneLineWhatLiesInTheCopy)
+{
+    AddMember(2, "saIta");
+    Run("insert into MilkCollections(CompanyId,CollectionDate,MemberNo) values(1,'14/04/2026',1)");
+    Run("insert into MilkPayments(CompanyId,MemberNo) values(1,1)");
+    OnBackup([](Clerk& clerk) {
+        EXPECT_EQ(Label(clerk, "lblContent"), "");
+        BackUp(clerk);
+        EXPECT_EQ(Label(clerk, "lblContent"), "बॅकअपमध्ये : दूध संकलन 1, मेम्बर 2, पेमेंट 1, शेवटचा दिवस 14/04/2026");
+    });
+}
+
+TEST_F(BackupTest, WhatWasSavedLastIsInTheCopyThoughItStandsInTheLog)
+{
+    AddMember(2, "saIta");
+    ASSERT_GT(gCn.LogSize(), 0);
+    OnBackup([](Clerk& clerk) { BackUp(clerk); });
+    QFile::remove(FolderFile("Morvelta.mdb"));
+    ASSERT_TRUE(QFile::copy(FolderFile("Backup/Morvelta.mdb"), FolderFile("Morvelta.mdb")));
+    gCn.Close();
+    EXPECT_EQ(Members(), 2);
+}
+
+TEST_F(BackupTest, TheConnectionOfTheReportsIsClosedToo)
+{
+    ReportBooks::Current().Prepare(Logon());
+    OnBackup([](Clerk& clerk) {
+        BackUpAsHistory(clerk);
+        EXPECT_EQ(FilesIn(Folder), QStringList("Morvelta On 15 April 2026.mdb"));
+    });
+}
+
+TEST_F(BackupTest, AnotherRegularBackupTakesThePlaceOfTheOlder)
+{
+    OnBackup([this](Clerk& clerk) {
+        BackUp(clerk);
+        const QByteArray older = Bytes(PlainCopy);
+        clerk.Do([this] {
+            ReopenBooks();
+            AddMember(2, "saIta");
+        });
+        BackUp(clerk);
+        EXPECT_TRUE(Bytes(PlainCopy) == Bytes(Books));
+        EXPECT_FALSE(Bytes(PlainCopy) == older);
+        EXPECT_EQ(FilesIn(Folder), QStringList("Morvelta.mdb"));
+    });
+}
+
+TEST_F(BackupTest, AHistoryBackupWritesTheDatedNameAndOpensTheConnection)
+{
+    OnBackup([this](Clerk& clerk) {
+        BackUpAsHistory(clerk);
+        EXPECT_EQ(OnTop(clerk), "frmBackup");
+        EXPECT_TRUE(gCn.IsOpen());
+        EXPECT_EQ(FilesIn(Folder), QStringList("Morvelta On 15 April 2026.mdb"));
+        EXPECT_EQ(Reads(clerk, "File1"), "Morvelta On 15 April 2026.mdb");
+        const QByteArray first = Bytes(DatedCopy);
+        clerk.Do([this] { AddMember(2, "saIta"); });
+        BackUp(clerk);
+        EXPECT_EQ(FilesIn(Folder).size(), 1) << "the same day's second copy goes over the first";
+        EXPECT_FALSE(Bytes(DatedCopy) == first);
+    });
+    EXPECT_TRUE(TheBox.Shown.isEmpty());
+}
+
+TEST_F(BackupTest, AnEmptyNameIsRefusedOnceAndThenWorksSinceItWasMadeAnew)
+{
+    OnBackup([this](Clerk& clerk) {
+        SetName(clerk, {});
+        BackUp(clerk);
+        EXPECT_EQ(TheBox.Shown, QStringList("Please check the filename"));
+        EXPECT_EQ(Name(clerk), DatedCopy);
+        EXPECT_EQ(FilesIn(Folder), QStringList());
+        BackUp(clerk);
+        EXPECT_EQ(FilesIn(Folder), QStringList("Morvelta.mdb"));
+        EXPECT_EQ(TheBox.Shown.size(), 1);
+    });
+}
+
+TEST_F(BackupTest, AnyTypeButHistoryIsRegular)
+{
+    OnBackup([](Clerk& clerk) {
+        Type(clerk, "{BS}");
+        EXPECT_EQ(Reads(clerk, "cmbBackupType"), "");
+        BackUp(clerk);
+        EXPECT_EQ(Reads(clerk, "cmbBackupType"), "rogyaular");
+        EXPECT_EQ(FilesIn(Folder), QStringList("Morvelta.mdb"));
+    });
+}
+
+TEST_F(BackupTest, OnlyAFixedDiskOrANetworkFolderGetsARegularBackup)
+{
+    using Kind = FileSystem::DriveKind;
+    for (const Kind kind :
+        {Kind::Fixed, Kind::Network, Kind::Removable, Kind::Optical, Kind::Memory, Kind::Unknown}) {
+        Drives.Kinds["D:\\"] = kind;
+        const bool isTrusted = kind == Kind::Fixed || kind == Kind::Network;
+        OnBackup([&](Clerk& clerk) {
+            OpenDrive(clerk, "D:\\");
+            EXPECT_EQ(gAppState.gBackupFolder, "D:\\");
+            BackUp(clerk);
+            EXPECT_EQ(gAppState.gBackupFolder.toStdString(), isTrusted ? "D:\\" : Folder);
+            EXPECT_EQ(Name(clerk), "D:\\") << "the name isn't changed";
+            EXPECT_EQ(Label(clerk, "lblContent").starts_with(isTrusted ? "बॅकअपमध्ये" : Folder), true);
+            EXPECT_EQ(Reads(clerk, "File1"), isTrusted ? "Morvelta.mdb" : "");
+            Type(clerk, "{ESC}");
+        });
+        EXPECT_EQ(IsThere("D:\\Morvelta.mdb"), isTrusted) << static_cast<int>(kind);
+        EXPECT_EQ(IsThere(PlainCopy), !isTrusted) << static_cast<int>(kind);
+        for (const char* copy : {"Backup/Morvelta.mdb", "../../../drive_d/Morvelta.mdb"})
+            QFile::remove(FolderFile(copy));
+    }
+}
+
+// A history backup goes by the name alone, which isn't changed.
+TEST_F(BackupTest, AHistoryBackupGoesWhereItsNameSays)
+{
+    Drives.Kinds["D:\\"] = FileSystem::DriveKind::Removable;
+    MakeFolder("D:\\milk");
+    OnBackup([](Clerk& clerk) {
+        OpenDrive(clerk, "D:\\");
+        OpenFolder(clerk, "milk");
+        BackUpAsHistory(clerk);
+    });
+    EXPECT_EQ(FilesIn("D:\\milk"), QStringList("Morvelta On 15 April 2026.mdb"));
+}
+
+TEST_F(BackupTest, AtADrivesRootAHistoryBackupGetsTheYearsName)
+{
+    MakeFolder("D:\\milk");
+    OnBackup([](Clerk& clerk) {
+        OpenDrive(clerk, "D:\\");
+        OpenFolder(clerk, "milk");
+        OpenFolder(clerk, "D:\\");
+        EXPECT_EQ(Name(clerk), "D:\\\\Morvelta On 15 April 2026.mdb");
+        BackUpAsHistory(clerk);
+    });
+    EXPECT_EQ(FilesIn("D:\\"), QStringList("Y2026-2027C1.mdb"));
+}
+
+TEST_F(BackupTest, AtADrivesRootARegularBackupHasThePlainName)
+{
+    OnBackup([](Clerk& clerk) {
+        OpenDrive(clerk, "D:\\");
+        BackUp(clerk);
+    });
+    EXPECT_EQ(FilesIn("D:\\"), QStringList("Morvelta.mdb"));
+}
+
+TEST_F(BackupTest, TheCompanyAndTheYearOfTheBooksAreReadAnew)
+{
+    Run("update CompanySelected set CompanyId=7,AccountingYear='2030-2031'");
+    EXPECT_EQ(gAppState.gCompanyId, 1);
+    OnBackup([](Clerk& clerk) {
+        BackUp(clerk);
+        EXPECT_EQ(gAppState.gCompanyId, 7);
+        EXPECT_EQ(gAppState.gAccountingYear, "2030-2031");
+    });
+}
+
+TEST_F(BackupTest, EveryWayOutOpensTheConnection)
+{
+    for (const char* way : {"{ESC}", "%b", "close box"}) {
+        OnBackup([way](Clerk& clerk) {
+            BackUp(clerk);
+            EXPECT_FALSE(gCn.IsOpen());
+            if (way[0] == 'c')
+                clerk.CloseBox();
+            else
+                Type(clerk, way);
+            EXPECT_EQ(OnTop(clerk), "") << way;
+        });
+        EXPECT_TRUE(gCn.IsOpen()) << way;
+    }
+}
+
+TEST_F(BackupTest, ANewConnectionIsOpenedOnLeavingWhetherOrNotOneWasOpen)
+{
+    const void* before = gCn.d();
+    OnBackup([](Clerk& clerk) { Type(clerk, "{ESC}"); });
+    EXPECT_TRUE(gCn.IsOpen());
+    EXPECT_EQ(One("select count(*) from MembersMaster"), "1");
+    EXPECT_NE(before, nullptr);
+}
+
+// What is saved after a backup is folded as before it.
+TEST_F(BackupTest, TheKeeperOfTheBooksGoesOnWithTheNewConnection)
+{
+    const BooksKeeper keeper;
+    int saves = 0;
+    gCn.SetWritten([&] { ++saves; });
+    OnBackup([](Clerk& clerk) {
+        BackUp(clerk);
+        Type(clerk, "{ESC}");
+    });
+    AddMember(2, "saIta");
+    EXPECT_EQ(saves, 1);
+}
+
+// A disk that looks at the screen while it is written to.
+class LookingDisk final : public Disk {
+public:
+    explicit LookingDisk(std::function<void()> look) : m_look(std::move(look)) { Use(this); }
+    ~LookingDisk() override { Use(nullptr); }
+
+    std::error_code Sync(const QString& path) override
+    {
+        m_look();
+        return Disk::Sync(path);
+    }
+
+private:
+    std::function<void()> m_look;
+};
+
+TEST_F(BackupTest, TheAnimationAndTheBarAreSeenWhileItCopiesAndOnlyThen)
+{
+    OnBackup([](Clerk& clerk) {
+        const auto* animation = clerk.Top().findChild<QWidget*>("Animation1");
+        const auto* bar = clerk.Top().findChild<QLabel*>("lblBack");
+        ASSERT_TRUE(animation && bar);
+        int looks = 0;
+        const LookingDisk disk([&] {
+            ++looks;
+            EXPECT_TRUE(animation->isVisible());
+            EXPECT_TRUE(bar->isVisible());
+            EXPECT_FALSE(gCn.IsOpen());
+        });
+        EXPECT_FALSE(animation->isVisible());
+        BackUp(clerk);
+        EXPECT_FALSE(animation->isVisible());
+        EXPECT_FALSE(bar->isVisible());
+        EXPECT_EQ(looks, 2) << "the copy and the folder";
+    });
+}
+
+// Esc comes to the screen when the copy is done.
+TEST_F(BackupTest, NoKeyGetsInWhileItCopies)
+{
+    OnBackup([](Clerk& clerk) {
+        const Screen* screen = &clerk.Top();
+        const LookingDisk disk([&] {
+            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QCoreApplication::postEvent(screen->KeyTarget(), escape.clone());
+            EXPECT_TRUE(ModalStack::Current().Top() == screen);
+        });
+        BackUp(clerk);
+        EXPECT_EQ(FilesIn(Folder), QStringList("Morvelta.mdb"));
+    });
+}
+
+// Nothing is lost, whatever the name says
+
+TEST_F(BackupTest, TheWorkingBooksAreNoTarget)
+{
+    for (const bool isHistory : {false, true}) {
+        const QByteArray books = Bytes(Books);
+        On<frmBackup>([&](Clerk& clerk) {
+            OpenFolder(clerk, "Vetrolan");
+            SetName(clerk, QString::fromUtf8(Books));
+            if (isHistory)
+                BackUpAsHistory(clerk);
+            else
+                BackUp(clerk);
+        });
+        ASSERT_TRUE(Failure);
+        EXPECT_TRUE(Failure->Happened().contains("स्वतःच्या जागी"));
+        EXPECT_EQ(Members(), 1);
+        EXPECT_FALSE(books.isEmpty());
+    }
+}
+
+TEST_F(BackupTest, ANameInAFolderThatIsNotThereIsARunTimeErrorThatSaysSo)
+{
+    for (const char* name : {"C:\\Tarvel01\\Vetrolan\\Backup\\15/04/2026.mdb", "X:\\Backup\\copy.mdb"}) {
+        On<frmBackup>([&](Clerk& clerk) {
+            SetName(clerk, QString::fromUtf8(name));
+            BackUpAsHistory(clerk);
+        });
+        ASSERT_TRUE(Failure) << name;
+        EXPECT_TRUE(Failure->Happened().contains("फोल्डर सापडले नाही")) << name;
+        EXPECT_EQ(Members(), 1);
+    }
+}
+
+TEST_F(BackupTest, AFolderWithoutRightsIsARunTimeErrorThatSaysSo)
+{
+    MakeFolder("D:\\closed");
+    QFile::setPermissions(LocalPath(u"D:\\closed"), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    On<frmBackup>([](Clerk& clerk) {
+        OpenDrive(clerk, "D:\\");
+        OpenFolder(clerk, "closed");
+        BackUp(clerk);
+    });
+    ASSERT_TRUE(Failure);
+    EXPECT_TRUE(Failure->Happened().contains("लिहिता येत नाही"));
+    EXPECT_EQ(FilesIn("D:\\closed"), QStringList());
+    EXPECT_EQ(Members(), 1);
+}
+
+TEST_F(BackupTest, OnlyABackupMayGoOverAFile)
+{
+    const QByteArray password = Bytes("C:\\Tarvel01\\Vetrolan\\PWD.TXT");
+    OnBackup([](Clerk& clerk) {
+        SetName(clerk, "C:\\Tarvel01\\Vetrolan\\PWD.TXT");
+        BackUpAsHistory(clerk);
+        EXPECT_EQ(OnTop(clerk), "frmMessages");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Focus(clerk), "Text1");
+    });
+    EXPECT_TRUE(Bytes("C:\\Tarvel01\\Vetrolan\\PWD.TXT") == password);
+}
+
+// A flipped bit in the index of the gate's list, which nothing else of the screen reads.
+TEST_F(BackupTest, DamagedBooksAreARunTimeErrorAndTheOlderBackupStays)
+{
+    Put(PlainCopy, "the older backup");
+    const qsizetype page = BooksFile::PageOf(gCn.Handle(), "MilkCollectionsTempByAmount");
+    gCn.Close();
+    QByteArray books = Bytes(Books);
+    const qsizetype at = page * DatabaseFile::PageSize - 500;
+    books[at] = static_cast<char>(books[at] ^ 8);
+    Put(Books, books);
+    ReopenBooks();
+    On<frmBackup>([](Clerk& clerk) { BackUp(clerk); });
+    ASSERT_TRUE(Failure);
+    EXPECT_TRUE(Failure->Happened().contains("\"Morvelta.mdb\" ही फाइल बिघडली आहे (MilkCollectionsTemp)"))
+        << Failure->what();
+    EXPECT_EQ(Bytes(PlainCopy), "the older backup");
+}
+
+}
