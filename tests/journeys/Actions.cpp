@@ -24,6 +24,7 @@ const QString ToThePayments = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DO
 const QString ToOnePayment = QString(ToThePayments + QStringLiteral("{DOWN}{ENTER}{ENTER}"));
 const QString ToTheSales = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
 const QString ToASale = QString(ToTheSales + QStringLiteral("{ENTER}1{ENTER}"));
+const QString ToTheBackup = QStringLiteral("{ESC}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
 const QString Yes = QStringLiteral("%h");
 
 void Execute(const char* statement)
@@ -163,9 +164,20 @@ const std::vector<Action>& Runs()
     return runs;
 }
 
+const std::vector<Action>& Copyings()
+{
+    static const std::vector<Action> copyings = {
+        {QStringLiteral("RegularBackup"), ToTheBackup, QStringLiteral("{ENTER}")},
+        {QStringLiteral("HistoryBackup"), QStringLiteral("{ESC}2{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("Restore"), ToTheBackup + QStringLiteral("{TAB}"), QStringLiteral("{ENTER}")},
+    };
+    return copyings;
+}
+
 const Action& ActionOf(const QString& name)
 {
-    for (const std::vector<Action>* list : {&Actions(), &Runs()})
+    for (const std::vector<Action>* list : {&Actions(), &Runs(), &Copyings()})
         for (const Action& action : *list)
             if (action.name == name)
                 return action;

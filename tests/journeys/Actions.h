@@ -21,6 +21,9 @@ const std::vector<Action>& Actions();
 // Those that write part by part, each part whole or not at all.
 const std::vector<Action>& Runs();
 
+// Those that copy the books as a file, or bring a copy back.
+const std::vector<Action>& Copyings();
+
 // One of all these.
 const Action& ActionOf(const QString& name);
 
