@@ -125,21 +125,6 @@ bool Opens(Connection& old, const QString& database, const QString& password)
     return true;
 }
 
-// After a power cut the last changes may be in the log beside the database; they are written into it, so that
-// one file is kept.
-void FoldLog(const QString& folder)
-{
-    const QString database = FileIn(folder, DatabaseFileName);
-    if (!QFileInfo::exists(database) || !IsFilled(database % Log))
-        return;
-    const std::optional<QString> password = OldPassword(folder);
-    Connection old;
-    if (!password || !Opens(old, database, *password))
-        return;
-    old.RunScript(QStringLiteral("pragma wal_checkpoint(truncate);"));
-    old.Close();
-}
-
 // Puts a date before the ending of a name: Morvelta-2026-04-01-101530.mdb.
 QString Dated(QStringView name, const QString& date)
 {
@@ -297,6 +282,21 @@ void CopyFile(const QString& from, const QString& to, QStringView name)
             RunTimeError::FileAccess, QStringLiteral("Can't write ") % FileIn(to, name) % u'.');
 }
 
+}
+
+// After a power cut the last changes may be in the log beside the database; they are written into it, so that
+// one file is kept.
+void FoldLog(const QString& folder)
+{
+    const QString database = FileIn(folder, DatabaseFileName);
+    if (!QFileInfo::exists(database) || !IsFilled(database % Log))
+        return;
+    const std::optional<QString> password = OldPassword(folder);
+    Connection old;
+    if (!password || !Opens(old, database, *password))
+        return;
+    old.RunScript(QStringLiteral("pragma wal_checkpoint(truncate);"));
+    old.Close();
 }
 
 QString WhyRefused(const SocietyPlan& plan)

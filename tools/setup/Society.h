@@ -18,6 +18,9 @@ inline constexpr QStringView DatabaseFileName = u"Morvelta.mdb";
 inline constexpr QStringView PasswordFileName = u"PWD.TXT";
 inline constexpr QStringView BackupFolderName = u"Backup";
 
+// Writes the log beside the books in a folder into them, if they can be opened.
+void FoldLog(const QString& folder);
+
 // The reason why the plan is refused, in one sentence; empty if it is accepted.
 QString WhyRefused(const SocietyPlan& plan);
 

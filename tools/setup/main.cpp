@@ -4,6 +4,7 @@
 #include "platform/text/FileRights.h"
 #include "platform/text/RunTimeError.h"
 #include "tools/setup/AskedPassword.h"
+#include "tools/setup/Copies.h"
 #include "tools/setup/SafeFiles.h"
 #include "tools/setup/Society.h"
 
@@ -11,6 +12,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QTextStream>
+
+#include <optional>
 
 namespace {
 
@@ -37,6 +40,14 @@ struct Options {
     QCommandLineOption templates{QStringLiteral("templates"),
         QStringLiteral("Only write the report templates anew, beside the books that are there. One that the "
                        "society has changed is kept under a dated name.")};
+    QCommandLineOption check{QStringLiteral("check"),
+        QStringLiteral("Only look into a copy of the books: whether it is whole, and what lies in it."),
+        QStringLiteral("FILE")};
+    QCommandLineOption restore{QStringLiteral("restore"),
+        QStringLiteral(
+            "Only bring a copy of the books back, under whatever name. It is checked first, and the "
+            "books that it replaces are kept in the folder of the backups."),
+        QStringLiteral("FILE")};
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this.")};
 };
 
@@ -53,10 +64,22 @@ QString WhyUnusable(const QCommandLineParser& parser, const Options& options)
     if (!parser.positionalArguments().isEmpty())
         return QStringLiteral("\"%1\" isn't an option; see --help.")
             .arg(parser.positionalArguments().first());
-    const bool makes = !parser.isSet(options.templates);
-    for (const QCommandLineOption& needless : {options.society, options.year, options.password})
-        if (!makes && parser.isSet(needless))
-            return QStringLiteral("--%1 doesn't go with --templates.").arg(needless.names().first());
+    QString only;
+    for (const QCommandLineOption& alone : {options.templates, options.check, options.restore}) {
+        const QString name = alone.names().first();
+        if (parser.isSet(alone) && !only.isEmpty())
+            return QStringLiteral("--%1 doesn't go with --%2.").arg(name, only);
+        if (parser.isSet(alone))
+            only = name;
+    }
+    const bool makes = only.isEmpty();
+    for (const QCommandLineOption& needless : {options.society, options.year, options.password,
+             options.demo, options.replace}) {
+        const QString name = needless.names().first();
+        const bool opensWithIt = only == u"check" && name == u"password";
+        if (!makes && parser.isSet(needless) && !opensWithIt)
+            return QStringLiteral("--%1 doesn't go with --%2.").arg(name, only);
+    }
     for (const QCommandLineOption& needed : {options.society, options.year})
         if (makes && !parser.isSet(needed))
             return QStringLiteral("--%1 is missing; see --help.").arg(needed.names().first());
@@ -117,6 +140,37 @@ int RenewTemplates(const Place& place)
     return Done;
 }
 
+void Tell(const QString& file, const QString& what, const BooksContent& content)
+{
+    const QString day = content.newestDay.isValid() ? content.newestDay.toString(QStringLiteral("dd/MM/yyyy"))
+                                                    : QStringLiteral("none");
+    QTextStream out(stdout);
+    out << QDir::toNativeSeparators(file) << ' ' << what << ": " << content.deliveries << " deliveries, "
+        << content.members << " members, " << content.payments << " payments, newest day " << day << '\n';
+    if (HasOwnLog(file))
+        out << "A log lies beside it; what stands in the log is not in the copy.\n";
+}
+
+int CheckCopy(const Place& place, const QString& file, const std::optional<QString>& password)
+{
+    const QString opening = password ? *password : PasswordIn(place.Folder());
+    Tell(file, QStringLiteral("is whole"), BooksCopies::Check(file, opening));
+    return Done;
+}
+
+int RestoreCopy(const Place& place, const QString& file)
+{
+    if (!QDir(place.Folder()).exists())
+        return Complain(Failed,
+            QStringLiteral("There is no society in %1.").arg(QDir::toNativeSeparators(place.Folder())));
+    const SingleInstance lock(place.Folder());
+    if (!lock.Taken())
+        return Complain(Failed, QStringLiteral("The books are open in the program; close it first."));
+    place.KeepToOwner();
+    Tell(file, QStringLiteral("is back"), RestoreBooks(place.Folder(), file, QDateTime::currentDateTime()));
+    return Done;
+}
+
 int Make(const Place& place, const SocietyPlan& plan)
 {
     const QString folder = place.Folder();
@@ -149,7 +203,7 @@ int main(int argc, char* argv[])
                        "older books are still there, in their place or under a dated name."));
     const Options options;
     parser.addOptions({options.society, options.year, options.password, options.demo, options.replace,
-        options.folder, options.templates, options.help});
+        options.folder, options.templates, options.check, options.restore, options.help});
     if (!parser.parse(QCoreApplication::arguments()))
         return Complain(BadArguments, parser.errorText());
     if (parser.isSet(options.help)) {
@@ -164,6 +218,11 @@ int main(int argc, char* argv[])
     try {
         if (parser.isSet(options.templates))
             return RenewTemplates(place);
+        if (parser.isSet(options.check))
+            return CheckCopy(place, parser.value(options.check),
+                parser.isSet(options.password) ? std::optional(PasswordFor(parser, options)) : std::nullopt);
+        if (parser.isSet(options.restore))
+            return RestoreCopy(place, parser.value(options.restore));
         SocietyPlan plan;
         plan.name = parser.value(options.society);
         plan.year = parser.value(options.year);

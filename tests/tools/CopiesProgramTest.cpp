@@ -1,0 +1,169 @@
+#include "platform/shell/SingleInstance.h"
+#include "tests/tools/SetupRun.h"
+#include "tests/tools/SetupSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+// Copies of the books from the shell: looked into, and brought back.
+class CopiesProgramTest : public testing::Test {
+protected:
+    CopiesProgramTest() { EXPECT_EQ(RunSetup(Arguments(Folder())).exitCode, 0); }
+
+    QString Folder() const { return m_dir.filePath("books"); }
+    QString Books() const { return QDir(Folder()).filePath(DatabaseFileName.toString()); }
+    QString Copy() const { return m_dir.filePath("Morvelta On 15 April 2026.mdb"); }
+
+    Ran Check(const QString& file) const { return RunSetup({"--check", file, "--folder", Folder()}); }
+    Ran Restore(const QString& file) const { return RunSetup({"--restore", file, "--folder", Folder()}); }
+
+    QString Members() const
+    {
+        return Shell(Folder(), "secret", "select count(*) from MembersMaster;").value(0);
+    }
+
+    // One member more, written by another program.
+    void AddMember() const
+    {
+        Shell(Folder(), "secret", "insert into MembersMaster(CompanyId,MemberNo) values(1,1);");
+    }
+
+    static void Put(const QString& path, const QByteArray& bytes)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(bytes), bytes.size());
+    }
+
+    QStringList Kept() const { return QDir(QDir(Folder()).filePath("Backup")).entryList(QDir::Files); }
+
+private:
+    QTemporaryDir m_dir;
+};
+
+TEST_F(CopiesProgramTest, ACheckTellsWhatLiesInACopy)
+{
+    AddMember();
+    Shell(
+        Folder(), "secret", "insert into MilkCollections(CompanyId,CollectionDate) values(1,'2026-04-15');");
+    ASSERT_TRUE(QFile::copy(Books(), Copy()));
+    const Ran run = Check(Copy());
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_TRUE(run.out.contains("is whole: 1 deliveries, 1 members, 0 payments, newest day 15/04/2026\n"))
+        << run.out.toStdString();
+    EXPECT_EQ(Kept(), QStringList());
+}
+
+TEST_F(CopiesProgramTest, ACopyOfOtherBooksIsCheckedWithItsOwnPassword)
+{
+    ASSERT_TRUE(QFile::copy(Books(), Copy()));
+    EXPECT_EQ(RunSetup({"--check", Copy(), "--password", "secret"}, Folder()).exitCode, 0);
+    ExpectRefusal(RunSetup({"--check", Copy(), "--password", "other"}, Folder()), 1, u"another password");
+    ExpectRefusal(RunSetup({"--check", Copy()}, Folder()), 1, u"PWD.TXT");
+}
+
+TEST_F(CopiesProgramTest, ACheckSaysWhatIsWrongWithACopy)
+{
+    const QByteArray good = FileContent(Books());
+    QByteArray bad = good;
+    bad[bad.size() - 512] = static_cast<char>(bad[bad.size() - 512] ^ 8);
+    const std::initializer_list<std::pair<QByteArray, QStringView>> copies = {{bad, u"is damaged"},
+        {good.chopped(1024), u"cut short"}, {"a letter", u"isn't a database"}, {"", u"is empty"}};
+    for (const auto& [bytes, why] : copies) {
+        Put(Copy(), bytes);
+        ExpectRefusal(Check(Copy()), 1, why);
+        ExpectRefusal(Restore(Copy()), 1, why);
+        EXPECT_TRUE(FileContent(Books()) == good);
+        EXPECT_EQ(Kept(), QStringList());
+    }
+    ExpectRefusal(Check(Copy() + "x"), 1, u"was not found");
+    ExpectRefusal(Restore(Copy() + "x"), 1, u"is not there");
+}
+
+TEST_F(CopiesProgramTest, ARestoreBringsAnyCopyBackAndKeepsWhatItReplaces)
+{
+    ASSERT_TRUE(QFile::copy(Books(), Copy()));
+    AddMember();
+    const Ran run = Restore(Copy());
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_TRUE(run.out.contains("is back: 0 deliveries, 0 members")) << run.out.toStdString();
+    EXPECT_EQ(Members(), "0");
+    ASSERT_EQ(Kept().size(), 1);
+    EXPECT_TRUE(Kept()[0].startsWith("Morvelta Before "));
+    EXPECT_EQ(Restore(QDir(Folder()).filePath("Backup/" + Kept()[0])).exitCode, 0);
+    EXPECT_EQ(Members(), "1") << "what was replaced can be brought back as well";
+}
+
+TEST_F(CopiesProgramTest, TheLogOfTheReplacedBooksIsFoldedIntoWhatIsKept)
+{
+    ASSERT_TRUE(QFile::copy(Books(), Copy()));
+    QDir(Folder()).removeRecursively();
+    MakeSociety(Folder() + ".made", GoodPlan());
+    LeaveAsAfterAPowerCut(Folder() + ".made", Folder());
+    ASSERT_GT(QFileInfo(Books() + "-wal").size(), 0);
+    const QString own = Folder() + ".made/Morvelta.mdb";
+    EXPECT_EQ(Restore(own).exitCode, 0);
+    EXPECT_FALSE(QFile::exists(Books() + "-wal"));
+    const auto towns = [&] {
+        return Shell(Folder(), "Gokul#2026", "select count(*) from CityMaster where CityName='masaUr';")
+            .value(0);
+    };
+    EXPECT_EQ(towns(), "0");
+    ASSERT_EQ(Kept().size(), 1);
+    EXPECT_EQ(Restore(QDir(Folder()).filePath("Backup/" + Kept()[0])).exitCode, 0);
+    EXPECT_EQ(towns(), "1");
+}
+
+TEST_F(CopiesProgramTest, BooksThatCanNotBeOpenedAreKeptWithTheirLog)
+{
+    ASSERT_TRUE(QFile::copy(Books(), Copy()));
+    Put(Books(), "nothing is left");
+    Put(Books() + "-wal", "nor here");
+    EXPECT_EQ(Restore(Copy()).exitCode, 0);
+    EXPECT_EQ(Members(), "0");
+    ASSERT_EQ(Kept().size(), 2);
+    EXPECT_EQ(FileContent(QDir(Folder()).filePath("Backup/" + Kept()[0])), "nothing is left");
+    EXPECT_EQ(FileContent(QDir(Folder()).filePath("Backup/" + Kept()[1])), "nor here");
+}
+
+TEST_F(CopiesProgramTest, TheBooksAreNotRestoredFromThemselves)
+{
+    ExpectRefusal(Restore(Books()), 1, u"its own target");
+    EXPECT_EQ(Members(), "0");
+}
+
+TEST_F(CopiesProgramTest, BooksThatAreOpenAreNotReplaced)
+{
+    ASSERT_TRUE(QFile::copy(Books(), Copy()));
+    AddMember();
+    const SingleInstance running(Folder());
+    ASSERT_TRUE(running.Taken());
+    ExpectRefusal(Restore(Copy()), 1, u"open in the program");
+    EXPECT_EQ(Members(), "1");
+    EXPECT_EQ(Check(Copy()).exitCode, 0) << "looking does no harm";
+}
+
+TEST_F(CopiesProgramTest, ALogBesideACopyIsTold)
+{
+    ASSERT_TRUE(QFile::copy(Books(), Copy()));
+    EXPECT_FALSE(Check(Copy()).out.contains("A log"));
+    Put(Copy() + "-wal", "the last saves");
+    EXPECT_TRUE(Check(Copy()).out.contains("A log lies beside it"));
+}
+
+TEST_F(CopiesProgramTest, OptionsThatDoNotGoTogetherAreRefused)
+{
+    ExpectRefusal(
+        RunSetup({"--check", Copy(), "--restore", Copy()}), 2, u"--restore doesn't go with --check");
+    ExpectRefusal(RunSetup({"--templates", "--check", Copy()}), 2, u"--check doesn't go with --templates");
+    ExpectRefusal(
+        RunSetup({"--restore", Copy(), "--password", "x"}), 2, u"--password doesn't go with --restore");
+    ExpectRefusal(RunSetup({"--check", Copy(), "--society", "x"}), 2, u"--society doesn't go with --check");
+    ExpectRefusal(RunSetup({"--restore", Copy(), "--demo"}), 2, u"--demo doesn't go with --restore");
+}
+
+}
