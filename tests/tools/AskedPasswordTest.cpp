@@ -1,3 +1,4 @@
+#include "platform/text/Shivaji01.h"
 #include "tests/tools/SetupRun.h"
 #include "tests/tools/SetupSupport.h"
 
@@ -23,7 +24,8 @@ QStringList WithoutPassword(const QString& folder)
 {
     QStringList arguments = Arguments(folder);
     arguments.remove(arguments.indexOf("--password"), 2);
-    return arguments;
+    return arguments << "--federation"
+                     << "जिल्हा दूध संघ";
 }
 
 bool OpensWith(const QString& folder, const char* password)
@@ -179,6 +181,24 @@ TEST_F(AskedPasswordTest, IsTypedTwiceAtATerminalAndNeverShown)
     EXPECT_FALSE(terminal.Said().contains("hidden")) << terminal.Said().toStdString();
     EXPECT_TRUE(terminal.ShowsKeys());
     EXPECT_TRUE(OpensWith(Folder(), "hidden"));
+}
+
+// Before the password, and seen.
+TEST_F(AskedPasswordTest, TheFederationIsAskedForAtATerminalAndEnterTakesTheUsualName)
+{
+    for (const auto& [typed, name] :
+        {std::pair("\n", "जिल्हा दूध संघ"), std::pair("कोयना दूध संघ\n", "कोयना दूध संघ")}) {
+        QStringList arguments = Arguments(Folder()) << "--replace";
+        Terminal terminal(arguments);
+        ASSERT_TRUE(terminal.Says("[जिल्हा दूध संघ]: "));
+        EXPECT_TRUE(terminal.ShowsKeys());
+        terminal.Type(typed);
+        EXPECT_TRUE(terminal.Says("Morvelta.mdb"));
+        EXPECT_EQ(terminal.Ended(), 0);
+        const QStringList account =
+            Shell(Folder(), "secret", "select AccountName from AccountsMaster where GroupCode='Debtors';");
+        EXPECT_EQ(Shivaji01::ToUnicode(account.value(0)), QString::fromUtf8(name));
+    }
 }
 
 TEST_F(AskedPasswordTest, TypedDifferentlyMakesNoBooks)

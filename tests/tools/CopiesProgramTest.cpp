@@ -164,6 +164,7 @@ TEST_F(CopiesProgramTest, OptionsThatDoNotGoTogetherAreRefused)
         RunSetup({"--restore", Copy(), "--password", "x"}), 2, u"--password doesn't go with --restore");
     ExpectRefusal(RunSetup({"--check", Copy(), "--society", "x"}), 2, u"--society doesn't go with --check");
     ExpectRefusal(RunSetup({"--restore", Copy(), "--demo"}), 2, u"--demo doesn't go with --restore");
+    ExpectRefusal(RunSetup({"--check", Copy(), "--federation", "x"}), 2, u"--federation doesn't go with");
 }
 
 }

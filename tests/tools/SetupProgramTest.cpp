@@ -103,7 +103,7 @@ TEST_F(SetupProgramTest, TellsWhatItTakes)
     const Ran run = RunSetup({"--help"});
     EXPECT_EQ(run.exitCode, 0);
     for (const QStringView option : {u"--society", u"--year", u"--password", u"--demo", u"--replace",
-             u"--folder", u"--check", u"--restore"})
+             u"--folder", u"--federation", u"--check", u"--restore"})
         EXPECT_TRUE(run.out.contains(option)) << option.toString().toStdString();
 }
 

@@ -127,7 +127,20 @@ QString AskedPassword::Read()
     return password;
 }
 
+QString AskedLine(const QString& prompt)
+{
+    if (!isatty(STDIN_FILENO))
+        return {};
+    Prompt(prompt.toUtf8().constData());
+    return Line();
+}
+
 #else
+
+QString AskedLine(const QString&)
+{
+    return {};
+}
 
 QString AskedPassword::Read()
 {

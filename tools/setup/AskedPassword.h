@@ -11,3 +11,6 @@ namespace AskedPassword {
 QString Read();
 
 }
+
+// Asks for a line that may be seen; without a terminal nobody is asked, and it is empty.
+QString AskedLine(const QString& prompt);

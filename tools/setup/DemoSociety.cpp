@@ -181,18 +181,23 @@ QString MemberRow(const Member& member, Dice& dice)
     return u'(' % values.join(u',') % u')';
 }
 
-QString CustomerScript()
+// The first federation has the name that was asked for, if one was.
+QString CustomerScript(const QString& federation)
 {
+    bool isNamed = federation.trimmed().isEmpty();
     QStringList customers;
     QStringList accounts;
     int number = 0;
     for (const DemoCustomer& customer : DemoCustomers) {
         ++number;
-        customers.append(u"(1," % QString::number(number) % u',' % Quoted(customer.name) % u','
+        const bool isTheOne = customer.federation && !isNamed;
+        isNamed = isNamed || isTheOne;
+        const QString name = isTheOne ? federation.trimmed() : customer.name.toString();
+        customers.append(u"(1," % QString::number(number) % u',' % Quoted(name) % u','
             % Quoted(customer.animal) % u','
             % Quoted(customer.federation ? u"saMGa ivaËI" : u"sqaainak ivaËI") % u",0,0,0,0)");
         if (customer.federation)
-            accounts.append(u"(1," % QString::number(number + 2) % u',' % Quoted(customer.name)
+            accounts.append(u"(1," % QString::number(number + 2) % u',' % Quoted(name)
                 % u",'Debtors','saMGa',0,'D',0,'D')");
     }
     return Insert(u"CustomersMaster", customers) % Insert(u"AccountsMaster", accounts);
@@ -223,7 +228,7 @@ Filling DemoFilling(const SocietyPlan& plan)
         rows.append(MemberRow(member, dice));
         paid.push_back(member.paid);
     }
-    return {Spelled(VillageScript() % Insert(u"MembersMaster", rows) % CustomerScript() % deliveries
-                % money.Script(paid)),
+    return {Spelled(VillageScript() % Insert(u"MembersMaster", rows) % CustomerScript(plan.federation)
+                % deliveries % money.Script(paid)),
         {}};
 }

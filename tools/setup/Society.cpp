@@ -36,17 +36,20 @@ constexpr QStringView Log = u"-wal";
 constexpr QStringView LogIndex = u"-shm";
 constexpr QStringView RollbackJournal = u"-journal";
 
-QString WhyNameRefused(const QString& name)
+// `whose` is "society" or "federation".
+QString WhyNameRefused(const QString& whose, const QString& name)
 {
+    const auto because = [&](const char* why) {
+        return QStringLiteral("The %1's name %2.").arg(whose, QString::fromLatin1(why));
+    };
     if (name.trimmed().isEmpty())
-        return QStringLiteral("The society's name is empty.");
+        return because("is empty");
     if (name.size() > LongestName)
-        return QStringLiteral("The society's name is longer than 100 characters.");
+        return because("is longer than 100 characters");
     if (std::any_of(name.begin(), name.end(), [](QChar c) { return c.unicode() < 0x80 && c.isLetter(); }))
-        return QStringLiteral("The society's name holds English letters; write it in Devanagari.");
+        return because("holds English letters; write it in Devanagari");
     if (name.contains(u'\'') || Shivaji01::FromUnicode(name).contains(u'\''))
-        return QStringLiteral(
-            "The society's name holds an apostrophe, which would break the system's statements.");
+        return because("holds an apostrophe, which would break the system's statements");
     return {};
 }
 
@@ -301,7 +304,9 @@ void FoldLog(const QString& folder)
 
 QString WhyRefused(const SocietyPlan& plan)
 {
-    QString name = WhyNameRefused(plan.name);
+    QString name = WhyNameRefused(QStringLiteral("society"), plan.name);
+    if (name.isEmpty() && !plan.federation.isEmpty())
+        name = WhyNameRefused(QStringLiteral("federation"), plan.federation);
     if (!name.isEmpty())
         return name;
     const QString year = WhyYearRefused(plan.year);
@@ -340,7 +345,8 @@ void CopySociety(const QString& folder, const SocietyPlan& plan)
 {
     static QTemporaryDir models;
     static QHash<QString, QString> made;
-    const QString key = plan.name % u'\n' % plan.year % u'\n' % plan.password % (plan.demo ? u"\ndemo" : u"");
+    const QString key = plan.name % u'\n' % plan.year % u'\n' % plan.password % u'\n' % plan.federation
+        % (plan.demo ? u"\ndemo" : u"");
     if (!made.contains(key)) {
         const QString model = models.filePath(QString::number(made.size()));
         MakeSociety(model, plan);

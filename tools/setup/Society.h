@@ -8,6 +8,7 @@ struct SocietyPlan {
     QString name; // in Devanagari, without apostrophes, which would break statements
     QString year; // "2026-2027": from 1 April of the first year to 31 March of the second
     QString password; // ASCII letters, digits and marks
+    QString federation; // who buys the milk, in Devanagari: gets a debtor's account; empty for none
     bool demo = false; // with members, customers, deliveries, advances and a payment, always the same
     bool replace = false; // keep an older database under a dated name; otherwise it is an error
     QDateTime now = QDateTime::currentDateTime(); // the date in those names

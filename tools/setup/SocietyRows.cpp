@@ -56,6 +56,15 @@ QString ChartRows(const QString& chart)
     return QStringLiteral("insert into ") % chart % QStringLiteral(" values ") % values.join(u',') % u';';
 }
 
+// The account under which the reports look for the federation. The demonstration's customers have theirs.
+QString FederationRow(const SocietyPlan& plan)
+{
+    if (plan.federation.trimmed().isEmpty() || plan.demo)
+        return {};
+    return QStringLiteral("insert into AccountsMaster values (1, 3, ") % Quoted(plan.federation.trimmed())
+        % QStringLiteral(", 'Debtors', 'saMGa', 0, 'D', 0, 'D');");
+}
+
 QString NumberWordRows()
 {
     QStringList values;
@@ -114,8 +123,8 @@ QString Decimal(qint64 units, int decimals)
 
 QString DeliveredScript(const SocietyPlan& plan)
 {
-    return Spelled(
-        Delivered::Schema() % FilledIn(plan) % ChartRows(ChartName(FirstDay(plan.year))) % NumberWordRows());
+    return Spelled(Delivered::Schema() % FilledIn(plan) % FederationRow(plan)
+        % ChartRows(ChartName(FirstDay(plan.year))) % NumberWordRows());
 }
 
 FirstChart ReadFirstChart()

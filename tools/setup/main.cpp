@@ -40,6 +40,10 @@ struct Options {
     QCommandLineOption templates{QStringLiteral("templates"),
         QStringLiteral("Only write the report templates anew, beside the books that are there. One that the "
                        "society has changed is kept under a dated name.")};
+    QCommandLineOption federation{QStringLiteral("federation"),
+        QStringLiteral("The federation that buys the milk, in Marathi: it gets an account, under which the "
+                       "reports look for it. Left out, it is asked for."),
+        QStringLiteral("NAME")};
     QCommandLineOption check{QStringLiteral("check"),
         QStringLiteral("Only look into a copy of the books: whether it is whole, and what lies in it."),
         QStringLiteral("FILE")};
@@ -74,7 +78,7 @@ QString WhyUnusable(const QCommandLineParser& parser, const Options& options)
     }
     const bool makes = only.isEmpty();
     for (const QCommandLineOption& needless : {options.society, options.year, options.password,
-             options.demo, options.replace}) {
+             options.federation, options.demo, options.replace}) {
         const QString name = needless.names().first();
         const bool opensWithIt = only == u"check" && name == u"password";
         if (!makes && parser.isSet(needless) && !opensWithIt)
@@ -91,6 +95,19 @@ QString PasswordFor(const QCommandLineParser& parser, const Options& options)
     const QString given = parser.value(options.password);
     const bool asks = !parser.isSet(options.password) || given == u"-";
     return asks ? AskedPassword::Read() : given;
+}
+
+// The name that the account of the federation gets if nobody says another.
+constexpr QStringView UsualFederation = u"जिल्हा दूध संघ";
+
+// The federations of the demonstration have names already.
+QString FederationFor(const QCommandLineParser& parser, const Options& options)
+{
+    if (parser.isSet(options.federation) || parser.isSet(options.demo))
+        return parser.value(options.federation);
+    const QString typed =
+        AskedLine(QStringLiteral("Federation that buys the milk [%1]: ").arg(UsualFederation)).trimmed();
+    return typed.isEmpty() ? UsualFederation.toString() : typed;
 }
 
 // The search screen looks for its receipt template in this folder, that of an older program.
@@ -203,7 +220,7 @@ int main(int argc, char* argv[])
                        "older books are still there, in their place or under a dated name."));
     const Options options;
     parser.addOptions({options.society, options.year, options.password, options.demo, options.replace,
-        options.folder, options.templates, options.check, options.restore, options.help});
+        options.folder, options.templates, options.federation, options.check, options.restore, options.help});
     if (!parser.parse(QCoreApplication::arguments()))
         return Complain(BadArguments, parser.errorText());
     if (parser.isSet(options.help)) {
@@ -226,6 +243,7 @@ int main(int argc, char* argv[])
         SocietyPlan plan;
         plan.name = parser.value(options.society);
         plan.year = parser.value(options.year);
+        plan.federation = FederationFor(parser, options);
         plan.password = PasswordFor(parser, options);
         plan.demo = parser.isSet(options.demo);
         plan.replace = parser.isSet(options.replace);
