@@ -168,7 +168,7 @@ TEST_F(BooksCopiesTest, DamagedBooksDoNotTakeThePlaceOfAnOlderBackup)
 
 TEST_F(BooksCopiesTest, AFullOrBrokenDiskLeavesTheOlderBackup)
 {
-    FaultyDisk::Install();
+    FaultyDisk::InstallForCopies();
     BooksCopies::BackUp(Books(), Copy(), Password);
     const QByteArray older = Bytes(Copy());
     AddMember();
@@ -266,7 +266,7 @@ TEST_F(BooksCopiesTest, AMissingCopyOrTheBooksThemselvesAreNotRestored)
 // What is replaced is kept before it is.
 TEST_F(BooksCopiesTest, AFullOrBrokenDiskInARestoreLeavesTheBooks)
 {
-    FaultyDisk::Install();
+    FaultyDisk::InstallForCopies();
     const QString copy = In("copy.mdb");
     BooksCopies::BackUp(Books(), copy, Password);
     AddMember();

@@ -20,7 +20,7 @@ protected:
     void SetUp() override
     {
         FaultyDisk::Reset();
-        FaultyDisk::Install();
+        FaultyDisk::InstallForCopies();
         gCn.Close();
         m_older = Bytes(Books);
         m_olderRows = RowsOfBooks();

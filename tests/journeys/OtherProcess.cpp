@@ -67,7 +67,7 @@ int TypeWhatIsSaid()
 
 int DieAtWrite(const Action& action, int n)
 {
-    FaultyDisk::Install();
+    FaultyDisk::InstallForCopies();
     PlayProgram([&](Clerk& hands) {
         hands.Type(OpeningKeys() + action.way);
         FaultyDisk::Reset();

@@ -93,8 +93,13 @@ private:
 void FaultyDisk::Install()
 {
     static FailingWatcher watcher;
-    static FailingFiles files;
     WatchedDisk::Install(watcher);
+}
+
+void FaultyDisk::InstallForCopies()
+{
+    static FailingFiles files;
+    Install();
     Disk::Use(&files);
 }
 

@@ -1,12 +1,15 @@
 #pragma once
 
 // A disk that fails when a test says so. It stands between the engine and the real disk, and sees the writes,
-// the syncs and the cuttings of a database file and of its log; and it sees each write, sync and renaming of
-// a file that is copied (Disk). Anything else passes unseen.
+// the syncs and the cuttings of a database file and of its log; where a test wants it, also each write, sync
+// and renaming of a file that is copied (Disk). Anything else passes unseen.
 namespace FaultyDisk {
 
-// Puts the disk under every database that is opened from now on in this process, and under the copying.
+// Puts the disk under every database that is opened from now on in this process.
 void Install();
+
+// The same, and under all copying.
+void InstallForCopies();
 
 // Heals the disk and begins to count anew.
 void Reset();

@@ -132,7 +132,7 @@ TEST_F(ProgressTest, AQuickRunDoesNotWaitForPaintings)
     Painting::Interval() = std::chrono::hours(1);
     Walk(20000, [](WalkingScreen& screen) {
         EXPECT_EQ(screen.seen.last(), "100 % 100") << "set, though not painted";
-        EXPECT_EQ(screen.painted, 1) << "as it begins";
+        EXPECT_LE(screen.painted, 3) << "as it begins";
     });
     Painting::Interval() = std::chrono::milliseconds(50);
 }

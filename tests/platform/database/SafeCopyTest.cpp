@@ -168,7 +168,7 @@ TEST_F(SafeCopyTest, ACopyIsForItsOwnerAlone)
 
 TEST_F(SafeCopyTest, ADiskThatIsFullOrGoneLeavesTheOlderCopyAndNothingElse)
 {
-    FaultyDisk::Install();
+    FaultyDisk::InstallForCopies();
     Write("a", QByteArray(3 << 20, 'a'));
     Write("b", "older");
     FaultyDisk::Reset();
