@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reports/MilkBooks.h"
 #include "society/Words.h"
 
 #include <QDate>
@@ -8,17 +9,6 @@
 #include <array>
 #include <map>
 #include <vector>
-
-// Where deliveries and sales are kept, and what the same columns are called there.
-struct MilkBooks {
-    QStringView table, copy, date, time, number, name;
-    bool holdsSnf = false;
-};
-
-inline constexpr MilkBooks CollectionBooks{u"MilkCollections", u"MilkCollectionsTemp", u"CollectionDate",
-    u"CollectionTime", u"CollectionNo", u"MemberName", false};
-inline constexpr MilkBooks SalesBooks{
-    u"MilkSales", u"MilkSalesTemp", u"SalesDate", u"SalesTime", u"SalesNo", u"CustomerName", true};
 
 // Both kinds of milk, in the order in which they are written.
 inline constexpr QStringView Animals[] = {Word::Cow, Word::Buffalo};

@@ -36,9 +36,8 @@ double NumberOfMember(const QString& name)
 
 void FillCopy(const MilkBooks& books, const MilkStatement::Scope& wanted)
 {
-    gCn.Execute(Sql(u"insert into ", books.copy, u" select * from ", books.table, u" where CompanyId=",
-        gAppState.gCompanyId, u" and ", books.date, u">=", SqlDay(wanted.from), u" and ", books.date, u"<=",
-        SqlDay(wanted.to), u" and trim(", books.name, u")=", Quoted(wanted.name)));
+    gCn.Execute(
+        Sql(books.CopyOf(wanted.from, wanted.to), u" and trim(", books.name, u")=", Quoted(wanted.name)));
 }
 
 }
