@@ -14,12 +14,14 @@
 #include "payments/frmNewMilkPayment.h"
 #include "payments/frmThevDate.h"
 #include "rates/frmNewFatRates.h"
+#include "reports/frmReportCashBook.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
 #include "reports/frmReportMilkPayments.h"
 #include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
+#include "reports/frmReportPurchaseSales.h"
 #include "sales/frmMilkSales.h"
 #include "utilities/frmAutoSettings.h"
 #include "utilities/frmBackup.h"
@@ -62,6 +64,8 @@ void RegisterScreens()
     Register<frmReportPaymentList>();
     Register<frmReportMilkPayments>();
     Register<frmReportMilkPaymentsRegister>();
+    Register<frmReportPurchaseSales>();
+    Register<frmReportCashBook>();
     Register<frmBackup>();
     Register<frmAutoSettings>();
     Register<frmThevDate>();

@@ -27,6 +27,12 @@ inline constexpr QStringView UchalJama = u"]cala jamaa"; // उचल जमा
 inline constexpr QStringView PaymentVoucher = u"pomaonT"; // पेमेन्ट
 inline constexpr QStringView ReceiptVoucher = u"irsaIT"; // रिसीट
 
+// The kinds of a transaction that is milk sold or bought.
+inline constexpr QStringView CashSale = u"raoK ivaËI"; // रोख विक्री
+inline constexpr QStringView CreditSale = u"]Qaar ivaËI"; // उधार विक्री
+inline constexpr QStringView CashPurchase = u"raoK KrodI"; // रोख खरेदी
+inline constexpr QStringView CreditPurchase = u"]Qaar KrodI"; // उधार खरेदी
+
 // The heads of deposits, and in Latin letters those of an advance that comes back: kept from a payment, or
 // by a voucher.
 inline constexpr QStringView CowThev = u"gaaya zova"; // गाय ठेव

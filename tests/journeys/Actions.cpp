@@ -18,6 +18,12 @@ const QString ToTheSlips = QStringLiteral("{DOWN}{DOWN}{ENTER}{DOWN}{DOWN}{ENTER
 const QString ToTheRegister = QStringLiteral("{DOWN}{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
 const QString ToTheStatement =
     QStringLiteral("{DOWN}{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
+const QString ToThePurchases = QString(
+    QStringLiteral("{DOWN}{DOWN}{ENTER}") + QStringLiteral("{DOWN}").repeated(9) + QStringLiteral("{ENTER}"));
+const QString ToTheComparison = QString(QStringLiteral("{DOWN}{DOWN}{ENTER}")
+    + QStringLiteral("{DOWN}").repeated(11) + QStringLiteral("{ENTER}"));
+const QString ToTheCashBook = QString(QStringLiteral("{DOWN}{DOWN}{ENTER}")
+    + QStringLiteral("{DOWN}").repeated(14) + QStringLiteral("{ENTER}"));
 const QString ToTheBalances = QStringLiteral("{DOWN}{DOWN}{DOWN}{ENTER}{ENTER}");
 const QString ToTheInstallments = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
 const QString ToThePayments = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
@@ -131,6 +137,13 @@ const std::vector<Action>& Actions()
         {QStringLiteral("StagedBalances"),
             ToTheBalances + QStringLiteral("01042026{ENTER}15042026{ENTER}1{ENTER}{ENTER}"),
             QStringLiteral("%i")},
+        {QStringLiteral("StagedPurchases"), ToThePurchases + QStringLiteral("14042026{ENTER}15042026{ENTER}"),
+            QStringLiteral("%i")},
+        {QStringLiteral("StagedComparison"),
+            ToTheComparison + QStringLiteral("14042026{ENTER}15042026{ENTER}dUQa saMGa{ENTER}"),
+            QStringLiteral("%i")},
+        {QStringLiteral("StagedCashBook"), ToTheCashBook + QStringLiteral("12042026{ENTER}15042026{ENTER}"),
+            QStringLiteral("%i")},
         {QStringLiteral("DeletedMember"), ToTheMembers + QStringLiteral("%K1{ENTER}{ENTER}"), Yes},
         {QStringLiteral("HeadOfAnAdvance"), ToAnAdvance, QStringLiteral("{ENTER}")},
         {QStringLiteral("NewAdvance"), ToAnAdvance + QStringLiteral("{ENTER}{F4}"),
@@ -234,4 +247,7 @@ void FillBooks()
             "values(1,'12/04/2026',1,1,']cala',40)");
     Execute("insert into AdvanceReceipt(CompanyId,TranDate,TranId,MemberNo,AdvanceType,Amount) "
             "values(1,'12/04/2026',2,1,'Uchal Receipt',30)");
+    Execute("insert into AccountsMaster values(1,9,'dUQa saMGa','Debtors','saMGa',0,'D',0,'D')");
+    Execute("insert into MilkSales values(1,'15/04/2026','sakaL','saMGa ivaËI',1,2,'dUQa saMGa','gaaya',"
+            "100,4.1,40,4000,101.5,8.5,4.25,41,4161.5)");
 }

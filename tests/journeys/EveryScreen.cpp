@@ -32,14 +32,20 @@ ScreenState From(const char* opening, const char* screen, const char* keys)
     return state;
 }
 
-// The screen of the registers in a mode, as the menu opens it.
+// A screen of several reports in a mode, as the menu opens it.
+ScreenState InMode(const char* screen, const char* mode, const char* keys)
+{
+    const QString name = QString::fromLatin1(screen);
+    const QString word = QString::fromLatin1(mode);
+    return {name, QString::fromUtf8(keys), [name, word] {
+                gAppState.gReportMode = word;
+                ScreenDirectory::Open(name, {});
+            }};
+}
+
 ScreenState Register(const char* mode, const char* keys)
 {
-    const QString word = QString::fromLatin1(mode);
-    return {QStringLiteral("frmReportMilkPaymentsRegister"), QString::fromUtf8(keys), [word] {
-                gAppState.gReportMode = word;
-                ScreenDirectory::Open(QStringLiteral("frmReportMilkPaymentsRegister"), {});
-            }};
+    return InMode("frmReportMilkPaymentsRegister", mode, keys);
 }
 
 template <class S> ScreenState Alone(const char* screen, const char* keys = "")
@@ -141,6 +147,12 @@ std::vector<ScreenState> All()
         Register("UD", "01042026{ENTER}20042026{ENTER}1{ENTER}"),
         Register("UchalBalanceStatement", "01042026{ENTER}20042026{ENTER}1{ENTER}{ENTER}"),
         Register("ThevBalanceStatement", "01042026{ENTER}20042026{ENTER}"),
+        InMode("frmReportPurchaseSales", "PS", "01042026{ENTER}{ENTER}"),
+        InMode("frmReportPurchaseSales", "MP", "01042026{ENTER}"),
+        InMode("frmReportPurchaseSales", "MS", "01042026{ENTER}15042026{ENTER}"),
+        InMode("frmReportCashBook", "C", "01042026{ENTER}{ENTER}"),
+        InMode("frmReportCashBook", "B", "01042026{ENTER}{ENTER}"),
+        InMode("frmReportCashBook", "V", "01042026{ENTER}{ENTER}dUQa saMGa{ENTER}"),
         From("frmReportMembersList", "frmReportPreview", "%i"),
         From("frmReportMembersList", "frmReportFile", "%i^s"),
         From("frmReportMembersList", "frmReportPrinter", "%i^p"),

@@ -337,6 +337,10 @@ TEST_F(WantedOnEveryScreenTest, TheReports)
         "ज्या दिवशी दुधाचे पेमेंट झाले तो दिनांक टाका    Esc : बाहेर");
     Expect("frmReportMilkPaymentsRegister", "{ENTER}", "maskFromDate", "lblGuide", DateWanted);
     Expect("frmReportMilkPaymentsRegister", "05042026{ENTER}{ENTER}", "maskToDate", "lblGuide", DateWanted);
+    for (const char* screen : {"frmReportPurchaseSales", "frmReportCashBook"}) {
+        Expect(screen, "{ENTER}", "maskFromDate", "lblGuide", DateWanted);
+        Expect(screen, "05042026{ENTER}31132026{ENTER}", "maskToDate", "lblGuide", DateWanted);
+    }
 }
 
 }

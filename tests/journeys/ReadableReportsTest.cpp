@@ -1,12 +1,14 @@
 // The settings, the report screens, and the reports before the clerk's eyes.
 
 #include "core/preview/ReportHandover.h"
+#include "reports/frmReportCashBook.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
 #include "reports/frmReportMilkPayments.h"
 #include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
+#include "reports/frmReportPurchaseSales.h"
 #include "tests/journeys/ReadableTest.h"
 #include "utilities/frmAutoSettings.h"
 
@@ -124,6 +126,36 @@ TEST_F(ReadableReportsTest, TheRegistersAndTheirPreviews)
         });
         EXPECT_FALSE(Failure);
         LookAtReport<frmReportMilkPaymentsRegister>("01042026{ENTER}10042026{ENTER}1{ENTER}%i");
+    }
+}
+
+TEST_F(ReadableReportsTest, PurchaseAndSalesAndTheirPreviews)
+{
+    for (const char* mode : {"PS", "MP", "MS"}) {
+        gAppState.gReportMode = QString::fromLatin1(mode);
+        On<frmReportPurchaseSales>([](Clerk& clerk) {
+            TypeAndLook(clerk, {"", "{ENTER}", "01042026{ENTER}", "15042026{ENTER}"});
+        });
+        EXPECT_FALSE(Failure);
+        LookAtReport<frmReportPurchaseSales>("01042026{ENTER}15042026{ENTER}%i");
+    }
+}
+
+TEST_F(ReadableReportsTest, TheBooksOfCashAndBankTheComparisonAndTheirPreviews)
+{
+    Run("update AccountsMaster set OpeningBalance=-9877887.25 where GroupCode<>'Debtors'");
+    for (const char* mode : {"C", "B", "V"}) {
+        gAppState.gReportMode = QString::fromLatin1(mode);
+        On<frmReportCashBook>([](Clerk& clerk) {
+            TypeAndLook(clerk, {"", "01042026{ENTER}", "15042026{ENTER}", "{ENTER}"});
+        });
+        EXPECT_FALSE(Failure);
+    }
+    for (const char* mode : {"C", "B", "V"}) {
+        gAppState.gReportMode = QString::fromLatin1(mode);
+        LookAtReport<frmReportCashBook>(QLatin1String(mode) == u"C"
+                ? "01042026{ENTER}15042026{ENTER}%i"
+                : "01042026{ENTER}15042026{ENTER}{DOWN}{ENTER}%i");
     }
 }
 

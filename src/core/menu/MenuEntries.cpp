@@ -32,6 +32,7 @@ const std::vector<MenuEntry>& MenuEntries::MReports()
 {
     const auto registers = QStringLiteral("frmReportMilkPaymentsRegister");
     const auto purchaseSales = QStringLiteral("frmReportPurchaseSales");
+    const auto books = QStringLiteral("frmReportCashBook");
     static const std::vector<MenuEntry> entries = {
         {u"dUQa saMklana irpaoT-", QStringLiteral("frmReportMilkCollections"), {}},
         {u"dUQa saMklana pavatI", QStringLiteral("frmSearchCollections"), {}, {}, true},
@@ -44,10 +45,12 @@ const std::vector<MenuEntry>& MenuEntries::MReports()
         {u"vaaZÀtUT p~k", QStringLiteral("frmVadhTootReport"), {}},
         {u"dUQa KrodI irpaoT-", purchaseSales, QStringLiteral("MP"), u"  dUQa KrodI irpaoT-"},
         {u"dUQa ivaËI irpaoT-", purchaseSales, QStringLiteral("MS"), u"  dUQa ivaËI irpaoT-"},
-        {u"dUQa ivaËIcaI tulanaa%mak AakDovaarI", QStringLiteral("frmReportCashBook"), QStringLiteral("V"),
+        {u"dUQa ivaËIcaI tulanaa%mak AakDovaarI", books, QStringLiteral("V"),
             u"  dUQa ivaËIcaI tulanaa%mak AakDovaarI"},
         {u"dUQa saMklana À ivaËI irpaoT-", QStringLiteral("frmReportMilkPS"), {}},
         {u"saBaasadaMcaI yaadI", QStringLiteral("frmReportMembersList"), {}},
+        {u"k^Sa bauk", books, QStringLiteral("C"), u"  k^Sa bauk"},
+        {u"ba^nk bauk", books, QStringLiteral("B"), u"  ba^nk bauk"},
         {Back, {}, {}},
     };
     return entries;

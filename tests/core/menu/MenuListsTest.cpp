@@ -54,6 +54,8 @@ const Table MReports = {
         "  dUQa ivaËIcaI tulanaa%mak AakDovaarI"},
     {"dUQa saMklana À ivaËI irpaoT-", "frmReportMilkPS"},
     {"saBaasadaMcaI yaadI", "frmReportMembersList"},
+    {"k^Sa bauk", "frmReportCashBook", "C", "  k^Sa bauk"},
+    {"ba^nk bauk", "frmReportCashBook", "B", "  ba^nk bauk"},
     Back,
 };
 
