@@ -2,12 +2,14 @@
 
 #include "tests/reports/ReportsTest.h"
 
+#include "reports/frmReportCashBook.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
 #include "reports/frmReportMilkPayments.h"
 #include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
+#include "reports/frmReportPurchaseSales.h"
 
 namespace {
 
@@ -42,6 +44,16 @@ struct PaymentRegisters {
     static constexpr const char* Keys = "11042026{ENTER}{ENTER}3{ENTER}{ENTER}";
     static constexpr int Fields = 4;
 };
+struct PurchaseAndSales {
+    using Screen = frmReportPurchaseSales;
+    static constexpr const char* Keys = "11042026{ENTER}15042026{ENTER}";
+    static constexpr int Fields = 2;
+};
+struct CashBook {
+    using Screen = frmReportCashBook;
+    static constexpr const char* Keys = "11042026{ENTER}15042026{ENTER}";
+    static constexpr int Fields = 3;
+};
 
 template <class S> class ReportEscTest : public ReportsTest {
 protected:
@@ -57,8 +69,8 @@ protected:
     }
 };
 
-using Screens =
-    testing::Types<Statement, CollectionList, MembersList, PaymentList, PaySlipList, PaymentRegisters>;
+using Screens = testing::Types<Statement, CollectionList, MembersList, PaymentList, PaySlipList,
+    PaymentRegisters, PurchaseAndSales, CashBook>;
 TYPED_TEST_SUITE(ReportEscTest, Screens);
 
 TYPED_TEST(ReportEscTest, TheFieldsAreEmptyWhenTheScreenHasClosed)

@@ -2,20 +2,23 @@
 
 #include "tests/reports/ReportsTest.h"
 
+#include "reports/frmReportCashBook.h"
 #include "reports/frmReportMembersList.h"
 #include "reports/frmReportMilkCollections.h"
 #include "reports/frmReportMilkPS.h"
 #include "reports/frmReportMilkPayments.h"
 #include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
+#include "reports/frmReportPurchaseSales.h"
 
 namespace {
 
 template <class S> class ReportExitTest : public ReportsTest {
 };
 
-using ReportScreens = testing::Types<frmReportMilkPS, frmReportMilkCollections, frmReportMembersList,
-    frmReportPaymentList, frmReportMilkPayments, frmReportMilkPaymentsRegister>;
+using ReportScreens =
+    testing::Types<frmReportMilkPS, frmReportMilkCollections, frmReportMembersList, frmReportPaymentList,
+        frmReportMilkPayments, frmReportMilkPaymentsRegister, frmReportPurchaseSales, frmReportCashBook>;
 TYPED_TEST_SUITE(ReportExitTest, ReportScreens);
 
 TYPED_TEST(ReportExitTest, TheButtonLeavesTheScreenAndPrintsNothing)
