@@ -64,3 +64,6 @@ create index MilkCollectionsTempByLiters on MilkCollectionsTemp (Liters);
 create index MilkCollectionsTempByFat on MilkCollectionsTemp (Fat);
 create index MilkCollectionsTempByRate on MilkCollectionsTemp (Rate);
 create index MilkCollectionsTempByAmount on MilkCollectionsTemp (Amount);
+
+-- The purchases and the sales are summed from the copy, twice for every day of the report.
+create index TransactionsMasterTempByDay on TransactionsMasterTemp (TranDate);
