@@ -179,7 +179,7 @@ private:
             AddText(ShortestDecimal(value), m_stretch.x, y - m_lineHeight / 2,
                 Spacing::ChartAxis - Spacing::ChartGap, Align::Right);
             AddStroke(PlacedItem::Kind::Line, {m_plot.left(), y}, {m_plot.right(), y}, ThinLine,
-                i == 0 ? 0 : GridGray);
+                std::abs(value) < m_scale.step / 2 ? 0 : GridGray);
         }
         AddStroke(PlacedItem::Kind::Line, m_plot.topLeft(), m_plot.bottomLeft(), ThinLine, 0);
     }

@@ -175,6 +175,31 @@ TEST_F(FillingTest, ALineChartJoinsItsPointsBelowZeroToo)
     EXPECT_EQ(rising, 1);
 }
 
+TEST_F(FillingTest, TheDarkLineOfAChartIsThatOfNoughtAndBarsBelowZeroHangFromIt)
+{
+    AddDelivery(1, Morning, "अ", 10, 4, 30);
+    AddDelivery(2, Morning, "ब", -25, 4, 60);
+    const std::unique_ptr<Report> report =
+        Make(Template("<chart source=\"c\" kind=\"bar\" x=\"{MemberNo}\"><series "
+                      "label=\"लिटर\" value=\"Liters\"/></chart>"));
+    report->Complete();
+    const Page& page = report->PageAt(0);
+    std::vector<float> dark;
+    std::vector<PlacedItem> boxes;
+    for (const PlacedItem& item : page.items) {
+        if (item.kind == PlacedItem::Kind::Line && item.height == 0 && item.gray == 0)
+            dark.push_back(item.y);
+        if (item.kind == PlacedItem::Kind::Box)
+            boxes.push_back(item);
+    }
+    ASSERT_EQ(dark.size(), 1U);
+    EXPECT_NEAR(dark[0], Item(page, "0").Rect().center().y(), 0.01);
+    ASSERT_EQ(boxes.size(), 3U) << "the legend's mark and two bars";
+    EXPECT_NEAR(boxes[1].Rect().bottom(), dark[0], 0.01);
+    EXPECT_NEAR(boxes[2].y, dark[0], 0.01);
+    EXPECT_NEAR(boxes[2].height, 2.5 * boxes[1].height, 0.01);
+}
+
 TEST_F(FillingTest, ALineChartMarksItsPointsSoThatOneAloneIsSeen)
 {
     AddDelivery(1, Morning, "अ", 10, 4, 30);
