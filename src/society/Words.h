@@ -13,6 +13,7 @@ inline constexpr QStringView Cash = u"raoK"; // रोख
 inline constexpr QStringView Bank = u"ba^nk"; // बॅन्क
 inline constexpr QStringView LocalSale = u"sqaainak ivaËI"; // स्थानिक विक्री
 inline constexpr QStringView FederationSale = u"saMGa ivaËI"; // संघ विक्री
+inline constexpr QStringView Federation = u"saMGa"; // संघ
 inline constexpr QStringView Yes = u"haoya"; // होय
 inline constexpr QStringView No = u"naahI"; // नाही
 

@@ -1,0 +1,137 @@
+#include "reports/VadhToot.h"
+
+#include "core/state/AppState.h"
+#include "platform/database/Recordset.h"
+#include "platform/database/Sql.h"
+#include "platform/database/Transaction.h"
+#include "reports/ReportRun.h"
+#include "society/Queries.h"
+#include "society/Words.h"
+
+namespace {
+
+constexpr qsizetype MostFederationCustomers = 11;
+
+// The milk of a shift and an animal, and what its sum is called.
+struct ShiftMilk {
+    QStringView shift;
+    QStringView animal;
+    QStringView sum;
+};
+
+constexpr ShiftMilk MilkOfADay[] = {
+    {Word::Morning, Word::Cow, u"TotalCowMLiters"},
+    {Word::Morning, Word::Buffalo, u"TotalBuffMLiters"},
+    {Word::Evening, Word::Cow, u"TotalCowELiters"},
+    {Word::Evening, Word::Buffalo, u"TotalBuffELiters"},
+};
+
+// What came in and went out, in litres or rupees.
+struct InAndOut {
+    double in = 0;
+    double federation = 0;
+    double out = 0;
+
+    double Local() const { return out - federation; }
+    bool IsNothing() const { return in <= 0 && out <= 0; }
+};
+
+SqlText Collected(QStringView column, const QDate& day, const ShiftMilk& milk)
+{
+    return Sql(u"select sum(", column, u") as ", milk.sum, u" from MilkCollections where CollectionDate=",
+        SqlDay(day), u" and trim(CollectionTime)=", Quoted(milk.shift), u" and trim(Animal)=",
+        Quoted(milk.animal));
+}
+
+SqlText Sold(QStringView column, QStringView sum, const QDate& day, const ShiftMilk& milk)
+{
+    return Sql(u"select sum(", column, u") as ", sum, u" from MilkSales where SalesDate=", SqlDay(day),
+        u" and trim(SalesTime)=", Quoted(milk.shift), u" and trim(Animal)=", Quoted(milk.animal));
+}
+
+InAndOut Reckon(
+    QStringView column, const QDate& day, const ShiftMilk& milk, const QStringList& federationCustomers)
+{
+    InAndOut reckoned;
+    reckoned.in = Figure(Collected(column, day, milk));
+    const SqlText sold = Sold(column, milk.sum, day, milk);
+    for (const QString& name : federationCustomers)
+        reckoned.federation += Figure(Sql(sold, u" and trim(CustomerName)=", Quoted(name)));
+    reckoned.out = Figure(sold);
+    return reckoned;
+}
+
+// What the society measured of the milk that it sold, below zero: the statement sets it against what came in.
+double OurLitersTakenAway(const QDate& day, const ShiftMilk& milk)
+{
+    return 0 - Figure(Sold(u"OurLiters", u"TotalLiters", day, milk));
+}
+
+void InsertLiters(const QDate& day, const ShiftMilk& milk, const InAndOut& liters)
+{
+    gCn.Execute(Sql(u"insert into VadhTootReport(CompanyId,CollectionDate,CollectionTime,Animal,LitersIn,"
+                    u"LitersLocal,LitersSangh,LitersOut,OurLiters) values(",
+        Values(gAppState.gCompanyId, day, milk.shift, milk.animal, liters.in, liters.Local(),
+            liters.federation, liters.out, OurLitersTakenAway(day, milk)),
+        u")"));
+}
+
+void InsertAmounts(const QDate& day, const ShiftMilk& milk, const InAndOut& rupees)
+{
+    gCn.Execute(Sql(u"insert into VadhTootReport(CompanyId,CollectionDate,CollectionTime,Animal,LitersIn,"
+                    u"LitersLocal,LitersSangh,LitersOut) values(",
+        Values(gAppState.gCompanyId, day, milk.shift, milk.animal, rupees.in, rupees.Local(),
+            rupees.federation, rupees.out),
+        u")"));
+}
+
+// The name of the federation's ledger account, the first if there are several; a blank if there is none.
+QString FederationAccount()
+{
+    const Recordset account(gCn,
+        Sql(u"select * from AccountsMaster where CompanyId=", gAppState.gCompanyId,
+            u" and trim(GroupCode)='Debtors' and trim(Category)=", Quoted(Word::Federation)));
+    return account.Eof() ? QStringLiteral(" ") : account[u"AccountName"].Text();
+}
+
+using Insertion = void (*)(const QDate& day, const ShiftMilk& milk, const InAndOut& figures);
+
+void StageDays(const QDate& from, const QDate& to, QStringView column, const QStringList& federationCustomers,
+    Insertion insert)
+{
+    Transaction staging(gCn);
+    ReportRun::Empty({u"VadhTootReport", u"ReportDates"});
+    ReportRun::StageDates(DateText(from), DateText(to));
+    for (QDate day = from; day <= to; day = day.addDays(1)) {
+        for (const ShiftMilk& milk : MilkOfADay) {
+            const InAndOut figures = Reckon(column, day, milk, federationCustomers);
+            if (!figures.IsNothing())
+                insert(day, milk, figures);
+        }
+    }
+    ReportRun::Tidy(u"VadhTootReport");
+    staging.Commit();
+}
+
+}
+
+QStringList VadhToot::FederationCustomers()
+{
+    QStringList names;
+    for (Recordset customer(gCn,
+             Sql(u"select * from CustomersMaster where CompanyId=", gAppState.gCompanyId,
+                 u" and Trim(CustomerType)=", Quoted(Word::FederationSale)));
+         !customer.Eof() && names.size() < MostFederationCustomers; customer.MoveNext())
+        names.append(customer[u"CustomerName"].Text());
+    return names;
+}
+
+void VadhToot::StageLiters(const QDate& from, const QDate& to, const QStringList& federationCustomers)
+{
+    StageDays(from, to, u"Liters", federationCustomers, InsertLiters);
+}
+
+void VadhToot::StageAmounts(const QDate& from, const QDate& to)
+{
+    StageDays(from, to, u"Amount", {FederationAccount()}, InsertAmounts);
+}
