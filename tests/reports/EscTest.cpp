@@ -10,6 +10,7 @@
 #include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
 #include "reports/frmReportPurchaseSales.h"
+#include "reports/frmVadhTootReport.h"
 
 namespace {
 
@@ -54,6 +55,11 @@ struct CashBook {
     static constexpr const char* Keys = "11042026{ENTER}15042026{ENTER}";
     static constexpr int Fields = 3;
 };
+struct GainAndLoss {
+    using Screen = frmVadhTootReport;
+    static constexpr const char* Keys = "13042026{ENTER}15042026{ENTER}";
+    static constexpr int Fields = 2;
+};
 
 template <class S> class ReportEscTest : public ReportsTest {
 protected:
@@ -70,7 +76,7 @@ protected:
 };
 
 using Screens = testing::Types<Statement, CollectionList, MembersList, PaymentList, PaySlipList,
-    PaymentRegisters, PurchaseAndSales, CashBook>;
+    PaymentRegisters, PurchaseAndSales, CashBook, GainAndLoss>;
 TYPED_TEST_SUITE(ReportEscTest, Screens);
 
 TYPED_TEST(ReportEscTest, TheFieldsAreEmptyWhenTheScreenHasClosed)

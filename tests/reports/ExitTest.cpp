@@ -10,16 +10,22 @@
 #include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
 #include "reports/frmReportPurchaseSales.h"
+#include "reports/frmVadhTootReport.h"
 
 namespace {
 
 template <class S> class ReportExitTest : public ReportsTest {
 };
 
-using ReportScreens =
-    testing::Types<frmReportMilkPS, frmReportMilkCollections, frmReportMembersList, frmReportPaymentList,
-        frmReportMilkPayments, frmReportMilkPaymentsRegister, frmReportPurchaseSales, frmReportCashBook>;
+using ReportScreens = testing::Types<frmReportMilkPS, frmReportMilkCollections, frmReportMembersList,
+    frmReportPaymentList, frmReportMilkPayments, frmReportMilkPaymentsRegister, frmReportPurchaseSales,
+    frmReportCashBook, frmVadhTootReport>;
 TYPED_TEST_SUITE(ReportExitTest, ReportScreens);
+
+template <class S>
+constexpr bool HasTwoDates =
+    std::is_same_v<S,
+        frmReportMilkPS> || std::is_same_v<S, frmReportMilkPaymentsRegister> || std::is_same_v<S, frmVadhTootReport>;
 
 TYPED_TEST(ReportExitTest, TheButtonLeavesTheScreenAndPrintsNothing)
 {
@@ -48,8 +54,7 @@ TYPED_TEST(ReportExitTest, ItsKeyLeavesTheScreen)
 {
     this->Run("insert into MilkPayments(CompanyId,PaymentDate,MemberNo) values(1,'15/04/2026',3)");
     this->template On<TypeParam>([](Clerk& clerk) {
-        if (std::is_same_v<TypeParam,
-                frmReportMilkPS> || std::is_same_v<TypeParam, frmReportMilkPaymentsRegister>)
+        if (HasTwoDates<TypeParam>)
             clerk.Type("01042026{ENTER}10042026");
         else if (!std::is_same_v<TypeParam, frmReportMembersList>)
             clerk.Type("15042026");
