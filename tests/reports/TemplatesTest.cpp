@@ -238,6 +238,39 @@ TEST_F(ShippedTemplatesTest, MilkSalesReceiptShenoliIsSilentWhereTheSocietyHasNo
     EXPECT_FALSE(ReportTexts().contains("आपले मोजमाप"));
 }
 
+TEST_F(ShippedTemplatesTest, BonusPaymentsShowsEachMemberAndWhatIsLeftWhereTheClerkHasPassed)
+{
+    int serial = 0;
+    for (Recordset member(gCn, "select MemberNo,MemberName from MembersMaster order by MemberNo");
+         !member.Eof(); member.MoveNext()) {
+        const int n = ++serial;
+        Run(Sql(
+            u"Insert Into BonusPayments(CompanyId,FromDate,ToDate,FromAcNo,ToAcNo,MilkType,CowBonusRate,"
+            u"BuffBonusRate,SerialNo,MemberNo,MemberName,CurrentCowLiters,CurrentBuffLiters,TotalCowLiters,"
+            u"TotalBuffLiters,TotalCowBonus,TotalBuffBonus,TotalBonus,Advance) Values(",
+            Values(1, u"01/04/2026", u"31/03/2027", 1, 40, u"daonhI", 0.5, 0.75, n,
+                member[u"MemberNo"].Number(), member[u"MemberName"].Text(), 12345.125 * n, 8765.5 * n,
+                12345.125 * n, 8765.5 * n, 6172.5625 * n, 6574.125 * n, 12746.6875 * n, 100 * n),
+            u")"));
+    }
+    Run("Update BonusPayments Set PreviousCowLiters=10.125,PreviousBuffLiters=20,RemainingBonus=12659.19,"
+        "PreviousThev=12.5 Where SerialNo=1");
+    ReportControl report;
+    report.SetReportFileName(Paths::AppFolder.toString() + QStringLiteral("BonusPayments.rpt"));
+    report.SetLogon(Logon());
+    report.Print();
+    CompareWithGolden("BonusPayments");
+}
+
+TEST_F(ShippedTemplatesTest, BonusPaymentsSaysWhenThereIsNone)
+{
+    ReportControl report;
+    report.SetReportFileName(Paths::AppFolder.toString() + QStringLiteral("BonusPayments.rpt"));
+    report.SetLogon(Logon());
+    report.Print();
+    EXPECT_TRUE(ReportTexts().contains("या काळात कोणाही मेम्बरचा बोनस नाही."));
+}
+
 TEST_F(ShippedTemplatesTest, BankMilkPaymentShowsTheAccounts)
 {
     PayTheFirstTenDays();
