@@ -22,6 +22,7 @@
 #include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
 #include "reports/frmReportPurchaseSales.h"
+#include "reports/frmVadhTootReport.h"
 #include "sales/frmMilkSales.h"
 #include "utilities/frmAutoSettings.h"
 #include "utilities/frmBackup.h"
@@ -64,6 +65,7 @@ void RegisterScreens()
     Register<frmReportPaymentList>();
     Register<frmReportMilkPayments>();
     Register<frmReportMilkPaymentsRegister>();
+    Register<frmVadhTootReport>();
     Register<frmReportPurchaseSales>();
     Register<frmReportCashBook>();
     Register<frmBackup>();

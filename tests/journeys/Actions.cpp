@@ -24,6 +24,8 @@ const QString ToTheComparison = QString(QStringLiteral("{DOWN}{DOWN}{ENTER}")
     + QStringLiteral("{DOWN}").repeated(11) + QStringLiteral("{ENTER}"));
 const QString ToTheCashBook = QString(QStringLiteral("{DOWN}{DOWN}{ENTER}")
     + QStringLiteral("{DOWN}").repeated(14) + QStringLiteral("{ENTER}"));
+const QString ToTheGainAndLoss =
+    QStringLiteral("{DOWN}{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
 const QString ToTheBalances = QStringLiteral("{DOWN}{DOWN}{DOWN}{ENTER}{ENTER}");
 const QString ToTheInstallments = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
 const QString ToThePayments = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
@@ -144,6 +146,9 @@ const std::vector<Action>& Actions()
             QStringLiteral("%i")},
         {QStringLiteral("StagedCashBook"), ToTheCashBook + QStringLiteral("12042026{ENTER}15042026{ENTER}"),
             QStringLiteral("%i")},
+        {QStringLiteral("StagedGainAndLoss"),
+            ToTheGainAndLoss + QStringLiteral("14042026{ENTER}15042026{ENTER}{ENTER}"),
+            QStringLiteral("{ENTER}")},
         {QStringLiteral("DeletedMember"), ToTheMembers + QStringLiteral("%K1{ENTER}{ENTER}"), Yes},
         {QStringLiteral("HeadOfAnAdvance"), ToAnAdvance, QStringLiteral("{ENTER}")},
         {QStringLiteral("NewAdvance"), ToAnAdvance + QStringLiteral("{ENTER}{F4}"),

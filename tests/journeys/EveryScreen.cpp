@@ -153,6 +153,7 @@ std::vector<ScreenState> All()
         InMode("frmReportCashBook", "C", "01042026{ENTER}{ENTER}"),
         InMode("frmReportCashBook", "B", "01042026{ENTER}{ENTER}"),
         InMode("frmReportCashBook", "V", "01042026{ENTER}{ENTER}dUQa saMGa{ENTER}"),
+        ByName("frmVadhTootReport", "14042026{ENTER}15042026{ENTER}"),
         From("frmReportMembersList", "frmReportPreview", "%i"),
         From("frmReportMembersList", "frmReportFile", "%i^s"),
         From("frmReportMembersList", "frmReportPrinter", "%i^p"),

@@ -191,6 +191,18 @@ TEST_F(ListOfScreensTest, TheMenuOpensTheCustomersBelowTheMembers)
     }
 }
 
+TEST_F(ListOfScreensTest, TheMenuOpensTheGainAndLossBelowTheRegisters)
+{
+    On<MainMenuFrm>([](Clerk& clerk) {
+        Type(clerk, "15042026{ENTER}{ENTER}{DOWN}{DOWN}{ENTER}");
+        Type(clerk, "{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
+        EXPECT_EQ(OnTop(clerk), "frmVadhTootReport");
+        Type(clerk, "{ESC}");
+        EXPECT_EQ(OnTop(clerk), "MainMenuFrm");
+    });
+    EXPECT_FALSE(Failure);
+}
+
 // Where a field keeps the focus without a message
 
 class WantedOnEveryScreenTest : public ProgramTest {
@@ -341,6 +353,8 @@ TEST_F(WantedOnEveryScreenTest, TheReports)
         Expect(screen, "{ENTER}", "maskFromDate", "lblGuide", DateWanted);
         Expect(screen, "05042026{ENTER}31132026{ENTER}", "maskToDate", "lblGuide", DateWanted);
     }
+    Expect("frmVadhTootReport", "{ENTER}", "maskFromDate", "lblGuide", DateWanted);
+    Expect("frmVadhTootReport", "14042026{ENTER}{ENTER}", "maskToDate", "lblGuide", DateWanted);
 }
 
 }

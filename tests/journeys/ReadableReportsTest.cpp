@@ -9,6 +9,7 @@
 #include "reports/frmReportMilkPaymentsRegister.h"
 #include "reports/frmReportPaymentList.h"
 #include "reports/frmReportPurchaseSales.h"
+#include "reports/frmVadhTootReport.h"
 #include "tests/journeys/ReadableTest.h"
 #include "utilities/frmAutoSettings.h"
 
@@ -157,6 +158,16 @@ TEST_F(ReadableReportsTest, TheBooksOfCashAndBankTheComparisonAndTheirPreviews)
                 ? "01042026{ENTER}15042026{ENTER}%i"
                 : "01042026{ENTER}15042026{ENTER}{DOWN}{ENTER}%i");
     }
+}
+
+TEST_F(ReadableReportsTest, TheGainAndLossAndItsPreviews)
+{
+    On<frmVadhTootReport>([](Clerk& clerk) {
+        TypeAndLook(clerk, {"", "14042026{ENTER}", "{ENTER}", "15042026{ENTER}", "{DOWN}", "{ENTER}"});
+    });
+    EXPECT_FALSE(Failure);
+    LookAtReport<frmVadhTootReport>("14042026{ENTER}15042026{ENTER}{ENTER}{ENTER}");
+    LookAtReport<frmVadhTootReport>("14042026{ENTER}15042026{ENTER}{DOWN}{ENTER}{ENTER}");
 }
 
 TEST_F(ReadableReportsTest, AReportWithItsSearchItsFilesAndItsPrinters)
