@@ -1,5 +1,6 @@
 #include "Screens.h"
 
+#include "bonus/frmBonusPayments.h"
 #include "collection/frmAbsenseMemberCollection.h"
 #include "collection/frmCollectionGate.h"
 #include "collection/frmDailyCollection.h"
@@ -70,5 +71,6 @@ void RegisterScreens()
     Register<frmReportCashBook>();
     Register<frmBackup>();
     Register<frmAutoSettings>();
+    Register<frmBonusPayments>();
     Register<frmThevDate>();
 }

@@ -33,6 +33,10 @@ const QString ToOnePayment = QString(ToThePayments + QStringLiteral("{DOWN}{ENTE
 const QString ToTheSales = QStringLiteral("{DOWN}{ENTER}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}");
 const QString ToASale = QString(ToTheSales + QStringLiteral("{ENTER}1{ENTER}"));
 const QString ToTheBackup = QStringLiteral("{ESC}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
+const QString ToTheBonus = // below "backup", which the list opens beside
+    QStringLiteral("{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}{DOWN}{ENTER}");
+const QString ToTheRun = QString(ToTheBonus
+    + QStringLiteral("01042026{ENTER}30042026{ENTER}1{ENTER}{ENTER}3{ENTER}.5{ENTER}.75{ENTER}{ENTER}"));
 const QString Yes = QStringLiteral("%h");
 
 void Execute(const char* statement)
@@ -123,6 +127,14 @@ const std::vector<Action>& Actions()
             ToASale + QStringLiteral("{UP}{ENTER}{ENTER}{ENTER}9.5{ENTER}{ENTER}{ENTER}{ENTER}"),
             QStringLiteral("{ENTER}")},
         {QStringLiteral("DeletedSale"), ToASale + QStringLiteral("{UP}{ENTER}"), QStringLiteral("{F10}")},
+        {QStringLiteral("OpenedBonus"), ToTheBonus.chopped(7), QStringLiteral("{ENTER}")},
+        {QStringLiteral("RateOfTheBonus"),
+            ToTheBonus + QStringLiteral("01042026{ENTER}30042026{ENTER}1{ENTER}{ENTER}3{ENTER}"),
+            QStringLiteral("7")},
+        {QStringLiteral("BonusOfMany"), ToTheRun, QStringLiteral("{ENTER}")},
+        {QStringLiteral("CorrectedBonus"),
+            ToTheRun + QStringLiteral("{ENTER}1{ENTER}{ENTER}5{ENTER}6{ENTER}7{ENTER}8{ENTER}"),
+            QStringLiteral("{ENTER}")},
         {QStringLiteral("NewMember"),
             ToTheMembers
                 + QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}{ENTER}3{ENTER}1{ENTER}250.5{ENTER}{ENTER}"),
@@ -236,6 +248,7 @@ void FillBooks()
                                    "OurFat,OurRate,OurAmount) values(")
             + QString::fromUtf8(sale));
     Execute("insert into MilkSalesTemp select * from MilkSales where SalesDate=#04/14/2026#");
+    Execute("insert into BonusPayments(CompanyId,SerialNo,MemberNo) values(1,1,99)");
     Execute("update AutoSettings set PurchaseEntry='Collection'");
     Execute("insert into "
             "MilkPayments(CompanyId,FromDate,ToDate,PaymentDate,TranId,MemberNo,MemberName,NetAmount) "

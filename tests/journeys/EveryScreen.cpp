@@ -69,6 +69,8 @@ std::vector<ScreenState> All()
     constexpr const char* line = "{ENTER}1{ENTER}{ENTER}3{ENTER}1{ENTER}5{ENTER}4.5{ENTER}{ENTER}";
     constexpr const char* sale =
         "{ENTER}1{ENTER}{ENTER}ha{^}Tola{ENTER}1{ENTER}10{ENTER}4.5{ENTER}{ENTER}{ENTER}";
+    constexpr const char* bonus = "01042026{ENTER}30042026{ENTER}1{ENTER}{ENTER}3{ENTER}.5{ENTER}.75{ENTER}{"
+                                  "ENTER}{ENTER}1{ENTER}{ENTER}";
     constexpr const char* advance =
         "%n15042026{ENTER}{ENTER}1{ENTER}{ENTER}KaV{ENTER}100{ENTER}{ENTER}]cala{ENTER}50{ENTER}";
     return {
@@ -128,6 +130,8 @@ std::vector<ScreenState> All()
         ByName("frmMilkSales", "{ENTER}1{ENTER}{UP}"),
         ByName("frmMilkSales", sale),
         ByName("frmMilkSales", "{ENTER}1{ENTER}{ENTER}raoK{ENTER}1{ENTER}10{F9}10.5{ENTER} "),
+        ByName("frmBonusPayments", "01042026{ENTER}30042026{ENTER}1{ENTER}{ENTER}"),
+        ByName("frmBonusPayments", bonus),
         ByName("frmThevDate", ""),
         ByName("frmBackup", ""),
         ByName("frmBackup", "2{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}"),

@@ -336,6 +336,20 @@ TEST_F(WantedOnEveryScreenTest, TheSales)
         "दर टाका : 0.01 ते 60.00    Esc : बाहेर");
 }
 
+TEST_F(WantedOnEveryScreenTest, TheBonus)
+{
+    const auto expect = [this](const char* keys, const char* focus, const char* guide) {
+        Expect("frmBonusPayments", keys, focus, "lblGuide", guide);
+    };
+    expect("31022026{ENTER}", "maskFromDate", DateWanted);
+    expect("01042026{ENTER}{ENTER}", "maskToDate", DateWanted);
+    expect("01042026{ENTER}30042026{ENTER}{ENTER}", "txtFromAcNo", "पहिला मेम्बर नंबर टाका    Esc : बाहेर");
+    expect("01042026{ENTER}30042026{ENTER}1{ENTER}{ENTER}3{ENTER}.5{ENTER}.75{ENTER}{ENTER}{ENTER}{ENTER}",
+        "txtMemberNo", "मेम्बर नंबर टाका    Alt+I : रिपोर्ट    Esc : बाहेर");
+    expect("01042026{ENTER}30042026{ENTER}1{ENTER}{ENTER}3{ENTER}.5{ENTER}.75{ENTER}{ENTER}{ENTER}8{ENTER}",
+        "txtMemberNo", "या नंबरचा मेम्बर या बोनसमध्ये नाही    Esc : बाहेर");
+}
+
 TEST_F(WantedOnEveryScreenTest, TheReports)
 {
     Expect("frmReportMilkPS", "{ENTER}", "maskFromDate", "lblGuide", DateWanted);
