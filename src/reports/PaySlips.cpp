@@ -135,8 +135,9 @@ void PaySlips::StageKapat(double memberNo) const
     const double fixedKapat = payment[u"FixedKapat"].Number();
     const double previous = PreviousBalance(memberNo, payment[u"PreviousAdvance"].Number());
     Heads heads;
-    for (Recordset row(gCn, Sql(u"Select * From MilkPaymentsDetails Where TranDate=", ofMember)); !row.Eof();
-         row.MoveNext()) {
+    for (Recordset row(
+             gCn, Sql(u"Select * From MilkPaymentsDetails Where TranDate=", ofMember, u" order by rowid"));
+         !row.Eof(); row.MoveNext()) {
         const QString type = row[u"AdvanceType"].Text();
         const double amount = row[u"Amount"].Number();
         if (type == Word::Uchal)

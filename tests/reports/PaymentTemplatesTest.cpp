@@ -25,7 +25,9 @@ class ShippedTemplatesOfPaymentsTest : public TemplateGoldenTest {
 protected:
     ShippedTemplatesOfPaymentsTest()
     {
-        Run("delete * from MilkCollections");
+        for (const char* table : {"MilkCollections", "MilkPayments", "MilkPaymentsDetails", "AdvanceReceipt",
+                 "TransactionsMaster", "TransactionsDetails"})
+            Run(QString("delete * from ") + table);
         Run("update MembersMaster set Animal='gaaya' where MemberNo=1");
         Run("update MembersMaster set Animal='mhOsa' where MemberNo=2");
         Run("update MembersMaster set Animal='daonhI' where MemberNo=3");

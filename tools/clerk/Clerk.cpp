@@ -80,11 +80,16 @@ public:
     }
 
     // Goes round the event loop twice, so that work which the program has put off until its event ends is
-    // done, too. If a box has opened, waits until it takes keys, as a clerk would.
+    // done, too. If a box has opened, waits until it takes keys, as a clerk would. A round that a handler
+    // lets in while it shows its progress doesn't count.
     void TurnWhenAtRest()
     {
-        QTimer::singleShot(0, qApp,
-            [this] { QTimer::singleShot(0, qApp, [this] { IsBusy() ? TurnWhenAtRest() : Turn(); }); });
+        Round([this] { Round([this] { Turn(); }); });
+    }
+
+    void Round(const std::function<void()>& next)
+    {
+        QTimer::singleShot(0, qApp, [this, next] { IsBusy() ? TurnWhenAtRest() : next(); });
     }
 
     void Ask(std::function<void()> wanted)

@@ -107,9 +107,8 @@ void Painting::RepaintInTime()
 {
     if (!IsDue())
         return;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->isVisible())
-            window->repaint();
+    if (Screen* screen = ModalStack::Current().Top())
+        screen->repaint();
     g_painted = Clock::now();
 }
 

@@ -15,7 +15,7 @@ bool IsDue();
 // LetIn if a painting is due, for a loop that comes by more often than the eye can follow.
 void KeepUp();
 
-// If a painting is due, paints the windows as they are, and lets nothing else happen: no key, no timer, no
+// If a painting is due, paints the screen on top as it is, and lets nothing else happen: no key, no timer, no
 // event. So it may be called in the midst of a statement of the books.
 void RepaintInTime();
 

@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <compare>
 #include <cstdint>
 
 // An amount in rupees with four decimals, held as a whole number of ten-thousandths, so that sums of any
@@ -26,7 +25,11 @@ public:
     Currency& operator-=(Currency other);
     friend Currency operator+(Currency first, Currency second) { return first += second; }
     friend Currency operator-(Currency first, Currency second) { return first -= second; }
-    auto operator<=>(const Currency& other) const = default;
+    bool operator==(Currency other) const { return m_tenThousandths == other.m_tenThousandths; }
+    bool operator<(Currency other) const { return m_tenThousandths < other.m_tenThousandths; }
+    bool operator>(Currency other) const { return other < *this; }
+    bool operator<=(Currency other) const { return !(other < *this); }
+    bool operator>=(Currency other) const { return !(*this < other); }
 
 private:
     std::int64_t m_tenThousandths = 0;
