@@ -97,7 +97,8 @@ void DeductionHeads::BuildDeductionHeads(const PaymentOf& of)
 {
     Transaction building(gCn);
     gCn.Execute(u"Delete * from AdvanceTemp");
-    gCn.Execute(Sql(u"Insert Into AdvanceTemp Select * From TransactionsDetails", of.InPeriod()));
+    gCn.Execute(
+        Sql(u"Insert Into AdvanceTemp Select * From TransactionsDetails", of.InPeriod(), u" order by rowid"));
     AddPreviousBalance(of);
     ApplyPeriodReceipts(of, u"AdvanceTemp");
     AddFixedKapat(of);

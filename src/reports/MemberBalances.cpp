@@ -131,8 +131,8 @@ void MemberBalances::StageStatement(const Wanted& wanted)
         u")"));
     const SqlText rows = Sql(u" Where TranDate>=", SqlDay(wanted.from), u" And Trandate<=", SqlDay(wanted.to),
         u" And Memberno=", member);
-    gCn.Execute(Sql(u"Insert Into AdvanceTemp Select * From TransactionsDetails", rows));
-    gCn.Execute(Sql(u"Insert Into AdvanceTemp Select * From AdvanceReceipt", rows));
+    gCn.Execute(Sql(u"Insert Into AdvanceTemp Select * From TransactionsDetails", rows, u" order by rowid"));
+    gCn.Execute(Sql(u"Insert Into AdvanceTemp Select * From AdvanceReceipt", rows, u" order by rowid"));
     ReportRun::Tidy(u"Advancetemp");
     staging.Commit();
 }

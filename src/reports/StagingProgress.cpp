@@ -39,6 +39,7 @@ void StagingProgress::Announce()
 void StagingProgress::Begin(int rows)
 {
     Announce();
+    m_name.clear();
     lblMember.SetVisible(true);
     m_bar.Begin(rows);
 }
@@ -51,7 +52,7 @@ void StagingProgress::Tell(double memberNo, const QString& name)
 
 void StagingProgress::Step()
 {
-    if (Painting::IsDue())
+    if (!m_name.isEmpty() && Painting::IsDue())
         lblMember.SetFigure(ShortestDecimal(m_memberNo) + u' ' + Shivaji01::ToUnicode(m_name));
     m_bar.Step();
 }

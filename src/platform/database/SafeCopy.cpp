@@ -18,7 +18,7 @@ namespace {
         Sentences(marathi, QString::fromUtf8(english).arg(QDir::toNativeSeparators(file))));
 }
 
-[[noreturn]] void ThrowUnreadable(const QString& source)
+[[noreturn]] void ThrowNotCopied(const QString& source)
 {
     Refuse(u"फाइल वाचता येत नाही. ड्राइव्ह जोडलेला आहे का ते पाहा. काहीही बदलले नाही.",
         "%1 can't be read. Is its drive there? Nothing was changed.", source);
@@ -104,7 +104,7 @@ void CopyBytes(QFile& source, QFile& copy, const SafeCopy::Progress& progress)
     while (done < all) {
         const QByteArray piece = source.read(pieceSize);
         if (piece.isEmpty())
-            ThrowUnreadable(source.fileName());
+            ThrowNotCopied(source.fileName());
         Require(Disk::Current().Write(copy, piece), copy.fileName());
         done += piece.size();
         if (progress)
@@ -126,7 +126,7 @@ void SafeCopy::Copy(const QString& from, const QString& to, const Check& check, 
 
     QFile source(from);
     if (!source.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        ThrowUnreadable(from);
+        ThrowNotCopied(from);
     QFile copy(to + QStringLiteral(".part")); // overwrites one that a power cut left behind
     auto leavings = qScopeGuard([&copy] {
         copy.close();

@@ -107,8 +107,11 @@ void Painting::RepaintInTime()
 {
     if (!IsDue())
         return;
-    if (Screen* screen = ModalStack::Current().Top())
+    if (Screen* screen = ModalStack::Current().Top()) {
+        for (QWidget* part : screen->findChildren<QWidget*>())
+            part->update(); // what is opaque isn't painted with the screen that it covers
         screen->repaint();
+    }
     g_painted = Clock::now();
 }
 
