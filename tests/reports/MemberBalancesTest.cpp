@@ -51,6 +51,17 @@ TEST_F(AdvanceStatementTest, TheOpeningRowStandsFirstEvenAtNought)
     EXPECT_FALSE(texts.contains("01/01/1940"));
 }
 
+TEST_F(AdvanceStatementTest, WhatWasGivenOnADayStandsInTheOrderInWhichItWasGiven)
+{
+    AddHead("TransactionsDetails", "12/04/2026", 1, "]cala", 90);
+    AddHead("TransactionsDetails", "12/04/2026", 1, "KaV", 20);
+    AddHead("AdvanceReceipt", "13/04/2026", 1, "Uchal Receipt", 30);
+    AddHead("AdvanceReceipt", "13/04/2026", 1, "Uchal Receipt", 10);
+    Print("UD", Statement);
+    EXPECT_EQ(Rows("select AdvanceType,Amount from AdvanceTemp"),
+        Lines({"OpeningBalance|0", "]cala|90", "KaV|20", "Uchal Receipt|30", "Uchal Receipt|10"}));
+}
+
 TEST_F(AdvanceStatementTest, WhatWasGivenAndTakenBackInTheDaysFollowsTheOpening)
 {
     AddHead("TransactionsDetails", "10/04/2026", 1, "]cala", 100.5);
