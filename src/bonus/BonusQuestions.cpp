@@ -64,8 +64,8 @@ void BonusQuestions::Load()
         txtCowBonusRate.Show(rates[u"CowBonusRate"].Number());
         txtBuffBonusRate.Show(rates[u"BuffBonusRate"].Number());
     }
-    txtCowBonusRate.TextChanged = [this] { txtCowBonusRate_Change(); };
-    txtBuffBonusRate.TextChanged = [this] { txtBuffBonusRate_Change(); };
+    txtCowBonusRate.TextChanged = [this] { txtCowBonusRate_TextChanged(); };
+    txtBuffBonusRate.TextChanged = [this] { txtBuffBonusRate_TextChanged(); };
 }
 
 void BonusQuestions::LetRatesBe()
@@ -98,14 +98,14 @@ void BonusQuestions::txtToAcNo_LostFocus()
         txtToAcNo.Show(Figure(QStringLiteral("Select max(MemberNo) as mno from MembersMaster")));
 }
 
-void BonusQuestions::txtCowBonusRate_Change()
+void BonusQuestions::txtCowBonusRate_TextChanged()
 {
     Transaction keeping(gCn);
     gCn.Execute(Sql(u"Update AutoSettings set CowBonusRate=", txtCowBonusRate.Value()));
     keeping.Commit();
 }
 
-void BonusQuestions::txtBuffBonusRate_Change()
+void BonusQuestions::txtBuffBonusRate_TextChanged()
 {
     Transaction keeping(gCn);
     gCn.Execute(Sql(u"Update AutoSettings Set BuffBonusRate=", txtBuffBonusRate.Value()));

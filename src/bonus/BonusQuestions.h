@@ -57,8 +57,8 @@ private:
     void maskToDate_LostFocus();
     void txtFromAcNo_LostFocus();
     void txtToAcNo_LostFocus();
-    void txtCowBonusRate_Change();
-    void txtBuffBonusRate_Change();
+    void txtCowBonusRate_TextChanged();
+    void txtBuffBonusRate_TextChanged();
 
     Control* FirstEmpty();
     QLayout* Fields();
