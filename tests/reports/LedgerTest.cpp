@@ -3,7 +3,6 @@
 #include "tests/reports/BooksTest.h"
 
 #include "platform/database/Sql.h"
-#include "tests/support/EachPainting.h"
 
 #include <algorithm>
 #include <map>
@@ -282,7 +281,6 @@ TEST_F(LedgerTest, DaysTheWrongWayRoundHaveTheBalanceOnly)
 
 TEST_F(LedgerTest, TheBarIsShownWhileTheRowsBeforeAndThoseOfTheDaysAreWalked)
 {
-    const EachPainting each;
     for (int row = 1; row <= 3; ++row)
         Post({.date = "31/03/2026", .tranId = row, .amount = 1});
     for (int row = 1; row <= 5; ++row)

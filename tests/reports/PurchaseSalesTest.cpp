@@ -3,7 +3,6 @@
 #include "tests/reports/BooksTest.h"
 
 #include "platform/database/Sql.h"
-#include "tests/support/EachPainting.h"
 
 #include <map>
 #include <random>
@@ -241,7 +240,6 @@ TEST_F(PurchaseSalesTest, AMissingTemplateEndsTheProgramWhenTheRowsAreStaged)
 
 TEST_F(PurchaseSalesTest, TheBarIsShownWhileTheTransactionsAreCopiedAndTheDaysSummed)
 {
-    const EachPainting each;
     for (int row = 1; row <= 3; ++row)
         Post({.tranId = row, .type = "raoK ivaËI", .amount = 1});
     std::unique_ptr<PaintedStaging> bar;
