@@ -25,7 +25,7 @@ void Tour::Step(const QString& name, const QString& keys)
 
 QString Tour::NextPicture(const QString& name)
 {
-    return QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name);
+    return QStringLiteral("%1-%2.png").arg(++m_pictures, 3, 10, QLatin1Char('0')).arg(name);
 }
 
 void Tour::NotePicture(const QString& file)
