@@ -37,6 +37,7 @@ const QString ToTheBonus = // below "backup", which the list opens beside
     QStringLiteral("{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}{DOWN}{ENTER}");
 const QString ToTheRun = QString(ToTheBonus
     + QStringLiteral("01042026{ENTER}30042026{ENTER}1{ENTER}{ENTER}3{ENTER}.5{ENTER}.75{ENTER}{ENTER}"));
+const QString ToTheSpan = QStringLiteral("{DOWN}{DOWN}{DOWN}{DOWN}{ENTER}{DOWN}{DOWN}{ENTER}");
 const QString Yes = QStringLiteral("%h");
 
 void Execute(const char* statement)
@@ -205,9 +206,18 @@ const std::vector<Action>& Copyings()
     return copyings;
 }
 
+const std::vector<Action>& Leavings()
+{
+    static const std::vector<Action> leavings = {
+        {QStringLiteral("DepositSpan"), ToTheSpan + QStringLiteral("01052026{ENTER}30042027{ENTER}"),
+            QStringLiteral("{ENTER}")},
+    };
+    return leavings;
+}
+
 const Action& ActionOf(const QString& name)
 {
-    for (const std::vector<Action>* list : {&Actions(), &Runs(), &Copyings()})
+    for (const std::vector<Action>* list : {&Actions(), &Runs(), &Copyings(), &Leavings()})
         for (const Action& action : *list)
             if (action.name == name)
                 return action;

@@ -24,6 +24,9 @@ const std::vector<Action>& Runs();
 // Those that copy the books as a file, or bring a copy back.
 const std::vector<Action>& Copyings();
 
+// Those that leave their screen, and so fold the log behind what they have written.
+const std::vector<Action>& Leavings();
+
 // One of all these.
 const Action& ActionOf(const QString& name);
 
