@@ -111,13 +111,13 @@ void CounterScreen::StartCalculator()
 
 void CounterScreen::ShowMembers()
 {
-    ScreenDirectory::Open(QStringLiteral("frmMembers"), KeyAction(u"F3"));
+    ScreenDirectory::Open(QStringLiteral("frmMembers"));
     MembersShown();
 }
 
 void CounterScreen::ShowAdvances()
 {
-    ScreenDirectory::Open(QStringLiteral("frmUchalVouchers"), KeyAction(u"F6"));
+    ScreenDirectory::Open(QStringLiteral("frmUchalVouchers"));
 }
 
 void CounterScreen::Escape()

@@ -244,7 +244,7 @@ void MemberFrame::Command1_Click()
         return;
     // The report's own screen makes the day lines of what lies in the copy, and leaves at once.
     gAppState.gReportMode = QStringLiteral("ShowMilkCollection");
-    ScreenDirectory::Open(QStringLiteral("frmReportMilkPS"), Shivaji(u"dUQa saMklana À ivaËI irpaoT-"));
+    ScreenDirectory::Open(QStringLiteral("frmReportMilkPS"));
     Transaction staging(gCn);
     gCn.Execute(QStringLiteral("Delete * From ReportDates"));
     gCn.Execute(Sql(u"Insert Into ReportDates(CompanyId,FromDate,Todate) Values(",
@@ -259,6 +259,5 @@ void MemberFrame::Command1_Click()
 
 void MemberFrame::Command3_Click()
 {
-    ScreenDirectory::Open(
-        QStringLiteral("frmAbsenseMemberCollection"), Shivaji(u"dUQa saMklana nasaNaaro saBaasad"));
+    ScreenDirectory::Open(QStringLiteral("frmAbsenseMemberCollection"));
 }

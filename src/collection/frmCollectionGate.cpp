@@ -131,6 +131,5 @@ void frmCollectionGate::Command1_Click()
 
 void frmCollectionGate::Command3_Click()
 {
-    ScreenDirectory::Open(
-        QStringLiteral("frmAbsenseMemberCollection"), Shivaji(u" dUQa saMklana nasaNaaro saBaasad"));
+    ScreenDirectory::Open(QStringLiteral("frmAbsenseMemberCollection"));
 }

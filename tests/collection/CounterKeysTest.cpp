@@ -1,29 +1,10 @@
 #include "tests/collection/EachCounterTest.h"
 
-#include "core/menu/ScreenDirectory.h"
-
 namespace {
-
-// A screen that a key of the counter opens.
-class frmOpened final : public Screen {
-public:
-    explicit frmOpened(const char* name) : Screen(name) { }
-};
-
-void Register(const char* name)
-{
-    ScreenDirectory::Add(QString::fromLatin1(name), [name] { return std::make_unique<frmOpened>(name); });
-}
 
 // The keys that work anywhere on a counter.
 class EachCounterKeysTest : public EachCounterTest {
 protected:
-    ~EachCounterKeysTest() override
-    {
-        for (const QString name : {"frmMembers", "frmUchalVouchers"})
-            ScreenDirectory::Add(name, {});
-    }
-
     // With 5 litres of member 1 typed and not yet left.
     void AtTheLitres(const std::function<void(Clerk&)>& script)
     {
@@ -54,7 +35,6 @@ TEST_P(EachCounterKeysTest, F2StartsTheCalculatorInANormalWindow)
 
 TEST_P(EachCounterKeysTest, F3OpensTheMembersAndTheEntryStays)
 {
-    Register("frmMembers");
     AtTheLitres([](Clerk& clerk) {
         Type(clerk, "{F3}");
         EXPECT_EQ(clerk.ScreenName(), "frmMembers");
@@ -65,7 +45,6 @@ TEST_P(EachCounterKeysTest, F3OpensTheMembersAndTheEntryStays)
 
 TEST_P(EachCounterKeysTest, F6OpensTheVouchersAndTheEntryStays)
 {
-    Register("frmUchalVouchers");
     AtTheLitres([](Clerk& clerk) {
         Type(clerk, "{F6}");
         EXPECT_EQ(clerk.ScreenName(), "frmUchalVouchers");
@@ -80,16 +59,6 @@ TEST_P(EachCounterKeysTest, F12OpensTheKeyboardTutorAndTheEntryStays)
         Type(clerk, "{F12}");
         EXPECT_EQ(clerk.ScreenName(), "frmKeyboardTutor");
         Type(clerk, "{ESC}");
-        ExpectTheLitres(clerk);
-    });
-}
-
-TEST_P(EachCounterKeysTest, AScreenThatIsNotThereIsAMessageThatNamesItsEntry)
-{
-    AtTheLitres([this](Clerk& clerk) {
-        Type(clerk, "{F6}");
-        ASSERT_EQ(TheBox.Shown.size(), 1);
-        EXPECT_TRUE(TheBox.Shown[0].contains(Seen("]cala naaoMd")));
         ExpectTheLitres(clerk);
     });
 }
@@ -132,7 +101,6 @@ TEST_F(CounterKeysTest, DeletingIsOfferedOnlyBesideAName)
 
 TEST_F(CounterKeysTest, F9FillsTheLineWithTheMembersFirstRowAndOpensTheSearch)
 {
-    Register("frmSearchCollections");
     AddMorningDelivery(1);
     AddMorningDelivery(2);
     InTheMorning([](Clerk& clerk) {
@@ -152,7 +120,6 @@ TEST_F(CounterKeysTest, F9FillsTheLineWithTheMembersFirstRowAndOpensTheSearch)
 
 TEST_F(CounterKeysTest, F9OnAMemberWithoutARowDoesNothing)
 {
-    Register("frmSearchCollections");
     InTheMorning([this](Clerk& clerk) {
         Type(clerk, "{ENTER}1{F9}");
         EXPECT_EQ(clerk.ScreenName(), "frmMilkCollections");

@@ -4,6 +4,7 @@
 #include "collection/frmMilkCollections.h"
 #include "core/preview/TemplateReport.h"
 #include "tests/support/SocietyTest.h"
+#include "tests/support/StandInScreens.h"
 
 #include <QLabel>
 
@@ -107,6 +108,8 @@ protected:
 
 private:
     const std::function<void(const TemplateReport::Run&)> m_engine = TemplateReport::Engine();
+    StandInScreens m_screens{{"frmMembers", "frmUchalVouchers", "frmAbsenseMemberCollection"}};
+    StandInScreens m_dayLines{{"frmReportMilkPS"}, StandInScreens::Leave::AtOnce};
 
     QStringList Lines(const QString& table);
 };

@@ -1,15 +1,8 @@
 #include "tests/collection/GateTest.h"
 
-#include "core/menu/ScreenDirectory.h"
-
 #include <QCheckBox>
 
 namespace {
-
-class frmAbsent final : public Screen {
-public:
-    frmAbsent() : Screen("frmAbsenseMemberCollection") { }
-};
 
 TEST_F(GateTest, LitresHaveTwoDecimalsInTheFieldTheListAndTheTotals)
 {
@@ -209,12 +202,10 @@ TEST_F(GateTest, TheDeviceButtonsAreReachedBackwardsFromTheDate)
 
 TEST_F(GateTest, AbsentMembersAreAScreenOfTheirOwn)
 {
-    ScreenDirectory::Add("frmAbsenseMemberCollection", [] { return std::make_unique<frmAbsent>(); });
     AtTheGate([](Clerk& clerk) {
         clerk.Press("Command3");
         EXPECT_EQ(clerk.ScreenName(), "frmAbsenseMemberCollection");
     });
-    ScreenDirectory::Add("frmAbsenseMemberCollection", {});
 }
 
 // The order

@@ -1,16 +1,10 @@
 #include "tests/collection/MemberFrameTest.h"
 
 #include "core/menu/Keys.h"
-#include "core/menu/ScreenDirectory.h"
 
 #include <algorithm>
 
 namespace {
-
-class frmAbsent final : public Screen {
-public:
-    frmAbsent() : Screen("frmAbsenseMemberCollection") { }
-};
 
 constexpr const char* NoMilk = "0.000|0.000|0.000|0.000|0.000|0.000|0.0|0.0|0.0|";
 
@@ -341,7 +335,6 @@ TEST_F(MemberFrameTest, TheReportLeavesOutRowsAndPeriodsOfNoCompany)
 
 TEST_F(MemberFrameTest, AbsentMembersAreAScreenOfTheirOwn)
 {
-    ScreenDirectory::Add("frmAbsenseMemberCollection", [] { return std::make_unique<frmAbsent>(); });
     InTheFrame([](Clerk& clerk) {
         Type(clerk, "13042026{ENTER}14042026");
         clerk.Press("Command3");
@@ -349,18 +342,15 @@ TEST_F(MemberFrameTest, AbsentMembersAreAScreenOfTheirOwn)
         Type(clerk, "{ESC}");
         EXPECT_TRUE(IsOpen(clerk));
     });
-    ScreenDirectory::Add("frmAbsenseMemberCollection", {});
 }
 
 TEST_F(MemberFrameTest, ReturningFromTheMembersAddsTheFirstNameToItsList)
 {
-    ScreenDirectory::Add("frmMembers", [] { return std::make_unique<frmAbsent>(); });
     InTheMorning([](Clerk& clerk) {
         Type(clerk, "{F3}{ESC}");
         EXPECT_EQ(dynamic_cast<NameCombo&>(*clerk.Top().Find(u"cmbAccountName")).Items(),
             Of({"gaNaoSa", "rama", "saIta", "rama"}));
     });
-    ScreenDirectory::Add("frmMembers", {});
 }
 
 }

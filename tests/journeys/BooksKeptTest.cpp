@@ -42,7 +42,7 @@ protected:
         const FakePrinter& printer = *made;
         const ReportHandover handover(std::move(made));
         const QTemporaryDir folder;
-        PlayOn(TheClerk, {name, QString::fromLatin1(keys), [&] { ScreenDirectory::Open(name, Plain(name)); }},
+        PlayOn(TheClerk, {name, QString::fromLatin1(keys), [&] { ScreenDirectory::Open(name); }},
             [&](Clerk& clerk) {
                 ASSERT_EQ(OnTop(clerk), "frmReportPreview") << screen;
                 EXPECT_TRUE(IsLocked()) << screen << " was shown";
@@ -208,7 +208,7 @@ TEST_F(BooksKeptTest, TheEnginesLockStandsAfterEveryScreen)
     gAppState.gAppDate = QDate(2026, 4, 15);
     ASSERT_FALSE(ScreenDirectory::Names().isEmpty());
     for (const QString& screen : ScreenDirectory::Names()) {
-        Failure = TheClerk.Play([&] { ScreenDirectory::Open(screen, Plain(screen)); },
+        Failure = TheClerk.Play([&] { ScreenDirectory::Open(screen); },
             [&](Clerk& clerk) {
                 EXPECT_EQ(clerk.ScreenName(), screen);
                 Type(clerk, "{ENTER}{ESC}");
@@ -244,8 +244,8 @@ TEST_F(BooksKeptTest, TheEnginesLockStandsAfterASlipThatGoesToThePrinterAtOnce)
     const FakePrinter& printer = *made;
     const ReportHandover handover(std::move(made));
     const QString counter = "frmMilkCollections";
-    PlayOn(TheClerk, {counter, "{ENTER}2{ENTER}", [&] { ScreenDirectory::Open(counter, {}); }},
-        [&](Clerk& clerk) {
+    PlayOn(
+        TheClerk, {counter, "{ENTER}2{ENTER}", [&] { ScreenDirectory::Open(counter); }}, [&](Clerk& clerk) {
             for (const std::size_t jobs : {1U, 2U}) {
                 clerk.Type(Delivery(jobs == 1 ? "1" : "2", "6", "4.1"));
                 EXPECT_EQ(OnTop(clerk), "frmMilkCollections");

@@ -21,7 +21,7 @@ namespace {
 ScreenState ByName(const char* screen, const char* keys)
 {
     const QString name = QString::fromLatin1(screen);
-    return {name, QString::fromUtf8(keys), [name] { ScreenDirectory::Open(name, {}); }};
+    return {name, QString::fromUtf8(keys), [name] { ScreenDirectory::Open(name); }};
 }
 
 // A screen that is reached from another with keys of it.
@@ -39,7 +39,7 @@ ScreenState InMode(const char* screen, const char* mode, const char* keys)
     const QString word = QString::fromLatin1(mode);
     return {name, QString::fromUtf8(keys), [name, word] {
                 gAppState.gReportMode = word;
-                ScreenDirectory::Open(name, {});
+                ScreenDirectory::Open(name);
             }};
 }
 

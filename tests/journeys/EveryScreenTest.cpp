@@ -7,6 +7,7 @@
 
 #include "core/menu/Keys.h"
 #include "core/menu/MainMenu.h"
+#include "core/menu/MenuEntries.h"
 #include "core/menu/ScreenDirectory.h"
 #include "core/preview/ReportHandover.h"
 #include "platform/forms/Button.h"
@@ -119,7 +120,7 @@ TEST_P(EveryScreenTest, ItsKeysAreNamedInTheListOrInTheGuide)
             if (dynamic_cast<const NameCombo*>(control)) {
                 expect("↓");
                 for (const char* key : {"Enter Tab", "Esc", "Alt+↓ Alt+↑"})
-                    EXPECT_FALSE(Keys::Action("NameCombo.list", QString::fromUtf8(key)).IsEmpty())
+                    EXPECT_FALSE(Keys::Action(Keys::Of("NameCombo.list"), QString::fromUtf8(key)).IsEmpty())
                         << key << " at " << control->Name().toStdString();
             }
             if (dynamic_cast<const ChoiceField*>(control)) {
@@ -179,6 +180,53 @@ TEST_F(ListOfScreensTest, EveryScreenOfTheProgramIsOnIt)
             << screen.toStdString() << ": its states are missing in tests/journeys/EveryScreen.cpp";
 }
 
+// Opens a screen of the menu, and leaves it.
+void ExpectScreen(Clerk& clerk, const QString& keys, const QString& screen)
+{
+    clerk.Type(keys);
+    EXPECT_EQ(clerk.ScreenName(), screen) << keys.toStdString();
+    for (int left = 0; left < 3 && clerk.ScreenName() != u"MainMenuFrm"; ++left)
+        clerk.Type("{ESC}");
+    ASSERT_EQ(clerk.ScreenName(), "MainMenuFrm") << screen.toStdString();
+}
+
+TEST_F(ListOfScreensTest, EveryEntryOfTheMenuOpensItsScreen)
+{
+    const std::vector<MenuEntry> lists[] = {MenuEntries::Master(), MenuEntries::SVouchers(false),
+        MenuEntries::MReports(), MenuEntries::YearlyReport(), MenuEntries::Utilities()};
+    On<MainMenuFrm>([&](Clerk& clerk) {
+        Type(clerk, "15042026{ENTER}{ENTER}");
+        for (int list = 0; list < 5; ++list) {
+            clerk.Type("{HOME}" + QStringLiteral("{DOWN}").repeated(list) + "{ENTER}");
+            for (int at = 0; at + 1 < static_cast<int>(lists[list].size()); ++at)
+                ExpectScreen(clerk, "{HOME}" + QStringLiteral("{DOWN}").repeated(at) + "{ENTER}",
+                    lists[list][at].screen);
+            Type(clerk, "{ESC}");
+        }
+    });
+    EXPECT_FALSE(Failure);
+    EXPECT_TRUE(TheBox.Shown.isEmpty());
+}
+
+TEST_F(ListOfScreensTest, EveryKeyOfTheMenuOpensItsScreen)
+{
+    On<MainMenuFrm>([](Clerk& clerk) {
+        Type(clerk, "15042026{ENTER}{ENTER}");
+        for (const auto& [key, screen] : {std::pair("{F4}", "frmUchalVouchers"), {"{F7}", "frmAutoSettings"},
+                 {"{F8}", "frmCollectionGate"}, {"{F12}", "frmKeyboardTutor"}, {"{ESC}", "frmBackup"}})
+            ExpectScreen(clerk, key, screen);
+    });
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(ListOfScreensTest, EveryKeyOfTheCountersThatLeadsElsewhereOpensItsScreen)
+{
+    for (const char* counter : {"frmMilkCollections", "frmCollectionGate"})
+        for (const auto& [key, screen] : {std::pair("{F3}", "frmMembers"), {"{F6}", "frmUchalVouchers"}})
+            PlayOn(TheClerk, {counter, key, [counter] { ScreenDirectory::Open(counter); }},
+                [&, screen = screen](Clerk& clerk) { EXPECT_EQ(OnTop(clerk), screen) << counter; });
+}
+
 TEST_F(ListOfScreensTest, TheMenuOpensTheCustomersBelowTheMembers)
 {
     for (const auto& [keys, screen] : {std::pair("15042026{ENTER}{ENTER}{ENTER}{ENTER}", "frmMembers"),
@@ -214,7 +262,7 @@ protected:
         const char* screen, const char* keys, const char* focus, const char* guideLabel, const char* guide)
     {
         const ScreenState state{QString::fromLatin1(screen), QString::fromUtf8(keys),
-            [screen] { ScreenDirectory::Open(QString::fromLatin1(screen), {}); }};
+            [screen] { ScreenDirectory::Open(QString::fromLatin1(screen)); }};
         PlayOn(TheClerk, state, [&](Clerk& clerk) {
             if (clerk.ScreenName() == u"frmMessages")
                 Type(clerk, "{ENTER}");

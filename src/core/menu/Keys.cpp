@@ -91,11 +91,6 @@ Caption Keys::Action(const std::vector<KeyHint>& keys, QStringView key)
     return {};
 }
 
-Caption Keys::Action(const QString& place, QStringView key)
-{
-    return Action(Of(place), key);
-}
-
 Caption Keys::Guide(const std::vector<KeyHint>& keys)
 {
     QStringList parts;

@@ -28,7 +28,6 @@ const std::vector<KeyHint>& Of(const QString& place);
 
 // What a key does, in the words of its hint; empty if it isn't among them.
 Caption Action(const std::vector<KeyHint>& keys, QStringView key);
-Caption Action(const QString& place, QStringView key);
 
 // The keys in one line, as a field's guide.
 Caption Guide(const std::vector<KeyHint>& keys);

@@ -115,17 +115,17 @@ void MainMenuFrm::StartCalculator()
 
 void MainMenuFrm::ShowAdvances()
 {
-    OpenScreen(QStringLiteral("frmUchalVouchers"), Keys::Action(Name(), u"F4"));
+    OpenScreen(QStringLiteral("frmUchalVouchers"));
 }
 
 void MainMenuFrm::ShowSettings()
 {
-    OpenScreen(QStringLiteral("frmAutoSettings"), Keys::Action(Name(), u"F7"));
+    OpenScreen(QStringLiteral("frmAutoSettings"));
 }
 
 void MainMenuFrm::ShowCounter()
 {
-    OpenScreen(QStringLiteral("frmCollectionGate"), Keys::Action(Name(), u"F8"));
+    OpenScreen(QStringLiteral("frmCollectionGate"));
 }
 
 void MainMenuFrm::ShowTutor()
@@ -205,8 +205,7 @@ void MainMenuFrm::SubList_Chosen(MenuList& list)
         gAppState.gReportMode = entry->reportMode;
     if (entry->asksCaller)
         gAppState.gCallerTag = QStringLiteral("N");
-    OpenScreen(
-        entry->screen, Shivaji(entry->text), entry->title.isEmpty() ? Caption() : Shivaji(entry->title));
+    OpenScreen(entry->screen, entry->title.isEmpty() ? Caption() : Shivaji(entry->title));
 }
 
 void MainMenuFrm::LeaveSubList(MenuList& list)
@@ -220,14 +219,14 @@ void MainMenuFrm::LeaveSubList(MenuList& list)
 
 void MainMenuFrm::LeaveSystem()
 {
-    OpenScreen(QStringLiteral("frmBackup"), Shivaji(u"ba^k Ap\\ fa[-lsa"));
+    OpenScreen(QStringLiteral("frmBackup"));
     if (Ask(Shivaji(u"saa^FTvaoArmaQaUna na@kI baahor pDayacao ka Æ")))
         Close();
 }
 
 // The screen may have changed the day's figures.
-void MainMenuFrm::OpenScreen(const QString& screen, const Caption& name, const Caption& title)
+void MainMenuFrm::OpenScreen(const QString& screen, const Caption& title)
 {
-    ScreenDirectory::Open(screen, name, title);
+    ScreenDirectory::Open(screen, title);
     m_day.Show();
 }

@@ -58,5 +58,5 @@ private:
     void OpenSubList(MenuList& list, const std::int16_t* accessFlag);
     void LeaveSubList(MenuList& list);
     void LeaveSystem();
-    void OpenScreen(const QString& screen, const Caption& name, const Caption& title = {});
+    void OpenScreen(const QString& screen, const Caption& title = {});
 };

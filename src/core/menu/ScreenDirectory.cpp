@@ -1,6 +1,5 @@
 #include "core/menu/ScreenDirectory.h"
 
-#include "core/messages/Messages.h"
 #include "platform/forms/Screen.h"
 
 #include <QHash>
@@ -30,13 +29,10 @@ QStringList ScreenDirectory::Names()
     return names;
 }
 
-void ScreenDirectory::Open(const QString& name, const Caption& entry, const Caption& title)
+void ScreenDirectory::Open(const QString& name, const Caption& title)
 {
     const Maker maker = Makers().value(name);
-    if (!maker) {
-        ShowPlain(QStringLiteral("«%1» ही सुविधा या आवृत्तीत नाही.").arg(entry.Seen().trimmed()));
-        return;
-    }
+    Q_ASSERT_X(maker, "ScreenDirectory", qUtf8Printable(name));
     const std::unique_ptr<Screen> screen = maker();
     if (!title.IsEmpty())
         screen->SetTitle(title);

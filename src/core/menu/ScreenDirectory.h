@@ -18,8 +18,7 @@ void Add(const QString& name, const Maker& maker);
 // The names of all screens that are registered.
 QStringList Names();
 
-// Opens a screen modally; `title`, if given, replaces the screen's own. For a screen that the program doesn't
-// have yet, a plain box names the entry.
-void Open(const QString& name, const Caption& entry, const Caption& title = {});
+// Opens a screen modally; `title`, if given, replaces the screen's own. The screen must be registered.
+void Open(const QString& name, const Caption& title = {});
 
 }

@@ -80,7 +80,7 @@ TEST_F(DayAtAGlanceTest, WhatAScreenHasSavedIsSeenWhenItIsLeft)
         const QString day = LabelOf(clerk, "lblWorkingDay").right(10);
         AddDelivery(qPrintable(day), "sakaL", "5.125", "180.55");
         EXPECT_EQ(Shifts(clerk), "0.000 0.00 0.000 0.00");
-        Type(clerk, "{F7}");
+        Type(clerk, "{F7}{ESC}");
         EXPECT_EQ(Shifts(clerk), "5.125 180.55 0.000 0.00");
     });
 }

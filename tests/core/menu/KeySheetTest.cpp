@@ -1,4 +1,5 @@
 #include "tests/support/SocietyTest.h"
+#include "tests/support/StandInScreens.h"
 
 #include "core/menu/KeyboardTutor.h"
 #include "core/menu/Keys.h"
@@ -56,6 +57,9 @@ protected:
             shown.ShowModal();
         });
     }
+
+private:
+    StandInScreens m_screens{{"frmUchalVouchers", "frmAutoSettings", "frmCollectionGate"}};
 };
 
 }

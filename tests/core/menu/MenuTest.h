@@ -1,10 +1,12 @@
 #pragma once
 
 #include "tests/support/SocietyTest.h"
+#include "tests/support/StandInScreens.h"
 
 #include "core/menu/MainMenu.h"
+#include "core/menu/MenuEntries.h"
 
-// A clerk who stands at the main menu.
+// A clerk who stands at the main menu. What its entries open are stand-ins.
 class MenuTest : public SocietyTest {
 protected:
     // Opens the menu and passes the date, so that the script begins on the main list.
@@ -53,4 +55,18 @@ protected:
     // The lists in the order of the main entries that open them.
     static constexpr const char* SubLists[] = {
         "ListMaster", "ListSVouchers", "ListMReports", "listYearlyReport", "ListUtilities"};
+
+private:
+    static QStringList ScreensOfTheEntries()
+    {
+        QStringList names;
+        for (const std::vector<MenuEntry>& list : {MenuEntries::Master(), MenuEntries::SVouchers(true),
+                 MenuEntries::MReports(), MenuEntries::YearlyReport(), MenuEntries::Utilities()})
+            for (const MenuEntry& entry : list)
+                if (!entry.screen.isEmpty())
+                    names.append(entry.screen);
+        return names;
+    }
+
+    StandInScreens m_screens{ScreensOfTheEntries()};
 };
