@@ -361,7 +361,7 @@ bool frmMilkSales::InsistOnSale()
 
 Sale frmMilkSales::TheSale() const
 {
-    Sale sale{TheShift(), txtSalesNo.Value(), Word::Cash.toString(), 0, ComboCustName.Text().trimmed(),
+    Sale sale{TheShift(), txtSalesNo.Value(), Word::Cash.toString(), 0, ComboCustName.Text(),
         txtAnimal.Text(), txtLiters.Value(), txtFat.Value(), txtRate.Value(), txtAmount.Value(),
         FrameOurLiters.txtOurLiters.Value(), FrameOurLiters.txtSNF.Value(), FrameOurLiters.txtOurFat.Value(),
         FrameOurLiters.txtOurRate.Value()};

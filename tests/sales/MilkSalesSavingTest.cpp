@@ -29,6 +29,16 @@ TEST_F(MilkSalesSavingTest, ASaleForCashIsInBooksAndCopyAndLeavesTheCustomersAlo
     EXPECT_TRUE(Printed.empty()) << "the settings say: save only";
 }
 
+// Such as one that came from other books; the register trims what is typed.
+TEST_F(MilkSalesSavingTest, ANameWithBlanksAtItsEndsIsThatOfItsCustomer)
+{
+    AddCustomer(3, " gaNaoSa ", "saMGa ivaËI");
+    InTheMorning([](Clerk& clerk) { Sell(clerk, "gaNaoSa", "1", "10", "4"); });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Books(), QStringList("1|saMGa ivaËI|3| gaNaoSa |gaaya|10|4|48|480"));
+    EXPECT_EQ(Closing(3), "130|120");
+}
+
 TEST_F(MilkSalesSavingTest, ACreditSaleTakesNumberAndTypeOfTheCustomer)
 {
     InTheMorning([](Clerk& clerk) {
