@@ -82,6 +82,20 @@ TEST_F(MilkSalesDeletingTest, ASaleForCashIsDeletedAndTheCustomersStay)
     EXPECT_EQ(Rows("select * from CustomersMaster"), customers);
 }
 
+TEST_F(MilkSalesDeletingTest, ASecondCompanysSaleIsDeletedByItsNumberAndItsCustomerKeepsHisLitres)
+{
+    AddCustomer(9, "gaNaoSa", "saMGa ivaËI", 2);
+    AddSale(3, "sakaL", "saMGa ivaËI", 9, "gaNaoSa", "gaaya", 5, 2);
+    InTheMorning([this](Clerk& clerk) {
+        Type(clerk, "{UP}{ENTER}{F10}");
+        EXPECT_EQ(Books().size(), 3);
+        EXPECT_EQ(Reads(clerk, "txtSalesNo"), "3");
+    });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Closing(9, 2), "120|120");
+    EXPECT_EQ(Closing(2), "120|120");
+}
+
 TEST_F(MilkSalesDeletingTest, TheLastOneLeavesTheNumberOneAndTheOpening)
 {
     Run("delete * from MilkSales where SalesNo=2");

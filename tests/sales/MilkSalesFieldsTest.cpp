@@ -218,6 +218,20 @@ TEST_F(MilkSalesFieldsTest, ASaleOfTheEveningIsNotThatOfTheMorning)
     });
 }
 
+TEST_F(MilkSalesFieldsTest, TheSalesOfAnotherDayAreNotThoseOfTheShift)
+{
+    AddSale(7, "sakaL", "saMGa ivaËI", 2, "saMGa", "mhOsa", 3.5);
+    Run("update MilkSales set SalesDate='14/04/2026'");
+    InTheMorning([this](Clerk& clerk) {
+        EXPECT_EQ(Reads(clerk, "txtSalesNo"), "1");
+        EXPECT_EQ(Copy(), QStringList());
+        EXPECT_EQ(Label(clerk, "lblUdharBuffSaleLiter"), "0.000");
+        Type(clerk, "7{ENTER}");
+        EXPECT_EQ(Reads(clerk, "ComboCustName"), "") << "the number is free";
+    });
+    EXPECT_FALSE(Failure);
+}
+
 // Saving would write over it unseen.
 TEST_F(MilkSalesFieldsTest, ANumberThatIsTypedShowsItsSaleAndAFreeOneLeavesWhatWasTyped)
 {

@@ -29,6 +29,24 @@ TEST_F(MilkSalesSavingTest, ASaleForCashIsInBooksAndCopyAndLeavesTheCustomersAlo
     EXPECT_TRUE(Printed.empty()) << "the settings say: save only";
 }
 
+// The register offers the word as a name.
+TEST_F(MilkSalesSavingTest, ACustomerOnRecordWhoIsCalledCashIsLeftAlone)
+{
+    AddCustomer(3, "raoK", "saMGa ivaËI");
+    Run("update CustomersMaster set CowClosingLits=90 where CustomerNo=3");
+    const QStringList customers = Rows("select * from CustomersMaster");
+    InTheMorning([this](Clerk& clerk) {
+        Sell(clerk, "raoK", "1", "1.5", "4.2");
+        EXPECT_EQ(Books(), QStringList("1|raoK|0|raoK|gaaya|1.5|4.2|48|72"));
+        Type(clerk, "{UP}{ENTER}{ENTER}{ENTER}2{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(Books(), QStringList("1|raoK|0|raoK|gaaya|2|4.2|48|96"));
+        Type(clerk, "{UP}{ENTER}{F10}");
+        EXPECT_EQ(Books(), QStringList());
+    });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Rows("select * from CustomersMaster"), customers);
+}
+
 // Such as one that came from other books; the register trims what is typed.
 TEST_F(MilkSalesSavingTest, ANameWithBlanksAtItsEndsIsThatOfItsCustomer)
 {
@@ -37,6 +55,24 @@ TEST_F(MilkSalesSavingTest, ANameWithBlanksAtItsEndsIsThatOfItsCustomer)
     EXPECT_FALSE(Failure);
     EXPECT_EQ(Books(), QStringList("1|saMGa ivaËI|3| gaNaoSa |gaaya|10|4|48|480"));
     EXPECT_EQ(Closing(3), "130|120");
+}
+
+TEST_F(MilkSalesSavingTest, RowsOfNoCompanyAreTidiedOutOfTheCopy)
+{
+    const auto addStray = [this] {
+        Run("insert into MilkSalesTemp(CompanyId,SalesDate,SalesTime,SalesNo) "
+            "values(0,'15/04/2026','sakaL',99)");
+    };
+    InTheMorning([&](Clerk& clerk) {
+        addStray();
+        Sell(clerk, "raoK", "1", "1.5", "4.2");
+        EXPECT_EQ(Copy(), Books());
+        addStray();
+        Type(clerk, "{UP}{ENTER}{F10}");
+        EXPECT_EQ(Copy(), QStringList());
+        EXPECT_EQ(Reads(clerk, "txtSalesNo"), "1");
+    });
+    EXPECT_FALSE(Failure);
 }
 
 TEST_F(MilkSalesSavingTest, ACreditSaleTakesNumberAndTypeOfTheCustomer)
@@ -136,6 +172,19 @@ TEST_F(MilkSalesSavingTest, Opening100AndClosing90WithASaleOf10Give120AndAChange
     EXPECT_FALSE(Failure);
 }
 
+TEST_F(MilkSalesSavingTest, AChangeOfAnySaleResetsTheLitresOfItsCustomer)
+{
+    AddSale(1, "sakaL", "saMGa ivaËI", 2, "saMGa", "gaaya", 25);
+    Run("update CustomersMaster set CowClosingLits=90 where CustomerNo=2");
+    InTheMorning([this](Clerk& clerk) {
+        Sell(clerk, "saMGa", "1", "10", "4");
+        EXPECT_EQ(Closing(2), "120|120");
+        Type(clerk, "1{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(Closing(2), "135|100") << "saved as it was";
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(MilkSalesSavingTest, WithoutAClosingFigureTheGapToTheOpeningIsTaken)
 {
     Run("update CustomersMaster set BuffOpeningLits=40,BuffClosingLits=null where CustomerNo=2");
@@ -189,6 +238,48 @@ TEST_F(MilkSalesSavingTest, ChangingTheCustomerLeavesTheOldOnesLitresAsTheyWere)
     EXPECT_EQ(Books(), QStringList("1|saMGa ivaËI|1|ha^Tola|gaaya|10|4|48|480"));
     EXPECT_EQ(Closing(2), "130|120");
     EXPECT_EQ(Closing(1), "110|100");
+}
+
+TEST_F(MilkSalesSavingTest, ASaleThatIsChangedToCashKeepsItsTypeAndTheCustomersTheirLitres)
+{
+    AddSale(1, "sakaL", "saMGa ivaËI", 2, "saMGa", "gaaya", 10);
+    const QStringList customers = Rows("select * from CustomersMaster");
+    InTheMorning([](Clerk& clerk) {
+        Type(clerk, "{UP}{ENTER}raoK{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
+    });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Books(), QStringList("1|saMGa ivaËI|0|raoK|gaaya|10|4.2|48|480"));
+    EXPECT_EQ(Rows("select * from CustomersMaster"), customers);
+}
+
+TEST_F(MilkSalesSavingTest, ASaleForCashThatGetsACustomerKeepsItsTypeAndCountsForHim)
+{
+    AddSale(1, "sakaL", "raoK", 0, "raoK", "gaaya", 10);
+    InTheMorning([](Clerk& clerk) {
+        Type(clerk, "{UP}{ENTER}saMGa{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
+    });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Books(), QStringList("1|raoK|2|saMGa|gaaya|10|4.2|48|480"));
+    EXPECT_EQ(Closing(2), "110|100");
+}
+
+TEST_F(MilkSalesSavingTest, TheSaleOfAnotherDayWithTheSameNumberStaysAsItIs)
+{
+    AddSale(1, "sakaL", "saMGa ivaËI", 2, "saMGa", "mhOsa", 3.5);
+    Run("update MilkSales set SalesDate='14/04/2026'");
+    AddSale(1, "sakaL", "saMGa ivaËI", 2, "saMGa", "gaaya", 10);
+    const auto theOther = [this] { return Rows("select * from MilkSales where SalesDate=#04/14/2026#"); };
+    const QStringList before = theOther();
+    InTheMorning([&](Clerk& clerk) {
+        Type(clerk, "{UP}{ENTER}{ENTER}{ENTER}12{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(theOther(), before);
+        EXPECT_EQ(Closing(2), "112|103.5") << "of all days";
+        Type(clerk, "{UP}{ENTER}{F10}");
+        EXPECT_EQ(theOther(), before);
+    });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Books().size(), 1);
+    EXPECT_EQ(Closing(2), "100|103.5");
 }
 
 TEST_F(MilkSalesSavingTest, ASaleOfAnotherCompanyThatIsChangedBecomesThisOnes)

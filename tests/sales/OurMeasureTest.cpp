@@ -44,6 +44,20 @@ TEST_F(OurMeasureTest, F9OpensItFromTheLitresAndLeavingTheSnfClosesItAndReturnsT
     EXPECT_EQ(Rows("select OurAmount from MilkSalesTemp"), QStringList("350.7"));
 }
 
+TEST_F(OurMeasureTest, InNoOtherFieldDoesF9OpenIt)
+{
+    InTheMorning([](Clerk& clerk) {
+        const char* ways[] = {"", "{ENTER}", "saMGa{ENTER}", "1{ENTER}10{ENTER}", "4{ENTER}", "{ENTER}"};
+        for (const char* way : ways) {
+            Type(clerk, way);
+            Type(clerk, "{F9}");
+            EXPECT_FALSE(CanEnter(clerk, "txtOurLiters")) << Focus(clerk);
+        }
+        EXPECT_EQ(Focus(clerk), "txtAmount");
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(OurMeasureTest, WhatIsLeftEmptyCountsAsNought)
 {
     InTheFrame([](Clerk& clerk) {

@@ -33,6 +33,18 @@ protected:
 
     QStringList Staged() { return Rows("select * from MilkSalesReceipt"); }
 
+    // The texts of the one page that was shown.
+    QString ShownTexts()
+    {
+        EXPECT_EQ(Window.Shown.size(), 1U);
+        Window.Shown.front()->Complete();
+        EXPECT_EQ(Window.Shown.front()->PageCount(), 1U);
+        QStringList texts;
+        for (const PlacedItem& item : Window.Shown.front()->PageAt(0).items)
+            texts.append(item.text);
+        return texts.join(u'|');
+    }
+
     FakeReportWindow Window;
     FakePrinter Printer;
 };
@@ -81,18 +93,26 @@ TEST_F(SaleReceiptTest, AReceiptForTheScreenShowsTheSale)
     Wish("saovh va sËIna");
     InTheMorning([](Clerk& clerk) { Sell(clerk, "saMGa", "2", "10.5", "7.1"); });
     ASSERT_FALSE(Failure) << Failure->Text().toStdString();
-    ASSERT_EQ(Window.Shown.size(), 1U);
+    const QString all = ShownTexts();
     EXPECT_EQ(Window.Titles(), QStringList("दूध विक्री पावती"));
-    Window.Shown.front()->Complete();
-    EXPECT_EQ(Window.Shown.front()->PageCount(), 1U);
-    QStringList texts;
-    for (const PlacedItem& item : Window.Shown.front()->PageAt(0).items)
-        texts.append(item.text);
-    const QString all = texts.join(u'|');
     for (const char* part : {"15/04/2026", "10.500", "7.1", "58.00", "609.00", "ग्राहक प्रत", "संस्था प्रत"})
         EXPECT_TRUE(all.contains(part)) << part << ' ' << all.toStdString();
     EXPECT_TRUE(all.contains(Seen("saMGa")));
     EXPECT_FALSE(all.contains("आपले मोजमाप")) << "without one of its own";
+}
+
+TEST_F(SaleReceiptTest, TheSocietysOwnMeasureStandsOnItsHalf)
+{
+    PrintOnPaper();
+    Wish("saovh va sËIna");
+    InTheMorning([](Clerk& clerk) {
+        Type(clerk, "{ENTER}saMGa{ENTER}1{ENTER}10{F9}10.5{ENTER}{ENTER}4.15{ENTER}33.4{ENTER}8.5{ENTER}");
+        Type(clerk, "{ENTER}4{ENTER}{ENTER}{ENTER}{ENTER}");
+    });
+    ASSERT_FALSE(Failure) << Failure->Text().toStdString();
+    const QString all = ShownTexts();
+    for (const char* part : {"आपले मोजमाप", "10.500", "4.15", "8.50", "33.40", "350.70"})
+        EXPECT_EQ(all.count(part), 1) << part << ' ' << all.toStdString();
 }
 
 TEST_F(SaleReceiptTest, APrinterThatRefusesIsToldAndTheSaleIsInTheBooks)
