@@ -8,6 +8,9 @@
 #include "society/Queries.h"
 #include "society/Words.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 constexpr qsizetype MostFederationCustomers = 11;
@@ -25,6 +28,14 @@ constexpr ShiftMilk MilkOfADay[] = {
     {Word::Evening, Word::Cow, u"TotalCowELiters"},
     {Word::Evening, Word::Buffalo, u"TotalBuffELiters"},
 };
+
+// The books of milk, by the column of their day.
+struct DayColumn {
+    QStringView table;
+    QStringView day;
+};
+
+constexpr DayColumn MilkByDay[] = {{u"MilkCollections", u"CollectionDate"}, {u"MilkSales", u"SalesDate"}};
 
 // What came in and went out, in litres or rupees.
 struct InAndOut {
@@ -94,6 +105,32 @@ QString FederationAccount()
     return account.Eof() ? QStringLiteral(" ") : account[u"AccountName"].Text();
 }
 
+// The first day of a range in these books, or with " desc" the last; not valid if there is none.
+QDate FirstDay(const DayColumn& books, const QDate& from, const QDate& to, QStringView order)
+{
+    const Recordset found(gCn,
+        Sql(u"select ", books.day, u" from ", books.table, u" where ", books.day, u">=", SqlDay(from),
+            u" and ", books.day, u"<=", SqlDay(to), u" order by ", books.day, order));
+    return found.Eof() ? QDate() : found.At(0).Date();
+}
+
+// The part of a range in which there is milk, not valid without any. Other days have no row, and a year that
+// was keyed as 0202 would be walked through day by day.
+std::pair<QDate, QDate> DaysOfMilk(const QDate& from, const QDate& to)
+{
+    std::pair<QDate, QDate> days;
+    auto& [first, last] = days;
+    for (const DayColumn& books : MilkByDay) {
+        const QDate begins = FirstDay(books, from, to, u"");
+        if (!begins.isValid())
+            continue;
+        const QDate ends = FirstDay(books, from, to, u" desc");
+        first = first.isValid() ? std::min(first, begins) : begins;
+        last = last.isValid() ? std::max(last, ends) : ends;
+    }
+    return days;
+}
+
 using Insertion = void (*)(const QDate& day, const ShiftMilk& milk, const InAndOut& figures);
 
 void StageDays(const QDate& from, const QDate& to, QStringView column, const QStringList& federationCustomers,
@@ -102,7 +139,8 @@ void StageDays(const QDate& from, const QDate& to, QStringView column, const QSt
     Transaction staging(gCn);
     ReportRun::Empty({u"VadhTootReport", u"ReportDates"});
     ReportRun::StageDates(DateText(from), DateText(to));
-    for (QDate day = from; day <= to; day = day.addDays(1)) {
+    const auto [first, last] = DaysOfMilk(from, to);
+    for (QDate day = first; day.isValid() && day <= last; day = day.addDays(1)) {
         for (const ShiftMilk& milk : MilkOfADay) {
             const InAndOut figures = Reckon(column, day, milk, federationCustomers);
             if (!figures.IsNothing())

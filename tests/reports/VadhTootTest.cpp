@@ -4,6 +4,8 @@
 
 #include "tests/reports/PaymentsTest.h"
 
+#include <QElapsedTimer>
+
 #include <array>
 #include <map>
 #include <random>
@@ -92,18 +94,38 @@ TEST_F(VadhTootLitersTest, BothEndsOfTheRangeCountAndNothingBeyondThem)
     EXPECT_EQ(Rows("select * from ReportDates"), Lines({"1|28/02/2028|01/03/2028"}));
 }
 
+// A year that was keyed as 0202 or 9202: some three million days, which would take minutes.
+TEST_F(VadhTootLitersTest, TheDaysBeforeTheFirstAndAfterTheLastMilkAreNotWalkedThrough)
+{
+    Sell({.day = "13/04/2026", .liters = 1});
+    Bring({.day = "14/04/2026", .liters = 2});
+    Sell({.day = "15/04/2026", .liters = 3});
+    Bring({.day = "16/04/2026", .liters = 4});
+    Sell({.day = "16/04/0201", .liters = 99});
+    QElapsedTimer walked;
+    walked.start();
+    InLiters("17040201", "14042026");
+    InLiters("01010202", "31129202");
+    EXPECT_LT(walked.elapsed(), 20000);
+    EXPECT_EQ(Staged("CollectionDate,LitersIn,LitersOut"),
+        Lines({"13/04/2026|0|1", "14/04/2026|2|0", "15/04/2026|0|3", "16/04/2026|4|0"}));
+    EXPECT_EQ(Rows("select * from ReportDates"), Lines({"1|01/01/0202|31/12/9202"}));
+    InLiters("14042026", "15042026");
+    EXPECT_EQ(Staged("CollectionDate,LitersIn,LitersOut"), Lines({"14/04/2026|2|0", "15/04/2026|0|3"}));
+}
+
 TEST_F(VadhTootLitersTest, ARangeTheWrongWayRoundStagesItsDatesAndNoRow)
 {
     Bring({.liters = 3});
     for (const bool isLiters : {true, false}) {
         Run("insert into VadhTootReport(CompanyId,LitersIn) values(1,99)");
         if (isLiters)
-            InLiters("16042026", "15042026");
+            InLiters("20042026", "10042026");
         else
-            InAmounts("16042026", "15042026");
+            InAmounts("20042026", "10042026");
         EXPECT_FALSE(Failure);
         EXPECT_EQ(Staged(), QStringList());
-        EXPECT_EQ(Rows("select * from ReportDates"), Lines({"1|16/04/2026|15/04/2026"}));
+        EXPECT_EQ(Rows("select * from ReportDates"), Lines({"1|20/04/2026|10/04/2026"}));
     }
     EXPECT_EQ(TheWindow.Shown.size(), 2U) << "it is printed all the same";
 }
