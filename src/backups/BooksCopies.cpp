@@ -12,6 +12,8 @@
 
 namespace {
 
+using BooksCopies::Work;
+
 constexpr QStringView ReplacedBegins = u"Morvelta Before ";
 constexpr QStringView LastNote = u"/LastBackup.txt"; // beside the books: the path of the last backup
 
@@ -25,15 +27,17 @@ constexpr int Copied = 50;
 constexpr int Read = 90;
 constexpr int Done = 100;
 
-void Tell(const BooksCopies::Progress& progress, int percent)
+void Tell(const BooksCopies::Progress& progress, BooksCopies::Work work, int percent)
 {
     if (progress)
-        progress(percent);
+        progress(work, percent);
 }
 
 SafeCopy::Progress OfCopying(const BooksCopies::Progress& progress)
 {
-    return [progress](qint64 done, qint64 all) { Tell(progress, static_cast<int>(done * Copied / all)); };
+    return [progress](qint64 done, qint64 all) {
+        Tell(progress, Work::Copying, static_cast<int>(done * Copied / all));
+    };
 }
 
 [[noreturn]] void ThrowBad(const QString& marathi, const QString& english)
@@ -91,14 +95,14 @@ BooksContent ContentOf(const ClosedFile& books, const QMap<QString, qint64>& row
 BooksContent Looked(const QString& file, const QString& shown, const QString& original,
     const QString& password, const BooksCopies::Progress& progress)
 {
+    Tell(progress, Work::Checking, Copied);
     const ClosedFile books(file, password, shown);
     books.RequireSound();
-    Tell(progress, Read);
+    Tell(progress, Work::Checking, Read);
     const QMap<QString, qint64> rows = books.Rows();
     RequireBooks(rows, shown);
     if (!original.isEmpty())
         RequireSame(rows, ClosedFile(original, password).Rows(), shown);
-    Tell(progress, Done);
     return ContentOf(books, rows);
 }
 
@@ -174,12 +178,15 @@ BooksContent BooksCopies::BackUp(
         },
         OfCopying(progress));
     NoteLast(books, target);
+    Tell(progress, Work::Checking, Done);
     return content;
 }
 
 BooksContent BooksCopies::Check(const QString& copy, const QString& password, const Progress& progress)
 {
-    return Looked(copy, QFileInfo(copy).fileName(), {}, password, progress);
+    const BooksContent content = Looked(copy, QFileInfo(copy).fileName(), {}, password, progress);
+    Tell(progress, Work::Checking, Done);
+    return content;
 }
 
 BooksContent BooksCopies::Restore(const RestorePlan& plan, const Progress& progress)
@@ -191,12 +198,14 @@ BooksContent BooksCopies::Restore(const RestorePlan& plan, const Progress& progr
         plan.copy, plan.books,
         [&](const QString& copied) {
             content = Looked(copied, QFileInfo(plan.copy).fileName(), plan.copy, plan.password, progress);
+            Tell(progress, Work::Keeping, Read);
             KeepBooks(plan);
         },
         OfCopying(progress));
     for (const QString& name : {WriteAheadLog::NameFor(plan.books), WriteAheadLog::IndexNameFor(plan.books)})
         QFile::remove(name);
     CheckedNote::Write(QFileInfo(plan.books).path(), plan.now.date());
+    Tell(progress, Work::Keeping, Done);
     return content;
 }
 

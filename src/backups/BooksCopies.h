@@ -28,8 +28,12 @@ struct RestorePlan {
 // is a RunTimeError that says why, and leaves books and older copies as they were.
 namespace BooksCopies {
 
-// Told how far it is.
-using Progress = std::function<void(int percent)>;
+// What is being done: the bytes are copied; each page of the copy is read; the books that a restore replaces
+// are kept.
+enum class Work { Copying, Checking, Keeping };
+
+// Told when something else is begun, and how far it is. Nothing is told while the pages are read.
+using Progress = std::function<void(Work work, int percent)>;
 
 // Copies the books over `target`, and returns what lies in the copy. Before the copy takes the place of an
 // older one it is opened, each of its pages is read, and the rows of its tables are counted against the

@@ -4,6 +4,7 @@
 #include "core/start/BooksOpening.h"
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
+#include "platform/forms/Painting.h"
 #include "platform/shell/AppFolder.h"
 #include "platform/shell/World.h"
 #include "platform/text/Dates.h"
@@ -74,6 +75,19 @@ bool IsTrusted(const QString& folder)
     using Kind = FileSystem::DriveKind;
     const Kind kind = Disks().KindOfDrive(folder);
     return kind == Kind::Fixed || kind == Kind::Network;
+}
+
+QString SentenceOf(BooksCopies::Work work)
+{
+    switch (work) {
+    case BooksCopies::Work::Copying:
+        return QStringLiteral("प्रत करत आहे …");
+    case BooksCopies::Work::Checking:
+        return QStringLiteral("प्रतीचे प्रत्येक पान वाचून तपासत आहे. थोडे थांबा …");
+    case BooksCopies::Work::Keeping:
+        break;
+    }
+    return QStringLiteral("आताची वही बाजूला ठेवत आहे …");
 }
 
 void ReadCompany()
@@ -224,8 +238,8 @@ QString frmBackup::HistoryTarget() const
 // Where the copy lies is said if it isn't the folder that is shown.
 void frmBackup::CopyTo(const QString& target)
 {
-    const BooksContent content = BooksCopies::BackUp(
-        BooksFile(), LocalOf(target), gAppState.gDbPassword, [this](int percent) { ShowProgress(percent); });
+    const BooksContent content =
+        BooksCopies::BackUp(BooksFile(), LocalOf(target), gAppState.gDbPassword, ShownProgress());
     const bool isElsewhere = !IsHistory() && gAppState.gBackupFolder != Dir1.Folder();
     ShowContent(
         isElsewhere ? QString(gAppState.gBackupFolder + u" मध्ये") : QStringLiteral("बॅकअपमध्ये"), content);
@@ -243,8 +257,7 @@ void frmBackup::cmdRestore_Click()
     plan.keptFolder = LocalOf(DefaultFolder());
     plan.password = gAppState.gDbPassword;
     plan.now = World::Current().clock->Now();
-    ShowContent(
-        u"परत आणलेल्या वहीत", BooksCopies::Restore(plan, [this](int percent) { ShowProgress(percent); }));
+    ShowContent(u"परत आणलेल्या वहीत", BooksCopies::Restore(plan, ShownProgress()));
     EndCopy();
     ReopenBooks();
     RefreshLists();
@@ -255,17 +268,30 @@ void frmBackup::cmdRestore_Click()
 void frmBackup::BeginCopy()
 {
     constexpr int percents = 100;
-    lblContent.SetFigure({});
+    ShowWork(BooksCopies::Work::Copying);
     Animation1.Play();
     m_progress.Begin(percents);
     ReadCompany();
     CloseBooks();
 }
 
-void frmBackup::ShowProgress(int percent)
+// Reading the pages paints nothing, so what is begun is painted at once.
+BooksCopies::Progress frmBackup::ShownProgress()
 {
-    Animation1.Step();
-    m_progress.StepTo(percent);
+    return [this](BooksCopies::Work work, int percent) {
+        Animation1.Step();
+        m_progress.StepTo(percent);
+        if (work == m_work)
+            return;
+        ShowWork(work);
+        Painting::LetIn();
+    };
+}
+
+void frmBackup::ShowWork(BooksCopies::Work work)
+{
+    m_work = work;
+    lblContent.SetCaption(Plain(SentenceOf(work)));
 }
 
 void frmBackup::EndCopy()

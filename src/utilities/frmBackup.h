@@ -29,9 +29,10 @@ private:
     Button cmdExit{this, "cmdExit", Shivaji(u"&baahor"), &frmBackup::cmdExit_Click};
 
     PopupMenu mnuBackup;
-    Label lblContent{this, "lblContent"}; // what lies in the copy
+    Label lblContent{this, "lblContent"}; // what is being done, then what lies in the copy
     CopyAnimation Animation1{"Animation1"};
     Progress m_progress{this};
+    BooksCopies::Work m_work = BooksCopies::Work::Copying;
 
     void LayOut();
     void Load() override;
@@ -54,7 +55,8 @@ private:
     void BeginCopy();
     void EndCopy();
     void CopyTo(const QString& target);
-    void ShowProgress(int percent);
+    BooksCopies::Progress ShownProgress();
+    void ShowWork(BooksCopies::Work work);
     void ShowContent(QStringView where, const BooksContent& content);
     void RefreshLists();
 };

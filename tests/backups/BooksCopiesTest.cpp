@@ -131,13 +131,30 @@ TEST_F(BooksCopiesTest, ABackupIsTheBooksAndTellsWhatLiesInIt)
     EXPECT_EQ(InBackup(), QStringList("Morvelta.mdb"));
 }
 
-TEST_F(BooksCopiesTest, ItTellsHowFarItIsUpToTheEnd)
+TEST_F(BooksCopiesTest, ItTellsWhatItDoesAndHowFarItIsUpToTheEnd)
 {
-    std::vector<int> told;
-    BooksCopies::BackUp(Books(), Copy(), Password, [&](int percent) { told.push_back(percent); });
-    EXPECT_GE(told.size(), 3U);
-    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
-    EXPECT_EQ(told.back(), 100);
+    using BooksCopies::Work;
+    std::vector<Work> works;
+    std::vector<int> percents;
+    const auto tell = [&](Work work, int percent) {
+        if (works.empty() || works.back() != work)
+            works.push_back(work);
+        percents.push_back(percent);
+    };
+    const auto expectTold = [&](const std::vector<Work>& wanted, int first) {
+        EXPECT_EQ(works, wanted);
+        EXPECT_TRUE(std::is_sorted(percents.begin(), percents.end()));
+        EXPECT_EQ(percents.front(), first);
+        EXPECT_EQ(percents.back(), 100);
+        works.clear();
+        percents.clear();
+    };
+    BooksCopies::BackUp(Books(), Copy(), Password, tell);
+    expectTold({Work::Copying, Work::Checking}, 50);
+    BooksCopies::Check(Copy(), Password, tell);
+    expectTold({Work::Checking}, 50);
+    BooksCopies::Restore(Plan(Copy()), tell);
+    expectTold({Work::Copying, Work::Checking, Work::Keeping}, 50);
 }
 
 TEST_F(BooksCopiesTest, BooksWhoseLogIsNotFoldedAreNotCopied)

@@ -71,6 +71,19 @@ void BackupTest::SetName(Clerk& clerk, const QString& name)
     clerk.Do([&] { dynamic_cast<Field*>(clerk.Top().Find(u"Text1"))->SetText(name); });
 }
 
+QStringList BackupTest::Painted(Clerk& clerk, const char* button)
+{
+    std::unique_ptr<PaintedSentences> painted;
+    clerk.Do([&] { painted = std::make_unique<PaintedSentences>(clerk.Top()); });
+    Press(clerk, button);
+    QStringList seen;
+    clerk.Do([&] {
+        seen = painted->Seen;
+        painted.reset();
+    });
+    return seen;
+}
+
 bool BackupTest::IsThere(const char* path)
 {
     return QFile::exists(LocalOf(path));

@@ -55,6 +55,16 @@ TEST_F(BackupTest, ItSaysInOneLineWhatLiesInTheCopy)
     });
 }
 
+// The bar stands still while the engine reads the pages.
+TEST_F(BackupTest, ItSaysWhatIsDoneWhileItIsDone)
+{
+    OnBackup([](Clerk& clerk) {
+        EXPECT_EQ(Painted(clerk, "cmdBackup"),
+            QStringList({"प्रत करत आहे …", "प्रतीचे प्रत्येक पान वाचून तपासत आहे. थोडे थांबा …",
+                "बॅकअपमध्ये : दूध संकलन 0, मेम्बर 1, पेमेंट 0, शेवटचा दिवस नाही"}));
+    });
+}
+
 TEST_F(BackupTest, WhatWasSavedLastIsInTheCopyThoughItStandsInTheLog)
 {
     AddMember(2, "saIta");

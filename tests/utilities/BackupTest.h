@@ -4,6 +4,8 @@
 #include "tests/support/SocietyTest.h"
 #include "utilities/frmBackup.h"
 
+#include <QEvent>
+#include <QLabel>
 #include <QMap>
 
 // The drives of this machine, but of the kinds that a test says; any other is a fixed disk.
@@ -30,6 +32,28 @@ private:
     FileSystem& m_real;
 };
 
+// Writes down the sentences that the screen is painted with.
+class PaintedSentences final : public QObject {
+public:
+    explicit PaintedSentences(const Screen& screen)
+        : m_line(screen.findChild<QLabel*>(QStringLiteral("lblContent")))
+    {
+        m_line->installEventFilter(this);
+    }
+
+    QStringList Seen; // each once, while it stands
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && Seen.value(Seen.size() - 1) != m_line->text())
+            Seen.append(m_line->text());
+        return false;
+    }
+
+private:
+    QLabel* m_line;
+};
+
 // A clerk at the backup screen of the delivered society, with one member, and drives C: and D:.
 class BackupTest : public SocietyTest {
 protected:
@@ -49,6 +73,9 @@ protected:
     // What Text1 reads.
     static std::string Name(Clerk& clerk) { return Reads(clerk, "Text1"); }
     static void SetName(Clerk& clerk, const QString& name);
+
+    // What is painted in the line of the screen while a button is pressed.
+    static QStringList Painted(Clerk& clerk, const char* button);
 
     // Files and folders by their paths on the society's machine.
     static bool IsThere(const char* path);

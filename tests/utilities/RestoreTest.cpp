@@ -39,6 +39,16 @@ TEST_F(RestoreTest, TheYearsFileComesBackAndTheReplacedBooksAreKept)
     EXPECT_EQ(Members(), 2) << "the log was folded into what is kept";
 }
 
+TEST_F(RestoreTest, ItSaysWhatIsDoneWhileItIsDone)
+{
+    KeepYear();
+    OnBackup([](Clerk& clerk) {
+        EXPECT_EQ(Painted(clerk, "cmdRestore"),
+            QStringList({"प्रत करत आहे …", "प्रतीचे प्रत्येक पान वाचून तपासत आहे. थोडे थांबा …",
+                "आताची वही बाजूला ठेवत आहे …", "परत आणलेल्या वहीत : दूध संकलन 0, मेम्बर 1, पेमेंट 0, शेवटचा दिवस नाही"}));
+    });
+}
+
 TEST_F(RestoreTest, NoOtherFileIsRestoredWhateverIsChosen)
 {
     KeepYear();
