@@ -235,14 +235,14 @@ QString frmBackup::HistoryTarget() const
     return named.endsWith(u'\\') ? named + BooksName : named;
 }
 
-// Where the copy lies is said if it isn't the folder that is shown.
+// Where the copy lies is said if it isn't in the folder that is shown.
 void frmBackup::CopyTo(const QString& target)
 {
     const BooksContent content =
         BooksCopies::BackUp(BooksFile(), LocalOf(target), gAppState.gDbPassword, ShownProgress());
-    const bool isElsewhere = !IsHistory() && gAppState.gBackupFolder != Dir1.Folder();
-    ShowContent(
-        isElsewhere ? QString(gAppState.gBackupFolder + u" मध्ये") : QStringLiteral("बॅकअपमध्ये"), content);
+    const bool isElsewhere = FileSystem::AbsolutePath(QString(target + u"\\..")) != Dir1.Folder();
+    const QString where = FileSystem::AbsolutePath(target) + u" मध्ये";
+    ShowContent(isElsewhere ? where : QStringLiteral("बॅकअपमध्ये"), content);
 }
 
 // Restore

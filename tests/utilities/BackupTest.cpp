@@ -65,6 +65,31 @@ TEST_F(BackupTest, ItSaysWhatIsDoneWhileItIsDone)
     });
 }
 
+// At the root of a drive that isn't trusted the year's name is put behind the usual folder without a
+// backslash, and a name without a drive lies beside the books.
+TEST_F(BackupTest, ACopyThatDoesNotLieInTheFolderThatIsShownIsSaidToLieElsewhere)
+{
+    Drives.Kinds["D:\\"] = FileSystem::DriveKind::Removable;
+    MakeFolder("D:\\milk");
+    OnBackup([](Clerk& clerk) {
+        SetName(clerk, "C:\\Tarvel01\\Vetrolan\\Backup\\another.mdb");
+        BackUpAsHistory(clerk);
+        EXPECT_TRUE(Label(clerk, "lblContent").starts_with("बॅकअपमध्ये"));
+        SetName(clerk, "copy.mdb");
+        BackUp(clerk);
+        EXPECT_TRUE(Label(clerk, "lblContent").starts_with("C:\\Tarvel01\\Vetrolan\\copy.mdb मध्ये"));
+        OpenDrive(clerk, "D:\\");
+        OpenFolder(clerk, "milk");
+        OpenFolder(clerk, "D:\\");
+        BackUp(clerk);
+        EXPECT_TRUE(
+            Label(clerk, "lblContent").starts_with("C:\\Tarvel01\\Vetrolan\\BackupY2026-2027C1.mdb मध्ये"));
+    });
+    EXPECT_TRUE(IsThere("C:\\Tarvel01\\Vetrolan\\copy.mdb"));
+    EXPECT_TRUE(IsThere("C:\\Tarvel01\\Vetrolan\\BackupY2026-2027C1.mdb"));
+    EXPECT_EQ(FilesIn("D:\\"), QStringList());
+}
+
 TEST_F(BackupTest, WhatWasSavedLastIsInTheCopyThoughItStandsInTheLog)
 {
     AddMember(2, "saIta");
