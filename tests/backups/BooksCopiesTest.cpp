@@ -3,6 +3,7 @@
 #include "platform/database/Connection.h"
 #include "platform/database/DataSource.h"
 #include "platform/database/DatabaseFile.h"
+#include "platform/database/Disk.h"
 #include "platform/database/Recordset.h"
 #include "platform/text/RunTimeError.h"
 #include "tests/support/FaultyDisk.h"
@@ -12,9 +13,11 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -183,6 +186,43 @@ TEST_F(BooksCopiesTest, DamagedBooksDoNotTakeThePlaceOfAnOlderBackup)
     EXPECT_EQ(InBackup(), QStringList("Morvelta.mdb"));
 }
 
+// A disk that brings another file back than was written.
+class SwappingDisk final : public Disk {
+public:
+    explicit SwappingDisk(QByteArray bytes) : m_bytes(std::move(bytes)) { Use(this); }
+    ~SwappingDisk() override { Use(nullptr); }
+
+    std::error_code Sync(const QString& path) override
+    {
+        QFile file(path);
+        if (path.endsWith(".part") && file.open(QIODevice::WriteOnly))
+            file.write(m_bytes);
+        return Disk::Sync(path);
+    }
+
+private:
+    QByteArray m_bytes;
+};
+
+TEST_F(BooksCopiesTest, ACopyWithOtherRowsThanItsOriginalReplacesNothing)
+{
+    BooksCopies::BackUp(Books(), Copy(), Password);
+    const QByteArray older = Bytes(Copy());
+    AddMember();
+    const QByteArray books = Bytes(Books());
+    {
+        const SwappingDisk disk(older);
+        EXPECT_TRUE(BackUpFailure().contains("\"Morvelta.mdb\" ची प्रत मूळ फाइलशी जुळत नाही"));
+    }
+    EXPECT_TRUE(Bytes(Copy()) == older);
+    {
+        const SwappingDisk disk(books);
+        EXPECT_TRUE(RestoreFailure(Copy()).contains("\"Morvelta.mdb\" ची प्रत मूळ फाइलशी जुळत नाही"));
+    }
+    EXPECT_TRUE(Bytes(Books()) == books);
+    EXPECT_EQ(InBackup(), QStringList("Morvelta.mdb"));
+}
+
 TEST_F(BooksCopiesTest, AFullOrBrokenDiskLeavesTheOlderBackup)
 {
     FaultyDisk::InstallForCopies();
@@ -208,10 +248,30 @@ TEST_F(BooksCopiesTest, AFullOrBrokenDiskLeavesTheOlderBackup)
 
 TEST_F(BooksCopiesTest, WhatAKillHasLeftHalfCopiedIsSwept)
 {
-    Put(In("Backup/Morvelta On 14 April 2026.mdb.part"), "half");
-    Put(In("Backup/my letter.part"), "letter");
-    BooksCopies::BackUp(Books(), Copy(), Password);
-    EXPECT_EQ(InBackup(), QStringList({"Morvelta.mdb", "my letter.part"}));
+    const QString copy = In("copy.mdb");
+    for (const bool isRestore : {false, true}) {
+        Put(In("Backup/Morvelta On 14 April 2026.mdb.part"), "half");
+        Put(In("Backup/Morvelta Before 14 April 2026 183005.mdb-wal.part"), "half");
+        Put(In("Backup/Y2026-2027C1.mdb.part"), "half");
+        Put(In("Backup/my letter.part"), "letter");
+        if (isRestore)
+            BooksCopies::Restore(Plan(copy));
+        else
+            BooksCopies::BackUp(Books(), Copy(), Password);
+        EXPECT_EQ(InBackup(),
+            isRestore ? QStringList({Replaced, "Morvelta.mdb", "my letter.part"})
+                      : QStringList({"Morvelta.mdb", "my letter.part"}));
+        ASSERT_TRUE(QFile::exists(copy) || QFile::copy(Copy(), copy));
+    }
+}
+
+TEST_F(BooksCopiesTest, AFolderOfTheReplacedBooksThatIsGoneIsMade)
+{
+    const QString copy = In("copy.mdb");
+    BooksCopies::BackUp(Books(), copy, Password);
+    ASSERT_TRUE(QDir(In("Backup")).removeRecursively());
+    BooksCopies::Restore(Plan(copy));
+    EXPECT_EQ(InBackup(), QStringList(Replaced));
 }
 
 TEST_F(BooksCopiesTest, ARestoreBringsTheCopyBackAndKeepsTheBooksThatItReplaces)
@@ -317,10 +377,16 @@ TEST_F(BooksCopiesTest, DamagedBooksAreKeptWithTheirLog)
     BooksCopies::BackUp(Books(), copy, Password);
     Put(Books(), "nothing of the books is left");
     Put(Books() + "-wal", "the last saves");
+    QFile books(Books());
+    const QDateTime written(QDate(2026, 4, 14), QTime(7, 15));
+    ASSERT_TRUE(books.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(books.setFileTime(written, QFileDevice::FileModificationTime));
+    books.close();
     RestorePlan plan = Plan(copy);
     plan.replacesDamagedBooks = true;
     EXPECT_EQ(BooksCopies::Restore(plan).members, 2);
     EXPECT_EQ(Bytes(In("Backup/" + Replaced)), "nothing of the books is left");
+    EXPECT_EQ(QFileInfo(In("Backup/" + Replaced)).lastModified(), written) << "no younger than its log";
     EXPECT_EQ(Bytes(In("Backup/" + Replaced) + "-wal"), "the last saves");
     EXPECT_FALSE(QFile::exists(Books() + "-wal"));
     EXPECT_EQ(Members(), 2);

@@ -2,6 +2,7 @@
 
 #include "core/start/MdlAccounts.h"
 
+#include <QDir>
 #include <QFile>
 
 namespace {
@@ -47,6 +48,20 @@ TEST_F(RestoreTest, ItSaysWhatIsDoneWhileItIsDone)
             QStringList({"प्रत करत आहे …", "प्रतीचे प्रत्येक पान वाचून तपासत आहे. थोडे थांबा …",
                 "आताची वही बाजूला ठेवत आहे …", "परत आणलेल्या वहीत : दूध संकलन 0, मेम्बर 1, पेमेंट 0, शेवटचा दिवस नाही"}));
     });
+}
+
+TEST_F(RestoreTest, FromADriveThatIsGoneItFailsAndTheBooksStay)
+{
+    KeepYear();
+    On<frmBackup>([](Clerk& clerk) {
+        OpenDrive(clerk, "D:\\");
+        ASSERT_TRUE(QDir(LocalPath(u"D:\\")).removeRecursively());
+        Restore(clerk);
+    });
+    ASSERT_TRUE(Failure);
+    EXPECT_EQ(Failure->Number(), RunTimeError::FileNotFound);
+    EXPECT_EQ(Members(), 2);
+    EXPECT_EQ(FilesIn(Folder), QStringList("Y2026-2027C1.mdb"));
 }
 
 TEST_F(RestoreTest, NoOtherFileIsRestoredWhateverIsChosen)

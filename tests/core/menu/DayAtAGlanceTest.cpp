@@ -115,7 +115,11 @@ TEST_F(DayAtAGlanceTest, TheAgeOfTheBackupIsToldAndAfterSevenDaysThatItIsOld)
 
 TEST_F(DayAtAGlanceTest, WithoutACopyItIsSaid)
 {
-    Menu([](Clerk& clerk) { EXPECT_EQ(LabelOf(clerk, "lblLastBackup"), "बॅकअप अजून घेतलेला नाही"); });
+    Menu([](Clerk& clerk) {
+        EXPECT_EQ(LabelOf(clerk, "lblLastBackup"), "बॅकअप अजून घेतलेला नाही");
+        const auto* label = clerk.Top().findChild<QLabel*>("lblLastBackup");
+        EXPECT_EQ(label->palette().color(QPalette::WindowText), QColor(Look::GuideInk));
+    });
 }
 
 TEST_F(DayAtAGlanceTest, ThePeriodThatWasPaidLastIsToldByTheDateOfItsBill)
