@@ -96,6 +96,19 @@ TEST_F(LedgerTest, TheSideOfTheOpeningStandsAsItIsWrittenIfNothingHappenedBefore
     EXPECT_EQ(Staged(), Lines({"10/04/2026|1|rama|5|0|71|D|76|D|76"}));
 }
 
+// The totals of the first day begin with it all the same.
+TEST_F(LedgerTest, AnOpeningWithoutASideIsOnTheSideOfItsSign)
+{
+    Post({.tranId = 1, .amount = 5});
+    Post({.tranId = 2, .debit = "rama", .credit = "raoK", .amount = 2});
+    Open(-70, "");
+    PrintCash();
+    EXPECT_EQ(Staged(), Lines({"10/04/2026|1|rama|5|0|70||75|D|75", "10/04/2026|2|rama|0|2|75|D|73|D|75"}));
+    Open(70, "");
+    PrintCash();
+    EXPECT_EQ(Staged(), Lines({"10/04/2026|1|rama|5|0|70||65|C|70", "10/04/2026|2|rama|0|2|65|C|67|C|72"}));
+}
+
 TEST_F(LedgerTest, AClosingOfExactlyNoughtReadsDebit)
 {
     Post({.tranId = 1, .debit = "rama", .credit = "raoK", .amount = 0.1});
@@ -251,11 +264,31 @@ TEST_F(LedgerTest, ABanksBookIsTheOneOfTheChosenBank)
     EXPECT_EQ(TheWindow.Subject(), "बँक 01-04-2026 ते 30-04-2026");
 }
 
+TEST_F(LedgerTest, WithoutABankThereIsNoLedger)
+{
+    Post({.amount = 30});
+    Print<frmReportCashBook>("B", "01042026{ENTER}30042026{ENTER}{ENTER}%i");
+    EXPECT_EQ(TheBox.Shown, Lines({NothingInTheBank}));
+    EXPECT_TRUE(TheWindow.Shown.empty());
+}
+
 TEST_F(LedgerTest, ABankWithAnApostropheEndsTheProgramAndChangesNothing)
 {
     Run("insert into LedgersMaster(CompanyId,DAmount) values(1,9)");
     gAppState.gReportMode = "B";
     Type<frmReportCashBook>("01042026{ENTER}30042026{ENTER}ba'k{ENTER}%i");
+    EXPECT_TRUE(Failure);
+    EXPECT_EQ(Rows("select DAmount from LedgersMaster"), Lines({"9"}));
+}
+
+TEST_F(LedgerTest, ARowThatCanNotBeStagedLeavesTheLedgerBefore)
+{
+    Run("insert into LedgersMaster(CompanyId,DAmount) values(1,9)");
+    Post({.tranId = 1, .amount = 30});
+    Post({.tranId = 2, .amount = 40});
+    gCn.RunScript("update TransactionsMaster set Narration='rama''s' where TranId=2");
+    gAppState.gReportMode = "C";
+    Type<frmReportCashBook>(April);
     EXPECT_TRUE(Failure);
     EXPECT_EQ(Rows("select DAmount from LedgersMaster"), Lines({"9"}));
 }
