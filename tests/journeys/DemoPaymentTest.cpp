@@ -1,28 +1,12 @@
 // What the demonstration society's members were paid, worked out again from its raw rows.
 
-#include "core/start/MdlAccounts.h"
-#include "platform/shell/AppFolder.h"
-#include "tests/support/SocietyTest.h"
+#include "tests/journeys/DemoSocietyTest.h"
 #include "tools/reckoning/PaymentReckoning.h"
-#include "tools/setup/Society.h"
 
 namespace {
 
-class DemoPaymentTest : public SocietyTest {
+class DemoPaymentTest : public DemoSocietyTest {
 protected:
-    DemoPaymentTest()
-    {
-        gCn.Close();
-        SocietyPlan plan;
-        plan.name = "श्री गणेश दूध संस्था";
-        plan.year = "2026-2027";
-        plan.password = "Doodh#26";
-        plan.demo = true;
-        plan.replace = true;
-        MakeSociety(LocalPath(Paths::AppFolder), plan);
-        LoadAppState();
-    }
-
     std::string Sorted(const char* query) { return Joined(Rows(QString::fromUtf8(query))); }
 
     static std::string Joined(QStringList rows)
@@ -30,8 +14,6 @@ protected:
         rows.sort();
         return rows.join(u'\n').toStdString();
     }
-
-    int Count(const char* from) { return One("select count(*) from " + QString::fromUtf8(from)).toInt(); }
 };
 
 TEST_F(DemoPaymentTest, TheLastTenDaysOfAprilWerePaidAsTheReckoningSays)

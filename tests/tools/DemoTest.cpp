@@ -148,6 +148,50 @@ TEST(DemoTest, ClosingBalancesAreTheOpeningTheVouchersAndThePayment)
     EXPECT_EQ(Rows("select count(*)>5 from MembersMaster where OpeningBalance>0;"), "1");
 }
 
+TEST(DemoTest, SalesAreNumberedThroughEachShift)
+{
+    EXPECT_EQ(Rows("select count(*),sum(a<>1 or b<>n or d<>n) from (select min(SalesNo) a,max(SalesNo) b,"
+                   "count(*) n,count(distinct SalesNo) d from MilkSales group by SalesDate,SalesTime);"),
+        "122|0");
+}
+
+TEST(DemoTest, EachSaleIsPricedAsItsScreenWould)
+{
+    const QStringList rows = AskDemo(
+        "select s.Liters,s.Rate,s.Amount,s.OurLiters,s.OurRate,s.OurAmount,case when s.OurFat=0 then 0 when "
+        "s.Animal='gaaya' then f.CowRate else f.BuffRate end from MilkSales s left join Fat010426 f on "
+        "f.Fat=rtrim(rtrim(cast(s.OurFat as text),'0'),'.');");
+    ASSERT_GT(rows.size(), 800);
+    for (const QString& row : rows) {
+        const QStringList cells = row.split(u'|');
+        ASSERT_EQ(cells.size(), 7);
+        const auto product = [&cells](int litres, int rate) {
+            return Val(Format(Val(cells[litres]) * Val(cells[rate]), u"#######0.00"));
+        };
+        EXPECT_GT(Val(cells[1]), 0);
+        EXPECT_LE(Val(cells[1]), 60);
+        EXPECT_EQ(Val(cells[2]), product(0, 1)) << row.toStdString();
+        EXPECT_EQ(Val(cells[5]), product(3, 4)) << row.toStdString();
+        EXPECT_EQ(Val(cells[4]), Val(cells[6])) << row.toStdString();
+    }
+}
+
+TEST(DemoTest, ASaleNamesItsCustomerAsTheyAreStoredAndCashNobody)
+{
+    EXPECT_EQ(Rows("select count(*) from MilkSales s left join CustomersMaster c using (CustomerNo) where "
+                   "case s.CustomerNo when 0 then s.CustomerName<>'raoK' or s.SalesType<>'raoK' else "
+                   "s.CustomerName<>c.CustomerName or s.SalesType<>c.CustomerType or c.Animal not in "
+                   "('daonhI',s.Animal) end;"),
+        "0");
+}
+
+TEST(DemoTest, CashAndBankHoldMoneyOnTheFirstDay)
+{
+    EXPECT_EQ(
+        Rows("select GroupCode,OpeningBalance,OpeningDorC from AccountsMaster where OpeningBalance<>0;"),
+        "Cash|-60000.0|D\nBank|-184500.0|D");
+}
+
 TEST(DemoTest, ClocksAreInTheCountersForm)
 {
     const QStringList clocks =

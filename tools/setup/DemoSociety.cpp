@@ -1,6 +1,8 @@
 #include "platform/text/Numbers.h"
 #include "tools/setup/DemoMoney.h"
 #include "tools/setup/DemoPeople.h"
+#include "tools/setup/DemoSales.h"
+#include "tools/setup/Dice.h"
 #include "tools/setup/Filling.h"
 #include "tools/setup/Society.h"
 #include "tools/setup/SocietyRows.h"
@@ -16,23 +18,6 @@ namespace {
 constexpr QStringView Cow = u"gaaya";
 constexpr QStringView Buffalo = u"mhOsa";
 constexpr QStringView Bank = u"जिल्हा मध्यवर्ती सहकारी बँक";
-
-// A random generator of our own, since the library's distributions differ between machines.
-class Dice {
-public:
-    explicit Dice(quint64 seed) : m_state(seed) { }
-
-    // A number from low to high, inclusive.
-    int Between(int low, int high)
-    {
-        m_state = m_state * 6364136223846793005u + 1442695040888963407u;
-        const quint64 drawn = m_state >> 33;
-        return low + static_cast<int>(drawn % static_cast<quint64>(high - low + 1));
-    }
-
-private:
-    quint64 m_state;
-};
 
 // The usual yield of a member's animals: litres and fat.
 struct Yield {
@@ -70,14 +55,16 @@ QString Insert(QStringView table, const QStringList& rows)
     return QStringLiteral("insert into ") % table % QStringLiteral(" values ") % rows.join(u',') % u';';
 }
 
-// Makes the rows of the society.
+// Makes the rows of the deliveries, and has the milk of each shift sold.
 class Deliveries {
 public:
-    Deliveries(const QDate& from, const DemoMoney& money, Dice& dice, std::vector<Member>& members)
+    Deliveries(
+        const QDate& from, const DemoMoney& money, Dice& dice, std::vector<Member>& members, DemoSales& sales)
         : m_from(from)
         , m_money(money)
         , m_dice(dice)
         , m_members(members)
+        , m_sales(sales)
         , m_chart(ReadFirstChart())
     {
     }
@@ -98,6 +85,7 @@ private:
     void AddShift(const QDate& day, QStringView shift)
     {
         m_rows.clear();
+        m_shift = {day, shift, {}, {}};
         m_number = 0;
         m_minute = 5 + m_dice.Between(0, 10);
         std::vector<std::size_t> queue(m_members.size());
@@ -115,6 +103,7 @@ private:
                 AddCan(day, shift, member, Buffalo);
         }
         m_script += Insert(u"MilkCollections", m_rows);
+        m_sales.Sell(m_shift);
     }
 
     void AddCan(const QDate& day, QStringView shift, Member& member, QStringView animal)
@@ -126,6 +115,9 @@ private:
         const int rate = (cow ? m_chart.cow : m_chart.buffalo).at(static_cast<std::size_t>(tenths));
         const qint64 amount = AmountInPaise(millilitres, rate);
         (cow ? member.cowMillilitres : member.buffaloMillilitres) += millilitres;
+        DemoCans& cans = cow ? m_shift.cow : m_shift.buffalo;
+        cans.millilitres += millilitres;
+        cans.fat += static_cast<qint64>(millilitres) * tenths;
         if (m_money.IsPaid(day)) {
             (cow ? member.paid.cowMillilitres : member.paid.buffaloMillilitres) += millilitres;
             (cow ? member.paid.cowPaise : member.paid.buffaloPaise) += amount;
@@ -149,7 +141,9 @@ private:
     const DemoMoney& m_money;
     Dice& m_dice;
     std::vector<Member>& m_members;
+    DemoSales& m_sales;
     FirstChart m_chart;
+    DemoShift m_shift;
     QString m_script;
     QStringList m_rows;
     int m_number = 0;
@@ -181,28 +175,6 @@ QString MemberRow(const Member& member, Dice& dice)
     return u'(' % values.join(u',') % u')';
 }
 
-// The first federation has the name that was asked for, if one was.
-QString CustomerScript(const QString& federation)
-{
-    bool isNamed = federation.trimmed().isEmpty();
-    QStringList customers;
-    QStringList accounts;
-    int number = 0;
-    for (const DemoCustomer& customer : DemoCustomers) {
-        ++number;
-        const bool isTheOne = customer.federation && !isNamed;
-        isNamed = isNamed || isTheOne;
-        const QString name = isTheOne ? federation.trimmed() : customer.name.toString();
-        customers.append(u"(1," % QString::number(number) % u',' % Quoted(name) % u','
-            % Quoted(customer.animal) % u','
-            % Quoted(customer.federation ? u"saMGa ivaËI" : u"sqaainak ivaËI") % u",0,0,0,0)");
-        if (customer.federation)
-            accounts.append(u"(1," % QString::number(number + 2) % u',' % Quoted(name)
-                % u",'Debtors','saMGa',0,'D',0,'D')");
-    }
-    return Insert(u"CustomersMaster", customers) % Insert(u"AccountsMaster", accounts);
-}
-
 // The villages that aren't among the delivered rows.
 QString VillageScript()
 {
@@ -221,14 +193,15 @@ Filling DemoFilling(const SocietyPlan& plan)
     Dice dice(20260401);
     std::vector<Member> members = Members(dice);
     const DemoMoney money(FirstDay(plan.year));
-    const QString deliveries = Deliveries(FirstDay(plan.year), money, dice, members).Script();
+    DemoSales sales(plan.federation);
+    const QString deliveries = Deliveries(FirstDay(plan.year), money, dice, members, sales).Script();
     QStringList rows;
     std::vector<DemoMilk> paid;
     for (const Member& member : members) {
         rows.append(MemberRow(member, dice));
         paid.push_back(member.paid);
     }
-    return {Spelled(VillageScript() % Insert(u"MembersMaster", rows) % CustomerScript(plan.federation)
-                % deliveries % money.Script(paid)),
+    return {Spelled(VillageScript() % Insert(u"MembersMaster", rows) % sales.Script() % deliveries
+                % money.Script(paid)),
         {}};
 }

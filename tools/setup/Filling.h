@@ -10,8 +10,8 @@ struct Filling {
     QString closing; // run after that
 };
 
-// 40 members, 6 customers, and the deliveries of April and May. The same plan gives the same rows on every
-// machine.
+// 40 members, 6 customers, the deliveries and sales of April and May, advances, and a period that is paid.
+// The same plan gives the same rows on every machine.
 Filling DemoFilling(const SocietyPlan& plan);
 
 // So many members, each of whom brings one can to every shift of so many days from the first day of the year.
