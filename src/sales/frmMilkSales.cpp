@@ -44,7 +44,8 @@ Keys::Places frmMilkSales::KeyPlaces()
     using namespace KeyHints;
     return {
         {QStringLiteral("frmMilkSales"), Shivaji(u"dUQa ivaËI"),
-            {Next, Back, Leave, CalculatorKey(), TutorKey(), OneOfTwo, ListOfNames, Tick}},
+            {Next, Back, Leave, CalculatorKey(), TutorKey(), OneOfTwo, ListOfNames, Tick,
+                {QStringLiteral("F10"), Plain(u"विक्री खोडा"), {}, true, true}}},
         {QStringLiteral("frmMilkSales.txtSalesNo"), Plain(u"दूध विक्री, विक्री क्रमांकात"),
             {{QStringLiteral("↑"), Plain(u"आधीची विक्री"), &frmMilkSales::PreviousSale},
                 {QStringLiteral("↓"), Plain(u"पुढची विक्री"), &frmMilkSales::NextSale}}},
@@ -65,6 +66,7 @@ frmMilkSales::frmMilkSales()
     When(cmdGo.LostFocus, &frmMilkSales::cmdGo_LostFocus);
     maskDate.KeepForMending();
     ComboCustName.OpenOnFocus();
+    ComboCustName.AddOwnKey(QStringLiteral("F10")); // its list hides the guide line
     txtSalesNo.SetGuide(KeyGuide(txtSalesNo));
     txtLiters.SetGuide(KeyGuide(txtLiters));
     // What is shown has to fit, too: it would be cut to the same length.

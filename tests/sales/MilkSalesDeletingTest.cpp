@@ -35,6 +35,26 @@ TEST_F(MilkSalesDeletingTest, F10DeletesTheSaleShownWithoutAQuestion)
     EXPECT_FALSE(Failure);
 }
 
+// The list of names hides the guide line.
+TEST_F(MilkSalesDeletingTest, TheStripNamesTheKeyAndItIsLitInTheName)
+{
+    const auto isLit = [](Clerk& clerk) {
+        for (const QWidget* key : clerk.Top().findChildren<QWidget*>())
+            if (key->accessibleName() == QString::fromUtf8("F10 विक्री खोडा"))
+                return key->isEnabled();
+        ADD_FAILURE() << "the strip doesn't name it";
+        return false;
+    };
+    InTheMorning([&](Clerk& clerk) {
+        EXPECT_FALSE(isLit(clerk));
+        Type(clerk, "{UP}{ENTER}");
+        EXPECT_TRUE(isLit(clerk));
+        Type(clerk, "{ENTER}");
+        EXPECT_FALSE(isLit(clerk));
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(MilkSalesDeletingTest, BehindItTheNextNumberComesFromTheCopy)
 {
     AddSale(7, "sakaL", "raoK", 0, "raoK", "gaaya", 1, 2);
