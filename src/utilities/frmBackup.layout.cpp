@@ -7,7 +7,7 @@
 void frmBackup::LayOut()
 {
     constexpr int typeWidth = 200;
-    constexpr int driveWidth = 110;
+    constexpr int driveWidth = 80;
     Layout::Form form;
     form.Row(Shivaji(u"ba^kAp p`kar"), cmbBackupType, typeWidth);
     form.Row(Shivaji(u"fa[-lacao naava"), Text1);
@@ -20,8 +20,8 @@ void frmBackup::LayOut()
     auto* lists = new QHBoxLayout;
     lists->setSpacing(12);
     lists->addWidget(Drive1.Widget());
-    lists->addWidget(Dir1.Widget(), 1);
-    lists->addWidget(File1.Widget(), 1);
+    lists->addWidget(Dir1.Widget(), 4);
+    lists->addWidget(File1.Widget(), 7); // the longest name is that of books which a restore has replaced
 
     auto* copying = new QHBoxLayout;
     copying->setSpacing(24);

@@ -14,6 +14,7 @@
 #include "rates/frmNewFatRates.h"
 #include "utilities/frmBackup.h"
 
+#include <QDir>
 #include <QFile>
 
 ReadableTest::ReadableTest()
@@ -196,6 +197,10 @@ TEST_F(ReadableTest, TheMenuWithAnOldBackup)
 
 TEST_F(ReadableTest, TheBackupAtEachFieldAndBehindACopy)
 {
+    const QString folder = FolderFile("Backup");
+    ASSERT_TRUE(QDir().mkpath(folder));
+    QFile replaced(folder + "/Morvelta Before 30 September 2026 181500.mdb");
+    ASSERT_TRUE(replaced.open(QIODevice::WriteOnly));
     On<frmBackup>([](Clerk& clerk) {
         ExpectReadable(clerk, "as it opens");
         WalkAndLook(clerk, "walking");
