@@ -238,6 +238,19 @@ TEST_F(ShippedTemplatesTest, MilkSalesReceiptShenoliIsSilentWhereTheSocietyHasNo
     EXPECT_FALSE(ReportTexts().contains("आपले मोजमाप"));
 }
 
+TEST_F(ShippedTemplatesTest, MilkSalesReceiptShenoliNamesCashWithoutANumberAtTheEdge)
+{
+    Run("insert into "
+        "MilkSalesReceipt(CompanyId,SalesDate,SalesTime,SalesType,SalesNo,CustomerNo,CustomerName,"
+        "Animal,Liters,Fat,Rate,Amount,OurLiters,SNF,OurFat,OurRate,OurAmount) values(1,'15/04/2026','sakaL',"
+        "'raoK',1,0,'raoK','gaaya',4.5,4.1,48,216,4.5,0,0,0,0)");
+    ReportControl report;
+    report.SetReportFileName(Paths::AppFolder.toString() + QStringLiteral("MilkSalesReceiptShenoli.rpt"));
+    report.SetLogon(Logon());
+    report.Print();
+    EXPECT_EQ(ReportTexts().count("रोख"), 2) << "no blank where the number would stand";
+}
+
 TEST_F(ShippedTemplatesTest, BonusPaymentsShowsEachMemberAndWhatIsLeftWhereTheClerkHasPassed)
 {
     int serial = 0;
