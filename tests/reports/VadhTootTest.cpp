@@ -4,8 +4,6 @@
 
 #include "tests/reports/PaymentsTest.h"
 
-#include <QElapsedTimer>
-
 #include <array>
 #include <map>
 #include <random>
@@ -94,7 +92,8 @@ TEST_F(VadhTootLitersTest, BothEndsOfTheRangeCountAndNothingBeyondThem)
     EXPECT_EQ(Rows("select * from ReportDates"), Lines({"1|28/02/2028|01/03/2028"}));
 }
 
-// A year that was keyed as 0202 or 9202: some three million days, which would take minutes.
+// A year that was keyed as 0202 or 9202: some three million days, which would take longer than a test may
+// last.
 TEST_F(VadhTootLitersTest, TheDaysBeforeTheFirstAndAfterTheLastMilkAreNotWalkedThrough)
 {
     Sell({.day = "13/04/2026", .liters = 1});
@@ -102,11 +101,8 @@ TEST_F(VadhTootLitersTest, TheDaysBeforeTheFirstAndAfterTheLastMilkAreNotWalkedT
     Sell({.day = "15/04/2026", .liters = 3});
     Bring({.day = "16/04/2026", .liters = 4});
     Sell({.day = "16/04/0201", .liters = 99});
-    QElapsedTimer walked;
-    walked.start();
     InLiters("17040201", "14042026");
     InLiters("01010202", "31129202");
-    EXPECT_LT(walked.elapsed(), 20000);
     EXPECT_EQ(Staged("CollectionDate,LitersIn,LitersOut"),
         Lines({"13/04/2026|0|1", "14/04/2026|2|0", "15/04/2026|0|3", "16/04/2026|4|0"}));
     EXPECT_EQ(Rows("select * from ReportDates"), Lines({"1|01/01/0202|31/12/9202"}));
