@@ -234,5 +234,6 @@ QString Clerk::Message() const
 
 void Clerk::Picture(const QString& file)
 {
-    Do([file] { ProgramWindow::Current().grab().save(file); });
+    constexpr int pressedLittle = 80; // hard pressing of many pictures takes longer than all the rest
+    Do([file] { ProgramWindow::Current().grab().save(file, nullptr, pressedLittle); });
 }

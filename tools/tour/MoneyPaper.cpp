@@ -7,15 +7,9 @@ const QString PeriodBegins = QStringLiteral("01052026");
 const QString PeriodEnds = QStringLiteral("10052026");
 const QString AllMembers = QString(QStringLiteral("1") + Enter + Enter);
 
-// Opens an entry of the list of reports, by its place.
-void OpenReport(Tour& tour, const QString& picture, int place)
-{
-    tour.Step(picture, QStringLiteral("{HOME}") + QStringLiteral("{DOWN}").repeated(place) + Enter);
-}
-
 void PrintSlips(Tour& tour)
 {
-    OpenReport(tour, QStringLiteral("report-slips"), 2);
+    tour.OpenEntry(QStringLiteral("report-slips"), 2);
     tour.Type(PeriodEnds + Enter + AllMembers + ShowReport);
     tour.KeepReport(QStringLiteral("slips"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.Type(Escape);
@@ -24,18 +18,18 @@ void PrintSlips(Tour& tour)
 void PrintRegisters(Tour& tour)
 {
     const QString period = PeriodBegins + Enter + Enter + AllMembers;
-    OpenReport(tour, QStringLiteral("report-payment-register"), 4);
+    tour.OpenEntry(QStringLiteral("report-payment-register"), 4);
     tour.Type(period + ShowReport);
     tour.KeepReport(QStringLiteral("payment-register"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.TheClerk().Press(QStringLiteral("OptionLS"));
     tour.Type(ShowReport);
     tour.KeepReport(QStringLiteral("payment-register-across"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.Type(Escape);
-    OpenReport(tour, QStringLiteral("report-deposit-register"), 5);
+    tour.OpenEntry(QStringLiteral("report-deposit-register"), 5);
     tour.Type(period + ShowReport);
     tour.KeepReport(QStringLiteral("deposit-register"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.Type(Escape);
-    OpenReport(tour, QStringLiteral("report-advance-register"), 6);
+    tour.OpenEntry(QStringLiteral("report-advance-register"), 6);
     tour.Type(period + ShowReport);
     tour.KeepReport(QStringLiteral("advance-register"), Shivaji01::FromUnicode(u"महादेव शंकर शिंदे"), 1);
     tour.Type(Escape);
@@ -43,7 +37,7 @@ void PrintRegisters(Tour& tour)
 
 void StateAMembersAdvances(Tour& tour)
 {
-    OpenReport(tour, QStringLiteral("report-advances-of-a-member"), 7);
+    tour.OpenEntry(QStringLiteral("report-advances-of-a-member"), 7);
     tour.Type(PeriodBegins + Enter + PeriodEnds + Enter + QStringLiteral("3") + Enter + ShowReport);
     tour.KeepReport(QStringLiteral("advances-of-a-member"), QStringLiteral("642.50"), 1);
     tour.Type(Escape);

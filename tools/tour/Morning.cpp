@@ -119,16 +119,3 @@ void PlayMorning(Tour& tour)
     MendTheShift(tour);
     CheckTheShift(tour);
 }
-
-void PlayLeaving(Tour& tour)
-{
-    tour.Step(QStringLiteral("keyboard-tutor"), QStringLiteral("{F12}gaaya"));
-    tour.Type(QStringLiteral("{ESC}{ESC}{ESC}"));
-    tour.Step(QStringLiteral("backup"), QStringLiteral("{ESC}"));
-    tour.Step(QStringLiteral("backup-taken"), QStringLiteral("2{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}"));
-    tour.Check(QStringLiteral("the backup lies in its folder"),
-        tour.TheClerk().Reads(QStringLiteral("File1")), QStringLiteral("Morvelta On 01 June 2026.mdb"));
-    tour.Step(QStringLiteral("leave"), QStringLiteral("{ESC}"));
-    tour.Type(QStringLiteral("%h"));
-    tour.Check(QStringLiteral("every screen is closed"), tour.TheClerk().ScreenName(), {});
-}

@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
-#include <QPixmap>
 
 Tour::Tour(Clerk& clerk, const QString& folder) : m_clerk(clerk), m_folder(QDir(folder).absolutePath())
 {
@@ -21,6 +20,15 @@ void Tour::Step(const QString& name, const QString& keys)
     const QString file = NextPicture(name);
     m_clerk.Picture(QDir(m_folder).filePath(file));
     NotePicture(file);
+}
+
+void Tour::OpenEntry(const QString& name, int place)
+{
+    const QString keys = QStringLiteral("{HOME}") + QStringLiteral("{DOWN}").repeated(place) + Enter;
+    if (name.isEmpty())
+        Type(keys);
+    else
+        Step(name, keys);
 }
 
 QString Tour::NextPicture(const QString& name)
@@ -78,10 +86,7 @@ void Tour::CheckColumn(const QString& list, QStringView field, const QString& ex
 void Tour::KeepReport(const QString& name, const QString& text, int times)
 {
     Check(name + QStringLiteral(", shown on"), m_clerk.ScreenName(), QStringLiteral("frmReportPreview"));
-    const QString picture = NextPicture(name);
-    m_clerk.Do(
-        [&] { m_clerk.Top().grab().save(QDir(m_folder).filePath(picture)); }); // larger than the others
-    NotePicture(picture);
+    Step(name, {});
     Type(QStringLiteral("^f") + KeysOf(text) + Enter);
     CheckReads(QStringLiteral("lblState"), QStringLiteral("सापडले: 1 / %1").arg(times));
 

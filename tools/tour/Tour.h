@@ -15,6 +15,10 @@ public:
     // Types keys and saves a numbered picture of the result.
     void Step(const QString& name, const QString& keys);
 
+    // Opens an entry of the list of the menu that is open, by its place, and saves a picture if it has a
+    // name.
+    void OpenEntry(const QString& name, int place);
+
     // Types keys without a picture.
     void Type(const QString& keys) { m_clerk.Type(keys); }
 
@@ -89,6 +93,17 @@ void PlayMoney(Tour& tour);
 
 // Slips, registers, statement and balances of that period; ends at the list of reports.
 void PlayMoneyPaper(Tour& tour);
+
+// From the list of reports: customers, and a shift's sales with the society's own measure; ends on the list
+// of transactions.
+void PlaySales(Tour& tour);
+
+// Gain and loss, lists of milk, comparison, cash book, bank book and the bonus of a year, against sums of the
+// raw rows; ends on the list of tools.
+void PlayBooks(Tour& tour);
+
+// A backup and a restore, from the list of tools; ends on the list of reports.
+void PlayBackup(Tour& tour);
 
 // From the menu to a delivery that a scale fills; ends at the counter.
 void PlayScale(Tour& tour);

@@ -72,6 +72,9 @@ void Play(Tour& tour, TourBox& box)
     PlayReports(tour);
     PlayMoney(tour);
     PlayMoneyPaper(tour);
+    PlaySales(tour);
+    PlayBooks(tour);
+    PlayBackup(tour);
     PlayScale(tour);
     PlayLeaving(tour);
 }
