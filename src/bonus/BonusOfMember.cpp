@@ -171,15 +171,18 @@ QLayout* BonusOfMember::LaidOut()
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(4);
+    for (const int ofFields : {1, 3, 5}) // each stays beside its name in a wide window
+        grid->setColumnStretch(ofFields, 1);
     const auto put = [&](int row, int column, const Caption& caption, Field& field, bool isBold = false) {
         field.SetAccessibleName(caption);
         grid->addWidget(Heading(caption), row, column);
-        grid->addWidget(Sized(field, figureWidth, NarrowField, Look::Size::Large, isBold), row, column + 1);
+        grid->addWidget(Sized(field, figureWidth, NarrowField, Look::Size::Large, isBold), row, column + 1,
+            Qt::AlignLeft);
     };
     txtMemberNo.SetAccessibleName(Shivaji(u"maombar naM."));
     cmbMemberName.SetAccessibleName(Shivaji(u"maombarcao naava"));
     grid->addWidget(Heading(Shivaji(u"maombar naM.")), 0, 0);
-    grid->addWidget(Sized(txtMemberNo, numberWidth, NarrowField, Look::Size::Large), 0, 1);
+    grid->addWidget(Sized(txtMemberNo, numberWidth, NarrowField, Look::Size::Large), 0, 1, Qt::AlignLeft);
     grid->addWidget(Heading(Shivaji(u"maombarcao naava")), 0, 2);
     grid->addWidget(Sized(cmbMemberName, 0, NarrowField, Look::Size::Large), 0, 3, 1, 3);
     put(1, 0, Shivaji(u"maagaIla gaaya dUQa"), txtPreviousCowLiters);
