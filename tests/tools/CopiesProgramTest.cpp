@@ -1,6 +1,7 @@
 #include "platform/shell/SingleInstance.h"
 #include "tests/tools/SetupRun.h"
 #include "tests/tools/SetupSupport.h"
+#include "tools/setup/Copies.h"
 
 #include <gtest/gtest.h>
 
@@ -98,35 +99,52 @@ TEST_F(CopiesProgramTest, ARestoreBringsAnyCopyBackAndKeepsWhatItReplaces)
     EXPECT_EQ(Members(), "1") << "what was replaced can be brought back as well";
 }
 
+// By the program and by what it calls.
 TEST_F(CopiesProgramTest, TheLogOfTheReplacedBooksIsFoldedIntoWhatIsKept)
 {
-    QDir(Folder()).removeRecursively();
-    MakeSociety(Folder() + ".made", GoodPlan());
-    ASSERT_TRUE(QFile::copy(Folder() + ".made/Morvelta.mdb", Copy()));
-    LeaveAsAfterAPowerCut(Folder() + ".made", Folder());
-    ASSERT_GT(QFileInfo(Books() + "-wal").size(), 0);
-    EXPECT_EQ(Restore(Copy()).exitCode, 0);
-    EXPECT_FALSE(QFile::exists(Books() + "-wal"));
+    const QString made = Folder() + ".made";
     const auto towns = [&] {
         return Shell(Folder(), "Gokul#2026", "select count(*) from CityMaster where CityName='masaUr';")
             .value(0);
     };
-    EXPECT_EQ(towns(), "0");
-    ASSERT_EQ(Kept().size(), 1);
-    EXPECT_EQ(Restore(QDir(Folder()).filePath("Backup/" + Kept()[0])).exitCode, 0);
-    EXPECT_EQ(towns(), "1");
+    for (const bool isProgram : {true, false}) {
+        QDir(Folder()).removeRecursively();
+        QDir(made).removeRecursively();
+        QFile::remove(Copy());
+        MakeSociety(made, GoodPlan());
+        ASSERT_TRUE(QFile::copy(made + "/Morvelta.mdb", Copy()));
+        LeaveAsAfterAPowerCut(made, Folder());
+        ASSERT_GT(QFileInfo(Books() + "-wal").size(), 0);
+        if (isProgram)
+            EXPECT_EQ(Restore(Copy()).exitCode, 0);
+        else
+            RestoreBooks(Folder(), Copy(), QDateTime(QDate(2026, 4, 15), QTime(18, 30)));
+        EXPECT_FALSE(QFile::exists(Books() + "-wal"));
+        EXPECT_EQ(towns(), "0");
+        ASSERT_EQ(Kept().size(), 1);
+        EXPECT_EQ(Restore(QDir(Folder()).filePath("Backup/" + Kept()[0])).exitCode, 0);
+        EXPECT_EQ(towns(), "1");
+    }
 }
 
 TEST_F(CopiesProgramTest, BooksThatCanNotBeOpenedAreKeptWithTheirLog)
 {
     ASSERT_TRUE(QFile::copy(Books(), Copy()));
-    Put(Books(), "nothing is left");
-    Put(Books() + "-wal", "nor here");
-    EXPECT_EQ(Restore(Copy()).exitCode, 0);
-    EXPECT_EQ(Members(), "0");
-    ASSERT_EQ(Kept().size(), 2);
-    EXPECT_EQ(FileContent(QDir(Folder()).filePath("Backup/" + Kept()[0])), "nothing is left");
-    EXPECT_EQ(FileContent(QDir(Folder()).filePath("Backup/" + Kept()[1])), "nor here");
+    const QDir backup(QDir(Folder()).filePath("Backup"));
+    for (const bool isProgram : {true, false}) {
+        Put(Books(), "nothing is left");
+        Put(Books() + "-wal", "nor here");
+        if (isProgram)
+            EXPECT_EQ(Restore(Copy()).exitCode, 0);
+        else
+            RestoreBooks(Folder(), Copy(), QDateTime(QDate(2026, 4, 15), QTime(18, 30)));
+        EXPECT_EQ(Members(), "0");
+        ASSERT_EQ(Kept().size(), 2);
+        EXPECT_EQ(FileContent(backup.filePath(Kept()[0])), "nothing is left");
+        EXPECT_EQ(FileContent(backup.filePath(Kept()[1])), "nor here");
+        for (const QString& name : Kept())
+            QFile::remove(backup.filePath(name));
+    }
 }
 
 TEST_F(CopiesProgramTest, TheBooksAreNotRestoredFromThemselves)
@@ -150,8 +168,10 @@ TEST_F(CopiesProgramTest, ALogBesideACopyIsTold)
 {
     ASSERT_TRUE(QFile::copy(Books(), Copy()));
     EXPECT_FALSE(Check(Copy()).out.contains("A log"));
+    EXPECT_FALSE(HasOwnLog(Copy()));
     Put(Copy() + "-wal", "the last saves");
     EXPECT_TRUE(Check(Copy()).out.contains("A log lies beside it"));
+    EXPECT_TRUE(HasOwnLog(Copy()));
 }
 
 TEST_F(CopiesProgramTest, OptionsThatDoNotGoTogetherAreRefused)

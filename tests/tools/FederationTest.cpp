@@ -11,9 +11,9 @@ protected:
     QString Folder() const { return m_dir.filePath("books"); }
 
     // The accounts that the reports take for the federation, as they are read.
-    QStringList Federations() const
+    QStringList Federations(const QString& password = "secret") const
     {
-        QStringList names = Shell(Folder(), "secret",
+        QStringList names = Shell(Folder(), password,
             "select AccountName from AccountsMaster where CompanyId=1 and trim(GroupCode)='Debtors' and "
             "trim(Category)='saMGa' order by rowid;");
         for (QString& name : names)
@@ -59,6 +59,15 @@ TEST_F(FederationTest, OfTheDemonstrationIsItsFirstCustomer)
                   "select count(*) from CustomersMaster c join AccountsMaster a on "
                   "a.AccountName=c.CustomerName where c.CustomerType='saMGa ivaËI';"),
         QStringList("2"));
+}
+
+TEST_F(FederationTest, OfTheDemonstrationBringsNoThirdAccount)
+{
+    SocietyPlan plan = GoodPlan();
+    plan.demo = true;
+    plan.federation = "वारणा दूध संघ";
+    MakeSociety(Folder(), plan);
+    EXPECT_EQ(Federations(plan.password), QStringList({"वारणा दूध संघ", "कोयना दूध संघ"}));
 }
 
 TEST_F(FederationTest, WithANameThatTheBooksCanNotHoldIsRefused)
