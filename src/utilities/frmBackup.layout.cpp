@@ -29,6 +29,7 @@ void frmBackup::LayOut()
     copying->addWidget(m_progress.Widget(), 1);
 
     lblContent.Widget()->setAlignment(Qt::AlignCenter);
+    lblContent.Widget()->setWordWrap(true); // a path may be in it
     auto* body = new QVBoxLayout;
     body->setSpacing(8);
     body->addLayout(form.Grid());

@@ -207,6 +207,15 @@ TEST_F(ReadableTest, TheBackupAtEachFieldAndBehindACopy)
         Press(clerk, "cmdBackup");
         EXPECT_NE(Label(clerk, "lblContent"), "");
         ExpectReadable(clerk, "behind a copy");
+        clerk.Do([&] {
+            dynamic_cast<Field*>(clerk.Top().Find(u"Text1"))
+                ->SetText("C:\\Tarvel01\\Vetrolan\\Morvelta On 15 September 2026 before the payment.mdb");
+            clerk.Top().Find(u"cmbBackupType")->SetFocus();
+        });
+        Type(clerk, "2");
+        Press(clerk, "cmdBackup");
+        EXPECT_NE(Label(clerk, "lblContent").find("before the payment.mdb मध्ये"), std::string::npos);
+        ExpectReadable(clerk, "behind a copy that lies elsewhere");
         clerk.Do([&] { clerk.Top().Find(u"cmdRestore")->SetFocus(); });
         ExpectReadable(clerk, "before a restore");
         Type(clerk, "{ESC}");
