@@ -25,7 +25,7 @@ TEST_F(DemoPaymentTest, TheLastTenDaysOfAprilWerePaidAsTheReckoningSays)
     reckoning.ReadMilk(period);
     reckoning.PayMany(1, 40, period);
     EXPECT_EQ(Count("MilkPayments"), 40);
-    for (const PaymentReckoning::Compared& rows : reckoning.Comparison())
+    for (const Compared& rows : reckoning.Comparison())
         EXPECT_EQ(Joined(rows.reckoned), Joined(rows.stored)) << rows.what.toStdString();
 }
 

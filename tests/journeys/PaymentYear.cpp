@@ -7,44 +7,22 @@
 #include "society/PaymentPeriod.h"
 #include "vouchers/frmUchalVouchers.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <array>
-#include <cmath>
-#include <iterator>
 
 namespace {
 
 constexpr int NoMember = 7; // a gap in the numbers
 const QDate YearStart(2026, 4, 1);
 
-QString Typed(const QDate& day)
-{
-    return day.toString("ddMMyyyy");
-}
-
 std::string Joined(const QStringList& lines)
 {
     return lines.join(u'\n').toStdString();
 }
 
-// The lines that only one of two sorted lists has: what was reckoned with -, what is stored with +.
-std::string Difference(const QStringList& reckoned, const QStringList& stored)
-{
-    QStringList missing;
-    QStringList extra;
-    std::set_difference(
-        reckoned.begin(), reckoned.end(), stored.begin(), stored.end(), std::back_inserter(missing));
-    std::set_difference(
-        stored.begin(), stored.end(), reckoned.begin(), reckoned.end(), std::back_inserter(extra));
-    return Joined(missing.replaceInStrings(QRegularExpression("^"), "- ")
-        + extra.replaceInStrings(QRegularExpression("^"), "+ "));
 }
 
-}
-
-PaymentYear::PaymentYear(int members, unsigned seed) : m_dice(seed)
+PaymentYear::PaymentYear(int members, unsigned seed) : PaymentYear(seed)
 {
     for (int number = 1; static_cast<int>(m_members.size()) < members; ++number)
         if (number != NoMember)
@@ -323,12 +301,17 @@ void PaymentYear::PayTheRest()
 
 void PaymentYear::ExpectAgreement()
 {
-    for (const PaymentReckoning::Compared& rows : Reckoning.Comparison())
-        EXPECT_EQ(Difference(rows.reckoned, rows.stored), "") << rows.what.toStdString();
+    for (const Compared& rows : Reckoning.Comparison())
+        Expect(rows);
     EXPECT_EQ(
         One("select count(*) from TransactionsMaster where RsInWords is not null or Printname is not null "
             "or Narration2 is not null or Narration3 is not null"),
         "0");
+}
+
+void PaymentYear::Expect(const Compared& rows)
+{
+    EXPECT_EQ(Joined(rows.Differences()), "");
 }
 
 void PaymentYear::ExpectOwedIsGivenLessReceived()

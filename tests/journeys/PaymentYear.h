@@ -13,6 +13,9 @@ protected:
     // So many members, without the number 7; nothing is in the books yet.
     PaymentYear(int members, unsigned seed);
 
+    // Nobody yet: who comes is for the journey to say.
+    explicit PaymentYear(unsigned seed) : m_dice(seed) { }
+
     // How the payments of a period are made.
     struct Manner {
         const char* paise; // what becomes of them
@@ -24,7 +27,8 @@ protected:
     void PlayPeriod(const Manner& manner);
 
     // All rows and closing columns are what they have to be.
-    void ExpectAgreement();
+    virtual void ExpectAgreement();
+    static void Expect(const Compared& rows);
 
     // What was unpaid before each payment of the period is what the raw rows say was given and came back
     // until then, and so is what each member owes at its end.
@@ -32,23 +36,34 @@ protected:
 
     PaymentReckoning Reckoning;
 
-private:
+    // The days of a period, morning and evening.
+    virtual void BringMilk(bool isKeyed);
+
+    // An advance of one head or two, on the screen of the vouchers. The one who owes more than his milk
+    // brings is the last member.
+    void GiveAdvance(Clerk& clerk, int member, const QDate& day);
+
+    static QString Typed(const QDate& day) { return day.toString("ddMMyyyy"); }
     int Throw(int sides) { return static_cast<int>(m_dice() % static_cast<unsigned>(sides)); }
-    Exact ThrowPaise(int most) { return Exact::OfPaise(1 + Throw(most)); }
     int ThrowMember()
     {
         return m_members[static_cast<std::size_t>(Throw(static_cast<int>(m_members.size())))];
     }
-    QDate ThrowDay(); // of the period, or at times some days before it
     bool Brings(int member) const;
+
+    std::vector<int> m_members; // in their order
+    PaymentReckoning::Period m_period; // that is played
+    int m_periods = 0; // that were played before it
+
+private:
+    Exact ThrowPaise(int most) { return Exact::OfPaise(1 + Throw(most)); }
+    QDate ThrowDay(); // of the period, or at times some days before it
     std::vector<int> ThrowPayees(int count); // some who bring milk, none of them twice
 
-    void BringMilk(bool isKeyed);
     void LayDelivery(int member, const QDate& day, QStringView time, int number);
     void KeyShift(const QDate& day, int time);
 
     void KeyVouchers();
-    void GiveAdvance(Clerk& clerk, int member, const QDate& day);
     void TakeReceipt(Clerk& clerk, int member, const QDate& day);
     void ChangeVouchers(Clerk& clerk);
     void ChangeReceipts(Clerk& clerk);
@@ -63,8 +78,5 @@ private:
     void PayTheRest();
     void OnOnePayment(const std::function<void(Clerk&)>& script);
 
-    std::vector<int> m_members;
-    PaymentReckoning::Period m_period;
-    int m_periods = 0;
     std::mt19937 m_dice;
 };

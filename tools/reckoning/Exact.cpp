@@ -26,10 +26,28 @@ Exact Exact::OfPaise(std::int64_t paise)
     return Exact(paise * Paisa);
 }
 
+Exact Exact::Product(Exact other) const
+{
+    const std::int64_t product = m_units * other.m_units;
+    InsistOn(product % One == 0, Text() + u'*' + other.Text() + QStringLiteral(" has too many decimals"));
+    return Exact(product / One);
+}
+
+Exact Exact::Over(Exact divisor) const
+{
+    constexpr std::int64_t tenths = 10;
+    InsistOn(m_units >= 0 && divisor.m_units > 0, QStringLiteral("a quotient without a meaning"));
+    return Exact((2 * tenths * m_units + divisor.m_units) / (2 * divisor.m_units) * (One / tenths));
+}
+
+float Exact::Single() const
+{
+    return static_cast<float>(static_cast<double>(m_units) / static_cast<double>(One));
+}
+
 Exact Exact::Times(Exact rate) const
 {
-    const std::int64_t product = m_units / (One / 1000) * (rate.m_units / Paisa); // in hundred-thousandths
-    return Exact(product).ToThePaisa();
+    return Product(rate).ToThePaisa();
 }
 
 Exact Exact::ToThePaisa() const

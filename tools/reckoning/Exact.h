@@ -21,6 +21,15 @@ public:
     bool operator<=(Exact other) const { return !(other < *this); }
     bool operator>=(Exact other) const { return !(*this < other); }
 
+    // The whole product; it must have at most five decimals.
+    Exact Product(Exact other) const;
+
+    // To one decimal, half away from zero. Neither may be less than nothing.
+    Exact Over(Exact divisor) const;
+
+    // What single precision holds of it.
+    float Single() const;
+
     // Litres at a rate, to the paisa, half away from zero.
     Exact Times(Exact rate) const;
 

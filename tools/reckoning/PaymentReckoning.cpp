@@ -2,10 +2,8 @@
 
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
-#include "platform/text/Numbers.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -13,6 +11,9 @@ const QString PreviousHead = QStringLiteral("maagaIla baakI");
 const QString OtherHead = QStringLiteral("[tr");
 const QString AdvanceHead = QStringLiteral("]cala");
 const QString RecoveryType = QStringLiteral("Uchal Kapat");
+const QString CowDeposit = QStringLiteral("gaaya zova");
+const QString BuffDeposit = QStringLiteral("mhOsa zova");
+const QString PaiseDeposit = QStringLiteral("zova");
 
 // In the order in which a payment writes them.
 const QStringList PeriodHeads = {
@@ -20,32 +21,20 @@ const QStringList PeriodHeads = {
 
 constexpr double MostOfASingle = 65536; // what it holds to the paisa
 
-// The rows of a query as sorted lines. The columns `singles` are told to the paisa.
-QStringList Stored(const char* query, const std::vector<int>& singles = {})
-{
-    constexpr double mostLeft = 0.005; // of what single precision leaves behind the paise
-    QStringList lines;
-    for (Recordset rows(gCn, QString::fromLatin1(query)); !rows.Eof(); rows.MoveNext()) {
-        QStringList cells;
-        for (int at = 0; at < rows.Columns(); ++at) {
-            const FieldValue value = rows.At(at);
-            cells.append(value.IsNull() ? QStringLiteral("NULL") : value.Text());
-            if (std::find(singles.begin(), singles.end(), at) == singles.end())
-                continue;
-            const double toThePaisa = Val(Format(value.Number(), u"0.00"));
-            if (std::abs(value.Number() - toThePaisa) < mostLeft)
-                cells.back() = ShortestDecimal(toThePaisa);
-        }
-        lines.append(cells.join(u'|'));
-    }
-    lines.sort();
-    return lines;
-}
-
 QStringList Sorted(QStringList lines)
 {
     lines.sort();
     return lines;
+}
+
+// Both days count; without a first one, all up to the last.
+Exact SumOf(const std::vector<MoneyRow>& rows, int member, const QDate& from, const QDate& to)
+{
+    Exact sum;
+    for (const MoneyRow& row : rows)
+        if (row.member == member && (from.isNull() || row.day >= from) && row.day <= to)
+            sum += row.amount;
+    return sum;
 }
 
 }
@@ -85,6 +74,21 @@ void PaymentReckoning::ReadOpening()
         m_closing[static_cast<int>(row[u"MemberNo"].Number())] = {Exact::Of(row[u"OpeningBalance"].Number()),
             Exact::Of(row[u"CowOpeningThev"].Number()), Exact::Of(row[u"BuffOpeningThev"].Number()),
             Exact::Of(row[u"OpeningUchal"].Number())};
+}
+
+void PaymentReckoning::AddMember(int member, const QString& name, const Columns& closing)
+{
+    Vouchers.AddMember(member, name);
+    m_closing[member] = closing;
+}
+
+void PaymentReckoning::Forget(int member)
+{
+    Vouchers.Forget(member);
+    m_closing.erase(member);
+    std::erase_if(m_payments, [member](const Payment& payment) { return payment.member == member; });
+    for (std::vector<Row>* rows : {&m_details, &m_recoveries})
+        std::erase_if(*rows, [member](const Row& row) { return row.member == member; });
 }
 
 // Some days around the period are read, too, and left out here: where it begins and ends is not asked of the
@@ -267,11 +271,11 @@ void PaymentReckoning::Pay(int member, const Period& period, const Keyed& keyed)
     m_payments.push_back(paid);
     m_details.insert(m_details.end(), heads.rows.begin(), heads.rows.end());
     if (paid.cowDeposit > Exact())
-        m_details.push_back({period.bill, member, QStringLiteral("gaaya zova"), paid.cowDeposit, 0});
+        m_details.push_back({period.bill, member, CowDeposit, paid.cowDeposit, 0});
     if (paid.buffDeposit > Exact())
-        m_details.push_back({period.bill, member, QStringLiteral("mhOsa zova"), paid.buffDeposit, 0});
+        m_details.push_back({period.bill, member, BuffDeposit, paid.buffDeposit, 0});
     if (m_paise == u"AddThev" && paise > Exact())
-        m_details.push_back({period.bill, member, QStringLiteral("zova"), paise, 0});
+        m_details.push_back({period.bill, member, PaiseDeposit, paise, 0});
     if (paid.uchal != Exact())
         m_recoveries.push_back({period.bill, member, RecoveryType, paid.uchal - m_fixed, paid.number + 1});
     MoveClosing(paid, 1);
@@ -330,17 +334,43 @@ void PaymentReckoning::TakeBack(int member, const QDate& from)
 
 Exact PaymentReckoning::Owed(int member, const QDate& at) const
 {
-    Exact owed;
-    for (const Row& given : Vouchers.Given(member))
-        if (given.day <= at)
-            owed += given.amount;
-    for (const Row& back : Vouchers.Back(member))
-        if (back.day <= at)
-            owed = owed - back.amount;
-    for (const Row& back : m_recoveries)
-        if (back.member == member && back.day <= at)
-            owed = owed - back.amount;
-    return owed;
+    return Given(member, QDate(), at) - CameBack(member, QDate(), at);
+}
+
+Exact PaymentReckoning::Given(int member, const QDate& from, const QDate& to) const
+{
+    return SumOf(Vouchers.Given(member), member, from, to);
+}
+
+Exact PaymentReckoning::CameBack(int member, const QDate& from, const QDate& to) const
+{
+    return SumOf(Vouchers.Back(member), member, from, to) + SumOf(m_recoveries, member, from, to);
+}
+
+PaymentReckoning::Year PaymentReckoning::YearOf(int member) const
+{
+    Year year;
+    for (const Payment& payment : m_payments)
+        if (payment.member == member)
+            year.paid += payment.net;
+    for (const Row& row : m_details) {
+        if (row.member != member)
+            continue;
+        if (row.type == CowDeposit)
+            year.cowDeposits += row.amount;
+        else if (row.type == BuffDeposit)
+            year.buffDeposits += row.amount;
+        else if (row.type == PaiseDeposit)
+            year.paiseDeposits += row.amount;
+    }
+    for (const Row& row : Vouchers.Given(member))
+        year.given += row.amount;
+    for (const Row& row : Vouchers.Back(member))
+        year.receipts += row.amount;
+    for (const Row& row : m_recoveries)
+        if (row.member == member)
+            year.recoveries += row.amount;
+    return year;
 }
 
 // What has to stand in the books
@@ -390,27 +420,27 @@ QStringList PaymentReckoning::Closing() const
     return Sorted(lines);
 }
 
-std::vector<PaymentReckoning::Compared> PaymentReckoning::Comparison() const
+std::vector<Compared> PaymentReckoning::Comparison() const
 {
+    const auto with = [](const char* what, const QStringList& reckoned, const char* query,
+                          std::initializer_list<int> singles = {}) {
+        return Compared::With(
+            QString::fromLatin1(what), reckoned, QString::fromLatin1(query), Singles(singles));
+    };
     constexpr int previousBalance = 12;
     constexpr int previousAdvance = 22;
     constexpr int amount = 5;
     return {
-        {QStringLiteral("payment"), Payments(),
-            Stored("select * from MilkPayments", {previousBalance, previousAdvance})},
-        {QStringLiteral("head or deposit"), Details(), Stored("select * from MilkPaymentsDetails", {amount})},
-        {QStringLiteral("recovery"), Recoveries(),
-            Stored("select * from AdvanceReceipt where AdvanceType='Uchal Kapat'")},
-        {QStringLiteral("receipt"), Vouchers.Receipts(),
-            Stored("select * from AdvanceReceipt where AdvanceType<>'Uchal Kapat'")},
-        {QStringLiteral("voucher"), Vouchers.Masters(),
-            Stored("select CompanyId,TranDate,TranId,TranType,DAccountName,CAccountName,Amount,BillNo,"
-                   "Narration from TransactionsMaster")},
-        {QStringLiteral("head of a voucher"), Vouchers.Details(),
-            Stored("select * from TransactionsDetails")},
-        {QStringLiteral("closing columns"), Closing(),
-            Stored("select MemberNo,ClosingBalance,CowClosingThev,BuffClosingThev,ClosingUchal from "
-                   "MembersMaster",
-                {1, 2, 3, 4})},
+        with("payment", Payments(), "select * from MilkPayments", {previousBalance, previousAdvance}),
+        with("head or deposit", Details(), "select * from MilkPaymentsDetails", {amount}),
+        with("recovery", Recoveries(), "select * from AdvanceReceipt where AdvanceType='Uchal Kapat'"),
+        with("receipt", Vouchers.Receipts(), "select * from AdvanceReceipt where AdvanceType<>'Uchal Kapat'"),
+        with("voucher", Vouchers.Masters(),
+            "select CompanyId,TranDate,TranId,TranType,DAccountName,CAccountName,Amount,BillNo,Narration "
+            "from TransactionsMaster"),
+        with("head of a voucher", Vouchers.Details(), "select * from TransactionsDetails"),
+        with("closing columns", Closing(),
+            "select MemberNo,ClosingBalance,CowClosingThev,BuffClosingThev,ClosingUchal from MembersMaster",
+            {1, 2, 3, 4}),
     };
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tools/reckoning/Compared.h"
 #include "tools/reckoning/VoucherReckoning.h"
 
 #include <optional>
@@ -18,8 +19,15 @@ public:
     // The members with their closing columns as they stand in the books before the first voucher and payment.
     void ReadMembers();
 
-    // The same for books where members have vouchers and are paid already: the closing columns before all of
-    // that are the opening ones, and the vouchers are those in the books.
+    // A member who comes later, and one who is deleted with all that is his.
+    struct Columns {
+        Exact balance, cow, buff, uchal;
+    };
+    void AddMember(int member, const QString& name, const Columns& closing);
+    void Forget(int member);
+
+    // As ReadMembers, for books where members have vouchers and are paid already: the closing columns before
+    // all of that are the opening ones, and the vouchers are those in the books.
     void ReadOpening();
 
     // The clerk has opened the screen.
@@ -61,17 +69,19 @@ public:
     QStringList Recoveries() const;
     QStringList Closing() const; // MemberNo and the four columns
 
-    // All of it, beside the rows that stand in the open books: sorted lines, too, in which columns of single
-    // precision are told to the paisa, and a Null as NULL.
-    struct Compared {
-        QString what;
-        QStringList reckoned;
-        QStringList stored;
-    };
+    // All of it, beside the rows that stand in the open books.
     std::vector<Compared> Comparison() const;
 
     // What a member owes at the end of a day: what was given less what came back, by voucher or by payments.
     Exact Owed(int member, const QDate& at) const;
+    Exact Given(int member, const QDate& from, const QDate& to) const;
+    Exact CameBack(int member, const QDate& from, const QDate& to) const;
+
+    // All that stands in the books of a member's money.
+    struct Year {
+        Exact paid, cowDeposits, buffDeposits, paiseDeposits, given, receipts, recoveries;
+    };
+    Year YearOf(int member) const;
 
 private:
     using Row = MoneyRow;
@@ -83,9 +93,6 @@ private:
         QString animal;
         Exact cowLitres, buffLitres, cowAmount, buffAmount, amount;
         Exact cowDeposit, buffDeposit, uchal, net, previous, current, fixed;
-    };
-    struct Columns {
-        Exact balance, cow, buff, uchal;
     };
     struct Heads {
         std::vector<Row> rows;

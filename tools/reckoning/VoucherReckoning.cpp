@@ -54,6 +54,14 @@ void VoucherReckoning::ReadVouchers()
     ListRows();
 }
 
+void VoucherReckoning::Forget(int member)
+{
+    m_names.erase(member);
+    m_moved.erase(member);
+    std::erase_if(m_vouchers, [member](const Voucher& voucher) { return voucher.member == member; });
+    ListRows();
+}
+
 // All vouchers of a date are numbered together.
 int VoucherReckoning::NextNumber(const QDate& day) const
 {
@@ -138,21 +146,33 @@ Exact VoucherReckoning::Moved(int member) const
     return moved == m_moved.end() ? Exact() : moved->second;
 }
 
+std::vector<VoucherReckoning::Posting> VoucherReckoning::Postings() const
+{
+    const QString cash = QStringLiteral("raoK");
+    std::vector<Posting> postings;
+    for (const Voucher& voucher : m_vouchers) {
+        const QString& name = m_names.at(voucher.member);
+        if (voucher.isReceipt)
+            postings.push_back({voucher.day, voucher.number, QStringLiteral("irsaIT"), cash, name,
+                voucher.Amount(), QStringLiteral("]cala jamaa"), QStringLiteral("]cala jamaa JaalaI.")});
+        else
+            postings.push_back({voucher.day, voucher.number, QStringLiteral("pomaonT"), name, cash,
+                voucher.Amount(), QStringLiteral("]cala"), QStringLiteral("]cala idlaI.")});
+    }
+    std::sort(postings.begin(), postings.end(), [](const Posting& one, const Posting& other) {
+        return std::tie(one.day, one.number) < std::tie(other.day, other.number);
+    });
+    return postings;
+}
+
 QStringList VoucherReckoning::Masters() const
 {
     QStringList lines;
-    for (const Voucher& voucher : m_vouchers) {
-        const QString& name = m_names.at(voucher.member);
-        const QString cash = QStringLiteral("raoK");
-        const QStringList told = voucher.isReceipt
-            ? QStringList{QStringLiteral("irsaIT"), cash, name, voucher.Amount().Text(),
-                QStringLiteral("]cala jamaa"), QStringLiteral("]cala jamaa JaalaI.")}
-            : QStringList{QStringLiteral("pomaonT"), name, cash, voucher.Amount().Text(),
-                QStringLiteral("]cala"), QStringLiteral("]cala idlaI.")};
-        lines.append(
-            (QStringList{QStringLiteral("1"), DayText(voucher.day), QString::number(voucher.number)} + told)
-                .join(u'|'));
-    }
+    for (const Posting& posting : Postings())
+        lines.append(QStringList{QStringLiteral("1"), DayText(posting.day), QString::number(posting.number),
+            posting.type, posting.debit, posting.credit, posting.amount.Text(), posting.billNo,
+            posting.narration}
+                         .join(u'|'));
     lines.sort();
     return lines;
 }

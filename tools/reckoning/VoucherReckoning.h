@@ -32,6 +32,11 @@ public:
     // The vouchers that are in the books already, after ReadMembers.
     void ReadVouchers();
 
+    void AddMember(int member, const QString& name) { m_names[member] = name; }
+
+    // A member is deleted, and his vouchers with him.
+    void Forget(int member);
+
     const QString& NameOf(int member) const { return m_names.at(member); }
 
     void Give(int member, const QDate& day, const Heads& heads);
@@ -49,6 +54,19 @@ public:
     QStringList Masters() const;
     QStringList Details() const { return LinesOf(m_given); }
     QStringList Receipts() const { return LinesOf(m_back); }
+
+    // The two sides of a voucher, as it stands in TransactionsMaster.
+    struct Posting {
+        QDate day;
+        int number = 0;
+        QString type;
+        QString debit;
+        QString credit;
+        Exact amount;
+        QString billNo;
+        QString narration;
+    };
+    std::vector<Posting> Postings() const; // by day and number
 
     // The rows of a member.
     const std::vector<MoneyRow>& Given(int member) const { return RowsOf(m_given, member); }

@@ -164,7 +164,7 @@ void PayTheRest(Tour& tour, PaymentReckoning& reckoning)
 // Notes each row beside what was reckoned from the raw rows.
 void CheckAllPayments(Tour& tour, const PaymentReckoning& reckoning)
 {
-    for (const PaymentReckoning::Compared& rows : reckoning.Comparison()) {
+    for (const Compared& rows : reckoning.Comparison()) {
         tour.Check(rows.what + QStringLiteral(", rows"), QString::number(rows.stored.size()),
             QString::number(rows.reckoned.size()));
         for (qsizetype at = 0; at < std::max(rows.stored.size(), rows.reckoned.size()); ++at)
