@@ -5,6 +5,7 @@
 #include "core/start/CheckingLine.h"
 #include "core/state/AppState.h"
 #include "platform/database/CheckedNote.h"
+#include "platform/forms/Painting.h"
 #include "platform/report/ReportControl.h"
 #include "platform/shell/AppFolder.h"
 #include "platform/shell/World.h"
@@ -43,13 +44,16 @@ void OpenBooks()
     if (line)
         CheckedNote::Write(folder, Today());
     line.reset();
+    gCn.SetWorking(Painting::RepaintInTime);
     for (const QString& note : notes)
         ShowPlain(note);
 }
 
 void ReopenBooks()
 {
-    for (const QString& note : gCn.Open(Logon()))
+    const QStringList notes = gCn.Open(Logon());
+    gCn.SetWorking(Painting::RepaintInTime);
+    for (const QString& note : notes)
         ShowPlain(note);
 }
 

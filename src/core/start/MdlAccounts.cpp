@@ -7,7 +7,6 @@
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
-#include "platform/forms/Painting.h"
 #include "platform/shell/AppFolder.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
@@ -90,7 +89,6 @@ bool LoadAppState()
     gAppState = AppState();
     ReadPassword();
     OpenBooks();
-    gCn.SetWorking(Painting::RepaintInTime);
     LoadCompany();
     gAppState.gCallerTag = QStringLiteral("N");
     LoadSettings();

@@ -1,5 +1,6 @@
 #include "core/messages/Progress.h"
 
+#include "core/start/BooksOpening.h"
 #include "platform/forms/Button.h"
 #include "platform/forms/Field.h"
 #include "platform/forms/Screen.h"
@@ -83,6 +84,14 @@ class ProgressTest : public SocietyTest {
 protected:
     std::optional<EachPainting> m_each{std::in_place};
 
+    // So many that a statement works on them for a while.
+    void FillDeliveries()
+    {
+        Run("insert into MilkCollections(CompanyId,CollectionDate,MemberNo) values(1,'01/04/2026',1)");
+        for (int doublings = 0; doublings < 14; ++doublings)
+            Run("insert into MilkCollections select * from MilkCollections");
+    }
+
     // Opens the screen, lets it walk so many rows, and looks at it afterwards.
     void Walk(int rows, const std::function<void(WalkingScreen&)>& look,
         const std::function<void(WalkingScreen&, int)>& atRow = {})
@@ -140,9 +149,7 @@ TEST_F(ProgressTest, AQuickRunDoesNotWaitForPaintings)
 // What is painted while one statement of the books is at work, and what is let in.
 TEST_F(ProgressTest, AStatementThatWorksForLongLetsTheWindowBePaintedAndNoKeyIn)
 {
-    Run("insert into MilkCollections(CompanyId,CollectionDate,MemberNo) values(1,'01/04/2026',1)");
-    for (int doublings = 0; doublings < 14; ++doublings)
-        Run("insert into MilkCollections select * from MilkCollections");
+    FillDeliveries();
     int painted = 0;
     QString during = "none";
     Walk(
@@ -166,6 +173,22 @@ TEST_F(ProgressTest, AStatementThatWorksForLongLetsTheWindowBePaintedAndNoKeyIn)
             during = screen.txtNote.Text();
             screen.txtNote.SetFocus();
         });
+}
+
+TEST_F(ProgressTest, AStatementLetsTheWindowBePaintedAfterABackupToo)
+{
+    FillDeliveries();
+    int painted = 0;
+    Walk(
+        1, [](WalkingScreen&) {},
+        [&](WalkingScreen& screen, int) {
+            CloseBooks();
+            ReopenBooks();
+            screen.painted = 0;
+            gCn.Execute(u"update MilkCollections set Liters=2");
+            painted = screen.painted;
+        });
+    EXPECT_GT(painted, 3);
 }
 
 TEST_F(ProgressTest, ForNoRowsThereIsNothingToShow)
