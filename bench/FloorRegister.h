@@ -46,7 +46,7 @@ private:
         FloorStatement("delete from KapatSummary"), FloorStatement("delete from MilkCollectionsTemp")};
     FloorStatement m_copyMilk{
         "insert into MilkCollectionsTemp select * from MilkCollections where CompanyId=1 and "
-        "CollectionDate>=? and CollectionDate<=? and MemberNo>=? and MemberNo<=?"};
+        "CollectionDate>=? and CollectionDate<=? and +MemberNo>=? and +MemberNo<=?"};
     FloorStatement m_company{"select * from CompanyMaster where CompanyId=1"};
     FloorStatement m_copyPayments{"insert into MilkPaymentsTemp select * from MilkPayments where CompanyId=1 "
                                   "and FromDate=? and ToDate=? and MemberNo>=? and MemberNo<=?"};

@@ -81,7 +81,7 @@ private:
     FloorStatement m_company{"select * from CompanyMaster where CompanyId=1"};
     FloorStatement m_copyMilk{
         "insert into MilkCollectionsTemp select * from MilkCollections where CompanyId=1 and "
-        "CollectionDate>=? and CollectionDate<=? and MemberNo>=? and MemberNo<=?"};
+        "CollectionDate>=? and CollectionDate<=? and +MemberNo>=? and +MemberNo<=?"};
 
     FloorStatement m_milk{
         "select CollectionDate,CollectionTime,CollectionNo,Animal,Liters,Fat,Rate,Amount from "

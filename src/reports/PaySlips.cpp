@@ -95,7 +95,8 @@ PaySlips::Payments PaySlips::CopyPayments() const
 }
 
 // From the first day of the earliest period to the last of the latest. What lies before the current data
-// comes from last year's.
+// comes from last year's. The signs keep the engine from the index of the members: the days are few, and of
+// the members mostly all.
 void PaySlips::CopyCollections(const Payments& payments) const
 {
     QDate from = m_wanted.from;
@@ -105,7 +106,7 @@ void PaySlips::CopyCollections(const Payments& payments) const
         to = std::max(to, payment.to);
     }
     const SqlText bounds = Sql(u"CollectionDate>=", SqlDay(from), u" and CollectionDate<=", SqlDay(to),
-        u" and MemberNo>=", m_wanted.fromNo, u" and MemberNo<=", m_wanted.toNo);
+        u" and +MemberNo>=", m_wanted.fromNo, u" and +MemberNo<=", m_wanted.toNo);
     if (ReportRun::ReachesIntoLastYear(from))
         gCn.Execute(Sql(u"insert into MilkCollectionsTemp select * from MilkCollectionsOld where ", bounds));
     gCn.Execute(Sql(u"insert into MilkCollectionsTemp select * from MilkCollections where CompanyId=",

@@ -87,11 +87,12 @@ void PaymentRegister::Stage(StagingProgress& progress) const
     staging.Commit();
 }
 
+// The signs keep the engine from the index of the members: the days are few, and of the members mostly all.
 void PaymentRegister::CopyCollections() const
 {
     const SqlText bounds = Sql(u" where CompanyId=", gAppState.gCompanyId, u" and CollectionDate>=",
-        SqlDay(m_wanted.from), u" and CollectionDate<=", SqlDay(m_wanted.to), u" and MemberNo>=",
-        m_wanted.fromNo, u" and MemberNo<=", m_wanted.toNo);
+        SqlDay(m_wanted.from), u" and CollectionDate<=", SqlDay(m_wanted.to), u" and +MemberNo>=",
+        m_wanted.fromNo, u" and +MemberNo<=", m_wanted.toNo);
     gCn.Execute(Sql(u"insert into MilkCollectionsTemp select * from MilkCollections", bounds));
     if (ReportRun::ReachesIntoLastYear(m_wanted.from))
         gCn.Execute(Sql(u"insert into MilkCollectionsTemp select * from MilkCollectionsOld", bounds));

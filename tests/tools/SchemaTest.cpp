@@ -319,6 +319,15 @@ TEST(IndexesTest, AMembersPeriodIsReadOffItsDaysAlone)
     }
 }
 
+TEST(IndexesTest, TheDaysOfAllMembersAreCopiedByTheirDaysAlone)
+{
+    const QString plan = PlanOf("select * from MilkCollections where CompanyId=1 and "
+                                "CollectionDate>='2026-05-01' and CollectionDate<='2026-05-10' and "
+                                "+MemberNo>=1 and +MemberNo<=500");
+    EXPECT_TRUE(plan.contains(u"MilkCollectionsByShift (CollectionDate>? AND CollectionDate<?)"))
+        << plan.toStdString();
+}
+
 TEST(IndexesTest, DeliveriesArePricedAnewByTheirFatAlone)
 {
     const QString plan = PlanOf("update MilkCollections set Rate=30 where CompanyId=1 and "
