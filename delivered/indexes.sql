@@ -1,16 +1,20 @@
 -- The indexes of every society's books. Each one costs a page on every save of a row of its table, so each
 -- says what it is for. They are made after the rows, which is quicker.
 
--- Number series, opening, change and deletion of a shift; every report over a span of days.
-create index MilkCollectionsByShift on MilkCollections (CollectionDate, CollectionTime, CollectionNo);
+-- Number series, opening, change and deletion of a shift; every report over a span of days. The litres of a
+-- year's gain and loss are summed up from it alone. The amounts aren't in it: pricing deliveries anew would have
+-- to move each of its entries.
+create index MilkCollectionsByShift
+    on MilkCollections (CollectionDate, CollectionTime, CollectionNo, Animal, Liters);
 
 -- A member's last fat is its last entry; the closing litres and a period's litres are summed from it alone.
 create index MilkCollectionsByMember
     on MilkCollections (MemberNo, Animal, CollectionTime, CollectionDate, CollectionNo, CompanyId, Liters);
 
 -- A member's milk of a period, four sums and a copy of it for every member of a payment run: without this a
--- run would read all that the member has ever brought.
-create index MilkCollectionsByMemberDay on MilkCollections (MemberNo, CollectionDate);
+-- run would read all that the member has ever brought. The litres are summed up from it alone, or the bonus of
+-- a year would have to find a million rows, each on a page of its own.
+create index MilkCollectionsByMemberDay on MilkCollections (MemberNo, CollectionDate, Animal, Liters);
 
 -- Deliveries are priced anew by fat and animal, once for each fat of a chart. The animal doesn't lead, or sums
 -- of one animal over some days would go through all its deliveries.

@@ -319,6 +319,29 @@ TEST(IndexesTest, AMembersPeriodIsReadOffItsDaysAlone)
     }
 }
 
+TEST(IndexesTest, AMembersLitresOfAPeriodAreSummedFromAnIndexAlone)
+{
+    const QString plan = PlanOf("select sum(Liters) as cowliters from MilkCollections where "
+                                "CollectionDate>='2026-04-01' and CollectionDate<='2027-03-31' and "
+                                "MemberNo=7 and Animal='gaaya'");
+    EXPECT_TRUE(
+        plan.contains(u"COVERING INDEX MilkCollectionsByMemberDay (MemberNo=? AND CollectionDate>? AND "
+                      u"CollectionDate<?)"))
+        << plan.toStdString();
+}
+
+TEST(IndexesTest, TheLitresOfARangeAreSummedFromAnIndexAloneAndInItsOrder)
+{
+    const QString plan = PlanOf("select CollectionDate,trim(CollectionTime),sum(case when "
+                                "trim(Animal)='gaaya' then Liters end) from MilkCollections where "
+                                "CollectionDate>='2026-04-01' and CollectionDate<='2027-03-31' group by "
+                                "CollectionDate,CollectionTime");
+    EXPECT_TRUE(
+        plan.contains(u"COVERING INDEX MilkCollectionsByShift (CollectionDate>? AND CollectionDate<?)"))
+        << plan.toStdString();
+    EXPECT_FALSE(plan.contains(u"TEMP B-TREE")) << plan.toStdString();
+}
+
 TEST(IndexesTest, TheDaysOfAllMembersAreCopiedByTheirDaysAlone)
 {
     const QString plan = PlanOf("select * from MilkCollections where CompanyId=1 and "
