@@ -4,18 +4,22 @@
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
+#include "platform/forms/Painting.h"
 #include "reports/ReportRun.h"
 #include "society/Queries.h"
 #include "society/Words.h"
 
+#include <QHash>
+
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace {
 
 constexpr qsizetype MostFederationCustomers = 11;
 
-// The milk of a shift and an animal, and what its sum is called.
+// The milk of a shift and an animal, and what the sum of its sales is called.
 struct ShiftMilk {
     QStringView shift;
     QStringView animal;
@@ -47,11 +51,32 @@ struct InAndOut {
     bool IsNothing() const { return in <= 0 && out <= 0; }
 };
 
-SqlText Collected(QStringView column, const QDate& day, const ShiftMilk& milk)
+// What came in on a day, in the order of MilkOfADay.
+using DayIn = std::array<double, std::size(MilkOfADay)>;
+
+// What came in on the days of a range. Both animals are summed in one reading: asked for one shift and animal
+// at a time, the deliveries of each day would be gone through four times.
+QHash<QDate, DayIn> Collected(QStringView column, const QDate& from, const QDate& to)
 {
-    return Sql(u"select sum(", column, u") as ", milk.sum, u" from MilkCollections where CollectionDate=",
-        SqlDay(day), u" and trim(CollectionTime)=", Quoted(milk.shift), u" and trim(Animal)=",
-        Quoted(milk.animal));
+    const auto sumOf = [column](QStringView animal) {
+        return Sql(u"sum(case when trim(Animal)=", Quoted(animal), u" then ", column, u" end)");
+    };
+    QHash<QDate, DayIn> days;
+    for (Recordset shift(gCn,
+             Sql(u"select CollectionDate,trim(CollectionTime) as Shift,", sumOf(Word::Cow),
+                 u" as TotalCowLiters,", sumOf(Word::Buffalo),
+                 u" as TotalBuffLiters from MilkCollections where CollectionDate>=", SqlDay(from),
+                 u" and CollectionDate<=", SqlDay(to), u" group by CollectionDate,CollectionTime"));
+         !shift.Eof(); shift.MoveNext()) {
+        DayIn& day = days[shift[u"CollectionDate"].Date()];
+        const QString word = shift[u"Shift"].Text();
+        for (std::size_t at = 0; at < day.size(); ++at)
+            if (word == MilkOfADay[at].shift)
+                day[at] += shift[MilkOfADay[at].animal == Word::Cow ? u"TotalCowLiters" : u"TotalBuffLiters"]
+                               .Number();
+        Painting::RepaintInTime();
+    }
+    return days;
 }
 
 SqlText Sold(QStringView column, QStringView sum, const QDate& day, const ShiftMilk& milk)
@@ -60,11 +85,11 @@ SqlText Sold(QStringView column, QStringView sum, const QDate& day, const ShiftM
         u" and trim(SalesTime)=", Quoted(milk.shift), u" and trim(Animal)=", Quoted(milk.animal));
 }
 
-InAndOut Reckon(
-    QStringView column, const QDate& day, const ShiftMilk& milk, const QStringList& federationCustomers)
+InAndOut Reckon(double in, QStringView column, const QDate& day, const ShiftMilk& milk,
+    const QStringList& federationCustomers)
 {
     InAndOut reckoned;
-    reckoned.in = Figure(Collected(column, day, milk));
+    reckoned.in = in;
     const SqlText sold = Sold(column, milk.sum, day, milk);
     for (const QString& name : federationCustomers)
         reckoned.federation += Figure(Sql(sold, u" and trim(CustomerName)=", Quoted(name)));
@@ -139,13 +164,17 @@ void StageDays(const QDate& from, const QDate& to, QStringView column, const QSt
     Transaction staging(gCn);
     ReportRun::Empty({u"VadhTootReport", u"ReportDates"});
     ReportRun::StageDates(DateText(from), DateText(to));
+    const QHash<QDate, DayIn> collected = Collected(column, from, to);
     const auto [first, last] = DaysOfMilk(from, to);
     for (QDate day = first; day.isValid() && day <= last; day = day.addDays(1)) {
-        for (const ShiftMilk& milk : MilkOfADay) {
-            const InAndOut figures = Reckon(column, day, milk, federationCustomers);
+        const DayIn in = collected.value(day);
+        for (std::size_t at = 0; at < in.size(); ++at) {
+            const ShiftMilk& milk = MilkOfADay[at];
+            const InAndOut figures = Reckon(in[at], column, day, milk, federationCustomers);
             if (!figures.IsNothing())
                 insert(day, milk, figures);
         }
+        Painting::RepaintInTime();
     }
     ReportRun::Tidy(u"VadhTootReport");
     staging.Commit();

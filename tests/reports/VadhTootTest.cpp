@@ -151,6 +151,15 @@ TEST_F(VadhTootLitersTest, BlanksAroundTheWordsOfShiftAndAnimalDontCount)
     EXPECT_EQ(Staged(Figures), Lines({"3|2|0|2|-1"}));
 }
 
+TEST_F(VadhTootLitersTest, AShiftThatIsWrittenInTwoWaysIsOne)
+{
+    Bring({.shift = "sakaL", .liters = 3});
+    Bring({.shift = "sakaL ", .liters = 4});
+    Bring({.shift = "saMQyaakaL", .animal = "mhOsa", .liters = 5});
+    InLiters();
+    EXPECT_EQ(Staged("CollectionTime,Animal,LitersIn"), Lines({"sakaL|gaaya|7", "saMQyaakaL|mhOsa|5"}));
+}
+
 TEST_F(VadhTootLitersTest, NullsCountAsNought)
 {
     Bring({.liters = 3});
