@@ -6,6 +6,7 @@
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
 #include "platform/forms/Layout.h"
+#include "platform/forms/Painting.h"
 #include "platform/forms/Pieces.h"
 #include "platform/forms/Screen.h"
 #include "society/Queries.h"
@@ -17,6 +18,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Pieces;
 
@@ -163,8 +165,26 @@ void BonusQuestions::BeginRun()
     ProgressBar1.Begin(static_cast<int>(txtToAcNo.Value() - txtFromAcNo.Value()) + 1);
 }
 
+// Only what is going to be seen is written: the member at hand when the window is painted, and the last one.
 void BonusQuestions::ShowDone(const MemberBonus& bonus)
 {
+    m_last = bonus;
+    if (Painting::IsDue())
+        ShowLast();
+    ProgressBar1.Step();
+}
+
+void BonusQuestions::EndRun()
+{
+    ShowLast();
+    ProgressBar1.End();
+}
+
+void BonusQuestions::ShowLast()
+{
+    if (!m_last)
+        return;
+    const MemberBonus bonus = *std::exchange(m_last, {});
     lblMemberNo.SetFigure(ShortestDecimal(bonus.memberNo));
     lblMemberName.SetText(bonus.memberName);
     lblCowliters.SetFigure(Format(bonus.cowLiters, LitresPattern));
@@ -172,7 +192,6 @@ void BonusQuestions::ShowDone(const MemberBonus& bonus)
     lblCowBonus.SetFigure(Format(bonus.cowBonus, MoneyPattern));
     lblBuffBonus.SetFigure(Format(bonus.buffBonus, MoneyPattern));
     lblTotalBonus.SetFigure(Format(bonus.Total(), MoneyPattern));
-    ProgressBar1.Step();
 }
 
 // The window

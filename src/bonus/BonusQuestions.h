@@ -9,6 +9,8 @@
 #include "platform/forms/Panel.h"
 #include "society/Fields.h"
 
+#include <optional>
+
 class QLayout;
 class QWidget;
 
@@ -47,7 +49,7 @@ public:
     // While the bonus is worked out.
     void BeginRun();
     void ShowDone(const MemberBonus& bonus);
-    void EndRun() { ProgressBar1.End(); }
+    void EndRun();
 
     void SetVisible(bool visible) { m_panel.SetVisible(visible); }
     QWidget* LaidOut();
@@ -61,6 +63,7 @@ private:
     void txtBuffBonusRate_TextChanged();
 
     Control* FirstEmpty();
+    void ShowLast();
     QLayout* Fields();
     QLayout* InHand();
 
@@ -72,5 +75,6 @@ private:
     Label lblCowBonus{m_screen, "lblCowBonus"};
     Label lblBuffBonus{m_screen, "lblBuffBonus"};
     Label lblTotalBonus{m_screen, "lblTotalBonus"};
+    std::optional<MemberBonus> m_last; // worked out, and not shown yet
     Panel m_panel;
 };
