@@ -3,6 +3,7 @@
 #include "core/state/AppState.h"
 #include "platform/database/Recordset.h"
 #include "platform/database/Transaction.h"
+#include "platform/forms/Painting.h"
 #include "reports/ReportRun.h"
 #include "reports/StagingProgress.h"
 
@@ -26,8 +27,10 @@ bool Ledger::Stage(StagingProgress& progress)
     Open();
     BringForward(progress);
     ReportRun::Empty({u"LedgersMaster"});
-    const Entries entries = Read(Sql(u"TranDate>=", SqlDay(m_wanted.from), u" And TranDate<=",
-        SqlDay(m_wanted.to), u" order by TranDate,tranId"));
+    Entries entries;
+    Read(Sql(u"TranDate>=", SqlDay(m_wanted.from), u" And TranDate<=", SqlDay(m_wanted.to),
+             u" order by TranDate,tranId"),
+        [&](const Recordset& row) { entries.push_back(EntryOf(row)); });
     StageEntries(entries, progress);
     const bool isFilled = !entries.empty() || StageBalance();
     gCn.Execute(u"Delete * from LedgersMaster where DAmount=0 and CAmount=0");
@@ -36,18 +39,27 @@ bool Ledger::Stage(StagingProgress& progress)
     return isFilled;
 }
 
-Ledger::Entries Ledger::Read(const SqlText& days) const
+void Ledger::Read(const SqlText& days, const std::function<void(const Recordset&)>& take) const
 {
     const SqlText name = Quoted(m_wanted.name);
-    Entries entries;
     for (Recordset row(gCn,
              Sql(u"Select * from TransactionsMaster where CompanyId=", gAppState.gCompanyId,
                  u" And (trim(DAccountName)=", name, u" Or trim(CAccountName)=", name, u") And ", days));
-         !row.Eof(); row.MoveNext())
-        entries.push_back({row[u"TranDate"].Date(), row[u"TranId"].Number(), row[u"TranType"].Text(),
-            row[u"DAccountName"].Text(), row[u"CAccountName"].Text(), row[u"Amount"].Number(),
-            {row[u"Narration"].Text(), row[u"Narration2"].Text(), row[u"Narration3"].Text()}});
-    return entries;
+         !row.Eof(); row.MoveNext()) {
+        take(row);
+        Painting::RepaintInTime();
+    }
+}
+
+Ledger::Posting Ledger::PostingOf(const Recordset& row)
+{
+    return {row[u"DAccountName"].Text(), row[u"CAccountName"].Text(), row[u"Amount"].Number()};
+}
+
+Ledger::Entry Ledger::EntryOf(const Recordset& row)
+{
+    return {row[u"TranDate"].Date(), row[u"TranId"].Number(), row[u"TranType"].Text(), PostingOf(row),
+        {row[u"Narration"].Text(), row[u"Narration2"].Text(), row[u"Narration3"].Text()}};
 }
 
 // The opening of the year, with the side that is written beside it. Nobody looks whether there is such an
@@ -66,10 +78,12 @@ void Ledger::Open()
 // The opening of the first day; the side of the year's opening stands if nothing happened before.
 void Ledger::BringForward(StagingProgress& progress)
 {
-    const Entries before = Read(Sql(u"TranDate<", SqlDay(m_wanted.from), u" order by TranDate,TranId"));
+    std::vector<Posting> before;
+    Read(Sql(u"TranDate<", SqlDay(m_wanted.from), u" order by TranDate,TranId"),
+        [&](const Recordset& row) { before.push_back(PostingOf(row)); });
     progress.Begin(static_cast<int>(before.size()));
-    for (const Entry& entry : before) {
-        Take(entry);
+    for (const Posting& posting : before) {
+        Take(posting);
         progress.Step();
     }
     if (!before.empty())
@@ -84,16 +98,21 @@ void Ledger::StageEntries(const Entries& entries, StagingProgress& progress)
     QDate day;
     for (const Entry& entry : entries) {
         if (entry.date != day)
-            BeginDay();
+            BeginDay(entry.date);
         day = entry.date;
         StageLine(entry);
         progress.Step();
     }
 }
 
-// A day's totals begin with the balance, on its own side.
-void Ledger::BeginDay()
+// A day's totals begin with the balance, on its own side. What its lines have in common is written once.
+void Ledger::BeginDay(const QDate& day)
 {
+    m_beginning =
+        Sql(u"Insert into LedgersMaster(LedgerName,FromDate,ToDate,CompanyId,TranDate,TranId,TranType,"
+            u"AccountName,DAmount,CAmount,Narration,Narration2,Narration3,OpeningBalance,OpeningDorC,"
+            u"ClosingBalance,ClosingDorC,Total) values(",
+            Values(m_wanted.name, m_wanted.from, m_wanted.to, gAppState.gCompanyId), u",", SqlDay(day));
     const Currency balance = WithoutSign(m_balance);
     if (m_side == DebitSide) {
         m_debits = balance;
@@ -105,17 +124,17 @@ void Ledger::BeginDay()
 }
 
 // Moves balance and totals. With the account on both sides both are moved, and the credit is what is told.
-Ledger::Line Ledger::Take(const Entry& entry)
+Ledger::Line Ledger::Take(const Posting& posting)
 {
-    const Currency amount(entry.amount);
+    const Currency amount(posting.amount);
     Line line;
-    if (entry.debited.trimmed() == m_wanted.name) {
-        line = {entry.credited, entry.amount, 0};
+    if (posting.debited.trimmed() == m_wanted.name) {
+        line = {posting.credited, posting.amount, 0};
         m_balance -= amount;
         m_debits += amount;
     }
-    if (entry.credited.trimmed() == m_wanted.name) {
-        line = {entry.debited, 0, entry.amount};
+    if (posting.credited.trimmed() == m_wanted.name) {
+        line = {posting.debited, 0, posting.amount};
         m_balance += amount;
         m_credits += amount;
     }
@@ -124,21 +143,20 @@ Ledger::Line Ledger::Take(const Entry& entry)
 
 void Ledger::StageLine(const Entry& entry)
 {
-    const double opening = WithoutSign(m_balance).Number();
+    const double opening = Balance();
     const QString openingSide = m_side;
-    const Line line = Take(entry);
+    const Line line = Take(entry.posting);
     m_side = Side();
     const auto& [narration, narration2, narration3] = entry.narrations;
-    gCn.Execute(
-        Sql(u"Insert into LedgersMaster(LedgerName,FromDate,ToDate,CompanyId,TranDate,TranId,TranType,"
-            u"AccountName,DAmount,CAmount,Narration,Narration2,Narration3,OpeningBalance,OpeningDorC,"
-            u"ClosingBalance,ClosingDorC,Total) values(",
-            Values(m_wanted.name, m_wanted.from, m_wanted.to, gAppState.gCompanyId), u",", SqlDay(entry.date),
-            u",",
-            Values(entry.tranId, entry.type, line.contra, line.debit, line.credit, narration, narration2,
-                narration3, opening, openingSide, WithoutSign(m_balance).Number(), m_side,
-                std::max(m_debits, m_credits).Number()),
-            u")"));
+    gCn.Execute(Sql(m_beginning, u",",
+        Values(entry.tranId, entry.type, line.contra, line.debit, line.credit, narration, narration2,
+            narration3, opening, openingSide, Balance(), m_side, std::max(m_debits, m_credits).Number()),
+        u")"));
+}
+
+double Ledger::Balance() const
+{
+    return WithoutSign(m_balance).Number();
 }
 
 // Without a transaction the balance is the only row, and a balance of nought is none.
@@ -146,7 +164,7 @@ bool Ledger::StageBalance() const
 {
     if (m_balance == Currency())
         return false;
-    const double balance = WithoutSign(m_balance).Number();
+    const double balance = Balance();
     const bool isDebit = Side() == DebitSide;
     gCn.Execute(Sql(
         u"Insert into LedgersMaster(LedgerName,FromDate,ToDate,CompanyId,TranDate,DAmount,CAmount) values(",

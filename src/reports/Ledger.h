@@ -7,8 +7,10 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 #include <vector>
 
+class Recordset;
 class StagingProgress;
 
 // Stages the ledger of one account: what is brought forward to the first day, then its transactions, each
@@ -27,13 +29,18 @@ public:
     bool Stage(StagingProgress& progress);
 
 private:
+    // What a transaction moves: an amount between two accounts.
+    struct Posting {
+        QString debited, credited;
+        double amount = 0;
+    };
+
     // A transaction of the account.
     struct Entry {
         QDate date;
         double tranId = 0;
         QString type;
-        QString debited, credited; // the accounts
-        double amount = 0;
+        Posting posting;
         std::array<QString, 3> narrations;
     };
     using Entries = std::vector<Entry>;
@@ -45,13 +52,18 @@ private:
         double credit = 0;
     };
 
-    Entries Read(const SqlText& days) const;
+    // Calls `take` with each transaction of the account in some days, in their order.
+    void Read(const SqlText& days, const std::function<void(const Recordset&)>& take) const;
+    static Posting PostingOf(const Recordset& row);
+    static Entry EntryOf(const Recordset& row);
+
     void Open();
     void BringForward(StagingProgress& progress);
     void StageEntries(const Entries& entries, StagingProgress& progress);
-    void BeginDay();
-    Line Take(const Entry& entry);
+    void BeginDay(const QDate& day);
+    Line Take(const Posting& posting);
     void StageLine(const Entry& entry);
+    double Balance() const;
     bool StageBalance() const;
     QString Side() const;
 
@@ -59,4 +71,5 @@ private:
     Currency m_balance; // below nought on the debit side
     QString m_side; // "D" or "C"; for an account that isn't among the accounts, empty
     Currency m_debits, m_credits; // of the day, with what it began with
+    SqlText m_beginning; // of the statement that stages a line of the day, up to the date
 };
