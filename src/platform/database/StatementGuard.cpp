@@ -74,20 +74,23 @@ int StatementGuard::Authorize(
 int StatementGuard::Progress(void* guard)
 {
     auto& self = *static_cast<StatementGuard*>(guard);
-    if (self.m_working)
+    const std::optional<Clock::duration> worked = self.Worked();
+    if (!worked)
+        return 0;
+    if (self.m_working && *worked >= self.m_quiet)
         (*self.m_working)();
-    return self.IsOverdue() ? 1 : 0;
+    return self.m_aside == 0 && *worked >= self.m_bound ? 1 : 0;
 }
 
-// The clock is read here, not at the beginning of each run, since nearly all runs end before the first
-// question.
-bool StatementGuard::IsOverdue()
+// How long the run has lasted since its first question; nothing at the first. The clock is read here, not at
+// the beginning of each run, since nearly all runs end before the first question. The engine counts the
+// instructions of a prepared statement over all its runs, so that now and then a short one is asked as well.
+std::optional<StatementGuard::Clock::duration> StatementGuard::Worked()
 {
     const Clock::time_point now = Clock::now();
-    if (m_run != m_timedRun) {
-        m_timedRun = m_run;
-        m_since = now;
-        return false;
-    }
-    return m_aside == 0 && now - m_since >= m_bound;
+    if (m_run == m_timedRun)
+        return now - m_since;
+    m_timedRun = m_run;
+    m_since = now;
+    return std::nullopt;
 }

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 struct sqlite3;
 
@@ -26,7 +27,11 @@ public:
     // clerk looks at it, doesn't count.
     void SetBound(Clock::duration bound) { m_bound = bound; }
 
-    // Calls a function every few milliseconds while the engine works, during the lifetime of this object.
+    // Sets how long the engine may work before it says so: what is done then, such as painting the screen,
+    // would take longer than a short statement.
+    void SetQuiet(Clock::duration quiet) { m_quiet = quiet; }
+
+    // Calls a function every few milliseconds from then on, during the lifetime of this object.
     class Telling {
     public:
         Telling(StatementGuard& guard, const std::function<void()>& working) : m_guard(guard)
@@ -58,9 +63,10 @@ private:
     static int Authorize(
         void* guard, int action, const char* first, const char* second, const char* file, const char* inside);
     static int Progress(void* guard);
-    bool IsOverdue();
+    std::optional<Clock::duration> Worked();
 
     Clock::duration m_bound = std::chrono::seconds(60);
+    Clock::duration m_quiet = std::chrono::milliseconds(20);
     int m_aside = 0;
     quint64 m_run = 0; // counts the times that the engine was set to work
     quint64 m_timedRun = 0;

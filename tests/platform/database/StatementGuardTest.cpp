@@ -158,10 +158,22 @@ TEST_F(StatementGuardTest, AStatementThatWorksForLongSaysSoMeanwhile)
     connection.SetWorking([&] { ++said; });
     Run("update CityMaster set CityName='x' where CompanyId=1");
     EXPECT_EQ(said, 0) << "a short one";
+    for (int i = 0; i < 100; ++i)
+        Run("update CityMaster set CityName='x' where CompanyId=1");
+    EXPECT_EQ(said, 0) << "nor many of them";
     Run("update CityMaster set CityName='x' where CompanyId=(select count(*) from CityMaster a, CityMaster "
         "b, "
         "CityMaster c where a.CityName>='')");
     EXPECT_GT(said, 100);
+    said = 0;
+    connection.d()->Guard().SetQuiet(std::chrono::hours(1));
+    Run("update CityMaster set CityName='x' where CompanyId=(select count(*) from CityMaster a, CityMaster b "
+        "where a.CityName>='')");
+    EXPECT_EQ(said, 0) << "not long enough";
+    connection.d()->Guard().SetQuiet(std::chrono::seconds(0));
+    Run("update CityMaster set CityName='x' where CompanyId=(select count(*) from CityMaster a, CityMaster b "
+        "where a.CityName>='')");
+    EXPECT_GT(said, 0);
     said = 0;
     EXPECT_EQ(One(Long), QString::number(151 * 151 * 151));
     EXPECT_EQ(said, 0) << "a list that is read may be one that is being painted";
