@@ -39,7 +39,7 @@ DailyList::DailyList(Screen* screen)
 
 void DailyList::Load()
 {
-    DataGrid1.Bind(gCn, QStringLiteral("SELECT * FROM MilkCollections WHERE CompanyId=0"));
+    DataGrid1.Unbind();
 }
 
 // Company 999 has never been used; its rows are cleaned away as the system has always done it.

@@ -203,5 +203,5 @@ void DeductionHeads::Clear()
 {
     if (Finds(QStringLiteral("select * from AdvanceTemp")))
         Empty();
-    m_list.Bind(gCn, QStringLiteral("select AdvanceType,Amount from AdvanceTemp where CompanyId=0"));
+    m_list.Unbind();
 }

@@ -181,9 +181,7 @@ void MemberPayment::Clear()
     ComboMemberName.Clear();
     Figures.Clear();
     Heads.Clear();
-    m_deliveries.Bind(gCn,
-        QStringLiteral("Select CollectionDate,CollectionTime,Animal,Liters,Fat,Rate,Amount "
-                       "from MilkCollections Where CompanyId=0"));
+    m_deliveries.Unbind();
     m_workedOut.clear();
 }
 

@@ -27,6 +27,13 @@ TEST_F(PaymentKeysTest, TheListsHaveTheirCaptions)
     EXPECT_FALSE(Failure);
 }
 
+// To ask for deliveries of no company would mean to read those of all years.
+TEST_F(PaymentKeysTest, AtRestNoDeliveriesAreReadEvenIfSomeHaveNoCompany)
+{
+    AddMilk(5, "01/04/2026", "gaaya", 10, 500, 0);
+    PlaySingle([](Clerk& clerk) { EXPECT_EQ(Seen(clerk, "DataGrid1", 3), QStringList()); });
+}
+
 TEST_F(PaymentKeysTest, NewOpensTheFields)
 {
     PlaySingle([](Clerk& clerk) {

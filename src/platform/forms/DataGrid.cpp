@@ -122,6 +122,12 @@ void DataGrid::Bind(Connection& connection, const QString& query)
     Refresh();
 }
 
+void DataGrid::Unbind()
+{
+    m_model->Unbind();
+    Refresh();
+}
+
 void DataGrid::Refresh()
 {
     if (m_editor)

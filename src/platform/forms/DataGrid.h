@@ -68,6 +68,9 @@ public:
     void Bind(Connection& connection, const QString& query);
     void Refresh();
 
+    // Shows no rows until it is bound again, and reads none.
+    void Unbind();
+
     // Lets the clerk edit the rows in place and add new ones in an empty row at the end. The format of a
     // column decides what can be typed: numbers, dates, or a text. A letter or digit
     // starts a cell afresh, Backspace edits its text, Enter accepts it and goes to the next cell, Esc

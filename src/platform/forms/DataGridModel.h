@@ -22,6 +22,8 @@ public:
         m_query = query;
     }
 
+    void Unbind() { m_connection = nullptr; }
+
     void Read()
     {
         beginResetModel();

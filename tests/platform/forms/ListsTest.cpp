@@ -184,6 +184,19 @@ TEST_F(DataGridTest, ShowsTheRowsOfItsQueryAsTheEyeReadsThem)
     });
 }
 
+TEST_F(DataGridTest, UnboundItShowsNothingUntilItIsBoundAgain)
+{
+    AtGrid([&](DataGrid& grid, GridScreen&) {
+        Do([&] { grid.Unbind(); });
+        EXPECT_EQ(grid.Rows(), 0);
+        EXPECT_TRUE(grid.Value(0, u"MemberName").IsNull());
+        Do([&] { grid.Refresh(); });
+        EXPECT_EQ(grid.Rows(), 0);
+        Do([&] { grid.Bind(books, "select * from Inwards order by CollectionNo"); });
+        EXPECT_EQ(grid.Rows(), 3);
+    });
+}
+
 TEST_F(DataGridTest, GivesTheValuesByFieldInAnySpelling)
 {
     AtGrid([&](DataGrid& grid, GridScreen&) {
