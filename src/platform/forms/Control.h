@@ -108,6 +108,7 @@ public:
 protected:
     friend class Screen;
     friend class DataGrid; // hands keys on to the field of the cell that is being edited
+    friend class Panel;
     friend class PopupMenu;
 
     // A key that the screen doesn't handle. Returns true if it is used up, false if the widget is to get it.
@@ -137,6 +138,9 @@ protected:
     // character if there is none.
     virtual QChar Mnemonic() const { return {}; }
     virtual void AnswerMnemonic() { }
+
+    // The panel on which it stands was hidden, or is about to be shown.
+    virtual void SetUnseen(bool unseen) { Q_UNUSED(unseen) }
 
     // Runs an event that the mouse or a timer has caused on this control.
     void RunEvent(const Event& event);

@@ -43,7 +43,24 @@ void Field::SetAlignRight()
 
 QString Field::Seen() const
 {
-    return Line().text();
+    return m_kept.value_or(Line().text());
+}
+
+void Field::PutIntoLine(const QString& seen)
+{
+    if (m_isUnseen)
+        m_kept = seen;
+    else if (seen == Line().text())
+        Line().end(false);
+    else
+        Line().setText(seen);
+}
+
+void Field::SetUnseen(bool unseen)
+{
+    m_isUnseen = unseen;
+    if (!unseen && m_kept)
+        PutIntoLine(*std::exchange(m_kept, std::nullopt));
 }
 
 void Field::ShowFocus(bool held)
@@ -148,13 +165,13 @@ double NumberField::Reformat()
 
 QString NumberField::Text() const
 {
-    return Line().text();
+    return Seen();
 }
 
 void NumberField::SetText(const QString& text)
 {
     const QString before = Text();
-    Line().setText(text);
+    PutIntoLine(text);
     TellChange(before);
 }
 

@@ -2,6 +2,8 @@
 
 #include "platform/forms/Control.h"
 
+#include <optional>
+
 class QLineEdit;
 
 // A one-line entry field. When it gets the focus it selects its whole text.
@@ -31,6 +33,12 @@ public:
 
 protected:
     QLineEdit& Line() const;
+
+    // Shows a text, with the caret behind it and nothing selected. On a hidden panel the text is kept until
+    // it is seen, since to lay it out takes longer than all else that a change does: a run over many members
+    // changes forty figures for each of them.
+    void PutIntoLine(const QString& seen);
+    void SetUnseen(bool unseen) override;
     void ShowFocus(bool held) override;
     bool KeepsPress(bool entering) override;
 
@@ -46,6 +54,8 @@ protected:
 
 private:
     bool m_wasPressed = false; // by the mouse, since it got the focus
+    bool m_isUnseen = false;
+    std::optional<QString> m_kept; // what is shown as soon as it is seen
 };
 
 // A number: takes digits and, if it has decimals, a point. All other keys are ignored.

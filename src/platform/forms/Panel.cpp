@@ -29,8 +29,10 @@ void Panel::SetFrame(QWidget* frame)
 void Panel::SetVisible(bool visible)
 {
     m_visible = visible;
-    for (Control* control : m_controls)
+    for (Control* control : m_controls) {
+        control->SetUnseen(!visible);
         control->SetVisible(visible);
+    }
     for (Label* label : m_labels)
         label->SetVisible(visible);
     if (m_frame)

@@ -59,9 +59,7 @@ void TextField::SetText(const QString& stored)
 void TextField::Hold(const QString& stored)
 {
     m_stored = stored;
-    const QString seen = Shivaji01::ToUnicode(stored, m_pieces);
-    if (seen != Line().text())
-        Line().setText(seen);
+    PutIntoLine(Shivaji01::ToUnicode(stored, m_pieces));
 }
 
 void TextField::SelectAll()
@@ -289,7 +287,7 @@ qsizetype TextField::SeenOf(qsizetype stored) const
             return piece.seenStart;
         else if (stored < piece.storedStart + piece.storedLength)
             return piece.seenStart + piece.seenLength;
-    return Line().text().size();
+    return Seen().size();
 }
 
 qsizetype TextField::StoredOf(qsizetype seen) const

@@ -1,7 +1,9 @@
 #include "platform/forms/Panel.h"
+#include "platform/forms/TextField.h"
 #include "tests/platform/forms/FormsTest.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace {
@@ -76,6 +78,59 @@ TEST_F(PanelTest, APanelThatHidesPassesTheFocusOn)
         Type("x");
         EXPECT_EQ(FocusName(), "txtBehind");
     });
+}
+
+// Figures and a text that a run changes while their panel is hidden.
+class FiguresScreen : public Screen {
+public:
+    FiguresScreen() : Screen("FiguresScreen")
+    {
+        auto* inside = new QVBoxLayout;
+        inside->addWidget(txtLiters.Widget());
+        inside->addWidget(txtName.Widget());
+        auto* column = new QVBoxLayout(this);
+        column->addWidget(txtBefore.Widget());
+        column->addWidget(Frame1.LaidOut(inside));
+        Frame1.SetVisible(false);
+    }
+
+    PlainField txtBefore{this, "txtBefore"};
+    NumberField txtLiters{this, "txtLiters", u"#0.00"};
+    TextField txtName{this, "txtName"};
+    Panel Frame1{this, {&txtLiters, &txtName}};
+};
+
+TEST_F(PanelTest, WhatChangesOnAHiddenPanelIsHeldAtOnceAndLaidOutWhenItIsShown)
+{
+    const auto line = [](const Control& field) {
+        return static_cast<const QLineEdit*>(field.Widget())->text().toStdString();
+    };
+    Open<FiguresScreen>([](FiguresScreen&) {},
+        [&](FiguresScreen& screen) {
+            int changes = 0;
+            Do([&] {
+                screen.txtLiters.TextChanged = [&] { ++changes; };
+                screen.txtLiters.Show(12.5);
+                screen.txtLiters.Show(12.5);
+                screen.txtName.SetText("gaaya");
+                screen.txtName.SetText("rama");
+            });
+            EXPECT_EQ(screen.txtLiters.Value(), 12.5);
+            EXPECT_EQ(screen.txtLiters.Seen(), "12.50");
+            EXPECT_EQ(screen.txtName.Text(), "rama");
+            EXPECT_EQ(changes, 1);
+            EXPECT_EQ(line(screen.txtLiters) + line(screen.txtName), "");
+            Do([&] { screen.Frame1.SetVisible(true); });
+            EXPECT_EQ(line(screen.txtLiters), "12.50");
+            EXPECT_EQ(line(screen.txtName), Shivaji01::ToUnicode(u"rama").toStdString());
+            Type("{TAB}3");
+            EXPECT_EQ(screen.txtLiters.Text(), "3") << "entering it has selected all of it";
+            Do([&] { screen.Frame1.SetVisible(false); });
+            Do([&] { screen.txtLiters.Show(4); });
+            EXPECT_EQ(line(screen.txtLiters), "3");
+            EXPECT_EQ(screen.txtLiters.Text(), "4.00");
+        });
+    EXPECT_FALSE(Failure);
 }
 
 // The field of the panel on a widget that the screen has made.
