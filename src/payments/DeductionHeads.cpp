@@ -151,6 +151,8 @@ void DeductionHeads::ApplyPeriodReceipts(const PaymentOf& of, QStringView table)
     const SqlText advance = Sql(of.InPeriod(), OfHead(Word::Uchal));
     if (const Recordset row(gCn, Sql(u"Select * From ", table, advance)); !row.Eof())
         left = TakeOff(table, advance, row[u"Amount"].Number(), left);
+    if (left == 0)
+        return;
     for (Recordset row(gCn,
              Sql(u"Select * From ", table, of.InPeriod(), u" And AdvanceType<>", Quoted(Word::Uchal),
                  u" And AdvanceType <> ", Quoted(Word::CowThev), u" And AdvanceType <> ",
