@@ -1,6 +1,7 @@
 #include "bench/BenchSociety.h"
 
 #include "bench/PaidPeriods.h"
+#include "bench/SoldMilk.h"
 #include "core/start/MdlAccounts.h"
 #include "core/start/Program.h"
 #include "core/state/AppState.h"
@@ -37,6 +38,7 @@ BenchSociety::BenchSociety(int years)
     plan.name = QStringLiteral("श्री गणेश दूध संस्था");
     const QDate from(YearBegins.addYears(1 - years));
     plan.year = QStringLiteral("%1-%2").arg(from.year()).arg(from.year() + 1);
+    plan.federation = QStringLiteral("जिल्हा दूध संघ");
     plan.password = QStringLiteral("Doodh#26");
     MakeLargeSociety(folder, plan, SocietyMembers, static_cast<int>(from.daysTo(YearBegins.addYears(1))));
     const OpenBooks books(Drives());
@@ -46,6 +48,7 @@ BenchSociety::BenchSociety(int years)
         DateText(YearBegins.addYears(1).addDays(-1)), u"'"));
     AddCharts();
     FillPayments(from);
+    FillSales(from);
 }
 
 const BenchSociety& TenYears()

@@ -8,8 +8,9 @@
 #include <QTemporaryDir>
 
 // The society for all cases: 500 members who came to both shifts of every day of 2026-2027, with vouchers and
-// payments (see FillPayments). Its settings make a save do as much as possible: it looks for a second can and
-// adds the amount to the member's balance. A new rate chart begins every month.
+// payments (see FillPayments) and with sales (see FillSales). Its settings make a save do as much as
+// possible: it looks for a second can and adds the amount to the member's balance. A new rate chart begins
+// every month.
 class BenchSociety {
 public:
     // Makes it beside the program, so on the same disk as the build; the destructor removes it. With more

@@ -14,3 +14,8 @@ void RegisterReportCases(const QString& drives);
 void RegisterSlipsCases(const QString& drives); // pay slips and registers
 void RegisterVoucherCases(const QString& drives); // the look-up of many vouchers
 void RegisterProgramCases(const QString& drives); // start to menu, memory, a shift with slips
+void RegisterSalesCases(const QString& drives);
+void RegisterBonusCases(const QString& drives);
+void RegisterVadhTootCases(const QString& drives); // the gain and loss statement
+void RegisterLedgerCases(const QString& drives); // the cash book
+void RegisterBackupCases(const QString& drives);

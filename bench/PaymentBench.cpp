@@ -17,17 +17,6 @@ namespace {
 constexpr int RunTurns = 5;
 constexpr int CalculationTurns = 41;
 
-std::string Iso(const QDate& day)
-{
-    return day.toString(Qt::ISODate).toStdString();
-}
-
-// The keys of a day in a field.
-QString Typed(const QDate& day)
-{
-    return day.toString(QStringLiteral("ddMMyyyy"));
-}
-
 // Takes the run back, whoever made it.
 void TakeBack()
 {

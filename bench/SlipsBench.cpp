@@ -4,110 +4,23 @@
 #include "bench/BenchSociety.h"
 #include "bench/Cases.h"
 #include "bench/CounterPlay.h"
+#include "bench/FirstPage.h"
 #include "bench/FloorRegister.h"
 #include "bench/FloorReport.h"
 #include "bench/FloorSlips.h"
 #include "bench/PaidPeriods.h"
 #include "bench/PaintGaps.h"
 #include "bench/ReportPlay.h"
-#include "bench/Traces.h"
-#include "bench/Work.h"
-#include "core/preview/ReportHandover.h"
-#include "core/preview/TemplateReport.h"
-#include "core/state/AppState.h"
+#include "bench/StagingWork.h"
 #include "platform/report/LayoutCheck.h"
 #include "platform/shell/AppFolder.h"
-#include "platform/text/Dates.h"
-
-#include <utility>
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 constexpr int StagingTurns = 9;
 constexpr int LayoutTurns = 9;
 constexpr int FirstPageTurns = 9;
 constexpr Target Staging{.ratio = 1.4};
-
-std::string Iso(const QDate& day)
-{
-    return day.toString(Qt::ISODate).toStdString();
-}
-
-QString Typed(const QDate& day)
-{
-    return day.toString(QStringLiteral("ddMMyyyy"));
-}
-
-// Takes the place of the report engine: a report that is staged isn't shown, but the time is noted.
-class StagedReports {
-public:
-    StagedReports()
-        : m_engine(std::exchange(
-            TemplateReport::Engine(), [this](const TemplateReport::Run&) { m_staged = Clock::now(); }))
-    {
-    }
-    ~StagedReports() { TemplateReport::Engine() = m_engine; }
-    StagedReports(const StagedReports&) = delete;
-    StagedReports& operator=(const StagedReports&) = delete;
-
-    // The seconds from then until a report was staged.
-    double Since(Clock::time_point from) const
-    {
-        Require(m_staged > from, "A report is staged.");
-        return std::chrono::duration<double>(m_staged - from).count();
-    }
-
-private:
-    std::function<void(const TemplateReport::Run&)> m_engine;
-    Clock::time_point m_staged;
-};
-
-// The staging of a report on its screen, and by prepared statements.
-class StagingWork : public Work {
-public:
-    double ByScreen() override
-    {
-        gAppState.gReportMode = m_mode;
-        const StagedReports reports;
-        double seconds = 0;
-        Play(m_screen, [&](Clerk& clerk) {
-            clerk.Type(m_keys);
-            const Clock::time_point from = Clock::now();
-            Timed(clerk, QStringLiteral("%i"));
-            seconds = reports.Since(from);
-        });
-        m_traces = ReadTraces();
-        gCn.Fold();
-        return seconds;
-    }
-
-    double ByFloor() override
-    {
-        const double seconds = SecondsOf([&] { StageByFloor(); });
-        RequireSameTraces(m_traces, ReadTraces());
-        gCn.Fold();
-        return seconds;
-    }
-
-protected:
-    StagingWork(const char* screen, QString mode, QString keys)
-        : m_screen(screen)
-        , m_mode(std::move(mode))
-        , m_keys(std::move(keys))
-    {
-    }
-
-    virtual void StageByFloor() = 0;
-    virtual Traces ReadTraces() const = 0;
-
-private:
-    const char* m_screen;
-    QString m_mode;
-    QString m_keys;
-    Traces m_traces;
-};
 
 constexpr const char* SlipsScreen = "frmReportMilkPayments";
 
@@ -190,59 +103,13 @@ private:
     FloorBalances m_floor;
 };
 
-// When the page of the preview is painted for the first time.
-class FirstPage final : public QObject {
-public:
-    FirstPage() { qApp->installEventFilter(this); }
-    std::optional<Clock::time_point> Painted;
-
-    bool eventFilter(QObject* object, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint && !Painted && object->parent()
-            && object->parent()->objectName() == u"picPage")
-            QMetaObject::invokeMethod(
-                this, [this] { Painted = Clock::now(); }, Qt::QueuedConnection);
-        return false;
-    }
-};
-
 // The slips on the screen, from the end of the staging until the first page has been painted.
-class FirstSlips final : public Work {
+class FirstSlips final : public FirstPage {
 public:
-    FirstSlips() : m_engine(TemplateReport::Engine())
-    {
-        TemplateReport::Engine() = [this](const TemplateReport::Run& run) {
-            m_staged = Clock::now();
-            m_engine(run);
-        };
-    }
-    ~FirstSlips() override { TemplateReport::Engine() = m_engine; }
+    FirstSlips() : FirstPage(SlipsScreen, {}, KeysOfSlips()) { }
 
-    double ByScreen() override
-    {
-        std::unique_ptr<FirstPage> page; // lives on the program's thread
-        Clock::time_point painted;
-        Play(SlipsScreen, [&](Clerk& clerk) {
-            clerk.Do([&] { page = std::make_unique<FirstPage>(); });
-            clerk.Type(KeysOfSlips() + QStringLiteral("%i"));
-            for (int turns = 0; turns < 1000 && !page->Painted; ++turns)
-                clerk.Do([] {});
-            clerk.Do([&] {
-                Require(page->Painted.has_value(), "The first page is painted.");
-                painted = *page->Painted;
-                page.reset();
-            });
-            clerk.Type(QStringLiteral("{ESC}"));
-        });
-        return std::chrono::duration<double>(painted - m_staged).count();
-    }
-
+    double ByScreen() override { return ShowPage().page; }
     double ByFloor() override { return LongestPaintGap; }
-
-private:
-    const ReportHandover m_reports;
-    std::function<void(const TemplateReport::Run&)> m_engine;
-    Clock::time_point m_staged;
 };
 
 // All slips laid out, beside their texts laid out once.

@@ -79,6 +79,16 @@ void Register(
 
 }
 
+std::string Iso(const QDate& day)
+{
+    return day.toString(Qt::ISODate).toStdString();
+}
+
+QString Typed(const QDate& day)
+{
+    return day.toString(QStringLiteral("ddMMyyyy"));
+}
+
 void Work::Play(const char* screen, const std::function<void(Clerk&)>& script)
 {
     Clerk clerk;
@@ -97,9 +107,14 @@ void Work::Play(const char* screen, const std::function<void(Clerk&)>& script)
 
 double Work::Timed(Clerk& clerk, const QString& keys)
 {
+    return Timed(clerk, [&] { clerk.Type(keys); });
+}
+
+double Work::Timed(Clerk& clerk, const std::function<void()>& act)
+{
     std::unique_ptr<PaintGaps> gaps; // lives on the program's thread
     clerk.Do([&] { gaps = std::make_unique<PaintGaps>(); });
-    const double seconds = SecondsOf([&] { clerk.Type(keys); });
+    const double seconds = SecondsOf(act);
     clerk.Do([&] {
         m_longestGap = gaps->Longest();
         gaps.reset();

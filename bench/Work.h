@@ -3,8 +3,15 @@
 #include "bench/Outcomes.h"
 #include "tools/clerk/Clerk.h"
 
+#include <QDate>
+
 #include <functional>
 #include <memory>
+#include <string>
+
+// A day as the engine has it, and as it is typed into a field.
+std::string Iso(const QDate& day);
+QString Typed(const QDate& day);
 
 // Some work of the program on the open books, beside its floor. It can be done again and again.
 class Work {
@@ -24,8 +31,10 @@ protected:
     // Opens a screen, plays on it, and leaves it by Esc.
     static void Play(const char* screen, const std::function<void(Clerk&)>& script);
 
-    // Types keys and returns the seconds until the program is at rest, noting the longest gap.
+    // Types keys, or does something else, and returns the seconds until the program is at rest, noting the
+    // longest gap.
     double Timed(Clerk& clerk, const QString& keys);
+    double Timed(Clerk& clerk, const std::function<void()>& act);
 
 private:
     double m_longestGap = 0;

@@ -26,6 +26,11 @@ int Measure(int argc, char* argv[])
     RegisterSlipsCases(society.Drives());
     RegisterReportCases(society.Drives());
     RegisterVoucherCases(society.Drives());
+    RegisterSalesCases(society.Drives());
+    RegisterBonusCases(society.Drives());
+    RegisterVadhTootCases(society.Drives());
+    RegisterLedgerCases(society.Drives());
+    RegisterBackupCases(society.Drives());
     RegisterProgramCases(society.Drives());
     benchmark::RunSpecifiedBenchmarks();
     return Outcomes::Print() ? 0 : 1;
