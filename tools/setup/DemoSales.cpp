@@ -67,7 +67,7 @@ void DemoSales::SellMilk(const DemoShift& shift, bool isCow)
     for (const Habit& habit : Habits) {
         if (habit.isCow != isCow || !(shift.word == Morning ? habit.inTheMorning : habit.inTheEvening))
             continue;
-        const qint64 sold = m_dice.Between(habit.least, habit.most) * 500;
+        const qint64 sold = qint64{500} * m_dice.Between(habit.least, habit.most);
         Add(shift, {habit.customer, isCow, sold, tenths, isCow ? CowRate : BuffaloRate}, {sold, 0, 0, 0});
         left -= sold;
     }

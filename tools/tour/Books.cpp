@@ -15,10 +15,6 @@ const QString Evening = QStringLiteral("saMQyaakaL");
 const QString Cow = QStringLiteral("gaaya");
 const QString Buffalo = QStringLiteral("mhOsa");
 
-QString Federation()
-{
-    return Shivaji01::FromUnicode(u"सातारा जिल्हा दूध संघ");
-}
 const QString Week = QString(QStringLiteral("26052026") + Enter + QStringLiteral("01062026") + Enter);
 
 bool IsInWeek(const QDate& day)

@@ -10,14 +10,12 @@ QString NewBuyer()
 {
     return Shivaji01::FromUnicode(u"जानाई आईस्क्रीम पार्लर");
 }
+
 QString Renamed()
 {
     return Shivaji01::FromUnicode(u"आनंद मिठाई भांडार, वडगाव");
 }
-QString Federation()
-{
-    return Shivaji01::FromUnicode(u"सातारा जिल्हा दूध संघ");
-}
+
 const QString Cash = QStringLiteral("raoK");
 
 // From the list of reports to the customers: a new one, and a new name for an old one.

@@ -135,6 +135,11 @@ QString KeysOf(const char16_t* seen)
     return KeysOf(Shivaji01::FromUnicode(seen));
 }
 
+QString Federation()
+{
+    return Shivaji01::FromUnicode(u"सातारा जिल्हा दूध संघ");
+}
+
 QString DeliveryKeys(const char* member, const char* liters, const char* fat)
 {
     return Enter + QLatin1String(member) + Enter + QLatin1String(liters) + Enter + QLatin1String(fat) + Enter

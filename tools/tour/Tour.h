@@ -65,6 +65,9 @@ QString KeysOf(const QString& stored);
 // The same for a text in Devanagari.
 QString KeysOf(const char16_t* seen);
 
+// The federation that buys the society's milk, as it is stored.
+QString Federation();
+
 inline const QString Enter = QStringLiteral("{ENTER}");
 inline const QString Escape = QStringLiteral("{ESC}");
 inline const QString ShowReport = QStringLiteral("%i"); // the button that shows a report
