@@ -1,5 +1,5 @@
 #include "tests/endurance/Counts.h"
-#include "tests/journeys/ScreenWalks.h"
+#include "tests/journeys/BookWalks.h"
 
 namespace {
 
@@ -41,6 +41,32 @@ TEST_F(LongWalksTest, OverTheVouchersNothingBreaksAndTheBalancesHold)
 TEST_F(LongWalksTest, OverTheInstallmentsNothingBreaksAndNobodyStandsTwice)
 {
     OverTheInstallments(Walks);
+}
+
+class LongBookWalksTest : public BookWalks {
+protected:
+    const int Walks = Counts::Of("VETROLAN_WALKS", 20000);
+};
+
+TEST_F(LongBookWalksTest, OverTheGainAndLossNothingBreaksAndWhatWentOutIsWhatWasSold)
+{
+    OverTheGainAndLoss(Walks);
+}
+
+TEST_F(LongBookWalksTest, OverPurchasesAndSalesNothingBreaksAndNoDayStandsTwice)
+{
+    OverPurchasesAndSales(Walks);
+}
+
+TEST_F(LongBookWalksTest, OverTheLedgersNothingBreaksAndEachRowGoesOnFromTheOneBefore)
+{
+    OverTheLedgers(Walks);
+}
+
+// Each copy is read page by page.
+TEST_F(LongBookWalksTest, OverTheBackupTheBooksStayAndEveryCopyIsWhole)
+{
+    OverTheBackup(Walks / 10);
 }
 
 }

@@ -22,14 +22,21 @@ protected:
     void OverTheVouchers(int walks);
     void OverTheInstallments(int walks);
 
-private:
     struct Walked {
         const char* name;
         std::function<void()> open;
         std::vector<const char*> phrases;
         std::function<void()> check; // once it was left
+        bool mayEnd = false; // the program, with a run-time error
     };
     void Walk(const Walked& screen, int walks);
+
+    // The rows that a screen which only reads leaves alone.
+    std::string Kept();
+
+    FakeReportWindow TheWindow;
+
+private:
     QString NextKeys(const Walked& screen);
     int Throw(std::size_t sides) { return static_cast<int>(m_dice() % sides); }
     template <class List> const auto& AnyOf(const List& list)
@@ -37,13 +44,9 @@ private:
         return list[static_cast<std::size_t>(Throw(std::size(list)))];
     }
 
-    // The rows that a screen which only reads leaves alone.
-    std::string Kept();
-
     void ForgetCharts();
     void ExpectSoundRates();
     void ExpectSoundVouchers();
 
-    FakeReportWindow TheWindow;
     std::mt19937 m_dice{20260415};
 };
