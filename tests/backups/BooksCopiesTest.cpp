@@ -134,30 +134,29 @@ TEST_F(BooksCopiesTest, ABackupIsTheBooksAndTellsWhatLiesInIt)
     EXPECT_EQ(InBackup(), QStringList("Morvelta.mdb"));
 }
 
-TEST_F(BooksCopiesTest, ItTellsWhatItDoesAndHowFarItIsUpToTheEnd)
+TEST_F(BooksCopiesTest, ItTellsWhatItBeginsAndHowFarItIsUpToTheEnd)
 {
     using BooksCopies::Work;
-    std::vector<Work> works;
+    std::vector<std::pair<Work, int>> begun;
     std::vector<int> percents;
     const auto tell = [&](Work work, int percent) {
-        if (works.empty() || works.back() != work)
-            works.push_back(work);
+        if (begun.empty() || begun.back().first != work)
+            begun.emplace_back(work, percent);
         percents.push_back(percent);
     };
-    const auto expectTold = [&](const std::vector<Work>& wanted, int first) {
-        EXPECT_EQ(works, wanted);
+    const auto expectTold = [&](const std::vector<std::pair<Work, int>>& wanted) {
+        EXPECT_EQ(begun, wanted);
         EXPECT_TRUE(std::is_sorted(percents.begin(), percents.end()));
-        EXPECT_EQ(percents.front(), first);
         EXPECT_EQ(percents.back(), 100);
-        works.clear();
+        begun.clear();
         percents.clear();
     };
     BooksCopies::BackUp(Books(), Copy(), Password, tell);
-    expectTold({Work::Copying, Work::Checking}, 50);
+    expectTold({{Work::Copying, 50}, {Work::Checking, 50}});
     BooksCopies::Check(Copy(), Password, tell);
-    expectTold({Work::Checking}, 50);
+    expectTold({{Work::Checking, 50}});
     BooksCopies::Restore(Plan(Copy()), tell);
-    expectTold({Work::Copying, Work::Checking, Work::Keeping}, 50);
+    expectTold({{Work::Copying, 50}, {Work::Checking, 50}, {Work::Keeping, 90}});
 }
 
 TEST_F(BooksCopiesTest, BooksWhoseLogIsNotFoldedAreNotCopied)
