@@ -128,6 +128,38 @@ TEST_F(CustomersChangeTest, YesWritesTheRecordAndOnlyThat)
         "2|1|gaNaoXa|mhOsa|saMGa ivaËI|5|8|5|9");
 }
 
+TEST_F(CustomersChangeTest, SavedStraightFromTheirFieldTheLitresCount)
+{
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 2);
+        GoTo(clerk, "txtCowOpeningLits");
+        Type(clerk, "6.5%s%h");
+    });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Rows("select * from CustomersMaster where CustomerNo=2"),
+        QStringList("1|2|Xyaama|daonhI|saMGa ivaËI|6.5|9.5|5|9"));
+}
+
+TEST_F(CustomersChangeTest, SavingAChangeStopsAtTheFirstThatIsMissing)
+{
+    Run("insert into CustomersMaster(CompanyId,CustomerNo,CustomerName) values(1,9,'saMGa')");
+    Play([](Clerk& clerk) {
+        Type(clerk, "%d%s");
+        EXPECT_EQ(Focus(clerk), "txtCustomerNo");
+        Type(clerk, "9{ENTER}%s");
+        EXPECT_EQ(Focus(clerk), "txtAnimal");
+        Type(clerk, "1%s");
+        EXPECT_EQ(Focus(clerk), "txtCustomerType");
+        EXPECT_EQ(OnTop(clerk), "frmCustomers") << "nothing was asked";
+        Type(clerk, "2%s");
+        EXPECT_EQ(clerk.Message(), SaveQuestion);
+        Type(clerk, "%h");
+    });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Rows("select * from CustomersMaster where CustomerNo=9"),
+        QStringList("1|9|saMGa|gaaya|saMGa ivaËI|0|0|0|0"));
+}
+
 TEST_F(CustomersChangeTest, NoReturnsToIdleWithNothingWritten)
 {
     const QStringList before = Books();

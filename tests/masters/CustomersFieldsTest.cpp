@@ -26,6 +26,8 @@ TEST_F(CustomersFieldsTest, OpensIdleWithItsFieldsClosedAndTheFocusOnNew)
     Play([](Clerk& clerk) {
         EXPECT_EQ(OnTop(clerk), "frmCustomers");
         EXPECT_EQ(TitleOf(clerk), " ga`ahkacao maasTr");
+        EXPECT_EQ(Label(clerk, "lblCompanyTitle"), "श्री गणेश दूध संस्था");
+        EXPECT_EQ(Label(clerk, "lblAcYear"), "2026-2027");
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), "cmdNew cmdModify cmdDelete cmdExit");
         EXPECT_TRUE(Open(clerk, EntryFields).isEmpty());
         EXPECT_EQ(Focus(clerk), "cmdNew");
@@ -71,6 +73,8 @@ TEST_F(CustomersFieldsTest, EachModeHasItsTitleItsButtonAndItsFields)
         EXPECT_EQ(Open(clerk, Buttons).join(u' '), "cmdDelete cmdCancel");
         EXPECT_EQ(Open(clerk, EntryFields).join(u' '), "txtCustomerNo ComboCustomerName");
         EXPECT_EQ(Focus(clerk), "txtCustomerNo");
+        Press(clerk, "cmdCancel");
+        EXPECT_EQ(TitleOf(clerk), " ga`ahkacao maasTr");
     });
 }
 
@@ -106,8 +110,8 @@ TEST_F(CustomersFieldsTest, EachFieldHasItsGuide)
 
 TEST_F(CustomersFieldsTest, WhoeverPaysInCashStandsFirstOnTheListOfNames)
 {
-    AddCustomer(1, "Xyaama");
-    AddCustomer(2, "gaNaoXa", "gaaya", 2);
+    AddCustomer(1, "gaNaoXa", "gaaya", 2);
+    AddCustomer(2, "Xyaama");
     Play([](Clerk& clerk) {
         const QStringList before{"raoK", "Xyaama", "gaNaoXa"};
         EXPECT_EQ(NamesOnList(clerk), before);

@@ -65,6 +65,13 @@ TEST_F(CustomersNewTest, ANewCustomersClosingLitresAreThoseOfTheFormat)
     EXPECT_EQ(Customers(), QStringList("1|1|rama|daonhI|sqaainak ivaËI|1.256|1.26|2.344|2.34"));
 }
 
+TEST_F(CustomersNewTest, SavedStraightFromTheirFieldTheLitresCount)
+{
+    Play([](Clerk& clerk) { Type(clerk, "%n{ENTER}rama{ENTER}3{ENTER}{ENTER}1.5%s"); });
+    EXPECT_FALSE(Failure);
+    EXPECT_EQ(Customers(), QStringList("1|1|rama|daonhI|sqaainak ivaËI|1.5|1.5|0|0"));
+}
+
 TEST_F(CustomersNewTest, ANewCustomerTakesNothingOfTheOneThatWasShownBefore)
 {
     AddCustomer(1, "Xyaama");
