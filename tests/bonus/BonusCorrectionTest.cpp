@@ -2,6 +2,9 @@
 
 #include "tests/bonus/BonusPaymentsTest.h"
 
+#include "platform/shell/AppFolder.h"
+#include "tests/support/FakeReportWindow.h"
+
 namespace {
 
 using BonusCorrectionTest = BonusPaymentsTest;
@@ -98,7 +101,67 @@ TEST_F(BonusCorrectionTest, AMemberWhoseNameChangedSinceTheRunKeepsItsRow)
     });
 }
 
+TEST_F(BonusCorrectionTest, AnAdvanceBelowNoughtIsAddedAndStaysBelow)
+{
+    AddReceipt("15/04/2026", 12, 7.25);
+    Play([this](Clerk& clerk) {
+        Ask(clerk);
+        Type(clerk, "+{TAB} {ENTER}{ENTER}12{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtAdvance"), "-7.25");
+        EXPECT_EQ(Reads(clerk, "txtRemainingBonus"), "13.25");
+        Type(clerk, "{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "cmdNext");
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Corrected(12), "0|0|0|8|0|6|6|-7.25|13.25|0");
+    });
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(BonusCorrectionTest, WithAnEmptiedNumberNothingIsSaved)
+{
+    AfterTheRun([this](Clerk& clerk) {
+        const QStringList before = Rows("select * from BonusPayments");
+        Type(clerk, "5{ENTER}{ENTER}{ENTER}{ENTER}30{ENTER}");
+        Press(clerk, "txtMemberNo");
+        Type(clerk, "{DEL}%i");
+        EXPECT_EQ(Printed.size(), 1U);
+        EXPECT_EQ(Rows("select * from BonusPayments"), before);
+    });
+}
+
+TEST_F(BonusCorrectionTest, ARowWithoutASerialNumberGoesWithTheNextSave)
+{
+    AfterTheRun([this](Clerk& clerk) {
+        Run("insert into BonusPayments(SerialNo,MemberNo) values(0,77)");
+        Type(clerk, "5{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+        EXPECT_EQ(Rows("select MemberNo from BonusPayments"), (QStringList{"5", "12", "30"}));
+    });
+}
+
 // The report
+
+TEST_F(BonusCorrectionTest, TheStatementIsShownWithTheMembersAsTheyAreNow)
+{
+    FakeReportWindow window;
+    ReportSurroundings::Current() = {&window, nullptr, [](const QString& path) { return LocalPath(path); }};
+    PrintForReal();
+    AfterTheRun([](Clerk& clerk) { Type(clerk, "5{ENTER}{ENTER}10{ENTER}20{ENTER}30{ENTER}12.5{ENTER}%i"); });
+    ASSERT_EQ(window.Shown.size(), 1U);
+    window.Shown.front()->Complete();
+    QStringList texts;
+    for (const PlacedItem& item : window.Shown.front()->PageAt(0).items)
+        texts.append(item.text);
+    const auto row = texts.indexOf(Seen("rama"));
+    ASSERT_GT(row, 0);
+    EXPECT_EQ(texts.mid(row + 1, 12).join(u' ').toStdString(),
+        "10.000 20.000 100.000 200.000 110.000 220.000 55.00 165.00 220.00 12.50 30.00 202.50");
+    for (const char* other : {"saIta", "gaNaoSa"})
+        EXPECT_TRUE(texts.contains(Seen(other))) << other;
+    window.Shown.clear();
+    ReportControl::CloseConnections();
+    ReportSurroundings::Current() = {};
+}
 
 TEST_F(BonusCorrectionTest, TheReportSavesTheMemberOnTheScreenFirst)
 {

@@ -101,6 +101,20 @@ TEST_F(BonusQuestionsTest, TheFirstAccountIsWantedAndTheLastOneIsTheHighestByIts
     EXPECT_FALSE(Failure);
 }
 
+TEST_F(BonusQuestionsTest, WithoutAnyMemberTheLastAccountStaysNoughtAndNothingIsBuilt)
+{
+    Run("delete * from MembersMaster");
+    Play([this](Clerk& clerk) {
+        Type(clerk, "01042026{ENTER}30042026{ENTER}5{ENTER}{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtToAcNo"), "0");
+        Type(clerk, "3{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtToAcNo");
+        EXPECT_TRUE(Shows(clerk, "maskFromDate"));
+        EXPECT_EQ(Built(), QStringList());
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(BonusQuestionsTest, WhatIsEmptyOrNoughtStopsTheButtonWithTheFocusThere)
 {
     for (const char* field : {"maskFromDate", "maskToDate", "txtFromAcNo", "txtToAcNo", "cmbMilkType",

@@ -54,6 +54,30 @@ TEST_F(BonusRunTest, TheTypeOfMilkIsKeptAndBothAnimalsAreSummed)
     EXPECT_EQ(One("select MilkType from BonusPayments"), "gaaya");
 }
 
+TEST_F(BonusRunTest, TheMemberInHandIsShownWithAllFigures)
+{
+    Play([](Clerk& clerk) {
+        Type(clerk, "01042026{ENTER}30042026{ENTER}5{ENTER}5{ENTER}3{ENTER}{ENTER}{ENTER}{ENTER}");
+        for (const char* label : {"lblMemberNo", "lblMemberName", "lblCowliters", "lblTotalBonus"})
+            EXPECT_EQ(Label(clerk, label), "") << label;
+        Type(clerk, "{ENTER}");
+        for (const auto& [label, text] : {std::pair("lblMemberNo", "5"), std::pair("lblCowliters", "100.000"),
+                 std::pair("lblBuffLiters", "200.000"), std::pair("lblCowBonus", "50.00"),
+                 std::pair("lblBuffBonus", "150.00"), std::pair("lblTotalBonus", "200.00")})
+            EXPECT_EQ(Label(clerk, label), text) << label;
+        EXPECT_EQ(Label(clerk, "lblMemberName"), Seen("rama").toStdString());
+    });
+    EXPECT_FALSE(Failure);
+}
+
+// The member's number alone says whose they are.
+TEST_F(BonusRunTest, TheDeliveriesOfEveryCompanyAreSummed)
+{
+    AddDelivery("16/04/2026", 5, "gaaya", 11, 2);
+    AfterTheRun([](Clerk&) {});
+    EXPECT_EQ(Built().first(), "1|5|rama|111|200|111|200|55.5|150|205.5|0");
+}
+
 TEST_F(BonusRunTest, FiguresAreOfSinglePrecision)
 {
     AddDelivery("20/04/2026", 12, "gaaya", 12345.678);
