@@ -4,6 +4,7 @@
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
+#include "platform/forms/Painting.h"
 #include "society/Queries.h"
 #include "society/Words.h"
 
@@ -55,5 +56,6 @@ void ReRating::Run(const QDate& from, const std::function<void(double)>& done)
         done(fat);
     }
     gCn.Execute(Sql(u"update MilkCollections set Amount=Liters * Rate", FromDay(from)));
+    Painting::LetIn(); // to write the month to the disk takes a while, and nothing is painted then
     pricing.Commit();
 }
