@@ -48,25 +48,31 @@ void FillNewestChart()
     filling.Commit();
 }
 
-// The same writes in prepared statements and one durable transaction.
+// The same statements prepared, the writes in one durable transaction. The screen has left the chart in the
+// working table.
 double FloorSeconds()
 {
+    FloorStatement paid("select * from MilkPayments where CompanyId=1 and ToDate>=?");
     FloorStatement begin("begin immediate");
+    FloorStatement chart("select Fat,CowRate,BuffRate from FatRates");
     FloorStatement price("update MilkCollections set Rate=? where CompanyId=1 and CollectionDate>=? "
                          "and Animal=? and Fat=?");
     FloorStatement amounts(
         "update MilkCollections set Amount=Liters*Rate where CompanyId=1 and CollectionDate>=?");
     FloorStatement commit("commit");
     const std::string from = MonthBegins.toString(Qt::ISODate).toStdString();
-    const std::vector<Rate> rates = Rates();
     return SecondsOf([&] {
+        Require(!paid.Bind(from).Finds(), "No payment reaches to the month.");
         begin.Run();
-        for (const Rate& rate : rates) {
+        int fats = 0;
+        for (; chart.Step(); ++fats) {
             const Recordset any(
                 gCn, u"select * from CompanySelected"); // or the guard takes all for one long run
-            price.Bind(rate.cow, from, "gaaya", rate.fat).Run();
-            price.Bind(rate.buffalo, from, "mhOsa", rate.fat).Run();
+            price.Bind(chart.NumberAt(1), from, "gaaya", chart.NumberAt(0)).Run();
+            price.Bind(chart.NumberAt(2), from, "mhOsa", chart.NumberAt(0)).Run();
         }
+        chart.Reset();
+        Require(fats == Fats, "The chart has all its fats.");
         amounts.Bind(from).Run();
         commit.Run();
     });
