@@ -29,16 +29,22 @@ QLayout* StagingProgress::Line()
     return lines;
 }
 
-void StagingProgress::Announce()
+void StagingProgress::Show()
 {
     lblMessage.SetFigure(QStringLiteral("Generating the Report"));
     lblMessage.SetVisible(true);
+}
+
+void StagingProgress::Announce()
+{
+    Show();
     Painting::LetIn();
 }
 
+// The bar paints the window.
 void StagingProgress::Begin(int rows)
 {
-    Announce();
+    Show();
     m_name.clear();
     lblMember.SetVisible(true);
     m_bar.Begin(rows);

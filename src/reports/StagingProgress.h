@@ -15,6 +15,7 @@ public:
     // Says that the report is in hand, while its rows are still gathered.
     void Announce();
 
+    // The same, with a bar for so many rows; without any there is nothing to wait for.
     void Begin(int rows);
 
     // The member whose row is staged now.
@@ -27,6 +28,8 @@ public:
     void End();
 
 private:
+    void Show();
+
     Progress m_bar;
     Label lblMessage;
     Label lblMember;

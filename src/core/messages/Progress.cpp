@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <utility>
 
 namespace {
 
@@ -64,8 +63,10 @@ void Progress::StepTo(int rows)
     const auto percent = static_cast<int>(std::int64_t{m_done} * 100 / std::max(m_rows, 1));
     if (m_rows <= 0)
         return;
-    if (std::exchange(m_percent, percent) != percent)
+    if (percent != m_percent && (Painting::IsDue() || m_done >= m_rows)) {
+        m_percent = percent;
         Show();
+    }
     Painting::KeepUp();
 }
 

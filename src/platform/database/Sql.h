@@ -43,7 +43,7 @@ private:
         m_text += value;
         m_isBroken = m_isBroken || value.contains(u'\'');
     }
-    void AppendValue(double number) { m_text += ShortestDecimal(number); }
+    void AppendValue(double number);
     void AppendValue(float number) { m_text += ShortestDecimal(number); }
     void AppendValue(std::integral auto number) { m_text += QString::number(number); }
     void AppendValue(const QDate& day) { m_text += DateText(day); }
