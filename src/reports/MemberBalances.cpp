@@ -9,6 +9,7 @@
 #include "society/Queries.h"
 
 #include <functional>
+#include <map>
 #include <vector>
 
 namespace {
@@ -43,11 +44,26 @@ SqlText SumOfAmounts(QStringView name, QStringView table, const SqlText& dates, 
         dates, u" And MemberNo=", memberNo);
 }
 
-Pair AdvancesOf(double memberNo, const QDate& day)
+// What stands in a table of vouchers up to the end of the day, by member, in one reading: the index lies by
+// member and day, so that the rows of each are added in the order in which they are added for him alone.
+using Sums = std::map<double, float>;
+
+Sums SumsOf(QStringView table, const MemberBalances::Wanted& wanted)
 {
-    const SqlText dates = Sql(u" And Trandate<=", SqlDay(day));
-    return {static_cast<float>(Figure(SumOfAmounts(u"UchalPaid", u"TransactionsDetails", dates, memberNo))),
-        static_cast<float>(Figure(SumOfAmounts(u"UchalReceived", u"AdvanceReceipt", dates, memberNo)))};
+    Sums sums;
+    for (Recordset row(gCn,
+             Sql(u"Select MemberNo,Sum(Amount) as Total From ", table, u" Where CompanyId=",
+                 gAppState.gCompanyId, u" And MemberNo>=", wanted.fromNo, u" And MemberNo<=", wanted.toNo,
+                 u" And Trandate<=", SqlDay(wanted.to), u" Group By MemberNo"));
+         !row.Eof(); row.MoveNext())
+        sums[row[u"MemberNo"].Number()] = static_cast<float>(row[u"Total"].Number());
+    return sums;
+}
+
+float SumOf(const Sums& sums, double memberNo)
+{
+    const auto sum = sums.find(memberNo);
+    return sum == sums.end() ? 0 : sum->second;
 }
 
 Pair DepositsOf(double memberNo, const MemberBalances::Wanted& wanted)
@@ -61,17 +77,21 @@ Pair DepositsOf(double memberNo, const MemberBalances::Wanted& wanted)
         static_cast<float>(sums[u"UchalPaid"].Number()), static_cast<float>(sums[u"UchalReceived"].Number())};
 }
 
-void StageRow(
-    const MemberBalances::Wanted& wanted, const Member& member, const Pair& figures, float thevKapat)
+// How the statement of each row begins.
+SqlText RowOf(const MemberBalances::Wanted& wanted)
 {
-    gCn.Execute(
-        Sql(u"INSERT INTO MilkPaymentsRegister(CompanyId,FromDate, ToDate,PaymentDate,TranId,MemberNo,"
-            u"MemberName, Animal,CowLiters,BuffLiters,Amount,ThevKapat, OtherKapat,NetAmount,"
-            u"PreviousBalance, CurrentBalance,ActualKapat,PreviousAdvance) VALUES(",
-            Values(gAppState.gCompanyId, wanted.from, wanted.to, wanted.to, 0, member.number, member.name,
-                QStringView(u"N/AP"), 0, 0, 0, thevKapat, 0, figures.first, figures.second,
-                figures.first - figures.second, 0, 0),
-            u")"));
+    return Sql(u"INSERT INTO MilkPaymentsRegister(CompanyId,FromDate, ToDate,PaymentDate,TranId,MemberNo,"
+               u"MemberName, Animal,CowLiters,BuffLiters,Amount,ThevKapat, OtherKapat,NetAmount,"
+               u"PreviousBalance, CurrentBalance,ActualKapat,PreviousAdvance) VALUES(",
+        Values(gAppState.gCompanyId, wanted.from, wanted.to, wanted.to, 0), u",");
+}
+
+void StageRow(const SqlText& row, const Member& member, const Pair& figures, float thevKapat)
+{
+    gCn.Execute(Sql(row,
+        Values(member.number, member.name, QStringView(u"N/AP"), 0, 0, 0, thevKapat, 0, figures.first,
+            figures.second, figures.first - figures.second, 0, 0),
+        u")"));
 }
 
 // Writes a row for each member; those with nothing in the column are dropped again. Without members only the
@@ -88,10 +108,11 @@ bool StageMembers(const MemberBalances::Wanted& wanted, StagingProgress& progres
     }
     ReportRun::Empty({u"ReportDates"});
     progress.Begin(static_cast<int>(members.size()));
+    const SqlText row = RowOf(wanted);
     for (const Member& member : members) {
         progress.Tell(member.number, member.name);
         const Pair figures = figuresOf(member.number);
-        StageRow(wanted, member, figures, areDeposits ? figures.first + figures.second : 0);
+        StageRow(row, member, figures, areDeposits ? figures.first + figures.second : 0);
         progress.Step();
     }
     gCn.Execute(Sql(
@@ -106,8 +127,14 @@ bool StageMembers(const MemberBalances::Wanted& wanted, StagingProgress& progres
 
 bool MemberBalances::StageAdvances(const Wanted& wanted, StagingProgress& progress)
 {
+    const Sums given = SumsOf(u"TransactionsDetails", wanted);
+    const Sums received = SumsOf(u"AdvanceReceipt", wanted);
     return StageMembers(
-        wanted, progress, [&](double memberNo) { return AdvancesOf(memberNo, wanted.to); }, false);
+        wanted, progress,
+        [&](double memberNo) {
+            return Pair{SumOf(given, memberNo), SumOf(received, memberNo)};
+        },
+        false);
 }
 
 bool MemberBalances::StageDeposits(const Wanted& wanted, StagingProgress& progress)
