@@ -41,7 +41,13 @@ protected:
 
     // An advance of one head or two, on the screen of the vouchers. The one who owes more than his milk
     // brings is the last member.
-    void GiveAdvance(Clerk& clerk, int member, const QDate& day);
+    void GiveAdvance(Clerk& clerk, int member, const QDate& day) { GiveAdvance(clerk, member, day, "%n"); }
+
+    // `printing`: what is typed to the question whether to print it.
+    void GiveAdvance(Clerk& clerk, int member, const QDate& day, const char* printing);
+
+    // What is deducted for each litre, and what becomes of the paise.
+    virtual void SetDeductions(const char* paise);
 
     static QString Typed(const QDate& day) { return day.toString("ddMMyyyy"); }
     int Throw(int sides) { return static_cast<int>(m_dice() % static_cast<unsigned>(sides)); }
@@ -54,6 +60,7 @@ protected:
     std::vector<int> m_members; // in their order
     PaymentReckoning::Period m_period; // that is played
     int m_periods = 0; // that were played before it
+    int m_printed = 0; // vouchers
 
 private:
     Exact ThrowPaise(int most) { return Exact::OfPaise(1 + Throw(most)); }

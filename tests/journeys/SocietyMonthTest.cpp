@@ -1,6 +1,8 @@
 // A month of a small society, keyed through the screens from the counter to the bonus, against the reckoning
 // in exact decimals. The year of it is played by night.
 
+#include "core/menu/ScreenDirectory.h"
+#include "tests/journeys/EveryScreen.h"
 #include "tests/journeys/SocietyYear.h"
 
 namespace {
@@ -14,6 +16,19 @@ protected:
                 .restored = QDate(2026, 4, 14),
                 .leaving = 1})
     {
+    }
+
+    // No screen of the program is passed by. For two boxes the tests have stand-ins.
+    void ExpectEveryScreenWasOpened() const
+    {
+        const QStringList registered = ScreenDirectory::Names();
+        std::set<QString> names(registered.begin(), registered.end());
+        EXPECT_GT(names.size(), 20U);
+        for (const ScreenState& state : EveryScreen())
+            names.insert(state.screen);
+        names.erase("frmPlainBox");
+        names.erase("frmInputBox");
+        EXPECT_EQ(Opened.Without(names).join(u'\n').toStdString(), "");
     }
 };
 
@@ -29,6 +44,7 @@ TEST_F(SocietyMonthTest, AMonthWithTwoChartsARestoreAndThreePaymentsBalancesToTh
     ExpectTheCashBook();
     ExpectTheBonus();
     ExpectClosingFiguresOfThePast();
+    ExpectEveryScreenWasOpened();
 }
 
 }

@@ -1,5 +1,6 @@
 #include "tests/journeys/SocietyYear.h"
 
+#include "collection/frmCollectionGate.h"
 #include "collection/frmMilkCollections.h"
 #include "core/start/AppDate.h"
 #include "masters/frmCustomers.h"
@@ -30,7 +31,9 @@ QString NameOf(int member)
 
 SocietyYear::SocietyYear(unsigned seed, const Plan& plan) : PaymentYear(seed), m_plan(plan)
 {
+    OpenTheProgram();
     TemplateReport::Engine() = [](const TemplateReport::Run&) {};
+    KeyDepositSpan();
     Run("insert into AccountsMaster values(1,3,'dUQa saMGa','Debtors','saMGa',0,'D',0,'D')");
     Run("update AccountsMaster set OpeningBalance=-1500.75,OpeningDorC='D' where AccountName='raoK'");
     for (const int member : {1, 2, 3, 4, 5, 6, 8, 9})
@@ -45,10 +48,17 @@ void SocietyYear::PlayTenDays(const Manner& manner)
     if (m_periods == m_plan.leaving) {
         DeleteMember(4);
         KeyMember(10);
+        On<frmCustomers>([this](Clerk& clerk) {
+            KeyCustomer(clerk, {5, "navaIna", false, Figure(1.5), Exact()});
+        });
+        EXPECT_FALSE(Failure);
+        m_buyers.push_back(5);
     }
     if (m_periods == m_plan.leaving + 1)
         KeyMember(11);
     PlayPeriod(manner);
+    if (m_periods % 3 == 0)
+        LookAtReports();
 }
 
 void SocietyYear::ExpectAgreement()
@@ -108,15 +118,19 @@ void SocietyYear::KeyCustomers()
         {2, "kamalaa", false, Exact(), Exact()}, {3, "ganapata", false, Exact(), Figure(7.75)},
         {Federation, "dUQa saMGa", true, Figure(100.5), Figure(80)}};
     On<frmCustomers>([&](Clerk& clerk) {
-        for (const MilkReckoning::Customer& customer : customers) {
-            clerk.Type(QString("%n{ENTER}%1{ENTER}3{ENTER}%2{ENTER}%3{ENTER}%4{ENTER}{ENTER}")
-                           .arg(customer.name, customer.isFederation ? "2" : "1", customer.cowOpening.Text(),
-                               customer.buffOpening.Text()));
-            m_milk.AddCustomer(customer);
-        }
+        for (const MilkReckoning::Customer& customer : customers)
+            KeyCustomer(clerk, customer);
     });
     EXPECT_FALSE(Failure);
     EXPECT_EQ(One("select count(*) from CustomersMaster"), "4");
+}
+
+void SocietyYear::KeyCustomer(Clerk& clerk, const MilkReckoning::Customer& customer)
+{
+    clerk.Type(QString("%n{ENTER}%1{ENTER}3{ENTER}%2{ENTER}%3{ENTER}%4{ENTER}{ENTER}")
+                   .arg(customer.name, customer.isFederation ? "2" : "1", customer.cowOpening.Text(),
+                       customer.buffOpening.Text()));
+    m_milk.AddCustomer(customer);
 }
 
 // Charts
@@ -149,6 +163,8 @@ void SocietyYear::BringMilk(bool)
             day = Restore();
         }
     }
+    KeyForgottenDays();
+    LookAtTheDay();
 }
 
 void SocietyYear::PlayDay(const QDate& day)
@@ -160,10 +176,21 @@ void SocietyYear::PlayDay(const QDate& day)
     On<frmMilkCollections>([&](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}");
         KeyShiftOfMilk(clerk, {day, true});
+        if (IsGateOpen(day))
+            return;
         Type(clerk, "+{TAB}2{ENTER}");
         KeyShiftOfMilk(clerk, {day, false});
     });
     EXPECT_FALSE(Failure);
+    if (IsGateOpen(day)) {
+        m_isAtTheGate = true;
+        On<frmCollectionGate>([&](Clerk& clerk) {
+            Type(clerk, "{ENTER}2{ENTER}");
+            KeyShiftOfMilk(clerk, {day, false});
+        });
+        EXPECT_FALSE(Failure);
+        m_isAtTheGate = false;
+    }
     On<frmMilkSales>([&](Clerk& clerk) {
         Type(clerk, "{ENTER}1{ENTER}");
         KeyShiftOfSales(clerk, {day, true});
@@ -179,6 +206,13 @@ void SocietyYear::PlayDay(const QDate& day)
         BackUp(day);
 }
 
+// The gate measures to two decimals.
+Exact SocietyYear::ThrowLitres(int least, int most)
+{
+    const int thrown = least + Throw(most - least);
+    return m_isAtTheGate ? Figure(thrown / 10 / 100.0) : Figure(thrown / 1000.0);
+}
+
 // On the first day of a period he looks at each key, on the others he types ahead.
 void SocietyYear::Key(Clerk& clerk, const QString& keys) const
 {
@@ -191,7 +225,7 @@ void SocietyYear::Key(Clerk& clerk, const QString& keys) const
 void SocietyYear::KeyShiftOfMilk(Clerk& clerk, const Shift& shift)
 {
     for (const int member : m_members) {
-        if (!Brings(member) || Throw(10) == 0)
+        if (!Brings(member) || IsForgotten(member, shift) || Throw(10) == 0)
             continue;
         if (TakesBoth(member)) {
             KeyDelivery(clerk, shift, member, true);
@@ -257,7 +291,8 @@ void SocietyYear::SellAll(Clerk& clerk, const Shift& shift, bool isCow)
         return true;
     };
     sell(0, ThrowLitres(100, 500));
-    if (sell(1 + shift.day.day() % 3, ThrowLitres(150, 600)) && shift.day.day() % 5 == 4) {
+    const int buyer = m_buyers[static_cast<std::size_t>(shift.day.day()) % m_buyers.size()];
+    if (sell(buyer, ThrowLitres(150, 600)) && shift.day.day() % 5 == 4) {
         const Exact litres = ThrowLitres(100, 150);
         rest = rest + m_milk.LastSale(shift).litres - litres;
         MendTheLastSale(clerk, shift, litres);

@@ -150,8 +150,7 @@ void SocietyYear::ExpectClosingFiguresOfThePast()
             ShortestDecimal(Val(Format(balance < 0 ? -balance : balance, u"0.00"))), balance < 0 ? "D" : "C",
             (opening.uchal + year.given - year.receipts - year.recoveries).Text(),
             (opening.cow + year.cowDeposits).Text(), (opening.buff + year.buffDeposits).Text(),
-            m_milk.LitresOf(member, true, FirstDay, LastDay()).Text(),
-            m_milk.LitresOf(member, false, FirstDay, LastDay()).Text()}
+            m_milk.ClosingLitresOf(member, true).Text(), m_milk.ClosingLitresOf(member, false).Text()}
                            .join(u'|'));
     }
     ExpectSome(Compared::With("closing figures", closing,

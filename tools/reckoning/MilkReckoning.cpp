@@ -70,6 +70,24 @@ void MilkReckoning::Deliver(const Shift& shift, const Delivery& delivery)
 {
     const Exact rate = RateOf(shift.day, delivery.fat, delivery.isCow);
     m_deliveries[shift].push_back({delivery, LastNumber(shift) + 1, rate, delivery.litres.Times(rate)});
+    m_notSummedUp.erase(delivery.member);
+}
+
+void MilkReckoning::DeliverLate(const Shift& shift, const Delivery& delivery)
+{
+    const int last = std::max(LastNumber({shift.day, true}), LastNumber({shift.day, false}));
+    const Exact rate = RateOf(shift.day, delivery.fat, delivery.isCow);
+    m_deliveries[shift].push_back({delivery, last + 1, rate, delivery.litres.Times(rate), true});
+    m_notSummedUp[delivery.member][delivery.isCow] += delivery.litres;
+}
+
+std::vector<int> MilkReckoning::BringersOf(const Shift& shift) const
+{
+    std::vector<int> members;
+    if (const auto found = m_deliveries.find(shift); found != m_deliveries.end())
+        for (const Can& can : found->second)
+            members.push_back(can.delivery.member);
+    return members;
 }
 
 void MilkReckoning::ChangeLitresOfLast(const Shift& shift, Exact litres)
@@ -77,6 +95,13 @@ void MilkReckoning::ChangeLitresOfLast(const Shift& shift, Exact litres)
     Can& can = m_deliveries[shift].back();
     can.delivery.litres = litres;
     can.amount = litres.Times(can.rate);
+    m_notSummedUp.erase(can.delivery.member);
+}
+
+void MilkReckoning::DeleteLast(const Shift& shift)
+{
+    m_notSummedUp.erase(Last(shift).member);
+    m_deliveries[shift].pop_back();
 }
 
 Exact MilkReckoning::ForgetMember(int member)
@@ -200,6 +225,16 @@ Exact MilkReckoning::AmountOf(int member) const
     return amount;
 }
 
+Exact MilkReckoning::ClosingLitresOf(int member, bool isCow) const
+{
+    const Exact all = LitresOf(member, isCow, QDate(1900, 1, 1), QDate(9999, 12, 31));
+    const auto late = m_notSummedUp.find(member);
+    if (late == m_notSummedUp.end())
+        return all;
+    const auto litres = late->second.find(isCow);
+    return litres == late->second.end() ? all : all - litres->second;
+}
+
 qsizetype MilkReckoning::Deliveries() const
 {
     qsizetype count = 0;
@@ -243,12 +278,12 @@ QStringList MilkReckoning::DeliveryLines(const QDate& from, const QDate& to) con
 {
     QStringList lines;
     for (const auto& [shift, cans] : m_deliveries)
-        for (const auto& [delivery, number, rate, amount] : cans)
+        for (const auto& [delivery, number, rate, amount, isLate] : cans)
             if (IsIn(shift.day, from, to))
                 lines.append((Place(shift)
                     + QStringList{QString::number(number), QString::number(delivery.member), delivery.name,
                         AnimalWord(delivery.isCow), delivery.litres.Text(), delivery.fat.Text(), rate.Text(),
-                        amount.Text(), QStringLiteral("0")})
+                        amount.Text(), isLate ? QStringLiteral("NULL") : QStringLiteral("0")})
                                  .join(u'|'));
     return lines;
 }

@@ -38,9 +38,15 @@ public:
     };
     void Deliver(const Shift& shift, const Delivery& delivery);
     int LastNumber(const Shift& shift) const;
+
+    // One who was forgotten there is entered in the office: its numbers run over both shifts of the day.
+    void DeliverLate(const Shift& shift, const Delivery& delivery);
+
+    // Who brought milk in a shift: a member for each delivery.
+    std::vector<int> BringersOf(const Shift& shift) const;
     const Delivery& Last(const Shift& shift) const { return m_deliveries.at(shift).back().delivery; }
     void ChangeLitresOfLast(const Shift& shift, Exact litres);
-    void DeleteLast(const Shift& shift) { m_deliveries[shift].pop_back(); }
+    void DeleteLast(const Shift& shift);
 
     // All of a chart's day and later is priced by it.
     void ReRate(const QDate& from);
@@ -79,6 +85,10 @@ public:
     Exact LitresOf(int member, bool isCow, const QDate& from, const QDate& to) const;
     Exact AmountOf(int member) const;
 
+    // A member's litres as his closing columns have them: the counter sums them up each time, the office
+    // doesn't.
+    Exact ClosingLitresOf(int member, bool isCow) const;
+
     qsizetype Deliveries() const; // how many there are
     Exact In() const;
     Exact Out() const;
@@ -101,6 +111,7 @@ private:
         Delivery delivery;
         int number = 0;
         Exact rate, amount;
+        bool isLate = false;
     };
     struct Sold {
         Sale sale;
@@ -135,4 +146,6 @@ private:
     std::map<Shift, std::vector<Can>> m_deliveries;
     std::map<Shift, std::vector<Sold>> m_sales;
     std::map<int, Litres> m_customers;
+    std::map<int, std::map<bool, Exact>>
+        m_notSummedUp; // by member and isCow, entered late since he last came
 };
