@@ -20,9 +20,11 @@
 #include "tests/journeys/SocietyYear.h"
 #include "tests/support/FakePrinter.h"
 #include "utilities/frmAutoSettings.h"
+#include "utilities/frmBackup.h"
 #include "vouchers/frmUchalVouchers.h"
 
 #include <QDeadlineTimer>
+#include <QFile>
 
 #include <algorithm>
 #include <array>
@@ -298,4 +300,54 @@ void SocietyYear::PrintAdvance()
     });
     EXPECT_FALSE(Failure);
     ++m_printed;
+}
+
+// Backups
+
+void SocietyYear::AtBackup(const char* type, const std::function<void(Clerk&)>& script)
+{
+    On<frmBackup>([&](Clerk& clerk) {
+        Type(clerk, type);
+        for (int key = 0; key < 8 && Focus(clerk) != "cmdBackup"; ++key)
+            Type(clerk, "{ENTER}");
+        ASSERT_EQ(Focus(clerk), "cmdBackup");
+        script(clerk);
+        Type(clerk, "{ESC}");
+    });
+    EXPECT_FALSE(Failure);
+}
+
+// In turn under the plain name and under that of the day.
+void SocietyYear::BackUp(const QDate& day)
+{
+    const bool isDated = day.weekNumber() % 2 == 0;
+    AtBackup(isDated ? "2" : "1", [&](Clerk& clerk) {
+        Type(clerk, "{ENTER}");
+        EXPECT_EQ(Label(clerk, "lblContent"),
+            QString("बॅकअपमध्ये : दूध संकलन %1, मेम्बर %2, पेमेंट %3, शेवटचा दिवस %4")
+                .arg(m_milk.Deliveries())
+                .arg(m_members.size())
+                .arg(Reckoning.Payments().size())
+                .arg(DayText(day))
+                .toStdString());
+    });
+    const QString name = isDated ? QString(" On " + day.toString("dd MMMM yyyy")) : QString();
+    m_kept = {day, "Backup/Morvelta" + name + ".mdb", Reckoning, m_milk, m_gained};
+    EXPECT_TRUE(QFile::exists(FolderFile(m_kept.file))) << m_kept.file.toStdString();
+}
+
+// The newest backup gets the name of the year by hand and comes back. Returns its day: what was keyed since
+// is lost.
+QDate SocietyYear::Restore()
+{
+    const QStringList lost = Rows("select * from MilkCollections");
+    QFile::remove(FolderFile("Backup/Y2026-2027C1.mdb"));
+    EXPECT_TRUE(QFile::copy(FolderFile(m_kept.file), FolderFile("Backup/Y2026-2027C1.mdb")));
+    AtBackup("1", [](Clerk& clerk) { Type(clerk, "{TAB}{ENTER}"); });
+    Reckoning = m_kept.money;
+    m_milk = m_kept.milk;
+    m_gained = m_kept.gained;
+    EXPECT_GT(lost.size(), m_milk.Deliveries());
+    ExpectAgreement();
+    return m_kept.day;
 }
