@@ -6,6 +6,7 @@
 namespace {
 
 const QString ToTheMembers = QStringLiteral("{ENTER}{ENTER}");
+const QString ToTheCustomers = QStringLiteral("{ENTER}{DOWN}{ENTER}");
 const QString ToTheRates = QStringLiteral("{ENTER}{DOWN}{DOWN}{ENTER}%d");
 const QString ToTheCounter = QStringLiteral("{DOWN}{ENTER}{ENTER}");
 const QString ToTheNumber = QString(ToTheCounter + QStringLiteral("{ENTER}1{ENTER}"));
@@ -143,6 +144,12 @@ const std::vector<Action>& Actions()
         {QStringLiteral("NewVillage"),
             ToTheMembers + QStringLiteral("%n{ENTER}gaIta{ENTER}{ENTER}vaDgaava{ENTER}"), Yes},
         {QStringLiteral("ChangedMember"), ToTheMembers + QStringLiteral("%d1{ENTER}ramaa{ENTER}%s"), Yes},
+        {QStringLiteral("NewCustomer"),
+            ToTheCustomers + QStringLiteral("%n{ENTER}gaIta{ENTER}3{ENTER}2{ENTER}10.5{ENTER}20{ENTER}"),
+            QStringLiteral("{ENTER}")},
+        {QStringLiteral("ChangedCustomer"), ToTheCustomers + QStringLiteral("%d1{ENTER}gaaolaa{ENTER}%s"),
+            Yes},
+        {QStringLiteral("DeletedCustomer"), ToTheCustomers + QStringLiteral("%k1{ENTER}{ENTER}"), Yes},
         {QStringLiteral("StagedSlips"), ToTheSlips + QStringLiteral("11042026{ENTER}1{ENTER}{ENTER}"),
             QStringLiteral("%i")},
         {QStringLiteral("StagedRegister"),
