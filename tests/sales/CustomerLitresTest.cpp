@@ -17,9 +17,9 @@ TEST_F(CustomerLitresTest, ANewSaleCountsAGapBelowTheOpeningTwice)
         const char* now;
     };
     for (const Case& c : {Case{100, "120", 10, "130"}, Case{100, "100", 10, "110"},
-             Case{100, "90", 10, "120"}, Case{0, "0", 2.5, "2.5"}, Case{0, "null", 2.5, "2.5"},
-             Case{100, "null", 10, "110"}, Case{100, "0", 10, "210"}, Case{10.004, "20.006", 1.125, "21.135"},
-             Case{100.1, "120.35", 10.125, "130.475"}}) {
+             Case{100, "90", 10, "120"}, Case{100.004, "90", 10, "120"}, Case{0, "0", 2.5, "2.5"},
+             Case{0, "null", 2.5, "2.5"}, Case{100, "null", 10, "110"}, Case{100, "0", 10, "210"},
+             Case{10.004, "20.006", 1.125, "21.135"}, Case{100.1, "120.35", 10.125, "130.475"}}) {
         Run(Sql(u"update CustomersMaster set CowOpeningLits=", c.opening));
         Run(QStringLiteral("update CustomersMaster set CowClosingLits=%1").arg(QLatin1String(c.closing)));
         CustomerLitres::Advance("saMGa", u"gaaya", c.liters);
