@@ -40,8 +40,8 @@ public:
     // again.
     void SetWritten(std::function<void()> written);
 
-    // Sets a function that is called every few milliseconds while Execute works on a statement. It must not
-    // use the connection, nor throw.
+    // Sets a function that is called every few milliseconds while Execute works on a long statement. It must
+    // not use the connection, nor throw.
     void SetWorking(std::function<void()> working);
 
     // Runs a statement that returns no rows. Returns how many rows it has changed.
