@@ -5,8 +5,6 @@
 #include "platform/database/Sql.h"
 
 #include <algorithm>
-#include <optional>
-#include <utility>
 
 namespace {
 
@@ -37,8 +35,13 @@ private:
     std::size_t m_at = 0;
 };
 
-DayLines::DayLines(const MilkBooks& books, Person person, const Style& style)
-    : DayLines(std::move(person), style)
+DayLines::DayLines(const Person& person, const Style& style)
+    : m_ofPerson(Values(person.memberNo, person.name))
+    , m_style(style)
+{
+}
+
+DayLines::DayLines(const MilkBooks& books, const Person& person, const Style& style) : DayLines(person, style)
 {
     Read(books, Sql(RowsOf(books), u" order by ", books.number));
 }
@@ -90,20 +93,25 @@ void DayLines::Write(const QDate& day, QStringView animal) const
         const bool isWanted = morning || evening || (isFirst && m_style.withEmpty);
         if (!isWanted)
             return;
-        WriteLine(
-            day, animal, morning.value_or(Entry()), evening.value_or(Entry()), isFirst && m_style.withSnf);
+        WriteLine(day, animal, morning, evening, isFirst && m_style.withSnf);
         isFirst = false;
     } while (m_style.repeats);
 }
 
-void DayLines::WriteLine(
-    const QDate& day, QStringView animal, const Entry& morning, const Entry& evening, bool withSnf) const
+// Half of a line; most lines have one that is all noughts.
+SqlText DayLines::HalfOf(const std::optional<Entry>& entry)
 {
+    static const SqlText noughts = Values(0, 0, 0, 0);
+    return entry ? Values(entry->liters, entry->fat, entry->rate, entry->amount) : noughts;
+}
+
+void DayLines::WriteLine(const QDate& day, QStringView animal, const std::optional<Entry>& morning,
+    const std::optional<Entry>& evening, bool withSnf) const
+{
+    const auto snfOf = [](const std::optional<Entry>& entry) { return entry ? entry->snf : 0; };
     gCn.Execute(Sql(u"insert into MilkCollectionsME(CompanyId,CollectionDate,MemberNo,MemberName,Animal,"
                     u"LitersM,FatM,RateM,AmountM,LitersE,FatE,RateE,AmountE",
-        withSnf ? u",SNFM,SNFE" : u"", u") values(",
-        Values(gAppState.gCompanyId, day, m_person.memberNo, m_person.name, animal, morning.liters,
-            morning.fat, morning.rate, morning.amount, evening.liters, evening.fat, evening.rate,
-            evening.amount),
-        withSnf ? Sql(u",", Values(morning.snf, evening.snf)) : SqlText(), u")"));
+        withSnf ? u",SNFM,SNFE" : u"", u") values(", Values(gAppState.gCompanyId, day), u",", m_ofPerson,
+        u",", Quoted(animal), u",", HalfOf(morning), u",", HalfOf(evening),
+        withSnf ? Sql(u",", Values(snfOf(morning), snfOf(evening))) : SqlText(), u")"));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/database/Sql.h"
 #include "reports/MilkBooks.h"
 #include "society/Words.h"
 
@@ -8,6 +9,7 @@
 
 #include <array>
 #include <map>
+#include <optional>
 #include <vector>
 
 // Both kinds of milk, in the order in which they are written.
@@ -30,7 +32,7 @@ public:
     };
 
     // Reads the rows of the selected company in the copy; with a member's number, his only.
-    DayLines(const MilkBooks& books, Person person, const Style& style);
+    DayLines(const MilkBooks& books, const Person& person, const Style& style);
     static DayLines OfMember(const Person& member, const Style& style);
 
     // The days that have rows.
@@ -56,12 +58,13 @@ private:
     using Day = std::array<Shifts, std::size(Animals)>;
     class Walk;
 
-    DayLines(Person person, const Style& style) : m_person(std::move(person)), m_style(style) { }
+    DayLines(const Person& person, const Style& style);
     void Read(const MilkBooks& books, const QString& rows);
-    void WriteLine(
-        const QDate& day, QStringView animal, const Entry& morning, const Entry& evening, bool withSnf) const;
+    static SqlText HalfOf(const std::optional<Entry>& entry);
+    void WriteLine(const QDate& day, QStringView animal, const std::optional<Entry>& morning,
+        const std::optional<Entry>& evening, bool withSnf) const;
 
-    Person m_person;
+    SqlText m_ofPerson; // number and name, as every line has them
     Style m_style;
     std::map<QDate, Day> m_days;
 };
