@@ -110,6 +110,8 @@ void BonusOfMember::Show(const Recordset& row)
     txtAdvance.Show(row[u"Advance"].Number());
     txtPreviousThev.Show(row[u"PreviousThev"].Number());
     Recalculate();
+    if (Shown)
+        Shown();
 }
 
 // Correcting it

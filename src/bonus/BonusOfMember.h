@@ -41,6 +41,9 @@ public:
     // Writes the corrected row, in a transaction of its own; nothing without a member.
     void Save();
 
+    // A member's row was called up.
+    Event Shown;
+
     std::vector<Control*> Controls();
     QLayout* LaidOut();
 

@@ -36,6 +36,7 @@ frmBonusPayments::frmBonusPayments()
               &Member.txtRemainingBonus, &cmdNext, &cmdReport, &DataGrid1})
 {
     When(cmdReport.LostFocus, &frmBonusPayments::cmdReport_LostFocus);
+    When(Member.Shown, &frmBonusPayments::MarkMember);
     cmdNext.SetGuide(Plain(u"Enter : ठेवा, पुढचा मेम्बर"));
     DataGrid1.SetTabStop(false);
     LayOut();
@@ -107,6 +108,17 @@ void frmBonusPayments::SaveMember()
 {
     Member.Save();
     DataGrid1.Refresh();
+    MarkMember();
+}
+
+// The list stands at the member in hand.
+void frmBonusPayments::MarkMember()
+{
+    constexpr int numberColumn = 1;
+    DataGrid1.ReadAll();
+    for (int row = 0; row < DataGrid1.Rows(); ++row)
+        if (DataGrid1.Cell(row, numberColumn) == Member.txtMemberNo.Text())
+            DataGrid1.SetCurrentRow(row);
 }
 
 void frmBonusPayments::cmdNext_Click()

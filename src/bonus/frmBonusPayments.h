@@ -44,6 +44,7 @@ private:
     void ShowQuestions();
     void ShowPanel(bool members);
     void SaveMember();
+    void MarkMember();
 
     static std::vector<DataGrid::Column> BonusColumns();
     void LayOut();

@@ -139,6 +139,22 @@ TEST_F(BonusCorrectionTest, ARowWithoutASerialNumberGoesWithTheNextSave)
     });
 }
 
+TEST_F(BonusCorrectionTest, TheListStandsAtTheMemberInHandBehindTheSaveToo)
+{
+    AfterTheRun([](Clerk& clerk) {
+        const auto& grid = dynamic_cast<const DataGrid&>(*clerk.Top().Find(u"DataGrid1"));
+        EXPECT_EQ(grid.CurrentRow(), 0);
+        Type(clerk, "12{ENTER}");
+        EXPECT_EQ(grid.CurrentRow(), 1);
+        Type(clerk, "gaNaoSa{ENTER}");
+        EXPECT_EQ(grid.CurrentRow(), 2);
+        Type(clerk, "{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+        EXPECT_EQ(grid.CurrentRow(), 2);
+        EXPECT_EQ(grid.Cell(2, 14).toStdString(), "0.00");
+    });
+}
+
 // The report
 
 TEST_F(BonusCorrectionTest, TheStatementIsShownWithTheMembersAsTheyAreNow)
