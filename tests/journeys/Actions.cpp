@@ -43,7 +43,7 @@ const QString Yes = QStringLiteral("%h");
 
 void Execute(const char* statement)
 {
-    gCn.Execute(QString::fromLatin1(statement));
+    gCn.Execute(QString::fromUtf8(statement));
 }
 
 void InsertDeliveries()
