@@ -43,6 +43,21 @@ TEST_F(LongWalksTest, OverTheInstallmentsNothingBreaksAndNobodyStandsTwice)
     OverTheInstallments(Walks);
 }
 
+TEST_F(LongWalksTest, OverTheCustomersNothingBreaksAndNobodyStandsTwice)
+{
+    OverTheCustomers(Walks);
+}
+
+TEST_F(LongWalksTest, OverTheSalesNothingBreaksAndTheLitresFollow)
+{
+    OverTheSales(Walks);
+}
+
+TEST_F(LongWalksTest, OverTheBonusNothingBreaksAndEveryFigureIsMadeOfTheOthers)
+{
+    OverTheBonus(Walks);
+}
+
 class LongBookWalksTest : public BookWalks {
 protected:
     const int Walks = Counts::Of("VETROLAN_WALKS", 20000);

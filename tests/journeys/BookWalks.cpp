@@ -157,7 +157,7 @@ void BookWalks::OverTheBackup(int walks)
                  EXPECT_TRUE(Kept() == kept);
                  ExpectSoundCopies();
              },
-             true},
+             {}, true},
         walks);
     EXPECT_GT(made["Morvelta.m"], 0) << "regular";
     EXPECT_GT(made["Morvelta O"], 0) << "history";

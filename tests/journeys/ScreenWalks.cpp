@@ -83,6 +83,8 @@ void ScreenWalks::Walk(const Walked& screen, int walks)
                     const QString keys = NextKeys(screen);
                     typed += keys;
                     clerk.Type(keys);
+                    if (screen.look)
+                        screen.look();
                 }
         });
         EXPECT_TRUE(!Failure || screen.mayEnd) << screen.name << ": " << Failure->what() << '\n'

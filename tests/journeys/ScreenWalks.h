@@ -6,9 +6,9 @@
 #include <map>
 #include <random>
 
-// Walks without sense over the screens of the money: a walk is five throws of keys, each of them a move, a
-// figure, an order, or a stretch that leads somewhere. A screen that was left is opened again, and what has
-// to hold is looked at then. The dice always fall the same way.
+// Walks without sense over the screens of the money and of the milk that is sold: a walk is five throws of
+// keys, each of them a move, a figure, an order, or a stretch that leads somewhere. A screen that was left is
+// opened again, and what has to hold is looked at then. The dice always fall the same way.
 class ScreenWalks : public SocietyTest {
 protected:
     ScreenWalks();
@@ -21,12 +21,16 @@ protected:
     void OverTheSpan(int walks);
     void OverTheVouchers(int walks);
     void OverTheInstallments(int walks);
+    void OverTheCustomers(int walks);
+    void OverTheSales(int walks);
+    void OverTheBonus(int walks);
 
     struct Walked {
         const char* name;
         std::function<void()> open;
         std::vector<const char*> phrases;
         std::function<void()> check; // once it was left
+        std::function<void()> look = {}; // after each throw
         bool mayEnd = false; // the program, with a run-time error
     };
     void Walk(const Walked& screen, int walks);
@@ -47,6 +51,9 @@ private:
     void ForgetCharts();
     void ExpectSoundRates();
     void ExpectSoundVouchers();
+    void ExpectSoundCustomers();
+    void ExpectSoundSales();
+    int ExpectSoundBonus();
 
     std::mt19937 m_dice{20260415};
 };

@@ -1,4 +1,5 @@
-// Some walks without sense over each screen of the money; twenty thousand of each are walked by night.
+// Some walks without sense over each screen of the money and of the milk that is sold; twenty thousand of
+// each are walked by night.
 
 #include "tests/journeys/ScreenWalks.h"
 
@@ -42,6 +43,21 @@ TEST_F(ScreenWalksTest, OverTheVouchersNothingBreaksAndTheBalancesHold)
 TEST_F(ScreenWalksTest, OverTheInstallmentsNothingBreaksAndNobodyStandsTwice)
 {
     OverTheInstallments(Walks);
+}
+
+TEST_F(ScreenWalksTest, OverTheCustomersNothingBreaksAndNobodyStandsTwice)
+{
+    OverTheCustomers(Walks);
+}
+
+TEST_F(ScreenWalksTest, OverTheSalesNothingBreaksAndTheLitresFollow)
+{
+    OverTheSales(Walks);
+}
+
+TEST_F(ScreenWalksTest, OverTheBonusNothingBreaksAndEveryFigureIsMadeOfTheOthers)
+{
+    OverTheBonus(Walks);
 }
 
 }

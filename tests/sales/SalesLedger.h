@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <map>
+#include <optional>
 #include <tuple>
 
 // Keeps the litres of the selected company's customers a second time: what each entry, change and deletion of
@@ -10,6 +11,9 @@
 class SalesLedger {
 public:
     SalesLedger();
+
+    // Takes the books as they are now.
+    void BeginAnew();
 
     // Looks what has become of the sales since the last look, one of them at most, and expects the litres to
     // have followed.
@@ -32,7 +36,7 @@ private:
     struct Litres {
         qint64 opening = 0;
         qint64 sold = 0;
-        qint64 closing = 0;
+        std::optional<qint64> closing; // none is on record
 
         // The closing figure after a new sale, and after a change or a deletion.
         qint64 Advanced(qint64 liters) const;
