@@ -93,13 +93,14 @@ void ScreenWalks::Walk(const Walked& screen, int walks)
     }
 }
 
-std::string ScreenWalks::Kept()
+std::string ScreenWalks::Kept(const QStringList& written)
 {
     QStringList rows;
     for (const char* table : {"MilkCollections", "MilkPayments", "MilkPaymentsDetails", "AdvanceReceipt",
              "TransactionsMaster", "TransactionsDetails", "MembersMaster", "InstallmentTable", "FatDates",
              "AutoSettings", "MilkSales", "CustomersMaster", "AccountsMaster"})
-        rows += Rows(QString("select * from ") + table);
+        if (!written.contains(table))
+            rows += Rows(QString("select * from ") + table);
     return rows.join(u'\n').toStdString();
 }
 

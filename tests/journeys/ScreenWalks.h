@@ -35,8 +35,8 @@ protected:
     };
     void Walk(const Walked& screen, int walks);
 
-    // The rows that a screen which only reads leaves alone.
-    std::string Kept();
+    // The rows that a screen leaves alone: all of the books but those of the tables that it is for.
+    std::string Kept(const QStringList& written = {});
 
     FakeReportWindow TheWindow;
 
