@@ -15,8 +15,8 @@ std::unique_ptr<QProcess> Processes::Start(
     return process;
 }
 
-bool Processes::WaitForEnd(QProcess& process)
+bool Processes::WaitForEnd(QProcess& process, int seconds)
 {
-    constexpr int halfMinute = 30000;
-    return process.state() == QProcess::NotRunning || process.waitForFinished(halfMinute);
+    constexpr int milliseconds = 1000;
+    return process.state() == QProcess::NotRunning || process.waitForFinished(seconds * milliseconds);
 }

@@ -11,7 +11,7 @@ namespace Processes {
 std::unique_ptr<QProcess> Start(
     const QString& program, const QStringList& arguments, const QStringList& environment = {});
 
-// Waits for its end, at most half a minute; false if it is still alive then.
-bool WaitForEnd(QProcess& process);
+// Waits for its end, at most so many seconds; false if it is still alive then.
+bool WaitForEnd(QProcess& process, int seconds = 30);
 
 }

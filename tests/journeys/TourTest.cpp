@@ -9,6 +9,10 @@
 
 namespace {
 
+// In seconds. It plays every screen, half a minute where others share the processor; within the limit of a
+// test.
+constexpr int LongestTour = 90;
+
 // The tour as it is delivered, on a society of its own.
 class TourTest : public ::testing::Test {
 protected:
@@ -16,7 +20,7 @@ protected:
     static int Play(const QStringList& arguments)
     {
         const auto tour = Processes::Start("vetrolan-tour", arguments);
-        EXPECT_TRUE(Processes::WaitForEnd(*tour));
+        EXPECT_TRUE(Processes::WaitForEnd(*tour, LongestTour));
         EXPECT_EQ(tour->exitStatus(), QProcess::NormalExit) << tour->readAllStandardError().toStdString();
         return tour->exitCode();
     }
