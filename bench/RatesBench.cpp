@@ -91,6 +91,9 @@ public:
     ReRated()
     {
         FillNewestChart();
+        // Earlier turns may have priced the month by this very chart.
+        gCn.Execute(Sql(
+            u"update MilkCollections set Rate=1,Amount=Liters where CollectionDate>=", SqlDay(MonthBegins)));
         m_before = SumOfAmounts();
     }
 
