@@ -12,9 +12,24 @@ int Whole(const FieldValue& value)
     return static_cast<int>(value.Number());
 }
 
-RawMilk MilkOf(const Recordset& row)
+// The columns that deliveries and sales call by other names.
+struct Columns {
+    QStringView day;
+    QStringView shift;
+    QStringView number;
+    QStringView name;
+};
+
+constexpr Columns OfDeliveries{u"CollectionDate", u"CollectionTime", u"MemberNo", u"MemberName"};
+constexpr Columns OfSales{u"SalesDate", u"SalesTime", u"CustomerNo", u"CustomerName"};
+
+RawMilk MilkOf(const Recordset& row, const Columns& columns)
 {
     RawMilk milk;
+    milk.day = row[columns.day].Date();
+    milk.shift = row[columns.shift].Text();
+    milk.number = Whole(row[columns.number]);
+    milk.name = row[columns.name].Text();
     milk.animal = row[u"Animal"].Text();
     milk.litres = Exact::Of(row[u"Liters"].Number());
     milk.amount = Exact::Of(row[u"Amount"].Number());
@@ -27,14 +42,8 @@ RawMilk MilkOf(const Recordset& row)
 RawMilkRows RawDeliveries()
 {
     RawMilkRows rows;
-    for (Recordset row(gCn, QStringLiteral("select * from MilkCollections")); !row.Eof(); row.MoveNext()) {
-        RawMilk milk = MilkOf(row);
-        milk.day = row[u"CollectionDate"].Date();
-        milk.shift = row[u"CollectionTime"].Text();
-        milk.name = row[u"MemberName"].Text();
-        milk.number = Whole(row[u"MemberNo"]);
-        rows.push_back(milk);
-    }
+    for (Recordset row(gCn, QStringLiteral("select * from MilkCollections")); !row.Eof(); row.MoveNext())
+        rows.push_back(MilkOf(row, OfDeliveries));
     return rows;
 }
 
@@ -42,11 +51,7 @@ RawMilkRows RawSales()
 {
     RawMilkRows rows;
     for (Recordset row(gCn, QStringLiteral("select * from MilkSales")); !row.Eof(); row.MoveNext()) {
-        RawMilk milk = MilkOf(row);
-        milk.day = row[u"SalesDate"].Date();
-        milk.shift = row[u"SalesTime"].Text();
-        milk.name = row[u"CustomerName"].Text();
-        milk.number = Whole(row[u"CustomerNo"]);
+        RawMilk milk = MilkOf(row, OfSales);
         milk.ourLitres = Exact::Of(row[u"OurLiters"].Number());
         rows.push_back(milk);
     }
