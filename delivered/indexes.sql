@@ -45,6 +45,10 @@ create index MilkPaymentsByMember on MilkPayments (MemberNo, CompanyId, FromDate
 -- The bill number of a day and the day's list; the run over many members empties company 0 after each one.
 create index MilkPaymentsByDay on MilkPayments (CompanyId, PaymentDate, MemberNo);
 
+-- The payments of one period, for the registers; whether a payment reaches to the first day of a new chart.
+-- Without the company in front the list of the day would be searched for both, through all the years.
+create index MilkPaymentsByPeriod on MilkPayments (CompanyId, ToDate, FromDate);
+
 -- The deductions of a member's payment, and the deposits up to a day; summed up from it alone.
 create index MilkPaymentsDetailsByMember
     on MilkPaymentsDetails (MemberNo, TranDate, CompanyId, AdvanceType, Amount);

@@ -421,6 +421,17 @@ TEST(IndexesTest, TheStatementsOfEveryDayScanNoLongTable)
     }
 }
 
+TEST(IndexesTest, ThePaymentsOfAPeriodAreFoundByItsDays)
+{
+    const QString period =
+        PlanOf("select * from MilkPayments where CompanyId=1 and FromDate='2026-05-01' and "
+               "ToDate='2026-05-10' and MemberNo>=1 and MemberNo<=500");
+    EXPECT_TRUE(period.contains(u"MilkPaymentsByPeriod (CompanyId=? AND ToDate=? AND FromDate=?)"))
+        << period.toStdString();
+    const QString later = PlanOf("select * from MilkPayments where CompanyId=1 and ToDate>='2026-05-01'");
+    EXPECT_TRUE(later.contains(u"MilkPaymentsByPeriod (CompanyId=? AND ToDate>?)")) << later.toStdString();
+}
+
 TEST(IndexesTest, APaymentIsFoundByItsMemberNotByItsCompany)
 {
     const QString plan = PlanOf("select sum(NetAmount) from MilkPayments where CompanyId=1 and MemberNo=7");
