@@ -139,6 +139,80 @@ create table AdvanceReceipt (
 );
 
 
+-- === Kept by the engine: sums of years ===================================================================
+
+-- What each member was given (TransactionsDetails), gave back (AdvanceReceipt) and had kept back
+-- (MilkPaymentsDetails) in a calendar year. A balance adds up whole years and reads the rows of its last one
+-- only, so that it takes no longer for an old society than for a young one. Deposit: 1 for the deposit heads,
+-- 0 for the others, 2 for rows without a head.
+create table YearSums (
+    Entries TEXT, CompanyId INTEGER, MemberNo INTEGER, Year TEXT, Deposit INTEGER, Amount REAL,
+    primary key (Entries, CompanyId, MemberNo, Year, Deposit)
+) without rowid;
+
+-- What is inserted here is added to its year. Whatever program writes to the three tables keeps their sums,
+-- the engine's shell too. They are rounded, or a row that is taken back would leave binary dust behind. Rows
+-- without a company, member or day are in no sum.
+create view YearEntries as
+select '' as Entries, CompanyId, TranDate, MemberNo, AdvanceType, Amount from AdvanceReceipt limit 0;
+
+create trigger YearEntriesAdded instead of insert on YearEntries
+when new.Amount is not null
+begin
+    insert or ignore into YearSums values (new.Entries, new.CompanyId, new.MemberNo,
+        substr(new.TranDate, 1, 4), ifnull(trim(new.AdvanceType) in ('gaaya zova', 'mhOsa zova'), 2), 0);
+    update YearSums set Amount = round(Amount + new.Amount, 6)
+    where Entries = new.Entries and CompanyId = new.CompanyId and MemberNo = new.MemberNo
+        and Year = substr(new.TranDate, 1, 4)
+        and Deposit = ifnull(trim(new.AdvanceType) in ('gaaya zova', 'mhOsa zova'), 2);
+end;
+
+create trigger TransactionsDetailsAdded after insert on TransactionsDetails begin
+    insert into YearEntries
+    values ('TransactionsDetails', new.CompanyId, new.TranDate, new.MemberNo, new.AdvanceType, new.Amount);
+end;
+create trigger TransactionsDetailsChanged after update on TransactionsDetails begin
+    insert into YearEntries
+    values ('TransactionsDetails', old.CompanyId, old.TranDate, old.MemberNo, old.AdvanceType, -old.Amount);
+    insert into YearEntries
+    values ('TransactionsDetails', new.CompanyId, new.TranDate, new.MemberNo, new.AdvanceType, new.Amount);
+end;
+create trigger TransactionsDetailsRemoved after delete on TransactionsDetails begin
+    insert into YearEntries
+    values ('TransactionsDetails', old.CompanyId, old.TranDate, old.MemberNo, old.AdvanceType, -old.Amount);
+end;
+
+create trigger AdvanceReceiptAdded after insert on AdvanceReceipt begin
+    insert into YearEntries
+    values ('AdvanceReceipt', new.CompanyId, new.TranDate, new.MemberNo, new.AdvanceType, new.Amount);
+end;
+create trigger AdvanceReceiptChanged after update on AdvanceReceipt begin
+    insert into YearEntries
+    values ('AdvanceReceipt', old.CompanyId, old.TranDate, old.MemberNo, old.AdvanceType, -old.Amount);
+    insert into YearEntries
+    values ('AdvanceReceipt', new.CompanyId, new.TranDate, new.MemberNo, new.AdvanceType, new.Amount);
+end;
+create trigger AdvanceReceiptRemoved after delete on AdvanceReceipt begin
+    insert into YearEntries
+    values ('AdvanceReceipt', old.CompanyId, old.TranDate, old.MemberNo, old.AdvanceType, -old.Amount);
+end;
+
+create trigger MilkPaymentsDetailsAdded after insert on MilkPaymentsDetails begin
+    insert into YearEntries
+    values ('MilkPaymentsDetails', new.CompanyId, new.TranDate, new.MemberNo, new.AdvanceType, new.Amount);
+end;
+create trigger MilkPaymentsDetailsChanged after update on MilkPaymentsDetails begin
+    insert into YearEntries
+    values ('MilkPaymentsDetails', old.CompanyId, old.TranDate, old.MemberNo, old.AdvanceType, -old.Amount);
+    insert into YearEntries
+    values ('MilkPaymentsDetails', new.CompanyId, new.TranDate, new.MemberNo, new.AdvanceType, new.Amount);
+end;
+create trigger MilkPaymentsDetailsRemoved after delete on MilkPaymentsDetails begin
+    insert into YearEntries
+    values ('MilkPaymentsDetails', old.CompanyId, old.TranDate, old.MemberNo, old.AdvanceType, -old.Amount);
+end;
+
+
 -- === Year-old copies =====================================================================================
 
 create table MilkCollectionsOld (

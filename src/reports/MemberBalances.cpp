@@ -4,12 +4,12 @@
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
+#include "reports/AmountsUpTo.h"
 #include "reports/ReportRun.h"
 #include "reports/StagingProgress.h"
 #include "society/Queries.h"
 
 #include <functional>
-#include <map>
 #include <vector>
 
 namespace {
@@ -42,28 +42,6 @@ SqlText SumOfAmounts(QStringView name, QStringView table, const SqlText& dates, 
 {
     return Sql(u"Select Sum(Amount) as ", name, u" From ", table, u" Where CompanyId=", gAppState.gCompanyId,
         dates, u" And MemberNo=", memberNo);
-}
-
-// What stands in a table of vouchers up to the end of the day, by member, in one reading: the index lies by
-// member and day, so that the rows of each are added in the order in which they are added for him alone.
-using Sums = std::map<double, float>;
-
-Sums SumsOf(QStringView table, const MemberBalances::Wanted& wanted)
-{
-    Sums sums;
-    for (Recordset row(gCn,
-             Sql(u"Select MemberNo,Sum(Amount) as Total From ", table, u" Where CompanyId=",
-                 gAppState.gCompanyId, u" And MemberNo>=", wanted.fromNo, u" And MemberNo<=", wanted.toNo,
-                 u" And Trandate<=", SqlDay(wanted.to), u" Group By MemberNo"));
-         !row.Eof(); row.MoveNext())
-        sums[row[u"MemberNo"].Number()] = static_cast<float>(row[u"Total"].Number());
-    return sums;
-}
-
-float SumOf(const Sums& sums, double memberNo)
-{
-    const auto sum = sums.find(memberNo);
-    return sum == sums.end() ? 0 : sum->second;
 }
 
 Pair DepositsOf(double memberNo, const MemberBalances::Wanted& wanted)
@@ -127,12 +105,14 @@ bool StageMembers(const MemberBalances::Wanted& wanted, StagingProgress& progres
 
 bool MemberBalances::StageAdvances(const Wanted& wanted, StagingProgress& progress)
 {
-    const Sums given = SumsOf(u"TransactionsDetails", wanted);
-    const Sums received = SumsOf(u"AdvanceReceipt", wanted);
+    const SqlText members = Sql(u"Select MemberNo From MembersMaster Where MemberNo>=", wanted.fromNo,
+        u" And MemberNo<=", wanted.toNo);
+    const AmountsUpTo given(u"TransactionsDetails", wanted.to, members);
+    const AmountsUpTo received(u"AdvanceReceipt", wanted.to, members);
     return StageMembers(
         wanted, progress,
         [&](double memberNo) {
-            return Pair{SumOf(given, memberNo), SumOf(received, memberNo)};
+            return Pair{static_cast<float>(given.Of(memberNo)), static_cast<float>(received.Of(memberNo))};
         },
         false);
 }

@@ -4,6 +4,7 @@
 #include "platform/database/Recordset.h"
 #include "platform/database/Sql.h"
 #include "platform/database/Transaction.h"
+#include "reports/AmountsUpTo.h"
 #include "reports/DayLines.h"
 #include "reports/KapatSummary.h"
 #include "reports/MemberDeposit.h"
@@ -13,6 +14,7 @@
 #include "society/Words.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -27,17 +29,11 @@ SqlText OfMember(double memberNo, const SqlText& dates)
     return Sql(u" where CompanyId=", gAppState.gCompanyId, u" and MemberNo=", memberNo, dates);
 }
 
-SqlText ButDeposits()
+// What the payments of a day kept back under all heads but the deposits.
+double SumOfHeads(double memberNo, const QDate& day)
 {
-    return Sql(u" and trim(AdvanceType)<>", Quoted(Word::CowThev), u" and trim(AdvanceType)<>",
-        Quoted(Word::BuffThev));
-}
-
-// What the payments kept back under all heads but the deposits.
-double SumOfHeads(double memberNo, const SqlText& dates)
-{
-    return Figure(Sql(
-        u"select sum(Amount) as UKapat from MilkPaymentsDetails", OfMember(memberNo, dates), ButDeposits()));
+    return Figure(Sql(u"select sum(Amount) as UKapat from MilkPaymentsDetails",
+        OfMember(memberNo, Sql(u" and TranDate=", SqlDay(day))), AmountsUpTo::ButDeposits()));
 }
 
 double OpeningDeposit(double memberNo)
@@ -48,6 +44,29 @@ double OpeningDeposit(double memberNo)
 }
 
 }
+
+// What the members of the staged payments owed at the end of a day.
+class PaymentRegister::Owed {
+public:
+    explicit Owed(const QDate& day)
+        : m_given(u"TransactionsDetails", day, Members(), AmountsUpTo::Heads::ButDeposits)
+        , m_received(u"AdvanceReceipt", day, Members())
+        , m_keptBack(u"MilkPaymentsDetails", day, Members(), AmountsUpTo::Heads::ButDeposits)
+    {
+    }
+
+    double By(double memberNo) const
+    {
+        return m_given.Of(memberNo) - m_received.Of(memberNo) - m_keptBack.Of(memberNo);
+    }
+
+private:
+    static SqlText Members() { return u"select MemberNo from MilkPaymentsTemp"; }
+
+    AmountsUpTo m_given;
+    AmountsUpTo m_received;
+    AmountsUpTo m_keptBack;
+};
 
 QString PaymentRegister::Condition() const
 {
@@ -70,10 +89,13 @@ void PaymentRegister::Stage(StagingProgress& progress) const
     CopyCollections();
     const Payments payments = CopyPayments();
     const KapatSummary summary;
+    std::optional<Owed> owed;
+    if (m_kind == Kind::Advances)
+        owed.emplace(m_wanted.from.addDays(-1));
     progress.Begin(static_cast<int>(payments.size()));
     for (const Payment& payment : payments) {
         progress.Tell(payment.memberNo, payment.memberName);
-        StageRow(payment);
+        StageRow(payment, owed ? &*owed : nullptr);
         if (m_kind == Kind::Payments)
             summary.Stage(payment.memberNo, m_wanted.from, m_wanted.to);
         progress.Step();
@@ -111,7 +133,7 @@ PaymentRegister::Payments PaymentRegister::CopyPayments() const
     return payments;
 }
 
-void PaymentRegister::StageRow(const Payment& payment) const
+void PaymentRegister::StageRow(const Payment& payment, const Owed* owed) const
 {
     switch (m_kind) {
     case Kind::Payments:
@@ -119,7 +141,7 @@ void PaymentRegister::StageRow(const Payment& payment) const
     case Kind::Deposits:
         return StageDeposit(payment);
     case Kind::Advances:
-        return StageAdvance(payment);
+        return StageAdvance(payment, owed->By(payment.memberNo));
     }
 }
 
@@ -152,15 +174,9 @@ void PaymentRegister::StageDeposit(const Payment& payment) const
 }
 
 // What the payment took back of the advance is its whole deduction, less the deposit.
-void PaymentRegister::StageAdvance(const Payment& payment) const
+void PaymentRegister::StageAdvance(const Payment& payment, double previous) const
 {
-    const SqlText before = Sql(u" and TranDate<", SqlDay(m_wanted.from));
-    const double given = Figure(Sql(u"select sum(Amount) as TUchal from TransactionsDetails",
-        OfMember(payment.memberNo, before), ButDeposits()));
-    const double received = Figure(
-        Sql(u"Select Sum(Amount) as UchalPaid From AdvanceReceipt", OfMember(payment.memberNo, before)));
-    const double previous = given - received - SumOfHeads(payment.memberNo, before);
-    const double current = SumOfHeads(payment.memberNo, Sql(u" and TranDate=", SqlDay(payment.date)));
+    const double current = SumOfHeads(payment.memberNo, payment.date);
     gCn.Execute(
         Sql(u"insert into MilkPaymentsRegister(CompanyId,FromDate,ToDate,PaymentDate,TranId,MemberNo,"
             u"MemberName,OtherKapat,PreviousBalance,CurrentBalance,ActualKapat,PreviousAdvance) values(",

@@ -45,14 +45,15 @@ private:
         double ActualKapat() const { return kapat - thevKapat; }
     };
     using Payments = std::vector<Payment>;
+    class Owed;
 
     QString Condition() const;
     void CopyCollections() const;
     Payments CopyPayments() const;
-    void StageRow(const Payment& payment) const;
+    void StageRow(const Payment& payment, const Owed* owed) const;
     void StagePayment(const Payment& payment) const;
     void StageDeposit(const Payment& payment) const;
-    void StageAdvance(const Payment& payment) const;
+    void StageAdvance(const Payment& payment, double previous) const;
     void AddPreviousBalances(const Payment& payment) const;
 
     Kind m_kind;

@@ -5,6 +5,7 @@
 #include "payments/frmNewMilkPayment.h"
 #include "platform/database/Sql.h"
 #include "society/PaymentPeriod.h"
+#include "society/Words.h"
 #include "vouchers/frmUchalVouchers.h"
 
 #include <algorithm>
@@ -313,11 +314,33 @@ void PaymentYear::ExpectAgreement()
         One("select count(*) from TransactionsMaster where RsInWords is not null or Printname is not null "
             "or Narration2 is not null or Narration3 is not null"),
         QString::number(m_printed));
+    ExpectSumsOfYears();
 }
 
 void PaymentYear::Expect(const Compared& rows)
 {
     EXPECT_EQ(Joined(rows.Differences()), "");
+}
+
+// Those that the engine keeps are those of the rows.
+void PaymentYear::ExpectSumsOfYears()
+{
+    std::map<QString, double> sums;
+    for (const char* table : {"TransactionsDetails", "AdvanceReceipt", "MilkPaymentsDetails"})
+        for (Recordset row(gCn, QString("select * from ") + table); !row.Eof(); row.MoveNext()) {
+            const QString head = row[u"AdvanceType"].Text();
+            const QString year = QString("%1 of %2 in %3, %4")
+                                     .arg(table, row[u"MemberNo"].Text())
+                                     .arg(row[u"TranDate"].Date().year())
+                                     .arg(head == Word::CowThev || head == Word::BuffThev);
+            sums[year] += row[u"Amount"].Number();
+        }
+    for (Recordset row(gCn, QStringLiteral("select * from YearSums")); !row.Eof(); row.MoveNext())
+        sums[QString("%1 of %2 in %3, %4")
+                 .arg(row[u"Entries"].Text(), row[u"MemberNo"].Text(), row[u"Year"].Text(),
+                     row[u"Deposit"].Text())] -= row[u"Amount"].Number();
+    for (const auto& [year, left] : sums)
+        EXPECT_NEAR(left, 0, 0.0001) << year.toStdString();
 }
 
 void PaymentYear::ExpectOwedIsGivenLessReceived()

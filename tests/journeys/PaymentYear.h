@@ -32,6 +32,7 @@ protected:
 
     // What was unpaid before each payment of the period is what the raw rows say was given and came back
     // until then, and so is what each member owes at its end.
+    void ExpectSumsOfYears();
     void ExpectOwedIsGivenLessReceived();
 
     PaymentReckoning Reckoning;

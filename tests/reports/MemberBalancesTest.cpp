@@ -113,6 +113,21 @@ TEST_F(AdvanceBalanceTest, TheBalanceIsWhatWasGivenLessWhatWasReceivedUpToTheDat
     EXPECT_EQ(Rows("select * from ReportDates"), Lines({"1|01/04/2026|20/04/2026"}));
 }
 
+TEST_F(AdvanceBalanceTest, ABalanceAtTheTurnOfTheYearHoldsItsLastDayAndNotTheNext)
+{
+    for (const char* day : {"31/12/2025", "01/01/2026", "31/12/2026", "01/01/2027"}) {
+        AddHead("TransactionsDetails", day, 5, "]cala", 100);
+        AddHead("AdvanceReceipt", day, 5, "Uchal Kapat", 10);
+    }
+    const std::pair<const char*, const char*> balances[] = {{"31122025", "90"}, {"01012026", "180"},
+        {"30122026", "180"}, {"31122026", "270"}, {"01012027", "360"}};
+    for (const auto& [to, balance] : balances) {
+        const QByteArray keys = QByteArray("01042020{ENTER}") + to + "{ENTER}1{ENTER}{ENTER}%i";
+        Print("UchalBalanceStatement", keys.constData());
+        EXPECT_EQ(Rows("select CurrentBalance from MilkPaymentsRegister"), Lines({balance})) << to;
+    }
+}
+
 TEST_F(AdvanceBalanceTest, ABalanceOfNoughtIsDroppedAndANegativeOneStays)
 {
     AddHead("TransactionsDetails", "10/04/2026", 1, "]cala", 100);

@@ -203,6 +203,35 @@ TEST_F(AdvanceRegisterTest, TheBalanceFallsByTheWholeDeductionLessTheDeposit)
                "111.25|828|500"}));
 }
 
+TEST_F(AdvanceRegisterTest, YearsBeforeCountWithoutTheirDepositsAndForTheirMemberAndCompanyOnly)
+{
+    Pay({});
+    for (const char* day : {"31/12/2024", "30/06/2025", "31/12/2025", "01/01/2026"}) {
+        AddHead("TransactionsDetails", day, 1, "KaV", 100.25);
+        AddHead("MilkPaymentsDetails", day, 1, "]cala", 30.1);
+        AddHead("AdvanceReceipt", day, 1, "gaaya zova", 20);
+        for (const char* table : {"TransactionsDetails", "MilkPaymentsDetails", "AdvanceReceipt"}) {
+            AddHead(table, day, 5, "]cala", 9000);
+            AddHead(table, day, 1, "]cala", 9000, 2);
+        }
+        AddHead("TransactionsDetails", day, 1, " gaaya zova ", 9000);
+        AddHead("MilkPaymentsDetails", day, 1, "mhOsa zova", 9000);
+    }
+    Print("UR");
+    EXPECT_EQ(Rows("select PreviousBalance from MilkPaymentsRegister"), Lines({"200.6"}));
+}
+
+TEST_F(AdvanceRegisterTest, WhatWasGivenAndTakenBackInAYearBeforeIsNought)
+{
+    Pay({});
+    AddHead("TransactionsDetails", "01/05/2025", 1, "]cala", 100.1);
+    AddHead("TransactionsDetails", "02/05/2025", 1, "KaV", 100.2);
+    Run("delete from TransactionsDetails where TranDate='01/05/2025'");
+    Run("update TransactionsDetails set Amount=0 where TranDate='02/05/2025'");
+    Print("UR");
+    EXPECT_EQ(Rows("select PreviousBalance from MilkPaymentsRegister"), Lines({"0"}));
+}
+
 TEST_F(AdvanceRegisterTest, AMemberWithoutAdvancesGoesBelowNought)
 {
     Pay({.uchal = 5});

@@ -67,6 +67,7 @@ const std::vector<Table> Tables{
         "BillNo:t Narration:t RsInWords:t Printname:t Narration2:t Narration3:t"},
     {"TransactionsDetails", "CompanyId:i TranDate:d TranId:i MemberNo:i AdvanceType:t Amount:r"},
     {"AdvanceReceipt", "CompanyId:i TranDate:d TranId:i MemberNo:i AdvanceType:t Amount:r"},
+    {"YearSums", "Entries:t CompanyId:i MemberNo:i Year:t Deposit:i Amount:r"},
     {"MilkCollectionsOld",
         "CompanyId:i CollectionDate:d CollectionTime:t CollectionNo:i MemberNo:i MemberName:t "
         "Animal:t Liters:r Fat:r Rate:r Amount:r TranId:i ActualCollectionTime:t SNF:r"},
