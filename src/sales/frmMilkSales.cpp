@@ -74,6 +74,7 @@ frmMilkSales::frmMilkSales()
              {&txtFat, 9}, {&txtRate, 9}, {&txtAmount, 18}})
         figure->SetMaxLength(longest);
     DataGridInwards.SetTabStop(false);
+    DataGridInwards.SetSearched();
     LayOut();
 }
 
@@ -146,10 +147,7 @@ void frmMilkSales::OpenShift()
 // The newest sale stands at the end and is to be seen.
 void frmMilkSales::ShowShift()
 {
-    DataGridInwards.Refresh();
-    DataGridInwards.ReadAll();
-    if (DataGridInwards.Rows() > 0)
-        DataGridInwards.SetCurrentRow(DataGridInwards.Rows() - 1);
+    DataGridInwards.RefreshToEnd();
     Summary.Show(TheShift());
 }
 

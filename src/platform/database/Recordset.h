@@ -28,6 +28,8 @@ public:
     // date.
     QDate Date() const;
 
+    bool operator==(const FieldValue& other) const = default;
+
 private:
     enum class Kind { Null, Text, Number, Date };
     Kind m_kind = Kind::Null;

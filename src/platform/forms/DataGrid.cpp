@@ -137,6 +137,15 @@ void DataGrid::Refresh()
         SetCurrentCell(0, 0);
 }
 
+void DataGrid::RefreshToEnd()
+{
+    if (m_editor)
+        m_editor->Close();
+    m_model->Read();
+    if (const int rows = Rows(); rows > 0)
+        SetCurrentRow(rows - 1);
+}
+
 void DataGrid::Edit(Editing editing)
 {
     m_editor = std::make_unique<CellEditor>(*this, std::move(editing));

@@ -68,6 +68,9 @@ public:
     void Bind(Connection& connection, const QString& query);
     void Refresh();
 
+    // Reads all rows anew and stands at the last one, where the newest is.
+    void RefreshToEnd();
+
     // Shows no rows until it is bound again, and reads none.
     void Unbind();
 

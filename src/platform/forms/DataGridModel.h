@@ -14,7 +14,11 @@
 // The rows of a grid's query, as the table view asks for them. For the sources of DataGrid only.
 class DataGrid::Model final : public QAbstractTableModel {
 public:
-    explicit Model(std::vector<Column> columns) : m_columns(std::move(columns)) { }
+    explicit Model(std::vector<Column> columns) : m_columns(std::move(columns))
+    {
+        for (const Column& column : m_columns)
+            m_fields.push_back(column.field.toLower());
+    }
 
     void Bind(Connection& connection, const QString& query)
     {
@@ -24,23 +28,22 @@ public:
 
     void Unbind() { m_connection = nullptr; }
 
+    // Rows that were only added to those before are put behind them: then the view needn't begin anew.
     void Read()
     {
+        Reading read = ReadFirst();
+        m_kept = std::move(read.kept);
+        if (IsContinuedBy(read))
+            return Append(std::move(read.rows), read.hasMore);
         beginResetModel();
-        m_rows.clear();
-        m_names.clear();
-        m_hasMore = false;
         m_typedRow = -1;
         m_typed.clear();
-        if (m_connection) {
-            Recordset rows(*m_connection, m_query);
-            ChooseColumns(rows);
-            m_rows = Take(rows, m_isEditable || m_isSearched ? AllRows : FirstRows);
-            m_hasMore = !rows.Eof();
-        }
+        m_names = std::move(read.names);
+        m_rows = std::move(read.rows);
+        m_hasMore = read.hasMore;
         m_places.clear();
-        for (const Column& column : m_columns)
-            m_places.push_back(PlaceOf(column.field));
+        for (const QString& field : m_fields)
+            m_places.push_back(PlaceOf(field));
         endResetModel();
     }
 
@@ -55,13 +58,7 @@ public:
         Recordset rows(*m_connection, m_query);
         for (std::size_t read = 0; read < m_rows.size() && !rows.Eof(); ++read)
             rows.MoveNext();
-        std::vector<Row> rest = Take(rows, AllRows);
-        if (rest.empty())
-            return;
-        const int first = static_cast<int>(m_rows.size());
-        beginInsertRows({}, first, first + static_cast<int>(rest.size()) - 1);
-        std::move(rest.begin(), rest.end(), std::back_inserter(m_rows));
-        endInsertRows();
+        Insert(Take(rows, AllRows, m_kept));
     }
 
     bool HasRead(int row) const { return row < Rows() || !m_hasMore; }
@@ -183,29 +180,69 @@ private:
     static constexpr std::size_t FirstRows = 40; // a screenful and some
     static constexpr std::size_t AllRows = std::numeric_limits<std::size_t>::max();
 
-    // Notes which columns of the query are kept, and their names.
-    void ChooseColumns(const Recordset& rows)
+    // What a query gives: the columns that a row keeps, their names in lower case, and the first rows.
+    struct Reading {
+        std::vector<int> kept;
+        std::vector<QString> names;
+        std::vector<Row> rows;
+        bool hasMore = false;
+    };
+
+    Reading ReadFirst() const
     {
-        m_kept.clear();
+        Reading read;
+        if (!m_connection)
+            return read;
+        Recordset rows(*m_connection, m_query);
+        ChooseColumns(rows, read);
+        read.rows = Take(rows, m_isEditable || m_isSearched ? AllRows : FirstRows, read.kept);
+        read.hasMore = !rows.Eof();
+        return read;
+    }
+
+    void ChooseColumns(const Recordset& rows, Reading& read) const
+    {
         for (int i = 0; i < rows.Columns(); ++i) {
             const QString name = rows.Name(i).toLower();
-            const bool isShown = std::any_of(m_columns.begin(), m_columns.end(),
-                [&](const Column& column) { return column.field.toLower() == name; });
-            if (m_isSearched && !isShown)
+            if (m_isSearched && std::find(m_fields.begin(), m_fields.end(), name) == m_fields.end())
                 continue;
-            m_kept.push_back(i);
-            m_names.push_back(name);
+            read.kept.push_back(i);
+            read.names.push_back(name);
         }
     }
 
+    bool IsContinuedBy(const Reading& read) const
+    {
+        return m_typedRow < 0 && !m_rows.empty() && read.names == m_names && read.rows.size() >= m_rows.size()
+            && std::equal(m_rows.begin(), m_rows.end(), read.rows.begin());
+    }
+
+    void Append(std::vector<Row> rows, bool hasMore)
+    {
+        rows.erase(rows.begin(), rows.begin() + Rows());
+        Insert(std::move(rows));
+        m_hasMore = hasMore;
+    }
+
+    // Behind the last row.
+    void Insert(std::vector<Row> rows)
+    {
+        if (rows.empty())
+            return;
+        const int first = Rows();
+        beginInsertRows({}, first, first + static_cast<int>(rows.size()) - 1);
+        std::move(rows.begin(), rows.end(), std::back_inserter(m_rows));
+        endInsertRows();
+    }
+
     // Reads at most so many rows.
-    std::vector<Row> Take(Recordset& rows, std::size_t atMost) const
+    static std::vector<Row> Take(Recordset& rows, std::size_t atMost, const std::vector<int>& kept)
     {
         std::vector<Row> taken;
         for (; !rows.Eof() && taken.size() < atMost; rows.MoveNext()) {
             Row& row = taken.emplace_back();
-            row.reserve(m_kept.size());
-            for (const int column : m_kept)
+            row.reserve(kept.size());
+            for (const int column : kept)
                 row.push_back(rows.At(column));
         }
         return taken;
@@ -235,6 +272,7 @@ private:
     }
 
     std::vector<Column> m_columns;
+    std::vector<QString> m_fields; // of the columns, in lower case
     Connection* m_connection = nullptr;
     QString m_query;
     std::vector<int> m_kept; // the columns of the query that a row holds

@@ -227,6 +227,56 @@ TEST_F(DataGridTest, WhatWasWrittenIsSeenAfterARefresh)
     });
 }
 
+TEST_F(DataGridTest, ARefreshShowsWhatWasChangedAmongTheRowsAndWhatWasTakenAway)
+{
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        Do([&] {
+            Add("4,'iksana',2,'17/04/2026'");
+            books.Execute("update Inwards set Liters=9 where CollectionNo=1");
+            grid.Refresh();
+        });
+        EXPECT_EQ(Row(grid, 0), "1|राम|9.000|15/04/2026|");
+        EXPECT_EQ(Row(grid, 3), "4|किसन|2.000|17/04/2026|");
+        Do([&] {
+            books.Execute("delete * from Inwards where CollectionNo=2");
+            grid.Refresh();
+        });
+        ASSERT_EQ(grid.Rows(), 3);
+        EXPECT_EQ(screen.View().model()->rowCount(), 3);
+        EXPECT_EQ(Row(grid, 1), "3||||");
+    });
+}
+
+TEST_F(DataGridTest, RowsThatWereAddedBehindTheOthersLeaveTheViewAsItIs)
+{
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        int resets = 0;
+        QObject::connect(screen.View().model(), &QAbstractItemModel::modelReset, &screen, [&] { ++resets; });
+        Do([&] {
+            Add("4,'iksana',2,'17/04/2026'");
+            grid.RefreshToEnd();
+        });
+        EXPECT_EQ(resets, 0);
+        EXPECT_EQ(grid.CurrentRow(), 3);
+        EXPECT_EQ(Row(grid, 3), "4|किसन|2.000|17/04/2026|");
+        Do([&] { grid.Refresh(); });
+        EXPECT_EQ(resets, 0);
+        EXPECT_EQ(grid.CurrentRow(), 0);
+    });
+}
+
+TEST_F(DataGridTest, ARefreshToTheEndOfAnEmptyListStandsNowhere)
+{
+    AtGrid([&](DataGrid& grid, GridScreen&) {
+        Do([&] {
+            books.Execute("delete * from Inwards");
+            grid.RefreshToEnd();
+        });
+        EXPECT_EQ(grid.Rows(), 0);
+        EXPECT_EQ(grid.CurrentRow(), -1);
+    });
+}
+
 TEST_F(DataGridTest, ColumnsAreAlignedTitledAndWideAsAsked)
 {
     AtGrid([&](DataGrid&, GridScreen& screen) {
@@ -333,6 +383,35 @@ TEST_F(LongGridTest, ReadsAFewRowsAtFirstAndAllWhenAskedForThem)
         Do([&] { grid.Refresh(); });
         EXPECT_LT(Read(screen), 200);
         EXPECT_EQ(grid.Cell(1999, 0), "2000");
+    });
+}
+
+TEST_F(LongGridTest, ARefreshToTheEndReadsAllAndStandsAtTheLastRow)
+{
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        for (const char* last : {"2001,'iksana',2,'17/04/2026'", "2002,'iksana',3,'17/04/2026'"}) {
+            Do([&] {
+                Add(last);
+                grid.RefreshToEnd();
+            });
+            EXPECT_EQ(grid.CurrentRow(), Read(screen) - 1);
+            EXPECT_EQ(grid.Text(), QString(last).left(4));
+        }
+    });
+}
+
+TEST_F(LongGridTest, AShortListThatGrowsLongStillReadsAFewRowsAtFirst)
+{
+    books.Execute("delete * from Inwards where CollectionNo>5");
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        Do([&] {
+            books.RunScript("with recursive n(i) as (select 6 union all select i+1 from n where i<300) "
+                            "insert into Inwards select i,'rama',i/10.0,'2026-04-15' from n");
+            grid.Refresh();
+        });
+        EXPECT_LT(Read(screen), 200);
+        EXPECT_EQ(grid.Rows(), 300);
+        EXPECT_EQ(grid.Cell(299, 0), "300");
     });
 }
 
