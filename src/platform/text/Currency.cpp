@@ -4,7 +4,9 @@
 #include "platform/text/Overflow.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
+#include <optional>
 
 namespace {
 
@@ -29,10 +31,27 @@ bool RoundsUp(QStringView leftOut, bool isOdd)
     return leftOut == u"5" ? isOdd : !leftOut.isEmpty() && leftOut.front() >= u'5';
 }
 
+// The nearest ten-thousandth of a value, where its decimal form can't say otherwise: where it isn't near the
+// middle between two, and small enough that all its digits count.
+std::optional<std::int64_t> PlainTenThousandths(double rupees)
+{
+    constexpr double allDigitsCount = 1e10;
+    constexpr double farFromTheMiddle = 0.4;
+    const double scaled = rupees * Scale;
+    const double nearest = std::round(scaled);
+    if (std::abs(rupees) < allDigitsCount && std::abs(scaled - nearest) < farFromTheMiddle)
+        return static_cast<std::int64_t>(nearest);
+    return {};
+}
+
 }
 
 Currency::Currency(double rupees)
 {
+    if (const auto plain = PlainTenThousandths(rupees)) {
+        m_tenThousandths = *plain;
+        return;
+    }
     const QString text = ShortestDecimal(rupees);
     const qsizetype point = text.indexOf(u'.');
     const QString decimals = point < 0 ? QString() : text.mid(point + 1);
@@ -49,7 +68,9 @@ Currency::Currency(double rupees)
 
 double Currency::Number() const
 {
-    return Val(Text());
+    constexpr std::int64_t mostExact = std::int64_t{1} << 53;
+    const bool isExact = m_tenThousandths > -mostExact && m_tenThousandths < mostExact;
+    return isExact ? static_cast<double>(m_tenThousandths) / Scale : Val(Text());
 }
 
 QString Currency::Text() const

@@ -3,8 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdint>
 #include <functional>
 #include <limits>
+#include <random>
+#include <string>
 
 namespace {
 
@@ -18,6 +22,15 @@ std::string Text(Currency value)
 std::string Text(double rupees)
 {
     return Text(Currency(rupees));
+}
+
+// An amount of ten-thousandths in its shortest form.
+std::string Written(std::int64_t tenThousandths)
+{
+    const std::int64_t size = std::abs(tenThousandths);
+    std::string decimals = std::to_string(10'000 + size % 10'000).replace(0, 1, ".");
+    decimals.erase(decimals.find_last_not_of("0.") + 1);
+    return (tenThousandths < 0 ? "-" : "") + std::to_string(size / 10'000) + decimals;
 }
 
 // The number of the error that the action ends in, or 0.
@@ -53,6 +66,35 @@ TEST(CurrencyTest, HoldsFourDecimalsAndRoundsTheRestHalfToEven)
     EXPECT_EQ(Text(1.99995), "2");
     EXPECT_EQ(Text(1.00014), "1.0001");
     EXPECT_EQ(Text(1.00016), "1.0002");
+}
+
+TEST(CurrencyTest, ValuesOfAnySizeRoundAsTheirDigitsSay)
+{
+    std::mt19937_64 dice(26);
+    for (int i = 0; i < 100'000; ++i) {
+        // Six decimals; every fourth value lies in the middle between two.
+        const int digits = 1 + static_cast<int>(dice() % 15);
+        const auto bound = static_cast<std::uint64_t>(std::pow(10, digits));
+        auto millionths = static_cast<std::int64_t>(dice() % bound);
+        if (i % 4 == 0)
+            millionths = millionths / 100 * 100 + 50;
+        const std::int64_t rest = millionths % 100;
+        std::int64_t rounded = millionths / 100;
+        rounded += rest > 50 || (rest == 50 && rounded % 2 != 0) ? 1 : 0;
+        const double rupees = (i % 2 == 0 ? 1 : -1) * (static_cast<double>(millionths) / 1e6);
+        const Currency value(rupees);
+        EXPECT_EQ(Text(value), Written(i % 2 == 0 ? rounded : -rounded)) << millionths;
+        EXPECT_EQ(value.Number(), std::stod(Text(value)));
+    }
+}
+
+TEST(CurrencyTest, TheNumberOfALargeSumIsTheNearestToItsDigits)
+{
+    Currency value(1e14);
+    for (int i = 0; i < 1000; ++i) {
+        value += Currency(0.0017);
+        EXPECT_EQ(value.Number(), std::stod(Text(value)));
+    }
 }
 
 TEST(CurrencyTest, ASumOfManyAmountsIsRightToTheLastDigit)
