@@ -41,7 +41,7 @@ BenchSociety::BenchSociety(int years)
     plan.federation = QStringLiteral("जिल्हा दूध संघ");
     plan.password = QStringLiteral("Doodh#26");
     MakeLargeSociety(folder, plan, SocietyMembers, static_cast<int>(from.daysTo(YearBegins.addYears(1))));
-    const OpenBooks books(Drives());
+    const BooksOfSociety books(Drives());
     gCn.Execute(
         QStringLiteral("update AutoSettings set RepeatCollection='naahI',PurchaseEntry='Collection'"));
     gCn.Execute(Sql(u"update CompanySelected set FromDate='", DateText(YearBegins), u"',ToDate='",
@@ -61,14 +61,14 @@ const BenchSociety& TenYears()
     return society;
 }
 
-OpenBooks::OpenBooks(const QString& drives)
+BooksOfSociety::BooksOfSociety(const QString& drives)
 {
     SetDrivesRoot(drives);
     RegisterPlaces();
     LoadAppState();
 }
 
-OpenBooks::~OpenBooks()
+BooksOfSociety::~BooksOfSociety()
 {
     gCn.Close();
     gAppState = AppState();

@@ -37,12 +37,12 @@ inline const QDate PlayedDay(2027, 4, 2);
 inline const QDate SlipsDay(2027, 4, 3);
 
 // Opens the society's database in this process; the destructor closes it.
-class OpenBooks {
+class BooksOfSociety {
 public:
-    explicit OpenBooks(const QString& drives);
-    ~OpenBooks();
-    OpenBooks(const OpenBooks&) = delete;
-    OpenBooks& operator=(const OpenBooks&) = delete;
+    explicit BooksOfSociety(const QString& drives);
+    ~BooksOfSociety();
+    BooksOfSociety(const BooksOfSociety&) = delete;
+    BooksOfSociety& operator=(const BooksOfSociety&) = delete;
 };
 
 // Collects the texts of plain boxes, since nobody is there to close them.

@@ -140,7 +140,7 @@ void Run(benchmark::State& state, const QString& drives, const CounterCase& whic
 {
     Pair pair;
     try {
-        const OpenBooks books(drives);
+        const BooksOfSociety books(drives);
         PlayAtCounter(which.day, [&] { which.measure(state, pair); });
         Outcomes::Add(state, which.what, pair, which.unit, which.target);
     } catch (const RunTimeError& error) {

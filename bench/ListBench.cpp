@@ -95,7 +95,7 @@ void Run(benchmark::State& state, const QString& drives, const ListCase& which)
 {
     Pair pair;
     try {
-        const OpenBooks books(drives);
+        const BooksOfSociety books(drives);
         MeasureLists(state, which.order, pair);
         Outcomes::Add(state, which.what, pair, Milliseconds, {.ratio = 1.2});
     } catch (const RunTimeError& error) {

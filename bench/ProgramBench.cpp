@@ -88,7 +88,7 @@ void MeasureStart(benchmark::State& state, const QString& drives, Pair& pair)
 {
     QByteArray password;
     {
-        const OpenBooks books(drives);
+        const BooksOfSociety books(drives);
         password = gAppState.gDbPassword.toUtf8();
     }
     const QByteArray file = LocalAppFile(u"Morvelta.mdb").toUtf8();

@@ -142,7 +142,7 @@ void Run(benchmark::State& state, const QString& drives, const ReportCase& which
 {
     Pair pair;
     try {
-        const OpenBooks books(drives);
+        const BooksOfSociety books(drives);
         which.measure(state, drives, pair);
         Outcomes::Add(state, which.what, pair, Milliseconds, which.target);
     } catch (const RunTimeError& error) {

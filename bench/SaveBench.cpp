@@ -105,7 +105,7 @@ void Save(benchmark::State& state, const QString& drives)
 {
     Pair pair;
     try {
-        const OpenBooks books(drives);
+        const BooksOfSociety books(drives);
         PlayAtCounter(SavingDay, [&] { MeasureSaves(state, pair); });
         Outcomes::Add(state, What, pair, Milliseconds, {.ratio = 1.5, .below = 5.0});
     } catch (const RunTimeError& error) {

@@ -119,7 +119,7 @@ void Run(benchmark::State& state, const QString& drives, const char* what, Measu
 {
     Pair pair;
     try {
-        const OpenBooks books(drives);
+        const BooksOfSociety books(drives);
         measure(state, pair);
         Outcomes::Add(state, what, pair, Microseconds, KnownShape);
     } catch (const RunTimeError& error) {

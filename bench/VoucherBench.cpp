@@ -164,7 +164,7 @@ void Run(benchmark::State& state, const QString& drives, const LookUpCase& which
 {
     Pair pair;
     try {
-        const OpenBooks books(drives);
+        const BooksOfSociety books(drives);
         FillVouchers();
         ProgramWindow::SetPlace(QRect(0, 0, 1024, 768));
         Beneath beneath([&] { which.measure(state, pair); });

@@ -24,7 +24,7 @@ void Measure(benchmark::State& state, const QString& drives, const WorkCase& whi
 {
     Pair seconds;
     Pair gaps;
-    const OpenBooks books(drives);
+    const BooksOfSociety books(drives);
     const std::unique_ptr<Work> work = which.make();
     work->ByScreen(); // the first has the window to make
     work->ByFloor();
@@ -42,7 +42,7 @@ void MeasureYears(benchmark::State& state, const QString& drives, const WorkCase
 {
     Pair seconds;
     const auto measure = [&](const QString& society, Samples& samples) {
-        const OpenBooks books(society);
+        const BooksOfSociety books(society);
         const std::unique_ptr<Work> work = which.make();
         work->ByScreen();
         for (int turn = 0; turn < which.turns; ++turn)
