@@ -71,6 +71,7 @@ TEST_F(BonusCorrectionTest, CalledUpAgainTheRowShowsWhatWasSaved)
     AfterTheRun([](Clerk& clerk) {
         Type(clerk, "5{ENTER}{ENTER}10{ENTER}20{ENTER}30{ENTER}40{ENTER}{ENTER}12{ENTER}");
         EXPECT_EQ(Reads(clerk, "txtAdvance"), "0.00");
+        EXPECT_EQ(Reads(clerk, "txtPreviousThev"), "0.00");
         Type(clerk, "+{TAB}5{ENTER}");
         for (const auto& [field, text] : {std::pair("txtPreviousCowLiters", "10.000"),
                  std::pair("txtPreviousBuffLiters", "20.000"), std::pair("txtAdvance", "30.00"),

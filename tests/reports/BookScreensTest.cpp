@@ -88,6 +88,17 @@ TEST_F(BookScreensTest, ADateThatIsNoneIsEmptiedAndKeepsTheFocusWithoutAMessage)
     EXPECT_TRUE(TheWindow.Shown.empty());
 }
 
+TEST_F(BookScreensTest, TheButtonAsksForALastDateThatWasPassedOver)
+{
+    InAll([this](Clerk& clerk, const char* mode) {
+        Type(clerk, "05042026%i");
+        EXPECT_EQ(Focus(clerk), "maskToDate") << mode;
+        EXPECT_EQ(Label(clerk, "lblGuide"), Wanted) << mode;
+    });
+    EXPECT_TRUE(TheWindow.Shown.empty());
+    EXPECT_EQ(TheBox.Shown, QStringList());
+}
+
 TEST_F(BookScreensTest, AnEmptyEndIsProposedAsTheDayOfTheNewestTransaction)
 {
     Post({.date = "18/04/2026", .amount = 5});
