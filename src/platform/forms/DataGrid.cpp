@@ -137,13 +137,16 @@ void DataGrid::Refresh()
         SetCurrentCell(0, 0);
 }
 
+// While rows are added, scrolled and selected, the view needn't note what is to be painted.
 void DataGrid::RefreshToEnd()
 {
     if (m_editor)
         m_editor->Close();
+    View().setUpdatesEnabled(false);
     m_model->Read();
     if (const int rows = Rows(); rows > 0)
         SetCurrentRow(rows - 1);
+    View().setUpdatesEnabled(true);
 }
 
 void DataGrid::Edit(Editing editing)
