@@ -297,7 +297,8 @@ bool frmUchalVouchers::IsNumbered()
     return false;
 }
 
-// Nothing is written without a member or without an amount: the focus goes to what is missing.
+// Nothing is written without a member, without the heads of an advance or the amount of a receipt: the focus
+// goes to what is missing.
 bool frmUchalVouchers::IsComplete()
 {
     if (!Chosen().HasMember()) {

@@ -201,6 +201,41 @@ TEST_F(VouchersChangeTest, ADateWithoutAVoucherGoesBackToRest)
     EXPECT_FALSE(Failure);
 }
 
+TEST_F(VouchersChangeTest, ADateWithoutAVoucherLeftByTheLetterOfTheButtonGoesBackToRestAndNoFurther)
+{
+    const std::tuple<const char*, const char*, const char*> modes[] = {
+        {"%d{ESC}16042026%s", "cmdMod", "ba&dla"}, {"%k{ESC}16042026%k", "cmdDel", "&KaoDNao"}};
+    for (const auto& [keys, button, caption] : modes) {
+        Play([&](Clerk& clerk) {
+            Type(clerk, keys);
+            EXPECT_EQ(clerk.Message(), "roka^D- ]plabQa naahI");
+            Type(clerk, "{ENTER}");
+            EXPECT_EQ(Reads(clerk, button), caption);
+            EXPECT_EQ(Focus(clerk), button);
+            EXPECT_EQ(OnTop(clerk), "frmUchalVouchers") << keys;
+        });
+        EXPECT_FALSE(Failure) << keys;
+    }
+}
+
+TEST_F(VouchersChangeTest, AQuestionClosedByItsCloseBoxChangesAndDeletesNothing)
+{
+    const QStringList before = Rows("select * from TransactionsMaster");
+    Play([](Clerk& clerk) {
+        ChangeToOneHundredAndTwenty(clerk);
+        clerk.CloseBox();
+        EXPECT_EQ(OnTop(clerk), "frmUchalVouchers");
+    });
+    EXPECT_EQ(Rows("select * from TransactionsMaster"), before);
+    Play([](Clerk& clerk) {
+        Type(clerk, "%k{ENTER}{ENTER}");
+        EXPECT_EQ(clerk.Message(), "roka^D- na@kI KaoDayacao ka Æ");
+        clerk.CloseBox();
+        EXPECT_EQ(OnTop(clerk), "frmUchalVouchers");
+    });
+    EXPECT_EQ(Rows("select * from TransactionsMaster"), before);
+}
+
 TEST_F(VouchersChangeTest, ADateAloneCallsUpItsFirstVoucherAndTheNumberAnother)
 {
     Run("insert into TransactionsMaster(CompanyId,TranDate,TranId,TranType,DAccountName,"

@@ -511,12 +511,14 @@ bool Screen::AnswerMnemonic(const QKeyEvent& key)
     Control* control = key.key() > 0xFFFF ? nullptr : OfLetter(QChar(key.key()));
     if (!control)
         return false;
+    const QString meant = control->Widget()->accessibleName();
     MoveTo(control);
     // The LostFocus of the field runs before a Cancel button is pressed, but can't keep the clerk in the
     // field.
     if (m_holder != control && IsCancel(*control) && control->CanTakeFocus())
         MoveTo(control, false);
-    if (m_holder == control)
+    // It may also have made another button of it, which the clerk hasn't seen yet.
+    if (m_holder == control && control->Widget()->accessibleName() == meant)
         control->AnswerMnemonic();
     return true;
 }
@@ -529,12 +531,15 @@ Control* Screen::OfLetter(QChar letter) const
     return found == m_controls.end() ? nullptr : *found;
 }
 
-// Returns whether the widget is to get the press: the control has the focus now, and doesn't keep the press.
+// Returns whether the widget is to get the press: the control has the focus now, is the one that was pressed,
+// and doesn't keep the press.
 bool Screen::PressedByMouse(Control& control)
 {
     if (!m_open || !control.CanTakeFocus())
         return false;
     const bool entering = m_holder != &control;
+    const QString meant = control.Widget()->accessibleName();
     Run([&] { MoveTo(&control, !IsCancel(control)); });
-    return m_holder == &control && !control.KeepsPress(entering);
+    return m_holder == &control && control.Widget()->accessibleName() == meant
+        && !control.KeepsPress(entering);
 }
