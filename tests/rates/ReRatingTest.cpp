@@ -3,6 +3,7 @@
 #include "tests/rates/NewFatRatesTest.h"
 
 #include "platform/database/Sql.h"
+#include "rates/LookupFatRate.h"
 #include "tests/support/EachPainting.h"
 
 #include <QEvent>
@@ -52,6 +53,14 @@ TEST_F(ReRatingTest, ANoLeavesTheDeliveriesAndTheChartIsSaved)
     SaveAndAnswer("02072007", "%n");
     EXPECT_EQ(Deliveries(), before);
     EXPECT_EQ(ChartDates().size(), 3);
+}
+
+TEST_F(ReRatingTest, AfterANoLaterEntriesGetTheNewChart)
+{
+    AddDelivery("02/07/2007", Cow, 2, 4.5, 30, 60);
+    SaveAndAnswer("02072007", "%n", "4.5{ENTER}30{ENTER}20{ENTER}{ENTER}{ENTER}{ENTER}");
+    EXPECT_EQ(Deliveries(), QStringList("02/07/2007|gaaya|4.5|30|60"));
+    EXPECT_DOUBLE_EQ(LookupFatRate(QDate(2007, 7, 2), 4.5, u"gaaya").rate, 20);
 }
 
 TEST_F(ReRatingTest, EnterAndTheCloseBoxAreANo)
