@@ -247,6 +247,35 @@ TEST_F(ShippedTemplatesOfPaymentsTest, AMemberOfOneAnimalHasOneBlock)
     }
 }
 
+// What came back during the period has been taken off the heads already, and is taken off the balance from
+// before as well: only the single lines say what is owed.
+TEST_F(ShippedTemplatesOfPaymentsTest, AReceiptOfThePeriodIsNotSummedTwiceOnTheSlip)
+{
+    for (const auto& [duration, to, keys] :
+        {std::tuple("1 idvasa", "01/04/2026", "01042026{ENTER}3{ENTER}3{ENTER}%i"),
+            {"7 idvasa", "07/04/2026", "07042026{ENTER}3{ENTER}3{ENTER}%i"},
+            {"10 idvasa", "10/04/2026", "10042026{ENTER}3{ENTER}3{ENTER}%i"},
+            {"15 idvasa", "15/04/2026", "15042026{ENTER}3{ENTER}3{ENTER}%i"},
+            {"1 maihnaa", "30/04/2026", "30042026{ENTER}3{ENTER}3{ENTER}%i"}}) {
+        for (const char* table : {"MilkCollections", "MilkPayments", "MilkPaymentsDetails", "AdvanceReceipt"})
+            Run(QString("delete * from ") + table);
+        Deliver(BothMember, QDate(2026, 4, 1), Day(to));
+        Pay(BothMember, "01/04/2026", to);
+        Run("delete * from MilkPaymentsDetails");
+        Run("update MilkPayments set PreviousAdvance=0,FixedKapat=0");
+        for (const auto& [table, type, amount] : {std::tuple("MilkPaymentsDetails", "]cala", 1200.0),
+                 {"MilkPaymentsDetails", "KaV", 642.5}, {"AdvanceReceipt", "Uchal Receipt", 300.0}})
+            Run(Sql(u"insert into ", QString::fromLatin1(table),
+                u"(CompanyId,TranDate,TranId,MemberNo,AdvanceType,Amount) values(",
+                Values(1, Day(to), 1, BothMember, QString::fromUtf8(type), amount), u")"));
+        PrintSlips(duration, keys);
+        const QStringList texts = ReportTexts();
+        for (const char* line : {"-300.00", "1200.00", "642.50"})
+            EXPECT_TRUE(texts.contains(line)) << duration << ' ' << line;
+        EXPECT_FALSE(texts.contains("1542.50")) << duration;
+    }
+}
+
 TEST_F(ShippedTemplatesOfPaymentsTest, ASlipOfSeveralPeriodsOfADateHasTheDaysOfItsOwn)
 {
     Deliver(BothMember, QDate(2026, 4, 1), QDate(2026, 4, 20));
