@@ -132,7 +132,8 @@ void PaySlips::StageMember(double memberNo) const
 void PaySlips::StageKapat(double memberNo) const
 {
     const SqlText ofMember = Sql(SqlDay(m_wanted.paymentDate), u" And MemberNo=", memberNo);
-    const Recordset payment(gCn, Sql(u"Select * From MilkPayments Where PaymentDate=", ofMember));
+    const Recordset payment(
+        gCn, Sql(u"Select * From MilkPayments Where PaymentDate=", ofMember, u" order by rowid"));
     const double fixedKapat = payment[u"FixedKapat"].Number();
     const double previous = PreviousBalance(memberNo, payment[u"PreviousAdvance"].Number());
     Heads heads;

@@ -54,7 +54,7 @@ bool frmReportMilkPayments::HoldPaymentDate()
         return false;
     const Recordset payment(gCn,
         Sql(u"Select * from MilkPayments Where CompanyId=", gAppState.gCompanyId, u" And PaymentDate=",
-            SqlDay(MaskUserDate.Date())));
+            SqlDay(MaskUserDate.Date()), u" order by rowid"));
     if (payment.Eof()) {
         ShowPlain(QStringLiteral("Invalid Payment Date"));
         MaskUserDate.SetFocus(Plain(u"ज्या दिवशी दुधाचे पेमेंट झाले तो दिनांक टाका    Esc : बाहेर"));

@@ -64,6 +64,23 @@ TEST_F(PaySlipsTest, APaymentPeriodThatStartsBeforeTheCompanysFromDateReadsTheOl
     EXPECT_EQ(Rows("select Liters from MilkCollectionsTemp order by Liters"), Lines({"5", "10"}));
 }
 
+TEST_F(PaySlipsTest, TheLayoutGoesByThePeriodOfThePaymentThatWasMadeFirst)
+{
+    Pay({.member = 9, .name = "gaNaoSa", .from = "01/04/2026", .to = "10/04/2026"});
+    Pay({.member = 1});
+    Print();
+    EXPECT_EQ(Rows("select MemberNo,min(CollectionDate) as First from KapatDetails group by MemberNo"),
+        Lines({"1|01/04/2026", "9|01/04/2026"}));
+}
+
+TEST_F(PaySlipsTest, OfAMemberWhoWasPaidTwiceOnTheDateTheFirstPaymentTellsWhatIsFixedAndWhatWasOwed)
+{
+    Pay({.fixedKapat = 5, .previousAdvance = 500});
+    Pay({.from = "01/04/2026", .to = "10/04/2026", .fixedKapat = 7, .previousAdvance = 700});
+    Print();
+    EXPECT_EQ(Rows("select Value1 from KapatDetails where Value1<>0 order by Value1"), Lines({"5", "500"}));
+}
+
 TEST_F(PaySlipsTest, OfAShiftThatIsInBothTablesTheLowestNumberIsTold)
 {
     Pay({.from = "29/03/2026", .to = "07/04/2026"});
