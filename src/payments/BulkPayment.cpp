@@ -68,6 +68,11 @@ Caption WantedNumber()
         QStringLiteral("1 ते %1 मधील मेम्बर नंबर टाका    Esc : बाहेर").arg(ShortestDecimal(HighestMemberNo())));
 }
 
+void TidyPayments()
+{
+    gCn.Execute(u"Delete * From MilkPayments Where CompanyId=0");
+}
+
 void EmptyShortMemberList()
 {
     Transaction emptying(gCn);
@@ -224,6 +229,7 @@ void BulkPayment::Run(MemberPayment& payment)
     Command2.SetEnabled(false);
     EmptyShortMemberList();
     DataGridMembers.Refresh();
+    TidyPayments();
     BindPayments();
     Label43.SetCaption(Shivaji(Running));
     for (const auto& [from, to] : {std::pair(&maskFromDate1, &payment.Days.maskFromDate),
@@ -268,7 +274,7 @@ void BulkPayment::PayMember(MemberPayment& payment, int number)
     payment.WorkOut();
     if (!payment.PaymentSkip) {
         payment.Posting.PostPayment(PaymentMode::Multiple);
-        gCn.Execute(u"Delete * From MilkPayments Where CompanyId=0");
+        TidyPayments();
     }
     paying.Commit();
 }

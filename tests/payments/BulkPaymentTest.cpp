@@ -75,6 +75,13 @@ TEST_F(BulkPaymentTest, NothingToPayShowsNoughts)
     });
 }
 
+TEST_F(BulkPaymentTest, RowsOfNoCompanyAreTidiedAwayThoughNobodyIsPaid)
+{
+    Run("insert into MilkPayments(CompanyId,MemberNo) values(0,1)");
+    Play([](Clerk& clerk) { PayMany(clerk, "21042026", "1", "5"); });
+    EXPECT_EQ(One("select count(*) from MilkPayments"), "0");
+}
+
 TEST_F(BulkPaymentTest, TheNetKeepsThePaiseOfTheHeadsWhileTheDeductionIsInRupees)
 {
     Set("FixedKapat=5,DecimalPayment='PayIt'");

@@ -269,4 +269,29 @@ TEST_F(PaymentCalculationTest, WhatIsNotWorkedOutForTheDatesThatStandThereIsNotS
     EXPECT_EQ(Paid("MemberNo"), "");
 }
 
+TEST_F(PaymentCalculationTest, ADateOfTheBillThatIsChangedAfterTheWorkingOutIsNotSaved)
+{
+    AddExample();
+    PlaySingle([](Clerk& clerk) {
+        Work(clerk, "01042026", 5);
+        Type(clerk, "+{TAB}+{TAB}");
+        ASSERT_EQ(Focus(clerk), "MaskBillDate");
+        Type(clerk, "11042026%s");
+        EXPECT_EQ(OnTop(clerk), "frmNewMilkPayment") << "no question";
+        EXPECT_EQ(Focus(clerk), "txtMemberNo");
+    });
+    EXPECT_EQ(Paid("MemberNo"), "");
+}
+
+TEST_F(PaymentCalculationTest, AnEmptyMemberNumberIsLeftBackwardsToMendTheDates)
+{
+    PlaySingle([](Clerk& clerk) {
+        Type(clerk, "%n01042026{ENTER}{ENTER}{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtMemberNo") << "forwards it stays";
+        Type(clerk, "+{TAB}");
+        EXPECT_EQ(Focus(clerk), "MaskBillDate");
+        EXPECT_EQ(OnTop(clerk), "frmNewMilkPayment");
+    });
+}
+
 }
