@@ -114,11 +114,13 @@ void RegisterLedgerCases(const QString& drives)
             .turns = Turns,
             .target = {.below = 1000.0},
             .hasGaps = true,
+            .hasYears = true,
             .make = [] { return std::make_unique<StagedCashBook>(); }});
     RegisterWork(drives,
         {.name = "ledger/first",
             .what = "the same with its first page shown",
             .turns = Turns,
             .target = {.below = 1000.0},
+            .hasYears = true,
             .make = [] { return std::make_unique<ShownCashBook>(); }});
 }
