@@ -18,12 +18,6 @@
 
 namespace {
 
-template <class S> void Show()
-{
-    S screen;
-    screen.ShowModal();
-}
-
 // Opens a screen in another of its modes each time.
 template <class S> std::function<void()> ShowInTurn(const std::vector<const char*>& modes)
 {

@@ -13,12 +13,6 @@
 
 namespace {
 
-template <class S> void Show()
-{
-    S screen;
-    screen.ShowModal();
-}
-
 // A figure as the bonus writes it by a pattern.
 double Shown(double value, QStringView pattern)
 {

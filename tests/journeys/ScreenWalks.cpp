@@ -9,6 +9,7 @@
 #include "reports/frmReportMilkPayments.h"
 #include "reports/frmReportMilkPaymentsRegister.h"
 #include "tests/journeys/Actions.h"
+#include "tests/support/BooksFile.h"
 #include "vouchers/frmSelectInwards.h"
 #include "vouchers/frmUchalVouchers.h"
 
@@ -19,12 +20,6 @@ namespace {
 
 constexpr int ThrowsOfAWalk = 5;
 constexpr int WalksOfAnOpening = 12; // at most
-
-template <class S> void Show()
-{
-    S screen;
-    screen.ShowModal();
-}
 
 }
 
@@ -90,6 +85,7 @@ void ScreenWalks::Walk(const Walked& screen, int walks)
         EXPECT_TRUE(!Failure || screen.mayEnd) << screen.name << ": " << Failure->what() << '\n'
                                                << typed.right(400).toStdString();
         screen.check();
+        EXPECT_EQ(BooksFile::IntegrityOf(gCn.Handle()), "ok") << screen.name;
     }
 }
 

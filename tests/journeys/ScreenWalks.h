@@ -6,6 +6,13 @@
 #include <map>
 #include <random>
 
+// Opens a screen of its own until it is left.
+template <class S> void Show()
+{
+    S screen;
+    screen.ShowModal();
+}
+
 // Walks without sense over the screens of the money and of the milk that is sold: a walk is five throws of
 // keys, each of them a move, a figure, an order, or a stretch that leads somewhere. A screen that was left is
 // opened again, and what has to hold is looked at then. The dice always fall the same way.
