@@ -43,6 +43,11 @@ TEST_F(LongWalksTest, OverTheInstallmentsNothingBreaksAndNobodyStandsTwice)
     OverTheInstallments(Walks);
 }
 
+TEST_F(LongWalksTest, OverThePaymentsNothingBreaksAndTheBalancesHold)
+{
+    OverThePayments(Walks);
+}
+
 TEST_F(LongWalksTest, OverTheCustomersNothingBreaksAndNobodyStandsTwice)
 {
     OverTheCustomers(Walks);

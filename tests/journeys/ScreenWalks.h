@@ -28,6 +28,7 @@ protected:
     void OverTheSpan(int walks);
     void OverTheVouchers(int walks);
     void OverTheInstallments(int walks);
+    void OverThePayments(int walks);
     void OverTheCustomers(int walks);
     void OverTheSales(int walks);
     void OverTheBonus(int walks);
@@ -56,6 +57,8 @@ private:
     }
 
     void ForgetCharts();
+    void FillUnpaidBooks();
+    void ForgetPayments();
     void ExpectSoundRates();
     void ExpectSoundVouchers();
     void ExpectSoundCustomers();

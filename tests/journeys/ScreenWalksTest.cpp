@@ -45,6 +45,11 @@ TEST_F(ScreenWalksTest, OverTheInstallmentsNothingBreaksAndNobodyStandsTwice)
     OverTheInstallments(Walks);
 }
 
+TEST_F(ScreenWalksTest, OverThePaymentsNothingBreaksAndTheBalancesHold)
+{
+    OverThePayments(Walks);
+}
+
 TEST_F(ScreenWalksTest, OverTheCustomersNothingBreaksAndNobodyStandsTwice)
 {
     OverTheCustomers(Walks);
