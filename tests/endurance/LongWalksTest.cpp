@@ -1,5 +1,6 @@
 #include "tests/endurance/Counts.h"
 #include "tests/journeys/BookWalks.h"
+#include "tests/journeys/OfficeWalks.h"
 
 namespace {
 
@@ -87,6 +88,51 @@ TEST_F(LongBookWalksTest, OverTheLedgersNothingBreaksAndEachRowGoesOnFromTheOneB
 TEST_F(LongBookWalksTest, OverTheBackupTheBooksStayAndEveryCopyIsWhole)
 {
     OverTheBackup(Walks / 10);
+}
+
+class LongOfficeWalksTest : public OfficeWalks {
+protected:
+    const int Walks = Counts::Of("VETROLAN_WALKS", 20000);
+};
+
+TEST_F(LongOfficeWalksTest, OverTheDaysNothingBreaksAndEachSaveIsOneRowAndEachDeletionOneSeries)
+{
+    OverTheDays(Walks);
+}
+
+TEST_F(LongOfficeWalksTest, OverTheAbsentNothingBreaksAndTheListIsThatOfItsShift)
+{
+    OverTheAbsent(Walks);
+}
+
+TEST_F(LongOfficeWalksTest, OverTheSearchNothingBreaksAndEachSlipIsARowOfTheBooks)
+{
+    OverTheSearch(Walks);
+}
+
+TEST_F(LongOfficeWalksTest, OverTheSettingsNothingBreaksAndTheRowIsWhole)
+{
+    OverTheSettings(Walks);
+}
+
+TEST_F(LongOfficeWalksTest, OverTheMilkOfADayNothingBreaksAndTheListIsOfTheBooks)
+{
+    OverTheMilkOfADay(Walks);
+}
+
+TEST_F(LongOfficeWalksTest, OverTheMilkOfOneNothingBreaksAndItsLinesHoldItsLitres)
+{
+    OverTheMilkOfOne(Walks);
+}
+
+TEST_F(LongOfficeWalksTest, OverTheListOfMembersNothingBreaksAndNobodyStandsTwice)
+{
+    OverTheListOfMembers(Walks);
+}
+
+TEST_F(LongOfficeWalksTest, OverTheListOfPaymentsNothingBreaksAndTheBooksStay)
+{
+    OverTheListOfPayments(Walks);
 }
 
 }
