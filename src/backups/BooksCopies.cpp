@@ -128,13 +128,14 @@ QString FreeName(const RestorePlan& plan)
     return free;
 }
 
-// With the time of the original: a log goes only with books that are no newer.
+// With the time of the original, before the copy has its name: a log goes only with books that are no newer.
 void Keep(const QString& file, const QString& kept)
 {
-    SafeCopy::Copy(file, kept);
-    QFile copy(kept);
-    if (copy.open(QIODevice::ReadWrite))
-        copy.setFileTime(QFileInfo(file).lastModified(), QFileDevice::FileModificationTime);
+    SafeCopy::Copy(file, kept, [&](const QString& copied) {
+        QFile copy(copied);
+        if (copy.open(QIODevice::ReadWrite))
+            copy.setFileTime(QFileInfo(file).lastModified(), QFileDevice::FileModificationTime);
+    });
 }
 
 void KeepBooks(const RestorePlan& plan)

@@ -1,127 +1,17 @@
-#include "backups/BooksCopies.h"
+#include "tests/backups/BooksCopiesTest.h"
+
 #include "platform/database/CheckedNote.h"
-#include "platform/database/Connection.h"
-#include "platform/database/DataSource.h"
 #include "platform/database/DatabaseFile.h"
 #include "platform/database/Disk.h"
-#include "platform/database/Recordset.h"
-#include "platform/text/RunTimeError.h"
 #include "tests/support/FaultyDisk.h"
-#include "tools/setup/Society.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <utility>
 #include <vector>
 
 namespace {
-
-// A society with two members and three deliveries, its books closed.
-class BooksCopiesTest : public ::testing::Test {
-protected:
-    BooksCopiesTest()
-    {
-        SocietyPlan plan;
-        plan.name = "श्री गणेश दूध संस्था";
-        plan.year = "2026-2027";
-        plan.password = Password;
-        plan.now = Now;
-        CopySociety(m_folder.path(), plan);
-        DataSource::Register("TestCopies", Books());
-        OnBooks([](Connection& books) {
-            books.RunScript("begin;insert into MembersMaster(CompanyId,MemberNo) values(1,1),(1,2);"
-                            "insert into MilkCollections(CompanyId,CollectionDate) "
-                            "values(1,'2026-04-14'),(1,'2026-04-15'),(1,'2026-04-13');"
-                            "insert into MilkPayments(CompanyId,MemberNo) values(1,1);commit");
-        });
-    }
-    ~BooksCopiesTest() override { FaultyDisk::Reset(); }
-
-    QString In(const QString& name) const { return m_folder.filePath(name); }
-    QString Books() const { return In("Morvelta.mdb"); }
-    QString Copy() const { return In("Backup/Morvelta.mdb"); }
-
-    template <class Act> void OnBooks(Act act) const
-    {
-        Connection books;
-        books.Open(QStringLiteral("dsn=TestCopies;pwd=") + Password);
-        act(books);
-    }
-
-    void AddMember() const
-    {
-        OnBooks([](Connection& books) {
-            books.RunScript("insert into MembersMaster(CompanyId,MemberNo) values(1,3)");
-        });
-    }
-
-    int Members() const
-    {
-        int members = 0;
-        OnBooks([&](Connection& books) {
-            members =
-                static_cast<int>(Recordset(books, u"select count(*) from MembersMaster").At(0).Number());
-        });
-        return members;
-    }
-
-    RestorePlan Plan(const QString& copy) const
-    {
-        RestorePlan plan;
-        plan.copy = copy;
-        plan.books = Books();
-        plan.keptFolder = In("Backup");
-        plan.password = Password;
-        plan.now = Now;
-        return plan;
-    }
-
-    QStringList InBackup() const { return QDir(In("Backup")).entryList(QDir::Files); }
-
-    template <class Act> static QString FailureOf(Act act)
-    {
-        try {
-            act();
-        } catch (const RunTimeError& error) {
-            return error.Happened();
-        }
-        return {};
-    }
-    QString BackUpFailure() const
-    {
-        return FailureOf([&] { BooksCopies::BackUp(Books(), Copy(), Password); });
-    }
-    QString RestoreFailure(const QString& copy) const
-    {
-        return FailureOf([&] { BooksCopies::Restore(Plan(copy)); });
-    }
-
-    static QByteArray Bytes(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    static void Put(const QString& path, const QByteArray& bytes)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        ASSERT_EQ(file.write(bytes), bytes.size());
-    }
-
-    const QString Password = QStringLiteral("Doodh#26");
-    const QDateTime Now{QDate(2026, 4, 15), QTime(18, 30, 5)};
-    const QString Replaced = QStringLiteral("Morvelta Before 15 April 2026 183005.mdb");
-
-private:
-    QTemporaryDir m_folder;
-};
 
 TEST_F(BooksCopiesTest, ABackupIsTheBooksAndTellsWhatLiesInIt)
 {
@@ -339,36 +229,6 @@ TEST_F(BooksCopiesTest, AMissingCopyOrTheBooksThemselvesAreNotRestored)
     EXPECT_EQ(InBackup(), QStringList());
 }
 
-// What is replaced is kept before it is.
-TEST_F(BooksCopiesTest, AFullOrBrokenDiskInARestoreLeavesTheBooks)
-{
-    FaultyDisk::InstallForCopies();
-    const QString copy = In("copy.mdb");
-    BooksCopies::BackUp(Books(), copy, Password);
-    AddMember();
-    const QByteArray books = Bytes(Books());
-    FaultyDisk::Reset();
-    BooksCopies::Restore(Plan(copy));
-    const int renaming = FaultyDisk::Count() - 1;
-    ASSERT_GT(renaming, 6);
-    for (int n = 1; n <= renaming; ++n)
-        for (const auto fail : {FaultyDisk::FullFrom, FaultyDisk::BrokenFrom}) {
-            FaultyDisk::Reset();
-            Put(Books(), books);
-            for (const QString& name : InBackup())
-                QFile::remove(In("Backup/" + name));
-            fail(n);
-            const QString told = RestoreFailure(copy);
-            FaultyDisk::Reset();
-            if (n + 1 == renaming && told.isEmpty())
-                continue; // the folder of the kept books couldn't be synced, which isn't waited for
-            EXPECT_TRUE(told.contains("जुनी फाइल आहे तशीच आहे")) << n << ": " << told.toStdString();
-            EXPECT_TRUE(Bytes(Books()) == books) << n;
-            for (const QString& kept : InBackup())
-                EXPECT_TRUE(Bytes(In("Backup/" + kept)) == books) << n;
-        }
-}
-
 // Books that nothing can be read from are replaced, too, when that is wanted.
 TEST_F(BooksCopiesTest, DamagedBooksAreKeptWithTheirLog)
 {
@@ -376,11 +236,8 @@ TEST_F(BooksCopiesTest, DamagedBooksAreKeptWithTheirLog)
     BooksCopies::BackUp(Books(), copy, Password);
     Put(Books(), "nothing of the books is left");
     Put(Books() + "-wal", "the last saves");
-    QFile books(Books());
     const QDateTime written(QDate(2026, 4, 14), QTime(7, 15));
-    ASSERT_TRUE(books.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(books.setFileTime(written, QFileDevice::FileModificationTime));
-    books.close();
+    SetWritten(Books(), written);
     RestorePlan plan = Plan(copy);
     plan.replacesDamagedBooks = true;
     EXPECT_EQ(BooksCopies::Restore(plan).members, 2);
