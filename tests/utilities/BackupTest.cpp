@@ -132,10 +132,20 @@ TEST_F(BackupTest, AHistoryBackupWritesTheDatedNameAndOpensTheConnection)
         EXPECT_TRUE(gCn.IsOpen());
         EXPECT_EQ(FilesIn(Folder), QStringList("Morvelta On 15 April 2026.mdb"));
         EXPECT_EQ(Reads(clerk, "File1"), "Morvelta On 15 April 2026.mdb");
+    });
+    EXPECT_TRUE(TheBox.Shown.isEmpty());
+}
+
+TEST_F(BackupTest, TheSameDaysSecondHistoryBackupGoesOverTheFirst)
+{
+    OnBackup([this](Clerk& clerk) {
+        BackUpAsHistory(clerk);
+        EXPECT_EQ(Label(clerk, "lblContent"), "बॅकअपमध्ये : दूध संकलन 0, मेम्बर 1, पेमेंट 0, शेवटचा दिवस नाही");
         const QByteArray first = Bytes(DatedCopy);
         clerk.Do([this] { AddMember(2, "saIta"); });
         BackUp(clerk);
-        EXPECT_EQ(FilesIn(Folder).size(), 1) << "the same day's second copy goes over the first";
+        EXPECT_EQ(Label(clerk, "lblContent"), "बॅकअपमध्ये : दूध संकलन 0, मेम्बर 2, पेमेंट 0, शेवटचा दिवस नाही");
+        EXPECT_EQ(FilesIn(Folder), QStringList("Morvelta On 15 April 2026.mdb"));
         EXPECT_FALSE(Bytes(DatedCopy) == first);
     });
     EXPECT_TRUE(TheBox.Shown.isEmpty());
