@@ -7,6 +7,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScopeGuard>
 #include <QTableView>
 
 #include <algorithm>
@@ -143,10 +144,10 @@ void DataGrid::RefreshToEnd()
     if (m_editor)
         m_editor->Close();
     View().setUpdatesEnabled(false);
+    const auto painting = qScopeGuard([this] { View().setUpdatesEnabled(true); });
     m_model->Read();
     if (const int rows = Rows(); rows > 0)
         SetCurrentRow(rows - 1);
-    View().setUpdatesEnabled(true);
 }
 
 void DataGrid::Edit(Editing editing)

@@ -363,6 +363,18 @@ TEST_F(DataGridTest, AQueryThatFailsIsARunTimeError)
     });
 }
 
+TEST_F(DataGridTest, ARefreshToTheEndThatFailsLeavesAListThatIsPainted)
+{
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        Do([&] {
+            books.RunScript("drop table Inwards");
+            EXPECT_THROW(grid.RefreshToEnd(), RunTimeError);
+        });
+        EXPECT_TRUE(screen.View().updatesEnabled());
+        EXPECT_EQ(grid.Rows(), 3);
+    });
+}
+
 class LongGridTest : public DataGridTest {
 protected:
     LongGridTest()
