@@ -108,7 +108,7 @@ void BooksOnDisk::RememberLog()
 {
     if (!m_log.isOpen())
         m_log.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-    m_logState = FileState::Of(m_log.fileName());
+    m_logState = FileState::Of(m_log);
 }
 
 void BooksOnDisk::RememberBooks()

@@ -14,14 +14,27 @@
 
 #ifdef Q_OS_UNIX
 
-FileState FileState::Of(const QString& path)
+namespace {
+
+FileState StateOf(const struct stat& found)
 {
-    struct stat found { };
-    if (stat(QFile::encodeName(path).constData(), &found) != 0)
-        return {};
     constexpr qint64 nanoseconds = 1000000000;
     return {found.st_dev, found.st_ino, found.st_size,
         found.st_mtim.tv_sec * nanoseconds + found.st_mtim.tv_nsec};
+}
+
+}
+
+FileState FileState::Of(const QString& path)
+{
+    struct stat found { };
+    return stat(QFile::encodeName(path).constData(), &found) == 0 ? StateOf(found) : FileState();
+}
+
+FileState FileState::Of(const QFile& file)
+{
+    struct stat found { };
+    return fstat(file.handle(), &found) == 0 ? StateOf(found) : FileState();
 }
 
 bool SyncToDisk(const QFile& file)
@@ -38,6 +51,11 @@ FileState FileState::Of(const QString& path)
         return {};
     constexpr qint64 nanoseconds = 1000000;
     return {0, 0, info.size(), info.lastModified().toMSecsSinceEpoch() * nanoseconds};
+}
+
+FileState FileState::Of(const QFile& file)
+{
+    return file.isOpen() ? Of(file.fileName()) : FileState();
 }
 
 bool SyncToDisk(const QFile& file)

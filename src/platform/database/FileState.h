@@ -13,6 +13,9 @@ struct FileState {
 
     static FileState Of(const QString& path);
 
+    // Of a file that is open, under whatever name or none by now; none if it isn't open.
+    static FileState Of(const QFile& file);
+
     bool Exists() const { return size >= 0; }
     bool IsSameFileAs(const FileState& other) const
     {

@@ -105,6 +105,37 @@ TEST_F(BooksOnDiskTest, ARemovedLogIsToldAndWhatItHeldIsInTheBooks)
     EXPECT_TRUE(IsSound(connection));
 }
 
+TEST_F(BooksOnDiskTest, ALogThatIsRemovedDuringASaveIsToldAndTheSaveIsInTheBooks)
+{
+    Add(1);
+    Transaction saving(connection);
+    Add(2);
+    ASSERT_TRUE(QFile::remove(Log()));
+    saving.Commit();
+    EXPECT_TRUE(Refusal().contains("log beside the database file was removed"));
+    connection.Close();
+    Open();
+    EXPECT_EQ(One("select count(*) from CityMaster"), "2");
+    EXPECT_TRUE(IsSound(connection));
+}
+
+TEST_F(BooksOnDiskTest, ALogThatIsMadeAnewByAnotherProgramDuringASaveIsTold)
+{
+    Add(1);
+    Transaction saving(connection);
+    Add(2);
+    ASSERT_TRUE(QFile::remove(Log()));
+    QFile made(Log());
+    ASSERT_TRUE(made.open(QIODevice::WriteOnly));
+    made.close();
+    saving.Commit();
+    EXPECT_TRUE(Refusal().contains("log beside the database file was removed"));
+    connection.Close();
+    Open();
+    EXPECT_EQ(One("select count(*) from CityMaster"), "2");
+    EXPECT_TRUE(IsSound(connection));
+}
+
 TEST_F(BooksOnDiskTest, BooksThatWereReplacedAreToldAndLeftAsTheyAre)
 {
     Add(1);
