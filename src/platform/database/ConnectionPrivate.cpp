@@ -59,6 +59,8 @@ Connection::Private::Private(const OpenedFile& opened)
     , m_guard(opened.handle)
     , m_catalogue(opened.handle)
     , m_cache(opened.handle)
+    , m_begin(Prepare("begin immediate"))
+    , m_commit(Prepare("commit"))
 {
 }
 
@@ -67,6 +69,8 @@ Connection::Private::~Private()
     for (Recordset::Private* recordset : m_recordsets)
         recordset->Abandon();
     m_cache.Clear();
+    m_begin.reset();
+    m_commit.reset();
     Fold();
     // When the engine closes the last connection, it folds the log by itself. That would damage a file that
     // was put in the place of the books. And unless the log notes that a fold has begun, a log that a power
@@ -214,10 +218,31 @@ bool Connection::Private::IsEmptiedByFold()
     return LogMark::Of(m_handle).round == m_onDisk->round.log;
 }
 
+void Connection::Private::Finalize::operator()(sqlite3_stmt* statement) const
+{
+    sqlite3_finalize(statement);
+}
+
 int Connection::Private::RunOwn(const QByteArray& own)
 {
     const StatementGuard::Aside aside(m_guard);
     return sqlite3_exec(m_handle, own.constData(), nullptr, nullptr, nullptr);
+}
+
+int Connection::Private::RunOwn(sqlite3_stmt& own)
+{
+    const StatementGuard::Aside aside(m_guard);
+    const int code = sqlite3_step(&own);
+    sqlite3_reset(&own);
+    return code == SQLITE_DONE ? SQLITE_OK : code;
+}
+
+Connection::Private::OwnStatement Connection::Private::Prepare(const char* own)
+{
+    sqlite3_stmt* made = nullptr;
+    if (const int code = sqlite3_prepare_v2(m_handle, own, -1, &made, nullptr); code != SQLITE_OK)
+        DatabaseErrors::ThrowFailure(m_handle, code, {});
+    return OwnStatement(made);
 }
 
 void Connection::Private::RunOrThrow(const QByteArray& own)
@@ -310,7 +335,8 @@ void Connection::Private::Begin()
 {
     if (m_depth == 0) {
         RequireUntouchedFiles();
-        RunOrThrow("begin immediate");
+        if (const int code = RunOwn(*m_begin); code != SQLITE_OK)
+            DatabaseErrors::ThrowFailure(m_handle, code, {});
         try {
             MarkRound();
         } catch (...) {
@@ -336,7 +362,7 @@ void Connection::Private::Commit()
         Rollback();
         DatabaseErrors::ThrowGivenUp();
     }
-    if (const int code = RunOwn("commit"); code != SQLITE_OK) {
+    if (const int code = RunOwn(*m_commit); code != SQLITE_OK) {
         const RunTimeError failure = DatabaseErrors::CommitFailure(m_handle, code);
         Rollback();
         throw failure;

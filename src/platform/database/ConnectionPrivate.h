@@ -102,6 +102,12 @@ public:
     void Remove(Recordset::Private* recordset);
 
 private:
+    struct Finalize {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+    // A statement that each save runs, prepared once.
+    using OwnStatement = std::unique_ptr<sqlite3_stmt, Finalize>;
+
     int Run(Loan& loan, const QString& statement);
     void KeepRests(const Translation* writing);
     void RequireTransaction() const;
@@ -110,6 +116,8 @@ private:
     void ForgetShapes();
     void RunOrThrow(const QByteArray& own);
     int RunOwn(const QByteArray& own);
+    int RunOwn(sqlite3_stmt& own);
+    OwnStatement Prepare(const char* own);
     void MarkRound();
     bool SayThatFoldBegins();
     BooksOnDisk::Verdict LookAtFiles();
@@ -121,6 +129,8 @@ private:
     StatementGuard m_guard;
     Catalogue m_catalogue;
     StatementCache m_cache;
+    OwnStatement m_begin;
+    OwnStatement m_commit;
     ScannedStatement m_scanned;
     std::vector<Recordset::Private*> m_recordsets;
     std::function<void()> m_written;
