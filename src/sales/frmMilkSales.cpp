@@ -151,6 +151,12 @@ void frmMilkSales::ShowShift()
     Summary.Show(TheShift());
 }
 
+void frmMilkSales::ShowAddedSale()
+{
+    DataGridInwards.ShowAdded();
+    Summary.Show(TheShift());
+}
+
 void frmMilkSales::EnableEntry(bool enabled)
 {
     for (Control* control :
@@ -315,9 +321,10 @@ void frmMilkSales::cmdGo_Click()
 {
     if (!InsistOnSale())
         return;
-    const Sale sale = TheSale();
     Transaction saving(gCn);
-    if (!sale.IsStored()) {
+    const Sale sale = TheSale();
+    const bool isNew = !sale.IsStored();
+    if (isNew) {
         sale.Insert();
         if (!sale.IsForCash())
             CustomerLitres::Advance(sale.customerName, sale.animal, sale.liters);
@@ -333,7 +340,10 @@ void frmMilkSales::cmdGo_Click()
         SaleReceipt::Stage(sale);
     saving.Commit();
 
-    ShowShift();
+    if (isNew)
+        ShowAddedSale();
+    else
+        ShowShift();
     txtSalesNo.Show(sale.shift.NextNumber());
     ClearFields();
     txtSalesNo.SetFocus();

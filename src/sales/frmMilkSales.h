@@ -56,6 +56,7 @@ private:
     SalesShift TheShift() const;
     void OpenShift();
     void ShowShift();
+    void ShowAddedSale();
     void EnableEntry(bool enabled);
 
     // The sale in the fields

@@ -57,6 +57,32 @@ TEST_F(MilkSalesSavingTest, ANameWithBlanksAtItsEndsIsThatOfItsCustomer)
     EXPECT_EQ(Closing(3), "130|120");
 }
 
+TEST_F(MilkSalesSavingTest, TheListFollowsEachSaleChangeAndDeletionAndStandsAtTheLast)
+{
+    const auto isWhole = [&](const Clerk& clerk, int sales) {
+        EXPECT_EQ(Listed(clerk), Copy());
+        EXPECT_EQ(Listed(clerk), Books());
+        EXPECT_EQ(
+            dynamic_cast<const DataGrid&>(*clerk.Top().Find(u"DataGridInwards")).CurrentRow(), sales - 1);
+    };
+    InTheMorning([&](Clerk& clerk) {
+        for (int sale = 1; sale <= 45; ++sale) {
+            Sell(clerk, sale % 2 == 0 ? "raoK" : Hotel, "1", "1.5", "4.2");
+            if (sale % 9 == 0)
+                isWhole(clerk, sale);
+        }
+        Type(clerk, "{UP}{UP}{ENTER}{ENTER}{ENTER}7{ENTER}{ENTER}{ENTER}{ENTER}{ENTER}");
+        isWhole(clerk, 45);
+        Sell(clerk, "saMGa", "2", "3", "7");
+        isWhole(clerk, 46);
+        Type(clerk, "{UP}{UP}{ENTER}{F10}");
+        isWhole(clerk, 45);
+        Sell(clerk, "raoK", "1", "2", "4");
+        isWhole(clerk, 46);
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(MilkSalesSavingTest, RowsOfNoCompanyAreTidiedOutOfTheCopy)
 {
     const auto addStray = [this] {

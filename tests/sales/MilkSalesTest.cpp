@@ -75,6 +75,20 @@ QStringList MilkSalesTest::Copy()
                 "MilkSalesTemp order by SalesNo");
 }
 
+QStringList MilkSalesTest::Listed(const Clerk& clerk)
+{
+    const auto& list = dynamic_cast<const DataGrid&>(*clerk.Top().Find(u"DataGridInwards"));
+    QStringList listed;
+    for (int row = 0; row < list.Rows(); ++row) {
+        QStringList fields;
+        for (const QStringView field : {u"SalesNo", u"SalesType", u"CustomerNo", u"CustomerName", u"Animal",
+                 u"Liters", u"Fat", u"Rate", u"Amount"})
+            fields << list.Value(row, field).Text();
+        listed << fields.join(u'|');
+    }
+    return listed;
+}
+
 QStringList MilkSalesTest::Ours()
 {
     return Rows("select SalesNo,OurLiters,SNF,OurFat,OurRate,OurAmount from MilkSales order by SalesNo");

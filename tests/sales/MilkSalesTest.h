@@ -41,6 +41,9 @@ protected:
     QStringList Books();
     QStringList Copy();
 
+    // The same of the list on the screen.
+    static QStringList Listed(const Clerk& clerk);
+
     // "SalesNo|OurLiters|SNF|OurFat|OurRate|OurAmount".
     QStringList Ours();
 

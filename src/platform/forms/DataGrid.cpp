@@ -138,14 +138,24 @@ void DataGrid::Refresh()
         SetCurrentCell(0, 0);
 }
 
-// While rows are added, scrolled and selected, the view needn't note what is to be painted.
 void DataGrid::RefreshToEnd()
+{
+    StandAtEnd([this] { m_model->Read(); });
+}
+
+void DataGrid::ShowAdded()
+{
+    StandAtEnd([this] { m_model->ReadOn(); });
+}
+
+// While rows are added, scrolled and selected, the view needn't note what is to be painted.
+void DataGrid::StandAtEnd(const std::function<void()>& read)
 {
     if (m_editor)
         m_editor->Close();
     View().setUpdatesEnabled(false);
     const auto painting = qScopeGuard([this] { View().setUpdatesEnabled(true); });
-    m_model->Read();
+    read();
     if (const int rows = Rows(); rows > 0)
         SetCurrentRow(rows - 1);
 }

@@ -71,6 +71,10 @@ public:
     // Reads all rows anew and stands at the last one, where the newest is.
     void RefreshToEnd();
 
+    // Reads the rows behind those that are shown and stands at the last one. For who has added a row and
+    // changed nothing else: the others stay as they were read.
+    void ShowAdded();
+
     // Shows no rows until it is bound again, and reads none.
     void Unbind();
 
@@ -124,6 +128,7 @@ private:
     DataGrid(Screen* screen, const char* name, std::unique_ptr<Model> model);
     QTableView& View() const;
     void LayOut();
+    void StandAtEnd(const std::function<void()>& read);
     void Reach(int row) const;
     void SetCurrentCell(int row, int column);
     int CurrentColumn() const;

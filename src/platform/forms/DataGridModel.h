@@ -53,11 +53,18 @@ public:
     // Reads the rows that Read left out.
     void ReadRest()
     {
-        if (!std::exchange(m_hasMore, false))
+        if (m_hasMore)
+            ReadOn();
+    }
+
+    // Reads the rows behind those that were read. The engine passes over these by itself, which is quicker
+    // than to fetch them.
+    void ReadOn()
+    {
+        if (!m_connection)
             return;
-        Recordset rows(*m_connection, m_query);
-        for (std::size_t read = 0; read < m_rows.size() && !rows.Eof(); ++read)
-            rows.MoveNext();
+        m_hasMore = false;
+        Recordset rows(*m_connection, m_query + QStringLiteral(" limit -1 offset %1").arg(Rows()));
         Insert(Take(rows, AllRows, m_kept));
     }
 

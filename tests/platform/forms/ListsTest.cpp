@@ -265,6 +265,39 @@ TEST_F(DataGridTest, RowsThatWereAddedBehindTheOthersLeaveTheViewAsItIs)
     });
 }
 
+TEST_F(DataGridTest, AddedRowsAreShownBehindTheOthersWhichStayAsTheyWereRead)
+{
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        for (const char* added : {"4,'iksana',2,'17/04/2026'", "5,'rama',3,'18/04/2026'"}) {
+            Do([&] {
+                Add(added);
+                books.Execute("update Inwards set Liters=9 where CollectionNo=1");
+                grid.ShowAdded();
+            });
+            EXPECT_EQ(grid.Text(), QString(added).left(1));
+            EXPECT_EQ(grid.CurrentRow(), screen.View().model()->rowCount() - 1);
+        }
+        ASSERT_EQ(grid.Rows(), 5);
+        EXPECT_EQ(Row(grid, 0), "1|राम|1.500|15/04/2026|");
+        EXPECT_EQ(Row(grid, 3), "4|किसन|2.000|17/04/2026|");
+        EXPECT_TRUE(screen.View().updatesEnabled());
+    });
+}
+
+TEST_F(DataGridTest, WithNothingAddedTheLastRowIsStoodAt)
+{
+    AtGrid([&](DataGrid& grid, GridScreen&) {
+        Do([&] { grid.ShowAdded(); });
+        EXPECT_EQ(grid.Rows(), 3);
+        EXPECT_EQ(grid.CurrentRow(), 2);
+        Do([&] {
+            grid.Unbind();
+            grid.ShowAdded();
+        });
+        EXPECT_EQ(grid.Rows(), 0);
+    });
+}
+
 TEST_F(DataGridTest, ARefreshToTheEndOfAnEmptyListStandsNowhere)
 {
     AtGrid([&](DataGrid& grid, GridScreen&) {
@@ -409,6 +442,20 @@ TEST_F(LongGridTest, ARefreshToTheEndReadsAllAndStandsAtTheLastRow)
             EXPECT_EQ(grid.CurrentRow(), Read(screen) - 1);
             EXPECT_EQ(grid.Text(), QString(last).left(4));
         }
+    });
+}
+
+TEST_F(LongGridTest, AddedRowsComeBehindThoseThatWereNotYetRead)
+{
+    AtGrid([&](DataGrid& grid, GridScreen& screen) {
+        Do([&] {
+            Add("2001,'iksana',2,'17/04/2026'");
+            grid.ShowAdded();
+        });
+        EXPECT_EQ(Read(screen), 2001);
+        EXPECT_EQ(grid.Rows(), 2001);
+        EXPECT_EQ(grid.Text(), "2001");
+        EXPECT_EQ(grid.Cell(1000, 0), "1001");
     });
 }
 
