@@ -108,6 +108,7 @@ QFont Look::Font(Size size, bool bold)
     QFont font;
     if (!Family().isEmpty())
         font.setFamilies({Family(), QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")});
+    font.setStyleStrategy(QFont::PreferNoShaping); // figures need none and are laid out sooner
     font.setPixelSize(PixelsOf(size));
     font.setBold(bold);
     return font;
