@@ -44,7 +44,12 @@ void FloorLedger::Stage()
     Require(m_opening.Bind(m_account).Step(), "The account is there.");
     m_balance = std::llround(m_opening.NumberAt(OpeningBalance) * Parts);
     m_opening.Reset();
-    for (m_before.Bind(m_account, m_account, m_from); m_before.Step();)
+    const std::string year = m_from.substr(0, 4);
+    Require(m_years.Bind(m_account, year).Step(), "A sum is always one row.");
+    m_balance += std::llround(m_years.NumberAt(1) * Parts);
+    m_years.Reset();
+    const std::string yearBegins = year + "-01-01";
+    for (m_before.Bind(m_account, m_account, yearBegins, m_from); m_before.Step();)
         Take(m_before);
     m_before.Reset();
     m_empty.Run();

@@ -33,8 +33,10 @@ private:
     FloorStatement m_begin{"begin immediate"};
     FloorStatement m_commit{"commit"};
     FloorStatement m_opening{"select * from AccountsMaster where CompanyId=1 and AccountName=?"};
+    FloorStatement m_years{"select sum(Entries),sum(Amount) from AccountYearSums where CompanyId=1 and "
+                           "AccountName=? and Year<?"};
     FloorStatement m_before{"select * from TransactionsMaster where CompanyId=1 and (trim(DAccountName)=? or "
-                            "trim(CAccountName)=?) and TranDate<? order by TranDate,TranId"};
+                            "trim(CAccountName)=?) and TranDate>=? and TranDate<? order by TranDate,TranId"};
     FloorStatement m_empty{"delete from LedgersMaster"};
     FloorStatement m_rows{"select * from TransactionsMaster where CompanyId=1 and (trim(DAccountName)=? or "
                           "trim(CAccountName)=?) and TranDate>=? and TranDate<=? order by TranDate,TranId"};

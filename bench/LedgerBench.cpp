@@ -1,5 +1,4 @@
-// The cash book of 20,000 transactions: its staging, and with it the first page on the screen. It isn't
-// measured after ten years, since it brings forward every transaction before its days.
+// The cash book of 20,000 transactions: its staging, and with it the first page on the screen.
 
 #include "bench/BenchSociety.h"
 #include "bench/Cases.h"

@@ -212,6 +212,41 @@ create trigger MilkPaymentsDetailsRemoved after delete on MilkPaymentsDetails be
     values ('MilkPaymentsDetails', old.CompanyId, old.TranDate, old.MemberNo, old.AdvanceType, -old.Amount);
 end;
 
+-- What each account was credited less what it was debited in a calendar year, to the ten thousandth of a
+-- rupee, and how many entries that were: what a ledger brings forward. A transaction is an entry on each side.
+create table AccountYearSums (
+    CompanyId INTEGER, AccountName TEXT, Year TEXT, Entries INTEGER, Amount REAL,
+    primary key (CompanyId, AccountName, Year)
+) without rowid;
+
+create view AccountYearEntries as
+select CompanyId, TranDate, DAccountName as AccountName, 1 as Entries, Amount from TransactionsMaster limit 0;
+
+create trigger AccountYearEntriesAdded instead of insert on AccountYearEntries begin
+    insert or ignore into AccountYearSums
+    values (new.CompanyId, trim(new.AccountName), substr(new.TranDate, 1, 4), 0, 0);
+    update AccountYearSums
+    set Entries = Entries + new.Entries, Amount = round(Amount + ifnull(new.Amount, 0), 4)
+    where CompanyId = new.CompanyId and AccountName = trim(new.AccountName)
+        and Year = substr(new.TranDate, 1, 4);
+end;
+
+create trigger TransactionsMasterAdded after insert on TransactionsMaster begin
+    insert into AccountYearEntries values (new.CompanyId, new.TranDate, new.DAccountName, 1, -new.Amount);
+    insert into AccountYearEntries values (new.CompanyId, new.TranDate, new.CAccountName, 1, new.Amount);
+end;
+create trigger TransactionsMasterChanged
+after update of CompanyId, TranDate, DAccountName, CAccountName, Amount on TransactionsMaster begin
+    insert into AccountYearEntries values (old.CompanyId, old.TranDate, old.DAccountName, -1, old.Amount);
+    insert into AccountYearEntries values (old.CompanyId, old.TranDate, old.CAccountName, -1, -old.Amount);
+    insert into AccountYearEntries values (new.CompanyId, new.TranDate, new.DAccountName, 1, -new.Amount);
+    insert into AccountYearEntries values (new.CompanyId, new.TranDate, new.CAccountName, 1, new.Amount);
+end;
+create trigger TransactionsMasterRemoved after delete on TransactionsMaster begin
+    insert into AccountYearEntries values (old.CompanyId, old.TranDate, old.DAccountName, -1, old.Amount);
+    insert into AccountYearEntries values (old.CompanyId, old.TranDate, old.CAccountName, -1, -old.Amount);
+end;
+
 
 -- === Year-old copies =====================================================================================
 

@@ -10,8 +10,8 @@ AmountsUpTo::AmountsUpTo(QStringView table, const QDate& day, const SqlText& mem
     const QDate yearBegins(day.year(), 1, 1);
     const SqlText ofMembers = Sql(u" CompanyId=", gAppState.gCompanyId, u" and MemberNo in (", members, u")");
     Add(Sql(u"select MemberNo,sum(Amount) as Total from YearSums where Entries=", Quoted(table), u" and",
-        ofMembers, u" and Year<", Quoted(QString::number(day.year())),
-        isAll ? SqlText() : Sql(u" and Deposit=0"), u" group by MemberNo"));
+        ofMembers, u" and Year<", Quoted(day.toString(u"yyyy")), isAll ? SqlText() : Sql(u" and Deposit=0"),
+        u" group by MemberNo"));
     Add(Sql(u"select MemberNo,sum(Amount) as Total from ", table, u" where", ofMembers, u" and TranDate>=",
         SqlDay(yearBegins), u" and TranDate<=", SqlDay(day), isAll ? SqlText() : ButDeposits(),
         u" group by MemberNo"));

@@ -78,18 +78,33 @@ void Ledger::Open()
 // The opening of the first day; the side of the year's opening stands if nothing happened before.
 void Ledger::BringForward(StagingProgress& progress)
 {
+    const bool hasYears = TakeYears();
+    const QDate yearBegins(m_wanted.from.year(), 1, 1);
     std::vector<Posting> before;
-    Read(Sql(u"TranDate<", SqlDay(m_wanted.from), u" order by TranDate,TranId"),
+    Read(Sql(u"TranDate>=", SqlDay(yearBegins), u" And TranDate<", SqlDay(m_wanted.from),
+             u" order by TranDate,TranId"),
         [&](const Recordset& row) { before.push_back(PostingOf(row)); });
     progress.Begin(static_cast<int>(before.size()));
     for (const Posting& posting : before) {
         Take(posting);
         progress.Step();
     }
-    if (!before.empty())
+    if (hasYears || !before.empty())
         m_side = Side();
     m_debits = Side() == DebitSide ? WithoutSign(m_balance) : Currency();
     m_credits = Side() == CreditSide ? m_balance : Currency();
+}
+
+// The whole years before that of the first day, whose sums the engine keeps: so the opening costs what its
+// year costs, however old the society is. Returns whether anything happened in them.
+bool Ledger::TakeYears()
+{
+    const Recordset years(gCn,
+        Sql(u"Select sum(Entries) as Entries,sum(Amount) as Amount from AccountYearSums where CompanyId=",
+            gAppState.gCompanyId, u" And AccountName=", Quoted(m_wanted.name), u" And Year<",
+            Quoted(m_wanted.from.toString(u"yyyy"))));
+    m_balance += Currency(years[u"Amount"].Number());
+    return years[u"Entries"].Number() > 0;
 }
 
 void Ledger::StageEntries(const Entries& entries, StagingProgress& progress)

@@ -59,6 +59,7 @@ private:
 
     void Open();
     void BringForward(StagingProgress& progress);
+    bool TakeYears();
     void StageEntries(const Entries& entries, StagingProgress& progress);
     void BeginDay(const QDate& day);
     Line Take(const Posting& posting);

@@ -339,6 +339,16 @@ void PaymentYear::ExpectSumsOfYears()
         sums[QString("%1 of %2 in %3, %4")
                  .arg(row[u"Entries"].Text(), row[u"MemberNo"].Text(), row[u"Year"].Text(),
                      row[u"Deposit"].Text())] -= row[u"Amount"].Number();
+    for (Recordset row(gCn, QStringLiteral("select * from TransactionsMaster")); !row.Eof(); row.MoveNext()) {
+        const int year = row[u"TranDate"].Date().year();
+        sums[QString("account %1 in %2").arg(row[u"DAccountName"].Text()).arg(year)] -=
+            row[u"Amount"].Number();
+        sums[QString("account %1 in %2").arg(row[u"CAccountName"].Text()).arg(year)] +=
+            row[u"Amount"].Number();
+    }
+    for (Recordset row(gCn, QStringLiteral("select * from AccountYearSums")); !row.Eof(); row.MoveNext())
+        sums[QString("account %1 in %2").arg(row[u"AccountName"].Text(), row[u"Year"].Text())] -=
+            row[u"Amount"].Number();
     for (const auto& [year, left] : sums)
         EXPECT_NEAR(left, 0, 0.0001) << year.toStdString();
 }

@@ -73,6 +73,51 @@ TEST_F(LedgerTest, WhatHappenedBeforeTheDaysIsRolledForward)
     EXPECT_EQ(One("select OpeningBalance from AccountsMaster where AccountName='raoK'"), "-1000");
 }
 
+TEST_F(LedgerTest, TheYearsBeforeAreRolledForwardToo)
+{
+    Open(-1000, "D");
+    for (const char* date : {"15/06/2019", "01/01/2024", "31/12/2025", "01/01/2026", "31/03/2026"})
+        Post({.date = date, .amount = 10.25});
+    Post({.date = "02/02/2020", .debit = "rama", .credit = " raoK ", .amount = 500});
+    Post({.date = "02/02/2020", .debit = "saIta", .credit = "rama", .amount = 70});
+    Post({.date = "02/02/2020", .amount = 40000, .company = 2});
+    Post({.date = "01/04/2026", .amount = 100});
+    PrintCash();
+    EXPECT_EQ(Staged(), Lines({"01/04/2026|1|rama|100|0|551.25|D|651.25|D|651.25"}));
+}
+
+TEST_F(LedgerTest, OldYearsThatCameToNoughtReadDebit)
+{
+    Open(0, "C");
+    Post({.date = "10/03/2020", .tranId = 1, .amount = 5});
+    Post({.date = "10/03/2020", .tranId = 2, .debit = "rama", .credit = "raoK", .amount = 5});
+    Post({.amount = 1});
+    PrintCash();
+    EXPECT_EQ(Staged(), Lines({"10/04/2026|1|rama|1|0|0|D|1|D|1"}));
+    Run("delete from TransactionsMaster where TranDate<#01/01/2026#");
+    PrintCash();
+    EXPECT_EQ(Staged(), Lines({"10/04/2026|1|rama|1|0|0|C|1|D|1"}));
+}
+
+TEST_F(LedgerTest, AnOldYearWithTheAccountOnBothSidesOrAChangedEntryIsRolledForwardAsItIs)
+{
+    Post({.date = "10/03/2020", .tranId = 1, .debit = "raoK", .credit = "raoK", .amount = 300});
+    Post({.date = "10/03/2021", .tranId = 2, .amount = 20});
+    Run("update TransactionsMaster set Amount=25.5,TranDate='10/03/2022' where TranId=2");
+    Run("update TransactionsMaster set DAccountName='rama',CAccountName='raoK' where TranId=2");
+    Post({.amount = 1});
+    PrintCash();
+    EXPECT_EQ(Staged(), Lines({"10/04/2026|1|rama|1|0|25.5|C|24.5|C|25.5"}));
+}
+
+TEST_F(LedgerTest, AYearThatWasKeyedWithANoughtInFrontCountsOnce)
+{
+    Post({.date = "10/03/0202", .amount = 7});
+    Post({.date = "10/05/0202", .amount = 1});
+    Print<frmReportCashBook>("C", "01040202{ENTER}30062026{ENTER}%i");
+    EXPECT_EQ(Staged(), Lines({"10/05/0202|1|rama|1|0|7|D|8|D|8"}));
+}
+
 TEST_F(LedgerTest, TheFirstAndTheLastDayBelongToIt)
 {
     for (const char* date : {"31/03/2026", "01/04/2026", "30/04/2026", "01/05/2026"})

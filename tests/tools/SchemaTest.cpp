@@ -68,6 +68,7 @@ const std::vector<Table> Tables{
     {"TransactionsDetails", "CompanyId:i TranDate:d TranId:i MemberNo:i AdvanceType:t Amount:r"},
     {"AdvanceReceipt", "CompanyId:i TranDate:d TranId:i MemberNo:i AdvanceType:t Amount:r"},
     {"YearSums", "Entries:t CompanyId:i MemberNo:i Year:t Deposit:i Amount:r"},
+    {"AccountYearSums", "CompanyId:i AccountName:t Year:t Entries:i Amount:r"},
     {"MilkCollectionsOld",
         "CompanyId:i CollectionDate:d CollectionTime:t CollectionNo:i MemberNo:i MemberName:t "
         "Animal:t Liters:r Fat:r Rate:r Amount:r TranId:i ActualCollectionTime:t SNF:r"},
