@@ -116,6 +116,7 @@ void frmCustomers::DeleteRecord()
 
 void frmCustomers::ComboCustomerName_GotFocus()
 {
+    ComboCustomerName.SetTakesBeginnings(txtCustomerNo.IsEmpty());
     if (Modes.IsModify() || Modes.IsDelete())
         SendKeys(QStringLiteral("%{Down}"));
 }

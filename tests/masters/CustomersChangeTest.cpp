@@ -65,6 +65,33 @@ TEST_F(CustomersChangeTest, ANameCallsUpTheRecordAndAnotherName)
     });
 }
 
+TEST_F(CustomersChangeTest, ANewNameThatBeginsLikeAnothersStaysThatOfItsRecord)
+{
+    Play([](Clerk& clerk) {
+        CallUp(clerk, 1);
+        Type(clerk, "X{ENTER}");
+        EXPECT_EQ(Reads(clerk, "ComboCustomerName"), "X");
+        EXPECT_EQ(Reads(clerk, "txtCustomerNo"), "1");
+        EXPECT_EQ(Reads(clerk, "txtAnimal"), "gaaya");
+        Type(clerk, "+{TAB}X{TAB}");
+        EXPECT_EQ(Reads(clerk, "txtCustomerNo"), "1");
+        Type(clerk, "+{TAB}X{DOWN}{ENTER}");
+        EXPECT_EQ(Reads(clerk, "ComboCustomerName"), "Xyaama") << "picked from the list";
+        EXPECT_EQ(Reads(clerk, "txtCustomerNo"), "2");
+    });
+    EXPECT_FALSE(Failure);
+}
+
+TEST_F(CustomersChangeTest, WithoutANumberTheBeginningOfANameIsEnough)
+{
+    for (const char* keys : {"%d{ENTER}X{ENTER}", "%k{ENTER}X{ENTER}"})
+        Play([keys](Clerk& clerk) {
+            Type(clerk, keys);
+            EXPECT_EQ(Reads(clerk, "ComboCustomerName"), "Xyaama") << keys;
+            EXPECT_EQ(Reads(clerk, "txtCustomerNo"), "2") << keys;
+        });
+}
+
 TEST_F(CustomersChangeTest, OfTwoCustomersOfOneNameTheOneWhoseNumberWasTypedStays)
 {
     AddCustomer(12, "rama", "mhOsa");

@@ -158,7 +158,7 @@ bool NameCombo::KeyPress(const QKeyEvent& key)
         return true;
     }
     DropDown(true);
-    const int row = m_list.CurrentRow();
+    const int row = m_list.CurrentRow() >= 0 ? m_list.CurrentRow() : MatchOf(Text());
     // From a picked name to its neighbour. If the highlighted name only begins with the text, it is taken
     // first.
     const int wanted = row >= 0 && m_rows[row].name != Text() ? row : row + (down ? 1 : -1);
@@ -229,7 +229,13 @@ void NameCombo::ShowMatch()
 {
     const int row = m_list.CurrentRow();
     const bool stays = row >= 0 && m_rows[row].name == Text() && MayMean(m_rows[row].number);
-    m_list.SetCurrentRow(stays ? row : MatchOf(Text()));
+    m_list.SetCurrentRow(stays ? row : HighlightOf(Text()));
+}
+
+int NameCombo::HighlightOf(const QString& stored) const
+{
+    const int row = MatchOf(stored);
+    return m_takesBeginnings || (row >= 0 && m_rows[row].name == stored) ? row : -1;
 }
 
 // The row with this name (if there are several, the one with the picked number), or else the first that

@@ -40,6 +40,11 @@ public:
     QStringList Items() const;
     const std::vector<Entry>& Names() const { return m_given; }
 
+    // If off, the open list highlights only a name that was typed whole or picked by Down, Up or the mouse,
+    // and Enter leaves the beginning of one as it was typed: where the name of a record is changed, it may
+    // begin like another's.
+    void SetTakesBeginnings(bool taken) { m_takesBeginnings = taken; }
+
     bool IsDroppedDown() const { return m_list.IsOpen(); }
     void DropDown(bool open);
 
@@ -70,6 +75,7 @@ private:
     void Take(int row);
     void Pick(int row);
     int MatchOf(const QString& stored) const;
+    int HighlightOf(const QString& stored) const;
     void ShowMatch();
 
     std::vector<Entry> m_given;
@@ -77,6 +83,7 @@ private:
     QStringList m_readings; // the readings of m_rows
     QSet<std::pair<QString, QString>> m_numbered; // name and number of the rows that have a number
     bool m_byAlphabet = false;
+    bool m_takesBeginnings = true;
     QString m_picked; // the number of the row that was picked
     DropList m_list;
 };
