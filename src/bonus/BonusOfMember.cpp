@@ -80,21 +80,33 @@ void BonusOfMember::txtMemberNo_LostFocus()
                                     : Plain(u"या नंबरचा मेम्बर या बोनसमध्ये नाही    Esc : बाहेर"));
 }
 
+SqlText BonusOfMember::RowOfNumber() const
+{
+    return Sql(AllRows, u" Where MemberNo=", txtMemberNo.Value());
+}
+
 bool BonusOfMember::ShowRowOfNumber()
 {
-    const Recordset row(gCn, Sql(AllRows, u" Where MemberNo=", txtMemberNo.Value()));
+    const Recordset row(gCn, RowOfNumber());
     if (!row.Eof())
         Show(row);
     return !row.Eof();
 }
 
-// A name that is nobody's gives way to that of the number.
+void BonusOfMember::ShowNameOfNumber()
+{
+    const Recordset row(gCn, RowOfNumber());
+    if (!row.Eof())
+        cmbMemberName.SetEntry({row[u"MemberName"].Text(), row[u"MemberNo"].Text()});
+}
+
+// A name that is nobody's gives way to that of the number; what was corrected stays.
 void BonusOfMember::cmbMemberName_LostFocus()
 {
     const Recordset row = RowOfName(AllRows.toString(), u"MemberName", cmbMemberName.Text(),
         [this](const Recordset& one) { return cmbMemberName.MayMean(one[u"MemberNo"].Text()); });
     if (row.Eof())
-        ShowRowOfNumber();
+        ShowNameOfNumber();
     else if (row[u"MemberNo"].Number() != txtMemberNo.Value())
         Show(row);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/database/Sql.h"
 #include "platform/forms/NameCombo.h"
 #include "society/Fields.h"
 
@@ -55,7 +56,9 @@ private:
     void txtAdvance_LostFocus();
     void txtPreviousThev_LostFocus();
 
+    SqlText RowOfNumber() const;
     bool ShowRowOfNumber();
+    void ShowNameOfNumber();
     void Show(const Recordset& row);
     void Recalculate();
 

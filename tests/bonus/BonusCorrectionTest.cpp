@@ -92,6 +92,17 @@ TEST_F(BonusCorrectionTest, AMemberIsCalledUpByNameAndAForeignNameGivesWay)
     });
 }
 
+TEST_F(BonusCorrectionTest, AForeignNameTakesNoCorrectionAway)
+{
+    AfterTheRun([](Clerk& clerk) {
+        Type(clerk, "5{ENTER}{ENTER}10.5{ENTER}+{TAB}+{TAB}");
+        EXPECT_EQ(Focus(clerk), "cmbMemberName");
+        Type(clerk, "xyz{ENTER}");
+        EXPECT_EQ(Reads(clerk, "cmbMemberName"), "rama");
+        EXPECT_EQ(Reads(clerk, "txtPreviousCowLiters"), "10.500");
+    });
+}
+
 TEST_F(BonusCorrectionTest, AMemberWhoseNameChangedSinceTheRunKeepsItsRow)
 {
     AfterTheRun([this](Clerk& clerk) {

@@ -101,6 +101,16 @@ TEST_F(BonusQuestionsTest, TheFirstAccountIsWantedAndTheLastOneIsTheHighestByIts
     EXPECT_FALSE(Failure);
 }
 
+TEST_F(BonusQuestionsTest, TheHighestAccountIsThatOfAllCompanies)
+{
+    Run("insert into MembersMaster(CompanyId,MemberNo,MemberName) values(2,77,'maaQava')");
+    Play([](Clerk& clerk) {
+        Type(clerk, "01042026{ENTER}30042026{ENTER}5{ENTER}{ENTER}");
+        EXPECT_EQ(Reads(clerk, "txtToAcNo"), "77");
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(BonusQuestionsTest, WithoutAnyMemberTheLastAccountStaysNoughtAndNothingIsBuilt)
 {
     Run("delete * from MembersMaster");
