@@ -115,6 +115,25 @@ TEST_F(SaleReceiptTest, TheSocietysOwnMeasureStandsOnItsHalf)
         EXPECT_EQ(all.count(part), 1) << part << ' ' << all.toStdString();
 }
 
+TEST_F(SaleReceiptTest, ASnfOrAFatOfItsOwnIsAMeasureToo)
+{
+    PrintOnPaper();
+    Wish("saovh va sËIna");
+    for (const auto& [keys, figure] : {std::pair("{ENTER}{ENTER}{ENTER}{ENTER}8.5{ENTER}", "8.50"),
+             {"{ENTER}{ENTER}4.15{ENTER}{ENTER}{ENTER}", "4.15"}}) {
+        Window.Shown.clear();
+        InTheMorning([keys = keys](Clerk& clerk) {
+            Type(clerk, "{ENTER}saMGa{ENTER}1{ENTER}10{F9}10");
+            Type(clerk, keys);
+            Type(clerk, "{ENTER}4{ENTER}{ENTER}{ENTER}{ENTER}");
+        });
+        ASSERT_FALSE(Failure) << Failure->Text().toStdString();
+        const QString all = ShownTexts();
+        EXPECT_EQ(all.count("आपले मोजमाप"), 1) << keys;
+        EXPECT_EQ(all.count(figure), 1) << all.toStdString();
+    }
+}
+
 TEST_F(SaleReceiptTest, APrinterThatRefusesIsToldAndTheSaleIsInTheBooks)
 {
     Printer.Answer.fault = "no paper";
