@@ -62,6 +62,7 @@ frmMilkSales::frmMilkSales()
 {
     When(maskDate.GotFocus, &frmMilkSales::maskDate_GotFocus);
     When(txtTime.GotFocus, &frmMilkSales::txtTime_GotFocus);
+    When(txtLiters.GotFocus, &frmMilkSales::txtLiters_GotFocus);
     When(txtRate.GotFocus, &frmMilkSales::txtRate_GotFocus);
     When(cmdGo.LostFocus, &frmMilkSales::cmdGo_LostFocus);
     maskDate.KeepForMending();
@@ -256,6 +257,11 @@ bool frmMilkSales::TakeCustomer()
 
 // Milk
 
+void frmMilkSales::txtLiters_GotFocus()
+{
+    LitersBefore = txtLiters.Value();
+}
+
 void frmMilkSales::txtLiters_LostFocus()
 {
     txtLiters.Reformat();
@@ -264,7 +270,7 @@ void frmMilkSales::txtLiters_LostFocus()
         return;
     }
     FrameOurLiters.FollowLitres();
-    if (txtRate.Value() != 0)
+    if (txtRate.Value() != 0 && txtLiters.Value() != LitersBefore)
         ShowAmount();
 }
 
@@ -401,7 +407,7 @@ void frmMilkSales::FindBuyer(Sale& sale) const
 void frmMilkSales::cmdGo_LostFocus()
 {
     const double rate = txtRate.Value();
-    if (!IsSteppingBack() && (rate == 0 || rate > HighestRate))
+    if (rate == 0 || rate > HighestRate)
         txtSalesNo.SetFocus();
 }
 

@@ -33,6 +33,7 @@ private:
     DaySummary Summary{this};
     SaleReceipt Receipt;
     std::optional<Sale> Stored; // the sale of the books that the fields show
+    double LitersBefore = 0; // when the focus came to them
     bool IsRateRefused = false; // the focus was just kept in the rate, and no other is proposed
 
     void Load() override;
@@ -44,6 +45,7 @@ private:
     void txtTime_LostFocus();
     void txtSalesNo_LostFocus();
     void ComboCustName_LostFocus();
+    void txtLiters_GotFocus();
     void txtLiters_LostFocus();
     void txtFat_LostFocus();
     void txtRate_GotFocus();

@@ -40,6 +40,17 @@ TEST_F(CustomerLitresTest, AChangeTakesTheOpeningAndTheSumToTwoDecimals)
     EXPECT_EQ(Closing(1), "120|120");
 }
 
+TEST_F(CustomerLitresTest, AChangeTakesTheOpeningOfTheFirstCustomerOfTheNameInWhicheverCompany)
+{
+    AddCustomer(7, "DoarI", "saMGa ivaËI", 2);
+    Run("update CustomersMaster set CowOpeningLits=55 where CustomerNo=7");
+    AddCustomer(3, "DoarI", "saMGa ivaËI", 1);
+    AddSale(1, "sakaL", "saMGa ivaËI", 3, "DoarI", "gaaya", 10);
+    CustomerLitres::Recompute("DoarI", u"gaaya");
+    EXPECT_EQ(Closing(3, 1), "65|120");
+    EXPECT_EQ(Closing(7, 2), "120|120");
+}
+
 TEST_F(CustomerLitresTest, ACustomerWhoIsntThereChangesNothing)
 {
     const QStringList customers = Rows("select * from CustomersMaster");

@@ -421,7 +421,7 @@ TEST_F(MilkSalesFieldsTest, LeavingTheButtonWithoutARateLeadsToTheNumber)
         EXPECT_EQ(Focus(clerk), "txtSalesNo");
         clerk.Do([&] { clerk.Top().Find(u"cmdGo")->SetFocus(); });
         Type(clerk, "+{TAB}");
-        EXPECT_EQ(Focus(clerk), "txtAmount") << "the way back is never led forward";
+        EXPECT_EQ(Focus(clerk), "txtSalesNo") << "which lies behind the button, too";
     });
     EXPECT_FALSE(Failure);
 }

@@ -23,6 +23,18 @@ qint64 Whole(double value, double unit)
     return std::llround(value * unit);
 }
 
+// Books from elsewhere may hold more decimals than a paisa has. Each amount counts to the ten thousandth.
+TEST_F(MilkSalesReckoningTest, TheSumsOfAShiftAreSumsOfCurrency)
+{
+    for (int sale = 1; sale <= 6; ++sale)
+        AddSale(sale, "sakaL", "raoK", 0, "raoK", "gaaya", 1);
+    Run("update MilkSales set Amount=0.00084");
+    InTheMorning([](Clerk& clerk) { EXPECT_EQ(Label(clerk, "lblRokhCowSaleAmt"), "0.00") << "not 0.00504"; });
+    Run("update MilkSales set Amount=0.00086");
+    InTheMorning([](Clerk& clerk) { EXPECT_EQ(Label(clerk, "lblRokhCowSaleAmt"), "0.01") << "6 x 0.0009"; });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(MilkSalesReckoningTest, TheFiguresOfAShiftComeOutOfTheRawRowsAgain)
 {
     std::mt19937 dice(20260415);

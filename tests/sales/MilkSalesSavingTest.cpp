@@ -151,6 +151,25 @@ TEST_F(MilkSalesSavingTest, ATypedAmountIsKept)
     EXPECT_EQ(Books(), QStringList("1|saMGa ivaËI|2|saMGa|gaaya|10|4|48|479.5"));
 }
 
+TEST_F(MilkSalesSavingTest, ATypedAmountStaysWhenTheLitresAreOnlyLookedAt)
+{
+    InTheMorning([this](Clerk& clerk) {
+        Type(clerk, "{ENTER}saMGa{ENTER}1{ENTER}10{ENTER}4{ENTER}{ENTER}479.5{ENTER}{ENTER}{UP}");
+        clerk.Do([&] { clerk.Top().Find(u"txtLiters")->SetFocus(); });
+        Type(clerk, "{F9}10.5{ENTER}{ENTER}4{ENTER}30{ENTER}8.5{ENTER}");
+        EXPECT_EQ(Focus(clerk), "txtLiters");
+        Press(clerk, "cmdGo");
+        EXPECT_EQ(Books(), QStringList("1|saMGa ivaËI|2|saMGa|gaaya|10|4|48|479.5"));
+        EXPECT_EQ(Ours(), QStringList("1|10.5|8.5|4|30|315"));
+        Type(clerk, "{UP}");
+        clerk.Do([&] { clerk.Top().Find(u"txtLiters")->SetFocus(); });
+        Type(clerk, "11");
+        Press(clerk, "cmdGo");
+        EXPECT_EQ(Books(), QStringList("1|saMGa ivaËI|2|saMGa|gaaya|11|4|48|528"));
+    });
+    EXPECT_FALSE(Failure);
+}
+
 TEST_F(MilkSalesSavingTest, OfTwoCompaniesCustomersOfOneNameThePickedOneIsMeant)
 {
     AddCustomer(7, "saMGa", "sqaainak ivaËI", 2);

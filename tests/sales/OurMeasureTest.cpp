@@ -105,6 +105,40 @@ TEST_F(OurMeasureTest, TheTickWorksItOutFromTheCollectionOfDayShiftAndAnimal)
     });
 }
 
+TEST_F(OurMeasureTest, TheTickTakesCollectionAndChartOfTheKeyedDayAndTheAnimal)
+{
+    for (const auto& [day, chart, cow, buffalo] :
+        {std::tuple("14", "Fat140426", 31, 51), std::tuple("15", "Fat150426", 32, 52)}) {
+        gCn.RunScript(QString("create table %1(Fat TEXT,CowRate TEXT,BuffRate TEXT);"
+                              "insert into %1 values('4.1','%2','%3');")
+                          .arg(chart)
+                          .arg(cow)
+                          .arg(buffalo));
+        Run(QString("insert into FatDates(FromDate,FatFileName) values('%1/04/2026','%2')").arg(day, chart));
+        for (const auto& [number, animal] : {std::pair("1", "gaaya"), std::pair("2", "mhOsa")})
+            Run(QString("insert into MilkCollections(CompanyId,CollectionDate,CollectionTime,CollectionNo,"
+                        "Animal,Liters,Fat) values(1,'%1/04/2026','sakaL',%2,'%3',%2%1,4.1)")
+                    .arg(day, number, animal));
+    }
+    struct Case {
+        const char* keys;
+        const char* liters;
+        const char* rate;
+    };
+    for (const Case& c : {Case{"14042026{ENTER}1{ENTER}{ENTER}saMGa{ENTER}1", "114.000", "31.00"},
+             {"14042026{ENTER}1{ENTER}{ENTER}saMGa{ENTER}2", "214.000", "51.00"},
+             {"{ENTER}1{ENTER}{ENTER}saMGa{ENTER}1", "115.000", "32.00"},
+             {"{ENTER}1{ENTER}{ENTER}saMGa{ENTER}2", "215.000", "52.00"}}) {
+        Play([&](Clerk& clerk) {
+            Type(clerk, c.keys);
+            Type(clerk, "{ENTER}10{F9}{ENTER} ");
+            EXPECT_EQ(Reads(clerk, "txtOurLiters"), c.liters) << c.keys;
+            EXPECT_EQ(Reads(clerk, "txtOurRate"), c.rate) << c.keys;
+        });
+        EXPECT_FALSE(Failure);
+    }
+}
+
 TEST_F(OurMeasureTest, WithoutACollectionItIsToldInOneSentenceAndTheFiguresAreNought)
 {
     AddDelivery(1, "sakaL", "gaaya", 0, 4.5);
