@@ -398,7 +398,13 @@ create table BonusPayments (
 );
 
 
--- === Stored view =========================================================================================
+-- === Stored views ========================================================================================
+
+-- The account of the ledger that was staged last, if it is among the accounts.
+create view LedgerAccount as
+select AccountsMaster.AccountName as AccountName
+from (select LedgerName, CompanyId from LedgersMaster limit 1) as Ledger, AccountsMaster
+where AccountsMaster.CompanyId = Ledger.CompanyId and AccountsMaster.AccountName = Ledger.LedgerName;
 
 -- The one row of the sample bill, in the shape of MilkReceipt: a delivery on the first day of the year.
 create view MRView as

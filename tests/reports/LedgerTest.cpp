@@ -251,6 +251,34 @@ TEST_F(LedgerTest, AnAccountWithoutARowHasAnEmptyOpeningAndTheReportSaysSo)
     EXPECT_FALSE(ReportTexts().contains(sentence));
 }
 
+TEST_F(LedgerTest, ThatAnAccountHasNoRowIsSaidWhateverHappenedInIt)
+{
+    const QString sentence = "या नावाचे खाते खात्यांच्या यादीत नाही; आरंभीची शिल्लक धरलेली नाही.";
+    Open(-70, "");
+    Post({.amount = 5});
+    PrintCash();
+    EXPECT_FALSE(ReportTexts().contains(sentence)) << "an opening without a side is counted";
+    Run("delete * from AccountsMaster");
+    AddAccount("raoK", "Cash", "", 9, "D", 2);
+    PrintCash();
+    EXPECT_TRUE(ReportTexts().contains(sentence)) << "an account of another company";
+    Post({.date = "31/03/2026", .amount = 7});
+    PrintCash();
+    EXPECT_TRUE(ReportTexts().contains(sentence)) << "something happened before";
+    Run("delete * from TransactionsMaster where TranDate=#04/10/2026#");
+    PrintCash();
+    EXPECT_TRUE(ReportTexts().contains(sentence)) << "the balance alone";
+    Post({.date = "09/04/2026", .amount = 0});
+    Post({.amount = 5});
+    PrintCash();
+    EXPECT_TRUE(ReportTexts().contains(sentence)) << "behind a transaction of nought";
+    Print<frmReportCashBook>("B", "01042026{ENTER}30042026{ENTER}raoK{ENTER}%i");
+    EXPECT_TRUE(ReportTexts().contains(sentence)) << "the bank book";
+    AddAccount("raoK", "Bank", "");
+    Print<frmReportCashBook>("B", "01042026{ENTER}30042026{ENTER}raoK{ENTER}%i");
+    EXPECT_FALSE(ReportTexts().contains(sentence));
+}
+
 TEST_F(LedgerTest, NamesAreComparedWithoutTheBlanksAtTheirEnds)
 {
     Post({.tranId = 1, .debit = " raoK ", .credit = "rama ", .amount = 30});
