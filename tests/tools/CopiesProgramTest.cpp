@@ -1,3 +1,5 @@
+#include "platform/database/Connection.h"
+#include "platform/database/DataSource.h"
 #include "platform/shell/SingleInstance.h"
 #include "tests/tools/SetupRun.h"
 #include "tests/tools/SetupSupport.h"
@@ -145,6 +147,28 @@ TEST_F(CopiesProgramTest, BooksThatCanNotBeOpenedAreKeptWithTheirLog)
         for (const QString& name : Kept())
             QFile::remove(backup.filePath(name));
     }
+}
+
+// The reader keeps the log from being folded.
+TEST_F(CopiesProgramTest, SoundBooksThatAnotherProgramReadsAreNotReplaced)
+{
+    ASSERT_TRUE(QFile::copy(Books(), Copy()));
+    DataSource::Register("TestReader", Books());
+    Connection reader;
+    reader.Open("dsn=TestReader;pwd=secret");
+    AddMember();
+    reader.RunScript("begin; select count(*) from MembersMaster;");
+    const QByteArray log = FileContent(Books() + "-wal");
+    ASSERT_FALSE(log.isEmpty());
+    ExpectRefusal(Restore(Copy()), 1, u"another program has the books open");
+    EXPECT_TRUE(FileContent(Books() + "-wal").startsWith(log));
+    EXPECT_TRUE(QFile::exists(Books() + "-shm"));
+    EXPECT_EQ(Kept(), QStringList());
+    reader.RunScript("commit");
+    reader.Close();
+    EXPECT_EQ(Members(), "1");
+    EXPECT_EQ(Restore(Copy()).exitCode, 0) << "when the reader has gone";
+    EXPECT_EQ(Members(), "0");
 }
 
 TEST_F(CopiesProgramTest, TheBooksAreNotRestoredFromThemselves)

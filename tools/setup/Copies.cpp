@@ -31,7 +31,6 @@ BooksContent RestoreBooks(const QString& folder, const QString& copy, const QDat
     plan.books = QDir(folder).filePath(DatabaseFileName.toString());
     plan.keptFolder = QDir(folder).filePath(BackupFolderName.toString());
     plan.now = now;
-    plan.replacesDamagedBooks = true;
-    FoldLog(folder);
+    plan.replacesDamagedBooks = !FoldLog(folder);
     return BooksCopies::Restore(plan);
 }

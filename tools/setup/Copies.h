@@ -13,5 +13,5 @@ bool HasOwnLog(const QString& copy);
 
 // Brings a copy back over the books in a folder, with the password that lies there, and tells what lies in
 // it. The books that are replaced are kept in the folder of the backups; those that can't be opened with
-// their log.
+// their log. Books that another program reads, so that their log stays, are not replaced: a RunTimeError.
 BooksContent RestoreBooks(const QString& folder, const QString& copy, const QDateTime& now);

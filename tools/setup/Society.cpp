@@ -289,17 +289,20 @@ void CopyFile(const QString& from, const QString& to, QStringView name)
 
 // After a power cut the last changes may be in the log beside the database; they are written into it, so that
 // one file is kept.
-void FoldLog(const QString& folder)
+bool FoldLog(const QString& folder)
 {
     const QString database = FileIn(folder, DatabaseFileName);
-    if (!QFileInfo::exists(database) || !IsFilled(database % Log))
-        return;
+    if (!QFileInfo::exists(database))
+        return false;
+    if (!IsFilled(database % Log))
+        return true;
     const std::optional<QString> password = OldPassword(folder);
     Connection old;
     if (!password || !Opens(old, database, *password))
-        return;
+        return false;
     old.RunScript(QStringLiteral("pragma wal_checkpoint(truncate);"));
     old.Close();
+    return true;
 }
 
 QString WhyRefused(const SocietyPlan& plan)

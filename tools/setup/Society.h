@@ -19,8 +19,9 @@ inline constexpr QStringView DatabaseFileName = u"Morvelta.mdb";
 inline constexpr QStringView PasswordFileName = u"PWD.TXT";
 inline constexpr QStringView BackupFolderName = u"Backup";
 
-// Writes the log beside the books in a folder into them, if they can be opened.
-void FoldLog(const QString& folder);
+// Writes the log beside the books in a folder into them. What another program that reads them holds back
+// stays in the log. Returns false if the books can't be opened, so that nobody can write it into them.
+bool FoldLog(const QString& folder);
 
 // The reason why the plan is refused, in one sentence; empty if it is accepted.
 QString WhyRefused(const SocietyPlan& plan);
