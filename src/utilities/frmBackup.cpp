@@ -58,9 +58,14 @@ QString PlainName()
     return InFolder(BooksName);
 }
 
+QString YearFile(const QString& year, int company)
+{
+    return u'Y' + year + u'C' + QString::number(company) + u".mdb";
+}
+
 QString YearFile()
 {
-    return u'Y' + gAppState.gAccountingYear + u'C' + QString::number(gAppState.gCompanyId) + u".mdb";
+    return YearFile(gAppState.gAccountingYear, gAppState.gCompanyId);
 }
 
 QString YearName()
@@ -97,6 +102,18 @@ void ReadCompany()
         return;
     gAppState.gCompanyId = static_cast<int>(company[u"CompanyId"].Number());
     gAppState.gAccountingYear = company[u"AccountingYear"].Text();
+}
+
+// What the next restore looks for: it reads the company from the books. While they are closed, nobody has
+// changed it since the copy that closed them.
+QString NextYearFile()
+{
+    if (!gCn.IsOpen())
+        return YearFile();
+    const Recordset company(gCn, u"SELECT * FROM CompanySelected");
+    return company.Eof()
+        ? YearFile()
+        : YearFile(company[u"AccountingYear"].Text(), static_cast<int>(company[u"CompanyId"].Number()));
 }
 
 }
@@ -157,7 +174,7 @@ void frmBackup::Dir1_Change()
     gAppState.gBackupFolder = Dir1.Folder();
     RefreshLists();
     Text1.SetText(DatedName());
-    cmdRestore.SetGuide(Plain(QString(u"Enter : " + YearFile() + u" ही फाइल परत आणा")));
+    ShowWhatARestoreBrings();
 }
 
 void frmBackup::Drive1_Change()
@@ -260,7 +277,13 @@ void frmBackup::cmdRestore_Click()
     ShowContent(u"परत आणलेल्या वहीत", BooksCopies::Restore(plan, ShownProgress()));
     EndCopy();
     ReopenBooks();
+    ShowWhatARestoreBrings();
     RefreshLists();
+}
+
+void frmBackup::ShowWhatARestoreBrings()
+{
+    cmdRestore.SetGuide(Plain(QString(u"Enter : " + NextYearFile() + u" ही फाइल परत आणा")));
 }
 
 // Around a copy
@@ -272,6 +295,7 @@ void frmBackup::BeginCopy()
     Animation1.Play();
     m_progress.Begin(percents);
     ReadCompany();
+    ShowWhatARestoreBrings();
     CloseBooks();
 }
 

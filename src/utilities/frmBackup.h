@@ -50,6 +50,7 @@ private:
     bool IsHistory() const;
     bool CheckFileName();
     QString HistoryTarget() const;
+    void ShowWhatARestoreBrings(); // in the guide of its button
 
     // Around a copy
     void BeginCopy();

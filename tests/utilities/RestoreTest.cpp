@@ -1,5 +1,6 @@
 #include "tests/utilities/BackupTest.h"
 
+#include "core/start/BooksOpening.h"
 #include "core/start/MdlAccounts.h"
 
 #include <QDir>
@@ -19,6 +20,13 @@ protected:
     }
 
     static void Restore(Clerk& clerk) { Press(clerk, "cmdRestore"); }
+
+    // What the guide line says at the button.
+    static std::string RestoreGuide(Clerk& clerk)
+    {
+        clerk.Do([&] { clerk.Top().Find(u"cmdRestore")->SetFocus(); });
+        return Label(clerk, "lblGuide");
+    }
 
     const QString Replaced = "Morvelta Before 15 April 2026 060500.mdb";
 };
@@ -147,8 +155,37 @@ TEST_F(RestoreTest, TheYearOfTheRestoredBooksIsReadAtTheNextStartOrBackup)
 TEST_F(RestoreTest, TheGuideSaysWhichFileIsBroughtBack)
 {
     OnBackup([](Clerk& clerk) {
-        clerk.Do([&] { clerk.Top().Find(u"cmdRestore")->SetFocus(); });
-        EXPECT_EQ(Label(clerk, "lblGuide"), "Enter : Y2026-2027C1.mdb ही फाइल परत आणा");
+        EXPECT_EQ(RestoreGuide(clerk), "Enter : Y2026-2027C1.mdb ही फाइल परत आणा");
+        Press(clerk, "cmdBackup");
+        OpenFolder(clerk, "C:\\");
+        EXPECT_EQ(RestoreGuide(clerk), "Enter : Y2026-2027C1.mdb ही फाइल परत आणा") << "with the books closed";
+    });
+}
+
+// The press reads the company anew, so that is what the guide goes by.
+TEST_F(RestoreTest, TheGuideNamesTheFileOfTheBooksAlsoWhenTheirYearIsAnother)
+{
+    OnBackup([this](Clerk& clerk) {
+        clerk.Do([this] { Run("update CompanySelected set CompanyId=7,AccountingYear='2030-2031'"); });
+        Press(clerk, "cmdBackup");
+        EXPECT_EQ(RestoreGuide(clerk), "Enter : Y2030-2031C7.mdb ही फाइल परत आणा");
+    });
+    ReopenBooks();
+    gAppState.gAccountingYear = "2020-2021";
+    OnBackup([](Clerk& clerk) {
+        EXPECT_EQ(RestoreGuide(clerk), "Enter : Y2030-2031C7.mdb ही फाइल परत आणा") << "before any press";
+    });
+}
+
+TEST_F(RestoreTest, AfterBooksOfAnotherYearCameBackTheGuideNamesTheirFile)
+{
+    Run("update CompanySelected set AccountingYear='2025-2026'");
+    KeepYear();
+    Run("update CompanySelected set AccountingYear='2026-2027'");
+    OnBackup([](Clerk& clerk) {
+        EXPECT_EQ(RestoreGuide(clerk), "Enter : Y2026-2027C1.mdb ही फाइल परत आणा");
+        Restore(clerk);
+        EXPECT_EQ(RestoreGuide(clerk), "Enter : Y2025-2026C1.mdb ही फाइल परत आणा");
     });
 }
 
