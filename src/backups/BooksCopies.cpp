@@ -2,6 +2,7 @@
 
 #include "platform/database/CheckedNote.h"
 #include "platform/database/ClosedFile.h"
+#include "platform/database/Disk.h"
 #include "platform/database/SafeCopy.h"
 #include "platform/database/WriteAheadLog.h"
 #include "platform/text/RunTimeError.h"
@@ -16,6 +17,7 @@ using BooksCopies::Work;
 
 constexpr QStringView ReplacedBegins = u"Morvelta Before ";
 constexpr QStringView LastNote = u"/LastBackup.txt"; // beside the books: the path of the last backup
+constexpr QStringView Unfinished = u".part"; // behind the name of what is being written
 
 // Without these tables the program can't work, so a file that lacks one isn't books of it.
 constexpr QStringView NeededTables[] = {u"CompanySelected", u"AutoSettings", u"MenuAccessTable",
@@ -150,12 +152,18 @@ void KeepBooks(const RestorePlan& plan)
     Keep(plan.books, kept);
 }
 
-// The last backup may lie on another drive.
+// The last backup may lie on another drive. Until the new note is on the disk the old one stands; a backup
+// that can't be noted is none the worse.
 void NoteLast(const QString& books, const QString& target)
 {
-    QFile note(QFileInfo(books).path() + LastNote);
-    if (note.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        note.write(QFileInfo(target).absoluteFilePath().toUtf8());
+    const QString note = QFileInfo(books).path() + LastNote;
+    QFile made(note + Unfinished);
+    Disk& disk = Disk::Current();
+    const bool isWritten = made.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)
+        && !disk.Write(made, QFileInfo(target).absoluteFilePath().toUtf8());
+    made.close();
+    if (!isWritten || disk.Sync(made.fileName()) || disk.Move(made.fileName(), note))
+        QFile::remove(made.fileName());
 }
 
 QFileInfo LastNoted(const QString& booksFolder)

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <csignal>
 #include <utility>
 #include <vector>
 
@@ -120,7 +121,7 @@ TEST_F(BooksCopiesTest, AFullOrBrokenDiskLeavesTheOlderBackup)
     AddMember();
     FaultyDisk::Reset();
     ASSERT_EQ(FailureOf([&] { BooksCopies::BackUp(Books(), In("Backup/other.mdb"), Password); }), QString());
-    const int renaming = FaultyDisk::Count() - 1;
+    const int renaming = FaultyDisk::Count() - 4; // behind it the folder and the note
     ASSERT_GE(renaming, 3);
     for (int n = 1; n <= renaming; ++n)
         for (const auto fail : {FaultyDisk::FullFrom, FaultyDisk::BrokenFrom}) {
@@ -133,6 +134,71 @@ TEST_F(BooksCopiesTest, AFullOrBrokenDiskLeavesTheOlderBackup)
         }
     EXPECT_EQ(BackUpFailure(), QString());
     EXPECT_TRUE(Bytes(Copy()) == Bytes(Books()));
+}
+
+// A disk that fails at one step of the note where the last backup lies.
+class NotelessDisk final : public Disk {
+public:
+    enum class At { Write, Sync, Move };
+    explicit NotelessDisk(At at) : m_at(at) { Use(this); }
+    ~NotelessDisk() override { Use(nullptr); }
+
+    std::error_code Write(QFile& file, const QByteArray& bytes) override
+    {
+        if (!Fails(At::Write, file.fileName()))
+            return Disk::Write(file, bytes);
+        Disk::Write(file, bytes.left(bytes.size() / 2));
+        return std::make_error_code(std::errc::no_space_on_device);
+    }
+    std::error_code Sync(const QString& path) override
+    {
+        return Fails(At::Sync, path) ? std::make_error_code(std::errc::io_error) : Disk::Sync(path);
+    }
+    std::error_code Move(const QString& from, const QString& to) override
+    {
+        return Fails(At::Move, to) ? std::make_error_code(std::errc::io_error) : Disk::Move(from, to);
+    }
+
+private:
+    bool Fails(At at, const QString& path) const { return at == m_at && path.contains("LastBackup.txt"); }
+
+    At m_at;
+};
+
+TEST_F(BooksCopiesTest, ABackupWhoseNoteCanNotBeWrittenIsMadeAndTheOldNoteStays)
+{
+    const QString note = In("LastBackup.txt");
+    BooksCopies::BackUp(Books(), In("first.mdb"), Password);
+    EXPECT_EQ(Bytes(note), In("first.mdb").toUtf8());
+    for (const auto at : {NotelessDisk::At::Write, NotelessDisk::At::Sync, NotelessDisk::At::Move}) {
+        SCOPED_TRACE(static_cast<int>(at));
+        QFile::remove(In("second.mdb"));
+        const NotelessDisk disk(at);
+        EXPECT_EQ(FailureOf([&] { BooksCopies::BackUp(Books(), In("second.mdb"), Password); }), QString());
+        EXPECT_TRUE(Bytes(In("second.mdb")) == Bytes(Books()));
+        EXPECT_EQ(Bytes(note), In("first.mdb").toUtf8());
+        EXPECT_FALSE(QFile::exists(note + ".part"));
+    }
+}
+
+TEST_F(BooksCopiesTest, AKillWhileTheNoteIsWrittenLeavesTheOldNote)
+{
+    const QString note = In("LastBackup.txt");
+    FaultyDisk::InstallForCopies();
+    FaultyDisk::Reset();
+    BooksCopies::BackUp(Books(), In("first.mdb"), Password);
+    const int all = FaultyDisk::Count();
+    for (int n = 1; n <= all; ++n) {
+        FaultyDisk::Reset();
+        FaultyDisk::KillAt(n);
+        EXPECT_EXIT(
+            BooksCopies::BackUp(Books(), In("second.mdb"), Password), testing::KilledBySignal(SIGKILL), "");
+        EXPECT_EQ(Bytes(note), In("first.mdb").toUtf8()) << n;
+    }
+    FaultyDisk::Reset();
+    BooksCopies::BackUp(Books(), In("second.mdb"), Password);
+    EXPECT_EQ(Bytes(note), In("second.mdb").toUtf8());
+    EXPECT_FALSE(QFile::exists(note + ".part"));
 }
 
 TEST_F(BooksCopiesTest, WhatAKillHasLeftHalfCopiedIsSwept)

@@ -318,7 +318,7 @@ TEST_F(BackupTest, TheAnimationAndTheBarAreSeenWhileItCopiesAndOnlyThen)
         BackUp(clerk);
         EXPECT_FALSE(animation->isVisible());
         EXPECT_FALSE(bar->isVisible());
-        EXPECT_EQ(looks, 2) << "the copy and the folder";
+        EXPECT_EQ(looks, 3) << "the copy, the folder and the note of it";
     });
 }
 
