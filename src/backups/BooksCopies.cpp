@@ -108,15 +108,20 @@ BooksContent Looked(const QString& file, const QString& shown, const QString& or
     return ContentOf(books, rows);
 }
 
-// Removes copies that a kill has left unfinished.
-void Sweep(const QString& folder)
+// Removes what a kill has left unfinished: regular and history copies, kept books, copies of a year (at the
+// root of a drive that isn't trusted with the name of the folder before theirs), books that were coming back,
+// and the note. A copy under a name of the clerk's is left; its next one goes over it. So is what is to be
+// brought back.
+void Sweep(const QString& folder, const QString& wanted = {})
 {
     const QDir there(folder);
     for (const QString& name :
         there.entryList({QStringLiteral("Morvelta*.mdb.part"), QStringLiteral("Morvelta*.mdb-wal.part"),
-                            QStringLiteral("Y*C*.mdb.part")},
+                            QStringLiteral("Y*C*.mdb.part"), QStringLiteral("BackupY*C*.mdb.part"),
+                            QStringLiteral("LastBackup.txt.part")},
             QDir::Files))
-        QFile::remove(there.filePath(name));
+        if (QFileInfo(there.filePath(name)) != QFileInfo(wanted))
+            QFile::remove(there.filePath(name));
 }
 
 QString FreeName(const RestorePlan& plan)
@@ -145,7 +150,6 @@ void KeepBooks(const RestorePlan& plan)
     if (!QFileInfo::exists(plan.books))
         return;
     QDir().mkpath(plan.keptFolder);
-    Sweep(plan.keptFolder);
     const QString kept = FreeName(plan);
     if (HasLog(plan.books))
         Keep(WriteAheadLog::NameFor(plan.books), WriteAheadLog::NameFor(kept));
@@ -179,6 +183,7 @@ BooksContent BooksCopies::BackUp(
 {
     RequireFolded(books);
     Sweep(QFileInfo(target).path());
+    Sweep(QFileInfo(books).path());
     BooksContent content;
     SafeCopy::Copy(
         books, target,
@@ -202,6 +207,8 @@ BooksContent BooksCopies::Restore(const RestorePlan& plan, const Progress& progr
 {
     if (!plan.replacesDamagedBooks)
         RequireFolded(plan.books);
+    Sweep(plan.keptFolder, plan.copy);
+    Sweep(QFileInfo(plan.books).path(), plan.copy);
     BooksContent content;
     SafeCopy::Copy(
         plan.copy, plan.books,

@@ -220,6 +220,54 @@ TEST_F(BooksCopiesTest, WhatAKillHasLeftHalfCopiedIsSwept)
     }
 }
 
+TEST_F(BooksCopiesTest, WhatAKillHasLeftBesideTheBooksIsSwept)
+{
+    const QString copy = In("copy.mdb");
+    for (const bool isRestore : {false, true}) {
+        Put(In("Morvelta.mdb.part"), "half");
+        Put(In("BackupY2026-2027C1.mdb.part"), "half");
+        Put(In("LastBackup.txt.part"), "half");
+        Put(In("yearly.mdb.part"), "under a name of the clerk's");
+        if (isRestore)
+            BooksCopies::Restore(Plan(copy));
+        else
+            BooksCopies::BackUp(Books(), Copy(), Password);
+        EXPECT_EQ(QDir(In({})).entryList({"*.part"}), QStringList("yearly.mdb.part"));
+        ASSERT_TRUE(QFile::exists(copy) || QFile::copy(Copy(), copy));
+    }
+}
+
+// It has the room on the disk that the restore may need.
+TEST_F(BooksCopiesTest, WhatAKillHasLeftIsSweptBeforeARestoreWrites)
+{
+    const QString copy = In("copy.mdb");
+    BooksCopies::BackUp(Books(), copy, Password);
+    Put(In("Backup/Morvelta Before 14 April 2026 183005.mdb.part"), "half");
+    FaultyDisk::InstallForCopies();
+    FaultyDisk::Reset();
+    FaultyDisk::FullFrom(1);
+    EXPECT_TRUE(RestoreFailure(copy).contains("डिस्कवर जागा नाही"));
+    FaultyDisk::Reset();
+    EXPECT_EQ(InBackup(), QStringList());
+}
+
+TEST_F(BooksCopiesTest, AnUnfinishedCopyThatIsToComeBackIsNotSwept)
+{
+    const QString unfinished = In("Backup/Morvelta On 14 April 2026.mdb.part");
+    BooksCopies::BackUp(Books(), unfinished, Password);
+    AddMember();
+    EXPECT_EQ(BooksCopies::Restore(Plan(unfinished)).members, 2);
+    EXPECT_EQ(Members(), 2);
+    EXPECT_TRUE(QFile::exists(unfinished));
+}
+
+TEST_F(BooksCopiesTest, ACopyUnderAnyNameGoesOverItsUnfinishedOne)
+{
+    Put(In("Backup/before the bonus.mdb.part"), "half");
+    BooksCopies::BackUp(Books(), In("Backup/before the bonus.mdb"), Password);
+    EXPECT_EQ(InBackup(), QStringList("before the bonus.mdb"));
+}
+
 TEST_F(BooksCopiesTest, AFolderOfTheReplacedBooksThatIsGoneIsMade)
 {
     const QString copy = In("copy.mdb");
