@@ -9,6 +9,8 @@
 #include "platform/shell/World.h"
 #include "platform/text/Dates.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr QStringView Regular = u"rogyaular"; // रेग्युलर
@@ -72,6 +74,12 @@ QString YearName()
 {
     const QString name = InFolder(YearFile());
     return HasDoubledRoot(name) ? gAppState.gBackupFolder + YearFile() : name;
+}
+
+// A name that the machine would take for a folder that is there: this one or the one above it.
+bool IsOnlyDots(const QString& name)
+{
+    return std::all_of(name.begin(), name.end(), [](QChar c) { return c == u'.' || c.isSpace(); });
 }
 
 // Only a disk that stays, or a folder of the network.
@@ -190,7 +198,7 @@ void frmBackup::mnuFolder_Click()
     if (name.isEmpty())
         return;
     const QString path = HasDoubledRoot(InFolder(name)) ? gAppState.gBackupFolder + name : InFolder(name);
-    if (name.contains(u'/') || name.contains(u'\\') || !Disks().CreateFolder(path)) {
+    if (name.contains(u'/') || name.contains(u'\\') || IsOnlyDots(name) || !Disks().CreateFolder(path)) {
         ShowNotice(Plain(u"हे फोल्डर तयार करता आले नाही. नावात / किंवा \\ नसावे; नाव बदला किंवा दुसरे फोल्डर निवडा."));
         return;
     }

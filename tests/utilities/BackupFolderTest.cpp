@@ -99,6 +99,19 @@ TEST_F(BackupFolderTest, AtADrivesRootTheFolderHasNoSecondBackslash)
     });
 }
 
+TEST_F(BackupFolderTest, AFolderThatIsThereAlreadyIsOnlyOpened)
+{
+    MakeFolder("C:\\Tarvel01\\Vetrolan\\Backup\\milk");
+    Put("C:\\Tarvel01\\Vetrolan\\Backup\\milk\\Morvelta.mdb", "x");
+    TheInputBox.Answers = QStringList{"milk"};
+    OnBackup([](Clerk& clerk) {
+        ChooseCreateFolder(clerk);
+        EXPECT_EQ(OnTop(clerk), "frmBackup");
+        EXPECT_EQ(gAppState.gBackupFolder, "C:\\Tarvel01\\Vetrolan\\Backup\\milk");
+        EXPECT_EQ(Entries(clerk, "File1"), QStringList("Morvelta.mdb"));
+    });
+}
+
 TEST_F(BackupFolderTest, AnUnansweredPromptMakesNothing)
 {
     OnBackup([](Clerk& clerk) {
@@ -111,7 +124,7 @@ TEST_F(BackupFolderTest, AnUnansweredPromptMakesNothing)
 TEST_F(BackupFolderTest, ANameThatCanBeNoFolderIsToldAndNothingIsMade)
 {
     Put("C:\\Tarvel01\\Vetrolan\\Backup\\file", "x");
-    for (const char* name : {"15/04", "a\\b", "..\\..", "file"}) {
+    for (const char* name : {"15/04", "a\\b", "..\\..", "file", ".", "..", "...", " .. ", "  "}) {
         TheInputBox.Answers = QStringList{QString::fromUtf8(name)};
         OnBackup([name](Clerk& clerk) {
             ChooseCreateFolder(clerk);
