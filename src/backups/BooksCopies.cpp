@@ -21,8 +21,9 @@ constexpr QStringView Unfinished = u".part"; // behind the name of what is being
 
 // Without these tables the program can't work, so a file that lacks one isn't books of it.
 constexpr QStringView NeededTables[] = {u"CompanySelected", u"AutoSettings", u"MenuAccessTable",
-    u"MembersMaster", u"CustomersMaster", u"MilkCollections", u"MilkSales", u"MilkPayments",
-    u"TransactionsMaster", u"FatDates"};
+    u"MembersMaster", u"CustomersMaster", u"AccountsMaster", u"FatDates", u"MilkCollections", u"MilkSales",
+    u"MilkPayments", u"MilkPaymentsDetails", u"TransactionsMaster", u"TransactionsDetails", u"AdvanceReceipt",
+    u"YearSums", u"AccountYearSums"};
 
 // The parts of a run, in percent of it.
 constexpr int Copied = 50;

@@ -334,6 +334,28 @@ TEST_F(BooksCopiesTest, ABrokenOrForeignCopyIsToldAndTheBooksStay)
     expectRefused("या कार्यक्रमाच्या हिशेबाची नाही");
 }
 
+TEST_F(BooksCopiesTest, ACopyWithoutOneOfTheTablesThatTheProgramNeedsIsRefused)
+{
+    BooksCopies::BackUp(Books(), Copy(), Password);
+    const QByteArray good = Bytes(Copy());
+    DataSource::Register("TestLacking", Copy());
+    for (const char* table : {"CompanySelected", "AutoSettings", "MenuAccessTable", "MembersMaster",
+             "CustomersMaster", "AccountsMaster", "FatDates", "MilkCollections", "MilkSales", "MilkPayments",
+             "MilkPaymentsDetails", "TransactionsMaster", "TransactionsDetails", "AdvanceReceipt", "YearSums",
+             "AccountYearSums"}) {
+        Put(Copy(), good);
+        Connection copy;
+        copy.Open("dsn=TestLacking;pwd=" + Password);
+        copy.RunScript(QString("drop table ") + table);
+        copy.Close();
+        const QString told = RestoreFailure(Copy());
+        EXPECT_TRUE(told.contains("या कार्यक्रमाच्या हिशेबाची नाही")) << table;
+        EXPECT_TRUE(told.contains(QString("it has no table ") + table)) << told.toStdString();
+        EXPECT_EQ(FailureOf([&] { BooksCopies::Check(Copy(), Password); }), told) << table;
+    }
+    EXPECT_EQ(Members(), 2);
+}
+
 TEST_F(BooksCopiesTest, AMissingCopyOrTheBooksThemselvesAreNotRestored)
 {
     const QByteArray books = Bytes(Books());
