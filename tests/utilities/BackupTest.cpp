@@ -2,7 +2,6 @@
 
 #include "core/start/BooksKeeper.h"
 #include "core/start/BooksOpening.h"
-#include "platform/database/Disk.h"
 #include "platform/forms/FolderList.h"
 #include "platform/forms/ModalStack.h"
 #include "platform/report/ReportBooks.h"
@@ -226,6 +225,21 @@ TEST_F(BackupTest, AtADrivesRootAHistoryBackupGetsTheYearsName)
     EXPECT_EQ(FilesIn("D:\\"), QStringList("Y2026-2027C1.mdb"));
 }
 
+// The company is read before the name is made.
+TEST_F(BackupTest, TheYearsNameAtADrivesRootIsThatOfTheBooksNotThatOfTheScreen)
+{
+    MakeFolder("D:\\milk");
+    OnBackup([](Clerk& clerk) {
+        OpenDrive(clerk, "D:\\");
+        OpenFolder(clerk, "milk");
+        OpenFolder(clerk, "D:\\");
+        gAppState.gCompanyId = 5;
+        gAppState.gAccountingYear = "2031-2032";
+        BackUpAsHistory(clerk);
+    });
+    EXPECT_EQ(FilesIn("D:\\"), QStringList("Y2026-2027C1.mdb"));
+}
+
 TEST_F(BackupTest, AtADrivesRootARegularBackupHasThePlainName)
 {
     OnBackup([](Clerk& clerk) {
@@ -262,13 +276,24 @@ TEST_F(BackupTest, EveryWayOutOpensTheConnection)
     }
 }
 
+// A table that only the connection has which made it tells an old one from a new one.
 TEST_F(BackupTest, ANewConnectionIsOpenedOnLeavingWhetherOrNotOneWasOpen)
 {
-    const void* before = gCn.d();
+    const auto expectNew = [this](const char* when) {
+        EXPECT_TRUE(gCn.IsOpen()) << when;
+        EXPECT_EQ(One("select count(*) from sqlite_temp_master"), "0") << when;
+        EXPECT_EQ(One("select count(*) from MembersMaster"), "1") << when;
+    };
+    gCn.RunScript("create temp table OfThisConnection(A)");
+    ASSERT_EQ(One("select count(*) from sqlite_temp_master"), "1");
     OnBackup([](Clerk& clerk) { Type(clerk, "{ESC}"); });
-    EXPECT_TRUE(gCn.IsOpen());
-    EXPECT_EQ(One("select count(*) from MembersMaster"), "1");
-    EXPECT_NE(before, nullptr);
+    expectNew("while one was open");
+    OnBackup([](Clerk& clerk) {
+        BackUp(clerk);
+        EXPECT_FALSE(gCn.IsOpen());
+        Type(clerk, "{ESC}");
+    });
+    expectNew("after a copy that left none open");
 }
 
 // What is saved after a backup is folded as before it.
@@ -284,22 +309,6 @@ TEST_F(BackupTest, TheKeeperOfTheBooksGoesOnWithTheNewConnection)
     AddMember(2, "saIta");
     EXPECT_EQ(saves, 1);
 }
-
-// A disk that looks at the screen while it is written to.
-class LookingDisk final : public Disk {
-public:
-    explicit LookingDisk(std::function<void()> look) : m_look(std::move(look)) { Use(this); }
-    ~LookingDisk() override { Use(nullptr); }
-
-    std::error_code Sync(const QString& path) override
-    {
-        m_look();
-        return Disk::Sync(path);
-    }
-
-private:
-    std::function<void()> m_look;
-};
 
 TEST_F(BackupTest, TheAnimationAndTheBarAreSeenWhileItCopiesAndOnlyThen)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/database/Disk.h"
 #include "platform/shell/AppFolder.h"
 #include "tests/support/SocietyTest.h"
 #include "utilities/frmBackup.h"
@@ -7,6 +8,9 @@
 #include <QEvent>
 #include <QLabel>
 #include <QMap>
+
+#include <functional>
+#include <utility>
 
 // The drives of this machine, but of the kinds that a test says; any other is a fixed disk.
 class KnownDrives final : public FileSystem {
@@ -52,6 +56,22 @@ public:
 
 private:
     QLabel* m_line;
+};
+
+// A disk that looks at the screen while it is written to.
+class LookingDisk final : public Disk {
+public:
+    explicit LookingDisk(std::function<void()> look) : m_look(std::move(look)) { Use(this); }
+    ~LookingDisk() override { Use(nullptr); }
+
+    std::error_code Sync(const QString& path) override
+    {
+        m_look();
+        return Disk::Sync(path);
+    }
+
+private:
+    std::function<void()> m_look;
 };
 
 // A clerk at the backup screen of the delivered society, with one member, and drives C: and D:.

@@ -100,6 +100,42 @@ TEST_F(RestoreTest, AtADrivesRootTheYearsFileIsFoundThere)
     EXPECT_EQ(FilesIn(Folder), QStringList(Replaced)) << "what is replaced stays with the books";
 }
 
+// The company is read before the name is made.
+TEST_F(RestoreTest, TheFileOfTheBooksYearComesBackNotThatOfTheScreensYear)
+{
+    KeepYear();
+    OnBackup([](Clerk& clerk) {
+        gAppState.gCompanyId = 5;
+        gAppState.gAccountingYear = "2031-2032";
+        Restore(clerk);
+        EXPECT_EQ(gAppState.gCompanyId, 1);
+        EXPECT_EQ(gAppState.gAccountingYear, "2026-2027");
+    });
+    EXPECT_EQ(Members(), 1);
+}
+
+TEST_F(RestoreTest, TheAnimationAndTheBarAreSeenWhileItCopiesAndOnlyThen)
+{
+    KeepYear();
+    OnBackup([](Clerk& clerk) {
+        const auto* animation = clerk.Top().findChild<QWidget*>("Animation1");
+        const auto* bar = clerk.Top().findChild<QLabel*>("lblBack");
+        ASSERT_TRUE(animation && bar);
+        int looks = 0;
+        const LookingDisk disk([&] {
+            ++looks;
+            EXPECT_TRUE(animation->isVisible()) << looks;
+            EXPECT_TRUE(bar->isVisible()) << looks;
+            EXPECT_FALSE(gCn.IsOpen()) << looks;
+        });
+        EXPECT_FALSE(animation->isVisible());
+        Restore(clerk);
+        EXPECT_FALSE(animation->isVisible());
+        EXPECT_FALSE(bar->isVisible());
+        EXPECT_EQ(looks, 4) << "the copy, the books that are kept, and the folders of both";
+    });
+}
+
 TEST_F(RestoreTest, WithoutTheYearsFileItFailsWithTheConnectionClosed)
 {
     bool wasOpen = true;
