@@ -1,6 +1,5 @@
-#include "platform/database/Connection.h"
-#include "platform/database/DataSource.h"
 #include "platform/shell/SingleInstance.h"
+#include "platform/text/RunTimeError.h"
 #include "tests/tools/SetupRun.h"
 #include "tests/tools/SetupSupport.h"
 #include "tools/setup/Copies.h"
@@ -9,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 
 namespace {
 
@@ -149,23 +149,56 @@ TEST_F(CopiesProgramTest, BooksThatCanNotBeOpenedAreKeptWithTheirLog)
     }
 }
 
-// The reader keeps the log from being folded.
+// Another program that has books with the password "secret" open.
+class OtherReader {
+public:
+    explicit OtherReader(const QString& books)
+    {
+        m_shell.start("sqlcipher", {"-batch", books});
+        Ask("PRAGMA key='secret';");
+    }
+    ~OtherReader()
+    {
+        m_shell.closeWriteChannel();
+        m_shell.waitForFinished();
+    }
+
+    // Runs statements, the last of which answers with the number of members.
+    void Ask(const QByteArray& statements)
+    {
+        m_shell.write(statements + "select 'members '||count(*) from MembersMaster;\n");
+        QByteArray told;
+        while (!told.contains("members ") && m_shell.waitForReadyRead())
+            told += m_shell.readAllStandardOutput();
+        EXPECT_TRUE(told.contains("members ")) << m_shell.readAllStandardError().toStdString();
+    }
+
+private:
+    QProcess m_shell;
+};
+
+// What is read can't be folded, so the log stays. By the program and by what it calls.
 TEST_F(CopiesProgramTest, SoundBooksThatAnotherProgramReadsAreNotReplaced)
 {
     ASSERT_TRUE(QFile::copy(Books(), Copy()));
-    DataSource::Register("TestReader", Books());
-    Connection reader;
-    reader.Open("dsn=TestReader;pwd=secret");
-    AddMember();
-    reader.RunScript("begin; select count(*) from MembersMaster;");
-    const QByteArray log = FileContent(Books() + "-wal");
-    ASSERT_FALSE(log.isEmpty());
-    ExpectRefusal(Restore(Copy()), 1, u"another program has the books open");
-    EXPECT_TRUE(FileContent(Books() + "-wal").startsWith(log));
-    EXPECT_TRUE(QFile::exists(Books() + "-shm"));
-    EXPECT_EQ(Kept(), QStringList());
-    reader.RunScript("commit");
-    reader.Close();
+    {
+        OtherReader reader(Books());
+        AddMember();
+        reader.Ask("begin;");
+        const QByteArray log = FileContent(Books() + "-wal");
+        ASSERT_FALSE(log.isEmpty());
+        ExpectRefusal(Restore(Copy()), 1, u"another program has the books open");
+        try {
+            RestoreBooks(Folder(), Copy(), QDateTime(QDate(2026, 4, 15), QTime(18, 30)));
+            ADD_FAILURE() << "the books were replaced";
+        } catch (const RunTimeError& refused) {
+            EXPECT_TRUE(refused.Happened().contains("another program has the books open"));
+        }
+        EXPECT_TRUE(FileContent(Books() + "-wal").startsWith(log));
+        EXPECT_TRUE(QFile::exists(Books() + "-shm"));
+        EXPECT_EQ(Kept(), QStringList());
+        reader.Ask("commit;");
+    }
     EXPECT_EQ(Members(), "1");
     EXPECT_EQ(Restore(Copy()).exitCode, 0) << "when the reader has gone";
     EXPECT_EQ(Members(), "0");
