@@ -160,6 +160,7 @@ TEST_P(BackupPowerCutTest, KilledAtAnyWriteItIsDoneWholeOrNotAtAll)
 
 TEST_P(BackupPowerCutTest, OnADiskThatIsFullOrPulledOutTheProgramSaysSoAndNothingIsLost)
 {
+    const int noting = IsRestore() ? 0 : 3; // writes at the end of a backup, which note where it lies
     int done = 0;
     for (int n = 1; n <= m_writes && !HasFailure(); ++n)
         for (const auto fail : {FaultyDisk::FullFrom, FaultyDisk::BrokenFrom}) {
@@ -170,10 +171,12 @@ TEST_P(BackupPowerCutTest, OnADiskThatIsFullOrPulledOutTheProgramSaysSoAndNothin
             EXPECT_EQ(Boxes("Run-time error"), exitCode);
             const bool isDone = IsDone();
             EXPECT_TRUE(isDone || exitCode == 1) << "what failed is told";
-            done += isDone ? 1 : 0;
+            if (n > m_writes - noting)
+                EXPECT_TRUE(isDone) << "a note that fails takes no backup away";
+            else
+                done += isDone ? 1 : 0;
         }
-    const int behind = IsRestore() ? 1 : 4; // a backup's place is noted: written, synced and renamed
-    EXPECT_LE(done, 2 * behind) << "behind the renaming, where only the folder is synced and the note made";
+    EXPECT_LE(done, 2) << "behind the renaming, where only the folder is synced";
 }
 
 INSTANTIATE_TEST_SUITE_P(Copyings, BackupPowerCutTest, testing::ValuesIn(Copyings()),

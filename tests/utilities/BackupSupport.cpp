@@ -71,6 +71,24 @@ void BackupTest::SetName(Clerk& clerk, const QString& name)
     clerk.Do([&] { dynamic_cast<Field*>(clerk.Top().Find(u"Text1"))->SetText(name); });
 }
 
+int BackupTest::LooksAtTheCopying(Clerk& clerk, const char* button)
+{
+    const auto& animation = *clerk.Top().findChild<QWidget*>("Animation1");
+    const auto& bar = *clerk.Top().findChild<QLabel*>("lblBack");
+    int looks = 0;
+    const LookingDisk disk([&] {
+        ++looks;
+        EXPECT_TRUE(animation.isVisible()) << looks;
+        EXPECT_TRUE(bar.isVisible()) << looks;
+        EXPECT_FALSE(gCn.IsOpen()) << looks;
+    });
+    EXPECT_FALSE(animation.isVisible());
+    Press(clerk, button);
+    EXPECT_FALSE(animation.isVisible());
+    EXPECT_FALSE(bar.isVisible());
+    return looks;
+}
+
 QStringList BackupTest::Painted(Clerk& clerk, const char* button)
 {
     std::unique_ptr<PaintedSentences> painted;

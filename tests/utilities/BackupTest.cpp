@@ -313,21 +313,7 @@ TEST_F(BackupTest, TheKeeperOfTheBooksGoesOnWithTheNewConnection)
 TEST_F(BackupTest, TheAnimationAndTheBarAreSeenWhileItCopiesAndOnlyThen)
 {
     OnBackup([](Clerk& clerk) {
-        const auto* animation = clerk.Top().findChild<QWidget*>("Animation1");
-        const auto* bar = clerk.Top().findChild<QLabel*>("lblBack");
-        ASSERT_TRUE(animation && bar);
-        int looks = 0;
-        const LookingDisk disk([&] {
-            ++looks;
-            EXPECT_TRUE(animation->isVisible());
-            EXPECT_TRUE(bar->isVisible());
-            EXPECT_FALSE(gCn.IsOpen());
-        });
-        EXPECT_FALSE(animation->isVisible());
-        BackUp(clerk);
-        EXPECT_FALSE(animation->isVisible());
-        EXPECT_FALSE(bar->isVisible());
-        EXPECT_EQ(looks, 3) << "the copy, the folder and the note of it";
+        EXPECT_EQ(LooksAtTheCopying(clerk, "cmdBackup"), 3) << "the copy, the folder and the note of it";
     });
 }
 

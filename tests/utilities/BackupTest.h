@@ -97,6 +97,10 @@ protected:
     // What is painted in the line of the screen while a button is pressed.
     static QStringList Painted(Clerk& clerk, const char* button);
 
+    // Presses a button and looks at the screen whenever something is made durable meanwhile: the animation
+    // and the bar are there then, and neither before nor behind it. Returns how often it looked.
+    static int LooksAtTheCopying(Clerk& clerk, const char* button);
+
     // Files and folders by their paths on the society's machine.
     static bool IsThere(const char* path);
     static QByteArray Bytes(const char* path);

@@ -118,21 +118,8 @@ TEST_F(RestoreTest, TheAnimationAndTheBarAreSeenWhileItCopiesAndOnlyThen)
 {
     KeepYear();
     OnBackup([](Clerk& clerk) {
-        const auto* animation = clerk.Top().findChild<QWidget*>("Animation1");
-        const auto* bar = clerk.Top().findChild<QLabel*>("lblBack");
-        ASSERT_TRUE(animation && bar);
-        int looks = 0;
-        const LookingDisk disk([&] {
-            ++looks;
-            EXPECT_TRUE(animation->isVisible()) << looks;
-            EXPECT_TRUE(bar->isVisible()) << looks;
-            EXPECT_FALSE(gCn.IsOpen()) << looks;
-        });
-        EXPECT_FALSE(animation->isVisible());
-        Restore(clerk);
-        EXPECT_FALSE(animation->isVisible());
-        EXPECT_FALSE(bar->isVisible());
-        EXPECT_EQ(looks, 4) << "the copy, the books that are kept, and the folders of both";
+        EXPECT_EQ(LooksAtTheCopying(clerk, "cmdRestore"), 4)
+            << "the copy, the books that are kept, and the folders of both";
     });
 }
 
